@@ -1,0 +1,7 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+int main()
+{
+    return 0;
+}

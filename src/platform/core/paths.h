@@ -1,0 +1,53 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+// Where everything lies. File names are held with the system's own separator; names that come from
+// files and settings may use backslashes and any case.
+
+#include "platform/core/base.h"
+
+namespace zeph {
+
+/// The folders of a run. appFolder has no closing separator, all other folders have one.
+struct Paths {
+    QString appFolder;
+    QString hotasFolder;
+    /// The settings file of this instance.
+    QString iniPath;
+
+    QString rtfFolder() const;
+    QString filesFolder() const;
+    QString layoutsFolder() const;
+    QString tempFolder() const;
+    QString defaultBackupFolder() const;
+    QString infoFolder() const;
+    /// A file that lies directly in appFolder.
+    QString inApp(QStringView name) const;
+    QString compiler() const;
+    QString config() const;
+    QString hotasIni() const;
+};
+
+/// The name with the system's separators.
+QString nativeSeparators(QString path);
+/// A folder with exactly one closing separator; empty stays empty.
+QString withClosingSeparator(QString folder);
+/// What stands before and behind the last separator ("/" or "\"). The folder keeps its separator.
+QString folderOf(const QString &path);
+QString nameOf(const QString &path);
+
+/// The path under which a file or folder really exists: the path itself, or the first match without
+/// regard to case, component by component, on a file system that tells cases apart. Empty when
+/// there is none.
+QString existingPath(const QString &path);
+/// Whether a file (not a folder) exists there, by existingPath().
+bool fileExists(const QString &path);
+bool folderExists(const QString &path);
+
+/// The folder of the run: the executable's own, when it can be written; otherwise perUser, made and
+/// filled from the executable's folder at the first start (what is there already is left alone).
+QString chooseAppFolder(const QString &executableFolder, const QString &perUser);
+
+} // namespace zeph

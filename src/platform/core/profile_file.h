@@ -1,0 +1,66 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+// Private profile files: "[Section]" headers and "Key=Value" lines that other programs write too.
+// Everything that is not changed (comments, order, unknown keys, line ends) survives byte for byte.
+
+#include "platform/core/base.h"
+#include "platform/core/file_io.h"
+
+#include <QByteArray>
+#include <QList>
+
+namespace zeph {
+
+/// Buffer sizes of the reads, in characters with the closing NUL: a value is cut to one less.
+constexpr int profileTextBuffer = 500;
+constexpr int profileColourBuffer = 50;
+
+struct ProfileEntry {
+    QString section;
+    QString key;
+    QString value;
+};
+
+/// The pure half, over a file's bytes.
+namespace profile {
+
+/// The value of the first key of that name in the first section of that name, in any case, with the
+/// blanks around it and one pair of equal quotes dropped. No value when key or section is absent.
+std::optional<QString> value(const QByteArray &file, QStringView section, QStringView key);
+
+/// The file with that value set: the key's line replaced, or added at its section's end, or the
+/// section added at the file's end.
+QByteArray withValue(const QByteArray &file, const ProfileEntry &entry);
+
+/// A value as a number: sign and leading decimal digits; no digits give 0, an empty value gives
+/// the default; 32 bits, wrapped as the platform's call wraps.
+qint32 integerOf(const std::optional<QString> &value, qint32 fallback);
+
+} // namespace profile
+
+/// One profile file on disk. Holds no content: each call reads the disk, since other programs write
+/// the same files at any time.
+class ProfileFile
+{
+public:
+    explicit ProfileFile(QString path);
+
+    const QString &path() const { return m_path; }
+
+    /// The value, cut to buffer - 1 characters; the fallback when absent. A missing file is empty.
+    QString text(QStringView section, QStringView key, const QString &fallback = {},
+                 int buffer = profileTextBuffer) const;
+    qint32 integer(QStringView section, QStringView key, qint32 fallback) const;
+
+    /// Sets one value or many in one replacement of the file, which is made when missing.
+    Expected<void, FileError> write(const ProfileEntry &entry) const;
+    Expected<void, FileError> write(const QList<ProfileEntry> &entries) const;
+
+private:
+    QString m_path;
+};
+
+} // namespace zeph

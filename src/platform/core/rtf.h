@@ -1,0 +1,29 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+// Rich Text Format, after the published form 1.9: what Windows' rich text control, WordPad, Word
+// and LibreOffice write is read; what Zeph knows of a text is written.
+
+#include "platform/core/base.h"
+#include "platform/core/rich_text.h"
+
+#include <QByteArray>
+
+namespace zeph {
+
+struct RtfError {
+    QString reason;
+    qsizetype offset = 0; ///< 0-based byte at which reading gave up
+};
+
+/// Reads what it understands and skips the rest; unknown words and destinations are no error.
+/// An error is given for what is no RTF at all, for unbalanced groups and for nesting beyond a
+/// fixed depth. Memory stays proportional to the input.
+Expected<RichText, RtfError> readRtf(QByteArrayView bytes);
+
+/// The whole value as RTF 1 in 7-bit ASCII; characters beyond 1252 as \uN with "?" behind.
+QByteArray writeRtf(const RichText &text);
+
+} // namespace zeph

@@ -1,0 +1,60 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+// Everything that asks or tells in a box of its own goes through here, so that tests can answer.
+
+#include "platform/core/base.h"
+#include "platform/core/rich_text.h"
+
+#include <QList>
+#include <QStringList>
+
+namespace zeph {
+
+enum class BoxIcon { None, Information, Question, Exclamation, Stop };
+enum class BoxButton { Ok, Cancel, Yes, No };
+
+/// A message box. Escape and the close button answer Cancel, else No, else the only button.
+struct Box {
+    QString title;
+    QString text;
+    BoxIcon icon = BoxIcon::None;
+    QList<BoxButton> buttons = { BoxButton::Ok };
+    BoxButton defaultButton = BoxButton::Ok;
+};
+
+/// An open or save dialog. The filter has the form "Caption|*.a;*.b|Caption|*.c".
+struct FileRequest {
+    QString title;
+    QString filter;
+    QString defaultExtension; ///< without the dot; added to a name that has none
+    QString folder;
+    QString name;
+};
+
+class Dialogs
+{
+public:
+    virtual ~Dialogs() = default;
+
+    virtual BoxButton box(const Box &box) = 0;
+    /// The chosen path; no value on Cancel.
+    virtual std::optional<QString> openFile(const FileRequest &request) = 0;
+    /// As openFile; whether the file exists already is the caller's question to ask.
+    virtual std::optional<QString> saveFile(const FileRequest &request) = 0;
+    virtual std::optional<QString> chooseFolder(const QString &title, const QString &start) = 0;
+    virtual std::optional<ColorRef> chooseColour(ColorRef start) = 0;
+    virtual std::optional<CharFormat> chooseFont(const CharFormat &start) = 0;
+    /// Index (0-based) of the chosen line; no value on Cancel.
+    virtual std::optional<qsizetype> chooseFromList(const QString &title,
+                                                    const QStringList &lines) = 0;
+
+    /// Shorthands for the common boxes.
+    void tell(const QString &title, const QString &text, BoxIcon icon = BoxIcon::Information);
+    /// Yes or No, No the default.
+    bool ask(const QString &title, const QString &text, BoxIcon icon = BoxIcon::Exclamation);
+};
+
+} // namespace zeph

@@ -1,0 +1,51 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "platform/core/base.h"
+
+namespace zeph {
+
+/// How a started program's window comes up; the numbers stand in files.
+enum class WindowStyle {
+    Hidden = 0,
+    NormalFocus = 1,
+    MinimisedFocus = 2,
+    MaximisedFocus = 3,
+    NormalNoFocus = 4,
+    MinimisedNoFocus = 6
+};
+
+/// A program to start: its path, the rest of the command line as one string (with the quotes that
+/// the called program expects), and its working folder.
+struct Launch {
+    QString program;
+    QString arguments;
+    QString folder;
+    WindowStyle style = WindowStyle::NormalFocus;
+};
+
+/// Starts programs and never waits for them.
+class ProcessLauncher
+{
+public:
+    virtual ~ProcessLauncher() = default;
+    /// Starts it; the error is the system's reason, in words, with the program's path.
+    virtual Expected<void, QString> start(const Launch &launch) = 0;
+    /// Hands a file or an address to the desktop's own program for it.
+    virtual Expected<void, QString> openWithDesktop(const QString &pathOrUrl) = 0;
+};
+
+/// The real launcher. A Windows executable ("MZ") is started through wine on other systems.
+class SystemLauncher : public ProcessLauncher
+{
+public:
+    Expected<void, QString> start(const Launch &launch) override;
+    Expected<void, QString> openWithDesktop(const QString &pathOrUrl) override;
+};
+
+/// The words of a Windows command line: blanks part them, double quotes hold blanks together.
+QStringList splitCommandLine(QStringView arguments);
+
+} // namespace zeph

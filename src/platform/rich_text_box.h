@@ -1,0 +1,33 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "platform/core/rich_text.h"
+
+#include <QTextEdit>
+
+namespace zeph {
+
+/// A rich text control for windows that show or edit formatted text: the operations of
+/// rich_text_document.h on a widget. Positions are 0-based, in UTF-16 units.
+class RichTextBox : public QTextEdit
+{
+    Q_OBJECT
+public:
+    explicit RichTextBox(QWidget *parent = nullptr);
+
+    RichText richText() const;
+    void setRichText(const RichText &text);
+
+    int selStart() const;
+    int selLength() const;
+    QString selText() const;
+    void select(int start, int length);
+    /// Scrolls so that the stretch is seen, at the top of the view where possible.
+    void scrollTo(int position);
+    /// Searches as findText() does over the whole text; selects and scrolls to a hit.
+    int find(QStringView word, int from, int options);
+};
+
+} // namespace zeph

@@ -1,0 +1,40 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+// The operations of a rich text control, once, over the toolkit's document. Works with both kinds
+// of layout.
+
+#include "platform/core/rich_text.h"
+
+#include <QTextCursor>
+#include <QTextDocument>
+
+namespace zeph {
+
+/// The toolkit's format of a character and back.
+QTextCharFormat toTextFormat(const CharFormat &format);
+CharFormat fromTextFormat(const QTextCharFormat &format);
+
+/// The document's text and looks as a value, whole or a stretch of it.
+RichText richTextOf(const QTextDocument &document);
+RichText richTextOf(const QTextDocument &document, qsizetype from, qsizetype length);
+
+/// Replaces everything in one edit block, without an entry in the toolkit's own undo.
+void setRichText(QTextDocument &document, const RichText &text);
+/// Replaces the cursor's selection with rich text; the cursor stands behind it.
+void insertRichText(QTextCursor &cursor, const RichText &text);
+/// Lays character runs over the text as it stands, in one edit block; the text does not change.
+void applyCharacterRuns(QTextDocument &document, const std::vector<CharRun> &runs);
+
+/// 0-based line of a position; a line is a line of the file, since documents do not wrap.
+int lineOfCharacter(const QTextDocument &document, int position);
+/// Position of a 0-based line's first character, or -1 beyond the last line.
+int startOfLine(const QTextDocument &document, int line);
+int lineCount(const QTextDocument &document);
+
+/// Position behind the stretch that holds only (or, negated, none of) the characters of a set.
+int spanEnd(const QTextDocument &document, int from, QStringView set, bool forward, bool negate);
+
+} // namespace zeph

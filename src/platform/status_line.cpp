@@ -1,0 +1,51 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#include "platform/status_line.h"
+
+#include <QCoreApplication>
+
+namespace zeph {
+
+void StatusLine::setText(const QString &text)
+{
+    if (m_text != text) {
+        m_text = text;
+        Q_EMIT textChanged(text);
+    }
+}
+
+void StatusLine::setTextNow(const QString &text)
+{
+    setText(text);
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents
+                                    | QEventLoop::ExcludeSocketNotifiers);
+}
+
+void StatusLine::setLine(int line)
+{
+    const QString text = u"Line no: "_s + QString::number(line);
+    if (m_lineText != text) {
+        m_lineText = text;
+        Q_EMIT lineTextChanged(text);
+    }
+}
+
+void StatusLine::setSaved(int picture, const QString &tooltip)
+{
+    if (m_savedPicture != picture || m_savedTooltip != tooltip) {
+        m_savedPicture = picture;
+        m_savedTooltip = tooltip;
+        Q_EMIT savedChanged(picture, tooltip);
+    }
+}
+
+void StatusLine::setModePicture(int picture)
+{
+    if (m_modePicture != picture) {
+        m_modePicture = picture;
+        Q_EMIT modePictureChanged(picture);
+    }
+}
+
+} // namespace zeph

@@ -1,0 +1,39 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#include "tests/support/temp_folder.h"
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+namespace zeph::test {
+
+QString TempFolder::write(const QString &name, const QByteArray &bytes) const
+{
+    const QString path = file(name);
+    QDir().mkpath(QFileInfo(path).path());
+    QFile out(path);
+    if (!out.open(QIODevice::WriteOnly) || out.write(bytes) != bytes.size()) {
+        ADD_FAILURE() << "cannot write " << path.toStdString();
+    }
+    return path;
+}
+
+QByteArray TempFolder::read(const QString &name) const
+{
+    QFile in(file(name));
+    if (!in.open(QIODevice::ReadOnly)) {
+        ADD_FAILURE() << "cannot read " << in.fileName().toStdString();
+    }
+    return in.readAll();
+}
+
+bool TempFolder::exists(const QString &name) const
+{
+    return QFileInfo::exists(file(name));
+}
+
+} // namespace zeph::test

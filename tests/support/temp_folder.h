@@ -1,0 +1,27 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QString>
+#include <QTemporaryDir>
+
+namespace zeph::test {
+
+/// A folder of a test's own, gone with it. Paths in it end without a separator.
+class TempFolder
+{
+public:
+    QString path() const { return m_folder.path(); }
+    QString file(const QString &name) const { return m_folder.filePath(name); }
+    /// Writes a file (folders on its way are made) and gives its path.
+    QString write(const QString &name, const QByteArray &bytes) const;
+    /// The file's bytes; fails the test when it cannot be read.
+    QByteArray read(const QString &name) const;
+    bool exists(const QString &name) const;
+
+private:
+    QTemporaryDir m_folder;
+};
+
+} // namespace zeph::test
