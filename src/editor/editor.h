@@ -1,0 +1,82 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "editor/context.h"
+#include "editor/editor_document.h"
+
+#include <QWidget>
+
+#include <functional>
+#include <memory>
+
+class QAction;
+class QMenu;
+class QTabBar;
+
+namespace zeph {
+
+class EditorActions;
+class EditorView;
+class FileNew;
+class FileOpening;
+class FileSaving;
+class Highlighting;
+class MacroList;
+class UseDirectives;
+
+/// The permanent child of the main window: the two documents, the macro list and all working menus.
+/// Only a frame: each feature is an object of its own, which this class makes and hands out.
+class Editor : public QWidget
+{
+    Q_OBJECT
+public:
+    explicit Editor(const Context &context, QWidget *parent = nullptr);
+    ~Editor() override;
+
+    /// The menu entries by object name; the higher rooms connect what they build.
+    EditorActions &actions() { return *m_actions; }
+    QAction *action(QStringView name) const;
+
+    /// The two documents, which every tool may read.
+    EditorDocument &joystick();
+    EditorDocument &macro();
+    EditorDocument &selected();
+    QString joystickText() const;
+    QString macroText() const;
+
+    EditorView &view() { return *m_view; }
+    FileOpening &opening() { return *m_opening; }
+    FileSaving &saving() { return *m_saving; }
+    FileNew &fresh() { return *m_fresh; }
+    UseDirectives &useDirectives() { return *m_useDirectives; }
+    MacroList &macroList() { return *m_macroList; }
+
+    /// Gives the focus back to the selected document.
+    void ResetFocusToEditor();
+    /// Shows a line that the compiler complained of; the error text's code decides the document.
+    /// The line is 1-based; a missing one is told.
+    void HighlightErrorLine(int line, const QString &compileErrorText);
+
+    /// The questions about unsaved files, macro file first. False stops the exit.
+    bool queryUnload();
+    /// Writes the options that are kept at exit.
+    void saveAtExit();
+
+    /// Applies the settings that show: colours, fonts, ticks, tooltips, layout.
+    void applySettings();
+
+private:
+    Context m_context;
+    std::unique_ptr<EditorActions> m_actions;
+    EditorView *m_view = nullptr;
+    MacroList *m_macroList = nullptr;
+    std::unique_ptr<Highlighting> m_highlighting;
+    std::unique_ptr<UseDirectives> m_useDirectives;
+    std::unique_ptr<FileSaving> m_saving;
+    std::unique_ptr<FileOpening> m_opening;
+    std::unique_ptr<FileNew> m_fresh;
+};
+
+} // namespace zeph

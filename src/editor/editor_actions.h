@@ -1,0 +1,56 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "editor/actions.h"
+
+#include <QHash>
+#include <QObject>
+
+#include <functional>
+
+class QAction;
+class QMenu;
+
+namespace zeph {
+
+class Dialogs;
+
+/// The menu entries as live actions, made from the table. Owns the menus.
+class EditorActions : public QObject
+{
+    Q_OBJECT
+public:
+    EditorActions(Dialogs &dialogs, const QString &iconFolder, QObject *parent = nullptr);
+    ~EditorActions() override;
+
+    /// The entry of that object name. Every name of the table has one; another is a programming
+    /// error.
+    QAction *action(QStringView name) const;
+    bool has(QStringView name) const;
+    QMenu *menu(QStringView name) const;
+    /// The menus of the menu bar in order, for whoever owns the bar.
+    QList<QMenu *> menuBar() const;
+
+    /// Connects an entry with what it does, through the guard that every handler has. An entry that
+    /// waited for its tool becomes usable.
+    void connectTo(QStringView name, std::function<void()> operation);
+    /// Does what the entry does, if it is enabled. False when it is not.
+    bool trigger(QStringView name);
+
+    /// The conditions in force; entries follow them.
+    void setCondition(When when, bool holds);
+
+private:
+    void makeMenus();
+    void refresh(const ActionRow &row);
+
+    Dialogs &m_dialogs;
+    QString m_iconFolder;
+    QHash<QString, QAction *> m_actions;
+    QHash<QString, QMenu *> m_menus;
+    QHash<int, bool> m_conditions;
+};
+
+} // namespace zeph

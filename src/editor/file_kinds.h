@@ -1,0 +1,34 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+// Which extension means what. An extension is a name's last three characters, with or without a
+// dot.
+
+#include "platform/core/base.h"
+
+namespace zeph {
+
+enum class DocumentKind { Joystick = 0, Macro = 1 };
+
+/// The last three characters, lower-cased.
+QString lastThree(QStringView name);
+bool isMacroExtension(QStringView extension);
+bool isJoystickExtension(QStringView extension);
+/// Macro for any of the macro extensions, Joystick for everything else.
+DocumentKind kindOfName(QStringView name);
+/// The macro extension that goes with a joystick file's name; "tmm" for an unknown one.
+QString macroExtensionFor(QStringView joystickName);
+/// The joystick extension that goes with a macro file's name; "tmj" for an unknown one.
+QString joystickExtensionFor(QStringView macroName);
+/// The name without its last three characters (the dot stays).
+QString baseWithDot(QStringView name);
+/// What a tab shows: the name with its last three characters lower-cased.
+QString tabCaption(const QString &name);
+/// Names that count as never saved: the first eight characters are "Untitled".
+bool isUntitled(QStringView name);
+/// "Untitled.tmj" or "Untitled.tmm".
+QString freshName(DocumentKind kind);
+
+} // namespace zeph
