@@ -124,8 +124,8 @@ QString errorCodesText()
 {
     QString text;
     for (const ErrorEntry &entry : table) {
-        text += errorHeading(entry.code) + u": "_s + entry.title + u'\n' + entry.cause + u'\n'
-            + entry.cure + u"\n\n"_s;
+        text += u"%1: %2\n%3\n%4\n\n"_s.arg(errorHeading(entry.code), entry.title, entry.cause,
+                                            entry.cure);
     }
     return text;
 }
