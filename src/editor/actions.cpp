@@ -229,21 +229,21 @@ constexpr std::array actions = {
 };
 
 constexpr std::array rightMenu = {
-    ActionRow{u"mnuRHMouse", u"mnuRHMUndo", u"&Undo", u"", u"mnuEditUndo", u"undo", Custom, Entry},
-    ActionRow{u"mnuRHMouse", u"mnuRHMRedo", u"&Redo", u"", u"mnuEditRedo", u"redo", Custom, Entry},
-    line(u"mnuRHMouse"),
-    ActionRow{u"mnuRHMouse", u"mnuRHMCut", u"Cu&t", u"", u"mnuEditCut", u"cut", Selection, Entry},
-    ActionRow{u"mnuRHMouse", u"mnuRHMCopy", u"&Copy", u"", u"mnuEditCopy", u"copy", Selection, Entry},
-    ActionRow{u"mnuRHMouse", u"mnuRHMPaste", u"&Paste", u"", u"mnuEditPaste", u"paste", PasteReady, Entry},
-    ActionRow{u"mnuRHMouse", u"mnuRHMDelete", u"&Delete", u"", u"mnuEditDelete", u"delete", Selection, Entry},
-    ActionRow{u"mnuRHMouse", u"mnuRHMSelectAll", u"Select &all", u"", u"mnuEditSelectAll", u"", Always, Entry},
-    line(u"mnuRHMouse"),
-    ActionRow{u"mnuRHMouse", u"mnuRHMColoursSelection", u"Remove colour from &selection", u"", u"mnuRemoveColourSelectedText", u"", Selection, Entry},
-    ActionRow{u"mnuRHMouse", u"mnuRHMGoto", u"&Go to line ...", u"", u"mnuEditGoto", u"goto", Always, Entry},
-    ActionRow{u"mnuRHMouse", u"mnuRHMIdentify", u"&Identify macros used", u"", u"mnuMacrosIdentify", u"macros-identify", Always, Entry},
-    ActionRow{u"mnuRHMouse", u"mnuRHMDownload", u"Do&wnload joystick file", u"", u"DownloadArray1_0", u"download", Always, Entry},
-    ActionRow{u"mnuRHMouse", u"mnuRHMUpdateMacros", u"Update &macros", u"", u"mnuEditUpdateMacros", u"macros-update", Always, Entry},
-    ActionRow{u"mnuRHMouse", u"mnuRHMProtect", u"Pr&otect macro file", u"", u"mnuPreferencesProtectMacroFile", u"tab-protected", Always, Tick},
+    RightMenuRow{u"mnuRHMUndo", u"", u"mnuEditUndo", RightMenuRow::Both},
+    RightMenuRow{u"mnuRHMRedo", u"", u"mnuEditRedo", RightMenuRow::Both},
+    RightMenuRow{u"", u"", u"", RightMenuRow::Divider},
+    RightMenuRow{u"mnuRHMCut", u"", u"mnuEditCut", RightMenuRow::Both},
+    RightMenuRow{u"mnuRHMCopy", u"", u"mnuEditCopy", RightMenuRow::Both},
+    RightMenuRow{u"mnuRHMPaste", u"", u"mnuEditPaste", RightMenuRow::Both},
+    RightMenuRow{u"mnuRHMDelete", u"", u"mnuEditDelete", RightMenuRow::Both},
+    RightMenuRow{u"mnuRHMSelectAll", u"", u"mnuEditSelectAll", RightMenuRow::Both},
+    RightMenuRow{u"", u"", u"", RightMenuRow::Divider},
+    RightMenuRow{u"mnuRHMColoursSelection", u"", u"mnuRemoveColourSelectedText", RightMenuRow::Both},
+    RightMenuRow{u"mnuRHMGoto", u"", u"mnuEditGoto", RightMenuRow::JoystickOnly},
+    RightMenuRow{u"mnuRHMIdentify", u"", u"mnuMacrosIdentify", RightMenuRow::JoystickOnly},
+    RightMenuRow{u"mnuRHMDownload", u"Do&wnload joystick file", u"DownloadArray1_0", RightMenuRow::JoystickOnly},
+    RightMenuRow{u"mnuRHMUpdateMacros", u"Update &macros", u"mnuEditUpdateMacros", RightMenuRow::MacroOnly},
+    RightMenuRow{u"mnuRHMProtect", u"Pr&otect macro file", u"mnuPreferencesProtectMacroFile", RightMenuRow::MacroOnly},
 };
 // clang-format on
 
@@ -259,7 +259,7 @@ std::span<const ActionRow> actionTable()
     return actions;
 }
 
-std::span<const ActionRow> rightMenuTable()
+std::span<const RightMenuRow> rightMenuTable()
 {
     return rightMenu;
 }
