@@ -5,10 +5,9 @@
 
 #include "platform/core/file_io.h"
 #include "platform/core/paths.h"
-#include "platform/core/profile_file.h"
 #include "platform/core/text1252.h"
 #include "shell/icons.h"
-#include "shell/settings/global_settings.h"
+#include "shell/settings_files.h"
 #include "ui_frmtip.h"
 
 #include <QRandomGenerator>
@@ -71,8 +70,7 @@ void frmTip::accept()
 {
     m_settings.ShowTips = m_ui->chkLoadTipsAtStartup->isChecked() ? 1 : 0;
     // A store that cannot be written is nobody's failure: the setting then holds for this run.
-    (void)ProfileFile(m_paths.iniPath)
-        .write({ u"FileLocations"_s, u"ShowTips"_s, QString::number(m_settings.ShowTips) });
+    (void)saveSettings(m_settings, settingsFilesOf(m_paths), { &GlobalSettings::ShowTips });
     QDialog::accept();
 }
 

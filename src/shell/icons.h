@@ -12,7 +12,7 @@ namespace zeph {
 /// A picture of the icons folder by its name without extension; an empty icon when it is missing.
 inline QIcon iconNamed(const Paths &paths, QStringView name)
 {
-    return QIcon(paths.inApp(u"icons") + u'/' + name + u".svg"_s);
+    return QIcon(paths.inApp(u"icons/") + name.toString() + u".svg"_s);
 }
 
 } // namespace zeph
