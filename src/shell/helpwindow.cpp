@@ -84,6 +84,11 @@ bool HelpWindow::showKeyword(const QString &word)
     return showTarget(*target);
 }
 
+bool HelpWindow::showPage(const QString &path)
+{
+    return path == existingPath(folder() + nameOf(path)) && showTarget(nameOf(path));
+}
+
 bool HelpWindow::showTarget(const QString &target)
 {
     const QString file = target.section(u'#', 0, 0);

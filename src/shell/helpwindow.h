@@ -34,6 +34,8 @@ public:
     bool showContents();
     bool showTopic(int number);
     bool showKeyword(const QString &word);
+    /// A page by its full path; false, and nothing shown, when it is none of the help's.
+    bool showPage(const QString &path);
 
 private:
     /// A place in the help folder, "file" or "file#anchor".
