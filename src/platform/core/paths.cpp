@@ -1,0 +1,228 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#include "platform/core/paths.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QDirIterator>
+#include <QFileInfo>
+#include <QTemporaryFile>
+
+namespace zeph {
+
+namespace {
+
+constexpr QStringView separators = u"/\\";
+
+bool isSeparator(QChar character)
+{
+    return separators.contains(character);
+}
+
+qsizetype lastSeparator(const QString &path)
+{
+    return std::max(path.lastIndexOf(u'/'), path.lastIndexOf(u'\\'));
+}
+
+QString folderIn(const QString &appFolder, QStringView name)
+{
+    return appFolder + QDir::separator() + name.toString() + QDir::separator();
+}
+
+#ifndef Q_OS_WIN
+/// The entry of a folder with that name, in the name's own case if there is one.
+QString entryOf(const QString &folder, const QString &name)
+{
+    if (name == u"." || name == u".." || QFileInfo::exists(folder + name)) {
+        return name;
+    }
+    constexpr QDir::Filters all = QDir::AllEntries | QDir::Hidden | QDir::System;
+    const QStringList entries = QDir(folder.isEmpty() ? u"."_s : folder).entryList(all, QDir::Name);
+    for (const QString &entry : entries) {
+        if (entry.compare(name, Qt::CaseInsensitive) == 0) {
+            return entry;
+        }
+    }
+    return {};
+}
+#endif
+
+bool canMakeFilesIn(const QString &folder)
+{
+    QTemporaryFile probe(folder + u"/Zeph.XXXXXX"_s);
+    return probe.open();
+}
+
+/// Copies what is not there yet. The copy can be written, whatever the original allows.
+void copyInto(const QString &from, const QString &to)
+{
+    if (QFileInfo::exists(to)) {
+        return;
+    }
+    QDir().mkpath(QFileInfo(to).path());
+    // Under its own name only once it is whole: a start that is cut short is made good by the next.
+    const QString part = to + u".part"_s;
+    QFile::remove(part);
+    if (QFile::copy(from, part)) {
+        QFile::setPermissions(part, QFile::permissions(part) | QFile::WriteOwner);
+        QFile::rename(part, to);
+    }
+}
+
+void fillFolder(const QString &from, const QString &to)
+{
+    const QString filled = to + u"/.filled"_s;
+    if (QFileInfo::exists(filled)) {
+        return;
+    }
+    const QDir source(from);
+    // The program itself is started from where it is installed.
+    const QString program = QFileInfo(QCoreApplication::applicationFilePath()).canonicalFilePath();
+    QDirIterator files(from, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
+    while (files.hasNext()) {
+        const QString file = files.next();
+        if (QFileInfo(file).canonicalFilePath() != program) {
+            copyInto(file, to + u'/' + source.relativeFilePath(file));
+        }
+    }
+    QFile mark(filled);
+    if (mark.open(QIODevice::WriteOnly)) {
+        mark.close();
+    }
+}
+
+} // namespace
+
+QString Paths::rtfFolder() const
+{
+    return folderIn(appFolder, u"Rtf");
+}
+
+QString Paths::filesFolder() const
+{
+    return folderIn(appFolder, u"Files");
+}
+
+QString Paths::layoutsFolder() const
+{
+    return folderIn(appFolder, u"Layouts");
+}
+
+QString Paths::tempFolder() const
+{
+    return folderIn(appFolder, u"Temp");
+}
+
+QString Paths::defaultBackupFolder() const
+{
+    return folderIn(appFolder, u"Backup");
+}
+
+QString Paths::infoFolder() const
+{
+    return folderIn(appFolder, u"Info");
+}
+
+QString Paths::inApp(QStringView name) const
+{
+    return appFolder + QDir::separator() + name.toString();
+}
+
+QString Paths::compiler() const
+{
+    return hotasFolder + u"HOTASCompiler.exe"_s;
+}
+
+QString Paths::config() const
+{
+    return hotasFolder + u"HOTASConfig.exe"_s;
+}
+
+QString Paths::hotasIni() const
+{
+    return hotasFolder + u"HOTAS.ini"_s;
+}
+
+QString nativeSeparators(QString path)
+{
+    for (QChar &character : path) {
+        if (isSeparator(character)) {
+            character = QDir::separator();
+        }
+    }
+    return path;
+}
+
+QString withClosingSeparator(QString folder)
+{
+    if (folder.isEmpty()) {
+        return folder;
+    }
+    while (!folder.isEmpty() && isSeparator(folder.back())) {
+        folder.chop(1);
+    }
+    return folder + QDir::separator();
+}
+
+QString folderOf(const QString &path)
+{
+    return path.left(lastSeparator(path) + 1);
+}
+
+QString nameOf(const QString &path)
+{
+    return path.mid(lastSeparator(path) + 1);
+}
+
+QString existingPath(const QString &path)
+{
+    const QString native = nativeSeparators(path);
+    if (native.isEmpty() || QFileInfo::exists(native)) {
+        return native;
+    }
+#ifdef Q_OS_WIN
+    return {};
+#else
+    QString found = native.startsWith(u'/') ? u"/"_s : QString();
+    const QStringList components = native.split(u'/', Qt::SkipEmptyParts);
+    for (const QString &component : components) {
+        if (!found.isEmpty() && !found.endsWith(u'/')) {
+            found += u'/';
+        }
+        const QString entry = entryOf(found, component);
+        if (entry.isEmpty()) {
+            return {};
+        }
+        found += entry;
+    }
+    if (native.endsWith(u'/')) {
+        found += u'/';
+    }
+    return QFileInfo::exists(found) ? found : QString();
+#endif
+}
+
+bool fileExists(const QString &path)
+{
+    const QString found = existingPath(path);
+    return !found.isEmpty() && QFileInfo(found).isFile();
+}
+
+bool folderExists(const QString &path)
+{
+    const QString found = existingPath(path);
+    return !found.isEmpty() && QFileInfo(found).isDir();
+}
+
+QString chooseAppFolder(const QString &executableFolder, const QString &perUser)
+{
+    if (canMakeFilesIn(executableFolder)) {
+        return nativeSeparators(executableFolder);
+    }
+    QDir().mkpath(perUser);
+    fillFolder(executableFolder, perUser);
+    return nativeSeparators(perUser);
+}
+
+} // namespace zeph

@@ -1,0 +1,343 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#include "platform/core/profile_file.h"
+
+#include "platform/core/paths.h"
+#include "platform/core/text1252.h"
+
+#include <QFileInfo>
+
+#include <algorithm>
+
+namespace zeph {
+
+namespace profile {
+
+namespace {
+
+constexpr QByteArrayView byteOrderMark = "\xEF\xBB\xBF";
+
+/// Offsets into the file: [start, end) is the line, next the start of the line behind it.
+struct Line {
+    qsizetype start = 0;
+    qsizetype end = 0;
+    qsizetype next = 0;
+};
+
+/// Walks the lines of a file. Ends of all three kinds part them, mixed in one file too.
+class Lines
+{
+public:
+    explicit Lines(const QByteArray &file)
+        : m_file(file), m_next(file.startsWith(byteOrderMark) ? byteOrderMark.size() : 0)
+    {
+    }
+
+    bool next(Line &line)
+    {
+        if (m_next >= m_file.size()) {
+            return false;
+        }
+        line.start = m_next;
+        const char *data = m_file.constData();
+        const char *stop = data + m_file.size();
+        const char *end =
+            std::find_if(data + m_next, stop, [](char c) { return c == '\n' || c == '\r'; });
+        line.end = end - data;
+        line.next = std::min(line.end + 1, m_file.size());
+        if (line.next < m_file.size() && data[line.end] == '\r' && data[line.next] == '\n') {
+            ++line.next;
+        }
+        m_next = line.next;
+        return true;
+    }
+
+private:
+    const QByteArray &m_file;
+    qsizetype m_next;
+};
+
+bool isBlank(char c)
+{
+    return c == ' ' || c == '\t';
+}
+
+QByteArrayView withoutBlanks(QByteArrayView bytes)
+{
+    while (!bytes.isEmpty() && isBlank(bytes.front())) {
+        bytes = bytes.sliced(1);
+    }
+    while (!bytes.isEmpty() && isBlank(bytes.back())) {
+        bytes = bytes.chopped(1);
+    }
+    return bytes;
+}
+
+QStringView withoutBlanks(QStringView text)
+{
+    const auto blank = [](QChar c) {
+        return c == u' ' || c == u'\t';
+    };
+    while (!text.isEmpty() && blank(text.front())) {
+        text = text.sliced(1);
+    }
+    while (!text.isEmpty() && blank(text.back())) {
+        text = text.chopped(1);
+    }
+    return text;
+}
+
+bool isSameName(QByteArrayView bytes, QStringView name)
+{
+    return bytes.size() == name.size()
+        && fromText1252(bytes).compare(name, Qt::CaseInsensitive) == 0;
+}
+
+/// The name of a section header; no value for another line. The closing bracket may be missing.
+std::optional<QByteArrayView> sectionOf(QByteArrayView line)
+{
+    line = withoutBlanks(line);
+    if (line.isEmpty() || line.front() != '[') {
+        return std::nullopt;
+    }
+    line = line.sliced(1);
+    const qsizetype close = line.indexOf(']');
+    return withoutBlanks(close < 0 ? line : line.first(close));
+}
+
+bool isComment(QByteArrayView line)
+{
+    line = withoutBlanks(line);
+    return !line.isEmpty() && line.front() == ';';
+}
+
+bool isQuoted(QStringView value)
+{
+    return value.size() >= 2 && value.front() == value.back()
+        && (value.front() == u'"' || value.front() == u'\'');
+}
+
+/// Where a key stands, or where it would go.
+struct Place {
+    bool hasSection = false;
+    qsizetype sectionEnd = 0; ///< behind the section's last line that is not empty
+    bool hasKey = false;
+    qsizetype valueStart = 0; ///< behind the "=" and its blanks
+    qsizetype valueEnd = 0; ///< the line's end, blanks included
+};
+
+Place placeOf(const QByteArray &file, QStringView section, QStringView key)
+{
+    Place place;
+    Lines lines(file);
+    Line line;
+    while (lines.next(line)) {
+        const QByteArrayView bytes = QByteArrayView(file).sliced(line.start, line.end - line.start);
+        if (const auto name = sectionOf(bytes)) {
+            if (place.hasSection) {
+                break;
+            }
+            if (isSameName(*name, section)) {
+                place.hasSection = true;
+                place.sectionEnd = line.next;
+            }
+            continue;
+        }
+        if (!place.hasSection || withoutBlanks(bytes).isEmpty()) {
+            continue;
+        }
+        place.sectionEnd = line.next;
+        const qsizetype equals = bytes.indexOf('=');
+        if (equals >= 0 && !isComment(bytes)
+            && isSameName(withoutBlanks(bytes.first(equals)), key)) {
+            place.hasKey = true;
+            place.valueStart = line.start + equals + 1;
+            place.valueEnd = line.end;
+            while (place.valueStart < place.valueEnd && isBlank(file[place.valueStart])) {
+                ++place.valueStart;
+            }
+            break;
+        }
+    }
+    return place;
+}
+
+QString valueAt(const QByteArray &file, const Place &place)
+{
+    QByteArrayView bytes =
+        QByteArrayView(file).sliced(place.valueStart, place.valueEnd - place.valueStart);
+    // To the platform's calls a text ends at its first NUL.
+    const qsizetype nul = bytes.indexOf('\0');
+    if (nul >= 0) {
+        bytes = bytes.first(nul);
+    }
+    const QString text = fromText1252(withoutBlanks(bytes));
+    return isQuoted(text) ? text.sliced(1, text.size() - 2) : text;
+}
+
+QByteArray lineEndOf(const QByteArray &file)
+{
+    Lines lines(file);
+    Line line;
+    if (!lines.next(line) || line.next == line.end) {
+        return "\r\n";
+    }
+    return file.sliced(line.end, line.next - line.end);
+}
+
+/// What can stand in one line: nothing from the first NUL or line end on.
+QStringView oneLine(QStringView text)
+{
+    const auto end = std::find_if(text.begin(), text.end(),
+                                  [](QChar c) { return c == u'\0' || c == u'\n' || c == u'\r'; });
+    return text.first(end - text.begin());
+}
+
+/// The value as it has to be written so that a read gives it back.
+QByteArray written(QStringView value)
+{
+    const bool needsQuotes = isQuoted(value) || withoutBlanks(value).size() != value.size();
+    const QByteArray bytes = toText1252(value);
+    return needsQuotes ? '"' + bytes + '"' : bytes;
+}
+
+bool isKeyName(QStringView key)
+{
+    return !key.isEmpty() && key.front() != u'[' && key.front() != u';' && !key.contains(u'=')
+        && oneLine(key).size() == key.size() && firstNot1252(key) < 0;
+}
+
+bool isSectionName(QStringView section)
+{
+    return !section.contains(u']') && oneLine(section).size() == section.size()
+        && firstNot1252(section) < 0;
+}
+
+} // namespace
+
+std::optional<QString> value(const QByteArray &file, QStringView section, QStringView key)
+{
+    const Place place = placeOf(file, withoutBlanks(section), withoutBlanks(key));
+    return place.hasKey ? std::optional(valueAt(file, place)) : std::nullopt;
+}
+
+QByteArray withValue(const QByteArray &file, const ProfileEntry &entry)
+{
+    const QStringView section = withoutBlanks(entry.section);
+    const QStringView key = withoutBlanks(entry.key);
+    if (!isSectionName(section) || !isKeyName(key)) {
+        return file;
+    }
+    const QStringView text = oneLine(entry.value);
+    const Place place = placeOf(file, section, key);
+    QByteArray result = file;
+    if (place.hasKey) {
+        if (valueAt(file, place) != text) {
+            result.replace(place.valueStart, place.valueEnd - place.valueStart, written(text));
+        }
+        return result;
+    }
+    const QByteArray lineEnd = lineEndOf(file);
+    QByteArray added = toText1252(key) + '=' + written(text) + lineEnd;
+    if (!place.hasSection) {
+        added.prepend('[' + toText1252(section) + ']' + lineEnd);
+    }
+    const qsizetype at = place.hasSection ? place.sectionEnd : file.size();
+    const bool onNewLine = at == 0 || file[at - 1] == '\n' || file[at - 1] == '\r'
+        || (at == byteOrderMark.size() && file.startsWith(byteOrderMark));
+    return result.insert(at, onNewLine ? added : lineEnd + added);
+}
+
+qint32 integerOf(const std::optional<QString> &value, qint32 fallback)
+{
+    if (!value || value->isEmpty()) {
+        return fallback;
+    }
+    const QString &text = *value;
+    const bool negative = text.front() == u'-';
+    quint32 number = 0;
+    for (qsizetype i = negative || text.front() == u'+' ? 1 : 0; i < text.size(); ++i) {
+        const char16_t c = text[i].unicode();
+        if (c < u'0' || c > u'9') {
+            break;
+        }
+        number = number * 10 + (c - u'0');
+    }
+    return qint32(negative ? 0 - number : number);
+}
+
+} // namespace profile
+
+namespace {
+
+/// The file of that name as it stands on the disk, or the name itself for one that is to be made.
+QString diskPath(const QString &path)
+{
+    const QString found = existingPath(path);
+    return found.isEmpty() ? nativeSeparators(path) : found;
+}
+
+/// The value of an entry that cannot be put down in the file, or no value.
+const ProfileEntry *firstUnwritable(const QList<ProfileEntry> &entries)
+{
+    const auto found = std::ranges::find_if(
+        entries, [](const ProfileEntry &entry) { return firstNot1252(entry.value) >= 0; });
+    return found == entries.end() ? nullptr : &*found;
+}
+
+} // namespace
+
+ProfileFile::ProfileFile(QString path) : m_path(std::move(path)) { }
+
+QString ProfileFile::text(QStringView section, QStringView key, const QString &fallback,
+                          int buffer) const
+{
+    const auto file = readWholeFile(diskPath(m_path));
+    const auto found = file ? profile::value(*file, section, key) : std::nullopt;
+    return found.value_or(fallback).left(buffer - 1);
+}
+
+qint32 ProfileFile::integer(QStringView section, QStringView key, qint32 fallback) const
+{
+    const auto file = readWholeFile(diskPath(m_path));
+    return profile::integerOf(file ? profile::value(*file, section, key) : std::nullopt, fallback);
+}
+
+Expected<void, FileError> ProfileFile::write(const ProfileEntry &entry) const
+{
+    return write(QList<ProfileEntry>{ entry });
+}
+
+Expected<void, FileError> ProfileFile::write(const QList<ProfileEntry> &entries) const
+{
+    if (entries.isEmpty()) {
+        return {};
+    }
+    const QString path = diskPath(m_path);
+    const bool exists = QFileInfo::exists(path);
+    const auto read = exists ? readWholeFile(path) : Expected<QByteArray, FileError>(QByteArray());
+    if (!read) {
+        // Replacing what cannot be read would lose all other keys.
+        return Unexpected<FileError>(read.error());
+    }
+    QByteArray file = *read;
+    for (const ProfileEntry &entry : entries) {
+        if (firstNot1252(entry.value) < 0) {
+            file = profile::withValue(file, entry);
+        }
+    }
+    if (!exists || file != *read) {
+        if (auto done = writeFileAtomically(path, file); !done) {
+            return done;
+        }
+    }
+    if (const ProfileEntry *lost = firstUnwritable(entries)) {
+        return Unexpected<FileError>(FileError{
+            path,
+            u"The value of %1 holds a character that the file cannot take."_s.arg(lost->key) });
+    }
+    return {};
+}
+
+} // namespace zeph
