@@ -46,7 +46,18 @@ struct MenuRow {
 
 std::span<const MenuRow> menuBarTable();
 std::span<const ActionRow> actionTable();
-/// The rows of the pop-up menu of the right mouse button.
-std::span<const ActionRow> rightMenuTable();
+
+/// One row of the pop-up menu of the right mouse button, which is built afresh at each press.
+struct RightMenuRow {
+    enum Shown { Both, JoystickOnly, MacroOnly, Divider };
+
+    const char16_t *name; ///< object name
+    const char16_t *caption; ///< empty: the caption of the entry behind it
+    const char16_t
+        *target; ///< the entry of the menus that does the work and lends picture, tick and state
+    Shown shown;
+};
+
+std::span<const RightMenuRow> rightMenuTable();
 
 } // namespace zeph

@@ -8,26 +8,25 @@
 
 #include <QWidget>
 
-#include <functional>
 #include <memory>
 
 class QAction;
-class QMenu;
-class QTabBar;
 
 namespace zeph {
 
+class ColouredCopies;
 class EditorActions;
+class EditorKeys;
 class EditorView;
 class FileNew;
 class FileOpening;
 class FileSaving;
 class Highlighting;
-class MacroList;
+class RightMenu;
 class UseDirectives;
 
-/// The permanent child of the main window: the two documents, the macro list and all working menus.
-/// Only a frame: each feature is an object of its own, which this class makes and hands out.
+/// The permanent child of the main window: the two documents and all working menus. Only a
+/// frame: each feature is an object of its own, which this class makes and hands out.
 class Editor : public QWidget
 {
     Q_OBJECT
@@ -43,15 +42,15 @@ public:
     EditorDocument &joystick();
     EditorDocument &macro();
     EditorDocument &selected();
-    QString joystickText() const;
-    QString macroText() const;
+    QString joystickText();
+    QString macroText();
 
     EditorView &view() { return *m_view; }
     FileOpening &opening() { return *m_opening; }
     FileSaving &saving() { return *m_saving; }
     FileNew &fresh() { return *m_fresh; }
     UseDirectives &useDirectives() { return *m_useDirectives; }
-    MacroList &macroList() { return *m_macroList; }
+    RightMenu &rightMenu() { return *m_rightMenu; }
 
     /// Gives the focus back to the selected document.
     void ResetFocusToEditor();
@@ -61,22 +60,35 @@ public:
 
     /// The questions about unsaved files, macro file first. False stops the exit.
     bool queryUnload();
-    /// Writes the options that are kept at exit.
-    void saveAtExit();
+    /// The paths that the next run opens again: files that were never saved give empty ones.
+    QString restorableJoystickFile();
+    QString restorableMacroFile();
 
-    /// Applies the settings that show: colours, fonts, ticks, tooltips, layout.
+    /// Shows what the settings say: colours, fonts, ticks, tiling.
     void applySettings();
 
+Q_SIGNALS:
+    /// F1 on a selected word.
+    void helpOn(const QString &word);
+
 private:
+    void connectFiles();
+    void connectEditing();
+    void connectOptions();
+    void updateConditions();
+    void paste();
+
     Context m_context;
     std::unique_ptr<EditorActions> m_actions;
     EditorView *m_view = nullptr;
-    MacroList *m_macroList = nullptr;
+    std::unique_ptr<ColouredCopies> m_copies;
     std::unique_ptr<Highlighting> m_highlighting;
     std::unique_ptr<UseDirectives> m_useDirectives;
     std::unique_ptr<FileSaving> m_saving;
     std::unique_ptr<FileOpening> m_opening;
     std::unique_ptr<FileNew> m_fresh;
+    std::unique_ptr<EditorKeys> m_keys;
+    std::unique_ptr<RightMenu> m_rightMenu;
 };
 
 } // namespace zeph

@@ -33,24 +33,21 @@ public:
     /// The menus of the menu bar in order, for whoever owns the bar.
     QList<QMenu *> menuBar() const;
 
-    /// Connects an entry with what it does, through the guard that every handler has. An entry that
-    /// waited for its tool becomes usable.
+    /// Connects an entry with what it does, through the guard that every handler has.
     void connectTo(QStringView name, std::function<void()> operation);
     /// Does what the entry does, if it is enabled. False when it is not.
     bool trigger(QStringView name);
 
-    /// The conditions in force; entries follow them.
+    /// Enables or disables all entries that depend on a condition.
     void setCondition(When when, bool holds);
 
 private:
     void makeMenus();
-    void refresh(const ActionRow &row);
 
     Dialogs &m_dialogs;
     QString m_iconFolder;
     QHash<QString, QAction *> m_actions;
     QHash<QString, QMenu *> m_menus;
-    QHash<int, bool> m_conditions;
 };
 
 } // namespace zeph

@@ -26,8 +26,13 @@ public:
     void select(int start, int length);
     /// Scrolls so that the stretch is seen, at the top of the view where possible.
     void scrollTo(int position);
-    /// Searches as findText() does over the whole text; selects and scrolls to a hit.
+    /// Searches as findText() does over the whole text; selects and scrolls to a hit, whose
+    /// position it gives, or -1.
     int find(QStringView word, int from, int options);
+
+protected:
+    /// Shift+Enter starts a line like Enter: the only line end of a text is '\n'.
+    void keyPressEvent(QKeyEvent *event) override;
 };
 
 } // namespace zeph

@@ -17,15 +17,23 @@ namespace zeph {
 QTextCharFormat toTextFormat(const CharFormat &format);
 CharFormat fromTextFormat(const QTextCharFormat &format);
 
+/// The document's characters, line ends as '\n'. Unlike the toolkit's own reading it keeps
+/// no-break spaces, which are letters of a file's code page like any other.
+QString plainTextOf(const QTextDocument &document);
+
 /// The document's text and looks as a value, whole or a stretch of it.
 RichText richTextOf(const QTextDocument &document);
 RichText richTextOf(const QTextDocument &document, qsizetype from, qsizetype length);
 
-/// Replaces everything in one edit block, without an entry in the toolkit's own undo.
+/// Replaces everything in one edit block, without an entry in the toolkit's own undo, which is
+/// emptied; the document counts as not modified.
 void setRichText(QTextDocument &document, const RichText &text);
-/// Replaces the cursor's selection with rich text; the cursor stands behind it.
+/// Replaces the cursor's selection with rich text; the cursor stands behind it. A paragraph that
+/// had characters before or behind the cursor keeps its format for the part that they are in.
 void insertRichText(QTextCursor &cursor, const RichText &text);
 /// Lays character runs over the text as it stands, in one edit block; the text does not change.
+/// Runs are laid from the text's start; what they do not reach stays as it is. Only what looks
+/// otherwise is touched.
 void applyCharacterRuns(QTextDocument &document, const std::vector<CharRun> &runs);
 
 /// 0-based line of a position; a line is a line of the file, since documents do not wrap.

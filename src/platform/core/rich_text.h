@@ -8,6 +8,9 @@
 #include "platform/core/base.h"
 #include "platform/core/units.h"
 
+#include <QHash>
+
+#include <algorithm>
 #include <vector>
 
 namespace zeph {
@@ -22,6 +25,11 @@ struct CharFormat {
     std::optional<ColorRef> colour;
 
     friend bool operator==(const CharFormat &, const CharFormat &) = default;
+    friend size_t qHash(const CharFormat &format, size_t seed = 0)
+    {
+        return qHashMulti(seed, format.family, format.pointSize, format.bold, format.italic,
+                          format.underline, format.colour.has_value(), format.colour.value_or(0));
+    }
 };
 
 enum class ParagraphAlignment { Left, Centre, Right };
@@ -62,11 +70,15 @@ struct RichText {
                           const ParagraphFormat &paragraph = {});
 
     qsizetype paragraphCount() const { return text.count(u'\n') + 1; }
+    /// The format of a character; behind the text's end, of the last one.
     CharFormat formatAt(qsizetype position) const;
     /// The stretch [from, from + length), clamped to the text.
     RichText mid(qsizetype from, qsizetype length) const;
+    /// Adds a text behind this one, at the cost of the other's length. Where two paragraphs become
+    /// one, this one's format stays, unless it has no characters yet. Both values are normal.
     void append(const RichText &other);
-    /// Changes the formats of a stretch through a function.
+    /// Changes the formats of a stretch through a function. A call costs the number of runs: a
+    /// thousand changes and more go through RichTextChanges.
     template <class Change> void change(qsizetype from, qsizetype length, Change change);
     /// Merges equal neighbours, drops empty runs, covers what is uncovered with default formats.
     void normalise();
@@ -74,17 +86,60 @@ struct RichText {
     friend bool operator==(const RichText &, const RichText &) = default;
 
 private:
-    /// Makes run borders at these positions and gives the indices of the runs between them.
-    std::pair<size_t, size_t> split(qsizetype from, qsizetype to);
+    /// Makes run borders at a stretch's ends and gives the indices of the runs between them.
+    std::pair<size_t, size_t> split(qsizetype from, qsizetype length);
+    /// Merges equal neighbours among the runs [first, last) and the ones beside them.
+    void mergeAround(size_t first, size_t last);
 };
 
 template <class Change> void RichText::change(qsizetype from, qsizetype length, Change change)
 {
-    const auto [first, last] = split(from, from + length);
+    const auto [first, last] = split(from, length);
     for (size_t i = first; i < last; ++i) {
         change(characters[i].format);
     }
-    normalise();
+    mergeAround(first, last);
+}
+
+/// Any number of format changes on one text, each at the cost of the characters that it touches,
+/// however many runs there are.
+class RichTextChanges
+{
+public:
+    explicit RichTextChanges(RichText text);
+
+    template <class Change> void change(qsizetype from, qsizetype length, Change change);
+    /// The text with its new formats; the object is empty afterwards.
+    RichText take();
+
+private:
+    using Index = quint32;
+    Index indexOf(const CharFormat &format);
+
+    RichText m_text;
+    std::vector<CharFormat> m_formats;
+    QHash<CharFormat, Index> m_indices;
+    std::vector<Index> m_formatOf; ///< of each character
+};
+
+template <class Change>
+void RichTextChanges::change(qsizetype from, qsizetype length, Change change)
+{
+    const qsizetype size = qsizetype(m_formatOf.size());
+    from = std::clamp(from, qsizetype(0), size);
+    const qsizetype end = from + std::clamp(length, qsizetype(0), size - from);
+    std::optional<Index> before;
+    Index after = 0;
+    for (qsizetype i = from; i < end; ++i) {
+        Index &index = m_formatOf[size_t(i)];
+        if (before != index) {
+            before = index;
+            CharFormat format = m_formats[index];
+            change(format);
+            after = indexOf(format);
+        }
+        index = after;
+    }
 }
 
 } // namespace zeph

@@ -1,0 +1,267 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#include "editor/actions.h"
+
+#include <array>
+
+namespace zeph {
+
+namespace {
+
+using enum When;
+using enum ActionKind;
+
+constexpr std::array menus = {
+    MenuRow{ u"mnuFile", u"&File" },         MenuRow{ u"mnuEdit", u"&Edit" },
+    MenuRow{ u"mnuView", u"&View" },         MenuRow{ u"mnuInsert", u"&Insert" },
+    MenuRow{ u"mnuFormat", u"F&ormat" },     MenuRow{ u"mnuMacros", u"&Macros" },
+    MenuRow{ u"mnuDownload", u"&Download" }, MenuRow{ u"mnuCougar", u"&Cougar" },
+    MenuRow{ u"mnuApps", u"&Apps" },         MenuRow{ u"mnuGames", u"&Games" },
+    MenuRow{ u"mnuHelp", u"&Help" },
+};
+
+constexpr ActionRow line(const char16_t *menu, const char16_t *name = u"")
+{
+    return { menu, name, u"", u"", u"", u"", Always, Separator };
+}
+
+// clang-format off
+constexpr std::array actions = {
+    ActionRow{u"mnuFile", u"mnuFileNewJoystick", u"&New joystick file", u"Ctrl+N", u"Starts a fresh joystick file", u"new", Always, Entry},
+    ActionRow{u"mnuFile", u"mnuFileNewMacro", u"New mac&ro file", u"", u"Starts a fresh macro file", u"new", Always, Entry},
+    ActionRow{u"mnuFile", u"mnuFileNewBoth", u"New joystick and macro files", u"", u"Starts a fresh pair of files", u"", Always, Entry},
+    line(u"mnuFile"),
+    ActionRow{u"mnuFile", u"mnuFileOpen", u"&Open joystick file and its macro file", u"F8", u"Opens a pair of files that belong together", u"open", Always, Entry},
+    ActionRow{u"mnuFile", u"mnuFileJoystickLoad", u"Open &joystick file ...", u"Ctrl+O", u"Opens a joystick file alone", u"open", Always, Entry},
+    ActionRow{u"mnuFile", u"MnuFileMacroLoad", u"Open &macro file ...", u"", u"Opens a macro file alone", u"open", Always, Entry},
+    ActionRow{u"mnuFile", u"mnuJoyPopUpSingleFile", u"Open a sin&gle file from the lists", u"", u"A file from the lists below opens without its partner", u"", Always, Tick},
+    ActionRow{u"mnuFile", u"mnuJFList", u"&Previous joystick files", u"", u"", u"", Later, Submenu},
+    ActionRow{u"mnuJFList", u"mnuPreviousClearAllJ", u"&Clear all", u"", u"Forgets the joystick files opened before", u"", Later, Entry},
+    ActionRow{u"mnuFile", u"mnuMFList", u"Previo&us macro files", u"", u"", u"", Later, Submenu},
+    ActionRow{u"mnuMFList", u"mnuPreviousClearAllM", u"&Clear all", u"", u"Forgets the macro files opened before", u"", Later, Entry},
+    ActionRow{u"mnuFile", u"mnuFavourites", u"Fa&vourites", u"", u"", u"", Later, Submenu},
+    ActionRow{u"mnuFavourites", u"mnuFavouritesAddCurrent", u"&Add current files to Favourites", u"", u"Keeps the current pair under a name of yours", u"favourite-add", Later, Entry},
+    ActionRow{u"mnuFavourites", u"mnuSortFavourites", u"&Sort alphabetically", u"", u"", u"", Later, Entry},
+    line(u"mnuFile"),
+    ActionRow{u"mnuFile", u"mnuFileSave", u"&Save", u"Ctrl+S", u"Saves the selected file", u"save", Always, Entry},
+    ActionRow{u"mnuFile", u"mnuFileSaveAs", u"Save &as ...", u"", u"Saves the selected file under another name", u"", Always, Entry},
+    ActionRow{u"mnuFile", u"mnuFileSaveBoth", u"Save &both files", u"Ctrl+F8", u"Saves the joystick file and the macro file", u"save", Always, Entry},
+    ActionRow{u"mnuFile", u"mnuFileClose", u"C&lose", u"", u"Puts a fresh file in place of the selected one", u"", Always, Entry},
+    ActionRow{u"mnuFile", u"mnuFileCloseBoth", u"Close bo&th files", u"", u"Puts a fresh pair in place of the current files", u"", Always, Entry},
+    line(u"mnuFile"),
+    ActionRow{u"mnuFile", u"mnuFileCreateDistribution", u"Create &distribution package ...", u"", u"Gathers everything that belongs to these files for passing on", u"", Later, Entry},
+    ActionRow{u"mnuFile", u"mnuOpenZip", u"Open distribution &zip ...", u"", u"Unpacks somebody else's files among yours", u"", Later, Entry},
+    line(u"mnuFile"),
+    ActionRow{u"mnuFile", u"mnuFilePrintJoystick", u"Pr&int joystick file", u"Ctrl+P", u"Prints the joystick file", u"print", Later, Entry},
+    ActionRow{u"mnuFile", u"mnuFilePrintMacro", u"Print macro file", u"", u"Prints the macro file", u"print", Later, Entry},
+    ActionRow{u"mnuFile", u"printtest", u"Print selection", u"", u"Prints what is selected", u"", Later, Entry},
+    ActionRow{u"mnuFile", u"mnuFilePrinterSetup", u"Printer set&up ...", u"", u"", u"", Later, Entry},
+    line(u"mnuFile"),
+    ActionRow{u"mnuFile", u"mnuFileExit", u"E&xit Zeph", u"", u"Leaves Zeph, after asking about unsaved files", u"exit", Always, Entry},
+
+    ActionRow{u"mnuEdit", u"mnuEditUndo", u"&Undo", u"Ctrl+Z", u"Takes the last change back", u"undo", Later, Entry},
+    ActionRow{u"mnuEdit", u"mnuEditRedo", u"&Redo", u"Ctrl+Y", u"Makes a change again that was taken back", u"redo", Later, Entry},
+    line(u"mnuEdit"),
+    ActionRow{u"mnuEdit", u"mnuEditCut", u"Cu&t", u"Ctrl+X", u"Moves the selection to the clipboard", u"cut", Selection, Entry},
+    ActionRow{u"mnuEdit", u"mnuEditCopy", u"&Copy", u"Ctrl+C", u"Copies the selection to the clipboard", u"copy", Selection, Entry},
+    ActionRow{u"mnuEdit", u"mnuEditPaste", u"&Paste", u"Ctrl+V", u"Inserts what the clipboard holds", u"paste", PasteReady, Entry},
+    ActionRow{u"mnuEdit", u"mnuPasteSimple", u"Paste as &simple text", u"", u"Inserts the clipboard's text without its looks", u"", Later, Entry},
+    ActionRow{u"mnuEdit", u"mnuEditDelete", u"&Delete", u"", u"Deletes the selection", u"delete", Selection, Entry},
+    ActionRow{u"mnuEdit", u"mnuEditSelectAll", u"Select &all", u"Ctrl+A", u"Selects the whole file", u"", Always, Entry},
+    ActionRow{u"mnuEdit", u"mnuEditSelectLine", u"Select &line", u"", u"Selects the caret's line", u"", Later, Entry},
+    line(u"mnuEdit"),
+    ActionRow{u"mnuEdit", u"mnuEditFind", u"&Find ...", u"Ctrl+F", u"Finds a word or phrase in a file", u"find", Later, Entry},
+    ActionRow{u"mnuEdit", u"mnuEditReplace", u"R&eplace ...", u"Ctrl+R", u"Finds a word or phrase and puts another in its place", u"replace", Later, Entry},
+    ActionRow{u"mnuEdit", u"mnuEditGoto", u"&Go to line ...", u"Ctrl+G", u"Goes to a line by its number", u"goto", Later, Entry},
+    line(u"mnuEdit"),
+    ActionRow{u"mnuEdit", u"mnuBlockREM", u"Comment the lines &out with Rem", u"", u"Puts Rem before the selected lines", u"", Later, Entry},
+    ActionRow{u"mnuEdit", u"mnuBlockRemoveREM", u"Remove Rem from the li&nes", u"", u"Takes Rem away from the selected lines", u"", Later, Entry},
+
+    ActionRow{u"mnuView", u"mnuViewTileVertically", u"&Tile files vertically", u"", u"Shows both files side by side", u"tile", Always, Tick},
+    ActionRow{u"mnuView", u"mnuViewMacros", u"View &Macro list", u"", u"Shows or hides the macro list", u"macros-view", Later, Tick},
+    line(u"mnuView"),
+    ActionRow{u"mnuView", u"mnuViewColourJoystick", u"Apply colour to &joystick file", u"", u"Colours the joystick file's statements", u"colour", Later, Entry},
+    ActionRow{u"mnuView", u"mnuViewColourMacro", u"Apply colour to ma&cro file", u"", u"Colours the macro file", u"colour", Later, Entry},
+    ActionRow{u"mnuView", u"mnuViewApplyColourBothFiles", u"Apply colour to &both files", u"Ctrl+T", u"Colours both files", u"colour", Later, Entry},
+    ActionRow{u"mnuView", u"mnuViewHighlightLine", u"Colour this &line", u"Ctrl+L", u"Colours the selected lines", u"", Later, Entry},
+    ActionRow{u"mnuView", u"mnuRemoveColourJoystick", u"&Remove colour from joystick file", u"", u"", u"", Later, Entry},
+    ActionRow{u"mnuView", u"mnuRemoveColourMacro", u"Remo&ve colour from macro file", u"", u"", u"", Later, Entry},
+    ActionRow{u"mnuView", u"mnuRemoveColourSelectedText", u"Remove colour from &selection", u"", u"", u"", Later, Entry},
+    line(u"mnuView"),
+    ActionRow{u"mnuView", u"mnuAlignSlash", u"&Align slash modifiers", u"Ctrl+M", u"Stands slash modifiers under one another", u"", Later, Entry},
+    ActionRow{u"mnuView", u"mnuIndentSlashes", u"&Indent statements when aligning", u"", u"", u"", Later, Tick},
+    ActionRow{u"mnuView", u"mnuViewReformat", u"Refresh la&yout", u"Ctrl+H", u"Sets font and margin of the whole file afresh", u"", Later, Entry},
+    ActionRow{u"mnuView", u"mnuViewrefreshIndent", u"Refresh indent &only", u"", u"Sets the margin of the whole file afresh", u"", Later, Entry},
+
+    ActionRow{u"mnuInsert", u"mnuInsertTitle", u"&Title ...", u"", u"Inserts a title block for the file", u"insert-title", Later, Entry},
+    ActionRow{u"mnuInsert", u"mnuInsertHeading", u"&Heading ...", u"F5", u"Inserts a heading, which groups macros", u"insert-heading", Later, Entry},
+    ActionRow{u"mnuInsert", u"mnuInsertRemStatement", u"&Rem statement ...", u"F6", u"Inserts a comment", u"insert-rem", Later, Entry},
+    line(u"mnuInsert"),
+    ActionRow{u"mnuInsert", u"mnuSlashArray_0", u"/&U dogfight switch is up", u"", u"", u"", Later, Entry},
+    ActionRow{u"mnuInsert", u"mnuSlashArray_1", u"/&M dogfight switch middle position", u"", u"", u"", Later, Entry},
+    ActionRow{u"mnuInsert", u"mnuSlashArray_2", u"/&D dogfight switch is down", u"", u"", u"", Later, Entry},
+    ActionRow{u"mnuInsert", u"mnuSlashArray_3", u"/&I  S3 is held in", u"", u"", u"", Later, Entry},
+    ActionRow{u"mnuInsert", u"mnuSlashArray_4", u"/&O S3 is out", u"", u"", u"", Later, Entry},
+    ActionRow{u"mnuInsert", u"mnuSlashArray_5", u"/&P  press event", u"", u"", u"", Later, Entry},
+    ActionRow{u"mnuInsert", u"mnuSlashArray_6", u"/R  r&elease event", u"", u"", u"", Later, Entry},
+    ActionRow{u"mnuInsert", u"mnuSlashArray_7", u"/T  to&ggle modifier", u"", u"", u"", Later, Entry},
+    ActionRow{u"mnuInsert", u"mnuSlashArray_8", u"/&A  autorepeat the statement", u"", u"", u"", Later, Entry},
+    ActionRow{u"mnuInsert", u"mnuSlashArray_9", u"/H  hold do&wn", u"", u"", u"", Later, Entry},
+    ActionRow{u"mnuInsert", u"mnuSlashArray_10", u"D&LY delay statement", u"", u"", u"", Later, Entry},
+    ActionRow{u"mnuInsert", u"mnuSlashArray_11", u"RPT repeat &statement", u"", u"", u"", Later, Entry},
+    line(u"mnuInsert"),
+    ActionRow{u"mnuInsert", u"mnuSlashWindow", u"Show the Slash &window", u"", u"A floating palette of the slash modifiers", u"", Later, Entry},
+    line(u"mnuInsert", u"mnuInsertDivider8"),
+    ActionRow{u"mnuInsert", u"mnuInsertQuickTip", u"&Quick tip - read me", u"", u"", u"", Later, Entry},
+
+    ActionRow{u"mnuFormat", u"mnuFormatArray1_0", u"&Bold", u"Ctrl+B", u"", u"bold", Later, Entry},
+    ActionRow{u"mnuFormat", u"mnuFormatArray1_1", u"&Italic", u"Ctrl+I", u"", u"italic", Later, Entry},
+    ActionRow{u"mnuFormat", u"mnuFormatArray1_2", u"&Underline", u"Ctrl+U", u"", u"underline", Later, Entry},
+    line(u"mnuFormat"),
+    ActionRow{u"mnuFormat", u"mnuStyleArray_0", u"Style &1", u"", u"", u"", Later, Entry},
+    ActionRow{u"mnuFormat", u"mnuStyleArray_1", u"Style &2", u"", u"", u"", Later, Entry},
+    ActionRow{u"mnuFormat", u"mnuStyleArray_2", u"Style &3", u"", u"", u"", Later, Entry},
+    ActionRow{u"mnuFormat", u"mnuStyleArray_3", u"Style &4", u"", u"", u"", Later, Entry},
+    ActionRow{u"mnuFormat", u"mnuStyleArray_4", u"Style &5", u"", u"", u"", Later, Entry},
+    ActionRow{u"mnuFormat", u"mnuStyleArray_5", u"Style &6", u"", u"", u"", Later, Entry},
+    ActionRow{u"mnuFormat", u"mnuStyleArray_6", u"/U style", u"", u"", u"", Later, Entry},
+    ActionRow{u"mnuFormat", u"mnuStyleArray_7", u"/M style", u"", u"", u"", Later, Entry},
+    ActionRow{u"mnuFormat", u"mnuStyleArray_8", u"/D style", u"", u"", u"", Later, Entry},
+    ActionRow{u"mnuFormat", u"mnuFormatStyleEditor", u"&Edit the styles ...", u"", u"", u"", Later, Entry},
+    line(u"mnuFormat"),
+    ActionRow{u"mnuFormat", u"mnuFormatFont", u"&Font ...", u"", u"Chooses the font of both files", u"", Later, Entry},
+    line(u"mnuFormat"),
+    ActionRow{u"mnuFormat", u"mnuExportToUBB", u"&Convert to UBB/HTML", u"", u"Turns the selection into mark-up for forums and web pages", u"", Later, Entry},
+
+    ActionRow{u"mnuMacros", u"mnuEditUpdateMacros", u"&Update macros", u"", u"Reads the macro list from the saved macro file", u"macros-update", Later, Entry},
+    ActionRow{u"mnuMacros", u"mnuMacrosIdentify", u"&Identify macros used", u"F7", u"Ticks the macros that the joystick file uses", u"macros-identify", Later, Entry},
+    ActionRow{u"mnuMacros", u"mnuFindInJoyFile", u"&Find in Joystick file", u"", u"", u"", Later, Entry},
+    ActionRow{u"mnuMacros", u"mnuRenameMacro", u"&Rename in both files ...", u"", u"", u"", Later, Entry},
+    line(u"mnuMacros"),
+    ActionRow{u"mnuMacros", u"mnuPreferencesProtectMacroFile", u"&Protect macro file", u"", u"Guards the macro file against typing", u"tab-protected", Always, Tick},
+    line(u"mnuMacros"),
+    ActionRow{u"mnuMacros", u"mnuMacrosSave", u"&When saving the macro file", u"", u"", u"", Later, Submenu},
+    ActionRow{u"mnuMacrosSave", u"mnuMacrosSaveOptions_0", u"&Update macro list", u"", u"", u"", Later, Tick},
+    ActionRow{u"mnuMacrosSave", u"mnuMacrosSaveOptions_1", u"&Identify macros used in joystick file", u"", u"", u"", Later, Tick},
+    ActionRow{u"mnuMacros", u"mnuMacroMouseActive", u"&Show the macro under the mouse", u"", u"", u"", Later, Tick},
+    ActionRow{u"mnuMacros", u"MnuMacroSelectMacroShow", u"&Highlight macro in macro file when selecting macro in macro list", u"", u"", u"", Later, Tick},
+
+    ActionRow{u"mnuDownload", u"DownloadArray1_0", u"&Download joystick file", u"F12", u"Compiles the joystick file and sends it to the Cougar", u"download", Later, Entry},
+    ActionRow{u"mnuDownload", u"DownloadArray1_1", u"&Enable after download (Programmed mode)", u"", u"", u"", Later, Tick},
+    ActionRow{u"mnuDownload", u"DownloadArray1_2", u"Run &Key Test after download", u"", u"", u"", Later, Tick},
+    ActionRow{u"mnuDownload", u"DownloadArray1_3", u"Ensure NumLock is on after download", u"", u"", u"", Later, Tick},
+    ActionRow{u"mnuDownload", u"DownloadArray1_4", u"Ignore RUN_APP statements on download", u"", u"", u"", Later, Tick},
+    line(u"mnuDownload"),
+    ActionRow{u"mnuDownload", u"mnuAppsCompile", u"&Compile joystick file", u"F11", u"Checks the joystick file with the compiler and sends nothing to the Cougar", u"compile", JoystickText, Entry},
+    line(u"mnuDownload"),
+    ActionRow{u"mnuDownload", u"mnuResetAxes", u"&Reset axes when downloading", u"", u"", u"", Later, Tick},
+    ActionRow{u"mnuDownload", u"mnuApplyDefaultTMC", u"&Apply Default.tmc now", u"", u"", u"", Later, Entry},
+    ActionRow{u"mnuDownload", u"mnuResetOptions", u"Reset &options", u"", u"", u"", Later, Entry},
+    ActionRow{u"mnuDownload", u"mnuDownloadProfile", u"Download a profile (*.tmc)", u"", u"", u"", Later, Entry},
+
+    ActionRow{u"mnuCougar", u"MnuDiagArray_0", u"Cougar Control &Panel (CCP)", u"", u"", u"control-panel", Later, Entry},
+    ActionRow{u"mnuCougar", u"MnuDiagArray_1", u"&Calibrate controllers", u"", u"", u"", Later, Entry},
+    ActionRow{u"mnuCougar", u"MnuDiagArray_2", u"Axes &response curves, trim and deadzones", u"", u"", u"", Later, Entry},
+    ActionRow{u"mnuCougar", u"MnuDiagArray_3", u"HOTAS &View to test axes and buttons", u"", u"", u"", Later, Entry},
+    ActionRow{u"mnuCougar", u"MnuDiagArray_4", u"Set active Cougar with multiple Cougar setups", u"", u"", u"", Later, Entry},
+    ActionRow{u"mnuCougar", u"MnuDiagArray_5", u"Logical Flag viewer", u"", u"", u"logical-flags", Later, Entry},
+    line(u"mnuCougar"),
+    ActionRow{u"mnuCougar", u"mnuMemoryClear_0", u"&Empty buffers", u"", u"", u"", Later, Entry},
+    ActionRow{u"mnuCougar", u"mnuMemoryClear_1", u"Clear &memory", u"", u"", u"", Later, Entry},
+    ActionRow{u"mnuCougar", u"mnuMemoryClear_2", u"Re&set", u"", u"", u"", Later, Entry},
+    ActionRow{u"mnuCougar", u"mnuMemoryClear_3", u"HOTAS Clea&nse", u"", u"", u"", Later, Entry},
+    ActionRow{u"mnuCougar", u"mnuMemoryClear_4", u"Resynchronise Cougar mode detection", u"", u"", u"", Later, Entry},
+    line(u"mnuCougar"),
+    ActionRow{u"mnuCougar", u"mnuFlashUpgrade", u"&Flash upgrade / Update firmware", u"", u"", u"", Later, Entry},
+    ActionRow{u"mnuCougar", u"mnuHandleInstall", u"&Install new joystick handle", u"", u"", u"", Later, Entry},
+    ActionRow{u"mnuCougar", u"mnuFlashArray_0", u"Control Panel &Gaming Options", u"", u"", u"", Later, Entry},
+    ActionRow{u"mnuCougar", u"mnuFlashArray_1", u"&Joystick ID in Gaming Options", u"", u"", u"", Later, Entry},
+
+    ActionRow{u"mnuApps", u"mnuAppsComposer", u"&Composer", u"F2", u"Writes statements from forms and pictures", u"composer", Later, Entry},
+    ActionRow{u"mnuApps", u"mnuAppsTumbo", u"&Tumbo", u"F4", u"The virtual keyboard", u"tumbo", Later, Entry},
+    ActionRow{u"mnuApps", u"mnuAppsTemplateEditor", u"Template &Editor/Text viewer", u"Shift+F11", u"Templates and readme files", u"template-editor", Later, Entry},
+    ActionRow{u"mnuApps", u"mnuAppsImageViewer", u"&Image viewer", u"", u"The picture that belongs to the files", u"image-viewer", Later, Entry},
+    ActionRow{u"mnuApps", u"mnuMouseWizard", u"Advanced graphical &mouse movement wizard", u"", u"", u"mouse-wizard", Later, Entry},
+    ActionRow{u"mnuApps", u"mnuAppsQuickView", u"&Quick View", u"Shift+F4", u"Shows live which statement a control would perform", u"quick-view", Later, Entry},
+    line(u"mnuApps"),
+    ActionRow{u"mnuApps", u"mnuAppsJoystickLayout", u"&Joystick layout editor", u"Shift+F5", u"A reference sheet of the stick", u"layout-joystick", Later, Entry},
+    ActionRow{u"mnuApps", u"mnuAppsThrottleLayout", u"T&hrottle layout editor", u"Shift+F6", u"A reference sheet of the throttle", u"layout-throttle", Later, Entry},
+    ActionRow{u"mnuApps", u"mnuAppsCustomLayout", u"C&ustom layout editor", u"Shift+F7", u"A reference sheet of your own", u"layout-custom", Later, Entry},
+    line(u"mnuApps"),
+    ActionRow{u"mnuApps", u"mnuAppsMultiEditor", u"Multip&le File Editor", u"", u"", u"multi-editor", Later, Entry},
+    ActionRow{u"mnuApps", u"mnuAppsLauncher", u"Lau&ncher", u"", u"", u"launcher", Later, Entry},
+    ActionRow{u"mnuApps", u"mnuAppsKeyTester", u"&Key Tester", u"Ctrl+K", u"Shows which keys the Cougar sends", u"key-tester", Later, Entry},
+    ActionRow{u"mnuApps", u"mnuAppsAnalyser", u"Joystick &analyser", u"", u"", u"analyser", Later, Entry},
+    line(u"mnuApps", u"mnuAppsDX8Divider"),
+    ActionRow{u"mnuApps", u"mnuAppsDX8_0", u"DirectX key tester", u"", u"", u"", Later, Entry},
+    ActionRow{u"mnuApps", u"mnuAppsDX8_1", u"DirectX joystick tester", u"", u"", u"", Later, Entry},
+    ActionRow{u"mnuApps", u"mnuAppsDX8_2", u"DirectX mouse tester", u"", u"", u"", Later, Entry},
+    line(u"mnuApps"),
+    ActionRow{u"mnuApps", u"mnuCustomApp_1", u"Custom application 1", u"", u"", u"custom-app", Later, Entry},
+    ActionRow{u"mnuApps", u"mnuCustomApp_2", u"Custom application 2", u"", u"", u"custom-app", Later, Entry},
+    ActionRow{u"mnuApps", u"mnuCustomApp_3", u"Custom application 3", u"", u"", u"custom-app", Later, Entry},
+    ActionRow{u"mnuApps", u"mnuCustomApp_4", u"Custom application 4", u"", u"", u"custom-app", Later, Entry},
+    line(u"mnuApps"),
+    ActionRow{u"mnuApps", u"mnuAppsViewGraphic", u"View the &graphical layout of these files", u"", u"The picture that USE ZEPH GRAPHIC names", u"shortcut-layout", Later, Entry},
+    ActionRow{u"mnuApps", u"mnuAppsViewReadMe", u"View the &ReadMe of these files", u"", u"The text that USE ZEPH README names", u"shortcut-readme", Later, Entry},
+    line(u"mnuApps"),
+    ActionRow{u"mnuApps", u"mnuAppsPreferences", u"&Preferences ...", u"F9", u"All the settings of Zeph", u"preferences", Later, Entry},
+
+    ActionRow{u"mnuGames", u"mnuGamesAdd", u"&Add game settings", u"", u"", u"", Later, Entry},
+    line(u"mnuGames", u"mnuGamesDivider"),
+    ActionRow{u"mnuGames", u"mnuGamesSort", u"&Sort alphabetically", u"", u"", u"", Later, Entry},
+    ActionRow{u"mnuGames", u"mnuGamesEdit", u"&Edit game settings", u"", u"", u"", Later, Entry},
+
+    ActionRow{u"mnuHelp", u"mnuHelpContents", u"&Help topics", u"F1", u"The help, at its contents", u"help", Always, Entry},
+    ActionRow{u"mnuHelp", u"mnuHelpHowDoI", u"How &do I", u"", u"", u"", Custom, Submenu},
+    ActionRow{u"mnuHelp", u"mnuHelpManuals", u"&Manuals", u"", u"", u"", Custom, Submenu},
+    line(u"mnuHelp"),
+    ActionRow{u"mnuHelp", u"mnuHelpSyntax", u"&Syntax", u"", u"The statements and how they are written", u"", Always, Entry},
+    ActionRow{u"mnuHelp", u"mnuHelpSlashModifiers", u"S&lash modifiers", u"", u"What each slash modifier does", u"", Always, Entry},
+    ActionRow{u"mnuHelp", u"mnuHelpErrorCodes", u"&Error codes", u"", u"What the compiler's codes mean", u"", Always, Entry},
+    line(u"mnuHelp"),
+    ActionRow{u"mnuHelp", u"mnuHelpTip", u"&Tip of the Day", u"", u"A tip, and then another", u"", Always, Entry},
+    line(u"mnuHelp"),
+    ActionRow{u"mnuHelp", u"mnuHelpAbout_0", u"Check for a newer &version", u"", u"Asks the makers' server for the latest version", u"", Always, Entry},
+    ActionRow{u"mnuHelp", u"mnuHelpAbout_1", u"Vista &compatibility", u"", u"What Zeph needs of the system", u"", Always, Entry},
+    ActionRow{u"mnuHelp", u"mnuHelpAbout_2", u"&About Zeph", u"", u"", u"zeph", Always, Entry},
+};
+
+constexpr std::array rightMenu = {
+    RightMenuRow{u"mnuRHMUndo", u"", u"mnuEditUndo", RightMenuRow::Both},
+    RightMenuRow{u"mnuRHMRedo", u"", u"mnuEditRedo", RightMenuRow::Both},
+    RightMenuRow{u"", u"", u"", RightMenuRow::Divider},
+    RightMenuRow{u"mnuRHMCut", u"", u"mnuEditCut", RightMenuRow::Both},
+    RightMenuRow{u"mnuRHMCopy", u"", u"mnuEditCopy", RightMenuRow::Both},
+    RightMenuRow{u"mnuRHMPaste", u"", u"mnuEditPaste", RightMenuRow::Both},
+    RightMenuRow{u"mnuRHMDelete", u"", u"mnuEditDelete", RightMenuRow::Both},
+    RightMenuRow{u"mnuRHMSelectAll", u"", u"mnuEditSelectAll", RightMenuRow::Both},
+    RightMenuRow{u"", u"", u"", RightMenuRow::Divider},
+    RightMenuRow{u"mnuRHMColoursSelection", u"", u"mnuRemoveColourSelectedText", RightMenuRow::Both},
+    RightMenuRow{u"mnuRHMGoto", u"", u"mnuEditGoto", RightMenuRow::JoystickOnly},
+    RightMenuRow{u"mnuRHMIdentify", u"", u"mnuMacrosIdentify", RightMenuRow::JoystickOnly},
+    RightMenuRow{u"mnuRHMDownload", u"Do&wnload joystick file", u"DownloadArray1_0", RightMenuRow::JoystickOnly},
+    RightMenuRow{u"mnuRHMUpdateMacros", u"Update &macros", u"mnuEditUpdateMacros", RightMenuRow::MacroOnly},
+    RightMenuRow{u"mnuRHMProtect", u"Pr&otect macro file", u"mnuPreferencesProtectMacroFile", RightMenuRow::MacroOnly},
+};
+// clang-format on
+
+} // namespace
+
+std::span<const MenuRow> menuBarTable()
+{
+    return menus;
+}
+
+std::span<const ActionRow> actionTable()
+{
+    return actions;
+}
+
+std::span<const RightMenuRow> rightMenuTable()
+{
+    return rightMenu;
+}
+
+} // namespace zeph

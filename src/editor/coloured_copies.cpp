@@ -1,0 +1,40 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#include "editor/coloured_copies.h"
+
+#include "editor/text_control.h"
+#include "platform/core/rtf.h"
+
+namespace zeph {
+
+std::optional<RichText> ColouredCopies::load(const QString &name, const QString &plainText,
+                                             const CharFormat &font) const
+{
+    const QString path = existingPath(pathOf(name));
+    if (path.isEmpty()) {
+        return std::nullopt;
+    }
+    const auto bytes = readWholeFile(path);
+    if (!bytes) {
+        return std::nullopt;
+    }
+    auto copy = readRtf(*bytes);
+    if (!copy || copy->text != plainText) {
+        return std::nullopt;
+    }
+    for (CharRun &run : copy->characters) {
+        run.format.family = font.family;
+        run.format.pointSize = font.pointSize;
+        run.format.bold = font.bold;
+    }
+    copy->normalise();
+    return *copy;
+}
+
+Expected<void, FileError> ColouredCopies::save(const EditorDocument &document) const
+{
+    return writeFileAtomically(pathOf(document.name), writeRtf(document.control->richText()));
+}
+
+} // namespace zeph

@@ -1,0 +1,215 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#include "editor/editor.h"
+
+#include "editor/coloured_copies.h"
+#include "editor/editor_actions.h"
+#include "editor/editor_keys.h"
+#include "editor/editor_view.h"
+#include "editor/exit_questions.h"
+#include "editor/file_new.h"
+#include "editor/file_opening.h"
+#include "editor/file_saving.h"
+#include "editor/highlighting.h"
+#include "editor/right_menu.h"
+#include "editor/text_control.h"
+#include "editor/text_lines.h"
+#include "editor/use_directives.h"
+#include "platform/dialogs.h"
+#include "platform/status_line.h"
+#include "shell/settings/global_settings.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QClipboard>
+#include <QMenu>
+#include <QMimeData>
+#include <QVBoxLayout>
+
+namespace zeph {
+
+Editor::Editor(const Context &context, QWidget *parent)
+    : QWidget(parent), m_context(context),
+      m_actions(std::make_unique<EditorActions>(context.dialogs, context.paths.inApp(u"icons/"))),
+      m_view(new EditorView(context, this)),
+      m_copies(std::make_unique<ColouredCopies>(context.paths)),
+      m_highlighting(std::make_unique<Highlighting>(context, *m_view, *m_copies)),
+      m_useDirectives(std::make_unique<UseDirectives>(context, *m_view)),
+      m_saving(std::make_unique<FileSaving>(context, *m_view, *m_copies, *m_useDirectives)),
+      m_opening(std::make_unique<FileOpening>(
+          context,
+          FileOpening::Parts{ *m_view, *m_copies, *m_highlighting, *m_useDirectives, *m_saving })),
+      m_fresh(std::make_unique<FileNew>(context, *m_view, *m_opening, *m_useDirectives)),
+      m_keys(std::make_unique<EditorKeys>(*m_view, *m_actions)),
+      m_rightMenu(std::make_unique<RightMenu>(*m_view, *m_actions))
+{
+    setObjectName(u"Editor"_s);
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(m_view);
+    connectFiles();
+    connectEditing();
+    connectOptions();
+    connect(m_keys.get(), &EditorKeys::helpOn, this, &Editor::helpOn);
+    connect(m_view, &EditorView::selectionChanged, this, &Editor::updateConditions);
+    connect(QApplication::clipboard(), &QClipboard::dataChanged, this, &Editor::updateConditions);
+    updateConditions();
+}
+
+Editor::~Editor() = default;
+
+QAction *Editor::action(QStringView name) const
+{
+    return m_actions->action(name);
+}
+
+EditorDocument &Editor::joystick()
+{
+    return m_view->document(DocumentKind::Joystick);
+}
+
+EditorDocument &Editor::macro()
+{
+    return m_view->document(DocumentKind::Macro);
+}
+
+EditorDocument &Editor::selected()
+{
+    return m_view->selected();
+}
+
+QString Editor::joystickText()
+{
+    return joystick().control->text();
+}
+
+QString Editor::macroText()
+{
+    return macro().control->text();
+}
+
+void Editor::connectFiles()
+{
+    EditorActions &on = *m_actions;
+    on.connectTo(u"mnuFileNewJoystick", [this] { m_fresh->mnuFileNewJoystick_Click(); });
+    on.connectTo(u"mnuFileNewMacro", [this] { m_fresh->mnuFileNewMacro_Click(); });
+    on.connectTo(u"mnuFileNewBoth", [this] { m_fresh->mnuFileNewBoth_Click(); });
+    on.connectTo(u"mnuFileClose", [this] { m_fresh->mnuFileClose_Click(); });
+    on.connectTo(u"mnuFileCloseBoth", [this] { m_fresh->mnuFileCloseBoth_Click(); });
+    on.connectTo(u"mnuFileOpen", [this] { m_opening->mnuFileOpen_Click(); });
+    on.connectTo(u"mnuFileJoystickLoad", [this] { m_opening->mnuFileJoystickLoad_Click(); });
+    on.connectTo(u"MnuFileMacroLoad", [this] { m_opening->MnuFileMacroLoad_Click(); });
+    on.connectTo(u"mnuFileSave", [this] { m_saving->mnuFileSave_Click(); });
+    on.connectTo(u"mnuFileSaveAs", [this] { m_saving->mnuFileSaveAs_Click(); });
+    on.connectTo(u"mnuFileSaveBoth", [this] { m_saving->mnuFileSaveBoth_Click(); });
+    connect(on.menu(u"mnuFile"), &QMenu::aboutToShow, this, [this] {
+        m_fresh->rewriteUntitled();
+        QString caption = selected().caption();
+        caption.replace(u'&', u"&&"_s);
+        action(u"mnuFileClose")->setText(u"C&lose "_s + caption);
+    });
+}
+
+void Editor::connectEditing()
+{
+    EditorActions &on = *m_actions;
+    on.connectTo(u"mnuEditCut", [this] {
+        if (!m_view->refuseProtected()) {
+            selected().control->cut();
+        }
+    });
+    on.connectTo(u"mnuEditCopy", [this] { selected().control->copy(); });
+    on.connectTo(u"mnuEditPaste", [this] { paste(); });
+    on.connectTo(u"mnuEditDelete", [this] {
+        if (!m_view->refuseProtected()) {
+            selected().control->textCursor().removeSelectedText();
+        }
+    });
+    on.connectTo(u"mnuEditSelectAll", [this] { selected().control->selectAll(); });
+}
+
+void Editor::connectOptions()
+{
+    EditorActions &on = *m_actions;
+    on.connectTo(u"mnuViewTileVertically", [this] {
+        m_context.settings.TileFiles = action(u"mnuViewTileVertically")->isChecked();
+        m_view->setTiled(m_context.settings.TileFiles == 1);
+    });
+    on.connectTo(u"mnuPreferencesProtectMacroFile", [this] {
+        m_view->setProtected(action(u"mnuPreferencesProtectMacroFile")->isChecked());
+        updateConditions();
+    });
+    on.connectTo(u"mnuJoyPopUpSingleFile", [this] {
+        m_opening->OpenSingleFileOnly = action(u"mnuJoyPopUpSingleFile")->isChecked();
+        m_context.settings.OpenSingleFileOnly = m_opening->OpenSingleFileOnly;
+    });
+}
+
+void Editor::paste()
+{
+    if (!m_view->refuseProtected()) {
+        selected().control->paste();
+    }
+}
+
+void Editor::updateConditions()
+{
+    m_actions->setCondition(When::Selection, selected().control->textCursor().hasSelection());
+    const QMimeData *clipboard = QApplication::clipboard()->mimeData();
+    m_actions->setCondition(When::PasteReady, clipboard && clipboard->hasText());
+    m_actions->setCondition(When::JoystickText,
+                            selected().kind == DocumentKind::Joystick
+                                || m_context.settings.AlwaysShowCompileDownload == 1);
+}
+
+void Editor::ResetFocusToEditor()
+{
+    m_view->ResetFocusToEditor();
+}
+
+void Editor::HighlightErrorLine(int line, const QString &compileErrorText)
+{
+    EditorDocument &document = m_view->document(documentOfError(compileErrorText));
+    const auto range = lineRange(document.control->text(), line);
+    if (!range) {
+        m_context.dialogs.tell(u"Oops!"_s, u"Line not found"_s, BoxIcon::Exclamation);
+        return;
+    }
+    m_view->select(document.kind);
+    document.control->select(int(range->start), int(range->length));
+    document.control->centerCursor();
+    document.control->setFocus();
+    m_context.status.setLine(line);
+}
+
+bool Editor::queryUnload()
+{
+    return askBeforeExit(*m_view, *m_saving, m_context.dialogs);
+}
+
+QString Editor::restorableJoystickFile()
+{
+    return joystick().state == EditorDocument::Empty || isUntitled(joystick().name)
+        ? QString()
+        : joystick().path;
+}
+
+QString Editor::restorableMacroFile()
+{
+    return macro().state == EditorDocument::Empty || isUntitled(macro().name) ? QString()
+                                                                              : macro().path;
+}
+
+void Editor::applySettings()
+{
+    const GlobalSettings &settings = m_context.settings;
+    m_view->applyLook();
+    m_view->setTiled(settings.TileFiles == 1);
+    action(u"mnuViewTileVertically")->setChecked(settings.TileFiles == 1);
+    m_opening->OpenSingleFileOnly = settings.OpenSingleFileOnly == 1;
+    action(u"mnuJoyPopUpSingleFile")->setChecked(m_opening->OpenSingleFileOnly);
+    updateConditions();
+}
+
+} // namespace zeph

@@ -1,0 +1,132 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#include "editor/editor_keys.h"
+
+#include "editor/editor_actions.h"
+#include "editor/editor_view.h"
+#include "editor/text_control.h"
+
+#include <QAction>
+#include <QKeyEvent>
+#include <QMenu>
+
+#include <algorithm>
+#include <array>
+
+namespace zeph {
+
+namespace {
+
+struct ControlKey {
+    int key;
+    QStringView joystick;
+    QStringView macro;
+};
+
+// New, open and print act on the joystick file from the macro text too: pilots rely on it.
+constexpr std::array controlKeys = {
+    ControlKey{ Qt::Key_Z, u"mnuEditUndo", u"mnuEditUndo" },
+    ControlKey{ Qt::Key_X, u"mnuEditCut", u"mnuEditCut" },
+    ControlKey{ Qt::Key_C, u"mnuEditCopy", u"mnuEditCopy" },
+    ControlKey{ Qt::Key_V, u"mnuEditPaste", u"mnuEditPaste" },
+    ControlKey{ Qt::Key_A, u"mnuEditSelectAll", u"mnuEditSelectAll" },
+    ControlKey{ Qt::Key_F, u"mnuEditFind", u"mnuEditFind" },
+    ControlKey{ Qt::Key_G, u"mnuEditGoto", u"" },
+    ControlKey{ Qt::Key_R, u"mnuEditReplace", u"mnuEditReplace" },
+    ControlKey{ Qt::Key_N, u"mnuFileNewJoystick", u"mnuFileNewJoystick" },
+    ControlKey{ Qt::Key_O, u"mnuFileJoystickLoad", u"mnuFileJoystickLoad" },
+    ControlKey{ Qt::Key_S, u"mnuFileSave", u"mnuFileSave" },
+    ControlKey{ Qt::Key_P, u"mnuFilePrintJoystick", u"mnuFilePrintJoystick" },
+    ControlKey{ Qt::Key_Y, u"mnuEditRedo", u"mnuEditRedo" },
+    ControlKey{ Qt::Key_H, u"mnuViewReformat", u"mnuViewReformat" },
+    ControlKey{ Qt::Key_B, u"mnuFormatArray1_0", u"mnuViewApplyColourBothFiles" },
+    ControlKey{ Qt::Key_I, u"mnuFormatArray1_1", u"" },
+    ControlKey{ Qt::Key_U, u"mnuFormatArray1_2", u"mnuEditUpdateMacros" },
+    ControlKey{ Qt::Key_K, u"mnuAppsKeyTester", u"mnuAppsKeyTester" },
+    ControlKey{ Qt::Key_L, u"mnuViewHighlightLine", u"mnuViewHighlightLine" },
+    ControlKey{ Qt::Key_T, u"mnuViewApplyColourBothFiles", u"mnuViewApplyColourBothFiles" },
+    ControlKey{ Qt::Key_F8, u"mnuFileSaveBoth", u"mnuFileSaveBoth" },
+    ControlKey{ Qt::Key_M, u"mnuAlignSlash", u"mnuAlignSlash" },
+};
+
+} // namespace
+
+EditorKeys::EditorKeys(EditorView &view, EditorActions &actions) : m_view(view), m_actions(actions)
+{
+    for (const DocumentKind kind : { DocumentKind::Joystick, DocumentKind::Macro }) {
+        view.document(kind).control->installEventFilter(this);
+    }
+}
+
+QString EditorKeys::entryFor(int key, bool macroText)
+{
+    const auto row = std::ranges::find(controlKeys, key, &ControlKey::key);
+    return row == controlKeys.end() ? QString()
+                                    : (macroText ? row->macro : row->joystick).toString();
+}
+
+bool EditorKeys::eventFilter(QObject *watched, QEvent *event)
+{
+    const bool macroText = watched == m_view.document(DocumentKind::Macro).control;
+    if (event->type() == QEvent::ShortcutOverride) {
+        // The text has the first word on its keys; menu shortcuts serve the rest of the window.
+        if (handles(*static_cast<QKeyEvent *>(event), macroText)) {
+            event->accept();
+            return true;
+        }
+    } else if (event->type() == QEvent::KeyPress) {
+        return keyPressed(*static_cast<QKeyEvent *>(event), macroText);
+    }
+    return false;
+}
+
+bool EditorKeys::handles(const QKeyEvent &event, bool macroText) const
+{
+    if (event.modifiers() == Qt::ControlModifier) {
+        return !entryFor(event.key(), macroText).isEmpty();
+    }
+    return event.modifiers() == Qt::NoModifier
+        && (event.key() == Qt::Key_Escape || event.key() == Qt::Key_F1);
+}
+
+bool EditorKeys::keyPressed(const QKeyEvent &event, bool macroText)
+{
+    if (!handles(event, macroText)) {
+        return false;
+    }
+    if (event.key() == Qt::Key_Escape) {
+        popUpInsertMenu();
+        return true;
+    }
+    if (event.key() == Qt::Key_F1) {
+        help();
+        return true;
+    }
+    return m_actions.trigger(entryFor(event.key(), macroText));
+}
+
+void EditorKeys::popUpInsertMenu()
+{
+    QAction *divider = m_actions.action(u"mnuInsertDivider8");
+    QAction *tip = m_actions.action(u"mnuInsertQuickTip");
+    divider->setVisible(false);
+    tip->setVisible(false);
+    const TextControl *control = m_view.selected().control;
+    m_actions.menu(u"mnuInsert")
+        ->exec(control->viewport()->mapToGlobal(control->cursorRect().bottomLeft()));
+    divider->setVisible(true);
+    tip->setVisible(true);
+}
+
+void EditorKeys::help()
+{
+    const QString word = m_view.selected().control->textCursor().selectedText().trimmed();
+    if (word.isEmpty()) {
+        m_actions.trigger(u"mnuHelpContents");
+    } else {
+        Q_EMIT helpOn(word);
+    }
+}
+
+} // namespace zeph

@@ -1,0 +1,43 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QObject>
+
+class QKeyEvent;
+
+namespace zeph {
+
+class EditorActions;
+class EditorView;
+
+/// What the keys do in the two texts beyond typing. With Ctrl alone held a key runs its menu entry,
+/// which may differ between the texts, and is swallowed.
+class EditorKeys : public QObject
+{
+    Q_OBJECT
+public:
+    EditorKeys(EditorView &view, EditorActions &actions);
+
+    /// The entry behind Ctrl and a key in one of the texts; empty when there is none.
+    static QString entryFor(int key, bool macroText);
+
+Q_SIGNALS:
+    /// F1 on a selection: the selected text, trimmed.
+    void helpOn(const QString &word);
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    bool handles(const QKeyEvent &event, bool macroText) const;
+    bool keyPressed(const QKeyEvent &event, bool macroText);
+    void popUpInsertMenu();
+    void help();
+
+    EditorView &m_view;
+    EditorActions &m_actions;
+};
+
+} // namespace zeph

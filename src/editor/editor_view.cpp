@@ -1,0 +1,222 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#include "editor/editor_view.h"
+
+#include "editor/editor_texts.h"
+#include "editor/text_control.h"
+#include "platform/status_line.h"
+#include "shell/settings/global_settings.h"
+
+#include <QHBoxLayout>
+#include <QIcon>
+#include <QTabBar>
+#include <QVBoxLayout>
+
+namespace zeph {
+
+EditorView::EditorView(const Context &context, QWidget *parent)
+    : QWidget(parent), m_context(context)
+{
+    m_tabs = new QTabBar;
+    m_tabs->setObjectName(u"TabStrip1"_s);
+    m_tabs->setExpanding(false);
+    m_tabs->setDrawBase(false);
+    m_tabs->addTab(QString());
+    m_tabs->addTab(QString());
+    m_tabs->setTabIcon(0, QIcon(context.paths.inApp(u"icons/tab-joystick.svg")));
+    m_tabs->setTabIcon(1, QIcon(context.paths.inApp(u"icons/tab-macro.svg")));
+    makeControl(DocumentKind::Joystick, u"JoystickText"_s);
+    makeControl(DocumentKind::Macro, u"MacroText"_s);
+
+    auto *texts = new QHBoxLayout;
+    texts->setSpacing(4);
+    for (const EditorDocument &each : m_documents) {
+        texts->addWidget(each.control, 1);
+    }
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(4, 4, 4, 4);
+    layout->setSpacing(0);
+    layout->addWidget(m_tabs);
+    layout->addLayout(texts, 1);
+
+    renameFresh(DocumentKind::Joystick);
+    renameFresh(DocumentKind::Macro);
+    applyLook();
+    PositionControls();
+    UpdateSavedIcon();
+    connect(m_tabs, &QTabBar::currentChanged, this, &EditorView::onTabChanged);
+}
+
+void EditorView::makeControl(DocumentKind kind, const QString &name)
+{
+    auto *control = new TextControl(this);
+    control->setObjectName(name);
+    control->setAccessibleName(kind == DocumentKind::Joystick ? tr("Joystick file")
+                                                              : tr("Macro file"));
+    EditorDocument &each = document(kind);
+    each.kind = kind;
+    each.control = control;
+    connect(control, &TextControl::textChanged, this, [this, kind] { onTextChanged(kind); });
+    connect(control, &TextControl::cursorPositionChanged, this,
+            [this, kind] { storeCaret(document(kind)); });
+    connect(control, &TextControl::selectionChanged, this, [this, kind] {
+        storeCaret(document(kind));
+        Q_EMIT selectionChanged();
+    });
+}
+
+void EditorView::onTextChanged(DocumentKind kind)
+{
+    if (ColouringBusy == 0) {
+        setState(document(kind), EditorDocument::Modified);
+        Q_EMIT edited(kind);
+    }
+}
+
+void EditorView::storeCaret(EditorDocument &each)
+{
+    if (ColouringBusy == 0) {
+        each.caret = each.control->selStart();
+        each.selLength = each.control->selLength();
+        if (&each == &selected()) {
+            m_context.status.setLine(each.control->caretLine());
+        }
+    }
+}
+
+void EditorView::select(DocumentKind kind)
+{
+    m_tabs->setCurrentIndex(int(kind));
+}
+
+void EditorView::onTabChanged(int index)
+{
+    m_selected = DocumentKind(index);
+    EditorDocument &now = selected();
+    if (m_tiled) {
+        ShowBothFiles();
+    } else {
+        PositionControls();
+    }
+    const QString caption = now.caption();
+    if (m_selected == DocumentKind::Macro && m_protected) {
+        m_context.status.setText(caption + u" is protected and can't be edited."_s);
+    } else {
+        m_context.status.setText(tabStatus(m_context.status.text(), caption));
+    }
+    UpdateSavedIcon();
+    now.control->setFocus();
+    now.control->select(now.caret, now.selLength);
+    m_context.status.setLine(now.control->caretLine());
+    Q_EMIT tabSelected(m_selected);
+    Q_EMIT selectionChanged();
+}
+
+void EditorView::ResetFocusToEditor()
+{
+    selected().control->setFocus();
+}
+
+void EditorView::setTiled(bool tiled)
+{
+    m_tiled = tiled;
+    if (tiled) {
+        ShowBothFiles();
+    } else {
+        PositionControls();
+    }
+}
+
+void EditorView::ShowBothFiles()
+{
+    for (const EditorDocument &each : m_documents) {
+        each.control->show();
+    }
+}
+
+void EditorView::PositionControls()
+{
+    // Shown first: the focus never falls to another window's control in between.
+    selected().control->show();
+    for (const EditorDocument &each : m_documents) {
+        each.control->setVisible(each.kind == m_selected);
+    }
+}
+
+void EditorView::setProtected(bool on)
+{
+    m_protected = on;
+    document(DocumentKind::Macro).control->setReadOnly(on);
+    m_tabs->setTabIcon(
+        1, QIcon(m_context.paths.inApp(on ? u"icons/tab-protected.svg" : u"icons/tab-macro.svg")));
+}
+
+bool EditorView::refuseProtected()
+{
+    if (m_selected != DocumentKind::Macro || !m_protected) {
+        return false;
+    }
+    m_context.dialogs.box(fileProtectedBox());
+    return true;
+}
+
+void EditorView::updateCaptions()
+{
+    for (const EditorDocument &each : m_documents) {
+        QString caption = each.caption();
+        caption.replace(u'&', u"&&"_s);
+        m_tabs->setTabText(int(each.kind), caption);
+        m_tabs->setTabToolTip(int(each.kind), each.path);
+    }
+}
+
+void EditorView::UpdateSavedIcon()
+{
+    m_context.status.setSaved(selected().state + 2, savedTooltip(selected()));
+}
+
+void EditorView::setState(EditorDocument &each, qint16 state)
+{
+    if (each.state != state) {
+        each.state = state;
+        UpdateSavedIcon();
+    }
+}
+
+void EditorView::rename(EditorDocument &each, const QString &path)
+{
+    each.path = path;
+    each.name = nameOf(path);
+    updateCaptions();
+}
+
+void EditorView::renameFresh(DocumentKind kind)
+{
+    rename(document(kind), m_context.paths.filesFolder() + freshName(kind));
+}
+
+CharFormat EditorView::plainFormat(DocumentKind kind) const
+{
+    const GlobalSettings &settings = m_context.settings;
+    CharFormat format;
+    format.family = settings.TextFontName;
+    format.pointSize = leadingNumber(settings.TextFontSize);
+    format.bold = settings.TextFontBold != 0;
+    format.colour = kind == DocumentKind::Joystick ? settings.JoystickTextDefaultColour
+                                                   : settings.MacroTextDefaultColour;
+    return format;
+}
+
+void EditorView::applyLook()
+{
+    const BusyGuard busy(*this);
+    const GlobalSettings &settings = m_context.settings;
+    for (const EditorDocument &each : m_documents) {
+        each.control->setLook(each.kind == DocumentKind::Joystick ? settings.BackgroundColour
+                                                                  : settings.MacroBackgroundColour,
+                              plainFormat(each.kind));
+    }
+}
+
+} // namespace zeph

@@ -1,0 +1,190 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#include "editor/file_saving.h"
+
+#include "editor/coloured_copies.h"
+#include "editor/date_stamp.h"
+#include "editor/document_text.h"
+#include "editor/editor_view.h"
+#include "editor/text_control.h"
+#include "editor/use_directives.h"
+#include "platform/clock.h"
+#include "platform/core/file_attributes.h"
+#include "platform/core/text1252.h"
+#include "platform/dialogs.h"
+#include "platform/status_line.h"
+#include "shell/settings/global_settings.h"
+
+namespace zeph {
+
+namespace {
+
+const QString readOnlyTitle = u"Can't save Read Only file"_s;
+
+struct SaveAsLook {
+    QStringView extension;
+    QStringView filter;
+};
+
+constexpr SaveAsLook saveAsLooks[] = {
+    { u"tmj", u"Joystick file (*.tmj)|*.tmj|All files (*.*)|*.*" },
+    { u"tmm", u"Macro file (*.tmm)|*.tmm|All files (*.*)|*.*" },
+};
+
+} // namespace
+
+FileSaving::FileSaving(const Context &context, EditorView &view, ColouredCopies &copies,
+                       UseDirectives &directives)
+    : m_context(context), m_view(view), m_copies(copies), m_directives(directives)
+{
+}
+
+void FileSaving::mnuFileSave_Click()
+{
+    EditorDocument &document = m_view.selected();
+    if (isUntitled(document.name)) {
+        mnuFileSaveAs_Click();
+        return;
+    }
+    if (isReadOnlyFile(document.path)) {
+        m_context.dialogs.tell(readOnlyTitle,
+                               document.path
+                                   + u" is read only. You'll need to save it elsewhere using the "
+                                     "Save As routine. I'll run this for you now."_s,
+                               BoxIcon::Exclamation);
+        mnuFileSaveAs_Click();
+        return;
+    }
+    SaveText(document);
+}
+
+void FileSaving::mnuFileSaveAs_Click()
+{
+    EditorDocument &document = m_view.selected();
+    const SaveAsLook &look = saveAsLooks[size_t(document.kind)];
+    const auto chosen = m_context.dialogs.saveFile(
+        { u"Save file as ..."_s, look.filter.toString(), look.extension.toString(),
+          m_context.paths.filesFolder(), proposedName(document) });
+    if (!chosen || !mayOverwrite(*chosen)) {
+        return;
+    }
+    const QString oldPath = document.path;
+    m_view.rename(document, *chosen);
+    SaveText(document);
+    if (document.state != EditorDocument::Saved) {
+        // The text still belongs to the file that it came from.
+        m_view.rename(document, oldPath);
+        m_view.UpdateSavedIcon();
+    }
+}
+
+void FileSaving::mnuFileSaveBoth_Click()
+{
+    const DocumentKind selected = m_view.selected().kind;
+    m_view.select(DocumentKind::Joystick);
+    mnuFileSave_Click();
+    m_view.select(DocumentKind::Macro);
+    mnuFileSave_Click();
+    m_view.select(selected);
+}
+
+QString FileSaving::proposedName(const EditorDocument &document)
+{
+    const bool macro = document.kind == DocumentKind::Macro;
+    const EditorDocument &other =
+        m_view.document(macro ? DocumentKind::Joystick : DocumentKind::Macro);
+    if (isUntitled(document.name) && !isUntitled(other.name)) {
+        return baseWithDot(other.name) + (macro ? u"tmm"_s : u"tmj"_s);
+    }
+    return document.name;
+}
+
+bool FileSaving::mayOverwrite(const QString &path)
+{
+    if (!fileExists(path)) {
+        return true;
+    }
+    if (!m_context.dialogs.ask(
+            u"OK to overwrite exisiting file?"_s,
+            nameOf(path) + u" already exists. Do you want me to overwrite this file?"_s)) {
+        return false;
+    }
+    if (isReadOnlyFile(path)) {
+        m_context.dialogs.tell(readOnlyTitle,
+                               path
+                                   + u" is read only. Please save the file with a different name "
+                                     "or location."_s,
+                               BoxIcon::Exclamation);
+        return false;
+    }
+    return true;
+}
+
+void FileSaving::SaveText(EditorDocument &document)
+{
+    TextControl &control = *document.control;
+    if (!encodable(document)) {
+        return;
+    }
+    if (m_context.settings.UpdateModified == 1) {
+        ModifyDate(document);
+    }
+    const QTextCursor selection = control.textCursor();
+    if (const auto done = writeFileAtomically(document.path, documentBytes(control.text()));
+        !done) {
+        m_view.setState(document, EditorDocument::Modified);
+        m_context.dialogs.tell(u"I couldn't save your file buddy"_s,
+                               done.error().path
+                                   + u" wasn't saved, and what was there before is untouched. "
+                                     "The system says: "_s
+                                   + done.error().reason,
+                               BoxIcon::Stop);
+        return;
+    }
+    QString status = document.path + u" saved successfully."_s;
+    m_view.setState(document, EditorDocument::Saved);
+    m_view.UpdateSavedIcon();
+    if (const auto copied = m_copies.save(document); !copied) {
+        status += u" Its coloured copy wasn't: "_s + copied.error().reason;
+    }
+    m_context.status.setText(status);
+    if (document.kind == DocumentKind::Joystick) {
+        m_directives.GetUSEZephstatements();
+    }
+    control.setTextCursor(selection);
+    Q_EMIT saved(document.kind, document.path);
+}
+
+bool FileSaving::encodable(EditorDocument &document)
+{
+    const QString text = document.control->text();
+    const qsizetype stranger = firstNot1252(text);
+    if (stranger < 0) {
+        return true;
+    }
+    const qsizetype line = QStringView(text).left(stranger).count(u'\n') + 1;
+    m_view.setState(document, EditorDocument::Modified);
+    m_context.dialogs.tell(
+        u"There's a letter in there that I can't write"_s,
+        document.path + u" wasn't saved: the character \""_s + text[stranger] + u"\" in line "_s
+            + QString::number(line)
+            + u" doesn't exist in the Windows-1252 alphabet, which is all that the Thrustmaster "
+              "software reads. I've selected it for you, so change it and save again."_s,
+        BoxIcon::Exclamation);
+    m_view.select(document.kind);
+    document.control->select(int(stranger), 1);
+    return false;
+}
+
+void FileSaving::ModifyDate(EditorDocument &document)
+{
+    const auto stamp = modifiedStamp(document.control->text(), m_context.clock.now());
+    if (!stamp) {
+        return;
+    }
+    const BusyGuard busy(m_view);
+    document.control->replace(int(stamp->start), int(stamp->length), stamp->text);
+}
+
+} // namespace zeph

@@ -1,0 +1,54 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#include "editor/right_menu.h"
+
+#include "editor/editor_actions.h"
+#include "editor/editor_view.h"
+#include "editor/text_control.h"
+
+#include <QAction>
+#include <QMenu>
+
+namespace zeph {
+
+RightMenu::RightMenu(EditorView &view, EditorActions &actions) : m_view(view), m_actions(actions)
+{
+    for (const DocumentKind kind : { DocumentKind::Joystick, DocumentKind::Macro }) {
+        TextControl *control = view.document(kind).control;
+        control->setContextMenuPolicy(Qt::CustomContextMenu);
+        connect(control, &QWidget::customContextMenuRequested, this,
+                [this, control, kind](const QPoint &at) {
+                    m_view.select(kind);
+                    build()->exec(control->viewport()->mapToGlobal(at));
+                });
+    }
+}
+
+std::unique_ptr<QMenu> RightMenu::build() const
+{
+    auto menu = std::make_unique<QMenu>();
+    menu->setObjectName(u"mnuRHMouse"_s);
+    const bool macro = m_view.selected().kind == DocumentKind::Macro;
+    for (const RightMenuRow &row : rightMenuTable()) {
+        if (row.shown == RightMenuRow::Divider) {
+            menu->addSeparator();
+            continue;
+        }
+        if (row.shown == (macro ? RightMenuRow::JoystickOnly : RightMenuRow::MacroOnly)) {
+            continue;
+        }
+        QAction *target = m_actions.action(QStringView(row.target));
+        const QString caption = QString::fromUtf16(row.caption);
+        QAction *entry =
+            menu->addAction(target->icon(), caption.isEmpty() ? target->text() : caption);
+        entry->setObjectName(QString::fromUtf16(row.name));
+        entry->setEnabled(target->isEnabled());
+        entry->setCheckable(target->isCheckable());
+        entry->setChecked(target->isChecked());
+        connect(entry, &QAction::triggered, target, &QAction::trigger);
+    }
+    return menu;
+}
+
+} // namespace zeph

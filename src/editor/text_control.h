@@ -1,0 +1,47 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "platform/core/rich_text.h"
+
+#include <QPlainTextEdit>
+
+namespace zeph {
+
+/// One of the Editor's two texts: shows a document's text and colours, unwrapped, so that a line is
+/// always a line of the file. Keeps no undo of its own. Positions are 0-based characters.
+class TextControl : public QPlainTextEdit
+{
+    Q_OBJECT
+public:
+    explicit TextControl(QWidget *parent = nullptr);
+
+    /// Background of the whole control and the format of plain text.
+    void setLook(ColorRef background, const CharFormat &plain);
+    const CharFormat &plainFormat() const { return m_plain; }
+
+    /// The text, every character as it is (the toolkit's own call changes some blanks).
+    QString text() const;
+    RichText richText() const;
+    void setText(const QString &text);
+    void setRichText(const RichText &text);
+    /// Replaces a stretch, in the format that stands there; caret and selection of the user move
+    /// along.
+    void replace(int start, int length, const QString &text);
+
+    int selStart() const;
+    int selLength() const;
+    void select(int start, int length);
+    /// 1-based line of the caret.
+    int caretLine() const;
+
+protected:
+    bool canInsertFromMimeData(const QMimeData *source) const override;
+    void insertFromMimeData(const QMimeData *source) override;
+
+private:
+    CharFormat m_plain;
+};
+
+} // namespace zeph

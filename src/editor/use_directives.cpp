@@ -1,0 +1,56 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#include "editor/use_directives.h"
+
+#include "editor/editor_view.h"
+#include "editor/text_control.h"
+
+namespace zeph {
+
+UseDirectives::UseDirectives(const Context &context, EditorView &view)
+    : m_context(context), m_view(view)
+{
+}
+
+void UseDirectives::GetUSEstatements()
+{
+    const QString text = m_view.document(DocumentKind::Joystick).control->text();
+    if (!text.isEmpty()) {
+        m_statements = readUseStatements(text);
+    }
+}
+
+void UseDirectives::GetUSEZephstatements()
+{
+    m_statements = {};
+    GetUSEstatements();
+    m_imageFilePath = found(m_statements.ZephGraphic);
+    m_textFilePath = found(m_statements.ZephReadme);
+    m_view.document(DocumentKind::Joystick).control->select(0, 0);
+    Q_EMIT filesChanged();
+}
+
+void UseDirectives::forgetFiles()
+{
+    m_statements = {};
+    m_imageFilePath.clear();
+    m_textFilePath.clear();
+    Q_EMIT filesChanged();
+}
+
+QString UseDirectives::found(QString &name) const
+{
+    if (name.isEmpty()) {
+        return {};
+    }
+    const QString path =
+        existingPath(folderOf(m_view.document(DocumentKind::Joystick).path) + name);
+    if (path.isEmpty() || !fileExists(path)) {
+        name.clear();
+        return {};
+    }
+    return path;
+}
+
+} // namespace zeph

@@ -1,0 +1,252 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#include "platform/core/rich_text.h"
+
+namespace zeph {
+
+namespace {
+
+// Characters and paragraphs have runs of the same shape: a size and a format.
+qsizetype &sizeOf(CharRun &run)
+{
+    return run.length;
+}
+
+qsizetype &sizeOf(ParagraphRun &run)
+{
+    return run.count;
+}
+
+qsizetype sizeOf(const CharRun &run)
+{
+    return run.length;
+}
+
+qsizetype sizeOf(const ParagraphRun &run)
+{
+    return run.count;
+}
+
+template <class Run> void addRun(std::vector<Run> &runs, qsizetype size, const Run &like)
+{
+    if (size <= 0) {
+        return;
+    }
+    if (!runs.empty() && runs.back().format == like.format) {
+        sizeOf(runs.back()) += size;
+        return;
+    }
+    runs.push_back(like);
+    sizeOf(runs.back()) = size;
+}
+
+/// Makes runs cover exactly a total, without equal neighbours.
+template <class Run> void tidy(std::vector<Run> &runs, qsizetype total)
+{
+    size_t kept = 0;
+    qsizetype covered = 0;
+    for (size_t i = 0; i < runs.size(); ++i) {
+        const qsizetype size = std::min(sizeOf(runs[i]), total - covered);
+        if (size <= 0) {
+            continue;
+        }
+        covered += size;
+        if (kept > 0 && runs[kept - 1].format == runs[i].format) {
+            sizeOf(runs[kept - 1]) += size;
+            continue;
+        }
+        if (kept != i) {
+            runs[kept] = std::move(runs[i]);
+        }
+        sizeOf(runs[kept]) = size;
+        ++kept;
+    }
+    runs.resize(kept);
+    addRun(runs, total - covered, Run());
+}
+
+/// The part of the runs that covers [from, from + size).
+template <class Run>
+std::vector<Run> stretchOf(const std::vector<Run> &runs, qsizetype from, qsizetype size)
+{
+    std::vector<Run> stretch;
+    qsizetype start = 0;
+    for (const Run &run : runs) {
+        const qsizetype end = start + sizeOf(run);
+        addRun(stretch, std::min(end, from + size) - std::max(start, from), run);
+        if (end >= from + size) {
+            break;
+        }
+        start = end;
+    }
+    return stretch;
+}
+
+} // namespace
+
+RichText RichText::plain(QString text, const CharFormat &format, const ParagraphFormat &paragraph)
+{
+    RichText result;
+    result.text = std::move(text);
+    addRun(result.characters, result.text.size(), CharRun{ 0, format });
+    addRun(result.paragraphs, result.paragraphCount(), ParagraphRun{ 0, paragraph });
+    return result;
+}
+
+CharFormat RichText::formatAt(qsizetype position) const
+{
+    qsizetype end = 0;
+    for (const CharRun &run : characters) {
+        end += run.length;
+        if (position < end) {
+            return run.format;
+        }
+    }
+    return end < text.size() || characters.empty() ? CharFormat() : characters.back().format;
+}
+
+RichText RichText::mid(qsizetype from, qsizetype length) const
+{
+    from = std::clamp(from, qsizetype(0), text.size());
+    length = std::clamp(length, qsizetype(0), text.size() - from);
+    RichText result;
+    result.text = text.mid(from, length);
+    result.characters = stretchOf(characters, from, length);
+    result.paragraphs =
+        stretchOf(paragraphs, QStringView(text).left(from).count(u'\n'), result.paragraphCount());
+    result.normalise();
+    return result;
+}
+
+void RichText::append(const RichText &other)
+{
+    if (text.isEmpty()) {
+        // Taken whole: an empty text has no paragraph worth keeping unless the other is empty too.
+        if (!other.text.isEmpty() || paragraphs.empty()) {
+            *this = other;
+        }
+        normalise();
+        return;
+    }
+    if (other.text.isEmpty()) {
+        return;
+    }
+    if (&other == this) {
+        append(RichText(other));
+        return;
+    }
+    const bool startsParagraph = text.endsWith(u'\n');
+    if (startsParagraph && !paragraphs.empty() && --paragraphs.back().count == 0) {
+        paragraphs.pop_back();
+    }
+    qsizetype joined = startsParagraph ? 0 : 1;
+    for (const ParagraphRun &run : other.paragraphs) {
+        addRun(paragraphs, run.count - std::min(joined, run.count), run);
+        joined = 0;
+    }
+    for (const CharRun &run : other.characters) {
+        addRun(characters, run.length, run);
+    }
+    text += other.text;
+}
+
+std::pair<size_t, size_t> RichText::split(qsizetype from, qsizetype length)
+{
+    from = std::clamp(from, qsizetype(0), text.size());
+    const qsizetype to = from + std::clamp(length, qsizetype(0), text.size() - from);
+    qsizetype covered = 0;
+    for (const CharRun &run : characters) {
+        covered += run.length;
+    }
+    if (covered != text.size()) {
+        normalise();
+    }
+    size_t at = 0;
+    qsizetype start = 0;
+    const auto borderAt = [&](qsizetype position) {
+        while (at < characters.size() && start + characters[at].length <= position) {
+            start += characters[at].length;
+            ++at;
+        }
+        if (at == characters.size() || start == position) {
+            return at;
+        }
+        CharRun before = characters[at];
+        before.length = position - start;
+        characters[at].length -= before.length;
+        characters.insert(characters.begin() + std::ptrdiff_t(at), std::move(before));
+        start = position;
+        return ++at;
+    };
+    if (from == to) {
+        return { 0, 0 };
+    }
+    const size_t first = borderAt(from);
+    return { first, borderAt(to) };
+}
+
+void RichText::mergeAround(size_t first, size_t last)
+{
+    if (first == last) {
+        return;
+    }
+    const size_t begin = first == 0 ? 0 : first - 1;
+    const size_t end = std::min(last + 1, characters.size());
+    size_t kept = begin;
+    for (size_t i = begin + 1; i < end; ++i) {
+        if (characters[i].format == characters[kept].format) {
+            characters[kept].length += characters[i].length;
+        } else if (++kept != i) {
+            characters[kept] = std::move(characters[i]);
+        }
+    }
+    characters.erase(characters.begin() + std::ptrdiff_t(kept + 1),
+                     characters.begin() + std::ptrdiff_t(end));
+}
+
+void RichText::normalise()
+{
+    tidy(characters, text.size());
+    tidy(paragraphs, paragraphCount());
+}
+
+RichTextChanges::RichTextChanges(RichText text) : m_text(std::move(text))
+{
+    m_text.normalise();
+    m_formatOf.reserve(size_t(m_text.text.size()));
+    for (const CharRun &run : m_text.characters) {
+        m_formatOf.insert(m_formatOf.end(), size_t(run.length), indexOf(run.format));
+    }
+}
+
+RichTextChanges::Index RichTextChanges::indexOf(const CharFormat &format)
+{
+    const auto known = m_indices.constFind(format);
+    if (known != m_indices.cend()) {
+        return known.value();
+    }
+    const Index index = Index(m_formats.size());
+    m_formats.push_back(format);
+    m_indices.insert(format, index);
+    return index;
+}
+
+RichText RichTextChanges::take()
+{
+    m_text.characters.clear();
+    for (size_t start = 0; start < m_formatOf.size();) {
+        size_t end = start;
+        while (end < m_formatOf.size() && m_formatOf[end] == m_formatOf[start]) {
+            ++end;
+        }
+        m_text.characters.push_back({ qsizetype(end - start), m_formats[m_formatOf[start]] });
+        start = end;
+    }
+    m_formats.clear();
+    m_indices.clear();
+    m_formatOf.clear();
+    return std::exchange(m_text, {});
+}
+
+} // namespace zeph

@@ -1,0 +1,420 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#include "platform/core/rtf_reader.h"
+
+#include <algorithm>
+
+namespace zeph {
+
+namespace rtf {
+
+namespace {
+
+// Word nests a few dozen groups; what goes beyond this was made to do harm.
+constexpr size_t maxDepth = 256;
+constexpr int maxIndentTwips = 31680;
+
+bool isLineEnd(QChar c)
+{
+    return c == u'\n' || c == u'\r' || c == QChar::LineSeparator || c == QChar::ParagraphSeparator;
+}
+
+/// Whether a list marker is a picture of a bullet, and not a number that the text would miss.
+bool isBullet(QStringView marker)
+{
+    return !marker.isEmpty() && !marker.endsWith(u'.') && !marker.endsWith(u')')
+        && std::ranges::none_of(marker, [](QChar c) { return c.isDigit(); });
+}
+
+} // namespace
+
+Reader::Reader(QByteArrayView bytes) : m_lexer(bytes)
+{
+    // Words take about as much room as text; where they do not, the text grows.
+    m_result.text.reserve(bytes.size() / 2);
+}
+
+Expected<RichText, RtfError> Reader::read()
+{
+    using Kind = Token::Kind;
+    const Token open = m_lexer.next();
+    const Token first = m_lexer.next();
+    if (open.kind != Kind::Open || first.kind != Kind::Word || first.text != "rtf") {
+        return Unexpected<RtfError>({ u"The file is not in Rich Text Format."_s, 0 });
+    }
+    m_groups.emplace_back();
+    for (;;) {
+        Token token = m_lexer.next();
+        if (m_toStepOver > 0 && stepOverFallback(token)) {
+            continue;
+        }
+        if (token.kind != Kind::Text && token.kind != Kind::Byte && !m_bytes.isEmpty()) {
+            flushBytes();
+        }
+        const bool starred = std::exchange(m_starred, false);
+        switch (token.kind) {
+        case Kind::End:
+            return Unexpected<RtfError>(error("The file ends within a group."));
+        case Kind::Open:
+            if (!openGroup()) {
+                return Unexpected<RtfError>(error("The file's groups are nested too deeply."));
+            }
+            break;
+        case Kind::Close:
+            if (m_groups.size() == 1) {
+                RichText result = finish();
+                if (m_lexer.next().kind == Kind::Close) {
+                    return Unexpected<RtfError>(error("A group is closed that was not opened."));
+                }
+                return result;
+            }
+            closeGroup();
+            break;
+        case Kind::Word:
+            m_starred = starred;
+            handleWord(token);
+            m_starred = false;
+            break;
+        case Kind::Symbol:
+            handleSymbol(token.text.front());
+            break;
+        case Kind::Byte:
+            putByte(token.value);
+            break;
+        case Kind::Text:
+            putText(token.text);
+            break;
+        }
+    }
+}
+
+RtfError Reader::error(const char *reason) const
+{
+    return { QString::fromLatin1(reason), m_lexer.offset() };
+}
+
+/// Takes what stands in for a \uN off the input; gives whether that was all of the token.
+bool Reader::stepOverFallback(Token &token)
+{
+    switch (token.kind) {
+    case Token::Kind::Open:
+    case Token::Kind::Close:
+    case Token::Kind::End:
+        m_toStepOver = 0;
+        return false;
+    case Token::Kind::Text: {
+        const size_t taken = std::min(size_t(m_toStepOver), token.text.size());
+        m_toStepOver -= int(taken);
+        token.text.remove_prefix(taken);
+        return token.text.empty();
+    }
+    default:
+        --m_toStepOver;
+        return true;
+    }
+}
+
+bool Reader::openGroup()
+{
+    if (m_groups.size() >= maxDepth) {
+        return false;
+    }
+    m_groups.push_back(GroupState(state()));
+    return true;
+}
+
+void Reader::closeGroup()
+{
+    const Destination closed = state().destination;
+    if (closed == Destination::Fonts) {
+        commitFont();
+    }
+    m_groups.pop_back();
+    if (closed == state().destination) {
+        return;
+    }
+    if (closed == Destination::Fonts) {
+        // Text that names no font is in the default one, which is known only now.
+        useCodePageOf(state().look.font < 0 ? m_defaultFont : state().look.font);
+    } else if (closed == Destination::Marker) {
+        finishMarker();
+    } else if (closed == Destination::BulletForm) {
+        state().bullet = std::exchange(m_isBulletForm, false) || state().bullet;
+    }
+}
+
+void Reader::handleWord(const Token &token)
+{
+    if (state().destination == Destination::Skipped) {
+        return;
+    }
+    const Word *const word = findWord(token.text);
+    if (m_starred && !(word && word->isDestination)) {
+        state().destination = Destination::Skipped;
+    } else if (word) {
+        (this->*word->handler)(word->argument, token);
+    }
+}
+
+void Reader::handleSymbol(char symbol)
+{
+    switch (symbol) {
+    case '*':
+        m_starred = true;
+        break;
+    case '\r':
+    case '\n':
+        endParagraph(1, {});
+        break;
+    case '\t':
+    case '\\':
+    case '{':
+    case '}':
+        putCharacter(symbol, {});
+        break;
+    case '~':
+        putCharacter(0xA0, {});
+        break;
+    case '-':
+        putCharacter(0xAD, {});
+        break;
+    case '_':
+        putCharacter(0x2011, {});
+        break;
+    default:
+        break;
+    }
+}
+
+QString *Reader::target(qsizetype added)
+{
+    switch (state().destination) {
+    case Destination::Fonts:
+        return &m_font.family;
+    case Destination::Marker:
+        return &m_marker;
+    case Destination::Document:
+        break;
+    default:
+        return nullptr;
+    }
+    if (m_result.characters.empty() || !(state().look == m_runLook)) {
+        m_runLook = state().look;
+        m_result.characters.push_back({ 0, formatOf(m_runLook) });
+    }
+    m_result.characters.back().length += added;
+    m_textParagraph = paragraphFormat();
+    m_paragraphHasText = true;
+    m_endsWithParagraph = false;
+    return &m_result.text;
+}
+
+void Reader::putText(std::string_view bytes)
+{
+    switch (state().destination) {
+    case Destination::Skipped:
+    case Destination::BulletForm:
+        return;
+    case Destination::Fonts:
+        putInFont(bytes);
+        return;
+    case Destination::Colours:
+        putInColours(bytes);
+        return;
+    default:
+        break;
+    }
+    const HighHalf *const high = highHalf();
+    if (!high) {
+        m_bytes.append(bytes.data(), qsizetype(bytes.size()));
+        return;
+    }
+    QString &text = *target(qsizetype(bytes.size()));
+    const qsizetype size = text.size();
+    text.resize(size + qsizetype(bytes.size()));
+    QChar *to = text.data() + size;
+    for (const char c : bytes) {
+        const uchar byte = uchar(c);
+        *to++ = QChar(byte < 0x80 ? char16_t(byte) : (*high)[byte - 0x80U]);
+    }
+}
+
+void Reader::putByte(int byte)
+{
+    if (byte == '\n' || byte == '\r') {
+        flushBytes();
+        endParagraph(0, {});
+    } else if (const HighHalf *const high = highHalf()) {
+        putCharacter(byte < 0x80 ? byte : (*high)[size_t(byte) - 0x80], {});
+    } else if (state().destination != Destination::Skipped) {
+        m_bytes.append(char(byte));
+    }
+}
+
+void Reader::putCharacter(int character, const Token &)
+{
+    if (isLineEnd(QChar(character))) {
+        endParagraph(0, {});
+    } else if (QString *const text = target(1)) {
+        text->append(QChar(character));
+    }
+}
+
+void Reader::putCharacters(QStringView characters)
+{
+    for (const QChar c : characters) {
+        putCharacter(c.unicode(), {});
+    }
+}
+
+void Reader::putUnicode(int, const Token &token)
+{
+    m_toStepOver = state().unicodeFallback;
+    // Written as a number of 16 bits with its sign; some writers give the whole code point.
+    const int value = token.value < 0 ? token.value + 0x10000 : token.value;
+    if (value < 0 || value > 0x10FFFF) {
+        putCharacter(QChar::ReplacementCharacter, {});
+    } else if (value > 0xFFFF) {
+        putCharacter(QChar::highSurrogate(char32_t(value)), {});
+        putCharacter(QChar::lowSurrogate(char32_t(value)), {});
+    } else {
+        putCharacter(value, {});
+    }
+}
+
+void Reader::endParagraph(int isHard, const Token &)
+{
+    if (state().destination != Destination::Document) {
+        return;
+    }
+    target(1)->append(u'\n');
+    addParagraph(m_textParagraph);
+    m_paragraphHasText = false;
+    m_endsWithParagraph = isHard != 0;
+}
+
+void Reader::addParagraph(const ParagraphFormat &format)
+{
+    if (!m_result.paragraphs.empty() && m_result.paragraphs.back().format == format) {
+        ++m_result.paragraphs.back().count;
+    } else {
+        m_result.paragraphs.push_back({ 1, format });
+    }
+}
+
+const HighHalf *Reader::highHalf()
+{
+    if (m_highHalfOf != state().codePage) {
+        m_highHalfOf = state().codePage;
+        m_highHalf = highHalfOf(m_highHalfOf);
+    }
+    return m_highHalf;
+}
+
+void Reader::flushBytes()
+{
+    if (!m_bytes.isEmpty()) {
+        const QByteArray bytes = std::exchange(m_bytes, {});
+        putCharacters(decoded(bytes, state().codePage));
+    }
+}
+
+/// Raw text of the font table: a name ends at ";". One that is spelled \'3b belongs to the name.
+void Reader::putInFont(std::string_view bytes)
+{
+    for (const char c : bytes) {
+        if (c == ';') {
+            flushBytes();
+            commitFont();
+        } else {
+            putByte(uchar(c));
+        }
+    }
+}
+
+void Reader::startFont(int number)
+{
+    commitFont();
+    m_fontNumber = number;
+    m_font = {};
+    state().codePage = m_documentCodePage;
+}
+
+void Reader::commitFont()
+{
+    m_font.family = m_font.family.trimmed();
+    if (!m_font.family.isEmpty()) {
+        m_fonts.insert(m_fontNumber, m_font);
+    }
+    m_font.family.clear();
+}
+
+void Reader::putInColours(std::string_view bytes)
+{
+    for (const char c : bytes) {
+        if (c == ';') {
+            m_colours.push_back(std::exchange(m_colour, std::nullopt));
+        }
+    }
+}
+
+void Reader::finishMarker()
+{
+    const QString marker = std::exchange(m_marker, {});
+    const QStringView sign = QStringView(marker).trimmed();
+    if (isBullet(sign)) {
+        state().bullet = true;
+    } else if (!sign.isEmpty()) {
+        putCharacters(marker);
+    }
+}
+
+CharFormat Reader::formatOf(const Look &look) const
+{
+    CharFormat format;
+    const auto font = m_fonts.constFind(look.font < 0 ? m_defaultFont : look.font);
+    if (font != m_fonts.cend()) {
+        format.family = font->family;
+    }
+    format.pointSize = look.halfPoints / 2.0;
+    format.bold = look.bold;
+    format.italic = look.italic;
+    format.underline = look.underline;
+    if (look.colour >= 0 && size_t(look.colour) < m_colours.size()) {
+        format.colour = m_colours[size_t(look.colour)];
+    }
+    return format;
+}
+
+/// A paragraph's place is where its first line begins: a hanging first line moves it to the left.
+ParagraphFormat Reader::paragraphFormat() const
+{
+    const GroupState &group = m_groups.back();
+    const int left = group.leftTwips + std::min(group.firstTwips, 0);
+    return { std::clamp(left, -maxIndentTwips, maxIndentTwips), group.alignment, group.bullet };
+}
+
+RichText Reader::finish()
+{
+    flushBytes();
+    if (m_endsWithParagraph) {
+        // Every writer closes the last paragraph too; behind it none begins.
+        m_result.text.chop(1);
+        --m_result.characters.back().length;
+    } else {
+        addParagraph(m_paragraphHasText ? m_textParagraph : paragraphFormat());
+    }
+    m_result.text.squeeze();
+    m_result.normalise();
+    return std::move(m_result);
+}
+
+} // namespace rtf
+
+Expected<RichText, RtfError> readRtf(QByteArrayView bytes)
+{
+    return rtf::Reader(bytes).read();
+}
+
+} // namespace zeph

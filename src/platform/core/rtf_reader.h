@@ -1,0 +1,147 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+// The reader's state, for the two files that make it: the machine and the words.
+
+#include "platform/core/rtf.h"
+#include "platform/core/rtf_code_pages.h"
+#include "platform/core/rtf_lexer.h"
+
+#include <QHash>
+
+namespace zeph::rtf {
+
+/// What the text of a group is for.
+enum class Destination : quint8 { Document, Fonts, Colours, Marker, BulletForm, Skipped };
+
+/// How characters look, by the numbers that the file gives; -1 where it has said nothing.
+struct Look {
+    int font = -1;
+    int halfPoints = 0;
+    int colour = -1;
+    bool bold = false;
+    bool italic = false;
+    bool underline = false;
+
+    friend bool operator==(const Look &, const Look &) = default;
+};
+
+/// What a group restores at its end.
+struct GroupState {
+    Look look;
+    int leftTwips = 0;
+    int firstTwips = 0;
+    int codePage = 1252;
+    int unicodeFallback = 1; ///< characters behind \uN that stand in for it
+    ParagraphAlignment alignment = ParagraphAlignment::Left;
+    bool bullet = false;
+    Destination destination = Destination::Document;
+};
+
+struct Font {
+    QString family;
+    int codePage = 0; ///< 0: the document's own
+};
+
+/// Reads one input, once. Groups are kept on a stack of its own, so that their depth is bounded by
+/// a number and not by the thread's stack.
+class Reader
+{
+public:
+    explicit Reader(QByteArrayView bytes);
+
+    Expected<RichText, RtfError> read();
+
+    // What the words do; the table of words names these.
+    using Handler = void (Reader::*)(int argument, const Token &token);
+    void putCharacter(int character, const Token &);
+    void endParagraph(int isHard, const Token &);
+    void setBold(int, const Token &token);
+    void setItalic(int, const Token &token);
+    void setUnderline(int on, const Token &token);
+    void setFont(int, const Token &token);
+    void setFontSize(int, const Token &token);
+    void setColour(int, const Token &token);
+    void resetLook(int, const Token &);
+    void resetParagraph(int, const Token &);
+    void setLeftIndent(int, const Token &token);
+    void setFirstIndent(int, const Token &token);
+    void setAlignment(int alignment, const Token &);
+    void putUnicode(int, const Token &token);
+    void setUnicodeFallback(int, const Token &token);
+    void setDocumentCodePage(int codePage, const Token &token);
+    void setDefaultFont(int, const Token &token);
+    void setCharset(int, const Token &token);
+    void setFontCodePage(int, const Token &token);
+    void setColourPart(int shift, const Token &token);
+    void setBulletForm(int, const Token &);
+    void enter(int destination, const Token &);
+
+private:
+    GroupState &state() { return m_groups.back(); }
+
+    bool openGroup();
+    void closeGroup();
+    void handleWord(const Token &token);
+    void handleSymbol(char symbol);
+    bool stepOverFallback(Token &token);
+    RtfError error(const char *reason) const;
+    RichText finish();
+
+    void putText(std::string_view bytes);
+    void putByte(int byte);
+    void putCharacters(QStringView characters);
+    void putInFont(std::string_view bytes);
+    void putInColours(std::string_view bytes);
+    void flushBytes();
+    const HighHalf *highHalf();
+    /// The text that characters go into now, or null where nobody wants them.
+    QString *target(qsizetype added);
+
+    void startFont(int number);
+    void useCodePageOf(int font);
+    void commitFont();
+    void finishMarker();
+    CharFormat formatOf(const Look &look) const;
+    ParagraphFormat paragraphFormat() const;
+    void addParagraph(const ParagraphFormat &format);
+
+    Lexer m_lexer;
+    std::vector<GroupState> m_groups;
+    RichText m_result;
+    QByteArray m_bytes; ///< of a code page that may need two for a character, not yet decoded
+    int m_toStepOver = 0; ///< characters that stand in for a \uN
+    bool m_starred = false; ///< behind \*
+
+    QHash<int, Font> m_fonts;
+    std::vector<std::optional<ColorRef>> m_colours;
+    int m_documentCodePage = 1252;
+    int m_defaultFont = 0;
+
+    int m_fontNumber = 0;
+    Font m_font;
+    std::optional<ColorRef> m_colour;
+    QString m_marker;
+    bool m_isBulletForm = false;
+
+    Look m_runLook; ///< of the last run
+    const HighHalf *m_highHalf = nullptr;
+    int m_highHalfOf = 0;
+    ParagraphFormat m_textParagraph; ///< at the last text of the open paragraph
+    bool m_paragraphHasText = false;
+    bool m_endsWithParagraph = false; ///< nothing stands behind the last \par
+};
+
+struct Word {
+    std::string_view name;
+    Reader::Handler handler;
+    int argument = 0;
+    bool isDestination = false;
+};
+
+/// The word of that name, or null for one that is passed over.
+const Word *findWord(std::string_view name);
+
+} // namespace zeph::rtf

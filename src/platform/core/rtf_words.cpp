@@ -1,0 +1,267 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#include "platform/core/rtf_reader.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace zeph::rtf {
+
+namespace {
+
+// Beyond Word's own limits, and far from where sums of them overflow.
+constexpr int maxIndentTwips = 100000;
+constexpr int maxHalfPoints = 3276;
+constexpr int maxFallback = 1000;
+
+bool isOn(const Token &token)
+{
+    return !token.hasValue || token.value != 0;
+}
+
+constexpr Word destination(std::string_view name, Destination into)
+{
+    return { name, &Reader::enter, int(into), true };
+}
+
+constexpr Word skipped(std::string_view name)
+{
+    return destination(name, Destination::Skipped);
+}
+
+constexpr Word character(std::string_view name, char16_t character)
+{
+    return { name, &Reader::putCharacter, character };
+}
+
+// Sorted by name, bytewise: found by bisection.
+constexpr Word words[] = {
+    { "ansi", &Reader::setDocumentCodePage, 1252 },
+    { "ansicpg", &Reader::setDocumentCodePage, 0 },
+    skipped("atnid"),
+    { "b", &Reader::setBold },
+    { "blue", &Reader::setColourPart, 16 },
+    character("bullet", 0x2022),
+    character("cell", u'\t'),
+    { "cf", &Reader::setColour },
+    destination("colortbl", Destination::Colours),
+    skipped("comment"),
+    { "cpg", &Reader::setFontCodePage },
+    { "deff", &Reader::setDefaultFont },
+    character("emdash", 0x2014),
+    character("emspace", 0x2003),
+    character("endash", 0x2013),
+    character("enspace", 0x2002),
+    { "f", &Reader::setFont },
+    { "fcharset", &Reader::setCharset },
+    { "fi", &Reader::setFirstIndent },
+    skipped("filetbl"),
+    skipped("fldinst"),
+    destination("fonttbl", Destination::Fonts),
+    skipped("footer"),
+    skipped("footerf"),
+    skipped("footerl"),
+    skipped("footerr"),
+    skipped("footnote"),
+    { "fs", &Reader::setFontSize },
+    { "green", &Reader::setColourPart, 8 },
+    skipped("header"),
+    skipped("headerf"),
+    skipped("headerl"),
+    skipped("headerr"),
+    { "i", &Reader::setItalic },
+    skipped("info"),
+    character("ldblquote", 0x201C),
+    { "li", &Reader::setLeftIndent },
+    { "line", &Reader::endParagraph, 0 },
+    destination("listtext", Destination::Marker),
+    character("lquote", 0x2018),
+    character("ltrmark", 0x200E),
+    { "mac", &Reader::setDocumentCodePage, 10000 },
+    character("nestcell", u'\t'),
+    { "nestrow", &Reader::endParagraph, 0 },
+    skipped("nonesttables"),
+    skipped("object"),
+    { "par", &Reader::endParagraph, 1 },
+    { "pard", &Reader::resetParagraph },
+    { "pc", &Reader::setDocumentCodePage, 437 },
+    { "pca", &Reader::setDocumentCodePage, 850 },
+    skipped("pict"),
+    { "plain", &Reader::resetLook },
+    destination("pn", Destination::BulletForm),
+    { "pnlvlblt", &Reader::setBulletForm },
+    destination("pntext", Destination::Marker),
+    skipped("private"),
+    { "qc", &Reader::setAlignment, int(ParagraphAlignment::Centre) },
+    { "qj", &Reader::setAlignment, int(ParagraphAlignment::Left) },
+    { "ql", &Reader::setAlignment, int(ParagraphAlignment::Left) },
+    character("qmspace", 0x2005),
+    { "qr", &Reader::setAlignment, int(ParagraphAlignment::Right) },
+    character("rdblquote", 0x201D),
+    { "red", &Reader::setColourPart, 0 },
+    skipped("revtbl"),
+    { "row", &Reader::endParagraph, 0 },
+    character("rquote", 0x2019),
+    skipped("rtblalt"),
+    character("rtlmark", 0x200F),
+    skipped("rxe"),
+    { "sect", &Reader::endParagraph, 1 },
+    skipped("shp"),
+    skipped("stylesheet"),
+    character("tab", u'\t'),
+    skipped("tc"),
+    skipped("tcn"),
+    skipped("txe"),
+    { "u", &Reader::putUnicode },
+    { "uc", &Reader::setUnicodeFallback },
+    { "ul", &Reader::setUnderline, 1 },
+    { "uld", &Reader::setUnderline, 1 },
+    { "uldash", &Reader::setUnderline, 1 },
+    { "uldashd", &Reader::setUnderline, 1 },
+    { "uldashdd", &Reader::setUnderline, 1 },
+    { "uldb", &Reader::setUnderline, 1 },
+    { "ulnone", &Reader::setUnderline, 0 },
+    { "ulth", &Reader::setUnderline, 1 },
+    { "ulw", &Reader::setUnderline, 1 },
+    { "ulwave", &Reader::setUnderline, 1 },
+    skipped("xe"),
+    character("zwj", 0x200D),
+    character("zwnj", 0x200C),
+};
+
+static_assert(std::ranges::is_sorted(words, {}, &Word::name));
+
+} // namespace
+
+const Word *findWord(std::string_view name)
+{
+    const auto *const word = std::ranges::lower_bound(words, name, {}, &Word::name);
+    return word != std::end(words) && word->name == name ? word : nullptr;
+}
+
+void Reader::setBold(int, const Token &token)
+{
+    state().look.bold = isOn(token);
+}
+
+void Reader::setItalic(int, const Token &token)
+{
+    state().look.italic = isOn(token);
+}
+
+void Reader::setUnderline(int on, const Token &token)
+{
+    state().look.underline = on != 0 && isOn(token);
+}
+
+void Reader::setFont(int, const Token &token)
+{
+    if (state().destination == Destination::Fonts) {
+        startFont(token.value);
+        return;
+    }
+    state().look.font = token.value;
+    useCodePageOf(token.value);
+}
+
+void Reader::setFontSize(int, const Token &token)
+{
+    state().look.halfPoints = std::clamp(token.value, 0, maxHalfPoints);
+}
+
+void Reader::setColour(int, const Token &token)
+{
+    state().look.colour = token.value;
+}
+
+void Reader::resetLook(int, const Token &)
+{
+    state().look = {};
+    useCodePageOf(m_defaultFont);
+}
+
+void Reader::useCodePageOf(int font)
+{
+    const auto found = m_fonts.constFind(font);
+    const int codePage = found == m_fonts.cend() ? 0 : found->codePage;
+    state().codePage = codePage == 0 ? m_documentCodePage : codePage;
+}
+
+void Reader::resetParagraph(int, const Token &)
+{
+    state().leftTwips = 0;
+    state().firstTwips = 0;
+    state().alignment = ParagraphAlignment::Left;
+    state().bullet = false;
+}
+
+void Reader::setLeftIndent(int, const Token &token)
+{
+    state().leftTwips = std::clamp(token.value, -maxIndentTwips, maxIndentTwips);
+}
+
+void Reader::setFirstIndent(int, const Token &token)
+{
+    state().firstTwips = std::clamp(token.value, -maxIndentTwips, maxIndentTwips);
+}
+
+void Reader::setAlignment(int alignment, const Token &)
+{
+    state().alignment = ParagraphAlignment(alignment);
+}
+
+void Reader::setUnicodeFallback(int, const Token &token)
+{
+    state().unicodeFallback = std::clamp(token.value, 0, maxFallback);
+}
+
+void Reader::setDocumentCodePage(int codePage, const Token &token)
+{
+    m_documentCodePage = codePage == 0 ? token.value : codePage;
+    state().codePage = m_documentCodePage;
+}
+
+void Reader::setDefaultFont(int, const Token &token)
+{
+    m_defaultFont = token.value;
+}
+
+void Reader::setCharset(int, const Token &token)
+{
+    if (state().destination == Destination::Fonts) {
+        m_font.codePage = codePageOfCharset(token.value);
+        state().codePage = m_font.codePage == 0 ? m_documentCodePage : m_font.codePage;
+    }
+}
+
+void Reader::setFontCodePage(int, const Token &token)
+{
+    if (state().destination == Destination::Fonts && token.value > 0) {
+        m_font.codePage = token.value;
+        state().codePage = token.value;
+    }
+}
+
+void Reader::setColourPart(int shift, const Token &token)
+{
+    if (state().destination == Destination::Colours) {
+        const ColorRef part = ColorRef(std::clamp(token.value, 0, 255)) << shift;
+        m_colour = (m_colour.value_or(0) & ~(ColorRef(0xFF) << shift)) | part;
+    }
+}
+
+void Reader::setBulletForm(int, const Token &)
+{
+    m_isBulletForm = m_isBulletForm || state().destination == Destination::BulletForm;
+}
+
+void Reader::enter(int destination, const Token &)
+{
+    state().destination = Destination(destination);
+    if (state().destination == Destination::Marker) {
+        m_marker.clear();
+    }
+}
+
+} // namespace zeph::rtf

@@ -1,0 +1,98 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#include "platform/rich_text_box.h"
+
+#include "platform/core/text_search.h"
+#include "platform/rich_text_document.h"
+
+#include <QKeyEvent>
+#include <QScrollBar>
+
+#include <algorithm>
+
+namespace zeph {
+
+namespace {
+
+// A quarter of an inch, by which a bullet's text hangs.
+constexpr double bulletIndentPixels = 24;
+
+} // namespace
+
+RichTextBox::RichTextBox(QWidget *parent) : QTextEdit(parent)
+{
+    document()->setIndentWidth(bulletIndentPixels);
+}
+
+RichText RichTextBox::richText() const
+{
+    return richTextOf(*document());
+}
+
+void RichTextBox::setRichText(const RichText &text)
+{
+    zeph::setRichText(*document(), text);
+    select(0, 0);
+    scrollTo(0);
+}
+
+int RichTextBox::selStart() const
+{
+    return textCursor().selectionStart();
+}
+
+int RichTextBox::selLength() const
+{
+    const QTextCursor cursor = textCursor();
+    return cursor.selectionEnd() - cursor.selectionStart();
+}
+
+QString RichTextBox::selText() const
+{
+    return richTextOf(*document(), selStart(), selLength()).text;
+}
+
+void RichTextBox::select(int start, int length)
+{
+    const int size = document()->characterCount() - 1;
+    const int from = std::clamp(start, 0, size);
+    QTextCursor cursor(document());
+    cursor.setPosition(from);
+    cursor.setPosition(from + std::clamp(length, 0, size - from), QTextCursor::KeepAnchor);
+    setTextCursor(cursor);
+}
+
+void RichTextBox::scrollTo(int position)
+{
+    QTextCursor cursor(document());
+    cursor.setPosition(std::clamp(position, 0, document()->characterCount() - 1));
+    // Laying out is put off until it is asked for, and the scroll bar's range comes with it.
+    document()->size();
+    QScrollBar *const bar = verticalScrollBar();
+    bar->setValue(bar->value() + cursorRect(cursor).top());
+}
+
+int RichTextBox::find(QStringView word, int from, int options)
+{
+    const qsizetype hit = findText(plainTextOf(*document()), word, from, options);
+    if (hit < 0) {
+        return -1;
+    }
+    select(int(hit), int(word.size()));
+    scrollTo(int(hit));
+    return int(hit);
+}
+
+void RichTextBox::keyPressEvent(QKeyEvent *event)
+{
+    if (event->matches(QKeySequence::InsertLineSeparator) && !isReadOnly()) {
+        textCursor().insertBlock();
+        ensureCursorVisible();
+        event->accept();
+        return;
+    }
+    QTextEdit::keyPressEvent(event);
+}
+
+} // namespace zeph
