@@ -33,7 +33,9 @@ ToolchainHandshake::ToolchainHandshake(const Context &context, QWidget *mainWind
     : QObject(parent), m_context(context), m_mainWindow(mainWindow)
 {
     m_compiler.timer.setObjectName(u"DownloadTimer"_s);
+    m_compiler.timer.setParent(this);
     m_mode.timer.setObjectName(u"StatusModeTimer"_s);
+    m_mode.timer.setParent(this);
     connect(&m_compiler.timer, &QTimer::timeout, this, &ToolchainHandshake::DownloadTimer_Timer);
     connect(&m_mode.timer, &QTimer::timeout, this, &ToolchainHandshake::StatusModeTimer_Timer);
 }
