@@ -7,9 +7,9 @@
 
 #include "editor/context.h"
 #include "platform/clock.h"
+#include "platform/fakes/fake_keyboard.h"
 #include "platform/fakes/fake_launcher.h"
 #include "platform/fakes/scripted_dialogs.h"
-#include "platform/keyboard.h"
 #include "platform/status_line.h"
 #include "shell/settings/global_settings.h"
 #include "tests/support/temp_folder.h"
@@ -22,13 +22,6 @@
 #include <QWidget>
 
 namespace zeph::test {
-
-class DeadKeyboard : public Keyboard
-{
-public:
-    QString layoutName() const override { return {}; }
-    bool loadLayout(const QString &) override { return false; }
-};
 
 /// A fixture for everything that runs tools.
 class ToolchainBench : public testing::Test
@@ -106,7 +99,7 @@ protected:
     ScriptedDialogs dialogs;
     FakeLauncher launcher;
     Clock clock;
-    DeadKeyboard keyboard;
+    FakeKeyboard keyboard;
     Context context{ paths, settings, status, dialogs, launcher, clock, keyboard };
     QWidget mainWindow;
     std::unique_ptr<ToolchainHandshake> handshake;
