@@ -30,7 +30,9 @@ void CompilerHelp::load(const QString &path)
 {
     m_ui->RichTextCodes->clear();
     const auto codes = readErrorCodes(path);
-    m_ui->RichTextCodes->setRichText(codes ? *codes : RichText::plain(codes.error()));
+    m_ui->RichTextCodes->setRichText(
+        codes ? *codes
+              : RichText::plain(u"The explanations could not be read.\n\n"_s + codes.error()));
     const double size = codes ? codes->formatAt(0).pointSize : 0;
     const QSignalBlocker quiet(m_ui->FontSize);
     m_ui->FontSize->setValue(qRound(size > 0 ? size : m_ui->RichTextCodes->font().pointSizeF()));
@@ -43,6 +45,8 @@ void CompilerHelp::setFontSize(int points)
     QTextCharFormat size;
     size.setFontPointSize(points);
     all.mergeCharFormat(size);
+    // The lines above have moved the entry.
+    m_ui->RichTextCodes->scrollTo(m_ui->RichTextCodes->selStart());
 }
 
 void CompilerHelp::ShowTheError(const CompilerError &error)

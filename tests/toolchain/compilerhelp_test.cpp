@@ -107,6 +107,7 @@ TEST_F(CompilerHelpTest, AMissingFileIsToldInItsPlace)
 {
     const QString path = folder.file(u"Info/Error codes.rtf"_s);
     window = std::make_unique<CompilerHelp>(path);
+    EXPECT_TRUE(codes()->toPlainText().startsWith(u"The explanations could not be read."_s));
     EXPECT_TRUE(codes()->toPlainText().contains(path));
     window->ShowTheError(error(u"ERROR 1013: x"_s));
     EXPECT_EQ(label(u"LabelFile"_s), u"File: Untitled.tmm");
@@ -124,6 +125,14 @@ TEST_F(CompilerHelpTest, TheFontSizeControlChangesTheWholeTextAndKeepsTheSelecti
     EXPECT_TRUE(text.formatAt(0).bold);
     EXPECT_EQ(text.formatAt(text.text.size() - 2).pointSize, 16);
     EXPECT_EQ(codes()->selText(), u"ERROR 1002: heading");
+}
+
+TEST_F(CompilerHelpTest, TheEntryStaysInViewWhenTheTextGrows)
+{
+    open(manyCodes());
+    window->ShowTheError(error(u"ERROR 1030"_s));
+    window->findChild<QSpinBox *>(u"FontSize"_s)->setValue(30);
+    EXPECT_TRUE(codes()->viewport()->rect().contains(codes()->cursorRect().center()));
 }
 
 TEST_F(CompilerHelpTest, ShowLineAsksForTheErrorsLine)
