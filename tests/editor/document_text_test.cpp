@@ -15,7 +15,7 @@ TEST(DocumentText, EachKindOfLineEndEndsALine)
 
 TEST(DocumentText, CtrlZIsACharacter)
 {
-    EXPECT_EQ(documentText("a\x1Ab").value(), u"a\x1A"_s + u"b"_s);
+    EXPECT_EQ(documentText("a\x1A" "b").value(), u"a\u001Ab");
 }
 
 TEST(DocumentText, ANulIsAnErrorWithItsPlace)
