@@ -97,6 +97,13 @@ TEST_F(Compiler, TakesTheMacroFileOfTheSameNameWhenAsked)
     EXPECT_EQ(value(u"Status"_s), u"OK");
 }
 
+TEST_F(Compiler, AUseMdefThatNamesNothingIsNone)
+{
+    folder.write(u"a.tmm"_s, "Fire = (b\r\n");
+    run(u"/CO"_s, folder.write(u"a.tmj"_s, "USE MDEF Rem none\r\nBTN S1 Fire\r\n"));
+    EXPECT_TRUE(value(u"ErrorCode"_s).startsWith(u"ERROR 1013"));
+}
+
 TEST_F(Compiler, TellsAFileThatIsNotThere)
 {
     EXPECT_EQ(run(u"/CO"_s, folder.file(u"none.tmj"_s)).exitCode, 1);
