@@ -10,6 +10,7 @@
 #include <QScrollBar>
 
 #include <algorithm>
+#include <cmath>
 
 namespace zeph {
 
@@ -67,9 +68,10 @@ void RichTextBox::scrollTo(int position)
 {
     QTextCursor cursor(document());
     cursor.setPosition(std::clamp(position, 0, document()->characterCount() - 1));
-    // Laying out is put off until it is asked for, and the scroll bar's range comes with it.
-    document()->size();
+    // The toolkit lays out in steps, and tells the scroll bar its range only from the event loop.
+    const int height = int(std::ceil(document()->size().height()));
     QScrollBar *const bar = verticalScrollBar();
+    bar->setMaximum(std::max(bar->maximum(), height - viewport()->height()));
     bar->setValue(bar->value() + cursorRect(cursor).top());
 }
 

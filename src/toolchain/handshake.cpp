@@ -63,16 +63,13 @@ ExchangeEnd ToolchainHandshake::runModeRequest(const Launch &launch)
         m_mode, [this] { return inWords(hotasIni().clearModeStatus()); }, launch);
 }
 
-ExchangeEnd ToolchainHandshake::run(Channel &channel, const Clear &clear, Launch launch)
+ExchangeEnd ToolchainHandshake::run(Channel &channel, const Clear &clear, const Launch &launch)
 {
     // With an old status left in place the first poll would take it for the new verdict.
-    if (!told(clear())) {
+    if (!succeeded(clear())) {
         return ExchangeEnd::NotStarted;
     }
-    if (const QString onDisk = existingPath(launch.program); !onDisk.isEmpty()) {
-        launch.program = onDisk;
-    }
-    if (!told(m_context.launcher.start(launch))) {
+    if (!succeeded(m_context.launcher.start(launch))) {
         return ExchangeEnd::NotStarted;
     }
     channel.state = {};
@@ -80,8 +77,8 @@ ExchangeEnd ToolchainHandshake::run(Channel &channel, const Clear &clear, Launch
     return wait(channel);
 }
 
-/// Tells a failure; whether there was none.
-bool ToolchainHandshake::told(const Expected<void, QString> &result)
+/// Whether there is no failure; one is told.
+bool ToolchainHandshake::succeeded(const Expected<void, QString> &result)
 {
     if (!result) {
         m_context.dialogs.tell(u"Unable to run the Thrustmaster software"_s, result.error(),

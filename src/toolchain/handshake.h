@@ -69,9 +69,9 @@ private:
     };
     using Clear = std::function<Expected<void, QString>()>;
 
-    ExchangeEnd run(Channel &channel, const Clear &clear, Launch launch);
+    ExchangeEnd run(Channel &channel, const Clear &clear, const Launch &launch);
     ExchangeEnd wait(Channel &channel);
-    bool told(const Expected<void, QString> &result);
+    bool succeeded(const Expected<void, QString> &result);
     void DownloadTimer_Timer();
     void StatusModeTimer_Timer();
     void finishTick(Channel &channel, const TickActions &actions);

@@ -16,27 +16,16 @@ namespace {
 /// A tool that answers sooner than this should not make a window flash up.
 constexpr qint32 windowAfter = 2000;
 
-std::optional<qint32> milliseconds(const QString &text)
-{
-    bool isNumber = false;
-    const double number = roundHalfEven(text.trimmed().toDouble(&isNumber));
-    const bool fits = number >= std::numeric_limits<qint32>::min()
-        && number <= std::numeric_limits<qint32>::max();
-    return isNumber && fits ? std::optional(qint32(number)) : std::nullopt;
-}
-
 } // namespace
 
 WaitTimes waitTimes(const GlobalSettings &settings)
 {
     WaitTimes times;
-    const auto interval = milliseconds(settings.CheckForCompletionTime);
     // An interval of nothing would never reach the limit, and so never give control back.
-    if (interval && *interval > 0) {
-        times.checkForCompletion = *interval;
+    if (const qint32 interval = checkForCompletionTimeMs(settings); interval > 0) {
+        times.checkForCompletion = interval;
     }
-    times.regainControlAfter =
-        milliseconds(settings.RegainControlAfter).value_or(times.regainControlAfter);
+    times.regainControlAfter = regainControlAfterMs(settings);
     return times;
 }
 

@@ -36,7 +36,7 @@ TEST(ProgramFiles, ThePairIsOpenedEditedSavedAndThereAgainAtTheNextStart)
     const QString joystick = program.write(u"Files/a.tmj"_s, "USE MDEF m.tmm\r\nBTN S1 Fire\r\n");
     program.write(u"Files/m.tmm"_s, "Fire = SPC\r\n");
     program.run({u"text MacroText Fire = SPC"_s, u"type JoystickText Rem hello\\n"_s,
-                 u"trigger mnuFileSave"_s, u"text PanelText saved successfully."_s, u"close"_s},
+                 u"trigger mnuFileSave"_s, u"text Panel_1 saved successfully."_s, u"close"_s},
                 {joystick});
     EXPECT_EQ(program.read(u"Files/a.tmj"_s), "Rem hello\r\nUSE MDEF m.tmm\r\nBTN S1 Fire\r\n");
     EXPECT_TRUE(program.exists(u"Rtf/a.tmj"_s));
@@ -89,7 +89,7 @@ TEST(ProgramFiles, AReadOnlyFileIsSavedElsewhere)
     QFile::setPermissions(path, QFile::ReadOwner | QFile::ReadUser);
     program.run({u"text JoystickText BTN"_s, u"type JoystickText x"_s, u"trigger mnuFileSave"_s,
                  u"box Can't save Read Only file"_s, u"press OK"_s,
-                 u"file "_s + program.file(u"Files/b.tmj"_s), u"text PanelText saved successfully."_s,
+                 u"file "_s + program.file(u"Files/b.tmj"_s), u"text Panel_1 saved successfully."_s,
                  u"close"_s},
                 {path});
     EXPECT_EQ(program.read(u"Files/a.tmj"_s), "BTN S1 a");
@@ -101,7 +101,7 @@ TEST(ProgramFiles, AVanishedFileIsToldAndTheLastRunsFilesAreForgotten)
     Program program;
     program.settle("RestoreStatus=1\r\nRestoreJoyFile=" + program.file(u"Files/gone.tmj"_s).toUtf8()
                    + "\r\n");
-    program.run({u"text PanelText Ready! Welcome to Zeph, buddy!"_s, u"close"_s});
+    program.run({u"text Panel_1 Ready! Welcome to Zeph, buddy!"_s, u"close"_s});
     EXPECT_EQ(program.setting(u"Miscellaneous"_s, u"RestoreJoyFile"_s), QString());
 }
 

@@ -315,15 +315,6 @@ TEST_F(HandshakeTest, AHotasIniThatCannotBeWrittenIsToldAndNothingStarts)
     EXPECT_TRUE(dialogs.boxes()[0].text.contains(paths.hotasIni()));
 }
 
-TEST_F(HandshakeTest, AToolIsStartedUnderTheNameThatItHasOnTheDisk)
-{
-    ASSERT_TRUE(QFile::rename(paths.compiler(), folder.file(u"hotascompiler.EXE"_s)));
-    answerAfter(1);
-    EXPECT_EQ(run(), ExchangeEnd::Verdict);
-    EXPECT_TRUE(fileExists(launcher.launches[0].program));
-    EXPECT_EQ(launcher.launches[0].arguments, u"/ZEPH");
-}
-
 TEST_F(HandshakeTest, ItsDestructionEndsTheWait)
 {
     afterTick = [&](int count) {

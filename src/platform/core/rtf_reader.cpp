@@ -291,6 +291,7 @@ void Reader::endParagraph(int isHard, const Token &)
     target(1)->append(u'\n');
     addParagraph(m_textParagraph);
     m_paragraphHasText = false;
+    m_paragraphHasBullet = false;
     m_endsWithParagraph = isHard != 0;
 }
 
@@ -365,6 +366,7 @@ void Reader::finishMarker()
     const QStringView sign = QStringView(marker).trimmed();
     if (isBullet(sign)) {
         state().bullet = true;
+        m_paragraphHasBullet = true;
     } else if (!sign.isEmpty()) {
         putCharacters(marker);
     }

@@ -131,6 +131,7 @@ private:
     int m_highHalfOf = 0;
     ParagraphFormat m_textParagraph; ///< at the last text of the open paragraph
     bool m_paragraphHasText = false;
+    bool m_paragraphHasBullet = false; ///< its own marker has been read
     bool m_endsWithParagraph = false; ///< nothing stands behind the last \par
 };
 

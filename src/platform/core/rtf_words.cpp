@@ -193,7 +193,8 @@ void Reader::resetParagraph(int, const Token &)
     state().leftTwips = 0;
     state().firstTwips = 0;
     state().alignment = ParagraphAlignment::Left;
-    state().bullet = false;
+    // Word puts the marker in front of the word that resets what is left of the last paragraph.
+    state().bullet = m_paragraphHasBullet;
 }
 
 void Reader::setLeftIndent(int, const Token &token)

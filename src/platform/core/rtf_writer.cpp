@@ -350,7 +350,7 @@ QByteArray Writer::withHeader()
 {
     // No default font is named: text without one is to look as the reader's control has it.
     Sink file;
-    file.ensure(m_body.written().size() + 1024);
+    file.ensure(bytesPerChange);
     file.put("{\\rtf1\\ansi\\ansicpg1252\\uc1");
     if (!m_families.empty()) {
         file.put("{\\fonttbl");

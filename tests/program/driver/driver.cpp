@@ -30,7 +30,7 @@
 #include <QMenu>
 #include <QMessageBox>
 #include <QPlainTextEdit>
-#include <QPointer>
+#include <QPushButton>
 #include <QTextEdit>
 #include <QTimer>
 
