@@ -249,7 +249,8 @@ private:
             return false;
         }
         widget->setFocus();
-        for (const QChar c : QString(text).replace(QLatin1String("\\n"), QLatin1String("\n"))) {
+        const QString keys = QString(text).replace(QLatin1String("\\n"), QLatin1String("\n"));
+        for (const QChar c : keys) {
             const int key = c == QLatin1Char('\n') ? int(Qt::Key_Return) : c.toUpper().unicode();
             const QString typed = c == QLatin1Char('\n') ? QString(QLatin1Char('\r')) : QString(c);
             QKeyEvent down(QEvent::KeyPress, key, Qt::NoModifier, typed);
@@ -267,8 +268,11 @@ private:
             return false;
         }
         note(QLatin1String("file ") + dialog->windowTitle());
-        dialog->findChild<QLineEdit *>(QLatin1String("fileNameEdit"))->setText(path);
-        later(static_cast<QDialog *>(dialog), [](QDialog *d) { d->accept(); });
+        // In one go, since the dialog writes its own choice into the field whenever it reads the folder.
+        later(static_cast<QDialog *>(dialog), [path](QDialog *d) {
+            d->findChild<QLineEdit *>(QLatin1String("fileNameEdit"))->setText(path);
+            d->accept();
+        });
         return true;
     }
 
