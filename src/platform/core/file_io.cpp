@@ -67,6 +67,9 @@ std::optional<std::errc> flushToDisk([[maybe_unused]] int handle)
 
 Expected<QByteArray, FileError> readWholeFile(const QString &path)
 {
+    if (path.isEmpty()) {
+        return failure(path, std::errc::no_such_file_or_directory);
+    }
     const QFileInfo info(path);
     if (info.isDir()) {
         return failure(path, std::errc::is_a_directory);
@@ -87,6 +90,9 @@ Expected<QByteArray, FileError> readWholeFile(const QString &path)
 
 Expected<void, FileError> writeFileAtomically(const QString &path, const QByteArray &bytes)
 {
+    if (path.isEmpty()) {
+        return failure(path, std::errc::no_such_file_or_directory);
+    }
     const QString target = behindLinks(path);
     if (target.isEmpty()) {
         return failure(path, std::errc::too_many_symbolic_link_levels);
