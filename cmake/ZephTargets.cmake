@@ -84,10 +84,10 @@ function(zeph_pch name gui)
     endif()
 endfunction()
 
-# zeph_test(NAME [GUI] FOLDER folder LINK libs...)
+# zeph_test(NAME [GUI] FOLDER folder LINK libs... [PROPERTIES properties of each test])
 # One test program a room: every .cpp of the folder, each TEST a test of ctest.
 function(zeph_test name)
-    cmake_parse_arguments(ARG "GUI" "FOLDER" "LINK" ${ARGN})
+    cmake_parse_arguments(ARG "GUI" "FOLDER" "LINK;PROPERTIES" ${ARGN})
     file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/${ARG_FOLDER}/*.cpp)
     if(NOT sources)
         return()
@@ -102,7 +102,7 @@ function(zeph_test name)
         target_link_libraries(${name} PRIVATE zeph_test_core ${ARG_LINK})
     endif()
     gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST TEST_PREFIX "${name}/"
-        DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 120)
+        DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 120 ${ARG_PROPERTIES})
 endfunction()
 
 # zeph_fuzz(NAME LINK libs...): the target of NAME.cpp with the seed corpus in corpus/NAME.

@@ -1,7 +1,57 @@
 // SPDX-FileCopyrightText: The Zeph authors
 // SPDX-License-Identifier: MIT
 
-int main()
+#include "platform/clock.h"
+#include "platform/downloader.h"
+#include "platform/process_launcher.h"
+#include "platform/qt_dialogs.h"
+#include "platform/screen.h"
+#include "platform/system_info.h"
+#include "platform/system_keyboard.h"
+#include "shell/application.h"
+#include "shell/tour.h"
+
+#include <QApplication>
+#include <QStandardPaths>
+
+using namespace zeph;
+
+int main(int argc, char **argv)
 {
-    return 0;
+    QApplication toolkit(argc, argv);
+    Application::applyStyle(toolkit);
+
+    const QString tourFolder = qEnvironmentVariable("ZEPH_TOUR");
+    QtDialogs shown;
+    RecordingDialogs recorded;
+    SystemLauncher launcher;
+    Clock clock;
+    HttpDownloader downloader;
+    SystemKeyboard keyboard;
+    const PrimaryScreen screen;
+    const SystemInfo system;
+    std::unique_ptr<Tour> tour;
+    if (!tourFolder.isEmpty()) {
+        tour = std::make_unique<Tour>(tourFolder, recorded);
+    }
+
+    const QString perUser = QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation);
+    Application application({
+        .appFolder = chooseAppFolder(QCoreApplication::applicationDirPath(), perUser),
+        .arguments = QCoreApplication::arguments().mid(1),
+        .dialogs = tour ? static_cast<Dialogs &>(recorded) : shown,
+        .launcher = launcher,
+        .clock = clock,
+        .downloader = downloader,
+        .keyboard = keyboard,
+        .screen = screen,
+        .system = system,
+    });
+    if (!application.start()) {
+        return 0;
+    }
+    if (tour) {
+        tour->start(application);
+    }
+    return QApplication::exec();
 }

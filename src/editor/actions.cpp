@@ -56,7 +56,7 @@ constexpr std::array actions = {
     ActionRow{u"mnuFile", u"mnuFilePrintJoystick", u"Pr&int joystick file", u"Ctrl+P", u"Prints the joystick file", u"print", Later, Entry},
     ActionRow{u"mnuFile", u"mnuFilePrintMacro", u"Print macro file", u"", u"Prints the macro file", u"print", Later, Entry},
     ActionRow{u"mnuFile", u"printtest", u"Print selection", u"", u"Prints what is selected", u"", Later, Entry},
-    ActionRow{u"mnuFile", u"mnuFilePrinterSetup", u"Printer set&up ...", u"", u"", u"", Later, Entry},
+    ActionRow{u"mnuFile", u"mnuFilePrinterSetup", u"Printer setup ...", u"", u"", u"", Later, Entry},
     line(u"mnuFile"),
     ActionRow{u"mnuFile", u"mnuFileExit", u"E&xit Zeph", u"", u"Leaves Zeph, after asking about unsaved files", u"exit", Always, Entry},
 
@@ -107,11 +107,11 @@ constexpr std::array actions = {
     ActionRow{u"mnuInsert", u"mnuSlashArray_6", u"/R  r&elease event", u"", u"", u"", Later, Entry},
     ActionRow{u"mnuInsert", u"mnuSlashArray_7", u"/T  to&ggle modifier", u"", u"", u"", Later, Entry},
     ActionRow{u"mnuInsert", u"mnuSlashArray_8", u"/&A  autorepeat the statement", u"", u"", u"", Later, Entry},
-    ActionRow{u"mnuInsert", u"mnuSlashArray_9", u"/H  hold do&wn", u"", u"", u"", Later, Entry},
+    ActionRow{u"mnuInsert", u"mnuSlashArray_9", u"/H  hold dow&n", u"", u"", u"", Later, Entry},
     ActionRow{u"mnuInsert", u"mnuSlashArray_10", u"D&LY delay statement", u"", u"", u"", Later, Entry},
     ActionRow{u"mnuInsert", u"mnuSlashArray_11", u"RPT repeat &statement", u"", u"", u"", Later, Entry},
     line(u"mnuInsert"),
-    ActionRow{u"mnuInsert", u"mnuSlashWindow", u"Show the Slash &window", u"", u"A floating palette of the slash modifiers", u"", Later, Entry},
+    ActionRow{u"mnuInsert", u"mnuSlashWindow", u"Show the Slash windo&w", u"", u"A floating palette of the slash modifiers", u"", Later, Entry},
     line(u"mnuInsert", u"mnuInsertDivider8"),
     ActionRow{u"mnuInsert", u"mnuInsertQuickTip", u"&Quick tip - read me", u"", u"", u"", Later, Entry},
 

@@ -27,6 +27,8 @@
 #include <QMimeData>
 #include <QVBoxLayout>
 
+#include <exception>
+
 namespace zeph {
 
 Editor::Editor(const Context &context, QWidget *parent)
@@ -170,7 +172,19 @@ void Editor::ResetFocusToEditor()
 
 void Editor::HighlightErrorLine(int line, const QString &compileErrorText)
 {
-    EditorDocument &document = m_view->document(documentOfError(compileErrorText));
+    try {
+        showLine(m_view->document(documentOfError(compileErrorText)), line);
+    } catch (const std::exception &error) {
+        m_context.dialogs.tell(u"Hmmm....bizarre..."_s,
+                               u"Please report this on the Klaifi forums so I can investigate "
+                               "further. Interesting! "_s
+                                   + QString::fromLocal8Bit(error.what()),
+                               BoxIcon::Exclamation);
+    }
+}
+
+void Editor::showLine(EditorDocument &document, int line)
+{
     const auto range = lineRange(document.control->text(), line);
     if (!range) {
         m_context.dialogs.tell(u"Oops!"_s, u"Line not found"_s, BoxIcon::Exclamation);

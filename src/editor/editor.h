@@ -77,6 +77,7 @@ private:
     void connectOptions();
     void updateConditions();
     void paste();
+    void showLine(EditorDocument &document, int line);
 
     Context m_context;
     std::unique_ptr<EditorActions> m_actions;

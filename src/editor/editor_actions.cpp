@@ -6,9 +6,9 @@
 #include "platform/dialogs.h"
 #include "platform/handlers.h"
 
+#include "platform/icon_file.h"
 #include <QAction>
 #include <QFile>
-#include <QIcon>
 #include <QMenu>
 
 namespace zeph {
@@ -63,7 +63,7 @@ void EditorActions::makeMenus()
         action->setObjectName(text(row.name));
         action->setStatusTip(text(row.status));
         if (row.icon[0] != 0) {
-            action->setIcon(QIcon(m_iconFolder + text(row.icon) + u".svg"_s));
+            action->setIcon(iconFromFile(m_iconFolder + text(row.icon) + u".svg"_s));
         }
         if (row.name[0] != 0) {
             m_actions.insert(text(row.name), action);

@@ -8,8 +8,8 @@
 #include "platform/status_line.h"
 #include "shell/settings/global_settings.h"
 
+#include "platform/icon_file.h"
 #include <QHBoxLayout>
-#include <QIcon>
 #include <QTabBar>
 #include <QVBoxLayout>
 
@@ -24,8 +24,8 @@ EditorView::EditorView(const Context &context, QWidget *parent)
     m_tabs->setDrawBase(false);
     m_tabs->addTab(QString());
     m_tabs->addTab(QString());
-    m_tabs->setTabIcon(0, QIcon(context.paths.inApp(u"icons/tab-joystick.svg")));
-    m_tabs->setTabIcon(1, QIcon(context.paths.inApp(u"icons/tab-macro.svg")));
+    m_tabs->setTabIcon(0, iconFromFile(context.paths.inApp(u"icons/tab-joystick.svg")));
+    m_tabs->setTabIcon(1, iconFromFile(context.paths.inApp(u"icons/tab-macro.svg")));
     makeControl(DocumentKind::Joystick, u"JoystickText"_s);
     makeControl(DocumentKind::Macro, u"MacroText"_s);
 
@@ -52,8 +52,8 @@ void EditorView::makeControl(DocumentKind kind, const QString &name)
 {
     auto *control = new TextControl(this);
     control->setObjectName(name);
-    control->setAccessibleName(kind == DocumentKind::Joystick ? tr("Joystick file")
-                                                              : tr("Macro file"));
+    control->setAccessibleName(kind == DocumentKind::Joystick ? u"Joystick file"_s
+                                                              : u"Macro file"_s);
     EditorDocument &each = document(kind);
     each.kind = kind;
     each.control = control;
@@ -148,8 +148,9 @@ void EditorView::setProtected(bool on)
 {
     m_protected = on;
     document(DocumentKind::Macro).control->setReadOnly(on);
-    m_tabs->setTabIcon(
-        1, QIcon(m_context.paths.inApp(on ? u"icons/tab-protected.svg" : u"icons/tab-macro.svg")));
+    m_tabs->setTabIcon(1,
+                       iconFromFile(m_context.paths.inApp(on ? u"icons/tab-protected.svg"
+                                                             : u"icons/tab-macro.svg")));
 }
 
 bool EditorView::refuseProtected()

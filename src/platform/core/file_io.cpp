@@ -47,7 +47,7 @@ QString behindLinks(QString path)
 bool isProtected(const QFileInfo &info)
 {
     constexpr QFile::Permissions anyWrite =
-        QFile::WriteOwner | QFile::WriteUser | QFile::WriteGroup | QFile::WriteOther;
+        QFile::WriteOwner | QFile::WriteGroup | QFile::WriteOther;
     return info.exists() && !(info.permissions() & anyWrite);
 }
 

@@ -290,17 +290,24 @@ const ProfileEntry *firstUnwritable(const QList<ProfileEntry> &entries)
 
 ProfileFile::ProfileFile(QString path) : m_path(std::move(path)) { }
 
+Expected<QByteArray, FileError> ProfileFile::bytes() const
+{
+    const QString path = diskPath(m_path);
+    return QFileInfo::exists(path) ? readWholeFile(path)
+                                   : Expected<QByteArray, FileError>(QByteArray());
+}
+
 QString ProfileFile::text(QStringView section, QStringView key, const QString &fallback,
                           int buffer) const
 {
-    const auto file = readWholeFile(diskPath(m_path));
+    const auto file = bytes();
     const auto found = file ? profile::value(*file, section, key) : std::nullopt;
     return found.value_or(fallback).left(buffer - 1);
 }
 
 qint32 ProfileFile::integer(QStringView section, QStringView key, qint32 fallback) const
 {
-    const auto file = readWholeFile(diskPath(m_path));
+    const auto file = bytes();
     return profile::integerOf(file ? profile::value(*file, section, key) : std::nullopt, fallback);
 }
 
@@ -315,8 +322,7 @@ Expected<void, FileError> ProfileFile::write(const QList<ProfileEntry> &entries)
         return {};
     }
     const QString path = diskPath(m_path);
-    const bool exists = QFileInfo::exists(path);
-    const auto read = exists ? readWholeFile(path) : Expected<QByteArray, FileError>(QByteArray());
+    const auto read = bytes();
     if (!read) {
         // Replacing what cannot be read would lose all other keys.
         return Unexpected<FileError>(read.error());
@@ -327,7 +333,7 @@ Expected<void, FileError> ProfileFile::write(const QList<ProfileEntry> &entries)
             file = profile::withValue(file, entry);
         }
     }
-    if (!exists || file != *read) {
+    if (file != *read || !QFileInfo::exists(path)) {
         if (auto done = writeFileAtomically(path, file); !done) {
             return done;
         }

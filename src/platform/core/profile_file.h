@@ -50,6 +50,9 @@ public:
 
     const QString &path() const { return m_path; }
 
+    /// The whole file as it stands, for many reads at one moment. A missing file is empty.
+    Expected<QByteArray, FileError> bytes() const;
+
     /// The value, cut to buffer - 1 characters; the fallback when absent. A missing file is empty.
     QString text(QStringView section, QStringView key, const QString &fallback = {},
                  int buffer = profileTextBuffer) const;

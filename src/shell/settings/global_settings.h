@@ -8,13 +8,19 @@
 #include "platform/core/profile_file.h"
 #include "platform/core/units.h"
 
+#include <initializer_list>
 #include <span>
 #include <variant>
 
 namespace zeph {
 
+class Dialogs;
+
 /// Every global key. Flags are 0 or 1; numbers are 16-bit signed, as the files are read.
 struct GlobalSettings {
+    /// Every field as the table says for an absent key.
+    GlobalSettings();
+
     // FileLocations
     QString WinZipFilePath;
     QString BackUpFolder;
@@ -103,5 +109,99 @@ struct GlobalSettings {
     // HOTAS.ini, Defaults
     qint16 DownloadMode;
 };
+
+/// Where a setting is kept.
+enum class SettingsPlace {
+    Store, ///< the instance's own settings file
+    HotasIni ///< the file that the toolchain shares
+};
+
+enum class SettingsStep { Global, Colours };
+
+/// How the text in the file has to be formed.
+enum class SettingForm {
+    Text,
+    Integer, ///< leading decimal digits, 16 bits
+    Colour, ///< a whole number of 32 bits
+    Number ///< kept as text, but has to be a number within 32 bits
+};
+
+using SettingField =
+    std::variant<QString GlobalSettings::*, qint16 GlobalSettings::*, ColorRef GlobalSettings::*>;
+
+/// One row of the table.
+struct Setting {
+    SettingsPlace place = SettingsPlace::Store;
+    SettingsStep step = SettingsStep::Global;
+    QStringView section = {};
+    QStringView key = {};
+    SettingForm form = SettingForm::Text;
+    SettingField field = {};
+    QStringView missing = {}; ///< what an absent key reads as
+    bool saved = false; ///< whether saving the global settings writes it
+    QStringView firstRun = {}; ///< colours only: what the first run sets
+
+    int buffer() const
+    {
+        return step == SettingsStep::Colours ? profileColourBuffer : profileTextBuffer;
+    }
+};
+
+/// All settings, in the order in which they are read.
+std::span<const Setting> settingsTable();
+/// The row of a field.
+const Setting &settingOf(SettingField field);
+
+/// The two files in which settings are kept.
+struct SettingsFiles {
+    ProfileFile store;
+    ProfileFile hotasIni;
+
+    const ProfileFile &at(SettingsPlace place) const
+    {
+        return place == SettingsPlace::Store ? store : hotasIni;
+    }
+};
+
+/// A value that could not be taken over; the setting has its default instead.
+struct SettingProblem {
+    QString file;
+    QString section;
+    QString key;
+    QString text;
+
+    friend bool operator==(const SettingProblem &, const SettingProblem &) = default;
+};
+using SettingProblems = QList<SettingProblem>;
+
+/// Reads every setting but the colours.
+[[nodiscard]] SettingProblems readGlobalSettings(GlobalSettings &settings,
+                                                 const SettingsFiles &files);
+/// Reads the colours and the font of the texts.
+[[nodiscard]] SettingProblems readColours(GlobalSettings &settings, const SettingsFiles &files);
+/// Reads single settings anew.
+[[nodiscard]] SettingProblems readSettings(GlobalSettings &settings, const SettingsFiles &files,
+                                           std::initializer_list<SettingField> fields);
+/// Sets the colours and the font to those of the first run.
+void setFirstRunColours(GlobalSettings &settings);
+
+/// Tells all problems in one box; no box when there are none.
+void tellProblems(Dialogs &dialogs, const SettingProblems &problems);
+
+/// A setting of the form Number as a number; its default when the text is none.
+double numberOf(const GlobalSettings &settings, QString GlobalSettings::*field);
+/// Milliseconds before a wait on the tools is given up, and between two polls of their status.
+qint32 regainControlAfterMs(const GlobalSettings &settings);
+qint32 checkForCompletionTimeMs(const GlobalSettings &settings);
+
+/// Writes the keys of the global save, each file in one replacement. Both files are tried; the
+/// error is the first one.
+Expected<void, FileError> saveGlobalSettings(const GlobalSettings &settings,
+                                             const SettingsFiles &files);
+/// Writes single settings, each file in one replacement.
+Expected<void, FileError> saveSettings(const GlobalSettings &settings, const SettingsFiles &files,
+                                       std::initializer_list<SettingField> fields);
+/// Writes all sixteen keys of the colours and the font.
+Expected<void, FileError> saveColours(const GlobalSettings &settings, const SettingsFiles &files);
 
 } // namespace zeph

@@ -1,0 +1,71 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#include "platform/downloader.h"
+
+#include <QEventLoop>
+#include <QNetworkAccessManager>
+#include <QNetworkReply>
+#include <QTimer>
+#include <QUrl>
+
+#include <memory>
+
+namespace zeph {
+
+namespace {
+
+/// What is fetched is a line of text or a page; more than this is no answer of ours.
+constexpr qint64 maxBytes = 1 << 20;
+
+QNetworkRequest requestFor(const QUrl &url)
+{
+    QNetworkRequest request(url);
+    request.setAttribute(QNetworkRequest::CacheLoadControlAttribute,
+                         QNetworkRequest::AlwaysNetwork);
+    request.setAttribute(QNetworkRequest::CacheSaveControlAttribute, false);
+    request.setRawHeader("Cache-Control", "no-cache");
+    request.setRawHeader("Pragma", "no-cache");
+    return request;
+}
+
+} // namespace
+
+Expected<QByteArray, QString> HttpDownloader::fetch(const QString &address, int timeoutMs)
+{
+    const QUrl url(address.trimmed());
+    if (url.isEmpty() || !url.isValid()) {
+        return Unexpected<QString>(u"There is no such address: \"%1\""_s.arg(address));
+    }
+    QNetworkAccessManager network;
+    const std::unique_ptr<QNetworkReply> reply(network.get(requestFor(url)));
+    QString gaveUp;
+    const auto giveUp = [&reply, &gaveUp](const QString &reason) {
+        gaveUp = reason;
+        reply->abort();
+    };
+
+    QEventLoop loop;
+    QTimer patience;
+    patience.setSingleShot(true);
+    QObject::connect(&patience, &QTimer::timeout, &loop, [&giveUp, timeoutMs] {
+        giveUp(u"No answer within %1 milliseconds"_s.arg(timeoutMs));
+    });
+    QObject::connect(reply.get(), &QNetworkReply::downloadProgress, &loop,
+                     [&giveUp](qint64 received, qint64) {
+                         if (received > maxBytes) {
+                             giveUp(u"The answer is too large"_s);
+                         }
+                     });
+    QObject::connect(reply.get(), &QNetworkReply::finished, &loop, &QEventLoop::quit);
+    patience.start(timeoutMs);
+    if (!reply->isFinished()) {
+        loop.exec();
+    }
+    if (reply->error() != QNetworkReply::NoError) {
+        return Unexpected<QString>(gaveUp.isEmpty() ? reply->errorString() : gaveUp);
+    }
+    return reply->readAll();
+}
+
+} // namespace zeph

@@ -1,0 +1,171 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#include "platform/process_launcher.h"
+
+#include "platform/core/paths.h"
+
+#include <QDesktopServices>
+#include <QFile>
+#include <QFileInfo>
+#include <QProcess>
+#include <QStandardPaths>
+#include <QUrl>
+
+#include <system_error>
+
+#ifdef Q_OS_WIN
+#include <qt_windows.h>
+#endif
+
+namespace zeph {
+
+namespace {
+
+Unexpected<QString> failure(const QString &path, const QString &reason)
+{
+    return Unexpected<QString>(path + u": "_s + reason);
+}
+
+Unexpected<QString> failure(const QString &path, std::errc code)
+{
+    return failure(path, QString::fromStdString(std::make_error_code(code).message()));
+}
+
+/// The program's file: as named, or by name alone from the system's search path.
+QString programFile(const QString &program)
+{
+    const QString found = existingPath(program);
+    if (found.isEmpty() && nameOf(program) == program) {
+        return QStandardPaths::findExecutable(program);
+    }
+    return found;
+}
+
+#ifdef Q_OS_WIN
+
+void setUp(QProcess &process, const Launch &launch)
+{
+    process.setNativeArguments(launch.arguments);
+    const WORD show = WORD(launch.style);
+    process.setCreateProcessArgumentsModifier([show](QProcess::CreateProcessArguments *arguments) {
+        arguments->startupInfo->dwFlags |= STARTF_USESHOWWINDOW;
+        arguments->startupInfo->wShowWindow = show;
+    });
+}
+
+#else
+
+bool isWindowsProgram(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) && file.read(2) == "MZ";
+}
+
+/// A path as wine shows the whole file system to its programs. A switch such as "/CE" begins like a
+/// path too: what counts is whether there is such a file, or a folder for it.
+QString wineWord(const QString &word)
+{
+    const QString folder = folderOf(word);
+    const bool isPath = word.startsWith(u'/')
+        && (QFileInfo::exists(word) || (folder.size() > 1 && QFileInfo(folder).isDir()));
+    return isPath ? u"Z:"_s + QString(word).replace(u'/', u'\\') : word;
+}
+
+Expected<void, QString> setUpWine(QProcess &process, const QString &program, QStringList arguments)
+{
+    const QString wine = QStandardPaths::findExecutable(u"wine"_s);
+    if (wine.isEmpty()) {
+        return failure(
+            program,
+            u"This is a Windows program, and wine, which could run it, is not installed"_s);
+    }
+    for (QString &word : arguments) {
+        word = wineWord(word);
+    }
+    process.setProgram(wine);
+    process.setArguments(QStringList{ program } + arguments);
+    return {};
+}
+
+#endif
+
+} // namespace
+
+QStringList splitCommandLine(QStringView arguments)
+{
+    QStringList words;
+    QString word;
+    bool inWord = false;
+    bool inQuotes = false;
+    for (const QChar c : arguments) {
+        if (c == u'"') {
+            inQuotes = !inQuotes;
+            inWord = true;
+        } else if (!inQuotes && (c == u' ' || c == u'\t')) {
+            if (inWord) {
+                words.append(word);
+            }
+            word.clear();
+            inWord = false;
+        } else {
+            word += c;
+            inWord = true;
+        }
+    }
+    if (inWord) {
+        words.append(word);
+    }
+    return words;
+}
+
+Expected<void, QString> SystemLauncher::start(const Launch &launch)
+{
+    const QString program = programFile(launch.program);
+    if (program.isEmpty()) {
+        return failure(launch.program, std::errc::no_such_file_or_directory);
+    }
+    QProcess process;
+    process.setProgram(program);
+    if (!launch.folder.isEmpty()) {
+        const QString folder = existingPath(launch.folder);
+        if (folder.isEmpty()) {
+            return failure(launch.folder, std::errc::no_such_file_or_directory);
+        }
+        process.setWorkingDirectory(folder);
+    }
+#ifdef Q_OS_WIN
+    setUp(process, launch);
+#else
+    const QStringList arguments = splitCommandLine(launch.arguments);
+    process.setArguments(arguments);
+    if (isWindowsProgram(program)) {
+        if (auto ready = setUpWine(process, program, arguments); !ready) {
+            return ready;
+        }
+    } else if (!QFileInfo(program).isExecutable() || QFileInfo(program).isDir()) {
+        return failure(program, std::errc::permission_denied);
+    }
+#endif
+    process.setStandardInputFile(QProcess::nullDevice());
+    if (!process.startDetached()) {
+        return failure(program, process.errorString());
+    }
+    return {};
+}
+
+Expected<void, QString> SystemLauncher::openWithDesktop(const QString &pathOrUrl)
+{
+    const QString file = existingPath(pathOrUrl);
+    const QUrl url =
+        file.isEmpty() ? QUrl(pathOrUrl) : QUrl::fromLocalFile(QFileInfo(file).absoluteFilePath());
+    if (url.isRelative()) {
+        return failure(pathOrUrl, std::errc::no_such_file_or_directory);
+    }
+    if (!QDesktopServices::openUrl(url)) {
+        return failure(pathOrUrl, u"The desktop has no program for this"_s);
+    }
+    return {};
+}
+
+} // namespace zeph

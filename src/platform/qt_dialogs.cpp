@@ -1,0 +1,231 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#include "platform/qt_dialogs.h"
+
+#include "platform/core/paths.h"
+
+#include <QApplication>
+#include <QColorDialog>
+#include <QDialogButtonBox>
+#include <QFileDialog>
+#include <QFontDialog>
+#include <QListWidget>
+#include <QMessageBox>
+#include <QVBoxLayout>
+
+namespace zeph {
+
+namespace {
+
+QMessageBox::StandardButton standardButton(BoxButton button)
+{
+    switch (button) {
+    case BoxButton::Ok:
+        return QMessageBox::Ok;
+    case BoxButton::Cancel:
+        return QMessageBox::Cancel;
+    case BoxButton::Yes:
+        return QMessageBox::Yes;
+    case BoxButton::No:
+        return QMessageBox::No;
+    }
+    return QMessageBox::NoButton;
+}
+
+QMessageBox::Icon standardIcon(BoxIcon icon)
+{
+    switch (icon) {
+    case BoxIcon::None:
+        return QMessageBox::NoIcon;
+    case BoxIcon::Information:
+        return QMessageBox::Information;
+    case BoxIcon::Question:
+        return QMessageBox::Question;
+    case BoxIcon::Exclamation:
+        return QMessageBox::Warning;
+    case BoxIcon::Stop:
+        return QMessageBox::Critical;
+    }
+    return QMessageBox::NoIcon;
+}
+
+BoxButton escapeButton(const Box &box)
+{
+    for (const BoxButton button : { BoxButton::Cancel, BoxButton::No }) {
+        if (box.buttons.contains(button)) {
+            return button;
+        }
+    }
+    return box.buttons.value(0, BoxButton::Ok);
+}
+
+QColor toColor(ColorRef colour)
+{
+    return QColor(redOf(colour), greenOf(colour), blueOf(colour));
+}
+
+ColorRef fromColor(const QColor &colour)
+{
+    return colorRef(quint32(colour.red()), quint32(colour.green()), quint32(colour.blue()));
+}
+
+} // namespace
+
+QStringList nameFilters(const QString &filter)
+{
+    const QStringList parts = filter.split(u'|', Qt::SkipEmptyParts);
+    QStringList filters;
+    for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
+        // The toolkit reads the last bracket as the patterns, so what the caption shows goes first.
+        QString caption = parts[i];
+        const QString shown = u"(%1)"_s.arg(parts[i + 1]);
+        if (caption.endsWith(shown, Qt::CaseInsensitive)) {
+            caption.chop(shown.size());
+        }
+        QString patterns = parts[i + 1];
+        patterns.replace(u';', u' ');
+        if (patterns == u"*.*") {
+            patterns = u"*"_s;
+        }
+        filters.append(u"%1 (%2)"_s.arg(caption.trimmed(), patterns));
+    }
+    return filters.isEmpty() ? QStringList{ u"All files (*)"_s } : filters;
+}
+
+QtDialogs::QtDialogs(QWidget *parent) : m_parent(parent) { }
+
+QWidget *QtDialogs::parentNow() const
+{
+    QWidget *active = QApplication::activeModalWidget();
+    if (!active) {
+        active = QApplication::activeWindow();
+    }
+    return active ? active : m_parent.data();
+}
+
+BoxButton QtDialogs::box(const Box &box)
+{
+    QMessageBox window(parentNow());
+    window.setWindowTitle(box.title);
+    window.setTextFormat(Qt::PlainText);
+    window.setText(box.text);
+    window.setIcon(standardIcon(box.icon));
+    for (const BoxButton button : box.buttons) {
+        window.addButton(standardButton(button));
+    }
+    window.setDefaultButton(standardButton(box.defaultButton));
+    const BoxButton escape = escapeButton(box);
+    window.setEscapeButton(standardButton(escape));
+    const int answer = window.exec();
+    for (const BoxButton button : box.buttons) {
+        if (standardButton(button) == answer) {
+            return button;
+        }
+    }
+    return escape;
+}
+
+std::optional<QString> QtDialogs::chosenFile(QFileDialog &dialog, const FileRequest &request) const
+{
+    dialog.setNameFilters(nameFilters(request.filter));
+    dialog.setDefaultSuffix(request.defaultExtension);
+    const QString folder = existingPath(request.folder);
+    if (!folder.isEmpty()) {
+        dialog.setDirectory(folder);
+    }
+    if (!request.name.isEmpty()) {
+        dialog.selectFile(nativeSeparators(request.name));
+    }
+    if (dialog.exec() != QDialog::Accepted) {
+        return std::nullopt;
+    }
+    return nativeSeparators(dialog.selectedFiles().value(0));
+}
+
+std::optional<QString> QtDialogs::openFile(const FileRequest &request)
+{
+    QFileDialog dialog(parentNow(), request.title);
+    dialog.setAcceptMode(QFileDialog::AcceptOpen);
+    dialog.setFileMode(QFileDialog::ExistingFile);
+    return chosenFile(dialog, request);
+}
+
+std::optional<QString> QtDialogs::saveFile(const FileRequest &request)
+{
+    QFileDialog dialog(parentNow(), request.title);
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setFileMode(QFileDialog::AnyFile);
+    dialog.setOption(QFileDialog::DontConfirmOverwrite);
+    return chosenFile(dialog, request);
+}
+
+std::optional<QString> QtDialogs::chooseFolder(const QString &title, const QString &start)
+{
+    QFileDialog dialog(parentNow(), title, existingPath(start));
+    dialog.setFileMode(QFileDialog::Directory);
+    dialog.setOption(QFileDialog::ShowDirsOnly);
+    if (dialog.exec() != QDialog::Accepted) {
+        return std::nullopt;
+    }
+    return nativeSeparators(dialog.selectedFiles().value(0));
+}
+
+std::optional<ColorRef> QtDialogs::chooseColour(ColorRef start)
+{
+    QColorDialog dialog(toColor(start), parentNow());
+    if (dialog.exec() != QDialog::Accepted) {
+        return std::nullopt;
+    }
+    return fromColor(dialog.selectedColor());
+}
+
+std::optional<CharFormat> QtDialogs::chooseFont(const CharFormat &start)
+{
+    QFont font;
+    if (!start.family.isEmpty()) {
+        font.setFamily(start.family);
+    }
+    if (start.pointSize > 0) {
+        font.setPointSizeF(start.pointSize);
+    }
+    font.setBold(start.bold);
+    font.setItalic(start.italic);
+    font.setUnderline(start.underline);
+    QFontDialog dialog(font, parentNow());
+    if (dialog.exec() != QDialog::Accepted) {
+        return std::nullopt;
+    }
+    font = dialog.selectedFont();
+    return CharFormat{ .family = font.family(),
+                       .pointSize = font.pointSizeF(),
+                       .bold = font.bold(),
+                       .italic = font.italic(),
+                       .underline = font.underline(),
+                       .colour = start.colour };
+}
+
+std::optional<qsizetype> QtDialogs::chooseFromList(const QString &title, const QStringList &lines)
+{
+    QDialog dialog(parentNow());
+    dialog.setWindowTitle(title);
+    auto *list = new QListWidget(&dialog);
+    list->setObjectName(u"List1"_s);
+    list->setAccessibleName(title);
+    list->addItems(lines);
+    list->setCurrentRow(0);
+    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, &dialog);
+    buttons->button(QDialogButtonBox::Ok)->setEnabled(!lines.isEmpty());
+    auto *layout = new QVBoxLayout(&dialog);
+    layout->addWidget(list);
+    layout->addWidget(buttons);
+    QObject::connect(buttons, &QDialogButtonBox::accepted, &dialog, &QDialog::accept);
+    QObject::connect(buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
+    QObject::connect(list, &QListWidget::itemActivated, &dialog, &QDialog::accept);
+    if (dialog.exec() != QDialog::Accepted || list->currentRow() < 0) {
+        return std::nullopt;
+    }
+    return list->currentRow();
+}
+
+} // namespace zeph

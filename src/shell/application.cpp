@@ -1,0 +1,231 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#include "shell/application.h"
+
+#include "editor/editor.h"
+#include "editor/editor_actions.h"
+#include "editor/editor_view.h"
+#include "platform/dialogs.h"
+#include "platform/screen.h"
+#include "platform/system_info.h"
+#include "shell/backup_folder.h"
+#include "shell/first_run.h"
+#include "shell/foreign_keyboard.h"
+#include "shell/help_menu.h"
+#include "shell/mum.h"
+#include "shell/settings/settings_moments.h"
+#include "shell/settings_files.h"
+#include "shell/start_checks.h"
+#include "shell/start_files.h"
+#include "shell/tool_windows.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QDir>
+#include <QStyleFactory>
+
+namespace zeph {
+
+namespace {
+
+constexpr int selectorOff = 1;
+
+QString storeOf(const QString &appFolder)
+{
+    return withClosingSeparator(appFolder) + u"Zeph.ini"_s;
+}
+
+} // namespace
+
+Application::Application(const ApplicationOptions &options)
+    : m_options(options), m_lock(options.appFolder)
+{
+    m_paths.appFolder = options.appFolder;
+    m_paths.iniPath = storeOf(options.appFolder);
+}
+
+Application::~Application() = default;
+
+void Application::applyStyle(QApplication &application)
+{
+    application.setStyle(QStyleFactory::create(u"Fusion"_s));
+    application.setApplicationName(u"Zeph"_s);
+    application.setDesktopFileName(u"zeph"_s);
+}
+
+Context Application::context()
+{
+    return { m_paths,          m_settings,      m_status,          m_options.dialogs,
+             m_options.launcher, m_options.clock, m_options.keyboard };
+}
+
+SettingsFiles Application::files() const
+{
+    return settingsFilesOf(m_paths);
+}
+
+bool Application::start()
+{
+    if (!chooseInstance()) {
+        m_options.dialogs.box(tooManyWindowsBox());
+        return false;
+    }
+    m_mum = std::make_unique<Mum>(context());
+    placeMum();
+    m_mum->refreshToolbars();
+    if (m_settings.TurnOffFontCheck == 0) {
+        if (const auto warning = smallFontsWarning(m_options.screen.logicalDpi())) {
+            m_options.dialogs.box(*warning);
+        }
+    }
+    // The program expects to stand among the Cougar's own software; the first run and Preferences
+    // point elsewhere. The compiler's path follows the folder by itself.
+    m_paths.hotasFolder = withClosingSeparator(m_paths.appFolder);
+    makeFolders();
+    readSettings();
+    m_commandLineFile = TestCommandLine(m_options.arguments);
+    m_mum->queryUnload = [this] { return queryUnload(); };
+    QObject::connect(m_mum.get(), &Mum::unloading, m_mum.get(), [this] { unloadMum(); });
+    m_mum->refreshToolbars();
+    m_mum->show();
+    m_mum->repaint();
+    m_status.setModePicture(selectorOff);
+    loadEditor();
+    selectFirstTab();
+    return true;
+}
+
+bool Application::chooseInstance()
+{
+    m_instance = m_lock.isFirst() ? GetRidOfPreviousIniFiles(m_paths.appFolder)
+                                  : MoreThan1open(m_paths.appFolder);
+    m_paths.iniPath = m_instance.iniPath;
+    return !m_instance.isTooMany();
+}
+
+void Application::placeMum()
+{
+    if (m_instance.isFurther()) {
+        m_mum->setWindowTitle(u"Zeph - secondary window"_s);
+    }
+    tellProblems(m_options.dialogs, GetMumPosition(m_settings, files()));
+    m_mum->setPlace(mumPlace(m_settings));
+}
+
+void Application::makeFolders() const
+{
+    for (const QString &folder : { m_paths.rtfFolder(), m_paths.filesFolder(),
+                                   m_paths.layoutsFolder(), m_paths.tempFolder() }) {
+        QDir().mkpath(folder);
+    }
+}
+
+void Application::readSettings()
+{
+    tellProblems(m_options.dialogs, readGlobalSettings(m_settings, files()));
+    m_settings.BackUpFolder =
+        checkedBackupFolder(m_settings.BackUpFolder, m_paths, m_options.dialogs);
+    if (m_settings.ImageFilePath.isEmpty()) {
+        m_settings.ImageFilePath = m_paths.inApp(u"Zeph.bmp");
+    }
+    if (m_settings.TextFilePath.isEmpty()) {
+        m_settings.TextFilePath = m_paths.inApp(u"ReadMe.txt");
+    }
+    // A store that cannot be written makes no fuss: the run then works with what it has read.
+    (void)saveGlobalSettings(m_settings, files());
+    if (m_settings.FirstTimeUsed == 1) {
+        (void)SetUpDefaultIniSettings(m_settings, files());
+    }
+}
+
+void Application::loadEditor()
+{
+    tellProblems(m_options.dialogs, readColours(m_settings, files()));
+    m_editor = new Editor(context(), m_mum.get());
+    m_mum->attachEditor(m_editor);
+    m_help = new HelpMenu(context(), m_options.downloader, m_mum->toolWindows(), *m_editor);
+    new ForeignKeyBSupport(m_options.keyboard, m_settings, m_editor);
+    m_editor->actions().connectTo(u"mnuFileExit", [this] { m_mum->close(); });
+    m_help->readZephInfo();
+    readEditorOptions();
+    if (m_options.system.isVista()) {
+        hideDirectXTesters();
+    }
+    openStartFiles(*m_editor, m_commandLineFile, m_settings, ProfileFile(m_paths.iniPath),
+                   m_options.dialogs);
+    m_mum->refreshToolbars();
+    m_status.setLine(1);
+    m_editor->view().UpdateSavedIcon();
+    greet();
+    if (m_settings.FirstTimeUsed == 1) {
+        runFirstRun(context(), *m_help, m_options.welcomeIntervalMs, m_mum.get());
+        m_editor->applySettings();
+    } else if (m_settings.ShowTips == 1) {
+        m_help->showTip();
+    }
+}
+
+void Application::readEditorOptions()
+{
+    tellProblems(m_options.dialogs,
+                 ::zeph::readSettings(m_settings, files(),
+                                      { &GlobalSettings::RegainControlAfter,
+                                        &GlobalSettings::CheckForCompletionTime,
+                                        &GlobalSettings::OpenSingleFileOnly }));
+    m_editor->applySettings();
+}
+
+void Application::hideDirectXTesters()
+{
+    for (const QStringView name :
+         { u"mnuAppsDX8Divider", u"mnuAppsDX8_0", u"mnuAppsDX8_1", u"mnuAppsDX8_2" }) {
+        m_editor->action(name)->setVisible(false);
+    }
+    m_settings.DefaultToDX8KeyTester = 0;
+}
+
+void Application::greet()
+{
+    m_status.setText(u"Ready! Welcome to Zeph, "_s + m_settings.PilotCallsign + u'!');
+}
+
+void Application::selectFirstTab()
+{
+    const bool joystickFirst =
+        !m_editor->joystickText().isEmpty() || m_editor->macroText().isEmpty();
+    if (joystickFirst && m_editor->selected().kind != DocumentKind::Joystick) {
+        m_editor->view().select(DocumentKind::Joystick);
+    }
+    EditorDocument &document = m_editor->selected();
+    document.caret = 0;
+    document.selLength = 0;
+    m_editor->ResetFocusToEditor();
+}
+
+bool Application::queryUnload()
+{
+    return !m_editor || m_editor->queryUnload();
+}
+
+void Application::unloadMum()
+{
+    if (m_editor) {
+        (void)saveTesterOptions(m_settings, files());
+        (void)SaveIndentStuff(m_settings, files());
+        m_settings.RestoreJoyFile = m_editor->restorableJoystickFile();
+        m_settings.RestoreMacroFile = m_editor->restorableMacroFile();
+        (void)SaveForRestore(m_settings, files());
+    }
+    m_mum->toolWindows().unloadAll();
+    const WindowPlace place = m_mum->place();
+    const QSize screen = m_options.screen.size();
+    (void)SaveMumPosition(m_settings, files(), place,
+                          { double(twipsFromPixels(screen.width())),
+                            double(twipsFromPixels(screen.height())) });
+    if (place.state != WindowState::Minimised) {
+        deleteInstanceStore(m_instance);
+    }
+}
+
+} // namespace zeph

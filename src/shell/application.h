@@ -1,0 +1,92 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "editor/context.h"
+#include "platform/instance_lock.h"
+#include "platform/status_line.h"
+#include "shell/settings/further_instances.h"
+#include "shell/settings/global_settings.h"
+
+#include <QStringList>
+
+#include <memory>
+
+class QApplication;
+
+namespace zeph {
+
+class Downloader;
+class Editor;
+class HelpMenu;
+class Mum;
+class Screen;
+class SystemInfo;
+
+/// The world that a run stands in; all must outlive it.
+struct ApplicationOptions {
+    /// The folder that everything lies in, without a closing separator.
+    QString appFolder;
+    /// The command line without the program's name.
+    QStringList arguments;
+    Dialogs &dialogs;
+    ProcessLauncher &launcher;
+    Clock &clock;
+    Downloader &downloader;
+    Keyboard &keyboard;
+    const Screen &screen;
+    const SystemInfo &system;
+    /// Milliseconds between two dots of the first run's script.
+    int welcomeIntervalMs = 250;
+};
+
+/// The composition root: owns the paths, the settings, the status line and the main window, brings
+/// a run up in its fixed order and down again.
+class Application
+{
+public:
+    explicit Application(const ApplicationOptions &options);
+    ~Application();
+
+    /// How every window looks, on every system.
+    static void applyStyle(QApplication &application);
+
+    /// Brings the run up. False when it has to end at once, which has been told.
+    bool start();
+
+    Mum &mum() { return *m_mum; }
+    Editor &editor() { return *m_editor; }
+    HelpMenu &help() { return *m_help; }
+    Context context();
+    const Paths &paths() const { return m_paths; }
+    GlobalSettings &settings() { return m_settings; }
+    StatusLine &status() { return m_status; }
+
+private:
+    bool chooseInstance();
+    void placeMum();
+    void makeFolders() const;
+    void readSettings();
+    void loadEditor();
+    void readEditorOptions();
+    void hideDirectXTesters();
+    void greet();
+    void selectFirstTab();
+    bool queryUnload();
+    void unloadMum();
+    SettingsFiles files() const;
+
+    ApplicationOptions m_options;
+    InstanceLock m_lock;
+    Instance m_instance;
+    Paths m_paths;
+    GlobalSettings m_settings;
+    StatusLine m_status;
+    QString m_commandLineFile;
+    std::unique_ptr<Mum> m_mum;
+    Editor *m_editor = nullptr;
+    HelpMenu *m_help = nullptr;
+};
+
+} // namespace zeph

@@ -1,0 +1,67 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#include "shell/first_run.h"
+
+#include "platform/dialogs.h"
+#include "shell/help_menu.h"
+#include "shell/settings/settings_moments.h"
+#include "shell/settings_files.h"
+#include "shell/welcome.h"
+
+namespace zeph {
+
+namespace {
+
+constexpr int showMeHowTopic = 100;
+
+/// A write that fails is nobody's failure here, as everywhere in the store.
+void writeStore(const Context &context)
+{
+    const SettingsFiles files = settingsFilesOf(context.paths);
+    tellProblems(context.dialogs, readColours(context.settings, files));
+    (void)saveGlobalSettings(context.settings, files);
+    (void)saveColours(context.settings, files);
+    (void)saveFilesFolder(files, context.paths.filesFolder());
+}
+
+void showByExperience(qint16 firstTimeUsed, HelpMenu &help)
+{
+    switch (firstTimeUsed) {
+    case 2:
+        help.showInformation(u"Information 20.rtf"_s, u"A brief introduction"_s);
+        return;
+    case 3:
+        help.showInformation(u"Information 21.rtf"_s, u"Learning to program"_s);
+        return;
+    case 4:
+        help.showTopic(showMeHowTopic);
+        return;
+    default:
+        return;
+    }
+}
+
+} // namespace
+
+void takeWelcomeAnswers(const WelcomeAnswers &answers, GlobalSettings &settings, Paths &paths)
+{
+    const QString user = composeValidUser(answers.firstName, answers.callsign, answers.lastName);
+    if (!user.isEmpty()) {
+        settings.ValidUser = user;
+    }
+    settings.PilotCallsign = callsignOrBuddy(answers.callsign);
+    settings.FirstTimeUsed = firstTimeUsedAfter(answers.experience);
+    paths.hotasFolder = answers.hotasFolder;
+}
+
+void runFirstRun(const Context &context, HelpMenu &help, int welcomeIntervalMs, QWidget *parent)
+{
+    Welcome welcome(context.paths, context.dialogs, welcomeIntervalMs, parent);
+    welcome.exec();
+    takeWelcomeAnswers(welcome.answers(), context.settings, context.paths);
+    writeStore(context);
+    showByExperience(context.settings.FirstTimeUsed, help);
+}
+
+} // namespace zeph

@@ -1,0 +1,48 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "shell/tips.h"
+
+#include <QDialog>
+
+#include <functional>
+#include <memory>
+
+namespace zeph {
+
+struct GlobalSettings;
+struct Paths;
+
+namespace Ui {
+class frmTip;
+}
+
+/// "Tip of the Day". OK keeps whether it shows at the next start; closing it otherwise does not.
+class frmTip : public QDialog
+{
+    Q_OBJECT
+public:
+    /// Gives a number from 0 to below count (at least 1).
+    using Pick = std::function<qsizetype(qsizetype count)>;
+
+    /// Loads the tips and shows one; pick says which comes first, by chance when not given.
+    frmTip(const Paths &paths, GlobalSettings &settings, Pick pick = {}, QWidget *parent = nullptr);
+    ~frmTip() override;
+
+    /// Reads the tip file. False when there is none, or no tip in it.
+    bool LoadTips();
+    void DisplayCurrentTip();
+
+    void accept() override;
+
+private:
+    const Paths &m_paths;
+    GlobalSettings &m_settings;
+    Pick m_pick;
+    TipCycle m_tips;
+    std::unique_ptr<Ui::frmTip> m_ui;
+};
+
+} // namespace zeph

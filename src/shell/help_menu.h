@@ -1,0 +1,51 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "editor/context.h"
+
+#include <QObject>
+
+namespace zeph {
+
+class Downloader;
+class Editor;
+class HelpWindow;
+class ToolWindows;
+struct InfoEntry;
+
+/// What the Help menu and F1 do.
+class HelpMenu : public QObject
+{
+    Q_OBJECT
+public:
+    HelpMenu(const Context &context, Downloader &downloader, ToolWindows &windows, Editor &editor);
+
+    /// Fills How do I and Manuals from ZephInfo.ini; a missing one is told.
+    void readZephInfo();
+
+    void mnuHelpContents_Click();
+    void showTopic(int number);
+    void showKeyword(const QString &word);
+    /// A text of the Info folder.
+    void showInformation(const QString &fileName, const QString &title);
+    void showTip();
+    /// 0 the version check, 1 the compatibility text, 2 the About window.
+    void mnuHelpAbout_Click(int index);
+
+private:
+    HelpWindow *helpWindow();
+    void fillSubmenu(QStringView name, const QList<InfoEntry> &entries,
+                     void (HelpMenu::*open)(const InfoEntry &));
+    void openInformation(const InfoEntry &entry);
+    void openManual(const InfoEntry &entry);
+    bool showFile(const QString &path, const QString &title);
+
+    Context m_context;
+    Downloader &m_downloader;
+    ToolWindows &m_windows;
+    Editor &m_editor;
+};
+
+} // namespace zeph

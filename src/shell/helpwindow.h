@@ -1,0 +1,57 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "shell/help_set.h"
+
+#include <QDialog>
+
+#include <memory>
+
+class QUrl;
+
+namespace zeph {
+
+class Dialogs;
+class ProcessLauncher;
+struct Paths;
+
+namespace Ui {
+class HelpWindow;
+}
+
+/// The help: its pages, reached by contents, by number, by keyword and by links.
+class HelpWindow : public QDialog
+{
+    Q_OBJECT
+public:
+    HelpWindow(const Paths &paths, Dialogs &dialogs, ProcessLauncher &launcher,
+               QWidget *parent = nullptr);
+    ~HelpWindow() override;
+
+    /// Each shows its page; false, with the box already shown, when there is none.
+    bool showContents();
+    bool showTopic(int number);
+    bool showKeyword(const QString &word);
+    /// A page by its full path; false, and nothing shown, when it is none of the help's.
+    bool showPage(const QString &path);
+
+private:
+    /// A place in the help folder, "file" or "file#anchor".
+    bool showTarget(const QString &target);
+    void openLink(const QUrl &link);
+    void fillContents();
+    void fillIndex();
+    void markCurrentTopic();
+    void findInPage();
+    QString folder() const;
+
+    const Paths &m_paths;
+    Dialogs &m_dialogs;
+    ProcessLauncher &m_launcher;
+    HelpSet m_set;
+    std::unique_ptr<Ui::HelpWindow> m_ui;
+};
+
+} // namespace zeph

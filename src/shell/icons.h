@@ -1,0 +1,18 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "platform/core/paths.h"
+
+#include <QIcon>
+
+namespace zeph {
+
+/// A picture of the icons folder by its name without extension; an empty icon when it is missing.
+inline QIcon iconNamed(const Paths &paths, QStringView name)
+{
+    return QIcon(paths.inApp(u"icons/") + name.toString() + u".svg"_s);
+}
+
+} // namespace zeph

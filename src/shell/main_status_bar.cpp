@@ -1,0 +1,170 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#include "shell/main_status_bar.h"
+
+#include "platform/core/units.h"
+#include "platform/status_line.h"
+#include "shell/icons.h"
+#include "shell/settings/global_settings.h"
+
+#include <QHelpEvent>
+#include <QLabel>
+#include <QMouseEvent>
+#include <QToolTip>
+
+#include <algorithm>
+#include <array>
+
+namespace zeph {
+
+namespace {
+
+constexpr int pictureSize = 16;
+constexpr int selectorOff = 1;
+constexpr std::array modeIcons = { u"mode-off", u"mode-windows", u"mode-programmed",
+                                   u"mode-unknown" };
+constexpr std::array savedIcons = { u"saved-empty", u"saved-saved", u"saved-modified" };
+
+/// The message line: a message that is too long ends in dots instead of widening the window.
+class MessageLabel : public QLabel
+{
+public:
+    using QLabel::QLabel;
+    QSize minimumSizeHint() const override { return { 0, QLabel::minimumSizeHint().height() }; }
+
+protected:
+    void paintEvent(QPaintEvent *) override
+    {
+        QPainter painter(this);
+        const QString shown = fontMetrics().elidedText(text(), Qt::ElideRight, width());
+        style()->drawItemText(&painter, rect(), Qt::AlignLeft | Qt::AlignVCenter, palette(),
+                              isEnabled(), shown, foregroundRole());
+    }
+};
+
+template <size_t Count>
+QString iconOf(const std::array<const char16_t *, Count> &names, int picture)
+{
+    return QString::fromUtf16(names[size_t(std::clamp(picture, 1, int(Count)) - 1)]);
+}
+
+} // namespace
+
+MainStatusBar::MainStatusBar(const Context &context, QWidget *parent)
+    : QStatusBar(parent), m_context(context), m_message(new MessageLabel(this))
+{
+    setObjectName(u"StatusBar"_s);
+    setMouseTracking(true);
+    m_message->setObjectName(u"Panel_1"_s);
+    m_message->setTextFormat(Qt::PlainText);
+    m_message->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    m_message->setAttribute(Qt::WA_TransparentForMouseEvents);
+    addWidget(m_message, 1);
+    m_mode = makePanel(2, u"Cougar mode"_s);
+    m_line = makePanel(3, {});
+    m_saved = makePanel(4, u"Saved state"_s);
+    m_line->setMinimumWidth(fontMetrics().horizontalAdvance(u"Line no: 99999"_s));
+
+    const StatusLine &status = context.status;
+    connect(&status, &StatusLine::textChanged, m_message, [this](const QString &text) {
+        m_message->setText(text);
+        m_message->update();
+    });
+    connect(&status, &StatusLine::lineTextChanged, m_line, &QLabel::setText);
+    connect(&status, &StatusLine::modePictureChanged, this, &MainStatusBar::showMode);
+    connect(&status, &StatusLine::savedChanged, this, &MainStatusBar::showSaved);
+    m_message->setText(status.text());
+    m_line->setText(status.lineText());
+    setModeTooltip(u"Cougar mode selector is off"_s);
+    showMode(status.modePicture());
+    showSaved(status.savedPicture(), status.savedTooltip());
+}
+
+QLabel *MainStatusBar::makePanel(int number, const QString &accessibleName)
+{
+    auto *panel = new QLabel(this);
+    panel->setObjectName(u"Panel_"_s + QString::number(number));
+    panel->setAccessibleName(accessibleName);
+    // The bar itself sees the mouse, so that one rule decides by the distance from its left end.
+    panel->setAttribute(Qt::WA_TransparentForMouseEvents);
+    addPermanentWidget(panel);
+    return panel;
+}
+
+StatusPanelEdges MainStatusBar::edges() const
+{
+    return { twipsFromPixels(m_mode->x()), twipsFromPixels(m_line->x()) };
+}
+
+QString MainStatusBar::modeTooltip() const
+{
+    return m_mode->toolTip();
+}
+
+void MainStatusBar::setModeTooltip(const QString &tooltip)
+{
+    m_mode->setToolTip(tooltip);
+}
+
+void MainStatusBar::showMode(int picture)
+{
+    m_mode->setPixmap(iconNamed(m_context.paths, iconOf(modeIcons, picture))
+                          .pixmap({ pictureSize, pictureSize }, devicePixelRatioF()));
+}
+
+void MainStatusBar::showSaved(int picture, const QString &tooltip)
+{
+    m_saved->setPixmap(iconNamed(m_context.paths, iconOf(savedIcons, picture))
+                           .pixmap({ pictureSize, pictureSize }, devicePixelRatioF()));
+    m_saved->setToolTip(tooltip);
+}
+
+bool MainStatusBar::event(QEvent *event)
+{
+    if (event->type() == QEvent::ToolTip) {
+        const auto *help = static_cast<QHelpEvent *>(event);
+        for (const QLabel *panel : { m_mode, m_saved }) {
+            if (panel->geometry().contains(help->pos())) {
+                QToolTip::showText(help->globalPos(), panel->toolTip(), this);
+                return true;
+            }
+        }
+    }
+    return QStatusBar::event(event);
+}
+
+void MainStatusBar::mouseMoveEvent(QMouseEvent *event)
+{
+    const StatusHover hover =
+        statusBarHover(twipsFromPixels(event->pos().x()), edges(),
+                       m_context.status.modePicture() != selectorOff,
+                       m_context.settings.PilotCallsign);
+    if (hover.wantsModeTooltip) {
+        Q_EMIT modeTooltipWanted();
+    } else {
+        m_context.status.setText(hover.text);
+    }
+}
+
+void MainStatusBar::mousePressEvent(QMouseEvent *event)
+{
+    if (event->button() != Qt::LeftButton && event->button() != Qt::RightButton) {
+        return;
+    }
+    const StatusPress press = statusBarPress(twipsFromPixels(event->pos().x()),
+                                             event->button() == Qt::RightButton);
+    if (press != StatusPress::None) {
+        Q_EMIT endPressed(press);
+    }
+}
+
+void MainStatusBar::mouseReleaseEvent(QMouseEvent *event)
+{
+    const int x = event->pos().x();
+    if (x >= m_mode->x() && x < m_line->x()) {
+        Q_EMIT modePanelClicked(event->button());
+    }
+}
+
+} // namespace zeph

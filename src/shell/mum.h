@@ -1,0 +1,72 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "editor/context.h"
+#include "shell/settings/settings_moments.h"
+
+#include <QMainWindow>
+
+#include <functional>
+
+namespace zeph {
+
+class CoolBar;
+class Editor;
+class MainStatusBar;
+class ToolWindows;
+
+/// The main window: menus, toolbars and status bar around its one permanent child, the Editor.
+class Mum : public QMainWindow
+{
+    Q_OBJECT
+public:
+    explicit Mum(const Context &context);
+    ~Mum() override;
+
+    /// Takes the Editor as the window's content, and its menus for the menu bar.
+    void attachEditor(Editor *editor);
+
+    ToolWindows &toolWindows() { return *m_toolWindows; }
+    MainStatusBar &bar() { return *m_bar; }
+
+    /// Where the window stands, in twips, and the way back.
+    WindowPlace place() const;
+    void setPlace(const WindowPlace &place);
+
+    /// Sets or clears every tooltip of the toolbars, by OKtoShowToolTips.
+    void UpdateTooltips();
+    /// Shows the bands of the toolbars, unless the window is minimised.
+    void HideShowTheCoolbar();
+    /// Brings the buttons up to date with settings and selected tab.
+    void refreshToolbars();
+
+    /// Asked before the window closes; false keeps it open.
+    std::function<bool()> queryUnload;
+
+    QMenu *createPopupMenu() override { return nullptr; }
+
+Q_SIGNALS:
+    /// The window goes for good; its place can still be asked.
+    void unloading();
+
+protected:
+    bool event(QEvent *event) override;
+    void changeEvent(QEvent *event) override;
+    void closeEvent(QCloseEvent *event) override;
+
+private:
+    void pressAtEnd(int press);
+    void showStatusTip(const QString &tip);
+
+    Context m_context;
+    ToolWindows *m_toolWindows;
+    CoolBar *m_coolBar;
+    MainStatusBar *m_bar;
+    Editor *m_editor = nullptr;
+    /// What panel 1 read before a menu entry described itself there.
+    std::optional<QString> m_textBelowTip;
+};
+
+} // namespace zeph

@@ -1,0 +1,77 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#include "shell/start_files.h"
+
+#include "editor/editor.h"
+#include "editor/editor_actions.h"
+#include "editor/file_opening.h"
+#include "platform/core/paths.h"
+#include "shell/favourites.h"
+#include "shell/settings/global_settings.h"
+
+#include <QFileInfo>
+
+namespace zeph {
+
+namespace {
+
+QString existingFile(QString name)
+{
+    name.remove(u'"');
+    const QString path = existingPath(nativeSeparators(name));
+    return !path.isEmpty() && fileExists(path) ? QFileInfo(path).absoluteFilePath() : QString();
+}
+
+/// True when the last run left a file to open, whether or not that still exists.
+bool openRestored(Editor &editor, const GlobalSettings &settings)
+{
+    // Opening reads the settings' files anew as it goes, so the names are taken beforehand.
+    const QString joystick = settings.RestoreJoyFile;
+    const QString macro = settings.RestoreMacroFile;
+    if (joystick.isEmpty() && macro.isEmpty()) {
+        return false;
+    }
+    editor.opening().OpenRestoredStatus(joystick, macro);
+    if (!joystick.isEmpty() && !macro.isEmpty()) {
+        editor.actions().trigger(u"mnuMacrosIdentify");
+    }
+    return true;
+}
+
+void openAutoload(Editor &editor, const ProfileFile &store, Dialogs &dialogs)
+{
+    const auto favourite = autoloadFavourite(store);
+    if (!favourite) {
+        return;
+    }
+    const bool both = openFavourite(*favourite, dialogs, [&editor](const QString &path) {
+        editor.opening().OpenFavouriteFile(path);
+    });
+    if (both) {
+        editor.actions().trigger(u"mnuMacrosIdentify");
+    }
+}
+
+} // namespace
+
+QString TestCommandLine(const QStringList &arguments)
+{
+    if (arguments.isEmpty()) {
+        return {};
+    }
+    const QString first = existingFile(arguments.first());
+    return first.isEmpty() ? existingFile(arguments.join(u' ')) : first;
+}
+
+void openStartFiles(Editor &editor, const QString &commandLineFile, const GlobalSettings &settings,
+                    const ProfileFile &store, Dialogs &dialogs)
+{
+    if (!commandLineFile.isEmpty()) {
+        editor.opening().OpenPreviouslySavedFiles(commandLineFile);
+    } else if (settings.RestoreStatus != 1 || !openRestored(editor, settings)) {
+        openAutoload(editor, store, dialogs);
+    }
+}
+
+} // namespace zeph

@@ -1,0 +1,173 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#include "shell/tour.h"
+
+#include "editor/editor.h"
+#include "editor/editor_actions.h"
+#include "editor/editor_view.h"
+#include "platform/core/file_io.h"
+#include "shell/application.h"
+#include "shell/mum.h"
+#include "shell/tool_windows.h"
+#include "shell/welcome.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QDir>
+#include <QStackedWidget>
+
+namespace zeph {
+
+namespace {
+
+constexpr int pauseMs = 400;
+constexpr int welcomePauseMs = 100;
+
+} // namespace
+
+BoxButton RecordingDialogs::box(const Box &box)
+{
+    m_record.append(u"box: "_s + box.title + u": "_s + box.text);
+    return box.defaultButton;
+}
+
+std::optional<QString> RecordingDialogs::openFile(const FileRequest &request)
+{
+    m_record.append(u"open: "_s + request.title);
+    return std::nullopt;
+}
+
+std::optional<QString> RecordingDialogs::saveFile(const FileRequest &request)
+{
+    m_record.append(u"save: "_s + request.title);
+    return std::nullopt;
+}
+
+std::optional<QString> RecordingDialogs::chooseFolder(const QString &title, const QString &)
+{
+    m_record.append(u"folder: "_s + title);
+    return std::nullopt;
+}
+
+std::optional<ColorRef> RecordingDialogs::chooseColour(ColorRef)
+{
+    m_record.append(u"colour"_s);
+    return std::nullopt;
+}
+
+std::optional<CharFormat> RecordingDialogs::chooseFont(const CharFormat &)
+{
+    m_record.append(u"font"_s);
+    return std::nullopt;
+}
+
+std::optional<qsizetype> RecordingDialogs::chooseFromList(const QString &title,
+                                                          const QStringList &)
+{
+    m_record.append(u"list: "_s + title);
+    return std::nullopt;
+}
+
+Tour::Tour(const QString &folder, const RecordingDialogs &dialogs)
+    : m_folder(folder), m_dialogs(dialogs)
+{
+    QDir().mkpath(folder);
+    connect(&m_welcomeTimer, &QTimer::timeout, this, &Tour::answerWelcome);
+    m_welcomeTimer.start(welcomePauseMs);
+    connect(&m_timer, &QTimer::timeout, this, &Tour::walk);
+    m_timer.setSingleShot(true);
+    m_timer.setInterval(pauseMs);
+}
+
+void Tour::start(Application &application)
+{
+    m_application = &application;
+    addStops(application);
+    m_timer.start();
+}
+
+void Tour::addStops(Application &application)
+{
+    const auto press = [&application](QString name) {
+        return [&application, name] { application.editor().actions().trigger(name); };
+    };
+    m_stops = {
+        { u"pair"_s, [] {} },
+        { u"tiled"_s, press(u"mnuViewTileVertically"_s) },
+        { u"macro-tab"_s,
+          [&application] {
+              application.editor().actions().trigger(u"mnuViewTileVertically");
+              application.editor().view().select(DocumentKind::Macro);
+          } },
+        { u"compile"_s, press(u"mnuAppsCompile"_s) },
+        { u"tip"_s, press(u"mnuHelpTip"_s) },
+        { u"about"_s, press(u"mnuHelpAbout_2"_s) },
+        { u"help"_s, press(u"mnuHelpContents"_s) },
+        { u"syntax"_s, press(u"mnuHelpSyntax"_s) },
+        { u"error-codes"_s, press(u"mnuHelpErrorCodes"_s) },
+        { u"empty"_s, press(u"mnuFileNewBoth"_s) },
+    };
+}
+
+void Tour::walk()
+{
+    if (m_next > 0) {
+        const QString &name = m_stops[m_next - 1].name;
+        grabAll(name);
+        m_panel.append(name + u": "_s + m_application->status().text());
+    }
+    if (m_next == m_stops.size()) {
+        writeVerdict();
+        QApplication::quit();
+        return;
+    }
+    m_application->mum().toolWindows().unloadAll();
+    // A stop may wait in an event loop of its own; the next one comes only after it.
+    m_stops[m_next++].goThere();
+    m_timer.start();
+}
+
+void Tour::answerWelcome()
+{
+    auto *welcome = qobject_cast<Welcome *>(QApplication::activeModalWidget());
+    if (!welcome) {
+        return;
+    }
+    const auto *pages = welcome->findChild<QStackedWidget *>(u"pages"_s);
+    const QString page = pages->currentWidget()->objectName();
+    grab(*welcome, u"welcome-"_s + page);
+    if (page == u"pageExperience") {
+        welcome->findChild<QAbstractButton *>(u"Option_Experience_3"_s)->click();
+    }
+    for (auto *button : pages->currentWidget()->findChildren<QAbstractButton *>()) {
+        if (button->objectName().startsWith(u"cmd") && button->objectName() != u"cmdBrowse") {
+            button->click();
+        }
+    }
+}
+
+void Tour::grab(QWidget &window, const QString &name) const
+{
+    window.grab().save(m_folder + u'/' + name + u".png"_s);
+}
+
+void Tour::grabAll(const QString &name) const
+{
+    grab(m_application->mum(), name);
+    for (QWidget *window : QApplication::topLevelWidgets()) {
+        if (window->isVisible() && window != &m_application->mum()
+            && !window->objectName().isEmpty()) {
+            grab(*window, name + u'-' + window->objectName());
+        }
+    }
+}
+
+void Tour::writeVerdict() const
+{
+    QStringList lines = m_panel;
+    lines.append(m_dialogs.record());
+    (void)writeFileAtomically(m_folder + u"/verdict.txt"_s, lines.join(u'\n').toUtf8() + '\n');
+}
+
+} // namespace zeph

@@ -1,0 +1,31 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#include "toolchain/formdownloadstatus.h"
+
+#include "ui_formdownloadstatus.h"
+
+#include <algorithm>
+
+namespace zeph {
+
+FormDownloadStatus::FormDownloadStatus(const QString &caption, int longestSeconds, QWidget *parent)
+    : QDialog(parent), m_ui(std::make_unique<Ui::FormDownloadStatus>())
+{
+    m_ui->setupUi(this);
+    setAttribute(Qt::WA_DeleteOnClose);
+    // It comes by itself, maybe while the user types elsewhere.
+    setAttribute(Qt::WA_ShowWithoutActivating);
+    m_ui->LabelStatus->setText(caption);
+    // A bar from 0 to 0 would run for ever.
+    m_ui->ProgressBar->setRange(0, std::max(1, longestSeconds));
+}
+
+FormDownloadStatus::~FormDownloadStatus() = default;
+
+void FormDownloadStatus::setSeconds(int seconds)
+{
+    m_ui->ProgressBar->setValue(std::clamp(seconds, 0, m_ui->ProgressBar->maximum()));
+}
+
+} // namespace zeph

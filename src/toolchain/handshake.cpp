@@ -1,0 +1,171 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#include "toolchain/handshake.h"
+
+#include "platform/dialogs.h"
+#include "platform/process_launcher.h"
+#include "shell/settings/global_settings.h"
+#include "toolchain/formdownloadstatus.h"
+#include "toolchain/hotas_ini.h"
+
+#include <QEventLoop>
+#include <QWidget>
+
+namespace zeph {
+
+namespace {
+
+/// The exit code of a loop whose wait has lost its ground; 0 is a wait's own end.
+constexpr int abandoned = 1;
+
+Expected<void, QString> inWords(const Expected<void, FileError> &result)
+{
+    if (!result) {
+        return Unexpected<QString>(result.error().path + u"\n\n"_s + result.error().reason);
+    }
+    return {};
+}
+
+} // namespace
+
+ToolchainHandshake::ToolchainHandshake(const Context &context, QWidget *mainWindow, QObject *parent)
+    : QObject(parent), m_context(context), m_mainWindow(mainWindow)
+{
+    m_compiler.timer.setObjectName(u"DownloadTimer"_s);
+    m_compiler.timer.setParent(this);
+    m_mode.timer.setObjectName(u"StatusModeTimer"_s);
+    m_mode.timer.setParent(this);
+    connect(&m_compiler.timer, &QTimer::timeout, this, &ToolchainHandshake::DownloadTimer_Timer);
+    connect(&m_mode.timer, &QTimer::timeout, this, &ToolchainHandshake::StatusModeTimer_Timer);
+}
+
+ToolchainHandshake::~ToolchainHandshake()
+{
+    closeStatusWindow();
+}
+
+HotasIni ToolchainHandshake::hotasIni() const
+{
+    // The folder of the tools can be changed while Zeph runs.
+    return HotasIni(m_context.paths.hotasIni());
+}
+
+ExchangeEnd ToolchainHandshake::runCompiler(const Launch &launch)
+{
+    return run(
+        m_compiler, [this] { return inWords(hotasIni().clearCompiler()); }, launch);
+}
+
+ExchangeEnd ToolchainHandshake::runModeRequest(const Launch &launch)
+{
+    return run(
+        m_mode, [this] { return inWords(hotasIni().clearModeStatus()); }, launch);
+}
+
+ExchangeEnd ToolchainHandshake::run(Channel &channel, const Clear &clear, const Launch &launch)
+{
+    // With an old status left in place the first poll would take it for the new verdict.
+    if (!succeeded(clear())) {
+        return ExchangeEnd::NotStarted;
+    }
+    if (!succeeded(m_context.launcher.start(launch))) {
+        return ExchangeEnd::NotStarted;
+    }
+    channel.state = {};
+    channel.timer.start(waitTimes(m_context.settings).checkForCompletion);
+    return wait(channel);
+}
+
+/// Whether there is no failure; one is told.
+bool ToolchainHandshake::succeeded(const Expected<void, QString> &result)
+{
+    if (!result) {
+        m_context.dialogs.tell(u"Unable to run the Thrustmaster software"_s, result.error(),
+                               BoxIcon::Exclamation);
+    }
+    return result.has_value();
+}
+
+ExchangeEnd ToolchainHandshake::wait(Channel &channel)
+{
+    const QPointer<ToolchainHandshake> alive(this);
+    QEventLoop loop;
+    connect(this, &ToolchainHandshake::waitEnded, &loop, &QEventLoop::quit);
+    connect(this, &QObject::destroyed, &loop, [&loop] { loop.exit(abandoned); });
+    // An exchange that began inside this one may have set the variables anew before its own loop
+    // gave the control back, so they are looked at after every wake-up. When the program ends,
+    // running the loop again fails, and that is the end of the wait.
+    while (channel.state.finished == WaitRunning) {
+        const int code = loop.exec();
+        if (!alive) {
+            return ExchangeEnd::Abandoned;
+        }
+        if (code != 0) {
+            channel.timer.stop();
+            return ExchangeEnd::Abandoned;
+        }
+    }
+    return channel.state.finished == WaitGivenUp ? ExchangeEnd::GivenUp : ExchangeEnd::Verdict;
+}
+
+void ToolchainHandshake::DownloadTimer_Timer()
+{
+    const bool answered = !hotasIni().pollCompiler().isEmpty();
+    const TickActions actions =
+        tick(m_compiler.state, answered, waitTimes(m_context.settings),
+             m_context.settings.HideDownloadStatusWindow != 0, StatusWindowShown());
+    showStatus(actions);
+    finishTick(m_compiler, actions);
+}
+
+void ToolchainHandshake::StatusModeTimer_Timer()
+{
+    const bool answered = !hotasIni().pollModeStatus().isEmpty();
+    constexpr bool hideWindow = true;
+    finishTick(m_mode,
+               tick(m_mode.state, answered, waitTimes(m_context.settings), hideWindow, false));
+}
+
+void ToolchainHandshake::finishTick(Channel &channel, const TickActions &actions)
+{
+    if (actions.stopTimer) {
+        channel.timer.stop();
+        Q_EMIT waitEnded();
+    }
+}
+
+void ToolchainHandshake::showStatus(const TickActions &actions)
+{
+    if (actions.window == StatusWindowStep::None) {
+        return;
+    }
+    if (actions.window == StatusWindowStep::Refresh) {
+        m_statusWindow->setSeconds(actions.bar);
+        m_statusWindow->repaint();
+        return;
+    }
+    const int longest = wholeSeconds(waitTimes(m_context.settings).regainControlAfter);
+    m_statusWindow = new FormDownloadStatus(m_statusCaption, longest, m_mainWindow);
+    connect(m_statusWindow, &QDialog::finished, this, [this, window = m_statusWindow.data()] {
+        // The window itself goes a little later, and another may have taken its place by then.
+        if (m_statusWindow == window) {
+            m_statusWindow.clear();
+        }
+    });
+    m_statusWindow->setSeconds(actions.bar);
+    m_statusWindow->show();
+}
+
+void ToolchainHandshake::closeStatusWindow()
+{
+    if (auto *window = m_statusWindow.data()) {
+        m_statusWindow.clear();
+        window->disconnect(this);
+        window->close();
+        // A window that its owner hid does not delete itself when it is closed.
+        window->deleteLater();
+    }
+}
+
+} // namespace zeph

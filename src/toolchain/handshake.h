@@ -1,0 +1,89 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "editor/context.h"
+#include "toolchain/wait_state.h"
+
+#include <QObject>
+#include <QPointer>
+#include <QTimer>
+
+#include <functional>
+
+class QWidget;
+
+namespace zeph {
+
+class FormDownloadStatus;
+class HotasIni;
+struct Launch;
+
+/// How an exchange with a tool ended.
+enum class ExchangeEnd {
+    Verdict, ///< the tool wrote its status
+    GivenUp, ///< it was waited for too long; it runs on
+    NotStarted, ///< it could not be started, which was told
+    Abandoned ///< Zeph is ending: the caller returns at once and touches nothing any more
+};
+
+/// The exchanges with the Cougar's tools: a tool is started, then its section of HOTAS.ini is
+/// polled until a status stands there. The waits are nested event loops, so the interface stays
+/// alive in them, and a command may start during another's wait. There is one set of variables for
+/// the compiler and one for mode requests: a second exchange restarts the first one's wait, and its
+/// end is the end of both. A wait ends with the destruction of this object and with the program.
+class ToolchainHandshake : public QObject
+{
+    Q_OBJECT
+public:
+    /// The main window owns the status window; it may be null and may go before this object.
+    ToolchainHandshake(const Context &context, QWidget *mainWindow, QObject *parent = nullptr);
+    ~ToolchainHandshake() override;
+
+    /// Empties the compiler's section, starts the compiler and waits for its verdict.
+    ExchangeEnd runCompiler(const Launch &launch);
+    /// Empties the mode status, starts the tool and waits for it.
+    ExchangeEnd runModeRequest(const Launch &launch);
+
+    qint16 CompilerFinished() const { return m_compiler.state.finished; }
+    qint32 CompilerElapsed() const { return m_compiler.state.elapsed; }
+    qint16 ModeFinished() const { return m_mode.state.finished; }
+    qint32 ModeElapsed() const { return m_mode.state.elapsed; }
+
+    /// What the status window says when it appears.
+    const QString &StatusCaption() const { return m_statusCaption; }
+    void setStatusCaption(const QString &caption) { m_statusCaption = caption; }
+    bool StatusWindowShown() const { return !m_statusWindow.isNull(); }
+    /// Closes the status window if it is up: a compile leaves it on the screen, a download not.
+    void closeStatusWindow();
+
+Q_SIGNALS:
+    /// A wait got its end; whoever waits looks at the variables.
+    void waitEnded();
+
+private:
+    struct Channel {
+        QTimer timer;
+        WaitState state;
+    };
+    using Clear = std::function<Expected<void, QString>()>;
+
+    ExchangeEnd run(Channel &channel, const Clear &clear, const Launch &launch);
+    ExchangeEnd wait(Channel &channel);
+    bool succeeded(const Expected<void, QString> &result);
+    void DownloadTimer_Timer();
+    void StatusModeTimer_Timer();
+    void finishTick(Channel &channel, const TickActions &actions);
+    void showStatus(const TickActions &actions);
+    HotasIni hotasIni() const;
+
+    Context m_context;
+    QPointer<QWidget> m_mainWindow;
+    QPointer<FormDownloadStatus> m_statusWindow;
+    QString m_statusCaption;
+    Channel m_compiler;
+    Channel m_mode;
+};
+
+} // namespace zeph

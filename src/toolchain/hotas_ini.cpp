@@ -1,0 +1,96 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#include "toolchain/hotas_ini.h"
+
+#include <limits>
+
+namespace zeph {
+
+namespace {
+
+constexpr QStringView compilerSection = u"Compiler";
+constexpr QStringView modeSection = u"TMMODE";
+constexpr QStringView statusKey = u"Status";
+constexpr qint16 unknownMode = std::numeric_limits<qint16>::max();
+
+/// A key of the compiler's section and what it is emptied to, in the order of writing.
+struct ClearedKey {
+    QStringView key;
+    QStringView value;
+};
+
+constexpr ClearedKey clearedKeys[] = {
+    { u"FileName", u"" },  { statusKey, u"" },      { u"LineNumber", u"0" },  { u"Memory", u"0" },
+    { u"ErrorCode", u"" }, { u"CompileTime", u"" }, { u"DownloadTime", u"" },
+};
+
+/// Other programs write these numbers, so none is trusted to fit.
+qint16 narrowed(qint32 number, qint16 whenTooLarge)
+{
+    const bool fits = number >= std::numeric_limits<qint16>::min()
+        && number <= std::numeric_limits<qint16>::max();
+    return fits ? qint16(number) : whenTooLarge;
+}
+
+} // namespace
+
+HotasIni::HotasIni(const QString &path) : m_file(path) { }
+
+Expected<void, FileError> HotasIni::clearCompiler() const
+{
+    QList<ProfileEntry> entries;
+    for (const auto &row : clearedKeys) {
+        entries.append({ compilerSection.toString(), row.key.toString(), row.value.toString() });
+    }
+    return m_file.write(entries);
+}
+
+CompilerVerdict HotasIni::readCompiler() const
+{
+    const auto text = [this](QStringView key) {
+        return m_file.text(compilerSection, key);
+    };
+    const auto number = [this](QStringView key) {
+        return narrowed(m_file.integer(compilerSection, key, 0), 0);
+    };
+    CompilerVerdict verdict;
+    verdict.FileName = text(u"FileName");
+    verdict.Status = text(statusKey);
+    verdict.ErrorCode = text(u"ErrorCode");
+    verdict.CompileTime = text(u"CompileTime");
+    verdict.DownloadTime = text(u"DownloadTime");
+    verdict.LineNumber = number(u"LineNumber");
+    verdict.Memory = number(u"Memory");
+    return verdict;
+}
+
+QString HotasIni::pollCompiler() const
+{
+    return m_file.text(compilerSection, statusKey);
+}
+
+Expected<void, FileError> HotasIni::clearModeStatus() const
+{
+    return m_file.write({ modeSection.toString(), statusKey.toString(), QString() });
+}
+
+QString HotasIni::pollModeStatus() const
+{
+    return m_file.text(modeSection, statusKey);
+}
+
+Expected<void, FileError> HotasIni::markModeStatus() const
+{
+    return m_file.write({ modeSection.toString(), statusKey.toString(), u"OKAY"_s });
+}
+
+ModeReport HotasIni::readMode() const
+{
+    const auto number = [this](QStringView key) {
+        return narrowed(m_file.integer(modeSection, key, 0), unknownMode);
+    };
+    return { m_file.text(modeSection, statusKey, u"ERROR"_s), number(u"Axes"), number(u"Buttons") };
+}
+
+} // namespace zeph

@@ -1,0 +1,60 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+// HOTAS.ini, the file through which the Cougar's tools and Zeph talk. The tools own it: only the
+// keys named here are ever written, all else in it survives.
+
+#include "platform/core/profile_file.h"
+
+namespace zeph {
+
+/// What the compiler wrote about its last run. An empty Status means that it is still running,
+/// "ERROR" that it failed, anything else that it succeeded.
+struct CompilerVerdict {
+    QString FileName;
+    QString Status;
+    QString ErrorCode; ///< its first ten characters are the code: "ERROR " and four digits
+    QString CompileTime; ///< seconds, shown as they stand
+    QString DownloadTime; ///< seconds, shown as they stand
+    qint16 LineNumber = 0; ///< 1-based; 0 = no line
+    qint16 Memory = 0; ///< per cent of the Cougar's memory
+
+    friend bool operator==(const CompilerVerdict &, const CompilerVerdict &) = default;
+};
+
+/// The last mode change that the tools reported.
+struct ModeReport {
+    QString Status;
+    qint16 Axes = 0; ///< -1 error changing, 0 Windows, 1 user defined, else unknown
+    qint16 Buttons = 0; ///< -1 error changing, 0 Windows, 1 Programmed, else unknown
+};
+
+/// The operations on HOTAS.ini. Every call goes to the disk; a missing file reads as empty.
+class HotasIni
+{
+public:
+    /// The file's full path.
+    explicit HotasIni(const QString &path);
+
+    /// Empties the seven keys of the compiler in one replacement of the file, so that a verdict of
+    /// an earlier run cannot be taken for the next one's.
+    Expected<void, FileError> clearCompiler() const;
+    /// A number that does not fit 16 bits reads as 0.
+    CompilerVerdict readCompiler() const;
+    /// The compiler's Status alone.
+    QString pollCompiler() const;
+
+    Expected<void, FileError> clearModeStatus() const;
+    QString pollModeStatus() const;
+    /// Puts "OKAY" where a finished request would, for requests that the tool does not report.
+    Expected<void, FileError> markModeStatus() const;
+    /// A missing Status reads as "ERROR"; a number that does not fit 16 bits as an unknown mode.
+    ModeReport readMode() const;
+
+private:
+    ProfileFile m_file;
+};
+
+} // namespace zeph

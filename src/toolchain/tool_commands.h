@@ -1,0 +1,35 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+// The command lines of the Cougar's two tools.
+
+#include "platform/core/paths.h"
+#include "platform/process_launcher.h"
+
+namespace zeph {
+
+/// What the compiler is asked to do with a joystick file.
+enum class CompilerCommand { Compile, Download, DownloadAndEnable };
+
+/// What the Cougar itself is asked to do.
+enum class ConfigCommand {
+    ButtonsWindows,
+    ButtonsProgrammed,
+    ReportMode, ///< changes nothing
+    AxesWindows,
+    AxesUserDefined,
+    AllProgrammed,
+    PureWindows,
+    EmptyBuffers,
+    ClearMemory,
+    ResetCougar
+};
+
+/// The compiler with the quoted file behind its switches, in the tools' folder, in front.
+Launch compilerLaunch(const Paths &paths, CompilerCommand command, const QString &file);
+/// The configuration tool with the switches of a request, in the tools' folder, in front.
+Launch configLaunch(const Paths &paths, ConfigCommand command);
+
+} // namespace zeph

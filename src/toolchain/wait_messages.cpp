@@ -1,0 +1,98 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#include "toolchain/wait_messages.h"
+
+#include <QStringBuilder>
+
+namespace zeph {
+
+namespace {
+
+constexpr QStringView passControl =
+    u"I'm going to pass control back to you now, as I'm worried that there may be a problem";
+constexpr QStringView tooLong = u" - it's just taking too long for my liking.";
+constexpr QStringView playSafe =
+    u" I could be wrong of course, but I'd prefer to play it safe, and I presume you do too.";
+constexpr QStringView noProblem =
+    u"If you know for certain that there isn't a problem with your Cougar";
+constexpr QStringView waitLonger =
+    u" you can increase the amount of time I sit around waiting for ";
+constexpr QStringView whichTopic = u" To do this, see the help topic 'Unsupported options.'";
+constexpr QStringView looksCrashed =
+    u"If it looks like Zeph has crashed (it hasn't by the way otherwise you wouldn't be reading "
+    u"this) then"
+    u" sometimes it can help to disconnect your controllers from your computer to try to"
+    u" force the compiler to recognise the controllers aren't plugged in. This can help to prevent"
+    u" the compiler crashing and hanging your machine if you're suspicious that this is about to "
+    u"happen. ";
+constexpr QStringView myExperience = u" Well, that's my experience anyway! ";
+constexpr QStringView blankLine = u"\n\n";
+
+/// What differs between the three messages.
+struct Wording {
+    QStringView troubleWith;
+    QStringView orFiles;
+    QStringView waitedFor;
+};
+
+constexpr Wording modeWording = {
+    u" with the TM applications and their communication with your Cougar",
+    u", then",
+    u"the Cougar to respond back to me.",
+};
+
+/// In the order of CompilerTask.
+constexpr Wording compilerWordings[] = {
+    {
+        u" with the compile and the Compiler's communication with your Cougar",
+        u" or your files, then",
+        u"the compiler to compile your file.",
+    },
+    {
+        u" with the download and the Compiler's communication with your Cougar",
+        u" or your files, then",
+        u"the compiler to download your file.",
+    },
+};
+
+QString worry(const Wording &wording)
+{
+    return passControl % wording.troubleWith % tooLong % playSafe % blankLine % noProblem
+        % wording.orFiles % waitLonger % wording.waitedFor % whichTopic;
+}
+
+Box timeOutBox(const QString &addressee, const QString &text)
+{
+    Box box;
+    box.title = u"Now this is taking rather a long time "_s + addressee + u", isn't it?!"_s;
+    box.text = text;
+    box.icon = BoxIcon::Exclamation;
+    return box;
+}
+
+} // namespace
+
+Box compilerTimeOutBox(CompilerTask task, const QString &callsign)
+{
+    return timeOutBox(callsign,
+                      worry(compilerWordings[size_t(task)]) % blankLine % looksCrashed % blankLine
+                          % myExperience);
+}
+
+Box modeTimeOutBox()
+{
+    return timeOutBox(u"buddy"_s, worry(modeWording));
+}
+
+QString panelAfterCompilerWait(bool givenUp)
+{
+    return givenUp ? u"Control returned to you"_s : u"Done"_s;
+}
+
+QString panelAfterModeWait(bool givenUp)
+{
+    return givenUp ? u" Control returned to you"_s : u" Ready"_s;
+}
+
+} // namespace zeph

@@ -1,0 +1,60 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#include "toolchain/wait_state.h"
+
+#include "platform/core/units.h"
+#include "shell/settings/global_settings.h"
+
+#include <algorithm>
+#include <limits>
+
+namespace zeph {
+
+namespace {
+
+/// A tool that answers sooner than this should not make a window flash up.
+constexpr qint32 windowAfter = 2000;
+
+} // namespace
+
+WaitTimes waitTimes(const GlobalSettings &settings)
+{
+    WaitTimes times;
+    // An interval of nothing would never reach the limit, and so never give control back.
+    if (const qint32 interval = checkForCompletionTimeMs(settings); interval > 0) {
+        times.checkForCompletion = interval;
+    }
+    times.regainControlAfter = regainControlAfterMs(settings);
+    return times;
+}
+
+TickActions tick(WaitState &state, bool statusNonEmpty, const WaitTimes &times, bool hideWindow,
+                 bool windowShown)
+{
+    TickActions actions;
+    if (statusNonEmpty) {
+        state.finished = WaitVerdict;
+        actions.stopTimer = true;
+        return actions;
+    }
+    const qint64 elapsed = qint64(state.elapsed) + times.checkForCompletion;
+    state.elapsed = qint32(std::min<qint64>(elapsed, std::numeric_limits<qint32>::max()));
+    if (state.elapsed >= windowAfter && !hideWindow) {
+        actions.window = windowShown ? StatusWindowStep::Refresh : StatusWindowStep::Show;
+        actions.bar = wholeSeconds(windowShown ? std::min(state.elapsed, times.regainControlAfter)
+                                               : state.elapsed);
+    }
+    if (elapsed > times.regainControlAfter) {
+        state = { WaitGivenUp, 0 };
+        actions.stopTimer = true;
+    }
+    return actions;
+}
+
+int wholeSeconds(qint32 milliseconds)
+{
+    return int(roundHalfEven(milliseconds / 1000.0));
+}
+
+} // namespace zeph

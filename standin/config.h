@@ -1,0 +1,16 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "options.h"
+
+namespace zeph::standin {
+
+/// Answers the mode requests: "/MODE /ZEPH" and any of /AW /AU (axes), /BW /BU (buttons), /NM
+/// (report), /EB /CM /RS (empty the buffers, clear the memory, reset), or /P with a profile's name
+/// and /DM or /DA. Modes are kept in HOTAS.ini of the folder, and the status is written with them;
+/// a profile writes no status, as its caller marks it.
+Outcome runConfig(const QStringList &arguments, const QString &hotasFolder, const Options &options);
+
+} // namespace zeph::standin

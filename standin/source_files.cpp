@@ -1,0 +1,95 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#include "source_files.h"
+
+#include "platform/core/paths.h"
+#include "platform/core/text1252.h"
+
+namespace zeph::standin {
+
+namespace {
+
+struct Extensions {
+    QStringView joystick;
+    QStringView macro;
+};
+
+constexpr Extensions extensions[] = {
+    { u"tmj", u"tmm" },
+    { u"f22", u"m22" },
+    { u"b50", u"m50" },
+    { u"adv", u"mdf" },
+};
+
+QString withoutExtension(const QString &name)
+{
+    const qsizetype dot = name.lastIndexOf(u'.');
+    return dot < 0 ? name : name.first(dot);
+}
+
+} // namespace
+
+Expected<QString, FileError> readSource(const QString &path)
+{
+    const auto bytes = readWholeFile(path);
+    if (!bytes)
+        return Unexpected<FileError>(bytes.error());
+    QString text = fromText1252(*bytes);
+    text.replace(u"\r\n"_s, u"\n"_s);
+    text.replace(u'\r', u'\n');
+    return text;
+}
+
+QString macroExtension(const QString &joystickPath)
+{
+    const QStringView extension =
+        QStringView(joystickPath).last(std::min<qsizetype>(3, joystickPath.size()));
+    for (const Extensions &row : extensions) {
+        if (row.joystick.compare(extension, Qt::CaseInsensitive) == 0)
+            return row.macro.toString();
+    }
+    return u"tmm"_s;
+}
+
+QString findMacroFile(const QString &joystickPath, const QString &name)
+{
+    if (name.isEmpty())
+        return {};
+    const QString folder = folderOf(joystickPath);
+    const QString extension = macroExtension(joystickPath);
+    const QString extended = folder + name + u'.' + extension;
+    const QString plain = folder + name;
+    const bool isExtended = name.endsWith(extension, Qt::CaseInsensitive);
+    for (const QString &path : { isExtended ? plain : extended, isExtended ? extended : plain }) {
+        if (fileExists(path))
+            return existingPath(path);
+    }
+    return {};
+}
+
+Expected<Sources, FileError> readSources(const QString &joystickPath, bool sameName)
+{
+    const auto joystick = readSource(joystickPath);
+    if (!joystick)
+        return Unexpected<FileError>(joystick.error());
+    Sources sources;
+    sources.pair = language::parsePair(*joystick, {});
+    const auto reference = language::macroReference(sources.pair.joystick);
+    if (reference) {
+        sources.macroPath = findMacroFile(joystickPath, reference->name);
+        if (sources.macroPath.isEmpty())
+            sources.missing = reference;
+    } else if (sameName) {
+        sources.macroPath = findMacroFile(joystickPath, withoutExtension(nameOf(joystickPath)));
+    }
+    if (sources.macroPath.isEmpty())
+        return sources;
+    const auto macro = readSource(sources.macroPath);
+    if (!macro)
+        return Unexpected<FileError>(macro.error());
+    sources.pair = language::parsePair(*joystick, *macro);
+    return sources;
+}
+
+} // namespace zeph::standin

@@ -1,0 +1,317 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#include "platform/core/profile_file.h"
+
+#include "tests/support/temp_folder.h"
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+
+using namespace zeph;
+using test::TempFolder;
+
+namespace {
+
+QByteArray set(const QByteArray &file, const QString &section, const QString &key,
+               const QString &value)
+{
+    return profile::withValue(file, { section, key, value });
+}
+
+} // namespace
+
+TEST(ProfileValue, SectionsAndKeysAreFoundInAnyCase)
+{
+    const QByteArray file = "[FileLocations]\r\nShowTips=0\r\n[\xC4rger]\r\n\xDC=1\r\n";
+    EXPECT_EQ(profile::value(file, u"FILELOCATIONS", u"showtips"), u"0"_s);
+    EXPECT_EQ(profile::value(file, u"ärger", u"ü"), u"1"_s);
+}
+
+TEST(ProfileValue, AbsentSectionOrKeyHasNoValue)
+{
+    const QByteArray file = "[A]\nx=1\n[B]\ny=\n";
+    EXPECT_EQ(profile::value(file, u"C", u"x"), std::nullopt);
+    EXPECT_EQ(profile::value(file, u"B", u"x"), std::nullopt);
+    EXPECT_EQ(profile::value(file, u"B", u"y"), QString());
+    EXPECT_EQ(profile::value("", u"B", u"y"), std::nullopt);
+}
+
+TEST(ProfileValue, BlanksAroundKeyAndValueAreDropped)
+{
+    const QByteArray file = " [ A ] \n \tx\t = \t one two \t\n";
+    EXPECT_EQ(profile::value(file, u"A", u"x"), u"one two"_s);
+}
+
+TEST(ProfileValue, OnePairOfEqualQuotesIsDropped)
+{
+    const QByteArray file = "[A]\na=\" x \"\nb='y'\nc=\"\"z\"\"\nd=\"w'\ne=\"\nf=\"\"\n";
+    EXPECT_EQ(profile::value(file, u"A", u"a"), u" x "_s);
+    EXPECT_EQ(profile::value(file, u"A", u"b"), u"y"_s);
+    EXPECT_EQ(profile::value(file, u"A", u"c"), u"\"z\""_s);
+    EXPECT_EQ(profile::value(file, u"A", u"d"), u"\"w'"_s);
+    EXPECT_EQ(profile::value(file, u"A", u"e"), u"\""_s);
+    EXPECT_EQ(profile::value(file, u"A", u"f"), QString());
+}
+
+TEST(ProfileValue, TheFirstOfTwoSectionsOrKeysCounts)
+{
+    const QByteArray file = "[A]\nx=1\nx=2\n[A]\nx=3\ny=4\n";
+    EXPECT_EQ(profile::value(file, u"A", u"x"), u"1"_s);
+    EXPECT_EQ(profile::value(file, u"A", u"y"), std::nullopt);
+}
+
+TEST(ProfileValue, CommentsAndLinesBeforeTheFirstSectionAreIgnored)
+{
+    const QByteArray file = "x=0\n[A]\n;x=1\n  ; x=2\nx=3;4\n";
+    EXPECT_EQ(profile::value(file, u"A", u"x"), u"3;4"_s);
+    EXPECT_EQ(profile::value(file, u"", u"x"), std::nullopt);
+    EXPECT_EQ(profile::value(file, u"A", u";x"), std::nullopt);
+}
+
+TEST(ProfileValue, EachKindOfLineEndPartsLines)
+{
+    const QByteArray file = "[A]\rx=1\ny=2\r\nz=3";
+    EXPECT_EQ(profile::value(file, u"A", u"x"), u"1"_s);
+    EXPECT_EQ(profile::value(file, u"A", u"y"), u"2"_s);
+    EXPECT_EQ(profile::value(file, u"A", u"z"), u"3"_s);
+}
+
+TEST(ProfileValue, AMissingClosingBracketIsTolerated)
+{
+    EXPECT_EQ(profile::value("[A\nx=1\n", u"A", u"x"), u"1"_s);
+    EXPECT_EQ(profile::value("[A] and more\nx=1\n", u"A", u"x"), u"1"_s);
+}
+
+TEST(ProfileValue, AByteOrderMarkHidesNothing)
+{
+    EXPECT_EQ(profile::value("\xEF\xBB\xBF[A]\r\nx=1\r\n", u"A", u"x"), u"1"_s);
+}
+
+TEST(ProfileValue, OnlyTheFirstEqualSignParts)
+{
+    EXPECT_EQ(profile::value("[A]\nx=a=b\n", u"A", u"x"), u"a=b"_s);
+}
+
+TEST(ProfileValue, ALineWithoutEqualSignIsNoKey)
+{
+    EXPECT_EQ(profile::value("[A]\nx\n", u"A", u"x"), std::nullopt);
+}
+
+TEST(ProfileValue, AValueEndsAtItsFirstNul)
+{
+    EXPECT_EQ(profile::value(QByteArray("[A]\nx=ab\0cd\ny=2\n", 16), u"A", u"x"), u"ab"_s);
+    EXPECT_EQ(profile::value(QByteArray("[A]\nx=ab\0cd\ny=2\n", 16), u"A", u"y"), u"2"_s);
+}
+
+TEST(ProfileValue, HugeLinesAreReadWhole)
+{
+    const QByteArray file = "[A]\nx=" + QByteArray(1000000, 'v') + "\ny=1\n";
+    EXPECT_EQ(profile::value(file, u"A", u"x")->size(), 1000000);
+    EXPECT_EQ(profile::value(file, u"A", u"y"), u"1"_s);
+}
+
+TEST(ProfileWrite, ReplacesOnlyTheValue)
+{
+    const QByteArray file = "; mine\r\n[A]\r\n  X = old\t\r\nunknown\r\n\r\n[B]\r\nX=1\r\n";
+    EXPECT_EQ(set(file, u"a"_s, u"x"_s, u"new"_s),
+              "; mine\r\n[A]\r\n  X = new\r\nunknown\r\n\r\n[B]\r\nX=1\r\n");
+}
+
+TEST(ProfileWrite, AddsAKeyAtItsSectionsEndBeforeTheEmptyLines)
+{
+    EXPECT_EQ(set("[A]\nx=1\n\n\n[B]\n", u"A"_s, u"y"_s, u"2"_s), "[A]\nx=1\ny=2\n\n\n[B]\n");
+    EXPECT_EQ(set("[A]\n[B]\n", u"A"_s, u"y"_s, u"2"_s), "[A]\ny=2\n[B]\n");
+}
+
+TEST(ProfileWrite, AddsASectionAtTheFilesEnd)
+{
+    EXPECT_EQ(set("[A]\nx=1", u"B"_s, u"y"_s, u"2"_s), "[A]\nx=1\n[B]\ny=2\n");
+    EXPECT_EQ(set("[A]\nx=1\n", u"B"_s, u"y"_s, u"2"_s), "[A]\nx=1\n[B]\ny=2\n");
+}
+
+TEST(ProfileWrite, ANewFileHasCrLf)
+{
+    EXPECT_EQ(set("", u"A"_s, u"x"_s, u"1"_s), "[A]\r\nx=1\r\n");
+}
+
+TEST(ProfileWrite, NewLinesHaveTheFilesOwnLineEnd)
+{
+    EXPECT_EQ(set("[A]\rx=1\r", u"A"_s, u"y"_s, u"2"_s), "[A]\rx=1\ry=2\r");
+    EXPECT_EQ(set("[A]\r\nx=1", u"A"_s, u"y"_s, u"2"_s), "[A]\r\nx=1\r\ny=2\r\n");
+    EXPECT_EQ(set("\xEF\xBB\xBF", u"A"_s, u"x"_s, u"1"_s), "\xEF\xBB\xBF[A]\r\nx=1\r\n");
+}
+
+TEST(ProfileWrite, WritesIntoTheFirstOfTwoSections)
+{
+    EXPECT_EQ(set("[A]\nx=1\n[a]\ny=2\n", u"A"_s, u"y"_s, u"3"_s), "[A]\nx=1\ny=3\n[a]\ny=2\n");
+}
+
+TEST(ProfileWrite, AnOutCommentedKeyIsNotReplaced)
+{
+    EXPECT_EQ(set("[A]\n;x=1\n", u"A"_s, u"x"_s, u"2"_s), "[A]\n;x=1\nx=2\n");
+}
+
+TEST(ProfileWrite, ValuesThatAReadWouldTrimAreQuoted)
+{
+    for (const QString &value : { u" x"_s, u"x\t"_s, u"\"x\""_s, u"'x'"_s, u" "_s, u"\"\""_s,
+                                  u"\""_s, u"x\"y"_s, u"a=b;c"_s, u"[x]"_s, u";x"_s, QString() }) {
+        const QByteArray file = set("[A]\nx=old\n", u"A"_s, u"x"_s, value);
+        EXPECT_EQ(profile::value(file, u"A", u"x"), value) << value.toStdString();
+    }
+    EXPECT_EQ(set("[A]\nx=1\n", u"A"_s, u"x"_s, u"plain text"_s), "[A]\nx=plain text\n");
+    EXPECT_EQ(set("[A]\nx=1\n", u"A"_s, u"x"_s, u" y"_s), "[A]\nx=\" y\"\n");
+}
+
+TEST(ProfileWrite, TheSameValueChangesNothing)
+{
+    const QByteArray file = "[A]\nx = \"1\" \n";
+    EXPECT_EQ(set(file, u"A"_s, u"x"_s, u"1"_s), file);
+}
+
+TEST(ProfileWrite, AValueIsCutAtItsFirstLineEndOrNul)
+{
+    EXPECT_EQ(set("", u"A"_s, u"x"_s, u"1\r\n[B]"_s), "[A]\r\nx=1\r\n");
+    EXPECT_EQ(set("", u"A"_s, u"x"_s, u"1\0002"_s), "[A]\r\nx=1\r\n");
+}
+
+TEST(ProfileWrite, NamesThatNoLineCanHoldChangeNothing)
+{
+    const QByteArray file = "[A]\nx=1\n";
+    EXPECT_EQ(set(file, u"A"_s, u"a=b"_s, u"1"_s), file);
+    EXPECT_EQ(set(file, u"A"_s, u";a"_s, u"1"_s), file);
+    EXPECT_EQ(set(file, u"A"_s, u"[a"_s, u"1"_s), file);
+    EXPECT_EQ(set(file, u"A"_s, QString(), u"1"_s), file);
+    EXPECT_EQ(set(file, u"A]B"_s, u"a"_s, u"1"_s), file);
+    EXPECT_EQ(set(file, u"A"_s, u"a\nb"_s, u"1"_s), file);
+    EXPECT_EQ(set(file, u"Ж"_s, u"a"_s, u"1"_s), file);
+}
+
+TEST(ProfileInteger, ReadsSignAndLeadingDigits)
+{
+    EXPECT_EQ(profile::integerOf(u"12"_s, 7), 12);
+    EXPECT_EQ(profile::integerOf(u"-12 twips"_s, 7), -12);
+    EXPECT_EQ(profile::integerOf(u"+3"_s, 7), 3);
+    EXPECT_EQ(profile::integerOf(u"3.9"_s, 7), 3);
+}
+
+TEST(ProfileInteger, NoDigitsGiveZeroAndAnEmptyOrAbsentValueTheDefault)
+{
+    EXPECT_EQ(profile::integerOf(u"none"_s, 7), 0);
+    EXPECT_EQ(profile::integerOf(u"-"_s, 7), 0);
+    EXPECT_EQ(profile::integerOf(QString(), 7), 7);
+    EXPECT_EQ(profile::integerOf(std::nullopt, 7), 7);
+}
+
+TEST(ProfileInteger, WrapsAt32Bits)
+{
+    EXPECT_EQ(profile::integerOf(u"2147483647"_s, 0), 2147483647);
+    EXPECT_EQ(profile::integerOf(u"-2147483648"_s, 0), -2147483647 - 1);
+    EXPECT_EQ(profile::integerOf(u"2147483648"_s, 0), -2147483647 - 1);
+    EXPECT_EQ(profile::integerOf(u"4294967297"_s, 0), 1);
+}
+
+TEST(ProfileFile, AMissingFileReadsAsEmptyAndIsMadeByTheFirstWrite)
+{
+    const TempFolder folder;
+    const ProfileFile file(folder.file(u"Zeph.ini"_s));
+    EXPECT_EQ(file.text(u"A", u"x", u"default"_s), u"default"_s);
+    EXPECT_EQ(file.integer(u"A", u"x", 5), 5);
+    EXPECT_FALSE(folder.exists(u"Zeph.ini"_s));
+    ASSERT_TRUE(file.write({ u"A"_s, u"x"_s, u"1"_s }));
+    EXPECT_EQ(folder.read(u"Zeph.ini"_s), "[A]\r\nx=1\r\n");
+}
+
+TEST(ProfileFile, ABufferHoldsOneCharacterLessThanItsSize)
+{
+    const TempFolder folder;
+    folder.write(u"Zeph.ini"_s, "[A]\nx=" + QByteArray(600, 'v') + "\n");
+    const ProfileFile file(folder.file(u"Zeph.ini"_s));
+    EXPECT_EQ(file.text(u"A", u"x").size(), 499);
+    EXPECT_EQ(file.text(u"A", u"x", {}, profileColourBuffer).size(), 49);
+}
+
+TEST(ProfileFile, AnEmptyValueIsNotTheDefault)
+{
+    const TempFolder folder;
+    folder.write(u"Zeph.ini"_s, "[A]\nx=\n");
+    EXPECT_EQ(ProfileFile(folder.file(u"Zeph.ini"_s)).text(u"A", u"x", u"default"_s), QString());
+}
+
+TEST(ProfileFile, EachReadSeesWhatAnotherProgramWrote)
+{
+    const TempFolder folder;
+    const ProfileFile file(folder.write(u"HOTAS.ini"_s, "[Compiler]\nStatus=\n"));
+    EXPECT_EQ(file.text(u"Compiler", u"Status"), QString());
+    folder.write(u"HOTAS.ini"_s, "[Compiler]\nStatus=OKAY\n");
+    EXPECT_EQ(file.text(u"Compiler", u"Status"), u"OKAY"_s);
+}
+
+TEST(ProfileFile, ManyValuesGoInOneReplacement)
+{
+    const TempFolder folder;
+    const ProfileFile file(folder.write(u"Zeph.ini"_s, "[A]\nx=1\nkept=yes\n"));
+    ASSERT_TRUE(file.write(QList<ProfileEntry>{
+        { u"A"_s, u"x"_s, u"2"_s }, { u"B"_s, u"y"_s, u"3"_s }, { u"A"_s, u"z"_s, u"4"_s } }));
+    EXPECT_EQ(folder.read(u"Zeph.ini"_s), "[A]\nx=2\nkept=yes\nz=4\n[B]\ny=3\n");
+}
+
+TEST(ProfileFile, NoEntriesWriteNothing)
+{
+    const TempFolder folder;
+    const ProfileFile file(folder.file(u"Zeph.ini"_s));
+    ASSERT_TRUE(file.write(QList<ProfileEntry>{}));
+    EXPECT_FALSE(folder.exists(u"Zeph.ini"_s));
+}
+
+TEST(ProfileFile, AMissingFolderIsToldWithPathAndReason)
+{
+    const TempFolder folder;
+    const QString path = folder.file(u"gone/Zeph.ini"_s);
+    const auto written = ProfileFile(path).write({ u"A"_s, u"x"_s, u"1"_s });
+    ASSERT_FALSE(written);
+    EXPECT_EQ(written.error().path, path);
+    EXPECT_FALSE(written.error().reason.isEmpty());
+}
+
+TEST(ProfileFile, AFileOfAnotherCaseIsTheSameFile)
+{
+    const TempFolder folder;
+    folder.write(u"hotas.INI"_s, "[A]\nx=1\n");
+    const ProfileFile file(folder.file(u"HOTAS.ini"_s));
+    EXPECT_EQ(file.text(u"A", u"x"), u"1"_s);
+    ASSERT_TRUE(file.write({ u"A"_s, u"x"_s, u"2"_s }));
+    EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files), QStringList{ u"hotas.INI"_s });
+    EXPECT_EQ(folder.read(u"hotas.INI"_s), "[A]\nx=2\n");
+}
+
+TEST(ProfileFile, AValueThatTheCodePageLacksIsToldAndTheOthersAreWritten)
+{
+    const TempFolder folder;
+    const ProfileFile file(folder.write(u"Zeph.ini"_s, "[A]\nx=old\ny=old\n"));
+    const auto written = file.write(
+        QList<ProfileEntry>{ { u"A"_s, u"x"_s, u"Жук"_s }, { u"A"_s, u"y"_s, u"new"_s } });
+    ASSERT_FALSE(written);
+    EXPECT_TRUE(written.error().reason.contains(u"x"_s));
+    EXPECT_EQ(folder.read(u"Zeph.ini"_s), "[A]\nx=old\ny=new\n");
+}
+
+TEST(ProfileFile, AProtectedFileIsToldAndStaysAsItIs)
+{
+    const TempFolder folder;
+    const QString path = folder.write(u"Zeph.ini"_s, "[A]\nx=1\n");
+    ASSERT_TRUE(QFile::setPermissions(path, QFile::ReadOwner | QFile::ReadUser));
+    EXPECT_FALSE(ProfileFile(path).write({ u"A"_s, u"x"_s, u"2"_s }));
+    EXPECT_EQ(folder.read(u"Zeph.ini"_s), "[A]\nx=1\n");
+}
+
+TEST(ProfileFile, AFolderInItsPlaceIsNotReplaced)
+{
+    const TempFolder folder;
+    ASSERT_TRUE(QDir(folder.path()).mkdir(u"Zeph.ini"_s));
+    const ProfileFile file(folder.file(u"Zeph.ini"_s));
+    EXPECT_EQ(file.text(u"A", u"x", u"default"_s), u"default"_s);
+    EXPECT_FALSE(file.write({ u"A"_s, u"x"_s, u"2"_s }));
+}

@@ -1,0 +1,298 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+// A plugin that plays the pilot: the toolkit loads it into the untouched program, where it follows a
+// script of clicks and keys by object names and writes down what it saw. One step a line:
+//   box TITLE            waits for a message box of that title and notes "title|text|buttons|default"
+//   press NAME           clicks the button of that text or object name, in the topmost window
+//   trigger ACTION       chooses the menu entry of that object name
+//   type NAME TEXT       types into the control of that object name; \n is Enter
+//   window TITLE         waits for a visible window whose title begins so and notes its whole title
+//   gone TITLE           waits until no such window is visible
+//   text NAME TEXT       waits until the control's text holds TEXT, and notes the text
+//   note NAME            notes the control's text
+//   file PATH            answers the open file dialog
+//   grab NAME FILE       grabs the window that holds the control to a picture
+//   minimise / close     the main window
+//   pause MS             lets time pass
+//   kill                 ends the process at once, as a crash would
+#include <QAbstractButton>
+#include <QAction>
+#include <QApplication>
+#include <QDialog>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QFileDialog>
+#include <QGenericPlugin>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMainWindow>
+#include <QMenu>
+#include <QMessageBox>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QTextEdit>
+#include <QTimer>
+
+#include <cstdlib>
+
+namespace {
+
+constexpr int stepMs = 10;
+constexpr int patienceMs = 15000;
+
+QString textOf(const QWidget *widget)
+{
+    if (const auto *edit = qobject_cast<const QPlainTextEdit *>(widget)) {
+        return edit->toPlainText();
+    }
+    if (const auto *edit = qobject_cast<const QTextEdit *>(widget)) {
+        return edit->toPlainText();
+    }
+    return widget->property("text").toString();
+}
+
+QWidget *widgetNamed(const QString &name)
+{
+    QWidget *hidden = nullptr;
+    for (QWidget *widget : QApplication::allWidgets()) {
+        if (widget->objectName() == name) {
+            if (widget->isVisible()) {
+                return widget;
+            }
+            hidden = widget;
+        }
+    }
+    return hidden;
+}
+
+QWidget *windowTitled(const QString &title)
+{
+    for (QWidget *widget : QApplication::topLevelWidgets()) {
+        if (widget->isVisible() && widget->windowTitle().startsWith(title)) {
+            return widget;
+        }
+    }
+    return nullptr;
+}
+
+class Driver : public QObject
+{
+public:
+    Driver()
+    {
+        QFile script(qEnvironmentVariable("ZEPH_SCRIPT"));
+        if (script.open(QIODevice::ReadOnly)) {
+            m_steps = QString::fromUtf8(script.readAll()).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+        }
+        m_log.setFileName(qEnvironmentVariable("ZEPH_SCRIPT_LOG"));
+        m_log.open(QIODevice::WriteOnly);
+        m_timer.callOnTimeout(this, &Driver::tick);
+        m_timer.start(stepMs);
+        m_waited.start();
+    }
+
+private:
+    void note(const QString &line)
+    {
+        m_log.write(QString(line).replace(QLatin1Char('\n'), QLatin1String("\\n")).toUtf8() + '\n');
+        m_log.flush();
+    }
+
+    void tick()
+    {
+        if (m_steps.isEmpty()) {
+            return;
+        }
+        const QString step = m_steps.first();
+        const QString verb = step.section(QLatin1Char(' '), 0, 0);
+        if (perform(verb, step.section(QLatin1Char(' '), 1))) {
+            m_steps.removeFirst();
+            m_waited.restart();
+        } else if (m_waited.elapsed() > patienceMs) {
+            note(QLatin1String("STUCK ") + step);
+            for (const QWidget *widget : QApplication::topLevelWidgets()) {
+                if (widget->isVisible()) {
+                    note(QLatin1String("  visible: ") + widget->windowTitle());
+                }
+            }
+            std::_Exit(3);
+        }
+    }
+
+    /// Does one step; false when what it waits for is not there yet.
+    bool perform(const QString &verb, const QString &rest)
+    {
+        const QString first = rest.section(QLatin1Char(' '), 0, 0);
+        const QString second = rest.section(QLatin1Char(' '), 1);
+        if (verb == QLatin1String("box")) {
+            return box(rest);
+        }
+        if (verb == QLatin1String("press")) {
+            return press(rest);
+        }
+        if (verb == QLatin1String("trigger")) {
+            return trigger(rest);
+        }
+        if (verb == QLatin1String("type")) {
+            return type(first, second);
+        }
+        if (verb == QLatin1String("window")) {
+            const QWidget *window = windowTitled(rest);
+            if (window) {
+                note(QLatin1String("window ") + window->windowTitle());
+            }
+            return window != nullptr;
+        }
+        if (verb == QLatin1String("gone")) {
+            return windowTitled(rest) == nullptr;
+        }
+        if (verb == QLatin1String("text") || verb == QLatin1String("note")) {
+            const QWidget *widget = widgetNamed(first);
+            const bool seen = widget && textOf(widget).contains(second);
+            if (seen) {
+                note(first + QLatin1Char('=') + textOf(widget));
+            }
+            return seen;
+        }
+        if (verb == QLatin1String("file")) {
+            return file(rest);
+        }
+        return performOnWindow(verb, first, second);
+    }
+
+    bool performOnWindow(const QString &verb, const QString &first, const QString &second)
+    {
+        if (verb == QLatin1String("grab")) {
+            QWidget *widget = widgetNamed(first);
+            return widget && widget->window()->grab().save(second);
+        }
+        if (verb == QLatin1String("minimise") || verb == QLatin1String("close")) {
+            for (QWidget *widget : QApplication::topLevelWidgets()) {
+                if (auto *main = qobject_cast<QMainWindow *>(widget)) {
+                    later(main, verb == QLatin1String("close") ? [](QWidget *w) { w->close(); }
+                                                               : [](QWidget *w) { w->showMinimized(); });
+                    return true;
+                }
+            }
+            return false;
+        }
+        if (verb == QLatin1String("pause")) {
+            return m_waited.elapsed() >= first.toInt();
+        }
+        if (verb == QLatin1String("kill")) {
+            std::_Exit(9);
+        }
+        note(QLatin1String("UNKNOWN ") + verb);
+        return true;
+    }
+
+    /// Acts from the event loop, so that a modal loop begun by the act does not hold this timer.
+    template <class Target, class Act>
+    static void later(Target *target, Act act)
+    {
+        QTimer::singleShot(0, target, [target, act] { act(target); });
+    }
+
+    bool box(const QString &title)
+    {
+        auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+        if (!box || !box->isVisible() || box->windowTitle() != title) {
+            return false;
+        }
+        QStringList buttons;
+        for (const QAbstractButton *button : box->buttons()) {
+            buttons.append(button->text().remove(QLatin1Char('&')));
+        }
+        note(QLatin1String("box ") + title + QLatin1Char('|') + box->text() + QLatin1Char('|')
+             + buttons.join(QLatin1Char(',')) + QLatin1Char('|')
+             + (box->defaultButton() ? box->defaultButton()->text().remove(QLatin1Char('&')) : QString()));
+        return true;
+    }
+
+    bool press(const QString &name)
+    {
+        const QWidget *modal = QApplication::activeModalWidget();
+        for (QWidget *widget : QApplication::allWidgets()) {
+            auto *button = qobject_cast<QAbstractButton *>(widget);
+            if (button && button->isVisible() && button->isEnabled()
+                && (!modal || modal->isAncestorOf(button))
+                && (button->objectName() == name
+                    || button->text().remove(QLatin1Char('&')) == name)) {
+                later(button, [](QAbstractButton *b) { b->click(); });
+                return true;
+            }
+        }
+        return false;
+    }
+
+    bool trigger(const QString &name)
+    {
+        for (QWidget *widget : QApplication::allWidgets()) {
+            for (QAction *action : widget->actions()) {
+                if (action->objectName() == name) {
+                    if (!action->isEnabled() || QApplication::activeModalWidget()) {
+                        return false;
+                    }
+                    later(action, [](QAction *a) { a->trigger(); });
+                    return true;
+                }
+            }
+        }
+        return false;
+    }
+
+    bool type(const QString &name, const QString &text)
+    {
+        QWidget *widget = widgetNamed(name);
+        if (!widget || !widget->isVisible()) {
+            return false;
+        }
+        widget->setFocus();
+        const QString keys = QString(text).replace(QLatin1String("\\n"), QLatin1String("\n"));
+        for (const QChar c : keys) {
+            const int key = c == QLatin1Char('\n') ? int(Qt::Key_Return) : c.toUpper().unicode();
+            const QString typed = c == QLatin1Char('\n') ? QString(QLatin1Char('\r')) : QString(c);
+            QKeyEvent down(QEvent::KeyPress, key, Qt::NoModifier, typed);
+            QKeyEvent up(QEvent::KeyRelease, key, Qt::NoModifier, typed);
+            QApplication::sendEvent(widget, &down);
+            QApplication::sendEvent(widget, &up);
+        }
+        return true;
+    }
+
+    bool file(const QString &path)
+    {
+        auto *dialog = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
+        if (!dialog || !dialog->isVisible()) {
+            return false;
+        }
+        note(QLatin1String("file ") + dialog->windowTitle());
+        dialog->findChild<QLineEdit *>(QLatin1String("fileNameEdit"))->setText(path);
+        later(static_cast<QDialog *>(dialog), [](QDialog *d) { d->accept(); });
+        return true;
+    }
+
+    QStringList m_steps;
+    QFile m_log;
+    QTimer m_timer;
+    QElapsedTimer m_waited;
+};
+
+} // namespace
+
+class DriverPlugin : public QGenericPlugin
+{
+    Q_OBJECT
+    Q_PLUGIN_METADATA(IID QGenericPluginFactoryInterface_iid FILE "driver.json")
+public:
+    QObject *create(const QString &, const QString &) override
+    {
+        // Made from the event loop: the plugin is asked for before the application object is complete.
+        auto *holder = new QObject;
+        QTimer::singleShot(0, holder, [holder] { (new Driver)->setParent(holder); });
+        return holder;
+    }
+};
+
+#include "driver.moc"

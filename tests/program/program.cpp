@@ -1,0 +1,98 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#include "tests/program/program.h"
+
+#include "platform/core/profile_file.h"
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QDirIterator>
+
+namespace zeph::test {
+
+namespace {
+
+constexpr int endsWithinMs = 60000;
+
+void copyFolder(const QString &from, const QString &to)
+{
+    QDirIterator each(from, QDir::Files | QDir::NoDotAndDotDot, QDirIterator::Subdirectories);
+    while (each.hasNext()) {
+        const QString source = each.next();
+        const QString target = to + u'/' + QDir(from).relativeFilePath(source);
+        QDir().mkpath(QFileInfo(target).path());
+        if (!QFile::copy(source, target)) {
+            ADD_FAILURE() << "cannot copy " << source.toStdString();
+        }
+    }
+}
+
+} // namespace
+
+Program::Program() : m_environment(QProcessEnvironment::systemEnvironment())
+{
+    copyFolder(QStringLiteral(ZEPH_PORTABLE), m_folder.path());
+    m_environment.insert(u"QT_QPA_PLATFORM"_s, u"offscreen"_s);
+    m_environment.insert(u"QT_PLUGIN_PATH"_s, QStringLiteral(ZEPH_DRIVER_PLUGINS));
+    m_environment.insert(u"QT_QPA_GENERIC_PLUGINS"_s, u"zephdriver"_s);
+}
+
+Program::~Program() = default;
+
+QString Program::setting(const QString &section, const QString &key, const QString &name) const
+{
+    return ProfileFile(file(name)).text(section, key, u"(absent)"_s);
+}
+
+void Program::settle(const QByteArray &more)
+{
+    write(u"Zeph.ini"_s,
+          "[FileLocations]\r\nFirstTimeUsed=3\r\nShowTips=0\r\n[Unsupported]\r\nTurnOffFontCheck=1\r\n"
+          "CheckForCompletionTime=20\r\nRegainControlAfter=900\r\n[Miscellaneous]\r\nMumWindowstate=0\r\n"
+              + more);
+}
+
+void Program::setEnvironment(const QString &name, const QString &value)
+{
+    m_environment.insert(name, value);
+}
+
+std::unique_ptr<QProcess> Program::start(const QStringList &script, const QString &log,
+                                         const QStringList &arguments)
+{
+    const QString path = write(log + u".script"_s, script.join(u'\n').toUtf8());
+    auto process = std::make_unique<QProcess>();
+    QProcessEnvironment environment = m_environment;
+    environment.insert(u"ZEPH_SCRIPT"_s, path);
+    environment.insert(u"ZEPH_SCRIPT_LOG"_s, file(log));
+    process->setProcessEnvironment(environment);
+    process->setProcessChannelMode(QProcess::ForwardedChannels);
+    process->start(file(u"zeph"_s), arguments);
+    return process;
+}
+
+QStringList Program::noted(const QString &log) const
+{
+    return QString::fromUtf8(read(log)).split(u'\n', Qt::SkipEmptyParts);
+}
+
+QStringList Program::run(const QStringList &script, const QStringList &arguments)
+{
+    const auto process = start(script, u"driver.log"_s, arguments);
+    if (!process->waitForFinished(endsWithinMs)) {
+        ADD_FAILURE() << "the program did not end";
+        process->kill();
+        process->waitForFinished();
+    }
+    const QStringList notes = noted(u"driver.log"_s);
+    for (const QString &line : notes) {
+        if (line.startsWith(u"STUCK"_s) || line.startsWith(u"UNKNOWN"_s)) {
+            ADD_FAILURE() << notes.join(u'\n').toStdString();
+        }
+    }
+    return notes;
+}
+
+} // namespace zeph::test

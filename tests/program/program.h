@@ -1,0 +1,52 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "tests/support/temp_folder.h"
+
+#include <QProcess>
+#include <QStringList>
+
+#include <memory>
+
+namespace zeph::test {
+
+/// The installed program in a fresh folder of its own, driven from outside by scripts.
+class Program
+{
+public:
+    Program();
+    ~Program();
+
+    QString folder() const { return m_folder.path(); }
+    QString file(const QString &name) const { return m_folder.file(name); }
+    QByteArray read(const QString &name) const { return m_folder.read(name); }
+    bool exists(const QString &name) const { return m_folder.exists(name); }
+    QString write(const QString &name, const QByteArray &bytes) const
+    {
+        return m_folder.write(name, bytes);
+    }
+    /// A value of Zeph.ini (or another settings file of the folder) as it stands on disk.
+    QString setting(const QString &section, const QString &key,
+                    const QString &name = QStringLiteral("Zeph.ini")) const;
+
+    /// Writes a settings file under which the program starts without first run, tips and checks.
+    void settle(const QByteArray &more = {});
+    /// For the next run only.
+    void setEnvironment(const QString &name, const QString &value);
+
+    /// Runs a script to the end of the program; gives what the driver noted, a line each. Fails the
+    /// test when the program does not end in time or gets stuck.
+    QStringList run(const QStringList &script, const QStringList &arguments = {});
+    /// Starts a script without waiting.
+    std::unique_ptr<QProcess> start(const QStringList &script, const QString &log,
+                                    const QStringList &arguments = {});
+    QStringList noted(const QString &log) const;
+
+private:
+    TempFolder m_folder;
+    QProcessEnvironment m_environment;
+};
+
+} // namespace zeph::test

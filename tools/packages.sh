@@ -1,0 +1,25 @@
+# SPDX-FileCopyrightText: The Zeph authors
+# SPDX-License-Identifier: MIT
+#
+# Sourced by run and check: installs Debian packages that are missing, and says which.
+
+packages_to_build="build-essential cmake ninja-build ccache git qt6-base-dev libqt6svg6-dev libqt6svg6 \
+libexpected-dev libgl-dev fonts-dejavu-core"
+packages_to_test="libgtest-dev libgmock-dev libbenchmark-dev clang-format-16 python3-minimal unrtf \
+desktop-file-utils appstream shared-mime-info libxml2-utils"
+
+# install_packages NAME...: quiet when all are there.
+install_packages() {
+    missing=""
+    for package in "$@"; do
+        dpkg-query -W -f='${db:Status-Status}' "$package" 2>/dev/null | grep -qx installed \
+            || missing="$missing $package"
+    done
+    [ -z "$missing" ] && return 0
+    command -v apt-get >/dev/null || { echo "Please install:$missing"; return 1; }
+    echo "Installing:$missing"
+    as_root=""
+    [ "$(id -u)" = 0 ] || as_root="sudo"
+    export DEBIAN_FRONTEND=noninteractive
+    $as_root apt-get update -qq && $as_root apt-get install -y -qq --no-install-recommends $missing
+}
