@@ -268,8 +268,11 @@ private:
             return false;
         }
         note(QLatin1String("file ") + dialog->windowTitle());
-        dialog->findChild<QLineEdit *>(QLatin1String("fileNameEdit"))->setText(path);
-        later(static_cast<QDialog *>(dialog), [](QDialog *d) { d->accept(); });
+        // In one go, since the dialog writes its own choice into the field whenever it reads the folder.
+        later(static_cast<QDialog *>(dialog), [path](QDialog *d) {
+            d->findChild<QLineEdit *>(QLatin1String("fileNameEdit"))->setText(path);
+            d->accept();
+        });
         return true;
     }
 
