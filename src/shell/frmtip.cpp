@@ -33,6 +33,7 @@ frmTip::frmTip(const Paths &paths, GlobalSettings &settings, Pick pick, QWidget 
     , m_ui(std::make_unique<Ui::frmTip>())
 {
     m_ui->setupUi(this);
+    m_ui->frameTip->setBackgroundRole(QPalette::Base);
     m_ui->picTip->setPixmap(iconNamed(paths, u"zeph").pixmap(QSize(pictureSize, pictureSize),
                                                              devicePixelRatioF()));
     m_ui->chkLoadTipsAtStartup->setChecked(settings.ShowTips == 1);

@@ -48,7 +48,7 @@ HelpWindow::HelpWindow(const Paths &paths, Dialogs &dialogs, ProcessLauncher &la
     connect(m_ui->Browser, &QTextBrowser::forwardAvailable, m_ui->cmdForward,
             &QToolButton::setEnabled);
     connect(m_ui->Browser, &QTextBrowser::anchorClicked, this, &HelpWindow::openLink);
-    connect(m_ui->Browser, &QTextBrowser::sourceChanged, this, &HelpWindow::markCurrentTopic);
+    connect(m_ui->Browser, &QTextBrowser::sourceChanged, this, &HelpWindow::markTopic);
     connect(m_ui->txtFind, &QLineEdit::returnPressed, this, &HelpWindow::findInPage);
     connect(m_ui->cmdFind, &QToolButton::clicked, this, &HelpWindow::findInPage);
 }
@@ -149,9 +149,9 @@ void HelpWindow::fillIndex()
     connect(m_ui->lstKeywords, &QListWidget::itemActivated, this, open);
 }
 
-void HelpWindow::markCurrentTopic()
+void HelpWindow::markTopic(const QUrl &source)
 {
-    const QString file = nameOf(m_ui->Browser->source().toLocalFile());
+    const QString file = nameOf(source.toLocalFile());
     m_ui->lstTopics->setCurrentRow(-1);
     for (int i = 0; i < m_ui->lstTopics->count(); ++i) {
         const QString own = m_ui->lstTopics->item(i)->data(Qt::UserRole).toString();

@@ -11,6 +11,8 @@
 #include <QHelpEvent>
 #include <QLabel>
 #include <QMouseEvent>
+#include <QPainter>
+#include <QStyle>
 #include <QToolTip>
 
 #include <algorithm>
@@ -21,6 +23,7 @@ namespace zeph {
 namespace {
 
 constexpr int pictureSize = 16;
+constexpr int textIndent = 6;
 constexpr int selectorOff = 1;
 constexpr std::array modeIcons = { u"mode-off", u"mode-windows", u"mode-programmed",
                                    u"mode-unknown" };
@@ -37,8 +40,9 @@ protected:
     void paintEvent(QPaintEvent *) override
     {
         QPainter painter(this);
-        const QString shown = fontMetrics().elidedText(text(), Qt::ElideRight, width());
-        style()->drawItemText(&painter, rect(), Qt::AlignLeft | Qt::AlignVCenter, palette(),
+        const QString shown = fontMetrics().elidedText(text(), Qt::ElideRight,
+                                                         width() - textIndent);
+        style()->drawItemText(&painter, rect().adjusted(textIndent, 0, 0, 0), Qt::AlignLeft | Qt::AlignVCenter, palette(),
                               isEnabled(), shown, foregroundRole());
     }
 };
