@@ -9,11 +9,11 @@
 
 #include <memory>
 
+namespace zeph {
+
 namespace Ui {
 class CompilerHelp;
 }
-
-namespace zeph {
 
 /// An error that the compiler reported, with what is needed to say where it is.
 struct CompilerError {

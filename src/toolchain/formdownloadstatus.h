@@ -9,11 +9,11 @@
 
 #include <memory>
 
+namespace zeph {
+
 namespace Ui {
 class FormDownloadStatus;
 }
-
-namespace zeph {
 
 /// Tells that a compile or a download is still going on. Stays up beside the other windows and
 /// deletes itself when it is closed.

@@ -1,0 +1,70 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#include "shell/compile_menu.h"
+
+#include "editor/editor.h"
+#include "editor/editor_actions.h"
+#include "editor/editor_view.h"
+#include "editor/file_saving.h"
+#include "platform/handlers.h"
+#include "shell/help_menu.h"
+#include "shell/informationwindow.h"
+#include "shell/mum.h"
+#include "shell/tool_windows.h"
+#include "toolchain/compilerhelp.h"
+#include "toolchain/hotas_ini.h"
+
+namespace zeph {
+
+namespace {
+
+/// The help topic on compiler errors.
+constexpr int errorsTopic = 410;
+
+} // namespace
+
+CompileMenu::CompileMenu(const Context &context, Mum &mum, Editor &editor, HelpMenu &help)
+    : QObject(&editor), m_context(context), m_mum(mum), m_editor(editor), m_help(help),
+      m_handshake(context, &mum), m_compile(context, m_handshake, host())
+{
+    editor.actions().connectTo(u"mnuAppsCompile", [this] { m_compile.mnuAppsCompile_Click(); });
+}
+
+CompileHost CompileMenu::host()
+{
+    CompileHost host;
+    host.joystickText = [this] { return m_editor.joystickText(); };
+    host.macroText = [this] { return m_editor.macroText(); };
+    host.joystick = [this]() -> const EditorDocument & { return m_editor.joystick(); };
+    host.macro = [this]() -> const EditorDocument & { return m_editor.macro(); };
+    host.selectJoystickTab = [this] { m_editor.view().select(DocumentKind::Joystick); };
+    host.mnuFileSave_Click = [this] { m_editor.saving().mnuFileSave_Click(); };
+    host.ResetFocusToEditor = [this] { m_editor.ResetFocusToEditor(); };
+    host.HighlightErrorLine
+        = [this](int line, const QString &text) { m_editor.HighlightErrorLine(line, text); };
+    host.showCompilerHelp = [this](const CompilerVerdict &verdict) { showCompilerHelp(verdict); };
+    host.minimiseToolWindows = [this] { m_mum.toolWindows().minimiseAll(); };
+    host.unloadHelpers = [this] { m_mum.toolWindows().unload<CompilerHelp>(); };
+    return host;
+}
+
+void CompileMenu::showCompilerHelp(const CompilerVerdict &verdict)
+{
+    ToolWindows &windows = m_mum.toolWindows();
+    auto *help = windows.load<CompilerHelp>([this](QWidget *owner) {
+        auto *made = new CompilerHelp(m_context.paths.infoFolder() + u"Error codes.rtf"_s, owner);
+        connect(made, &CompilerHelp::highlightRequested, this,
+                guarded(m_context.dialogs, [this](int line, const QString &text) {
+                    m_editor.HighlightErrorLine(line, text);
+                }));
+        connect(made, &CompilerHelp::helpRequested, this,
+                guarded(m_context.dialogs, [this] { m_help.showTopic(errorsTopic); }));
+        return made;
+    });
+    help->ShowTheError({ verdict.ErrorCode, verdict.LineNumber, m_editor.joystick().caption(),
+                         m_editor.macro().caption() });
+    ToolWindows::raise(*help);
+}
+
+} // namespace zeph
