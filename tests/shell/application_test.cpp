@@ -337,9 +337,9 @@ TEST_F(Start, BoxesComeInTheOrderOfTheStart)
 {
     writeStore();
     folder.write(u"file"_s, "in the way");
-    ASSERT_TRUE(ProfileFile(paths.iniPath)
-                    .write({ u"FileLocations"_s, u"BackUpFolder"_s,
-                             folder.file(u"file/below"_s) }));
+    ASSERT_TRUE(
+        ProfileFile(paths.iniPath)
+            .write({ u"FileLocations"_s, u"BackUpFolder"_s, folder.file(u"file/below"_s) }));
     QFile::remove(folder.file(u"Info/ZephInfo.ini"_s));
     screen.dpi = 72;
     const QStringList order{ u"WARNING: Small fonts not detected!"_s,

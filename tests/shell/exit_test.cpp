@@ -85,8 +85,7 @@ TEST_F(Exit, AsksForTheMacroFileFirstAndThenForTheJoystickFile)
     dialogs.answer(u" Save Viper.tmm now?"_s, BoxButton::No);
     dialogs.answer(u" Save Viper.tmj now?"_s, BoxButton::No);
     EXPECT_TRUE(app->mum().close());
-    EXPECT_EQ(boxTitles(),
-              QStringList({ u" Save Viper.tmm now?"_s, u" Save Viper.tmj now?"_s }));
+    EXPECT_EQ(boxTitles(), QStringList({ u" Save Viper.tmm now?"_s, u" Save Viper.tmj now?"_s }));
     EXPECT_EQ(dialogs.boxes()[0].text,
               u"Viper.tmm has changed and isn't saved. Do you want to save it before exiting?");
 }

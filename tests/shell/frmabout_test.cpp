@@ -26,7 +26,6 @@ TEST_F(AboutWindow, ShowsPictureAndVersion)
 TEST_F(AboutWindow, AMissingPictureIsToldInItsPlace)
 {
     const frmAbout window(paths);
-    EXPECT_TRUE(window.findChild<QLabel *>(u"picAbout"_s)
-                    ->text()
-                    .contains(folder.file(u"Zeph.bmp"_s)));
+    EXPECT_TRUE(
+        window.findChild<QLabel *>(u"picAbout"_s)->text().contains(folder.file(u"Zeph.bmp"_s)));
 }

@@ -11,9 +11,10 @@ namespace {
 
 const HelpSet &sample()
 {
-    static const HelpSet set(u"; a comment\n10\tcontents.html\tContents\r\n100\tshow.html\tShow me\n"
-                             u"x\tbad.html\tNo number\n5\tshort.html\n",
-                             u"USE MDEF\tuse.html#mdef\nbtn\tbuttons.html\r\n\nno tab here\n");
+    static const HelpSet set(
+        u"; a comment\n10\tcontents.html\tContents\r\n100\tshow.html\tShow me\n"
+        u"x\tbad.html\tNo number\n5\tshort.html\n",
+        u"USE MDEF\tuse.html#mdef\nbtn\tbuttons.html\r\n\nno tab here\n");
     return set;
 }
 

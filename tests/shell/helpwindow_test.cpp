@@ -31,7 +31,10 @@ struct Help : test::ShellWorld {
 
     QTextBrowser &browser() const { return *window->findChild<QTextBrowser *>(u"Browser"_s); }
     QString page() const { return browser().source().fileName(); }
-    template <class T> T *control(const QString &name) const { return window->findChild<T *>(name); }
+    template <class T> T *control(const QString &name) const
+    {
+        return window->findChild<T *>(name);
+    }
 };
 
 } // namespace

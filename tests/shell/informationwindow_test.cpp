@@ -23,7 +23,8 @@ struct Information : test::ShellWorld {
 
 TEST_F(Information, ShowsRichText)
 {
-    const QString path = folder.write(u"Info/Syntax.rtf"_s, "{\\rtf1\\ansi Hello {\\b pilot}\\par}");
+    const QString path =
+        folder.write(u"Info/Syntax.rtf"_s, "{\\rtf1\\ansi Hello {\\b pilot}\\par}");
     EXPECT_TRUE(window.showFile(path, u"Syntax"_s));
     EXPECT_EQ(window.windowTitle(), u"Syntax");
     EXPECT_TRUE(text().startsWith(u"Hello pilot"));

@@ -78,10 +78,7 @@ public:
             << dialogs.unexpected().join(u'\n').toStdString();
     }
 
-    Context context()
-    {
-        return { paths, settings, status, dialogs, launcher, clock, keyboard };
-    }
+    Context context() { return { paths, settings, status, dialogs, launcher, clock, keyboard }; }
 
     /// A store that has seen its first run and shows no tips.
     void writeStore(const QByteArray &more = {})

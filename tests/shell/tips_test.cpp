@@ -9,8 +9,8 @@ using namespace zeph;
 
 TEST(Tips, StandOneALineAndBlankLinesAreNone)
 {
-    EXPECT_EQ(parseTips(u"One\r\n\r\nTwo\r\n  \nThree"), QStringList({ u"One"_s, u"Two"_s,
-                                                                        u"Three"_s }));
+    EXPECT_EQ(parseTips(u"One\r\n\r\nTwo\r\n  \nThree"),
+              QStringList({ u"One"_s, u"Two"_s, u"Three"_s }));
     EXPECT_TRUE(parseTips(u"").isEmpty());
     EXPECT_TRUE(parseTips(u"\n\n").isEmpty());
 }

@@ -24,18 +24,15 @@ public:
                 [this, body = std::move(body), status = std::move(status)] {
                     QTcpSocket *socket = nextPendingConnection();
                     connect(socket, &QTcpSocket::readyRead, socket, [socket, body, status] {
-                        socket->write("HTTP/1.1 " + status + "\r\nContent-Length: "
-                                      + QByteArray::number(body.size())
+                        socket->write("HTTP/1.1 " + status
+                                      + "\r\nContent-Length: " + QByteArray::number(body.size())
                                       + "\r\nConnection: close\r\n\r\n" + body);
                         socket->disconnectFromHost();
                     });
                 });
     }
 
-    QString address() const
-    {
-        return u"http://127.0.0.1:%1/version.txt"_s.arg(serverPort());
-    }
+    QString address() const { return u"http://127.0.0.1:%1/version.txt"_s.arg(serverPort()); }
 };
 
 struct VersionCheck : test::ShellWorld {
@@ -72,8 +69,9 @@ TEST_F(VersionCheck, TellsANewerVersion)
     const TextServer server("4.5");
     const Box box = tell(server.address());
     EXPECT_EQ(box.title, u"Newer software is available");
-    EXPECT_EQ(box.text, u"There is a newer version (version 4.5) of Zeph available to download.\n"
-                        "Please visit Klaifi (links are in the Help menu) to download it.");
+    EXPECT_EQ(box.text,
+              u"There is a newer version (version 4.5) of Zeph available to download.\n"
+              "Please visit Klaifi (links are in the Help menu) to download it.");
 }
 
 TEST_F(VersionCheck, ComparesTheWholeFileExactly)

@@ -40,11 +40,15 @@ TEST(FirstTimeUsed, Becomes2To5ForTheFourOptions)
 TEST(WelcomeScript, OffersFourExperiencesThatBeginAsTold)
 {
     ASSERT_EQ(experienceOptions().size(), 4U);
-    const auto option = [](size_t i) { return QString::fromUtf16(experienceOptions()[i]); };
-    EXPECT_EQ(option(0), u"I'm a complete beginner - I've no idea how to program the HOTAS Cougar, "
-                         "but I just want to get flying. A brief introduction will do.");
-    EXPECT_EQ(option(1), u"I'm a complete beginner - but I'm keen to have a crack at programming "
-                         "these beauties. Show me how.");
+    const auto option = [](size_t i) {
+        return QString::fromUtf16(experienceOptions()[i]);
+    };
+    EXPECT_EQ(option(0),
+              u"I'm a complete beginner - I've no idea how to program the HOTAS Cougar, "
+              "but I just want to get flying. A brief introduction will do.");
+    EXPECT_EQ(option(1),
+              u"I'm a complete beginner - but I'm keen to have a crack at programming "
+              "these beauties. Show me how.");
     EXPECT_TRUE(option(2).startsWith(u"I'm one of the old school"));
     EXPECT_TRUE(option(3).startsWith(u"Now look here, I'm a human, you're a computer."));
 }

@@ -34,7 +34,10 @@ struct WelcomeWindow : test::ShellWorld {
     {
         return QTest::qWaitFor([&] { return page() == name; }, patienceMs);
     }
-    template <class T> T *control(const QString &name) const { return window->findChild<T *>(name); }
+    template <class T> T *control(const QString &name) const
+    {
+        return window->findChild<T *>(name);
+    }
     QString label(const QString &name) const { return control<QLabel>(name)->text(); }
     void type(const QString &field, const QString &text) const
     {
@@ -57,8 +60,7 @@ TEST_F(WelcomeWindow, WalksFromTheFirstLineToTheAnswers)
     press(u"cmdNames"_s);
     EXPECT_EQ(label(u"lblScript"_s), u"Checking pilot identity ");
     ASSERT_TRUE(QTest::qWaitFor(
-        [&] { return label(u"lblGreeting"_s)
-                  == u"Ok Maverick, let's see what you're made of."; },
+        [&] { return label(u"lblGreeting"_s) == u"Ok Maverick, let's see what you're made of."; },
         patienceMs));
     ASSERT_TRUE(reach(u"pageExperience"_s));
     EXPECT_EQ(label(u"lblExperience"_s),
@@ -82,8 +84,7 @@ TEST_F(WelcomeWindow, DotsFollowTheLinesThatSaySo)
     ASSERT_TRUE(QTest::qWaitFor(
         [&] { return label(u"lblScript"_s) == u"Checking pilot identity ..."; }, patienceMs));
     ASSERT_TRUE(QTest::qWaitFor(
-        [&] { return label(u"lblScript"_s) == u"Searching for Cougar software ..."; },
-        patienceMs));
+        [&] { return label(u"lblScript"_s) == u"Searching for Cougar software ..."; }, patienceMs));
 }
 
 TEST_F(WelcomeWindow, GreetsWithoutACallsignAsBuddy)
@@ -106,7 +107,7 @@ TEST_F(WelcomeWindow, AsksForTheHotasFolderOnlyIfItIsNotSet)
     EXPECT_EQ(label(u"lblHotasFolder"_s), u"Location of HOTAS folder:");
     dialogs.answerFolder(folder.file(u"HOTAS"_s));
     press(u"cmdBrowse"_s);
-    EXPECT_EQ(dialogs.folders(), QStringList{ u"Locate the HOTAS directory"_s });
+    EXPECT_EQ(dialogs.folderTitles(), QStringList{ u"Locate the HOTAS directory"_s });
     press(u"cmdHotas"_s);
     EXPECT_EQ(window->answers().hotasFolder, folder.file(u"HOTAS"_s) + u'/');
     EXPECT_TRUE(reach(u"pageExperience"_s));

@@ -57,7 +57,6 @@ TEST_F(ZephInfoFile, NamesManualsFromTheProgramsFolderOrByFullPath)
 TEST_F(ZephInfoFile, GarbledCountsAndMissingCaptionsAreLeftOut)
 {
     EXPECT_TRUE(read("[Manuals]\nNumberOfManuals=-4\nMenuCaption1=A\n").manuals.isEmpty());
-    EXPECT_EQ(read("[Manuals]\nNumberOfManuals=2000000000\nMenuCaption2=B\nPath2=x\n")
-                  .manuals.size(),
-              1);
+    EXPECT_EQ(
+        read("[Manuals]\nNumberOfManuals=2000000000\nMenuCaption2=B\nPath2=x\n").manuals.size(), 1);
 }
