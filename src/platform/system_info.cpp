@@ -11,8 +11,7 @@ bool SystemInfo::isVista() const
 {
     constexpr int vistaMajor = 6;
     const auto system = QOperatingSystemVersion::current();
-    return system.type() == QOperatingSystemVersion::Windows
-        && system.majorVersion() == vistaMajor;
+    return system.type() == QOperatingSystemVersion::Windows && system.majorVersion() == vistaMajor;
 }
 
 } // namespace zeph

@@ -57,8 +57,8 @@ void Application::applyStyle(QApplication &application)
 
 Context Application::context()
 {
-    return { m_paths,          m_settings,      m_status,          m_options.dialogs,
-             m_options.launcher, m_options.clock, m_options.keyboard };
+    return { m_paths,         m_settings,        m_status, m_options.dialogs, m_options.launcher,
+             m_options.clock, m_options.keyboard };
 }
 
 SettingsFiles Application::files() const
@@ -86,7 +86,9 @@ bool Application::start()
     makeFolders();
     readSettings();
     m_commandLineFile = TestCommandLine(m_options.arguments);
-    m_mum->queryUnload = [this] { return queryUnload(); };
+    m_mum->queryUnload = [this] {
+        return queryUnload();
+    };
     QObject::connect(m_mum.get(), &Mum::unloading, m_mum.get(), [this] { unloadMum(); });
     m_mum->refreshToolbars();
     m_mum->show();
@@ -222,9 +224,9 @@ void Application::unloadMum()
     m_mum->toolWindows().unloadAll();
     const WindowPlace place = m_mum->place();
     const QSize screen = m_options.screen.size();
-    (void)SaveMumPosition(m_settings, files(), place,
-                          { double(twipsFromPixels(screen.width())),
-                            double(twipsFromPixels(screen.height())) });
+    (void)SaveMumPosition(
+        m_settings, files(), place,
+        { double(twipsFromPixels(screen.width())), double(twipsFromPixels(screen.height())) });
     if (place.state != WindowState::Minimised) {
         deleteInstanceStore(m_instance);
     }

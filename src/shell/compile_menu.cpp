@@ -34,18 +34,39 @@ CompileMenu::CompileMenu(const Context &context, Mum &mum, Editor &editor, HelpM
 CompileHost CompileMenu::host()
 {
     CompileHost host;
-    host.joystickText = [this] { return m_editor.joystickText(); };
-    host.macroText = [this] { return m_editor.macroText(); };
-    host.joystick = [this]() -> const EditorDocument & { return m_editor.joystick(); };
-    host.macro = [this]() -> const EditorDocument & { return m_editor.macro(); };
-    host.selectJoystickTab = [this] { m_editor.view().select(DocumentKind::Joystick); };
-    host.mnuFileSave_Click = [this] { m_editor.saving().mnuFileSave_Click(); };
-    host.ResetFocusToEditor = [this] { m_editor.ResetFocusToEditor(); };
-    host.HighlightErrorLine
-        = [this](int line, const QString &text) { m_editor.HighlightErrorLine(line, text); };
-    host.showCompilerHelp = [this](const CompilerVerdict &verdict) { showCompilerHelp(verdict); };
-    host.minimiseToolWindows = [this] { m_mum.toolWindows().minimiseAll(); };
-    host.unloadHelpers = [this] { m_mum.toolWindows().unload<CompilerHelp>(); };
+    host.joystickText = [this] {
+        return m_editor.joystickText();
+    };
+    host.macroText = [this] {
+        return m_editor.macroText();
+    };
+    host.joystick = [this]() -> const EditorDocument & {
+        return m_editor.joystick();
+    };
+    host.macro = [this]() -> const EditorDocument & {
+        return m_editor.macro();
+    };
+    host.selectJoystickTab = [this] {
+        m_editor.view().select(DocumentKind::Joystick);
+    };
+    host.mnuFileSave_Click = [this] {
+        m_editor.saving().mnuFileSave_Click();
+    };
+    host.ResetFocusToEditor = [this] {
+        m_editor.ResetFocusToEditor();
+    };
+    host.HighlightErrorLine = [this](int line, const QString &text) {
+        m_editor.HighlightErrorLine(line, text);
+    };
+    host.showCompilerHelp = [this](const CompilerVerdict &verdict) {
+        showCompilerHelp(verdict);
+    };
+    host.minimiseToolWindows = [this] {
+        m_mum.toolWindows().minimiseAll();
+    };
+    host.unloadHelpers = [this] {
+        m_mum.toolWindows().unload<CompilerHelp>();
+    };
     return host;
 }
 

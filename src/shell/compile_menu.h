@@ -14,8 +14,8 @@ class Editor;
 class HelpMenu;
 class Mum;
 
-/// Ties the compile to the main window: the Editor's documents, the tool windows and the window that
-/// explains errors.
+/// Ties the compile to the main window: the Editor's documents, the tool windows and the window
+/// that explains errors.
 class CompileMenu : public QObject
 {
     Q_OBJECT

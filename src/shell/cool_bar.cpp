@@ -33,8 +33,7 @@ bool isCustomApp(const ToolButtonRow &row)
 
 } // namespace
 
-CoolBar::CoolBar(QMainWindow &window, const Context &context)
-    : QObject(&window), m_context(context)
+CoolBar::CoolBar(QMainWindow &window, const Context &context) : QObject(&window), m_context(context)
 {
     m_toolbar1 = makeBand(window, u"Toolbar1"_s, u"Main toolbar"_s);
     window.addToolBarBreak();

@@ -43,8 +43,7 @@ bool openOne(const QString &kind, const QString &path, const QString &name, Dial
 QList<Favourite> readFavourites(const ProfileFile &store)
 {
     QList<Favourite> favourites;
-    const qint32 count =
-        std::clamp(store.integer(section, u"FavArrayNum", 0), 0, mostFavourites);
+    const qint32 count = std::clamp(store.integer(section, u"FavArrayNum", 0), 0, mostFavourites);
     for (qint32 i = 1; i <= count; ++i) {
         const QString number = QString::number(i);
         favourites.append({ store.text(section, u"FavName"_s + number),
@@ -68,8 +67,7 @@ std::optional<Favourite> autoloadFavourite(const ProfileFile &store)
 bool openFavourite(const Favourite &favourite, Dialogs &dialogs,
                    const std::function<void(const QString &)> &open)
 {
-    const bool macro =
-        openOne(u"Macro"_s, favourite.macroPath, favourite.name, dialogs, open);
+    const bool macro = openOne(u"Macro"_s, favourite.macroPath, favourite.name, dialogs, open);
     const bool joystick =
         openOne(u"Joystick"_s, favourite.joystickPath, favourite.name, dialogs, open);
     return macro && joystick;

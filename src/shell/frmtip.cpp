@@ -26,15 +26,13 @@ qsizetype byChance(qsizetype count)
 } // namespace
 
 frmTip::frmTip(const Paths &paths, GlobalSettings &settings, Pick pick, QWidget *parent)
-    : QDialog(parent)
-    , m_paths(paths)
-    , m_settings(settings)
-    , m_pick(pick ? std::move(pick) : byChance)
-    , m_ui(std::make_unique<Ui::frmTip>())
+    : QDialog(parent), m_paths(paths), m_settings(settings),
+      m_pick(pick ? std::move(pick) : byChance), m_ui(std::make_unique<Ui::frmTip>())
 {
     m_ui->setupUi(this);
-    m_ui->picTip->setPixmap(iconNamed(paths, u"zeph").pixmap(QSize(pictureSize, pictureSize),
-                                                             devicePixelRatioF()));
+    m_ui->frameTip->setBackgroundRole(QPalette::Base);
+    m_ui->picTip->setPixmap(
+        iconNamed(paths, u"zeph").pixmap(QSize(pictureSize, pictureSize), devicePixelRatioF()));
     m_ui->chkLoadTipsAtStartup->setChecked(settings.ShowTips == 1);
     connect(m_ui->cmdNextTip, &QPushButton::clicked, this, [this] {
         m_tips.next();
@@ -59,11 +57,11 @@ bool frmTip::LoadTips()
 
 void frmTip::DisplayCurrentTip()
 {
-    m_ui->lblTipText->setText(
-        m_tips.isEmpty() ? u"I'd love to give you a tip, "_s + m_settings.PilotCallsign
-                + u", but I can't find any. They should be located here: "_s
-                + m_paths.inApp(u"Tips.txt")
-                         : m_tips.current());
+    m_ui->lblTipText->setText(m_tips.isEmpty()
+                                  ? u"I'd love to give you a tip, "_s + m_settings.PilotCallsign
+                                      + u", but I can't find any. They should be located here: "_s
+                                      + m_paths.inApp(u"Tips.txt")
+                                  : m_tips.current());
 }
 
 void frmTip::accept()

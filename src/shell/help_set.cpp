@@ -13,9 +13,9 @@ HelpTopic topicOf(const QList<QStringView> &fields)
 {
     bool isNumber = false;
     const int number = fields[0].trimmed().toInt(&isNumber);
-    return isNumber ? HelpTopic{ number, fields[1].trimmed().toString(),
-                                 fields[2].trimmed().toString() }
-                    : HelpTopic{};
+    return isNumber
+        ? HelpTopic{ number, fields[1].trimmed().toString(), fields[2].trimmed().toString() }
+        : HelpTopic{};
 }
 
 } // namespace

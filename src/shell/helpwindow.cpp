@@ -28,11 +28,8 @@ QString textOf(const QString &path)
 
 HelpWindow::HelpWindow(const Paths &paths, Dialogs &dialogs, ProcessLauncher &launcher,
                        QWidget *parent)
-    : QDialog(parent, Qt::Window)
-    , m_paths(paths)
-    , m_dialogs(dialogs)
-    , m_launcher(launcher)
-    , m_ui(std::make_unique<Ui::HelpWindow>())
+    : QDialog(parent, Qt::Window), m_paths(paths), m_dialogs(dialogs), m_launcher(launcher),
+      m_ui(std::make_unique<Ui::HelpWindow>())
 {
     m_set = HelpSet(textOf(folder() + u"topics.txt"_s), textOf(folder() + u"index.txt"_s));
     m_ui->setupUi(this);
@@ -48,7 +45,7 @@ HelpWindow::HelpWindow(const Paths &paths, Dialogs &dialogs, ProcessLauncher &la
     connect(m_ui->Browser, &QTextBrowser::forwardAvailable, m_ui->cmdForward,
             &QToolButton::setEnabled);
     connect(m_ui->Browser, &QTextBrowser::anchorClicked, this, &HelpWindow::openLink);
-    connect(m_ui->Browser, &QTextBrowser::sourceChanged, this, &HelpWindow::markCurrentTopic);
+    connect(m_ui->Browser, &QTextBrowser::sourceChanged, this, &HelpWindow::markTopic);
     connect(m_ui->txtFind, &QLineEdit::returnPressed, this, &HelpWindow::findInPage);
     connect(m_ui->cmdFind, &QToolButton::clicked, this, &HelpWindow::findInPage);
 }
@@ -65,8 +62,7 @@ bool HelpWindow::showTopic(int number)
     const auto topic = m_set.topic(number);
     if (!topic) {
         m_dialogs.tell(u"Topic not found"_s,
-                       u"The help has no topic with the number "_s + QString::number(number)
-                           + u'.',
+                       u"The help has no topic with the number "_s + QString::number(number) + u'.',
                        BoxIcon::Exclamation);
         return false;
     }
@@ -77,8 +73,7 @@ bool HelpWindow::showKeyword(const QString &word)
 {
     const auto target = m_set.target(word);
     if (!target) {
-        m_dialogs.tell(u"Keyword Not Found"_s, u"No such keyword found"_s,
-                       BoxIcon::Exclamation);
+        m_dialogs.tell(u"Keyword Not Found"_s, u"No such keyword found"_s, BoxIcon::Exclamation);
         return false;
     }
     return showTarget(*target);
@@ -144,14 +139,16 @@ void HelpWindow::fillIndex()
         const QListWidget &list = *m_ui->lstKeywords;
         showKeyword(list.count() == 1 ? list.item(0)->text() : m_ui->txtKeyword->text());
     });
-    const auto open = [this](const QListWidgetItem *item) { showKeyword(item->text()); };
+    const auto open = [this](const QListWidgetItem *item) {
+        showKeyword(item->text());
+    };
     connect(m_ui->lstKeywords, &QListWidget::itemClicked, this, open);
     connect(m_ui->lstKeywords, &QListWidget::itemActivated, this, open);
 }
 
-void HelpWindow::markCurrentTopic()
+void HelpWindow::markTopic(const QUrl &source)
 {
-    const QString file = nameOf(m_ui->Browser->source().toLocalFile());
+    const QString file = nameOf(source.toLocalFile());
     m_ui->lstTopics->setCurrentRow(-1);
     for (int i = 0; i < m_ui->lstTopics->count(); ++i) {
         const QString own = m_ui->lstTopics->item(i)->data(Qt::UserRole).toString();

@@ -43,7 +43,7 @@ private:
     void openLink(const QUrl &link);
     void fillContents();
     void fillIndex();
-    void markCurrentTopic();
+    void markTopic(const QUrl &source);
     void findInPage();
     QString folder() const;
 

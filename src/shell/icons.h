@@ -12,7 +12,8 @@ namespace zeph {
 /// A picture of the icons folder by its name without extension; an empty icon when it is missing.
 inline QIcon iconNamed(const Paths &paths, QStringView name)
 {
-    return QIcon(paths.inApp(u"icons/") + name.toString() + u".svg"_s);
+    const QString path = paths.inApp(u"icons/") + name.toString() + u".svg"_s;
+    return fileExists(path) ? QIcon(path) : QIcon();
 }
 
 } // namespace zeph

@@ -29,9 +29,8 @@ Expected<RichText, QString> readInformation(const QString &path)
 }
 
 InformationWindow::InformationWindow(Dialogs &dialogs, QWidget *parent)
-    : QDialog(parent, Qt::Window)
-    , m_dialogs(dialogs)
-    , m_ui(std::make_unique<Ui::InformationWindow>())
+    : QDialog(parent, Qt::Window), m_dialogs(dialogs),
+      m_ui(std::make_unique<Ui::InformationWindow>())
 {
     m_ui->setupUi(this);
     connect(m_ui->cmdClose, &QPushButton::clicked, this, &InformationWindow::close);

@@ -11,6 +11,8 @@
 #include <QHelpEvent>
 #include <QLabel>
 #include <QMouseEvent>
+#include <QPainter>
+#include <QStyle>
 #include <QToolTip>
 
 #include <algorithm>
@@ -21,6 +23,7 @@ namespace zeph {
 namespace {
 
 constexpr int pictureSize = 16;
+constexpr int textIndent = 6;
 constexpr int selectorOff = 1;
 constexpr std::array modeIcons = { u"mode-off", u"mode-windows", u"mode-programmed",
                                    u"mode-unknown" };
@@ -37,9 +40,11 @@ protected:
     void paintEvent(QPaintEvent *) override
     {
         QPainter painter(this);
-        const QString shown = fontMetrics().elidedText(text(), Qt::ElideRight, width());
-        style()->drawItemText(&painter, rect(), Qt::AlignLeft | Qt::AlignVCenter, palette(),
-                              isEnabled(), shown, foregroundRole());
+        const QString shown =
+            fontMetrics().elidedText(text(), Qt::ElideRight, width() - textIndent);
+        style()->drawItemText(&painter, rect().adjusted(textIndent, 0, 0, 0),
+                              Qt::AlignLeft | Qt::AlignVCenter, palette(), isEnabled(), shown,
+                              foregroundRole());
     }
 };
 
@@ -136,10 +141,9 @@ bool MainStatusBar::event(QEvent *event)
 
 void MainStatusBar::mouseMoveEvent(QMouseEvent *event)
 {
-    const StatusHover hover =
-        statusBarHover(twipsFromPixels(event->pos().x()), edges(),
-                       m_context.status.modePicture() != selectorOff,
-                       m_context.settings.PilotCallsign);
+    const StatusHover hover = statusBarHover(twipsFromPixels(event->pos().x()), edges(),
+                                             m_context.status.modePicture() != selectorOff,
+                                             m_context.settings.PilotCallsign);
     if (hover.wantsModeTooltip) {
         Q_EMIT modeTooltipWanted();
     } else {
@@ -152,8 +156,8 @@ void MainStatusBar::mousePressEvent(QMouseEvent *event)
     if (event->button() != Qt::LeftButton && event->button() != Qt::RightButton) {
         return;
     }
-    const StatusPress press = statusBarPress(twipsFromPixels(event->pos().x()),
-                                             event->button() == Qt::RightButton);
+    const StatusPress press =
+        statusBarPress(twipsFromPixels(event->pos().x()), event->button() == Qt::RightButton);
     if (press != StatusPress::None) {
         Q_EMIT endPressed(press);
     }

@@ -18,8 +18,7 @@ QStringList parseTips(QStringView file)
 }
 
 TipCycle::TipCycle(QStringList tips, qsizetype first)
-    : m_tips(std::move(tips))
-    , m_index(m_tips.isEmpty() ? 0 : first % m_tips.size())
+    : m_tips(std::move(tips)), m_index(m_tips.isEmpty() ? 0 : first % m_tips.size())
 {
 }
 

@@ -15,6 +15,7 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QDir>
+#include <QPalette>
 #include <QStackedWidget>
 
 namespace zeph {
@@ -23,6 +24,19 @@ namespace {
 
 constexpr int pauseMs = 400;
 constexpr int welcomePauseMs = 100;
+
+/// A dark desktop's palette, for systems that have none to offer.
+QPalette darkPalette()
+{
+    const QColor window(45, 48, 52);
+    QPalette palette(window);
+    palette.setColor(QPalette::Base, QColor(30, 32, 35));
+    palette.setColor(QPalette::AlternateBase, QColor(38, 41, 44));
+    palette.setColor(QPalette::Highlight, QColor(52, 120, 190));
+    palette.setColor(QPalette::HighlightedText, Qt::white);
+    palette.setColor(QPalette::Link, QColor(110, 175, 240));
+    return palette;
+}
 
 } // namespace
 
@@ -62,8 +76,7 @@ std::optional<CharFormat> RecordingDialogs::chooseFont(const CharFormat &)
     return std::nullopt;
 }
 
-std::optional<qsizetype> RecordingDialogs::chooseFromList(const QString &title,
-                                                          const QStringList &)
+std::optional<qsizetype> RecordingDialogs::chooseFromList(const QString &title, const QStringList &)
 {
     m_record.append(u"list: "_s + title);
     return std::nullopt;
@@ -73,6 +86,9 @@ Tour::Tour(const QString &folder, const RecordingDialogs &dialogs)
     : m_folder(folder), m_dialogs(dialogs)
 {
     QDir().mkpath(folder);
+    if (qEnvironmentVariable("ZEPH_TOUR_PALETTE") == u"dark") {
+        QApplication::setPalette(darkPalette());
+    }
     connect(&m_welcomeTimer, &QTimer::timeout, this, &Tour::answerWelcome);
     m_welcomeTimer.start(welcomePauseMs);
     connect(&m_timer, &QTimer::timeout, this, &Tour::walk);
@@ -90,10 +106,14 @@ void Tour::start(Application &application)
 void Tour::addStops(Application &application)
 {
     const auto press = [&application](QString name) {
-        return [&application, name] { application.editor().actions().trigger(name); };
+        return [&application, name] {
+            application.editor().actions().trigger(name);
+        };
     };
     m_stops = {
-        { u"pair"_s, [] {} },
+        { u"pair"_s,
+          [] {
+          } },
         { u"tiled"_s, press(u"mnuViewTileVertically"_s) },
         { u"macro-tab"_s,
           [&application] {

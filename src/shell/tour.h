@@ -43,7 +43,8 @@ class Tour : public QObject
 {
     Q_OBJECT
 public:
-    /// The folder is made when it is missing. Answers the first run's questions from now on.
+    /// The folder is made when it is missing. Answers the first run's questions from now on. The
+    /// environment variable ZEPH_TOUR_PALETTE with "dark" shows everything on a dark desktop.
     Tour(const QString &folder, const RecordingDialogs &dialogs);
 
     /// Walks on from the running program's event loop.

@@ -29,8 +29,7 @@ Box versionBox(const QString &latest, const QString &running)
 {
     if (latest == running) {
         return { .title = u"Version information"_s,
-                 .text = u"You are running the latest version of Zeph, version "_s + running
-                     + u'.',
+                 .text = u"You are running the latest version of Zeph, version "_s + running + u'.',
                  .icon = BoxIcon::Information };
     }
     return { .title = u"Newer software is available"_s,

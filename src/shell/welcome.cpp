@@ -24,10 +24,7 @@ constexpr int pictureWidth = 200;
 } // namespace
 
 Welcome::Welcome(const Paths &paths, Dialogs &dialogs, int intervalMs, QWidget *parent)
-    : QDialog(parent)
-    , m_paths(paths)
-    , m_dialogs(dialogs)
-    , m_ui(std::make_unique<Ui::Welcome>())
+    : QDialog(parent), m_paths(paths), m_dialogs(dialogs), m_ui(std::make_unique<Ui::Welcome>())
 {
     m_ui->setupUi(this);
     m_answers.hotasFolder = paths.hotasFolder;
@@ -71,8 +68,8 @@ bool Welcome::CheckForHotasDirectory() const
 
 void Welcome::GetHotasDirectory()
 {
-    const auto folder = m_dialogs.chooseFolder(u"Locate the HOTAS directory"_s,
-                                               m_ui->txtHotasFolder->text());
+    const auto folder =
+        m_dialogs.chooseFolder(u"Locate the HOTAS directory"_s, m_ui->txtHotasFolder->text());
     if (folder) {
         m_ui->txtHotasFolder->setText(withClosingSeparator(*folder));
     }

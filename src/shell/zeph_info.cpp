@@ -33,7 +33,8 @@ QList<InfoEntry> readList(const ProfileFile &file, const ListKeys &keys, const Q
     for (qint32 i = 1; i <= count; ++i) {
         const QString number = QString::number(i);
         const QString caption = file.text(keys.section, u"MenuCaption"_s + number);
-        const QString path = nativeSeparators(file.text(keys.section, keys.path.toString() + number));
+        const QString path =
+            nativeSeparators(file.text(keys.section, keys.path.toString() + number));
         if (!caption.isEmpty()) {
             entries.append({ caption, QDir::isAbsolutePath(path) ? path : folder + path });
         }

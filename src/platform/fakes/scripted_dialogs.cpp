@@ -119,6 +119,7 @@ std::optional<QString> ScriptedDialogs::saveFile(const FileRequest &request)
 std::optional<QString> ScriptedDialogs::chooseFolder(const QString &title, const QString &start)
 {
     m_folders.append(start);
+    m_folderTitles.append(title);
     return next(m_preparedFolders, u"folder dialog \"%1\""_s.arg(title));
 }
 

@@ -27,7 +27,9 @@ public:
 
     const QList<Box> &boxes() const { return m_boxes; }
     const QList<FileRequest> &files() const { return m_files; }
+    /// Where folder dialogs started, and their titles.
     const QStringList &folders() const { return m_folders; }
+    const QStringList &folderTitles() const { return m_folderTitles; }
     /// What was shown without being prepared, or prepared and not shown: empty in a good test.
     QStringList unexpected() const;
 
@@ -52,6 +54,7 @@ private:
     QList<Box> m_boxes;
     QList<FileRequest> m_files;
     QStringList m_folders;
+    QStringList m_folderTitles;
     QStringList m_unexpected;
     std::deque<PreparedBox> m_preparedBoxes;
     std::deque<std::optional<QString>> m_preparedFiles;

@@ -1,0 +1,389 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#include "shell/application.h"
+
+#include "editor/editor.h"
+#include "editor/editor_actions.h"
+#include "editor/text_control.h"
+#include "shell/frmtip.h"
+#include "shell/helpwindow.h"
+#include "shell/informationwindow.h"
+#include "shell/mum.h"
+#include "shell/tool_windows.h"
+#include "shell/welcome.h"
+#include "tests/shell/shell_world.h"
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QApplication>
+#include <QDir>
+#include <QLineEdit>
+#include <QStackedWidget>
+#include <QTimer>
+
+using namespace zeph;
+
+namespace {
+
+/// Plays the pilot in the first run: answers each page as it comes up.
+class Pilot : public QObject
+{
+public:
+    QString callsign = u"Maverick"_s;
+    int experience = 0;
+    int welcomes = 0;
+
+    Pilot()
+    {
+        m_timer.setInterval(2);
+        connect(&m_timer, &QTimer::timeout, this, &Pilot::answer);
+        m_timer.start();
+    }
+
+private:
+    void answer()
+    {
+        auto *welcome = qobject_cast<Welcome *>(QApplication::activeModalWidget());
+        if (!welcome) {
+            return;
+        }
+        const auto *pages = welcome->findChild<QStackedWidget *>(u"pages"_s);
+        if (pages->currentWidget()->objectName() == u"pageName") {
+            welcome->findChild<QLineEdit *>(u"txtFirstName"_s)->setText(u"Pete"_s);
+            welcome->findChild<QLineEdit *>(u"txtCallsign"_s)->setText(callsign);
+            welcome->findChild<QAbstractButton *>(u"cmdNames"_s)->click();
+        } else if (pages->currentWidget()->objectName() == u"pageExperience") {
+            ++welcomes;
+            welcome
+                ->findChild<QAbstractButton *>(u"Option_Experience_"_s
+                                               + QString::number(experience))
+                ->click();
+            welcome->findChild<QAbstractButton *>(u"cmdFinish"_s)->click();
+        }
+    }
+
+    QTimer m_timer;
+};
+
+struct Start : test::ShellWorld {
+    std::unique_ptr<Application> app;
+
+    bool start()
+    {
+        app.reset();
+        app = application();
+        return app->start();
+    }
+    void startAgain() { ASSERT_TRUE(start()); }
+
+    template <class T> bool isOpen() { return app->mum().toolWindows().isOpen<T>(); }
+    QString stored(const QString &section, const QString &key) const
+    {
+        return ProfileFile(paths.iniPath).text(section, key, u"(absent)"_s);
+    }
+    QString title() const { return app->mum().windowTitle(); }
+
+    void TearDown() override
+    {
+        app.reset();
+        ShellWorld::TearDown();
+    }
+};
+
+const QByteArray favourite = "[Favourites]\r\nFavArrayNum=1\r\nFavLoadOnStart=1\r\n"
+                             "FavNameToLoad=Viper\r\nFavName1=Viper\r\nFavMFPath1=None\r\n";
+
+} // namespace
+
+TEST_F(Start, MakesItsFolders)
+{
+    writeStore();
+    ASSERT_TRUE(start());
+    for (const auto *name : { u"Rtf", u"Files", u"Layouts", u"Temp", u"Backup" }) {
+        EXPECT_TRUE(QDir(folder.file(QString::fromUtf16(name))).exists());
+    }
+    EXPECT_EQ(app->paths().compiler(), folder.path() + u"/HOTASCompiler.exe"_s);
+}
+
+TEST_F(Start, WelcomesAndHasTwoFreshDocuments)
+{
+    writeStore("[Miscellaneous]\r\nPilotCallsign=Goose\r\n");
+    ASSERT_TRUE(start());
+    EXPECT_EQ(status.text(), QString()) << "the status line is the application's own";
+    EXPECT_EQ(app->status().text(), u"Ready! Welcome to Zeph, Goose!");
+    EXPECT_EQ(app->editor().joystick().name, u"Untitled.tmj");
+    EXPECT_EQ(app->editor().macro().name, u"Untitled.tmm");
+    EXPECT_EQ(app->editor().selected().kind, DocumentKind::Joystick);
+    EXPECT_EQ(app->status().lineText(), u"Line no: 1");
+    EXPECT_EQ(app->status().modePicture(), 1);
+}
+
+TEST_F(Start, FillsInTheDefaultPathsAndSavesThemAtOnce)
+{
+    writeStore();
+    ASSERT_TRUE(start());
+    EXPECT_EQ(stored(u"FileLocations"_s, u"BackUpFolder"_s), folder.path() + u"/Backup/"_s);
+    EXPECT_EQ(stored(u"Apps"_s, u"ImageFilePath"_s), folder.file(u"Zeph.bmp"_s));
+    EXPECT_EQ(stored(u"Apps"_s, u"TextFilePath"_s), folder.file(u"ReadMe.txt"_s));
+}
+
+TEST_F(Start, AnAbsentStoreIsAFirstRunAndHoldsEveryKeyAfterIt)
+{
+    Pilot pilot;
+    pilot.experience = 3;
+    ASSERT_TRUE(start());
+    EXPECT_EQ(pilot.welcomes, 1);
+    EXPECT_EQ(stored(u"Colours"_s, u"BackgroundColour"_s), u"14285565");
+    EXPECT_EQ(stored(u"Handles"_s, u"NumHandles"_s), u"1");
+    EXPECT_EQ(stored(u"Miscellaneous"_s, u"UndoMax"_s), u"20");
+    EXPECT_EQ(stored(u"FileLocations"_s, u"ShowTips"_s), u"(absent)")
+        << "the global save does not add it";
+}
+
+TEST_F(Start, TheFirstRunTakesWhatThePilotSays)
+{
+    Pilot pilot;
+    pilot.experience = 3;
+    ASSERT_TRUE(start());
+    EXPECT_EQ(stored(u"FileLocations"_s, u"FirstTimeUsed"_s), u"5");
+    EXPECT_EQ(stored(u"Miscellaneous"_s, u"PilotCallsign"_s), u"Maverick");
+    EXPECT_EQ(stored(u"Miscellaneous"_s, u"ValidUser"_s), u"Pete \"Maverick\"");
+    EXPECT_EQ(ProfileFile(app->paths().hotasIni()).text(u"Files", u"Files"),
+              app->paths().filesFolder());
+}
+
+TEST_F(Start, OnTheFirstRunTheTipDoesNotAppearAndOnTheNextItDoes)
+{
+    folder.write(u"Tips.txt"_s, "One\n");
+    Pilot pilot;
+    pilot.experience = 3;
+    ASSERT_TRUE(start());
+    EXPECT_FALSE(isOpen<frmTip>());
+    startAgain();
+    EXPECT_TRUE(isOpen<frmTip>());
+    EXPECT_EQ(pilot.welcomes, 1);
+}
+
+TEST_F(Start, TheFirstTwoAnswersShowAnInformationText)
+{
+    folder.write(u"Info/Information 20.rtf"_s, "{\\rtf1 Twenty}");
+    folder.write(u"Info/Information 21.rtf"_s, "{\\rtf1 Twenty one}");
+    Pilot pilot;
+    const auto shown = [&] {
+        return app->mum()
+            .toolWindows()
+            .get<InformationWindow>()
+            ->findChild<QTextEdit *>(u"txtInformation"_s)
+            ->toPlainText();
+    };
+    ASSERT_TRUE(start());
+    EXPECT_EQ(shown(), u"Twenty");
+    QFile::remove(paths.iniPath);
+    pilot.experience = 1;
+    startAgain();
+    EXPECT_EQ(shown(), u"Twenty one");
+}
+
+TEST_F(Start, TheVeteransAnswerShowsHelpTopic100)
+{
+    folder.write(u"Help/topics.txt"_s, "100\tveteran.html\tVeterans\n");
+    folder.write(u"Help/veteran.html"_s, "<p>Hello again</p>");
+    Pilot pilot;
+    pilot.experience = 2;
+    ASSERT_TRUE(start());
+    EXPECT_TRUE(isOpen<HelpWindow>());
+}
+
+TEST_F(Start, ACommandLineThatNamesNoExistingFileIsDropped)
+{
+    writeStore();
+    arguments = { folder.file(u"gone.tmj"_s) };
+    ASSERT_TRUE(start());
+    EXPECT_EQ(app->editor().joystick().name, u"Untitled.tmj");
+    EXPECT_EQ(app->status().text(), u"Ready! Welcome to Zeph, buddy!");
+}
+
+TEST_F(Start, ADroppedCommandLineLeavesTheRestoredFilesAsIfNoneWereGiven)
+{
+    const QString last = folder.write(u"last.tmj"_s, "BTN S2 a\r\n");
+    writeStore("[Miscellaneous]\r\nRestoreJoyFile=" + last.toLocal8Bit() + "\r\n");
+    arguments = { folder.file(u"gone.tmj"_s) };
+    ASSERT_TRUE(start());
+    EXPECT_EQ(app->editor().joystick().path, last);
+}
+
+TEST_F(Start, ACommandLineOpensItsFileAndItsPartner)
+{
+    writeStore();
+    const QString joystick = folder.write(u"my files/Viper.tmj"_s, "BTN S2 Fire\r\n");
+    const QString macro = folder.write(u"my files/Viper.tmm"_s, "Fire = a\r\n");
+    arguments = { joystick };
+    ASSERT_TRUE(start());
+    EXPECT_EQ(app->editor().joystick().path, joystick);
+    EXPECT_EQ(app->editor().macro().path, macro);
+    EXPECT_EQ(app->editor().selected().kind, DocumentKind::Joystick);
+}
+
+TEST_F(Start, ACommandLineThatAShellHasPartedIsOneName)
+{
+    writeStore();
+    const QString joystick = folder.write(u"my files/Viper.tmj"_s, "BTN S2 a\r\n");
+    arguments = joystick.split(u' ');
+    ASSERT_EQ(arguments.size(), 2);
+    ASSERT_TRUE(start());
+    EXPECT_EQ(app->editor().joystick().path, joystick);
+}
+
+TEST_F(Start, AMacroFileOnTheCommandLineStaysInFront)
+{
+    writeStore();
+    arguments = { folder.write(u"Alone.tmm"_s, "Fire = a\r\n") };
+    ASSERT_TRUE(start());
+    EXPECT_EQ(app->editor().macro().name, u"Alone.tmm");
+    EXPECT_EQ(app->editor().selected().kind, DocumentKind::Macro);
+}
+
+TEST_F(Start, TheAutoloadFavouriteAppliesWithBothRestoreKeysEmpty)
+{
+    const QString viper = folder.write(u"Viper.tmj"_s, "BTN S2 a\r\n");
+    writeStore("[Miscellaneous]\r\nRestoreStatus=1\r\n" + favourite
+               + "FavJFPath1=" + viper.toLocal8Bit() + "\r\n");
+    ASSERT_TRUE(start());
+    EXPECT_EQ(app->editor().joystick().path, viper);
+}
+
+TEST_F(Start, TheAutoloadFavouriteDoesNotApplyWithARestoredFile)
+{
+    const QString viper = folder.write(u"Viper.tmj"_s, "BTN S2 a\r\n");
+    const QString last = folder.write(u"last.tmm"_s, "Fire = a\r\n");
+    writeStore("[Miscellaneous]\r\nRestoreStatus=1\r\nRestoreMacroFile=" + last.toLocal8Bit()
+               + "\r\n" + favourite + "FavJFPath1=" + viper.toLocal8Bit() + "\r\n");
+    ASSERT_TRUE(start());
+    EXPECT_EQ(app->editor().macro().path, last);
+    EXPECT_EQ(app->editor().joystick().name, u"Untitled.tmj");
+}
+
+TEST_F(Start, AFurtherInstanceShowsSoAndWorksOnItsOwnStore)
+{
+    writeStore();
+    const InstanceLock first(folder.path());
+    ASSERT_TRUE(first.isFirst());
+    ASSERT_TRUE(start());
+    EXPECT_EQ(title(), u"Zeph - secondary window");
+    EXPECT_TRUE(folder.exists(u"Zeph.2"_s));
+    app->mum().close();
+    EXPECT_FALSE(folder.exists(u"Zeph.2"_s));
+}
+
+TEST_F(Start, TheFirstInstanceClearsWhatCrashedOnesLeft)
+{
+    writeStore();
+    folder.write(u"Zeph.2"_s, "left behind");
+    ASSERT_TRUE(start());
+    EXPECT_EQ(title(), u"Zeph");
+    EXPECT_FALSE(folder.exists(u"Zeph.2"_s));
+}
+
+TEST_F(Start, With997FurtherInstancesTheNextOneEnds)
+{
+    writeStore();
+    for (int n = 2; n <= 998; ++n) {
+        folder.write(u"Zeph."_s + QString::number(n), "taken");
+    }
+    const InstanceLock first(folder.path());
+    dialogs.answer(u"Exiting now ..."_s, BoxButton::Ok);
+    EXPECT_FALSE(start());
+    ASSERT_EQ(dialogs.boxes().size(), 1);
+    EXPECT_EQ(dialogs.boxes()[0].text,
+              u"Sorry, you've got too many windows open. Far too many !!!");
+}
+
+TEST_F(Start, OtherThan96PixelsAnInchWarnsOfSmallFontsAndGoesOn)
+{
+    writeStore();
+    screen.dpi = 120;
+    dialogs.answer(u"WARNING: Small fonts not detected!"_s, BoxButton::Ok);
+    ASSERT_TRUE(start());
+    const QString text = dialogs.boxes()[0].text;
+    EXPECT_TRUE(text.startsWith(
+        u"WARNING: I've just had a quick check to see what your Display Font Size is set to, and "
+        "I've noticed that your settings are not the default 'Small Fonts' size."_s));
+    EXPECT_TRUE(text.endsWith(
+        u"Please see the help file topic: 'Small Fonts, big problems' under the Miscellaneous "
+        "heading for more information."_s));
+}
+
+TEST_F(Start, TurnOffFontCheckTurnsTheWarningOff)
+{
+    writeStore("[Unsupported]\r\nTurnOffFontCheck=1\r\n");
+    screen.dpi = 120;
+    EXPECT_TRUE(start());
+}
+
+TEST_F(Start, AMissingZephInfoIsToldAndManualsStayDisabled)
+{
+    writeStore();
+    QFile::remove(folder.file(u"Info/ZephInfo.ini"_s));
+    dialogs.answer(u"Missing file"_s, BoxButton::Ok);
+    ASSERT_TRUE(start());
+    EXPECT_EQ(dialogs.boxes()[0].text,
+              u"Interesting. ZephInfo.ini is missing from Zeph's Info folder, so I'm not going to "
+              "be able to enable the Help menu's Manuals menu item.");
+    EXPECT_FALSE(app->editor().action(u"mnuHelpManuals")->isEnabled());
+}
+
+TEST_F(Start, BoxesComeInTheOrderOfTheStart)
+{
+    writeStore();
+    folder.write(u"file"_s, "in the way");
+    ASSERT_TRUE(
+        ProfileFile(paths.iniPath)
+            .write({ u"FileLocations"_s, u"BackUpFolder"_s, folder.file(u"file/below"_s) }));
+    QFile::remove(folder.file(u"Info/ZephInfo.ini"_s));
+    screen.dpi = 72;
+    const QStringList order{ u"WARNING: Small fonts not detected!"_s,
+                             u"Backup folder location error"_s, u"Missing file"_s };
+    for (const QString &title : order) {
+        dialogs.answer(title, BoxButton::Ok);
+    }
+    ASSERT_TRUE(start());
+    EXPECT_EQ(boxTitles(), order);
+}
+
+TEST_F(Start, VistaHidesTheDirectXTesters)
+{
+    writeStore("[Miscellaneous]\r\nDefaultToDX8KeyTester=1\r\n");
+    system.vista = true;
+    ASSERT_TRUE(start());
+    for (const QStringView name :
+         { u"mnuAppsDX8Divider", u"mnuAppsDX8_0", u"mnuAppsDX8_1", u"mnuAppsDX8_2" }) {
+        EXPECT_FALSE(app->editor().action(name)->isVisible());
+    }
+    EXPECT_EQ(app->settings().DefaultToDX8KeyTester, 0);
+}
+
+TEST_F(Start, OtherSystemsShowTheDirectXTesters)
+{
+    writeStore("[Miscellaneous]\r\nDefaultToDX8KeyTester=1\r\n");
+    ASSERT_TRUE(start());
+    EXPECT_TRUE(app->editor().action(u"mnuAppsDX8_0")->isVisible());
+    EXPECT_EQ(app->settings().DefaultToDX8KeyTester, 1);
+}
+
+TEST_F(Start, AStoredPlaceIsTakenUpUnlessMaximised)
+{
+    writeStore("[Miscellaneous]\r\nMumWindowstate=0\r\nMumLeftAtStartup=150\r\n"
+               "MumTopAtStartup=300\r\nMumWidthAtStartup=12000\r\nMumHeightAtStartup=7500\r\n");
+    ASSERT_TRUE(start());
+    EXPECT_FALSE(app->mum().isMaximized());
+    EXPECT_EQ(app->mum().size(), QSize(800, 500));
+    EXPECT_EQ(app->mum().pos(), QPoint(10, 20));
+}
+
+TEST_F(Start, MaximisedIsTheDefault)
+{
+    writeStore();
+    ASSERT_TRUE(start());
+    EXPECT_TRUE(app->mum().isMaximized());
+}

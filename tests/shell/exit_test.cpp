@@ -1,0 +1,128 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#include "editor/editor.h"
+#include "editor/editor_actions.h"
+#include "editor/text_control.h"
+#include "shell/application.h"
+#include "shell/help_menu.h"
+#include "shell/mum.h"
+#include "shell/tool_windows.h"
+#include "tests/shell/shell_world.h"
+
+#include <QAction>
+#include <QFile>
+#include <QTest>
+
+using namespace zeph;
+
+namespace {
+
+struct Exit : test::ShellWorld {
+    std::unique_ptr<Application> app;
+    QString joystick;
+    QString macro;
+
+    void SetUp() override
+    {
+        writeStore("[Miscellaneous]\r\nMumWindowstate=0\r\n");
+        joystick = folder.write(u"Files/Viper.tmj"_s, "BTN S2 Fire\r\n");
+        macro = folder.write(u"Files/Viper.tmm"_s, "Fire = a\r\n");
+        arguments = { joystick };
+        app = application();
+        ASSERT_TRUE(app->start());
+    }
+    void TearDown() override
+    {
+        app.reset();
+        ShellWorld::TearDown();
+    }
+    void typeInto(EditorDocument &document) const
+    {
+        document.control->insertPlainText(u"x"_s);
+        ASSERT_TRUE(document.isModified());
+    }
+    QString stored(const QString &key) const
+    {
+        return ProfileFile(paths.iniPath).text(u"Miscellaneous", key, u"(absent)"_s);
+    }
+};
+
+} // namespace
+
+TEST_F(Exit, KeepsTheFilesOfTheRunAndThePlaceForTheNext)
+{
+    app->mum().move(30, 40);
+    app->mum().resize(820, 640);
+    EXPECT_TRUE(app->mum().close());
+    EXPECT_EQ(stored(u"RestoreJoyFile"_s), joystick);
+    EXPECT_EQ(stored(u"RestoreMacroFile"_s), macro);
+    EXPECT_EQ(stored(u"MumLeftAtStartup"_s), u"450");
+    EXPECT_EQ(stored(u"MumTopAtStartup"_s), u"600");
+    EXPECT_EQ(stored(u"MumWidthAtStartup"_s), u"12300");
+    EXPECT_EQ(stored(u"MumHeightAtStartup"_s), u"9600");
+    EXPECT_EQ(stored(u"MumWindowstate"_s), u"0");
+}
+
+TEST_F(Exit, AFileThatIsGoneIsNotRestored)
+{
+    QFile::remove(macro);
+    EXPECT_TRUE(app->mum().close());
+    EXPECT_EQ(stored(u"RestoreJoyFile"_s), joystick);
+    EXPECT_EQ(stored(u"RestoreMacroFile"_s), QString());
+}
+
+TEST_F(Exit, TheMenusItemClosesTheMainWindow)
+{
+    app->editor().actions().trigger(u"mnuFileExit");
+    EXPECT_FALSE(app->mum().isVisible());
+}
+
+TEST_F(Exit, AsksForTheMacroFileFirstAndThenForTheJoystickFile)
+{
+    typeInto(app->editor().joystick());
+    typeInto(app->editor().macro());
+    dialogs.answer(u" Save Viper.tmm now?"_s, BoxButton::No);
+    dialogs.answer(u" Save Viper.tmj now?"_s, BoxButton::No);
+    EXPECT_TRUE(app->mum().close());
+    EXPECT_EQ(boxTitles(), QStringList({ u" Save Viper.tmm now?"_s, u" Save Viper.tmj now?"_s }));
+    EXPECT_EQ(dialogs.boxes()[0].text,
+              u"Viper.tmm has changed and isn't saved. Do you want to save it before exiting?");
+}
+
+TEST_F(Exit, CancelStopsItAndNothingIsWritten)
+{
+    typeInto(app->editor().macro());
+    const QByteArray before = folder.read(u"Zeph.ini"_s);
+    dialogs.answer(u" Save Viper.tmm now?"_s, BoxButton::Cancel);
+    EXPECT_FALSE(app->mum().close());
+    EXPECT_TRUE(app->mum().isVisible());
+    EXPECT_EQ(folder.read(u"Zeph.ini"_s), before);
+}
+
+TEST_F(Exit, YesSaves)
+{
+    typeInto(app->editor().joystick());
+    dialogs.answer(u" Save Viper.tmj now?"_s, BoxButton::Yes);
+    EXPECT_TRUE(app->mum().close());
+    EXPECT_TRUE(folder.read(u"Files/Viper.tmj"_s).contains('x'));
+}
+
+TEST_F(Exit, ClosesTheToolWindowsWithIt)
+{
+    folder.write(u"Help/contents.html"_s, "<p>Help</p>");
+    app->help().mnuHelpContents_Click();
+    EXPECT_TRUE(app->mum().close());
+    for (const QWidget *window : QApplication::topLevelWidgets()) {
+        EXPECT_FALSE(window->isVisible()) << window->objectName().toStdString();
+    }
+}
+
+TEST_F(Exit, ClosingWhileMinimisedLeavesTheLastPositionUnchanged)
+{
+    const QString before = stored(u"MumLeftAtStartup"_s);
+    app->mum().move(333, 100);
+    app->mum().showMinimized();
+    EXPECT_TRUE(app->mum().close());
+    EXPECT_EQ(stored(u"MumLeftAtStartup"_s), before);
+}

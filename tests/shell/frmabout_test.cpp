@@ -1,0 +1,31 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#include "shell/frmabout.h"
+
+#include "tests/shell/shell_world.h"
+
+#include <QLabel>
+#include <QPushButton>
+
+using namespace zeph;
+
+using AboutWindow = test::ShellWorld;
+
+TEST_F(AboutWindow, ShowsPictureAndVersion)
+{
+    installData(u"Zeph.bmp"_s);
+    frmAbout window(paths);
+    EXPECT_EQ(window.findChild<QLabel *>(u"lblVersion"_s)->text(), u"Version 4.4.02");
+    EXPECT_FALSE(window.findChild<QLabel *>(u"picAbout"_s)->pixmap().isNull());
+    window.show();
+    window.findChild<QPushButton *>(u"cmdOK"_s)->click();
+    EXPECT_FALSE(window.isVisible());
+}
+
+TEST_F(AboutWindow, AMissingPictureIsToldInItsPlace)
+{
+    const frmAbout window(paths);
+    EXPECT_TRUE(
+        window.findChild<QLabel *>(u"picAbout"_s)->text().contains(folder.file(u"Zeph.bmp"_s)));
+}

@@ -1,0 +1,251 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#include "shell/mum.h"
+
+#include "editor/editor.h"
+#include "editor/editor_actions.h"
+#include "editor/editor_view.h"
+#include "editor/text_control.h"
+#include "shell/frmabout.h"
+#include "shell/main_status_bar.h"
+#include "shell/tool_windows.h"
+#include "tests/shell/shell_world.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QLabel>
+#include <QMenu>
+#include <QMenuBar>
+#include <QStatusTipEvent>
+#include <QTest>
+#include <QToolBar>
+#include <QToolButton>
+
+using namespace zeph;
+
+namespace {
+
+struct MainWindow : test::ShellWorld {
+    std::unique_ptr<Mum> mum;
+    Editor *editor = nullptr;
+
+    void SetUp() override
+    {
+        settings.PilotCallsign = u"Goose"_s;
+        settings.MumWindowstate = 0;
+        paths.iniPath = folder.file(u"Zeph.ini"_s);
+        mum = std::make_unique<Mum>(context());
+        editor = new Editor(context(), mum.get());
+        mum->attachEditor(editor);
+        mum->resize(1000, 700);
+        mum->show();
+    }
+    void TearDown() override
+    {
+        mum.reset();
+        ShellWorld::TearDown();
+    }
+    QToolButton *button(const QString &name) const { return mum->findChild<QToolButton *>(name); }
+    void settle() const
+    {
+        QCoreApplication::sendPostedEvents();
+        QCoreApplication::processEvents();
+    }
+    /// Counts how often an entry was run, in place of what it does.
+    int *countRuns(const QString &name)
+    {
+        auto runs = std::make_shared<int>(0);
+        editor->actions().connectTo(name, [runs] { ++*runs; });
+        editor->action(name)->setEnabled(true);
+        m_counters.push_back(runs);
+        return runs.get();
+    }
+
+private:
+    std::vector<std::shared_ptr<int>> m_counters;
+};
+
+} // namespace
+
+TEST_F(MainWindow, HoldsTheEditorAndItsMenusAndNoOthers)
+{
+    EXPECT_EQ(mum->centralWidget(), editor);
+    QStringList captions;
+    for (const QAction *menu : mum->menuBar()->actions()) {
+        captions.append(menu->text());
+    }
+    EXPECT_EQ(captions.first(), u"&File");
+    EXPECT_EQ(captions.last(), u"&Help");
+    EXPECT_EQ(captions.size(), editor->actions().menuBar().size());
+}
+
+TEST_F(MainWindow, HasTwoMovableBandsWithSeparatorsInTheGaps)
+{
+    for (const auto *name : { u"Toolbar1", u"Toolbar2" }) {
+        const auto *band = mum->findChild<QToolBar *>(QString::fromUtf16(name));
+        ASSERT_TRUE(band);
+        EXPECT_TRUE(band->isMovable());
+    }
+    int separators = 0;
+    for (const QAction *action : mum->findChild<QToolBar *>(u"Toolbar1"_s)->actions()) {
+        separators += action->isSeparator() ? 1 : 0;
+    }
+    // Behind 4, 8, 11, 15, 17, 22, 25, 29 and 32.
+    EXPECT_EQ(separators, 9);
+}
+
+TEST_F(MainWindow, ButtonsCanBeUsedWhenTheirEntryCan)
+{
+    EXPECT_TRUE(button(u"Toolbar1_1"_s)->isEnabled());
+    EXPECT_FALSE(button(u"Toolbar1_13"_s)->isEnabled()) << "find is for later";
+    EXPECT_FALSE(button(u"Toolbar2_1"_s)->isEnabled());
+    editor->action(u"mnuEditFind")->setEnabled(true);
+    settle();
+    EXPECT_TRUE(button(u"Toolbar1_13"_s)->isEnabled());
+}
+
+TEST_F(MainWindow, AButtonRunsItsEntryForTheSelectedTab)
+{
+    const int *joystick = countRuns(u"mnuViewColourJoystick"_s);
+    const int *macro = countRuns(u"mnuViewColourMacro"_s);
+    settle();
+    button(u"Toolbar1_25"_s)->click();
+    editor->view().select(DocumentKind::Macro);
+    settle();
+    button(u"Toolbar1_25"_s)->click();
+    EXPECT_EQ(*joystick, 1);
+    EXPECT_EQ(*macro, 1);
+}
+
+TEST_F(MainWindow, ATickedEntryShowsAsAPressedButton)
+{
+    QToolButton *tile = button(u"Toolbar1_22"_s);
+    EXPECT_FALSE(tile->isChecked());
+    tile->click();
+    EXPECT_TRUE(editor->view().isTiled());
+    EXPECT_TRUE(tile->isChecked());
+    tile->click();
+    EXPECT_FALSE(editor->view().isTiled());
+    EXPECT_FALSE(tile->isChecked());
+}
+
+TEST_F(MainWindow, CustomApplicationsShowOnlyWhileInUse)
+{
+    EXPECT_FALSE(button(u"Toolbar2_17"_s)->isVisible());
+    editor->action(u"mnuCustomApp_1")->setText(u"My app"_s);
+    editor->action(u"mnuCustomApp_1")->setEnabled(true);
+    settle();
+    EXPECT_TRUE(button(u"Toolbar2_17"_s)->isVisible());
+    EXPECT_EQ(button(u"Toolbar2_17"_s)->toolTip(), u"My app");
+}
+
+TEST_F(MainWindow, TooltipsFollowTheirSetting)
+{
+    EXPECT_EQ(button(u"Toolbar1_6"_s)->toolTip(), u"Cut (Ctrl+X)");
+    EXPECT_EQ(button(u"Shortcut_1"_s)->toolTip(), u"Graphical layout");
+    settings.OKtoShowToolTips = 0;
+    mum->UpdateTooltips();
+    EXPECT_EQ(button(u"Toolbar1_6"_s)->toolTip(), QString());
+    EXPECT_EQ(button(u"Shortcut_1"_s)->toolTip(), QString());
+    settings.OKtoShowToolTips = 1;
+    mum->UpdateTooltips();
+    EXPECT_EQ(button(u"Toolbar1_6"_s)->toolTip(), u"Cut (Ctrl+X)");
+}
+
+TEST_F(MainWindow, TheMouseOverAButtonDescribesItOnTheStatusBar)
+{
+    QTest::mouseMove(button(u"Toolbar1_15"_s), QPoint(3, 3));
+    EXPECT_EQ(status.text(),
+              u"Goto line number - useful when a download fails with an error at a line number");
+    QTest::mouseMove(button(u"Shortcut_0"_s), QPoint(3, 3));
+    EXPECT_EQ(status.text(), u"Display the main editing window");
+}
+
+TEST_F(MainWindow, TheMouseOverAnEmptyPartGreets)
+{
+    auto *band = mum->findChild<QToolBar *>(u"Toolbar1"_s);
+    QTest::mouseMove(band, QPoint(band->width() - 2, band->height() / 2));
+    EXPECT_EQ(status.text(), u"Welcome to Zeph, Goose! This is the Editor's main toolbar.");
+}
+
+TEST_F(MainWindow, NothingIsDescribedWithButtonsOnStatusBarOff)
+{
+    settings.ButtonsOnStatusBar = 0;
+    status.setText(u"before"_s);
+    QTest::mouseMove(button(u"Toolbar1_15"_s), QPoint(4, 4));
+    EXPECT_EQ(status.text(), u"before");
+}
+
+TEST_F(MainWindow, AMenuEntryDescribesItselfAndGivesTheLineBack)
+{
+    status.setText(u"before"_s);
+    QStatusTipEvent tip(u"Opens a macro file alone"_s);
+    QApplication::sendEvent(mum.get(), &tip);
+    EXPECT_EQ(status.text(), u"Opens a macro file alone");
+    QStatusTipEvent gone{ QString() };
+    QApplication::sendEvent(mum.get(), &gone);
+    EXPECT_EQ(status.text(), u"before");
+}
+
+TEST_F(MainWindow, TheBarsLeftEndColoursSavesAndIdentifies)
+{
+    const int *colour = countRuns(u"mnuViewColourMacro"_s);
+    const int *identify = countRuns(u"mnuMacrosIdentify"_s);
+    const QString path = folder.write(u"a.tmm"_s, "old");
+    editor->view().select(DocumentKind::Macro);
+    editor->macro().path = path;
+    editor->macro().name = u"a.tmm"_s;
+    editor->macro().control->insertPlainText(u"Fire = a"_s);
+    QTest::mousePress(&mum->bar(), Qt::LeftButton, {}, QPoint(5, 10));
+    EXPECT_EQ(*colour, 1);
+    EXPECT_EQ(*identify, 1);
+    EXPECT_EQ(folder.read(u"a.tmm"_s), "Fire = a");
+}
+
+TEST_F(MainWindow, TheBarsLeftEndCompilesWithTheRightButton)
+{
+    const int *compile = countRuns(u"mnuAppsCompile"_s);
+    QTest::mousePress(&mum->bar(), Qt::RightButton, {}, QPoint(5, 10));
+    EXPECT_EQ(*compile, 1);
+}
+
+TEST_F(MainWindow, TakesItsToolWindowsAlongWhenMinimised)
+{
+    auto *about = mum->toolWindows().open<frmAbout>(
+        [this](QWidget *owner) { return new frmAbout(paths, owner); });
+    mum->showMinimized();
+    settle();
+    EXPECT_TRUE(about->isMinimized());
+    EXPECT_FALSE(mum->findChild<QToolBar *>(u"Toolbar1"_s)->isVisibleTo(mum.get()));
+    mum->showNormal();
+    settle();
+    EXPECT_FALSE(about->isMinimized());
+    EXPECT_TRUE(mum->findChild<QToolBar *>(u"Toolbar1"_s)->isVisibleTo(mum.get()));
+}
+
+TEST_F(MainWindow, ItsPlaceIsInTwips)
+{
+    mum->setPlace({ .left = 300, .top = 450, .width = 12750, .height = 9000 });
+    EXPECT_EQ(mum->pos(), QPoint(20, 30));
+    EXPECT_EQ(mum->size(), QSize(850, 600));
+    const WindowPlace place = mum->place();
+    EXPECT_EQ(place.left, 300);
+    EXPECT_EQ(place.width, 12750);
+    EXPECT_EQ(place.state, WindowState::Normal);
+}
+
+TEST_F(MainWindow, StaysOpenWhenTheQuestionSaysSo)
+{
+    bool answer = false;
+    int unloads = 0;
+    mum->queryUnload = [&] {
+        return answer;
+    };
+    QObject::connect(mum.get(), &Mum::unloading, mum.get(), [&] { ++unloads; });
+    EXPECT_FALSE(mum->close());
+    EXPECT_EQ(unloads, 0);
+    answer = true;
+    EXPECT_TRUE(mum->close());
+    EXPECT_EQ(unloads, 1);
+}

@@ -1,0 +1,124 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "platform/clock.h"
+#include "platform/core/paths.h"
+#include "platform/downloader.h"
+#include "platform/fakes/fake_keyboard.h"
+#include "platform/fakes/fake_launcher.h"
+#include "platform/fakes/fake_screen.h"
+#include "platform/fakes/scripted_dialogs.h"
+#include "platform/status_line.h"
+#include "platform/system_info.h"
+#include "shell/application.h"
+#include "shell/settings/global_settings.h"
+#include "tests/support/temp_folder.h"
+
+#include <gtest/gtest.h>
+
+#include <QFile>
+
+namespace zeph::test {
+
+/// A server that gives one prepared answer.
+class FakeDownloader : public Downloader
+{
+public:
+    Expected<QByteArray, QString> answer = Unexpected<QString>(u"no server"_s);
+    QStringList asked;
+
+    Expected<QByteArray, QString> fetch(const QString &address, int) override
+    {
+        asked.append(address);
+        return answer;
+    }
+};
+
+class FakeSystem : public SystemInfo
+{
+public:
+    bool vista = false;
+    bool isVista() const override { return vista; }
+};
+
+/// A folder of the program's own with everything that a start needs, and the world around it.
+/// Fails the test when a box came up that nobody prepared, or did not come up.
+class ShellWorld : public testing::Test
+{
+public:
+    TempFolder folder;
+    ScriptedDialogs dialogs;
+    FakeLauncher launcher;
+    Clock clock;
+    FakeDownloader downloader;
+    FakeKeyboard keyboard;
+    FakeScreen screen;
+    FakeSystem system;
+    QStringList arguments;
+    int welcomeIntervalMs = 1;
+
+    Paths paths;
+    GlobalSettings settings;
+    StatusLine status;
+
+    ShellWorld()
+    {
+        paths.appFolder = folder.path();
+        paths.hotasFolder = folder.path() + u'/';
+        paths.iniPath = folder.file(u"Zeph.ini"_s);
+        QFile::link(QStringLiteral(ZEPH_SOURCE_DIR "/data/icons"), folder.file(u"icons"_s));
+        folder.write(u"Info/ZephInfo.ini"_s, "[Online Help]\nNumberOfTopics=0\n");
+    }
+
+    void TearDown() override
+    {
+        EXPECT_TRUE(dialogs.unexpected().isEmpty())
+            << dialogs.unexpected().join(u'\n').toStdString();
+    }
+
+    Context context() { return { paths, settings, status, dialogs, launcher, clock, keyboard }; }
+
+    /// A store that has seen its first run and shows no tips.
+    void writeStore(const QByteArray &more = {})
+    {
+        folder.write(u"Zeph.ini"_s, "[FileLocations]\r\nFirstTimeUsed=2\r\nShowTips=0\r\n" + more);
+    }
+
+    std::unique_ptr<Application> application()
+    {
+        return std::make_unique<Application>(ApplicationOptions{
+            .appFolder = folder.path(),
+            .arguments = arguments,
+            .dialogs = dialogs,
+            .launcher = launcher,
+            .clock = clock,
+            .downloader = downloader,
+            .keyboard = keyboard,
+            .screen = screen,
+            .system = system,
+            .welcomeIntervalMs = welcomeIntervalMs,
+        });
+    }
+
+    /// Copies what is installed beside the program into the folder.
+    void installData(const QString &name)
+    {
+        const QString source = QStringLiteral(ZEPH_SOURCE_DIR "/data/") + name;
+        QFile file(source);
+        ASSERT_TRUE(file.open(QIODevice::ReadOnly)) << source.toStdString();
+        folder.write(name, file.readAll());
+    }
+
+    QStringList boxTitles() const
+    {
+        QStringList titles;
+        for (const Box &box : dialogs.boxes()) {
+            titles.append(box.title);
+        }
+        return titles;
+    }
+};
+
+} // namespace zeph::test

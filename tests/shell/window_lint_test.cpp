@@ -1,0 +1,245 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#include "editor/editor.h"
+#include "shell/frmabout.h"
+#include "shell/frmtip.h"
+#include "shell/helpwindow.h"
+#include "shell/informationwindow.h"
+#include "shell/mum.h"
+#include "shell/welcome.h"
+#include "tests/shell/shell_world.h"
+
+#include <QAbstractButton>
+#include <QAbstractItemView>
+#include <QAction>
+#include <QApplication>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMap>
+#include <QMenu>
+#include <QMenuBar>
+#include <QStackedWidget>
+#include <QTabWidget>
+#include <QTest>
+#include <QTextEdit>
+
+#include <functional>
+
+using namespace zeph;
+
+namespace {
+
+bool isOfTheToolkit(const QWidget &control)
+{
+    return control.objectName().startsWith(u"qt_");
+}
+
+bool isOperated(const QWidget &control)
+{
+    return qobject_cast<const QAbstractButton *>(&control)
+        || qobject_cast<const QLineEdit *>(&control) || qobject_cast<const QComboBox *>(&control)
+        || qobject_cast<const QTextEdit *>(&control)
+        || qobject_cast<const QAbstractItemView *>(&control);
+}
+
+/// What a control with an own mnemonic says.
+QString captionOf(const QWidget &control)
+{
+    if (const auto *button = qobject_cast<const QAbstractButton *>(&control)) {
+        return button->text();
+    }
+    const auto *label = qobject_cast<const QLabel *>(&control);
+    return label && label->buddy() ? label->text() : QString();
+}
+
+/// The page of a stack that a control stands on, or the window: mnemonics must be unique there.
+const QWidget *pageOf(const QWidget &control)
+{
+    const QWidget *page = control.parentWidget();
+    while (!page->isWindow() && !qobject_cast<const QStackedWidget *>(page->parentWidget())) {
+        page = page->parentWidget();
+    }
+    return page;
+}
+
+using MakeWindow = std::function<std::unique_ptr<QWidget>(test::ShellWorld &)>;
+
+struct LintCase {
+    const char *name;
+    MakeWindow make;
+};
+
+std::ostream &operator<<(std::ostream &out, const LintCase &lint)
+{
+    return out << lint.name;
+}
+
+std::unique_ptr<QWidget> makeMum(test::ShellWorld &world)
+{
+    auto mum = std::make_unique<Mum>(world.context());
+    mum->attachEditor(new Editor(world.context(), mum.get()));
+    return mum;
+}
+
+const LintCase cases[] = {
+    { "frmTip",
+      [](auto &w) {
+          return std::make_unique<frmTip>(w.paths, w.settings);
+      } },
+    { "frmAbout",
+      [](auto &w) {
+          return std::make_unique<frmAbout>(w.paths);
+      } },
+    { "HelpWindow",
+      [](auto &w) {
+          return std::make_unique<HelpWindow>(w.paths, w.dialogs, w.launcher);
+      } },
+    { "InformationWindow",
+      [](auto &w) {
+          return std::make_unique<InformationWindow>(w.dialogs);
+      } },
+    { "Welcome",
+      [](auto &w) {
+          return std::make_unique<Welcome>(w.paths, w.dialogs, 100000);
+      } },
+    { "Mum", makeMum },
+};
+
+class WindowLint : public test::ShellWorld, public testing::WithParamInterface<LintCase>
+{
+public:
+    void SetUp() override
+    {
+        for (const auto *picture : { u"Zeph.bmp", u"Welcome.bmp" }) {
+            installData(QString::fromUtf16(picture));
+        }
+        window = GetParam().make(*this);
+    }
+    void TearDown() override
+    {
+        window.reset();
+        ShellWorld::TearDown();
+    }
+    QList<QWidget *> controls() const
+    {
+        QList<QWidget *> found;
+        for (QWidget *control : window->findChildren<QWidget *>()) {
+            if (!isOfTheToolkit(*control) && !qobject_cast<QMenu *>(control)) {
+                found.append(control);
+            }
+        }
+        return found;
+    }
+
+    /// Among neighbours, nothing that the Tab key reaches later stands wholly above what it left.
+    void checkTabKey() const
+    {
+        const QWidget *last = nullptr;
+        for (const QWidget *next = window->nextInFocusChain(); next != window.get();
+             next = next->nextInFocusChain()) {
+            if (!isOperated(*next) || !(next->focusPolicy() & Qt::TabFocus) || !next->isVisible()) {
+                continue;
+            }
+            if (last && last->parentWidget() == next->parentWidget()) {
+                EXPECT_GE(next->geometry().bottom(), last->geometry().top())
+                    << last->objectName().toStdString() << " before "
+                    << next->objectName().toStdString();
+            }
+            last = next;
+        }
+    }
+
+    std::unique_ptr<QWidget> window;
+};
+
+} // namespace
+
+TEST_P(WindowLint, IsCalledByItsName)
+{
+    EXPECT_EQ(window->objectName().toStdString(), GetParam().name);
+    EXPECT_FALSE(window->windowTitle().isEmpty());
+}
+
+TEST_P(WindowLint, EveryControlThatIsOperatedHasAName)
+{
+    QSet<QString> names;
+    for (const QWidget *control : controls()) {
+        if (!isOperated(*control) || isOfTheToolkit(*control->parentWidget())
+            || qobject_cast<const QLineEdit *>(control->parentWidget())) {
+            continue;
+        }
+        EXPECT_FALSE(control->objectName().isEmpty()) << control->metaObject()->className();
+        EXPECT_FALSE(names.contains(control->objectName())) << control->objectName().toStdString();
+        names.insert(control->objectName());
+    }
+}
+
+TEST_P(WindowLint, NoMnemonicStandsTwiceOnAPage)
+{
+    QMap<std::pair<const QWidget *, QString>, QString> seen;
+    for (const QWidget *control : controls()) {
+        const QString caption = captionOf(*control);
+        const QString key = QKeySequence::mnemonic(caption).toString();
+        if (key.isEmpty()) {
+            continue;
+        }
+        const std::pair place(pageOf(*control), key);
+        EXPECT_FALSE(seen.contains(place))
+            << caption.toStdString() << " and " << seen.value(place).toStdString();
+        seen.insert(place, caption);
+    }
+}
+
+TEST_P(WindowLint, PicturesAndFieldsWithoutACaptionHaveAnAccessibleName)
+{
+    QSet<const QWidget *> captioned;
+    for (const QWidget *control : controls()) {
+        if (const auto *label = qobject_cast<const QLabel *>(control); label && label->buddy()) {
+            captioned.insert(label->buddy());
+        }
+    }
+    for (const QWidget *control : controls()) {
+        const auto *label = qobject_cast<const QLabel *>(control);
+        const bool isPicture = label && !label->pixmap().isNull();
+        const auto *button = qobject_cast<const QAbstractButton *>(control);
+        const bool needsName = isPicture || (button && button->text().isEmpty())
+            || qobject_cast<const QLineEdit *>(control);
+        if (!needsName || captioned.contains(control) || isOfTheToolkit(*control->parentWidget())
+            || qobject_cast<const QLineEdit *>(control->parentWidget())) {
+            continue;
+        }
+        EXPECT_FALSE(control->accessibleName().isEmpty()) << control->objectName().toStdString();
+    }
+}
+
+TEST_P(WindowLint, TheFirstTabIsInFront)
+{
+    for (const auto *tabs : window->findChildren<QTabWidget *>()) {
+        EXPECT_EQ(tabs->currentIndex(), 0) << tabs->objectName().toStdString();
+    }
+}
+
+TEST_P(WindowLint, EscapeClosesADialogAndNothingElse)
+{
+    window->show();
+    QTest::keyClick(window.get(), Qt::Key_Escape);
+    EXPECT_EQ(window->isVisible(), qobject_cast<QMainWindow *>(window.get()) != nullptr);
+}
+
+TEST_P(WindowLint, TheTabKeyGoesDownEachPage)
+{
+    window->show();
+    checkTabKey();
+    for (QStackedWidget *stack : window->findChildren<QStackedWidget *>()) {
+        for (int i = 1; i < stack->count(); ++i) {
+            stack->setCurrentIndex(i);
+            QCoreApplication::processEvents();
+            checkTabKey();
+        }
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Shell, WindowLint, testing::ValuesIn(cases),
+                         [](const auto &instance) { return std::string(instance.param.name); });
