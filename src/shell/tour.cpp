@@ -6,6 +6,7 @@
 #include "editor/editor.h"
 #include "editor/editor_actions.h"
 #include "editor/editor_view.h"
+#include "editor/file_opening.h"
 #include "platform/core/file_io.h"
 #include "shell/application.h"
 #include "shell/mum.h"
@@ -24,6 +25,7 @@ namespace {
 
 constexpr int pauseMs = 400;
 constexpr int welcomePauseMs = 100;
+constexpr int slowGrabMs = 3000;
 
 /// A dark desktop's palette, for systems that have none to offer.
 QPalette darkPalette()
@@ -120,7 +122,19 @@ void Tour::addStops(Application &application)
               application.editor().actions().trigger(u"mnuViewTileVertically");
               application.editor().view().select(DocumentKind::Macro);
           } },
-        { u"compile"_s, press(u"mnuAppsCompile"_s) },
+        { u"compile"_s,
+          [&application] {
+              application.editor().view().select(DocumentKind::Joystick);
+              application.editor().actions().trigger(u"mnuAppsCompile");
+          } },
+        { u"slow-compile"_s,
+          [this] {
+              compileSlowly();
+          } },
+        { u"compile-error"_s,
+          [this] {
+              compileWithError();
+          } },
         { u"tip"_s, press(u"mnuHelpTip"_s) },
         { u"about"_s, press(u"mnuHelpAbout_2"_s) },
         { u"help"_s, press(u"mnuHelpContents"_s) },
@@ -146,6 +160,25 @@ void Tour::walk()
     // A stop may wait in an event loop of its own; the next one comes only after it.
     m_stops[m_next++].goThere();
     m_timer.start();
+}
+
+void Tour::compileSlowly()
+{
+    // The stand-in compiler takes its time on demand, so that the status window comes up.
+    qputenv("ZEPH_STANDIN_DELAY_MS", "3500");
+    QTimer::singleShot(slowGrabMs, this, [this] { grabAll(u"slow-compile-waiting"_s); });
+    m_application->editor().actions().trigger(u"mnuAppsCompile");
+    qunsetenv("ZEPH_STANDIN_DELAY_MS");
+}
+
+void Tour::compileWithError()
+{
+    // A file of the tour's own: nobody's file is changed for a picture.
+    const QString path = m_application->paths().tempFolder() + u"Tour.tmj"_s;
+    (void)writeFileAtomically(path, "Rem A button that no Cougar has\r\nBTN S9 a\r\n");
+    Editor &editor = m_application->editor();
+    editor.opening().OpenFavouriteFile(path);
+    editor.actions().trigger(u"mnuAppsCompile");
 }
 
 void Tour::answerWelcome()
