@@ -76,7 +76,7 @@ Expected<Sources, FileError> readSources(const QString &joystickPath, bool sameN
     Sources sources;
     sources.pair = language::parsePair(*joystick, {});
     const auto reference = language::macroReference(sources.pair.joystick);
-    if (reference) {
+    if (reference && !reference->name.isEmpty()) {
         sources.macroPath = findMacroFile(joystickPath, reference->name);
         if (sources.macroPath.isEmpty())
             sources.missing = reference;

@@ -29,8 +29,9 @@ struct Sources {
     std::optional<language::MacroReference> missing;
 };
 
-/// Reads the joystick file and its macro file. Without a USE MDEF statement the macro file of the
-/// same name is taken, if sameName says so. Fails when the joystick file cannot be read.
+/// Reads the joystick file and its macro file. Without a USE MDEF statement, or with one that names
+/// nothing, the macro file of the same name is taken, if sameName says so. Fails when
+/// the joystick file cannot be read.
 Expected<Sources, FileError> readSources(const QString &joystickPath, bool sameName);
 
 } // namespace zeph::standin

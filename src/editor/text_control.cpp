@@ -95,6 +95,19 @@ int TextControl::caretLine() const
     return textCursor().blockNumber() + 1;
 }
 
+void TextControl::keyPressEvent(QKeyEvent *event)
+{
+    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (enter && event->modifiers().testFlag(Qt::ShiftModifier)) {
+        // With Shift the toolkit makes a line within a paragraph; a file knows only whole lines.
+        QKeyEvent plain(event->type(), event->key(), Qt::NoModifier, event->text());
+        QPlainTextEdit::keyPressEvent(&plain);
+        event->accept();
+        return;
+    }
+    QPlainTextEdit::keyPressEvent(event);
+}
+
 bool TextControl::canInsertFromMimeData(const QMimeData *source) const
 {
     return source->hasText() && !source->hasUrls();

@@ -37,6 +37,7 @@ public:
     int caretLine() const;
 
 protected:
+    void keyPressEvent(QKeyEvent *event) override;
     bool canInsertFromMimeData(const QMimeData *source) const override;
     void insertFromMimeData(const QMimeData *source) override;
 

@@ -18,8 +18,8 @@ enum class BoxButton { Ok, Cancel, Yes, No };
 
 /// A message box. Escape and the close button answer Cancel, else No, else the only button.
 struct Box {
-    QString title;
-    QString text;
+    QString title = {};
+    QString text = {};
     BoxIcon icon = BoxIcon::None;
     QList<BoxButton> buttons = { BoxButton::Ok };
     BoxButton defaultButton = BoxButton::Ok;
@@ -27,11 +27,11 @@ struct Box {
 
 /// An open or save dialog. The filter has the form "Caption|*.a;*.b|Caption|*.c".
 struct FileRequest {
-    QString title;
-    QString filter;
-    QString defaultExtension; ///< without the dot; added to a name that has none
-    QString folder;
-    QString name;
+    QString title = {};
+    QString filter = {};
+    QString defaultExtension = {}; ///< without the dot; added to a name that has none
+    QString folder = {};
+    QString name = {};
 };
 
 class Dialogs

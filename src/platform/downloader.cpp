@@ -29,6 +29,11 @@ QNetworkRequest requestFor(const QUrl &url)
     return request;
 }
 
+QString tooLarge()
+{
+    return u"The answer is too large"_s;
+}
+
 } // namespace
 
 Expected<QByteArray, QString> HttpDownloader::fetch(const QString &address, int timeoutMs)
@@ -54,7 +59,7 @@ Expected<QByteArray, QString> HttpDownloader::fetch(const QString &address, int 
     QObject::connect(reply.get(), &QNetworkReply::downloadProgress, &loop,
                      [&giveUp](qint64 received, qint64) {
                          if (received > maxBytes) {
-                             giveUp(u"The answer is too large"_s);
+                             giveUp(tooLarge());
                          }
                      });
     QObject::connect(reply.get(), &QNetworkReply::finished, &loop, &QEventLoop::quit);
@@ -65,7 +70,11 @@ Expected<QByteArray, QString> HttpDownloader::fetch(const QString &address, int 
     if (reply->error() != QNetworkReply::NoError) {
         return Unexpected<QString>(gaveUp.isEmpty() ? reply->errorString() : gaveUp);
     }
-    return reply->readAll();
+    QByteArray body = reply->readAll();
+    if (body.size() > maxBytes) {
+        return Unexpected<QString>(tooLarge());
+    }
+    return body;
 }
 
 } // namespace zeph

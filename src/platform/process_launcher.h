@@ -20,9 +20,9 @@ enum class WindowStyle {
 /// A program to start: its path, the rest of the command line as one string (with the quotes that
 /// the called program expects), and its working folder.
 struct Launch {
-    QString program;
-    QString arguments;
-    QString folder;
+    QString program = {};
+    QString arguments = {};
+    QString folder = {};
     WindowStyle style = WindowStyle::NormalFocus;
 };
 

@@ -14,9 +14,17 @@
 #include <QMessageBox>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace zeph {
 
 namespace {
+
+// Width of a list, in pixels: as wide as its longest line, within reason. The margin is for the
+// frame and a scroll bar.
+constexpr int listMargin = 30;
+constexpr int listLeast = 300;
+constexpr int listMost = 700;
 
 QMessageBox::StandardButton standardButton(BoxButton button)
 {
@@ -214,6 +222,7 @@ std::optional<qsizetype> QtDialogs::chooseFromList(const QString &title, const Q
     list->setAccessibleName(title);
     list->addItems(lines);
     list->setCurrentRow(0);
+    list->setMinimumWidth(std::clamp(list->sizeHintForColumn(0) + listMargin, listLeast, listMost));
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, &dialog);
     buttons->button(QDialogButtonBox::Ok)->setEnabled(!lines.isEmpty());
     auto *layout = new QVBoxLayout(&dialog);

@@ -68,11 +68,12 @@ void RichTextBox::scrollTo(int position)
 {
     QTextCursor cursor(document());
     cursor.setPosition(std::clamp(position, 0, document()->characterCount() - 1));
-    // The toolkit lays out in steps, and tells the scroll bar its range only from the event loop.
+    // The toolkit lays out in steps, and tells the scroll bar its true range only from the event
+    // loop.
     const int height = int(std::ceil(document()->size().height()));
     QScrollBar *const bar = verticalScrollBar();
-    bar->setMaximum(std::max(bar->maximum(), height - viewport()->height()));
-    bar->setValue(bar->value() + cursorRect(cursor).top());
+    bar->setRange(0, std::max(0, height - viewport()->height()));
+    bar->setValue(bar->value() + cursorRect(cursor).top() - int(document()->documentMargin()));
 }
 
 int RichTextBox::find(QStringView word, int from, int options)

@@ -16,27 +16,12 @@ namespace {
 constexpr double twipsPerPixel = 15;
 constexpr double pointsPerPixel = 0.75;
 
-/// What the toolkit's document takes for a border of blocks or frames.
-bool isBorder(QChar c)
-{
-    return c == QChar::ParagraphSeparator || c == QChar::LineSeparator || c == QChar(0xFDD0)
-        || c == QChar(0xFDD1);
-}
-
-/// The text with the value's line ends, of a text with the toolkit's.
-QString withLineEnds(QString text)
-{
-    QChar *const end = text.data() + text.size();
-    std::replace_if(text.data(), end, isBorder, QChar(u'\n'));
-    return text;
-}
-
 /// A text that the toolkit cannot take for more blocks than its '\n' make. The characters replaced
 /// are none of any text file's; each stays one character, so that the runs fit.
 QString insertable(const QString &text)
 {
     const auto isStray = [](QChar c) {
-        return c == u'\r' || isBorder(c);
+        return c == u'\r' || isBlockBorder(c);
     };
     if (std::none_of(text.begin(), text.end(), isStray)) {
         return text;
@@ -62,118 +47,6 @@ public:
 private:
     QHash<CharFormat, QTextCharFormat> m_formats;
 };
-
-/// Collects runs from formats by the toolkit's numbers of them, each looked at once.
-class RunCollector
-{
-public:
-    RunCollector(qsizetype from, qsizetype to) : m_from(from), m_to(to) { }
-
-    template <class Format> void add(int index, qsizetype start, qsizetype length, Format format)
-    {
-        const qsizetype size = std::min(start + length, m_to) - std::max(start, m_from);
-        if (size <= 0) {
-            return;
-        }
-        if (index != m_lastIndex || m_runs.empty()) {
-            m_lastIndex = index;
-            auto known = m_formats.constFind(index);
-            if (known == m_formats.cend()) {
-                known = m_formats.insert(index, fromTextFormat(format()));
-            }
-            if (m_runs.empty() || m_runs.back().format != known.value()) {
-                m_runs.push_back({ 0, known.value() });
-            }
-        }
-        m_runs.back().length += size;
-    }
-    std::vector<CharRun> take() { return std::move(m_runs); }
-
-private:
-    qsizetype m_from;
-    qsizetype m_to;
-    int m_lastIndex = -1;
-    QHash<int, CharFormat> m_formats;
-    std::vector<CharRun> m_runs;
-};
-
-qsizetype lengthOf(const QTextDocument &document)
-{
-    // Behind the last paragraph the toolkit counts a separator that is no character of the text.
-    return document.characterCount() - 1;
-}
-
-std::vector<CharRun> characterRuns(const QTextDocument &document, qsizetype from, qsizetype to)
-{
-    RunCollector runs(from, to);
-    QTextBlock block = document.findBlock(int(from));
-    while (block.isValid() && block.position() < to) {
-        for (auto it = block.begin(); !it.atEnd(); ++it) {
-            const QTextFragment fragment = it.fragment();
-            runs.add(fragment.charFormatIndex(), fragment.position(), fragment.length(),
-                     [&] { return fragment.charFormat(); });
-        }
-        // A line end has the format that the block behind it starts with.
-        const QTextBlock next = block.next();
-        if (next.isValid()) {
-            runs.add(next.charFormatIndex(), next.position() - 1, 1,
-                     [&] { return next.charFormat(); });
-        }
-        block = next;
-    }
-    return runs.take();
-}
-
-ParagraphFormat paragraphFormatOf(const QTextBlock &block)
-{
-    const QTextBlockFormat format = block.blockFormat();
-    ParagraphFormat result;
-    result.leftIndentTwips = qRound(format.leftMargin() * twipsPerPixel);
-    if (format.alignment().testFlag(Qt::AlignHCenter)) {
-        result.alignment = ParagraphAlignment::Centre;
-    } else if (format.alignment().testFlag(Qt::AlignRight)) {
-        result.alignment = ParagraphAlignment::Right;
-    }
-    result.bullet = block.textList() != nullptr;
-    return result;
-}
-
-/// Paragraphs of the stretch that text is; a soft line end within a block makes one more.
-std::vector<ParagraphRun> paragraphRuns(const QTextDocument &document, QStringView text, int from)
-{
-    std::vector<ParagraphRun> runs;
-    const qsizetype total = text.count(u'\n') + 1;
-    const QTextBlock last = document.findBlock(from + int(text.size()));
-    const QTextBlock first = document.findBlock(from);
-    const bool hasSoftEnds = last.blockNumber() - first.blockNumber() + 1 != total;
-    for (QTextBlock block = first; block.isValid(); block = block.next()) {
-        qsizetype count = 1;
-        if (hasSoftEnds) {
-            const qsizetype start = std::max(block.position() - from, 0);
-            const qsizetype end = block.position() + block.length() - 1 - from;
-            count += text.mid(start, end - start).left(text.size() - start).count(u'\n');
-        }
-        const ParagraphFormat format = paragraphFormatOf(block);
-        if (!runs.empty() && runs.back().format == format) {
-            runs.back().count += count;
-        } else {
-            runs.push_back({ count, format });
-        }
-        if (block == last) {
-            break;
-        }
-    }
-    return runs;
-}
-
-RichText stretchOf(const QTextDocument &document, QString text, qsizetype from)
-{
-    RichText result;
-    result.text = std::move(text);
-    result.characters = characterRuns(document, from, from + result.text.size());
-    result.paragraphs = paragraphRuns(document, result.text, int(from));
-    return result;
-}
 
 QTextBlockFormat toBlockFormat(const ParagraphFormat &paragraph)
 {
@@ -317,27 +190,6 @@ CharFormat fromTextFormat(const QTextCharFormat &format)
     return result;
 }
 
-QString plainTextOf(const QTextDocument &document)
-{
-    return withLineEnds(document.toRawText());
-}
-
-RichText richTextOf(const QTextDocument &document)
-{
-    return stretchOf(document, plainTextOf(document), 0);
-}
-
-RichText richTextOf(const QTextDocument &document, qsizetype from, qsizetype length)
-{
-    const qsizetype size = lengthOf(document);
-    from = std::clamp(from, qsizetype(0), size);
-    const qsizetype to = from + std::clamp(length, qsizetype(0), size - from);
-    QTextCursor cursor(const_cast<QTextDocument *>(&document));
-    cursor.setPosition(int(from));
-    cursor.setPosition(int(to), QTextCursor::KeepAnchor);
-    return stretchOf(document, withLineEnds(cursor.selectedText()), from);
-}
-
 void setRichText(QTextDocument &document, const RichText &text)
 {
     const bool hadUndo = document.isUndoRedoEnabled();
@@ -382,48 +234,7 @@ void insertRichText(QTextCursor &cursor, const RichText &text)
 
 void applyCharacterRuns(QTextDocument &document, const std::vector<CharRun> &runs)
 {
-    RunPainter(document, characterRuns(document, 0, lengthOf(document))).paint(runs);
-}
-
-int lineOfCharacter(const QTextDocument &document, int position)
-{
-    return document.findBlock(std::clamp(position, 0, int(lengthOf(document)))).blockNumber();
-}
-
-int startOfLine(const QTextDocument &document, int line)
-{
-    const QTextBlock block = document.findBlockByNumber(line);
-    return block.isValid() ? block.position() : -1;
-}
-
-int lineCount(const QTextDocument &document)
-{
-    return document.blockCount();
-}
-
-int spanEnd(const QTextDocument &document, int from, QStringView set, bool forward, bool negate)
-{
-    const auto isWanted = [&](int position) {
-        QChar c = document.characterAt(position);
-        if (isBorder(c)) {
-            c = u'\n';
-        }
-        // Sets name a line end as the files have it, CR and LF.
-        const bool isInSet = set.contains(c) || (c == u'\n' && set.contains(u'\r'));
-        return isInSet != negate;
-    };
-    const int size = int(lengthOf(document));
-    int position = std::clamp(from, 0, size);
-    if (forward) {
-        while (position < size && isWanted(position)) {
-            ++position;
-        }
-    } else {
-        while (position > 0 && isWanted(position - 1)) {
-            --position;
-        }
-    }
-    return position;
+    RunPainter(document, characterRunsOf(document)).paint(runs);
 }
 
 } // namespace zeph

@@ -17,6 +17,10 @@ namespace zeph {
 QTextCharFormat toTextFormat(const CharFormat &format);
 CharFormat fromTextFormat(const QTextCharFormat &format);
 
+/// Whether the toolkit's document takes a character for a border of blocks or frames: all of them
+/// are line ends here.
+bool isBlockBorder(QChar character);
+
 /// The document's characters, line ends as '\n'. Unlike the toolkit's own reading it keeps
 /// no-break spaces, which are letters of a file's code page like any other.
 QString plainTextOf(const QTextDocument &document);
@@ -24,6 +28,9 @@ QString plainTextOf(const QTextDocument &document);
 /// The document's text and looks as a value, whole or a stretch of it.
 RichText richTextOf(const QTextDocument &document);
 RichText richTextOf(const QTextDocument &document, qsizetype from, qsizetype length);
+
+/// The looks of the whole document's characters alone.
+std::vector<CharRun> characterRunsOf(const QTextDocument &document);
 
 /// Replaces everything in one edit block, without an entry in the toolkit's own undo, which is
 /// emptied; the document counts as not modified.

@@ -139,6 +139,15 @@ TEST_F(EditorWindowTest, AProtectedMacroFileRefusesTypingAndPasting)
     EXPECT_EQ(editor->macroText(), u"abc");
 }
 
+TEST_F(EditorWindowTest, ShiftEnterMakesALineOfTheFile)
+{
+    QTest::keyClicks(joystick(), u"a"_s);
+    QTest::keyClick(joystick(), Qt::Key_Return, Qt::ShiftModifier);
+    QTest::keyClicks(joystick(), u"b"_s);
+    EXPECT_EQ(editor->joystickText(), u"a\nb");
+    EXPECT_EQ(status.lineText(), u"Line no: 2");
+}
+
 TEST_F(EditorWindowTest, CtrlSSavesAndIsSwallowed)
 {
     editor->opening().mnuFileJoystickLoad_Click(file(u"a.tmj"_s, "BTN"));

@@ -49,8 +49,10 @@ QString Program::setting(const QString &section, const QString &key, const QStri
 void Program::settle(const QByteArray &more)
 {
     write(u"Zeph.ini"_s,
-          "[FileLocations]\r\nFirstTimeUsed=3\r\nShowTips=0\r\n[Unsupported]\r\nTurnOffFontCheck=1\r\n"
-          "CheckForCompletionTime=20\r\nRegainControlAfter=900\r\n[Miscellaneous]\r\nMumWindowstate=0\r\n"
+          "[FileLocations]\r\nFirstTimeUsed=3\r\nShowTips=0\r\n[Unsupported]\r\nTurnOffFontCheck="
+          "1\r\n"
+          "CheckForCompletionTime=20\r\nRegainControlAfter=900\r\n[Miscellaneous]"
+          "\r\nMumWindowstate=0\r\n"
               + more);
 }
 

@@ -154,7 +154,7 @@ void BodyParser::readWord(qsizetype from, qsizetype to)
         kind = ItemKind::Key;
     else if (flagNumber(word))
         kind = ItemKind::Flag;
-    else if (info.roles != NoRole)
+    else if (info.roles != NoRole || isDirectXButton(word))
         kind = ItemKind::Word;
     add(kind, from, to);
 }

@@ -82,4 +82,9 @@ std::optional<int> flagNumber(QStringView word)
     return wholeNumber(word.sliced(1));
 }
 
+bool isDirectXButton(QStringView word)
+{
+    return word.size() > 2 && sameWord(word.first(2), u"DX") && wholeNumber(word.sliced(2));
+}
+
 } // namespace zeph::language

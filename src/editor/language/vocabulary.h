@@ -41,4 +41,7 @@ WordInfo wordInfo(QStringView word, size_t hash);
 /// The number of a logical flag: "X" and digits only, whatever the number. No value otherwise.
 std::optional<int> flagNumber(QStringView word);
 
+/// "DX" and a number, whatever the number.
+bool isDirectXButton(QStringView word);
+
 } // namespace zeph::language

@@ -68,7 +68,6 @@ std::optional<std::errc> flushToDisk([[maybe_unused]] int handle)
 Expected<QByteArray, FileError> readWholeFile(const QString &path)
 {
     if (path.isEmpty()) {
-        // What existingPath() gives for a file that is not there.
         return failure(path, std::errc::no_such_file_or_directory);
     }
     const QFileInfo info(path);
@@ -91,6 +90,9 @@ Expected<QByteArray, FileError> readWholeFile(const QString &path)
 
 Expected<void, FileError> writeFileAtomically(const QString &path, const QByteArray &bytes)
 {
+    if (path.isEmpty()) {
+        return failure(path, std::errc::no_such_file_or_directory);
+    }
     const QString target = behindLinks(path);
     if (target.isEmpty()) {
         return failure(path, std::errc::too_many_symbolic_link_levels);

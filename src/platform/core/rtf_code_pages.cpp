@@ -186,7 +186,8 @@ const HighHalf *highHalfOf(int codePage)
 QString decoded(QByteArrayView bytes, int codePage)
 {
     const auto *page = std::ranges::find(namedPages, codePage, &NamedPage::number);
-    if (page == std::end(namedPages)) {
+    const bool isAscii = std::ranges::all_of(bytes, [](char c) { return uchar(c) < 0x80; });
+    if (isAscii || page == std::end(namedPages)) {
         return fromText1252(bytes);
     }
     QStringDecoder decoder(page->name, QStringConverter::Flag::Stateless);

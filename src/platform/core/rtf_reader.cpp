@@ -27,7 +27,28 @@ bool isBullet(QStringView marker)
         && std::ranges::none_of(marker, [](QChar c) { return c.isDigit(); });
 }
 
+RtfError error(const char *reason, const Lexer &lexer)
+{
+    return { QString::fromLatin1(reason), lexer.offset() };
+}
+
+void addParagraph(std::vector<ParagraphRun> &runs, const ParagraphFormat &format)
+{
+    if (!runs.empty() && runs.back().format == format) {
+        ++runs.back().count;
+    } else {
+        runs.push_back({ 1, format });
+    }
+}
+
 } // namespace
+
+/// A paragraph's place is where its first line begins: a hanging first line moves it to the left.
+ParagraphFormat GroupState::paragraphFormat() const
+{
+    const int left = leftTwips + std::min(firstTwips, 0);
+    return { std::clamp(left, -maxIndentTwips, maxIndentTwips), alignment, bullet };
+}
 
 Reader::Reader(QByteArrayView bytes) : m_lexer(bytes)
 {
@@ -52,46 +73,50 @@ Expected<RichText, RtfError> Reader::read()
         if (token.kind != Kind::Text && token.kind != Kind::Byte && !m_bytes.isEmpty()) {
             flushBytes();
         }
-        const bool starred = std::exchange(m_starred, false);
         switch (token.kind) {
         case Kind::End:
-            return Unexpected<RtfError>(error("The file ends within a group."));
+            return Unexpected<RtfError>(error("The file ends within a group.", m_lexer));
         case Kind::Open:
             if (!openGroup()) {
-                return Unexpected<RtfError>(error("The file's groups are nested too deeply."));
+                return Unexpected<RtfError>(
+                    error("The file's groups are nested too deeply.", m_lexer));
             }
             break;
         case Kind::Close:
-            if (m_groups.size() == 1) {
-                RichText result = finish();
-                if (m_lexer.next().kind == Kind::Close) {
-                    return Unexpected<RtfError>(error("A group is closed that was not opened."));
-                }
-                return result;
+            if (m_groups.size() > 1) {
+                closeGroup();
+                break;
             }
-            closeGroup();
-            break;
-        case Kind::Word:
-            m_starred = starred;
-            handleWord(token);
-            m_starred = false;
-            break;
-        case Kind::Symbol:
-            handleSymbol(token.text.front());
-            break;
-        case Kind::Byte:
-            putByte(token.value);
-            break;
-        case Kind::Text:
-            putText(token.text);
+            if (m_lexer.next().kind == Kind::Close) {
+                return Unexpected<RtfError>(
+                    error("A group is closed that was not opened.", m_lexer));
+            }
+            return finish();
+        default:
+            handle(token);
             break;
         }
     }
 }
 
-RtfError Reader::error(const char *reason) const
+void Reader::handle(const Token &token)
 {
-    return { QString::fromLatin1(reason), m_lexer.offset() };
+    switch (token.kind) {
+    case Token::Kind::Word:
+        handleWord(token);
+        break;
+    case Token::Kind::Symbol:
+        handleSymbol(token.text.front());
+        m_starred = token.text.front() == '*';
+        return;
+    case Token::Kind::Byte:
+        putByte(token.value);
+        break;
+    default:
+        putText(token.text);
+        break;
+    }
+    m_starred = false;
 }
 
 /// Takes what stands in for a \uN off the input; gives whether that was all of the token.
@@ -121,14 +146,16 @@ bool Reader::openGroup()
         return false;
     }
     m_groups.push_back(GroupState(state()));
+    m_starred = false;
     return true;
 }
 
 void Reader::closeGroup()
 {
+    m_starred = false;
     const Destination closed = state().destination;
     if (closed == Destination::Fonts) {
-        commitFont();
+        m_fonts.commit();
     }
     m_groups.pop_back();
     if (closed == state().destination) {
@@ -160,9 +187,6 @@ void Reader::handleWord(const Token &token)
 void Reader::handleSymbol(char symbol)
 {
     switch (symbol) {
-    case '*':
-        m_starred = true;
-        break;
     case '\r':
     case '\n':
         endParagraph(1, {});
@@ -191,7 +215,7 @@ QString *Reader::target(qsizetype added)
 {
     switch (state().destination) {
     case Destination::Fonts:
-        return &m_font.family;
+        return &m_fonts.current().family;
     case Destination::Marker:
         return &m_marker;
     case Destination::Document:
@@ -204,7 +228,7 @@ QString *Reader::target(qsizetype added)
         m_result.characters.push_back({ 0, formatOf(m_runLook) });
     }
     m_result.characters.back().length += added;
-    m_textParagraph = paragraphFormat();
+    m_textParagraph = state().paragraphFormat();
     m_paragraphHasText = true;
     m_endsWithParagraph = false;
     return &m_result.text;
@@ -220,7 +244,7 @@ void Reader::putText(std::string_view bytes)
         putInFont(bytes);
         return;
     case Destination::Colours:
-        putInColours(bytes);
+        m_colours.put(bytes);
         return;
     default:
         break;
@@ -289,19 +313,10 @@ void Reader::endParagraph(int isHard, const Token &)
         return;
     }
     target(1)->append(u'\n');
-    addParagraph(m_textParagraph);
+    addParagraph(m_result.paragraphs, m_textParagraph);
     m_paragraphHasText = false;
     m_paragraphHasBullet = false;
     m_endsWithParagraph = isHard != 0;
-}
-
-void Reader::addParagraph(const ParagraphFormat &format)
-{
-    if (!m_result.paragraphs.empty() && m_result.paragraphs.back().format == format) {
-        ++m_result.paragraphs.back().count;
-    } else {
-        m_result.paragraphs.push_back({ 1, format });
-    }
 }
 
 const HighHalf *Reader::highHalf()
@@ -327,35 +342,9 @@ void Reader::putInFont(std::string_view bytes)
     for (const char c : bytes) {
         if (c == ';') {
             flushBytes();
-            commitFont();
+            m_fonts.commit();
         } else {
             putByte(uchar(c));
-        }
-    }
-}
-
-void Reader::startFont(int number)
-{
-    commitFont();
-    m_fontNumber = number;
-    m_font = {};
-    state().codePage = m_documentCodePage;
-}
-
-void Reader::commitFont()
-{
-    m_font.family = m_font.family.trimmed();
-    if (!m_font.family.isEmpty()) {
-        m_fonts.insert(m_fontNumber, m_font);
-    }
-    m_font.family.clear();
-}
-
-void Reader::putInColours(std::string_view bytes)
-{
-    for (const char c : bytes) {
-        if (c == ';') {
-            m_colours.push_back(std::exchange(m_colour, std::nullopt));
         }
     }
 }
@@ -375,26 +364,13 @@ void Reader::finishMarker()
 CharFormat Reader::formatOf(const Look &look) const
 {
     CharFormat format;
-    const auto font = m_fonts.constFind(look.font < 0 ? m_defaultFont : look.font);
-    if (font != m_fonts.cend()) {
-        format.family = font->family;
-    }
+    format.family = m_fonts.find(look.font < 0 ? m_defaultFont : look.font).family;
     format.pointSize = look.halfPoints / 2.0;
     format.bold = look.bold;
     format.italic = look.italic;
     format.underline = look.underline;
-    if (look.colour >= 0 && size_t(look.colour) < m_colours.size()) {
-        format.colour = m_colours[size_t(look.colour)];
-    }
+    format.colour = m_colours.find(look.colour);
     return format;
-}
-
-/// A paragraph's place is where its first line begins: a hanging first line moves it to the left.
-ParagraphFormat Reader::paragraphFormat() const
-{
-    const GroupState &group = m_groups.back();
-    const int left = group.leftTwips + std::min(group.firstTwips, 0);
-    return { std::clamp(left, -maxIndentTwips, maxIndentTwips), group.alignment, group.bullet };
 }
 
 RichText Reader::finish()
@@ -405,7 +381,8 @@ RichText Reader::finish()
         m_result.text.chop(1);
         --m_result.characters.back().length;
     } else {
-        addParagraph(m_paragraphHasText ? m_textParagraph : paragraphFormat());
+        addParagraph(m_result.paragraphs,
+                     m_paragraphHasText ? m_textParagraph : state().paragraphFormat());
     }
     m_result.text.squeeze();
     m_result.normalise();

@@ -8,13 +8,15 @@
 #include "platform/core/rtf.h"
 #include "platform/core/rtf_code_pages.h"
 #include "platform/core/rtf_lexer.h"
-
-#include <QHash>
+#include "platform/core/rtf_tables.h"
 
 namespace zeph::rtf {
 
 /// What the text of a group is for.
 enum class Destination : quint8 { Document, Fonts, Colours, Marker, BulletForm, Skipped };
+
+/// The styles that words switch.
+enum class Style { Bold, Italic, Underline, NoUnderline };
 
 /// How characters look, by the numbers that the file gives; -1 where it has said nothing.
 struct Look {
@@ -38,11 +40,8 @@ struct GroupState {
     ParagraphAlignment alignment = ParagraphAlignment::Left;
     bool bullet = false;
     Destination destination = Destination::Document;
-};
 
-struct Font {
-    QString family;
-    int codePage = 0; ///< 0: the document's own
+    ParagraphFormat paragraphFormat() const;
 };
 
 /// Reads one input, once. Groups are kept on a stack of its own, so that their depth is bounded by
@@ -58,16 +57,13 @@ public:
     using Handler = void (Reader::*)(int argument, const Token &token);
     void putCharacter(int character, const Token &);
     void endParagraph(int isHard, const Token &);
-    void setBold(int, const Token &token);
-    void setItalic(int, const Token &token);
-    void setUnderline(int on, const Token &token);
+    void setStyle(int style, const Token &token);
     void setFont(int, const Token &token);
     void setFontSize(int, const Token &token);
     void setColour(int, const Token &token);
     void resetLook(int, const Token &);
     void resetParagraph(int, const Token &);
-    void setLeftIndent(int, const Token &token);
-    void setFirstIndent(int, const Token &token);
+    void setIndent(int isFirst, const Token &token);
     void setAlignment(int alignment, const Token &);
     void putUnicode(int, const Token &token);
     void setUnicodeFallback(int, const Token &token);
@@ -84,29 +80,24 @@ private:
 
     bool openGroup();
     void closeGroup();
+    void handle(const Token &token);
     void handleWord(const Token &token);
     void handleSymbol(char symbol);
     bool stepOverFallback(Token &token);
-    RtfError error(const char *reason) const;
     RichText finish();
 
     void putText(std::string_view bytes);
     void putByte(int byte);
     void putCharacters(QStringView characters);
     void putInFont(std::string_view bytes);
-    void putInColours(std::string_view bytes);
     void flushBytes();
     const HighHalf *highHalf();
     /// The text that characters go into now, or null where nobody wants them.
     QString *target(qsizetype added);
 
-    void startFont(int number);
     void useCodePageOf(int font);
-    void commitFont();
     void finishMarker();
     CharFormat formatOf(const Look &look) const;
-    ParagraphFormat paragraphFormat() const;
-    void addParagraph(const ParagraphFormat &format);
 
     Lexer m_lexer;
     std::vector<GroupState> m_groups;
@@ -115,14 +106,11 @@ private:
     int m_toStepOver = 0; ///< characters that stand in for a \uN
     bool m_starred = false; ///< behind \*
 
-    QHash<int, Font> m_fonts;
-    std::vector<std::optional<ColorRef>> m_colours;
+    FontTable m_fonts;
+    ColourTable m_colours;
     int m_documentCodePage = 1252;
     int m_defaultFont = 0;
 
-    int m_fontNumber = 0;
-    Font m_font;
-    std::optional<ColorRef> m_colour;
     QString m_marker;
     bool m_isBulletForm = false;
 

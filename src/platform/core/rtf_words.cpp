@@ -40,7 +40,7 @@ constexpr Word words[] = {
     { "ansi", &Reader::setDocumentCodePage, 1252 },
     { "ansicpg", &Reader::setDocumentCodePage, 0 },
     skipped("atnid"),
-    { "b", &Reader::setBold },
+    { "b", &Reader::setStyle, int(Style::Bold) },
     { "blue", &Reader::setColourPart, 16 },
     character("bullet", 0x2022),
     character("cell", u'\t'),
@@ -55,7 +55,7 @@ constexpr Word words[] = {
     character("enspace", 0x2002),
     { "f", &Reader::setFont },
     { "fcharset", &Reader::setCharset },
-    { "fi", &Reader::setFirstIndent },
+    { "fi", &Reader::setIndent, 1 },
     skipped("filetbl"),
     skipped("fldinst"),
     destination("fonttbl", Destination::Fonts),
@@ -70,10 +70,10 @@ constexpr Word words[] = {
     skipped("headerf"),
     skipped("headerl"),
     skipped("headerr"),
-    { "i", &Reader::setItalic },
+    { "i", &Reader::setStyle, int(Style::Italic) },
     skipped("info"),
     character("ldblquote", 0x201C),
-    { "li", &Reader::setLeftIndent },
+    { "li", &Reader::setIndent, 0 },
     { "line", &Reader::endParagraph, 0 },
     destination("listtext", Destination::Marker),
     character("lquote", 0x2018),
@@ -115,16 +115,16 @@ constexpr Word words[] = {
     skipped("txe"),
     { "u", &Reader::putUnicode },
     { "uc", &Reader::setUnicodeFallback },
-    { "ul", &Reader::setUnderline, 1 },
-    { "uld", &Reader::setUnderline, 1 },
-    { "uldash", &Reader::setUnderline, 1 },
-    { "uldashd", &Reader::setUnderline, 1 },
-    { "uldashdd", &Reader::setUnderline, 1 },
-    { "uldb", &Reader::setUnderline, 1 },
-    { "ulnone", &Reader::setUnderline, 0 },
-    { "ulth", &Reader::setUnderline, 1 },
-    { "ulw", &Reader::setUnderline, 1 },
-    { "ulwave", &Reader::setUnderline, 1 },
+    { "ul", &Reader::setStyle, int(Style::Underline) },
+    { "uld", &Reader::setStyle, int(Style::Underline) },
+    { "uldash", &Reader::setStyle, int(Style::Underline) },
+    { "uldashd", &Reader::setStyle, int(Style::Underline) },
+    { "uldashdd", &Reader::setStyle, int(Style::Underline) },
+    { "uldb", &Reader::setStyle, int(Style::Underline) },
+    { "ulnone", &Reader::setStyle, int(Style::NoUnderline) },
+    { "ulth", &Reader::setStyle, int(Style::Underline) },
+    { "ulw", &Reader::setStyle, int(Style::Underline) },
+    { "ulwave", &Reader::setStyle, int(Style::Underline) },
     skipped("xe"),
     character("zwj", 0x200D),
     character("zwnj", 0x200C),
@@ -140,25 +140,30 @@ const Word *findWord(std::string_view name)
     return word != std::end(words) && word->name == name ? word : nullptr;
 }
 
-void Reader::setBold(int, const Token &token)
+void Reader::setStyle(int style, const Token &token)
 {
-    state().look.bold = isOn(token);
-}
-
-void Reader::setItalic(int, const Token &token)
-{
-    state().look.italic = isOn(token);
-}
-
-void Reader::setUnderline(int on, const Token &token)
-{
-    state().look.underline = on != 0 && isOn(token);
+    Look &look = state().look;
+    switch (Style(style)) {
+    case Style::Bold:
+        look.bold = isOn(token);
+        break;
+    case Style::Italic:
+        look.italic = isOn(token);
+        break;
+    case Style::Underline:
+        look.underline = isOn(token);
+        break;
+    case Style::NoUnderline:
+        look.underline = false;
+        break;
+    }
 }
 
 void Reader::setFont(int, const Token &token)
 {
     if (state().destination == Destination::Fonts) {
-        startFont(token.value);
+        m_fonts.start(token.value);
+        state().codePage = m_documentCodePage;
         return;
     }
     state().look.font = token.value;
@@ -183,8 +188,7 @@ void Reader::resetLook(int, const Token &)
 
 void Reader::useCodePageOf(int font)
 {
-    const auto found = m_fonts.constFind(font);
-    const int codePage = found == m_fonts.cend() ? 0 : found->codePage;
+    const int codePage = m_fonts.find(font).codePage;
     state().codePage = codePage == 0 ? m_documentCodePage : codePage;
 }
 
@@ -197,14 +201,10 @@ void Reader::resetParagraph(int, const Token &)
     state().bullet = m_paragraphHasBullet;
 }
 
-void Reader::setLeftIndent(int, const Token &token)
+void Reader::setIndent(int isFirst, const Token &token)
 {
-    state().leftTwips = std::clamp(token.value, -maxIndentTwips, maxIndentTwips);
-}
-
-void Reader::setFirstIndent(int, const Token &token)
-{
-    state().firstTwips = std::clamp(token.value, -maxIndentTwips, maxIndentTwips);
+    (isFirst ? state().firstTwips : state().leftTwips) =
+        std::clamp(token.value, -maxIndentTwips, maxIndentTwips);
 }
 
 void Reader::setAlignment(int alignment, const Token &)
@@ -231,15 +231,16 @@ void Reader::setDefaultFont(int, const Token &token)
 void Reader::setCharset(int, const Token &token)
 {
     if (state().destination == Destination::Fonts) {
-        m_font.codePage = codePageOfCharset(token.value);
-        state().codePage = m_font.codePage == 0 ? m_documentCodePage : m_font.codePage;
+        const int codePage = codePageOfCharset(token.value);
+        m_fonts.current().codePage = codePage;
+        state().codePage = codePage == 0 ? m_documentCodePage : codePage;
     }
 }
 
 void Reader::setFontCodePage(int, const Token &token)
 {
     if (state().destination == Destination::Fonts && token.value > 0) {
-        m_font.codePage = token.value;
+        m_fonts.current().codePage = token.value;
         state().codePage = token.value;
     }
 }
@@ -247,8 +248,7 @@ void Reader::setFontCodePage(int, const Token &token)
 void Reader::setColourPart(int shift, const Token &token)
 {
     if (state().destination == Destination::Colours) {
-        const ColorRef part = ColorRef(std::clamp(token.value, 0, 255)) << shift;
-        m_colour = (m_colour.value_or(0) & ~(ColorRef(0xFF) << shift)) | part;
+        m_colours.setPart(shift, token.value);
     }
 }
 

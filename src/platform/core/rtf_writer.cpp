@@ -6,10 +6,10 @@
 
 #include <QHash>
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
-#include <cstring>
 #include <string_view>
 
 namespace zeph {
@@ -25,6 +25,7 @@ constexpr int maxHalfPoints = 3276;
 class Sink
 {
 public:
+    Sink() : m_bytes(1024, Qt::Uninitialized), m_at(m_bytes.data()) { }
     void ensure(qsizetype more)
     {
         if (m_bytes.size() - m_size < more) {
@@ -35,7 +36,7 @@ public:
     void put(char c) { m_at[m_size++] = c; }
     void put(std::string_view text)
     {
-        std::memcpy(m_at + m_size, text.data(), text.size());
+        std::copy(text.begin(), text.end(), m_at + m_size);
         m_size += qsizetype(text.size());
     }
     void put(std::string_view word, int number)
@@ -61,7 +62,7 @@ public:
 
 private:
     QByteArray m_bytes;
-    char *m_at = nullptr;
+    char *m_at;
     qsizetype m_size = 0;
 };
 

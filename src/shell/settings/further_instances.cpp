@@ -3,8 +3,8 @@
 
 #include "shell/settings/further_instances.h"
 
-#include "platform/core/file_io.h"
 #include "platform/core/paths.h"
+#include "platform/core/profile_file.h"
 
 #include <QDir>
 #include <QFile>
@@ -49,7 +49,7 @@ bool makeCopy(const QString &path, const QByteArray &store)
 
 Instance MoreThan1open(const QString &appFolder)
 {
-    const auto store = readWholeFile(existingPath(storePath(appFolder)));
+    const auto store = ProfileFile(storePath(appFolder)).bytes();
     for (int number = firstNumber; number < neverUsed; ++number) {
         const QString path = copyPath(appFolder, number);
         if (!QFile::exists(path) && makeCopy(path, store.value_or(QByteArray()))) {

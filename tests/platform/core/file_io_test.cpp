@@ -101,6 +101,12 @@ TEST(ReadWholeFile, AFolderIsNoFile)
     EXPECT_FALSE(read.error().reason.isEmpty());
 }
 
+TEST(ReadWholeFile, NoPathIsNoFile)
+{
+    EXPECT_FALSE(readWholeFile(QString()));
+    EXPECT_FALSE(writeFileAtomically(QString(), "new"));
+}
+
 TEST(WriteFileAtomically, MakesAndReplacesWithoutLeavingAnythingElse)
 {
     const TempFolder folder;

@@ -1,16 +1,19 @@
 // SPDX-FileCopyrightText: The Zeph authors
 // SPDX-License-Identifier: MIT
 
-// A plugin that plays the pilot: the toolkit loads it into the untouched program, where it follows a
-// script of clicks and keys by object names and writes down what it saw. One step a line:
-//   box TITLE            waits for a message box of that title and notes "title|text|buttons|default"
-//   press NAME           clicks the button of that text or object name, in the topmost window
-//   trigger ACTION       chooses the menu entry of that object name
+// A plugin that plays the pilot: the toolkit loads it into the untouched program, where it follows
+// a script of clicks and keys by object names and writes down what it saw. One step a line:
+//   box TITLE            waits for a message box of that title and notes
+//   "title|text|buttons|default" press NAME           clicks the button of that text or object
+//   name, in the topmost window trigger ACTION       chooses the menu entry of that object name
 //   type NAME TEXT       types into the control of that object name; \n is Enter
 //   window TITLE         waits for a visible window whose title begins so and notes its whole title
 //   gone TITLE           waits until no such window is visible
 //   text NAME TEXT       waits until the control's text holds TEXT, and notes the text
 //   note NAME            notes the control's text
+//   selection NAME TEXT  waits until the text selected in the control holds TEXT
+//   modal                waits for any message box, and notes it as box does
+//   maybe-ok TITLE       answers a box whose title begins so, if one comes with the first windows
 //   file PATH            answers the open file dialog
 //   grab NAME FILE       grabs the window that holds the control to a picture
 //   minimise / close     the main window
@@ -52,6 +55,15 @@ QString textOf(const QWidget *widget)
     return widget->property("text").toString();
 }
 
+QString selectionOf(const QWidget *widget)
+{
+    if (const auto *edit = qobject_cast<const QPlainTextEdit *>(widget)) {
+        return edit->textCursor().selectedText();
+    }
+    const auto *edit = qobject_cast<const QTextEdit *>(widget);
+    return edit ? edit->textCursor().selectedText() : QString();
+}
+
 QWidget *widgetNamed(const QString &name)
 {
     QWidget *hidden = nullptr;
@@ -83,7 +95,8 @@ public:
     {
         QFile script(qEnvironmentVariable("ZEPH_SCRIPT"));
         if (script.open(QIODevice::ReadOnly)) {
-            m_steps = QString::fromUtf8(script.readAll()).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+            m_steps =
+                QString::fromUtf8(script.readAll()).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
         }
         m_log.setFileName(qEnvironmentVariable("ZEPH_SCRIPT_LOG"));
         m_log.open(QIODevice::WriteOnly);
@@ -155,6 +168,16 @@ private:
             }
             return seen;
         }
+        if (verb == QLatin1String("selection")) {
+            return selectionOf(widgetNamed(first)).contains(second);
+        }
+        if (verb == QLatin1String("modal")) {
+            const QWidget *modal = QApplication::activeModalWidget();
+            return modal && box(modal->windowTitle());
+        }
+        if (verb == QLatin1String("maybe-ok")) {
+            return maybeOk(rest);
+        }
         if (verb == QLatin1String("file")) {
             return file(rest);
         }
@@ -188,8 +211,7 @@ private:
     }
 
     /// Acts from the event loop, so that a modal loop begun by the act does not hold this timer.
-    template <class Target, class Act>
-    static void later(Target *target, Act act)
+    template <class Target, class Act> static void later(Target *target, Act act)
     {
         QTimer::singleShot(0, target, [target, act] { act(target); });
     }
@@ -206,8 +228,19 @@ private:
         }
         note(QLatin1String("box ") + title + QLatin1Char('|') + box->text() + QLatin1Char('|')
              + buttons.join(QLatin1Char(',')) + QLatin1Char('|')
-             + (box->defaultButton() ? box->defaultButton()->text().remove(QLatin1Char('&')) : QString()));
+             + (box->defaultButton() ? box->defaultButton()->text().remove(QLatin1Char('&'))
+                                     : QString()));
         return true;
+    }
+
+    static bool maybeOk(const QString &title)
+    {
+        QWidget *modal = QApplication::activeModalWidget();
+        if (modal && modal->windowTitle().startsWith(title)) {
+            later(modal, [](QWidget *w) { w->close(); });
+            return true;
+        }
+        return modal || widgetNamed(QLatin1String("JoystickText"));
     }
 
     bool press(const QString &name)
@@ -268,7 +301,8 @@ private:
             return false;
         }
         note(QLatin1String("file ") + dialog->windowTitle());
-        // In one go, since the dialog writes its own choice into the field whenever it reads the folder.
+        // In one go, since the dialog writes its own choice into the field whenever it reads the
+        // folder.
         later(static_cast<QDialog *>(dialog), [path](QDialog *d) {
             d->findChild<QLineEdit *>(QLatin1String("fileNameEdit"))->setText(path);
             d->accept();
@@ -291,7 +325,8 @@ class DriverPlugin : public QGenericPlugin
 public:
     QObject *create(const QString &, const QString &) override
     {
-        // Made from the event loop: the plugin is asked for before the application object is complete.
+        // Made from the event loop: the plugin is asked for before the application object is
+        // complete.
         auto *holder = new QObject;
         QTimer::singleShot(0, holder, [holder] { (new Driver)->setParent(holder); });
         return holder;

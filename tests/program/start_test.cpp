@@ -1,0 +1,160 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#include "platform/core/base.h"
+#include "tests/program/notes.h"
+#include "tests/program/program.h"
+
+#include <gmock/gmock.h>
+
+#include <QFile>
+
+using namespace zeph;
+using namespace zeph::test;
+using testing::Contains;
+using testing::HasSubstr;
+using testing::Not;
+
+namespace {
+
+const QStringList firstRun = { u"window Welcome to Zeph"_s, u"type txtFirstName Ann"_s,
+                               u"type txtCallsign Gust"_s,  u"type txtLastName Lee"_s,
+                               u"press cmdNames"_s,         u"press Option_Experience_3"_s,
+                               u"press cmdFinish"_s,        u"gone Welcome"_s };
+
+} // namespace
+
+TEST(ProgramStart, AnAbsentStoreIsAFirstRunAndThenHoldsEveryGlobalKey)
+{
+    Program program;
+    const QStringList notes = program.run(QStringList{ u"maybe-ok WARNING"_s } + firstRun
+                                          + QStringList{ u"gone Tip of the Day"_s, u"close"_s });
+    EXPECT_THAT(lines(notes), Not(Contains(HasSubstr("Tip of the Day"))));
+    EXPECT_EQ(program.setting(u"FileLocations"_s, u"FirstTimeUsed"_s), u"5");
+    EXPECT_EQ(program.setting(u"Miscellaneous"_s, u"ValidUser"_s), u"Ann \"Gust\" Lee");
+    EXPECT_EQ(program.setting(u"Miscellaneous"_s, u"PilotCallsign"_s), u"Gust");
+    EXPECT_EQ(program.setting(u"Miscellaneous"_s, u"UndoMax"_s), u"20");
+    EXPECT_EQ(program.setting(u"Colours"_s, u"BackgroundColour"_s), u"14285565");
+    EXPECT_EQ(program.setting(u"Colours"_s, u"TextFontName"_s), u"Arial");
+    EXPECT_EQ(program.setting(u"Handles"_s, u"NumHandles"_s), u"1");
+    EXPECT_EQ(program.setting(u"FileLocations"_s, u"ShowTips"_s), u"(absent)");
+    EXPECT_EQ(program.setting(u"FileLocations"_s, u"AlwaysShowCompileDownload"_s), u"(absent)");
+    EXPECT_TRUE(program.setting(u"Files"_s, u"Files"_s, u"HOTAS.ini"_s)
+                    .startsWith(program.file(u"Files"_s)));
+    for (const QString &folder : { u"Rtf"_s, u"Files"_s, u"Layouts"_s, u"Temp"_s, u"Backup"_s }) {
+        EXPECT_TRUE(program.exists(folder)) << folder.toStdString();
+    }
+}
+
+TEST(ProgramStart, TheRunAfterTheFirstShowsATip)
+{
+    Program program;
+    program.run(QStringList{ u"maybe-ok WARNING"_s } + firstRun + QStringList{ u"close"_s });
+    const QStringList notes =
+        program.run({ u"maybe-ok WARNING"_s, u"window Tip of the Day"_s, u"press OK"_s,
+                      u"gone Tip"_s, u"text Panel_1 Ready! Welcome to Zeph, Gust!"_s, u"close"_s });
+    EXPECT_THAT(lines(notes), Contains("window Tip of the Day"));
+    EXPECT_EQ(program.setting(u"FileLocations"_s, u"ShowTips"_s), u"1");
+}
+
+TEST(ProgramStart, ACommandLineThatNamesNoFileIsDropped)
+{
+    Program program;
+    program.settle();
+    program.run({ u"text Panel_1 Ready! Welcome to Zeph, buddy!"_s, u"close"_s },
+                { program.file(u"Files/nothing.tmj"_s) });
+}
+
+TEST(ProgramStart, AFurtherInstanceWorksOnItsOwnStoreAndTakesItAway)
+{
+    Program program;
+    program.settle();
+    const auto first = program.start(
+        { u"text Panel_1 Ready"_s, u"window Zeph"_s, u"pause 3000"_s, u"close"_s }, u"first.log"_s);
+    while (!program.exists(u"first.log"_s) || program.noted(u"first.log"_s).size() < 2) {
+        ASSERT_FALSE(first->waitForFinished(20));
+    }
+    const auto second = program.start({ u"window Zeph - secondary window"_s, u"pause 300"_s,
+                                        u"type JoystickText x"_s, u"close"_s,
+                                        u"box  Save Untitled.tmj now?"_s, u"press No"_s },
+                                      u"second.log"_s);
+    while (!program.exists(u"second.log"_s) || program.noted(u"second.log"_s).isEmpty()) {
+        ASSERT_FALSE(second->waitForFinished(20));
+    }
+    EXPECT_TRUE(program.exists(u"Zeph.2"_s));
+    ASSERT_TRUE(second->waitForFinished());
+    EXPECT_THAT(lines(program.noted(u"second.log"_s)), Contains("window Zeph - secondary window"));
+    EXPECT_FALSE(program.exists(u"Zeph.2"_s));
+    ASSERT_TRUE(first->waitForFinished());
+    EXPECT_EQ(first->exitCode(), 0);
+}
+
+TEST(ProgramStart, ACrashedFurtherInstancesStoreIsClearedByTheNextFirstInstance)
+{
+    Program program;
+    program.settle();
+    const auto first =
+        program.start({ u"window Zeph"_s, u"pause 2000"_s, u"kill"_s }, u"first.log"_s);
+    while (!program.exists(u"first.log"_s) || program.noted(u"first.log"_s).isEmpty()) {
+        ASSERT_FALSE(first->waitForFinished(20));
+    }
+    const auto second =
+        program.start({ u"window Zeph - secondary window"_s, u"kill"_s }, u"second.log"_s);
+    ASSERT_TRUE(second->waitForFinished());
+    EXPECT_TRUE(program.exists(u"Zeph.2"_s));
+    ASSERT_TRUE(first->waitForFinished());
+    const QStringList notes = program.run({ u"window Zeph"_s, u"close"_s });
+    EXPECT_THAT(lines(notes), Contains("window Zeph"));
+    EXPECT_FALSE(program.exists(u"Zeph.2"_s));
+}
+
+TEST(ProgramStart, With997FurtherInstancesTheNextStartEndsWithAWord)
+{
+    Program program;
+    program.settle();
+    const auto first =
+        program.start({ u"window Zeph"_s, u"pause 2000"_s, u"close"_s }, u"first.log"_s);
+    while (!program.exists(u"first.log"_s) || program.noted(u"first.log"_s).isEmpty()) {
+        ASSERT_FALSE(first->waitForFinished(20));
+    }
+    for (int number = 2; number <= 998; ++number) {
+        program.write(u"Zeph."_s + QString::number(number), "");
+    }
+    const auto next = program.start({ u"box Exiting now ..."_s, u"press OK"_s }, u"next.log"_s);
+    ASSERT_TRUE(next->waitForFinished());
+    EXPECT_THAT(lines(program.noted(u"next.log"_s)),
+                Contains(HasSubstr("Sorry, you've got too many windows open. Far too many !!!")));
+    ASSERT_TRUE(first->waitForFinished());
+}
+
+TEST(ProgramStart, ClosingWhileMinimisedLeavesTheLastPosition)
+{
+    Program program;
+    program.settle("MumTopAtStartup=300\r\nMumLeftAtStartup=450\r\nMumWidthAtStartup=9000\r\n"
+                   "MumHeightAtStartup=6000\r\n");
+    program.run({ u"window Zeph"_s, u"minimise"_s, u"pause 200"_s, u"close"_s });
+    EXPECT_EQ(program.setting(u"Miscellaneous"_s, u"MumTopAtStartup"_s), u"300");
+    EXPECT_EQ(program.setting(u"Miscellaneous"_s, u"MumWidthAtStartup"_s), u"9000");
+}
+
+TEST(ProgramStart, AFileIsOpenedFromTheCommandLineWithItsPartner)
+{
+    Program program;
+    program.settle();
+    program.write(u"Files/a.tmj"_s, "USE MDEF b\r\n");
+    program.write(u"Files/b.tmm"_s, "Gun = g\r\n");
+    const QStringList notes =
+        program.run({ u"text MacroText Gun"_s, u"text JoystickText USE"_s, u"close"_s },
+                    { program.file(u"Files/a.tmj"_s) });
+    EXPECT_THAT(lines(notes), Contains("MacroText=Gun = g\\n"));
+}
+
+TEST(ProgramStart, ABadNumberInTheStoreIsToldOnceAndTheDefaultHolds)
+{
+    Program program;
+    program.settle("UndoMax=99999\r\n");
+    const QStringList notes =
+        program.run({ u"modal"_s, u"press OK"_s, u"text Panel_1 Ready"_s, u"close"_s });
+    EXPECT_THAT(lines(notes), Contains(HasSubstr("UndoMax")));
+    EXPECT_EQ(program.setting(u"Miscellaneous"_s, u"UndoMax"_s), u"20");
+}
