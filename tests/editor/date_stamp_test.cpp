@@ -50,5 +50,6 @@ TEST(DateStamp, ATextWithoutTheWordsStaysAsItIs)
 
 TEST(DateStamp, AnEmptyStampGetsItsBlank)
 {
-    EXPECT_EQ(stamped(u"Last modified:\nx"_s, morning), u"Last modified: 05 March 2024, 9:07 am\nx");
+    EXPECT_EQ(stamped(u"Last modified:\nx"_s, morning),
+              u"Last modified: 05 March 2024, 9:07 am\nx");
 }

@@ -15,7 +15,10 @@ TEST(DocumentText, EachKindOfLineEndEndsALine)
 
 TEST(DocumentText, CtrlZIsACharacter)
 {
-    EXPECT_EQ(documentText("a\x1A" "b").value(), u"a\u001Ab");
+    EXPECT_EQ(documentText("a\x1A"
+                           "b")
+                  .value(),
+              u"a\u001Ab");
 }
 
 TEST(DocumentText, ANulIsAnErrorWithItsPlace)

@@ -38,7 +38,7 @@ protected:
         paths.appFolder = folder.path();
         paths.hotasFolder = folder.path() + u'/';
         paths.iniPath = folder.file(u"Zeph.ini"_s);
-        for (const QString &name : {u"Rtf"_s, u"Files"_s, u"Layouts"_s, u"Temp"_s}) {
+        for (const QString &name : { u"Rtf"_s, u"Files"_s, u"Layouts"_s, u"Temp"_s }) {
             QDir(folder.path()).mkdir(name);
         }
         settings.TextFontName = u"Arial"_s;
@@ -50,13 +50,14 @@ protected:
     }
     ~EditorTest() override
     {
-        EXPECT_TRUE(dialogs.unexpected().isEmpty()) << dialogs.unexpected().join(u'\n').toStdString();
+        EXPECT_TRUE(dialogs.unexpected().isEmpty())
+            << dialogs.unexpected().join(u'\n').toStdString();
     }
 
     void makeEditor()
     {
         editor = std::make_unique<Editor>(
-            Context{paths, settings, status, dialogs, launcher, clock, keyboard});
+            Context{ paths, settings, status, dialogs, launcher, clock, keyboard });
     }
 
     /// Writes a file into the Files folder and gives its path.

@@ -13,7 +13,6 @@ using zeph::test::EditorTest;
 
 namespace {
 
-
 class FileOpeningTest : public EditorTest
 {
 protected:

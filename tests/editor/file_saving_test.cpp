@@ -142,7 +142,7 @@ TEST_F(FileSavingTest, AReadOnlyFileGoesToSaveAs)
     EXPECT_EQ(dialogs.boxes().last().text,
               path
                   + u" is read only. You'll need to save it elsewhere using the Save As routine. "
-                  "I'll run this for you now."_s);
+                    "I'll run this for you now."_s);
     EXPECT_EQ(folder.read(u"Files/a.tmj"_s), "BTN S1 a");
 }
 
@@ -156,8 +156,7 @@ TEST_F(FileSavingTest, SaveAsOverAReadOnlyFileSavesNothing)
     dialogs.answer(u"Can't save Read Only file"_s, BoxButton::Ok);
     saving().mnuFileSaveAs_Click();
     EXPECT_EQ(dialogs.boxes().last().text,
-              path
-                  + u" is read only. Please save the file with a different name or location."_s);
+              path + u" is read only. Please save the file with a different name or location."_s);
     EXPECT_EQ(folder.read(u"Files/old.tmj"_s), "old");
     EXPECT_EQ(editor->joystick().name, u"Untitled.tmj");
 }

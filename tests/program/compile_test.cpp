@@ -150,7 +150,7 @@ TEST(ProgramCompile, TypingGoesOnWhileTheCompilerIsWaitedFor)
     program.settle();
     program.setEnvironment(u"ZEPH_STANDIN_DELAY_MS"_s, u"600"_s);
     program.run({ u"text MacroText ="_s, u"trigger mnuAppsCompile"_s,
-                  u"type JoystickText Rem typed\\n"_s, u"text MacroText Rem typed"_s,
+                  u"type JoystickText Rem typed\\n"_s, u"text JoystickText Rem typed"_s,
                   u"box File successfully compiled!"_s, u"press OK"_s, u"close"_s,
                   u"box  Save Sample flight.tmj now?"_s, u"press No"_s },
                 { program.file(sample) });

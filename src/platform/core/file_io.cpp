@@ -68,6 +68,7 @@ std::optional<std::errc> flushToDisk([[maybe_unused]] int handle)
 Expected<QByteArray, FileError> readWholeFile(const QString &path)
 {
     if (path.isEmpty()) {
+        // What existingPath() gives for a file that is not there.
         return failure(path, std::errc::no_such_file_or_directory);
     }
     const QFileInfo info(path);
