@@ -37,7 +37,20 @@ QPalette darkPalette()
     palette.setColor(QPalette::Highlight, QColor(52, 120, 190));
     palette.setColor(QPalette::HighlightedText, Qt::white);
     palette.setColor(QPalette::Link, QColor(110, 175, 240));
+    for (const auto role : { QPalette::WindowText, QPalette::Text, QPalette::ButtonText }) {
+        palette.setColor(QPalette::Disabled, role, QColor(130, 133, 137));
+    }
     return palette;
+}
+
+/// Compiles a file of its own with a mistake in it, for the windows that explain mistakes.
+void compileMistake(Application &application)
+{
+    const QString path = application.paths().tempFolder() + u"Mistake.tmj"_s;
+    if (writeFileAtomically(path, "Rem A button that no Cougar has\r\nBTN S99 a\r\n")) {
+        application.editor().opening().OpenFavouriteFile(path);
+        application.editor().actions().trigger(u"mnuAppsCompile");
+    }
 }
 
 } // namespace
@@ -132,8 +145,8 @@ void Tour::addStops(Application &application)
               compileSlowly();
           } },
         { u"compile-error"_s,
-          [this] {
-              compileWithError();
+          [&application] {
+              compileMistake(application);
           } },
         { u"tip"_s, press(u"mnuHelpTip"_s) },
         { u"about"_s, press(u"mnuHelpAbout_2"_s) },
@@ -169,16 +182,6 @@ void Tour::compileSlowly()
     QTimer::singleShot(slowGrabMs, this, [this] { grabAll(u"slow-compile-waiting"_s); });
     m_application->editor().actions().trigger(u"mnuAppsCompile");
     qunsetenv("ZEPH_STANDIN_DELAY_MS");
-}
-
-void Tour::compileWithError()
-{
-    // A file of the tour's own: nobody's file is changed for a picture.
-    const QString path = m_application->paths().tempFolder() + u"Tour.tmj"_s;
-    (void)writeFileAtomically(path, "Rem A button that no Cougar has\r\nBTN S9 a\r\n");
-    Editor &editor = m_application->editor();
-    editor.opening().OpenFavouriteFile(path);
-    editor.actions().trigger(u"mnuAppsCompile");
 }
 
 void Tour::answerWelcome()

@@ -59,7 +59,6 @@ private:
     void addStops(Application &application);
     void walk();
     void compileSlowly();
-    void compileWithError();
     void answerWelcome();
     void grab(QWidget &window, const QString &name) const;
     void grabAll(const QString &name) const;

@@ -7,6 +7,7 @@
 #include "editor/editor_actions.h"
 #include "editor/editor_view.h"
 #include "editor/text_control.h"
+#include "platform/core/units.h"
 #include "shell/frmabout.h"
 #include "shell/main_status_bar.h"
 #include "shell/tool_windows.h"
@@ -93,6 +94,16 @@ TEST_F(MainWindow, HasTwoMovableBandsWithSeparatorsInTheGaps)
     }
     // Behind 4, 8, 11, 15, 17, 22, 25, 29 and 32.
     EXPECT_EQ(separators, 9);
+}
+
+TEST_F(MainWindow, ItsBandsFitIntoTheDefaultWindow)
+{
+    const int defaultWidth = pixelsFromTwips(13320);
+    const auto width = [&](const QString &name) {
+        return mum->findChild<QToolBar *>(name)->sizeHint().width();
+    };
+    EXPECT_LE(width(u"Toolbar1"_s), defaultWidth);
+    EXPECT_LE(width(u"Toolbar2"_s) + width(u"Shortcuts"_s), defaultWidth);
 }
 
 TEST_F(MainWindow, ButtonsCanBeUsedWhenTheirEntryCan)
