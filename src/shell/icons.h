@@ -4,8 +4,7 @@
 #pragma once
 
 #include "platform/core/paths.h"
-
-#include <QIcon>
+#include "platform/icon_file.h"
 
 namespace zeph {
 

@@ -9,8 +9,10 @@ namespace zeph {
 
 bool isReadOnlyFile(const QString &path)
 {
+    constexpr QFile::Permissions anyWrite =
+        QFile::WriteOwner | QFile::WriteGroup | QFile::WriteOther;
     const QFileInfo info(path);
-    return info.exists() && (!info.permission(QFile::WriteOwner) || !info.isWritable());
+    return info.exists() && (!(info.permissions() & anyWrite) || !info.isWritable());
 }
 
 } // namespace zeph

@@ -3,6 +3,8 @@
 
 #include "platform/core/file_io.h"
 
+#include "platform/core/file_attributes.h"
+
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
@@ -40,15 +42,6 @@ QString behindLinks(QString path)
         path = info.symLinkTarget();
     }
     return {};
-}
-
-/// Whether nobody at all may write it. The system lets an administrator do so nevertheless, but a
-/// file that was protected on purpose stays as it is.
-bool isProtected(const QFileInfo &info)
-{
-    constexpr QFile::Permissions anyWrite =
-        QFile::WriteOwner | QFile::WriteGroup | QFile::WriteOther;
-    return info.exists() && !(info.permissions() & anyWrite);
 }
 
 /// Brings the bytes to the disk. The reason when the disk refuses them only now.
@@ -102,7 +95,7 @@ Expected<void, FileError> writeFileAtomically(const QString &path, const QByteAr
     if (info.isDir()) {
         return failure(path, std::errc::is_a_directory);
     }
-    if (isProtected(info)) {
+    if (isReadOnlyFile(info.filePath())) {
         return failure(path, std::errc::permission_denied);
     }
     QSaveFile file(target);
