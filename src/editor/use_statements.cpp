@@ -3,6 +3,8 @@
 
 #include "editor/use_statements.h"
 
+#include <QList>
+
 #include <array>
 
 namespace zeph {

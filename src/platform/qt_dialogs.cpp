@@ -12,6 +12,7 @@
 #include <QFontDialog>
 #include <QListWidget>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QVBoxLayout>
 
 #include <algorithm>

@@ -112,7 +112,7 @@ void Application::placeMum()
     if (m_instance.isFurther()) {
         m_mum->setWindowTitle(u"Zeph - secondary window"_s);
     }
-    tellProblems(m_options.dialogs, GetMumPosition(m_settings, files()));
+    tellOnce(GetMumPosition(m_settings, files()));
     m_mum->setPlace(mumPlace(m_settings));
 }
 
@@ -126,7 +126,11 @@ void Application::makeFolders() const
 
 void Application::readSettings()
 {
-    tellProblems(m_options.dialogs, readGlobalSettings(m_settings, files()));
+    tellOnce(readGlobalSettings(m_settings, files()));
+    // The save below writes these two, long before the Editor reads the colours.
+    tellOnce(::zeph::readSettings(
+        m_settings, files(),
+        { &GlobalSettings::JoystickTextDefaultColour, &GlobalSettings::MacroTextDefaultColour }));
     m_settings.BackUpFolder =
         checkedBackupFolder(m_settings.BackUpFolder, m_paths, m_options.dialogs);
     if (m_settings.ImageFilePath.isEmpty()) {
@@ -144,12 +148,16 @@ void Application::readSettings()
 
 void Application::loadEditor()
 {
-    tellProblems(m_options.dialogs, readColours(m_settings, files()));
+    tellOnce(readColours(m_settings, files()));
     m_editor = new Editor(context(), m_mum.get());
     m_mum->attachEditor(m_editor);
     m_help = new HelpMenu(context(), m_options.downloader, m_mum->toolWindows(), *m_editor);
     new CompileMenu(context(), *m_mum, *m_editor, *m_help);
     new ForeignKeyBSupport(m_options.keyboard, m_settings, m_editor);
+    QObject::connect(&m_mum->toolWindows(), &ToolWindows::loaded, m_mum.get(),
+                     [this](QWidget *window) {
+                         new ForeignKeyBSupport(m_options.keyboard, m_settings, window);
+                     });
     m_editor->actions().connectTo(u"mnuFileExit", [this] { m_mum->close(); });
     m_help->readZephInfo();
     readEditorOptions();
@@ -172,12 +180,23 @@ void Application::loadEditor()
 
 void Application::readEditorOptions()
 {
-    tellProblems(m_options.dialogs,
-                 ::zeph::readSettings(m_settings, files(),
-                                      { &GlobalSettings::RegainControlAfter,
-                                        &GlobalSettings::CheckForCompletionTime,
-                                        &GlobalSettings::OpenSingleFileOnly }));
+    tellOnce(::zeph::readSettings(m_settings, files(),
+                                  { &GlobalSettings::RegainControlAfter,
+                                    &GlobalSettings::CheckForCompletionTime,
+                                    &GlobalSettings::OpenSingleFileOnly }));
     m_editor->applySettings();
+}
+
+void Application::tellOnce(const SettingProblems &problems)
+{
+    SettingProblems fresh;
+    for (const SettingProblem &problem : problems) {
+        if (!m_told.contains(problem)) {
+            fresh.append(problem);
+        }
+    }
+    m_told.append(fresh);
+    tellProblems(m_options.dialogs, fresh);
 }
 
 void Application::hideDirectXTesters()

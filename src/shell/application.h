@@ -70,6 +70,9 @@ private:
     void readSettings();
     void loadEditor();
     void readEditorOptions();
+    /// Some keys are read at several steps of the start; what is wrong with them is told at the
+    /// first.
+    void tellOnce(const SettingProblems &problems);
     void hideDirectXTesters();
     void greet();
     void selectFirstTab();
@@ -82,6 +85,7 @@ private:
     Instance m_instance;
     Paths m_paths;
     GlobalSettings m_settings;
+    SettingProblems m_told;
     StatusLine m_status;
     QString m_commandLineFile;
     std::unique_ptr<Mum> m_mum;

@@ -29,6 +29,8 @@ CompileMenu::CompileMenu(const Context &context, Mum &mum, Editor &editor, HelpM
       m_handshake(context, &mum), m_compile(context, m_handshake, host())
 {
     editor.actions().connectTo(u"mnuAppsCompile", [this] { m_compile.mnuAppsCompile_Click(); });
+    connect(&mum, &Mum::compileWanted, this,
+            guarded(context.dialogs, [this] { m_compile.mnuAppsCompile_Click(); }));
 }
 
 CompileHost CompileMenu::host()

@@ -4,6 +4,7 @@
 #include "shell/first_run.h"
 
 #include "platform/dialogs.h"
+#include "shell/foreign_keyboard.h"
 #include "shell/help_menu.h"
 #include "shell/settings/settings_moments.h"
 #include "shell/settings_files.h"
@@ -58,6 +59,7 @@ void takeWelcomeAnswers(const WelcomeAnswers &answers, GlobalSettings &settings,
 void runFirstRun(const Context &context, HelpMenu &help, int welcomeIntervalMs, QWidget *parent)
 {
     Welcome welcome(context.paths, context.dialogs, welcomeIntervalMs, parent);
+    new ForeignKeyBSupport(context.keyboard, context.settings, &welcome);
     welcome.exec();
     takeWelcomeAnswers(welcome.answers(), context.settings, context.paths);
     writeStore(context);

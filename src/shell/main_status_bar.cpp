@@ -61,6 +61,7 @@ MainStatusBar::MainStatusBar(const Context &context, QWidget *parent)
 {
     setObjectName(u"StatusBar"_s);
     setMouseTracking(true);
+    setContentsMargins(0, 0, textIndent, 0);
     m_message->setObjectName(u"Panel_1"_s);
     m_message->setTextFormat(Qt::PlainText);
     m_message->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);

@@ -91,11 +91,12 @@ void Mum::pressAtEnd(int press)
     if (!m_editor) {
         return;
     }
-    EditorActions &actions = m_editor->actions();
     if (StatusPress(press) == StatusPress::Compile) {
-        actions.trigger(u"mnuAppsCompile");
+        // Not by the menu's entry: the bar's end compiles whatever tab is selected.
+        Q_EMIT compileWanted();
         return;
     }
+    EditorActions &actions = m_editor->actions();
     actions.trigger(m_editor->selected().kind == DocumentKind::Joystick ? u"mnuViewColourJoystick"
                                                                         : u"mnuViewColourMacro");
     actions.trigger(u"mnuFileSave");

@@ -48,6 +48,8 @@ public:
     QMenu *createPopupMenu() override { return nullptr; }
 
 Q_SIGNALS:
+    /// The status bar's end was pressed for a compile.
+    void compileWanted();
     /// The window goes for good; its place can still be asked.
     void unloading();
 

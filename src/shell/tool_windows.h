@@ -32,6 +32,7 @@ public:
         T *made = make(m_owner);
         made->setAttribute(Qt::WA_DeleteOnClose);
         m_windows.insert(keyOf<T>(), made);
+        Q_EMIT loaded(made);
         return made;
     }
     /// Loads it if need be, and brings it to the front.
@@ -65,6 +66,10 @@ public:
     void restoreAll();
     void unloadAll();
     static void raise(QWidget &window);
+
+Q_SIGNALS:
+    /// A window was made; it is not shown yet.
+    void loaded(QWidget *window);
 
 private:
     template <class T> static size_t keyOf() { return std::type_index(typeid(T)).hash_code(); }

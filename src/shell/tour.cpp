@@ -6,6 +6,7 @@
 #include "editor/editor.h"
 #include "editor/editor_actions.h"
 #include "editor/editor_view.h"
+#include "editor/file_opening.h"
 #include "platform/core/file_io.h"
 #include "shell/application.h"
 #include "shell/mum.h"
@@ -24,6 +25,7 @@ namespace {
 
 constexpr int pauseMs = 400;
 constexpr int welcomePauseMs = 100;
+constexpr int slowGrabMs = 3000;
 
 /// A dark desktop's palette, for systems that have none to offer.
 QPalette darkPalette()
@@ -35,7 +37,20 @@ QPalette darkPalette()
     palette.setColor(QPalette::Highlight, QColor(52, 120, 190));
     palette.setColor(QPalette::HighlightedText, Qt::white);
     palette.setColor(QPalette::Link, QColor(110, 175, 240));
+    for (const auto role : { QPalette::WindowText, QPalette::Text, QPalette::ButtonText }) {
+        palette.setColor(QPalette::Disabled, role, QColor(130, 133, 137));
+    }
     return palette;
+}
+
+/// Compiles a file of its own with a mistake in it, for the windows that explain mistakes.
+void compileMistake(Application &application)
+{
+    const QString path = application.paths().tempFolder() + u"Mistake.tmj"_s;
+    if (writeFileAtomically(path, "Rem A button that no Cougar has\r\nBTN S99 a\r\n")) {
+        application.editor().opening().OpenFavouriteFile(path);
+        application.editor().actions().trigger(u"mnuAppsCompile");
+    }
 }
 
 } // namespace
@@ -120,7 +135,19 @@ void Tour::addStops(Application &application)
               application.editor().actions().trigger(u"mnuViewTileVertically");
               application.editor().view().select(DocumentKind::Macro);
           } },
-        { u"compile"_s, press(u"mnuAppsCompile"_s) },
+        { u"compile"_s,
+          [&application] {
+              application.editor().view().select(DocumentKind::Joystick);
+              application.editor().actions().trigger(u"mnuAppsCompile");
+          } },
+        { u"slow-compile"_s,
+          [this] {
+              compileSlowly();
+          } },
+        { u"compile-error"_s,
+          [&application] {
+              compileMistake(application);
+          } },
         { u"tip"_s, press(u"mnuHelpTip"_s) },
         { u"about"_s, press(u"mnuHelpAbout_2"_s) },
         { u"help"_s, press(u"mnuHelpContents"_s) },
@@ -146,6 +173,15 @@ void Tour::walk()
     // A stop may wait in an event loop of its own; the next one comes only after it.
     m_stops[m_next++].goThere();
     m_timer.start();
+}
+
+void Tour::compileSlowly()
+{
+    // The stand-in compiler takes its time on demand, so that the status window comes up.
+    qputenv("ZEPH_STANDIN_DELAY_MS", "3500");
+    QTimer::singleShot(slowGrabMs, this, [this] { grabAll(u"slow-compile-waiting"_s); });
+    m_application->editor().actions().trigger(u"mnuAppsCompile");
+    qunsetenv("ZEPH_STANDIN_DELAY_MS");
 }
 
 void Tour::answerWelcome()

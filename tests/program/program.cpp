@@ -10,6 +10,10 @@
 #include <QDir>
 #include <QDirIterator>
 
+#include <csignal>
+
+#include <sys/resource.h>
+
 namespace zeph::test {
 
 namespace {
@@ -71,6 +75,15 @@ std::unique_ptr<QProcess> Program::start(const QStringList &script, const QStrin
     environment.insert(u"ZEPH_SCRIPT_LOG"_s, file(log));
     process->setProcessEnvironment(environment);
     process->setProcessChannelMode(QProcess::ForwardedChannels);
+    if (m_fileSizeLimit >= 0) {
+        const auto limit = rlim_t(m_fileSizeLimit);
+        process->setChildProcessModifier([limit] {
+            const rlimit both = { limit, limit };
+            ::setrlimit(RLIMIT_FSIZE, &both);
+            // Without this the kernel ends the program instead of telling it.
+            ::signal(SIGXFSZ, SIG_IGN);
+        });
+    }
     process->start(file(u"zeph"_s), arguments);
     return process;
 }

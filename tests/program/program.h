@@ -33,7 +33,8 @@ public:
 
     /// Writes a settings file under which the program starts without first run, tips and checks.
     void settle(const QByteArray &more = {});
-    /// For the next run only.
+    /// The largest file, in bytes, that the program may write from now on.
+    void limitFileSize(qsizetype bytes) { m_fileSizeLimit = bytes; }
     void setEnvironment(const QString &name, const QString &value);
 
     /// Runs a script to the end of the program; gives what the driver noted, a line each. Fails the
@@ -47,6 +48,7 @@ public:
 private:
     TempFolder m_folder;
     QProcessEnvironment m_environment;
+    qsizetype m_fileSizeLimit = -1;
 };
 
 } // namespace zeph::test

@@ -134,7 +134,9 @@ TEST(ProgramStart, ClosingWhileMinimisedLeavesTheLastPosition)
                    "MumHeightAtStartup=6000\r\n");
     program.run({ u"window Zeph"_s, u"minimise"_s, u"pause 200"_s, u"close"_s });
     EXPECT_EQ(program.setting(u"Miscellaneous"_s, u"MumTopAtStartup"_s), u"300");
+    EXPECT_EQ(program.setting(u"Miscellaneous"_s, u"MumLeftAtStartup"_s), u"450");
     EXPECT_EQ(program.setting(u"Miscellaneous"_s, u"MumWidthAtStartup"_s), u"9000");
+    EXPECT_EQ(program.setting(u"Miscellaneous"_s, u"MumHeightAtStartup"_s), u"6000");
 }
 
 TEST(ProgramStart, AFileIsOpenedFromTheCommandLineWithItsPartner)

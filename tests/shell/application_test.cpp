@@ -7,8 +7,10 @@
 #include "editor/editor_actions.h"
 #include "editor/text_control.h"
 #include "shell/frmtip.h"
+#include "shell/help_menu.h"
 #include "shell/helpwindow.h"
 #include "shell/informationwindow.h"
+#include "shell/main_status_bar.h"
 #include "shell/mum.h"
 #include "shell/tool_windows.h"
 #include "shell/welcome.h"
@@ -18,9 +20,13 @@
 #include <QAction>
 #include <QApplication>
 #include <QDir>
+#include <QFocusEvent>
 #include <QLineEdit>
 #include <QStackedWidget>
+#include <QTest>
 #include <QTimer>
+
+#include <functional>
 
 using namespace zeph;
 
@@ -33,6 +39,8 @@ public:
     QString callsign = u"Maverick"_s;
     int experience = 0;
     int welcomes = 0;
+    /// Done on the page of names before they are typed.
+    std::function<void(QLineEdit &)> beforeNames;
 
     Pilot()
     {
@@ -50,7 +58,11 @@ private:
         }
         const auto *pages = welcome->findChild<QStackedWidget *>(u"pages"_s);
         if (pages->currentWidget()->objectName() == u"pageName") {
-            welcome->findChild<QLineEdit *>(u"txtFirstName"_s)->setText(u"Pete"_s);
+            auto *firstName = welcome->findChild<QLineEdit *>(u"txtFirstName"_s);
+            if (beforeNames) {
+                beforeNames(*firstName);
+            }
+            firstName->setText(u"Pete"_s);
             welcome->findChild<QLineEdit *>(u"txtCallsign"_s)->setText(callsign);
             welcome->findChild<QAbstractButton *>(u"cmdNames"_s)->click();
         } else if (pages->currentWidget()->objectName() == u"pageExperience") {
@@ -134,11 +146,94 @@ TEST_F(Start, AnAbsentStoreIsAFirstRunAndHoldsEveryKeyAfterIt)
     pilot.experience = 3;
     ASSERT_TRUE(start());
     EXPECT_EQ(pilot.welcomes, 1);
+    int colours = 0;
+    for (const Setting &setting : settingsTable()) {
+        const bool colour = setting.step == SettingsStep::Colours;
+        colours += colour ? 1 : 0;
+        if (setting.place == SettingsPlace::Store && (setting.saved || colour)) {
+            const QString key = setting.key.toString();
+            EXPECT_NE(stored(setting.section.toString(), key), u"(absent)") << key.toStdString();
+        }
+    }
+    EXPECT_EQ(colours, 16);
     EXPECT_EQ(stored(u"Colours"_s, u"BackgroundColour"_s), u"14285565");
+    EXPECT_EQ(stored(u"Colours"_s, u"MacroListBackground"_s), u"11779289");
+    EXPECT_EQ(stored(u"Handles"_s, u"Default"_s), u"F-16 Block 50.tmh");
+    EXPECT_EQ(stored(u"Handles"_s, u"Handle1"_s), u"F-16 Block 50.tmh");
     EXPECT_EQ(stored(u"Handles"_s, u"NumHandles"_s), u"1");
     EXPECT_EQ(stored(u"Miscellaneous"_s, u"UndoMax"_s), u"20");
     EXPECT_EQ(stored(u"FileLocations"_s, u"ShowTips"_s), u"(absent)")
         << "the global save does not add it";
+}
+
+TEST_F(Start, TheTextColoursOutliveTheSaveAtTheStart)
+{
+    writeStore("[Colours]\r\nJoystickTextDefaultColour=255\r\nMacroTextDefaultColour=32768\r\n");
+    ASSERT_TRUE(start());
+    EXPECT_EQ(stored(u"Colours"_s, u"JoystickTextDefaultColour"_s), u"255");
+    EXPECT_EQ(stored(u"Colours"_s, u"MacroTextDefaultColour"_s), u"32768");
+    EXPECT_EQ(app->settings().JoystickTextDefaultColour, colorRef(255, 0, 0));
+}
+
+TEST_F(Start, AValueThatIsNoNumberIsToldOnceThoughItIsReadAtSeveralSteps)
+{
+    writeStore("[Miscellaneous]\r\nMumTopAtStartup=high\r\n[Unsupported]\r\n"
+               "TurnOffFontCheck=70000\r\nRegainControlAfter=never\r\n"
+               "[Colours]\r\nMacroTextDefaultColour=red\r\n");
+    for (int i = 0; i < 3; ++i) {
+        dialogs.answer(u"Zeph"_s, BoxButton::Ok);
+    }
+    ASSERT_TRUE(start());
+    QString told;
+    for (const Box &box : dialogs.boxes()) {
+        told += box.text;
+    }
+    for (const QString &value : { u"=high"_s, u"=70000"_s, u"=never"_s, u"=red"_s }) {
+        EXPECT_EQ(told.count(value), 1) << value.toStdString();
+    }
+    EXPECT_EQ(app->settings().MumTopAtStartup, u"0");
+    EXPECT_EQ(app->settings().RegainControlAfter, u"45000");
+}
+
+TEST_F(Start, TheWelcomeKeepsItsKeyboardLayout)
+{
+    folder.write(u"Zeph.ini"_s, "[Unsupported]\r\nForeignLanguageKBInputFix=1\r\n");
+    keyboard.layout = u"0000040C"_s;
+    Pilot pilot;
+    pilot.experience = 3;
+    pilot.beforeNames = [this](QLineEdit &box) {
+        keyboard.layout = u"00000409"_s;
+        QFocusEvent event(QEvent::FocusIn);
+        QApplication::sendEvent(&box, &event);
+    };
+    ASSERT_TRUE(start());
+    EXPECT_EQ(keyboard.loaded.value(0), u"0000040C");
+}
+
+TEST_F(Start, ToolWindowsKeepTheirKeyboardLayout)
+{
+    folder.write(u"Help/contents.html"_s, "<p>Help</p>");
+    writeStore("[Unsupported]\r\nForeignLanguageKBInputFix=1\r\n");
+    ASSERT_TRUE(start());
+    keyboard.layout = u"0000040C"_s;
+    app->help().mnuHelpContents_Click();
+    keyboard.layout = u"00000409"_s;
+    keyboard.loaded.clear();
+    QFocusEvent event(QEvent::FocusIn);
+    QApplication::sendEvent(
+        app->mum().toolWindows().get<HelpWindow>()->findChild<QLineEdit *>(u"txtFind"_s), &event);
+    EXPECT_EQ(keyboard.loaded, QStringList{ u"0000040C"_s });
+}
+
+TEST_F(Start, TheStatusBarsEndCompilesWhateverTabIsSelected)
+{
+    writeStore();
+    arguments = { folder.write(u"Alone.tmm"_s, "Fire = a\r\n") };
+    ASSERT_TRUE(start());
+    ASSERT_FALSE(app->editor().action(u"mnuAppsCompile")->isEnabled());
+    dialogs.answer(u"Nothing to compile ..."_s, BoxButton::Ok);
+    QTest::mousePress(&app->mum().bar(), Qt::RightButton, {}, QPoint(5, 10));
+    EXPECT_EQ(boxTitles(), QStringList{ u"Nothing to compile ..."_s });
 }
 
 TEST_F(Start, TheFirstRunTakesWhatThePilotSays)
@@ -262,6 +357,38 @@ TEST_F(Start, TheAutoloadFavouriteDoesNotApplyWithARestoredFile)
     ASSERT_TRUE(start());
     EXPECT_EQ(app->editor().macro().path, last);
     EXPECT_EQ(app->editor().joystick().name, u"Untitled.tmj");
+}
+
+TEST_F(Start, RestoreStatusOffLeavesTheLastFilesClosedAndTheAutoloadFavouriteApplies)
+{
+    const QString viper = folder.write(u"Viper.tmj"_s, "BTN S2 a\r\n");
+    const QString last = folder.write(u"last.tmm"_s, "Fire = a\r\n");
+    writeStore("[Miscellaneous]\r\nRestoreStatus=0\r\nRestoreMacroFile=" + last.toLocal8Bit()
+               + "\r\n" + favourite + "FavJFPath1=" + viper.toLocal8Bit() + "\r\n");
+    ASSERT_TRUE(start());
+    EXPECT_EQ(app->editor().joystick().path, viper);
+    EXPECT_EQ(app->editor().macro().name, u"Untitled.tmm");
+}
+
+TEST_F(Start, AFurtherInstanceThatClosesWhileMinimisedLeavesItsCopy)
+{
+    writeStore();
+    const InstanceLock first(folder.path());
+    ASSERT_TRUE(start());
+    app->mum().showMinimized();
+    app->mum().close();
+    EXPECT_TRUE(folder.exists(u"Zeph.2"_s));
+}
+
+TEST_F(Start, WhatAFurtherInstanceSavesStaysOutOfTheStore)
+{
+    writeStore("[Miscellaneous]\r\nMumWindowstate=0\r\n");
+    const QByteArray before = folder.read(u"Zeph.ini"_s);
+    const InstanceLock first(folder.path());
+    ASSERT_TRUE(start());
+    app->mum().move(30, 40);
+    app->mum().close();
+    EXPECT_EQ(folder.read(u"Zeph.ini"_s), before);
 }
 
 TEST_F(Start, AFurtherInstanceShowsSoAndWorksOnItsOwnStore)

@@ -120,9 +120,13 @@ TEST_F(Exit, ClosesTheToolWindowsWithIt)
 
 TEST_F(Exit, ClosingWhileMinimisedLeavesTheLastPositionUnchanged)
 {
-    const QString before = stored(u"MumLeftAtStartup"_s);
     app->mum().move(333, 100);
+    app->mum().resize(700, 500);
     app->mum().showMinimized();
     EXPECT_TRUE(app->mum().close());
-    EXPECT_EQ(stored(u"MumLeftAtStartup"_s), before);
+    EXPECT_EQ(stored(u"MumLeftAtStartup"_s), u"0");
+    EXPECT_EQ(stored(u"MumTopAtStartup"_s), u"0");
+    EXPECT_EQ(stored(u"MumWidthAtStartup"_s), u"13320");
+    EXPECT_EQ(stored(u"MumHeightAtStartup"_s), u"8895");
+    EXPECT_EQ(stored(u"MumWindowstate"_s), u"0");
 }

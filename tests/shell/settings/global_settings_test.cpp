@@ -347,6 +347,18 @@ TEST(SaveGlobalSettings, WritesExactlyItsKeys)
     EXPECT_EQ(store.folder.read(u"HOTAS.ini"_s).count('='), 1);
 }
 
+TEST(SaveGlobalSettings, AnAbsentShowTipsReadsOneAndIsNotAdded)
+{
+    const Store store;
+    store.folder.write(u"Zeph.ini"_s, "[FileLocations]\nFirstTimeUsed=2\n");
+    G settings;
+    settings.ShowTips = 0;
+    EXPECT_TRUE(readGlobalSettings(settings, store.files).isEmpty());
+    EXPECT_EQ(settings.ShowTips, 1);
+    ASSERT_TRUE(saveGlobalSettings(settings, store.files));
+    EXPECT_FALSE(store.folder.read(u"Zeph.ini"_s).contains("ShowTips"));
+}
+
 TEST(SaveGlobalSettings, LeavesOutWhatOthersWriteOrNobodyDoes)
 {
     const Store store;
