@@ -268,7 +268,6 @@ void FileOpening::show(EditorDocument &document, const QString &text)
     document.state = EditorDocument::Saved;
     view.UpdateSavedIcon();
     document.control->select(0, 0);
-    m_context.status.setLine(1);
 }
 
 void FileOpening::OpenPreviouslySavedFiles(const QString &fileToOpen)
