@@ -144,9 +144,11 @@ void checkAssignment(Reporter &reporter, UseBody body)
     const QStringView word = body.word(role);
     const bool toButton = word.startsWith(u"DX", Qt::CaseInsensitive);
     const bool needsControl = toButton || sameWord(word, u"SHIFTBTN");
-    const bool isControl = info.is(ControlRole);
     const bool isAxis = info.is(AxisRole) || info.is(AxisGroupRole);
-    if (!isControl && (needsControl || (!isAxis && !info.is(HatRole))))
+    // A flag works like a button. Other words of the language may have roles that are not known.
+    const bool isPossible =
+        info.is(ControlRole) || flagNumber(nameWord) || (!needsControl && info.roles != NoRole);
+    if (!isPossible)
         reporter.report(UnknownControl, name->place, u"There is no control %1"_s.arg(nameWord));
     if (toButton)
         checkDirectXButton(reporter, *role, word);
