@@ -81,8 +81,12 @@ void checkAxesConfiguration(Reporter &reporter, const Statement &statement, UseB
     std::array<bool, lastDirectXAxis + 1> used{};
     bool understood = true;
     while (const Item *item = body.next()) {
-        if (item->kind != ItemKind::Group || !item->closed)
+        if (item->kind != ItemKind::Group)
             continue;
+        if (!item->closed) {
+            understood = false;
+            continue;
+        }
         const Arguments arguments = argumentsOf(reporter.source(), *item);
         const std::optional<int> number = wholeNumber(arguments[0].text);
         if (arguments.size() != 2 || !number) {

@@ -273,6 +273,7 @@ const QList<Wrong> wrongs{
     { u"DEF X1 ) AND S1"_s, StrayBracketCode, 1, u")"_s },
     { u"DEF X1 S1 AND ("_s, StrayBracketCode, 1, u"("_s },
     { u"BTN S1 (a\nRATE (5)\nBTN S2 b"_s, StrayBracketCode, 1, u"("_s },
+    { u"USE AXES_CONFIG (1, JOYX), (2, JOYY"_s, StrayBracketCode, 1, u"("_s },
     { u"USE CURVE (THR, 3"_s, StrayBracketCode, 1, u"("_s },
     { u"BTN S1 ( < ) >"_s, StrayBracketCode, 1, u"<"_s },
     // Digital axes.
