@@ -11,7 +11,9 @@
 #include "editor/file_new.h"
 #include "editor/file_opening.h"
 #include "editor/file_saving.h"
+#include "editor/framemacros.h"
 #include "editor/highlighting.h"
+#include "editor/macro_features.h"
 #include "editor/right_menu.h"
 #include "editor/text_control.h"
 #include "editor/text_lines.h"
@@ -23,9 +25,9 @@
 #include <QAction>
 #include <QApplication>
 #include <QClipboard>
+#include <QHBoxLayout>
 #include <QMenu>
 #include <QMimeData>
-#include <QVBoxLayout>
 
 #include <exception>
 
@@ -47,12 +49,14 @@ Editor::Editor(const Context &context, QWidget *parent)
       m_rightMenu(std::make_unique<RightMenu>(*m_view, *m_actions))
 {
     setObjectName(u"Editor"_s);
-    auto *layout = new QVBoxLayout(this);
+    auto *layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(m_view);
+    layout->setSpacing(0);
+    layout->addWidget(m_view, 1);
     connectFiles();
     connectEditing();
     connectOptions();
+    connectMacros();
     connect(m_keys.get(), &EditorKeys::helpOn, this, &Editor::helpOn);
     connect(m_view, &EditorView::selectionChanged, this, &Editor::updateConditions);
     connect(QApplication::clipboard(), &QClipboard::dataChanged, this, &Editor::updateConditions);
@@ -148,6 +152,15 @@ void Editor::connectOptions()
     });
 }
 
+void Editor::connectMacros()
+{
+    m_macros = std::make_unique<MacroFeatures>(
+        m_context, MacroFeatures::Parts{ *m_view, *m_actions, *m_opening, *m_saving, *m_fresh });
+    layout()->addWidget(m_macros->list().frame());
+    connect(&m_macros->menu(), &MacroListMenu::quickTipWanted, this,
+            [this] { Q_EMIT helpOn(u"macro list"_s); });
+}
+
 void Editor::paste()
 {
     if (!m_view->refuseProtected()) {
@@ -221,6 +234,7 @@ void Editor::applySettings()
     m_view->applyLook();
     m_view->setTiled(settings.TileFiles == 1);
     action(u"mnuViewTileVertically")->setChecked(settings.TileFiles == 1);
+    m_macros->applySettings();
     m_opening->OpenSingleFileOnly = settings.OpenSingleFileOnly == 1;
     action(u"mnuJoyPopUpSingleFile")->setChecked(m_opening->OpenSingleFileOnly);
     updateConditions();

@@ -22,6 +22,7 @@ class FileNew;
 class FileOpening;
 class FileSaving;
 class Highlighting;
+class MacroFeatures;
 class RightMenu;
 class UseDirectives;
 
@@ -51,6 +52,7 @@ public:
     FileNew &fresh() { return *m_fresh; }
     UseDirectives &useDirectives() { return *m_useDirectives; }
     RightMenu &rightMenu() { return *m_rightMenu; }
+    MacroFeatures &macros() { return *m_macros; }
 
     /// Gives the focus back to the selected document.
     void ResetFocusToEditor();
@@ -75,6 +77,7 @@ private:
     void connectFiles();
     void connectEditing();
     void connectOptions();
+    void connectMacros();
     void updateConditions();
     void paste();
     void showLine(EditorDocument &document, int line);
@@ -90,6 +93,7 @@ private:
     std::unique_ptr<FileNew> m_fresh;
     std::unique_ptr<EditorKeys> m_keys;
     std::unique_ptr<RightMenu> m_rightMenu;
+    std::unique_ptr<MacroFeatures> m_macros;
 };
 
 } // namespace zeph

@@ -29,7 +29,9 @@ QString macroName(QStringView line);
 /// The line that shows a macro's keys, as it stands in the file; no value when none is written
 /// "name =".
 std::optional<QString> macroKeys(const MacroTable &table, const QString &name);
-/// Positions (0-based) at which a joystick text uses a macro, comments left out.
-QList<qsizetype> macroUses(QStringView joystickText, const QString &name);
+/// What the table holds, for the tooltip of the status panel.
+QString macroCounts(const MacroTable &table);
+/// A name as a pilot types it, with "_" in place of each character that no macro's name may hold.
+QString withoutRefused(QString typed);
 
 } // namespace zeph

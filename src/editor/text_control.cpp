@@ -71,6 +71,16 @@ void TextControl::replace(int start, int length, const QString &text)
     cursor.insertText(text);
 }
 
+void TextControl::replaceAll(const QList<qsizetype> &starts, int length, const QString &text)
+{
+    QTextCursor change(document());
+    change.beginEditBlock();
+    for (auto start = starts.rbegin(); start != starts.rend(); ++start) {
+        replace(int(*start), length, text);
+    }
+    change.endEditBlock();
+}
+
 int TextControl::selStart() const
 {
     return textCursor().selectionStart();

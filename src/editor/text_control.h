@@ -29,6 +29,8 @@ public:
     /// Replaces a stretch, in the format that stands there; caret and selection of the user move
     /// along.
     void replace(int start, int length, const QString &text);
+    /// Replaces stretches of one length, at ascending places that do not overlap, as one change.
+    void replaceAll(const QList<qsizetype> &starts, int length, const QString &text);
 
     int selStart() const;
     int selLength() const;
