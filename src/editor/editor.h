@@ -24,6 +24,7 @@ class FileSaving;
 class Highlighting;
 class MacroFeatures;
 class RightMenu;
+class UndoHistories;
 class UseDirectives;
 
 /// The permanent child of the main window: the two documents and all working menus. Only a
@@ -52,6 +53,7 @@ public:
     FileNew &fresh() { return *m_fresh; }
     UseDirectives &useDirectives() { return *m_useDirectives; }
     RightMenu &rightMenu() { return *m_rightMenu; }
+    UndoHistories &undos() { return *m_undos; }
     MacroFeatures &macros() { return *m_macros; }
 
     /// Gives the focus back to the selected document.
@@ -77,6 +79,8 @@ private:
     void connectFiles();
     void connectEditing();
     void connectOptions();
+    void connectUndo();
+    void connectLooks();
     void connectMacros();
     void updateConditions();
     void paste();
@@ -93,6 +97,7 @@ private:
     std::unique_ptr<FileNew> m_fresh;
     std::unique_ptr<EditorKeys> m_keys;
     std::unique_ptr<RightMenu> m_rightMenu;
+    std::unique_ptr<UndoHistories> m_undos;
     std::unique_ptr<MacroFeatures> m_macros;
 };
 

@@ -38,7 +38,7 @@ constexpr TickSetting tickSettings[] = {
 MacroFeatures::MacroFeatures(const Context &context, const Parts &parts)
     : m_context(context), m_parts(parts),
       m_list(context, { parts.view, parts.actions, parts.saving }),
-      m_operations(context, { parts.view, parts.actions, parts.saving, m_list }),
+      m_operations(context, { parts.view, parts.actions, parts.saving, parts.undos, m_list }),
       m_menu(context, m_list, parts.actions)
 {
     parts.actions.action(u"mnuViewMacros")->setChecked(true);

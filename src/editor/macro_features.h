@@ -17,6 +17,7 @@ class EditorView;
 class FileNew;
 class FileOpening;
 class FileSaving;
+class UndoHistories;
 
 /// Everything that has to do with macros, tied to the files' comings and goings and to the menus.
 class MacroFeatures : public QObject
@@ -29,6 +30,7 @@ public:
         FileOpening &opening;
         FileSaving &saving;
         FileNew &fresh;
+        UndoHistories &undos;
     };
     MacroFeatures(const Context &context, const Parts &parts);
 

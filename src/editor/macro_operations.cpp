@@ -11,6 +11,7 @@
 #include "editor/macro_search.h"
 #include "editor/macrorenameform.h"
 #include "editor/text_control.h"
+#include "editor/undo_history.h"
 #include "platform/status_line.h"
 
 #include <QAction>
@@ -132,9 +133,15 @@ int MacroOperations::renameIn(DocumentKind kind, const QString &oldName, const Q
         m_context.dialogs.tell(u"Text not found"_s, notFound);
         return 0;
     }
-    document.control->replaceAll(hits, int(oldName.size()), newName);
-    const qsizetype grown = (hits.size() - 1) * (newName.size() - oldName.size());
-    document.control->select(int(hits.last() + grown + newName.size()), 0);
+    {
+        const BusyGuard busy(m_parts.view);
+        document.control->replaceAll(hits, int(oldName.size()), newName);
+        const qsizetype grown = (hits.size() - 1) * (newName.size() - oldName.size());
+        document.control->select(int(hits.last() + grown + newName.size()), 0);
+    }
+    // A step of its own, whatever was typed before.
+    m_parts.undos.of(kind).UndoStepNext = 1;
+    m_parts.undos.textChanged(kind);
     m_context.status.setLine(m_parts.view.selected().control->caretLine());
     return int(hits.size());
 }

@@ -18,6 +18,7 @@ class EditorView;
 class FileSaving;
 class MacroList;
 class TextControl;
+class UndoHistories;
 
 /// What ties the macro list to the two texts: which macros are used and where, a rename in both
 /// files, the macro under the mouse.
@@ -29,6 +30,7 @@ public:
         EditorView &view;
         EditorActions &actions;
         FileSaving &saving;
+        UndoHistories &undos;
         MacroList &list;
     };
     /// Which heading is shown after the macros used were identified.

@@ -135,7 +135,7 @@ TEST(UsedMacros, SayOfManyNamesWhatIsTrueOfEach)
 TEST(UsedMacros, NamesThatShareAWordAreToldApart)
 {
     EXPECT_EQ(usedMacros(u"xB-A B-A1 C-A ", { u"B-A"_s, u"C-A"_s, u"A"_s, u"++"_s }),
-              (QList<bool>{ false, true, false, false }));
+              (QList<bool>{ false, true, true, false }));
 }
 
 TEST(RenameHits, ABlankATabALineEndOrTheTextsEndFollows)
