@@ -488,8 +488,8 @@ TEST_F(MacroListTest, AnotherJoystickFileClearsTheTicks)
 TEST_F(MacroListTest, TheRightButtonOffersThePopUp)
 {
     openMacros();
-    QSignalSpy wanted(&macroList(), &MacroList::popUpWanted);
-    disconnect(&macroList(), &MacroList::popUpWanted, nullptr, nullptr);
+    // The menu itself would wait for the pilot.
+    QObject::disconnect(&macroList(), &MacroList::popUpWanted, nullptr, nullptr);
     QSignalSpy asked(&macroList(), &MacroList::popUpWanted);
     const QPoint at = placeOf(u"Gun"_s);
     QTest::mousePress(list()->viewport(), Qt::RightButton, {}, at);
@@ -698,7 +698,7 @@ TEST_F(MacroListTest, ASaveLeavesTheListAloneWhereThatIsWanted)
     type(DocumentKind::Macro, u"New = n\n"_s);
     editor->saving().mnuFileSave_Click();
     EXPECT_EQ(names(), QStringList{ u"Fire"_s });
-    EXPECT_EQ(status.text(), editor->macro().path + u" saved successfully.");
+    EXPECT_EQ(status.text(), editor->macro().path + u" saved successfully."_s);
 }
 
 TEST_F(MacroListTest, ASaveOfTheJoystickFileLeavesTheListAlone)
