@@ -43,7 +43,7 @@ Editor::Editor(const Context &context, QWidget *parent)
           context,
           FileOpening::Parts{ *m_view, *m_copies, *m_highlighting, *m_useDirectives, *m_saving })),
       m_fresh(std::make_unique<FileNew>(context, *m_view, *m_opening, *m_useDirectives)),
-      m_keys(std::make_unique<EditorKeys>(*m_view, *m_actions)),
+      m_keys(std::make_unique<EditorKeys>(*m_view, *m_actions, context.settings)),
       m_rightMenu(std::make_unique<RightMenu>(*m_view, *m_actions))
 {
     setObjectName(u"Editor"_s);
