@@ -15,6 +15,7 @@ class QAction;
 namespace zeph {
 
 class ColouredCopies;
+class ColouredInsert;
 class EditorActions;
 class EditorKeys;
 class EditorView;
@@ -23,6 +24,9 @@ class FileOpening;
 class FileSaving;
 class Highlighting;
 class RightMenu;
+class TextLooks;
+class TypingColour;
+class UndoHistories;
 class UseDirectives;
 
 /// The permanent child of the main window: the two documents and all working menus. Only a
@@ -51,6 +55,9 @@ public:
     FileNew &fresh() { return *m_fresh; }
     UseDirectives &useDirectives() { return *m_useDirectives; }
     RightMenu &rightMenu() { return *m_rightMenu; }
+    Highlighting &highlighting() { return *m_highlighting; }
+    /// Writes a tool's text into the selected document.
+    ColouredInsert &insert() { return *m_insert; }
 
     /// Gives the focus back to the selected document.
     void ResetFocusToEditor();
@@ -75,6 +82,7 @@ private:
     void connectFiles();
     void connectEditing();
     void connectOptions();
+    void connectPainting();
     void updateConditions();
     void paste();
     void showLine(EditorDocument &document, int line);
@@ -83,7 +91,11 @@ private:
     std::unique_ptr<EditorActions> m_actions;
     EditorView *m_view = nullptr;
     std::unique_ptr<ColouredCopies> m_copies;
+    std::unique_ptr<UndoHistories> m_histories;
+    std::unique_ptr<ColouredInsert> m_insert;
     std::unique_ptr<Highlighting> m_highlighting;
+    std::unique_ptr<TextLooks> m_looks;
+    std::unique_ptr<TypingColour> m_typingColour;
     std::unique_ptr<UseDirectives> m_useDirectives;
     std::unique_ptr<FileSaving> m_saving;
     std::unique_ptr<FileOpening> m_opening;

@@ -93,15 +93,16 @@ void applyParagraphRuns(QTextCursor cursor, const std::vector<ParagraphRun> &run
 class RunPainter
 {
 public:
-    RunPainter(QTextDocument &document, std::vector<CharRun> present)
-        : m_cursor(&document), m_present(std::move(present))
+    /// The present runs start at a position of the document, and so do those that are painted.
+    RunPainter(QTextDocument &document, std::vector<CharRun> present, qsizetype from = 0)
+        : m_cursor(&document), m_present(std::move(present)), m_from(from), m_start(from)
     {
     }
 
     void paint(const std::vector<CharRun> &runs)
     {
         m_cursor.beginEditBlock();
-        qsizetype position = 0;
+        qsizetype position = m_from;
         for (const CharRun &run : runs) {
             const qsizetype end = position + std::max(run.length, qsizetype(0));
             paintRun(position, end, run.format);
@@ -144,8 +145,9 @@ private:
     QTextCursor m_cursor;
     FormatCache m_format;
     std::vector<CharRun> m_present;
+    qsizetype m_from;
     size_t m_index = 0; ///< of the present run, and the position where it starts
-    qsizetype m_start = 0;
+    qsizetype m_start;
 };
 
 } // namespace
@@ -232,9 +234,26 @@ void insertRichText(QTextCursor &cursor, const RichText &text)
     cursor.endEditBlock();
 }
 
-void applyCharacterRuns(QTextDocument &document, const std::vector<CharRun> &runs)
+void applyCharacterRuns(QTextDocument &document, const std::vector<CharRun> &runs, qsizetype from)
 {
-    RunPainter(document, characterRunsOf(document)).paint(runs);
+    qsizetype length = 0;
+    for (const CharRun &run : runs) {
+        length += run.length;
+    }
+    RunPainter(document, richTextOf(document, from, length).characters, from).paint(runs);
+}
+
+void setParagraphFormat(QTextDocument &document, const ParagraphFormat &format)
+{
+    const int count = document.blockCount();
+    const std::vector<ParagraphRun> wanted = { { count, format } };
+    if (richTextOf(document).paragraphs == wanted) {
+        return;
+    }
+    QTextCursor cursor(&document);
+    cursor.beginEditBlock();
+    setParagraphs(cursor, 0, count, format);
+    cursor.endEditBlock();
 }
 
 } // namespace zeph

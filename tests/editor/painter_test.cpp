@@ -76,7 +76,7 @@ TEST(Painter, DefNeedsItsExactCase)
 
 TEST(Painter, ANameRunsAcrossALineEndToTheNextBlankOrTab)
 {
-    EXPECT_EQ(joystick(u"BTN S1\nUSE MDEF a"), u"bbbbbbbbbb mmmm ."_s.replace(u' ', u'.'));
+    EXPECT_EQ(joystick(u"BTN S1\nabc MDEF a"), u"bbbbbbbbbb.mmmm..");
     EXPECT_EQ(joystick(u"BTN\nS1 a"), u"bbbbbb..");
 }
 
