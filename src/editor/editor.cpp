@@ -40,10 +40,12 @@ Editor::Editor(const Context &context, QWidget *parent)
       m_actions(std::make_unique<EditorActions>(context.dialogs, context.paths.inApp(u"icons/"))),
       m_view(new EditorView(context, this)),
       m_copies(std::make_unique<ColouredCopies>(context.paths)),
-      m_histories(std::make_unique<UndoHistories>(context, *m_view, *m_actions)),
-      m_insert(std::make_unique<ColouredInsert>(context, *m_view, *m_histories)),
+      m_keys(std::make_unique<EditorKeys>(*m_view, *m_actions, context.settings)),
+      // Behind the keys: a line that blinks has to be let go before a key's entry runs.
+      m_undos(std::make_unique<UndoHistories>(context, *m_view, *m_actions)),
+      m_insert(std::make_unique<ColouredInsert>(context, *m_view, *m_undos)),
       m_highlighting(std::make_unique<Highlighting>(
-          context, Highlighting::Parts{ *m_view, *m_copies, *m_histories, *m_insert })),
+          context, Highlighting::Parts{ *m_view, *m_copies, *m_undos, *m_insert })),
       m_looks(
           std::make_unique<TextLooks>(context, TextLooks::Parts{ *m_view, *m_actions, *m_insert })),
       m_typingColour(std::make_unique<TypingColour>(*m_view, *m_highlighting, context.settings)),
@@ -53,7 +55,6 @@ Editor::Editor(const Context &context, QWidget *parent)
           context,
           FileOpening::Parts{ *m_view, *m_copies, *m_highlighting, *m_useDirectives, *m_saving })),
       m_fresh(std::make_unique<FileNew>(context, *m_view, *m_opening, *m_useDirectives)),
-      m_keys(std::make_unique<EditorKeys>(*m_view, *m_actions, context.settings)),
       m_rightMenu(std::make_unique<RightMenu>(*m_view, *m_actions))
 {
     setObjectName(u"Editor"_s);
@@ -63,6 +64,8 @@ Editor::Editor(const Context &context, QWidget *parent)
     connectFiles();
     connectEditing();
     connectOptions();
+    connectUndo();
+    connectLooks();
     connectPainting();
     connect(m_keys.get(), &EditorKeys::helpOn, this, &Editor::helpOn);
     connect(m_view, &EditorView::selectionChanged, this, &Editor::updateConditions);
@@ -156,6 +159,39 @@ void Editor::connectOptions()
     on.connectTo(u"mnuJoyPopUpSingleFile", [this] {
         m_opening->OpenSingleFileOnly = action(u"mnuJoyPopUpSingleFile")->isChecked();
         m_context.settings.OpenSingleFileOnly = m_opening->OpenSingleFileOnly;
+    });
+}
+
+void Editor::connectUndo()
+{
+    UndoHistories *undos = m_undos.get();
+    connect(m_opening.get(), &FileOpening::loaded, undos, &UndoHistories::startOver);
+    connect(m_fresh.get(), &FileNew::joystickReplaced, undos,
+            [undos] { undos->startOver(DocumentKind::Joystick); });
+    connect(m_fresh.get(), &FileNew::macroReplaced, undos,
+            [undos] { undos->startOver(DocumentKind::Macro); });
+    connect(m_saving.get(), &FileSaving::written, undos, [this, undos](DocumentKind kind) {
+        if (m_context.settings.UndoClearOnSave != 1) {
+            return;
+        }
+        if (kind == DocumentKind::Joystick) {
+            undos->DeleteUndosOnSaveJ();
+        } else {
+            undos->DeleteUndosOnSaveM();
+        }
+    });
+}
+
+void Editor::connectLooks()
+{
+    EditorActions &on = *m_actions;
+    on.connectTo(u"mnuViewLineNumbers", [this] {
+        m_context.settings.LineNumbers = action(u"mnuViewLineNumbers")->isChecked();
+        applySettings();
+    });
+    on.connectTo(u"mnuViewCurrentLine", [this] {
+        m_context.settings.CurrentLineMark = action(u"mnuViewCurrentLine")->isChecked();
+        applySettings();
     });
 }
 
@@ -267,6 +303,8 @@ void Editor::applySettings()
     action(u"mnuViewTileVertically")->setChecked(settings.TileFiles == 1);
     m_opening->OpenSingleFileOnly = settings.OpenSingleFileOnly == 1;
     action(u"mnuJoyPopUpSingleFile")->setChecked(m_opening->OpenSingleFileOnly);
+    action(u"mnuViewLineNumbers")->setChecked(settings.LineNumbers == 1);
+    action(u"mnuViewCurrentLine")->setChecked(settings.CurrentLineMark == 1);
     updateConditions();
 }
 

@@ -58,6 +58,7 @@ public:
     Highlighting &highlighting() { return *m_highlighting; }
     /// Writes a tool's text into the selected document.
     ColouredInsert &insert() { return *m_insert; }
+    UndoHistories &undos() { return *m_undos; }
 
     /// Gives the focus back to the selected document.
     void ResetFocusToEditor();
@@ -82,6 +83,8 @@ private:
     void connectFiles();
     void connectEditing();
     void connectOptions();
+    void connectUndo();
+    void connectLooks();
     void connectPainting();
     void updateConditions();
     void paste();
@@ -91,7 +94,8 @@ private:
     std::unique_ptr<EditorActions> m_actions;
     EditorView *m_view = nullptr;
     std::unique_ptr<ColouredCopies> m_copies;
-    std::unique_ptr<UndoHistories> m_histories;
+    std::unique_ptr<EditorKeys> m_keys;
+    std::unique_ptr<UndoHistories> m_undos;
     std::unique_ptr<ColouredInsert> m_insert;
     std::unique_ptr<Highlighting> m_highlighting;
     std::unique_ptr<TextLooks> m_looks;
@@ -100,7 +104,6 @@ private:
     std::unique_ptr<FileSaving> m_saving;
     std::unique_ptr<FileOpening> m_opening;
     std::unique_ptr<FileNew> m_fresh;
-    std::unique_ptr<EditorKeys> m_keys;
     std::unique_ptr<RightMenu> m_rightMenu;
 };
 
