@@ -37,7 +37,7 @@ constexpr TickSetting tickSettings[] = {
 
 MacroFeatures::MacroFeatures(const Context &context, const Parts &parts)
     : m_context(context), m_parts(parts),
-      m_list(context, { parts.view, parts.actions, parts.saving }),
+      m_list(context, { parts.view, parts.actions, parts.saving, parts.insert }),
       m_operations(context, { parts.view, parts.actions, parts.saving, parts.undos, m_list }),
       m_menu(context, m_list, parts.actions)
 {
@@ -104,11 +104,14 @@ void MacroFeatures::connectList()
 {
     connect(&m_list, &MacroList::macroChosen, this,
             guarded(m_context.dialogs, [this](const QString &) { m_operations.TickMacroList(); }));
+    connect(&m_list, &MacroList::inserted, this,
+            guarded(m_context.dialogs, [this] { m_operations.TickMacroList(); }));
     connect(&m_list, &MacroList::findWanted, this,
             guarded(m_context.dialogs, [this] { m_operations.FindMacroInJF(); }));
-    connect(&m_list, &MacroList::insertStarted, this, [this] { m_insertStarted = true; });
+    connect(&m_list, &MacroList::dragStarted, this, [this] { m_dragStarted = true; });
+    // Where a drag ends is seen by the change that it makes.
     connect(&m_parts.view, &EditorView::edited, this, [this] {
-        if (std::exchange(m_insertStarted, false)) {
+        if (std::exchange(m_dragStarted, false)) {
             m_operations.TickMacroList();
         }
     });

@@ -12,6 +12,7 @@
 
 namespace zeph {
 
+class ColouredInsert;
 class EditorActions;
 class EditorView;
 class FileNew;
@@ -31,6 +32,7 @@ public:
         FileSaving &saving;
         FileNew &fresh;
         UndoHistories &undos;
+        ColouredInsert &insert;
     };
     MacroFeatures(const Context &context, const Parts &parts);
 
@@ -51,7 +53,7 @@ private:
     MacroList m_list;
     MacroOperations m_operations;
     MacroListMenu m_menu;
-    bool m_insertStarted = false;
+    bool m_dragStarted = false;
 };
 
 } // namespace zeph

@@ -3,6 +3,7 @@
 
 #include "editor/macro_list.h"
 
+#include "editor/coloured_insert.h"
 #include "editor/document_text.h"
 #include "editor/editor_actions.h"
 #include "editor/editor_view.h"
@@ -13,7 +14,6 @@
 #include "platform/core/text_search.h"
 #include "platform/dialogs.h"
 #include "platform/handlers.h"
-#include "platform/rich_text_document.h"
 #include "platform/status_line.h"
 #include "shell/settings/global_settings.h"
 #include "shell/settings/settings_files.h"
@@ -36,7 +36,7 @@ MacroList::MacroList(const Context &context, const Parts &parts)
             }));
     connect(&list, &MacroListView::findWanted, this, &MacroList::findWanted);
     connect(&list, &MacroListView::popUpWanted, this, &MacroList::popUpWanted);
-    connect(&list, &MacroListView::dragStarted, this, &MacroList::insertStarted);
+    connect(&list, &MacroListView::dragStarted, this, &MacroList::dragStarted);
     connect(m_frame.get(), &FrameMacros::headingChosen, this,
             guarded(context.dialogs, [this](const QString &heading) { Combo1_Click(heading); }));
     connect(m_frame.get(), &FrameMacros::widthChosen, this, &MacroList::storeWidth);
@@ -158,15 +158,16 @@ void MacroList::List1_DblClick()
         return;
     }
     const EditorDocument &document = m_parts.view.selected();
-    QTextCursor cursor = document.control->textCursor();
-    const int at = document.control->selStart();
-    const bool needsBlank = !cursor.hasSelection() && at > 0
-        && document.control->document()->characterAt(at - 1) != u' ';
-    Q_EMIT insertStarted();
-    cursor.insertText((needsBlank ? u" "_s : QString()) + SelectedMacro + u' ',
-                      toTextFormat(m_parts.view.plainFormat(document.kind)));
-    document.control->setTextCursor(cursor);
-    m_parts.view.ResetFocusToEditor();
+    const TextControl &control = *document.control;
+    const int at = control.selStart();
+    const bool needsBlank =
+        control.selLength() == 0 && at > 0 && control.document()->characterAt(at - 1) != u' ';
+    m_parts.insert.BeginColInsert();
+    m_parts.insert.InsertColouredStringNoSpace(
+        (needsBlank ? u" "_s : QString()) + SelectedMacro + u' ',
+        m_parts.view.plainFormat(document.kind).colour.value_or(0));
+    m_parts.insert.EndColInsert();
+    Q_EMIT inserted();
 }
 
 void MacroList::mnuRHListEdit_Click()

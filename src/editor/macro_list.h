@@ -13,6 +13,7 @@
 
 namespace zeph {
 
+class ColouredInsert;
 class EditorActions;
 class EditorView;
 class FileSaving;
@@ -28,6 +29,7 @@ public:
         EditorView &view;
         EditorActions &actions;
         FileSaving &saving;
+        ColouredInsert &insert;
     };
     MacroList(const Context &context, const Parts &parts);
     ~MacroList() override;
@@ -74,8 +76,10 @@ Q_SIGNALS:
     void listSelectionChanged();
     void findWanted();
     void popUpWanted(const QPoint &globalPosition);
-    /// The list's macro is on its way into a text: the next change of a text brings it there.
-    void insertStarted();
+    /// The selected macro's name was inserted into a text.
+    void inserted();
+    /// A macro is being dragged out of the list.
+    void dragStarted();
     void tableChanged();
 
 private:

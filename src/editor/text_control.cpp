@@ -8,7 +8,10 @@
 
 #include <QMimeData>
 #include <QPainter>
+#include <QScrollBar>
 #include <QTextBlock>
+
+#include <algorithm>
 
 namespace zeph {
 
@@ -103,6 +106,25 @@ void TextControl::replaceAll(const QList<qsizetype> &starts, int length, const Q
     change.endEditBlock();
 }
 
+void TextControl::setCharacterRuns(const std::vector<CharRun> &runs, int from)
+{
+    applyCharacterRuns(*document(), runs, from);
+}
+
+void TextControl::changeLooks(int from, int length, const std::function<void(CharFormat &)> &change)
+{
+    RichText stretch = richTextOf(*document(), from, length);
+    for (CharRun &run : stretch.characters) {
+        change(run.format);
+    }
+    setCharacterRuns(stretch.characters, from);
+}
+
+int TextControl::end() const
+{
+    return document()->characterCount() - 1;
+}
+
 int TextControl::selStart() const
 {
     return textCursor().selectionStart();
@@ -115,7 +137,7 @@ int TextControl::selLength() const
 
 void TextControl::select(int start, int length)
 {
-    const int last = document()->characterCount() - 1;
+    const int last = end();
     QTextCursor cursor(document());
     cursor.setPosition(qBound(0, start, last));
     cursor.setPosition(qBound(0, start + length, last), QTextCursor::KeepAnchor);
@@ -129,6 +151,40 @@ void TextControl::select(int start, int length)
 int TextControl::caretLine() const
 {
     return textCursor().blockNumber() + 1;
+}
+
+TextControl::Place TextControl::place() const
+{
+    const QTextCursor cursor = textCursor();
+    return { cursor.anchor(), cursor.position(), horizontalScrollBar()->value(),
+             verticalScrollBar()->value() };
+}
+
+void TextControl::setPlace(const Place &place)
+{
+    const int last = end();
+    QTextCursor cursor(document());
+    cursor.setPosition(qBound(0, place.anchor, last));
+    cursor.setPosition(qBound(0, place.caret, last), QTextCursor::KeepAnchor);
+    setTextCursor(cursor);
+    // Setting the caret has brought it into view, where it need not have been.
+    horizontalScrollBar()->setValue(place.across);
+    verticalScrollBar()->setValue(place.down);
+}
+
+void TextControl::setLocked(bool on)
+{
+    setReadOnly(on);
+    if (on) {
+        // The toolkit's read-only text has no caret of its own accord.
+        setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    }
+}
+
+void TextControl::focusInEvent(QFocusEvent *event)
+{
+    QPlainTextEdit::focusInEvent(event);
+    Q_EMIT focused();
 }
 
 void TextControl::showLineNumbers(bool shown)
@@ -248,6 +304,19 @@ void TextControl::keyPressEvent(QKeyEvent *event)
         return;
     }
     QPlainTextEdit::keyPressEvent(event);
+}
+
+QMimeData *TextControl::createMimeDataFromSelection() const
+{
+    QMimeData *selection = QPlainTextEdit::createMimeDataFromSelection();
+    QString text = textCursor().selectedText();
+    QChar *const end = text.data() + text.size();
+    std::replace_if(text.data(), end, isBlockBorder, QChar(u'\n'));
+    // The toolkit gives its text only when asked, and over what was set before: ask first. Its own
+    // has blanks for no-break spaces, which are letters of the file.
+    (void)selection->text();
+    selection->setText(text);
+    return selection;
 }
 
 bool TextControl::canInsertFromMimeData(const QMimeData *source) const

@@ -7,7 +7,12 @@
 
 #include <QPlainTextEdit>
 
+#include <functional>
+
 namespace zeph {
+
+/// The small margin that every document has.
+constexpr ParagraphFormat documentParagraph = { .leftIndentTwips = 20 };
 
 class LineMargin;
 
@@ -42,11 +47,31 @@ public:
     /// Replaces stretches of one length, at ascending places that do not overlap, as one change.
     void replaceAll(const QList<qsizetype> &starts, int length, const QString &text);
 
+    /// Lays looks over the characters from a position on; text, caret and scroll stay.
+    void setCharacterRuns(const std::vector<CharRun> &runs, int from = 0);
+    /// Changes the looks of a stretch through a function.
+    void changeLooks(int from, int length, const std::function<void(CharFormat &)> &change);
+    /// Behind the last character.
+    int end() const;
+
     int selStart() const;
     int selLength() const;
     void select(int start, int length);
     /// 1-based line of the caret.
     int caretLine() const;
+
+    /// Where the user is in the text: the selection, with its direction, and what is seen of it.
+    struct Place {
+        int anchor = 0;
+        int caret = 0;
+        int across = 0; ///< of the scroll bars
+        int down = 0;
+    };
+    Place place() const;
+    void setPlace(const Place &place);
+
+    /// Guards the text against the user; the caret still moves and text can still be selected.
+    void setLocked(bool on);
 
     /// The numbers of the lines at the left.
     void showLineNumbers(bool shown);
@@ -55,11 +80,15 @@ public:
     QList<SeenLine> seenLines() const;
 
 Q_SIGNALS:
+    /// The text has got the focus.
+    void focused();
     /// A key that may change the text comes to the control: Qt::Key value.
     void keyComing(int key);
 
 protected:
+    void focusInEvent(QFocusEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
+    QMimeData *createMimeDataFromSelection() const override;
     void inputMethodEvent(QInputMethodEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;

@@ -428,7 +428,7 @@ TEST_F(MacroListTest, TheTickFollowsWhatADragBrings)
     openJoystick("BTN S1\r\n");
     click(u"Fire"_s);
     EXPECT_TRUE(ticked().isEmpty());
-    Q_EMIT macroList().insertStarted();
+    Q_EMIT macroList().dragStarted();
     drop(u"Fire"_s, joystick(), 6);
     EXPECT_EQ(ticked(), QStringList{ u"Fire"_s });
 }
