@@ -4,77 +4,20 @@
 // Opening and saving a file of 10,000 lines through the real Editor window, shown on the offscreen
 // platform; "shown" includes the painting of what is seen.
 
-#include "editor/editor.h"
-#include "editor/editor_view.h"
-#include "editor/file_opening.h"
+#include "bench/editor_world.h"
 #include "editor/file_saving.h"
-#include "editor/text_control.h"
-#include "platform/clock.h"
 #include "platform/core/rtf.h"
-#include "platform/fakes/fake_keyboard.h"
-#include "platform/fakes/fake_launcher.h"
-#include "platform/fakes/scripted_dialogs.h"
-#include "platform/status_line.h"
-#include "shell/settings/global_settings.h"
 
 #include <benchmark/benchmark.h>
 
 #include <QApplication>
-#include <QDir>
-#include <QFile>
-#include <QTemporaryDir>
 #include <QTest>
 
 using namespace zeph;
 
 namespace {
 
-constexpr int lineCount = 10000;
-
-QByteArray longFile()
-{
-    QByteArray bytes = "USE MDEF none.tmm\r\n";
-    for (int line = 1; line < lineCount; ++line) {
-        bytes += "BTN H" + QByteArray::number(line % 4 + 1)
-            + "U /U /I Radar_Mode DLY(60) /O Missile_Mode Rem line " + QByteArray::number(line)
-            + "\r\n";
-    }
-    return bytes;
-}
-
-struct World {
-    World()
-    {
-        paths.appFolder = folder.path();
-        paths.hotasFolder = folder.path() + u'/';
-        paths.iniPath = folder.filePath(u"Zeph.ini"_s);
-        QDir(folder.path()).mkdir(u"Rtf"_s);
-        QDir(folder.path()).mkdir(u"Files"_s);
-        settings.TextFontName = u"Arial"_s;
-        settings.TextFontSize = u"8"_s;
-        path = folder.filePath(u"Files/long.tmj"_s);
-        QFile file(path);
-        if (file.open(QIODevice::WriteOnly)) {
-            file.write(longFile());
-        }
-        editor = std::make_unique<Editor>(
-            Context{ paths, settings, status, dialogs, launcher, clock, keyboard });
-        editor->resize(1200, 800);
-        editor->show();
-        QCoreApplication::processEvents();
-    }
-
-    QTemporaryDir folder;
-    Paths paths;
-    GlobalSettings settings;
-    StatusLine status;
-    ScriptedDialogs dialogs;
-    FakeLauncher launcher;
-    Clock clock;
-    FakeKeyboard keyboard;
-    QString path;
-    std::unique_ptr<Editor> editor;
-};
+using bench::World;
 
 /// Colours the open document in about as many runs as a coloured file has.
 void colour(Editor &editor)

@@ -15,6 +15,7 @@ class QAction;
 namespace zeph {
 
 class ColouredCopies;
+class ColouredInsert;
 class EditorActions;
 class EditorKeys;
 class EditorView;
@@ -22,7 +23,11 @@ class FileNew;
 class FileOpening;
 class FileSaving;
 class Highlighting;
+class MacroFeatures;
 class RightMenu;
+class TextLooks;
+class TypingColour;
+class UndoHistories;
 class UseDirectives;
 
 /// The permanent child of the main window: the two documents and all working menus. Only a
@@ -51,6 +56,11 @@ public:
     FileNew &fresh() { return *m_fresh; }
     UseDirectives &useDirectives() { return *m_useDirectives; }
     RightMenu &rightMenu() { return *m_rightMenu; }
+    Highlighting &highlighting() { return *m_highlighting; }
+    /// Writes a tool's text into the selected document.
+    ColouredInsert &insert() { return *m_insert; }
+    UndoHistories &undos() { return *m_undos; }
+    MacroFeatures &macros() { return *m_macros; }
 
     /// Gives the focus back to the selected document.
     void ResetFocusToEditor();
@@ -75,6 +85,10 @@ private:
     void connectFiles();
     void connectEditing();
     void connectOptions();
+    void connectUndo();
+    void connectLooks();
+    void connectPainting();
+    void connectMacros();
     void updateConditions();
     void updateDownloadCaption();
     void paste();
@@ -84,13 +98,18 @@ private:
     std::unique_ptr<EditorActions> m_actions;
     EditorView *m_view = nullptr;
     std::unique_ptr<ColouredCopies> m_copies;
+    std::unique_ptr<EditorKeys> m_keys;
+    std::unique_ptr<UndoHistories> m_undos;
+    std::unique_ptr<ColouredInsert> m_insert;
     std::unique_ptr<Highlighting> m_highlighting;
+    std::unique_ptr<TextLooks> m_looks;
+    std::unique_ptr<TypingColour> m_typingColour;
     std::unique_ptr<UseDirectives> m_useDirectives;
     std::unique_ptr<FileSaving> m_saving;
     std::unique_ptr<FileOpening> m_opening;
     std::unique_ptr<FileNew> m_fresh;
-    std::unique_ptr<EditorKeys> m_keys;
     std::unique_ptr<RightMenu> m_rightMenu;
+    std::unique_ptr<MacroFeatures> m_macros;
 };
 
 } // namespace zeph

@@ -22,6 +22,14 @@ void StatusLine::setTextNow(const QString &text)
                                     | QEventLoop::ExcludeSocketNotifiers);
 }
 
+void StatusLine::setTextTooltip(const QString &tooltip)
+{
+    if (m_textTooltip != tooltip) {
+        m_textTooltip = tooltip;
+        Q_EMIT textTooltipChanged(tooltip);
+    }
+}
+
 void StatusLine::setLine(int line)
 {
     const QString text = u"Line no: "_s + QString::number(line);

@@ -21,6 +21,9 @@ public:
     void setText(const QString &text);
     /// Shows the text at once, for an operation that will not return to the event loop soon.
     void setTextNow(const QString &text);
+    /// Panel 1's tooltip: what the macro list holds.
+    const QString &textTooltip() const { return m_textTooltip; }
+    void setTextTooltip(const QString &tooltip);
 
     /// The panel with "Line no: " and the caret's 1-based line.
     const QString &lineText() const { return m_lineText; }
@@ -38,12 +41,14 @@ public:
 
 Q_SIGNALS:
     void textChanged(const QString &text);
+    void textTooltipChanged(const QString &tooltip);
     void lineTextChanged(const QString &text);
     void savedChanged(int picture, const QString &tooltip);
     void modePictureChanged(int picture);
 
 private:
     QString m_text;
+    QString m_textTooltip;
     QString m_lineText;
     int m_savedPicture = 1;
     QString m_savedTooltip;

@@ -77,10 +77,12 @@ MainStatusBar::MainStatusBar(const Context &context, QWidget *parent)
         m_message->setText(text);
         m_message->update();
     });
+    connect(&status, &StatusLine::textTooltipChanged, m_message, &QLabel::setToolTip);
     connect(&status, &StatusLine::lineTextChanged, m_line, &QLabel::setText);
     connect(&status, &StatusLine::modePictureChanged, this, &MainStatusBar::showMode);
     connect(&status, &StatusLine::savedChanged, this, &MainStatusBar::showSaved);
     m_message->setText(status.text());
+    m_message->setToolTip(status.textTooltip());
     m_line->setText(status.lineText());
     setModeTooltip(u"Cougar mode selector is off"_s);
     showMode(status.modePicture());
@@ -130,7 +132,7 @@ bool MainStatusBar::event(QEvent *event)
 {
     if (event->type() == QEvent::ToolTip) {
         const auto *help = static_cast<QHelpEvent *>(event);
-        for (const QLabel *panel : { m_mode, m_saved }) {
+        for (const QLabel *panel : { m_message, m_mode, m_saved }) {
             if (panel->geometry().contains(help->pos())) {
                 QToolTip::showText(help->globalPos(), panel->toolTip(), this);
                 return true;

@@ -43,7 +43,7 @@ TEST_F(FileOpeningTest, APairIsOpenedByItsUseMdef)
     EXPECT_EQ(editor->joystickText(), u"USE MDEF macros.tmm\nBTN S1 Fire\n");
     EXPECT_EQ(editor->macroText(), u"Fire = SPC\n");
     EXPECT_EQ(editor->selected().kind, DocumentKind::Joystick);
-    EXPECT_EQ(status.text(), u"Done");
+    EXPECT_EQ(status.text(), u"Finished analysing the macros assigned in your joystick file.");
     EXPECT_EQ(editor->joystick().state, EditorDocument::Saved);
     EXPECT_EQ(editor->macro().state, EditorDocument::Saved);
 }
