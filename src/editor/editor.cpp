@@ -73,6 +73,9 @@ Editor::Editor(const Context &context, QWidget *parent)
     connectMacros();
     connect(m_keys.get(), &EditorKeys::helpOn, this, &Editor::helpOn);
     connect(m_view, &EditorView::selectionChanged, this, &Editor::updateConditions);
+    connect(m_view, &EditorView::tabSelected, this, &Editor::updateDownloadCaption);
+    connect(m_opening.get(), &FileOpening::loaded, this, &Editor::updateDownloadCaption);
+    connect(m_fresh.get(), &FileNew::joystickReplaced, this, &Editor::updateDownloadCaption);
     connect(QApplication::clipboard(), &QClipboard::dataChanged, this, &Editor::updateConditions);
     updateConditions();
 }
@@ -257,6 +260,15 @@ void Editor::updateConditions()
     m_actions->setCondition(When::JoystickText,
                             selected().kind == DocumentKind::Joystick
                                 || m_context.settings.AlwaysShowCompileDownload == 1);
+}
+
+void Editor::updateDownloadCaption()
+{
+    // Only a file of the Cougar's own kind goes to it; the others keep the plain words.
+    const bool named = lastThree(joystick().name) == u"tmj";
+    QString caption = named ? joystick().caption() : u"joystick file"_s;
+    caption.replace(u'&', u"&&"_s);
+    action(u"DownloadArray1_0")->setText(u"&Download "_s + caption);
 }
 
 void Editor::ResetFocusToEditor()

@@ -90,6 +90,7 @@ private:
     void connectPainting();
     void connectMacros();
     void updateConditions();
+    void updateDownloadCaption();
     void paste();
     void showLine(EditorDocument &document, int line);
 

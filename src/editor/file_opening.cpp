@@ -192,7 +192,7 @@ QString FileOpening::macroPathFor(const QString &joystickPath)
     const QString name = nameOf(joystickPath);
     const QString text = m_parts.view.document(DocumentKind::Joystick).control->text();
     if (const auto reference = lastMdefReference(text)) {
-        const QString named = existingPath(folder + macroNameFor(*reference, name));
+        QString named = existingPath(folder + macroNameFor(*reference, name));
         if (fileExists(named)) {
             return named;
         }

@@ -52,8 +52,7 @@ QString UseDirectives::found(QString &name) const
     if (name.isEmpty()) {
         return {};
     }
-    const QString path =
-        existingPath(folderOf(m_view.document(DocumentKind::Joystick).path) + name);
+    QString path = existingPath(folderOf(m_view.document(DocumentKind::Joystick).path) + name);
     if (path.isEmpty() || !fileExists(path)) {
         name.clear();
         return {};

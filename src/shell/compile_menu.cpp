@@ -64,7 +64,7 @@ CompileHost CompileMenu::host()
         showCompilerHelp(verdict);
     };
     host.minimiseToolWindows = [this] {
-        m_mum.toolWindows().minimiseAll();
+        m_mum.toolWindows().minimiseForCompiler();
     };
     host.unloadHelpers = [this] {
         m_mum.toolWindows().unload<CompilerHelp>();

@@ -7,12 +7,24 @@ namespace zeph {
 
 void ToolWindows::minimiseAll()
 {
+    m_minimised.append(minimiseOpen());
+}
+
+void ToolWindows::minimiseForCompiler()
+{
+    minimiseOpen();
+}
+
+QList<QPointer<QWidget>> ToolWindows::minimiseOpen()
+{
+    QList<QPointer<QWidget>> minimised;
     for (const auto &window : std::as_const(m_windows)) {
         if (window && !window->isHidden() && !window->isMinimized()) {
             window->showMinimized();
-            m_minimised.append(window);
+            minimised.append(window);
         }
     }
+    return minimised;
 }
 
 void ToolWindows::restoreAll()

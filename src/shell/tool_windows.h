@@ -64,6 +64,8 @@ public:
     /// All open windows go with the main window, and those come back with it.
     void minimiseAll();
     void restoreAll();
+    /// Out of the compiler's way: these stay minimised until the user restores them.
+    void minimiseForCompiler();
     void unloadAll();
     static void raise(QWidget &window);
 
@@ -74,6 +76,7 @@ Q_SIGNALS:
 private:
     template <class T> static size_t keyOf() { return std::type_index(typeid(T)).hash_code(); }
     void unload(size_t key);
+    QList<QPointer<QWidget>> minimiseOpen();
 
     QWidget *m_owner;
     QHash<size_t, QPointer<QWidget>> m_windows;

@@ -89,6 +89,16 @@ TEST_F(Tools, GoAndComeWithTheMainWindowByTheirOwnFlag)
     EXPECT_TRUE(saw->isHidden());
 }
 
+TEST_F(Tools, MinimisedForTheCompilerTheyStaySoWhenTheMainWindowComesBack)
+{
+    Hammer *hammer = openHammer();
+    windows.minimiseForCompiler();
+    EXPECT_TRUE(hammer->isMinimized());
+    windows.minimiseAll();
+    windows.restoreAll();
+    EXPECT_TRUE(hammer->isMinimized());
+}
+
 TEST_F(Tools, OneThatItsUserMinimisedStaysSo)
 {
     Hammer *hammer = openHammer();

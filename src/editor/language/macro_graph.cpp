@@ -47,7 +47,7 @@ int bytesOf(const Item &item)
 
 qint64 bodySize(const Source &source, const Body &body, const std::vector<qint64> &macroSizes)
 {
-    qint64 size = body.branches.size() * branchBytes;
+    qint64 size = qint64(body.branches.size()) * branchBytes;
     for (int index = body.items.first; index < body.items.end; ++index) {
         const Item &item = source.items[index];
         size += isCertainUse(item) ? macroSizes[size_t(item.reference)] : bytesOf(item);
