@@ -33,6 +33,9 @@ bool openRestored(Editor &editor, const GlobalSettings &settings)
         return false;
     }
     editor.opening().OpenRestoredStatus(joystick, macro);
+    if (!joystick.isEmpty() && !macro.isEmpty()) {
+        editor.actions().trigger(u"mnuMacrosIdentify");
+    }
     return true;
 }
 

@@ -7,6 +7,8 @@
 #include "editor/editor_actions.h"
 #include "editor/editor_view.h"
 #include "editor/file_opening.h"
+#include "editor/framemacros.h"
+#include "editor/macro_features.h"
 #include "platform/core/file_io.h"
 #include "shell/application.h"
 #include "shell/mum.h"
@@ -41,6 +43,14 @@ QPalette darkPalette()
         palette.setColor(QPalette::Disabled, role, QColor(130, 133, 137));
     }
     return palette;
+}
+
+/// Shows the macros under the first heading and selects one of them.
+void chooseMacro(Application &application)
+{
+    MacroList &macros = application.editor().macros().list();
+    macros.Combo1_Click(macros.table().MacroHeadings.value(1));
+    macros.frame()->list().setFocus();
 }
 
 /// Compiles a file of its own with a mistake in it, for the windows that explain mistakes.
@@ -135,6 +145,15 @@ void Tour::addStops(Application &application)
               application.editor().actions().trigger(u"mnuViewTileVertically");
               application.editor().view().select(DocumentKind::Macro);
           } },
+        { u"macro-list"_s,
+          [&application] {
+              application.editor().view().select(DocumentKind::Joystick);
+              chooseMacro(application);
+          } },
+        { u"macro-rename-done"_s,
+          [this] {
+              renameMacro();
+          } },
         { u"compile"_s,
           [&application] {
               application.editor().view().select(DocumentKind::Joystick);
@@ -173,6 +192,18 @@ void Tour::walk()
     // A stop may wait in an event loop of its own; the next one comes only after it.
     m_stops[m_next++].goThere();
     m_timer.start();
+}
+
+void Tour::renameMacro()
+{
+    // The window is modal: it is looked at and left from within.
+    QTimer::singleShot(pauseMs, this, [this] {
+        if (QWidget *window = QApplication::activeModalWidget()) {
+            grabAll(u"macro-rename"_s);
+            window->close();
+        }
+    });
+    m_application->editor().actions().trigger(u"mnuRenameMacro");
 }
 
 void Tour::compileSlowly()

@@ -58,6 +58,7 @@ private:
 
     void addStops(Application &application);
     void walk();
+    void renameMacro();
     void compileSlowly();
     void answerWelcome();
     void grab(QWidget &window, const QString &name) const;

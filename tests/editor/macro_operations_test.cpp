@@ -172,17 +172,6 @@ TEST_F(MacroOperationsTest, AnOpenedPairIsIdentified)
     EXPECT_EQ(status.text(), finished);
 }
 
-TEST_F(MacroOperationsTest, ARestoredPairIsIdentifiedOnce)
-{
-    QSignalSpy told(&status, &StatusLine::textChanged);
-    editor->opening().OpenRestoredStatus(file(u"p.tmj"_s, "BTN S1 Gun\r\n"),
-                                         file(u"p.tmm"_s, "Gun = b\r\n"));
-    EXPECT_EQ(ticked(), QStringList{ u"Gun"_s });
-    EXPECT_EQ(std::count_if(told.begin(), told.end(),
-                            [](const auto &each) { return each[0].toString() == finished; }),
-              1);
-}
-
 TEST_F(MacroOperationsTest, FindGoesFromUseToUseAndStartsAgain)
 {
     open("Rem Fire no\r\nBTN S1 Fire\r\nBTN S2 Fire)\r\n", "Fire = a\r\n");

@@ -5,6 +5,7 @@
 
 #include "editor/editor.h"
 #include "editor/editor_actions.h"
+#include "editor/macro_features.h"
 #include "editor/text_control.h"
 #include "shell/frmtip.h"
 #include "shell/help_menu.h"
@@ -22,10 +23,12 @@
 #include <QDir>
 #include <QFocusEvent>
 #include <QLineEdit>
+#include <QSignalSpy>
 #include <QStackedWidget>
 #include <QTest>
 #include <QTimer>
 
+#include <algorithm>
 #include <functional>
 
 using namespace zeph;
@@ -337,6 +340,27 @@ TEST_F(Start, AMacroFileOnTheCommandLineStaysInFront)
     ASSERT_TRUE(start());
     EXPECT_EQ(app->editor().macro().name, u"Alone.tmm");
     EXPECT_EQ(app->editor().selected().kind, DocumentKind::Macro);
+}
+
+TEST_F(Start, MacrosOfARestoredPairAreIdentifiedOnce)
+{
+    const QString joystick = folder.write(u"p.tmj"_s, "BTN S1 Gun\r\n");
+    const QString macro = folder.write(u"p.tmm"_s, "Gun = b\r\nIdle = i\r\n");
+    writeStore("[Miscellaneous]\r\nRestoreStatus=1\r\nRestoreJoyFile=" + joystick.toLocal8Bit()
+               + "\r\nRestoreMacroFile=" + macro.toLocal8Bit() + "\r\n");
+    app = application();
+    const QSignalSpy told(&app->status(), &StatusLine::textChanged);
+    ASSERT_TRUE(app->start());
+    EXPECT_EQ(std::count_if(told.begin(), told.end(),
+                            [](const auto &each) {
+                                return each[0].toString()
+                                    == u"Finished analysing the macros assigned in your joystick "
+                                       "file.";
+                            }),
+              1);
+    const MacroListModel &list = app->editor().macros().list().model();
+    EXPECT_TRUE(list.isTicked(u"Gun"_s));
+    EXPECT_FALSE(list.isTicked(u"Idle"_s));
 }
 
 TEST_F(Start, TheAutoloadFavouriteAppliesWithBothRestoreKeysEmpty)

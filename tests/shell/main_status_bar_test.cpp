@@ -6,9 +6,12 @@
 #include "platform/core/units.h"
 #include "tests/shell/shell_world.h"
 
+#include <QApplication>
+#include <QHelpEvent>
 #include <QLabel>
 #include <QSignalSpy>
 #include <QTest>
+#include <QToolTip>
 
 using namespace zeph;
 
@@ -47,6 +50,16 @@ TEST_F(StatusBarWindow, ShowsWhatAnyRoomWrites)
     EXPECT_EQ(panel(3)->text(), u"Line no: 12");
     EXPECT_EQ(panel(4)->toolTip(), u"My.tmj is saved");
     EXPECT_FALSE(panel(4)->pixmap().isNull());
+}
+
+TEST_F(StatusBarWindow, TellsWhatTheMacroListHoldsOverTheMessage)
+{
+    status.setTextTooltip(u"Contains 2 macros and "_s);
+    EXPECT_EQ(panel(1)->toolTip(), u"Contains 2 macros and ");
+    const QPoint at = panel(1)->geometry().center();
+    QHelpEvent asks(QEvent::ToolTip, at, bar->mapToGlobal(at));
+    QApplication::sendEvent(bar.get(), &asks);
+    EXPECT_EQ(QToolTip::text(), u"Contains 2 macros and ");
 }
 
 TEST_F(StatusBarWindow, ChangesItsPictures)

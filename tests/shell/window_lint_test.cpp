@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "editor/editor.h"
+#include "editor/macrorenameform.h"
 #include "shell/frmabout.h"
 #include "shell/frmtip.h"
 #include "shell/helpwindow.h"
@@ -33,7 +34,7 @@ namespace {
 
 bool isOfTheToolkit(const QWidget &control)
 {
-    return control.objectName().startsWith(u"qt_");
+    return control.objectName().startsWith(u"qt_") || control.inherits("QComboBoxPrivateContainer");
 }
 
 bool isOperated(const QWidget &control)
@@ -103,6 +104,10 @@ const LintCase cases[] = {
     { "Welcome",
       [](auto &w) {
           return std::make_unique<Welcome>(w.paths, w.dialogs, 100000);
+      } },
+    { "MacroRenameForm",
+      [](auto &w) {
+          return std::make_unique<MacroRenameForm>(w.dialogs, QStringList{ u"Fire"_s }, u"Fire"_s);
       } },
     { "Mum", makeMum },
 };
