@@ -54,13 +54,14 @@ void Highlighting::reformat(EditorDocument &document)
     control.setCharacterRuns({ { control.end(), m_parts.view.plainFormat(document.kind) } });
     m_parts.view.UpdateSavedIcon();
     m_context.status.setText(u"Layout refreshed ... (I wish I was!)"_s);
-    m_parts.histories.of(document.kind).storeTop();
 }
 
 void Highlighting::mnuViewReformat_Click()
 {
-    if (!m_parts.view.refuseProtected()) {
-        reformat(m_parts.view.selected());
+    EditorDocument &selected = m_parts.view.selected();
+    if (!m_parts.view.refuseProtected() && selected.control->end() > 0) {
+        reformat(selected);
+        m_parts.histories.of(selected.kind).storeTop();
     }
 }
 

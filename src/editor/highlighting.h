@@ -30,7 +30,8 @@ public:
     /// Sets font, size, plain colour and margin over the whole document, without bold, italic,
     /// underline and colours. An empty document stays as it is.
     void reformat(EditorDocument &document);
-    /// The same on the selected document, refused on a protected macro file.
+    /// The same on the selected document, its looks stored in the top undo slot. Refused on a
+    /// protected macro file.
     void mnuViewReformat_Click();
 
     /// Colours the whole document, stores its looks in the top undo slot and writes its coloured

@@ -89,6 +89,22 @@ void applyParagraphRuns(QTextCursor cursor, const std::vector<ParagraphRun> &run
     }
 }
 
+bool allParagraphsHave(const QTextDocument &document, const ParagraphFormat &format)
+{
+    const QTextBlockFormat wanted = toBlockFormat(format);
+    int good = -1;
+    for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
+        if (block.blockFormatIndex() == good) {
+            continue;
+        }
+        if (format.bullet || block.textList() || block.blockFormat() != wanted) {
+            return false;
+        }
+        good = block.blockFormatIndex();
+    }
+    return true;
+}
+
 /// Lays the parts of runs over the text where it looks otherwise.
 class RunPainter
 {
@@ -302,15 +318,12 @@ void applyCharacterRuns(QTextDocument &document, const std::vector<CharRun> &run
 
 void setParagraphFormat(QTextDocument &document, const ParagraphFormat &format)
 {
-    const int count = document.blockCount();
-    const std::vector<ParagraphRun> wanted = { { count, format } };
-    if (richTextOf(document).paragraphs == wanted) {
-        return;
+    if (!allParagraphsHave(document, format)) {
+        QTextCursor cursor(&document);
+        cursor.beginEditBlock();
+        setParagraphs(cursor, 0, document.blockCount(), format);
+        cursor.endEditBlock();
     }
-    QTextCursor cursor(&document);
-    cursor.beginEditBlock();
-    setParagraphs(cursor, 0, count, format);
-    cursor.endEditBlock();
 }
 
 } // namespace zeph
