@@ -32,7 +32,7 @@ std::optional<RichText> ColouredCopies::load(const QString &name, const QString 
     return *copy;
 }
 
-Expected<void, FileError> ColouredCopies::save(const EditorDocument &document) const
+Expected<void, FileError> ColouredCopies::SaveColouredText(const EditorDocument &document) const
 {
     return writeFileAtomically(pathOf(document.name), writeRtf(document.control->richText()));
 }

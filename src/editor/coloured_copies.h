@@ -21,7 +21,8 @@ public:
     /// font becomes the given one throughout, while colours, italics and underlines stay.
     std::optional<RichText> load(const QString &name, const QString &plainText,
                                  const CharFormat &font) const;
-    Expected<void, FileError> save(const EditorDocument &document) const;
+    /// Writes the copy of a document as it stands.
+    Expected<void, FileError> SaveColouredText(const EditorDocument &document) const;
 
 private:
     const Paths &m_paths;

@@ -5,6 +5,8 @@
 
 #include <QLocale>
 
+#include <algorithm>
+
 namespace zeph {
 
 QString stampText(const QDateTime &when)
@@ -28,6 +30,14 @@ std::optional<Stamp> modifiedStamp(QStringView text, const QDateTime &when)
         return Stamp{ behind, 0, u' ' + stampText(when) };
     }
     return Stamp{ behind + 1, lineEnd - behind - 1, stampText(when) };
+}
+
+qsizetype movedByStamp(const Stamp &stamp, qsizetype position)
+{
+    if (position >= stamp.start + stamp.length) {
+        return position > stamp.start ? position + stamp.text.size() - stamp.length : position;
+    }
+    return std::min(position, stamp.start + stamp.text.size());
 }
 
 } // namespace zeph

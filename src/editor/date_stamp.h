@@ -26,4 +26,8 @@ QString stampText(const QDateTime &when);
 /// has none.
 std::optional<Stamp> modifiedStamp(QStringView text, const QDateTime &when);
 
+/// Where a position of the text stands once the stamp is in: with the character that it stood
+/// before, or as far into the stamp as it was.
+qsizetype movedByStamp(const Stamp &stamp, qsizetype position);
+
 } // namespace zeph

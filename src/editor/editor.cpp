@@ -43,7 +43,7 @@ Editor::Editor(const Context &context, QWidget *parent)
           context,
           FileOpening::Parts{ *m_view, *m_copies, *m_highlighting, *m_useDirectives, *m_saving })),
       m_fresh(std::make_unique<FileNew>(context, *m_view, *m_opening, *m_useDirectives)),
-      m_keys(std::make_unique<EditorKeys>(*m_view, *m_actions)),
+      m_keys(std::make_unique<EditorKeys>(*m_view, *m_actions, context.settings)),
       m_rightMenu(std::make_unique<RightMenu>(*m_view, *m_actions))
 {
     setObjectName(u"Editor"_s);
@@ -55,6 +55,9 @@ Editor::Editor(const Context &context, QWidget *parent)
     connectOptions();
     connect(m_keys.get(), &EditorKeys::helpOn, this, &Editor::helpOn);
     connect(m_view, &EditorView::selectionChanged, this, &Editor::updateConditions);
+    connect(m_view, &EditorView::tabSelected, this, &Editor::updateDownloadCaption);
+    connect(m_opening.get(), &FileOpening::loaded, this, &Editor::updateDownloadCaption);
+    connect(m_fresh.get(), &FileNew::joystickReplaced, this, &Editor::updateDownloadCaption);
     connect(QApplication::clipboard(), &QClipboard::dataChanged, this, &Editor::updateConditions);
     updateConditions();
 }
@@ -163,6 +166,15 @@ void Editor::updateConditions()
     m_actions->setCondition(When::JoystickText,
                             selected().kind == DocumentKind::Joystick
                                 || m_context.settings.AlwaysShowCompileDownload == 1);
+}
+
+void Editor::updateDownloadCaption()
+{
+    // Only a file of the Cougar's own kind goes to it; the others keep the plain words.
+    const bool named = lastThree(joystick().name) == u"tmj";
+    QString caption = named ? joystick().caption() : u"joystick file"_s;
+    caption.replace(u'&', u"&&"_s);
+    action(u"DownloadArray1_0")->setText(u"&Download "_s + caption);
 }
 
 void Editor::ResetFocusToEditor()

@@ -76,6 +76,7 @@ private:
     void connectEditing();
     void connectOptions();
     void updateConditions();
+    void updateDownloadCaption();
     void paste();
     void showLine(EditorDocument &document, int line);
 

@@ -6,6 +6,7 @@
 #include "editor/editor_actions.h"
 #include "editor/editor_view.h"
 #include "editor/text_control.h"
+#include "shell/settings/global_settings.h"
 
 #include <QAction>
 #include <QKeyEvent>
@@ -52,7 +53,8 @@ constexpr std::array controlKeys = {
 
 } // namespace
 
-EditorKeys::EditorKeys(EditorView &view, EditorActions &actions) : m_view(view), m_actions(actions)
+EditorKeys::EditorKeys(EditorView &view, EditorActions &actions, const GlobalSettings &settings)
+    : m_view(view), m_actions(actions), m_settings(settings)
 {
     for (const DocumentKind kind : { DocumentKind::Joystick, DocumentKind::Macro }) {
         view.document(kind).control->installEventFilter(this);
@@ -103,7 +105,14 @@ bool EditorKeys::keyPressed(const QKeyEvent &event, bool macroText)
         help();
         return true;
     }
-    return m_actions.trigger(entryFor(event.key(), macroText));
+    QString entry = entryFor(event.key(), macroText);
+    if (event.key() == Qt::Key_K && m_settings.DefaultToDX8KeyTester == 1) {
+        entry = u"mnuAppsDX8_0"_s;
+    }
+    // Taken even when the entry cannot be used: some desktops give these keys to the toolkit for
+    // deleting lines.
+    m_actions.trigger(entry);
+    return true;
 }
 
 void EditorKeys::popUpInsertMenu()

@@ -11,6 +11,7 @@ namespace zeph {
 
 class EditorActions;
 class EditorView;
+struct GlobalSettings;
 
 /// What the keys do in the two texts beyond typing. With Ctrl alone held a key runs its menu entry,
 /// which may differ between the texts, and is swallowed.
@@ -18,7 +19,7 @@ class EditorKeys : public QObject
 {
     Q_OBJECT
 public:
-    EditorKeys(EditorView &view, EditorActions &actions);
+    EditorKeys(EditorView &view, EditorActions &actions, const GlobalSettings &settings);
 
     /// The entry behind Ctrl and a key in one of the texts; empty when there is none.
     static QString entryFor(int key, bool macroText);
@@ -38,6 +39,7 @@ private:
 
     EditorView &m_view;
     EditorActions &m_actions;
+    const GlobalSettings &m_settings;
 };
 
 } // namespace zeph

@@ -32,12 +32,13 @@ Box fileProtectedBox()
              BoxIcon::Exclamation };
 }
 
-QString tabStatus(const QString &current, const QString &caption)
+QString tabStatus(const QString &current, const QString &caption, bool isProtected)
 {
-    const QString editing = u"Editing "_s + caption;
-    const bool keep =
-        current.startsWith(u"Compile"_s) || current.contains(u'=') || current == editing;
-    return keep ? current : editing;
+    if (current.startsWith(u"Compile"_s) || current.contains(u'=')) {
+        return current;
+    }
+    return isProtected ? caption + u" is protected and can't be edited."_s
+                       : u"Editing "_s + caption;
 }
 
 QString savedTooltip(const EditorDocument &document)

@@ -21,7 +21,7 @@ Box fileProtectedBox();
 
 /// What panel 1 becomes when a tab is selected: a compiler's result, a macro's keys and the same
 /// text stay.
-QString tabStatus(const QString &current, const QString &caption);
+QString tabStatus(const QString &current, const QString &caption, bool isProtected = false);
 
 /// Tooltip of the saved state's picture.
 QString savedTooltip(const EditorDocument &document);

@@ -57,6 +57,7 @@ void EditorView::makeControl(DocumentKind kind, const QString &name)
     EditorDocument &each = document(kind);
     each.kind = kind;
     each.control = control;
+    connect(control, &TextControl::focused, this, [this, kind] { select(kind); });
     connect(control, &TextControl::textChanged, this, [this, kind] { onTextChanged(kind); });
     connect(control, &TextControl::cursorPositionChanged, this,
             [this, kind] { storeCaret(document(kind)); });
@@ -76,12 +77,10 @@ void EditorView::onTextChanged(DocumentKind kind)
 
 void EditorView::storeCaret(EditorDocument &each)
 {
-    if (ColouringBusy == 0) {
-        each.caret = each.control->selStart();
-        each.selLength = each.control->selLength();
-        if (&each == &selected()) {
-            m_context.status.setLine(each.control->caretLine());
-        }
+    each.caret = each.control->selStart();
+    each.selLength = each.control->selLength();
+    if (&each == &selected()) {
+        m_context.status.setLine(each.control->caretLine());
     }
 }
 
@@ -99,15 +98,15 @@ void EditorView::onTabChanged(int index)
     } else {
         PositionControls();
     }
-    const QString caption = now.caption();
-    if (m_selected == DocumentKind::Macro && m_protected) {
-        m_context.status.setText(caption + u" is protected and can't be edited."_s);
-    } else {
-        m_context.status.setText(tabStatus(m_context.status.text(), caption));
-    }
+    const bool isProtected = m_selected == DocumentKind::Macro && m_protected;
+    m_context.status.setText(tabStatus(m_context.status.text(), now.caption(), isProtected));
     UpdateSavedIcon();
     now.control->setFocus();
-    now.control->select(now.caret, now.selLength);
+    if (now.caret != now.control->selStart() || now.selLength != now.control->selLength()) {
+        // Only then: selecting scrolls, and a click into the other of two tiled texts has to hit
+        // what the user sees.
+        now.control->select(now.caret, now.selLength);
+    }
     m_context.status.setLine(now.control->caretLine());
     Q_EMIT tabSelected(m_selected);
     Q_EMIT selectionChanged();
@@ -147,7 +146,7 @@ void EditorView::PositionControls()
 void EditorView::setProtected(bool on)
 {
     m_protected = on;
-    document(DocumentKind::Macro).control->setReadOnly(on);
+    document(DocumentKind::Macro).control->setLocked(on);
     m_tabs->setTabIcon(1,
                        iconFromFile(m_context.paths.inApp(on ? u"icons/tab-protected.svg"
                                                              : u"icons/tab-macro.svg")));

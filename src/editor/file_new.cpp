@@ -85,13 +85,13 @@ void FileNew::rewriteUntitled()
             m_view.renameFresh(kind);
         }
     }
+    m_view.UpdateSavedIcon();
 }
 
 void FileNew::HardwareHasChanged()
 {
     rewriteUntitled();
     m_view.updateCaptions();
-    m_view.UpdateSavedIcon();
 }
 
 } // namespace zeph

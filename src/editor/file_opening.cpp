@@ -25,6 +25,9 @@ const QString beforeJoystick = u" has changed and isn't saved. Do you want to sa
 const QString beforeMacro = u" has changed and isn't saved. Do you want to save it before opening "
                             "a different macro file?"_s;
 
+const QString joystickNotOpened = u"Joystick file not opened"_s;
+const QString macroNotOpened = u"Macro file not opened"_s;
+
 } // namespace
 
 FileOpening::FileOpening(const Context &context, const Parts &parts)
@@ -91,7 +94,7 @@ void FileOpening::mnuFileJoystickLoad_Click(const std::optional<QString> &fileTo
               u"tmj"_s, DocumentKind::Joystick);
     if (path) {
         m_context.status.setText(u"Opening joystick file"_s);
-        load(DocumentKind::Joystick, *path);
+        loadOrTell(DocumentKind::Joystick, *path);
     }
 }
 
@@ -110,7 +113,7 @@ void FileOpening::MnuFileMacroLoad_Click(const std::optional<QString> &fileToOpe
         return;
     }
     m_context.status.setText(u"Opening file"_s);
-    if (load(DocumentKind::Macro, *path)) {
+    if (loadOrTell(DocumentKind::Macro, *path)) {
         m_context.status.setText(u"Finished"_s);
     }
 }
@@ -143,34 +146,34 @@ void FileOpening::mnuFileOpen_Click(const std::optional<QString> &fileToOpen)
 
 void FileOpening::openJoystickOf(const QString &macroPath)
 {
-    if (!load(DocumentKind::Macro, macroPath)) {
+    if (!loadOrTell(DocumentKind::Macro, macroPath)) {
         return;
     }
     m_context.status.setText(u"Finished opening up macro file and extracting macros from it"_s);
     const QString name = nameOf(macroPath);
     const QString joystickPath =
         existingPath(folderOf(macroPath) + baseWithDot(name) + joystickExtensionFor(name));
-    if (joystickPath.isEmpty()) {
-        m_context.status.setText(u"Joystick file not opened"_s);
+    if (!fileExists(joystickPath)) {
+        m_context.status.setText(joystickNotOpened);
         return;
     }
-    load(DocumentKind::Joystick, joystickPath);
+    loadOrTell(DocumentKind::Joystick, joystickPath);
 }
 
 void FileOpening::openMacroOf(const QString &joystickPath)
 {
     EditorView &view = m_parts.view;
-    if (!load(DocumentKind::Joystick, joystickPath)) {
+    if (!loadOrTell(DocumentKind::Joystick, joystickPath)) {
         return;
     }
     m_context.status.setText(u"Looking for associated macro file"_s);
     const QString macroPath = macroPathFor(joystickPath);
     if (macroPath.isEmpty()) {
-        m_context.status.setText(u"Macro file not opened"_s);
+        m_context.status.setText(macroNotOpened);
         view.select(DocumentKind::Joystick);
         return;
     }
-    if (!load(DocumentKind::Macro, macroPath)) {
+    if (!loadOrTell(DocumentKind::Macro, macroPath)) {
         view.select(DocumentKind::Joystick);
         return;
     }
@@ -196,6 +199,18 @@ QString FileOpening::macroPathFor(const QString &joystickPath)
     }
     const QString sameName = existingPath(folder + baseWithDot(name) + macroExtensionFor(name));
     return fileExists(sameName) ? sameName : QString();
+}
+
+bool FileOpening::loadOrTell(DocumentKind kind, const QString &path)
+{
+    // The dialog goes and the status shows before the long work.
+    m_context.status.setTextNow(m_context.status.text());
+    const bool done = load(kind, path);
+    if (!done) {
+        m_context.status.setText(kind == DocumentKind::Joystick ? joystickNotOpened
+                                                                : macroNotOpened);
+    }
+    return done;
 }
 
 bool FileOpening::load(DocumentKind kind, const QString &wantedPath)
@@ -279,15 +294,12 @@ bool FileOpening::OpenRestoredStatus(const QString &joystickFile, const QString 
 {
     bool any = false;
     if (!joystickFile.isEmpty() && fileExists(joystickFile)) {
-        mnuFileJoystickLoad_Click(joystickFile);
+        OpenFavouriteFile(joystickFile);
         any = true;
     }
     if (!macroFile.isEmpty() && fileExists(macroFile)) {
-        MnuFileMacroLoad_Click(macroFile);
+        OpenFavouriteFile(macroFile);
         any = true;
-    }
-    if (!joystickFile.isEmpty() && !macroFile.isEmpty()) {
-        Q_EMIT pairLoaded();
     }
     return any;
 }

@@ -59,6 +59,8 @@ Q_SIGNALS:
 
 private:
     bool load(DocumentKind kind, const QString &path);
+    /// As load(); a failure also stands on the status line.
+    bool loadOrTell(DocumentKind kind, const QString &path);
     void show(EditorDocument &document, const QString &text);
     std::optional<QString> ask(const QString &title, const QString &filter,
                                const QString &extension, DocumentKind kind);

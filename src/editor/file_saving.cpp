@@ -66,11 +66,18 @@ void FileSaving::mnuFileSaveAs_Click()
     const auto chosen = m_context.dialogs.saveFile(
         { u"Save file as ..."_s, look.filter.toString(), look.extension.toString(),
           m_context.paths.filesFolder(), proposedName(document) });
-    if (!chosen || !mayOverwrite(*chosen)) {
+    if (!chosen) {
+        return;
+    }
+    // A file whose name differs in nothing but case is the one that is overwritten: the tools that
+    // read it would never tell the two apart.
+    const QString existing = existingPath(*chosen);
+    const QString path = existing.isEmpty() ? *chosen : existing;
+    if (!mayOverwrite(path)) {
         return;
     }
     const QString oldPath = document.path;
-    m_view.rename(document, *chosen);
+    m_view.rename(document, path);
     SaveText(document);
     if (document.state != EditorDocument::Saved) {
         // The text still belongs to the file that it came from.
@@ -130,7 +137,7 @@ void FileSaving::SaveText(EditorDocument &document)
     if (m_context.settings.UpdateModified == 1) {
         ModifyDate(document);
     }
-    const QTextCursor selection = control.textCursor();
+    const TextControl::Place place = control.place();
     if (const auto done = writeFileAtomically(document.path, documentBytes(control.text()));
         !done) {
         m_view.setState(document, EditorDocument::Modified);
@@ -142,18 +149,31 @@ void FileSaving::SaveText(EditorDocument &document)
                                BoxIcon::Stop);
         return;
     }
+    tellOtherDocument(document);
     QString status = document.path + u" saved successfully."_s;
     m_view.setState(document, EditorDocument::Saved);
     m_view.UpdateSavedIcon();
-    if (const auto copied = m_copies.save(document); !copied) {
+    if (const auto copied = m_copies.SaveColouredText(document); !copied) {
         status += u" Its coloured copy wasn't: "_s + copied.error().reason;
     }
     m_context.status.setText(status);
     if (document.kind == DocumentKind::Joystick) {
         m_directives.GetUSEZephstatements();
     }
-    control.setTextCursor(selection);
+    control.setPlace(place);
     Q_EMIT saved(document.kind, document.path);
+}
+
+void FileSaving::tellOtherDocument(const EditorDocument &saved)
+{
+    EditorDocument &other = m_view.document(
+        saved.kind == DocumentKind::Macro ? DocumentKind::Joystick : DocumentKind::Macro);
+    // Nobody keeps the user from saving one document over the other's file. What the other one
+    // holds is then on no disk any more.
+    if (other.state == EditorDocument::Saved && other.path == saved.path
+        && other.control->text() != saved.control->text()) {
+        m_view.setState(other, EditorDocument::Modified);
+    }
 }
 
 bool FileSaving::encodable(EditorDocument &document)
@@ -164,16 +184,18 @@ bool FileSaving::encodable(EditorDocument &document)
         return true;
     }
     const qsizetype line = QStringView(text).left(stranger).count(u'\n') + 1;
+    // Beyond the first plane a character is two units, which only together can be shown.
+    const qsizetype units = text[stranger].isHighSurrogate() && stranger + 1 < text.size() ? 2 : 1;
     m_view.setState(document, EditorDocument::Modified);
     m_context.dialogs.tell(
         u"There's a letter in there that I can't write"_s,
-        document.path + u" wasn't saved: the character \""_s + text[stranger] + u"\" in line "_s
-            + QString::number(line)
+        document.path + u" wasn't saved: the character \""_s + text.mid(stranger, units)
+            + u"\" in line "_s + QString::number(line)
             + u" doesn't exist in the Windows-1252 alphabet, which is all that the Thrustmaster "
               "software reads. I've selected it for you, so change it and save again."_s,
         BoxIcon::Exclamation);
     m_view.select(document.kind);
-    document.control->select(int(stranger), 1);
+    document.control->select(int(stranger), int(units));
     return false;
 }
 
@@ -184,7 +206,11 @@ void FileSaving::ModifyDate(EditorDocument &document)
         return;
     }
     const BusyGuard busy(m_view);
+    TextControl::Place place = document.control->place();
     document.control->replace(int(stamp->start), int(stamp->length), stamp->text);
+    place.anchor = int(movedByStamp(*stamp, place.anchor));
+    place.caret = int(movedByStamp(*stamp, place.caret));
+    document.control->setPlace(place);
 }
 
 } // namespace zeph

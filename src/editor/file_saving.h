@@ -41,6 +41,7 @@ private:
     bool encodable(EditorDocument &document);
     QString proposedName(const EditorDocument &document);
     bool mayOverwrite(const QString &path);
+    void tellOtherDocument(const EditorDocument &saved);
 
     Context m_context;
     EditorView &m_view;

@@ -25,7 +25,7 @@ void Highlighting::mnuViewReformat_Click(EditorDocument &document)
 
 void Highlighting::ApplyColourHighlighting(EditorDocument &document)
 {
-    if (auto saved = m_copies.save(document); !saved) {
+    if (auto saved = m_copies.SaveColouredText(document); !saved) {
         m_context.status.setText(u"The coloured copy couldn't be written: "_s + saved.error().path
                                  + u": "_s + saved.error().reason);
     }

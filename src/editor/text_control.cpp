@@ -6,7 +6,10 @@
 #include "platform/rich_text_document.h"
 
 #include <QMimeData>
+#include <QScrollBar>
 #include <QTextBlock>
+
+#include <algorithm>
 
 namespace zeph {
 
@@ -95,6 +98,40 @@ int TextControl::caretLine() const
     return textCursor().blockNumber() + 1;
 }
 
+TextControl::Place TextControl::place() const
+{
+    const QTextCursor cursor = textCursor();
+    return { cursor.anchor(), cursor.position(), horizontalScrollBar()->value(),
+             verticalScrollBar()->value() };
+}
+
+void TextControl::setPlace(const Place &place)
+{
+    const int last = document()->characterCount() - 1;
+    QTextCursor cursor(document());
+    cursor.setPosition(qBound(0, place.anchor, last));
+    cursor.setPosition(qBound(0, place.caret, last), QTextCursor::KeepAnchor);
+    setTextCursor(cursor);
+    // Setting the caret has brought it into view, where it need not have been.
+    horizontalScrollBar()->setValue(place.across);
+    verticalScrollBar()->setValue(place.down);
+}
+
+void TextControl::setLocked(bool on)
+{
+    setReadOnly(on);
+    if (on) {
+        // The toolkit's read-only text has no caret of its own accord.
+        setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    }
+}
+
+void TextControl::focusInEvent(QFocusEvent *event)
+{
+    QPlainTextEdit::focusInEvent(event);
+    Q_EMIT focused();
+}
+
 void TextControl::keyPressEvent(QKeyEvent *event)
 {
     const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
@@ -106,6 +143,19 @@ void TextControl::keyPressEvent(QKeyEvent *event)
         return;
     }
     QPlainTextEdit::keyPressEvent(event);
+}
+
+QMimeData *TextControl::createMimeDataFromSelection() const
+{
+    QMimeData *selection = QPlainTextEdit::createMimeDataFromSelection();
+    QString text = textCursor().selectedText();
+    QChar *const end = text.data() + text.size();
+    std::replace_if(text.data(), end, isBlockBorder, QChar(u'\n'));
+    // The toolkit gives its text only when asked, and over what was set before: ask first. Its own
+    // has blanks for no-break spaces, which are letters of the file.
+    (void)selection->text();
+    selection->setText(text);
+    return selection;
 }
 
 bool TextControl::canInsertFromMimeData(const QMimeData *source) const

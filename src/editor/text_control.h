@@ -36,8 +36,27 @@ public:
     /// 1-based line of the caret.
     int caretLine() const;
 
+    /// Where the user is in the text: the selection, with its direction, and what is seen of it.
+    struct Place {
+        int anchor = 0;
+        int caret = 0;
+        int across = 0; ///< of the scroll bars
+        int down = 0;
+    };
+    Place place() const;
+    void setPlace(const Place &place);
+
+    /// Guards the text against the user; the caret still moves and text can still be selected.
+    void setLocked(bool on);
+
+Q_SIGNALS:
+    /// The text has got the focus.
+    void focused();
+
 protected:
+    void focusInEvent(QFocusEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
+    QMimeData *createMimeDataFromSelection() const override;
     bool canInsertFromMimeData(const QMimeData *source) const override;
     void insertFromMimeData(const QMimeData *source) override;
 

@@ -5,6 +5,7 @@
 
 #include "editor/editor_view.h"
 #include "editor/text_control.h"
+#include "shell/settings/global_settings.h"
 
 namespace zeph {
 
@@ -27,6 +28,13 @@ void UseDirectives::GetUSEZephstatements()
     GetUSEstatements();
     m_imageFilePath = found(m_statements.ZephGraphic);
     m_textFilePath = found(m_statements.ZephReadme);
+    // The viewers show these next; a file that names none leaves them what they had.
+    if (!m_imageFilePath.isEmpty()) {
+        m_context.settings.ImageFilePath = m_imageFilePath;
+    }
+    if (!m_textFilePath.isEmpty()) {
+        m_context.settings.TextFilePath = m_textFilePath;
+    }
     m_view.document(DocumentKind::Joystick).control->select(0, 0);
     Q_EMIT filesChanged();
 }

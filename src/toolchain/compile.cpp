@@ -25,8 +25,8 @@ void Compile::mnuAppsCompile_Click()
     if (!canBegin() || !saveJoystick() || !macroFileMayDiffer()) {
         return;
     }
-    m_host.minimiseToolWindows();
     m_host.unloadHelpers();
+    m_host.minimiseToolWindows();
     // The user may open another file during the wait: the verdict is about this one.
     const QString path = m_host.joystick().path;
     m_handshake.setStatusCaption(u"Compiling "_s + m_host.joystick().caption());

@@ -53,3 +53,15 @@ TEST(DateStamp, AnEmptyStampGetsItsBlank)
     EXPECT_EQ(stamped(u"Last modified:\nx"_s, morning),
               u"Last modified: 05 March 2024, 9:07 am\nx");
 }
+
+TEST(DateStamp, PositionsMoveWithTheTextBehindTheStamp)
+{
+    const Stamp stamp{ 10, 2, u"abcde"_s };
+    EXPECT_EQ(movedByStamp(stamp, 3), 3);
+    EXPECT_EQ(movedByStamp(stamp, 10), 10);
+    EXPECT_EQ(movedByStamp(stamp, 11), 11);
+    EXPECT_EQ(movedByStamp(stamp, 12), 15);
+    EXPECT_EQ(movedByStamp(stamp, 20), 23);
+    EXPECT_EQ(movedByStamp(Stamp{ 10, 8, u"abc"_s }, 16), 13);
+    EXPECT_EQ(movedByStamp(Stamp{ 10, 0, u"abc"_s }, 10), 10);
+}

@@ -222,6 +222,31 @@ TEST_F(EditorWindowTest, EachControlKeyHasItsEntryInEachText)
     }
 }
 
+TEST_F(EditorWindowTest, CtrlKOpensTheKeyTesterThatTheUserPrefers)
+{
+    QSignalSpy tester(editor->action(u"mnuAppsKeyTester"), &QAction::triggered);
+    QSignalSpy directX(editor->action(u"mnuAppsDX8_0"), &QAction::triggered);
+    editor->action(u"mnuAppsKeyTester")->setEnabled(true);
+    editor->action(u"mnuAppsDX8_0")->setEnabled(true);
+    QTest::keyClick(joystick(), Qt::Key_K, Qt::ControlModifier);
+    EXPECT_EQ(tester.count(), 1);
+    settings.DefaultToDX8KeyTester = 1;
+    QTest::keyClick(joystick(), Qt::Key_K, Qt::ControlModifier);
+    EXPECT_EQ(tester.count(), 1);
+    EXPECT_EQ(directX.count(), 1);
+}
+
+TEST_F(EditorWindowTest, ACommandThatCannotBeUsedLeavesNothingForTheToolkit)
+{
+    editor->action(u"mnuAppsKeyTester")->setEnabled(false);
+    QKeyEvent press(QEvent::KeyPress, Qt::Key_K, Qt::ControlModifier);
+    QCoreApplication::sendEvent(joystick(), &press);
+    EXPECT_TRUE(press.isAccepted());
+    QKeyEvent other(QEvent::KeyPress, Qt::Key_Q, Qt::ControlModifier);
+    QCoreApplication::sendEvent(joystick(), &other);
+    EXPECT_FALSE(other.isAccepted());
+}
+
 TEST_F(EditorWindowTest, EscapePopsUpTheInsertMenuWithoutItsTip)
 {
     QMenu *menu = editor->actions().menu(u"mnuInsert");
@@ -306,6 +331,15 @@ TEST_F(EditorWindowTest, CompileIsOfferedOnTheJoystickTabOnlyUnlessAlwaysShown)
     settings.AlwaysShowCompileDownload = 1;
     editor->applySettings();
     EXPECT_TRUE(editor->action(u"mnuAppsCompile")->isEnabled());
+}
+
+TEST_F(EditorWindowTest, TheDownloadEntryNamesTheJoystickFileOfTheCougarsOwnKind)
+{
+    editor->opening().OpenFavouriteFile(file(u"FALCON.TMJ"_s, "BTN"));
+    tabs()->setCurrentIndex(1);
+    EXPECT_EQ(editor->action(u"DownloadArray1_0")->text(), u"&Download FALCON.tmj");
+    editor->opening().OpenFavouriteFile(file(u"old.f22"_s, "BTN"));
+    EXPECT_EQ(editor->action(u"DownloadArray1_0")->text(), u"&Download joystick file");
 }
 
 TEST_F(EditorWindowTest, AnErrorLineOfTheJoystickFileIsSelected)

@@ -51,6 +51,32 @@ TEST(ProgramCompile, TheSamplePairCompilesToSuccess)
     EXPECT_TRUE(program.exists(u"Rtf/Sample flight.tmj"_s));
 }
 
+TEST(ProgramCompile, AnUntitledFileEntersTheSavesOwnSaveAsAndCancellingItEndsTheCompile)
+{
+    Program program;
+    program.settle();
+    const QStringList notes =
+        program.run({ u"type JoystickText BTN S1 a"_s, u"trigger mnuAppsCompile"_s,
+                      u"window Save file as ..."_s, u"press Cancel"_s,
+                      u"box Hang on a minute ..."_s, u"press Yes"_s, u"gone Hang on a minute ..."_s,
+                      u"close"_s, u"box  Save Untitled.tmj now?"_s, u"press No"_s });
+    EXPECT_THAT(lines(notes),
+                Contains(HasSubstr("The joystick file isn't saved, which it needs to be for me to "
+                                   "be able to compile it")));
+    EXPECT_FALSE(program.exists(u"Files/Untitled.tmj"_s));
+}
+
+TEST(ProgramCompile, AnUntitledFileThatGetsANameIsCompiledUnderIt)
+{
+    Program program;
+    program.settle();
+    const QString path = program.file(u"Files/new.tmj"_s);
+    const QStringList notes = program.run(
+        { u"type JoystickText BTN S1 a"_s, u"trigger mnuAppsCompile"_s, u"file "_s + path,
+          u"box File successfully compiled!"_s, u"press OK"_s, u"close"_s });
+    EXPECT_THAT(lines(notes), Contains(HasSubstr(path.toStdString() + " compiled successfully.")));
+}
+
 TEST(ProgramCompile, AnErrorInTheJoystickFileIsExplainedAndItsLineSelected)
 {
     Program program;

@@ -9,6 +9,8 @@
 
 #include <gtest/gtest.h>
 
+#include <random>
+
 using namespace zeph;
 using namespace zeph::standin;
 
@@ -64,9 +66,41 @@ TEST_F(Compiler, TellsTheFirstMistakeWithItsLine)
 
 TEST_F(Compiler, CountsLinesWhateverEndsThey)
 {
-    const QString file = folder.write(u"a.tmj"_s, "BTN S1 a\rBTN S2 b\nBTN S9 c");
-    run(u"/CO"_s, file);
-    EXPECT_EQ(value(u"LineNumber"_s), u"3");
+    const QByteArrayList files{
+        "BTN S1 a\r\nBTN S2 b\r\n\r\nBTN S9 c\r\n",
+        "BTN S1 a\n~BTN S8 b\n\nBTN S9 c\n",
+        "BTN S1 a\r  b Rem ( \r\rBTN S9 c",
+        "BTN S1 a\rBTN S2 b\n\r\nBTN S9 c",
+        "BTN S1 a\r\r\n\r\nBTN S9 c",
+        QByteArray::fromHex("0ca0200a001a0a0985810a0b") + "BTN S9 c",
+    };
+    for (const QByteArray &bytes : files) {
+        run(u"/CO"_s, folder.write(u"a.tmj"_s, bytes));
+        EXPECT_TRUE(value(u"ErrorCode"_s).startsWith(u"ERROR 1002")) << bytes.toStdString();
+        EXPECT_EQ(value(u"LineNumber"_s), u"4") << bytes.toStdString();
+    }
+}
+
+TEST_F(Compiler, HasAVerdictOnWhateverBytesTheFilesHold)
+{
+    std::mt19937 random(20240314);
+    std::uniform_int_distribution<int> pick(0, 255);
+    for (int round = 0; round < 100; ++round) {
+        QByteArray bytes(2000, 0);
+        for (char &byte : bytes)
+            byte = char(pick(random));
+        folder.write(u"a.tmm"_s, bytes);
+        const int exitCode = run(u"/CO"_s, folder.write(u"a.tmj"_s, bytes)).exitCode;
+        EXPECT_EQ(value(u"Status"_s), exitCode == 0 ? u"OK" : u"ERROR");
+        EXPECT_EQ(value(u"ErrorCode"_s).startsWith(u"ERROR "), exitCode == 1);
+    }
+}
+
+TEST_F(Compiler, TellsALineBehindAHugeOne)
+{
+    run(u"/CO"_s,
+        folder.write(u"a.tmj"_s, "BTN S1 " + QByteArray("a ").repeated(500'000) + "\r\nBTN S9"));
+    EXPECT_EQ(value(u"LineNumber"_s), u"2");
 }
 
 TEST_F(Compiler, TellsAMistakeOfTheMacroFileWithItsOwnLine)

@@ -124,7 +124,7 @@ TEST_F(CompileTest, AChangedFileIsSavedWithoutAQuestion)
     compile();
     EXPECT_EQ(
         done,
-        (QStringList{ u"joystick tab"_s, u"save"_s, u"minimise"_s, u"unload"_s, u"focus"_s }));
+        (QStringList{ u"joystick tab"_s, u"save"_s, u"unload"_s, u"minimise"_s, u"focus"_s }));
     EXPECT_EQ(launcher.launches.size(), 1);
 }
 
@@ -207,7 +207,7 @@ TEST_F(CompileTest, SuccessIsToldAndTheFocusGoesBack)
     ASSERT_EQ(dialogs.boxes().size(), 1);
     EXPECT_EQ(dialogs.boxes()[0].text,
               joystick.path + u" compiled successfully.\n\nCompile time: 0.5s.\nMemory used: 4%"_s);
-    EXPECT_EQ(done, (QStringList{ u"minimise"_s, u"unload"_s, u"focus"_s }));
+    EXPECT_EQ(done, (QStringList{ u"unload"_s, u"minimise"_s, u"focus"_s }));
 }
 
 TEST_F(CompileTest, ASuccessWithALineIsSuccessAndHighlightsNothing)
@@ -215,7 +215,7 @@ TEST_F(CompileTest, ASuccessWithALineIsSuccessAndHighlightsNothing)
     lineWritten = u"5"_s;
     dialogs.answer(success, BoxButton::Ok);
     compile();
-    EXPECT_EQ(done, (QStringList{ u"minimise"_s, u"unload"_s, u"focus"_s }));
+    EXPECT_EQ(done, (QStringList{ u"unload"_s, u"minimise"_s, u"focus"_s }));
 }
 
 TEST_F(CompileTest, AnErrorOpensItsHelpAndShowsItsLine)
@@ -225,7 +225,7 @@ TEST_F(CompileTest, AnErrorOpensItsHelpAndShowsItsLine)
     compile();
     EXPECT_EQ(status.text(), u"Compiler reported an error at line 5: ERROR 1013: bad macro");
     EXPECT_EQ(done,
-              (QStringList{ u"minimise"_s, u"unload"_s, u"help ERROR 1013: bad macro"_s,
+              (QStringList{ u"unload"_s, u"minimise"_s, u"help ERROR 1013: bad macro"_s,
                             u"highlight 5 ERROR 1013: bad macro"_s }));
 }
 
@@ -234,7 +234,7 @@ TEST_F(CompileTest, AnErrorWithoutALineOpensItsHelpOnly)
     statusWritten = u"ERROR"_s;
     compile();
     EXPECT_EQ(status.text(), u"Compiler reported the following error: ERROR 1013: bad macro");
-    EXPECT_EQ(done, (QStringList{ u"minimise"_s, u"unload"_s, u"help ERROR 1013: bad macro"_s }));
+    EXPECT_EQ(done, (QStringList{ u"unload"_s, u"minimise"_s, u"help ERROR 1013: bad macro"_s }));
 }
 
 TEST_F(CompileTest, WithTheStatusBarAloneAFailureShowsNoWindowYetItsLine)
@@ -245,7 +245,7 @@ TEST_F(CompileTest, WithTheStatusBarAloneAFailureShowsNoWindowYetItsLine)
     compile();
     EXPECT_EQ(status.text(), u"Compiler reported an error at line 5: ERROR 1013: bad macro");
     EXPECT_EQ(done,
-              (QStringList{ u"minimise"_s, u"unload"_s, u"highlight 5 ERROR 1013: bad macro"_s }));
+              (QStringList{ u"unload"_s, u"minimise"_s, u"highlight 5 ERROR 1013: bad macro"_s }));
 }
 
 TEST_F(CompileTest, WithTheStatusBarAloneASuccessComesWithoutABox)
@@ -268,7 +268,7 @@ TEST_F(CompileTest, ASilentCompilerIsToldTwiceAsTimeOutAndAsUnknownResult)
     EXPECT_EQ(dialogs.boxes()[1].title, u"Unknown result");
     EXPECT_EQ(dialogs.boxes()[1].icon, BoxIcon::Exclamation);
     EXPECT_EQ(status.text(), u"Control returned to you");
-    EXPECT_EQ(done, (QStringList{ u"minimise"_s, u"unload"_s }));
+    EXPECT_EQ(done, (QStringList{ u"unload"_s, u"minimise"_s }));
 }
 
 TEST_F(CompileTest, AVerdictThatComesDuringTheTimeOutMessageIsTold)
@@ -333,6 +333,6 @@ TEST_F(CompileTest, ClosingTheProgramDuringTheWaitTellsNothing)
         handshake.reset();
     });
     compileCommand->mnuAppsCompile_Click();
-    EXPECT_EQ(done, (QStringList{ u"minimise"_s, u"unload"_s }));
+    EXPECT_EQ(done, (QStringList{ u"unload"_s, u"minimise"_s }));
     EXPECT_EQ(status.text(), u"");
 }

@@ -55,8 +55,9 @@ BodyParser::BodyParser(Source &source, const WordMap &macros)
 {
 }
 
-void BodyParser::begin()
+void BodyParser::begin(Holds holds)
 {
+    m_holds = holds;
     m_body.items = { int(m_source.items.size()), 0 };
     m_body.branches = { int(m_source.branches.size()), 0 };
     m_open.clear();
@@ -69,8 +70,13 @@ void BodyParser::begin()
 
 Body BodyParser::finish()
 {
+    for (const OpenBracket &bracket : m_open) {
+        if (!mayBeKey(bracket)) {
+            complain(bracket.place, true);
+            break;
+        }
+    }
     while (!m_open.empty()) {
-        complain(m_open.front().place, true);
         Item &item = m_source.items[m_open.back().item];
         item.endItem = int(m_source.items.size());
         const Place &last = m_source.items.last().place;
@@ -127,6 +133,8 @@ void BodyParser::readWord(qsizetype from, qsizetype to)
     const size_t hash = foldedHash(word);
     const WordInfo info = wordInfo(word, hash);
     const bool isKey = word.size() == 1 || info.is(KeyRole) || info.is(ModifierKeyRole);
+    if (info.is(StatementRole) && m_open.empty() && sameWord(word, u"BTN"))
+        leaveModifiers();
     if (const int macro = m_macros.value(word, hash); macro >= 0) {
         Item &item = m_source.items[add(ItemKind::MacroUse, from, to)];
         item.reference = macro;
@@ -274,7 +282,15 @@ void BodyParser::open(qsizetype at)
 
 void BodyParser::close(qsizetype at)
 {
-    if (m_open.empty() || m_open.back().closing != m_text[at].unicode()) {
+    const char16_t closing = m_text[at].unicode();
+    while (!m_open.empty() && m_open.back().closing != closing && m_holds == Holds::Keys
+           && standsAlone(m_open.back().place.position) && isBehindModifierKey(m_open.back().item))
+        m_open.pop_back();
+    if (m_open.empty() || m_open.back().closing != closing) {
+        if (mayBeKey(at)) {
+            add(ItemKind::Key, at, at + 1);
+            return;
+        }
         complain(m_open.empty() ? placeOf(at, at + 1) : m_open.back().place, !m_open.empty());
         return;
     }
@@ -304,6 +320,63 @@ bool BodyParser::isKeyBracket(qsizetype at) const
     const QChar before = m_text[at - 1];
     const bool standsAlone = isBlank(before) || before == u'(';
     return standsAlone && at + 1 < m_end && m_text[at + 1] == u')';
+}
+
+bool BodyParser::standsAlone(qsizetype at) const
+{
+    return (at == 0 || isBlank(m_text[at - 1]))
+        && (at + 1 == m_text.size() || isBlank(m_text[at + 1]));
+}
+
+bool BodyParser::isBehindModifierKey(int item) const
+{
+    return item > m_body.items.first && m_source.items[item - 1].kind == ItemKind::ModifierKey;
+}
+
+// The keyboard window writes "CTL (" and "/P ( /R a" for the key. An open bracket that found no
+// partner is taken for it where nothing can belong to a group: in front of the end, and in front of
+// a modifier that ends the branch.
+bool BodyParser::mayBeKey(const OpenBracket &bracket) const
+{
+    if (m_holds != Holds::Keys || !standsAlone(bracket.place.position)
+        || m_source.items[bracket.item].kind != ItemKind::Group)
+        return false;
+    const int next = bracket.item + 1;
+    if (isBehindModifierKey(bracket.item) || next == m_source.items.size())
+        return true;
+    const Item &behind = m_source.items[next];
+    if (behind.kind != ItemKind::Slash)
+        return false;
+    for (int at = 0; at < bracket.chain.size; ++at) {
+        if (levelOf(bracket.chain.links[size_t(at)].modifier) == levelOf(behind.reference))
+            return true;
+    }
+    return false;
+}
+
+// A closing one without a partner is a key where no group can have gone before it.
+bool BodyParser::mayBeKey(qsizetype closing) const
+{
+    if (m_holds != Holds::Keys || !standsAlone(closing))
+        return false;
+    const int item = int(m_source.items.size());
+    if (isBehindModifierKey(item))
+        return true;
+    return m_open.empty()
+        && (item == m_body.items.first || m_source.items[item - 1].kind == ItemKind::Slash);
+}
+
+bool BodyParser::isInBrackets() const
+{
+    return !m_open.empty() && !(mayBeKey(m_open.front()) && mayBeKey(m_open.back()));
+}
+
+// What stands behind another BTN is under no modifier of the one before.
+void BodyParser::leaveModifiers()
+{
+    endBranch();
+    m_chain = {};
+    m_outFirst = {};
 }
 
 void BodyParser::complain(const Place &place, bool opening)

@@ -18,11 +18,16 @@ public:
     /// Both must outlive the parser. The macros' values are indices in MacroFile::macros.
     BodyParser(Source &source, const WordMap &macros);
 
-    void begin();
+    /// What a body is made of: only where keys stand, a bracket can be one.
+    enum class Holds : quint8 { Keys, Arguments };
+
+    void begin(Holds holds);
     /// Reads the stretch of a line from position up to end, comment cut off already.
     void read(qsizetype position, qsizetype end, int line);
     /// Takes the character there as a key, whatever it is.
     void readKey(qsizetype position, int line);
+    /// Whether a bracket is open that is certainly no key.
+    bool isInBrackets() const;
     /// Closes what is open and gives the body.
     Body finish();
 
@@ -42,12 +47,17 @@ private:
     void open(qsizetype at);
     void close(qsizetype at);
     bool isKeyBracket(qsizetype at) const;
+    bool standsAlone(qsizetype at) const;
+    bool isBehindModifierKey(int item) const;
+    bool mayBeKey(const OpenBracket &bracket) const;
+    bool mayBeKey(qsizetype closing) const;
     int callBefore(qsizetype at) const;
     void complain(const Place &place, bool opening);
     int add(ItemKind kind, qsizetype from, qsizetype to);
     void enter(int modifier, int item);
     void startBranch(int slashItem);
     void endBranch();
+    void leaveModifiers();
     Place placeOf(qsizetype from, qsizetype to) const { return { from, to - from, m_line }; }
 
     Source &m_source;
@@ -57,6 +67,7 @@ private:
     int m_line = 1;
 
     Body m_body;
+    Holds m_holds = Holds::Keys;
     std::vector<OpenBracket> m_open;
     Chain m_chain;
     /// For each link of the chain: the S3 modifier that came first at its level was /O.

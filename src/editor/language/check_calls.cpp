@@ -120,23 +120,27 @@ bool isIn(Words words, QStringView word)
 Arguments argumentsOf(const Source &source, const Item &item)
 {
     const QStringView text(source.text);
-    const qsizetype open = item.kind == ItemKind::Group ? item.place.position
-                                                        : text.indexOf(u'(', item.place.position);
-    const qsizetype end = item.place.end() - 1;
     Arguments arguments;
-    int line = item.place.line
-        + int(text.sliced(item.place.position, open - item.place.position).count(u'\n'));
-    for (qsizetype from = open + 1; from <= end;) {
-        const qsizetype comma = text.first(end).indexOf(u',', from);
-        const qsizetype to = comma < 0 ? end : comma;
-        const qsizetype first = skipBlanks(text.first(to), from);
-        const qsizetype last = from + trimmedEnd(text.sliced(from, to - from));
-        line += int(text.sliced(from, first - from).count(u'\n'));
-        const qsizetype length = std::max<qsizetype>(0, last - first);
-        arguments.append({ text.sliced(first, length), { first, length, line } });
-        line += int(text.sliced(first, to - first).count(u'\n'));
-        from = to + 1;
+    Place place{ item.place.position, 0, item.place.line };
+    bool begun = false;
+    const auto end = [&] {
+        arguments.append({ text.sliced(place.position, place.length), place });
+    };
+    const int first = int(&item - source.items.constData()) + 1;
+    for (int index = first; index < item.endItem; index = source.items[index].endItem) {
+        const Item &part = source.items[index];
+        if (part.kind == ItemKind::Comma) {
+            end();
+            place = { part.place.end(), 0, part.place.line };
+            begun = false;
+            continue;
+        }
+        if (!begun)
+            place = part.place;
+        begun = true;
+        place.length = part.place.end() - place.position;
     }
+    end();
     return arguments;
 }
 

@@ -81,8 +81,12 @@ void checkAxesConfiguration(Reporter &reporter, const Statement &statement, UseB
     std::array<bool, lastDirectXAxis + 1> used{};
     bool understood = true;
     while (const Item *item = body.next()) {
-        if (item->kind != ItemKind::Group || !item->closed)
+        if (item->kind != ItemKind::Group)
             continue;
+        if (!item->closed) {
+            understood = false;
+            continue;
+        }
         const Arguments arguments = argumentsOf(reporter.source(), *item);
         const std::optional<int> number = wholeNumber(arguments[0].text);
         if (arguments.size() != 2 || !number) {
@@ -144,9 +148,11 @@ void checkAssignment(Reporter &reporter, UseBody body)
     const QStringView word = body.word(role);
     const bool toButton = word.startsWith(u"DX", Qt::CaseInsensitive);
     const bool needsControl = toButton || sameWord(word, u"SHIFTBTN");
-    const bool isControl = info.is(ControlRole);
     const bool isAxis = info.is(AxisRole) || info.is(AxisGroupRole);
-    if (!isControl && (needsControl || (!isAxis && !info.is(HatRole))))
+    // A flag works like a button. Other words of the language may have roles that are not known.
+    const bool isPossible =
+        info.is(ControlRole) || flagNumber(nameWord) || (!needsControl && info.roles != NoRole);
+    if (!isPossible)
         reporter.report(UnknownControl, name->place, u"There is no control %1"_s.arg(nameWord));
     if (toButton)
         checkDirectXButton(reporter, *role, word);

@@ -135,9 +135,9 @@ void checkScreen(Reporter &reporter, const JoystickFile &joystick)
             return;
     }
     for (const Item &item : joystick.items) {
-        if (item.kind != ItemKind::Call || joystick.at(item).contains(u'%'))
-            continue;
-        if (callForms()[size_t(item.reference)].shape == CallShape::Screen) {
+        const bool isScreen = item.kind == ItemKind::Call
+            && callForms()[size_t(item.reference)].shape == CallShape::Screen;
+        if (isScreen && !joystick.at(item).contains(u'%')) {
             reporter.report(NoScreenResolution, item.place,
                             u"There is no USE SCREEN_RESOLUTION statement"_s);
             return;

@@ -64,6 +64,8 @@ private:
             at = start(line, keywordEnd);
         } else if (!m_open) {
             open(StatementKind::Unknown, line);
+        } else if (m_nameIsDue) {
+            at = startWithName(line, line.first);
         }
         m_body.read(at, line.codeEnd, line.number);
         m_statement.place.length = line.codeEnd - m_statement.place.position;
@@ -79,7 +81,11 @@ private:
         if (!ends || end - line.first < 2)
             return 0;
         const QStringView word = code.sliced(line.first, end - line.first);
-        return wordInfo(word).is(StatementRole) ? end : 0;
+        if (!wordInfo(word).is(StatementRole))
+            return 0;
+        // RATE and the axes are words of bodies too.
+        const bool goesOn = m_open && m_body.isInBrackets() && !beginsAnywhere(word);
+        return goesOn ? 0 : end;
     }
 
     void open(StatementKind kind, const Line &line)
@@ -87,8 +93,21 @@ private:
         m_statement = {};
         m_statement.kind = kind;
         m_statement.place = { line.first, 0, line.number };
-        m_body.begin();
+        m_body.begin(holdsKeys(kind) ? BodyParser::Holds::Keys : BodyParser::Holds::Arguments);
+        m_nameIsDue = false;
         m_open = true;
+    }
+
+    static bool beginsAnywhere(QStringView keyword)
+    {
+        return sameWord(keyword, u"BTN") || sameWord(keyword, u"DEF") || sameWord(keyword, u"USE");
+    }
+
+    static bool holdsKeys(StatementKind kind)
+    {
+        using enum StatementKind;
+        return kind == Button || kind == FlagButton || kind == Axis || kind == Legacy
+            || kind == Unknown;
     }
 
     // Gives the position at which the body begins.
@@ -125,6 +144,7 @@ private:
         while (to < code.size() && isWordCharacter(code[to]) && slashAt(code, to) < 0)
             ++to;
         m_statement.subject = { from, to - from, line.number };
+        m_nameIsDue = from == code.size();
         const bool isFlag = flagNumber(code.sliced(from, to - from)).has_value();
         if (isFlag && m_statement.kind == StatementKind::Button)
             m_statement.kind = StatementKind::FlagButton;
@@ -170,6 +190,8 @@ private:
     BodyParser m_body;
     Statement m_statement;
     bool m_open = false;
+    /// The line ended behind BTN or DEF, so the name stands on a line below.
+    bool m_nameIsDue = false;
 };
 
 } // namespace

@@ -28,6 +28,11 @@ class LineReader
 {
 public:
     explicit LineReader(QStringView text) : m_text(text) { }
+    /// Begins behind the line of that number, which ends at `end`.
+    LineReader(QStringView text, qsizetype end, int number)
+        : m_text(text), m_at(end + 1), m_number(number)
+    {
+    }
 
     /// The next line, or false behind the last one.
     bool next(Line &line);

@@ -70,6 +70,25 @@ void addMacro(MacroFile &file, const Line &line)
     file.macros.append(macro);
 }
 
+// Keys in brackets may run over several lines. The first line that cannot be one of them ends it.
+void readLinesInBrackets(BodyParser &parser, const MacroFile &file, const Place &macro)
+{
+    const QStringView text(file.text);
+    const qsizetype lineEnd = text.indexOf(u'\n', macro.end());
+    if (lineEnd < 0)
+        return;
+    LineReader reader(text, lineEnd, macro.line);
+    Line line;
+    while (parser.isInBrackets() && reader.next(line)) {
+        const QStringView whole = wholeLine(file, line);
+        if (isDropped(whole) || isComment(whole))
+            continue;
+        if (whole.contains(u'='))
+            return;
+        parser.read(line.first, line.codeEnd, line.number);
+    }
+}
+
 } // namespace
 
 void findMacros(MacroFile &file)
@@ -102,7 +121,7 @@ void parseMacroBodies(MacroFile &file, const WordMap &macros)
     BodyParser parser(file, macros);
     const QStringView text(file.text);
     for (Macro &macro : file.macros) {
-        parser.begin();
+        parser.begin(BodyParser::Holds::Keys);
         const qsizetype from = text.indexOf(u'=', macro.place.position) + 1;
         const qsizetype end = macro.place.end();
         // With nothing but one bracket behind the "=", that bracket is the key.
@@ -111,6 +130,7 @@ void parseMacroBodies(MacroFile &file, const WordMap &macros)
             parser.readKey(first, macro.place.line);
         else
             parser.read(from, end, macro.place.line);
+        readLinesInBrackets(parser, file, macro.place);
         macro.body = parser.finish();
     }
 }

@@ -40,7 +40,8 @@ struct Argument {
 
 using Arguments = QVarLengthArray<Argument, 4>;
 
-/// What stands between the brackets of a call or group, split at its commas and trimmed.
+/// What stands between the brackets of a call or group, split at its own commas and trimmed; at
+/// least one. The item must be one of the source's.
 Arguments argumentsOf(const Source &source, const Item &item);
 
 bool isIn(Words words, QStringView word);

@@ -80,16 +80,17 @@ std::optional<int> wholeNumber(QStringView text)
     const bool negative = text.startsWith(u'-');
     if (negative || text.startsWith(u'+'))
         text = text.sliced(1);
-    // Nine digits always fit; nothing in the language comes near them.
-    if (text.isEmpty() || text.size() > 9)
+    if (text.isEmpty())
         return {};
-    int value = 0;
+    // Nothing in the language comes near this, so all that is larger may be as large.
+    constexpr qint64 largest = 999'999'999;
+    qint64 value = 0;
     for (const QChar c : text) {
         if (c < u'0' || c > u'9')
             return {};
-        value = value * 10 + (c.unicode() - u'0');
+        value = std::min(largest, value * 10 + (c.unicode() - u'0'));
     }
-    return negative ? -value : value;
+    return int(negative ? -value : value);
 }
 
 } // namespace zeph::language

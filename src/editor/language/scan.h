@@ -55,6 +55,7 @@ int slashAt(QStringView line, qsizetype at);
 bool sameWord(QStringView left, QStringView right);
 
 /// A whole number with an optional sign; a "%" behind it is dropped. Anything else has no value.
+/// Numbers beyond nine digits give the largest one of nine.
 std::optional<int> wholeNumber(QStringView text);
 
 } // namespace zeph::language

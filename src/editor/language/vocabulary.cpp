@@ -71,7 +71,9 @@ WordInfo wordInfo(QStringView word, size_t hash)
 
 WordInfo wordInfo(QStringView word)
 {
-    return wordInfo(word, foldedHash(word));
+    // Arguments come here whole, with all the brackets that may stand in them.
+    constexpr qsizetype longerThanAnyWord = 64;
+    return word.size() < longerThanAnyWord ? wordInfo(word, foldedHash(word)) : WordInfo{};
 }
 
 std::optional<int> flagNumber(QStringView word)

@@ -178,6 +178,29 @@ const QList<QString> composed{
     u"BTN S1 /P USB(DE1 D04) /R USB(U04 UE1) Rem 'SHF a'"_s,
     u"BTN S1 USB (D04 U04)"_s,
     u"BTN S1 CTL ALT SHF DEL"_s,
+    // Shifted symbols written as themselves.
+    u"BTN S1 ( "_s,
+    u"BTN S1 ) "_s,
+    u"BTN S1 SPC < "_s,
+    u"BTN S1 CTL ( "_s,
+    u"BTN S1 ALT } x"_s,
+    u"BTN S1 { CTL ( }"_s,
+    u"BTN S1 /P ( /R a"_s,
+    u"BTN S1 /I /P { /O /R a"_s,
+    u"BTN S1 /I ( \nTHR 3 a ^ b"_s,
+    u"THR 2 6 ( ) { } < >"_s,
+    // Statements over several lines.
+    u"BTN\n S1 a"_s,
+    u"BTN Rem the trigger\n\n TG1 /I a\n /O b"_s,
+    u"DEF\n X1 S1"_s,
+    u"BTN S1 { a\n RATE (50) b }"_s,
+    u"BTN S1 /P < KD(a)\n   CURVE (THR, 3) >"_s,
+    u"USE AXES_CONFIG (1, JOYX), (2,\nJOYY)"_s,
+    u"USE AXES_CONFIG (1, JOYX), Rem first\n (2, Rem second\n JOYY)"_s,
+    u"BTN S1 /O a BTN S2 /I b"_s,
+    // Roles that nothing is known of.
+    u"USE X1 AS DX5"_s,
+    u"USE POV AS JOYSTICK"_s,
     // What the tools leave alone.
     u"BTN PortB1 a"_s,
     u"JSX 1 2 3\nJSY 4\nSWAPTG\nPORTB a"_s,
@@ -214,6 +237,10 @@ const QList<Wrong> wrongs{
     { u"BTN /U a"_s, UnknownControl, 1, u"BTN"_s },
     { u"DEF X1 T11 AND S1"_s, UnknownControl, 1, u"T11"_s },
     { u"USE S9 AS DX4"_s, UnknownControl, 1, u"S9"_s },
+    { u"BTN\n T11 a"_s, UnknownControl, 2, u"T11"_s },
+    { u"BTN\nBTN S1 a"_s, UnknownControl, 1, u"BTN"_s },
+    { u"BTN\n /U a"_s, UnknownControl, 1, u"BTN"_s },
+    { u"USE POV AS DX5"_s, UnknownControl, 1, u"POV"_s },
     { u"USE HAT5 AS POV"_s, UnknownControl, 1, u"HAT5"_s },
     { u"USE JOYX AS SHIFTBTN"_s, UnknownControl, 1, u"JOYX"_s },
     { u"SHIFTBTN (S5)"_s, UnknownControl, 1, u"S5"_s },
@@ -230,6 +257,8 @@ const QList<Wrong> wrongs{
     { u"BTN X49 a"_s, UnknownFlag, 1, u"X49"_s },
     { u"DEF T1 S1"_s, UnknownFlag, 1, u"T1"_s },
     { u"DEF"_s, UnknownFlag, 1, u"DEF"_s },
+    { u"DEF X99999999999 S1"_s, UnknownFlag, 1, u"X99999999999"_s },
+    { u"USE X49 AS DX5"_s, UnknownFlag, 1, u"X49"_s },
     { u"DEF X1 X2 AND\n (X3 OR X50)"_s, UnknownFlag, 2, u"X50"_s },
     // Brackets.
     { u"BTN S1 (a"_s, StrayBracketCode, 1, u"("_s },
@@ -237,9 +266,20 @@ const QList<Wrong> wrongs{
     { u"BTN S1 /U {a\n       /D b\nBTN S2 c"_s, StrayBracketCode, 1, u"{"_s },
     { u"BTN S1 a\n  < b } >"_s, StrayBracketCode, 2, u"<"_s },
     { u"BTN S1 DLY(60"_s, StrayBracketCode, 1, u"("_s },
+    { u"BTN S1 { a"_s, StrayBracketCode, 1, u"{"_s },
+    { u"BTN S1 a }"_s, StrayBracketCode, 1, u"}"_s },
+    { u"BTN S1 { /U a\n /D b"_s, StrayBracketCode, 1, u"{"_s },
+    { u"BTN S1 /I { /U a\n /D b"_s, StrayBracketCode, 1, u"{"_s },
+    { u"DEF X1 ) AND S1"_s, StrayBracketCode, 1, u")"_s },
+    { u"DEF X1 S1 AND ("_s, StrayBracketCode, 1, u"("_s },
+    { u"BTN S1 (a\nRATE (5)\nBTN S2 b"_s, StrayBracketCode, 1, u"("_s },
+    { u"USE AXES_CONFIG (1, JOYX), (2, JOYY"_s, StrayBracketCode, 1, u"("_s },
+    { u"USE CURVE (THR, 3"_s, StrayBracketCode, 1, u"("_s },
     { u"BTN S1 ( < ) >"_s, StrayBracketCode, 1, u"<"_s },
     // Digital axes.
     { u"THR 7 a b c"_s, UnknownAxisType, 1, u"7"_s },
+    { u"THR 99999999999 a"_s, UnknownAxisType, 1, u"99999999999"_s },
+    { u"THR 5 99999999999 (0 100) a"_s, BandCount, 1, u"99999999999"_s },
     { u"THR 0 a b c"_s, UnknownAxisType, 1, u"0"_s },
     { u"THR /U 3 a ^ b\n    /D 9 a"_s, UnknownAxisType, 2, u"9"_s },
     { u"THR 5 3 (0 50 100) a b c"_s, BandCount, 1, u"(0 50 100)"_s },
@@ -256,6 +296,8 @@ const QList<Wrong> wrongs{
     // Values.
     { u"USE CURVE (THR, 33)"_s, ValueOutOfRange, 1, u"33"_s },
     { u"BTN S1 CURVE (THR,\n -33)"_s, ValueOutOfRange, 2, u"-33"_s },
+    { u"BTN S1 CURVE (THR, Rem gentle\n Rem or not\n 33)"_s, ValueOutOfRange, 3, u"33"_s },
+    { u"USE CURVE (THR, 99999999999)"_s, ValueOutOfRange, 1, u"99999999999"_s },
     { u"BTN S1 TRIM (JOYX, 128+)"_s, ValueOutOfRange, 1, u"128+"_s },
     { u"BTN S1 TRIM (JOYX, -128)"_s, ValueOutOfRange, 1, u"-128"_s },
     { u"USE HAT1 AS MOUSE (128)"_s, ValueOutOfRange, 1, u"128"_s },
@@ -351,6 +393,16 @@ TEST(MacroFindings, AreAllOneThousandAndThirteenWithTheMacroFilesLine)
     }
 }
 
+TEST(MacroFindings, KeysInBracketsMayRunOverLines)
+{
+    expectClean({}, u"Fire = {a b\n  Rem (still open\n\n ~\n c d} \nNext = KD (a\n  b)"_s);
+    expectClean({}, u"Fire = CTL (\nNext = SHF <\nLast = ALT { DLY(20) b"_s);
+    const QList<Finding> findings = check(parsePair({}, u"Fire = {a\n b\nNext = c }"_s));
+    ASSERT_EQ(findings.size(), 2);
+    EXPECT_EQ(findings[0].place.line, 1);
+    EXPECT_EQ(findings[1].place.line, 3);
+}
+
 TEST(MacroFindings, AMacroThatCallsItselfIsAMistake)
 {
     const FilePair pair = parsePair({}, u"Alone = Alone\nFirst = b Second\nSecond = First\n"_s);
@@ -387,7 +439,7 @@ TEST(Findings, JoystickFileFirstThenInTextOrder)
 TEST(Findings, OneBracketAStatementIsTold)
 {
     EXPECT_EQ(check(parsePair(u"BTN S1 ((( a ]]} > )"_s, {})).size(), 1);
-    EXPECT_EQ(check(parsePair(u"BTN S1 (\nBTN S2 ("_s, {})).size(), 2);
+    EXPECT_EQ(check(parsePair(u"BTN S1 (a\nBTN S2 (b"_s, {})).size(), 2);
 }
 
 TEST(Findings, EveryCodeHasItsEntry)

@@ -57,7 +57,15 @@ TEST(WholeNumber, IsDigitsWithASignAndAPercentAtMost)
     EXPECT_FALSE(wholeNumber(u"%"));
     EXPECT_FALSE(wholeNumber(u"3a"));
     EXPECT_FALSE(wholeNumber(u"2+"));
-    EXPECT_FALSE(wholeNumber(u"99999999999999999999"));
+    EXPECT_FALSE(wholeNumber(u"99999999999999999999a"));
+}
+
+TEST(WholeNumber, StaysALargeOneHoweverManyDigits)
+{
+    EXPECT_EQ(wholeNumber(u"999999999"), 999'999'999);
+    EXPECT_EQ(wholeNumber(u"99999999999999999999"), 999'999'999);
+    EXPECT_EQ(wholeNumber(u"-99999999999999999999%"), -999'999'999);
+    EXPECT_EQ(wholeNumber(u"00000000000000000032"), 32);
 }
 
 TEST(LineReader, GivesWhatCountsOfEachLine)

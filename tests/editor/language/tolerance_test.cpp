@@ -115,6 +115,18 @@ TEST(Tolerance, AnySequenceOfTheLanguagesPieces)
     }
 }
 
+// A time that grows with the square of the depth would run into the test's limit.
+TEST(Tolerance, DeepCallsAreCheckedInOnePass)
+{
+    const int depth = 200'000;
+    for (const QString &call : { u"LOCK (THR, "_s, u"SWAP ("_s, u"MOUSEXY (%"_s }) {
+        const QString deep = u"BTN S1 "_s + call.repeated(depth) + QString(depth, u')');
+        const FilePair pair = parsePair(deep, {});
+        EXPECT_TRUE(check(pair).isEmpty()) << call.toStdString();
+        EXPECT_TRUE(pair.joystick.items.constFirst().closed);
+    }
+}
+
 TEST(Tolerance, DeepNestingNeedsNoStack)
 {
     const QString deep = u"BTN S1 "_s + QString(300'000, u'{') + QString(300'000, u'}');
