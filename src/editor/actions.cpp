@@ -60,8 +60,8 @@ constexpr std::array actions = {
     line(u"mnuFile"),
     ActionRow{u"mnuFile", u"mnuFileExit", u"E&xit Zeph", u"", u"Leaves Zeph, after asking about unsaved files", u"exit", Always, Entry},
 
-    ActionRow{u"mnuEdit", u"mnuEditUndo", u"&Undo", u"Ctrl+Z", u"Takes the last change back", u"undo", Later, Entry},
-    ActionRow{u"mnuEdit", u"mnuEditRedo", u"&Redo", u"Ctrl+Y", u"Makes a change again that was taken back", u"redo", Later, Entry},
+    ActionRow{u"mnuEdit", u"mnuEditUndo", u"&Undo", u"Ctrl+Z", u"Takes the last change back", u"undo", Custom, Entry},
+    ActionRow{u"mnuEdit", u"mnuEditRedo", u"&Redo", u"Ctrl+Y", u"Makes a change again that was taken back", u"redo", Custom, Entry},
     line(u"mnuEdit"),
     ActionRow{u"mnuEdit", u"mnuEditCut", u"Cu&t", u"Ctrl+X", u"Moves the selection to the clipboard", u"cut", Selection, Entry},
     ActionRow{u"mnuEdit", u"mnuEditCopy", u"&Copy", u"Ctrl+C", u"Copies the selection to the clipboard", u"copy", Selection, Entry},
@@ -69,7 +69,7 @@ constexpr std::array actions = {
     ActionRow{u"mnuEdit", u"mnuPasteSimple", u"Paste as &simple text", u"", u"Inserts the clipboard's text without its looks", u"", Later, Entry},
     ActionRow{u"mnuEdit", u"mnuEditDelete", u"&Delete", u"", u"Deletes the selection", u"delete", Selection, Entry},
     ActionRow{u"mnuEdit", u"mnuEditSelectAll", u"Select &all", u"Ctrl+A", u"Selects the whole file", u"", Always, Entry},
-    ActionRow{u"mnuEdit", u"mnuEditSelectLine", u"Select &line", u"", u"Selects the caret's line", u"", Later, Entry},
+    ActionRow{u"mnuEdit", u"mnuEditSelectLine", u"Select &line", u"", u"Selects the caret's line", u"", Always, Entry},
     line(u"mnuEdit"),
     ActionRow{u"mnuEdit", u"mnuEditFind", u"&Find ...", u"Ctrl+F", u"Finds a word or phrase in a file", u"find", Later, Entry},
     ActionRow{u"mnuEdit", u"mnuEditReplace", u"R&eplace ...", u"Ctrl+R", u"Finds a word or phrase and puts another in its place", u"replace", Later, Entry},
@@ -80,6 +80,8 @@ constexpr std::array actions = {
 
     ActionRow{u"mnuView", u"mnuViewTileVertically", u"&Tile files vertically", u"", u"Shows both files side by side", u"tile", Always, Tick},
     ActionRow{u"mnuView", u"mnuViewMacros", u"View &Macro list", u"", u"Shows or hides the macro list", u"macros-view", Later, Tick},
+    ActionRow{u"mnuView", u"mnuViewLineNumbers", u"Line &numbers", u"", u"Numbers the lines at the left of the texts", u"", Always, Tick},
+    ActionRow{u"mnuView", u"mnuViewCurrentLine", u"Mar&k the caret's line", u"", u"Marks the line that the caret is in", u"", Always, Tick},
     line(u"mnuView"),
     ActionRow{u"mnuView", u"mnuViewColourJoystick", u"Apply colour to &joystick file", u"", u"Colours the joystick file's statements", u"colour", Later, Entry},
     ActionRow{u"mnuView", u"mnuViewColourMacro", u"Apply colour to ma&cro file", u"", u"Colours the macro file", u"colour", Later, Entry},

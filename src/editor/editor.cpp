@@ -15,6 +15,7 @@
 #include "editor/right_menu.h"
 #include "editor/text_control.h"
 #include "editor/text_lines.h"
+#include "editor/undo_history.h"
 #include "editor/use_directives.h"
 #include "platform/dialogs.h"
 #include "platform/status_line.h"
@@ -44,7 +45,9 @@ Editor::Editor(const Context &context, QWidget *parent)
           FileOpening::Parts{ *m_view, *m_copies, *m_highlighting, *m_useDirectives, *m_saving })),
       m_fresh(std::make_unique<FileNew>(context, *m_view, *m_opening, *m_useDirectives)),
       m_keys(std::make_unique<EditorKeys>(*m_view, *m_actions, context.settings)),
-      m_rightMenu(std::make_unique<RightMenu>(*m_view, *m_actions))
+      m_rightMenu(std::make_unique<RightMenu>(*m_view, *m_actions)),
+      // Behind the keys: a line that blinks has to be let go before a key's entry runs.
+      m_undos(std::make_unique<UndoHistories>(context, *m_view, *m_actions))
 {
     setObjectName(u"Editor"_s);
     auto *layout = new QVBoxLayout(this);
@@ -53,6 +56,8 @@ Editor::Editor(const Context &context, QWidget *parent)
     connectFiles();
     connectEditing();
     connectOptions();
+    connectUndo();
+    connectLooks();
     connect(m_keys.get(), &EditorKeys::helpOn, this, &Editor::helpOn);
     connect(m_view, &EditorView::selectionChanged, this, &Editor::updateConditions);
     connect(m_view, &EditorView::tabSelected, this, &Editor::updateDownloadCaption);
@@ -151,6 +156,39 @@ void Editor::connectOptions()
     });
 }
 
+void Editor::connectUndo()
+{
+    UndoHistories *undos = m_undos.get();
+    connect(m_opening.get(), &FileOpening::loaded, undos, &UndoHistories::startOver);
+    connect(m_fresh.get(), &FileNew::joystickReplaced, undos,
+            [undos] { undos->startOver(DocumentKind::Joystick); });
+    connect(m_fresh.get(), &FileNew::macroReplaced, undos,
+            [undos] { undos->startOver(DocumentKind::Macro); });
+    connect(m_saving.get(), &FileSaving::written, undos, [this, undos](DocumentKind kind) {
+        if (m_context.settings.UndoClearOnSave != 1) {
+            return;
+        }
+        if (kind == DocumentKind::Joystick) {
+            undos->DeleteUndosOnSaveJ();
+        } else {
+            undos->DeleteUndosOnSaveM();
+        }
+    });
+}
+
+void Editor::connectLooks()
+{
+    EditorActions &on = *m_actions;
+    on.connectTo(u"mnuViewLineNumbers", [this] {
+        m_context.settings.LineNumbers = action(u"mnuViewLineNumbers")->isChecked();
+        applySettings();
+    });
+    on.connectTo(u"mnuViewCurrentLine", [this] {
+        m_context.settings.CurrentLineMark = action(u"mnuViewCurrentLine")->isChecked();
+        applySettings();
+    });
+}
+
 void Editor::paste()
 {
     if (!m_view->refuseProtected()) {
@@ -235,6 +273,8 @@ void Editor::applySettings()
     action(u"mnuViewTileVertically")->setChecked(settings.TileFiles == 1);
     m_opening->OpenSingleFileOnly = settings.OpenSingleFileOnly == 1;
     action(u"mnuJoyPopUpSingleFile")->setChecked(m_opening->OpenSingleFileOnly);
+    action(u"mnuViewLineNumbers")->setChecked(settings.LineNumbers == 1);
+    action(u"mnuViewCurrentLine")->setChecked(settings.CurrentLineMark == 1);
     updateConditions();
 }
 

@@ -23,6 +23,7 @@ class FileOpening;
 class FileSaving;
 class Highlighting;
 class RightMenu;
+class UndoHistories;
 class UseDirectives;
 
 /// The permanent child of the main window: the two documents and all working menus. Only a
@@ -51,6 +52,7 @@ public:
     FileNew &fresh() { return *m_fresh; }
     UseDirectives &useDirectives() { return *m_useDirectives; }
     RightMenu &rightMenu() { return *m_rightMenu; }
+    UndoHistories &undos() { return *m_undos; }
 
     /// Gives the focus back to the selected document.
     void ResetFocusToEditor();
@@ -75,6 +77,8 @@ private:
     void connectFiles();
     void connectEditing();
     void connectOptions();
+    void connectUndo();
+    void connectLooks();
     void updateConditions();
     void updateDownloadCaption();
     void paste();
@@ -91,6 +95,7 @@ private:
     std::unique_ptr<FileNew> m_fresh;
     std::unique_ptr<EditorKeys> m_keys;
     std::unique_ptr<RightMenu> m_rightMenu;
+    std::unique_ptr<UndoHistories> m_undos;
 };
 
 } // namespace zeph

@@ -216,6 +216,8 @@ void EditorView::applyLook()
         each.control->setLook(each.kind == DocumentKind::Joystick ? settings.BackgroundColour
                                                                   : settings.MacroBackgroundColour,
                               plainFormat(each.kind));
+        each.control->showLineNumbers(settings.LineNumbers == 1);
+        each.control->showCurrentLine(settings.CurrentLineMark == 1);
     }
 }
 

@@ -150,6 +150,7 @@ void FileSaving::SaveText(EditorDocument &document)
         return;
     }
     tellOtherDocument(document);
+    Q_EMIT written(document.kind);
     QString status = document.path + u" saved successfully."_s;
     m_view.setState(document, EditorDocument::Saved);
     m_view.UpdateSavedIcon();

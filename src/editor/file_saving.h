@@ -34,6 +34,8 @@ public:
     void ModifyDate(EditorDocument &document);
 
 Q_SIGNALS:
+    /// The text is on disk; what follows a save is still to come.
+    void written(DocumentKind kind);
     /// A named file was saved.
     void saved(DocumentKind kind, const QString &path);
 

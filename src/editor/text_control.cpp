@@ -3,9 +3,11 @@
 
 #include "editor/text_control.h"
 
+#include "editor/line_margin.h"
 #include "platform/rich_text_document.h"
 
 #include <QMimeData>
+#include <QPainter>
 #include <QScrollBar>
 #include <QTextBlock>
 
@@ -20,13 +22,32 @@ QColor toColor(ColorRef colour)
     return QColor(redOf(colour), greenOf(colour), blueOf(colour));
 }
 
+/// Whether a key press puts characters into a text, which commands do not.
+bool types(const QKeyEvent &event)
+{
+    const auto held = event.modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier);
+    const QString text = event.text();
+    return held != Qt::ControlModifier && !text.isEmpty()
+        && (text[0].isPrint() || text[0] == u'\t' || text[0].isSurrogate());
+}
+
+bool changesText(int key)
+{
+    return key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Backspace
+        || key == Qt::Key_Delete;
+}
+
 } // namespace
 
-TextControl::TextControl(QWidget *parent) : QPlainTextEdit(parent)
+TextControl::TextControl(QWidget *parent) : QPlainTextEdit(parent), m_margin(new LineMargin(*this))
 {
     setLineWrapMode(NoWrap);
     setUndoRedoEnabled(false);
     document()->setDocumentMargin(6);
+    m_margin->hide();
+    connect(this, &TextControl::blockCountChanged, this, &TextControl::placeMargin);
+    connect(this, &TextControl::updateRequest, this, &TextControl::updateMargin);
+    connect(this, &TextControl::cursorPositionChanged, this, &TextControl::moveMark);
 }
 
 void TextControl::setLook(ColorRef background, const CharFormat &plain)
@@ -41,6 +62,7 @@ void TextControl::setLook(ColorRef background, const CharFormat &plain)
     if (document()->isEmpty()) {
         setCurrentCharFormat(toTextFormat(plain));
     }
+    placeMargin();
 }
 
 QString TextControl::text() const
@@ -91,6 +113,10 @@ void TextControl::select(int start, int length)
     cursor.setPosition(qBound(0, start, last));
     cursor.setPosition(qBound(0, start + length, last), QTextCursor::KeepAnchor);
     setTextCursor(cursor);
+    if (document()->isEmpty()) {
+        // A new cursor knows nothing of the looks that typing is to have.
+        setCurrentCharFormat(toTextFormat(m_plain));
+    }
 }
 
 int TextControl::caretLine() const
@@ -132,8 +158,114 @@ void TextControl::focusInEvent(QFocusEvent *event)
     Q_EMIT focused();
 }
 
+void TextControl::showLineNumbers(bool shown)
+{
+    m_margin->setVisible(shown);
+    placeMargin();
+}
+
+void TextControl::showCurrentLine(bool shown)
+{
+    m_marksLine = shown;
+    viewport()->update();
+}
+
+QRectF TextControl::lineArea(const QTextBlock &line) const
+{
+    const QRectF area = blockBoundingGeometry(line).translated(contentOffset());
+    return { 0, area.top(), double(viewport()->width()), area.height() };
+}
+
+QList<SeenLine> TextControl::seenLines() const
+{
+    QList<SeenLine> lines;
+    const int end = viewport()->height();
+    for (QTextBlock line = firstVisibleBlock(); line.isValid(); line = line.next()) {
+        const QRectF area = lineArea(line);
+        if (area.top() > end) {
+            break;
+        }
+        const QTextLine text = line.layout()->lineAt(0);
+        const double baseline =
+            text.isValid() ? area.top() + text.y() + text.ascent() : area.bottom();
+        lines.append({ line.blockNumber() + 1, area.top(), area.height(), baseline });
+    }
+    return lines;
+}
+
+void TextControl::placeMargin()
+{
+    const int width = m_margin->isHidden() ? 0 : m_margin->wantedWidth();
+    setViewportMargins(width, 0, 0, 0);
+    const QRect text = viewport()->geometry();
+    m_margin->setGeometry(text.left() - width, text.top(), width, text.height());
+    m_margin->update();
+}
+
+void TextControl::updateMargin(const QRect &changed, int scrolled)
+{
+    if (scrolled != 0) {
+        m_margin->update();
+    } else {
+        m_margin->update(0, changed.y(), m_margin->width(), changed.height());
+    }
+}
+
+void TextControl::moveMark()
+{
+    const int line = caretLine();
+    if (line != m_markedLine) {
+        updateLine(m_markedLine);
+        updateLine(line);
+        m_markedLine = line;
+    }
+}
+
+void TextControl::updateLine(int line)
+{
+    const QTextBlock block = document()->findBlockByNumber(line - 1);
+    if (block.isValid()) {
+        const QRect area = lineArea(block).toAlignedRect();
+        viewport()->update(area);
+        updateMargin(area, 0);
+    }
+}
+
+void TextControl::resizeEvent(QResizeEvent *event)
+{
+    QPlainTextEdit::resizeEvent(event);
+    placeMargin();
+}
+
+void TextControl::paintEvent(QPaintEvent *event)
+{
+    if (m_marksLine) {
+        QPainter painter(viewport());
+        painter.fillRect(lineArea(textCursor().block()),
+                         marginColours(palette().color(QPalette::Base)).mark);
+    }
+    QPlainTextEdit::paintEvent(event);
+}
+
+void TextControl::tellKey(const QKeyEvent &event)
+{
+    if (!isReadOnly() && (types(event) || changesText(event.key()))) {
+        Q_EMIT keyComing(event.key());
+    }
+}
+
+void TextControl::inputMethodEvent(QInputMethodEvent *event)
+{
+    // What is composed of several keys comes without a key press.
+    if (!isReadOnly() && !event->commitString().isEmpty()) {
+        Q_EMIT keyComing(event->commitString() == u" " ? Qt::Key_Space : Qt::Key_unknown);
+    }
+    QPlainTextEdit::inputMethodEvent(event);
+}
+
 void TextControl::keyPressEvent(QKeyEvent *event)
 {
+    tellKey(*event);
     const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     if (enter && event->modifiers().testFlag(Qt::ShiftModifier)) {
         // With Shift the toolkit makes a line within a paragraph; a file knows only whole lines.

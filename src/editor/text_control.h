@@ -9,6 +9,16 @@
 
 namespace zeph {
 
+class LineMargin;
+
+/// A line that is seen: its 1-based number and where it stands in the viewport.
+struct SeenLine {
+    int number = 0;
+    double top = 0;
+    double height = 0;
+    double baseline = 0;
+};
+
 /// One of the Editor's two texts: shows a document's text and colours, unwrapped, so that a line is
 /// always a line of the file. Keeps no undo of its own. Positions are 0-based characters.
 class TextControl : public QPlainTextEdit
@@ -49,19 +59,41 @@ public:
     /// Guards the text against the user; the caret still moves and text can still be selected.
     void setLocked(bool on);
 
+    /// The numbers of the lines at the left.
+    void showLineNumbers(bool shown);
+    /// A mark behind the caret's line, over the whole width.
+    void showCurrentLine(bool shown);
+    QList<SeenLine> seenLines() const;
+
 Q_SIGNALS:
     /// The text has got the focus.
     void focused();
+    /// A key that may change the text comes to the control: Qt::Key value.
+    void keyComing(int key);
 
 protected:
     void focusInEvent(QFocusEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     QMimeData *createMimeDataFromSelection() const override;
+    void inputMethodEvent(QInputMethodEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
     bool canInsertFromMimeData(const QMimeData *source) const override;
     void insertFromMimeData(const QMimeData *source) override;
 
 private:
+    void tellKey(const QKeyEvent &event);
+    void placeMargin();
+    void updateMargin(const QRect &changed, int scrolled);
+    void moveMark();
+    void updateLine(int line);
+    /// The stretch of the viewport, over its whole width, in which a line stands.
+    QRectF lineArea(const QTextBlock &line) const;
+
     CharFormat m_plain;
+    LineMargin *m_margin;
+    bool m_marksLine = false;
+    int m_markedLine = 1;
 };
 
 } // namespace zeph

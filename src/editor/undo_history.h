@@ -7,26 +7,29 @@
 // memory.
 
 #include "editor/context.h"
+#include "editor/document_states.h"
 #include "editor/editor_document.h"
 
-#include <QObject>
-
-#include <memory>
+#include <array>
+#include <deque>
 
 namespace zeph {
 
 class EditorActions;
 class EditorView;
+class LineBlink;
 
 /// One document's history. Slot 1 is the newest state; UndoIndex is the slot now shown.
 class UndoHistory
 {
 public:
+    /// Both are outlived by document and setting.
     UndoHistory(EditorDocument &document, const qint16 &undoMax);
-    ~UndoHistory();
 
     /// One slot holding the document as it stands, caret 0: after load, new and clearing.
     void reset();
+    /// One slot holding nothing: all memory is given back.
+    void forget();
     /// A real change took place: overwrites slot 1, or pushes a new one when UndoStepNext is 1.
     /// True when a slot was pushed.
     bool textChanged();
@@ -38,16 +41,33 @@ public:
     void undo();
     void redo();
 
-    int slots() const;
-    int UndoIndex() const;
+    int slots() const { return int(m_slots.size()); }
+    int UndoIndex() const { return m_index; }
     bool canUndo() const { return slots() != UndoIndex(); }
     bool canRedo() const { return UndoIndex() != 1; }
+    /// Bytes that all slots hold together.
+    qsizetype bytesHeld() const;
+
     /// 1: the next change pushes a slot. 0: it overwrites slot 1.
     qint16 UndoStepNext = 1;
 
 private:
-    struct Data;
-    std::unique_ptr<Data> m_data;
+    struct Slot {
+        DocumentState state;
+        int caret = 0;
+    };
+
+    Slot present();
+    void startWith(const DocumentState &state);
+    void show(int index);
+
+    EditorDocument &m_document;
+    const qint16 &m_undoMax;
+    DocumentStates m_states;
+    std::deque<Slot> m_slots; ///< slot 1 in front
+    int m_index = 1;
+    bool m_lastKeyWasSpace = false;
+    bool m_lastKeyWasEnter = false;
 };
 
 /// Both histories, and the menu entries that follow the selected document's.
@@ -58,16 +78,21 @@ public:
     UndoHistories(const Context &context, EditorView &view, EditorActions &actions);
     ~UndoHistories() override;
 
-    UndoHistory &of(DocumentKind kind);
+    UndoHistory &of(DocumentKind kind) { return m_histories[size_t(kind)]; }
     /// The document's text-changed operation: state, saved icon, history, menus.
-    void JoystickTextChanged();
-    void MacroTextChanged();
+    void JoystickTextChanged() { textChanged(DocumentKind::Joystick); }
+    void MacroTextChanged() { textChanged(DocumentKind::Macro); }
     void textChanged(DocumentKind kind);
     void mnuEditUndo_Click();
     void mnuEditRedo_Click();
+    /// Selects the caret's line in the selected document.
+    void mnuEditSelectLine_Click();
     void UpdateUndoRedoMenus();
-    void DeleteUndosOnSaveJ();
-    void DeleteUndosOnSaveM();
+    /// A fresh history for a document that was loaded or emptied.
+    void startOver(DocumentKind kind);
+    /// When a save clears the history (UndoClearOnSave), this is what it does.
+    void DeleteUndosOnSaveJ() { startOver(DocumentKind::Joystick); }
+    void DeleteUndosOnSaveM() { startOver(DocumentKind::Macro); }
     /// Both documents, with an empty slot.
     void DeleteUndosFromMemory();
 
@@ -76,8 +101,14 @@ Q_SIGNALS:
     void menusUpdated();
 
 private:
-    struct Data;
-    std::unique_ptr<Data> m_data;
+    void follow(DocumentKind kind);
+    void step(void (UndoHistory::*way)(), bool possible);
+
+    Context m_context;
+    EditorView &m_view;
+    EditorActions &m_actions;
+    std::array<UndoHistory, 2> m_histories;
+    std::unique_ptr<LineBlink> m_blink;
 };
 
 } // namespace zeph

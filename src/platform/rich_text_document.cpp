@@ -93,15 +93,16 @@ void applyParagraphRuns(QTextCursor cursor, const std::vector<ParagraphRun> &run
 class RunPainter
 {
 public:
-    RunPainter(QTextDocument &document, std::vector<CharRun> present)
-        : m_cursor(&document), m_present(std::move(present))
+    /// The present runs start at a position of the document, and so do those that are painted.
+    RunPainter(QTextDocument &document, std::vector<CharRun> present, qsizetype from = 0)
+        : m_cursor(&document), m_present(std::move(present)), m_from(from), m_start(from)
     {
     }
 
     void paint(const std::vector<CharRun> &runs)
     {
         m_cursor.beginEditBlock();
-        qsizetype position = 0;
+        qsizetype position = m_from;
         for (const CharRun &run : runs) {
             const qsizetype end = position + std::max(run.length, qsizetype(0));
             paintRun(position, end, run.format);
@@ -144,9 +145,41 @@ private:
     QTextCursor m_cursor;
     FormatCache m_format;
     std::vector<CharRun> m_present;
+    qsizetype m_from;
     size_t m_index = 0; ///< of the present run, and the position where it starts
-    qsizetype m_start = 0;
+    qsizetype m_start;
 };
+
+/// The part of two texts that differs, as what both have in common before and behind it.
+struct Difference {
+    qsizetype before = 0;
+    qsizetype behind = 0;
+
+    Difference(QStringView one, QStringView other)
+    {
+        const qsizetype most = std::min(one.size(), other.size());
+        while (before < most && one[before] == other[before]) {
+            ++before;
+        }
+        while (behind < most - before
+               && one[one.size() - 1 - behind] == other[other.size() - 1 - behind]) {
+            ++behind;
+        }
+    }
+};
+
+/// Gives paragraphs their formats where they have others, from the one that holds a position on.
+void repairParagraphs(QTextDocument &document, qsizetype from, qsizetype length,
+                      const std::vector<ParagraphRun> &wanted)
+{
+    const RichText present = richTextOf(document, from, length);
+    if (present.paragraphs == wanted) {
+        return;
+    }
+    const int first = document.findBlock(int(from)).blockNumber();
+    const int last = document.findBlock(int(from + length)).blockNumber();
+    applyParagraphRuns(QTextCursor(&document), wanted, first, first, last);
+}
 
 } // namespace
 
@@ -229,6 +262,32 @@ void insertRichText(QTextCursor &cursor, const RichText &text)
     applyParagraphRuns(QTextCursor(cursor), text.paragraphs, firstBlock,
                        keepsFirst ? firstBlock + 1 : firstBlock,
                        keepsLast ? lastBlock - 1 : lastBlock);
+    cursor.endEditBlock();
+}
+
+void replaceRichText(QTextDocument &document, qsizetype from, qsizetype length,
+                     const RichText &text)
+{
+    const RichText present = richTextOf(document, from, length);
+    const int lines = lineOfCharacter(document, int(from + present.text.size()))
+        - lineOfCharacter(document, int(from));
+    Difference same(present.text, text.text);
+    if (lines != present.text.count(u'\n')) {
+        // A line end within a paragraph would stay one, and the paragraphs could not be told apart.
+        same.before = same.behind = 0;
+    }
+    QTextCursor cursor(&document);
+    cursor.beginEditBlock();
+    cursor.setPosition(int(from + same.before));
+    cursor.setPosition(int(from + present.text.size() - same.behind), QTextCursor::KeepAnchor);
+    const qsizetype fresh = text.text.size() - same.before - same.behind;
+    if (cursor.hasSelection() || fresh > 0) {
+        const CharFormat format = text.formatAt(same.before);
+        cursor.insertText(insertable(text.text.mid(same.before, fresh)), toTextFormat(format));
+    }
+    const RichText changed = richTextOf(document, from, text.text.size());
+    RunPainter(document, changed.characters, from).paint(text.characters);
+    repairParagraphs(document, from, text.text.size(), text.paragraphs);
     cursor.endEditBlock();
 }
 

@@ -38,6 +38,11 @@ void setRichText(QTextDocument &document, const RichText &text);
 /// Replaces the cursor's selection with rich text; the cursor stands behind it. A paragraph that
 /// had characters before or behind the cursor keeps its format for the part that they are in.
 void insertRichText(QTextCursor &cursor, const RichText &text);
+/// Makes a stretch of the document read as another text, looks and paragraphs included, in one edit
+/// block that touches only what differs: richTextOf() of the new stretch gives the text, if that is
+/// one that came out of such a document.
+void replaceRichText(QTextDocument &document, qsizetype from, qsizetype length,
+                     const RichText &text);
 /// Lays character runs over the text as it stands, in one edit block; the text does not change.
 /// Runs are laid from the text's start; what they do not reach stays as it is. Only what looks
 /// otherwise is touched.

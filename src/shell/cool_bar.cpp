@@ -26,6 +26,13 @@ QString text(const char16_t *characters)
     return QString::fromUtf16(characters);
 }
 
+/// Whether a button says what its entry says, since that changes.
+bool saysSteps(const ToolButtonRow &row)
+{
+    const QString name = text(row.look.action);
+    return name == u"mnuEditUndo" || name == u"mnuEditRedo";
+}
+
 bool isCustomApp(const ToolButtonRow &row)
 {
     return text(row.look.action).startsWith(u"mnuCustomApp");
@@ -108,6 +115,9 @@ void CoolBar::follow(Button &button)
     button.control->setCheckable(action && action->isCheckable());
     button.control->setChecked(action && action->isChecked());
     button.control->setAccessibleName(text(lookOf(*button.row, choices()).tooltip));
+    if (action && saysSteps(*button.row)) {
+        button.control->setAccessibleName(action->toolTip());
+    }
     if (isCustomApp(*button.row)) {
         button.visibility->setVisible(action && action->isVisible() && action->isEnabled());
         if (action) {

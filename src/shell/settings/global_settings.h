@@ -70,6 +70,8 @@ struct GlobalSettings {
     qint16 MacroSaveIdentifyJF;
     qint16 MacroWithMouse;
     qint16 MacroHighlightedInMacroFile;
+    qint16 LineNumbers;
+    qint16 CurrentLineMark;
     // Apps
     QString ImageFilePath;
     QString TextFilePath;

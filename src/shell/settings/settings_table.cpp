@@ -119,6 +119,8 @@ constexpr std::array table = {
     integer(misc, u"MacroSaveIdentifyJF", &G::MacroSaveIdentifyJF, u"1", saved),
     integer(misc, u"MacroWithMouse", &G::MacroWithMouse, u"1", saved),
     integer(misc, u"MacroHighlightedInMacroFile", &G::MacroHighlightedInMacroFile, u"0", saved),
+    integer(misc, u"LineNumbers", &G::LineNumbers, u"1", saved),
+    integer(misc, u"CurrentLineMark", &G::CurrentLineMark, u"1", saved),
 
     text(u"Apps", u"ImageFilePath", &G::ImageFilePath, u"", saved),
     text(u"Apps", u"TextFilePath", &G::TextFilePath, u"", saved),

@@ -1,0 +1,298 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#include "editor/document_states.h"
+
+#include "platform/rich_text_document.h"
+
+#include <QTextBlock>
+
+#include <limits>
+#include <unordered_set>
+
+namespace zeph {
+
+namespace {
+
+constexpr qsizetype everything = std::numeric_limits<qsizetype>::max();
+
+/// Adds a run behind others, to the last one where it goes on in the same format.
+template <class Run, class Size> void add(std::vector<Run> &runs, Size Run::*size, const Run &run)
+{
+    if (!runs.empty() && runs.back().format == run.format) {
+        runs.back().*size += run.*size;
+    } else {
+        runs.push_back(run);
+    }
+}
+
+qsizetype sizeOf(const TextChunks &chunks, size_t first, size_t behind)
+{
+    qsizetype size = 0;
+    for (size_t i = first; i < behind; ++i) {
+        size += chunks[i]->text.size();
+    }
+    return size;
+}
+
+qsizetype bytesOf(const TextChunk &chunk)
+{
+    return qsizetype(sizeof(TextChunk)) + chunk.text.capacity() * qsizetype(sizeof(QChar))
+        + qsizetype(chunk.runs.capacity() * sizeof(TextChunk::Run)
+                    + chunk.paragraphs.capacity() * sizeof(ParagraphRun));
+}
+
+} // namespace
+
+qsizetype DocumentState::bytesHeld(std::span<const DocumentState> states)
+{
+    std::unordered_set<const void *> counted;
+    qsizetype bytes = 0;
+    for (const DocumentState &state : states) {
+        if (!state.m_chunks || !counted.insert(state.m_chunks.get()).second) {
+            continue;
+        }
+        bytes += qsizetype(state.m_chunks->capacity() * sizeof(TextChunks::value_type));
+        for (const auto &chunk : *state.m_chunks) {
+            if (counted.insert(chunk.get()).second) {
+                bytes += bytesOf(*chunk);
+            }
+        }
+    }
+    return bytes;
+}
+
+DocumentStates::DocumentStates(QTextDocument &document, int linesPerChunk)
+    : m_document(document), m_linesPerChunk(linesPerChunk), m_known(empty())
+{
+    m_following = QObject::connect(&document, &QTextDocument::contentsChange, &document,
+                                   [this](int position, int removed, int added) {
+                                       onContentsChange(position, removed, added);
+                                   });
+}
+
+DocumentStates::~DocumentStates()
+{
+    QObject::disconnect(m_following);
+}
+
+void DocumentStates::onContentsChange(int position, int, int added)
+{
+    // The toolkit's numbers may count the end of the last line too.
+    const qsizetype size = m_document.characterCount() - 1;
+    m_sameInFront = std::min(m_sameInFront, qsizetype(position));
+    m_sameBehind = std::clamp(size - position - added, qsizetype(0), m_sameBehind);
+    m_changed = true;
+}
+
+DocumentState DocumentStates::present()
+{
+    if (m_changed) {
+        readChanges();
+        m_changed = false;
+        m_sameInFront = m_sameBehind = everything;
+    }
+    return m_known;
+}
+
+DocumentState DocumentStates::empty() const
+{
+    auto chunk = std::make_shared<TextChunk>();
+    chunk->paragraphs.push_back({ 1, {} });
+    DocumentState state;
+    state.m_chunks = std::make_shared<TextChunks>(TextChunks{ std::move(chunk) });
+    return state;
+}
+
+RichText DocumentStates::richText(const DocumentState &state) const
+{
+    return join(*state.m_chunks, 0, state.m_chunks->size());
+}
+
+void DocumentStates::restore(const DocumentState &state)
+{
+    const DocumentState now = present();
+    const TextChunks &old = *now.m_chunks;
+    const TextChunks &wanted = *state.m_chunks;
+    const size_t most = std::min(old.size(), wanted.size());
+    size_t front = 0;
+    while (front < most && old[front] == wanted[front]) {
+        ++front;
+    }
+    if (front == wanted.size()) {
+        return;
+    }
+    size_t back = 0;
+    while (back < most - front && old[old.size() - 1 - back] == wanted[wanted.size() - 1 - back]) {
+        ++back;
+    }
+    RichText text = join(wanted, front, wanted.size() - back);
+    if (back > 0) {
+        // What is replaced ends before a line, whose paragraph the toolkit may take along.
+        const ParagraphFormat next = wanted[wanted.size() - back]->paragraphs.front().format;
+        add(text.paragraphs, &ParagraphRun::count, { 1, next });
+    }
+    replaceRichText(m_document, sizeOf(old, 0, front), sizeOf(old, front, old.size() - back), text);
+    m_known = state;
+    m_changed = false;
+    m_sameInFront = m_sameBehind = everything;
+}
+
+RichText DocumentStates::join(const TextChunks &chunks, size_t first, size_t behind) const
+{
+    RichText result;
+    result.text.reserve(sizeOf(chunks, first, behind));
+    for (size_t i = first; i < behind; ++i) {
+        const TextChunk &chunk = *chunks[i];
+        result.text += chunk.text;
+        for (const TextChunk::Run &run : chunk.runs) {
+            add(result.characters, &CharRun::length, { run.length, m_looks[run.look] });
+        }
+        for (const ParagraphRun &run : chunk.paragraphs) {
+            add(result.paragraphs, &ParagraphRun::count, run);
+        }
+    }
+    return result;
+}
+
+void DocumentStates::readChanges()
+{
+    const TextChunks &old = *m_known.m_chunks;
+    const Stale stale = staleChunks();
+    const std::vector<qsizetype> borders = cuts(stale);
+    auto chunks = std::make_shared<TextChunks>();
+    chunks->reserve(stale.first + borders.size() + old.size() - stale.behind);
+    const auto at = [&old](size_t index) {
+        return old.begin() + qsizetype(index);
+    };
+    chunks->assign(old.begin(), at(stale.first));
+    for (size_t i = 0; i + 1 < borders.size(); ++i) {
+        const bool last = stale.behind == old.size() && i + 2 == borders.size();
+        auto chunk = std::make_shared<TextChunk>(read(borders[i], borders[i + 1], last));
+        const size_t before = stale.first + i;
+        if (before < stale.behind && old[before]->text == chunk->text) {
+            // New looks on an old text: the text itself is shared.
+            chunk->text = old[before]->text;
+        }
+        if (before < stale.behind && *old[before] == *chunk) {
+            chunks->push_back(old[before]);
+        } else {
+            chunks->push_back(std::move(chunk));
+        }
+    }
+    chunks->insert(chunks->end(), at(stale.behind), old.end());
+    m_known.m_chunks = std::move(chunks);
+}
+
+DocumentStates::Stale DocumentStates::staleChunks() const
+{
+    const TextChunks &old = *m_known.m_chunks;
+    const qsizetype size = m_document.characterCount() - 1;
+    Stale stale{ 0, old.size(), 0, size };
+    // The last chunk has no line end that would part it from what is added behind it.
+    while (stale.first + 1 < old.size()) {
+        const qsizetype end = stale.from + old[stale.first]->text.size();
+        if (end > m_sameInFront) {
+            break;
+        }
+        stale.from = end;
+        ++stale.first;
+    }
+    while (stale.behind > stale.first) {
+        const qsizetype start = stale.to - old[stale.behind - 1]->text.size();
+        // Without the line end before it a chunk's first line is another's last.
+        if (size - start >= m_sameBehind) {
+            break;
+        }
+        stale.to = start;
+        --stale.behind;
+    }
+    takeNeighbours(stale);
+    return stale;
+}
+
+void DocumentStates::takeNeighbours(Stale &stale) const
+{
+    const TextChunks &old = *m_known.m_chunks;
+    const int least = m_linesPerChunk / 4;
+    while (lineCountOf(stale) < least && stale.first > 0) {
+        stale.from -= old[--stale.first]->text.size();
+    }
+    while (lineCountOf(stale) < least && stale.behind < old.size()) {
+        stale.to += old[stale.behind++]->text.size();
+    }
+}
+
+int DocumentStates::lineCountOf(const Stale &stale) const
+{
+    const bool toTheEnd = stale.behind == m_known.m_chunks->size();
+    return lineOfCharacter(m_document, int(stale.to)) + (toTheEnd ? 1 : 0)
+        - lineOfCharacter(m_document, int(stale.from));
+}
+
+std::vector<qsizetype> DocumentStates::cuts(const Stale &stale) const
+{
+    const TextChunks &old = *m_known.m_chunks;
+    std::vector<qsizetype> borders{ stale.from };
+    const auto isLineStart = [this](qsizetype position) {
+        return m_document.findBlock(int(position)).position() == position;
+    };
+    // Where only looks have changed the chunks stay as they were cut, so that they share the text.
+    if (sizeOf(old, stale.first, stale.behind) == stale.to - stale.from) {
+        for (size_t i = stale.first; i < stale.behind; ++i) {
+            borders.push_back(borders.back() + old[i]->text.size());
+        }
+        if (stale.behind > stale.first
+            && std::all_of(borders.begin(), borders.end() - 1, isLineStart)
+            && lineCountOf(stale) <= 2 * m_linesPerChunk * int(borders.size() - 1)) {
+            return borders;
+        }
+        borders.resize(1);
+    }
+    int left = lineCountOf(stale);
+    int line = lineOfCharacter(m_document, int(stale.from));
+    for (; left > 2 * m_linesPerChunk; left -= m_linesPerChunk) {
+        line += m_linesPerChunk;
+        borders.push_back(startOfLine(m_document, line));
+    }
+    if (left > 0) {
+        borders.push_back(stale.to);
+    }
+    return borders;
+}
+
+TextChunk DocumentStates::read(qsizetype from, qsizetype to, bool last)
+{
+    RichText stretch = richTextOf(m_document, from, to - from);
+    if (!last) {
+        // Behind its line end a stretch counts the next line, which belongs to the next chunk.
+        ParagraphRun &next = stretch.paragraphs.back();
+        if (--next.count == 0) {
+            stretch.paragraphs.pop_back();
+        }
+    }
+    TextChunk chunk;
+    chunk.text = std::move(stretch.text);
+    chunk.text.squeeze();
+    chunk.paragraphs = std::move(stretch.paragraphs);
+    chunk.paragraphs.shrink_to_fit();
+    chunk.runs.reserve(stretch.characters.size());
+    for (const CharRun &run : stretch.characters) {
+        chunk.runs.push_back({ quint32(run.length), numberOf(run.format) });
+    }
+    return chunk;
+}
+
+quint32 DocumentStates::numberOf(const CharFormat &look)
+{
+    const auto known = m_numbers.constFind(look);
+    if (known != m_numbers.cend()) {
+        return known.value();
+    }
+    const quint32 number = quint32(m_looks.size());
+    m_looks.push_back(look);
+    m_numbers.insert(look, number);
+    return number;
+}
+
+} // namespace zeph

@@ -1,0 +1,104 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+// What a document held at many moments, kept so that states share all that they have in common.
+
+#include "platform/core/rich_text.h"
+
+#include <QHash>
+#include <QObject>
+
+#include <memory>
+#include <span>
+#include <vector>
+
+class QTextDocument;
+
+namespace zeph {
+
+/// Some whole lines with their looks, never changed once made.
+struct TextChunk {
+    struct Run {
+        quint32 length = 0;
+        quint32 look = 0; ///< number in the document's table
+
+        friend bool operator==(const Run &, const Run &) = default;
+    };
+
+    /// With line ends; only a document's last chunk has none behind its last line.
+    QString text;
+    std::vector<Run> runs;
+    std::vector<ParagraphRun> paragraphs;
+
+    friend bool operator==(const TextChunk &, const TextChunk &) = default;
+};
+
+using TextChunks = std::vector<std::shared_ptr<const TextChunk>>;
+
+/// One state: a handle, cheap to keep and to copy. Has a meaning only to the DocumentStates that
+/// gave it.
+class DocumentState
+{
+public:
+    /// Bytes that states hold together; what they share counts once.
+    static qsizetype bytesHeld(std::span<const DocumentState> states);
+
+private:
+    friend class DocumentStates;
+
+    std::shared_ptr<const TextChunks> m_chunks;
+};
+
+/// Takes states of one document and brings them back. Follows the document's changes, so that a
+/// state costs only the chunks that changed since the one before. Outlived by the document.
+class DocumentStates
+{
+public:
+    explicit DocumentStates(QTextDocument &document, int linesPerChunk = 64);
+    ~DocumentStates();
+    DocumentStates(const DocumentStates &) = delete;
+    DocumentStates &operator=(const DocumentStates &) = delete;
+
+    /// The document as it stands.
+    DocumentState present();
+    /// An empty text.
+    DocumentState empty() const;
+    /// Makes the document stand as it did, text and looks, in one edit block.
+    void restore(const DocumentState &state);
+    RichText richText(const DocumentState &state) const;
+
+private:
+    /// Chunks [first, behind) of the known state have changed; the document's stretch [from, to) is
+    /// what stands in their place now.
+    struct Stale {
+        size_t first = 0;
+        size_t behind = 0;
+        qsizetype from = 0;
+        qsizetype to = 0;
+    };
+
+    void onContentsChange(int position, int removed, int added);
+    void readChanges();
+    Stale staleChunks() const;
+    void takeNeighbours(Stale &stale) const;
+    int lineCountOf(const Stale &stale) const;
+    std::vector<qsizetype> cuts(const Stale &stale) const;
+    TextChunk read(qsizetype from, qsizetype to, bool last);
+    quint32 numberOf(const CharFormat &look);
+    RichText join(const TextChunks &chunks, size_t first, size_t behind) const;
+
+    QTextDocument &m_document;
+    int m_linesPerChunk;
+    QMetaObject::Connection m_following;
+    std::vector<CharFormat> m_looks;
+    QHash<CharFormat, quint32> m_numbers;
+    DocumentState m_known;
+    /// Characters at the document's two ends that are as in the known state.
+    qsizetype m_sameInFront = 0;
+    qsizetype m_sameBehind = 0;
+    bool m_changed = true;
+};
+
+} // namespace zeph

@@ -1,0 +1,89 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#include "editor/line_blink.h"
+
+#include "editor/editor_view.h"
+#include "editor/text_control.h"
+
+#include <QEvent>
+#include <QTextBlock>
+
+#include <chrono>
+
+namespace zeph {
+
+using namespace std::chrono_literals;
+
+void SelectLine(TextControl &control)
+{
+    const QTextBlock line = control.textCursor().block();
+    control.select(line.position(), line.length() - 1);
+}
+
+LineBlink::LineBlink(EditorView &view) : m_view(view)
+{
+    m_timer.setObjectName(u"TimerBlinkLine"_s);
+    m_timer.setParent(this);
+    m_timer.setInterval(100ms);
+    connect(&m_timer, &QTimer::timeout, this, &LineBlink::tick);
+    connect(&view, &EditorView::tabSelected, this, &LineBlink::stop);
+    for (const DocumentKind kind : { DocumentKind::Joystick, DocumentKind::Macro }) {
+        TextControl *control = view.document(kind).control;
+        control->installEventFilter(this);
+        control->viewport()->installEventFilter(this);
+    }
+}
+
+void LineBlink::start(EditorDocument &document)
+{
+    const BusyGuard busy(m_view);
+    m_document = &document;
+    m_count = 0;
+    SelectLine(*document.control);
+    m_timer.start();
+}
+
+void LineBlink::stop()
+{
+    if (m_timer.isActive()) {
+        m_timer.stop();
+        putCaretBack();
+    }
+}
+
+void LineBlink::tick()
+{
+    if (m_count == 1) {
+        const BusyGuard busy(m_view);
+        SelectLine(*m_document->control);
+    } else {
+        putCaretBack();
+    }
+    if (++m_count > 2) {
+        m_timer.stop();
+    }
+}
+
+void LineBlink::putCaretBack()
+{
+    const BusyGuard busy(m_view);
+    m_document->control->select(m_document->caret, 0);
+}
+
+bool LineBlink::eventFilter(QObject *watched, QEvent *event)
+{
+    switch (event->type()) {
+    case QEvent::KeyPress:
+    case QEvent::InputMethod:
+    case QEvent::MouseButtonPress:
+    case QEvent::DragEnter:
+        stop();
+        break;
+    default:
+        break;
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+} // namespace zeph

@@ -1,0 +1,44 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QObject>
+#include <QTimer>
+
+namespace zeph {
+
+class EditorView;
+class TextControl;
+struct EditorDocument;
+
+/// Selects the caret's line, its line end left out.
+void SelectLine(TextControl &control);
+
+/// Shows where undo and redo have led: the caret's line is selected and let go again, twice.
+class LineBlink : public QObject
+{
+    Q_OBJECT
+public:
+    explicit LineBlink(EditorView &view);
+
+    /// Blinks the line of a document's caret.
+    void start(EditorDocument &document);
+    /// Puts the caret back at once, if a line blinks.
+    void stop();
+
+protected:
+    /// A key or a click finds the caret where it belongs: typing must not replace the line.
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    void tick();
+    void putCaretBack();
+
+    EditorView &m_view;
+    EditorDocument *m_document = nullptr;
+    QTimer m_timer;
+    int m_count = 0;
+};
+
+} // namespace zeph
