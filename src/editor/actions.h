@@ -49,7 +49,14 @@ std::span<const ActionRow> actionTable();
 
 /// One row of the pop-up menu of the right mouse button, which is built afresh at each press.
 struct RightMenuRow {
-    enum Shown { Both, JoystickOnly, MacroOnly, Divider };
+    enum Shown {
+        Both,
+        JoystickOnly,
+        MacroOnly,
+        Divider,
+        Submenu, ///< opens a menu with the rows that follow
+        InSubmenu ///< in the menu of the last Submenu row
+    };
 
     const char16_t *name; ///< object name
     const char16_t *caption; ///< empty: the caption of the entry behind it

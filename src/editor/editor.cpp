@@ -4,6 +4,7 @@
 #include "editor/editor.h"
 
 #include "editor/coloured_copies.h"
+#include "editor/coloured_insert.h"
 #include "editor/editor_actions.h"
 #include "editor/editor_keys.h"
 #include "editor/editor_view.h"
@@ -15,6 +16,8 @@
 #include "editor/right_menu.h"
 #include "editor/text_control.h"
 #include "editor/text_lines.h"
+#include "editor/text_looks.h"
+#include "editor/typing_colour.h"
 #include "editor/undo_history.h"
 #include "editor/use_directives.h"
 #include "platform/dialogs.h"
@@ -37,17 +40,22 @@ Editor::Editor(const Context &context, QWidget *parent)
       m_actions(std::make_unique<EditorActions>(context.dialogs, context.paths.inApp(u"icons/"))),
       m_view(new EditorView(context, this)),
       m_copies(std::make_unique<ColouredCopies>(context.paths)),
-      m_highlighting(std::make_unique<Highlighting>(context, *m_view, *m_copies)),
+      m_keys(std::make_unique<EditorKeys>(*m_view, *m_actions, context.settings)),
+      // Behind the keys: a line that blinks has to be let go before a key's entry runs.
+      m_histories(std::make_unique<UndoHistories>(context, *m_view, *m_actions)),
+      m_insert(std::make_unique<ColouredInsert>(context, *m_view, *m_histories)),
+      m_highlighting(std::make_unique<Highlighting>(
+          context, Highlighting::Parts{ *m_view, *m_copies, *m_histories, *m_insert })),
+      m_looks(
+          std::make_unique<TextLooks>(context, TextLooks::Parts{ *m_view, *m_actions, *m_insert })),
+      m_typingColour(std::make_unique<TypingColour>(*m_view, *m_highlighting, context.settings)),
       m_useDirectives(std::make_unique<UseDirectives>(context, *m_view)),
       m_saving(std::make_unique<FileSaving>(context, *m_view, *m_copies, *m_useDirectives)),
       m_opening(std::make_unique<FileOpening>(
           context,
           FileOpening::Parts{ *m_view, *m_copies, *m_highlighting, *m_useDirectives, *m_saving })),
       m_fresh(std::make_unique<FileNew>(context, *m_view, *m_opening, *m_useDirectives)),
-      m_keys(std::make_unique<EditorKeys>(*m_view, *m_actions, context.settings)),
-      m_rightMenu(std::make_unique<RightMenu>(*m_view, *m_actions)),
-      // Behind the keys: a line that blinks has to be let go before a key's entry runs.
-      m_undos(std::make_unique<UndoHistories>(context, *m_view, *m_actions))
+      m_rightMenu(std::make_unique<RightMenu>(*m_view, *m_actions))
 {
     setObjectName(u"Editor"_s);
     auto *layout = new QVBoxLayout(this);
@@ -58,6 +66,7 @@ Editor::Editor(const Context &context, QWidget *parent)
     connectOptions();
     connectUndo();
     connectLooks();
+    connectPainting();
     connect(m_keys.get(), &EditorKeys::helpOn, this, &Editor::helpOn);
     connect(m_view, &EditorView::selectionChanged, this, &Editor::updateConditions);
     connect(m_view, &EditorView::tabSelected, this, &Editor::updateDownloadCaption);
@@ -158,7 +167,7 @@ void Editor::connectOptions()
 
 void Editor::connectUndo()
 {
-    UndoHistories *undos = m_undos.get();
+    UndoHistories *undos = m_histories.get();
     connect(m_opening.get(), &FileOpening::loaded, undos, &UndoHistories::startOver);
     connect(m_fresh.get(), &FileNew::joystickReplaced, undos,
             [undos] { undos->startOver(DocumentKind::Joystick); });
@@ -187,6 +196,38 @@ void Editor::connectLooks()
         m_context.settings.CurrentLineMark = action(u"mnuViewCurrentLine")->isChecked();
         applySettings();
     });
+}
+
+void Editor::connectPainting()
+{
+    struct Entry {
+        QStringView name;
+        void (Highlighting::*operation)();
+    };
+    constexpr Entry entries[] = {
+        { u"mnuViewColourJoystick", &Highlighting::mnuViewColourJoystick_Click },
+        { u"mnuViewColourMacro", &Highlighting::mnuViewColourMacro_Click },
+        { u"mnuViewApplyColourBothFiles", &Highlighting::mnuViewApplyColourBothFiles_Click },
+        { u"mnuViewHighlightLine", &Highlighting::mnuViewHighlightLine_Click },
+        { u"mnuRemoveColourJoystick", &Highlighting::mnuRemoveColourJoystick_Click },
+        { u"mnuRemoveColourMacro", &Highlighting::mnuRemoveColourMacro_Click },
+        { u"mnuRemoveColourSelectedText", &Highlighting::mnuRemoveColourSelectedText_Click },
+        { u"mnuViewReformat", &Highlighting::mnuViewReformat_Click },
+    };
+    EditorActions &on = *m_actions;
+    for (const Entry &entry : entries) {
+        on.connectTo(entry.name, [this, entry] { (*m_highlighting.*entry.operation)(); });
+    }
+    for (int i = 0; i < 3; ++i) {
+        on.connectTo(u"mnuFormatArray1_"_s + QString::number(i),
+                     [this, i] { m_looks->mnuFormatArray1_Click(i); });
+    }
+    for (int i = 0; i < int(TextStyles().size()); ++i) {
+        on.connectTo(u"mnuStyleArray_"_s + QString::number(i),
+                     [this, i] { m_looks->mnuStyleArray_Click(i); });
+    }
+    on.connectTo(u"mnuFormatStyleEditor", [this] { m_looks->mnuFormatStyleEditor_Click(); });
+    on.connectTo(u"mnuFormatFont", [this] { m_looks->mnuFormatFont_Click(); });
 }
 
 void Editor::paste()
@@ -269,6 +310,7 @@ void Editor::applySettings()
 {
     const GlobalSettings &settings = m_context.settings;
     m_view->applyLook();
+    m_looks->UpdateStyleCaptions();
     m_view->setTiled(settings.TileFiles == 1);
     action(u"mnuViewTileVertically")->setChecked(settings.TileFiles == 1);
     m_opening->OpenSingleFileOnly = settings.OpenSingleFileOnly == 1;

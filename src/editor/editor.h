@@ -15,6 +15,7 @@ class QAction;
 namespace zeph {
 
 class ColouredCopies;
+class ColouredInsert;
 class EditorActions;
 class EditorKeys;
 class EditorView;
@@ -23,6 +24,8 @@ class FileOpening;
 class FileSaving;
 class Highlighting;
 class RightMenu;
+class TextLooks;
+class TypingColour;
 class UndoHistories;
 class UseDirectives;
 
@@ -52,7 +55,10 @@ public:
     FileNew &fresh() { return *m_fresh; }
     UseDirectives &useDirectives() { return *m_useDirectives; }
     RightMenu &rightMenu() { return *m_rightMenu; }
-    UndoHistories &undos() { return *m_undos; }
+    UndoHistories &undos() { return *m_histories; }
+    Highlighting &highlighting() { return *m_highlighting; }
+    /// Writes a tool's text into the selected document.
+    ColouredInsert &insert() { return *m_insert; }
 
     /// Gives the focus back to the selected document.
     void ResetFocusToEditor();
@@ -79,6 +85,7 @@ private:
     void connectOptions();
     void connectUndo();
     void connectLooks();
+    void connectPainting();
     void updateConditions();
     void updateDownloadCaption();
     void paste();
@@ -88,14 +95,17 @@ private:
     std::unique_ptr<EditorActions> m_actions;
     EditorView *m_view = nullptr;
     std::unique_ptr<ColouredCopies> m_copies;
+    std::unique_ptr<EditorKeys> m_keys;
+    std::unique_ptr<UndoHistories> m_histories;
+    std::unique_ptr<ColouredInsert> m_insert;
     std::unique_ptr<Highlighting> m_highlighting;
+    std::unique_ptr<TextLooks> m_looks;
+    std::unique_ptr<TypingColour> m_typingColour;
     std::unique_ptr<UseDirectives> m_useDirectives;
     std::unique_ptr<FileSaving> m_saving;
     std::unique_ptr<FileOpening> m_opening;
     std::unique_ptr<FileNew> m_fresh;
-    std::unique_ptr<EditorKeys> m_keys;
     std::unique_ptr<RightMenu> m_rightMenu;
-    std::unique_ptr<UndoHistories> m_undos;
 };
 
 } // namespace zeph

@@ -255,8 +255,8 @@ void FileOpening::show(EditorDocument &document, const QString &text)
         document.control->setRichText(*coloured);
     } else {
         document.control->setText(text);
-        m_parts.highlighting.mnuViewReformat_Click(document);
-        m_parts.highlighting.ApplyColourHighlighting(document);
+        m_parts.highlighting.reformat(document);
+        m_parts.highlighting.applyColour(document);
     }
     view.updateCaptions();
     document.caret = 0;

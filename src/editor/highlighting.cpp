@@ -4,31 +4,224 @@
 #include "editor/highlighting.h"
 
 #include "editor/coloured_copies.h"
+#include "editor/coloured_insert.h"
+#include "editor/editor_texts.h"
 #include "editor/editor_view.h"
 #include "editor/text_control.h"
+#include "editor/undo_history.h"
+#include "platform/rich_text_document.h"
 #include "platform/status_line.h"
+
+#include <QTextBlock>
 
 namespace zeph {
 
-Highlighting::Highlighting(const Context &context, EditorView &view, ColouredCopies &copies)
-    : m_context(context), m_view(view), m_copies(copies)
+namespace {
+
+/// What the status line says while a document's passes run, group by group.
+const QStringList joystickSteps = {
+    u"Applying colour to BTN statements ..."_s,
+    u"Applying colour to USE,ANT,MDEF etc. commands ..."_s,
+    u"Applying colour to logical programming statements ..."_s,
+    u"Applying colour to Rem comments ..."_s,
+};
+const QStringList macroSteps = {
+    u"Applying colour to / modifiers ..."_s,
+    u"Applying colour to Rem comments ..."_s,
+};
+
+} // namespace
+
+Highlighting::Highlighting(const Context &context, const Parts &parts)
+    : m_context(context), m_parts(parts)
 {
 }
 
-void Highlighting::mnuViewReformat_Click(EditorDocument &document)
+EditorDocument &Highlighting::document(DocumentKind kind) const
 {
-    const BusyGuard busy(m_view);
-    const int caret = document.control->selStart();
-    document.control->setText(document.control->text());
-    document.control->select(caret, 0);
+    return m_parts.view.document(kind);
 }
 
-void Highlighting::ApplyColourHighlighting(EditorDocument &document)
+void Highlighting::reformat(EditorDocument &document)
 {
-    if (auto saved = m_copies.SaveColouredText(document); !saved) {
-        m_context.status.setText(u"The coloured copy couldn't be written: "_s + saved.error().path
-                                 + u": "_s + saved.error().reason);
+    TextControl &control = *document.control;
+    if (control.end() == 0) {
+        return;
     }
+    const BusyGuard busy(m_parts.view);
+    m_context.status.setText(u"Reformatting layout. Please wait ..."_s);
+    setParagraphFormat(*control.document(), documentParagraph);
+    control.setCharacterRuns({ { control.end(), m_parts.view.plainFormat(document.kind) } });
+    m_parts.view.UpdateSavedIcon();
+    m_context.status.setText(u"Layout refreshed ... (I wish I was!)"_s);
+    m_parts.histories.of(document.kind).storeTop();
+}
+
+void Highlighting::mnuViewReformat_Click()
+{
+    if (!m_parts.view.refuseProtected()) {
+        reformat(m_parts.view.selected());
+    }
+}
+
+void Highlighting::applyColour(EditorDocument &document)
+{
+    StatusLine &status = m_context.status;
+    TextControl &control = *document.control;
+    if (control.end() == 0) {
+        status.setText(document.caption() + u" has no text to highlight."_s);
+        return;
+    }
+    const bool isJoystick = document.kind == DocumentKind::Joystick;
+    const BusyGuard busy(m_parts.view);
+    // Colours go before colours come; one set of looks serves both.
+    status.setText(u"Removing colour highlighting from "_s + document.caption()
+                   + u". Please wait ..."_s);
+    status.setText(u"Done"_s);
+    status.setText(u"Applying colour highlighting to "_s + document.caption()
+                   + u". Please wait ..."_s);
+    m_parts.view.select(document.kind);
+    m_parts.view.applyLook();
+    for (const QString &step : isJoystick ? joystickSteps : macroSteps) {
+        status.setText(step);
+    }
+    const auto runs = paint(control.text(), isJoystick ? joystickPasses() : macroPasses(),
+                            colourScheme(m_context.settings, document.kind));
+    TextControl::Place place = control.place();
+    place.anchor = place.caret = control.selStart();
+    control.setCharacterRuns(characterRuns(runs, m_parts.view.plainFormat(document.kind)));
+    control.setPlace(place);
+    m_parts.histories.of(document.kind).storeTop();
+    if (auto saved = m_parts.copies.SaveColouredText(document); !saved) {
+        status.setText(u"The coloured copy couldn't be written: "_s + saved.error().path + u": "_s
+                       + saved.error().reason);
+        return;
+    }
+    status.setText(u"Done"_s);
+}
+
+void Highlighting::ApplyColourHighlighting()
+{
+    applyColour(document(DocumentKind::Joystick));
+}
+
+void Highlighting::ApplyMacroColourHighlighting()
+{
+    applyColour(document(DocumentKind::Macro));
+}
+
+void Highlighting::mnuViewColourJoystick_Click()
+{
+    ApplyColourHighlighting();
+}
+
+void Highlighting::mnuViewColourMacro_Click()
+{
+    if (m_parts.view.isProtected()) {
+        m_context.dialogs.box(fileProtectedBox());
+        return;
+    }
+    ApplyMacroColourHighlighting();
+}
+
+void Highlighting::mnuViewApplyColourBothFiles_Click()
+{
+    ApplyColourHighlighting();
+    if (!m_parts.view.isProtected()) {
+        ApplyMacroColourHighlighting();
+    }
+}
+
+void Highlighting::removeColour(EditorDocument &document, int from, int length)
+{
+    const BusyGuard busy(m_parts.view);
+    m_context.status.setText(u"Removing colour highlighting from "_s + document.caption()
+                             + u". Please wait ..."_s);
+    const auto plain = m_parts.view.plainFormat(document.kind).colour;
+    document.control->changeLooks(from, length, [plain](CharFormat &format) {
+        format.colour = plain;
+        format.bold = format.italic = format.underline = false;
+    });
+    m_context.status.setText(u"Done"_s);
+}
+
+void Highlighting::mnuRemoveColourJoystick_Click()
+{
+    EditorDocument &joystick = document(DocumentKind::Joystick);
+    removeColour(joystick, 0, joystick.control->end());
+}
+
+void Highlighting::mnuRemoveColourMacro_Click()
+{
+    EditorDocument &macro = document(DocumentKind::Macro);
+    removeColour(macro, 0, macro.control->end());
+}
+
+void Highlighting::mnuRemoveColourSelectedText_Click()
+{
+    if (!m_parts.view.refuseProtected()) {
+        EditorDocument &selected = m_parts.view.selected();
+        removeColour(selected, selected.control->selStart(), selected.control->selLength());
+    }
+}
+
+void Highlighting::paintStretch(EditorDocument &document, int from, int to)
+{
+    const BusyGuard busy(m_parts.view);
+    const QString text = richTextOf(*document.control->document(), from, to - from).text;
+    document.control->setCharacterRuns(ColourType(text).characters, from);
+}
+
+void Highlighting::BlockColour()
+{
+    EditorDocument &document = m_parts.view.selected();
+    const QTextCursor cursor = document.control->textCursor();
+    const QTextDocument &text = *document.control->document();
+    const QTextBlock last = text.findBlock(cursor.selectionEnd());
+    const int to = std::min(last.position() + last.length(), document.control->end());
+    paintStretch(document, text.findBlock(cursor.selectionStart()).position(), to);
+}
+
+void Highlighting::TestColour(int flag)
+{
+    EditorDocument &document = m_parts.view.selected();
+    const qint16 state = document.state;
+    const QTextBlock line = document.control->document()->findBlock(document.control->selStart());
+    if (flag == 1) {
+        m_parts.insert.BeginColInsert();
+    }
+    paintStretch(document, line.position(), line.position() + line.length() - 1);
+    if (flag == 1) {
+        m_parts.insert.EndColInsert();
+        // A step to undo, but no change to save: the file itself has no colours.
+        m_parts.view.setState(document, state);
+    }
+}
+
+void Highlighting::mnuViewHighlightLine_Click()
+{
+    if (!m_parts.view.refuseProtected()) {
+        TestColour(1);
+    }
+}
+
+RichText Highlighting::painted(const QString &text, std::span<const PaintPass> passes) const
+{
+    const DocumentKind kind = m_parts.view.selected().kind;
+    RichText result = RichText::plain(text, {}, documentParagraph);
+    result.characters = characterRuns(paint(text, passes, colourScheme(m_context.settings, kind)),
+                                      m_parts.view.plainFormat(kind));
+    return result;
+}
+
+RichText Highlighting::ColourType(const QString &text) const
+{
+    return painted(text, typingPasses());
+}
+
+RichText Highlighting::JustREMtocolour(const QString &text) const
+{
+    return painted(text, remPasses());
 }
 
 } // namespace zeph

@@ -5,28 +5,70 @@
 
 #include "editor/context.h"
 #include "editor/editor_document.h"
+#include "editor/painter.h"
 
 namespace zeph {
 
 class ColouredCopies;
+class ColouredInsert;
 class EditorView;
+class UndoHistories;
 
-/// What gives a freshly read text its looks. The passes over the language's words come with the
-/// painter; until then a text takes the font and the plain colour of the scheme.
+/// Gives the documents their colours and takes them away. Looks only: no text changes, and no
+/// saved state either. Caret and scroll stay where the user has them.
 class Highlighting
 {
 public:
-    Highlighting(const Context &context, EditorView &view, ColouredCopies &copies);
+    struct Parts {
+        EditorView &view;
+        ColouredCopies &copies;
+        UndoHistories &histories;
+        ColouredInsert &insert;
+    };
+    Highlighting(const Context &context, const Parts &parts);
 
-    /// Sets font, size and plain colour over the whole document; caret and state stay.
-    void mnuViewReformat_Click(EditorDocument &document);
-    /// Colours the whole document and writes its coloured copy; caret and state stay.
-    void ApplyColourHighlighting(EditorDocument &document);
+    /// Sets font, size, plain colour and margin over the whole document, without bold, italic,
+    /// underline and colours. An empty document stays as it is.
+    void reformat(EditorDocument &document);
+    /// The same on the selected document, refused on a protected macro file.
+    void mnuViewReformat_Click();
+
+    /// Colours the whole document, stores its looks in the top undo slot and writes its coloured
+    /// copy. An empty document is told on the status line.
+    void applyColour(EditorDocument &document);
+    void ApplyColourHighlighting();
+    void ApplyMacroColourHighlighting();
+    void mnuViewColourJoystick_Click();
+    /// Refused on a protected macro file.
+    void mnuViewColourMacro_Click();
+    /// The joystick file, then the macro file unless it is protected.
+    void mnuViewApplyColourBothFiles_Click();
+
+    void mnuRemoveColourJoystick_Click();
+    void mnuRemoveColourMacro_Click();
+    /// Refused on a protected macro file.
+    void mnuRemoveColourSelectedText_Click();
+
+    /// Colours the lines of the selection, or the caret's line, at the cost of these lines alone.
+    void BlockColour();
+    /// Colours the caret's line; with flag 1 as an undo step of its own.
+    void TestColour(int flag);
+    /// TestColour(1), refused on a protected macro file.
+    void mnuViewHighlightLine_Click();
+
+    /// A piece of text in the selected document's font, painted as typing paints it.
+    RichText ColourType(const QString &text) const;
+    /// The same with its comments alone painted.
+    RichText JustREMtocolour(const QString &text) const;
 
 private:
+    void removeColour(EditorDocument &document, int from, int length);
+    void paintStretch(EditorDocument &document, int from, int to);
+    RichText painted(const QString &text, std::span<const PaintPass> passes) const;
+    EditorDocument &document(DocumentKind kind) const;
+
     Context m_context;
-    EditorView &m_view;
-    ColouredCopies &m_copies;
+    Parts m_parts;
 };
 
 } // namespace zeph

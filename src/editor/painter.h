@@ -7,13 +7,14 @@
 // character.
 
 #include "editor/file_kinds.h"
-#include "platform/core/base.h"
-#include "platform/core/units.h"
+#include "platform/core/rich_text.h"
 
 #include <span>
 #include <vector>
 
 namespace zeph {
+
+struct GlobalSettings;
 
 /// A stretch of characters of one colour; the runs follow each other and cover the whole text.
 struct ColourRun {
@@ -33,18 +34,28 @@ struct ColourScheme {
     ColorRef rem = 0;
 };
 
-struct GlobalSettings;
-
 /// The scheme of the settings for one of the documents.
 ColourScheme colourScheme(const GlobalSettings &settings, DocumentKind kind);
 
-enum class PaintPrimitive { OnlyWord, WordCheckWhole, JoyWordnotBracket, Bracket, BTNorDEF, REM };
-enum class ColourClass { Btn, Slash, Raw, Miscellaneous, Rem, PureRed };
+/// How a pass seeks its word and what it paints of a hit. "Whole" is the whole-word rule of
+/// platform/core/text_search.h.
+enum class PaintPrimitive : quint8 {
+    OnlyWord, ///< whole word in exact case
+    WordCheckWhole, ///< whole word in any case, a blank behind it and no "_" before it
+    JoyWordnotBracket, ///< whole word in any case; "(" is the next character or the one after it
+    Bracket, ///< the single character, wherever it stands
+    BTNorDEF, ///< whole word (BTN in any case, another in exact case), and on to the blank or tab
+              ///< that ends the name behind it, across line ends too
+    REM ///< whole word in any case, and on to the line's end
+};
 
-/// One search over the whole text; passes run in order, and later ones paint over earlier ones.
+enum class ColourClass : quint8 { Btn, Slash, Raw, Miscellaneous, Rem, PureRed };
+
+/// One search over the whole text; passes run in order, and later ones paint over earlier ones. A
+/// pass goes on behind what its last hit painted.
 struct PaintPass {
     PaintPrimitive primitive;
-    const char16_t *word;
+    QStringView word;
     ColourClass colour;
 };
 
@@ -55,8 +66,12 @@ std::span<const PaintPass> typingPasses();
 /// Comments alone.
 std::span<const PaintPass> remPasses();
 
-/// Paints the text: linear in its length, exactly as the passes one after another would.
+/// Paints the text: linear in its length, exactly as the passes one after another would. No two
+/// neighbouring runs have the same colour.
 std::vector<ColourRun> paint(QStringView text, std::span<const PaintPass> passes,
                              const ColourScheme &scheme);
+
+/// The runs as looks: the plain format with each run's colour.
+std::vector<CharRun> characterRuns(const std::vector<ColourRun> &runs, const CharFormat &plain);
 
 } // namespace zeph

@@ -30,9 +30,15 @@ std::unique_ptr<QMenu> RightMenu::build() const
     auto menu = std::make_unique<QMenu>();
     menu->setObjectName(u"mnuRHMouse"_s);
     const bool macro = m_view.selected().kind == DocumentKind::Macro;
+    QMenu *submenu = nullptr;
     for (const RightMenuRow &row : rightMenuTable()) {
         if (row.shown == RightMenuRow::Divider) {
             menu->addSeparator();
+            continue;
+        }
+        if (row.shown == RightMenuRow::Submenu) {
+            submenu = menu->addMenu(QString::fromUtf16(row.caption));
+            submenu->menuAction()->setObjectName(QString::fromUtf16(row.name));
             continue;
         }
         if (row.shown == (macro ? RightMenuRow::JoystickOnly : RightMenuRow::MacroOnly)) {
@@ -40,8 +46,9 @@ std::unique_ptr<QMenu> RightMenu::build() const
         }
         QAction *target = m_actions.action(QStringView(row.target));
         const QString caption = QString::fromUtf16(row.caption);
+        QMenu &place = row.shown == RightMenuRow::InSubmenu ? *submenu : *menu;
         QAction *entry =
-            menu->addAction(target->icon(), caption.isEmpty() ? target->text() : caption);
+            place.addAction(target->icon(), caption.isEmpty() ? target->text() : caption);
         entry->setObjectName(QString::fromUtf16(row.name));
         entry->setEnabled(target->isEnabled());
         entry->setCheckable(target->isCheckable());

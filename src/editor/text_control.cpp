@@ -96,6 +96,25 @@ void TextControl::replace(int start, int length, const QString &text)
     cursor.insertText(text);
 }
 
+void TextControl::setCharacterRuns(const std::vector<CharRun> &runs, int from)
+{
+    applyCharacterRuns(*document(), runs, from);
+}
+
+void TextControl::changeLooks(int from, int length, const std::function<void(CharFormat &)> &change)
+{
+    RichText stretch = richTextOf(*document(), from, length);
+    for (CharRun &run : stretch.characters) {
+        change(run.format);
+    }
+    setCharacterRuns(stretch.characters, from);
+}
+
+int TextControl::end() const
+{
+    return document()->characterCount() - 1;
+}
+
 int TextControl::selStart() const
 {
     return textCursor().selectionStart();
@@ -108,7 +127,7 @@ int TextControl::selLength() const
 
 void TextControl::select(int start, int length)
 {
-    const int last = document()->characterCount() - 1;
+    const int last = end();
     QTextCursor cursor(document());
     cursor.setPosition(qBound(0, start, last));
     cursor.setPosition(qBound(0, start + length, last), QTextCursor::KeepAnchor);
@@ -133,7 +152,7 @@ TextControl::Place TextControl::place() const
 
 void TextControl::setPlace(const Place &place)
 {
-    const int last = document()->characterCount() - 1;
+    const int last = end();
     QTextCursor cursor(document());
     cursor.setPosition(qBound(0, place.anchor, last));
     cursor.setPosition(qBound(0, place.caret, last), QTextCursor::KeepAnchor);

@@ -7,6 +7,8 @@
 
 #include <QPlainTextEdit>
 
+#include <functional>
+
 namespace zeph {
 
 class LineMargin;
@@ -18,6 +20,9 @@ struct SeenLine {
     double height = 0;
     double baseline = 0;
 };
+
+/// The small margin that every document has.
+constexpr ParagraphFormat documentParagraph = { .leftIndentTwips = 20 };
 
 /// One of the Editor's two texts: shows a document's text and colours, unwrapped, so that a line is
 /// always a line of the file. Keeps no undo of its own. Positions are 0-based characters.
@@ -39,6 +44,13 @@ public:
     /// Replaces a stretch, in the format that stands there; caret and selection of the user move
     /// along.
     void replace(int start, int length, const QString &text);
+
+    /// Lays looks over the characters from a position on; text, caret and scroll stay.
+    void setCharacterRuns(const std::vector<CharRun> &runs, int from = 0);
+    /// Changes the looks of a stretch through a function.
+    void changeLooks(int from, int length, const std::function<void(CharFormat &)> &change);
+    /// Behind the last character.
+    int end() const;
 
     int selStart() const;
     int selLength() const;

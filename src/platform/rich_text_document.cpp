@@ -291,9 +291,26 @@ void replaceRichText(QTextDocument &document, qsizetype from, qsizetype length,
     cursor.endEditBlock();
 }
 
-void applyCharacterRuns(QTextDocument &document, const std::vector<CharRun> &runs)
+void applyCharacterRuns(QTextDocument &document, const std::vector<CharRun> &runs, qsizetype from)
 {
-    RunPainter(document, characterRunsOf(document)).paint(runs);
+    qsizetype length = 0;
+    for (const CharRun &run : runs) {
+        length += run.length;
+    }
+    RunPainter(document, richTextOf(document, from, length).characters, from).paint(runs);
+}
+
+void setParagraphFormat(QTextDocument &document, const ParagraphFormat &format)
+{
+    const int count = document.blockCount();
+    const std::vector<ParagraphRun> wanted = { { count, format } };
+    if (richTextOf(document).paragraphs == wanted) {
+        return;
+    }
+    QTextCursor cursor(&document);
+    cursor.beginEditBlock();
+    setParagraphs(cursor, 0, count, format);
+    cursor.endEditBlock();
 }
 
 } // namespace zeph

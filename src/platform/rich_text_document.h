@@ -44,9 +44,12 @@ void insertRichText(QTextCursor &cursor, const RichText &text);
 void replaceRichText(QTextDocument &document, qsizetype from, qsizetype length,
                      const RichText &text);
 /// Lays character runs over the text as it stands, in one edit block; the text does not change.
-/// Runs are laid from the text's start; what they do not reach stays as it is. Only what looks
-/// otherwise is touched.
-void applyCharacterRuns(QTextDocument &document, const std::vector<CharRun> &runs);
+/// Runs are laid from a position on; what they do not reach stays as it is. Only what looks
+/// otherwise is touched, and only what they reach is read.
+void applyCharacterRuns(QTextDocument &document, const std::vector<CharRun> &runs,
+                        qsizetype from = 0);
+/// Gives all paragraphs one format; nothing is touched when they have it.
+void setParagraphFormat(QTextDocument &document, const ParagraphFormat &format);
 
 /// 0-based line of a position; a line is a line of the file, since documents do not wrap.
 int lineOfCharacter(const QTextDocument &document, int position);

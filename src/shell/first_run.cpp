@@ -6,8 +6,8 @@
 #include "platform/dialogs.h"
 #include "shell/foreign_keyboard.h"
 #include "shell/help_menu.h"
+#include "shell/settings/settings_files.h"
 #include "shell/settings/settings_moments.h"
-#include "shell/settings_files.h"
 #include "shell/welcome.h"
 
 namespace zeph {

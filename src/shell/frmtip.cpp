@@ -7,7 +7,7 @@
 #include "platform/core/paths.h"
 #include "platform/core/text1252.h"
 #include "shell/icons.h"
-#include "shell/settings_files.h"
+#include "shell/settings/settings_files.h"
 #include "ui_frmtip.h"
 
 #include <QRandomGenerator>

@@ -1,0 +1,297 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#include "editor/painter.h"
+
+#include "platform/core/text_search.h"
+#include "shell/settings/global_settings.h"
+
+#include <algorithm>
+#include <array>
+
+namespace zeph {
+
+namespace {
+
+constexpr size_t asciiCount = 128;
+constexpr ColorRef pureRed = 255;
+
+/// What the walk asks of each character, looked up: nearly all of a file is ASCII.
+struct AsciiTable {
+    std::array<bool, asciiCount> isWord{};
+    std::array<char16_t, asciiCount> folded{};
+
+    AsciiTable()
+    {
+        for (char16_t c = 0; c < asciiCount; ++c) {
+            isWord[c] = isWordCharacter(QChar(c));
+            folded[c] = QChar(c).toCaseFolded().unicode();
+        }
+    }
+};
+
+const AsciiTable ascii;
+
+bool isWord(QChar character)
+{
+    const char16_t c = character.unicode();
+    return c < asciiCount ? ascii.isWord[c] : isWordCharacter(character);
+}
+
+char16_t fold(QChar character)
+{
+    const char16_t c = character.unicode();
+    return c < asciiCount ? ascii.folded[c] : character.toCaseFolded().unicode();
+}
+
+/// Hash of a word in any case, one character after another.
+struct WordHash {
+    quint32 value = 0;
+    void add(char16_t folded) { value = value * 31 + folded; }
+};
+
+bool matchesCase(const PaintPass &pass)
+{
+    switch (pass.primitive) {
+    case PaintPrimitive::OnlyWord:
+        return true;
+    case PaintPrimitive::BTNorDEF:
+        return pass.word != u"BTN";
+    default:
+        return false;
+    }
+}
+
+using Hits = std::vector<qsizetype>;
+
+/// Finds the whole-word hits of the words of all passes in one walk over the text. A word that is
+/// made of word characters alone is a hit exactly where a run of them is that word; any other is
+/// tried where its first character can start it.
+class HitFinder
+{
+public:
+    explicit HitFinder(std::span<const PaintPass> passes) : m_passes(passes), m_hits(passes.size())
+    {
+        for (size_t i = 0; i < passes.size(); ++i) {
+            add(i);
+        }
+    }
+
+    /// The hits of each pass, in the order of the text.
+    std::vector<Hits> find(QStringView text)
+    {
+        m_text = text;
+        const qsizetype size = text.size();
+        for (qsizetype at = 0; at < size;) {
+            const qsizetype start = at;
+            if (!isWord(text[at])) {
+                tryOthers(start);
+                ++at;
+                continue;
+            }
+            WordHash hash;
+            do {
+                hash.add(fold(text[at]));
+                ++at;
+            } while (at < size && isWord(text[at]));
+            tryWord(start, at - start, hash);
+            tryOthers(start);
+        }
+        return std::move(m_hits);
+    }
+
+private:
+    struct Word {
+        QStringView text;
+        std::vector<size_t> passes;
+    };
+    using Bucket = std::vector<Word>;
+    static constexpr size_t bucketCount = 512;
+
+    void add(size_t pass)
+    {
+        const QStringView word = m_passes[pass].word;
+        if (word.isEmpty()) {
+            return;
+        }
+        WordHash hash;
+        for (const QChar c : word) {
+            hash.add(fold(c));
+        }
+        const bool isPure = std::all_of(word.begin(), word.end(), isWord);
+        Bucket &bucket = isPure ? m_words[hash.value % bucketCount] : othersAt(word.front());
+        const auto known = std::find_if(bucket.begin(), bucket.end(), [word](const Word &each) {
+            return each.text.compare(word, Qt::CaseInsensitive) == 0;
+        });
+        if (known == bucket.end()) {
+            bucket.push_back({ word, { pass } });
+        } else {
+            known->passes.push_back(pass);
+        }
+    }
+
+    Bucket &othersAt(QChar first) { return m_others[fold(first) % asciiCount]; }
+
+    void tryWord(qsizetype start, qsizetype length, WordHash hash)
+    {
+        for (const Word &word : m_words[hash.value % bucketCount]) {
+            if (word.text.size() == length && equals(start, word.text)) {
+                addHits(word, start);
+            }
+        }
+    }
+
+    void tryOthers(qsizetype start)
+    {
+        for (const Word &word : othersAt(m_text[start])) {
+            const qsizetype end = start + word.text.size();
+            const bool joinedBehind =
+                end < m_text.size() && isWord(word.text.back()) && isWord(m_text[end]);
+            if (end <= m_text.size() && !joinedBehind && equals(start, word.text)) {
+                addHits(word, start);
+            }
+        }
+    }
+
+    bool equals(qsizetype start, QStringView word) const
+    {
+        return std::equal(word.begin(), word.end(), m_text.begin() + start,
+                          [](QChar a, QChar b) { return fold(a) == fold(b); });
+    }
+
+    void addHits(const Word &word, qsizetype start)
+    {
+        for (const size_t pass : word.passes) {
+            const QStringView wanted = m_passes[pass].word;
+            if (!matchesCase(m_passes[pass]) || m_text.mid(start, wanted.size()) == wanted) {
+                m_hits[pass].push_back(start);
+            }
+        }
+    }
+
+    std::span<const PaintPass> m_passes;
+    std::vector<Hits> m_hits;
+    QStringView m_text;
+    std::array<Bucket, bucketCount> m_words;
+    std::array<Bucket, asciiCount> m_others; ///< by first character
+};
+
+/// Lays the hits of one pass after another over the text.
+class Canvas
+{
+public:
+    explicit Canvas(QStringView text) : m_text(text), m_colours(size_t(text.size()), plain) { }
+
+    void paint(const PaintPass &pass, const Hits &hits)
+    {
+        qsizetype next = 0;
+        for (const qsizetype start : hits) {
+            if (start < next) {
+                continue;
+            }
+            const qsizetype wordEnd = start + pass.word.size();
+            next = wordEnd;
+            if (isPainted(pass.primitive, start, wordEnd)) {
+                next = paintedEnd(pass.primitive, wordEnd);
+                std::fill(m_colours.begin() + start, m_colours.begin() + next,
+                          quint8(quint8(pass.colour) + 1));
+            }
+        }
+    }
+
+    std::vector<ColourRun> runs(const ColourScheme &scheme) const
+    {
+        const std::array colours = { scheme.plain,         scheme.btn, scheme.slash, scheme.raw,
+                                     scheme.miscellaneous, scheme.rem, pureRed };
+        std::vector<ColourRun> runs;
+        for (auto at = m_colours.begin(); at != m_colours.end();) {
+            const quint8 here = *at;
+            const auto end =
+                std::find_if(at, m_colours.end(), [here](quint8 each) { return each != here; });
+            const ColorRef colour = colours[here];
+            if (runs.empty() || runs.back().colour != colour) {
+                runs.push_back({ 0, colour });
+            }
+            runs.back().length += end - at;
+            at = end;
+        }
+        return runs;
+    }
+
+private:
+    /// Stands for characters that no pass painted; the classes follow it.
+    static constexpr quint8 plain = 0;
+
+    bool holds(qsizetype at, QChar character) const
+    {
+        return at < m_text.size() && m_text[at] == character;
+    }
+
+    bool isPainted(PaintPrimitive primitive, qsizetype start, qsizetype end) const
+    {
+        switch (primitive) {
+        case PaintPrimitive::WordCheckWhole:
+            return holds(end, u' ') && (start == 0 || m_text[start - 1] != u'_');
+        case PaintPrimitive::JoyWordnotBracket:
+            return holds(end, u'(') || holds(end + 1, u'(');
+        default:
+            return true;
+        }
+    }
+
+    qsizetype paintedEnd(PaintPrimitive primitive, qsizetype wordEnd) const
+    {
+        const auto endAt = [this](qsizetype from, auto isEnd) {
+            const auto begin = m_text.begin() + std::min(from, m_text.size());
+            return std::find_if(begin, m_text.end(), isEnd) - m_text.begin();
+        };
+        switch (primitive) {
+        case PaintPrimitive::BTNorDEF:
+            // The character behind the word is taken in whatever it is; the name starts behind it.
+            return endAt(wordEnd + 1, [](QChar c) { return c == u' ' || c == u'\t'; });
+        case PaintPrimitive::REM:
+            return endAt(wordEnd, [](QChar c) { return c == u'\n'; });
+        default:
+            return wordEnd;
+        }
+    }
+
+    QStringView m_text;
+    std::vector<quint8> m_colours;
+};
+
+} // namespace
+
+ColourScheme colourScheme(const GlobalSettings &settings, DocumentKind kind)
+{
+    return { kind == DocumentKind::Joystick ? settings.JoystickTextDefaultColour
+                                            : settings.MacroTextDefaultColour,
+             settings.BTNColour,
+             settings.SlashColour,
+             settings.RAWColour,
+             settings.MiscellaneousColour,
+             settings.RemStatements };
+}
+
+std::vector<ColourRun> paint(QStringView text, std::span<const PaintPass> passes,
+                             const ColourScheme &scheme)
+{
+    const std::vector<Hits> hits = HitFinder(passes).find(text);
+    Canvas canvas(text);
+    for (size_t i = 0; i < passes.size(); ++i) {
+        canvas.paint(passes[i], hits[i]);
+    }
+    return canvas.runs(scheme);
+}
+
+std::vector<CharRun> characterRuns(const std::vector<ColourRun> &runs, const CharFormat &plain)
+{
+    std::vector<CharRun> result(runs.size(), { 0, plain });
+    for (size_t i = 0; i < runs.size(); ++i) {
+        result[i].length = runs[i].length;
+        result[i].format.colour = runs[i].colour;
+    }
+    return result;
+}
+
+} // namespace zeph

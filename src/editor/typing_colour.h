@@ -1,0 +1,34 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QObject>
+
+namespace zeph {
+
+class EditorView;
+class Highlighting;
+struct GlobalSettings;
+
+/// Colours lines as they are typed, while ColourWithTyping is 1: before a blank or a line end goes
+/// in, behind Backspace and Right, and when the mouse has selected something. A protected macro
+/// text, into which nothing is typed, stays as it is.
+class TypingColour : public QObject
+{
+    Q_OBJECT
+public:
+    TypingColour(EditorView &view, Highlighting &highlighting, const GlobalSettings &settings);
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    bool endsLine(const QEvent &event) const;
+
+    EditorView &m_view;
+    Highlighting &m_highlighting;
+    const GlobalSettings &m_settings;
+};
+
+} // namespace zeph
