@@ -15,9 +15,9 @@ namespace {
 
 constexpr qsizetype mostPadding = 69;
 
-constexpr std::array<QStringView, 12> heads = { u"btn",  u"curve", u"joyx", u"joyy",
-                                                u"thr",  u"rddr",  u"lbrk", u"rbrk",
-                                                u"mix",  u"miy",   u"ant",  u"rng" };
+constexpr std::array<QStringView, 12> heads = { u"btn", u"curve", u"joyx", u"joyy",
+                                                u"thr", u"rddr",  u"lbrk", u"rbrk",
+                                                u"mix", u"miy",   u"ant",  u"rng" };
 
 bool beginsAnyCase(QStringView line, QStringView start)
 {
@@ -79,8 +79,8 @@ struct Columns {
     }
 };
 
-/// Where a line that begins with a modifier goes: under one of two words in the last line that had a
-/// slash, else under the statement's column.
+/// Where a line that begins with a modifier goes: under one of two words in the last line that had
+/// a slash, else under the statement's column.
 struct ColumnRule {
     QStringView begin;
     QStringView above;
@@ -132,8 +132,7 @@ qsizetype editorColumn(QStringView line, QStringView reference, const Columns &c
 /// The column of a continuation line on the sheets.
 qsizetype layoutColumn(QStringView line, QStringView reference, const Columns &columns)
 {
-    const qsizetype dogfight =
-        columnOf(line, { u"/U", u"/M", u"/D" }) > 0 ? columns.dogfight : 0;
+    const qsizetype dogfight = columnOf(line, { u"/U", u"/M", u"/D" }) > 0 ? columns.dogfight : 0;
     return columnBy(layoutRules, line, reference, columns).value_or(dogfight);
 }
 
@@ -179,9 +178,8 @@ constexpr std::array<QStringView, 11> axisStarts = { u"JOYX ", u"JOYY ", u"THR "
 
 QStringView leadingDigits(QStringView text)
 {
-    const auto end = std::ranges::find_if_not(text, [](QChar character) {
-        return character >= u'0' && character <= u'9';
-    });
+    const auto end = std::ranges::find_if_not(
+        text, [](QChar character) { return character >= u'0' && character <= u'9'; });
     return text.first(end - text.begin());
 }
 
@@ -191,12 +189,12 @@ QString useRecord(QStringView line)
 {
     for (const UseRecord &each : useRecords) {
         if (beginsAnyCase(line, each.start) && line.size() > each.start.size()) {
-            return each.label + line.sliced(each.start.size());
+            return each.label.toString() + line.sliced(each.start.size()).toString();
         }
     }
     if (beginsAnyCase(line, mouseType)) {
         const QStringView number = leadingDigits(line.sliced(mouseType.size()));
-        return number.isEmpty() ? QString() : u"MType: " + number;
+        return number.isEmpty() ? QString() : u"MType: "_s + number.toString();
     }
     return {};
 }
