@@ -16,7 +16,6 @@ namespace zeph {
 /// A text offered twice: as plain text, and as RTF, which is written only when somebody asks.
 class RichTextMime : public QMimeData
 {
-    Q_OBJECT
 public:
     explicit RichTextMime(RichText text);
 
