@@ -35,9 +35,10 @@ qsizetype sizeOf(const TextChunks &chunks, size_t first, size_t behind)
     return size;
 }
 
+/// Without the text, which chunks may share.
 qsizetype bytesOf(const TextChunk &chunk)
 {
-    return qsizetype(sizeof(TextChunk)) + chunk.text.capacity() * qsizetype(sizeof(QChar))
+    return qsizetype(sizeof(TextChunk))
         + qsizetype(chunk.runs.capacity() * sizeof(TextChunk::Run)
                     + chunk.paragraphs.capacity() * sizeof(ParagraphRun));
 }
@@ -56,6 +57,8 @@ qsizetype DocumentState::bytesHeld(std::span<const DocumentState> states)
         for (const auto &chunk : *state.m_chunks) {
             if (counted.insert(chunk.get()).second) {
                 bytes += bytesOf(*chunk);
+                const bool isFirst = counted.insert(chunk->text.constData()).second;
+                bytes += isFirst ? chunk->text.capacity() * qsizetype(sizeof(QChar)) : 0;
             }
         }
     }
@@ -65,6 +68,8 @@ qsizetype DocumentState::bytesHeld(std::span<const DocumentState> states)
 DocumentStates::DocumentStates(QTextDocument &document, int linesPerChunk)
     : m_document(document), m_linesPerChunk(linesPerChunk), m_known(empty())
 {
+    // Without a layout the toolkit tells nobody of changes.
+    document.documentLayout();
     m_following = QObject::connect(&document, &QTextDocument::contentsChange, &document,
                                    [this](int position, int removed, int added) {
                                        onContentsChange(position, removed, added);

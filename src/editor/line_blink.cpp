@@ -21,10 +21,9 @@ void SelectLine(TextControl &control)
     control.select(line.position(), line.length() - 1);
 }
 
-LineBlink::LineBlink(EditorView &view) : m_view(view)
+LineBlink::LineBlink(EditorView &view, QObject *parent) : QObject(parent), m_view(view)
 {
     m_timer.setObjectName(u"TimerBlinkLine"_s);
-    m_timer.setParent(this);
     m_timer.setInterval(100ms);
     connect(&m_timer, &QTimer::timeout, this, &LineBlink::tick);
     connect(&view, &EditorView::tabSelected, this, &LineBlink::stop);
@@ -74,6 +73,7 @@ void LineBlink::putCaretBack()
 bool LineBlink::eventFilter(QObject *watched, QEvent *event)
 {
     switch (event->type()) {
+    case QEvent::ShortcutOverride:
     case QEvent::KeyPress:
     case QEvent::InputMethod:
     case QEvent::MouseButtonPress:

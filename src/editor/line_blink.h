@@ -20,7 +20,7 @@ class LineBlink : public QObject
 {
     Q_OBJECT
 public:
-    explicit LineBlink(EditorView &view);
+    LineBlink(EditorView &view, QObject *parent);
 
     /// Blinks the line of a document's caret.
     void start(EditorDocument &document);
@@ -37,7 +37,7 @@ private:
 
     EditorView &m_view;
     EditorDocument *m_document = nullptr;
-    QTimer m_timer;
+    QTimer m_timer{ this };
     int m_count = 0;
 };
 

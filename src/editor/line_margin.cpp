@@ -61,11 +61,13 @@ MarginColours marginColours(const QColor &textBackground)
         colours.background = mix(textBackground, dark ? black : white, 0.05);
     }
     colours.current = ink;
-    double strength = 0.5;
-    do {
-        colours.number = mix(colours.background, ink, strength);
-        strength += 0.05;
-    } while (contrast(colours.background, colours.number) < readable && strength <= 1);
+    // As quiet as it can be, and still readable.
+    for (int percent = 50; percent <= 100; percent += 5) {
+        colours.number = mix(colours.background, ink, percent / 100.0);
+        if (contrast(colours.background, colours.number) >= readable) {
+            break;
+        }
+    }
     return colours;
 }
 

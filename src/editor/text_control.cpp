@@ -284,11 +284,15 @@ void TextControl::inputMethodEvent(QInputMethodEvent *event)
 void TextControl::keyPressEvent(QKeyEvent *event)
 {
     tellKey(*event);
+    const auto held = event->modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier);
     const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (enter && event->modifiers().testFlag(Qt::ShiftModifier)) {
-        // With Shift the toolkit makes a line within a paragraph; a file knows only whole lines.
-        QKeyEvent plain(event->type(), event->key(), Qt::NoModifier, event->text());
-        QPlainTextEdit::keyPressEvent(&plain);
+    if (enter && held == Qt::NoModifier && !isReadOnly()) {
+        // The toolkit would make a line within a paragraph with Shift, which files do not know, and
+        // two changes of one key on an empty line.
+        QTextCursor cursor = textCursor();
+        cursor.insertBlock();
+        setTextCursor(cursor);
+        ensureCursorVisible();
         event->accept();
         return;
     }

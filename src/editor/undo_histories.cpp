@@ -32,7 +32,7 @@ UndoHistories::UndoHistories(const Context &context, EditorView &view, EditorAct
           UndoHistory(view.document(DocumentKind::Joystick), context.settings.UndoMax),
           UndoHistory(view.document(DocumentKind::Macro), context.settings.UndoMax),
       },
-      m_blink(std::make_unique<LineBlink>(view))
+      m_blink(new LineBlink(view, this))
 {
     follow(DocumentKind::Joystick);
     follow(DocumentKind::Macro);
@@ -43,8 +43,6 @@ UndoHistories::UndoHistories(const Context &context, EditorView &view, EditorAct
     actions.connectTo(u"mnuEditSelectLine", [this] { mnuEditSelectLine_Click(); });
     UpdateUndoRedoMenus();
 }
-
-UndoHistories::~UndoHistories() = default;
 
 void UndoHistories::follow(DocumentKind kind)
 {

@@ -76,7 +76,6 @@ class UndoHistories : public QObject
     Q_OBJECT
 public:
     UndoHistories(const Context &context, EditorView &view, EditorActions &actions);
-    ~UndoHistories() override;
 
     UndoHistory &of(DocumentKind kind) { return m_histories[size_t(kind)]; }
     /// The document's text-changed operation: state, saved icon, history, menus.
@@ -108,7 +107,7 @@ private:
     EditorView &m_view;
     EditorActions &m_actions;
     std::array<UndoHistory, 2> m_histories;
-    std::unique_ptr<LineBlink> m_blink;
+    LineBlink *m_blink;
 };
 
 } // namespace zeph

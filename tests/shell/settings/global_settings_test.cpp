@@ -332,7 +332,9 @@ TEST(SaveGlobalSettings, WritesExactlyItsKeys)
                                    u"MacroSaveUpdateMacros",
                                    u"MacroSaveIdentifyJF",
                                    u"MacroWithMouse",
-                                   u"MacroHighlightedInMacroFile" }) {
+                                   u"MacroHighlightedInMacroFile",
+                                   u"LineNumbers",
+                                   u"CurrentLineMark" }) {
         EXPECT_FALSE(absent(u"Miscellaneous", key)) << key.toString().toStdString();
     }
     EXPECT_FALSE(absent(u"Apps", u"ImageFilePath"));
@@ -342,8 +344,8 @@ TEST(SaveGlobalSettings, WritesExactlyItsKeys)
     EXPECT_FALSE(absent(u"Colours", u"MacroTextDefaultColour"));
     EXPECT_EQ(store.text(u"Composer", u"DefaultDLYvalue"), u"60"_s);
     EXPECT_EQ(store.files.hotasIni.text(u"Defaults", u"DownloadMode"), u"1"_s);
-    // 5 + 39 + 2 + 1 + 2 + 1 keys.
-    EXPECT_EQ(store.folder.read(u"Zeph.ini"_s).count('='), 50);
+    // 5 + 41 + 2 + 1 + 2 + 1 keys.
+    EXPECT_EQ(store.folder.read(u"Zeph.ini"_s).count('='), 52);
     EXPECT_EQ(store.folder.read(u"HOTAS.ini"_s).count('='), 1);
 }
 

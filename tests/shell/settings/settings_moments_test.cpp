@@ -72,8 +72,8 @@ TEST(FirstStart, AnAbsentStoreEndsUpWithEveryGlobalKeyColoursAndHandles)
     ASSERT_TRUE(saveGlobalSettings(settings, store.files));
     ASSERT_EQ(settings.FirstTimeUsed, 1);
     ASSERT_TRUE(SetUpDefaultIniSettings(settings, store.files));
-    // 50 global keys (two of them colours), the other 14 colours, 3 of the handles.
-    EXPECT_EQ(store.folder.read(u"Zeph.ini"_s).count('='), 67);
+    // 52 global keys (two of them colours), the other 14 colours, 3 of the handles.
+    EXPECT_EQ(store.folder.read(u"Zeph.ini"_s).count('='), 69);
     EXPECT_EQ(store.text(u"FileLocations", u"ShowTips"), u"(absent)"_s);
 }
 
