@@ -5,6 +5,7 @@
 
 #include "editor/coloured_copies.h"
 #include "editor/coloured_insert.h"
+#include "editor/editing_tools.h"
 #include "editor/editor_actions.h"
 #include "editor/editor_keys.h"
 #include "editor/editor_view.h"
@@ -14,6 +15,7 @@
 #include "editor/file_saving.h"
 #include "editor/framemacros.h"
 #include "editor/highlighting.h"
+#include "editor/line_showing.h"
 #include "editor/macro_features.h"
 #include "editor/right_menu.h"
 #include "editor/text_control.h"
@@ -23,7 +25,7 @@
 #include "editor/undo_history.h"
 #include "editor/use_directives.h"
 #include "platform/dialogs.h"
-#include "platform/status_line.h"
+#include "platform/rich_text_mime.h"
 #include "shell/settings/global_settings.h"
 
 #include <QAction>
@@ -31,7 +33,7 @@
 #include <QClipboard>
 #include <QHBoxLayout>
 #include <QMenu>
-#include <QMimeData>
+#include <QVBoxLayout>
 
 #include <exception>
 
@@ -51,6 +53,9 @@ Editor::Editor(const Context &context, QWidget *parent)
       m_looks(
           std::make_unique<TextLooks>(context, TextLooks::Parts{ *m_view, *m_actions, *m_insert })),
       m_typingColour(std::make_unique<TypingColour>(*m_view, *m_highlighting, context.settings)),
+      m_editing(std::make_unique<EditingTools>(
+          context,
+          EditingTools::Parts{ *m_view, *m_actions, *m_undos, *m_highlighting, *m_insert })),
       m_useDirectives(std::make_unique<UseDirectives>(context, *m_view)),
       m_saving(std::make_unique<FileSaving>(context, *m_view, *m_copies, *m_useDirectives)),
       m_opening(std::make_unique<FileOpening>(
@@ -136,20 +141,8 @@ void Editor::connectFiles()
 
 void Editor::connectEditing()
 {
-    EditorActions &on = *m_actions;
-    on.connectTo(u"mnuEditCut", [this] {
-        if (!m_view->refuseProtected()) {
-            selected().control->cut();
-        }
-    });
-    on.connectTo(u"mnuEditCopy", [this] { selected().control->copy(); });
-    on.connectTo(u"mnuEditPaste", [this] { paste(); });
-    on.connectTo(u"mnuEditDelete", [this] {
-        if (!m_view->refuseProtected()) {
-            selected().control->textCursor().removeSelectedText();
-        }
-    });
-    on.connectTo(u"mnuEditSelectAll", [this] { selected().control->selectAll(); });
+    connect(m_editing.get(), &EditingTools::helpOn, this, &Editor::helpOn);
+    m_actions->connectTo(u"mnuEditSelectAll", [this] { selected().control->selectAll(); });
 }
 
 void Editor::connectOptions()
@@ -245,18 +238,10 @@ void Editor::connectMacros()
             [this] { Q_EMIT helpOn(u"macro list"_s); });
 }
 
-void Editor::paste()
-{
-    if (!m_view->refuseProtected()) {
-        selected().control->paste();
-    }
-}
-
 void Editor::updateConditions()
 {
     m_actions->setCondition(When::Selection, selected().control->textCursor().hasSelection());
-    const QMimeData *clipboard = QApplication::clipboard()->mimeData();
-    m_actions->setCondition(When::PasteReady, clipboard && clipboard->hasText());
+    m_actions->setCondition(When::PasteReady, holdsText(QApplication::clipboard()->mimeData()));
     m_actions->setCondition(When::JoystickText,
                             selected().kind == DocumentKind::Joystick
                                 || m_context.settings.AlwaysShowCompileDownload == 1);
@@ -279,7 +264,7 @@ void Editor::ResetFocusToEditor()
 void Editor::HighlightErrorLine(int line, const QString &compileErrorText)
 {
     try {
-        showLine(m_view->document(documentOfError(compileErrorText)), line);
+        showLine(m_context, *m_view, m_view->document(documentOfError(compileErrorText)), line);
     } catch (const std::exception &error) {
         m_context.dialogs.tell(u"Hmmm....bizarre..."_s,
                                u"Please report this on the Klaifi forums so I can investigate "
@@ -287,20 +272,6 @@ void Editor::HighlightErrorLine(int line, const QString &compileErrorText)
                                    + QString::fromLocal8Bit(error.what()),
                                BoxIcon::Exclamation);
     }
-}
-
-void Editor::showLine(EditorDocument &document, int line)
-{
-    const auto range = lineRange(document.control->text(), line);
-    if (!range) {
-        m_context.dialogs.tell(u"Oops!"_s, u"Line not found"_s, BoxIcon::Exclamation);
-        return;
-    }
-    m_view->select(document.kind);
-    document.control->select(int(range->start), int(range->length));
-    document.control->centerCursor();
-    document.control->setFocus();
-    m_context.status.setLine(line);
 }
 
 bool Editor::queryUnload()
@@ -326,6 +297,7 @@ void Editor::applySettings()
     const GlobalSettings &settings = m_context.settings;
     m_view->applyLook();
     m_looks->UpdateStyleCaptions();
+    m_editing->applySettings();
     m_view->setTiled(settings.TileFiles == 1);
     action(u"mnuViewTileVertically")->setChecked(settings.TileFiles == 1);
     m_macros->applySettings();

@@ -16,6 +16,7 @@ namespace zeph {
 
 class ColouredCopies;
 class ColouredInsert;
+class EditingTools;
 class EditorActions;
 class EditorKeys;
 class EditorView;
@@ -56,6 +57,7 @@ public:
     FileNew &fresh() { return *m_fresh; }
     UseDirectives &useDirectives() { return *m_useDirectives; }
     RightMenu &rightMenu() { return *m_rightMenu; }
+    EditingTools &editing() { return *m_editing; }
     Highlighting &highlighting() { return *m_highlighting; }
     /// Writes a tool's text into the selected document.
     ColouredInsert &insert() { return *m_insert; }
@@ -91,8 +93,6 @@ private:
     void connectMacros();
     void updateConditions();
     void updateDownloadCaption();
-    void paste();
-    void showLine(EditorDocument &document, int line);
 
     Context m_context;
     std::unique_ptr<EditorActions> m_actions;
@@ -104,6 +104,7 @@ private:
     std::unique_ptr<Highlighting> m_highlighting;
     std::unique_ptr<TextLooks> m_looks;
     std::unique_ptr<TypingColour> m_typingColour;
+    std::unique_ptr<EditingTools> m_editing;
     std::unique_ptr<UseDirectives> m_useDirectives;
     std::unique_ptr<FileSaving> m_saving;
     std::unique_ptr<FileOpening> m_opening;

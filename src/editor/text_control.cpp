@@ -4,14 +4,13 @@
 #include "editor/text_control.h"
 
 #include "editor/line_margin.h"
+#include "editor/pasted_text.h"
 #include "platform/rich_text_document.h"
+#include "platform/rich_text_mime.h"
 
-#include <QMimeData>
 #include <QPainter>
 #include <QScrollBar>
 #include <QTextBlock>
-
-#include <algorithm>
 
 namespace zeph {
 
@@ -312,32 +311,20 @@ void TextControl::keyPressEvent(QKeyEvent *event)
 
 QMimeData *TextControl::createMimeDataFromSelection() const
 {
-    QMimeData *selection = QPlainTextEdit::createMimeDataFromSelection();
-    QString text = textCursor().selectedText();
-    QChar *const end = text.data() + text.size();
-    std::replace_if(text.data(), end, isBlockBorder, QChar(u'\n'));
-    // The toolkit gives its text only when asked, and over what was set before: ask first. Its own
-    // has blanks for no-break spaces, which are letters of the file.
-    (void)selection->text();
-    selection->setText(text);
-    return selection;
+    return new RichTextMime(zeph::richTextOf(*document(), selStart(), selLength()));
 }
 
 bool TextControl::canInsertFromMimeData(const QMimeData *source) const
 {
-    return source->hasText() && !source->hasUrls();
+    return holdsText(source) && !source->hasUrls();
 }
 
 void TextControl::insertFromMimeData(const QMimeData *source)
 {
-    QString text = source->text();
-    // A NUL would make a file that no other program reads, and that could not be opened again.
-    text.remove(QChar(0));
-    text.replace(u"\r\n"_s, u"\n"_s);
-    text.replace(u'\r', u'\n');
     QTextCursor cursor = textCursor();
-    cursor.insertText(text, toTextFormat(m_plain));
+    insertRichText(cursor, pastedText(*source, m_plain));
     setTextCursor(cursor);
+    setCurrentCharFormat(toTextFormat(m_plain));
     ensureCursorVisible();
 }
 

@@ -1,0 +1,40 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "editor/block_comments.h"
+#include "platform/core/rich_text.h"
+
+namespace zeph {
+
+class ColouredInsert;
+class EditorActions;
+class EditorView;
+class Highlighting;
+
+/// Comments the lines that the selection touches out and in again: one undo step each. Refused on
+/// a protected macro file.
+class BlockOperations
+{
+public:
+    struct Parts {
+        EditorView &view;
+        EditorActions &actions;
+        Highlighting &highlighting;
+        ColouredInsert &insert;
+    };
+    explicit BlockOperations(const Parts &parts);
+
+    void BlockREM();
+    void BlockRemoveREM();
+
+private:
+    LineRange lines() const;
+    std::vector<LineChange> changed(LineRange range, LineChange (*change)(QStringView line)) const;
+    void insertOver(LineRange range, const RichText &text);
+
+    Parts m_parts;
+};
+
+} // namespace zeph

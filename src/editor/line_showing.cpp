@@ -1,0 +1,29 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#include "editor/line_showing.h"
+
+#include "editor/editor_view.h"
+#include "editor/text_control.h"
+#include "editor/text_lines.h"
+#include "platform/dialogs.h"
+#include "platform/status_line.h"
+
+namespace zeph {
+
+bool showLine(const Context &context, EditorView &view, EditorDocument &document, int line)
+{
+    const auto range = lineRange(document.control->text(), line);
+    if (!range) {
+        context.dialogs.tell(u"Oops!"_s, u"Line not found"_s, BoxIcon::Exclamation);
+        return false;
+    }
+    view.select(document.kind);
+    document.control->select(int(range->start), int(range->length));
+    document.control->centerCursor();
+    document.control->setFocus();
+    context.status.setLine(line);
+    return true;
+}
+
+} // namespace zeph
