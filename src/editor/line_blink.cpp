@@ -38,8 +38,9 @@ void LineBlink::start(EditorDocument &document)
 {
     const BusyGuard busy(m_view);
     m_document = &document;
+    m_caret = document.caret;
     m_count = 0;
-    SelectLine(*document.control);
+    showLine();
     m_timer.start();
 }
 
@@ -54,8 +55,7 @@ void LineBlink::stop()
 void LineBlink::tick()
 {
     if (m_count == 1) {
-        const BusyGuard busy(m_view);
-        SelectLine(*m_document->control);
+        showLine();
     } else {
         putCaretBack();
     }
@@ -64,10 +64,19 @@ void LineBlink::tick()
     }
 }
 
+void LineBlink::showLine()
+{
+    const BusyGuard busy(m_view);
+    SelectLine(*m_document->control);
+    // The document's caret stays where the undo put it: the selection is only for the eye.
+    m_document->caret = m_caret;
+    m_document->selLength = 0;
+}
+
 void LineBlink::putCaretBack()
 {
     const BusyGuard busy(m_view);
-    m_document->control->select(m_document->caret, 0);
+    m_document->control->select(m_caret, 0);
 }
 
 bool LineBlink::eventFilter(QObject *watched, QEvent *event)

@@ -33,12 +33,14 @@ protected:
 
 private:
     void tick();
+    void showLine();
     void putCaretBack();
 
     EditorView &m_view;
     EditorDocument *m_document = nullptr;
     QTimer m_timer{ this };
     int m_count = 0;
+    int m_caret = 0;
 };
 
 } // namespace zeph

@@ -12,6 +12,7 @@
 #include <QAction>
 #include <QEvent>
 #include <QMainWindow>
+#include <QMouseEvent>
 #include <QToolBar>
 #include <QToolButton>
 
@@ -192,7 +193,12 @@ QString CoolBar::hoverText(const QObject *watched) const
 bool CoolBar::eventFilter(QObject *watched, QEvent *event)
 {
     const bool passes = event->type() == QEvent::MouseMove || event->type() == QEvent::Enter;
-    if (passes && m_context.settings.ButtonsOnStatusBar == 1) {
+    // A usable button hands the move on to its band, which then has nothing of its own to say.
+    const auto *band = qobject_cast<QToolBar *>(watched);
+    const auto *move =
+        event->type() == QEvent::MouseMove ? static_cast<QMouseEvent *>(event) : nullptr;
+    const bool overButton = band && move && qobject_cast<QToolButton *>(band->childAt(move->pos()));
+    if (passes && !overButton && m_context.settings.ButtonsOnStatusBar == 1) {
         const QString hover = hoverText(watched);
         if (!hover.isEmpty()) {
             m_context.status.setText(hover);

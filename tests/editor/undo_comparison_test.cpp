@@ -167,6 +167,10 @@ protected:
         const bool much = chance->upTo(9) == 0;
         selectSomething(much ? 5000 : 30);
         if (control().selLength() > 0) {
+            // The present looks go along, unless an older state is shown.
+            if (copies().index == 0) {
+                copies().slotsHeld[0] = { control().richText(), control().selStart() };
+            }
             editor->action(u"mnuEditDelete")->trigger();
             changed();
         }
@@ -178,6 +182,8 @@ protected:
         text = much ? text.repeated(60) : text;
         QGuiApplication::clipboard()->setText(text);
         selectSomething(10);
+        // A paste is a tool's insert: it begins with putting the present state into slot 1.
+        copies().slotsHeld[0] = { control().richText(), control().selStart() };
         editor->action(u"mnuEditPaste")->trigger();
         changed();
     }
