@@ -12,6 +12,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMouseEvent>
+#include <QStyledItemDelegate>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -28,6 +29,34 @@ QColor toColor(ColorRef colour)
 {
     return QColor(redOf(colour), greenOf(colour), blueOf(colour));
 }
+
+/// Draws the ticks' boxes in a shade between the list's two colours, whatever pilots make of these:
+/// the style takes the desktop's own, which can be that of the list.
+class TickDelegate : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override
+    {
+        return QStyledItemDelegate::sizeHint(option, index) + QSize(0, roomBetweenBoxes);
+    }
+
+protected:
+    void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override
+    {
+        QStyledItemDelegate::initStyleOption(option, index);
+        const QColor text = option->palette.color(QPalette::Text);
+        const QColor base = option->palette.color(QPalette::Base);
+        option->palette.setColor(QPalette::Window,
+                                 QColor((text.red() + base.red()) / 2,
+                                        (text.green() + base.green()) / 2,
+                                        (text.blue() + base.blue()) / 2));
+    }
+
+private:
+    static constexpr int roomBetweenBoxes = 3;
+};
 
 /// The strip beside the list at which the frame's left edge is taken.
 class EdgeStrip : public QWidget
@@ -64,6 +93,7 @@ MacroListView::MacroListView(MacroListModel &model, QWidget *parent)
     : QListView(parent), m_model(model)
 {
     setModel(&model);
+    setItemDelegate(new TickDelegate(this));
     setUniformItemSizes(true);
     setSelectionMode(SingleSelection);
     setEditTriggers(NoEditTriggers);
