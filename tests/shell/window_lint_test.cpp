@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "editor/editor.h"
+#include "editor/styleeditor.h"
 #include "shell/frmabout.h"
 #include "shell/frmtip.h"
 #include "shell/helpwindow.h"
@@ -103,6 +104,10 @@ const LintCase cases[] = {
     { "Welcome",
       [](auto &w) {
           return std::make_unique<Welcome>(w.paths, w.dialogs, 100000);
+      } },
+    { "StyleEditor",
+      [](auto &w) {
+          return std::make_unique<StyleEditor>(defaultTextStyles(), 0xFFFFFF, w.dialogs);
       } },
     { "Mum", makeMum },
 };
