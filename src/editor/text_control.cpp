@@ -112,11 +112,11 @@ void TextControl::setCharacterRuns(const std::vector<CharRun> &runs, int from)
 
 void TextControl::changeLooks(int from, int length, const std::function<void(CharFormat &)> &change)
 {
-    RichText stretch = richTextOf(*document(), from, length);
-    for (CharRun &run : stretch.characters) {
+    std::vector<CharRun> runs = characterRunsOf(*document(), from, length);
+    for (CharRun &run : runs) {
         change(run.format);
     }
-    setCharacterRuns(stretch.characters, from);
+    setCharacterRuns(runs, from);
 }
 
 int TextControl::end() const

@@ -66,8 +66,7 @@ void TextLooks::mnuFormatArray1_Click(int Index)
 {
     const Flag flag = formatArray1.at(size_t(Index));
     const TextControl &control = *m_parts.view.selected().control;
-    const auto runs =
-        richTextOf(*control.document(), control.selStart(), control.selLength()).characters;
+    const auto runs = characterRunsOf(*control.document(), control.selStart(), control.selLength());
     const bool isOn = runs.empty()
         ? fromTextFormat(control.currentCharFormat()).*flag
         : std::all_of(runs.begin(), runs.end(),

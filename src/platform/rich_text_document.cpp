@@ -311,9 +311,9 @@ void applyCharacterRuns(QTextDocument &document, const std::vector<CharRun> &run
 {
     qsizetype length = 0;
     for (const CharRun &run : runs) {
-        length += run.length;
+        length += std::max(run.length, qsizetype(0));
     }
-    RunPainter(document, richTextOf(document, from, length).characters, from).paint(runs);
+    RunPainter(document, characterRunsOf(document, from, length), from).paint(runs);
 }
 
 void setParagraphFormat(QTextDocument &document, const ParagraphFormat &format)

@@ -29,8 +29,10 @@ QString plainTextOf(const QTextDocument &document);
 RichText richTextOf(const QTextDocument &document);
 RichText richTextOf(const QTextDocument &document, qsizetype from, qsizetype length);
 
-/// The looks of the whole document's characters alone.
+/// The looks of the document's characters alone, whole or of a stretch of it.
 std::vector<CharRun> characterRunsOf(const QTextDocument &document);
+std::vector<CharRun> characterRunsOf(const QTextDocument &document, qsizetype from,
+                                     qsizetype length);
 
 /// Replaces everything in one edit block, without an entry in the toolkit's own undo, which is
 /// emptied; the document counts as not modified.

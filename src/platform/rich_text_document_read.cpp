@@ -63,6 +63,17 @@ qsizetype lengthOf(const QTextDocument &document)
     return document.characterCount() - 1;
 }
 
+/// A stretch clamped to the document.
+struct Stretch {
+    Stretch(const QTextDocument &document, qsizetype start, qsizetype length)
+        : from(std::clamp(start, qsizetype(0), lengthOf(document))),
+          to(from + std::clamp(length, qsizetype(0), lengthOf(document) - from))
+    {
+    }
+    qsizetype from;
+    qsizetype to;
+};
+
 std::vector<CharRun> characterRuns(const QTextDocument &document, qsizetype from, qsizetype to)
 {
     RunCollector runs(from, to);
@@ -155,18 +166,23 @@ RichText richTextOf(const QTextDocument &document)
 
 RichText richTextOf(const QTextDocument &document, qsizetype from, qsizetype length)
 {
-    const qsizetype size = lengthOf(document);
-    from = std::clamp(from, qsizetype(0), size);
-    const qsizetype to = from + std::clamp(length, qsizetype(0), size - from);
+    const Stretch stretch(document, from, length);
     QTextCursor cursor(const_cast<QTextDocument *>(&document));
-    cursor.setPosition(int(from));
-    cursor.setPosition(int(to), QTextCursor::KeepAnchor);
-    return stretchOf(document, withLineEnds(cursor.selectedText()), from);
+    cursor.setPosition(int(stretch.from));
+    cursor.setPosition(int(stretch.to), QTextCursor::KeepAnchor);
+    return stretchOf(document, withLineEnds(cursor.selectedText()), stretch.from);
 }
 
 std::vector<CharRun> characterRunsOf(const QTextDocument &document)
 {
     return characterRuns(document, 0, lengthOf(document));
+}
+
+std::vector<CharRun> characterRunsOf(const QTextDocument &document, qsizetype from,
+                                     qsizetype length)
+{
+    const Stretch stretch(document, from, length);
+    return characterRuns(document, stretch.from, stretch.to);
 }
 
 int lineOfCharacter(const QTextDocument &document, int position)

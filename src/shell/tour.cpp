@@ -9,6 +9,7 @@
 #include "editor/file_opening.h"
 #include "editor/framemacros.h"
 #include "editor/macro_features.h"
+#include "editor/styleeditor.h"
 #include "platform/core/file_io.h"
 #include "shell/application.h"
 #include "shell/mum.h"
@@ -167,7 +168,14 @@ void Tour::addStops(Application &application)
           [&application] {
               compileMistake(application);
           } },
-        { u"tip"_s, press(u"mnuHelpTip"_s) },
+        { u"style-editor"_s, press(u"mnuFormatStyleEditor"_s) },
+        { u"tip"_s,
+          [&application] {
+              if (auto *styles = application.mum().findChild<StyleEditor *>()) {
+                  styles->reject();
+              }
+              application.editor().actions().trigger(u"mnuHelpTip");
+          } },
         { u"about"_s, press(u"mnuHelpAbout_2"_s) },
         { u"help"_s, press(u"mnuHelpContents"_s) },
         { u"syntax"_s, press(u"mnuHelpSyntax"_s) },

@@ -275,6 +275,60 @@ TEST_P(RichTextDocument, GeneratedRunsReplaceGeneratedRuns)
     }
 }
 
+TEST_P(RichTextDocument, RunsAreLaidFromAPositionOn)
+{
+    const auto doc = document();
+    setRichText(*doc, RichText::plain(u"abc\ndef"_s, red));
+    applyCharacterRuns(*doc, { { 1, bold }, { 2, {} } }, 2);
+    EXPECT_EQ(characterRunsOf(*doc),
+              (std::vector<CharRun>{ { 2, red }, { 1, bold }, { 2, {} }, { 2, red } }));
+    applyCharacterRuns(*doc, { { 9, bold } }, 6);
+    EXPECT_EQ(characterRunsOf(*doc, 5, 9), (std::vector<CharRun>{ { 1, red }, { 1, bold } }));
+    applyCharacterRuns(*doc, { { 9, bold } }, 700);
+    EXPECT_EQ(characterRunsOf(*doc, 5, 1), (std::vector<CharRun>{ { 1, red } }));
+}
+
+TEST_P(RichTextDocument, GeneratedRunsFromAPositionLeaveTheRest)
+{
+    test::RichTextMaker maker(11);
+    const auto doc = document();
+    for (int round = 0; round < 300; ++round) {
+        const RichText text = maker.make(u"abc\n"_s, 40);
+        setRichText(*doc, text);
+        const qsizetype from = round % (text.text.size() + 1);
+        const RichText other = maker.make(u"abc\n"_s, 20);
+        applyCharacterRuns(*doc, other.characters, from);
+        RichTextChanges expected(text);
+        qsizetype at = from;
+        for (const CharRun &run : other.characters) {
+            expected.change(at, run.length, [&run](CharFormat &format) { format = run.format; });
+            at += run.length;
+        }
+        ASSERT_EQ(richTextOf(*doc), expected.take());
+    }
+}
+
+TEST_P(RichTextDocument, AllParagraphsTakeOneFormatOnce)
+{
+    const auto doc = document();
+    setRichText(*doc,
+                RichText{ u"a\nb\nc"_s, {}, { { 1, { .leftIndentTwips = 300 } }, { 2, {} } } });
+    setParagraphFormat(*doc, { .leftIndentTwips = 20 });
+    EXPECT_EQ(richTextOf(*doc).paragraphs,
+              (std::vector<ParagraphRun>{ { 3, { .leftIndentTwips = 20 } } }));
+    const QSignalSpy changes(doc.get(), &QTextDocument::contentsChange);
+    setParagraphFormat(*doc, { .leftIndentTwips = 20 });
+    EXPECT_EQ(changes.count(), 0);
+}
+
+TEST_P(RichTextDocument, BulletsGoWithTheParagraphFormat)
+{
+    const auto doc = document();
+    setRichText(*doc, RichText::plain(u"a\nb"_s, {}, { .bullet = true }));
+    setParagraphFormat(*doc, {});
+    EXPECT_EQ(richTextOf(*doc).paragraphs, (std::vector<ParagraphRun>{ { 2, {} } }));
+}
+
 TEST_P(RichTextDocument, LinesAreCountedFromZero)
 {
     const auto doc = document(u"ab\n\ncd"_s);

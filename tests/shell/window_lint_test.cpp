@@ -3,6 +3,7 @@
 
 #include "editor/editor.h"
 #include "editor/macrorenameform.h"
+#include "editor/styleeditor.h"
 #include "shell/frmabout.h"
 #include "shell/frmtip.h"
 #include "shell/helpwindow.h"
@@ -108,6 +109,10 @@ const LintCase cases[] = {
     { "MacroRenameForm",
       [](auto &w) {
           return std::make_unique<MacroRenameForm>(w.dialogs, QStringList{ u"Fire"_s }, u"Fire"_s);
+      } },
+    { "StyleEditor",
+      [](auto &w) {
+          return std::make_unique<StyleEditor>(defaultTextStyles(), 0xFFFFFF, w.dialogs);
       } },
     { "Mum", makeMum },
 };
