@@ -51,6 +51,25 @@ constexpr std::array controlKeys = {
     ControlKey{ Qt::Key_M, u"mnuAlignSlash", u"mnuAlignSlash" },
 };
 
+struct StandardKey {
+    QKeySequence::StandardKey key;
+    QStringView entry;
+};
+
+// The clipboard's other keys (Shift+Insert and its like), which the toolkit would serve itself.
+constexpr std::array standardKeys = {
+    StandardKey{ QKeySequence::Cut, u"mnuEditCut" },
+    StandardKey{ QKeySequence::Copy, u"mnuEditCopy" },
+    StandardKey{ QKeySequence::Paste, u"mnuEditPaste" },
+};
+
+QStringView standardEntry(const QKeyEvent &event)
+{
+    const auto row = std::ranges::find_if(
+        standardKeys, [&event](const StandardKey &each) { return event.matches(each.key); });
+    return row == standardKeys.end() ? QStringView() : row->entry;
+}
+
 } // namespace
 
 EditorKeys::EditorKeys(EditorView &view, EditorActions &actions, const GlobalSettings &settings)
@@ -85,6 +104,9 @@ bool EditorKeys::eventFilter(QObject *watched, QEvent *event)
 
 bool EditorKeys::handles(const QKeyEvent &event, bool macroText) const
 {
+    if (!standardEntry(event).isEmpty()) {
+        return true;
+    }
     if (event.modifiers() == Qt::ControlModifier) {
         return !entryFor(event.key(), macroText).isEmpty();
     }
@@ -105,7 +127,8 @@ bool EditorKeys::keyPressed(const QKeyEvent &event, bool macroText)
         help();
         return true;
     }
-    QString entry = entryFor(event.key(), macroText);
+    const QStringView standard = standardEntry(event);
+    QString entry = standard.isEmpty() ? entryFor(event.key(), macroText) : standard.toString();
     if (event.key() == Qt::Key_K && m_settings.DefaultToDX8KeyTester == 1) {
         entry = u"mnuAppsDX8_0"_s;
     }

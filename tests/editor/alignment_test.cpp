@@ -45,11 +45,40 @@ private:
     int pick(int below) { return int(m_random() % unsigned(below)); }
 
     static constexpr const char *pieces[] = {
-        "BTN ",   "btn S2 ", "BTN X1", "curve ", "CURVE ", "JOYX ",       "Thr ",
-        "/U ",    "/M ",     "/D ",    "/I ",    "/O ",    "/P ",         "/R ",
-        "/T",     "/u ",     "/",      "Fire",   "a",      " ",           "  ",
-        "\t",     "Rem ",    "rem",    "REM x",  "~",      "USE HAT2 AS", "USE MTYPE A",
-        "3",      "17",      "DEF ",   "DISABLE", "USE RADIOSWITCH AS POV", "use hat1 as x",
+        "BTN ",
+        "btn S2 ",
+        "BTN X1",
+        "curve ",
+        "CURVE ",
+        "JOYX ",
+        "Thr ",
+        "/U ",
+        "/M ",
+        "/D ",
+        "/I ",
+        "/O ",
+        "/P ",
+        "/R ",
+        "/T",
+        "/u ",
+        "/",
+        "Fire",
+        "a",
+        " ",
+        "  ",
+        "\t",
+        "Rem ",
+        "rem",
+        "REM x",
+        "~",
+        "USE HAT2 AS",
+        "USE MTYPE A",
+        "3",
+        "17",
+        "DEF ",
+        "DISABLE",
+        "USE RADIOSWITCH AS POV",
+        "use hat1 as x",
         "Long_macro_name_that_fills_a_line_up_to_its_middle ",
     };
     std::mt19937 m_random{ 7 };
@@ -202,8 +231,9 @@ TEST(LeftAlignAnalyse, AMouseTypeStandsBeforeTheNextControl)
 
 TEST(LeftAlignAnalyse, HatsAndTheRadioSwitchAreRecords)
 {
-    EXPECT_EQ(LeftAlignAnalyse(u"use Hat2  AS POV\nUSE RADIOSWITCH AS HAT3\nUSE HAT1 AS\nUSE RATE 3"),
-              u"*** \nHat2: POV \n*** \nRadio: HAT3 \n*** \nEND \n");
+    EXPECT_EQ(
+        LeftAlignAnalyse(u"use Hat2  AS POV\nUSE RADIOSWITCH AS HAT3\nUSE HAT1 AS\nUSE RATE 3"),
+        u"*** \nHat2: POV \n*** \nRadio: HAT3 \n*** \nEND \n");
 }
 
 TEST(LeftAlignAnalyse, AContinuationFollowsItsControl)

@@ -206,7 +206,9 @@ struct AlignmentTwin {
     static Line leftAlignAnalyse(const Line &text)
     {
         Line out;
-        const auto record = [&out](const Line &what) { out += "*** \n" + what + " \n"; };
+        const auto record = [&out](const Line &what) {
+            out += "*** \n" + what + " \n";
+        };
         const auto cut = [](const Line &line) {
             const int rem = inStr(upper(line), "REM ");
             return rem > 0 ? left(line, size_t(rem) - 1) : line;

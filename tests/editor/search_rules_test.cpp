@@ -99,8 +99,8 @@ TEST(SearchRules, AllAtOnceIsOneAfterTheOther)
         const int options = int(random() % 4) * 2;
         ASSERT_EQ(replacedAtOnce(text, sought, replacement, options),
                   replacedByHand(text, sought, replacement, options))
-            << text.toStdString() << '|' << sought.toStdString() << '|'
-            << replacement.toStdString() << '|' << options;
+            << text.toStdString() << '|' << sought.toStdString() << '|' << replacement.toStdString()
+            << '|' << options;
     }
 }
 
