@@ -7,6 +7,7 @@
 #include "platform/rich_text_document.h"
 #include "ui_styleeditor.h"
 
+#include <QLineEdit>
 #include <QPixmap>
 
 namespace zeph {
@@ -28,6 +29,8 @@ StyleEditor::StyleEditor(const TextStyles &styles, ColorRef background, Dialogs 
       m_ui(std::make_unique<Ui::StyleEditor>())
 {
     m_ui->setupUi(this);
+    m_ui->ComboFont->lineEdit()->setObjectName(u"ComboFontEdit"_s);
+    m_ui->ComboFont->lineEdit()->setAccessibleName(u"Font"_s);
     m_ui->SpinSize->setRange(smallestStyleSize, largestStyleSize);
     for (const TextStyle &style : m_styles) {
         m_ui->ListStyles->addItem(style.name);

@@ -436,7 +436,13 @@ TEST_F(FindAndReplaceTest, TheKeyboardAloneFindsAndReplaces)
     EXPECT_EQ(selection(joystick()), Selection(0, 4));
     window()->activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(window()));
-    QTest::keyClick(window(), Qt::Key_R, Qt::AltModifier);
+    auto *replace = button(u"Command5"_s);
+    while (window()->focusWidget() != replace) {
+        const QWidget *before = window()->focusWidget();
+        QTest::keyClick(window()->focusWidget(), Qt::Key_Tab);
+        ASSERT_NE(window()->focusWidget(), before);
+    }
+    QTest::keyClick(replace, Qt::Key_Space);
     EXPECT_EQ(editor->joystickText(), u"Drop one\nfire two\nFires three\n");
     QTest::keyClick(window(), Qt::Key_Escape);
     EXPECT_FALSE(window()->isVisible());
