@@ -29,8 +29,11 @@ StyleEditor::StyleEditor(const TextStyles &styles, ColorRef background, Dialogs 
       m_ui(std::make_unique<Ui::StyleEditor>())
 {
     m_ui->setupUi(this);
-    m_ui->ComboFont->lineEdit()->setObjectName(u"ComboFontEdit"_s);
-    m_ui->ComboFont->lineEdit()->setAccessibleName(u"Font"_s);
+    // The toolkit makes the font's field itself, and gives it no name.
+    for (QLineEdit *field : m_ui->ComboFont->findChildren<QLineEdit *>()) {
+        field->setObjectName(u"ComboFontEdit"_s);
+        field->setAccessibleName(u"Font"_s);
+    }
     m_ui->SpinSize->setRange(smallestStyleSize, largestStyleSize);
     for (const TextStyle &style : m_styles) {
         m_ui->ListStyles->addItem(style.name);
