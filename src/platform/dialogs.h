@@ -11,6 +11,9 @@
 #include <QList>
 #include <QStringList>
 
+#include <array>
+#include <functional>
+
 namespace zeph {
 
 enum class BoxIcon { None, Information, Question, Exclamation, Stop };
@@ -34,6 +37,15 @@ struct FileRequest {
     QString name = {};
 };
 
+/// The colours that the user has mixed in the colour dialog.
+using CustomColours = std::array<ColorRef, 16>;
+
+/// Where the custom colours are kept between runs; both functions or none.
+struct CustomColourStore {
+    std::function<CustomColours()> read;
+    std::function<void(const CustomColours &)> keep;
+};
+
 class Dialogs
 {
 public:
@@ -45,6 +57,7 @@ public:
     /// As openFile; whether the file exists already is the caller's question to ask.
     virtual std::optional<QString> saveFile(const FileRequest &request) = 0;
     virtual std::optional<QString> chooseFolder(const QString &title, const QString &start) = 0;
+    /// Shows the custom colours of their store, and keeps what the user makes of them.
     virtual std::optional<ColorRef> chooseColour(ColorRef start) = 0;
     virtual std::optional<CharFormat> chooseFont(const CharFormat &start) = 0;
     /// Index (0-based) of the chosen line; no value on Cancel.
@@ -55,6 +68,8 @@ public:
     void tell(const QString &title, const QString &text, BoxIcon icon = BoxIcon::Information);
     /// Yes or No, No the default.
     bool ask(const QString &title, const QString &text, BoxIcon icon = BoxIcon::Exclamation);
+
+    CustomColourStore customColours;
 };
 
 } // namespace zeph

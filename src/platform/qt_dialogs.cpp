@@ -79,6 +79,22 @@ ColorRef fromColor(const QColor &colour)
     return colorRef(quint32(colour.red()), quint32(colour.green()), quint32(colour.blue()));
 }
 
+void showCustomColours(const CustomColours &colours)
+{
+    for (size_t i = 0; i < colours.size(); ++i) {
+        QColorDialog::setCustomColor(int(i), toColor(colours[i]));
+    }
+}
+
+CustomColours customColoursShown()
+{
+    CustomColours colours;
+    for (size_t i = 0; i < colours.size(); ++i) {
+        colours[i] = fromColor(QColorDialog::customColor(int(i)));
+    }
+    return colours;
+}
+
 } // namespace
 
 QStringList nameFilters(const QString &filter)
@@ -182,11 +198,18 @@ std::optional<QString> QtDialogs::chooseFolder(const QString &title, const QStri
 
 std::optional<ColorRef> QtDialogs::chooseColour(ColorRef start)
 {
-    QColorDialog dialog(toColor(start), parentNow());
-    if (dialog.exec() != QDialog::Accepted) {
-        return std::nullopt;
+    CustomColours before{};
+    if (customColours.read) {
+        before = customColours.read();
+        showCustomColours(before);
     }
-    return fromColor(dialog.selectedColor());
+    QColorDialog dialog(toColor(start), parentNow());
+    const bool isChosen = dialog.exec() == QDialog::Accepted;
+    // Colours that were mixed stay the user's, whether one of them was taken or not.
+    if (const CustomColours after = customColoursShown(); customColours.keep && after != before) {
+        customColours.keep(after);
+    }
+    return isChosen ? std::optional(fromColor(dialog.selectedColor())) : std::nullopt;
 }
 
 std::optional<CharFormat> QtDialogs::chooseFont(const CharFormat &start)

@@ -15,6 +15,7 @@
 #include "shell/foreign_keyboard.h"
 #include "shell/help_menu.h"
 #include "shell/mum.h"
+#include "shell/settings/custom_colours.h"
 #include "shell/settings/settings_files.h"
 #include "shell/settings/settings_moments.h"
 #include "shell/start_checks.h"
@@ -44,9 +45,19 @@ Application::Application(const ApplicationOptions &options)
 {
     m_paths.appFolder = options.appFolder;
     m_paths.iniPath = storeOf(options.appFolder);
+    m_options.dialogs.customColours = {
+        [this] { return GetCustomColour(ProfileFile(m_paths.iniPath)); },
+        [this](const CustomColours &colours) {
+            // A store that cannot be written is nobody's failure: the colours hold for this run.
+            (void)keepCustomColours(ProfileFile(m_paths.iniPath), colours);
+        },
+    };
 }
 
-Application::~Application() = default;
+Application::~Application()
+{
+    m_options.dialogs.customColours = {};
+}
 
 void Application::applyStyle(QApplication &application)
 {

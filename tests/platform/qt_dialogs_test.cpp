@@ -216,6 +216,35 @@ TEST(QtDialogsColour, StartsWithTheColourAndGivesTheChosenOne)
     EXPECT_EQ(dialogs.chooseColour(0), std::nullopt);
 }
 
+TEST(QtDialogsColour, ShowsTheCustomColoursAndKeepsThemOnlyWhenTheyChange)
+{
+    QtDialogs dialogs;
+    CustomColours kept{};
+    kept[0] = colorRef(1, 2, 3);
+    kept[15] = colorRef(4, 5, 6);
+    int times = 0;
+    dialogs.customColours = { [&kept] { return kept; },
+                              [&kept, &times](const CustomColours &colours) {
+                                  kept = colours;
+                                  ++times;
+                              } };
+    whenShown<QColorDialog>([](QColorDialog *dialog) {
+        EXPECT_EQ(QColorDialog::customColor(0), QColor(1, 2, 3));
+        EXPECT_EQ(QColorDialog::customColor(15), QColor(4, 5, 6));
+        dialog->reject();
+    });
+    dialogs.chooseColour(0);
+    EXPECT_EQ(times, 0);
+    whenShown<QColorDialog>([](QColorDialog *dialog) {
+        QColorDialog::setCustomColor(1, QColor(7, 8, 9));
+        dialog->reject();
+    });
+    dialogs.chooseColour(0);
+    EXPECT_EQ(times, 1);
+    EXPECT_EQ(kept[1], colorRef(7, 8, 9));
+    EXPECT_EQ(kept[0], colorRef(1, 2, 3));
+}
+
 TEST(QtDialogsFont, GivesTheChosenFontAndKeepsTheColour)
 {
     QtDialogs dialogs;

@@ -178,6 +178,19 @@ TEST_F(Start, TheTextColoursOutliveTheSaveAtTheStart)
     EXPECT_EQ(app->settings().JoystickTextDefaultColour, colorRef(255, 0, 0));
 }
 
+TEST_F(Start, TheColourDialogsCustomColoursAreThoseOfTheStore)
+{
+    writeStore("[Colours]\r\nCustomColour2=255\r\n");
+    ASSERT_TRUE(start());
+    CustomColours colours = dialogs.customColours.read();
+    EXPECT_EQ(colours[1], colorRef(255, 0, 0));
+    colours[15] = colorRef(0, 0, 1);
+    dialogs.customColours.keep(colours);
+    EXPECT_EQ(stored(u"Colours"_s, u"CustomColour16"_s), u"65536");
+    app.reset();
+    EXPECT_FALSE(dialogs.customColours.read) << "the store goes with its application";
+}
+
 TEST_F(Start, AValueThatIsNoNumberIsToldOnceThoughItIsReadAtSeveralSteps)
 {
     writeStore("[Miscellaneous]\r\nMumTopAtStartup=high\r\n[Unsupported]\r\n"
