@@ -3,6 +3,8 @@
 
 #include "editor/macro_table.h"
 
+#include "editor/language/words.h"
+
 namespace zeph {
 
 namespace {
@@ -131,7 +133,8 @@ QString macroCounts(const MacroTable &table)
 QString withoutRefused(QString typed)
 {
     for (QChar &each : typed) {
-        if (QStringView(u" <>{}()^,=\t").contains(each)) {
+        // Reading a macro's name deletes tabs, so that one could never be found by it.
+        if (language::forbiddenMacroNameCharacters.contains(each) || each == u'\t') {
             each = u'_';
         }
     }

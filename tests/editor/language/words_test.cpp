@@ -134,7 +134,7 @@ TEST(UseForms, AreRecognisedByTheirHeadWordsInAnyCaseAndSpacing)
     EXPECT_EQ(form(u""), QString());
 }
 
-TEST(MacroNames, RefuseNineCharacters)
+TEST(MacroNames, RefuseTheBlankAndWhatBodiesAreWrittenWith)
 {
     EXPECT_EQ(forbiddenMacroNameCharacters, u" <>{}()^,=");
 }
