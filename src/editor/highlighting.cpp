@@ -18,16 +18,21 @@ namespace zeph {
 
 namespace {
 
-/// What the status line says while a document's passes run, group by group.
-const QStringList joystickSteps = {
-    u"Applying colour to BTN statements ..."_s,
-    u"Applying colour to USE,ANT,MDEF etc. commands ..."_s,
-    u"Applying colour to logical programming statements ..."_s,
-    u"Applying colour to Rem comments ..."_s,
+/// What the status line says from the pass of a word on.
+struct PassStatus {
+    QStringView word;
+    QStringView text;
 };
-const QStringList macroSteps = {
-    u"Applying colour to / modifiers ..."_s,
-    u"Applying colour to Rem comments ..."_s,
+
+constexpr PassStatus joystickSteps[] = {
+    { u"BTN", u"Applying colour to BTN statements ..." },
+    { u"USE", u"Applying colour to USE,ANT,MDEF etc. commands ..." },
+    { u"DEF", u"Applying colour to logical programming statements ..." },
+    { u"Rem", u"Applying colour to Rem comments ..." },
+};
+constexpr PassStatus macroSteps[] = {
+    { u"/U", u"Applying colour to / modifiers ..." },
+    { u"Rem", u"Applying colour to Rem comments ..." },
 };
 
 } // namespace
@@ -76,18 +81,24 @@ void Highlighting::applyColour(EditorDocument &document)
     const bool isJoystick = document.kind == DocumentKind::Joystick;
     const BusyGuard busy(m_parts.view);
     // Colours go before colours come; one set of looks serves both.
-    status.setText(u"Removing colour highlighting from "_s + document.caption()
-                   + u". Please wait ..."_s);
+    status.setTextNow(u"Removing colour highlighting from "_s + document.caption()
+                      + u". Please wait ..."_s);
     status.setText(u"Done"_s);
-    status.setText(u"Applying colour highlighting to "_s + document.caption()
-                   + u". Please wait ..."_s);
+    status.setTextNow(u"Applying colour highlighting to "_s + document.caption()
+                      + u". Please wait ..."_s);
     m_parts.view.select(document.kind);
     m_parts.view.applyLook();
-    for (const QString &step : isJoystick ? joystickSteps : macroSteps) {
-        status.setText(step);
-    }
+    const std::span<const PassStatus> steps =
+        isJoystick ? std::span<const PassStatus>(joystickSteps) : macroSteps;
+    const auto tell = [&status, steps](const PaintPass &pass) {
+        for (const PassStatus &step : steps) {
+            if (step.word == pass.word) {
+                status.setTextNow(step.text.toString());
+            }
+        }
+    };
     const auto runs = paint(control.text(), isJoystick ? joystickPasses() : macroPasses(),
-                            colourScheme(m_context.settings, document.kind));
+                            colourScheme(m_context.settings, document.kind), tell);
     TextControl::Place place = control.place();
     place.anchor = place.caret = control.selStart();
     control.setCharacterRuns(characterRuns(runs, m_parts.view.plainFormat(document.kind)));
@@ -136,8 +147,8 @@ void Highlighting::mnuViewApplyColourBothFiles_Click()
 void Highlighting::removeColour(EditorDocument &document, int from, int length)
 {
     const BusyGuard busy(m_parts.view);
-    m_context.status.setText(u"Removing colour highlighting from "_s + document.caption()
-                             + u". Please wait ..."_s);
+    m_context.status.setTextNow(u"Removing colour highlighting from "_s + document.caption()
+                                + u". Please wait ..."_s);
     const auto plain = m_parts.view.plainFormat(document.kind).colour;
     document.control->changeLooks(from, length, [plain](CharFormat &format) {
         format.colour = plain;

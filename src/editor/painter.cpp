@@ -274,11 +274,15 @@ ColourScheme colourScheme(const GlobalSettings &settings, DocumentKind kind)
 }
 
 std::vector<ColourRun> paint(QStringView text, std::span<const PaintPass> passes,
-                             const ColourScheme &scheme)
+                             const ColourScheme &scheme,
+                             const std::function<void(const PaintPass &)> &begins)
 {
     const std::vector<Hits> hits = HitFinder(passes).find(text);
     Canvas canvas(text);
     for (size_t i = 0; i < passes.size(); ++i) {
+        if (begins) {
+            begins(passes[i]);
+        }
         canvas.paint(passes[i], hits[i]);
     }
     return canvas.runs(scheme);

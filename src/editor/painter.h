@@ -9,6 +9,7 @@
 #include "editor/file_kinds.h"
 #include "platform/core/rich_text.h"
 
+#include <functional>
 #include <span>
 #include <vector>
 
@@ -67,9 +68,10 @@ std::span<const PaintPass> typingPasses();
 std::span<const PaintPass> remPasses();
 
 /// Paints the text: linear in its length, exactly as the passes one after another would. No two
-/// neighbouring runs have the same colour.
+/// neighbouring runs have the same colour. What is given as begins hears of each pass before it.
 std::vector<ColourRun> paint(QStringView text, std::span<const PaintPass> passes,
-                             const ColourScheme &scheme);
+                             const ColourScheme &scheme,
+                             const std::function<void(const PaintPass &)> &begins = {});
 
 /// The runs as looks: the plain format with each run's colour.
 std::vector<CharRun> characterRuns(const std::vector<ColourRun> &runs, const CharFormat &plain);

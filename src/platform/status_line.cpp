@@ -3,8 +3,6 @@
 
 #include "platform/status_line.h"
 
-#include <QCoreApplication>
-
 namespace zeph {
 
 void StatusLine::setText(const QString &text)
@@ -18,8 +16,7 @@ void StatusLine::setText(const QString &text)
 void StatusLine::setTextNow(const QString &text)
 {
     setText(text);
-    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents
-                                    | QEventLoop::ExcludeSocketNotifiers);
+    Q_EMIT repaintWanted();
 }
 
 void StatusLine::setTextTooltip(const QString &tooltip)

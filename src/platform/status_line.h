@@ -20,6 +20,7 @@ public:
     const QString &text() const { return m_text; }
     void setText(const QString &text);
     /// Shows the text at once, for an operation that will not return to the event loop soon.
+    /// Nothing but the panel is repainted: no event is handled, no timer fires.
     void setTextNow(const QString &text);
     /// Panel 1's tooltip: what the macro list holds.
     const QString &textTooltip() const { return m_textTooltip; }
@@ -41,6 +42,8 @@ public:
 
 Q_SIGNALS:
     void textChanged(const QString &text);
+    /// The message line is to be on the screen before this returns.
+    void repaintWanted();
     void textTooltipChanged(const QString &tooltip);
     void lineTextChanged(const QString &text);
     void savedChanged(int picture, const QString &tooltip);

@@ -77,6 +77,7 @@ MainStatusBar::MainStatusBar(const Context &context, QWidget *parent)
         m_message->setText(text);
         m_message->update();
     });
+    connect(&status, &StatusLine::repaintWanted, m_message, [this] { m_message->repaint(); });
     connect(&status, &StatusLine::textTooltipChanged, m_message, &QLabel::setToolTip);
     connect(&status, &StatusLine::lineTextChanged, m_line, &QLabel::setText);
     connect(&status, &StatusLine::modePictureChanged, this, &MainStatusBar::showMode);

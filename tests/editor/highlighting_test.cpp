@@ -45,6 +45,27 @@ TEST_F(HighlightingTest, AFullPassColoursTheJoystickFileAndSaysWhatItDoes)
     EXPECT_EQ(texts, expected);
 }
 
+TEST_F(HighlightingTest, AFullPassShowsEachStepBeforeItGoesOn)
+{
+    set(J, u"BTN S1 /U a"_s);
+    QStringList shown;
+    QObject::connect(&status, &StatusLine::repaintWanted, editor.get(),
+                     [&] { shown.append(status.text() + u' ' + colours(J)); });
+    look(J, 0, 6, [](CharFormat &format) { format.colour = 0x123456; });
+    highlighting().ApplyColourHighlighting();
+    const QString before = u" ??????....."_s;
+    const QStringList expected = {
+        u"Removing colour highlighting from Untitled.tmj. Please wait ..."_s + before,
+        u"Applying colour highlighting to Untitled.tmj. Please wait ..."_s + before,
+        u"Applying colour to BTN statements ..."_s + before,
+        u"Applying colour to USE,ANT,MDEF etc. commands ..."_s + before,
+        u"Applying colour to logical programming statements ..."_s + before,
+        u"Applying colour to Rem comments ..."_s + before,
+    };
+    EXPECT_EQ(shown, expected);
+    EXPECT_EQ(status.text(), u"Done");
+}
+
 TEST_F(HighlightingTest, AFullPassColoursTheMacroFileWithItsOwnList)
 {
     editor->view().select(M);

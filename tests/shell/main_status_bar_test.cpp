@@ -52,6 +52,45 @@ TEST_F(StatusBarWindow, ShowsWhatAnyRoomWrites)
     EXPECT_FALSE(panel(4)->pixmap().isNull());
 }
 
+namespace {
+
+/// What a panel said each time it was painted.
+class PaintedTexts : public QObject
+{
+public:
+    explicit PaintedTexts(QLabel *panel) : m_panel(panel) { panel->installEventFilter(this); }
+    QStringList texts;
+
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        if (event->type() == QEvent::Paint) {
+            texts.append(m_panel->text());
+        }
+        return false;
+    }
+
+private:
+    QLabel *m_panel;
+};
+
+} // namespace
+
+TEST_F(StatusBarWindow, ATextThatIsWantedNowIsPaintedWithoutAnEventBeingHandled)
+{
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
+    QApplication::processEvents();
+    PaintedTexts painted(panel(1));
+    bool handled = false;
+    QMetaObject::invokeMethod(
+        &window, [&handled] { handled = true; }, Qt::QueuedConnection);
+    status.setTextNow(u"Applying colour to BTN statements ..."_s);
+    status.setTextNow(u"Applying colour to Rem comments ..."_s);
+    const QStringList expected = { u"Applying colour to BTN statements ..."_s,
+                                   u"Applying colour to Rem comments ..."_s };
+    EXPECT_EQ(painted.texts, expected);
+    EXPECT_FALSE(handled);
+}
+
 TEST_F(StatusBarWindow, TellsWhatTheMacroListHoldsOverTheMessage)
 {
     status.setTextTooltip(u"Contains 2 macros and "_s);
