@@ -20,6 +20,8 @@
 #include <QSignalSpy>
 #include <QTabBar>
 #include <QTest>
+#include <QTimer>
+#include <QWindow>
 
 using namespace zeph;
 using zeph::test::EditorTest;
@@ -114,13 +116,33 @@ protected:
         QTest::mouseClick(list()->viewport(), Qt::LeftButton, {}, at);
         QTest::mouseDClick(list()->viewport(), Qt::LeftButton, {}, at);
     }
+    QPoint placeIn(TextControl *control, int position)
+    {
+        QTextCursor cursor(control->document());
+        cursor.setPosition(position);
+        return control->cursorRect(cursor).center();
+    }
+    /// Drags an entry with the mouse, and lets it go over the list again, which takes nothing.
+    void takeWithTheMouse(const QString &name)
+    {
+        QWindow *window = editor->window()->windowHandle();
+        const QPoint from = list()->viewport()->mapTo(editor->window(), placeOf(name));
+        const QPoint away = QPoint(0, QApplication::startDragDistance() + 2);
+        QTest::mousePress(window, Qt::LeftButton, {}, from);
+        QTest::mouseMove(window, from + away);
+        // The drag has a loop of its own, in which the hand goes on.
+        QTimer::singleShot(0, window, [window, from] {
+            QTest::mouseMove(window, from);
+            QTest::mouseRelease(window, Qt::LeftButton, {}, from);
+        });
+        QTest::mouseMove(window, from + 2 * away);
+    }
     /// Drops what a drag from the list carries at a position of a text.
     void drop(const QString &name, TextControl *control, int position)
     {
         const QModelIndex index = list()->model()->index(int(names().indexOf(name)), 0);
         const std::unique_ptr<QMimeData> data(list()->model()->mimeData({ index }));
-        control->select(position, 0);
-        const QPoint at = control->cursorRect().center();
+        const QPoint at = placeIn(control, position);
         QDragEnterEvent enter(at, Qt::CopyAction, data.get(), Qt::LeftButton, Qt::NoModifier);
         QApplication::sendEvent(control->viewport(), &enter);
         QDragMoveEvent move(at, Qt::CopyAction, data.get(), Qt::LeftButton, Qt::NoModifier);
@@ -407,6 +429,40 @@ TEST_F(MacroListTest, ADropGoesIntoTheJoystickText)
     EXPECT_TRUE(editor->joystick().isModified());
 }
 
+TEST_F(MacroListTest, TheMouseDragsAnEntryOutOfTheList)
+{
+    openMacros();
+    const QSignalSpy started(&macroList(), &MacroList::dragStarted);
+    takeWithTheMouse(u"Fire"_s);
+    EXPECT_EQ(started.count(), 1);
+    EXPECT_EQ(macroList().SelectedMacro, u"Fire");
+}
+
+TEST_F(MacroListTest, ADropAtTheStartPutsBlanksAround)
+{
+    openMacros();
+    openJoystick("BTN S1\r\n");
+    drop(u"Fire"_s, joystick(), 0);
+    EXPECT_EQ(editor->joystickText(), u" Fire BTN S1\n");
+}
+
+TEST_F(MacroListTest, ADropBehindABlankPutsBlanksAroundToo)
+{
+    openMacros();
+    openJoystick("BTN S1 /U\r\n");
+    drop(u"Fire"_s, joystick(), 7);
+    EXPECT_EQ(editor->joystickText(), u"BTN S1  Fire /U\n");
+}
+
+TEST_F(MacroListTest, ADropOverASelectionLeavesWhatWasSelected)
+{
+    openMacros();
+    openJoystick("BTN S1 old\r\n");
+    joystick()->select(4, 6);
+    drop(u"Fire"_s, joystick(), 6);
+    EXPECT_EQ(editor->joystickText(), u"BTN S1 Fire  old\n");
+}
+
 TEST_F(MacroListTest, ADropOnTheMacroTabGoesIntoTheMacroText)
 {
     openMacros("Fire = SPC\r\nBoth =\r\n");
@@ -426,9 +482,8 @@ TEST_F(MacroListTest, TheTickFollowsWhatADragBrings)
 {
     openMacros();
     openJoystick("BTN S1\r\n");
-    click(u"Fire"_s);
+    takeWithTheMouse(u"Fire"_s);
     EXPECT_TRUE(ticked().isEmpty());
-    Q_EMIT macroList().dragStarted();
     drop(u"Fire"_s, joystick(), 6);
     EXPECT_EQ(ticked(), QStringList{ u"Fire"_s });
 }
