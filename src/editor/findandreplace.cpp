@@ -129,9 +129,9 @@ void FindAndReplace::showTab(Tab tab)
     QWidget *const fields[] = { m_ui->ComboTextFind, m_ui->ComboTextReplaceFind, m_ui->LineToFind };
     m_ui->SSTab1->setCurrentIndex(int(tab));
     showDefault(tab);
-    if (tab != Tab::GoToLine) {
-        preset(tab == Tab::Find ? m_findPage : m_replacePage);
-    }
+    // Both pages: the other one is a click on its tab away.
+    preset(m_findPage);
+    preset(m_replacePage);
     show();
     raise();
     activateWindow();
@@ -320,7 +320,7 @@ void FindAndReplace::goToLine()
 {
     // A number beyond all files is a line that no file has.
     const double line = qBound(0.0, leadingNumber(m_ui->LineToFind->text()), 1e9);
-    if (showLine(m_context, m_parts.view, m_parts.view.selected(), int(line))) {
+    if (showLine(m_context, m_parts.view, m_parts.view.selected(), int(line), LineCaret::AtStart)) {
         returnToTexts();
     }
 }
