@@ -232,6 +232,8 @@ TEST_F(MainWindow, TheRightMenusEntriesAreDescribedOnTheBar)
 
 TEST_F(MainWindow, AKeyThatTextAndMenuBothKnowRunsOneEntry)
 {
+    mum->activateWindow();
+    ASSERT_TRUE(QTest::qWaitFor([this] { return QApplication::activeWindow() == mum.get(); }));
     QStringList ran;
     const auto noteEntries = [&] {
         for (const ActionRow &row : actionTable()) {
