@@ -49,8 +49,13 @@ void BlockOperations::insertOver(LineRange range, const RichText &text)
     m_parts.insert.BeginColInsert();
     control.select(int(range.start), int(range.length));
     m_parts.insert.insertRich(text);
-    control.select(int(range.start), 0);
+    goToStart(range);
     m_parts.insert.EndColInsert();
+}
+
+void BlockOperations::goToStart(LineRange range)
+{
+    m_parts.view.selected().control->select(int(range.start), 0);
 }
 
 void BlockOperations::BlockREM()
@@ -61,6 +66,7 @@ void BlockOperations::BlockREM()
     const LineRange range = lines();
     const std::vector<LineChange> all = changed(range, commentedOut);
     if (!anyChanged(all)) {
+        goToStart(range);
         return;
     }
     QString text;
@@ -78,6 +84,7 @@ void BlockOperations::BlockRemoveREM()
     const LineRange range = lines();
     const std::vector<LineChange> all = changed(range, commentedIn);
     if (!anyChanged(all)) {
+        goToStart(range);
         return;
     }
     const TextControl &control = *m_parts.view.selected().control;

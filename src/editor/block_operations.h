@@ -14,7 +14,7 @@ class EditorView;
 class Highlighting;
 
 /// Comments the lines that the selection touches out and in again: one undo step each. Refused on
-/// a protected macro file.
+/// a protected macro file. The caret ends at the start of the first line.
 class BlockOperations
 {
 public:
@@ -33,6 +33,7 @@ private:
     LineRange lines() const;
     std::vector<LineChange> changed(LineRange range, LineChange (*change)(QStringView line)) const;
     void insertOver(LineRange range, const RichText &text);
+    void goToStart(LineRange range);
 
     Parts m_parts;
 };

@@ -264,7 +264,8 @@ void Editor::ResetFocusToEditor()
 void Editor::HighlightErrorLine(int line, const QString &compileErrorText)
 {
     try {
-        showLine(m_context, *m_view, m_view->document(documentOfError(compileErrorText)), line);
+        showLine(m_context, *m_view, m_view->document(documentOfError(compileErrorText)), line,
+                 LineCaret::SelectsLine);
     } catch (const std::exception &error) {
         m_context.dialogs.tell(u"Hmmm....bizarre..."_s,
                                u"Please report this on the Klaifi forums so I can investigate "

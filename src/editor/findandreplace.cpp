@@ -38,6 +38,15 @@ void remember(QComboBox &box)
     box.setEditText(text);
 }
 
+void prepareBox(QComboBox &box, const QString &name)
+{
+    // What is typed is sought as it is, not as an earlier text that begins alike.
+    box.setCompleter(nullptr);
+    // The toolkit makes the box's field itself, and gives it no name.
+    box.lineEdit()->setObjectName(box.objectName() + u"Edit"_s);
+    box.lineEdit()->setAccessibleName(name);
+}
+
 QString quoted(const QString &word)
 {
     return u'"' + word + u'"';
@@ -77,11 +86,9 @@ FindAndReplace::FindAndReplace(const Context &context, const Parts &parts, QWidg
                       .joystick = m_ui->OptionJoystickR,
                       .macro = m_ui->OptionMacroR,
                       .find = m_ui->Command3 };
-    for (QComboBox *box :
-         { m_ui->ComboTextFind, m_ui->ComboTextReplaceFind, m_ui->ComboTextReplaceWith }) {
-        // What is typed is sought as it is, not as an earlier text that begins alike.
-        box->setCompleter(nullptr);
-    }
+    prepareBox(*m_ui->ComboTextFind, u"Find what"_s);
+    prepareBox(*m_ui->ComboTextReplaceFind, u"Find what"_s);
+    prepareBox(*m_ui->ComboTextReplaceWith, u"Replace with"_s);
     connectPage(m_findPage);
     connectPage(m_replacePage);
     connectButtons();
@@ -129,9 +136,9 @@ void FindAndReplace::showTab(Tab tab)
     QWidget *const fields[] = { m_ui->ComboTextFind, m_ui->ComboTextReplaceFind, m_ui->LineToFind };
     m_ui->SSTab1->setCurrentIndex(int(tab));
     showDefault(tab);
-    if (tab != Tab::GoToLine) {
-        preset(tab == Tab::Find ? m_findPage : m_replacePage);
-    }
+    // Both pages: the other one is a click on its tab away.
+    preset(m_findPage);
+    preset(m_replacePage);
     show();
     raise();
     activateWindow();
@@ -320,7 +327,7 @@ void FindAndReplace::goToLine()
 {
     // A number beyond all files is a line that no file has.
     const double line = qBound(0.0, leadingNumber(m_ui->LineToFind->text()), 1e9);
-    if (showLine(m_context, m_parts.view, m_parts.view.selected(), int(line))) {
+    if (showLine(m_context, m_parts.view, m_parts.view.selected(), int(line), LineCaret::AtStart)) {
         returnToTexts();
     }
 }

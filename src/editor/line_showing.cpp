@@ -11,7 +11,8 @@
 
 namespace zeph {
 
-bool showLine(const Context &context, EditorView &view, EditorDocument &document, int line)
+bool showLine(const Context &context, EditorView &view, EditorDocument &document, int line,
+              LineCaret caret)
 {
     const auto range = lineRange(document.control->text(), line);
     if (!range) {
@@ -19,7 +20,8 @@ bool showLine(const Context &context, EditorView &view, EditorDocument &document
         return false;
     }
     view.select(document.kind);
-    document.control->select(int(range->start), int(range->length));
+    document.control->select(int(range->start),
+                             caret == LineCaret::SelectsLine ? int(range->length) : 0);
     document.control->centerCursor();
     document.control->setFocus();
     context.status.setLine(line);

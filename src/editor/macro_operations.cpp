@@ -3,6 +3,7 @@
 
 #include "editor/macro_operations.h"
 
+#include "editor/edit_step.h"
 #include "editor/editor_actions.h"
 #include "editor/editor_texts.h"
 #include "editor/editor_view.h"
@@ -134,14 +135,11 @@ int MacroOperations::renameIn(DocumentKind kind, const QString &oldName, const Q
         return 0;
     }
     {
-        const BusyGuard busy(m_parts.view);
+        const EditStep step(m_parts.view, m_parts.undos, kind);
         document.control->replaceAll(hits, int(oldName.size()), newName);
         const qsizetype grown = (hits.size() - 1) * (newName.size() - oldName.size());
         document.control->select(int(hits.last() + grown + newName.size()), 0);
     }
-    // A step of its own, whatever was typed before.
-    m_parts.undos.of(kind).UndoStepNext = 1;
-    m_parts.undos.textChanged(kind);
     m_context.status.setLine(m_parts.view.selected().control->caretLine());
     return int(hits.size());
 }

@@ -8,7 +8,9 @@
 #include "editor/text_control.h"
 
 #include <QAction>
+#include <QCoreApplication>
 #include <QMenu>
+#include <QStatusTipEvent>
 
 namespace zeph {
 
@@ -50,12 +52,23 @@ std::unique_ptr<QMenu> RightMenu::build() const
         QAction *entry =
             place.addAction(target->icon(), caption.isEmpty() ? target->text() : caption);
         entry->setObjectName(QString::fromUtf16(row.name));
+        entry->setStatusTip(target->statusTip());
         entry->setEnabled(target->isEnabled());
         entry->setCheckable(target->isCheckable());
         entry->setChecked(target->isChecked());
         connect(entry, &QAction::triggered, target, &QAction::trigger);
     }
+    // The toolkit leaves what a pop-up tells with the pop-up; the status bar is the window's.
+    connect(menu.get(), &QMenu::hovered, this,
+            [this](const QAction *entry) { showStatusTip(entry->statusTip()); });
+    connect(menu.get(), &QMenu::aboutToHide, this, [this] { showStatusTip({}); });
     return menu;
+}
+
+void RightMenu::showStatusTip(const QString &tip) const
+{
+    QStatusTipEvent event(tip);
+    QCoreApplication::sendEvent(&m_view, &event);
 }
 
 } // namespace zeph

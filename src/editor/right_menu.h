@@ -25,6 +25,8 @@ public:
     std::unique_ptr<QMenu> build() const;
 
 private:
+    void showStatusTip(const QString &tip) const;
+
     EditorView &m_view;
     EditorActions &m_actions;
 };

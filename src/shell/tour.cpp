@@ -7,8 +7,10 @@
 #include "editor/editor_actions.h"
 #include "editor/editor_view.h"
 #include "editor/file_opening.h"
+#include "editor/findandreplace.h"
 #include "editor/framemacros.h"
 #include "editor/macro_features.h"
+#include "editor/right_menu.h"
 #include "editor/styleeditor.h"
 #include "platform/core/file_io.h"
 #include "shell/application.h"
@@ -19,6 +21,7 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QDir>
+#include <QMenu>
 #include <QPalette>
 #include <QStackedWidget>
 
@@ -155,8 +158,18 @@ void Tour::addStops(Application &application)
           [this] {
               renameMacro();
           } },
+        { u"right-menu-closed"_s,
+          [this] {
+              popUpRightMenu();
+          } },
+        { u"find"_s, press(u"mnuEditFind"_s) },
+        { u"replace"_s, press(u"mnuEditReplace"_s) },
+        { u"goto"_s, press(u"mnuEditGoto"_s) },
         { u"compile"_s,
           [&application] {
+              if (auto *find = application.mum().findChild<FindAndReplace *>()) {
+                  find->reject();
+              }
               application.editor().view().select(DocumentKind::Joystick);
               application.editor().actions().trigger(u"mnuAppsCompile");
           } },
@@ -212,6 +225,19 @@ void Tour::renameMacro()
         }
     });
     m_application->editor().actions().trigger(u"mnuRenameMacro");
+}
+
+void Tour::popUpRightMenu()
+{
+    // The menu has a loop of its own: it is looked at and closed from within.
+    QTimer::singleShot(pauseMs, this, [this] {
+        if (QWidget *menu = QApplication::activePopupWidget()) {
+            grab(*menu, u"right-menu"_s);
+            menu->close();
+        }
+    });
+    Editor &editor = m_application->editor();
+    editor.rightMenu().build()->exec(editor.mapToGlobal(editor.rect().center()));
 }
 
 void Tour::compileSlowly()

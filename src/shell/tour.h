@@ -59,6 +59,7 @@ private:
     void addStops(Application &application);
     void walk();
     void renameMacro();
+    void popUpRightMenu();
     void compileSlowly();
     void answerWelcome();
     void grab(QWidget &window, const QString &name) const;

@@ -71,6 +71,21 @@ TEST_F(BlockOperationsTest, ABlankLineAloneChangesNothing)
     EXPECT_EQ(steps(), 0);
 }
 
+TEST_F(BlockOperationsTest, TheCaretGoesToTheFirstLinesStartEvenIfNothingChanges)
+{
+    joystick().select(12, 5);
+    editor->action(u"mnuBlockRemoveREM")->trigger();
+    EXPECT_EQ(joystick().selStart(), 10);
+    EXPECT_EQ(joystick().selLength(), 0);
+    type(DocumentKind::Macro, u"a = b\n\n\n"_s);
+    editor->view().select(DocumentKind::Macro);
+    editor->macro().control->select(6, 1);
+    editor->action(u"mnuBlockREM")->trigger();
+    EXPECT_EQ(editor->macroText(), u"a = b\n\n\n");
+    EXPECT_EQ(editor->macro().control->selStart(), 6);
+    EXPECT_EQ(editor->macro().control->selLength(), 0);
+}
+
 TEST_F(BlockOperationsTest, TakenBackLinesAreLiveAgainAndOthersKeepTheirLooks)
 {
     joystick().select(0, 0);

@@ -37,6 +37,20 @@ protected:
     TextControl *joystick() { return editor->joystick().control; }
     TextControl *macro() { return editor->macro().control; }
     QTabBar *tabs() { return editor->findChild<QTabBar *>(u"TabStrip1"_s); }
+    /// Notes which entries run, in place of what they do.
+    void noteEntries()
+    {
+        for (const ActionRow &row : actionTable()) {
+            if (row.kind == ActionKind::Entry || row.kind == ActionKind::Tick) {
+                QAction *entry = editor->action(QStringView(row.name));
+                QObject::disconnect(entry, &QAction::triggered, nullptr, nullptr);
+                QObject::connect(entry, &QAction::triggered, editor.get(),
+                                 [this, entry] { ran.append(entry->objectName()); });
+                entry->setEnabled(true);
+            }
+        }
+    }
+    QStringList ran;
     QStringList namesOf(const QMenu &menu)
     {
         QStringList names;
@@ -222,6 +236,35 @@ TEST_F(EditorWindowTest, EachControlKeyHasItsEntryInEachText)
     }
 }
 
+TEST_F(EditorWindowTest, EachControlKeyPressedRunsItsEntryOnceAndTypesNothing)
+{
+    noteEntries();
+    for (const bool inMacroText : { false, true }) {
+        tabs()->setCurrentIndex(inMacroText ? 1 : 0);
+        for (const KeyRow &row : keyRows) {
+            const QString expected = (inMacroText ? row.macro : row.joystick).toString();
+            noteEntries();
+            ran.clear();
+            QTest::keyClick(editor->selected().control, Qt::Key(row.key), Qt::ControlModifier);
+            EXPECT_EQ(ran, expected.isEmpty() ? QStringList() : QStringList{ expected })
+                << row.key << (inMacroText ? " in the macro text" : " in the joystick text");
+        }
+    }
+    EXPECT_EQ(editor->joystickText() + editor->macroText(), QString());
+}
+
+TEST_F(EditorWindowTest, ACommandsKeyWithAnotherModifierRunsNothing)
+{
+    noteEntries();
+    for (const KeyRow &row : keyRows) {
+        for (const auto more : { Qt::ShiftModifier, Qt::AltModifier, Qt::MetaModifier }) {
+            QKeyEvent press(QEvent::KeyPress, row.key, Qt::ControlModifier | more);
+            QCoreApplication::sendEvent(joystick(), &press);
+        }
+    }
+    EXPECT_EQ(ran, QStringList());
+}
+
 TEST_F(EditorWindowTest, CtrlKOpensTheKeyTesterThatTheUserPrefers)
 {
     QSignalSpy tester(editor->action(u"mnuAppsKeyTester"), &QAction::triggered);
@@ -297,6 +340,55 @@ TEST_F(EditorWindowTest, TheRightMenuOfTheMacroTextLacksTheJoystickEntries)
     EXPECT_TRUE(names.contains(u"mnuRHMUpdateMacros"_s));
     EXPECT_FALSE(names.contains(u"mnuRHMGoto"_s));
     EXPECT_FALSE(names.contains(u"mnuRHMDownload"_s));
+}
+
+TEST_F(EditorWindowTest, TheRightMenuOffersWhatCanBeDone)
+{
+    const auto offered = [this](const QString &name) {
+        const auto menu = editor->rightMenu().build();
+        const auto *entry = menu->findChild<QAction *>(name);
+        EXPECT_TRUE(entry) << name.toStdString();
+        return entry && entry->isEnabled();
+    };
+    const QStringList ofASelection = { u"mnuRHMCut"_s, u"mnuRHMCopy"_s, u"mnuRHMDelete"_s,
+                                       u"mnuRHMColoursSelection"_s };
+    QGuiApplication::clipboard()->clear();
+    EXPECT_FALSE(offered(u"mnuRHMUndo"_s));
+    QTest::keyClicks(joystick(), u"one"_s);
+    for (const QString &name : ofASelection) {
+        EXPECT_FALSE(offered(name)) << name.toStdString();
+    }
+    EXPECT_FALSE(offered(u"mnuRHMPaste"_s));
+    EXPECT_TRUE(offered(u"mnuRHMUndo"_s));
+    EXPECT_FALSE(offered(u"mnuRHMRedo"_s));
+    joystick()->selectAll();
+    QGuiApplication::clipboard()->setText(u"two"_s);
+    for (const QString &name : ofASelection) {
+        EXPECT_TRUE(offered(name)) << name.toStdString();
+    }
+    EXPECT_TRUE(offered(u"mnuRHMPaste"_s));
+    editor->action(u"mnuEditUndo")->trigger();
+    EXPECT_TRUE(offered(u"mnuRHMRedo"_s));
+    EXPECT_EQ(editor->rightMenu().build()->findChild<QAction *>(u"mnuRHMRedo"_s)->text(),
+              editor->action(u"mnuEditRedo")->text());
+}
+
+TEST_F(EditorWindowTest, AnEntryOfTheRightMenuRunsTheMenusEntry)
+{
+    noteEntries();
+    for (const RightMenuRow &row : rightMenuTable()) {
+        if (row.target[0] == 0) {
+            continue;
+        }
+        tabs()->setCurrentIndex(row.shown == RightMenuRow::MacroOnly ? 1 : 0);
+        noteEntries();
+        ran.clear();
+        const auto menu = editor->rightMenu().build();
+        auto *entry = menu->findChild<QAction *>(QString::fromUtf16(row.name));
+        ASSERT_TRUE(entry) << QString::fromUtf16(row.name).toStdString();
+        entry->trigger();
+        EXPECT_EQ(ran, QStringList{ QString::fromUtf16(row.target) });
+    }
 }
 
 TEST_F(EditorWindowTest, CutAndCopyNeedASelectionAndPasteNeedsText)

@@ -276,6 +276,21 @@ TEST_F(MacroOperationsTest, ARenameIsOneUndoStepOfEachText)
     EXPECT_EQ(editor->macroText(), u"Go = SPC\n");
 }
 
+TEST_F(MacroOperationsTest, ARenameTakenBackLeavesTheColoursThatWereThere)
+{
+    open("BTN S1 Fire\r\n", "Fire = SPC\r\n");
+    {
+        // As the colours of typing come: without a step of their own.
+        const BusyGuard busy(editor->view());
+        joystick()->changeLooks(0, 3, [](CharFormat &format) { format.colour = 0x00FF00; });
+    }
+    dialogs.answer(renamedTitle, BoxButton::Ok);
+    operations().ChangeMacroName(u"Fire"_s, u"Go"_s);
+    editor->action(u"mnuEditUndo")->trigger();
+    EXPECT_EQ(editor->joystickText(), u"BTN S1 Fire\n");
+    EXPECT_EQ(joystick()->richText().formatAt(1).colour, 0x00FF00U);
+}
+
 TEST_F(MacroOperationsTest, ADocumentWithoutTheNameIsToldByItsOwnName)
 {
     open("BTN S1 a\r\n", "Fire = SPC\r\n");

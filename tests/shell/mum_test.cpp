@@ -3,9 +3,12 @@
 
 #include "shell/mum.h"
 
+#include "editor/actions.h"
 #include "editor/editor.h"
 #include "editor/editor_actions.h"
+#include "editor/editor_keys.h"
 #include "editor/editor_view.h"
+#include "editor/right_menu.h"
 #include "editor/text_control.h"
 #include "platform/core/units.h"
 #include "shell/frmabout.h"
@@ -213,6 +216,54 @@ TEST_F(MainWindow, AMenuEntryDescribesItselfAndGivesTheLineBack)
     QStatusTipEvent gone{ QString() };
     QApplication::sendEvent(mum.get(), &gone);
     EXPECT_EQ(status.text(), u"before");
+}
+
+TEST_F(MainWindow, TheRightMenusEntriesAreDescribedOnTheBar)
+{
+    status.setText(u"before"_s);
+    const auto menu = editor->rightMenu().build();
+    menu->popup({ 10, 10 });
+    menu->setActiveAction(menu->findChild<QAction *>(u"mnuRHMSelectAll"_s));
+    EXPECT_EQ(status.text(), editor->action(u"mnuEditSelectAll")->statusTip());
+    EXPECT_NE(status.text(), u"before");
+    menu->close();
+    EXPECT_EQ(status.text(), u"before");
+}
+
+TEST_F(MainWindow, AKeyThatTextAndMenuBothKnowRunsOneEntry)
+{
+    mum->activateWindow();
+    ASSERT_TRUE(QTest::qWaitFor([this] { return QApplication::activeWindow() == mum.get(); }));
+    QStringList ran;
+    const auto noteEntries = [&] {
+        for (const ActionRow &row : actionTable()) {
+            if (row.kind == ActionKind::Entry || row.kind == ActionKind::Tick) {
+                QAction *entry = editor->action(QStringView(row.name));
+                QObject::disconnect(entry, &QAction::triggered, nullptr, nullptr);
+                QObject::connect(entry, &QAction::triggered, editor,
+                                 [&ran, entry] { ran.append(entry->objectName()); });
+                entry->setEnabled(true);
+            }
+        }
+    };
+    for (const DocumentKind kind : { DocumentKind::Joystick, DocumentKind::Macro }) {
+        editor->view().select(kind);
+        for (const ActionRow &row : actionTable()) {
+            const auto keys = QKeySequence(QString::fromUtf16(row.shortcut));
+            if (keys.isEmpty()) {
+                continue;
+            }
+            noteEntries();
+            ran.clear();
+            const QKeyCombination key = keys[0];
+            const QString ofText = key.keyboardModifiers() == Qt::ControlModifier
+                ? EditorKeys::entryFor(key.key(), kind == DocumentKind::Macro)
+                : QString();
+            QTest::keyClick(editor->selected().control, key.key(), key.keyboardModifiers());
+            EXPECT_EQ(ran, QStringList{ ofText.isEmpty() ? QString::fromUtf16(row.name) : ofText })
+                << keys.toString().toStdString();
+        }
+    }
 }
 
 TEST_F(MainWindow, TheBarsLeftEndColoursSavesAndIdentifies)

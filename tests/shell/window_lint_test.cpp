@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "editor/editor.h"
+#include "editor/findandreplace.h"
 #include "editor/macrorenameform.h"
 #include "editor/styleeditor.h"
 #include "shell/frmabout.h"
@@ -85,6 +86,16 @@ std::unique_ptr<QWidget> makeMum(test::ShellWorld &world)
     return mum;
 }
 
+/// The find window with an Editor of its own to search in, which goes after it.
+std::unique_ptr<QWidget> makeFindAndReplace(test::ShellWorld &world)
+{
+    auto *editor = new Editor(world.context());
+    auto window = std::make_unique<FindAndReplace>(
+        world.context(), FindAndReplace::Parts{ editor->view(), editor->undos() });
+    QObject::connect(window.get(), &QObject::destroyed, [editor] { delete editor; });
+    return window;
+}
+
 const LintCase cases[] = {
     { "frmTip",
       [](auto &w) {
@@ -114,6 +125,7 @@ const LintCase cases[] = {
       [](auto &w) {
           return std::make_unique<StyleEditor>(defaultTextStyles(), 0xFFFFFF, w.dialogs);
       } },
+    { "FindAndReplace", makeFindAndReplace },
     { "Mum", makeMum },
 };
 
