@@ -9,6 +9,7 @@
 #include "editor/file_kinds.h"
 #include "platform/core/rich_text.h"
 
+#include <memory>
 #include <span>
 #include <vector>
 
@@ -66,8 +67,25 @@ std::span<const PaintPass> typingPasses();
 /// Comments alone.
 std::span<const PaintPass> remPasses();
 
-/// Paints the text: linear in its length, exactly as the passes one after another would. No two
-/// neighbouring runs have the same colour.
+/// A table of passes made ready to paint many texts, however short. Outlived by the table.
+class Painter
+{
+public:
+    explicit Painter(std::span<const PaintPass> passes);
+    ~Painter();
+
+    /// Paints a text: linear in its length, exactly as the passes one after another would. No two
+    /// neighbouring runs have the same colour.
+    std::vector<ColourRun> paint(QStringView text, const ColourScheme &scheme) const;
+
+private:
+    class Words;
+
+    std::span<const PaintPass> m_passes;
+    std::unique_ptr<const Words> m_words;
+};
+
+/// Paints one text.
 std::vector<ColourRun> paint(QStringView text, std::span<const PaintPass> passes,
                              const ColourScheme &scheme);
 
