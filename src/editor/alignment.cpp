@@ -156,6 +156,43 @@ void pad(QString &line, qsizetype column)
     }
 }
 
+/// What tells the aligners apart.
+struct Rules {
+    Columns (*columnsAt)(const Columns &before, QStringView head);
+    qsizetype (*columnOf)(QStringView line, QStringView reference, const Columns &columns);
+    QString indent; ///< stands before every line that is no comment and long enough
+};
+
+QString aligned(QStringView text, const Rules &rules)
+{
+    QString result;
+    result.reserve(text.size() + text.size() / 2);
+    Columns columns;
+    QString reference;
+    forEachLine(text, [&](QStringView input) {
+        if (isKept(input)) {
+            result += input;
+            result += u'\n';
+            return;
+        }
+        QString line = collapsed(input);
+        if (isHead(line)) {
+            columns = rules.columnsAt(columns, line);
+        } else {
+            pad(line, rules.columnOf(line, reference, columns));
+        }
+        if (line.contains(u'/')) {
+            reference = line;
+        }
+        if (line.size() >= 3 && !beginsAnyCase(line, u"rem")) {
+            result += rules.indent;
+        }
+        result += line;
+        result += u'\n';
+    });
+    return result;
+}
+
 // The digest ------------------------------------------------------------------------------------
 
 struct UseRecord {
@@ -264,60 +301,16 @@ private:
 
 QString AlignSlashes(QStringView text, const IndentOptions &options)
 {
-    const QString indent(std::clamp<qsizetype>(options.spaces, 0, mostPadding), u' ');
-    QString result;
-    result.reserve(text.size() + text.size() / 2);
-    Columns columns;
-    QString reference;
-    forEachLine(text, [&](QStringView input) {
-        if (isKept(input)) {
-            result += input;
-            result += u'\n';
-            return;
-        }
-        QString line = collapsed(input);
-        if (isHead(line)) {
-            columns = Columns(line);
-        } else {
-            pad(line, editorColumn(line, reference, columns));
-        }
-        if (line.contains(u'/')) {
-            reference = line;
-        }
-        if (options.indent && line.size() >= 3 && !beginsAnyCase(line, u"rem")) {
-            result += indent;
-        }
-        result += line;
-        result += u'\n';
-    });
-    return result;
+    const QString indent(options.indent ? std::clamp<qsizetype>(options.spaces, 0, mostPadding) : 0,
+                         u' ');
+    return aligned(
+        text,
+        { [](const Columns &, QStringView head) { return Columns(head); }, editorColumn, indent });
 }
 
 QString AlignForLayouts(QStringView text)
 {
-    QString result;
-    result.reserve(text.size() + text.size() / 2);
-    Columns columns;
-    QString reference;
-    forEachLine(text, [&](QStringView input) {
-        if (isKept(input)) {
-            result += input;
-            result += u'\n';
-            return;
-        }
-        QString line = collapsed(input);
-        if (isHead(line)) {
-            columns = keptColumns(columns, line);
-        } else {
-            pad(line, layoutColumn(line, reference, columns));
-        }
-        if (line.contains(u'/')) {
-            reference = line;
-        }
-        result += line;
-        result += u'\n';
-    });
-    return result;
+    return aligned(text, { keptColumns, layoutColumn, QString() });
 }
 
 QString LeftAlignAnalyse(QStringView text)

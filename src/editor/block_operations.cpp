@@ -88,15 +88,14 @@ void BlockOperations::BlockRemoveREM()
         return;
     }
     const TextControl &control = *m_parts.view.selected().control;
-    const RichText before = richTextOf(*control.document(), range.start, range.length);
     constexpr qsizetype taken = 4; // "rem " and its blank
     RichText text;
-    qsizetype at = 0;
+    qsizetype at = range.start;
     for (const LineChange &line : all) {
         const qsizetype length = line.text.size() + (line.changed ? taken : 0);
         // What stays keeps the looks that it has; what is live again is painted as it is typed.
         text.append(line.changed ? m_parts.highlighting.ColourType(line.text)
-                                 : before.mid(at, length));
+                                 : richTextOf(*control.document(), at, length));
         at += length;
     }
     insertOver(range, text);

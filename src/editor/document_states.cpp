@@ -26,6 +26,58 @@ template <class Run, class Size> void add(std::vector<Run> &runs, Size Run::*siz
     }
 }
 
+/// Hands out a text's runs piece by piece.
+template <class Run, class Size> class RunReader
+{
+public:
+    RunReader(const std::vector<Run> &runs, Size Run::*size) : m_runs(runs), m_size(size) { }
+
+    /// Calls a function with format and size of each piece of the next so many characters or
+    /// paragraphs.
+    template <class Function> void take(qsizetype size, Function function)
+    {
+        while (size > 0 && m_index < m_runs.size()) {
+            const Run &run = m_runs[m_index];
+            const qsizetype part = std::min(size, run.*m_size - m_taken);
+            if (part > 0) {
+                function(run.format, part);
+            }
+            size -= part;
+            m_taken += part;
+            if (m_taken == run.*m_size) {
+                ++m_index;
+                m_taken = 0;
+            }
+        }
+    }
+
+private:
+    const std::vector<Run> &m_runs;
+    Size Run::*m_size;
+    size_t m_index = 0;
+    qsizetype m_taken = 0;
+};
+
+bool areText(const TextChunks &chunks, QStringView text)
+{
+    for (const auto &chunk : chunks) {
+        if (!text.startsWith(chunk->text)) {
+            return false;
+        }
+        text = text.sliced(chunk->text.size());
+    }
+    return text.isEmpty();
+}
+
+std::vector<qsizetype> bordersOf(const TextChunks &chunks)
+{
+    std::vector<qsizetype> borders{ 0 };
+    for (const auto &chunk : chunks) {
+        borders.push_back(borders.back() + chunk->text.size());
+    }
+    return borders;
+}
+
 qsizetype sizeOf(const TextChunks &chunks, size_t first, size_t behind)
 {
     qsizetype size = 0;
@@ -88,22 +140,87 @@ void DocumentStates::onContentsChange(int position, int, int added)
     m_sameInFront = std::min(m_sameInFront, qsizetype(position));
     m_sameBehind = std::clamp(size - position - added, qsizetype(0), m_sameBehind);
     m_changed = true;
+    m_revision = m_document.revision();
 }
 
 DocumentState DocumentStates::present()
 {
+    if (m_document.revision() != m_revision) {
+        // Changed within an edit block that is still open: where, nobody has been told.
+        m_sameInFront = m_sameBehind = 0;
+        m_changed = true;
+    }
     if (m_changed) {
         readChanges();
-        m_changed = false;
-        m_sameInFront = m_sameBehind = everything;
+        settle();
     }
     return m_known;
 }
 
-DocumentState DocumentStates::empty() const
+void DocumentStates::settle()
+{
+    m_changed = false;
+    m_sameInFront = m_sameBehind = everything;
+    m_revision = m_document.revision();
+}
+
+void DocumentStates::know(const RichText &text)
+{
+    const TextChunks &old = *m_known.m_chunks;
+    const bool isOldText = areText(old, text.text);
+    const std::vector<qsizetype> borders = isOldText ? bordersOf(old) : cuts(text.text);
+    RunReader characters(text.characters, &CharRun::length);
+    RunReader paragraphs(text.paragraphs, &ParagraphRun::count);
+    auto chunks = std::make_shared<TextChunks>();
+    chunks->reserve(borders.size() - 1);
+    for (size_t i = 0; i + 1 < borders.size(); ++i) {
+        const qsizetype size = borders[i + 1] - borders[i];
+        auto chunk = std::make_shared<TextChunk>();
+        chunk->text = isOldText ? old[i]->text : text.text.mid(borders[i], size);
+        characters.take(size, [&](const CharFormat &look, qsizetype part) {
+            const quint32 number = numberAsRead(look);
+            if (!chunk->runs.empty() && chunk->runs.back().look == number) {
+                chunk->runs.back().length += quint32(part);
+            } else {
+                chunk->runs.push_back({ quint32(part), number });
+            }
+        });
+        const bool last = i + 2 == borders.size();
+        paragraphs.take(chunk->text.count(u'\n') + (last ? 1 : 0),
+                        [&](const ParagraphFormat &format, qsizetype part) {
+                            chunk->paragraphs.push_back({ part, format });
+                        });
+        chunk->runs.shrink_to_fit();
+        chunk->paragraphs.shrink_to_fit();
+        if (isOldText && *chunk == *old[i]) {
+            chunks->push_back(old[i]);
+        } else {
+            chunks->push_back(std::move(chunk));
+        }
+    }
+    m_known.m_chunks = std::move(chunks);
+    settle();
+}
+
+std::vector<qsizetype> DocumentStates::cuts(QStringView text) const
+{
+    std::vector<qsizetype> borders{ 0 };
+    qsizetype left = text.count(u'\n') + 1;
+    for (; left > 2 * m_linesPerChunk; left -= m_linesPerChunk) {
+        qsizetype at = borders.back();
+        for (int line = 0; line < m_linesPerChunk; ++line) {
+            at = text.indexOf(u'\n', at) + 1;
+        }
+        borders.push_back(at);
+    }
+    borders.push_back(text.size());
+    return borders;
+}
+
+DocumentState DocumentStates::empty(const ParagraphFormat &paragraph) const
 {
     auto chunk = std::make_shared<TextChunk>();
-    chunk->paragraphs.push_back({ 1, {} });
+    chunk->paragraphs.push_back({ 1, paragraph });
     DocumentState state;
     state.m_chunks = std::make_shared<TextChunks>(TextChunks{ std::move(chunk) });
     return state;
@@ -139,8 +256,7 @@ void DocumentStates::restore(const DocumentState &state)
     }
     replaceRichText(m_document, sizeOf(old, 0, front), sizeOf(old, front, old.size() - back), text);
     m_known = state;
-    m_changed = false;
-    m_sameInFront = m_sameBehind = everything;
+    settle();
 }
 
 RichText DocumentStates::join(const TextChunks &chunks, size_t first, size_t behind) const
@@ -286,6 +402,18 @@ TextChunk DocumentStates::read(qsizetype from, qsizetype to, bool last)
         chunk.runs.push_back({ quint32(run.length), numberOf(run.format) });
     }
     return chunk;
+}
+
+/// A look that was set may read otherwise: a colour loses what no screen shows.
+quint32 DocumentStates::numberAsRead(const CharFormat &look)
+{
+    const auto known = m_numbersAsRead.constFind(look);
+    if (known != m_numbersAsRead.cend()) {
+        return known.value();
+    }
+    const quint32 number = numberOf(fromTextFormat(toTextFormat(look)));
+    m_numbersAsRead.insert(look, number);
+    return number;
 }
 
 quint32 DocumentStates::numberOf(const CharFormat &look)

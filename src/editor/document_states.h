@@ -63,8 +63,14 @@ public:
 
     /// The document as it stands.
     DocumentState present();
+    /// Says how the document reads now, for whoever has just set it so: nothing of it is read. The
+    /// value is normal, its paragraphs are the document's, and a text that is new to the states has
+    /// a paragraph a line.
+    void know(const RichText &text);
+    /// The document as it stands, read only where it has changed. Not within an open edit block.
+    RichText presentText() { return richText(present()); }
     /// An empty text.
-    DocumentState empty() const;
+    DocumentState empty(const ParagraphFormat &paragraph = {}) const;
     /// Makes the document stand as it did, text and looks, in one edit block.
     void restore(const DocumentState &state);
     RichText richText(const DocumentState &state) const;
@@ -86,7 +92,10 @@ private:
     int lineCountOf(const Stale &stale) const;
     std::vector<qsizetype> cuts(const Stale &stale) const;
     TextChunk read(qsizetype from, qsizetype to, bool last);
+    std::vector<qsizetype> cuts(QStringView text) const;
+    void settle();
     quint32 numberOf(const CharFormat &look);
+    quint32 numberAsRead(const CharFormat &look);
     RichText join(const TextChunks &chunks, size_t first, size_t behind) const;
 
     QTextDocument &m_document;
@@ -94,11 +103,13 @@ private:
     QMetaObject::Connection m_following;
     std::vector<CharFormat> m_looks;
     QHash<CharFormat, quint32> m_numbers;
+    QHash<CharFormat, quint32> m_numbersAsRead; ///< of looks as they were set
     DocumentState m_known;
     /// Characters at the document's two ends that are as in the known state.
     qsizetype m_sameInFront = 0;
     qsizetype m_sameBehind = 0;
     bool m_changed = true;
+    int m_revision = 0; ///< the toolkit's number of the last change that was told
 };
 
 } // namespace zeph

@@ -5,6 +5,7 @@
 
 #include "editor/editor_texts.h"
 #include "editor/text_control.h"
+#include "platform/rich_text_document.h"
 #include "platform/status_line.h"
 #include "shell/settings/global_settings.h"
 
@@ -69,10 +70,17 @@ void EditorView::makeControl(DocumentKind kind, const QString &name)
 
 void EditorView::onTextChanged(DocumentKind kind)
 {
-    if (ColouringBusy == 0) {
-        setState(document(kind), EditorDocument::Modified);
-        Q_EMIT edited(kind);
+    if (ColouringBusy > 0) {
+        return;
     }
+    EditorDocument &each = document(kind);
+    if (each.control->end() == 0) {
+        // What goes into the emptied text has the document's margin, whatever stood there before.
+        const BusyGuard busy(*this);
+        setParagraphFormat(*each.control->document(), documentParagraph);
+    }
+    setState(each, EditorDocument::Modified);
+    Q_EMIT edited(kind);
 }
 
 void EditorView::storeCaret(EditorDocument &each)

@@ -217,23 +217,23 @@ void Highlighting::mnuViewHighlightLine_Click()
     }
 }
 
-RichText Highlighting::painted(const QString &text, std::span<const PaintPass> passes) const
+RichText Highlighting::painted(const QString &text, const Painter &painter) const
 {
     const DocumentKind kind = m_parts.view.selected().kind;
     RichText result = RichText::plain(text, {}, documentParagraph);
-    result.characters = characterRuns(paint(text, passes, colourScheme(m_context.settings, kind)),
+    result.characters = characterRuns(painter.paint(text, colourScheme(m_context.settings, kind)),
                                       m_parts.view.plainFormat(kind));
     return result;
 }
 
 RichText Highlighting::ColourType(const QString &text) const
 {
-    return painted(text, typingPasses());
+    return painted(text, m_typing);
 }
 
 RichText Highlighting::JustREMtocolour(const QString &text) const
 {
-    return painted(text, remPasses());
+    return painted(text, m_comments);
 }
 
 } // namespace zeph

@@ -65,11 +65,13 @@ public:
 private:
     void removeColour(EditorDocument &document, int from, int length);
     void paintStretch(EditorDocument &document, int from, int to);
-    RichText painted(const QString &text, std::span<const PaintPass> passes) const;
+    RichText painted(const QString &text, const Painter &painter) const;
     EditorDocument &document(DocumentKind kind) const;
 
     Context m_context;
     Parts m_parts;
+    Painter m_typing{ typingPasses() };
+    Painter m_comments{ remPasses() };
 };
 
 } // namespace zeph

@@ -64,17 +64,67 @@ bool matchesCase(const PaintPass &pass)
 
 using Hits = std::vector<qsizetype>;
 
+/// The words of a table of passes, by what a walk over a text knows of a place: the hash of the
+/// word there, or its first character.
+class WordTable
+{
+public:
+    struct Word {
+        QStringView text;
+        std::vector<size_t> passes;
+    };
+    using Bucket = std::vector<Word>;
+
+    explicit WordTable(std::span<const PaintPass> passes)
+    {
+        for (size_t i = 0; i < passes.size(); ++i) {
+            add(passes[i].word, i);
+        }
+    }
+
+    /// Words of word characters alone.
+    const Bucket &words(WordHash hash) const { return m_words[hash.value % bucketCount]; }
+    /// All others.
+    const Bucket &others(QChar first) const { return m_others[fold(first) % asciiCount]; }
+
+private:
+    static constexpr size_t bucketCount = 512;
+
+    void add(QStringView word, size_t pass)
+    {
+        if (word.isEmpty()) {
+            return;
+        }
+        WordHash hash;
+        for (const QChar c : word) {
+            hash.add(fold(c));
+        }
+        const bool isPure = std::all_of(word.begin(), word.end(), isWord);
+        Bucket &bucket =
+            isPure ? m_words[hash.value % bucketCount] : m_others[fold(word.front()) % asciiCount];
+        const auto known = std::find_if(bucket.begin(), bucket.end(), [word](const Word &each) {
+            return each.text.compare(word, Qt::CaseInsensitive) == 0;
+        });
+        if (known == bucket.end()) {
+            bucket.push_back({ word, { pass } });
+        } else {
+            known->passes.push_back(pass);
+        }
+    }
+
+    std::array<Bucket, bucketCount> m_words;
+    std::array<Bucket, asciiCount> m_others; ///< by first character
+};
+
 /// Finds the whole-word hits of the words of all passes in one walk over the text. A word that is
 /// made of word characters alone is a hit exactly where a run of them is that word; any other is
 /// tried where its first character can start it.
 class HitFinder
 {
 public:
-    explicit HitFinder(std::span<const PaintPass> passes) : m_passes(passes), m_hits(passes.size())
+    HitFinder(std::span<const PaintPass> passes, const WordTable &words)
+        : m_passes(passes), m_words(words), m_hits(passes.size())
     {
-        for (size_t i = 0; i < passes.size(); ++i) {
-            add(i);
-        }
     }
 
     /// The hits of each pass, in the order of the text.
@@ -101,40 +151,11 @@ public:
     }
 
 private:
-    struct Word {
-        QStringView text;
-        std::vector<size_t> passes;
-    };
-    using Bucket = std::vector<Word>;
-    static constexpr size_t bucketCount = 512;
-
-    void add(size_t pass)
-    {
-        const QStringView word = m_passes[pass].word;
-        if (word.isEmpty()) {
-            return;
-        }
-        WordHash hash;
-        for (const QChar c : word) {
-            hash.add(fold(c));
-        }
-        const bool isPure = std::all_of(word.begin(), word.end(), isWord);
-        Bucket &bucket = isPure ? m_words[hash.value % bucketCount] : othersAt(word.front());
-        const auto known = std::find_if(bucket.begin(), bucket.end(), [word](const Word &each) {
-            return each.text.compare(word, Qt::CaseInsensitive) == 0;
-        });
-        if (known == bucket.end()) {
-            bucket.push_back({ word, { pass } });
-        } else {
-            known->passes.push_back(pass);
-        }
-    }
-
-    Bucket &othersAt(QChar first) { return m_others[fold(first) % asciiCount]; }
+    using Word = WordTable::Word;
 
     void tryWord(qsizetype start, qsizetype length, WordHash hash)
     {
-        for (const Word &word : m_words[hash.value % bucketCount]) {
+        for (const Word &word : m_words.words(hash)) {
             if (word.text.size() == length && equals(start, word.text)) {
                 addHits(word, start);
             }
@@ -143,7 +164,7 @@ private:
 
     void tryOthers(qsizetype start)
     {
-        for (const Word &word : othersAt(m_text[start])) {
+        for (const Word &word : m_words.others(m_text[start])) {
             const qsizetype end = start + word.text.size();
             const bool joinedBehind =
                 end < m_text.size() && isWord(word.text.back()) && isWord(m_text[end]);
@@ -170,10 +191,9 @@ private:
     }
 
     std::span<const PaintPass> m_passes;
+    const WordTable &m_words;
     std::vector<Hits> m_hits;
     QStringView m_text;
-    std::array<Bucket, bucketCount> m_words;
-    std::array<Bucket, asciiCount> m_others; ///< by first character
 };
 
 /// Lays the hits of one pass after another over the text.
@@ -273,19 +293,38 @@ ColourScheme colourScheme(const GlobalSettings &settings, DocumentKind kind)
              settings.RemStatements };
 }
 
+class Painter::Words : public WordTable
+{
+public:
+    using WordTable::WordTable;
+};
+
+Painter::Painter(std::span<const PaintPass> passes)
+    : m_passes(passes), m_words(std::make_unique<const Words>(passes))
+{
+}
+
+Painter::~Painter() = default;
+
+std::vector<ColourRun> Painter::paint(QStringView text, const ColourScheme &scheme,
+                                      const std::function<void(const PaintPass &)> &begins) const
+{
+    const std::vector<Hits> hits = HitFinder(m_passes, *m_words).find(text);
+    Canvas canvas(text);
+    for (size_t i = 0; i < m_passes.size(); ++i) {
+        if (begins) {
+            begins(m_passes[i]);
+        }
+        canvas.paint(m_passes[i], hits[i]);
+    }
+    return canvas.runs(scheme);
+}
+
 std::vector<ColourRun> paint(QStringView text, std::span<const PaintPass> passes,
                              const ColourScheme &scheme,
                              const std::function<void(const PaintPass &)> &begins)
 {
-    const std::vector<Hits> hits = HitFinder(passes).find(text);
-    Canvas canvas(text);
-    for (size_t i = 0; i < passes.size(); ++i) {
-        if (begins) {
-            begins(passes[i]);
-        }
-        canvas.paint(passes[i], hits[i]);
-    }
-    return canvas.runs(scheme);
+    return Painter(passes).paint(text, scheme, begins);
 }
 
 std::vector<CharRun> characterRuns(const std::vector<ColourRun> &runs, const CharFormat &plain)

@@ -10,6 +10,7 @@
 #include "platform/core/rich_text.h"
 
 #include <functional>
+#include <memory>
 #include <span>
 #include <vector>
 
@@ -67,8 +68,32 @@ std::span<const PaintPass> typingPasses();
 /// Comments alone.
 std::span<const PaintPass> remPasses();
 
+<<<<<<< HEAD
 /// Paints the text: linear in its length, exactly as the passes one after another would. No two
 /// neighbouring runs have the same colour. What is given as begins hears of each pass before it.
+=======
+/// A table of passes made ready to paint many texts, however short. Outlived by the table.
+class Painter
+{
+public:
+    explicit Painter(std::span<const PaintPass> passes);
+    ~Painter();
+
+    /// Paints a text: linear in its length, exactly as the passes one after another would. No two
+    /// neighbouring runs have the same colour. What is given as begins hears of each pass before
+    /// it.
+    std::vector<ColourRun> paint(QStringView text, const ColourScheme &scheme,
+                                 const std::function<void(const PaintPass &)> &begins = {}) const;
+
+private:
+    class Words;
+
+    std::span<const PaintPass> m_passes;
+    std::unique_ptr<const Words> m_words;
+};
+
+/// Paints one text.
+>>>>>>> r3b
 std::vector<ColourRun> paint(QStringView text, std::span<const PaintPass> passes,
                              const ColourScheme &scheme,
                              const std::function<void(const PaintPass &)> &begins = {});

@@ -38,11 +38,14 @@ bool changesText(int key)
 
 } // namespace
 
-TextControl::TextControl(QWidget *parent) : QPlainTextEdit(parent), m_margin(new LineMargin(*this))
+TextControl::TextControl(QWidget *parent)
+    : QPlainTextEdit(parent), m_states(std::make_unique<DocumentStates>(*document())),
+      m_margin(new LineMargin(*this))
 {
     setLineWrapMode(NoWrap);
     setUndoRedoEnabled(false);
     document()->setDocumentMargin(6);
+    setParagraphFormat(*document(), documentParagraph);
     m_margin->hide();
     connect(this, &TextControl::blockCountChanged, this, &TextControl::placeMargin);
     connect(this, &TextControl::updateRequest, this, &TextControl::updateMargin);
@@ -71,17 +74,21 @@ QString TextControl::text() const
 
 RichText TextControl::richText() const
 {
-    return richTextOf(*document());
+    return m_states->presentText();
 }
 
 void TextControl::setText(const QString &text)
 {
-    setRichText(RichText::plain(text, m_plain));
+    setRichText(RichText::plain(text, m_plain, documentParagraph));
 }
 
 void TextControl::setRichText(const RichText &text)
 {
     zeph::setRichText(*document(), text);
+    const bool isUniform = text.paragraphs.size() == 1 && !text.paragraphs.front().format.bullet;
+    if (isUniform && text.text == this->text()) {
+        m_states->know(text);
+    }
     if (document()->isEmpty()) {
         setCurrentCharFormat(toTextFormat(m_plain));
     }
@@ -107,12 +114,24 @@ void TextControl::replaceAll(const QList<qsizetype> &starts, int length, const Q
 
 void TextControl::setCharacterRuns(const std::vector<CharRun> &runs, int from)
 {
-    applyCharacterRuns(*document(), runs, from);
+    qsizetype length = 0;
+    for (const CharRun &run : runs) {
+        length += std::max(run.length, qsizetype(0));
+    }
+    if (from > 0 || length != end()) {
+        applyCharacterRuns(*document(), runs, from);
+        return;
+    }
+    RichText whole = richText();
+    applyCharacterRuns(*document(), runs, std::exchange(whole.characters, runs));
+    m_states->know(whole);
 }
 
 void TextControl::changeLooks(int from, int length, const std::function<void(CharFormat &)> &change)
 {
-    std::vector<CharRun> runs = characterRunsOf(*document(), from, length);
+    const bool whole = from == 0 && length == end();
+    std::vector<CharRun> runs =
+        whole ? richText().characters : characterRunsOf(*document(), from, length);
     for (CharRun &run : runs) {
         change(run.format);
     }

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "platform/core/rich_text.h"
+#include "editor/document_states.h"
 
 #include <QPlainTextEdit>
 
@@ -39,6 +39,8 @@ public:
     /// The text, every character as it is (the toolkit's own call changes some blanks).
     QString text() const;
     RichText richText() const;
+    /// The document's states; kept up to date by whatever changes the text.
+    DocumentStates &states() { return *m_states; }
     void setText(const QString &text);
     void setRichText(const RichText &text);
     /// Replaces a stretch, in the format that stands there; caret and selection of the user move
@@ -105,6 +107,7 @@ private:
     QRectF lineArea(const QTextBlock &line) const;
 
     CharFormat m_plain;
+    std::unique_ptr<DocumentStates> m_states;
     LineMargin *m_margin;
     bool m_marksLine = false;
     int m_markedLine = 1;

@@ -8,7 +8,7 @@
 namespace zeph {
 
 UndoHistory::UndoHistory(EditorDocument &document, const qint16 &undoMax)
-    : m_document(document), m_undoMax(undoMax), m_states(*document.control->document())
+    : m_document(document), m_undoMax(undoMax), m_states(document.control->states())
 {
     reset();
 }
@@ -20,7 +20,7 @@ void UndoHistory::reset()
 
 void UndoHistory::forget()
 {
-    startWith(m_states.empty());
+    startWith(m_states.empty(documentParagraph));
 }
 
 void UndoHistory::startWith(const DocumentState &state)

@@ -63,7 +63,7 @@ private:
 
     EditorDocument &m_document;
     const qint16 &m_undoMax;
-    DocumentStates m_states;
+    DocumentStates &m_states;
     std::deque<Slot> m_slots; ///< slot 1 in front
     int m_index = 1;
     bool m_lastKeyWasSpace = false;

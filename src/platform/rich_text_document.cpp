@@ -166,6 +166,38 @@ private:
     qsizetype m_start;
 };
 
+/// The look that the most runs have, among the first few looks: a text that has it from the start
+/// needs the fewest changes. Files have few looks.
+CharFormat commonLook(const std::vector<CharRun> &runs)
+{
+    constexpr size_t few = 16;
+    std::vector<std::pair<const CharFormat *, int>> looks;
+    for (const CharRun &run : runs) {
+        const auto known = std::find_if(looks.begin(), looks.end(), [&run](const auto &look) {
+            return *look.first == run.format;
+        });
+        if (known != looks.end()) {
+            ++known->second;
+        } else if (looks.size() < few) {
+            looks.emplace_back(&run.format, 1);
+        }
+    }
+    const auto most =
+        std::max_element(looks.begin(), looks.end(),
+                         [](const auto &a, const auto &b) { return a.second < b.second; });
+    return most == looks.end() ? CharFormat() : *most->first;
+}
+
+/// Puts a text, without the paragraphs' formats, in place of the cursor's selection; the cursor
+/// stands behind it.
+void insertCharacters(QTextCursor &cursor, const RichText &text)
+{
+    const int from = cursor.selectionStart();
+    const CharFormat common = commonLook(text.characters);
+    cursor.insertText(insertable(text.text), toTextFormat(common));
+    RunPainter(*cursor.document(), { { text.text.size(), common } }, from).paint(text.characters);
+}
+
 /// The part of two texts that differs, as what both have in common before and behind it.
 struct Difference {
     qsizetype before = 0;
@@ -246,11 +278,14 @@ void setRichText(QTextDocument &document, const RichText &text)
     QTextCursor cursor(&document);
     cursor.beginEditBlock();
     document.clear();
-    cursor.insertText(insertable(text.text), toTextFormat({}));
-    RunPainter(document, { { text.text.size(), CharFormat() } }).paint(text.characters);
-    const bool isPlain = text.paragraphs.empty()
-        || (text.paragraphs.size() == 1 && text.paragraphs.front().format == ParagraphFormat());
-    if (!isPlain) {
+    const bool isUniform = text.paragraphs.empty()
+        || (text.paragraphs.size() == 1 && !text.paragraphs.front().format.bullet);
+    if (isUniform && !text.paragraphs.empty()) {
+        // Each paragraph takes over the format of the one before it.
+        cursor.setBlockFormat(toBlockFormat(text.paragraphs.front().format));
+    }
+    insertCharacters(cursor, text);
+    if (!isUniform) {
         applyParagraphRuns(cursor, text.paragraphs, 0, 0, document.blockCount() - 1);
     }
     cursor.endEditBlock();
@@ -260,20 +295,14 @@ void setRichText(QTextDocument &document, const RichText &text)
 
 void insertRichText(QTextCursor &cursor, const RichText &text)
 {
-    FormatCache formatOf;
-    const QString clean = insertable(text.text);
     cursor.beginEditBlock();
     cursor.removeSelectedText();
     const QTextBlock start = cursor.block();
     const bool keepsFirst =
-        !cursor.atBlockStart() || (start.length() > 1 && !clean.contains(u'\n'));
+        !cursor.atBlockStart() || (start.length() > 1 && !text.text.contains(u'\n'));
     const bool keepsLast = !cursor.atBlockEnd();
     const int firstBlock = start.blockNumber();
-    qsizetype position = 0;
-    for (const CharRun &run : text.characters) {
-        cursor.insertText(clean.mid(position, run.length), formatOf(run.format));
-        position += run.length;
-    }
+    insertCharacters(cursor, text);
     const int lastBlock = cursor.blockNumber();
     applyParagraphRuns(QTextCursor(cursor), text.paragraphs, firstBlock,
                        keepsFirst ? firstBlock + 1 : firstBlock,
@@ -314,6 +343,12 @@ void applyCharacterRuns(QTextDocument &document, const std::vector<CharRun> &run
         length += std::max(run.length, qsizetype(0));
     }
     RunPainter(document, characterRunsOf(document, from, length), from).paint(runs);
+}
+
+void applyCharacterRuns(QTextDocument &document, const std::vector<CharRun> &runs,
+                        std::vector<CharRun> present)
+{
+    RunPainter(document, std::move(present)).paint(runs);
 }
 
 void setParagraphFormat(QTextDocument &document, const ParagraphFormat &format)

@@ -50,6 +50,9 @@ void replaceRichText(QTextDocument &document, qsizetype from, qsizetype length,
 /// otherwise is touched, and only what they reach is read.
 void applyCharacterRuns(QTextDocument &document, const std::vector<CharRun> &runs,
                         qsizetype from = 0);
+/// The same for a caller who knows the looks of the whole document: nothing is read.
+void applyCharacterRuns(QTextDocument &document, const std::vector<CharRun> &runs,
+                        std::vector<CharRun> present);
 /// Gives all paragraphs one format; nothing is touched when they have it.
 void setParagraphFormat(QTextDocument &document, const ParagraphFormat &format);
 

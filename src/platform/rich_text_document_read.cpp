@@ -18,8 +18,12 @@ constexpr double twipsPerPixel = 15;
 /// The text with the value's line ends, of a text with the toolkit's.
 QString withLineEnds(QString text)
 {
+    // The borders lie far behind what nearly all of a text is made of.
+    const auto isBorder = [](QChar c) {
+        return c >= QChar(QChar::LineSeparator) && isBlockBorder(c);
+    };
     QChar *const end = text.data() + text.size();
-    std::replace_if(text.data(), end, isBlockBorder, QChar(u'\n'));
+    std::replace_if(text.data(), end, isBorder, QChar(u'\n'));
     return text;
 }
 

@@ -38,6 +38,12 @@ protected:
         editor->view().select(DocumentKind::Macro);
         dialogs.answer(u"File protected"_s, BoxButton::Ok);
     }
+    /// As text from elsewhere may stand.
+    void moveLinesIn()
+    {
+        const BusyGuard busy(editor->view());
+        setParagraphFormat(*joystick().document(), { .leftIndentTwips = 300 });
+    }
     TextControl &joystick() { return *editor->joystick().control; }
     int steps() { return editor->undos().of(DocumentKind::Joystick).slots() - 1; }
 };
@@ -116,6 +122,7 @@ TEST_F(AlignmentOperationsTest, AProtectedMacroFileRefusesAligning)
 TEST_F(AlignmentOperationsTest, RefreshingTheIndentKeepsColoursCaretAndState)
 {
     load(DocumentKind::Joystick, u"BTN S1 /I a\n/O b"_s);
+    moveLinesIn();
     joystick().changeLooks(0, 3, [](CharFormat &format) { format.colour = blue; });
     editor->view().setState(editor->joystick(), EditorDocument::Saved);
     const std::vector<CharRun> looks = characterRunsOf(*joystick().document());
@@ -133,6 +140,7 @@ TEST_F(AlignmentOperationsTest, RefreshingTheIndentKeepsColoursCaretAndState)
 TEST_F(AlignmentOperationsTest, RefreshingTheLayoutTakesColoursAway)
 {
     load(DocumentKind::Joystick, u"BTN S1"_s);
+    moveLinesIn();
     joystick().changeLooks(0, 3, [](CharFormat &format) {
         format.colour = blue;
         format.italic = true;

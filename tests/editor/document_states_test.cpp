@@ -158,6 +158,75 @@ TEST(DocumentStates, AreExactWhateverChangesADocument)
     }
 }
 
+// What a state is told must be what it would have read, now and at each change that follows.
+TEST(DocumentStates, WhatTheyAreToldIsWhatTheyWouldHaveRead)
+{
+    for (int round = 0; round < 300; ++round) {
+        test::RichTextMaker chance{ quint32(round) };
+        Document document;
+        DocumentStates states(document, 1 + chance.upTo(7));
+        for (int step = 0; step < 20; ++step) {
+            setRichText(document, chance.make(u"ab\n"_s, 60));
+            states.know(richTextOf(document));
+            ASSERT_EQ(states.presentText(), richTextOf(document)) << "round " << round;
+            const DocumentState first = states.present();
+            const RichText firstText = richTextOf(document);
+            // New looks on the text that is known already.
+            const int size = document.characterCount() - 1;
+            document.stretch(chance.upTo(size), chance.upTo(size))
+                .setCharFormat(toTextFormat(chance.characterFormat()));
+            states.know(richTextOf(document));
+            ASSERT_EQ(states.presentText(), richTextOf(document)) << "round " << round;
+            changeByChance(document, chance);
+            ASSERT_EQ(states.presentText(), richTextOf(document)) << "round " << round;
+            DocumentStates fresh(document);
+            ASSERT_EQ(states.presentText(), fresh.presentText()) << "round " << round;
+            states.restore(first);
+            ASSERT_EQ(richTextOf(document), firstText) << "round " << round;
+        }
+    }
+}
+
+TEST(DocumentStates, AToldTextIsCutAsOneThatIsRead)
+{
+    Document document(lines(10000));
+    DocumentStates told(document);
+    told.know(richTextOf(document));
+    DocumentStates read(document);
+    const std::vector<DocumentState> one{ told.present() };
+    const std::vector<DocumentState> other{ read.present() };
+    const qsizetype size = DocumentState::bytesHeld(one);
+    EXPECT_LT(std::abs(size - DocumentState::bytesHeld(other)), size / 50);
+}
+
+TEST(DocumentStates, NewLooksThatAreToldShareTheText)
+{
+    Document document(lines(10000));
+    DocumentStates states(document);
+    std::vector<DocumentState> taken{ states.present() };
+    const qsizetype whole = DocumentState::bytesHeld(taken);
+    states.know(states.presentText());
+    taken.push_back(states.present());
+    document.stretch(0, document.characterCount() - 1).setCharFormat(toTextFormat(red));
+    states.know(richTextOf(document));
+    taken.push_back(states.present());
+    EXPECT_LT(DocumentState::bytesHeld(taken), 2 * whole);
+}
+
+TEST(DocumentStates, AreExactWithinAnOpenEditBlock)
+{
+    Document document(lines(300));
+    DocumentStates states(document);
+    states.present();
+    QTextCursor cursor(&document);
+    cursor.beginEditBlock();
+    document.insert(5, u"x"_s);
+    EXPECT_EQ(states.presentText(), richTextOf(document));
+    document.insert(1000, u"y\n"_s);
+    cursor.endEditBlock();
+    EXPECT_EQ(states.presentText(), richTextOf(document));
+}
+
 TEST(DocumentStates, AKeystrokeCostsOneChunk)
 {
     Document document(lines(10000));

@@ -3,6 +3,7 @@
 
 #include "editor/file_opening.h"
 #include "platform/core/rtf.h"
+#include "platform/rich_text_document.h"
 #include "tests/editor/painting_fixture.h"
 
 #include <QAction>
@@ -381,6 +382,10 @@ TEST_F(HighlightingTest, RefreshingTheLayoutStripsLooksAndSetsTheMargin)
         format.family = u"Courier"_s;
         format.pointSize = 30;
     });
+    {
+        const BusyGuard busy(editor->view());
+        setParagraphFormat(*joystick()->document(), { .leftIndentTwips = 300, .bullet = true });
+    }
     joystick()->select(5, 0);
     const QStringList texts = said([this] { editor->actions().trigger(u"mnuViewReformat"); });
     RichText expected = RichText::plain(u"BTN S1\na"_s, editor->view().plainFormat(J));

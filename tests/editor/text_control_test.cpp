@@ -3,6 +3,9 @@
 
 #include "editor/text_control.h"
 
+#include "platform/rich_text_document.h"
+#include "tests/support/rich_texts.h"
+
 #include <gtest/gtest.h>
 
 #include <QClipboard>
@@ -134,4 +137,37 @@ TEST_F(TextControlTest, OddCharactersAreCharactersOfOneLine)
     EXPECT_EQ(control.text(), odd);
     EXPECT_EQ(control.blockCount(), 1);
     EXPECT_EQ(control.richText().text, odd);
+}
+
+// Reading costs only what has changed; what it gives must be what the document holds.
+TEST_F(TextControlTest, ItsRichTextIsTheDocumentsWhateverSetIt)
+{
+    for (int round = 0; round < 200; ++round) {
+        test::RichTextMaker chance{ quint32(round) };
+        control.setRichText(chance.make(u"ab \n\r\u2028"_s, 80));
+        ASSERT_EQ(control.richText(), richTextOf(*control.document())) << "round " << round;
+        // A colour of which only the lower bytes are one.
+        CharFormat odd;
+        odd.colour = 0xFF000012;
+        control.setCharacterRuns({ { control.end(), odd } });
+        ASSERT_EQ(control.richText(), richTextOf(*control.document())) << "round " << round;
+        const int from = chance.upTo(control.end());
+        control.setCharacterRuns(
+            { { chance.upTo(control.end() - from), chance.characterFormat() } }, from);
+        ASSERT_EQ(control.richText(), richTextOf(*control.document())) << "round " << round;
+        control.changeLooks(0, control.end(), [](CharFormat &look) { look.bold = !look.bold; });
+        control.replace(from, 0, u"x\ny"_s);
+        ASSERT_EQ(control.richText(), richTextOf(*control.document())) << "round " << round;
+    }
+}
+
+TEST_F(TextControlTest, EveryTextHasTheMargin)
+{
+    const std::vector<ParagraphRun> one{ { 1, { .leftIndentTwips = 20 } } };
+    EXPECT_EQ(richTextOf(*control.document()).paragraphs, one);
+    control.setText(u"a\nb"_s);
+    const std::vector<ParagraphRun> two{ { 2, { .leftIndentTwips = 20 } } };
+    EXPECT_EQ(richTextOf(*control.document()).paragraphs, two);
+    control.setText(QString());
+    EXPECT_EQ(richTextOf(*control.document()).paragraphs, one);
 }

@@ -457,6 +457,22 @@ TEST_F(UndoTest, TypingIntoAnEmptiedTextHasTheSchemesLooks)
     EXPECT_EQ(joystick()->richText(), typed);
 }
 
+TEST_F(UndoTest, AnEmptiedTextHasItsMarginBack)
+{
+    {
+        const BusyGuard busy(editor->view());
+        joystick()->setRichText(RichText::plain(
+            u"a\nb"_s, {}, { .leftIndentTwips = 300, .alignment = ParagraphAlignment::Centre }));
+    }
+    joystick()->selectAll();
+    key(Qt::Key_Delete);
+    ASSERT_EQ(text(), QString());
+    const std::vector<ParagraphRun> margin{ { 1, { .leftIndentTwips = 20 } } };
+    EXPECT_EQ(joystick()->richText().paragraphs, margin);
+    keys(u"c"_s);
+    EXPECT_EQ(joystick()->richText().paragraphs, margin);
+}
+
 TEST_F(UndoTest, DeletingTheUndosFromMemoryLeavesAnEmptySlotInBothDocuments)
 {
     keys(u"a b"_s);
