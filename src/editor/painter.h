@@ -68,10 +68,6 @@ std::span<const PaintPass> typingPasses();
 /// Comments alone.
 std::span<const PaintPass> remPasses();
 
-<<<<<<< HEAD
-/// Paints the text: linear in its length, exactly as the passes one after another would. No two
-/// neighbouring runs have the same colour. What is given as begins hears of each pass before it.
-=======
 /// A table of passes made ready to paint many texts, however short. Outlived by the table.
 class Painter
 {
@@ -93,7 +89,6 @@ private:
 };
 
 /// Paints one text.
->>>>>>> r3b
 std::vector<ColourRun> paint(QStringView text, std::span<const PaintPass> passes,
                              const ColourScheme &scheme,
                              const std::function<void(const PaintPass &)> &begins = {});
