@@ -84,6 +84,14 @@ function(zeph_pch name gui)
     endif()
 endfunction()
 
+# zeph_test_pch(OWNER headers...): the precompiled header that a kind of test program shares.
+function(zeph_test_pch owner)
+    if(NOT CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
+        target_precompile_headers(${owner} PRIVATE
+            <QtCore> ${ARGN} <gmock/gmock.h> <functional> <memory> <optional> <vector>)
+    endif()
+endfunction()
+
 # zeph_test(NAME [GUI] FOLDER folder LINK libs... [PROPERTIES properties of each test])
 # One test program a room: every .cpp of the folder, each TEST a test of ctest.
 function(zeph_test name)
@@ -98,8 +106,10 @@ function(zeph_test name)
     target_compile_definitions(${name} PRIVATE ZEPH_SOURCE_DIR="${CMAKE_SOURCE_DIR}")
     if(ARG_GUI)
         target_link_libraries(${name} PRIVATE zeph_test_gui ${ARG_LINK})
+        target_precompile_headers(${name} REUSE_FROM zeph_test_gui)
     else()
         target_link_libraries(${name} PRIVATE zeph_test_core ${ARG_LINK})
+        target_precompile_headers(${name} REUSE_FROM zeph_test_core)
     endif()
     gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST TEST_PREFIX "${name}/"
         DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 120 ${ARG_PROPERTIES})
