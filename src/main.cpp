@@ -7,6 +7,7 @@
 #include "platform/qt_dialogs.h"
 #include "platform/screen.h"
 #include "platform/system_info.h"
+#include "platform/system_joystick.h"
 #include "platform/system_keyboard.h"
 #include "shell/application.h"
 #include "shell/tour.h"
@@ -28,6 +29,7 @@ int main(int argc, char **argv)
     Clock clock;
     HttpDownloader downloader;
     SystemKeyboard keyboard;
+    SystemJoystick joystick;
     const PrimaryScreen screen;
     const SystemInfo system;
     std::unique_ptr<Tour> tour;
@@ -44,6 +46,7 @@ int main(int argc, char **argv)
         .clock = clock,
         .downloader = downloader,
         .keyboard = keyboard,
+        .joystick = joystick,
         .screen = screen,
         .system = system,
     });

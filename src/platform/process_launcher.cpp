@@ -6,6 +6,7 @@
 #include "platform/core/paths.h"
 
 #include <QDesktopServices>
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QProcess>
@@ -90,7 +91,45 @@ Expected<void, QString> setUpWine(QProcess &process, const QString &program, QSt
 
 #endif
 
+/// The file that a name in a command means, as the launcher takes it; empty when there is none.
+QString commandFile(const QString &name, const QString &folder)
+{
+    const bool relative = QDir::isRelativePath(nativeSeparators(name));
+    const QString path = relative && !folder.isEmpty() ? withClosingSeparator(folder) + name : name;
+    const bool bare = !nameOf(name).contains(u'.');
+    for (const QString &candidate : { path, path + u".exe"_s }) {
+        if ((candidate == path || bare) && fileExists(candidate)) {
+            return candidate;
+        }
+    }
+    return {};
+}
+
 } // namespace
+
+Launch launchFromCommand(const QString &command, const QString &folder, WindowStyle style)
+{
+    const QString line = command.trimmed();
+    if (line.startsWith(u'"')) {
+        const qsizetype close = line.indexOf(u'"', 1);
+        const QString name = line.sliced(1, (close < 0 ? line.size() : close) - 1);
+        const QString file = commandFile(name, folder);
+        return { file.isEmpty() ? name : file,
+                 close < 0 ? QString() : line.sliced(close + 1).trimmed(), folder, style };
+    }
+    for (qsizetype end = 0; end < line.size();) {
+        const qsizetype blank = line.indexOf(u' ', end);
+        end = blank < 0 ? line.size() : blank;
+        const QString file = commandFile(line.first(end), folder);
+        if (!file.isEmpty()) {
+            return { file, line.sliced(end).trimmed(), folder, style };
+        }
+        ++end;
+    }
+    const qsizetype blank = line.indexOf(u' ');
+    const qsizetype end = blank < 0 ? line.size() : blank;
+    return { line.first(end), line.sliced(end).trimmed(), folder, style };
+}
 
 QStringList splitCommandLine(QStringView arguments)
 {

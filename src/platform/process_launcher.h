@@ -45,6 +45,14 @@ public:
     Expected<void, QString> openWithDesktop(const QString &pathOrUrl) override;
 };
 
+/// A launch from a command that names a program and its arguments in one text, such as
+/// "C:\My Games\fly.exe -window", parted as Windows does it: a quoted first word is the program;
+/// otherwise the shortest beginning that ends at a blank (or at the end) and names a file, if need
+/// be with ".exe" behind a name that has no ending; otherwise the first word. A name without a
+/// folder is looked for in the working folder too.
+Launch launchFromCommand(const QString &command, const QString &folder,
+                         WindowStyle style = WindowStyle::NormalFocus);
+
 /// The words of a Windows command line: blanks part them, double quotes hold blanks together.
 QStringList splitCommandLine(QStringView arguments);
 

@@ -10,7 +10,7 @@
 #include "platform/screen.h"
 #include "platform/system_info.h"
 #include "shell/backup_folder.h"
-#include "shell/compile_menu.h"
+#include "shell/cougar_tools.h"
 #include "shell/first_run.h"
 #include "shell/foreign_keyboard.h"
 #include "shell/help_menu.h"
@@ -163,7 +163,7 @@ void Application::loadEditor()
     m_editor = new Editor(context(), m_mum.get());
     m_mum->attachEditor(m_editor);
     m_help = new HelpMenu(context(), m_options.downloader, m_mum->toolWindows(), *m_editor);
-    new CompileMenu(context(), *m_mum, *m_editor, *m_help);
+    m_tools = new CougarTools(context(), m_options.joystick, *m_mum, *m_editor, *m_help);
     new ForeignKeyBSupport(m_options.keyboard, m_settings, m_editor);
     QObject::connect(&m_mum->toolWindows(), &ToolWindows::loaded, m_mum.get(),
                      [this](QWidget *window) {

@@ -17,9 +17,11 @@ class QApplication;
 
 namespace zeph {
 
+class CougarTools;
 class Downloader;
 class Editor;
 class HelpMenu;
+class Joystick;
 class Mum;
 class Screen;
 class SystemInfo;
@@ -35,6 +37,7 @@ struct ApplicationOptions {
     Clock &clock;
     Downloader &downloader;
     Keyboard &keyboard;
+    Joystick &joystick;
     const Screen &screen;
     const SystemInfo &system;
     /// Milliseconds between two dots of the first run's script.
@@ -58,6 +61,7 @@ public:
     Mum &mum() { return *m_mum; }
     Editor &editor() { return *m_editor; }
     HelpMenu &help() { return *m_help; }
+    CougarTools &tools() { return *m_tools; }
     Context context();
     const Paths &paths() const { return m_paths; }
     GlobalSettings &settings() { return m_settings; }
@@ -91,6 +95,7 @@ private:
     std::unique_ptr<Mum> m_mum;
     Editor *m_editor = nullptr;
     HelpMenu *m_help = nullptr;
+    CougarTools *m_tools = nullptr;
 };
 
 } // namespace zeph

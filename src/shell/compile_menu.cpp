@@ -24,9 +24,10 @@ constexpr int errorsTopic = 410;
 
 } // namespace
 
-CompileMenu::CompileMenu(const Context &context, Mum &mum, Editor &editor, HelpMenu &help)
+CompileMenu::CompileMenu(const Context &context, ToolchainHandshake &handshake, Mum &mum,
+                         Editor &editor, HelpMenu &help)
     : QObject(&editor), m_context(context), m_mum(mum), m_editor(editor), m_help(help),
-      m_handshake(context, &mum), m_compile(context, m_handshake, host())
+      m_compile(context, handshake, host())
 {
     editor.actions().connectTo(u"mnuAppsCompile", [this] { m_compile.mnuAppsCompile_Click(); });
     connect(&mum, &Mum::compileWanted, this,

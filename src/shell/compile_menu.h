@@ -4,7 +4,6 @@
 #pragma once
 
 #include "toolchain/compile.h"
-#include "toolchain/handshake.h"
 
 #include <QObject>
 
@@ -13,6 +12,7 @@ namespace zeph {
 class Editor;
 class HelpMenu;
 class Mum;
+class ToolchainHandshake;
 
 /// Ties the compile to the main window: the Editor's documents, the tool windows and the window
 /// that explains errors.
@@ -20,17 +20,19 @@ class CompileMenu : public QObject
 {
     Q_OBJECT
 public:
-    CompileMenu(const Context &context, Mum &mum, Editor &editor, HelpMenu &help);
+    CompileMenu(const Context &context, ToolchainHandshake &handshake, Mum &mum, Editor &editor,
+                HelpMenu &help);
+
+    /// Shows the window that explains an error, without blocking.
+    void showCompilerHelp(const CompilerVerdict &verdict);
 
 private:
     CompileHost host();
-    void showCompilerHelp(const CompilerVerdict &verdict);
 
     Context m_context;
     Mum &m_mum;
     Editor &m_editor;
     HelpMenu &m_help;
-    ToolchainHandshake m_handshake;
     Compile m_compile;
 };
 

@@ -42,6 +42,71 @@ TEST(SplitCommandLine, AnOpenQuoteGoesToTheEnd)
     EXPECT_EQ(splitCommandLine(u"a \"b c"), (QStringList{ u"a"_s, u"b c"_s }));
 }
 
+namespace {
+
+/// Program and arguments of a command, one text.
+QString parted(const QString &command, const QString &folder = {})
+{
+    const Launch launch = launchFromCommand(command, folder, WindowStyle::MaximisedFocus);
+    EXPECT_EQ(launch.folder, folder);
+    EXPECT_EQ(launch.style, WindowStyle::MaximisedFocus);
+    return launch.program + u'|' + launch.arguments;
+}
+
+} // namespace
+
+TEST(LaunchFromCommand, AQuotedFirstWordIsTheProgram)
+{
+    EXPECT_EQ(parted(u"\"C:\\My Games\\fly.exe\" -w \"a b\""_s),
+              u"C:\\My Games\\fly.exe|-w \"a b\""_s);
+    EXPECT_EQ(parted(u"\"C:\\fly.exe\""_s), u"C:\\fly.exe|"_s);
+    EXPECT_EQ(parted(u"\"C:\\My Games\\fly.exe"_s), u"C:\\My Games\\fly.exe|"_s);
+    EXPECT_EQ(parted(u"\""_s), u"|"_s);
+}
+
+TEST(LaunchFromCommand, WithoutQuotesTheShortestBeginningThatIsAFileIsTheProgram)
+{
+    const TempFolder folder;
+    const QString program = folder.write(u"My Games/fly high.exe"_s, "x");
+    EXPECT_EQ(parted(program + u"  -w a.cfg "_s), program + u"|-w a.cfg"_s);
+    EXPECT_EQ(parted(program), program + u'|');
+    const QString shorter = folder.write(u"My Games/fly"_s, "x");
+    EXPECT_EQ(parted(program + u" -w"_s), shorter + u"|high.exe -w"_s);
+}
+
+TEST(LaunchFromCommand, AFolderIsNoProgram)
+{
+    const TempFolder folder;
+    folder.write(u"My/inner.txt"_s, "x");
+    const QString program = folder.write(u"My Games/fly.exe"_s, "x");
+    EXPECT_EQ(parted(program + u" -w"_s), program + u"|-w"_s);
+}
+
+TEST(LaunchFromCommand, AProgramMayLackItsEnding)
+{
+    const TempFolder folder;
+    const QString program = folder.write(u"My Games/fly.exe"_s, "x");
+    const QString bare = program.chopped(4);
+    EXPECT_EQ(parted(bare + u" -w"_s), program + u"|-w"_s);
+    EXPECT_EQ(parted(u'"' + bare + u"\" -w"_s), program + u"|-w"_s);
+}
+
+TEST(LaunchFromCommand, ANameAloneIsLookedForInTheWorkingFolder)
+{
+    const TempFolder folder;
+    const QString program = folder.write(u"fly high.exe"_s, "x");
+    EXPECT_EQ(parted(u"fly high.exe -w"_s, folder.path()), program + u"|-w"_s);
+    EXPECT_EQ(parted(u"no such.exe -w"_s, folder.path()), u"no|such.exe -w"_s);
+}
+
+TEST(LaunchFromCommand, WithNoSuchFileTheFirstWordIsTheProgram)
+{
+    EXPECT_EQ(parted(u"rundll32.exe shell32.dll,Control_RunDLL joy.cpl,,0"_s),
+              u"rundll32.exe|shell32.dll,Control_RunDLL joy.cpl,,0"_s);
+    EXPECT_EQ(parted(u"  lonely  "_s), u"lonely|"_s);
+    EXPECT_EQ(parted(u""_s), u"|"_s);
+}
+
 TEST(SystemLauncher, AMissingProgramIsToldWithPathAndReason)
 {
     const TempFolder folder;

@@ -6,6 +6,7 @@
 #include "platform/clock.h"
 #include "platform/core/paths.h"
 #include "platform/downloader.h"
+#include "platform/fakes/fake_joystick.h"
 #include "platform/fakes/fake_keyboard.h"
 #include "platform/fakes/fake_launcher.h"
 #include "platform/fakes/fake_screen.h"
@@ -54,6 +55,7 @@ public:
     Clock clock;
     FakeDownloader downloader;
     FakeKeyboard keyboard;
+    FakeJoystick joystick;
     FakeScreen screen;
     FakeSystem system;
     QStringList arguments;
@@ -96,6 +98,7 @@ public:
             .clock = clock,
             .downloader = downloader,
             .keyboard = keyboard,
+            .joystick = joystick,
             .screen = screen,
             .system = system,
             .welcomeIntervalMs = welcomeIntervalMs,

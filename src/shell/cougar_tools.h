@@ -1,0 +1,43 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "toolchain/after_download.h"
+#include "toolchain/cougar_modes.h"
+#include "toolchain/handshake.h"
+#include "toolchain/profiles.h"
+
+#include <QObject>
+
+namespace zeph {
+
+class CompileMenu;
+class Editor;
+class HelpMenu;
+class Joystick;
+class Mum;
+struct CompilerVerdict;
+
+/// Everything that reaches the Cougar, tied to the main window and the Editor's menus. Owns the one
+/// handshake that all exchanges with the tools share.
+class CougarTools : public QObject
+{
+    Q_OBJECT
+public:
+    CougarTools(const Context &context, Joystick &joystick, Mum &mum, Editor &editor,
+                HelpMenu &help);
+
+    ToolchainHandshake &handshake() { return m_handshake; }
+    CougarModes &modes() { return m_modes; }
+    Profiles &profiles() { return m_profiles; }
+    AfterDownload &afterDownload() { return m_afterDownload; }
+
+private:
+    ToolchainHandshake m_handshake;
+    CougarModes m_modes;
+    Profiles m_profiles;
+    AfterDownload m_afterDownload;
+};
+
+} // namespace zeph
