@@ -58,7 +58,8 @@ private:
 
     void addStops(Application &application);
     void walk();
-    void renameMacro();
+    /// Opens a modal window by its menu entry, grabs it and closes it.
+    void lookAtModal(const QString &entry, const QString &name);
     void compileSlowly();
     void answerWelcome();
     void grab(QWidget &window, const QString &name) const;
