@@ -6,6 +6,9 @@
 #include "platform/core/paths.h"
 #include "platform/core/profile_file.h"
 
+#include <algorithm>
+#include <iterator>
+
 namespace zeph::standin {
 
 namespace {
@@ -41,6 +44,17 @@ const Switch *switchOf(const QString &argument)
     }
     return nullptr;
 }
+
+/// A window of the real tool, and the word that opens it.
+struct PageSwitch {
+    QStringView word;
+    QStringView window;
+};
+
+constexpr PageSwitch pages[] = {
+    { u"/CALIBRATE", u"calibration" },
+    { u"/CURVES", u"response curves, trim and deadzones" },
+};
 
 struct Request {
     QList<const Switch *> changes;
@@ -96,6 +110,27 @@ Outcome applyProfile(const Request &request, const QString &hotasFolder, const P
                                 { section, u"Calibration"_s, calibration } }));
 }
 
+/// Without a mode request the real tool opens its window, or one page of it.
+Outcome panelWindow(const QStringList &arguments, Outcome outcome)
+{
+    QString window = u"main"_s;
+    for (const QString &argument : arguments) {
+        const auto *page =
+            std::find_if(std::begin(pages), std::end(pages), [&argument](const PageSwitch &row) {
+                return row.word.compare(argument, Qt::CaseInsensitive) == 0;
+            });
+        if (page == std::end(pages)) {
+            outcome.lines.append(u"The request was not understood."_s);
+            return outcome;
+        }
+        window = page->window.toString();
+    }
+    outcome.lines.append(
+        u"The Control Panel's windows belong to the real tool. Asked for: %1."_s.arg(window));
+    outcome.exitCode = 0;
+    return outcome;
+}
+
 Outcome changeModes(const Request &request, const ProfileFile &ini, const Options &options,
                     Outcome outcome)
 {
@@ -123,9 +158,7 @@ Outcome runConfig(const QStringList &arguments, const QString &hotasFolder, cons
     Outcome outcome{ 1, { introduction(u"HOTASConfig") } };
     const Request request = requestFrom(arguments);
     if (!request.isMode) {
-        outcome.lines.append(u"The Control Panel's windows belong to the real tool."_s);
-        outcome.exitCode = 0;
-        return outcome;
+        return panelWindow(arguments, outcome);
     }
     if (!request.isProfile && request.changes.isEmpty()) {
         outcome.lines.append(u"The request was not understood."_s);

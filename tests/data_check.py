@@ -253,6 +253,8 @@ def main():
     check_index(help_folder, trees)
     check_text(data / "Tips.txt", 250)
     check_text(data / "ReadMe.txt")
+    for path in sorted((data / "Files").iterdir()):
+        check_text(path)
     for path in sorted((data / "Info").glob("*.rtf")):
         check_rtf(path)
     check_information(data)

@@ -73,7 +73,26 @@ QString wineWord(const QString &word)
     return isPath ? u"Z:"_s + QString(word).replace(u'/', u'\\') : word;
 }
 
-Expected<void, QString> setUpWine(QProcess &process, const QString &program, QStringList arguments)
+/// The words with which wine starts a program in a style that it knows; none for the others, and
+/// for the ordinary one, which needs no help.
+QStringList wineStyle(WindowStyle style)
+{
+    switch (style) {
+    case WindowStyle::MinimisedFocus:
+    case WindowStyle::MinimisedNoFocus:
+        return { u"start"_s, u"/min"_s, u"/unix"_s };
+    case WindowStyle::MaximisedFocus:
+        return { u"start"_s, u"/max"_s, u"/unix"_s };
+    case WindowStyle::Hidden:
+    case WindowStyle::NormalFocus:
+    case WindowStyle::NormalNoFocus:
+        break;
+    }
+    return {};
+}
+
+Expected<void, QString> setUpWine(QProcess &process, const QString &program, WindowStyle style,
+                                  QStringList arguments)
 {
     const QString wine = QStandardPaths::findExecutable(u"wine"_s);
     if (wine.isEmpty()) {
@@ -85,7 +104,7 @@ Expected<void, QString> setUpWine(QProcess &process, const QString &program, QSt
         word = wineWord(word);
     }
     process.setProgram(wine);
-    process.setArguments(QStringList{ program } + arguments);
+    process.setArguments(wineStyle(style) + QStringList{ program } + arguments);
     return {};
 }
 
@@ -179,7 +198,7 @@ Expected<void, QString> SystemLauncher::start(const Launch &launch)
     const QStringList arguments = splitCommandLine(launch.arguments);
     process.setArguments(arguments);
     if (isWindowsProgram(program)) {
-        if (auto ready = setUpWine(process, program, arguments); !ready) {
+        if (auto ready = setUpWine(process, program, launch.style, arguments); !ready) {
             return ready;
         }
     } else if (!QFileInfo(program).isExecutable() || QFileInfo(program).isDir()) {

@@ -21,6 +21,7 @@
 #include "shell/start_checks.h"
 #include "shell/start_files.h"
 #include "shell/tool_windows.h"
+#include "shell/tools_menu.h"
 
 #include <QAction>
 #include <QApplication>
@@ -182,7 +183,7 @@ void Application::loadEditor()
     m_editor->view().UpdateSavedIcon();
     greet();
     if (m_settings.FirstTimeUsed == 1) {
-        runFirstRun(context(), *m_help, m_options.welcomeIntervalMs, m_mum.get());
+        runFirstRun(context(), *m_help, *m_tools, m_options.welcomeIntervalMs, m_mum.get());
         m_editor->applySettings();
     } else if (m_settings.ShowTips == 1) {
         m_help->showTip();
@@ -191,11 +192,13 @@ void Application::loadEditor()
 
 void Application::readEditorOptions()
 {
+    tellOnce(GetResetAxes(m_settings, files()));
     tellOnce(::zeph::readSettings(m_settings, files(),
                                   { &GlobalSettings::RegainControlAfter,
                                     &GlobalSettings::CheckForCompletionTime,
                                     &GlobalSettings::OpenSingleFileOnly }));
     m_editor->applySettings();
+    m_tools->toolsMenu().UpdateResetAxes();
 }
 
 void Application::tellOnce(const SettingProblems &problems)

@@ -6,6 +6,7 @@
 #include "editor/editor.h"
 #include "shell/compile_menu.h"
 #include "shell/mum.h"
+#include "shell/tools_menu.h"
 
 namespace zeph {
 
@@ -15,6 +16,7 @@ CougarTools::CougarTools(const Context &context, Joystick &joystick, Mum &mum, E
       m_profiles(context, m_handshake), m_afterDownload(context)
 {
     new CompileMenu(context, m_handshake, mum, editor, help);
+    m_toolsMenu = new ToolsMenu(context, m_modes, m_profiles, mum, editor);
 }
 
 } // namespace zeph

@@ -17,6 +17,7 @@ class Editor;
 class HelpMenu;
 class Joystick;
 class Mum;
+class ToolsMenu;
 struct CompilerVerdict;
 
 /// Everything that reaches the Cougar, tied to the main window and the Editor's menus. Owns the one
@@ -32,12 +33,14 @@ public:
     CougarModes &modes() { return m_modes; }
     Profiles &profiles() { return m_profiles; }
     AfterDownload &afterDownload() { return m_afterDownload; }
+    ToolsMenu &toolsMenu() { return *m_toolsMenu; }
 
 private:
     ToolchainHandshake m_handshake;
     CougarModes m_modes;
     Profiles m_profiles;
     AfterDownload m_afterDownload;
+    ToolsMenu *m_toolsMenu;
 };
 
 } // namespace zeph

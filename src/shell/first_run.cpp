@@ -4,6 +4,7 @@
 #include "shell/first_run.h"
 
 #include "platform/dialogs.h"
+#include "shell/cougar_tools.h"
 #include "shell/foreign_keyboard.h"
 #include "shell/help_menu.h"
 #include "shell/settings/settings_files.h"
@@ -56,13 +57,15 @@ void takeWelcomeAnswers(const WelcomeAnswers &answers, GlobalSettings &settings,
     paths.hotasFolder = answers.hotasFolder;
 }
 
-void runFirstRun(const Context &context, HelpMenu &help, int welcomeIntervalMs, QWidget *parent)
+void runFirstRun(const Context &context, HelpMenu &help, CougarTools &tools, int welcomeIntervalMs,
+                 QWidget *parent)
 {
     Welcome welcome(context.paths, context.dialogs, welcomeIntervalMs, parent);
     new ForeignKeyBSupport(context.keyboard, context.settings, &welcome);
     welcome.exec();
     takeWelcomeAnswers(welcome.answers(), context.settings, context.paths);
     writeStore(context);
+    tools.profiles().CopyTMCfiles();
     showByExperience(context.settings.FirstTimeUsed, help);
 }
 

@@ -156,7 +156,7 @@ void Tour::addStops(Application &application)
           } },
         { u"macro-rename-done"_s,
           [this] {
-              renameMacro();
+              lookAtModal(u"mnuRenameMacro"_s, u"macro-rename"_s);
           } },
         { u"right-menu-closed"_s,
           [this] {
@@ -182,6 +182,14 @@ void Tour::addStops(Application &application)
               compileMistake(application);
           } },
         { u"style-editor"_s, press(u"mnuFormatStyleEditor"_s) },
+        { u"reset-options-done"_s,
+          [this] {
+              lookAtModal(u"mnuResetOptions"_s, u"reset-options"_s);
+          } },
+        { u"select-profile-done"_s,
+          [this] {
+              lookAtModal(u"mnuDownloadProfile"_s, u"select-profile"_s);
+          } },
         { u"tip"_s,
           [&application] {
               if (auto *styles = application.mum().findChild<StyleEditor *>()) {
@@ -215,16 +223,16 @@ void Tour::walk()
     m_timer.start();
 }
 
-void Tour::renameMacro()
+void Tour::lookAtModal(const QString &entry, const QString &name)
 {
-    // The window is modal: it is looked at and left from within.
-    QTimer::singleShot(pauseMs, this, [this] {
+    // The window is looked at and left from within.
+    QTimer::singleShot(pauseMs, this, [this, name] {
         if (QWidget *window = QApplication::activeModalWidget()) {
-            grabAll(u"macro-rename"_s);
+            grabAll(name);
             window->close();
         }
     });
-    m_application->editor().actions().trigger(u"mnuRenameMacro");
+    m_application->editor().actions().trigger(entry);
 }
 
 void Tour::popUpRightMenu()

@@ -60,6 +60,8 @@ private:
     void walk();
     void renameMacro();
     void popUpRightMenu();
+    /// Opens a modal window by its menu entry, grabs it and closes it.
+    void lookAtModal(const QString &entry, const QString &name);
     void compileSlowly();
     void answerWelcome();
     void grab(QWidget &window, const QString &name) const;

@@ -63,6 +63,12 @@ ExchangeEnd ToolchainHandshake::runModeRequest(const Launch &launch)
         m_mode, [this] { return inWords(hotasIni().clearModeStatus()); }, launch);
 }
 
+ExchangeEnd ToolchainHandshake::runUnreportedRequest(const Launch &launch)
+{
+    return run(
+        m_mode, [this] { return inWords(hotasIni().markModeStatus()); }, launch);
+}
+
 ExchangeEnd ToolchainHandshake::run(Channel &channel, const Clear &clear, const Launch &launch)
 {
     // With an old status left in place the first poll would take it for the new verdict.

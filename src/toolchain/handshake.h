@@ -46,6 +46,10 @@ public:
     /// Empties the mode status, starts the tool and waits for it.
     ExchangeEnd runModeRequest(const Launch &launch);
 
+    /// As runModeRequest() for a request that the tool does not report: the status is marked as
+    /// finished beforehand, and the wait ends at its first poll.
+    ExchangeEnd runUnreportedRequest(const Launch &launch);
+
     qint16 CompilerFinished() const { return m_compiler.state.finished; }
     qint32 CompilerElapsed() const { return m_compiler.state.elapsed; }
     qint16 ModeFinished() const { return m_mode.state.finished; }

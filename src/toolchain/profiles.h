@@ -12,6 +12,11 @@ class ToolchainHandshake;
 /// Which calibration goes with a profile; the numbers are those of the request.
 enum class CalibrationRequest { Stored = 0, Auto = 1, Manual = 2 };
 
+/// Where the tools keep the profiles, with a closing separator.
+QString profilesFolder(const Paths &paths);
+/// The profiles (*.tmc) of a folder by name, without the ending, in the order of the alphabet.
+QStringList profileNames(const QString &folder);
+
 /// Sends saved axis profiles (*.tmc) to the Cougar.
 class Profiles
 {
@@ -24,10 +29,13 @@ public:
     bool ApplyDefaultProfile(const QString &name = {},
                              CalibrationRequest calibration = CalibrationRequest::Stored);
     /// The first run's step: profiles that came with Zeph go where the tools look, none is
-    /// overwritten.
+    /// overwritten. Without the compiler nothing happens.
     void CopyTMCfiles();
 
 private:
+    bool isThere(const QString &name);
+    void copyProfile(const QString &from, const QString &to);
+
     Context m_context;
     ToolchainHandshake &m_handshake;
 };

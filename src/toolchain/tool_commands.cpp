@@ -34,4 +34,17 @@ Launch configLaunch(const Paths &paths, ConfigCommand command)
              WindowStyle::NormalFocus };
 }
 
+Launch profileLaunch(const Paths &paths, const QString &profile, bool manualCalibration)
+{
+    const QString arguments =
+        u"/MODE /ZEPH /P\""_s + profile + u".tmc\" "_s + (manualCalibration ? u"/DM"_s : u"/DA"_s);
+    return { paths.config(), arguments, paths.hotasFolder, WindowStyle::NormalFocus };
+}
+
+Launch toolLaunch(const Paths &paths, QStringView program, QStringView arguments)
+{
+    return { paths.hotasFolder + program.toString(), arguments.toString(), paths.hotasFolder,
+             WindowStyle::NormalFocus };
+}
+
 } // namespace zeph

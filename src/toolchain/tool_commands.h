@@ -32,4 +32,10 @@ Launch compilerLaunch(const Paths &paths, CompilerCommand command, const QString
 /// The configuration tool with the switches of a request, in the tools' folder, in front.
 Launch configLaunch(const Paths &paths, ConfigCommand command);
 
+/// The configuration tool told to send a profile, a name without ".tmc", to the Cougar.
+Launch profileLaunch(const Paths &paths, const QString &profile, bool manualCalibration);
+
+/// Any program of the tools' folder, in front.
+Launch toolLaunch(const Paths &paths, QStringView program, QStringView arguments = {});
+
 } // namespace zeph

@@ -288,6 +288,30 @@ TEST(SystemLauncher, AWindowsProgramGoesThroughWineWithPathsAsItUnderstandsThem)
                             u"Z:"_s + QString(file).replace(u'/', u'\\') }));
 }
 
+TEST(SystemLauncher, WineIsAskedForTheWindowStylesThatItKnows)
+{
+    struct Row {
+        WindowStyle style;
+        QStringList words;
+    };
+    const Row rows[] = {
+        { WindowStyle::NormalFocus, {} },
+        { WindowStyle::MinimisedFocus, { u"start"_s, u"/min"_s, u"/unix"_s } },
+        { WindowStyle::MaximisedFocus, { u"start"_s, u"/max"_s, u"/unix"_s } },
+        { WindowStyle::MinimisedNoFocus, { u"start"_s, u"/min"_s, u"/unix"_s } },
+    };
+    for (const Row &row : rows) {
+        const Script wine(u"wine"_s);
+        const QString program = wine.folder().write(u"fly.exe"_s, "MZ...");
+        const SearchPath path(QFile::encodeName(wine.folder().path()) + ":/usr/bin:/bin");
+        const auto started = SystemLauncher().start(
+            { .program = program, .arguments = u"-w"_s, .style = row.style });
+        ASSERT_TRUE(started) << started.error().toStdString();
+        EXPECT_EQ(wine.told().mid(1), row.words + QStringList({ program, u"-w"_s }))
+            << int(row.style);
+    }
+}
+
 TEST(SystemLauncher, AWindowsProgramWithoutWineIsToldInClearWords)
 {
     const TempFolder empty;

@@ -12,6 +12,8 @@
 #include "shell/mum.h"
 #include "shell/welcome.h"
 #include "tests/shell/shell_world.h"
+#include "toolchain/formresetoptions.h"
+#include "toolchain/selectprofileform.h"
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
@@ -126,6 +128,14 @@ const LintCase cases[] = {
           return std::make_unique<StyleEditor>(defaultTextStyles(), 0xFFFFFF, w.dialogs);
       } },
     { "FindAndReplace", makeFindAndReplace },
+    { "FormResetOptions",
+      [](auto &w) {
+          return std::make_unique<FormResetOptions>(w.context());
+      } },
+    { "SelectProfileForm",
+      [](auto &w) {
+          return std::make_unique<SelectProfileForm>(w.context());
+      } },
     { "Mum", makeMum },
 };
 

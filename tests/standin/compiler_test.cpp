@@ -213,6 +213,14 @@ TEST_F(Compiler, AcceptsTheSamplePair)
     EXPECT_EQ(value(u"Status"_s), u"OK") << value(u"ErrorCode"_s).toStdString();
 }
 
+// It comes without a macro file.
+TEST_F(Compiler, AcceptsTheFileForGames)
+{
+    const QString games = QStringLiteral(ZEPH_SOURCE_DIR "/data/Files/TM Default for games.tmj");
+    run(u"/CE"_s, games);
+    EXPECT_EQ(value(u"Status"_s), u"OK") << value(u"ErrorCode"_s).toStdString();
+}
+
 TEST(MacroExtension, FollowsTheJoystickFiles)
 {
     EXPECT_EQ(macroExtension(u"a.tmj"_s), u"tmm");

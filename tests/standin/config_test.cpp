@@ -98,6 +98,21 @@ TEST_F(Config, AnswersTheOrderedModes)
     EXPECT_EQ(value(u"Status"_s), u"OKAY");
 }
 
+TEST_F(Config, AnErrorMayBeOrderedForAxesOrButtonsAlone)
+{
+    run({ u"/AU"_s, u"/BU"_s });
+    Options options;
+    options.axes = -1;
+    run({ u"/AW"_s, u"/BW"_s }, options);
+    EXPECT_EQ(value(u"Axes"_s), u"-1");
+    EXPECT_EQ(value(u"Buttons"_s), u"0");
+    options.axes.reset();
+    options.buttons = -1;
+    run({ u"/AW"_s, u"/BW"_s }, options);
+    EXPECT_EQ(value(u"Axes"_s), u"0");
+    EXPECT_EQ(value(u"Buttons"_s), u"-1");
+}
+
 TEST_F(Config, IsSilentWhenOrdered)
 {
     Options options;
@@ -114,10 +129,19 @@ TEST_F(Config, RefusesWhatItDoesNotKnow)
 
 TEST_F(Config, TheWindowsOfTheRealToolDoNotOpenHere)
 {
-    const Outcome outcome = runConfig({ u"/CALIBRATE"_s }, hotas(), {});
-    EXPECT_EQ(outcome.exitCode, 0);
-    EXPECT_EQ(outcome.lines.size(), 2);
-    EXPECT_FALSE(folder.exists(u"HOTAS.ini"_s));
+    struct Row {
+        QStringList arguments;
+        QString window;
+    };
+    for (const Row &row : { Row{ {}, u"main"_s }, Row{ { u"/CALIBRATE"_s }, u"calibration"_s },
+                            Row{ { u"/curves"_s }, u"curves"_s } }) {
+        const Outcome outcome = runConfig(row.arguments, hotas(), {});
+        EXPECT_EQ(outcome.exitCode, 0);
+        ASSERT_EQ(outcome.lines.size(), 2);
+        EXPECT_TRUE(outcome.lines[1].contains(row.window)) << outcome.lines[1].toStdString();
+        EXPECT_FALSE(folder.exists(u"HOTAS.ini"_s));
+    }
+    EXPECT_EQ(runConfig({ u"/OTHER"_s }, hotas(), {}).exitCode, 1);
 }
 
 TEST(Options, ComeFromTheEnvironment)

@@ -64,3 +64,13 @@ TEST(ConfigLaunch, HasTheSwitchesOfEachRequest)
         EXPECT_EQ(launch.style, WindowStyle::NormalFocus);
     }
 }
+
+TEST(ProfileLaunch, QuotesTheProfilesFileBehindItsSwitch)
+{
+    const Paths paths = toolsIn(u"/t/"_s);
+    const Launch launch = profileLaunch(paths, u"My stick"_s, false);
+    EXPECT_EQ(launch.program, u"/t/HOTASConfig.exe");
+    EXPECT_EQ(launch.arguments, u"/MODE /ZEPH /P\"My stick.tmc\" /DA");
+    EXPECT_EQ(launch.folder, u"/t/");
+    EXPECT_EQ(profileLaunch(paths, u"a"_s, true).arguments, u"/MODE /ZEPH /P\"a.tmc\" /DM");
+}

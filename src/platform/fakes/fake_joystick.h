@@ -5,6 +5,8 @@
 
 #include "platform/joystick.h"
 
+#include <QList>
+
 namespace zeph {
 
 /// A joystick that gives the prepared reading and keeps the numbers that were asked for.

@@ -75,6 +75,9 @@ struct GlobalSettings {
     // Apps
     QString ImageFilePath;
     QString TextFilePath;
+    QString ResetProfile;
+    qint16 ResetCalibrate;
+    qint16 UseResetProfile;
     // Joystick Analyser
     qint16 JoyIDnumber;
     // Composer

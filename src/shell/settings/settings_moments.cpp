@@ -102,6 +102,19 @@ Expected<void, FileError> SaveIndentStuff(const GlobalSettings &settings,
                           &G::MacroWithMouse, &G::MacroHighlightedInMacroFile });
 }
 
+SettingProblems GetResetAxes(GlobalSettings &settings, const SettingsFiles &files)
+{
+    return readSettings(settings, files,
+                        { &G::ResetProfile, &G::ResetCalibrate, &G::UseResetProfile });
+}
+
+Expected<void, FileError> SaveResetProfiles(const GlobalSettings &settings,
+                                            const SettingsFiles &files)
+{
+    return saveSettings(settings, files,
+                        { &G::ResetProfile, &G::ResetCalibrate, &G::UseResetProfile });
+}
+
 Expected<void, FileError> SaveForRestore(GlobalSettings &settings, const SettingsFiles &files)
 {
     for (QString G::*path : { &G::RestoreJoyFile, &G::RestoreMacroFile }) {

@@ -53,6 +53,11 @@ Expected<void, FileError> saveTesterOptions(const GlobalSettings &settings,
                                             const SettingsFiles &files);
 Expected<void, FileError> SaveIndentStuff(const GlobalSettings &settings,
                                           const SettingsFiles &files);
+/// The profile that resets the axes, its calibration and whether each download applies it: read
+/// and written by themselves, the global save leaves them alone.
+[[nodiscard]] SettingProblems GetResetAxes(GlobalSettings &settings, const SettingsFiles &files);
+Expected<void, FileError> SaveResetProfiles(const GlobalSettings &settings,
+                                            const SettingsFiles &files);
 /// Writes the files to open again at the next start. A file that does not exist, or whose name the
 /// store cannot hold, is emptied first, in the settings too.
 Expected<void, FileError> SaveForRestore(GlobalSettings &settings, const SettingsFiles &files);

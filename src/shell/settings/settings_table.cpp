@@ -125,6 +125,10 @@ constexpr std::array table = {
     text(u"Apps", u"ImageFilePath", &G::ImageFilePath, u"", saved),
     text(u"Apps", u"TextFilePath", &G::TextFilePath, u"", saved),
 
+    text(u"Apps", u"ResetProfile", &G::ResetProfile, u"Default", notSaved),
+    integer(u"Apps", u"ResetCalibrate", &G::ResetCalibrate, u"0", notSaved),
+    integer(u"Apps", u"UseResetProfile", &G::UseResetProfile, u"0", notSaved),
+
     integer(u"Joystick Analyser", u"JoyIDnumber", &G::JoyIDnumber, u"0", saved),
     integer(u"Composer", u"DefaultDLYvalue", &G::DefaultDLYvalue, u"60", saved),
 

@@ -229,3 +229,13 @@ TEST(ChooseAppFolder, WhatTheUserDeletedDoesNotComeBackAtTheNextStart)
 }
 
 #endif
+
+TEST(RootOf, IsTheDriveOfAPath)
+{
+    const QString separator = QDir::separator();
+    EXPECT_EQ(rootOf(u"D:\\Games\\fly.exe"_s), u"D:"_s + separator);
+    EXPECT_EQ(rootOf(u"d:fly.exe"_s), u"d:"_s + separator);
+#ifdef Q_OS_UNIX
+    EXPECT_EQ(rootOf(u"/opt/games/fly.exe"_s), u"/"_s);
+#endif
+}

@@ -206,3 +206,25 @@ TEST(SaveFilesFolder, GoesIntoTheSharedFileAndKeepsWhatOthersWrote)
     EXPECT_EQ(store.folder.read(u"HOTAS.ini"_s),
               "[Compiler]\r\nStatus=OKAY\r\n[Files]\r\nFiles=C:\\Zeph\\Files\\\r\n");
 }
+
+TEST(ResetAxes, HaveTheirDefaultsAndComeBackAsTheyWereSaved)
+{
+    const Store store;
+    G settings;
+    EXPECT_TRUE(GetResetAxes(settings, store.files).isEmpty());
+    EXPECT_EQ(settings.ResetProfile, u"Default"_s);
+    EXPECT_EQ(settings.ResetCalibrate, 0);
+    EXPECT_EQ(settings.UseResetProfile, 0);
+    settings.ResetProfile = u"Rudder only"_s;
+    settings.ResetCalibrate = 1;
+    settings.UseResetProfile = 1;
+    ASSERT_TRUE(SaveResetProfiles(settings, store.files));
+    EXPECT_EQ(store.text(u"Apps", u"ResetProfile"), u"Rudder only"_s);
+    EXPECT_EQ(store.text(u"Apps", u"ResetCalibrate"), u"1"_s);
+    EXPECT_EQ(store.text(u"Apps", u"UseResetProfile"), u"1"_s);
+    G again;
+    EXPECT_TRUE(GetResetAxes(again, store.files).isEmpty());
+    EXPECT_EQ(again.ResetProfile, u"Rudder only"_s);
+    EXPECT_EQ(again.ResetCalibrate, 1);
+    EXPECT_EQ(again.UseResetProfile, 1);
+}

@@ -1,0 +1,183 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#include "toolchain/external_tools.h"
+
+#include "platform/dialogs.h"
+#include "platform/status_line.h"
+#include "toolchain/cougar_modes.h"
+#include "toolchain/missing_tools.h"
+#include "toolchain/tool_commands.h"
+
+namespace zeph {
+
+namespace {
+
+constexpr QStringView configProgram = u"HOTASConfig.exe";
+constexpr QStringView cleanseProgram = u"HOTASCleanse.exe";
+constexpr QStringView updateProgram = u"HOTASUpdate.exe";
+constexpr QStringView readyPanel = u" Ready";
+
+struct DiagRow {
+    QStringView program;
+    QStringView arguments;
+    QStringView note; ///< stands behind the program's name when it is missing
+};
+
+/// By the index of MnuDiagArray.
+constexpr DiagRow diagRows[] = {
+    { configProgram, {}, {} },         { configProgram, u"/CALIBRATE", {} },
+    { configProgram, u"/CURVES", {} }, { u"HOTASView.exe", {}, {} },
+    { u"MultiDevices.exe", {}, {} },   { u"CougarBState.exe", {}, u", the Logical Flag viewer" },
+};
+
+/// A request to the Cougar itself, and panel 1 while it is made.
+struct MemoryRow {
+    ConfigCommand command;
+    QStringView panel;
+};
+
+/// By the index of mnuMemoryClear, as far as these are such requests.
+constexpr MemoryRow memoryRows[] = {
+    { ConfigCommand::EmptyBuffers, u" Emptying the buffers .. please wait ..." },
+    { ConfigCommand::ClearMemory, u" Clearing the memory .. please wait ..." },
+    { ConfigCommand::ResetCougar, u" Resetting the Cougar .. please wait ..." },
+};
+constexpr int cleanseIndex = 3;
+constexpr int resynchroniseIndex = 4;
+
+/// By the index of mnuFlashArray.
+constexpr QStringView gamingPages[] = {
+    u"shell32.dll,Control_RunDLL joy.cpl,,0",
+    u"shell32.dll,Control_RunDLL joy.cpl,,1",
+};
+
+constexpr Companion companions[] = {
+    { u"mnuAppsMultiEditor", u"ZephMFE.exe" }, { u"mnuAppsLauncher", u"Launcher.exe" },
+    { u"mnuAppsAnalyser", u"Analyser.exe" },   { u"mnuAppsDX8_0", u"ZephDX8Kb.exe" },
+    { u"mnuAppsDX8_1", u"ZephDX8Joy.exe" },    { u"mnuAppsDX8_2", u"ZephDX8Mouse.exe" },
+};
+
+bool mayReset(Dialogs &dialogs)
+{
+    return dialogs.ask(
+        u"Ok to proceed with RESET?"_s,
+        u"You are about to perform a RESET of the Cougar. This is effectively the same as "
+        "disconnecting your Cougar from your machine, and then plugging it back in.\n\n"
+        "Keep your finger off the trigger until it's over: if you hold the trigger during the "
+        "reset, the firmware is cleared from the Cougar.\n\n"
+        "Windows needs about 15 seconds to find the Cougar again.\n\n"
+        "Would you like me to go ahead and reset the Cougar?"_s,
+        BoxIcon::Question);
+}
+
+} // namespace
+
+std::span<const Companion> companionTable()
+{
+    return companions;
+}
+
+/// Whether it started; a failure is told.
+bool ExternalTools::start(const Launch &launch)
+{
+    const auto started = m_context.launcher.start(launch);
+    if (!started) {
+        m_context.dialogs.tell(u"Unable to start the program"_s, started.error(),
+                               BoxIcon::Exclamation);
+    }
+    return started.has_value();
+}
+
+bool ExternalTools::startTool(QStringView program, QStringView arguments, QStringView note)
+{
+    const Launch launch = toolLaunch(m_context.paths, program, arguments);
+    if (!fileExists(launch.program)) {
+        m_context.dialogs.box(program == configProgram ? noControlPanelBox(m_context.paths)
+                                                       : missingToolBox(program, note));
+        return false;
+    }
+    return start(launch);
+}
+
+void ExternalTools::MnuDiagArray_Click(int index)
+{
+    const DiagRow &row = diagRows[index];
+    startTool(row.program, row.arguments, row.note);
+}
+
+void ExternalTools::mnuMemoryClear_Click(int index)
+{
+    if (!fileExists(m_context.paths.config())) {
+        m_context.dialogs.box(noControlPanelBox(m_context.paths));
+        return;
+    }
+    if (index == cleanseIndex) {
+        startCleanse();
+        return;
+    }
+    if (index == resynchroniseIndex) {
+        m_modes.changeButtonsMode(ButtonsRequest::ReportOnly);
+    } else {
+        const MemoryRow &row = memoryRows[index];
+        if (row.command == ConfigCommand::ResetCougar && !mayReset(m_context.dialogs)) {
+            return;
+        }
+        m_context.status.setText(row.panel.toString());
+        start(configLaunch(m_context.paths, row.command));
+    }
+    m_context.status.setText(readyPanel.toString());
+}
+
+void ExternalTools::startCleanse()
+{
+    if (startTool(cleanseProgram, {}, {})) {
+        m_context.status.setText(u" Hope that worked for you. Did wonders for me."_s);
+    }
+}
+
+void ExternalTools::mnuFlashUpgrade_Click()
+{
+    const Launch launch = toolLaunch(m_context.paths, updateProgram);
+    if (!fileExists(launch.program)) {
+        // The words say the reverse of what happened; they have always been these.
+        m_context.dialogs.tell(u"There's a problem ... "_s,
+                               u"I could locate "_s + launch.program + u'.', BoxIcon::Stop);
+        return;
+    }
+    if (start(launch)) {
+        m_context.status.setText(u" Over to the TM applications for this"_s);
+    }
+}
+
+void ExternalTools::mnuHandleInstall_Click()
+{
+    FileRequest request;
+    request.title = u"Select the joystick handle installer"_s;
+    request.filter = u"Joystick handle installer (*.exe)|*.exe"_s;
+    request.defaultExtension = u"exe"_s;
+    request.folder = m_context.paths.hotasFolder;
+    const auto installer = m_context.dialogs.openFile(request);
+    if (installer && !installer->isEmpty()) {
+        start({ .program = *installer, .folder = rootOf(*installer) });
+    }
+}
+
+void ExternalTools::mnuFlashArray_Click(int index)
+{
+    start({ .program = u"rundll32.exe"_s,
+            .arguments = gamingPages[index].toString(),
+            .folder = m_context.paths.hotasFolder });
+}
+
+void ExternalTools::startCompanion(QStringView program)
+{
+    const QString path = m_context.paths.inApp(program);
+    if (!fileExists(path)) {
+        m_context.dialogs.box(missingCompanionBox(m_context.paths, program));
+        return;
+    }
+    start({ .program = path, .folder = m_context.paths.appFolder });
+}
+
+} // namespace zeph

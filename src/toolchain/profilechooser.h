@@ -1,0 +1,47 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "platform/core/base.h"
+
+#include <QWidget>
+
+#include <memory>
+
+namespace zeph {
+
+class Dialogs;
+
+namespace Ui {
+class ProfileChooser;
+}
+
+/// A list of profiles and the choice of the calibration, for the windows that ask for both.
+class ProfileChooser : public QWidget
+{
+    Q_OBJECT
+public:
+    explicit ProfileChooser(QWidget *parent = nullptr);
+    ~ProfileChooser() override;
+
+    /// Lists the profiles of a folder. False, which is told, when there are none.
+    bool UpdateProfiles(const QString &folder, Dialogs &dialogs);
+    /// Selects a profile, in any case of its letters; none is selected when the list lacks it.
+    void select(const QString &name, bool manualCalibration);
+
+    /// The selected profile; empty when there is none.
+    QString profile() const;
+    bool manualCalibration() const;
+
+Q_SIGNALS:
+    /// Another profile, or none, is selected.
+    void profileChanged(const QString &name);
+    /// A profile was double-clicked.
+    void activated();
+
+private:
+    std::unique_ptr<Ui::ProfileChooser> m_ui;
+};
+
+} // namespace zeph

@@ -1,0 +1,162 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#include "shell/tools_menu.h"
+
+#include "editor/editor.h"
+#include "editor/editor_actions.h"
+#include "platform/core/profile_file.h"
+#include "shell/mum.h"
+#include "tests/shell/shell_world.h"
+#include "toolchain/formresetoptions.h"
+#include "toolchain/selectprofileform.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QListWidget>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTimer>
+
+using namespace zeph;
+
+namespace {
+
+/// The running application with the tools beside it and two profiles.
+class ToolsMenuTest : public test::ShellWorld
+{
+protected:
+    void begin(const QByteArray &store = {})
+    {
+        folder.write(u"HOTASConfig.exe"_s, "tool");
+        folder.write(u"Profiles/Default.tmc"_s, "x");
+        folder.write(u"Profiles/Alpine.tmc"_s, "x");
+        writeStore(store + "[Unsupported]\r\nCheckForCompletionTime=1\r\n");
+        app = application();
+        ASSERT_TRUE(app->start());
+    }
+
+    QAction &action(QStringView name) const { return *app->editor().action(name); }
+    void trigger(QStringView name) const
+    {
+        ASSERT_TRUE(action(name).isEnabled()) << name.toString().toStdString();
+        action(name).trigger();
+    }
+    QString stored(const QString &key) const
+    {
+        return ProfileFile(paths.iniPath).text(u"Apps", key, u"(absent)"_s);
+    }
+    QStringList started() const
+    {
+        QStringList lines;
+        for (const Launch &launch : launcher.launches) {
+            lines.append(nameOf(launch.program) + u' ' + launch.arguments);
+        }
+        return lines;
+    }
+    /// Plays the pilot in the modal window that the next entry opens.
+    template <class Form> void answer(const std::function<void(Form &)> &play)
+    {
+        QTimer::singleShot(0, &app->mum(), [play] {
+            auto *form = qobject_cast<Form *>(QApplication::activeModalWidget());
+            ASSERT_TRUE(form);
+            play(*form);
+            if (form->isVisible()) {
+                form->reject();
+            }
+        });
+    }
+    static void choose(QWidget &form, int row, int calibration, const QString &button)
+    {
+        form.findChild<QListWidget *>(u"List_Profiles"_s)->setCurrentRow(row);
+        form.findChild<QRadioButton *>(u"Option_Calibrate_"_s + QString::number(calibration))
+            ->setChecked(true);
+        form.findChild<QPushButton *>(button)->click();
+    }
+
+    std::unique_ptr<Application> app;
+};
+
+} // namespace
+
+TEST_F(ToolsMenuTest, EveryEntryOfTheToolsCanBeUsed)
+{
+    begin();
+    for (const QString &name :
+         { u"MnuDiagArray_0"_s, u"MnuDiagArray_5"_s, u"mnuMemoryClear_0"_s, u"mnuMemoryClear_4"_s,
+           u"mnuFlashUpgrade"_s, u"mnuHandleInstall"_s, u"mnuFlashArray_0"_s, u"mnuFlashArray_1"_s,
+           u"mnuAppsMultiEditor"_s, u"mnuAppsLauncher"_s, u"mnuAppsAnalyser"_s, u"mnuAppsDX8_0"_s,
+           u"mnuAppsDX8_2"_s, u"mnuResetOptions"_s, u"mnuDownloadProfile"_s }) {
+        EXPECT_TRUE(action(name).isEnabled()) << name.toStdString();
+    }
+}
+
+TEST_F(ToolsMenuTest, EntriesStartWhatStandsAtTheirIndex)
+{
+    begin();
+    folder.write(u"CougarBState.exe"_s, "tool");
+    folder.write(u"Analyser.exe"_s, "tool");
+    trigger(u"MnuDiagArray_1");
+    trigger(u"MnuDiagArray_5");
+    trigger(u"mnuMemoryClear_1");
+    trigger(u"mnuFlashArray_1");
+    trigger(u"mnuAppsAnalyser");
+    EXPECT_EQ(started(),
+              (QStringList{ u"HOTASConfig.exe /CALIBRATE"_s, u"CougarBState.exe "_s,
+                            u"HOTASConfig.exe /MODE /ZEPH /CM"_s,
+                            u"rundll32.exe shell32.dll,Control_RunDLL joy.cpl,,1"_s,
+                            u"Analyser.exe "_s }));
+}
+
+TEST_F(ToolsMenuTest, TheTickIsKeptAndDecidesWhetherTheProfileCanBeApplied)
+{
+    begin();
+    EXPECT_FALSE(action(u"mnuResetAxes").isChecked());
+    EXPECT_FALSE(action(u"mnuApplyDefaultTMC").isEnabled());
+    trigger(u"mnuResetAxes");
+    EXPECT_TRUE(action(u"mnuResetAxes").isChecked());
+    EXPECT_TRUE(action(u"mnuApplyDefaultTMC").isEnabled());
+    EXPECT_EQ(stored(u"UseResetProfile"_s), u"1"_s);
+    EXPECT_EQ(stored(u"ResetProfile"_s), u"Default"_s);
+    trigger(u"mnuResetAxes");
+    EXPECT_FALSE(action(u"mnuApplyDefaultTMC").isEnabled());
+    EXPECT_EQ(stored(u"UseResetProfile"_s), u"0"_s);
+}
+
+TEST_F(ToolsMenuTest, TheStoredTickIsShownFromTheStart)
+{
+    begin("[Apps]\r\nUseResetProfile=1\r\nResetProfile=Alpine\r\nResetCalibrate=1\r\n");
+    EXPECT_TRUE(action(u"mnuResetAxes").isChecked());
+    trigger(u"mnuApplyDefaultTMC");
+    EXPECT_EQ(started(), QStringList{ u"HOTASConfig.exe /MODE /ZEPH /P\"Alpine.tmc\" /DM"_s });
+    EXPECT_EQ(app->status().text(), u" Ready"_s);
+}
+
+TEST_F(ToolsMenuTest, ResetOptionsAreKeptAndSwitchTheResetOn)
+{
+    begin();
+    answer<FormResetOptions>([](FormResetOptions &form) { choose(form, 0, 1, u"CMD_OK"_s); });
+    trigger(u"mnuResetOptions");
+    EXPECT_TRUE(action(u"mnuResetAxes").isChecked());
+    EXPECT_EQ(stored(u"ResetProfile"_s), u"Alpine"_s);
+    EXPECT_EQ(stored(u"ResetCalibrate"_s), u"1"_s);
+    EXPECT_EQ(stored(u"UseResetProfile"_s), u"1"_s);
+}
+
+TEST_F(ToolsMenuTest, ADownloadedProfileIsAppliedAndTheStoredOneStays)
+{
+    begin();
+    answer<SelectProfileForm>(
+        [](SelectProfileForm &form) { choose(form, 0, 1, u"CMD_Download"_s); });
+    trigger(u"mnuDownloadProfile");
+    EXPECT_EQ(started(), QStringList{ u"HOTASConfig.exe /MODE /ZEPH /P\"Alpine.tmc\" /DM"_s });
+    EXPECT_EQ(stored(u"ResetProfile"_s), u"(absent)"_s);
+}
+
+TEST_F(ToolsMenuTest, ACancelledDownloadStartsNothing)
+{
+    begin();
+    answer<SelectProfileForm>([](SelectProfileForm &form) { form.reject(); });
+    trigger(u"mnuDownloadProfile");
+    EXPECT_TRUE(launcher.launches.isEmpty());
+}
