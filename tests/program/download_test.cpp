@@ -113,6 +113,7 @@ TEST_F(ProgramDownload, AnErrorInTheJoystickFileIsExplainedAndItsLineSelected)
 
 TEST_F(ProgramDownload, AnErrorInTheMacroFileSelectsItsLineThere)
 {
+    program.settle("RunKeyTest=0\r\nTileFiles=1\r\n");
     program.write(sampleMacros, "Broken = DLY(60\r\n" + program.read(sampleMacros));
     const QStringList notes =
         run({ download, u"window Help on compiler errors"_s,
