@@ -162,11 +162,13 @@ void EditorView::setProtected(bool on)
 
 bool EditorView::refuseProtected()
 {
-    if (m_selected != DocumentKind::Macro || !m_protected) {
-        return false;
+    if (m_selected == DocumentKind::Macro && m_protected) {
+        m_context.dialogs.box(fileProtectedBox());
+        return true;
     }
-    m_context.dialogs.box(fileProtectedBox());
-    return true;
+    // A text that is on its way to the Cougar is locked for seconds only, and the status bar says
+    // so: no box.
+    return selected().control->isReadOnly();
 }
 
 void EditorView::updateCaptions()

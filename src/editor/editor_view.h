@@ -38,7 +38,7 @@ public:
     /// Guards the macro text against the user.
     void setProtected(bool on);
     bool isProtected() const { return m_protected; }
-    /// Whether the selected text is the protected one; tells the refusal when it is.
+    /// Whether the selected text takes no changes; tells the refusal when it is the protected one.
     bool refuseProtected();
 
     /// Shows the documents' names on the tabs.

@@ -27,16 +27,16 @@ constexpr int errorsTopic = 410;
 CompileMenu::CompileMenu(const Context &context, ToolchainHandshake &handshake, Mum &mum,
                          Editor &editor, HelpMenu &help)
     : QObject(&editor), m_context(context), m_mum(mum), m_editor(editor), m_help(help),
-      m_compile(context, handshake, host())
+      m_compile(context, handshake, compileHost())
 {
     editor.actions().connectTo(u"mnuAppsCompile", [this] { m_compile.mnuAppsCompile_Click(); });
     connect(&mum, &Mum::compileWanted, this,
             guarded(context.dialogs, [this] { m_compile.mnuAppsCompile_Click(); }));
 }
 
-CompileHost CompileMenu::host()
+CompilerHost CompileMenu::compilerHost()
 {
-    CompileHost host;
+    CompilerHost host;
     host.joystickText = [this] {
         return m_editor.joystickText();
     };
@@ -64,6 +64,12 @@ CompileHost CompileMenu::host()
     host.showCompilerHelp = [this](const CompilerVerdict &verdict) {
         showCompilerHelp(verdict);
     };
+    return host;
+}
+
+CompileHost CompileMenu::compileHost()
+{
+    CompileHost host{ compilerHost(), {}, {} };
     host.minimiseToolWindows = [this] {
         m_mum.toolWindows().minimiseForCompiler();
     };

@@ -23,11 +23,13 @@ public:
     CompileMenu(const Context &context, ToolchainHandshake &handshake, Mum &mum, Editor &editor,
                 HelpMenu &help);
 
+    /// The Editor, for everything that runs the compiler.
+    CompilerHost compilerHost();
     /// Shows the window that explains an error, without blocking.
     void showCompilerHelp(const CompilerVerdict &verdict);
 
 private:
-    CompileHost host();
+    CompileHost compileHost();
 
     Context m_context;
     Mum &m_mum;

@@ -5,6 +5,7 @@
 
 #include "editor/editor.h"
 #include "shell/compile_menu.h"
+#include "shell/download_menu.h"
 #include "shell/mum.h"
 #include "shell/tools_menu.h"
 
@@ -17,6 +18,9 @@ CougarTools::CougarTools(const Context &context, Joystick &joystick, Mum &mum, E
 {
     new CompileMenu(context, m_handshake, mum, editor, help);
     m_toolsMenu = new ToolsMenu(context, m_modes, m_profiles, mum, editor);
+    auto *compile = new CompileMenu(context, m_handshake, mum, editor, help);
+    new DownloadMenu(context,
+                     { m_handshake, m_modes, m_profiles, m_afterDownload, *compile, editor });
 }
 
 } // namespace zeph

@@ -7,6 +7,8 @@
 
 namespace zeph {
 
+struct Launch;
+
 /// What a good download may start: the NumLock helper and the applications that the joystick file
 /// names.
 class AfterDownload
@@ -17,10 +19,12 @@ public:
     /// Runs the helper that turns NumLock on; a missing one is told.
     void TurnNumLockOn();
     /// Starts what the USE ZEPH RUN_APP lines of the text name, in their order, unless the user
-    /// wants none of it.
+    /// wants none of it. One that cannot be started is told and ends the row.
     void GetAppsToRun(const QString &joystickText);
 
 private:
+    bool started(const Launch &launch);
+
     Context m_context;
 };
 

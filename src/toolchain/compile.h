@@ -4,30 +4,14 @@
 #pragma once
 
 #include "editor/context.h"
-#include "platform/core/base.h"
-
-#include <functional>
+#include "toolchain/compiler_host.h"
 
 namespace zeph {
 
 class ToolchainHandshake;
-struct CompilerVerdict;
-struct EditorDocument;
 
 /// What a compile needs of the windows above it. All must be set.
-struct CompileHost {
-    std::function<QString()> joystickText;
-    std::function<QString()> macroText;
-    std::function<const EditorDocument &()> joystick;
-    std::function<const EditorDocument &()> macro;
-    std::function<void()> selectJoystickTab;
-    /// Saves the selected document; its state tells afterwards whether that took place.
-    std::function<void()> mnuFileSave_Click;
-    std::function<void()> ResetFocusToEditor;
-    /// Line (1-based) and error text.
-    std::function<void(int, const QString &)> HighlightErrorLine;
-    /// Shows CompilerHelp, without blocking, with the verdict's error.
-    std::function<void(const CompilerVerdict &)> showCompilerHelp;
+struct CompileHost : CompilerHost {
     std::function<void()> minimiseToolWindows;
     /// Unloads CompilerHelp and the other helpers that would stand in the compiler's way.
     std::function<void()> unloadHelpers;

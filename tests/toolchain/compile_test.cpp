@@ -3,8 +3,7 @@
 
 #include "toolchain/compile.h"
 
-#include "editor/editor_document.h"
-#include "tests/toolchain/toolchain_bench.h"
+#include "tests/toolchain/compiler_bench.h"
 
 #include <QFile>
 
@@ -15,74 +14,18 @@ namespace {
 const QString hangOn = u"Hang on a minute ..."_s;
 const QString success = u"File successfully compiled!"_s;
 
-class CompileTest : public test::ToolchainBench
+class CompileTest : public test::CompilerBench
 {
 protected:
-    CompileTest()
-    {
-        joystick.path = folder.file(u"My files/A.TMJ"_s);
-        joystick.name = u"A.TMJ"_s;
-        joystick.state = EditorDocument::Saved;
-        macro.name = u"a.tmm"_s;
-        macro.state = EditorDocument::Saved;
-        afterTick = [this](int count) {
-            if (count == 1 && !statusWritten.isEmpty()) {
-                writeCompiler(u"Memory"_s, u"4"_s);
-                writeCompiler(u"CompileTime"_s, u"0.5"_s);
-                writeCompiler(u"LineNumber"_s, lineWritten);
-                writeCompiler(u"ErrorCode"_s, u"ERROR 1013: bad macro"_s);
-                writeCompiler(u"Status"_s, statusWritten);
-            }
-        };
-    }
-
     CompileHost host()
     {
-        const auto note = [this](const QString &what) {
-            return [this, what] {
-                done += what;
-            };
-        };
-        CompileHost result;
-        result.joystickText = [this] {
-            return joystickText;
-        };
-        result.macroText = [this] {
-            return macroText;
-        };
-        result.joystick = [this]() -> const EditorDocument & {
-            return joystick;
-        };
-        result.macro = [this]() -> const EditorDocument & {
-            return macro;
-        };
-        result.selectJoystickTab = note(u"joystick tab"_s);
-        result.mnuFileSave_Click = [this] {
-            done += u"save"_s;
-            joystick.state = saveWorks ? EditorDocument::Saved : EditorDocument::Modified;
-        };
-        result.ResetFocusToEditor = note(u"focus"_s);
-        result.HighlightErrorLine = [this](int line, const QString &text) {
-            done += u"highlight %1 %2"_s.arg(line).arg(text);
-        };
-        result.showCompilerHelp = [this](const CompilerVerdict &verdict) {
-            done += u"help "_s + verdict.ErrorCode;
-        };
+        CompileHost result{ compilerHost(), {}, {} };
         result.minimiseToolWindows = note(u"minimise"_s);
         result.unloadHelpers = note(u"unload"_s);
         return result;
     }
 
     void compile() { Compile(context, *handshake, host()).mnuAppsCompile_Click(); }
-
-    EditorDocument joystick;
-    EditorDocument macro;
-    QString joystickText = u"BTN S1 x"_s;
-    QString macroText = u"m = a"_s;
-    bool saveWorks = true;
-    QString statusWritten = u"OKAY"_s;
-    QString lineWritten = u"0"_s;
-    QStringList done;
 };
 
 } // namespace

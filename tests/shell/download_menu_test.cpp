@@ -1,0 +1,256 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#include "shell/download_menu.h"
+
+#include "editor/editor.h"
+#include "editor/editor_actions.h"
+#include "editor/editor_view.h"
+#include "editor/right_menu.h"
+#include "editor/text_control.h"
+#include "platform/core/profile_file.h"
+#include "shell/cougar_tools.h"
+#include "shell/help_menu.h"
+#include "shell/mum.h"
+#include "tests/shell/shell_world.h"
+
+#include <QAction>
+#include <QMenu>
+#include <QTest>
+#include <QTimer>
+#include <QToolButton>
+
+using namespace zeph;
+
+namespace {
+
+const QString success = u"File successfully compiled!"_s;
+
+/// A main window with a saved joystick file, and a compiler that answers at once.
+struct DownloadMenuTest : test::ShellWorld {
+    std::unique_ptr<Mum> mum;
+    Editor *editor = nullptr;
+    CougarTools *tools = nullptr;
+
+    void SetUp() override
+    {
+        settings.CheckForCompletionTime = u"1"_s;
+        settings.RunKeyTest = 1;
+        settings.DownloadMode = 1;
+        folder.write(u"HOTASCompiler.exe"_s, "tool");
+        folder.write(u"HOTASConfig.exe"_s, "tool");
+        launcher.onStart = [this](const Launch &) {
+            lockedAtStart = control()->isReadOnly();
+            EXPECT_TRUE(hotasIni().write({ u"Compiler"_s, u"Status"_s, verdict }));
+            return Expected<void, QString>();
+        };
+    }
+    void TearDown() override
+    {
+        mum.reset();
+        ShellWorld::TearDown();
+    }
+    void show()
+    {
+        mum = std::make_unique<Mum>(context());
+        editor = new Editor(context(), mum.get());
+        mum->attachEditor(editor);
+        auto *help = new HelpMenu(context(), downloader, mum->toolWindows(), *editor);
+        tools = new CougarTools(context(), joystick, *mum, *editor, *help);
+        mum->show();
+        control()->setText(u"BTN S1 a"_s);
+        editor->joystick().path = folder.write(u"Files/a.tmj"_s, "BTN S1 a");
+        editor->view().setState(editor->joystick(), EditorDocument::Saved);
+    }
+    TextControl *control() const { return editor->joystick().control; }
+    QAction *entry(int index) const
+    {
+        return editor->action(u"DownloadArray1_"_s + QString::number(index));
+    }
+    ProfileFile hotasIni() const { return ProfileFile(paths.hotasIni()); }
+    ProfileFile store() const { return ProfileFile(paths.iniPath); }
+    /// What a download would tell of these entries: which one opened.
+    QString testerOpened()
+    {
+        QString opened;
+        QObject holder;
+        for (const QString &name : { u"mnuAppsKeyTester"_s, u"mnuAppsDX8_0"_s }) {
+            QAction *tester = editor->action(name);
+            tester->setEnabled(true);
+            tester->disconnect();
+            QObject::connect(tester, &QAction::triggered, &holder, [&opened, name, this] {
+                opened += name;
+                EXPECT_FALSE(control()->isReadOnly());
+            });
+        }
+        dialogs.answer(success, BoxButton::Ok);
+        entry(0)->trigger();
+        return opened;
+    }
+
+    QString verdict = u"OKAY"_s;
+    bool lockedAtStart = false;
+};
+
+} // namespace
+
+TEST_F(DownloadMenuTest, TheEntriesShowWhatTheSettingsSay)
+{
+    settings.NumlockDownloadMode = 1;
+    show();
+    EXPECT_TRUE(entry(1)->isChecked());
+    EXPECT_TRUE(entry(2)->isChecked());
+    EXPECT_TRUE(entry(2)->isEnabled());
+    EXPECT_TRUE(entry(3)->isChecked());
+    EXPECT_FALSE(entry(4)->isChecked());
+    EXPECT_EQ(entry(0)->shortcut(), QKeySequence(Qt::Key_F12));
+}
+
+TEST_F(DownloadMenuTest, WithoutProgrammedModeTheKeyTesterCannotBeChosen)
+{
+    settings.DownloadMode = 0;
+    show();
+    EXPECT_FALSE(entry(1)->isChecked());
+    EXPECT_FALSE(entry(2)->isEnabled());
+    EXPECT_EQ(testerOpened(), u"") << "its setting alone opens nothing";
+}
+
+TEST_F(DownloadMenuTest, UntickingEntry1ClearsAndDisablesEntry2AndNoKeyTesterOpens)
+{
+    show();
+    entry(1)->trigger();
+    EXPECT_FALSE(entry(2)->isChecked());
+    EXPECT_FALSE(entry(2)->isEnabled());
+    EXPECT_EQ(settings.RunKeyTest, 0);
+    EXPECT_EQ(hotasIni().text(u"Defaults", u"DownloadMode", u"none"_s), u"0");
+    EXPECT_EQ(testerOpened(), u"");
+    EXPECT_TRUE(launcher.launches[0].arguments.startsWith(u"/ZEPH /CD "));
+}
+
+TEST_F(DownloadMenuTest, TickingEntry1AgainEnablesEntry2WithoutItsTick)
+{
+    show();
+    entry(1)->trigger();
+    entry(1)->trigger();
+    EXPECT_TRUE(entry(2)->isEnabled());
+    EXPECT_FALSE(entry(2)->isChecked());
+    EXPECT_EQ(hotasIni().text(u"Defaults", u"DownloadMode", u"none"_s), u"1");
+}
+
+TEST_F(DownloadMenuTest, Entry2IsSavedAtExitOnly)
+{
+    show();
+    entry(2)->trigger();
+    EXPECT_EQ(settings.RunKeyTest, 0);
+    EXPECT_EQ(store().text(u"Miscellaneous", u"RunKeyTest", u"none"_s), u"none");
+}
+
+TEST_F(DownloadMenuTest, Entries3And4AreSavedAtOnce)
+{
+    show();
+    entry(3)->trigger();
+    entry(4)->trigger();
+    EXPECT_EQ(store().text(u"Launcher", u"NumlockDownloadMode", u"none"_s), u"1");
+    EXPECT_EQ(store().text(u"Miscellaneous", u"RunAppsWithDownload", u"none"_s), u"1");
+    EXPECT_EQ(hotasIni().text(u"Defaults", u"DownloadMode", u"none"_s), u"1");
+}
+
+TEST_F(DownloadMenuTest, TheTextIsLockedDuringTheWaitAndEditableBehindIt)
+{
+    settings.RunKeyTest = 0;
+    show();
+    dialogs.answer(success, BoxButton::Ok);
+    entry(0)->trigger();
+    EXPECT_TRUE(lockedAtStart);
+    EXPECT_FALSE(control()->isReadOnly());
+    QTest::keyClicks(control(), u"x"_s);
+    EXPECT_TRUE(control()->text().contains(u'x'));
+}
+
+TEST_F(DownloadMenuTest, ALockedTextRefusesWhatMenusAndToolsWouldChange)
+{
+    settings.RunKeyTest = 0;
+    show();
+    launcher.onStart = [this](const Launch &) {
+        QTimer::singleShot(0, control(), [this] {
+            control()->selectAll();
+            editor->actions().trigger(u"mnuEditCut");
+            editor->actions().trigger(u"mnuEditPaste");
+            editor->actions().trigger(u"mnuBlockREM");
+            EXPECT_EQ(control()->text(), u"BTN S1 a");
+            EXPECT_TRUE(hotasIni().write({ u"Compiler"_s, u"Status"_s, verdict }));
+        });
+        return Expected<void, QString>();
+    };
+    dialogs.answer(success, BoxButton::Ok);
+    entry(0)->trigger();
+    EXPECT_EQ(control()->text(), u"BTN S1 a");
+}
+
+TEST_F(DownloadMenuTest, TheKeyTesterOpensThroughItsEntry)
+{
+    show();
+    EXPECT_EQ(testerOpened(), u"mnuAppsKeyTester");
+    EXPECT_TRUE(launcher.launches[0].arguments.startsWith(u"/ZEPH /CE "));
+}
+
+TEST_F(DownloadMenuTest, TheDirectXTesterOpensForThoseWhoPreferIt)
+{
+    settings.DefaultToDX8KeyTester = 1;
+    show();
+    EXPECT_EQ(testerOpened(), u"mnuAppsDX8_0");
+}
+
+TEST_F(DownloadMenuTest, AFailedDownloadOpensNoKeyTester)
+{
+    verdict = u"ERROR"_s;
+    settings.HOTASStatusBarErrors = 1;
+    show();
+    entry(0)->trigger();
+    EXPECT_EQ(status.text(), u"Compiler error: ");
+    EXPECT_FALSE(control()->isReadOnly());
+}
+
+TEST_F(DownloadMenuTest, TheDownloadBelongsToTheJoystickTab)
+{
+    show();
+    auto *button = mum->findChild<QToolButton *>(u"Toolbar1_32"_s);
+    ASSERT_TRUE(button);
+    EXPECT_TRUE(entry(0)->isEnabled());
+    editor->view().select(DocumentKind::Macro);
+    EXPECT_FALSE(entry(0)->isEnabled());
+    QCoreApplication::sendPostedEvents();
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(button->isEnabled());
+    settings.AlwaysShowCompileDownload = 1;
+    editor->applySettings();
+    EXPECT_TRUE(entry(0)->isEnabled());
+}
+
+TEST_F(DownloadMenuTest, FromTheMacroTabItSelectsTheJoystickTabFirst)
+{
+    settings.AlwaysShowCompileDownload = 1;
+    settings.RunKeyTest = 0;
+    show();
+    editor->view().select(DocumentKind::Macro);
+    dialogs.answer(success, BoxButton::Ok);
+    entry(0)->trigger();
+    EXPECT_EQ(editor->selected().kind, DocumentKind::Joystick);
+}
+
+TEST_F(DownloadMenuTest, ToolbarAndRightHandMenuDownloadToo)
+{
+    settings.RunKeyTest = 0;
+    show();
+    QCoreApplication::sendPostedEvents();
+    dialogs.answer(success, BoxButton::Ok);
+    mum->findChild<QToolButton *>(u"Toolbar1_32"_s)->click();
+    EXPECT_EQ(launcher.launches.size(), 1);
+    const auto menu = editor->rightMenu().build();
+    auto *item = menu->findChild<QAction *>(u"mnuRHMDownload"_s);
+    ASSERT_TRUE(item);
+    EXPECT_TRUE(item->isEnabled());
+    dialogs.answer(success, BoxButton::Ok);
+    item->trigger();
+    EXPECT_EQ(launcher.launches.size(), 2);
+}
