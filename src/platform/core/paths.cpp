@@ -175,6 +175,21 @@ QString nameOf(const QString &path)
     return path.mid(lastSeparator(path) + 1);
 }
 
+QString rootOf(const QString &path)
+{
+    const QString native = nativeSeparators(path);
+    if (native.size() > 1 && native[0].isLetter() && native[1] == u':') {
+        return native.first(2) + QDir::separator();
+    }
+#ifdef Q_OS_WIN
+    if (native.startsWith(u"\\\\"_s)) {
+        // A share has no drive: it is its own root.
+        return native.section(QDir::separator(), 0, 3) + QDir::separator();
+    }
+#endif
+    return QDir::rootPath();
+}
+
 QString existingPath(const QString &path)
 {
     const QString native = nativeSeparators(path);

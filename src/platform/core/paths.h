@@ -38,6 +38,9 @@ QString withClosingSeparator(QString folder);
 QString folderOf(const QString &path);
 QString nameOf(const QString &path);
 
+/// The root of the drive on which a path lies, with a closing separator.
+QString rootOf(const QString &path);
+
 /// The path under which a file or folder really exists: the path itself, or the first match without
 /// regard to case, component by component, on a file system that tells cases apart. Empty when
 /// there is none.
