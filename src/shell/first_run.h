@@ -10,12 +10,15 @@ class QWidget;
 namespace zeph {
 
 class HelpMenu;
+class UserLists;
 struct WelcomeAnswers;
 
 /// Puts what the pilot said into the settings and the paths. No name at all leaves the stored one.
 void takeWelcomeAnswers(const WelcomeAnswers &answers, GlobalSettings &settings, Paths &paths);
 
-/// The first run: the welcome, the store, and what the pilot is shown by experience.
-void runFirstRun(const Context &context, HelpMenu &help, int welcomeIntervalMs, QWidget *parent);
+/// The first run: the flight simulators' files as favourites, the welcome, the store, and what the
+/// pilot is shown by experience.
+void runFirstRun(const Context &context, HelpMenu &help, UserLists &lists, int welcomeIntervalMs,
+                 QWidget *parent);
 
 } // namespace zeph

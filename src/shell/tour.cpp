@@ -153,7 +153,15 @@ void Tour::addStops(Application &application)
           } },
         { u"macro-rename-done"_s,
           [this] {
-              renameMacro();
+              grabModal(u"macro-rename"_s, u"mnuRenameMacro"_s);
+          } },
+        { u"enter-game-done"_s,
+          [this] {
+              grabModal(u"enter-game"_s, u"mnuGamesAdd"_s);
+          } },
+        { u"enter-favourite-done"_s,
+          [this] {
+              grabModal(u"enter-favourite"_s, u"mnuFavouritesAddCurrent"_s);
           } },
         { u"compile"_s,
           [&application] {
@@ -202,16 +210,16 @@ void Tour::walk()
     m_timer.start();
 }
 
-void Tour::renameMacro()
+void Tour::grabModal(const QString &name, const QString &action)
 {
     // The window is modal: it is looked at and left from within.
-    QTimer::singleShot(pauseMs, this, [this] {
+    QTimer::singleShot(pauseMs, this, [this, name] {
         if (QWidget *window = QApplication::activeModalWidget()) {
-            grabAll(u"macro-rename"_s);
+            grabAll(name);
             window->close();
         }
     });
-    m_application->editor().actions().trigger(u"mnuRenameMacro");
+    m_application->editor().actions().trigger(action);
 }
 
 void Tour::compileSlowly()

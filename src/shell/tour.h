@@ -58,7 +58,8 @@ private:
 
     void addStops(Application &application);
     void walk();
-    void renameMacro();
+    /// Looks at the modal window that a menu entry opens, and leaves it.
+    void grabModal(const QString &name, const QString &action);
     void compileSlowly();
     void answerWelcome();
     void grab(QWidget &window, const QString &name) const;

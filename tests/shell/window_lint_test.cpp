@@ -4,6 +4,7 @@
 #include "editor/editor.h"
 #include "editor/macrorenameform.h"
 #include "editor/styleeditor.h"
+#include "shell/enterfavouritename.h"
 #include "shell/frmabout.h"
 #include "shell/frmtip.h"
 #include "shell/helpwindow.h"
@@ -11,6 +12,7 @@
 #include "shell/mum.h"
 #include "shell/welcome.h"
 #include "tests/shell/shell_world.h"
+#include "toolchain/entergamename.h"
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
@@ -113,6 +115,14 @@ const LintCase cases[] = {
     { "StyleEditor",
       [](auto &w) {
           return std::make_unique<StyleEditor>(defaultTextStyles(), 0xFFFFFF, w.dialogs);
+      } },
+    { "EnterGameName",
+      [](auto &w) {
+          return std::make_unique<EnterGameName>(w.paths, w.dialogs, QString());
+      } },
+    { "EnterFavouritename",
+      [](auto &) {
+          return std::make_unique<EnterFavouritename>();
       } },
     { "Mum", makeMum },
 };
