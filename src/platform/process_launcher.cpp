@@ -110,6 +110,13 @@ Expected<void, QString> setUpWine(QProcess &process, const QString &program, Win
 
 #endif
 
+/// An address as people write it, with or without what stands before "www.".
+QUrl addressOf(const QString &address)
+{
+    const bool bare = address.startsWith(u"www.", Qt::CaseInsensitive);
+    return QUrl(bare ? u"http://"_s + address : address);
+}
+
 /// The file that a name in a command means, as the launcher takes it; empty when there is none.
 QString commandFile(const QString &name, const QString &folder)
 {
@@ -215,8 +222,8 @@ Expected<void, QString> SystemLauncher::start(const Launch &launch)
 Expected<void, QString> SystemLauncher::openWithDesktop(const QString &pathOrUrl)
 {
     const QString file = existingPath(pathOrUrl);
-    const QUrl url =
-        file.isEmpty() ? QUrl(pathOrUrl) : QUrl::fromLocalFile(QFileInfo(file).absoluteFilePath());
+    const QUrl url = file.isEmpty() ? addressOf(pathOrUrl)
+                                    : QUrl::fromLocalFile(QFileInfo(file).absoluteFilePath());
     if (url.isRelative()) {
         return failure(pathOrUrl, std::errc::no_such_file_or_directory);
     }

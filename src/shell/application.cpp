@@ -23,6 +23,7 @@
 #include "shell/start_files.h"
 #include "shell/tool_windows.h"
 #include "shell/tools_menu.h"
+#include "shell/user_lists.h"
 
 #include <QAction>
 #include <QApplication>
@@ -170,6 +171,7 @@ void Application::loadEditor()
     m_editor = new Editor(context(), m_mum.get());
     m_mum->attachEditor(m_editor);
     m_help = new HelpMenu(context(), m_options.downloader, m_mum->toolWindows(), *m_editor);
+    m_lists = new UserLists(context(), *m_editor);
     m_tools->attach(context(), *m_mum, *m_editor, *m_help);
     new ForeignKeyBSupport(m_options.keyboard, m_settings, m_editor);
     QObject::connect(&m_mum->toolWindows(), &ToolWindows::loaded, m_mum.get(),
@@ -189,7 +191,8 @@ void Application::loadEditor()
     m_editor->view().UpdateSavedIcon();
     greet();
     if (m_settings.FirstTimeUsed == 1) {
-        runFirstRun(context(), *m_help, *m_tools, m_options.welcomeIntervalMs, m_mum.get());
+        runFirstRun(context(), { *m_help, *m_lists, *m_tools }, m_options.welcomeIntervalMs,
+                    m_mum.get());
         m_editor->applySettings();
     } else if (m_settings.ShowTips == 1) {
         m_help->showTip();

@@ -25,6 +25,7 @@ class Joystick;
 class Mum;
 class Screen;
 class SystemInfo;
+class UserLists;
 
 /// The world that a run stands in; all must outlive it.
 struct ApplicationOptions {
@@ -96,6 +97,7 @@ private:
     std::unique_ptr<Mum> m_mum;
     Editor *m_editor = nullptr;
     HelpMenu *m_help = nullptr;
+    UserLists *m_lists = nullptr;
     CougarTools *m_tools = nullptr;
 };
 

@@ -122,7 +122,8 @@ void CoolBar::follow(Button &button)
     if (isCustomApp(*button.row)) {
         button.visibility->setVisible(action && action->isVisible() && action->isEnabled());
         if (action) {
-            button.control->setAccessibleName(action->text());
+            button.control->setAccessibleName(action->text().replace(u"&&"_s, u"&"_s));
+            button.control->setIcon(action->icon());
         }
     }
 }

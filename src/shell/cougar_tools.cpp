@@ -6,6 +6,7 @@
 #include "editor/editor.h"
 #include "shell/compile_menu.h"
 #include "shell/download_menu.h"
+#include "shell/games_menu.h"
 #include "shell/mode_menu.h"
 #include "shell/mum.h"
 #include "shell/tools_menu.h"
@@ -25,6 +26,8 @@ void CougarTools::attach(const Context &context, Mum &mum, Editor &editor, HelpM
     auto *compile = new CompileMenu(context, m_handshake, mum, editor, help);
     new DownloadMenu(context,
                      { m_handshake, m_modes, m_profiles, m_afterDownload, *compile, editor });
+    new GamesMenu(context,
+                  { mum, editor, *compile, m_handshake, m_modes, m_profiles, m_afterDownload });
 }
 
 } // namespace zeph

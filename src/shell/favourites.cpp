@@ -3,7 +3,9 @@
 
 #include "shell/favourites.h"
 
+#include "platform/core/most_recent.h"
 #include "platform/core/paths.h"
+#include "platform/core/profile_list.h"
 #include "platform/dialogs.h"
 
 #include <algorithm>
@@ -12,13 +14,20 @@ namespace zeph {
 
 namespace {
 
-constexpr qint32 mostFavourites = 50;
-constexpr QStringView section = u"Favourites";
+constexpr QStringView fields[] = { u"FavName", u"FavJFPath", u"FavMFPath" };
+constexpr ProfileListKeys keys = { u"Favourites", u"FavArrayNum", fields, 50 };
+constexpr QStringView loadOnStartKey = u"FavLoadOnStart";
+constexpr QStringView nameToLoadKey = u"FavNameToLoad";
+
+QString pathOrNone(const QString &stored)
+{
+    return stored.isEmpty() ? noFavouriteFile.toString() : stored;
+}
 
 bool openOne(const QString &kind, const QString &path, const QString &name, Dialogs &dialogs,
              const std::function<void(const QString &)> &open)
 {
-    if (path == u"None" || path.isEmpty()) {
+    if (path == noFavouriteFile || path.isEmpty()) {
         return false;
     }
     const QString existing = existingPath(path);
@@ -40,28 +49,52 @@ bool openOne(const QString &kind, const QString &path, const QString &name, Dial
 
 } // namespace
 
-QList<Favourite> readFavourites(const ProfileFile &store)
+Favourites readFavourites(const ProfileFile &store)
 {
-    QList<Favourite> favourites;
-    const qint32 count = std::clamp(store.integer(section, u"FavArrayNum", 0), 0, mostFavourites);
-    for (qint32 i = 1; i <= count; ++i) {
-        const QString number = QString::number(i);
-        favourites.append({ store.text(section, u"FavName"_s + number),
-                            store.text(section, u"FavJFPath"_s + number, u"None"_s),
-                            store.text(section, u"FavMFPath"_s + number, u"None"_s) });
+    Favourites favourites;
+    favourites.loadOnStart = store.integer(keys.section, loadOnStartKey, 0) == 1;
+    favourites.nameToLoad = store.text(keys.section, nameToLoadKey);
+    for (const ProfileRow &row : readProfileList(store, keys)) {
+        favourites.list.append({ row[0], pathOrNone(row[1]), pathOrNone(row[2]) });
     }
     return favourites;
 }
 
-std::optional<Favourite> autoloadFavourite(const ProfileFile &store)
+Expected<void, FileError> writeFavourites(const ProfileFile &store, const Favourites &favourites)
 {
-    const QString name = store.text(section, u"FavNameToLoad");
-    if (store.integer(section, u"FavLoadOnStart", 0) != 1 || name.isEmpty()) {
+    QList<ProfileRow> rows;
+    for (const Favourite &favourite : favourites.list) {
+        rows.append({ favourite.name, favourite.joystickPath, favourite.macroPath });
+    }
+    const QString section = keys.section.toString();
+    QList<ProfileEntry> entries = profileListEntries(keys, rows);
+    entries.append(
+        { section, loadOnStartKey.toString(), QString::number(favourites.loadOnStart ? 1 : 0) });
+    entries.append({ section, nameToLoadKey.toString(), favourites.nameToLoad });
+    return store.write(entries);
+}
+
+void updateFavourites(Favourites &favourites, const Favourite &favourite)
+{
+    putFirst(favourites.list, favourite, keys.most,
+             [](const Favourite &a, const Favourite &b) { return a.name == b.name; });
+}
+
+void SortFavourites(Favourites &favourites)
+{
+    std::stable_sort(favourites.list.begin(), favourites.list.end(),
+                     [](const Favourite &a, const Favourite &b) {
+                         return a.name.compare(b.name, Qt::CaseInsensitive) < 0;
+                     });
+}
+
+std::optional<Favourite> autoloadFavourite(const Favourites &favourites)
+{
+    if (!favourites.loadOnStart || favourites.nameToLoad.isEmpty()) {
         return std::nullopt;
     }
-    const QList<Favourite> favourites = readFavourites(store);
-    const auto found = std::ranges::find(favourites, name, &Favourite::name);
-    return found == favourites.end() ? std::nullopt : std::optional(*found);
+    const auto found = std::ranges::find(favourites.list, favourites.nameToLoad, &Favourite::name);
+    return found == favourites.list.end() ? std::nullopt : std::optional(*found);
 }
 
 bool openFavourite(const Favourite &favourite, Dialogs &dialogs,

@@ -18,13 +18,30 @@ struct Favourite {
     QString name;
     QString joystickPath;
     QString macroPath;
+
+    friend bool operator==(const Favourite &, const Favourite &) = default;
 };
 
-/// The store's favourites, most recently added first; at most 50.
-QList<Favourite> readFavourites(const ProfileFile &store);
+/// The path that stands for no file.
+constexpr QStringView noFavouriteFile = u"None";
+
+struct Favourites {
+    /// Most recently added first; at most 50.
+    QList<Favourite> list;
+    /// Whether one of them is opened at start, and which.
+    bool loadOnStart = false;
+    QString nameToLoad;
+};
+
+Favourites readFavourites(const ProfileFile &store);
+Expected<void, FileError> writeFavourites(const ProfileFile &store, const Favourites &favourites);
+
+/// Puts a favourite at place 1; one of that name is replaced, a 51st pushes the last one out.
+void updateFavourites(Favourites &favourites, const Favourite &favourite);
+void SortFavourites(Favourites &favourites);
 
 /// The favourite to open at start; no value when none is wanted, or it is gone.
-std::optional<Favourite> autoloadFavourite(const ProfileFile &store);
+std::optional<Favourite> autoloadFavourite(const Favourites &favourites);
 
 /// Opens the favourite's files, the macro file first; a missing one is told. True when both were
 /// opened.

@@ -5,10 +5,13 @@
 
 #include "platform/dialogs.h"
 #include "shell/cougar_tools.h"
+#include "shell/favourites_menu.h"
+#include "shell/flight_sims.h"
 #include "shell/foreign_keyboard.h"
 #include "shell/help_menu.h"
 #include "shell/settings/settings_files.h"
 #include "shell/settings/settings_moments.h"
+#include "shell/user_lists.h"
 #include "shell/welcome.h"
 
 namespace zeph {
@@ -18,12 +21,13 @@ namespace {
 constexpr int showMeHowTopic = 100;
 
 /// A write that fails is nobody's failure here, as everywhere in the store.
-void writeStore(const Context &context)
+void writeStore(const Context &context, UserLists &lists)
 {
     const SettingsFiles files = settingsFilesOf(context.paths);
     tellProblems(context.dialogs, readColours(context.settings, files));
     (void)saveGlobalSettings(context.settings, files);
     (void)saveColours(context.settings, files);
+    lists.save();
     (void)saveFilesFolder(files, context.paths.filesFolder());
 }
 
@@ -57,16 +61,17 @@ void takeWelcomeAnswers(const WelcomeAnswers &answers, GlobalSettings &settings,
     paths.hotasFolder = answers.hotasFolder;
 }
 
-void runFirstRun(const Context &context, HelpMenu &help, CougarTools &tools, int welcomeIntervalMs,
+void runFirstRun(const Context &context, const FirstRunParts &parts, int welcomeIntervalMs,
                  QWidget *parent)
 {
+    parts.lists.favourites().add(SetupFlightSimFiles(context.paths.filesFolder()));
     Welcome welcome(context.paths, context.dialogs, welcomeIntervalMs, parent);
     new ForeignKeyBSupport(context.keyboard, context.settings, &welcome);
     welcome.exec();
     takeWelcomeAnswers(welcome.answers(), context.settings, context.paths);
-    writeStore(context);
-    tools.profiles().CopyTMCfiles();
-    showByExperience(context.settings.FirstTimeUsed, help);
+    writeStore(context, parts.lists);
+    parts.tools.profiles().CopyTMCfiles();
+    showByExperience(context.settings.FirstTimeUsed, parts.help);
 }
 
 } // namespace zeph

@@ -11,13 +11,22 @@ namespace zeph {
 
 class CougarTools;
 class HelpMenu;
+class UserLists;
 struct WelcomeAnswers;
 
 /// Puts what the pilot said into the settings and the paths. No name at all leaves the stored one.
 void takeWelcomeAnswers(const WelcomeAnswers &answers, GlobalSettings &settings, Paths &paths);
 
-/// The first run: the welcome, the store, the profiles, and what the pilot is shown by experience.
-void runFirstRun(const Context &context, HelpMenu &help, CougarTools &tools, int welcomeIntervalMs,
+/// What the first run fills and shows.
+struct FirstRunParts {
+    HelpMenu &help;
+    UserLists &lists;
+    CougarTools &tools;
+};
+
+/// The first run: the flight simulators' files as favourites, the welcome, the store, the profiles,
+/// and what the pilot is shown by experience.
+void runFirstRun(const Context &context, const FirstRunParts &parts, int welcomeIntervalMs,
                  QWidget *parent);
 
 } // namespace zeph

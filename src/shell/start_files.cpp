@@ -7,7 +7,7 @@
 #include "editor/editor_actions.h"
 #include "editor/file_opening.h"
 #include "platform/core/paths.h"
-#include "shell/favourites.h"
+#include "shell/favourites_menu.h"
 #include "shell/settings/global_settings.h"
 
 #include <QFileInfo>
@@ -41,15 +41,8 @@ bool openRestored(Editor &editor, const GlobalSettings &settings)
 
 void openAutoload(Editor &editor, const ProfileFile &store, Dialogs &dialogs)
 {
-    const auto favourite = autoloadFavourite(store);
-    if (!favourite) {
-        return;
-    }
-    const bool both = openFavourite(*favourite, dialogs, [&editor](const QString &path) {
-        editor.opening().OpenFavouriteFile(path);
-    });
-    if (both) {
-        editor.actions().trigger(u"mnuMacrosIdentify");
+    if (const auto favourite = autoloadFavourite(readFavourites(store))) {
+        openFavouriteInEditor(*favourite, editor, dialogs);
     }
 }
 

@@ -161,6 +161,14 @@ void Tour::addStops(Application &application)
           [this] {
               lookAtModal(u"mnuRenameMacro"_s, u"macro-rename"_s);
           } },
+        { u"enter-game-done"_s,
+          [this] {
+              lookAtModal(u"mnuGamesAdd"_s, u"enter-game"_s);
+          } },
+        { u"enter-favourite-done"_s,
+          [this] {
+              lookAtModal(u"mnuFavouritesAddCurrent"_s, u"enter-favourite"_s);
+          } },
         { u"right-menu-closed"_s,
           [this] {
               popUpRightMenu();

@@ -59,7 +59,6 @@ private:
 
     void addStops(Application &application);
     void walk();
-    void renameMacro();
     void popUpRightMenu();
     /// Opens a modal window by its menu entry, grabs it and closes it.
     void lookAtModal(const QString &entry, const QString &name);

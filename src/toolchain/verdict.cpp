@@ -33,6 +33,10 @@ constexpr VerdictWords wordsByTask[] = {
     },
 };
 
+constexpr VerdictWords gameWords = { u"", u"Compiler error on line", u"Compiler error: ", false };
+
+constexpr QStringView errorStatus = u"ERROR";
+
 Box box(const QString &title, const QString &text, BoxIcon icon)
 {
     Box result;
@@ -87,10 +91,20 @@ VerdictTelling tellVerdict(const CompilerVerdict &verdict, CompilerTask task, co
         telling.box = box(u"Unknown result"_s, words.noResponse.toString(), BoxIcon::Exclamation);
         return telling;
     }
-    if (verdict.Status == u"ERROR") {
+    if (verdict.Status == errorStatus) {
         return tellError(verdict, words, statusBarOnly);
     }
     return tellSuccess(verdict, words, path, statusBarOnly);
+}
+
+VerdictTelling tellGameVerdict(const CompilerVerdict &verdict, bool statusBarOnly)
+{
+    if (verdict.Status == errorStatus) {
+        return tellError(verdict, gameWords, statusBarOnly);
+    }
+    VerdictTelling telling;
+    telling.panel = u"Compiled successfully. Launching game ..."_s;
+    return telling;
 }
 
 bool isMacroFileError(QStringView errorText)

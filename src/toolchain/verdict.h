@@ -26,6 +26,10 @@ struct VerdictTelling {
 VerdictTelling tellVerdict(const CompilerVerdict &verdict, CompilerTask task, const QString &path,
                            bool statusBarOnly);
 
+/// As tellVerdict(), for the download before a game, which only an error stops: no verdict counts
+/// as a good one.
+VerdictTelling tellGameVerdict(const CompilerVerdict &verdict, bool statusBarOnly);
+
 /// Whether the code in an error text says that the error lies in the macro file.
 bool isMacroFileError(QStringView errorText);
 

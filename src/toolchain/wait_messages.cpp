@@ -80,6 +80,20 @@ Box compilerTimeOutBox(CompilerTask task, const QString &callsign)
                           % myExperience);
 }
 
+Box gameTimeOutBox(const QString &callsign)
+{
+    const Wording &download = compilerWordings[size_t(CompilerTask::Download)];
+    Box box = timeOutBox(
+        callsign,
+        passControl % download.troubleWith % tooLong % playSafe % blankLine % noProblem
+            % download.orFiles
+            % u" you can simply wait for the compiler to finish, and continue to launch your game."_s
+            % u" Would you like me to continue with running your game now?"_s);
+    box.buttons = { BoxButton::Yes, BoxButton::No };
+    box.defaultButton = BoxButton::No;
+    return box;
+}
+
 Box modeTimeOutBox()
 {
     return timeOutBox(u"buddy"_s, worry(modeWording));

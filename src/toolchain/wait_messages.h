@@ -14,6 +14,8 @@ enum class CompilerTask { Compile, Download };
 
 /// Told when the compiler was waited for too long; the callsign is the user's.
 Box compilerTimeOutBox(CompilerTask task, const QString &callsign);
+/// Told when the download before a game was waited for too long; Yes goes on without it.
+Box gameTimeOutBox(const QString &callsign);
 /// Told when a mode request was waited for too long.
 Box modeTimeOutBox();
 

@@ -5,6 +5,7 @@
 #include "editor/findandreplace.h"
 #include "editor/macrorenameform.h"
 #include "editor/styleeditor.h"
+#include "shell/enterfavouritename.h"
 #include "shell/frmabout.h"
 #include "shell/frmtip.h"
 #include "shell/helpwindow.h"
@@ -14,6 +15,7 @@
 #include "tests/shell/shell_world.h"
 #include "toolchain/formresetoptions.h"
 #include "toolchain/selectprofileform.h"
+#include "toolchain/entergamename.h"
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
@@ -135,6 +137,13 @@ const LintCase cases[] = {
     { "SelectProfileForm",
       [](auto &w) {
           return std::make_unique<SelectProfileForm>(w.context());
+    { "EnterGameName",
+      [](auto &w) {
+          return std::make_unique<EnterGameName>(w.paths, w.dialogs, QString());
+      } },
+    { "EnterFavouritename",
+      [](auto &) {
+          return std::make_unique<EnterFavouritename>();
       } },
     { "Mum", makeMum },
 };

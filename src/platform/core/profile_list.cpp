@@ -1,0 +1,49 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#include "platform/core/profile_list.h"
+
+#include "platform/core/text1252.h"
+
+#include <algorithm>
+
+namespace zeph {
+
+QList<ProfileRow> readProfileList(const ProfileFile &store, const ProfileListKeys &keys)
+{
+    const auto file = store.bytes();
+    if (!file) {
+        return {};
+    }
+    const qint32 count = std::clamp(
+        profile::integerOf(profile::value(*file, keys.section, keys.count), 0), 0, keys.most);
+    QList<ProfileRow> rows;
+    for (qint32 place = 1; place <= count; ++place) {
+        ProfileRow row;
+        for (const QStringView field : keys.fields) {
+            const QString key = field.toString() + QString::number(place);
+            row.append(profile::value(*file, keys.section, key)
+                           .value_or(QString())
+                           .left(profileTextBuffer - 1));
+        }
+        rows.append(row);
+    }
+    return rows;
+}
+
+QList<ProfileEntry> profileListEntries(const ProfileListKeys &keys, const QList<ProfileRow> &rows)
+{
+    const QString section = keys.section.toString();
+    QList<ProfileEntry> entries = { { section, keys.count.toString(),
+                                      QString::number(rows.size()) } };
+    for (qsizetype i = 0; i < rows.size(); ++i) {
+        for (size_t field = 0; field < keys.fields.size(); ++field) {
+            const QString value = rows[i].value(qsizetype(field));
+            entries.append({ section, keys.fields[field].toString() + QString::number(i + 1),
+                             firstNot1252(value) < 0 ? value : QString() });
+        }
+    }
+    return entries;
+}
+
+} // namespace zeph

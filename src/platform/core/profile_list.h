@@ -1,0 +1,35 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+// Lists in profile files: a count, and for each item keys with its place behind their names, as in
+// "FavName1", "FavJFPath1", "FavName2".
+
+#include "platform/core/profile_file.h"
+
+#include <QStringList>
+
+#include <span>
+
+namespace zeph {
+
+struct ProfileListKeys {
+    QStringView section;
+    QStringView count;
+    std::span<const QStringView> fields;
+    /// The most items that a list may hold.
+    qint32 most;
+};
+
+/// One item: its values in the order of the fields.
+using ProfileRow = QStringList;
+
+/// The list as one look at the disk finds it; an absent value is empty.
+QList<ProfileRow> readProfileList(const ProfileFile &store, const ProfileListKeys &keys);
+
+/// What has to be written for the list to stand in the store. A value that the store's code page
+/// cannot hold is emptied, so that no earlier item's value stays in its place.
+QList<ProfileEntry> profileListEntries(const ProfileListKeys &keys, const QList<ProfileRow> &rows);
+
+} // namespace zeph

@@ -1,0 +1,47 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "platform/core/paths.h"
+#include "toolchain/games.h"
+
+#include <QDialog>
+
+#include <memory>
+
+namespace zeph {
+
+class Dialogs;
+
+namespace Ui {
+class EnterGameName;
+}
+
+/// Asks for a game and what the Cougar needs for it. Changes nothing itself.
+class EnterGameName : public QDialog
+{
+    Q_OBJECT
+public:
+    /// A joystick file to suggest; with an empty one the stick goes into Windows mode.
+    EnterGameName(const Paths &paths, Dialogs &dialogs, const QString &joystickFile,
+                  QWidget *parent = nullptr);
+    ~EnterGameName() override;
+
+    Game game() const;
+
+private:
+    void connectFields();
+    void connectButtons();
+    void browseCommand();
+    void browseFolder();
+    void browseJoystickFile();
+    void update();
+    GameMode mode() const;
+
+    const Paths &m_paths;
+    Dialogs &m_dialogs;
+    std::unique_ptr<Ui::EnterGameName> m_ui;
+};
+
+} // namespace zeph

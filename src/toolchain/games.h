@@ -1,0 +1,58 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+// The user's games: what starts them, and what the Cougar needs for each.
+
+#include "platform/core/profile_file.h"
+
+#include <QObject>
+
+namespace zeph {
+
+/// What is done to the Cougar before a game starts; the numbers stand in the store.
+enum class GameMode : qint16 {
+    Download = 0, ///< its own joystick file is downloaded
+    Windows = 1, ///< the stick goes into Windows mode
+    DownloadDefault = 2 ///< the joystick file for all games is downloaded
+};
+
+/// The joystick file for all games, in the Files folder.
+constexpr QStringView defaultGameFile = u"TM Default for games.tmj";
+
+struct Game {
+    QString GameName; ///< caption on the Games menu, unique
+    QString GamePath; ///< command with its switches, or a web address
+    QString GameDIRPath; ///< working directory
+    QString GameJF; ///< joystick file to download
+    qint16 GameJFmode = 0; ///< a GameMode; for any other number nothing is done to the Cougar
+
+    friend bool operator==(const Game &, const Game &) = default;
+};
+
+/// The list of games, most recently used first, at most 30. Every change goes into the store.
+class Games : public QObject
+{
+    Q_OBJECT
+public:
+    /// Reads the games that the store holds.
+    explicit Games(const QString &iniPath, QObject *parent = nullptr);
+
+    const QList<Game> &list() const { return m_list; }
+
+    /// Puts a game at place 1. One of that name is replaced; a 31st pushes the last one out.
+    void update(const Game &game);
+    void SortGamesAlphabetically();
+
+Q_SIGNALS:
+    void changed();
+
+private:
+    void save();
+
+    ProfileFile m_store;
+    QList<Game> m_list;
+};
+
+} // namespace zeph

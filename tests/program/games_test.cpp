@@ -1,0 +1,148 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#include "platform/core/base.h"
+#include "tests/program/notes.h"
+#include "tests/program/program.h"
+
+#include <gmock/gmock.h>
+
+#include <QElapsedTimer>
+#include <QFile>
+#include <QThread>
+
+using namespace zeph;
+using namespace zeph::test;
+using testing::Contains;
+using testing::HasSubstr;
+
+namespace {
+
+const QString sample = u"Files/Sample flight.tmj"_s;
+
+/// A game that writes down how it was started, a line each: its arguments, its folder, and one
+/// variable of its environment. The file gets its name when all is in it.
+const QByteArray game =
+    "#!/bin/sh\n"
+    "for each in \"$@\"; do echo \"argument $each\"; done > \"$GAME_NOTES.part\"\n"
+    "echo \"folder $(pwd)\" >> \"$GAME_NOTES.part\"\n"
+    "echo \"callsign $GAME_CALLSIGN\" >> \"$GAME_NOTES.part\"\n"
+    "mv \"$GAME_NOTES.part\" \"$GAME_NOTES\"\n";
+
+class ProgramGames : public testing::Test
+{
+protected:
+    ProgramGames()
+    {
+        program.write(u"My games/Falcon/falcon"_s, game);
+        QFile::setPermissions(program.file(u"My games/Falcon/falcon"_s),
+                              QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+        program.setEnvironment(u"GAME_NOTES"_s, program.file(u"notes.txt"_s));
+        program.setEnvironment(u"GAME_CALLSIGN"_s, u"Viper"_s);
+    }
+
+    /// A store with one game of that mode.
+    void settle(int mode, const QString &joystickFile)
+    {
+        program.settle("[Games]\r\nGameArrayNum=1\r\nGameName1=Falcon\r\nGamePath1="
+                       + program.file(u"My games/Falcon/falcon"_s).toLocal8Bit()
+                       + " -g2 \"two words\"\r\nGameDIRPath1="
+                       + program.file(u"My games"_s).toLocal8Bit()
+                       + "\r\nGameJF1=" + program.file(joystickFile).toLocal8Bit()
+                       + "\r\nGameJFmode1=" + QByteArray::number(mode) + "\r\n");
+    }
+
+    /// What the game wrote down; empty when it did not start.
+    QByteArray notes() const { return program.read(u"notes.txt"_s); }
+    QByteArray expectedNotes() const
+    {
+        return "argument -g2\nargument two words\nfolder "
+            + program.file(u"My games"_s).toLocal8Bit() + "\ncallsign Viper\n";
+    }
+    /// The game runs on its own, so its end has to be waited for.
+    void expectStarted()
+    {
+        QElapsedTimer waited;
+        waited.start();
+        while (!program.exists(u"notes.txt"_s) && waited.elapsed() < 10000) {
+            QThread::msleep(10);
+        }
+        EXPECT_EQ(notes().toStdString(), expectedNotes().toStdString());
+    }
+
+    Program program;
+};
+
+} // namespace
+
+TEST_F(ProgramGames, Mode0DownloadsTheGamesFileAndStartsTheGame)
+{
+    settle(0, sample);
+    program.run({ u"trigger mnuGameArray_1"_s,
+                  u"text Panel_1 Compiled successfully. Launching game ..."_s, u"close"_s });
+    expectStarted();
+    EXPECT_EQ(program.setting(u"TMMODE"_s, u"Buttons"_s, u"HOTAS.ini"_s), u"1");
+}
+
+TEST_F(ProgramGames, Mode1IgnoresTheFileAndStartsTheGameInWindowsMode)
+{
+    settle(1, u"Files/nowhere.tmj"_s);
+    program.run({ u"trigger mnuGameArray_1"_s, u"pause 1500"_s, u"close"_s });
+    expectStarted();
+    EXPECT_EQ(program.setting(u"TMMODE"_s, u"Buttons"_s, u"HOTAS.ini"_s), u"0");
+    EXPECT_EQ(program.setting(u"TMMODE"_s, u"Axes"_s, u"HOTAS.ini"_s), u"0");
+}
+
+TEST_F(ProgramGames, Mode2DownloadsTheFileForAllGames)
+{
+    settle(2, u"Files/nowhere.tmj"_s);
+    program.write(u"Files/TM Default for games.tmj"_s, "BTN S2 a\r\n");
+    program.run({ u"trigger mnuGameArray_1"_s,
+                  u"text Panel_1 Compiled successfully. Launching game ..."_s, u"close"_s });
+    expectStarted();
+    EXPECT_THAT(program.setting(u"Compiler"_s, u"FileName"_s, u"HOTAS.ini"_s).toStdString(),
+                HasSubstr("TM Default for games.tmj"));
+}
+
+TEST_F(ProgramGames, AMissingFileEndsTheLaunch)
+{
+    settle(0, u"Files/nowhere.tmj"_s);
+    program.run(
+        { u"trigger mnuGameArray_1"_s, u"box Aborting game launch"_s, u"press OK"_s, u"close"_s });
+    EXPECT_EQ(notes(), QByteArray());
+}
+
+TEST_F(ProgramGames, ALaunchWhoseCompileFailsOpensTheFailedFileAndNeverStartsTheGame)
+{
+    settle(0, u"Files/Broken.tmj"_s);
+    program.write(u"Files/Broken.tmj"_s, "Rem fine\r\nBTN S99 a\r\n");
+    program.run({ u"trigger mnuGameArray_1"_s, u"text JoystickText BTN S99 a"_s,
+                  u"text Panel_1 Compiler error on line 2: ERROR 1002"_s,
+                  u"window Help on compiler errors"_s, u"selection JoystickText BTN S99 a"_s,
+                  u"close"_s },
+                { program.file(sample) });
+    EXPECT_EQ(notes(), QByteArray());
+}
+
+TEST_F(ProgramGames, AfterATimeOutYesStartsTheGame)
+{
+    settle(0, sample);
+    program.setEnvironment(u"ZEPH_STANDIN_SILENT"_s, u"1"_s);
+    const QStringList noted =
+        program.run({ u"trigger mnuGameArray_1"_s,
+                      u"box Now this is taking rather a long time buddy, isn't it?!"_s,
+                      u"press Yes"_s, u"text Panel_1 Done"_s, u"close"_s });
+    EXPECT_THAT(lines(noted),
+                Contains(HasSubstr("Would you like me to continue with running your game now?")));
+    expectStarted();
+}
+
+TEST_F(ProgramGames, AfterATimeOutNoStartsNothing)
+{
+    settle(0, sample);
+    program.setEnvironment(u"ZEPH_STANDIN_SILENT"_s, u"1"_s);
+    program.run({ u"trigger mnuGameArray_1"_s,
+                  u"box Now this is taking rather a long time buddy, isn't it?!"_s, u"press No"_s,
+                  u"text Panel_1 Control returned to you"_s, u"close"_s });
+    EXPECT_EQ(notes(), QByteArray());
+}
