@@ -5,6 +5,7 @@
 
 #include "editor/editor.h"
 #include "shell/compile_menu.h"
+#include "shell/key_tester_menu.h"
 #include "shell/mum.h"
 
 namespace zeph {
@@ -15,6 +16,7 @@ CougarTools::CougarTools(const Context &context, Joystick &joystick, Mum &mum, E
       m_profiles(context, m_handshake), m_afterDownload(context)
 {
     new CompileMenu(context, m_handshake, mum, editor, help);
+    new KeyTesterMenu(context, m_modes, mum, editor);
 }
 
 } // namespace zeph
