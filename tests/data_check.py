@@ -250,6 +250,9 @@ def main():
     check_index(help_folder, trees)
     check_text(data / "Tips.txt", 250)
     check_text(data / "ReadMe.txt")
+    check_text(data / "KeyCodes.txt", 60)
+    if (data / "KeyCodes.txt").read_bytes() != (data / "Info" / "KeyCodes.txt").read_bytes():
+        fault(data / "Info" / "KeyCodes.txt", "is no copy of the table that it is the backup of")
     for path in sorted((data / "Info").glob("*.rtf")):
         check_rtf(path)
     check_information(data)

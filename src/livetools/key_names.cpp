@@ -20,8 +20,8 @@ constexpr int noKeyCode = 65535;
 
 /// By the shift state's bits.
 constexpr std::array<QStringView, 8> prefixes = {
-    u"", u"Shift ", u"Ctrl ", u"Shift Ctrl ", u"Alt ", u"Shift Alt ", u"Ctrl Alt ",
-    u"Shift Ctrl Alt ",
+    u"",     u"Shift ",     u"Ctrl ",     u"Shift Ctrl ",
+    u"Alt ", u"Shift Alt ", u"Ctrl Alt ", u"Shift Ctrl Alt ",
 };
 
 bool isModifier(int keycode)

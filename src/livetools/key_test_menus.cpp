@@ -88,7 +88,8 @@ void KeyTestMenus::addEntry(QMenu *menu, const QString &name, const QString &cap
     const qsizetype line = name.lastIndexOf(u'_');
     const QString array = line < 0 ? name : name.first(line);
     const int index = line < 0 ? -1 : name.sliced(line + 1).toInt();
-    connect(entry, &QAction::triggered, this, [this, array, index] { Q_EMIT chosen(array, index); });
+    connect(entry, &QAction::triggered, this,
+            [this, array, index] { Q_EMIT chosen(array, index); });
 }
 
 QAction *KeyTestMenus::action(QStringView name) const

@@ -91,7 +91,8 @@ QString typedText(const QKeyEvent &event)
 
 KeyTestForm::KeyTestForm(const Context &context, KeyTestHost host, QWidget *parent)
     : QWidget(parent, Qt::Window), m_context(context), m_host(std::move(host)),
-      m_ui(std::make_unique<Ui::KeyTestForm>()), m_menus(new KeyTestMenus(this))
+      m_ui(std::make_unique<Ui::KeyTestForm>()), m_menus(new KeyTestMenus(this)),
+      m_timer1(new QTimer(this))
 {
     m_ui->setupUi(this);
     layout()->setMenuBar(m_menus);
@@ -100,18 +101,18 @@ KeyTestForm::KeyTestForm(const Context &context, KeyTestHost host, QWidget *pare
         list->document()->setMaximumBlockCount(longestList);
     }
     setFontSize(mediumText);
-    m_timer1.setObjectName(u"Timer1"_s);
-    m_timer1.setInterval(defaultDelayMs);
-    m_timer1.setSingleShot(true);
-    connect(&m_timer1, &QTimer::timeout, this, [this] { m_rules.delayOver(); });
+    m_timer1->setObjectName(u"Timer1"_s);
+    m_timer1->setInterval(defaultDelayMs);
+    m_timer1->setSingleShot(true);
+    connect(m_timer1, &QTimer::timeout, this, [this] { m_rules.delayOver(); });
     m_modeTimer.setInterval(checkForCompletionTimeMs(context.settings));
     connect(&m_modeTimer, &QTimer::timeout, this, [this] { readMode(); });
-    connect(m_menus, &KeyTestMenus::chosen, this,
-            guarded(context.dialogs,
-                    [this](const QString &name, int index) { chosen(name, index); }));
+    connect(
+        m_menus, &KeyTestMenus::chosen, this,
+        guarded(context.dialogs, [this](const QString &name, int index) { chosen(name, index); }));
     connect(m_ui->Label1, &QPushButton::clicked, this, [this] { ToggleMenus(); });
     connect(m_ui->LBL_ModeWarning, &QPushButton::clicked, this,
-            guarded(context.dialogs, [this] { LBL_ModeWarning_Click(); }));
+            guarded(context.dialogs, [this](bool) { LBL_ModeWarning_Click(); }));
     paint(m_ui->LBL_ModeWarning, QPalette::Button, QPalette::ButtonText, warning);
     m_ui->LBL_ModeWarning->hide();
     // Before all others: menu bars and shortcuts look at a key before the window that has it.
@@ -151,11 +152,11 @@ bool KeyTestForm::Form_Load()
 void KeyTestForm::GetKeyPosition()
 {
     GlobalSettings &settings = m_context.settings;
-    tellProblems(m_context.dialogs,
-                 readSettings(settings, settingsFilesOf(m_context.paths),
-                              { &G::KeyTopAtStartup, &G::KeyLeftAtStartup, &G::KeyWidthAtStartup,
-                                &G::KeyHeightAtStartup, &G::ClearDelay, &G::KeyViewAll,
-                                &G::MenuDisplay }));
+    tellProblems(
+        m_context.dialogs,
+        readSettings(settings, settingsFilesOf(m_context.paths),
+                     { &G::KeyTopAtStartup, &G::KeyLeftAtStartup, &G::KeyWidthAtStartup,
+                       &G::KeyHeightAtStartup, &G::ClearDelay, &G::KeyViewAll, &G::MenuDisplay }));
     resize(pixelsFromTwips(numberOf(settings, &G::KeyWidthAtStartup)),
            pixelsFromTwips(numberOf(settings, &G::KeyHeightAtStartup)));
     const QPoint corner(pixelsFromTwips(numberOf(settings, &G::KeyLeftAtStartup)),
@@ -216,7 +217,7 @@ bool KeyTestForm::restoreKeyCodes(const QString &path)
         "directory. A backup copy is in your Info subdirectory. I shall attempt to copy this "
         "across and restore the file. Please wait ..."_s,
         BoxIcon::Exclamation);
-    const QString copy = existingPath(m_context.paths.infoFolder() + keyCodesFile);
+    const QString copy = existingPath(m_context.paths.infoFolder() + keyCodesFile.toString());
     if (const auto bytes = readWholeFile(copy)) {
         // Whether it is there now is looked up below, whatever went wrong here.
         (void)writeFileAtomically(path, *bytes);
@@ -301,10 +302,10 @@ void KeyTestForm::setClearDelay(int index)
 {
     const auto interval = clearDelayMs(index);
     m_context.settings.ClearDelay = interval ? qint16(index) : noClearDelay;
-    m_timer1.setInterval(interval.value_or(defaultDelayMs));
+    m_timer1->setInterval(interval.value_or(defaultDelayMs));
     m_menus->tickOnly(u"mnuClearDelay"_s, m_context.settings.ClearDelay);
     if (!interval) {
-        m_timer1.stop();
+        m_timer1->stop();
     }
 }
 
@@ -338,7 +339,7 @@ void KeyTestForm::Form_KeyDown(int keycode, int shift)
         emergency();
         return;
     }
-    m_timer1.stop();
+    m_timer1->stop();
     if (effect.clearsLists) {
         ClearTextBoxes();
     }
@@ -358,9 +359,9 @@ void KeyTestForm::Form_KeyPress(char16_t ascii)
 void KeyTestForm::Form_KeyUp(int keycode, int)
 {
     if (m_context.settings.ClearDelay == noClearDelay) {
-        m_timer1.stop();
+        m_timer1->stop();
     } else {
-        m_timer1.start();
+        m_timer1->start();
     }
     if (keycode >= shiftKeyCode && keycode <= altKeyCode) {
         lightModifiers(1 << (keycode - shiftKeyCode), false);

@@ -97,7 +97,7 @@ private:
     std::unique_ptr<Ui::KeyTestForm> m_ui;
     KeyTestMenus *m_menus;
     KeyTestRules m_rules;
-    QTimer m_timer1;
+    QTimer *m_timer1;
     QTimer m_modeTimer;
     QString m_layoutName;
     ModeReport m_mode;

@@ -89,8 +89,8 @@ constexpr std::array namedKeys = {
 
 // The number pad's own keys, with Num Lock on for the digits and the point.
 constexpr std::array padKeys = {
-    KeyRow{ Qt::Key_Asterisk, 106 }, KeyRow{ Qt::Key_Plus, 107 },   KeyRow{ Qt::Key_Minus, 109 },
-    KeyRow{ Qt::Key_Period, 110 },   KeyRow{ Qt::Key_Comma, 110 },  KeyRow{ Qt::Key_Slash, 111 },
+    KeyRow{ Qt::Key_Asterisk, 106 }, KeyRow{ Qt::Key_Plus, 107 },  KeyRow{ Qt::Key_Minus, 109 },
+    KeyRow{ Qt::Key_Period, 110 },   KeyRow{ Qt::Key_Comma, 110 }, KeyRow{ Qt::Key_Slash, 111 },
     KeyRow{ Qt::Key_Equal, 146 },
 };
 constexpr int firstPadDigit = 96;
@@ -116,11 +116,11 @@ struct SignRow {
     int code;
 };
 constexpr std::array signsOfKeys = {
-    SignRow{ u")", 48 },   SignRow{ u"!", 49 },   SignRow{ u"@", 50 },   SignRow{ u"#", 51 },
-    SignRow{ u"$", 52 },   SignRow{ u"%", 53 },   SignRow{ u"^", 54 },   SignRow{ u"&", 55 },
-    SignRow{ u"*", 56 },   SignRow{ u"(", 57 },   SignRow{ u";:", 186 }, SignRow{ u"=+", 187 },
-    SignRow{ u",<", 188 }, SignRow{ u"-_", 189 }, SignRow{ u".>", 190 }, SignRow{ u"/?", 191 },
-    SignRow{ u"`~", 192 }, SignRow{ u"[{", 219 }, SignRow{ u"\\|", 220 }, SignRow{ u"]}", 221 },
+    SignRow{ u")", 48 },    SignRow{ u"!", 49 },   SignRow{ u"@", 50 },    SignRow{ u"#", 51 },
+    SignRow{ u"$", 52 },    SignRow{ u"%", 53 },   SignRow{ u"^", 54 },    SignRow{ u"&", 55 },
+    SignRow{ u"*", 56 },    SignRow{ u"(", 57 },   SignRow{ u";:", 186 },  SignRow{ u"=+", 187 },
+    SignRow{ u",<", 188 },  SignRow{ u"-_", 189 }, SignRow{ u".>", 190 },  SignRow{ u"/?", 191 },
+    SignRow{ u"`~", 192 },  SignRow{ u"[{", 219 }, SignRow{ u"\\|", 220 }, SignRow{ u"]}", 221 },
     SignRow{ u"'\"", 222 },
 };
 

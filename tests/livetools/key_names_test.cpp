@@ -7,6 +7,10 @@
 
 #include <gtest/gtest.h>
 
+#include <QSet>
+
+#include <array>
+
 using namespace zeph;
 
 namespace {
@@ -63,10 +67,10 @@ TEST(KeyTable, TwoLinesWithTheSameCodeTheLaterNameWins)
 
 TEST(WhichKey, PutsThePrefixOfTheShiftStateBeforeTheName)
 {
-    const std::array<QString, 8> prefixed = {
-        u"Enter"_s,     u"Shift Enter"_s,     u"Ctrl Enter"_s,     u"Shift Ctrl Enter"_s,
-        u"Alt Enter"_s, u"Shift Alt Enter"_s, u"Ctrl Alt Enter"_s, u"Shift Ctrl Alt Enter"_s
-    };
+    const std::array<QString, 8> prefixed = { u"Enter"_s,          u"Shift Enter"_s,
+                                              u"Ctrl Enter"_s,     u"Shift Ctrl Enter"_s,
+                                              u"Alt Enter"_s,      u"Shift Alt Enter"_s,
+                                              u"Ctrl Alt Enter"_s, u"Shift Ctrl Alt Enter"_s };
     for (int shift = 0; shift < 8; ++shift) {
         EXPECT_EQ(WhichKey(table, 13, shift), shown(prefixed[size_t(shift)])) << shift;
     }
@@ -107,7 +111,7 @@ TEST(WhichKey, ModifiersHaveNoNameOfTheirOwn)
 TEST(EventLine, TellsModifiersDigitsLettersNamesAndCodes)
 {
     const std::pair<int, QString> names[] = {
-        { 16, u"SHF"_s }, { 17, u"CTL"_s }, { 18, u"ALT"_s }, { 48, u"0"_s }, { 57, u"9"_s },
+        { 16, u"SHF"_s }, { 17, u"CTL"_s }, { 18, u"ALT"_s },   { 48, u"0"_s },   { 57, u"9"_s },
         { 65, u"a"_s },   { 90, u"z"_s },   { 13, u"Enter"_s }, { 112, u"F1"_s },
     };
     for (const auto &[code, name] : names) {
@@ -129,7 +133,7 @@ TEST(InstalledKeyCodes, NameEveryKeyOfAFullKeyboardOnce)
     ASSERT_TRUE(bytes);
     const KeyTable installed = keyTableFrom(fromText1252(*bytes));
     QList<int> codes = { 8, 9, 12, 13, 19, 20, 27, 32, 44, 45, 46, 91, 92, 93, 144, 145, 226 };
-    const std::pair<int, int> ranges[] = { { 33, 40 },   { 48, 57 },   { 65, 90 },  { 96, 107 },
+    const std::pair<int, int> ranges[] = { { 33, 40 },   { 48, 57 },   { 65, 90 },   { 96, 107 },
                                            { 109, 111 }, { 112, 135 }, { 186, 192 }, { 219, 222 } };
     for (const auto &[first, last] : ranges) {
         for (int code = first; code <= last; ++code) {

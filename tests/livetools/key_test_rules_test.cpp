@@ -114,7 +114,7 @@ TEST(KeyTestRules, TheFirstKeyClearsNothing)
 TEST(ClearDelay, IsOffOrTheIntervalOfAMenuEntry)
 {
     const std::pair<int, std::optional<int>> intervals[] = {
-        { -2, {} },  { -1, {} },   { 0, 200 },  { 1, 400 },
+        { -2, {} }, { -1, {} }, { 0, 200 },  { 1, 400 },
         { 2, 600 }, { 3, 800 }, { 4, 1000 }, { 5, {} },
     };
     for (const auto &[delay, interval] : intervals) {

@@ -93,7 +93,7 @@ TEST(VirtualKeys, AreThoseOfWindows)
 TEST(VirtualKeys, OfTheSystemItselfTellLeftAndRightModifiersAsOne)
 {
     const std::pair<quint32, int> codes[] = {
-        { 0xA0, 16 }, { 0xA1, 16 }, { 0xA2, 17 }, { 0xA3, 17 },     { 0xA4, 18 },  { 0xA5, 18 },
+        { 0xA0, 16 }, { 0xA1, 16 }, { 0xA2, 17 }, { 0xA3, 17 },    { 0xA4, 18 },  { 0xA5, 18 },
         { 0x10, 16 }, { 0x41, 65 }, { 0, 255 },   { 0x1000, 255 }, { 0xFE, 254 },
     };
     for (const auto &[native, code] : codes) {
