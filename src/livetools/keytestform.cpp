@@ -262,7 +262,8 @@ void KeyTestForm::ResizeStuff()
 {
     const QString whole = u"Up/Down/Keycode events"_s;
     QLabel *heading = m_ui->LabelEvents;
-    const bool fits = heading->fontMetrics().horizontalAdvance(whole) <= heading->width();
+    const int room = heading->width() - 2 * heading->indent();
+    const bool fits = heading->fontMetrics().horizontalAdvance(whole) <= room;
     heading->setText(fits ? whole : u"Events"_s);
 }
 
@@ -469,6 +470,11 @@ void KeyTestForm::keyReleased(const QKeyEvent &event)
 bool KeyTestForm::eventFilter(QObject *watched, QEvent *event)
 {
     const auto type = event->type();
+    if (type == QEvent::Resize && watched == m_ui->LabelEvents) {
+        // Its own size, which comes after the window's.
+        ResizeStuff();
+        return false;
+    }
     if (type != QEvent::KeyPress && type != QEvent::KeyRelease && type != QEvent::ShortcutOverride
         && type != QEvent::ContextMenu) {
         return false;
@@ -498,13 +504,6 @@ void KeyTestForm::changeEvent(QEvent *event)
         lightModifiers(ShiftDown | CtrlDown | AltDown, false);
         showNumLock();
     }
-}
-
-void KeyTestForm::resizeEvent(QResizeEvent *event)
-{
-    QWidget::resizeEvent(event);
-    layout()->activate();
-    ResizeStuff();
 }
 
 void KeyTestForm::closeEvent(QCloseEvent *event)

@@ -417,6 +417,7 @@ TEST_F(KeyTester, TheFirstTimeEverythingIsShownAndTheDelayIsOff)
 {
     ASSERT_TRUE(open());
     EXPECT_EQ(form->pos(), QPoint(2, 2)) << "30 twips";
+    EXPECT_EQ(child<QLabel>(u"LabelEvents"_s)->text(), u"Up/Down/Keycode events");
     EXPECT_EQ(settings.ClearDelay, -1);
     EXPECT_EQ(child<QTimer>(u"Timer1"_s)->interval(), 500);
     EXPECT_TRUE(action(u"mnuClear"_s)->isVisible());
@@ -436,7 +437,7 @@ TEST_F(KeyTester, AMissingTableIsRestoredFromItsCopy)
     EXPECT_EQ(
         dialogs.boxes().last().text,
         folder.file(u"KeyCodes.txt"_s)
-            + u" has been successfully restored. Please stop misbehaving with my file system!");
+            + u" has been successfully restored. Please stop misbehaving with my file system!"_s);
     EXPECT_EQ(folder.read(u"KeyCodes.txt"_s), "9,The Tab\r\n");
     stroke(Qt::Key_Tab);
     EXPECT_EQ(keys(), u"The Tab\n");
@@ -450,7 +451,7 @@ TEST_F(KeyTester, ATableThatCannotBeRestoredEndsItsOpening)
     EXPECT_FALSE(open());
     EXPECT_EQ(dialogs.boxes().last().text,
               u"I was unable to restore "_s + folder.file(u"KeyCodes.txt"_s)
-                  + u" - please close down the Key Tester and restore the file manually.");
+                  + u" - please close down the Key Tester and restore the file manually."_s);
     EXPECT_TRUE(asked.isEmpty());
 }
 
