@@ -255,6 +255,9 @@ def main():
     check_text(data / "ReadMe.txt")
     for path in sorted((data / "Files").iterdir()):
         check_text(path)
+    check_text(data / "KeyCodes.txt", 60)
+    if (data / "KeyCodes.txt").read_bytes() != (data / "Info" / "KeyCodes.txt").read_bytes():
+        fault(data / "Info" / "KeyCodes.txt", "is no copy of the table that it is the backup of")
     for path in sorted((data / "Info").glob("*.rtf")):
         check_rtf(path)
     check_information(data)

@@ -204,7 +204,7 @@ constexpr std::array actions = {
     line(u"mnuApps"),
     ActionRow{u"mnuApps", u"mnuAppsMultiEditor", u"Multip&le File Editor", u"", u"", u"multi-editor", Always, Entry},
     ActionRow{u"mnuApps", u"mnuAppsLauncher", u"Lau&ncher", u"", u"", u"launcher", Always, Entry},
-    ActionRow{u"mnuApps", u"mnuAppsKeyTester", u"&Key Tester", u"Ctrl+K", u"Shows which keys the Cougar sends", u"key-tester", Later, Entry},
+    ActionRow{u"mnuApps", u"mnuAppsKeyTester", u"&Key Tester", u"Ctrl+K", u"Shows which keys the Cougar sends", u"key-tester", Always, Entry},
     ActionRow{u"mnuApps", u"mnuAppsAnalyser", u"Joystick &analyser", u"", u"", u"analyser", Always, Entry},
     line(u"mnuApps", u"mnuAppsDX8Divider"),
     ActionRow{u"mnuApps", u"mnuAppsDX8_0", u"DirectX key tester", u"", u"", u"", Always, Entry},

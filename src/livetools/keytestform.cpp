@@ -3,13 +3,518 @@
 
 #include "livetools/keytestform.h"
 
-#include <utility>
+#include "livetools/key_test_menus.h"
+#include "livetools/virtual_keys.h"
+#include "platform/core/file_io.h"
+#include "platform/core/text1252.h"
+#include "platform/core/units.h"
+#include "platform/handlers.h"
+#include "platform/keyboard.h"
+#include "platform/rich_text_box.h"
+#include "shell/settings/settings_files.h"
+#include "ui_keytestform.h"
+
+#include <QAction>
+#include <QClipboard>
+#include <QContextMenuEvent>
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QPointer>
+#include <QScreen>
+
+#include <array>
 
 namespace zeph {
 
-KeyTestForm::KeyTestForm(const Context &context, KeyTestHost host, QWidget *parent)
-    : QWidget(parent, Qt::Window), m_context(context), m_host(std::move(host))
+namespace {
+
+using G = GlobalSettings;
+
+constexpr int defaultDelayMs = 500;
+constexpr int layoutNameLength = 10;
+/// A Cougar that sends without end must not fill the memory.
+constexpr int longestList = 10000;
+
+constexpr std::array fontPoints = { 8, 10, 14 };
+constexpr int mediumText = 1;
+
+constexpr QColor lit(0xFF, 0xC0, 0x80);
+constexpr QColor menusShown(0x00, 0xFF, 0x00);
+constexpr QColor menusHidden(0xFF, 0x00, 0x00);
+
+constexpr QColor warning(0xFF, 0x80, 0x80);
+
+constexpr int programmedMode = 1;
+
+constexpr QStringView keyCodesFile = u"KeyCodes.txt";
+
+void append(RichTextBox *list, const QString &text)
 {
+    QTextCursor end(list->document());
+    end.movePosition(QTextCursor::End);
+    end.insertText(text);
+    list->setTextCursor(end);
+    list->ensureCursorVisible();
+}
+
+void paint(QWidget *widget, QPalette::ColorRole back, QPalette::ColorRole text, QColor colour)
+{
+    QPalette look;
+    look.setColor(back, colour);
+    look.setColor(text, Qt::black);
+    widget->setPalette(look);
+}
+
+KeyStroke strokeOf(const QKeyEvent &event)
+{
+    return { Qt::Key(event.key()), event.modifiers(), event.nativeScanCode(),
+             event.nativeVirtualKey() };
+}
+
+int keyCodeOf(const KeyStroke &stroke)
+{
+#ifdef Q_OS_WIN
+    return virtualKeyOfNative(stroke.nativeCode);
+#else
+    return virtualKeyOf(stroke);
+#endif
+}
+
+/// What a key types. Alt with a letter types nothing, as it is a command everywhere.
+QString typedText(const QKeyEvent &event)
+{
+    const auto commands = event.modifiers() & (Qt::AltModifier | Qt::ControlModifier);
+    return commands == Qt::AltModifier ? QString() : event.text();
+}
+
+} // namespace
+
+KeyTestForm::KeyTestForm(const Context &context, KeyTestHost host, QWidget *parent)
+    : QWidget(parent, Qt::Window), m_context(context), m_host(std::move(host)),
+      m_ui(std::make_unique<Ui::KeyTestForm>()), m_menus(new KeyTestMenus(this)),
+      m_timer1(new QTimer(this))
+{
+    m_ui->setupUi(this);
+    layout()->setMenuBar(m_menus);
+    for (RichTextBox *list : { m_ui->RTFKeysText, m_ui->RTFKeysDownText }) {
+        list->setUndoRedoEnabled(false);
+        list->document()->setMaximumBlockCount(longestList);
+    }
+    setFontSize(mediumText);
+    m_timer1->setObjectName(u"Timer1"_s);
+    m_timer1->setInterval(defaultDelayMs);
+    m_timer1->setSingleShot(true);
+    connect(m_timer1, &QTimer::timeout, this, [this] { m_rules.delayOver(); });
+    m_modeTimer.setInterval(checkForCompletionTimeMs(context.settings));
+    connect(&m_modeTimer, &QTimer::timeout, this, [this] { readMode(); });
+    connect(
+        m_menus, &KeyTestMenus::chosen, this,
+        guarded(context.dialogs, [this](const QString &name, int index) { chosen(name, index); }));
+    connect(m_ui->Label1, &QPushButton::clicked, this, [this] { ToggleMenus(); });
+    connect(m_ui->LBL_ModeWarning, &QPushButton::clicked, this,
+            guarded(context.dialogs, [this](bool) { LBL_ModeWarning_Click(); }));
+    paint(m_ui->LBL_ModeWarning, QPalette::Button, QPalette::ButtonText, warning);
+    m_ui->LBL_ModeWarning->hide();
+    // Before all others: menu bars and shortcuts look at a key before the window that has it.
+    QCoreApplication::instance()->installEventFilter(this);
+}
+
+KeyTestForm::~KeyTestForm() = default;
+
+bool KeyTestForm::Form_Load()
+{
+    m_layoutName = m_context.keyboard.layoutName().left(layoutNameLength);
+    if (!m_layoutName.isEmpty()) {
+        m_ui->LabelKeys->setToolTip(u"Keyboard layout: "_s + m_layoutName);
+    }
+    ClearTextBoxes();
+    showNumLock();
+    if (m_context.keyboard.capsLockOn()) {
+        TurnOffCapsLOCK();
+    }
+    GetKeyPosition();
+    m_menus->action(u"mnuDX8KeyTester")->setVisible(m_host.hasDirectXTester());
+    ResizeStuff();
+    if (!GetMappedCharacters()) {
+        return false;
+    }
+    const QPointer<KeyTestForm> alive(this);
+    m_host.changeButtonsMode(true);
+    QCoreApplication::processEvents();
+    if (!alive) {
+        return false;
+    }
+    m_modeTimer.start();
+    readMode();
+    return true;
+}
+
+void KeyTestForm::GetKeyPosition()
+{
+    GlobalSettings &settings = m_context.settings;
+    tellProblems(
+        m_context.dialogs,
+        readSettings(settings, settingsFilesOf(m_context.paths),
+                     { &G::KeyTopAtStartup, &G::KeyLeftAtStartup, &G::KeyWidthAtStartup,
+                       &G::KeyHeightAtStartup, &G::ClearDelay, &G::KeyViewAll, &G::MenuDisplay }));
+    resize(pixelsFromTwips(numberOf(settings, &G::KeyWidthAtStartup)),
+           pixelsFromTwips(numberOf(settings, &G::KeyHeightAtStartup)));
+    const QPoint corner(pixelsFromTwips(numberOf(settings, &G::KeyLeftAtStartup)),
+                        pixelsFromTwips(numberOf(settings, &G::KeyTopAtStartup)));
+    // A screen that was there last time may be gone.
+    if (QGuiApplication::screenAt(corner)) {
+        move(corner);
+    }
+    setClearDelay(settings.ClearDelay);
+    showKeyEvents(settings.KeyViewAll != 0);
+    showMenus(settings.MenuDisplay != 0);
+}
+
+void KeyTestForm::SaveKeyFormPosition()
+{
+    GlobalSettings &settings = m_context.settings;
+    if (!isMinimized() && !isMaximized()) {
+        settings.KeyTopAtStartup = QString::number(twipsFromPixels(y()));
+        settings.KeyLeftAtStartup = QString::number(twipsFromPixels(x()));
+        settings.KeyWidthAtStartup = QString::number(twipsFromPixels(width()));
+        settings.KeyHeightAtStartup = QString::number(twipsFromPixels(height()));
+    }
+    // A store that cannot be written makes no fuss.
+    (void)saveSettings(settings, settingsFilesOf(m_context.paths),
+                       { &G::KeyTopAtStartup, &G::KeyLeftAtStartup, &G::KeyWidthAtStartup,
+                         &G::KeyHeightAtStartup, &G::ClearDelay, &G::KeyViewAll, &G::MenuDisplay });
+}
+
+void KeyTestForm::ClearTextBoxes()
+{
+    m_ui->RTFKeysText->clear();
+    m_ui->RTFKeysDownText->clear();
+}
+
+bool KeyTestForm::GetMappedCharacters()
+{
+    const QString path = m_context.paths.inApp(keyCodesFile);
+    if (!fileExists(path) && !restoreKeyCodes(path)) {
+        return false;
+    }
+    const auto bytes = readWholeFile(existingPath(path));
+    if (!bytes) {
+        m_context.dialogs.tell(u"Key Tester"_s,
+                               u"I can't read "_s + bytes.error().path + u":\n"_s
+                                   + bytes.error().reason,
+                               BoxIcon::Stop);
+        return false;
+    }
+    m_rules.setTable(keyTableFrom(fromText1252(*bytes)));
+    return true;
+}
+
+bool KeyTestForm::restoreKeyCodes(const QString &path)
+{
+    m_context.dialogs.tell(
+        u"KeyCodes.txt is missing !!!"_s,
+        u"You're missing a critical file, called KeyCodes.txt which should be located in Zeph's "
+        "directory. A backup copy is in your Info subdirectory. I shall attempt to copy this "
+        "across and restore the file. Please wait ..."_s,
+        BoxIcon::Exclamation);
+    const QString copy = existingPath(m_context.paths.infoFolder() + keyCodesFile.toString());
+    if (const auto bytes = readWholeFile(copy)) {
+        // Whether it is there now is looked up below, whatever went wrong here.
+        (void)writeFileAtomically(path, *bytes);
+    }
+    if (fileExists(path)) {
+        m_context.dialogs.tell(
+            u"Well I saved your butt!"_s,
+            path
+                + u" has been successfully restored. Please stop misbehaving with my file system!"_s);
+        return true;
+    }
+    m_context.dialogs.tell(u"It didn't work :("_s,
+                           u"I was unable to restore "_s + path
+                               + u" - please close down the Key Tester and restore the file "
+                                 "manually."_s,
+                           BoxIcon::Stop);
+    return false;
+}
+
+void KeyTestForm::TurnOffCapsLOCK()
+{
+    m_context.keyboard.turnOffCapsLock();
+}
+
+void KeyTestForm::ToggleMenus()
+{
+    showMenus(m_context.settings.MenuDisplay == 0);
+}
+
+void KeyTestForm::showMenus(bool shown)
+{
+    m_context.settings.MenuDisplay = shown ? 1 : 0;
+    // Not the bar alone: its entries are what tests and assistive programs look at.
+    for (const QStringView name : { u"mnuEmergency", u"mnuClear", u"mnuView", u"mnuCopy" }) {
+        m_menus->action(name)->setVisible(shown);
+    }
+    m_menus->setVisible(shown);
+    paint(m_ui->Label1, QPalette::Button, QPalette::ButtonText, shown ? menusShown : menusHidden);
+}
+
+void KeyTestForm::ResizeStuff()
+{
+    const QString whole = u"Up/Down/Keycode events"_s;
+    QLabel *heading = m_ui->LabelEvents;
+    const int room = heading->width() - 2 * heading->indent();
+    const bool fits = heading->fontMetrics().horizontalAdvance(whole) <= room;
+    heading->setText(fits ? whole : u"Events"_s);
+}
+
+void KeyTestForm::chosen(const QString &name, int index)
+{
+    if (name == u"mnuEmergencyOff") {
+        m_host.changeButtonsMode(false);
+    } else if (name == u"mnuMemoryClear") {
+        m_host.mnuMemoryClear_Click(index);
+    } else if (name == u"mnuYankCord") {
+        m_context.dialogs.tell(
+            u"I suppose you want me to make you a cup of tea as well"_s,
+            u"You don't think I can do this for you, do you? I'm just a computer, and I've got "
+            "enough of my own problems thank you very much without having to be burdened with "
+            "yours."_s);
+    } else if (name == u"mnuClearDelay") {
+        chooseClearDelay(index);
+    } else if (name == u"mnuClearAll") {
+        ClearTextBoxes();
+    } else if (name == u"mnuViewKeyEvents") {
+        showKeyEvents(m_context.settings.KeyViewAll == 0);
+    } else if (name == u"mnuFontSize") {
+        setFontSize(index);
+    } else if (name == u"mnuCopyList") {
+        copyList(index);
+    } else if (name == u"mnuDX8KeyTester") {
+        m_host.startDirectXTester();
+    }
+}
+
+void KeyTestForm::chooseClearDelay(int index)
+{
+    setClearDelay(index == m_context.settings.ClearDelay ? int(noClearDelay) : index);
+}
+
+void KeyTestForm::setClearDelay(int index)
+{
+    const auto interval = clearDelayMs(index);
+    m_context.settings.ClearDelay = interval ? qint16(index) : noClearDelay;
+    m_timer1->setInterval(interval.value_or(defaultDelayMs));
+    m_menus->tickOnly(u"mnuClearDelay"_s, m_context.settings.ClearDelay);
+    if (!interval) {
+        m_timer1->stop();
+    }
+}
+
+void KeyTestForm::setFontSize(int index)
+{
+    QFont font;
+    font.setPointSize(fontPoints[size_t(index)]);
+    for (RichTextBox *list : { m_ui->RTFKeysText, m_ui->RTFKeysDownText }) {
+        list->setFont(font);
+    }
+    m_menus->tickOnly(u"mnuFontSize"_s, index);
+}
+
+void KeyTestForm::showKeyEvents(bool shown)
+{
+    m_context.settings.KeyViewAll = shown ? 1 : 0;
+    m_ui->PaneEvents->setVisible(shown);
+    m_menus->action(u"mnuViewKeyEvents")->setChecked(shown);
+}
+
+void KeyTestForm::copyList(int index) const
+{
+    const RichTextBox *list = index == 0 ? m_ui->RTFKeysText : m_ui->RTFKeysDownText;
+    QGuiApplication::clipboard()->setText(list->toPlainText());
+}
+
+void KeyTestForm::Form_KeyDown(int keycode, int shift)
+{
+    const KeyDownEffect effect = m_rules.keyDown(keycode, shift);
+    if (effect.emergency) {
+        emergency();
+        return;
+    }
+    m_timer1->stop();
+    if (effect.clearsLists) {
+        ClearTextBoxes();
+    }
+    lightModifiers(shift, true);
+    if (effect.turnsOffCapsLock) {
+        TurnOffCapsLOCK();
+    }
+    append(m_ui->RTFKeysDownText, effect.eventText);
+    append(m_ui->RTFKeysText, effect.keyText);
+}
+
+void KeyTestForm::Form_KeyPress(char16_t ascii)
+{
+    append(m_ui->RTFKeysText, m_rules.keyPress(ascii));
+}
+
+void KeyTestForm::Form_KeyUp(int keycode, int)
+{
+    if (m_context.settings.ClearDelay == noClearDelay) {
+        m_timer1->stop();
+    } else {
+        m_timer1->start();
+    }
+    if (keycode >= shiftKeyCode && keycode <= altKeyCode) {
+        lightModifiers(1 << (keycode - shiftKeyCode), false);
+    }
+    showNumLock();
+    if (keycode == capsLockKeyCode) {
+        TurnOffCapsLOCK();
+    }
+    append(m_ui->RTFKeysDownText, m_rules.keyUp(keycode));
+}
+
+void KeyTestForm::emergency()
+{
+    const QPointer<KeyTestForm> alive(this);
+    m_host.emergencyOff();
+    if (alive) {
+        close();
+    }
+}
+
+void KeyTestForm::light(QLabel *label, bool on) const
+{
+    if (on) {
+        paint(label, QPalette::Window, QPalette::WindowText, lit);
+    } else {
+        label->setPalette(QPalette());
+    }
+}
+
+void KeyTestForm::lightModifiers(int shift, bool on) const
+{
+    const std::array labels = { m_ui->LabelSHIFT, m_ui->LabelCTRL, m_ui->LabelALT };
+    for (size_t bit = 0; bit < labels.size(); ++bit) {
+        if (shift & (1 << bit)) {
+            light(labels[bit], on);
+        }
+    }
+}
+
+void KeyTestForm::showNumLock() const
+{
+    light(m_ui->LabelNUMLOCK, m_context.keyboard.numLockOn());
+}
+
+void KeyTestForm::readMode()
+{
+    m_mode = HotasIni(m_context.paths.hotasIni()).readMode();
+    const bool good = m_mode.Status != u"ERROR" && m_mode.Buttons == programmedMode;
+    m_ui->LBL_ModeWarning->setVisible(!good);
+    if (good) {
+        // The request is not waited for, so the tools' answer may come only now. A later change of
+        // mode is the pilot's own and no error.
+        m_modeTimer.stop();
+    }
+}
+
+void KeyTestForm::LBL_ModeWarning_Click()
+{
+    const QString outcome = m_mode.Status == u"ERROR"
+        ? u"signalled back to Zeph that the request to change modes generated an error. "_s
+        : u"signalled back to Zeph that they didn't generate an error when trying to change to "
+          "Programmed mode, but there again, they didn't report that they'd actually been "
+          "successful in changing the controller mode."_s;
+    m_context.dialogs.tell(
+        u"Your Cougar needs a slap"_s,
+        u"When you run the Key Tester, what Zeph attempts to do is to put the Cougar into "
+        "programmed mode. After all, it doesn't make sense to run the Key tester if all of your "
+        "controller buttons are in Windows (DirectX) mode.\n"
+        "However, for some reason there was a problem trying to put the controllers into "
+        "Programmed mode. The controllers "_s
+            + outcome
+            + u"\nI suggest that you close down the Key Tester, and try to put the Cougar into "
+              "programmed mode manually. You can do this either from the Status bar, or from the "
+              "Editor's Cougar menu, or from the CCP. And don't even think about blaming me for "
+              "this. I'm just the messenger!"_s,
+        BoxIcon::Exclamation);
+}
+
+void KeyTestForm::keyPressed(const QKeyEvent &event)
+{
+    m_context.keyboard.noteNativeModifiers(event.nativeModifiers());
+    const KeyStroke stroke = strokeOf(event);
+    const QString text = typedText(event);
+    const QPointer<KeyTestForm> alive(this);
+    Form_KeyDown(keyCodeOf(stroke), shiftStateOf(stroke));
+    for (const QChar character : text) {
+        if (alive && character.isPrint()) {
+            Form_KeyPress(character.unicode());
+        }
+    }
+}
+
+void KeyTestForm::keyReleased(const QKeyEvent &event)
+{
+    m_context.keyboard.noteNativeModifiers(event.nativeModifiers());
+    // Some systems tell a key that is held as one that is let go again and again.
+    if (!event.isAutoRepeat()) {
+        const KeyStroke stroke = strokeOf(event);
+        Form_KeyUp(keyCodeOf(stroke), shiftStateOf(stroke));
+        // AltGr, which counts for two, is let go as one.
+        lightModifiers(~shiftStateOf(stroke), false);
+    }
+}
+
+bool KeyTestForm::eventFilter(QObject *watched, QEvent *event)
+{
+    const auto type = event->type();
+    if (type == QEvent::Resize && watched == m_ui->LabelEvents) {
+        // Its own size, which comes after the window's.
+        ResizeStuff();
+        return false;
+    }
+    if (type != QEvent::KeyPress && type != QEvent::KeyRelease && type != QEvent::ShortcutOverride
+        && type != QEvent::ContextMenu) {
+        return false;
+    }
+    const auto *widget = qobject_cast<QWidget *>(watched);
+    if (!widget || widget->window() != this) {
+        return false;
+    }
+    if (type == QEvent::ContextMenu) {
+        return static_cast<QContextMenuEvent *>(event)->reason() == QContextMenuEvent::Keyboard;
+    }
+    event->accept();
+    auto &key = *static_cast<QKeyEvent *>(event);
+    if (type == QEvent::KeyPress) {
+        guarded(m_context.dialogs, [this, &key] { keyPressed(key); })();
+    } else if (type == QEvent::KeyRelease) {
+        guarded(m_context.dialogs, [this, &key] { keyReleased(key); })();
+    }
+    return true;
+}
+
+void KeyTestForm::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::ActivationChange) {
+        // Keys let go elsewhere are not told here.
+        lightModifiers(ShiftDown | CtrlDown | AltDown, false);
+        showNumLock();
+    }
+}
+
+void KeyTestForm::closeEvent(QCloseEvent *event)
+{
+    SaveKeyFormPosition();
+    QWidget::closeEvent(event);
+}
+
+bool KeyTestForm::focusNextPrevChild(bool)
+{
+    return false;
 }
 
 } // namespace zeph

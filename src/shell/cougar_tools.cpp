@@ -8,6 +8,7 @@
 #include "shell/download_menu.h"
 #include "shell/games_menu.h"
 #include "shell/mode_menu.h"
+#include "shell/key_tester_menu.h"
 #include "shell/mum.h"
 #include "shell/tools_menu.h"
 
@@ -28,6 +29,8 @@ void CougarTools::attach(const Context &context, Mum &mum, Editor &editor, HelpM
                      { m_handshake, m_modes, m_profiles, m_afterDownload, *compile, editor });
     new GamesMenu(context,
                   { mum, editor, *compile, m_handshake, m_modes, m_profiles, m_afterDownload });
+    new CompileMenu(context, m_handshake, mum, editor, help);
+    new KeyTesterMenu(context, m_modes, mum, editor);
 }
 
 } // namespace zeph

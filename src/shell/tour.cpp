@@ -12,6 +12,7 @@
 #include "editor/macro_features.h"
 #include "editor/right_menu.h"
 #include "editor/styleeditor.h"
+#include "livetools/keytestform.h"
 #include "platform/core/file_io.h"
 #include "shell/application.h"
 #include "shell/mum.h"
@@ -68,6 +69,25 @@ void compileMistake(Application &application)
         application.editor().opening().OpenFavouriteFile(path);
         application.editor().actions().trigger(u"mnuAppsCompile");
     }
+}
+
+/// Presses a few keys in the Key Tester, with its menus or without.
+void showKeyTester(Application &application, bool withMenus)
+{
+    application.editor().actions().trigger(u"mnuAppsKeyTester");
+    auto *tester = application.mum().toolWindows().get<KeyTestForm>();
+    if (!tester) {
+        return;
+    }
+    if (application.settings().MenuDisplay != (withMenus ? 1 : 0)) {
+        tester->ToggleMenus();
+    }
+    constexpr int shift = 1;
+    for (const int code : { 16, 67, 112, 38 }) {
+        tester->Form_KeyDown(code, shift);
+        tester->Form_KeyUp(code, shift);
+    }
+    tester->Form_KeyDown(17, 2);
 }
 
 } // namespace
@@ -212,6 +232,14 @@ void Tour::addStops(Application &application)
         { u"select-profile-done"_s,
           [this] {
               lookAtModal(u"mnuDownloadProfile"_s, u"select-profile"_s);
+          } },
+        { u"key-tester"_s,
+          [&application] {
+              showKeyTester(application, true);
+          } },
+        { u"key-tester-no-menus"_s,
+          [&application] {
+              showKeyTester(application, false);
           } },
         { u"tip"_s,
           [&application] {

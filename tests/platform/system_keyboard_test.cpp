@@ -25,6 +25,29 @@ TEST(SystemKeyboard, CannotPutALayoutBack)
     EXPECT_FALSE(SystemKeyboard().loadLayout(u"de_DE"_s));
 }
 
+TEST(SystemKeyboard, WithoutAServerToAskTheLocksAreThoseOfTheLastKeyEvent)
+{
+    SystemKeyboard keyboard;
+    EXPECT_FALSE(keyboard.numLockOn());
+    EXPECT_FALSE(keyboard.capsLockOn());
+    keyboard.noteNativeModifiers(0x10);
+    EXPECT_TRUE(keyboard.numLockOn());
+    EXPECT_FALSE(keyboard.capsLockOn());
+    keyboard.noteNativeModifiers(0x03);
+    EXPECT_FALSE(keyboard.numLockOn());
+    EXPECT_TRUE(keyboard.capsLockOn());
+    EXPECT_FALSE(keyboard.turnOffCapsLock()) << "nobody lets it";
+}
+
+TEST(FakeKeyboard, TurnsItsCapsLockOff)
+{
+    FakeKeyboard keyboard;
+    keyboard.capsLock = true;
+    EXPECT_TRUE(keyboard.turnOffCapsLock());
+    EXPECT_FALSE(keyboard.capsLockOn());
+    EXPECT_EQ(keyboard.timesCapsLockTurnedOff, 1);
+}
+
 TEST(FakeKeyboard, RecordsWhatIsLoaded)
 {
     FakeKeyboard keyboard;

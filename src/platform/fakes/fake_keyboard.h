@@ -9,7 +9,8 @@
 
 namespace zeph {
 
-/// A keyboard for tests: tells the layout that it was given and records what was loaded.
+/// A keyboard for tests: tells the layout and the locks that it was given and records what was
+/// loaded and turned off.
 class FakeKeyboard : public Keyboard
 {
 public:
@@ -17,6 +18,11 @@ public:
     /// What loadLayout() answers; a layout that was loaded is then in force.
     bool canLoad = true;
     QStringList loaded;
+
+    bool numLock = false;
+    bool capsLock = false;
+    int timesCapsLockTurnedOff = 0;
+    quint32 nativeModifiers = 0;
 
     QString layoutName() const override { return layout; }
     bool loadLayout(const QString &name) override
@@ -27,6 +33,15 @@ public:
         }
         return canLoad;
     }
+    bool numLockOn() const override { return numLock; }
+    bool capsLockOn() const override { return capsLock; }
+    bool turnOffCapsLock() override
+    {
+        ++timesCapsLockTurnedOff;
+        capsLock = false;
+        return true;
+    }
+    void noteNativeModifiers(quint32 modifiers) override { nativeModifiers = modifiers; }
 };
 
 } // namespace zeph

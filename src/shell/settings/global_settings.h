@@ -111,6 +111,14 @@ struct GlobalSettings {
     QString VersionURL;
     // Launcher
     qint16 NumlockDownloadMode;
+    // Key Tester
+    QString KeyTopAtStartup;
+    QString KeyLeftAtStartup;
+    QString KeyWidthAtStartup;
+    QString KeyHeightAtStartup;
+    qint16 ClearDelay;
+    qint16 KeyViewAll;
+    qint16 MenuDisplay;
     // HOTAS.ini, Defaults
     qint16 DownloadMode;
 };

@@ -66,6 +66,7 @@ constexpr bool notSaved = false;
 constexpr QStringView locations = u"FileLocations";
 constexpr QStringView misc = u"Miscellaneous";
 constexpr QStringView unsupported = u"Unsupported";
+constexpr QStringView keyTester = u"Key Tester";
 
 // What a deleted colour key reads as; not the first run's colour, so that the loss is seen.
 constexpr QStringView lost = u"16744448";
@@ -144,6 +145,14 @@ constexpr std::array table = {
     text(unsupported, u"VersionURL", &G::VersionURL, u"", notSaved),
 
     integer(u"Launcher", u"NumlockDownloadMode", &G::NumlockDownloadMode, u"0", notSaved),
+
+    number(keyTester, u"KeyTopAtStartup", &G::KeyTopAtStartup, u"30", notSaved),
+    number(keyTester, u"KeyLeftAtStartup", &G::KeyLeftAtStartup, u"30", notSaved),
+    number(keyTester, u"KeyWidthAtStartup", &G::KeyWidthAtStartup, u"8250", notSaved),
+    number(keyTester, u"KeyHeightAtStartup", &G::KeyHeightAtStartup, u"5250", notSaved),
+    integer(keyTester, u"ClearDelay", &G::ClearDelay, u"-1", notSaved),
+    integer(keyTester, u"KeyViewAll", &G::KeyViewAll, u"1", notSaved),
+    integer(keyTester, u"MenuDisplay", &G::MenuDisplay, u"1", notSaved),
 
     Setting{ .place = SettingsPlace::HotasIni,
              .section = u"Defaults",

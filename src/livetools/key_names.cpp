@@ -1,0 +1,113 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#include "livetools/key_names.h"
+
+#include "livetools/virtual_keys.h"
+#include "platform/core/text1252.h"
+#include "platform/core/units.h"
+
+#include <algorithm>
+#include <array>
+#include <limits>
+
+namespace zeph {
+
+namespace {
+
+/// Where no name was looked for and found yet; no key has this code.
+constexpr int noKeyCode = 65535;
+
+/// By the shift state's bits.
+constexpr std::array<QStringView, 8> prefixes = {
+    u"",     u"Shift ",     u"Ctrl ",     u"Shift Ctrl ",
+    u"Alt ", u"Shift Alt ", u"Ctrl Alt ", u"Shift Ctrl Alt ",
+};
+
+bool isModifier(int keycode)
+{
+    return keycode >= shiftKeyCode && keycode <= altKeyCode;
+}
+
+std::optional<qint16> codeFrom(QStringView text)
+{
+    const double number = roundHalfEven(leadingNumber(text));
+    if (number < std::numeric_limits<qint16>::min() || number > noKeyCode) {
+        return std::nullopt;
+    }
+    return qint16(int(number));
+}
+
+QString lowerCharacter(int keycode)
+{
+    const char byte = char(keycode);
+    return fromText1252(QByteArrayView(&byte, 1)).toLower();
+}
+
+QString eventName(const KeyTable &table, int keycode)
+{
+    constexpr std::array<QStringView, 3> modifiers = { u"SHF", u"CTL", u"ALT" };
+    if (isModifier(keycode)) {
+        return modifiers[size_t(keycode - shiftKeyCode)].toString();
+    }
+    const bool isDigit = keycode >= u'0' && keycode <= u'9';
+    const bool isLetter = keycode >= u'A' && keycode <= u'Z';
+    if (isDigit || isLetter) {
+        return lowerCharacter(keycode);
+    }
+    const QString name = WhichKey(table, keycode, 0).text;
+    return name.isEmpty() ? QString::number(qint16(keycode)) : name;
+}
+
+} // namespace
+
+KeyTable keyTableFrom(QStringView file)
+{
+    KeyTable table = { { qint16(noKeyCode), u" "_s } };
+    for (QStringView line : file.split(u'\n')) {
+        if (line.endsWith(u'\r')) {
+            line.chop(1);
+        }
+        const qsizetype comma = line.indexOf(u',');
+        if (comma < 0) {
+            continue;
+        }
+        if (const auto code = codeFrom(line.first(comma))) {
+            table.append({ *code, line.sliced(comma + 1).toString() });
+        }
+    }
+    return table;
+}
+
+QString nameOf(const KeyTable &table, int keycode)
+{
+    const auto entry = std::find_if(table.crbegin(), table.crend(), [keycode](const KeyName &each) {
+        return each.code == qint16(keycode);
+    });
+    return entry == table.crend() ? QString() : entry->name;
+}
+
+KeyText WhichKey(const KeyTable &table, int keycode, int shift)
+{
+    if (keycode == ctrlKeyCode || keycode == altKeyCode) {
+        return { {}, true };
+    }
+    const QString name = nameOf(table, keycode);
+    const QString prefix = prefixes[size_t(shift) % prefixes.size()].toString();
+    if (!name.isEmpty()) {
+        return { prefix + name };
+    }
+    if (shift < CtrlDown) {
+        // A plain character tells itself best.
+        return {};
+    }
+    return isModifier(keycode) ? KeyText{ {}, true } : KeyText{ prefix + lowerCharacter(keycode) };
+}
+
+QString eventLine(const KeyTable &table, KeyDirection direction, int keycode)
+{
+    const QString start = direction == KeyDirection::Down ? u"Down: "_s : u"Up: "_s;
+    return start + eventName(table, keycode);
+}
+
+} // namespace zeph

@@ -1,0 +1,84 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#include "shell/key_tester_menu.h"
+
+#include "editor/editor.h"
+#include "editor/editor_actions.h"
+#include "editor/editor_view.h"
+#include "editor/text_control.h"
+#include "shell/mum.h"
+#include "shell/tool_windows.h"
+#include "tests/shell/shell_world.h"
+
+#include <QAction>
+#include <QTest>
+
+using namespace zeph;
+
+namespace {
+
+struct KeyTesterMenuTest : test::ShellWorld {
+    std::unique_ptr<Application> run;
+
+    void SetUp() override
+    {
+        writeStore();
+        installData(u"KeyCodes.txt"_s);
+        run = application();
+        ASSERT_TRUE(run->start());
+    }
+    void TearDown() override
+    {
+        run.reset();
+        ShellWorld::TearDown();
+    }
+    KeyTestForm *tester() const { return run->mum().toolWindows().get<KeyTestForm>(); }
+};
+
+} // namespace
+
+TEST_F(KeyTesterMenuTest, CtrlKInTheTextOpensIt)
+{
+    EXPECT_EQ(tester(), nullptr);
+    QTest::keyClick(run->editor().selected().control, Qt::Key_K, Qt::ControlModifier);
+    ASSERT_NE(tester(), nullptr);
+    EXPECT_TRUE(tester()->isVisible());
+    EXPECT_EQ(tester()->windowTitle(), u"Key Tester");
+}
+
+TEST_F(KeyTesterMenuTest, ThereIsOneOfIt)
+{
+    run->editor().actions().trigger(u"mnuAppsKeyTester");
+    KeyTestForm *first = tester();
+    ASSERT_NE(first, nullptr);
+    first->Form_KeyDown(65, 0);
+    run->editor().actions().trigger(u"mnuAppsKeyTester");
+    EXPECT_EQ(tester(), first);
+}
+
+TEST_F(KeyTesterMenuTest, WithoutATableItDoesNotOpen)
+{
+    QFile::remove(folder.file(u"KeyCodes.txt"_s));
+    dialogs.answer(u"KeyCodes.txt is missing !!!"_s, BoxButton::Ok);
+    dialogs.answer(u"It didn't work :("_s, BoxButton::Ok);
+    run->editor().actions().trigger(u"mnuAppsKeyTester");
+    EXPECT_EQ(tester(), nullptr);
+}
+
+TEST_F(KeyTesterMenuTest, ItsPlaceSurvivesTheEndOfTheRun)
+{
+    run->editor().actions().trigger(u"mnuAppsKeyTester");
+    ASSERT_NE(tester(), nullptr);
+    tester()->resize(480, 320);
+    run->mum().close();
+    EXPECT_TRUE(folder.read(u"Zeph.ini"_s).contains("KeyWidthAtStartup=7200"));
+}
+
+TEST_F(KeyTesterMenuTest, WithoutDirectXTestersItOffersNone)
+{
+    run->editor().action(u"mnuAppsDX8_0")->setVisible(false);
+    run->editor().actions().trigger(u"mnuAppsKeyTester");
+    ASSERT_NE(tester(), nullptr);
+    EXPECT_FALSE(tester()->findChild<QAction *>(u"mnuDX8KeyTester"_s)->isVisible());
+}
