@@ -1,10 +1,13 @@
 // SPDX-FileCopyrightText: The Zeph authors
 // SPDX-License-Identifier: MIT
 
+#include "editor/auto_save.h"
+#include "editor/editor.h"
 #include "platform/clock.h"
 #include "platform/downloader.h"
 #include "platform/process_launcher.h"
 #include "platform/qt_dialogs.h"
+#include "platform/safe_application.h"
 #include "platform/screen.h"
 #include "platform/system_info.h"
 #include "platform/system_joystick.h"
@@ -12,14 +15,13 @@
 #include "shell/application.h"
 #include "shell/tour.h"
 
-#include <QApplication>
 #include <QStandardPaths>
 
 using namespace zeph;
 
 int main(int argc, char **argv)
 {
-    QApplication toolkit(argc, argv);
+    SafeApplication toolkit(argc, argv);
     Application::applyStyle(toolkit);
 
     const QString tourFolder = qEnvironmentVariable("ZEPH_TOUR");
@@ -50,9 +52,13 @@ int main(int argc, char **argv)
         .screen = screen,
         .system = system,
     });
+    toolkit.guard.dialogs = tour ? static_cast<Dialogs *>(&recorded) : &shown;
     if (!application.start()) {
         return 0;
     }
+    toolkit.guard.lastResort = [&application] {
+        application.editor().autoSave().EmergencySaveFiles();
+    };
     if (tour) {
         tour->start(application);
     }

@@ -3,6 +3,7 @@
 
 #include "editor/editor.h"
 
+#include "editor/auto_save.h"
 #include "editor/coloured_copies.h"
 #include "editor/coloured_insert.h"
 #include "editor/editing_tools.h"
@@ -17,6 +18,7 @@
 #include "editor/highlighting.h"
 #include "editor/line_showing.h"
 #include "editor/macro_features.h"
+#include "editor/recovery.h"
 #include "editor/right_menu.h"
 #include "editor/text_control.h"
 #include "editor/text_lines.h"
@@ -62,7 +64,9 @@ Editor::Editor(const Context &context, QWidget *parent)
           context,
           FileOpening::Parts{ *m_view, *m_copies, *m_highlighting, *m_useDirectives, *m_saving })),
       m_fresh(std::make_unique<FileNew>(context, *m_view, *m_opening, *m_useDirectives)),
-      m_rightMenu(std::make_unique<RightMenu>(*m_view, *m_actions))
+      m_rightMenu(std::make_unique<RightMenu>(*m_view, *m_actions)),
+      m_autoSave(std::make_unique<AutoSave>(context, *m_view, *m_saving)),
+      m_recovery(std::make_unique<Recovery>(context, Recovery::Parts{ *m_view, *m_opening }))
 {
     setObjectName(u"Editor"_s);
     auto *layout = new QHBoxLayout(this);
@@ -76,6 +80,7 @@ Editor::Editor(const Context &context, QWidget *parent)
     connectLooks();
     connectPainting();
     connectMacros();
+    connectGuards();
     connect(m_keys.get(), &EditorKeys::helpOn, this, &Editor::helpOn);
     connect(m_keys.get(), &EditorKeys::emergencyOff, this, &Editor::emergencyOff);
     connect(m_view, &EditorView::selectionChanged, this, &Editor::updateConditions);
@@ -237,6 +242,16 @@ void Editor::connectMacros()
     layout()->addWidget(m_macros->list().frame());
     connect(&m_macros->menu(), &MacroListMenu::quickTipWanted, this,
             [this] { Q_EMIT helpOn(u"macro list"_s); });
+}
+
+void Editor::connectGuards()
+{
+    for (const auto replaced : { &FileNew::joystickReplaced, &FileNew::macroReplaced }) {
+        connect(m_fresh.get(), replaced, m_autoSave.get(), &AutoSave::restart);
+        connect(m_fresh.get(), replaced, m_recovery.get(), &Recovery::update);
+    }
+    connect(m_opening.get(), &FileOpening::loaded, m_recovery.get(), &Recovery::update);
+    connect(m_saving.get(), &FileSaving::safe, m_recovery.get(), &Recovery::update);
 }
 
 void Editor::updateConditions()

@@ -14,6 +14,7 @@ class QAction;
 
 namespace zeph {
 
+class AutoSave;
 class ColouredCopies;
 class ColouredInsert;
 class EditingTools;
@@ -25,6 +26,7 @@ class FileOpening;
 class FileSaving;
 class Highlighting;
 class MacroFeatures;
+class Recovery;
 class RightMenu;
 class TextLooks;
 class TypingColour;
@@ -63,6 +65,8 @@ public:
     ColouredInsert &insert() { return *m_insert; }
     UndoHistories &undos() { return *m_undos; }
     MacroFeatures &macros() { return *m_macros; }
+    AutoSave &autoSave() { return *m_autoSave; }
+    Recovery &recovery() { return *m_recovery; }
 
     /// Gives the focus back to the selected document.
     void ResetFocusToEditor();
@@ -93,6 +97,7 @@ private:
     void connectLooks();
     void connectPainting();
     void connectMacros();
+    void connectGuards();
     void updateConditions();
     void updateDownloadCaption();
 
@@ -113,6 +118,8 @@ private:
     std::unique_ptr<FileNew> m_fresh;
     std::unique_ptr<RightMenu> m_rightMenu;
     std::unique_ptr<MacroFeatures> m_macros;
+    std::unique_ptr<AutoSave> m_autoSave;
+    std::unique_ptr<Recovery> m_recovery;
 };
 
 } // namespace zeph

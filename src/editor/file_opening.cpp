@@ -270,6 +270,15 @@ void FileOpening::show(EditorDocument &document, const QString &text)
     document.control->select(0, 0);
 }
 
+void FileOpening::showRecovered(DocumentKind kind, const QString &path, const QString &text)
+{
+    EditorDocument &document = m_parts.view.document(kind);
+    m_parts.view.rename(document, path);
+    show(document, text);
+    Q_EMIT loaded(kind, path);
+    m_parts.view.setState(document, EditorDocument::Modified);
+}
+
 void FileOpening::OpenPreviouslySavedFiles(const QString &fileToOpen)
 {
     if (!OpenSingleFileOnly) {

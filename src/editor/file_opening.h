@@ -43,6 +43,9 @@ public:
     /// Opens each of the files of the last run that still exists. True when any was opened.
     bool OpenRestoredStatus(const QString &joystickFile, const QString &macroFile);
 
+    /// Shows a text that never came to its file as that file's, modified.
+    void showRecovered(DocumentKind kind, const QString &path, const QString &text);
+
     /// Whether a file from a list opens without its partner.
     bool OpenSingleFileOnly = false;
 

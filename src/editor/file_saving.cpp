@@ -36,7 +36,8 @@ constexpr SaveAsLook saveAsLooks[] = {
 
 FileSaving::FileSaving(const Context &context, EditorView &view, ColouredCopies &copies,
                        UseDirectives &directives)
-    : m_context(context), m_view(view), m_copies(copies), m_directives(directives)
+    : m_context(context), m_view(view), m_copies(copies), m_directives(directives),
+      m_backups(context)
 {
 }
 
@@ -131,38 +132,94 @@ bool FileSaving::mayOverwrite(const QString &path)
 void FileSaving::SaveText(EditorDocument &document)
 {
     TextControl &control = *document.control;
-    if (!encodable(document)) {
+    if (!encodable(document, Stranger::Show)) {
         return;
     }
     if (m_context.settings.UpdateModified == 1) {
         ModifyDate(document);
     }
     const TextControl::Place place = control.place();
-    if (const auto done = writeFileAtomically(document.path, documentBytes(control.text()));
-        !done) {
-        m_view.setState(document, EditorDocument::Modified);
-        m_context.dialogs.tell(u"I couldn't save your file buddy"_s,
-                               done.error().path
-                                   + u" wasn't saved, and what was there before is untouched. "
-                                     "The system says: "_s
-                                   + done.error().reason,
-                               BoxIcon::Stop);
+    const auto status = writePlain(document);
+    if (!status) {
         return;
     }
-    tellOtherDocument(document);
     Q_EMIT written(document.kind);
+    finish(document, *status);
+    if (document.kind == DocumentKind::Joystick) {
+        m_directives.GetUSEZephstatements();
+    }
+    control.setPlace(place);
+    Q_EMIT saved(document.kind, document.path);
+}
+
+void FileSaving::AutoSaveText(EditorDocument &document)
+{
+    if (isReadOnlyFile(document.path)) {
+        tellUnsaved(document, { document.path, u"the file is read only."_s });
+        return;
+    }
+    if (!encodable(document, Stranger::TellOnly) || !keepStrangersFile(document)) {
+        return;
+    }
+    if (const auto status = writePlain(document)) {
+        finish(document, *status);
+    }
+}
+
+/// Puts the text on the disk, and its backup beside it. The status text, or nothing when the disk
+/// refused, which was told.
+std::optional<QString> FileSaving::writePlain(EditorDocument &document)
+{
+    if (const auto done =
+            writeFileAtomically(document.path, documentBytes(document.control->text()));
+        !done) {
+        tellUnsaved(document, done.error());
+        return {};
+    }
     QString status = document.path + u" saved successfully."_s;
+    if (const auto kept = m_backups.SaveJoystickBackup(document); !kept) {
+        status += u" Its backup wasn't: "_s + kept.error().reason;
+    }
+    if (isUntitled(document.name)) {
+        m_ownFreshFiles.append(document.path);
+    }
+    tellOtherDocument(document);
+    return status;
+}
+
+void FileSaving::finish(EditorDocument &document, QString status)
+{
     m_view.setState(document, EditorDocument::Saved);
     m_view.UpdateSavedIcon();
     if (const auto copied = m_copies.SaveColouredText(document); !copied) {
         status += u" Its coloured copy wasn't: "_s + copied.error().reason;
     }
     m_context.status.setText(status);
-    if (document.kind == DocumentKind::Joystick) {
-        m_directives.GetUSEZephstatements();
+    Q_EMIT safe(document.kind);
+}
+
+void FileSaving::tellUnsaved(EditorDocument &document, const FileError &error)
+{
+    m_view.setState(document, EditorDocument::Modified);
+    m_context.dialogs.tell(u"I couldn't save your file buddy"_s,
+                           error.path
+                               + u" wasn't saved, and what was there before is untouched. The "
+                                 "system says: "_s
+                               + error.reason,
+                           BoxIcon::Stop);
+}
+
+/// A text without a name is saved under its fresh name, and the last run's may stand there still:
+/// nobody was asked about that one, so it moves among the backups. False when it cannot.
+bool FileSaving::keepStrangersFile(const EditorDocument &document)
+{
+    if (!isUntitled(document.name) || m_ownFreshFiles.contains(document.path)
+        || !fileExists(document.path)) {
+        return true;
     }
-    control.setPlace(place);
-    Q_EMIT saved(document.kind, document.path);
+    const auto bytes = readWholeFile(document.path);
+    return bytes
+        && m_backups.keepAside(document.caption(), *bytes, m_context.clock.now()).has_value();
 }
 
 void FileSaving::tellOtherDocument(const EditorDocument &saved)
@@ -177,7 +234,7 @@ void FileSaving::tellOtherDocument(const EditorDocument &saved)
     }
 }
 
-bool FileSaving::encodable(EditorDocument &document)
+bool FileSaving::encodable(EditorDocument &document, Stranger show)
 {
     const QString text = document.control->text();
     const qsizetype stranger = firstNot1252(text);
@@ -193,10 +250,14 @@ bool FileSaving::encodable(EditorDocument &document)
         document.path + u" wasn't saved: the character \""_s + text.mid(stranger, units)
             + u"\" in line "_s + QString::number(line)
             + u" doesn't exist in the Windows-1252 alphabet, which is all that the Thrustmaster "
-              "software reads. I've selected it for you, so change it and save again."_s,
+              "software reads. "_s
+            + (show == Stranger::Show ? u"I've selected it for you, so change it and save again."_s
+                                      : u"Please change it."_s),
         BoxIcon::Exclamation);
-    m_view.select(document.kind);
-    document.control->select(int(stranger), int(units));
+    if (show == Stranger::Show) {
+        m_view.select(document.kind);
+        document.control->select(int(stranger), int(units));
+    }
     return false;
 }
 

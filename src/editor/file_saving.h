@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "editor/backups.h"
 #include "editor/context.h"
 #include "editor/editor_document.h"
 
@@ -30,17 +31,28 @@ public:
 
     /// Writes one document to its path, stamp and coloured copy included.
     void SaveText(EditorDocument &document);
+    /// Writes one document to its path without anything that would disturb the pilot: no stamp,
+    /// and caret, undo history and lists stay as they are.
+    void AutoSaveText(EditorDocument &document);
     /// Brings the "last modified:" line of a document up to date.
     void ModifyDate(EditorDocument &document);
 
 Q_SIGNALS:
     /// The text is on disk; what follows a save is still to come.
     void written(DocumentKind kind);
+    /// The disk holds what the document shows, however that came.
+    void safe(DocumentKind kind);
     /// A named file was saved.
     void saved(DocumentKind kind, const QString &path);
 
 private:
-    bool encodable(EditorDocument &document);
+    enum class Stranger { Show, TellOnly };
+
+    bool encodable(EditorDocument &document, Stranger stranger);
+    std::optional<QString> writePlain(EditorDocument &document);
+    void finish(EditorDocument &document, QString status);
+    void tellUnsaved(EditorDocument &document, const FileError &error);
+    bool keepStrangersFile(const EditorDocument &document);
     QString proposedName(const EditorDocument &document);
     bool mayOverwrite(const QString &path);
     void tellOtherDocument(const EditorDocument &saved);
@@ -49,6 +61,9 @@ private:
     EditorView &m_view;
     ColouredCopies &m_copies;
     UseDirectives &m_directives;
+    Backups m_backups;
+    /// Files under a fresh name that this run has written, so that they are its own.
+    QStringList m_ownFreshFiles;
 };
 
 } // namespace zeph

@@ -1,0 +1,59 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#include "editor/backups.h"
+
+#include "editor/document_text.h"
+#include "editor/text_control.h"
+#include "platform/clock.h"
+#include "shell/settings/global_settings.h"
+
+#include <QDir>
+#include <QLocale>
+
+namespace zeph {
+
+QString backupName(const QString &caption, const std::optional<QDateTime> &moment)
+{
+    if (!moment) {
+        return caption;
+    }
+    const QLocale english(QLocale::C);
+    return caption.chopped(qMin<qsizetype>(4, caption.size())) + u' '
+        + english.toString(*moment, u"MMM dd yyyy, hh-mmap") + u'.'
+        + caption.last(qMin<qsizetype>(3, caption.size()));
+}
+
+Expected<void, FileError> Backups::SaveJoystickBackup(const EditorDocument &document) const
+{
+    if (m_context.settings.CreateBackup != 1) {
+        return {};
+    }
+    std::optional<QDateTime> moment;
+    if (m_context.settings.BackUpDateInfo == 1) {
+        moment = m_context.clock.now();
+    }
+    return writeFileAtomically(m_context.settings.BackUpFolder
+                                   + backupName(document.caption(), moment),
+                               documentBytes(document.control->text()));
+}
+
+Expected<QString, FileError> Backups::keepAside(const QString &caption, const QByteArray &bytes,
+                                                const QDateTime &moment) const
+{
+    const QString folder = m_context.settings.BackUpFolder.isEmpty()
+        ? m_context.paths.defaultBackupFolder()
+        : m_context.settings.BackUpFolder;
+    QDir().mkpath(folder);
+    const QString name = backupName(caption, moment);
+    QString path = folder + name;
+    for (int number = 2; fileExists(path); ++number) {
+        path = folder + name.chopped(4) + u" ("_s + QString::number(number) + u')' + name.last(4);
+    }
+    if (auto written = writeFileAtomically(path, bytes); !written) {
+        return Unexpected<FileError>(written.error());
+    }
+    return path;
+}
+
+} // namespace zeph
