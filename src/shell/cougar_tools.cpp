@@ -29,7 +29,6 @@ void CougarTools::attach(const Context &context, Mum &mum, Editor &editor, HelpM
                      { m_handshake, m_modes, m_profiles, m_afterDownload, *compile, editor });
     new GamesMenu(context,
                   { mum, editor, *compile, m_handshake, m_modes, m_profiles, m_afterDownload });
-    new CompileMenu(context, m_handshake, mum, editor, help);
     new KeyTesterMenu(context, m_modes, mum, editor);
 }
 
