@@ -166,6 +166,13 @@ TEST_F(ExternalToolsTest, CleanseIsAProgramOfItsOwn)
     EXPECT_EQ(status.text(), u" Hope that worked for you. Did wonders for me."_s);
 }
 
+TEST_F(ExternalToolsTest, ResynchronisingHasTheModeReported)
+{
+    tools.mnuMemoryClear_Click(4);
+    EXPECT_EQ(started(), QStringList{ inHotas(u"HOTASConfig.exe"_s, u"/MODE /ZEPH /NM"_s) });
+    EXPECT_EQ(status.text(), u" Ready"_s);
+}
+
 TEST_F(ExternalToolsTest, TheFirmwaresUpdateGoesOverToItsProgram)
 {
     folder.write(u"HOTASUpdate.exe"_s, "tool");
