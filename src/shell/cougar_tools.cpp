@@ -7,8 +7,8 @@
 #include "shell/compile_menu.h"
 #include "shell/download_menu.h"
 #include "shell/games_menu.h"
-#include "shell/mode_menu.h"
 #include "shell/key_tester_menu.h"
+#include "shell/mode_menu.h"
 #include "shell/mum.h"
 #include "shell/tools_menu.h"
 

@@ -18,13 +18,9 @@ namespace zeph {
 namespace {
 
 /// The root of the drive that a command's path begins with: the folder in which it starts.
-QString rootOf(QStringView command)
+QString rootOfCommand(const QString &command)
 {
-    if (command.startsWith(u'"')) {
-        command = command.sliced(1);
-    }
-    const bool hasDrive = command.size() > 1 && command[0].isLetter() && command[1] == u':';
-    return hasDrive ? command.first(2).toString() + u'/' : u"/"_s;
+    return rootOf(command.startsWith(u'"') ? command.sliced(1) : command);
 }
 
 } // namespace
@@ -61,7 +57,7 @@ void AfterDownload::GetAppsToRun(const QString &joystickText)
     (void)writeFileAtomically(m_context.paths.tempFolder() + u"Original.txt"_s,
                               documentBytes(joystickText));
     for (const RunApp &app : runAppLines(joystickText)) {
-        if (!started(launchFromCommand(app.command, rootOf(app.command), app.style))) {
+        if (!started(launchFromCommand(app.command, rootOfCommand(app.command), app.style))) {
             return;
         }
         // The windows are drawn between two starts; a command of the user comes behind the last.

@@ -5,8 +5,8 @@
 #include "editor/findandreplace.h"
 #include "editor/macrorenameform.h"
 #include "editor/styleeditor.h"
-#include "shell/enterfavouritename.h"
 #include "livetools/keytestform.h"
+#include "shell/enterfavouritename.h"
 #include "shell/frmabout.h"
 #include "shell/frmtip.h"
 #include "shell/helpwindow.h"
@@ -14,9 +14,9 @@
 #include "shell/mum.h"
 #include "shell/welcome.h"
 #include "tests/shell/shell_world.h"
+#include "toolchain/entergamename.h"
 #include "toolchain/formresetoptions.h"
 #include "toolchain/selectprofileform.h"
-#include "toolchain/entergamename.h"
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
@@ -141,6 +141,7 @@ const LintCase cases[] = {
     { "SelectProfileForm",
       [](auto &w) {
           return std::make_unique<SelectProfileForm>(w.context());
+      } },
     { "EnterGameName",
       [](auto &w) {
           return std::make_unique<EnterGameName>(w.paths, w.dialogs, QString());
