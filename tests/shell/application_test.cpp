@@ -269,6 +269,7 @@ TEST_F(Start, TheFirstRunMakesFavouritesOfTheFlightSimulatorsThatItFinds)
     folder.write(u"Files/FB.tmj"_s, "BTN S2 a\r\n");
     folder.write(u"Files/TM Eaw.tmj"_s, "BTN S2 a\r\n");
     Pilot pilot;
+    pilot.experience = 3;
     ASSERT_TRUE(start());
     EXPECT_EQ(stored(u"Favourites"_s, u"FavArrayNum"_s), u"2");
     EXPECT_EQ(stored(u"Favourites"_s, u"FavName1"_s), u"European Air War");
@@ -276,7 +277,7 @@ TEST_F(Start, TheFirstRunMakesFavouritesOfTheFlightSimulatorsThatItFinds)
     EXPECT_EQ(stored(u"Favourites"_s, u"FavName2"_s), u"Forgotten Battles");
     EXPECT_EQ(stored(u"Favourites"_s, u"FavLoadOnStart"_s), u"0");
     EXPECT_EQ(stored(u"Apps"_s, u"CustomAppUse4"_s), u"0");
-    const auto *first = app->mum().findChild<QAction *>(u"mnuFavArray_1"_s);
+    const auto *first = entryOf(app->editor(), u"mnuFavArray_1"_s);
     ASSERT_TRUE(first);
     EXPECT_EQ(first->text(), u"European Air War");
 }

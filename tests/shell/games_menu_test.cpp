@@ -48,7 +48,7 @@ struct GamesMenuTest : test::ShellWorld {
         }
         return names;
     }
-    QAction *entry(const QString &name) { return app->mum().findChild<QAction *>(name); }
+    QAction *entry(const QString &name) { return entryOf(app->editor(), name); }
     QString stored(const QString &key) const
     {
         return ProfileFile(paths.iniPath).text(u"Games", key, u"(absent)"_s);

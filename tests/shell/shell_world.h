@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "editor/editor.h"
+#include "editor/editor_actions.h"
 #include "platform/clock.h"
 #include "platform/core/paths.h"
 #include "platform/downloader.h"
@@ -19,7 +21,9 @@
 
 #include <gtest/gtest.h>
 
+#include <QAction>
 #include <QFile>
+#include <QMenu>
 
 namespace zeph::test {
 
@@ -112,6 +116,17 @@ public:
         QFile file(source);
         ASSERT_TRUE(file.open(QIODevice::ReadOnly)) << source.toStdString();
         folder.write(name, file.readAll());
+    }
+
+    /// The menu entry of that object name, on any menu of the Editor; null when there is none.
+    static QAction *entryOf(Editor &editor, const QString &name)
+    {
+        for (const QMenu *menu : editor.actions().menuBar()) {
+            if (auto *found = menu->findChild<QAction *>(name)) {
+                return found;
+            }
+        }
+        return nullptr;
     }
 
     QStringList boxTitles() const

@@ -48,11 +48,7 @@ struct UserListsTest : test::ShellWorld {
     }
 
     Editor &editor() { return app->editor(); }
-    QAction *entry(const QString &name)
-    {
-        auto *found = app->mum().findChild<QAction *>(name);
-        return found ? found : nullptr;
-    }
+    QAction *entry(const QString &name) { return entryOf(editor(), name); }
     bool isShown(const QString &name)
     {
         const QAction *found = entry(name);
