@@ -162,6 +162,14 @@ constexpr std::array actions = {
     ActionRow{u"mnuDownload", u"mnuResetOptions", u"Reset &options", u"", u"", u"", Later, Entry},
     ActionRow{u"mnuDownload", u"mnuDownloadProfile", u"Download a profile (*.tmc)", u"", u"", u"", Later, Entry},
 
+    ActionRow{u"mnuCougar", u"mnuButtonsMode", u"&Buttons", u"", u"", u"", Always, Submenu},
+    // The key works in the texts at key level; here it only stands as a reminder.
+    ActionRow{u"mnuButtonsMode", u"mnuButtonsModeArray_0", u"&Windows (DirectX) mode\tShift+Break", u"", u"The Cougar's buttons act as those of a plain game controller", u"mode-windows", Always, Entry},
+    ActionRow{u"mnuButtonsMode", u"mnuButtonsModeArray_1", u"&Programmed mode", u"", u"The Cougar's buttons do what the downloaded joystick file says", u"mode-programmed", Always, Entry},
+    ActionRow{u"mnuCougar", u"mnuAxesMode", u"&Axes", u"", u"", u"", Always, Submenu},
+    ActionRow{u"mnuAxesMode", u"mnuAxesModeArray_0", u"&Windows axes", u"", u"The Cougar's axes act as those of a plain game controller", u"", Always, Entry},
+    ActionRow{u"mnuAxesMode", u"mnuAxesModeArray_1", u"&User defined axes", u"", u"The Cougar's axes follow the profile and the downloaded joystick file", u"", Always, Entry},
+    line(u"mnuCougar"),
     ActionRow{u"mnuCougar", u"MnuDiagArray_0", u"Cougar Control &Panel (CCP)", u"", u"", u"control-panel", Later, Entry},
     ActionRow{u"mnuCougar", u"MnuDiagArray_1", u"&Calibrate controllers", u"", u"", u"", Later, Entry},
     ActionRow{u"mnuCougar", u"MnuDiagArray_2", u"Axes &response curves, trim and deadzones", u"", u"", u"", Later, Entry},

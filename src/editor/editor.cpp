@@ -77,6 +77,7 @@ Editor::Editor(const Context &context, QWidget *parent)
     connectPainting();
     connectMacros();
     connect(m_keys.get(), &EditorKeys::helpOn, this, &Editor::helpOn);
+    connect(m_keys.get(), &EditorKeys::emergencyOff, this, &Editor::emergencyOff);
     connect(m_view, &EditorView::selectionChanged, this, &Editor::updateConditions);
     connect(m_view, &EditorView::tabSelected, this, &Editor::updateDownloadCaption);
     connect(m_opening.get(), &FileOpening::loaded, this, &Editor::updateDownloadCaption);

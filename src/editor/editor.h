@@ -82,6 +82,8 @@ public:
 Q_SIGNALS:
     /// F1 on a selected word.
     void helpOn(const QString &word);
+    /// Shift+Break.
+    void emergencyOff();
 
 private:
     void connectFiles();

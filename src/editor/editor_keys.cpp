@@ -78,6 +78,10 @@ EditorKeys::EditorKeys(EditorView &view, EditorActions &actions, const GlobalSet
     for (const DocumentKind kind : { DocumentKind::Joystick, DocumentKind::Macro }) {
         view.document(kind).control->installEventFilter(this);
     }
+    // A key that no control has a use for comes up to the Editor as a whole.
+    if (QWidget *editor = view.parentWidget()) {
+        editor->installEventFilter(this);
+    }
 }
 
 QString EditorKeys::entryFor(int key, bool macroText)
@@ -89,6 +93,12 @@ QString EditorKeys::entryFor(int key, bool macroText)
 
 bool EditorKeys::eventFilter(QObject *watched, QEvent *event)
 {
+    if (event->type() == QEvent::KeyPress && emergencyPressed(*static_cast<QKeyEvent *>(event))) {
+        return true;
+    }
+    if (watched == m_view.parentWidget()) {
+        return false;
+    }
     const bool macroText = watched == m_view.document(DocumentKind::Macro).control;
     if (event->type() == QEvent::ShortcutOverride) {
         // The text has the first word on its keys; menu shortcuts serve the rest of the window.
@@ -100,6 +110,18 @@ bool EditorKeys::eventFilter(QObject *watched, QEvent *event)
         return keyPressed(*static_cast<QKeyEvent *>(event), macroText);
     }
     return false;
+}
+
+bool EditorKeys::emergencyPressed(const QKeyEvent &event)
+{
+    if (event.key() != Qt::Key_Pause || !event.modifiers().testFlag(Qt::ShiftModifier)) {
+        return false;
+    }
+    // Held down it repeats itself; one request is enough.
+    if (!event.isAutoRepeat()) {
+        Q_EMIT emergencyOff();
+    }
+    return true;
 }
 
 bool EditorKeys::handles(const QKeyEvent &event, bool macroText) const

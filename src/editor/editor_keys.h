@@ -27,11 +27,14 @@ public:
 Q_SIGNALS:
     /// F1 on a selection: the selected text, trimmed.
     void helpOn(const QString &word);
+    /// Shift+Break, anywhere in the Editor: the Cougar's buttons must stop typing at once.
+    void emergencyOff();
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    bool emergencyPressed(const QKeyEvent &event);
     bool handles(const QKeyEvent &event, bool macroText) const;
     bool keyPressed(const QKeyEvent &event, bool macroText);
     void popUpInsertMenu();

@@ -9,8 +9,10 @@
 
 namespace zeph {
 
-/// The controllers as SDL's joystick subsystem knows them; plugging in and out is noticed at the
-/// next reading.
+/// The controllers as SDL's joystick subsystem knows them. Nothing is set up before the first
+/// reading; plugging in and out is noticed at the next one. A controller's number is its place in
+/// the system's list when it was first seen, and stays its own: one that is pulled out leaves its
+/// place empty and takes it again when it is put back.
 class SystemJoystick : public Joystick
 {
 public:
@@ -20,7 +22,7 @@ public:
     JoystickReading read(int id) override;
 
 private:
-    struct Devices;
+    class Devices;
     std::unique_ptr<Devices> m_devices;
 };
 

@@ -7,6 +7,7 @@
 #include "editor/editor_actions.h"
 #include "editor/editor_view.h"
 #include "platform/dialogs.h"
+#include "platform/handlers.h"
 #include "platform/screen.h"
 #include "platform/system_info.h"
 #include "shell/backup_folder.h"
@@ -29,8 +30,6 @@
 namespace zeph {
 
 namespace {
-
-constexpr int selectorOff = 1;
 
 QString storeOf(const QString &appFolder)
 {
@@ -93,7 +92,7 @@ bool Application::start()
     m_mum->refreshToolbars();
     m_mum->show();
     m_mum->repaint();
-    m_status.setModePicture(selectorOff);
+    startModes();
     loadEditor();
     selectFirstTab();
     return true;
@@ -146,13 +145,20 @@ void Application::readSettings()
     }
 }
 
+void Application::startModes()
+{
+    m_tools = new CougarTools(context(), m_options.joystick, *m_mum);
+    m_status.setModePicture(int(ModePicture::SelectorOff));
+    guarded(m_options.dialogs, [this] { m_tools->modes().startOfRun(); })();
+}
+
 void Application::loadEditor()
 {
     tellOnce(readColours(m_settings, files()));
     m_editor = new Editor(context(), m_mum.get());
     m_mum->attachEditor(m_editor);
     m_help = new HelpMenu(context(), m_options.downloader, m_mum->toolWindows(), *m_editor);
-    m_tools = new CougarTools(context(), m_options.joystick, *m_mum, *m_editor, *m_help);
+    m_tools->attach(context(), *m_mum, *m_editor, *m_help);
     new ForeignKeyBSupport(m_options.keyboard, m_settings, m_editor);
     QObject::connect(&m_mum->toolWindows(), &ToolWindows::loaded, m_mum.get(),
                      [this](QWidget *window) {

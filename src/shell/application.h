@@ -72,6 +72,7 @@ private:
     void placeMum();
     void makeFolders() const;
     void readSettings();
+    void startModes();
     void loadEditor();
     void readEditorOptions();
     /// Some keys are read at several steps of the start; what is wrong with them is told at the

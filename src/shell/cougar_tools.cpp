@@ -5,15 +5,20 @@
 
 #include "editor/editor.h"
 #include "shell/compile_menu.h"
+#include "shell/mode_menu.h"
 #include "shell/mum.h"
 
 namespace zeph {
 
-CougarTools::CougarTools(const Context &context, Joystick &joystick, Mum &mum, Editor &editor,
-                         HelpMenu &help)
-    : QObject(&editor), m_handshake(context, &mum), m_modes(context, m_handshake, joystick),
+CougarTools::CougarTools(const Context &context, Joystick &joystick, Mum &mum)
+    : QObject(&mum), m_handshake(context, &mum), m_modes(context, m_handshake, joystick),
       m_profiles(context, m_handshake), m_afterDownload(context)
 {
+}
+
+void CougarTools::attach(const Context &context, Mum &mum, Editor &editor, HelpMenu &help)
+{
+    new ModeMenu(context, m_modes, mum, editor);
     new CompileMenu(context, m_handshake, mum, editor, help);
 }
 

@@ -25,8 +25,10 @@ class CougarTools : public QObject
 {
     Q_OBJECT
 public:
-    CougarTools(const Context &context, Joystick &joystick, Mum &mum, Editor &editor,
-                HelpMenu &help);
+    /// Made before the Editor, since the start of a run asks the Cougar's mode before it.
+    CougarTools(const Context &context, Joystick &joystick, Mum &mum);
+    /// Ties everything to the Editor's menus.
+    void attach(const Context &context, Mum &mum, Editor &editor, HelpMenu &help);
 
     ToolchainHandshake &handshake() { return m_handshake; }
     CougarModes &modes() { return m_modes; }

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "editor/context.h"
+#include "toolchain/mode_rules.h"
 
 #include <QObject>
 #include <QTimer>
@@ -12,12 +13,11 @@ namespace zeph {
 
 class Joystick;
 class ToolchainHandshake;
+struct ModeReport;
+enum class ConfigCommand;
 
 /// What the buttons are asked to do; the numbers are the menu's indices.
 enum class ButtonsRequest { Windows = 0, Programmed = 1, ReportOnly = 2 };
-
-/// The picture of panel 2.
-enum class ModePicture { SelectorOff = 1, Windows = 2, Programmed = 3, Unknown = 4 };
 
 /// The Cougar's modes: the requests, which go out through the configuration tool, and the detector,
 /// which asks the hardware nothing but rereads what the tools last wrote into HOTAS.ini and shows
@@ -28,6 +28,10 @@ class CougarModes : public QObject
 public:
     CougarModes(const Context &context, ToolchainHandshake &handshake, Joystick &joystick,
                 QObject *parent = nullptr);
+
+    /// What the settings want at the start of a run: the mode reported, the detector on. Fails as
+    /// EnableStatusTimer() does.
+    void startOfRun();
 
     /// Changes the buttons' mode or has it reported. Not waited for. Does nothing, silently,
     /// without the tool.
@@ -43,13 +47,15 @@ public:
     /// Starts the detector afresh with the stored interval; an interval of 33 s or more is an
     /// overflow, which is thrown for the guard of the handler to tell.
     void EnableStatusTimer();
+    /// Shows the mode that was last reported; what the detector does at each tick.
     void ShowCougarMode();
     /// Whether the controller of the stored number answers.
     bool IsJoyConnected();
     /// Tells the last reported mode in panel 1 and in panel 2's tooltip.
     void UpdateStatusTooltip();
     bool detectorRuns() const { return m_timer.isActive(); }
-    /// The mouse on panel 2.
+    /// The mouse on panel 2: the left button switches the selector on or the buttons over, the
+    /// right one switches the selector off. Fails as EnableStatusTimer() does.
     void panelClicked(Qt::MouseButton button);
 
     const QString &tooltip() const { return m_tooltip; }
@@ -59,6 +65,18 @@ Q_SIGNALS:
     void tooltipChanged(const QString &tooltip);
 
 private:
+    bool toolIsThere() const;
+    bool waitedRequest(ConfigCommand command, const QString &panel);
+    /// False when the program ends meanwhile.
+    bool change(ModeChange change);
+    void leftClick();
+    void switchOff();
+    ModePicture picture() const;
+    void setPicture(ModePicture picture);
+    void setTooltip(const QString &tooltip);
+    ModeReport report() const;
+    bool isJoystickMissed();
+
     Context m_context;
     ToolchainHandshake &m_handshake;
     Joystick &m_joystick;
