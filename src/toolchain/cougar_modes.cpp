@@ -32,8 +32,7 @@ struct RequestRow {
 
 /// In the order of ButtonsRequest.
 constexpr std::array buttonsRequests = {
-    RequestRow{ ConfigCommand::ButtonsWindows,
-                u" Changing to Windows buttons mode - hold on ..." },
+    RequestRow{ ConfigCommand::ButtonsWindows, u" Changing to Windows buttons mode - hold on ..." },
     RequestRow{ ConfigCommand::ButtonsProgrammed,
                 u" Changing to Programmed buttons mode - hold on ..." },
     RequestRow{ ConfigCommand::ReportMode, u" Initialising mode information ..." },

@@ -53,7 +53,7 @@ ModePicture pictureOf(qint16 buttons)
 
 QString reportInWords(qint16 axes, qint16 buttons)
 {
-    return wordsOf(axes).axes.toString() + wordsOf(buttons).buttons;
+    return wordsOf(axes).axes.toString() + wordsOf(buttons).buttons.toString();
 }
 
 QString noJoystickInWords(int joyIdNumber)

@@ -314,11 +314,11 @@ TEST_F(Start, ADroppedCommandLineLeavesTheRestoredFilesAsIfNoneWereGiven)
 TEST_F(Start, ACommandLineOpensItsFileAndItsPartner)
 {
     writeStore();
-    const QString joystick = folder.write(u"my files/Viper.tmj"_s, "BTN S2 Fire\r\n");
+    const QString joystickFile = folder.write(u"my files/Viper.tmj"_s, "BTN S2 Fire\r\n");
     const QString macro = folder.write(u"my files/Viper.tmm"_s, "Fire = a\r\n");
-    arguments = { joystick };
+    arguments = { joystickFile };
     ASSERT_TRUE(start());
-    EXPECT_EQ(app->editor().joystick().path, joystick);
+    EXPECT_EQ(app->editor().joystick().path, joystickFile);
     EXPECT_EQ(app->editor().macro().path, macro);
     EXPECT_EQ(app->editor().selected().kind, DocumentKind::Joystick);
 }
@@ -326,11 +326,11 @@ TEST_F(Start, ACommandLineOpensItsFileAndItsPartner)
 TEST_F(Start, ACommandLineThatAShellHasPartedIsOneName)
 {
     writeStore();
-    const QString joystick = folder.write(u"my files/Viper.tmj"_s, "BTN S2 a\r\n");
-    arguments = joystick.split(u' ');
+    const QString joystickFile = folder.write(u"my files/Viper.tmj"_s, "BTN S2 a\r\n");
+    arguments = joystickFile.split(u' ');
     ASSERT_EQ(arguments.size(), 2);
     ASSERT_TRUE(start());
-    EXPECT_EQ(app->editor().joystick().path, joystick);
+    EXPECT_EQ(app->editor().joystick().path, joystickFile);
 }
 
 TEST_F(Start, AMacroFileOnTheCommandLineStaysInFront)
@@ -344,9 +344,9 @@ TEST_F(Start, AMacroFileOnTheCommandLineStaysInFront)
 
 TEST_F(Start, MacrosOfARestoredPairAreIdentifiedOnce)
 {
-    const QString joystick = folder.write(u"p.tmj"_s, "BTN S1 Gun\r\n");
+    const QString joystickFile = folder.write(u"p.tmj"_s, "BTN S1 Gun\r\n");
     const QString macro = folder.write(u"p.tmm"_s, "Gun = b\r\nIdle = i\r\n");
-    writeStore("[Miscellaneous]\r\nRestoreStatus=1\r\nRestoreJoyFile=" + joystick.toLocal8Bit()
+    writeStore("[Miscellaneous]\r\nRestoreStatus=1\r\nRestoreJoyFile=" + joystickFile.toLocal8Bit()
                + "\r\nRestoreMacroFile=" + macro.toLocal8Bit() + "\r\n");
     app = application();
     const QSignalSpy told(&app->status(), &StatusLine::textChanged);

@@ -119,14 +119,14 @@ TEST_F(MainWindow, ButtonsCanBeUsedWhenTheirEntryCan)
 
 TEST_F(MainWindow, AButtonRunsItsEntryForTheSelectedTab)
 {
-    const int *joystick = countRuns(u"mnuViewColourJoystick"_s);
+    const int *joystickRuns = countRuns(u"mnuViewColourJoystick"_s);
     const int *macro = countRuns(u"mnuViewColourMacro"_s);
     settle();
     button(u"Toolbar1_25"_s)->click();
     editor->view().select(DocumentKind::Macro);
     settle();
     button(u"Toolbar1_25"_s)->click();
-    EXPECT_EQ(*joystick, 1);
+    EXPECT_EQ(*joystickRuns, 1);
     EXPECT_EQ(*macro, 1);
 }
 

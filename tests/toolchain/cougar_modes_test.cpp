@@ -432,12 +432,11 @@ TEST_F(CougarModesTest, TheEmergencyRequestTellsItselfAndItsEnd)
 {
     modes.emergencyOff();
     EXPECT_EQ(requests(), QStringList(u"/MODE /ZEPH /BW"_s));
-    EXPECT_EQ(
-        panel,
-        (QStringList{
-            u" An emergency request to turn the Cougar programmed mode off has been sent."_s,
-            u" Changing to Windows buttons mode - hold on ..."_s,
-            u" Control has been returned to Zeph"_s }));
+    EXPECT_EQ(panel,
+              (QStringList{
+                  u" An emergency request to turn the Cougar programmed mode off has been sent."_s,
+                  u" Changing to Windows buttons mode - hold on ..."_s,
+                  u" Control has been returned to Zeph"_s }));
 }
 
 TEST_F(CougarModesTest, TheStartAsksAndDetectsWhatTheSettingsWant)

@@ -15,8 +15,9 @@ struct PictureCase {
 };
 
 constexpr PictureCase pictures[] = {
-    { 0, ModePicture::Windows },  { 1, ModePicture::Programmed }, { -1, ModePicture::Unknown },
-    { 2, ModePicture::Unknown },  { -2, ModePicture::Unknown },   { 32767, ModePicture::Unknown },
+    { 0, ModePicture::Windows },      { 1, ModePicture::Programmed },
+    { -1, ModePicture::Unknown },     { 2, ModePicture::Unknown },
+    { -2, ModePicture::Unknown },     { 32767, ModePicture::Unknown },
     { -32768, ModePicture::Unknown },
 };
 
@@ -68,7 +69,7 @@ TEST(ModeRules, TheReportIsTwoHalves)
     for (const HalfCase &axes : halves) {
         for (const HalfCase &buttons : halves) {
             EXPECT_EQ(reportInWords(axes.value, buttons.value),
-                      axes.axes.toString() + buttons.buttons);
+                      axes.axes.toString() + buttons.buttons.toString());
         }
     }
 }
