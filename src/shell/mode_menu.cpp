@@ -20,9 +20,9 @@ ModeMenu::ModeMenu(const Context &context, CougarModes &modes, Mum &mum, Editor 
     connect(&modes, &CougarModes::tooltipChanged, &bar, &MainStatusBar::setModeTooltip);
     connect(&bar, &MainStatusBar::modeTooltipWanted, &modes,
             guarded(context.dialogs, [&modes] { modes.UpdateStatusTooltip(); }));
-    connect(&bar, &MainStatusBar::modePanelClicked, &modes,
-            guarded(context.dialogs,
-                    [&modes](Qt::MouseButton button) { modes.panelClicked(button); }));
+    connect(
+        &bar, &MainStatusBar::modePanelClicked, &modes,
+        guarded(context.dialogs, [&modes](Qt::MouseButton button) { modes.panelClicked(button); }));
 
     EditorActions &on = editor.actions();
     for (const auto request : { ButtonsRequest::Windows, ButtonsRequest::Programmed }) {

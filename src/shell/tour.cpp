@@ -15,10 +15,12 @@
 #include "shell/mum.h"
 #include "shell/tool_windows.h"
 #include "shell/welcome.h"
+#include "toolchain/mode_rules.h"
 
 #include <QAbstractButton>
 #include <QApplication>
 #include <QDir>
+#include <QMenu>
 #include <QPalette>
 #include <QStackedWidget>
 
@@ -29,6 +31,8 @@ namespace {
 constexpr int pauseMs = 400;
 constexpr int welcomePauseMs = 100;
 constexpr int slowGrabMs = 3000;
+constexpr int menuLeft = 300;
+constexpr int menuTop = 100;
 
 /// A dark desktop's palette, for systems that have none to offer.
 QPalette darkPalette()
@@ -168,6 +172,18 @@ void Tour::addStops(Application &application)
           [&application] {
               compileMistake(application);
           } },
+        { u"mode-windows"_s,
+          [this] {
+              showMode(ModePicture::Windows, u"mnuCougar");
+          } },
+        { u"mode-programmed"_s,
+          [this] {
+              showMode(ModePicture::Programmed, u"mnuButtonsMode");
+          } },
+        { u"mode-unknown"_s,
+          [this] {
+              showMode(ModePicture::Unknown, u"mnuAxesMode");
+          } },
         { u"style-editor"_s, press(u"mnuFormatStyleEditor"_s) },
         { u"tip"_s,
           [&application] {
@@ -221,6 +237,19 @@ void Tour::compileSlowly()
     QTimer::singleShot(slowGrabMs, this, [this] { grabAll(u"slow-compile-waiting"_s); });
     m_application->editor().actions().trigger(u"mnuAppsCompile");
     qunsetenv("ZEPH_STANDIN_DELAY_MS");
+}
+
+/// Shows a mode picture, and under it one of the Cougar's menus.
+void Tour::showMode(ModePicture picture, QStringView menu)
+{
+    m_application->status().setModePicture(int(picture));
+    QMenu *shown = m_application->editor().actions().menu(menu);
+    shown->setObjectName(menu.toString());
+    shown->popup(m_application->mum().mapToGlobal(QPoint(menuLeft, menuTop)));
+    QTimer::singleShot(pauseMs / 2, shown, [this, shown] {
+        grab(*shown, shown->objectName());
+        shown->close();
+    });
 }
 
 void Tour::answerWelcome()

@@ -17,6 +17,7 @@ class QWidget;
 namespace zeph {
 
 class Application;
+enum class ModePicture;
 
 /// Dialogs that answer themselves with their defaults and write down what they would have said.
 class RecordingDialogs : public Dialogs
@@ -60,6 +61,7 @@ private:
     void walk();
     void renameMacro();
     void compileSlowly();
+    void showMode(ModePicture picture, QStringView menu);
     void answerWelcome();
     void grab(QWidget &window, const QString &name) const;
     void grabAll(const QString &name) const;

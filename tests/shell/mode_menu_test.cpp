@@ -76,11 +76,11 @@ protected:
     }
     QStringList requests() const
     {
-        QStringList arguments;
+        QStringList sent;
         for (const Launch &launch : launcher.launches) {
-            arguments.append(launch.arguments);
+            sent.append(launch.arguments);
         }
-        return arguments;
+        return sent;
     }
     void press(QStringView entry) const { ASSERT_TRUE(app->editor().actions().trigger(entry)); }
 
@@ -172,9 +172,8 @@ TEST_F(Modes, ClicksOnTheModePictureSwitchOnOverAndOff)
     EXPECT_EQ(app->status().modePicture(), 4);
     click(Qt::LeftButton);
     EXPECT_EQ(app->status().modePicture(), 2);
-    EXPECT_EQ(
-        requests(),
-        (QStringList{ u"/MODE /ZEPH /BU"_s, u"/MODE /ZEPH /BW"_s, u"/MODE /ZEPH /BW"_s }));
+    EXPECT_EQ(requests(),
+              (QStringList{ u"/MODE /ZEPH /BU"_s, u"/MODE /ZEPH /BW"_s, u"/MODE /ZEPH /BW"_s }));
 
     click(Qt::RightButton);
     EXPECT_EQ(app->status().modePicture(), 1);
@@ -189,8 +188,8 @@ TEST_F(Modes, EachModeHasAPictureOfItsOwn)
     for (const int picture : { 1, 2, 3, 4 }) {
         app->status().setModePicture(picture);
         const QImage image = panel(2)->pixmap().toImage();
-        pictures.insert(QByteArray(reinterpret_cast<const char *>(image.constBits()),
-                                   image.sizeInBytes()));
+        pictures.insert(
+            QByteArray(reinterpret_cast<const char *>(image.constBits()), image.sizeInBytes()));
     }
     EXPECT_EQ(pictures.size(), 4);
 }
@@ -284,9 +283,8 @@ TEST_F(Modes, ShiftBreakAnywhereInTheEditorSendsOneEmergencyRequest)
         QTest::keyClick(focused, Qt::Key_Pause, Qt::ShiftModifier);
         QObject::disconnect(heard);
         EXPECT_EQ(requests(), QStringList(u"/MODE /ZEPH /BW"_s));
-        EXPECT_EQ(
-            told.first(),
-            u" An emergency request to turn the Cougar programmed mode off has been sent.");
+        EXPECT_EQ(told.first(),
+                  u" An emergency request to turn the Cougar programmed mode off has been sent.");
         EXPECT_EQ(told.last(), u" Control has been returned to Zeph");
     }
 }
