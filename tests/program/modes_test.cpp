@@ -31,13 +31,12 @@ TEST(ProgramModes, MenusAndTypingInTheMacroFileGoOnDuringAModeWait)
     Program program;
     program.settle();
     program.setEnvironment(u"ZEPH_STANDIN_DELAY_MS"_s, u"700"_s);
-    program.run(
-        { u"text MacroText ="_s, u"trigger mnuViewTileVertically"_s,
-          u"trigger mnuAxesModeArray_0"_s, u"text Panel_1  Changing axis mode"_s,
-          u"type MacroText Rem typed\\n"_s, u"text MacroText Rem typed"_s,
-          u"trigger mnuHelpAbout_2"_s, u"window About"_s, u"text Panel_1  Ready"_s, u"close"_s,
-          u"modal"_s, u"press No"_s },
-        { program.file(sample) });
+    program.run({ u"text MacroText ="_s, u"trigger mnuViewTileVertically"_s,
+                  u"trigger mnuAxesModeArray_0"_s, u"text Panel_1  Changing axis mode"_s,
+                  u"type MacroText Rem typed\\n"_s, u"text MacroText Rem typed"_s,
+                  u"trigger mnuHelpAbout_2"_s, u"window About"_s, u"text Panel_1  Ready"_s,
+                  u"close"_s, u"modal"_s, u"press No"_s },
+                { program.file(sample) });
     EXPECT_EQ(program.setting(u"TMMODE"_s, u"Axes"_s, u"HOTAS.ini"_s), u"0");
 }
 
@@ -46,10 +45,11 @@ TEST(ProgramModes, ASilentToolGivesControlBackWithAMessage)
     Program program;
     program.settle();
     program.setEnvironment(u"ZEPH_STANDIN_SILENT"_s, u"1"_s);
-    const QStringList notes = program.run(
-        { u"trigger mnuAxesModeArray_1"_s,
-          u"box Now this is taking rather a long time buddy, isn't it?!"_s, u"press OK"_s,
-          u"text Panel_1  Control returned to you"_s, u"close"_s });
-    EXPECT_THAT(lines(notes), Contains(HasSubstr("with the TM applications and their "
-                                                 "communication with your Cougar")));
+    const QStringList notes =
+        program.run({ u"trigger mnuAxesModeArray_1"_s,
+                      u"box Now this is taking rather a long time buddy, isn't it?!"_s,
+                      u"press OK"_s, u"text Panel_1  Control returned to you"_s, u"close"_s });
+    EXPECT_THAT(lines(notes),
+                Contains(HasSubstr("with the TM applications and their "
+                                   "communication with your Cougar")));
 }
