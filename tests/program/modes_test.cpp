@@ -30,12 +30,16 @@ TEST(ProgramModes, MenusAndTypingInTheMacroFileGoOnDuringAModeWait)
 {
     Program program;
     program.settle();
-    program.setEnvironment(u"ZEPH_STANDIN_DELAY_MS"_s, u"700"_s);
+    program.write(
+        u"Zeph.ini"_s,
+        program.read(u"Zeph.ini"_s).replace("RegainControlAfter=900", "RegainControlAfter=20000"));
+    program.setEnvironment(u"ZEPH_STANDIN_DELAY_MS"_s, u"1500"_s);
     program.run({ u"text MacroText ="_s, u"trigger mnuViewTileVertically"_s,
                   u"trigger mnuAxesModeArray_0"_s, u"text Panel_1  Changing axis mode"_s,
                   u"type MacroText Rem typed\\n"_s, u"text MacroText Rem typed"_s,
-                  u"trigger mnuHelpAbout_2"_s, u"window About"_s, u"text Panel_1  Ready"_s,
-                  u"close"_s, u"modal"_s, u"press No"_s },
+                  u"trigger mnuHelpAbout_2"_s, u"window About"_s,
+                  u"text Panel_1  Changing axis mode"_s, u"text Panel_1  Ready"_s, u"close"_s,
+                  u"modal"_s, u"press No"_s },
                 { program.file(sample) });
     EXPECT_EQ(program.setting(u"TMMODE"_s, u"Axes"_s, u"HOTAS.ini"_s), u"0");
 }

@@ -15,7 +15,7 @@ using namespace zeph;
 
 namespace {
 
-constexpr auto timeOutTitle = u"Now this is taking rather a long time buddy, isn't it?!";
+const QString timeOutTitle = u"Now this is taking rather a long time buddy, isn't it?!"_s;
 
 class CougarModesTest : public test::ToolchainBench
 {
