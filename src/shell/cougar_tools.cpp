@@ -30,7 +30,6 @@ void CougarTools::attach(const Context &context, Mum &mum, Editor &editor, HelpM
     new GamesMenu(context,
                   { mum, editor, *compile, m_handshake, m_modes, m_profiles, m_afterDownload });
     new KeyTesterMenu(context, m_modes, mum, editor);
-    new CompileMenu(context, m_handshake, mum, editor, help);
 }
 
 } // namespace zeph

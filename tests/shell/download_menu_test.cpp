@@ -56,7 +56,8 @@ struct DownloadMenuTest : test::ShellWorld {
         editor = new Editor(context(), mum.get());
         mum->attachEditor(editor);
         auto *help = new HelpMenu(context(), downloader, mum->toolWindows(), *editor);
-        tools = new CougarTools(context(), joystick, *mum, *editor, *help);
+        tools = new CougarTools(context(), joystick, *mum);
+        tools->attach(context(), *mum, *editor, *help);
         mum->show();
         control()->setText(u"BTN S1 a"_s);
         editor->joystick().path = folder.write(u"Files/a.tmj"_s, "BTN S1 a");
