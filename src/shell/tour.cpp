@@ -212,6 +212,7 @@ void Tour::addStops(Application &application)
           [&application] {
               compileMistake(application);
           } },
+<<<<<<< ours
         { u"mode-windows"_s,
           [this] {
               showMode(ModePicture::Windows, u"mnuCougar");
@@ -233,6 +234,8 @@ void Tour::addStops(Application &application)
           [this] {
               lookAtModal(u"mnuDownloadProfile"_s, u"select-profile"_s);
           } },
+=======
+>>>>>>> theirs
         { u"key-tester"_s,
           [&application] {
               showKeyTester(application, true);
@@ -241,6 +244,7 @@ void Tour::addStops(Application &application)
           [&application] {
               showKeyTester(application, false);
           } },
+        { u"style-editor"_s, press(u"mnuFormatStyleEditor"_s) },
         { u"tip"_s,
           [&application] {
               if (auto *styles = application.mum().findChild<StyleEditor *>()) {

@@ -80,7 +80,7 @@ TEST(SettingsTable, EveryDefaultIsAValueOfItsOwnForm)
             ASSERT_TRUE(isWholeNumber(text));
             const qint64 number = text.toLongLong();
             const bool isSmall = setting.form == SettingForm::Integer;
-            EXPECT_GE(number, 0);
+            EXPECT_GE(number, isSmall ? std::numeric_limits<qint16>::min() : 0);
             EXPECT_LE(number, isSmall ? std::numeric_limits<qint16>::max() : 0xFFFFFF);
         }
         if (setting.form != SettingForm::Text) {
