@@ -212,7 +212,6 @@ void Tour::addStops(Application &application)
           [&application] {
               compileMistake(application);
           } },
-<<<<<<< ours
         { u"mode-windows"_s,
           [this] {
               showMode(ModePicture::Windows, u"mnuCougar");
@@ -225,7 +224,6 @@ void Tour::addStops(Application &application)
           [this] {
               showMode(ModePicture::Unknown, u"mnuAxesMode");
           } },
-        { u"style-editor"_s, press(u"mnuFormatStyleEditor"_s) },
         { u"reset-options-done"_s,
           [this] {
               lookAtModal(u"mnuResetOptions"_s, u"reset-options"_s);
@@ -234,8 +232,6 @@ void Tour::addStops(Application &application)
           [this] {
               lookAtModal(u"mnuDownloadProfile"_s, u"select-profile"_s);
           } },
-=======
->>>>>>> theirs
         { u"key-tester"_s,
           [&application] {
               showKeyTester(application, true);
