@@ -24,7 +24,9 @@ class FileNew;
 class FileOpening;
 class FileSaving;
 class Highlighting;
+class InsertForms;
 class MacroFeatures;
+class Packaging;
 class RightMenu;
 class TextLooks;
 class TypingColour;
@@ -63,6 +65,7 @@ public:
     ColouredInsert &insert() { return *m_insert; }
     UndoHistories &undos() { return *m_undos; }
     MacroFeatures &macros() { return *m_macros; }
+    InsertForms &insertForms() { return *m_insertForms; }
 
     /// Gives the focus back to the selected document.
     void ResetFocusToEditor();
@@ -111,6 +114,8 @@ private:
     std::unique_ptr<FileNew> m_fresh;
     std::unique_ptr<RightMenu> m_rightMenu;
     std::unique_ptr<MacroFeatures> m_macros;
+    std::unique_ptr<InsertForms> m_insertForms;
+    std::unique_ptr<Packaging> m_packaging;
 };
 
 } // namespace zeph

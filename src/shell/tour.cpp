@@ -9,7 +9,6 @@
 #include "editor/file_opening.h"
 #include "editor/framemacros.h"
 #include "editor/macro_features.h"
-#include "editor/styleeditor.h"
 #include "platform/core/file_io.h"
 #include "shell/application.h"
 #include "shell/mum.h"
@@ -18,6 +17,7 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QDialog>
 #include <QDir>
 #include <QPalette>
 #include <QStackedWidget>
@@ -52,6 +52,14 @@ void chooseMacro(Application &application)
     MacroList &macros = application.editor().macros().list();
     macros.Combo1_Click(macros.table().MacroHeadings.value(1));
     macros.frame()->list().setFocus();
+}
+
+/// Leaves the forms that stand before the main window.
+void closeForms(Application &application)
+{
+    for (QDialog *form : application.mum().findChildren<QDialog *>()) {
+        form->reject();
+    }
 }
 
 /// Compiles a file of its own with a mistake in it, for the windows that explain mistakes.
@@ -169,11 +177,34 @@ void Tour::addStops(Application &application)
               compileMistake(application);
           } },
         { u"style-editor"_s, press(u"mnuFormatStyleEditor"_s) },
+        { u"insert-title"_s,
+          [&application] {
+              closeForms(application);
+              application.editor().actions().trigger(u"mnuInsertTitle");
+          } },
+        { u"insert-heading"_s,
+          [&application] {
+              closeForms(application);
+              application.editor().actions().trigger(u"mnuInsertHeading");
+          } },
+        { u"insert-rem"_s,
+          [&application] {
+              closeForms(application);
+              application.editor().actions().trigger(u"mnuInsertRemStatement");
+          } },
+        { u"slash-window"_s,
+          [&application] {
+              closeForms(application);
+              application.editor().actions().trigger(u"mnuSlashWindow");
+          } },
+        { u"package"_s,
+          [&application] {
+              closeForms(application);
+              application.editor().actions().trigger(u"mnuFileCreateDistribution");
+          } },
         { u"tip"_s,
           [&application] {
-              if (auto *styles = application.mum().findChild<StyleEditor *>()) {
-                  styles->reject();
-              }
+              closeForms(application);
               application.editor().actions().trigger(u"mnuHelpTip");
           } },
         { u"about"_s, press(u"mnuHelpAbout_2"_s) },

@@ -2,8 +2,13 @@
 // SPDX-License-Identifier: MIT
 
 #include "editor/editor.h"
+#include "editor/frm_createpackage.h"
+#include "editor/heading.h"
 #include "editor/macrorenameform.h"
+#include "editor/singletextform.h"
+#include "editor/slashwindow.h"
 #include "editor/styleeditor.h"
+#include "editor/title.h"
 #include "shell/frmabout.h"
 #include "shell/frmtip.h"
 #include "shell/helpwindow.h"
@@ -113,6 +118,26 @@ const LintCase cases[] = {
     { "StyleEditor",
       [](auto &w) {
           return std::make_unique<StyleEditor>(defaultTextStyles(), 0xFFFFFF, w.dialogs);
+      } },
+    { "Heading",
+      [](auto &) {
+          return std::make_unique<Heading>(QStringList{ u"Guns"_s });
+      } },
+    { "SingleTextForm",
+      [](auto &) {
+          return std::make_unique<SingleTextForm>(true);
+      } },
+    { "Title",
+      [](auto &) {
+          return std::make_unique<Title>(TitleFields());
+      } },
+    { "SlashWindow",
+      [](auto &w) {
+          return std::make_unique<SlashWindow>(w.settings);
+      } },
+    { "Frm_CreatePackage",
+      [](auto &w) {
+          return std::make_unique<Frm_CreatePackage>(w.context(), PackageFields());
       } },
     { "Mum", makeMum },
 };
