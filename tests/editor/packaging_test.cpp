@@ -295,8 +295,24 @@ TEST_F(PackagingTest, AFileThatIsNoZipIsTold)
     dialogs.answer(u"Can't open zip file"_s, BoxButton::Ok);
     dialogs.answerFile(folder.file(u"none.zip"_s));
     editor->actions().trigger(u"mnuOpenZip");
-    dialogs.answer(u"Damaged zip file"_s, BoxButton::Ok);
+    dialogs.answer(u"Can't open zip file"_s, BoxButton::Ok);
     openZip("no zip");
+    EXPECT_EQ(status.text(), u"Zip file not opened");
+}
+
+TEST_F(PackagingTest, AZipThatIsDamagedFurtherOnIsToldAndWhatCameBeforeStays)
+{
+    AnyZip zip;
+    zip.file("a.tmj", "theirs").file("b.tmj", "theirs");
+    QByteArray bytes = zip.bytes();
+    const QByteArray entryMark("PK\3\4");
+    const qsizetype second = bytes.indexOf(entryMark, bytes.indexOf(entryMark) + 1);
+    ASSERT_GT(second, 0);
+    bytes.replace(second, 4, "XXXX");
+    dialogs.answer(u"Damaged zip file"_s, BoxButton::Ok);
+    openZip(bytes);
+    EXPECT_EQ(contentOf(unpacked(u"a.tmj"_s)), "theirs");
+    EXPECT_FALSE(QFileInfo::exists(unpacked(u"b.tmj"_s)));
 }
 
 TEST_F(PackagingTest, TheArchiverIsToldToOpenTheZip)
