@@ -141,6 +141,18 @@ def check_text(path, longest=0):
                 fault(path, f"line {number} is empty or longer than {longest}")
 
 
+def check_names(path, longest, refused=""):
+    """A list of names, one a line, each once in any case and without the refused characters."""
+    check_text(path, longest)
+    seen = set()
+    for number, line in enumerate(path.read_text(encoding="cp1252").splitlines(), 1):
+        if len(line) < 2 or line != line.strip() or any(c in refused for c in line):
+            fault(path, f"line {number} holds what no such name may hold")
+        if line.lower() in seen:
+            fault(path, f"line {number} stands there twice")
+        seen.add(line.lower())
+
+
 def check_rtf(path):
     raw = path.read_bytes()
     check_text(path)
@@ -258,6 +270,8 @@ def main():
     check_text(data / "KeyCodes.txt", 60)
     if (data / "KeyCodes.txt").read_bytes() != (data / "Info" / "KeyCodes.txt").read_bytes():
         fault(data / "Info" / "KeyCodes.txt", "is no copy of the table that it is the backup of")
+    check_names(data / "DefaultMacroHeadings.txt", 40)
+    check_names(data / "DefaultMacros.txt", 32, " <>{}()^,=")
     for path in sorted((data / "Info").glob("*.rtf")):
         check_rtf(path)
     check_information(data)

@@ -16,8 +16,10 @@
 #include "editor/file_saving.h"
 #include "editor/framemacros.h"
 #include "editor/highlighting.h"
+#include "editor/insert_forms.h"
 #include "editor/line_showing.h"
 #include "editor/macro_features.h"
+#include "editor/packaging.h"
 #include "editor/recovery.h"
 #include "editor/right_menu.h"
 #include "editor/text_control.h"
@@ -66,7 +68,11 @@ Editor::Editor(const Context &context, QWidget *parent)
       m_fresh(std::make_unique<FileNew>(context, *m_view, *m_opening, *m_useDirectives)),
       m_rightMenu(std::make_unique<RightMenu>(*m_view, *m_actions)),
       m_autoSave(std::make_unique<AutoSave>(context, *m_view, *m_saving)),
-      m_recovery(std::make_unique<Recovery>(context, Recovery::Parts{ *m_view, *m_opening }))
+      m_recovery(std::make_unique<Recovery>(context, Recovery::Parts{ *m_view, *m_opening })),
+      m_insertForms(std::make_unique<InsertForms>(
+          context, InsertForms::Parts{ *m_view, *m_actions, *m_insert })),
+      m_packaging(std::make_unique<Packaging>(
+          context, Packaging::Parts{ *m_view, *m_actions, *m_useDirectives }))
 {
     setObjectName(u"Editor"_s);
     auto *layout = new QHBoxLayout(this);
@@ -148,6 +154,7 @@ void Editor::connectFiles()
 void Editor::connectEditing()
 {
     connect(m_editing.get(), &EditingTools::helpOn, this, &Editor::helpOn);
+    connect(m_insertForms.get(), &InsertForms::helpOn, this, &Editor::helpOn);
     m_actions->connectTo(u"mnuEditSelectAll", [this] { selected().control->selectAll(); });
 }
 

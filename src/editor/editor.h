@@ -25,8 +25,10 @@ class FileNew;
 class FileOpening;
 class FileSaving;
 class Highlighting;
+class InsertForms;
 class MacroFeatures;
 class Recovery;
+class Packaging;
 class RightMenu;
 class TextLooks;
 class TypingColour;
@@ -67,6 +69,7 @@ public:
     MacroFeatures &macros() { return *m_macros; }
     AutoSave &autoSave() { return *m_autoSave; }
     Recovery &recovery() { return *m_recovery; }
+    InsertForms &insertForms() { return *m_insertForms; }
 
     /// Gives the focus back to the selected document.
     void ResetFocusToEditor();
@@ -120,6 +123,8 @@ private:
     std::unique_ptr<MacroFeatures> m_macros;
     std::unique_ptr<AutoSave> m_autoSave;
     std::unique_ptr<Recovery> m_recovery;
+    std::unique_ptr<InsertForms> m_insertForms;
+    std::unique_ptr<Packaging> m_packaging;
 };
 
 } // namespace zeph

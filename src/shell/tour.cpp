@@ -22,6 +22,7 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QDialog>
 #include <QDir>
 #include <QMenu>
 #include <QPalette>
@@ -59,6 +60,21 @@ void chooseMacro(Application &application)
     MacroList &macros = application.editor().macros().list();
     macros.Combo1_Click(macros.table().MacroHeadings.value(1));
     macros.frame()->list().setFocus();
+}
+
+/// Leaves the forms that stand before the main window.
+std::function<void()> pressing(Application &application, const QString &name)
+{
+    return [&application, name] {
+        application.editor().actions().trigger(name);
+    };
+}
+
+void closeForms(Application &application)
+{
+    for (QDialog *form : application.mum().findChildren<QDialog *>()) {
+        form->reject();
+    }
 }
 
 /// Compiles a file of its own with a mistake in it, for the windows that explain mistakes.
@@ -157,10 +173,8 @@ void Tour::start(Application &application)
 
 void Tour::addStops(Application &application)
 {
-    const auto press = [&application](QString name) {
-        return [&application, name] {
-            application.editor().actions().trigger(name);
-        };
+    const auto press = [&application](const QString &name) {
+        return pressing(application, name);
     };
     m_stops = {
         { u"pair"_s,
@@ -212,48 +226,90 @@ void Tour::addStops(Application &application)
           [&application] {
               compileMistake(application);
           } },
-        { u"mode-windows"_s,
-          [this] {
-              showMode(ModePicture::Windows, u"mnuCougar");
-          } },
-        { u"mode-programmed"_s,
-          [this] {
-              showMode(ModePicture::Programmed, u"mnuButtonsMode");
-          } },
-        { u"mode-unknown"_s,
-          [this] {
-              showMode(ModePicture::Unknown, u"mnuAxesMode");
-          } },
-        { u"reset-options-done"_s,
-          [this] {
-              lookAtModal(u"mnuResetOptions"_s, u"reset-options"_s);
-          } },
-        { u"select-profile-done"_s,
-          [this] {
-              lookAtModal(u"mnuDownloadProfile"_s, u"select-profile"_s);
-          } },
-        { u"key-tester"_s,
-          [&application] {
-              showKeyTester(application, true);
-          } },
-        { u"key-tester-no-menus"_s,
-          [&application] {
-              showKeyTester(application, false);
-          } },
-        { u"style-editor"_s, press(u"mnuFormatStyleEditor"_s) },
-        { u"tip"_s,
-          [&application] {
-              if (auto *styles = application.mum().findChild<StyleEditor *>()) {
-                  styles->reject();
-              }
-              application.editor().actions().trigger(u"mnuHelpTip");
-          } },
-        { u"about"_s, press(u"mnuHelpAbout_2"_s) },
-        { u"help"_s, press(u"mnuHelpContents"_s) },
-        { u"syntax"_s, press(u"mnuHelpSyntax"_s) },
-        { u"error-codes"_s, press(u"mnuHelpErrorCodes"_s) },
-        { u"empty"_s, press(u"mnuFileNewBoth"_s) },
     };
+    addToolStops(application);
+    addFormStops(application);
+}
+
+void Tour::addToolStops(Application &application)
+{
+    m_stops.insert(m_stops.end(),
+                   {
+                       { u"mode-windows"_s,
+                         [this] {
+                             showMode(ModePicture::Windows, u"mnuCougar");
+                         } },
+                       { u"mode-programmed"_s,
+                         [this] {
+                             showMode(ModePicture::Programmed, u"mnuButtonsMode");
+                         } },
+                       { u"mode-unknown"_s,
+                         [this] {
+                             showMode(ModePicture::Unknown, u"mnuAxesMode");
+                         } },
+                       { u"reset-options-done"_s,
+                         [this] {
+                             lookAtModal(u"mnuResetOptions"_s, u"reset-options"_s);
+                         } },
+                       { u"select-profile-done"_s,
+                         [this] {
+                             lookAtModal(u"mnuDownloadProfile"_s, u"select-profile"_s);
+                         } },
+                       { u"key-tester"_s,
+                         [&application] {
+                             showKeyTester(application, true);
+                         } },
+                       { u"key-tester-no-menus"_s,
+                         [&application] {
+                             showKeyTester(application, false);
+                         } },
+                   });
+}
+
+void Tour::addFormStops(Application &application)
+{
+    const auto press = [&application](const QString &name) {
+        return pressing(application, name);
+    };
+    m_stops.insert(m_stops.end(),
+                   {
+                       { u"style-editor"_s, press(u"mnuFormatStyleEditor"_s) },
+                       { u"insert-title"_s,
+                         [&application] {
+                             closeForms(application);
+                             application.editor().actions().trigger(u"mnuInsertTitle");
+                         } },
+                       { u"insert-heading"_s,
+                         [&application] {
+                             closeForms(application);
+                             application.editor().actions().trigger(u"mnuInsertHeading");
+                         } },
+                       { u"insert-rem"_s,
+                         [&application] {
+                             closeForms(application);
+                             application.editor().actions().trigger(u"mnuInsertRemStatement");
+                         } },
+                       { u"slash-window"_s,
+                         [&application] {
+                             closeForms(application);
+                             application.editor().actions().trigger(u"mnuSlashWindow");
+                         } },
+                       { u"package"_s,
+                         [&application] {
+                             closeForms(application);
+                             application.editor().actions().trigger(u"mnuFileCreateDistribution");
+                         } },
+                       { u"tip"_s,
+                         [&application] {
+                             closeForms(application);
+                             application.editor().actions().trigger(u"mnuHelpTip");
+                         } },
+                       { u"about"_s, press(u"mnuHelpAbout_2"_s) },
+                       { u"help"_s, press(u"mnuHelpContents"_s) },
+                       { u"syntax"_s, press(u"mnuHelpSyntax"_s) },
+                       { u"error-codes"_s, press(u"mnuHelpErrorCodes"_s) },
+                       { u"empty"_s, press(u"mnuFileNewBoth"_s) },
+                   });
 }
 
 void Tour::walk()

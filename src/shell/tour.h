@@ -58,6 +58,8 @@ private:
     };
 
     void addStops(Application &application);
+    void addToolStops(Application &application);
+    void addFormStops(Application &application);
     void walk();
     void popUpRightMenu();
     /// Opens a modal window by its menu entry, grabs it and closes it.

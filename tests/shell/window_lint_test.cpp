@@ -3,8 +3,13 @@
 
 #include "editor/editor.h"
 #include "editor/findandreplace.h"
+#include "editor/frm_createpackage.h"
+#include "editor/heading.h"
 #include "editor/macrorenameform.h"
+#include "editor/singletextform.h"
+#include "editor/slashwindow.h"
 #include "editor/styleeditor.h"
+#include "editor/title.h"
 #include "livetools/keytestform.h"
 #include "shell/enterfavouritename.h"
 #include "shell/frmabout.h"
@@ -153,6 +158,26 @@ const LintCase cases[] = {
     { "KeyTestForm",
       [](auto &w) { return std::make_unique<KeyTestForm>(w.context(), KeyTestHost()); },
       ShowsEscape },
+    { "Heading",
+      [](auto &) {
+          return std::make_unique<Heading>(QStringList{ u"Guns"_s });
+      } },
+    { "SingleTextForm",
+      [](auto &) {
+          return std::make_unique<SingleTextForm>(true);
+      } },
+    { "Title",
+      [](auto &) {
+          return std::make_unique<Title>(TitleFields());
+      } },
+    { "SlashWindow",
+      [](auto &w) {
+          return std::make_unique<SlashWindow>(w.settings);
+      } },
+    { "Frm_CreatePackage",
+      [](auto &w) {
+          return std::make_unique<Frm_CreatePackage>(w.context(), PackageFields());
+      } },
     { "Mum", makeMum },
 };
 

@@ -1,0 +1,77 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+// Zip files, in and out.
+
+#include "platform/core/base.h"
+
+#include <QByteArray>
+#include <QDateTime>
+
+#include <functional>
+#include <memory>
+
+namespace zeph {
+
+/// One entry as the zip says it; nothing of it can be trusted.
+struct ZipEntry {
+    enum Kind { File, Folder, Other }; ///< Other: a link, or something else that is no plain file
+
+    QString name;
+    Kind kind = File;
+    qint64 size = -1; ///< bytes when unpacked, as the zip claims; -1 when it does not say
+};
+
+/// Goes through a zip's entries in their order.
+class ZipReader
+{
+public:
+    static Expected<ZipReader, QString> open(const QString &path);
+    /// The bytes have to stay where they are while it reads.
+    static Expected<ZipReader, QString> openBytes(QByteArrayView bytes);
+
+    ZipReader(ZipReader &&) noexcept;
+    ZipReader &operator=(ZipReader &&) noexcept;
+    ~ZipReader();
+
+    /// The next entry; no value behind the last one. The error tells that the zip is damaged from
+    /// here on.
+    Expected<std::optional<ZipEntry>, QString> next();
+    /// The content of the entry that next() gave. After each piece the function hears how many
+    /// bytes there are so far; false stops, which is no value. The error tells why it cannot be
+    /// read; the entries behind it may still be.
+    Expected<std::optional<QByteArray>, QString> read(const std::function<bool(qint64)> &goOn);
+
+private:
+    struct Archive;
+    explicit ZipReader(std::unique_ptr<Archive> archive);
+
+    std::unique_ptr<Archive> m_archive;
+};
+
+/// Makes a zip. It replaces a file of its path when it is closed, whole or not at all.
+class ZipWriter
+{
+public:
+    static Expected<ZipWriter, QString> create(const QString &path);
+
+    ZipWriter(ZipWriter &&) noexcept;
+    ZipWriter &operator=(ZipWriter &&) noexcept;
+    /// Not closed: nothing is left of it.
+    ~ZipWriter();
+
+    /// Adds a file under a name whose folders are parted by "/".
+    Expected<void, QString> add(const QString &name, const QByteArray &bytes,
+                                const QDateTime &modified);
+    Expected<void, QString> close();
+
+private:
+    struct Archive;
+    explicit ZipWriter(std::unique_ptr<Archive> archive);
+
+    std::unique_ptr<Archive> m_archive;
+};
+
+} // namespace zeph
