@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: The Zeph authors
 // SPDX-License-Identifier: MIT
 
-#include "editor/auto_save.h"
 #include "editor/editor.h"
+#include "editor/loss_guards.h"
 #include "platform/clock.h"
 #include "platform/downloader.h"
 #include "platform/process_launcher.h"
@@ -57,7 +57,7 @@ int main(int argc, char **argv)
         return 0;
     }
     toolkit.guard.lastResort = [&application] {
-        application.editor().autoSave().EmergencySaveFiles();
+        application.editor().guards().autoSave.EmergencySaveFiles();
     };
     if (tour) {
         tour->start(application);

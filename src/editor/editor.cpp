@@ -3,7 +3,6 @@
 
 #include "editor/editor.h"
 
-#include "editor/auto_save.h"
 #include "editor/coloured_copies.h"
 #include "editor/coloured_insert.h"
 #include "editor/editing_tools.h"
@@ -18,9 +17,9 @@
 #include "editor/highlighting.h"
 #include "editor/insert_forms.h"
 #include "editor/line_showing.h"
+#include "editor/loss_guards.h"
 #include "editor/macro_features.h"
 #include "editor/packaging.h"
-#include "editor/recovery.h"
 #include "editor/right_menu.h"
 #include "editor/text_control.h"
 #include "editor/text_lines.h"
@@ -67,8 +66,8 @@ Editor::Editor(const Context &context, QWidget *parent)
           FileOpening::Parts{ *m_view, *m_copies, *m_highlighting, *m_useDirectives, *m_saving })),
       m_fresh(std::make_unique<FileNew>(context, *m_view, *m_opening, *m_useDirectives)),
       m_rightMenu(std::make_unique<RightMenu>(*m_view, *m_actions)),
-      m_autoSave(std::make_unique<AutoSave>(context, *m_view, *m_saving)),
-      m_recovery(std::make_unique<Recovery>(context, Recovery::Parts{ *m_view, *m_opening })),
+      m_guards(new LossGuards{ .autoSave = { context, *m_view, *m_saving },
+                               .recovery = { context, { *m_view, *m_opening } } }),
       m_insertForms(std::make_unique<InsertForms>(
           context, InsertForms::Parts{ *m_view, *m_actions, *m_insert })),
       m_packaging(std::make_unique<Packaging>(
@@ -254,11 +253,11 @@ void Editor::connectMacros()
 void Editor::connectGuards()
 {
     for (const auto replaced : { &FileNew::joystickReplaced, &FileNew::macroReplaced }) {
-        connect(m_fresh.get(), replaced, m_autoSave.get(), &AutoSave::restart);
-        connect(m_fresh.get(), replaced, m_recovery.get(), &Recovery::update);
+        connect(m_fresh.get(), replaced, &m_guards->autoSave, &AutoSave::restart);
+        connect(m_fresh.get(), replaced, &m_guards->recovery, &Recovery::update);
     }
-    connect(m_opening.get(), &FileOpening::loaded, m_recovery.get(), &Recovery::update);
-    connect(m_saving.get(), &FileSaving::safe, m_recovery.get(), &Recovery::update);
+    connect(m_opening.get(), &FileOpening::loaded, &m_guards->recovery, &Recovery::update);
+    connect(m_saving.get(), &FileSaving::safe, &m_guards->recovery, &Recovery::update);
 }
 
 void Editor::updateConditions()

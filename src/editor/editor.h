@@ -14,7 +14,6 @@ class QAction;
 
 namespace zeph {
 
-class AutoSave;
 class ColouredCopies;
 class ColouredInsert;
 class EditingTools;
@@ -26,8 +25,8 @@ class FileOpening;
 class FileSaving;
 class Highlighting;
 class InsertForms;
+struct LossGuards;
 class MacroFeatures;
-class Recovery;
 class Packaging;
 class RightMenu;
 class TextLooks;
@@ -67,8 +66,7 @@ public:
     ColouredInsert &insert() { return *m_insert; }
     UndoHistories &undos() { return *m_undos; }
     MacroFeatures &macros() { return *m_macros; }
-    AutoSave &autoSave() { return *m_autoSave; }
-    Recovery &recovery() { return *m_recovery; }
+    LossGuards &guards() { return *m_guards; }
     InsertForms &insertForms() { return *m_insertForms; }
 
     /// Gives the focus back to the selected document.
@@ -121,8 +119,7 @@ private:
     std::unique_ptr<FileNew> m_fresh;
     std::unique_ptr<RightMenu> m_rightMenu;
     std::unique_ptr<MacroFeatures> m_macros;
-    std::unique_ptr<AutoSave> m_autoSave;
-    std::unique_ptr<Recovery> m_recovery;
+    std::unique_ptr<LossGuards> m_guards;
     std::unique_ptr<InsertForms> m_insertForms;
     std::unique_ptr<Packaging> m_packaging;
 };

@@ -3,11 +3,10 @@
 
 #include "shell/application.h"
 
-#include "editor/auto_save.h"
 #include "editor/editor.h"
 #include "editor/editor_actions.h"
 #include "editor/editor_view.h"
-#include "editor/recovery.h"
+#include "editor/loss_guards.h"
 #include "platform/dialogs.h"
 #include "platform/handlers.h"
 #include "platform/screen.h"
@@ -188,8 +187,8 @@ void Application::loadEditor()
     }
     openStartFiles(*m_editor, m_commandLineFile, m_settings, ProfileFile(m_paths.iniPath),
                    m_options.dialogs);
-    m_editor->recovery().offerLeft();
-    m_editor->autoSave().restart();
+    m_editor->guards().recovery.offerLeft();
+    m_editor->guards().autoSave.restart();
     m_mum->refreshToolbars();
     m_status.setLine(1);
     m_editor->view().UpdateSavedIcon();
@@ -266,7 +265,7 @@ void Application::unloadMum()
         m_settings.RestoreJoyFile = m_editor->restorableJoystickFile();
         m_settings.RestoreMacroFile = m_editor->restorableMacroFile();
         (void)SaveForRestore(m_settings, files());
-        m_editor->recovery().finish();
+        m_editor->guards().recovery.finish();
     }
     m_mum->toolWindows().unloadAll();
     const WindowPlace place = m_mum->place();

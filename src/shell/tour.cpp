@@ -62,7 +62,6 @@ void chooseMacro(Application &application)
     macros.frame()->list().setFocus();
 }
 
-/// Leaves the forms that stand before the main window.
 std::function<void()> pressing(Application &application, const QString &name)
 {
     return [&application, name] {
@@ -70,6 +69,7 @@ std::function<void()> pressing(Application &application, const QString &name)
     };
 }
 
+/// Leaves the forms that stand before the main window.
 void closeForms(Application &application)
 {
     for (QDialog *form : application.mum().findChildren<QDialog *>()) {

@@ -7,6 +7,7 @@
 #include "editor/file_new.h"
 #include "editor/file_opening.h"
 #include "editor/file_saving.h"
+#include "editor/loss_guards.h"
 #include "platform/core/rtf.h"
 #include "tests/editor/editor_fixture.h"
 
@@ -31,7 +32,7 @@ protected:
         settings.BackUpFolder = folder.file(u"Backup/"_s);
         QDir().mkpath(settings.BackUpFolder);
     }
-    AutoSave &guard() { return editor->autoSave(); }
+    AutoSave &guard() { return editor->guards().autoSave; }
     QString open(const QString &name, const QByteArray &bytes)
     {
         const QString path = file(name, bytes);

@@ -7,6 +7,7 @@
 #include "editor/file_new.h"
 #include "editor/file_opening.h"
 #include "editor/file_saving.h"
+#include "editor/loss_guards.h"
 #include "tests/editor/editor_fixture.h"
 
 #include <QFile>
@@ -26,7 +27,7 @@ protected:
         settings.PilotCallsign = u"buddy"_s;
         settings.BackUpFolder = folder.file(u"Backup/"_s);
     }
-    Recovery &recovery() { return editor->recovery(); }
+    Recovery &recovery() { return editor->guards().recovery; }
     QString parent() const { return folder.file(u"Recovery"_s); }
     QString open(const QString &name, const QByteArray &bytes)
     {
@@ -90,7 +91,7 @@ TEST_F(RecoveryTest, AnAutosaveAndAFreshDocumentTakeTheFileAwayToo)
     type(DocumentKind::Joystick, u"x"_s);
     type(DocumentKind::Macro, u"m = a"_s);
     recovery().update();
-    editor->autoSave().AutoSaveFile();
+    editor->guards().autoSave.AutoSaveFile();
     EXPECT_FALSE(QFile::exists(parent() + u"/1/joystick.txt"_s));
     type(DocumentKind::Macro, u"b"_s);
     recovery().update();
