@@ -13,6 +13,8 @@ namespace {
 
 /// How the field of the working directory begins while nobody has touched it.
 constexpr QStringView sample = u"eg";
+/// What stands in the directory's field until the pilot writes there.
+constexpr QStringView wholeSample = u"eg C:\\Games\\Falcon4";
 
 const QString commandHelp =
     u"This is what I run to start your game: the full path of its program, and behind it, after a "
@@ -141,7 +143,7 @@ Game EnterGameName::game() const
 {
     const QString folder = m_ui->TextGameDIRPath->text().trimmed();
     return { m_ui->TextGameName->text().trimmed(), m_ui->TextGamePath->text().trimmed(),
-             folder.startsWith(sample) ? QString() : folder, m_ui->TextGameJF->text().trimmed(),
+             folder == wholeSample ? QString() : folder, m_ui->TextGameJF->text().trimmed(),
              qint16(mode()) };
 }
 

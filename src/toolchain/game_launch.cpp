@@ -110,6 +110,7 @@ bool GameLaunch::download(const QString &wanted)
         return goOnWithoutVerdict();
     case ExchangeEnd::NotStarted:
         // Told already, and like every failed step no reason to keep the pilot from flying.
+        m_context.status.setText(panelAfterCompilerWait(true));
         return true;
     default:
         return tellVerdict(file);

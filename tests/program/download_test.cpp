@@ -69,6 +69,15 @@ const QStringList accept = { u"box File successfully compiled!"_s, u"press OK"_s
 
 } // namespace
 
+TEST_F(ProgramDownload, AnAbsentProfileStopsOnlyTheProfileStep)
+{
+    program.settle("RunKeyTest=0\r\n[Apps]\r\nUseResetProfile=1\r\nResetProfile=Gone\r\n");
+    run(QStringList{ download, u"box Cannot find profile in HOTAS Profiles folder"_s,
+                     u"press OK"_s }
+        + accept + QStringList{ u"text Panel_1 Compiled successfully"_s, u"close"_s });
+    EXPECT_EQ(remembered(u"StandIn"_s, u"LoadedProfile"_s), u"(absent)");
+}
+
 TEST_F(ProgramDownload, TheSamplePairReachesTheCougarInProgrammedMode)
 {
     const QStringList notes =

@@ -56,6 +56,19 @@ constexpr Case cases[] = {
 
 } // namespace
 
+TEST(RunAppLines, ALineOfMixedBlanksAndTabsIsRecognisedAfterNormalisation)
+{
+    const auto apps = runAppLines(u"use  zeph\trun_app c:\\x.exe");
+    ASSERT_EQ(apps.size(), 1);
+    EXPECT_EQ(apps[0].command, u"c:\\x.exe");
+}
+
+TEST(RunAppLines, ALineUnder20CharactersAfterNormalisationIsIgnored)
+{
+    EXPECT_TRUE(runAppLines(u"USE  \tZEPH   RUN_APP \t ab").isEmpty());
+    EXPECT_EQ(runAppLines(u"USE  \tZEPH   RUN_APP \t abc").size(), 1);
+}
+
 TEST(RunAppLines, ReadsALine)
 {
     for (const Case &row : cases) {
