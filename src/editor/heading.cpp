@@ -17,6 +17,9 @@ Heading::Heading(const QStringList &headings, QWidget *parent)
     m_ui->setupUi(this);
     // A heading is what was typed, not an entry of the list that begins alike.
     m_ui->Combo1->setCompleter(nullptr);
+    // The toolkit makes the box's field itself, and gives it no name.
+    m_ui->Combo1->lineEdit()->setObjectName(u"Combo1Edit"_s);
+    m_ui->Combo1->lineEdit()->setAccessibleName(m_ui->Combo1->accessibleName());
     m_ui->Combo1->addItems(headings);
     m_ui->Combo1->setCurrentIndex(-1);
     m_ui->Combo1->clearEditText();
