@@ -3,6 +3,7 @@
 
 #include "platform/clock.h"
 #include "platform/downloader.h"
+#include "platform/printers.h"
 #include "platform/process_launcher.h"
 #include "platform/qt_dialogs.h"
 #include "platform/screen.h"
@@ -30,6 +31,7 @@ int main(int argc, char **argv)
     HttpDownloader downloader;
     SystemKeyboard keyboard;
     SystemJoystick joystick;
+    SystemPrinters printers;
     const PrimaryScreen screen;
     const SystemInfo system;
     std::unique_ptr<Tour> tour;
@@ -47,6 +49,7 @@ int main(int argc, char **argv)
         .downloader = downloader,
         .keyboard = keyboard,
         .joystick = joystick,
+        .printers = printers,
         .screen = screen,
         .system = system,
     });

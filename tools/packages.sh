@@ -6,7 +6,7 @@
 packages_to_build="build-essential cmake ninja-build ccache git qt6-base-dev libqt6svg6-dev libqt6svg6 \
 libexpected-dev libgl-dev fonts-dejavu-core"
 packages_to_test="libgtest-dev libgmock-dev libbenchmark-dev clang-format-16 python3-minimal unrtf \
-desktop-file-utils appstream shared-mime-info libxml2-utils"
+desktop-file-utils appstream shared-mime-info libxml2-utils poppler-utils"
 
 # install_packages NAME...: quiet when all are there.
 install_packages() {

@@ -7,6 +7,7 @@
 #include "editor/date_stamp.h"
 #include "editor/document_text.h"
 #include "editor/editor_view.h"
+#include "editor/overwrite_question.h"
 #include "editor/text_control.h"
 #include "editor/use_directives.h"
 #include "platform/clock.h"
@@ -19,8 +20,6 @@
 namespace zeph {
 
 namespace {
-
-const QString readOnlyTitle = u"Can't save Read Only file"_s;
 
 struct SaveAsLook {
     QStringView extension;
@@ -48,7 +47,7 @@ void FileSaving::mnuFileSave_Click()
         return;
     }
     if (isReadOnlyFile(document.path)) {
-        m_context.dialogs.tell(readOnlyTitle,
+        m_context.dialogs.tell(readOnlyTitle.toString(),
                                document.path
                                    + u" is read only. You'll need to save it elsewhere using the "
                                      "Save As routine. I'll run this for you now."_s,
@@ -73,7 +72,7 @@ void FileSaving::mnuFileSaveAs_Click()
     // read it would never tell the two apart.
     const QString existing = existingPath(*chosen);
     const QString path = existing.isEmpty() ? *chosen : existing;
-    if (!mayOverwrite(path)) {
+    if (!mayOverwrite(m_context.dialogs, path)) {
         return;
     }
     const QString oldPath = document.path;
@@ -107,27 +106,6 @@ QString FileSaving::proposedName(const EditorDocument &document)
     return document.name;
 }
 
-bool FileSaving::mayOverwrite(const QString &path)
-{
-    if (!fileExists(path)) {
-        return true;
-    }
-    if (!m_context.dialogs.ask(
-            u"OK to overwrite exisiting file?"_s,
-            nameOf(path) + u" already exists. Do you want me to overwrite this file?"_s)) {
-        return false;
-    }
-    if (isReadOnlyFile(path)) {
-        m_context.dialogs.tell(readOnlyTitle,
-                               path
-                                   + u" is read only. Please save the file with a different name "
-                                     "or location."_s,
-                               BoxIcon::Exclamation);
-        return false;
-    }
-    return true;
-}
-
 void FileSaving::SaveText(EditorDocument &document)
 {
     TextControl &control = *document.control;
@@ -141,12 +119,7 @@ void FileSaving::SaveText(EditorDocument &document)
     if (const auto done = writeFileAtomically(document.path, documentBytes(control.text()));
         !done) {
         m_view.setState(document, EditorDocument::Modified);
-        m_context.dialogs.tell(u"I couldn't save your file buddy"_s,
-                               done.error().path
-                                   + u" wasn't saved, and what was there before is untouched. "
-                                     "The system says: "_s
-                                   + done.error().reason,
-                               BoxIcon::Stop);
+        tellNotSaved(m_context.dialogs, done.error());
         return;
     }
     tellOtherDocument(document);

@@ -42,7 +42,6 @@ Q_SIGNALS:
 private:
     bool encodable(EditorDocument &document);
     QString proposedName(const EditorDocument &document);
-    bool mayOverwrite(const QString &path);
     void tellOtherDocument(const EditorDocument &saved);
 
     Context m_context;

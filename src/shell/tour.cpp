@@ -9,7 +9,9 @@
 #include "editor/file_opening.h"
 #include "editor/framemacros.h"
 #include "editor/macro_features.h"
+#include "editor/printpreview.h"
 #include "editor/styleeditor.h"
+#include "editor/templateform.h"
 #include "platform/core/file_io.h"
 #include "shell/application.h"
 #include "shell/mum.h"
@@ -169,6 +171,23 @@ void Tour::addStops(Application &application)
               compileMistake(application);
           } },
         { u"style-editor"_s, press(u"mnuFormatStyleEditor"_s) },
+        { u"print-preview"_s,
+          [&application] {
+              if (auto *styles = application.mum().findChild<StyleEditor *>()) {
+                  styles->reject();
+              }
+              application.editor().actions().trigger(u"mnuFilePrintPreview");
+          } },
+        { u"template-editor"_s,
+          [&application] {
+              if (auto *preview = application.mum().findChild<PrintPreview *>()) {
+                  preview->reject();
+              }
+              application.editor().actions().trigger(u"mnuAppsTemplateEditor");
+              if (auto *form = application.mum().findChild<TemplateForm *>()) {
+                  form->OpenReadMe(application.paths().inApp(u"Templates/ReadMe sample.rtf"));
+              }
+          } },
         { u"tip"_s,
           [&application] {
               if (auto *styles = application.mum().findChild<StyleEditor *>()) {

@@ -9,6 +9,7 @@
 #include "platform/fakes/fake_joystick.h"
 #include "platform/fakes/fake_keyboard.h"
 #include "platform/fakes/fake_launcher.h"
+#include "platform/fakes/fake_printers.h"
 #include "platform/fakes/fake_screen.h"
 #include "platform/fakes/scripted_dialogs.h"
 #include "platform/status_line.h"
@@ -56,6 +57,7 @@ public:
     FakeDownloader downloader;
     FakeKeyboard keyboard;
     FakeJoystick joystick;
+    FakePrinters printers;
     FakeScreen screen;
     FakeSystem system;
     QStringList arguments;
@@ -99,6 +101,7 @@ public:
             .downloader = downloader,
             .keyboard = keyboard,
             .joystick = joystick,
+            .printers = printers,
             .screen = screen,
             .system = system,
             .welcomeIntervalMs = welcomeIntervalMs,

@@ -3,7 +3,9 @@
 
 #include "editor/editor.h"
 #include "editor/macrorenameform.h"
+#include "editor/printpreview.h"
 #include "editor/styleeditor.h"
+#include "editor/templateform.h"
 #include "shell/frmabout.h"
 #include "shell/frmtip.h"
 #include "shell/helpwindow.h"
@@ -113,6 +115,16 @@ const LintCase cases[] = {
     { "StyleEditor",
       [](auto &w) {
           return std::make_unique<StyleEditor>(defaultTextStyles(), 0xFFFFFF, w.dialogs);
+      } },
+    { "PrintPreview",
+      [](auto &w) {
+          return std::make_unique<PrintPreview>(
+              w.context(), w.printers,
+              PrintJob{ u"Sample.tmj"_s, RichText::plain(u"BTN S1 a"_s), {} }, w.folder.path());
+      } },
+    { "TemplateForm",
+      [](auto &w) {
+          return std::make_unique<TemplateForm>(w.context(), w.printers, TemplateHost());
       } },
     { "Mum", makeMum },
 };

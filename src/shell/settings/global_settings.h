@@ -77,6 +77,8 @@ struct GlobalSettings {
     QString TextFilePath;
     // Joystick Analyser
     qint16 JoyIDnumber;
+    // Template Editor
+    qint16 HideAppsToolBar;
     // Composer
     qint16 DefaultDLYvalue;
     // Colours

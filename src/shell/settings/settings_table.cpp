@@ -126,6 +126,7 @@ constexpr std::array table = {
     text(u"Apps", u"TextFilePath", &G::TextFilePath, u"", saved),
 
     integer(u"Joystick Analyser", u"JoyIDnumber", &G::JoyIDnumber, u"0", saved),
+    integer(u"Template Editor", u"HideAppsToolBar", &G::HideAppsToolBar, u"0", notSaved),
     integer(u"Composer", u"DefaultDLYvalue", &G::DefaultDLYvalue, u"60", saved),
 
     integer(unsupported, u"TurnOffFontCheck", &G::TurnOffFontCheck, u"0", notSaved),
