@@ -5,6 +5,7 @@
 #include "editor/loss_guards.h"
 #include "platform/clock.h"
 #include "platform/downloader.h"
+#include "platform/printers.h"
 #include "platform/process_launcher.h"
 #include "platform/qt_dialogs.h"
 #include "platform/safe_application.h"
@@ -32,6 +33,7 @@ int main(int argc, char **argv)
     HttpDownloader downloader;
     SystemKeyboard keyboard;
     SystemJoystick joystick;
+    SystemPrinters printers;
     const PrimaryScreen screen;
     const SystemInfo system;
     std::unique_ptr<Tour> tour;
@@ -49,6 +51,7 @@ int main(int argc, char **argv)
         .downloader = downloader,
         .keyboard = keyboard,
         .joystick = joystick,
+        .printers = printers,
         .screen = screen,
         .system = system,
     });

@@ -18,7 +18,7 @@ macros-identify tile colour insert-title insert-heading insert-rem compile downl
 template-editor image-viewer mouse-wizard quick-view layout-joystick layout-throttle layout-custom multi-editor launcher
 key-tester analyser logical-flags control-panel custom-app shortcut-editor shortcut-layout shortcut-readme tab-joystick
 tab-macro tab-protected saved-empty saved-saved saved-modified mode-off mode-windows mode-programmed mode-unknown zeph exit
-delete bold italic underline""".split()
+delete bold italic underline bullets align-left align-centre align-right""".split()
 
 # A pilot who presses F1 on any of these words must find something.
 LANGUAGE_WORDS = """BTN DEF /U /M /D /I /O /A /H /T /P /R CURVE DELAY PULSE USB DLY RPT KD KU MSX MSY MSZ TRIM HOLDTRIM
@@ -272,6 +272,9 @@ def main():
         fault(data / "Info" / "KeyCodes.txt", "is no copy of the table that it is the backup of")
     check_names(data / "DefaultMacroHeadings.txt", 40)
     check_names(data / "DefaultMacros.txt", 32, " <>{}()^,=")
+    check_text(data / "Templates" / "Hints for templates.txt")
+    for path in sorted((data / "Templates").glob("*.rtf")):
+        check_rtf(path)
     for path in sorted((data / "Info").glob("*.rtf")):
         check_rtf(path)
     check_information(data)

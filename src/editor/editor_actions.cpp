@@ -22,8 +22,9 @@ QString text(const char16_t *characters)
 
 } // namespace
 
-EditorActions::EditorActions(Dialogs &dialogs, const QString &iconFolder, QObject *parent)
-    : QObject(parent), m_dialogs(dialogs), m_iconFolder(iconFolder)
+EditorActions::EditorActions(Dialogs &dialogs, const QString &iconFolder, QObject *parent,
+                             std::span<const MenuRow> menus, std::span<const ActionRow> rows)
+    : QObject(parent), m_dialogs(dialogs), m_iconFolder(iconFolder), m_bar(menus), m_rows(rows)
 {
     makeMenus();
 }
@@ -41,12 +42,12 @@ EditorActions::~EditorActions()
 
 void EditorActions::makeMenus()
 {
-    for (const MenuRow &row : menuBarTable()) {
+    for (const MenuRow &row : m_bar) {
         auto *menu = new QMenu(text(row.caption));
         menu->setObjectName(text(row.name));
         m_menus.insert(menu->objectName(), menu);
     }
-    for (const ActionRow &row : actionTable()) {
+    for (const ActionRow &row : m_rows) {
         QMenu *menu = m_menus.value(text(row.menu));
         QAction *action = nullptr;
         if (row.kind == ActionKind::Separator) {
@@ -92,7 +93,7 @@ QMenu *EditorActions::menu(QStringView name) const
 QList<QMenu *> EditorActions::menuBar() const
 {
     QList<QMenu *> bar;
-    for (const MenuRow &row : menuBarTable()) {
+    for (const MenuRow &row : m_bar) {
         bar.append(m_menus.value(text(row.name)));
     }
     return bar;
@@ -116,7 +117,7 @@ bool EditorActions::trigger(QStringView name)
 
 void EditorActions::setCondition(When when, bool holds)
 {
-    for (const ActionRow &row : actionTable()) {
+    for (const ActionRow &row : m_rows) {
         if (row.when == when && row.kind != ActionKind::Separator) {
             action(QStringView(row.name))->setEnabled(holds);
         }

@@ -17,12 +17,15 @@ namespace zeph {
 
 class Dialogs;
 
-/// The menu entries as live actions, made from the table. Owns the menus.
+/// The menu entries of a window as live actions, made from its tables. Owns the menus.
 class EditorActions : public QObject
 {
     Q_OBJECT
 public:
-    EditorActions(Dialogs &dialogs, const QString &iconFolder, QObject *parent = nullptr);
+    /// The tables are the Editor's, unless a window has its own; they must outlive this.
+    EditorActions(Dialogs &dialogs, const QString &iconFolder, QObject *parent = nullptr,
+                  std::span<const MenuRow> menus = menuBarTable(),
+                  std::span<const ActionRow> rows = actionTable());
     ~EditorActions() override;
 
     /// The entry of that object name. Every name of the table has one; another is a programming
@@ -46,6 +49,8 @@ private:
 
     Dialogs &m_dialogs;
     QString m_iconFolder;
+    std::span<const MenuRow> m_bar;
+    std::span<const ActionRow> m_rows;
     QHash<QString, QAction *> m_actions;
     QHash<QString, QMenu *> m_menus;
 };

@@ -7,6 +7,7 @@
 #include "editor/date_stamp.h"
 #include "editor/document_text.h"
 #include "editor/editor_view.h"
+#include "editor/overwrite_question.h"
 #include "editor/text_control.h"
 #include "editor/use_directives.h"
 #include "platform/clock.h"
@@ -19,8 +20,6 @@
 namespace zeph {
 
 namespace {
-
-const QString readOnlyTitle = u"Can't save Read Only file"_s;
 
 struct SaveAsLook {
     QStringView extension;
@@ -49,7 +48,7 @@ void FileSaving::mnuFileSave_Click()
         return;
     }
     if (isReadOnlyFile(document.path)) {
-        m_context.dialogs.tell(readOnlyTitle,
+        m_context.dialogs.tell(readOnlyTitle.toString(),
                                document.path
                                    + u" is read only. You'll need to save it elsewhere using the "
                                      "Save As routine. I'll run this for you now."_s,
@@ -74,7 +73,7 @@ void FileSaving::mnuFileSaveAs_Click()
     // read it would never tell the two apart.
     const QString existing = existingPath(*chosen);
     const QString path = existing.isEmpty() ? *chosen : existing;
-    if (!mayOverwrite(path)) {
+    if (!mayOverwrite(m_context.dialogs, path)) {
         return;
     }
     const QString oldPath = document.path;
@@ -106,27 +105,6 @@ QString FileSaving::proposedName(const EditorDocument &document)
         return baseWithDot(other.name) + (macro ? u"tmm"_s : u"tmj"_s);
     }
     return document.name;
-}
-
-bool FileSaving::mayOverwrite(const QString &path)
-{
-    if (!fileExists(path)) {
-        return true;
-    }
-    if (!m_context.dialogs.ask(
-            u"OK to overwrite exisiting file?"_s,
-            nameOf(path) + u" already exists. Do you want me to overwrite this file?"_s)) {
-        return false;
-    }
-    if (isReadOnlyFile(path)) {
-        m_context.dialogs.tell(readOnlyTitle,
-                               path
-                                   + u" is read only. Please save the file with a different name "
-                                     "or location."_s,
-                               BoxIcon::Exclamation);
-        return false;
-    }
-    return true;
 }
 
 void FileSaving::SaveText(EditorDocument &document)
@@ -201,12 +179,7 @@ void FileSaving::finish(EditorDocument &document, QString status)
 void FileSaving::tellUnsaved(EditorDocument &document, const FileError &error)
 {
     m_view.setState(document, EditorDocument::Modified);
-    m_context.dialogs.tell(u"I couldn't save your file buddy"_s,
-                           error.path
-                               + u" wasn't saved, and what was there before is untouched. The "
-                                 "system says: "_s
-                               + error.reason,
-                           BoxIcon::Stop);
+    tellNotSaved(m_context.dialogs, error);
 }
 
 /// A text without a name is saved under its fresh name, and the last run's may stand there still:

@@ -54,7 +54,6 @@ private:
     void tellUnsaved(EditorDocument &document, const FileError &error);
     bool keepStrangersFile(const EditorDocument &document);
     QString proposedName(const EditorDocument &document);
-    bool mayOverwrite(const QString &path);
     void tellOtherDocument(const EditorDocument &saved);
 
     Context m_context;

@@ -5,6 +5,7 @@
 
 #include "platform/core/text_search.h"
 #include "platform/rich_text_document.h"
+#include "platform/rich_text_mime.h"
 
 #include <QKeyEvent>
 #include <QScrollBar>
@@ -13,13 +14,6 @@
 #include <cmath>
 
 namespace zeph {
-
-namespace {
-
-// A quarter of an inch, by which a bullet's text hangs.
-constexpr double bulletIndentPixels = 24;
-
-} // namespace
 
 RichTextBox::RichTextBox(QWidget *parent) : QTextEdit(parent)
 {
@@ -96,6 +90,28 @@ void RichTextBox::keyPressEvent(QKeyEvent *event)
         return;
     }
     QTextEdit::keyPressEvent(event);
+}
+
+QMimeData *RichTextBox::createMimeDataFromSelection() const
+{
+    return new RichTextMime(richTextOf(*document(), selStart(), selLength()));
+}
+
+bool RichTextBox::canInsertFromMimeData(const QMimeData *source) const
+{
+    return holdsText(source) && !source->hasUrls();
+}
+
+void RichTextBox::insertFromMimeData(const QMimeData *source)
+{
+    QTextCursor cursor = textCursor();
+    if (const auto rich = richTextOf(*source)) {
+        insertRichText(cursor, *rich);
+    } else {
+        cursor.insertText(plainTextOf(*source), currentCharFormat());
+    }
+    setTextCursor(cursor);
+    ensureCursorVisible();
 }
 
 } // namespace zeph

@@ -33,6 +33,11 @@ public:
 protected:
     /// Shift+Enter starts a line like Enter: the only line end of a text is '\n'.
     void keyPressEvent(QKeyEvent *event) override;
+    /// The clipboard gives and takes what a rich text can hold: no pictures, tables or links, which
+    /// would be seen and then be lost by a save.
+    QMimeData *createMimeDataFromSelection() const override;
+    bool canInsertFromMimeData(const QMimeData *source) const override;
+    void insertFromMimeData(const QMimeData *source) override;
 };
 
 } // namespace zeph

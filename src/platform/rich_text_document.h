@@ -13,6 +13,9 @@
 
 namespace zeph {
 
+/// By how much a bullet's text hangs, in device-independent pixels: a quarter of an inch.
+constexpr double bulletIndentPixels = 24;
+
 /// The toolkit's format of a character and back.
 QTextCharFormat toTextFormat(const CharFormat &format);
 CharFormat fromTextFormat(const QTextCharFormat &format);

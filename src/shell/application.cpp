@@ -7,6 +7,7 @@
 #include "editor/editor_actions.h"
 #include "editor/editor_view.h"
 #include "editor/loss_guards.h"
+#include "editor/printing.h"
 #include "platform/dialogs.h"
 #include "platform/handlers.h"
 #include "platform/screen.h"
@@ -22,6 +23,7 @@
 #include "shell/settings/settings_moments.h"
 #include "shell/start_checks.h"
 #include "shell/start_files.h"
+#include "shell/template_menu.h"
 #include "shell/tool_windows.h"
 #include "shell/tools_menu.h"
 #include "shell/user_lists.h"
@@ -174,6 +176,8 @@ void Application::loadEditor()
     m_help = new HelpMenu(context(), m_options.downloader, m_mum->toolWindows(), *m_editor);
     m_lists = new UserLists(context(), *m_editor);
     m_tools->attach(context(), *m_mum, *m_editor, *m_help);
+    m_templates = new TemplateMenu(context(), m_options.printers, *m_mum, *m_editor, *m_help);
+    m_printing = std::make_unique<FilePrinting>(context(), m_options.printers, *m_editor);
     new ForeignKeyBSupport(m_options.keyboard, m_settings, m_editor);
     QObject::connect(&m_mum->toolWindows(), &ToolWindows::loaded, m_mum.get(),
                      [this](QWidget *window) {
@@ -254,7 +258,7 @@ void Application::selectFirstTab()
 
 bool Application::queryUnload()
 {
-    return !m_editor || m_editor->queryUnload();
+    return !m_editor || (m_editor->queryUnload() && m_templates->queryUnload());
 }
 
 void Application::unloadMum()

@@ -20,11 +20,14 @@ namespace zeph {
 class CougarTools;
 class Downloader;
 class Editor;
+class FilePrinting;
 class HelpMenu;
 class Joystick;
 class Mum;
+class Printers;
 class Screen;
 class SystemInfo;
+class TemplateMenu;
 class UserLists;
 
 /// The world that a run stands in; all must outlive it.
@@ -39,6 +42,7 @@ struct ApplicationOptions {
     Downloader &downloader;
     Keyboard &keyboard;
     Joystick &joystick;
+    Printers &printers;
     const Screen &screen;
     const SystemInfo &system;
     /// Milliseconds between two dots of the first run's script.
@@ -99,6 +103,8 @@ private:
     HelpMenu *m_help = nullptr;
     UserLists *m_lists = nullptr;
     CougarTools *m_tools = nullptr;
+    TemplateMenu *m_templates = nullptr;
+    std::unique_ptr<FilePrinting> m_printing;
 };
 
 } // namespace zeph

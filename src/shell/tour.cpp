@@ -12,6 +12,7 @@
 #include "editor/macro_features.h"
 #include "editor/right_menu.h"
 #include "editor/styleeditor.h"
+#include "editor/templateform.h"
 #include "livetools/keytestform.h"
 #include "platform/core/file_io.h"
 #include "shell/application.h"
@@ -298,6 +299,20 @@ void Tour::addFormStops(Application &application)
                          [&application] {
                              closeForms(application);
                              application.editor().actions().trigger(u"mnuFileCreateDistribution");
+                         } },
+                       { u"print-preview"_s,
+                         [&application] {
+                             closeForms(application);
+                             application.editor().actions().trigger(u"mnuFilePrintPreview");
+                         } },
+                       { u"template-editor"_s,
+                         [&application] {
+                             closeForms(application);
+                             application.editor().actions().trigger(u"mnuAppsTemplateEditor");
+                             if (auto *form = application.mum().findChild<TemplateForm *>()) {
+                                 form->OpenReadMe(
+                                     application.paths().inApp(u"Templates/ReadMe sample.rtf"));
+                             }
                          } },
                        { u"tip"_s,
                          [&application] {

@@ -11,6 +11,7 @@
 #include "platform/fakes/fake_joystick.h"
 #include "platform/fakes/fake_keyboard.h"
 #include "platform/fakes/fake_launcher.h"
+#include "platform/fakes/fake_printers.h"
 #include "platform/fakes/fake_screen.h"
 #include "platform/fakes/scripted_dialogs.h"
 #include "platform/status_line.h"
@@ -60,6 +61,7 @@ public:
     FakeDownloader downloader;
     FakeKeyboard keyboard;
     FakeJoystick joystick;
+    FakePrinters printers;
     FakeScreen screen;
     FakeSystem system;
     QStringList arguments;
@@ -103,6 +105,7 @@ public:
             .downloader = downloader,
             .keyboard = keyboard,
             .joystick = joystick,
+            .printers = printers,
             .screen = screen,
             .system = system,
             .welcomeIntervalMs = welcomeIntervalMs,

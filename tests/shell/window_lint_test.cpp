@@ -6,9 +6,11 @@
 #include "editor/frm_createpackage.h"
 #include "editor/heading.h"
 #include "editor/macrorenameform.h"
+#include "editor/printpreview.h"
 #include "editor/singletextform.h"
 #include "editor/slashwindow.h"
 #include "editor/styleeditor.h"
+#include "editor/templateform.h"
 #include "editor/title.h"
 #include "livetools/keytestform.h"
 #include "shell/enterfavouritename.h"
@@ -174,12 +176,21 @@ const LintCase cases[] = {
       [](auto &w) {
           return std::make_unique<SlashWindow>(w.settings);
       } },
-    { "Frm_CreatePackage",
-      [](auto &w) {
-          return std::make_unique<Frm_CreatePackage>(w.context(), PackageFields());
-      } },
-    { "Mum", makeMum },
-};
+    { "Frm_CreatePackage", [](auto &w) {
+         return std::make_unique<Frm_CreatePackage>(w.context(), PackageFields());
+         { "PrintPreview",
+           [](auto &w) {
+               return std::make_unique<PrintPreview>(
+                   w.context(), w.printers,
+                   PrintJob{ u"Sample.tmj"_s, RichText::plain(u"BTN S1 a"_s), {} },
+                   w.folder.path());
+           } },
+             { "TemplateForm",
+               [](auto &w) {
+                   return std::make_unique<TemplateForm>(w.context(), w.printers, TemplateHost());
+               } },
+             { "Mum", makeMum },
+     };
 
 class WindowLint : public test::ShellWorld, public testing::WithParamInterface<LintCase>
 {

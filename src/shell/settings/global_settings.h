@@ -80,6 +80,8 @@ struct GlobalSettings {
     qint16 UseResetProfile;
     // Joystick Analyser
     qint16 JoyIDnumber;
+    // Template Editor
+    qint16 HideAppsToolBar;
     // Composer
     qint16 DefaultDLYvalue;
     // Colours

@@ -131,6 +131,7 @@ constexpr std::array table = {
     integer(u"Apps", u"UseResetProfile", &G::UseResetProfile, u"0", notSaved),
 
     integer(u"Joystick Analyser", u"JoyIDnumber", &G::JoyIDnumber, u"0", saved),
+    integer(u"Template Editor", u"HideAppsToolBar", &G::HideAppsToolBar, u"0", notSaved),
     integer(u"Composer", u"DefaultDLYvalue", &G::DefaultDLYvalue, u"60", saved),
 
     integer(unsupported, u"TurnOffFontCheck", &G::TurnOffFontCheck, u"0", notSaved),

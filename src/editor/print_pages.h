@@ -1,0 +1,79 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+// A text on pages: what printers, the preview and PDF files show alike.
+
+#include "platform/core/rich_text.h"
+
+#include <QSizeF>
+
+#include <memory>
+#include <span>
+#include <vector>
+
+class QPagedPaintDevice;
+class QPaintDevice;
+class QPainter;
+class QTextDocument;
+
+namespace zeph {
+
+/// Where a line of print stands on an endless strip of paper.
+struct LineExtent {
+    double top = 0;
+    double bottom = 0;
+};
+
+/// The first line (0-based) of each page. A page is broken between lines only; a line that is
+/// higher than a page stands alone on one. Without lines there is one page.
+std::vector<size_t> pageStarts(std::span<const LineExtent> lines, double pageHeight);
+
+/// The colour that a colour of the screen has on white paper: its own, or black for one that would
+/// not be seen there.
+ColorRef inkOf(ColorRef colour);
+
+/// Two lines of nothing, where the file lies, when it was printed, and one line of nothing, in
+/// front of a file's text. The header has the text's first font, and is black.
+RichText withPrintHeader(const RichText &text, const CharFormat &plain, const QString &path,
+                         const QString &printedOn);
+
+/// A text laid out on pages: wrapped at the page's width, each line whole on one page, looks kept.
+class PrintPages
+{
+public:
+    /// The size is that of the printable part of a page, in the device's pixels. Characters without
+    /// a font have the plain one.
+    PrintPages(const RichText &text, const CharFormat &plain, QPaintDevice &device,
+               const QSizeF &size);
+    ~PrintPages();
+
+    int count() const { return int(m_starts.size()); }
+    /// Draws a page (0-based) with its top left corner at the painter's origin.
+    void draw(QPainter &painter, int page) const;
+
+private:
+    struct Line {
+        int block = 0;
+        int index = 0; ///< in its block
+        LineExtent extent;
+    };
+    void collectLines();
+    void drawBullet(QPainter &painter, const Line &line, double pageTop) const;
+
+    std::unique_ptr<QTextDocument> m_document;
+    std::vector<Line> m_lines;
+    std::vector<size_t> m_starts;
+};
+
+/// Draws all pages that the device's user wants on a device. The reason of a failure, in the
+/// system's words, otherwise.
+Expected<void, QString> printOn(QPagedPaintDevice &device, const RichText &text,
+                                const CharFormat &plain);
+
+/// The pages as a PDF file's bytes, on paper like a device's.
+QByteArray pdfOf(const RichText &text, const CharFormat &plain, const QString &title,
+                 const QPagedPaintDevice &paper);
+
+} // namespace zeph

@@ -1,0 +1,15 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+// The menus of the Template Editor, which mirror the main window's where they do the same.
+
+#include "editor/actions.h"
+
+namespace zeph {
+
+std::span<const MenuRow> templateMenuBar();
+std::span<const ActionRow> templateActions();
+
+} // namespace zeph

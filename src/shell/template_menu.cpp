@@ -1,0 +1,68 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#include "shell/template_menu.h"
+
+#include "editor/editor.h"
+#include "editor/editor_actions.h"
+#include "editor/framemacros.h"
+#include "editor/macro_features.h"
+#include "editor/macro_table.h"
+#include "editor/templateform.h"
+#include "editor/use_directives.h"
+#include "shell/help_menu.h"
+#include "shell/mum.h"
+#include "shell/tool_windows.h"
+
+namespace zeph {
+
+namespace {
+
+/// The help topic on the Template Editor.
+constexpr int templatesTopic = 290;
+
+} // namespace
+
+TemplateMenu::TemplateMenu(const Context &context, Printers &printers, Mum &mum, Editor &editor,
+                           HelpMenu &help)
+    : QObject(&editor), m_context(context), m_printers(printers), m_mum(mum), m_editor(editor),
+      m_help(help)
+{
+    EditorActions &on = editor.actions();
+    on.connectTo(u"mnuAppsTemplateEditor", [this] { mnuAppsTemplateEditor_Click(); });
+    on.connectTo(u"mnuAppsViewReadMe", [this] { mnuAppsViewReadMe_Click(); });
+    const UseDirectives *files = &editor.useDirectives();
+    connect(files, &UseDirectives::filesChanged, this, [this, files] {
+        m_editor.actions().setCondition(When::ReadMe, !files->textFilePath().isEmpty());
+    });
+}
+
+TemplateForm *TemplateMenu::make(QWidget *owner)
+{
+    TemplateHost host;
+    host.showHelp = [this] {
+        m_help.showTopic(templatesTopic);
+    };
+    host.macroKeys = [this](const QString &word) {
+        return macroKeys(m_editor.macros().list().table(), word);
+    };
+    return new TemplateForm(m_context, m_printers, host, owner);
+}
+
+TemplateForm *TemplateMenu::mnuAppsTemplateEditor_Click()
+{
+    return m_mum.toolWindows().open<TemplateForm>([this](QWidget *owner) { return make(owner); });
+}
+
+void TemplateMenu::mnuAppsViewReadMe_Click()
+{
+    mnuAppsTemplateEditor_Click()->OpenReadMe(m_editor.useDirectives().textFilePath());
+}
+
+bool TemplateMenu::queryUnload()
+{
+    auto *form = m_mum.toolWindows().get<TemplateForm>();
+    return !form || form->mayClose();
+}
+
+} // namespace zeph
