@@ -5,9 +5,8 @@
 
 packages_to_build="build-essential cmake ninja-build ccache git qt6-base-dev libqt6svg6-dev libqt6svg6 \
 libexpected-dev libsdl2-dev libsdl2-2.0-0 libarchive-dev libgl-dev fonts-dejavu-core"
-packages_to_test="libgtest-dev libgmock-dev libbenchmark-dev clang-format-16 python3-minimal unrtf \
+packages_to_test="libgtest-dev libgmock-dev libbenchmark-dev clang-format-16 python3-minimal unrtf poppler-utils \
 desktop-file-utils appstream shared-mime-info libxml2-utils zip unzip p7zip-full"
-desktop-file-utils appstream shared-mime-info libxml2-utils poppler-utils"
 
 # install_packages NAME...: quiet when all are there.
 install_packages() {
