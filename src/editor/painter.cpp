@@ -202,21 +202,23 @@ class Canvas
 public:
     explicit Canvas(QStringView text) : m_text(text), m_colours(size_t(text.size()), plain) { }
 
-    void paint(const PaintPass &pass, const Hits &hits)
+    /// Lays all passes over the text, a block of it after the other: a long text then goes through
+    /// the processor's cache once, not once a pass.
+    void paint(std::span<const PaintPass> passes, const std::vector<Hits> &hits,
+               const std::function<void(const PaintPass &)> &begins)
     {
-        qsizetype next = 0;
-        for (const qsizetype start : hits) {
-            if (start < next) {
-                continue;
+        std::vector<Progress> progress(passes.size());
+        qsizetype from = 0;
+        do {
+            const qsizetype to = std::min(from + blockLength, m_text.size());
+            for (size_t i = 0; i < passes.size(); ++i) {
+                if (begins && from == 0) {
+                    begins(passes[i]);
+                }
+                paintBlock(passes[i], hits[i], { from, to }, progress[i]);
             }
-            const qsizetype wordEnd = start + pass.word.size();
-            next = wordEnd;
-            if (isPainted(pass.primitive, start, wordEnd)) {
-                next = paintedEnd(pass.primitive, wordEnd);
-                std::fill(m_colours.begin() + start, m_colours.begin() + next,
-                          quint8(quint8(pass.colour) + 1));
-            }
-        }
+            from = to;
+        } while (from < m_text.size());
     }
 
     std::vector<ColourRun> runs(const ColourScheme &scheme) const
@@ -241,6 +243,43 @@ public:
 private:
     /// Stands for characters that no pass painted; the classes follow it.
     static constexpr quint8 plain = 0;
+    /// In characters: colours and text of a block fit into the nearer caches.
+    static constexpr qsizetype blockLength = 32768;
+
+    /// How far a pass has come.
+    struct Progress {
+        size_t hit = 0;
+        qsizetype next = 0; ///< hits before it are passed over
+        qsizetype painted = 0; ///< the end of its last stretch, which may lie in a later block
+    };
+    struct Block {
+        qsizetype from;
+        qsizetype to;
+    };
+
+    void paintBlock(const PaintPass &pass, const Hits &hits, Block block, Progress &progress)
+    {
+        const auto fill = [&](qsizetype from, qsizetype to) {
+            if (from < to) {
+                std::fill(m_colours.begin() + from, m_colours.begin() + to,
+                          quint8(quint8(pass.colour) + 1));
+            }
+        };
+        fill(block.from, std::min(progress.painted, block.to));
+        for (; progress.hit < hits.size() && hits[progress.hit] < block.to; ++progress.hit) {
+            const qsizetype start = hits[progress.hit];
+            if (start < progress.next) {
+                continue;
+            }
+            const qsizetype wordEnd = start + pass.word.size();
+            progress.next = wordEnd;
+            if (isPainted(pass.primitive, start, wordEnd)) {
+                progress.next = paintedEnd(pass.primitive, wordEnd);
+                progress.painted = progress.next;
+                fill(start, std::min(progress.painted, block.to));
+            }
+        }
+    }
 
     bool holds(qsizetype at, QChar character) const
     {
@@ -311,12 +350,7 @@ std::vector<ColourRun> Painter::paint(QStringView text, const ColourScheme &sche
 {
     const std::vector<Hits> hits = HitFinder(m_passes, *m_words).find(text);
     Canvas canvas(text);
-    for (size_t i = 0; i < m_passes.size(); ++i) {
-        if (begins) {
-            begins(m_passes[i]);
-        }
-        canvas.paint(m_passes[i], hits[i]);
-    }
+    canvas.paint(m_passes, hits, begins);
     return canvas.runs(scheme);
 }
 

@@ -327,3 +327,23 @@ TEST(Painter, PaintsTenThousandTextsAsOnePassAfterAnotherWould)
         ASSERT_NO_FATAL_FAILURE(expectAsTold(text, macroPasses(), macroFile));
     }
 }
+
+TEST(Painter, ALongTextIsPaintedAsAShortOneIs)
+{
+    // Long stretches of one pass reach over whatever parts the painter takes a text in: a name
+    // runs to the next blank, a comment to the line's end.
+    constexpr qsizetype length = 140000;
+    TextMaker maker(21);
+    QString text;
+    while (text.size() < length) {
+        text += maker.next() + u"BTN S1"_s + QString(3000, u'x') + u"/U BTN"_s;
+        text +=
+            maker.next() + u" rem "_s + QString(700, u'-') + u" /U DLY BTN S1 "_s + maker.next();
+    }
+    test::PainterTwin full(text, scheme);
+    full.joystick(false);
+    expectAsTold(text, joystickPasses(), full);
+    test::PainterTwin macroFile(text, scheme);
+    macroFile.macro();
+    expectAsTold(text, macroPasses(), macroFile);
+}

@@ -176,21 +176,22 @@ const LintCase cases[] = {
       [](auto &w) {
           return std::make_unique<SlashWindow>(w.settings);
       } },
-    { "Frm_CreatePackage", [](auto &w) {
-         return std::make_unique<Frm_CreatePackage>(w.context(), PackageFields());
-         { "PrintPreview",
-           [](auto &w) {
-               return std::make_unique<PrintPreview>(
-                   w.context(), w.printers,
-                   PrintJob{ u"Sample.tmj"_s, RichText::plain(u"BTN S1 a"_s), {} },
-                   w.folder.path());
-           } },
-             { "TemplateForm",
-               [](auto &w) {
-                   return std::make_unique<TemplateForm>(w.context(), w.printers, TemplateHost());
-               } },
-             { "Mum", makeMum },
-     };
+    { "Frm_CreatePackage",
+      [](auto &w) {
+          return std::make_unique<Frm_CreatePackage>(w.context(), PackageFields());
+      } },
+    { "PrintPreview",
+      [](auto &w) {
+          return std::make_unique<PrintPreview>(
+              w.context(), w.printers,
+              PrintJob{ u"Sample.tmj"_s, RichText::plain(u"BTN S1 a"_s), {} }, w.folder.path());
+      } },
+    { "TemplateForm",
+      [](auto &w) {
+          return std::make_unique<TemplateForm>(w.context(), w.printers, TemplateHost());
+      } },
+    { "Mum", makeMum },
+};
 
 class WindowLint : public test::ShellWorld, public testing::WithParamInterface<LintCase>
 {
