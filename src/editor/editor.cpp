@@ -71,7 +71,7 @@ Editor::Editor(const Context &context, QWidget *parent)
       m_insertForms(std::make_unique<InsertForms>(
           context, InsertForms::Parts{ *m_view, *m_actions, *m_insert })),
       m_packaging(std::make_unique<Packaging>(
-          context, Packaging::Parts{ *m_view, *m_actions, *m_useDirectives }))
+          context, Packaging::Parts{ *m_view, *m_actions, *m_useDirectives, *m_opening }))
 {
     setObjectName(u"Editor"_s);
     auto *layout = new QHBoxLayout(this);

@@ -24,6 +24,21 @@ Box wontContinueBox(const EditorDocument &document, DocumentKind wanted)
              BoxIcon::Information };
 }
 
+Box reloadBox(const EditorDocument &document)
+{
+    const QString loss = document.isModified()
+        ? u" What you've changed since you last saved it would be gone."_s
+        : QString();
+    return { u"Open "_s + document.name + u" again?"_s,
+             document.name
+                 + u" is open here, and its file has just been overwritten. Shall I open the new "
+                   "one instead of what you see?"_s
+                 + loss,
+             BoxIcon::Question,
+             { BoxButton::Yes, BoxButton::No },
+             document.isModified() ? BoxButton::No : BoxButton::Yes };
+}
+
 Box fileProtectedBox()
 {
     return { u"File protected"_s,

@@ -16,6 +16,9 @@ Box saveQuestion(const EditorDocument &document, const QString &why);
 /// The box that a save which the user perhaps cancelled by accident ends in.
 Box wontContinueBox(const EditorDocument &document, DocumentKind wanted);
 
+/// The question whether to open a document again whose file was overwritten on disk.
+Box reloadBox(const EditorDocument &document);
+
 /// The refusal of every operation that would change a protected macro file.
 Box fileProtectedBox();
 

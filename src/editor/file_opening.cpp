@@ -16,6 +16,10 @@
 #include "platform/status_line.h"
 #include "shell/settings/global_settings.h"
 
+#include <QFileInfo>
+
+#include <algorithm>
+
 namespace zeph {
 
 namespace {
@@ -24,6 +28,15 @@ const QString beforeJoystick = u" has changed and isn't saved. Do you want to sa
                                "opening a different joystick file?"_s;
 const QString beforeMacro = u" has changed and isn't saved. Do you want to save it before opening "
                             "a different macro file?"_s;
+
+bool isAmong(const QStringList &paths, const EditorDocument &document)
+{
+    const QFileInfo mine(existingPath(document.path));
+    return std::any_of(paths.begin(), paths.end(), [&mine](const QString &path) {
+        return nameOf(path) == mine.fileName()
+            && QFileInfo(path).canonicalFilePath() == mine.canonicalFilePath();
+    });
+}
 
 const QString joystickNotOpened = u"Joystick file not opened"_s;
 const QString macroNotOpened = u"Macro file not opened"_s;
@@ -277,6 +290,23 @@ void FileOpening::showRecovered(DocumentKind kind, const QString &path, const QS
     show(document, text);
     Q_EMIT loaded(kind, path);
     m_parts.view.setState(document, EditorDocument::Modified);
+}
+
+void FileOpening::offerToReload(const QStringList &overwritten)
+{
+    EditorView &view = m_parts.view;
+    const DocumentKind before = view.selected().kind;
+    for (const DocumentKind kind : { DocumentKind::Joystick, DocumentKind::Macro }) {
+        EditorDocument &document = view.document(kind);
+        if (isUntitled(document.name) || !isAmong(overwritten, document)) {
+            continue;
+        }
+        if (m_context.dialogs.box(reloadBox(document)) != BoxButton::Yes
+            || !loadOrTell(kind, document.path)) {
+            view.setState(document, EditorDocument::Modified);
+        }
+        view.select(before);
+    }
 }
 
 void FileOpening::OpenPreviouslySavedFiles(const QString &fileToOpen)

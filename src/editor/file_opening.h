@@ -46,6 +46,10 @@ public:
     /// Shows a text that never came to its file as that file's, modified.
     void showRecovered(DocumentKind kind, const QString &path, const QString &text);
 
+    /// Offers to open those of the documents again whose files are among these, which were just
+    /// overwritten. A document that stays as it is counts as modified.
+    void offerToReload(const QStringList &overwritten);
+
     /// Whether a file from a list opens without its partner.
     bool OpenSingleFileOnly = false;
 

@@ -6,6 +6,7 @@
 #include "editor/editor_actions.h"
 #include "editor/editor_view.h"
 #include "editor/file_kinds.h"
+#include "editor/file_opening.h"
 #include "editor/frm_createpackage.h"
 #include "editor/text_control.h"
 #include "editor/use_directives.h"
@@ -244,9 +245,13 @@ void Packaging::unpack(const QString &path)
         .overwrite = [&dialogs](const QString &file) { return askOverwrite(dialogs, file); },
         .goOn = [&dialogs](qint64 bytes,
                            qint64 entries) { return askGoOn(dialogs, bytes, entries); },
-        .progress = [&progress](const QString &name) { return progress.step(name, 0, 0); },
+        .progress = [&progress](const QString &name, int done,
+                                int all) { return progress.step(name, done, all); },
     };
-    tellReport(unpackZip(*zip, m_context.paths.filesFolder(), questions));
+    const UnpackReport report = unpackZip(*zip, m_context.paths.filesFolder(), questions);
+    progress.finish();
+    tellReport(report);
+    m_parts.opening.offerToReload(report.written);
 }
 
 void Packaging::tellReport(const UnpackReport &report)

@@ -13,6 +13,7 @@ namespace zeph {
 
 class EditorActions;
 class EditorView;
+class FileOpening;
 class Frm_CreatePackage;
 class UseDirectives;
 struct UnpackReport;
@@ -26,6 +27,7 @@ public:
         EditorView &view;
         EditorActions &actions;
         UseDirectives &directives;
+        FileOpening &opening;
     };
     Packaging(const Context &context, const Parts &parts);
     ~Packaging() override;

@@ -11,14 +11,13 @@ namespace zeph {
 
 namespace {
 
-constexpr qint64 patienceMs = 500;
 constexpr int leastWidth = 420;
 constexpr int longestText = 60;
 
 } // namespace
 
-LongProgress::LongProgress(const QString &title, QWidget *parent)
-    : m_window(QString(), u"Cancel"_s, 0, 0, parent)
+LongProgress::LongProgress(const QString &title, QWidget *parent, qint64 patience)
+    : m_window(QString(), u"Cancel"_s, 0, 0, parent), m_patience(patience)
 {
     m_window.setObjectName(u"LongProgress"_s);
     m_window.setWindowTitle(title);
@@ -34,7 +33,10 @@ LongProgress::LongProgress(const QString &title, QWidget *parent)
 
 bool LongProgress::step(const QString &text, int done, int all)
 {
-    if (!m_window.isVisible() && m_since.elapsed() >= patienceMs) {
+    if (m_window.wasCanceled()) {
+        return false;
+    }
+    if (!m_window.isVisible() && m_since.elapsed() >= m_patience) {
         m_window.show();
     }
     if (!m_window.isVisible()) {

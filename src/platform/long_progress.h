@@ -15,15 +15,19 @@ namespace zeph {
 class LongProgress
 {
 public:
-    LongProgress(const QString &title, QWidget *parent);
+    /// It comes into sight at the first step after the patience, in milliseconds.
+    LongProgress(const QString &title, QWidget *parent, qint64 patience = 500);
 
     /// Shows where it is, and lets timers and the window live. Of an unknown number, all is 0.
     /// False when the user wants it to stop.
     bool step(const QString &text, int done, int all);
+    /// Takes the window away before its time, for whatever is told next.
+    void finish() { m_window.hide(); }
 
 private:
     QProgressDialog m_window;
     QElapsedTimer m_since;
+    qint64 m_patience;
 };
 
 } // namespace zeph

@@ -57,6 +57,11 @@ int openFile(archive *reader, const QString &path)
 #endif
 }
 
+int openMemory(archive *reader, QByteArrayView bytes)
+{
+    return archive_read_open_memory(reader, bytes.data(), size_t(bytes.size()));
+}
+
 QString nameOf(archive_entry *entry)
 {
     if (const char *bytes = archive_entry_pathname(entry)) {
@@ -64,6 +69,19 @@ QString nameOf(archive_entry *entry)
     }
     const char *utf8 = archive_entry_pathname_utf8(entry);
     return utf8 ? QString::fromUtf8(utf8) : QString();
+}
+
+/// The headers up to the end, or up to where the zip is damaged. Uses the reader up.
+int countEntries(const Reader &reader)
+{
+    int count = 0;
+    archive_entry *entry = nullptr;
+    int result = archive_read_next_header(reader.get(), &entry);
+    while (result == ARCHIVE_OK || result == ARCHIVE_WARN) {
+        ++count;
+        result = archive_read_next_header(reader.get(), &entry);
+    }
+    return count;
 }
 
 ZipEntry::Kind kindOf(archive_entry *entry)
@@ -94,7 +112,10 @@ la_ssize_t writePiece(archive *writer, void *file, const void *bytes, size_t len
 } // namespace
 
 struct ZipReader::Archive {
+    Archive(Reader opened, int entries) : reader(std::move(opened)), count(entries) { }
+
     Reader reader;
+    int count = 0;
 };
 
 ZipReader::ZipReader(std::unique_ptr<Archive> archive) : m_archive(std::move(archive)) { }
@@ -108,16 +129,25 @@ Expected<ZipReader, QString> ZipReader::open(const QString &path)
     if (openFile(reader.get(), path) != ARCHIVE_OK) {
         return Unexpected<QString>(reasonOf(reader.get()));
     }
-    return ZipReader(std::make_unique<Archive>(std::move(reader)));
+    const Reader counting = newReader();
+    const int count = openFile(counting.get(), path) == ARCHIVE_OK ? countEntries(counting) : 0;
+    return ZipReader(std::make_unique<Archive>(std::move(reader), count));
 }
 
 Expected<ZipReader, QString> ZipReader::openBytes(QByteArrayView bytes)
 {
     Reader reader = newReader();
-    if (archive_read_open_memory(reader.get(), bytes.data(), size_t(bytes.size())) != ARCHIVE_OK) {
+    if (openMemory(reader.get(), bytes) != ARCHIVE_OK) {
         return Unexpected<QString>(reasonOf(reader.get()));
     }
-    return ZipReader(std::make_unique<Archive>(std::move(reader)));
+    const Reader counting = newReader();
+    const int count = openMemory(counting.get(), bytes) == ARCHIVE_OK ? countEntries(counting) : 0;
+    return ZipReader(std::make_unique<Archive>(std::move(reader), count));
+}
+
+int ZipReader::count() const
+{
+    return m_archive->count;
 }
 
 Expected<std::optional<ZipEntry>, QString> ZipReader::next()

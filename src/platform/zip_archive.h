@@ -36,6 +36,8 @@ public:
     ZipReader &operator=(ZipReader &&) noexcept;
     ~ZipReader();
 
+    /// How many entries there are, up to where the zip is damaged.
+    int count() const;
     /// The next entry; no value behind the last one. The error tells that the zip is damaged from
     /// here on.
     Expected<std::optional<ZipEntry>, QString> next();

@@ -46,7 +46,8 @@ private:
     void take(const ZipEntry &entry)
     {
         ++m_entries;
-        m_report.stopped = !withinLimits(0) || !m_questions.progress(entry.name);
+        m_report.stopped = !withinLimits(0)
+            || !m_questions.progress(entry.name, int(m_entries - 1), m_zip.count());
         if (m_report.stopped) {
             return;
         }

@@ -28,8 +28,8 @@ struct UnpackQuestions {
     std::function<Overwrite(const QString &path)> overwrite;
     /// A limit is reached: bytes and entries so far. False stops.
     std::function<bool(qint64 bytes, qint64 entries)> goOn;
-    /// An entry comes up. False stops.
-    std::function<bool(const QString &name)> progress;
+    /// An entry comes up, so many are done of all. False stops.
+    std::function<bool(const QString &name, int done, int all)> progress;
 };
 
 struct UnpackReport {

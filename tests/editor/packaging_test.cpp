@@ -277,6 +277,66 @@ TEST_F(PackagingTest, AFileOfMineIsOverwrittenOnlyWhenISaySo)
     EXPECT_EQ(contentOf(unpacked(u"c.tmj"_s)), "mine");
 }
 
+TEST_F(PackagingTest, AnOpenFileThatWasOverwrittenIsOpenedAgainWhenISaySo)
+{
+    openSetup();
+    editor->view().select(DocumentKind::Joystick);
+    AnyZip zip;
+    zip.file("My jet.tmj", "BTN S2 theirs\r\n").file("MY JET.tmm", "c = d\r\n");
+    dialogs.answer(u"OK to overwrite exisiting file?"_s, BoxButton::Yes);
+    dialogs.answer(u"OK to overwrite exisiting file?"_s, BoxButton::Yes);
+    dialogs.answer(u"Open My jet.tmj again?"_s, BoxButton::Yes);
+    dialogs.answer(u"Open My jet.tmm again?"_s, BoxButton::Yes);
+    openZip(zip.bytes());
+    EXPECT_EQ(dialogs.boxes().last().text,
+              u"My jet.tmm is open here, and its file has just been overwritten. Shall I open the "
+              "new one instead of what you see?");
+    EXPECT_EQ(dialogs.boxes().last().defaultButton, BoxButton::Yes);
+    EXPECT_EQ(editor->joystick().control->text().trimmed(), u"BTN S2 theirs");
+    EXPECT_EQ(editor->macro().control->text().trimmed(), u"c = d");
+    EXPECT_EQ(editor->joystick().state, EditorDocument::Saved);
+    EXPECT_EQ(editor->macro().state, EditorDocument::Saved);
+    EXPECT_EQ(editor->view().selected().kind, DocumentKind::Joystick);
+}
+
+TEST_F(PackagingTest, AnOpenFileThatIKeepOnTheScreenCountsAsNotSaved)
+{
+    openSetup();
+    const QString before = editor->joystick().control->text();
+    AnyZip zip;
+    zip.file("My jet.tmj", "BTN S2 theirs\r\n");
+    dialogs.answer(u"OK to overwrite exisiting file?"_s, BoxButton::Yes);
+    dialogs.answer(u"Open My jet.tmj again?"_s, BoxButton::No);
+    openZip(zip.bytes());
+    EXPECT_EQ(editor->joystick().control->text(), before);
+    EXPECT_EQ(editor->joystick().state, EditorDocument::Modified);
+    EXPECT_EQ(editor->macro().state, EditorDocument::Saved);
+}
+
+TEST_F(PackagingTest, ChangesThatOpeningAgainWouldLoseAreToldAndKeptByDefault)
+{
+    openSetup();
+    type(DocumentKind::Joystick, u"Rem mine\n"_s);
+    AnyZip zip;
+    zip.file("My jet.tmj", "BTN S2 theirs\r\n");
+    dialogs.answer(u"OK to overwrite exisiting file?"_s, BoxButton::Yes);
+    dialogs.answer(u"Open My jet.tmj again?"_s, BoxButton::No);
+    openZip(zip.bytes());
+    EXPECT_TRUE(dialogs.boxes().last().text.endsWith(
+        u" What you've changed since you last saved it would be gone."));
+    EXPECT_EQ(dialogs.boxes().last().defaultButton, BoxButton::No);
+    EXPECT_TRUE(editor->joystick().control->text().startsWith(u"Rem mine\n"));
+}
+
+TEST_F(PackagingTest, AFileOfTheSameNameElsewhereIsNotTheOneThatIsOpen)
+{
+    openSetup();
+    AnyZip zip;
+    zip.file("other/My jet.tmj", "BTN S2 theirs\r\n");
+    openZip(zip.bytes());
+    EXPECT_EQ(editor->joystick().state, EditorDocument::Saved);
+}
+
 TEST_F(PackagingTest, WhatIsRefusedIsTold)
 {
     AnyZip zip;

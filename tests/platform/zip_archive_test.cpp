@@ -45,6 +45,7 @@ protected:
     }
     UnpackReport unpack(ZipReader &zip, const UnpackLimits &limits = {})
     {
+        int expected = 0;
         return unpackZip(zip, in(),
                          { .overwrite =
                                [this](const QString &path) {
@@ -58,7 +59,9 @@ protected:
                                    return limitsReached.size() <= goOnTimes;
                                },
                            .progress =
-                               [this](const QString &) {
+                               [this, &zip, &expected](const QString &, int done, int all) {
+                                   EXPECT_EQ(done, expected++);
+                                   EXPECT_EQ(all, zip.count());
                                    return ++steps != stopAt;
                                } },
                          limits);
@@ -387,6 +390,15 @@ TEST_F(ZipTest, ManyEntriesAreAskedAboutToo)
     EXPECT_TRUE(report.stopped);
     EXPECT_EQ(report.written.size(), 10);
     EXPECT_EQ(entriesReached, QList<qint64>{ 11 });
+}
+
+TEST_F(ZipTest, TheEntriesAreCountedBeforehand)
+{
+    AnyZip zip;
+    zip.file("a.txt", "x").folder("b").link("c", "a.txt").file("../d.txt", "x");
+    const QByteArray bytes = zip.bytes();
+    EXPECT_EQ(ZipReader::openBytes(bytes)->count(), 4);
+    EXPECT_EQ(ZipReader::open(folder.write(u"a.zip"_s, bytes))->count(), 4);
 }
 
 TEST_F(ZipTest, UnpackingCanBeStopped)
