@@ -3,10 +3,8 @@
 
 #include "livetools/keytestform.h"
 
+#include "livetools/key_codes_file.h"
 #include "livetools/key_test_menus.h"
-#include "livetools/virtual_keys.h"
-#include "platform/core/file_io.h"
-#include "platform/core/text1252.h"
 #include "platform/core/units.h"
 #include "platform/handlers.h"
 #include "platform/keyboard.h"
@@ -16,9 +14,7 @@
 
 #include <QAction>
 #include <QClipboard>
-#include <QContextMenuEvent>
 #include <QGuiApplication>
-#include <QKeyEvent>
 #include <QPointer>
 #include <QScreen>
 
@@ -46,45 +42,12 @@ constexpr QColor warning(0xFF, 0x80, 0x80);
 
 constexpr int programmedMode = 1;
 
-constexpr QStringView keyCodesFile = u"KeyCodes.txt";
-
-void append(RichTextBox *list, const QString &text)
-{
-    QTextCursor end(list->document());
-    end.movePosition(QTextCursor::End);
-    end.insertText(text);
-    list->setTextCursor(end);
-    list->ensureCursorVisible();
-}
-
 void paint(QWidget *widget, QPalette::ColorRole back, QPalette::ColorRole text, QColor colour)
 {
     QPalette look;
     look.setColor(back, colour);
     look.setColor(text, Qt::black);
     widget->setPalette(look);
-}
-
-KeyStroke strokeOf(const QKeyEvent &event)
-{
-    return { Qt::Key(event.key()), event.modifiers(), event.nativeScanCode(),
-             event.nativeVirtualKey() };
-}
-
-int keyCodeOf(const KeyStroke &stroke)
-{
-#ifdef Q_OS_WIN
-    return virtualKeyOfNative(stroke.nativeCode);
-#else
-    return virtualKeyOf(stroke);
-#endif
-}
-
-/// What a key types. Alt with a letter types nothing, as it is a command everywhere.
-QString typedText(const QKeyEvent &event)
-{
-    const auto commands = event.modifiers() & (Qt::AltModifier | Qt::ControlModifier);
-    return commands == Qt::AltModifier ? QString() : event.text();
 }
 
 } // namespace
@@ -193,48 +156,11 @@ void KeyTestForm::ClearTextBoxes()
 
 bool KeyTestForm::GetMappedCharacters()
 {
-    const QString path = m_context.paths.inApp(keyCodesFile);
-    if (!fileExists(path) && !restoreKeyCodes(path)) {
-        return false;
+    const auto table = readKeyCodes(m_context);
+    if (table) {
+        m_rules.setTable(*table);
     }
-    const auto bytes = readWholeFile(existingPath(path));
-    if (!bytes) {
-        m_context.dialogs.tell(u"Key Tester"_s,
-                               u"I can't read "_s + bytes.error().path + u":\n"_s
-                                   + bytes.error().reason,
-                               BoxIcon::Stop);
-        return false;
-    }
-    m_rules.setTable(keyTableFrom(fromText1252(*bytes)));
-    return true;
-}
-
-bool KeyTestForm::restoreKeyCodes(const QString &path)
-{
-    m_context.dialogs.tell(
-        u"KeyCodes.txt is missing !!!"_s,
-        u"You're missing a critical file, called KeyCodes.txt which should be located in Zeph's "
-        "directory. A backup copy is in your Info subdirectory. I shall attempt to copy this "
-        "across and restore the file. Please wait ..."_s,
-        BoxIcon::Exclamation);
-    const QString copy = existingPath(m_context.paths.infoFolder() + keyCodesFile.toString());
-    if (const auto bytes = readWholeFile(copy)) {
-        // Whether it is there now is looked up below, whatever went wrong here.
-        (void)writeFileAtomically(path, *bytes);
-    }
-    if (fileExists(path)) {
-        m_context.dialogs.tell(
-            u"Well I saved your butt!"_s,
-            path
-                + u" has been successfully restored. Please stop misbehaving with my file system!"_s);
-        return true;
-    }
-    m_context.dialogs.tell(u"It didn't work :("_s,
-                           u"I was unable to restore "_s + path
-                               + u" - please close down the Key Tester and restore the file "
-                                 "manually."_s,
-                           BoxIcon::Stop);
-    return false;
+    return table.has_value();
 }
 
 void KeyTestForm::TurnOffCapsLOCK()
@@ -333,56 +259,6 @@ void KeyTestForm::copyList(int index) const
     QGuiApplication::clipboard()->setText(list->toPlainText());
 }
 
-void KeyTestForm::Form_KeyDown(int keycode, int shift)
-{
-    const KeyDownEffect effect = m_rules.keyDown(keycode, shift);
-    if (effect.emergency) {
-        emergency();
-        return;
-    }
-    m_timer1->stop();
-    if (effect.clearsLists) {
-        ClearTextBoxes();
-    }
-    lightModifiers(shift, true);
-    if (effect.turnsOffCapsLock) {
-        TurnOffCapsLOCK();
-    }
-    append(m_ui->RTFKeysDownText, effect.eventText);
-    append(m_ui->RTFKeysText, effect.keyText);
-}
-
-void KeyTestForm::Form_KeyPress(char16_t ascii)
-{
-    append(m_ui->RTFKeysText, m_rules.keyPress(ascii));
-}
-
-void KeyTestForm::Form_KeyUp(int keycode, int)
-{
-    if (m_context.settings.ClearDelay == noClearDelay) {
-        m_timer1->stop();
-    } else {
-        m_timer1->start();
-    }
-    if (keycode >= shiftKeyCode && keycode <= altKeyCode) {
-        lightModifiers(1 << (keycode - shiftKeyCode), false);
-    }
-    showNumLock();
-    if (keycode == capsLockKeyCode) {
-        TurnOffCapsLOCK();
-    }
-    append(m_ui->RTFKeysDownText, m_rules.keyUp(keycode));
-}
-
-void KeyTestForm::emergency()
-{
-    const QPointer<KeyTestForm> alive(this);
-    m_host.emergencyOff();
-    if (alive) {
-        close();
-    }
-}
-
 void KeyTestForm::light(QLabel *label, bool on) const
 {
     if (on) {
@@ -390,21 +266,6 @@ void KeyTestForm::light(QLabel *label, bool on) const
     } else {
         label->setPalette(QPalette());
     }
-}
-
-void KeyTestForm::lightModifiers(int shift, bool on) const
-{
-    const std::array labels = { m_ui->LabelSHIFT, m_ui->LabelCTRL, m_ui->LabelALT };
-    for (size_t bit = 0; bit < labels.size(); ++bit) {
-        if (shift & (1 << bit)) {
-            light(labels[bit], on);
-        }
-    }
-}
-
-void KeyTestForm::showNumLock() const
-{
-    light(m_ui->LabelNUMLOCK, m_context.keyboard.numLockOn());
 }
 
 void KeyTestForm::readMode()
@@ -441,80 +302,10 @@ void KeyTestForm::LBL_ModeWarning_Click()
         BoxIcon::Exclamation);
 }
 
-void KeyTestForm::keyPressed(const QKeyEvent &event)
-{
-    m_context.keyboard.noteNativeModifiers(event.nativeModifiers());
-    const KeyStroke stroke = strokeOf(event);
-    const QString text = typedText(event);
-    const QPointer<KeyTestForm> alive(this);
-    Form_KeyDown(keyCodeOf(stroke), shiftStateOf(stroke));
-    for (const QChar character : text) {
-        if (alive && character.isPrint()) {
-            Form_KeyPress(character.unicode());
-        }
-    }
-}
-
-void KeyTestForm::keyReleased(const QKeyEvent &event)
-{
-    m_context.keyboard.noteNativeModifiers(event.nativeModifiers());
-    // Some systems tell a key that is held as one that is let go again and again.
-    if (!event.isAutoRepeat()) {
-        const KeyStroke stroke = strokeOf(event);
-        Form_KeyUp(keyCodeOf(stroke), shiftStateOf(stroke));
-        // AltGr, which counts for two, is let go as one.
-        lightModifiers(~shiftStateOf(stroke), false);
-    }
-}
-
-bool KeyTestForm::eventFilter(QObject *watched, QEvent *event)
-{
-    const auto type = event->type();
-    if (type == QEvent::Resize && watched == m_ui->LabelEvents) {
-        // Its own size, which comes after the window's.
-        ResizeStuff();
-        return false;
-    }
-    if (type != QEvent::KeyPress && type != QEvent::KeyRelease && type != QEvent::ShortcutOverride
-        && type != QEvent::ContextMenu) {
-        return false;
-    }
-    const auto *widget = qobject_cast<QWidget *>(watched);
-    if (!widget || widget->window() != this) {
-        return false;
-    }
-    if (type == QEvent::ContextMenu) {
-        return static_cast<QContextMenuEvent *>(event)->reason() == QContextMenuEvent::Keyboard;
-    }
-    event->accept();
-    auto &key = *static_cast<QKeyEvent *>(event);
-    if (type == QEvent::KeyPress) {
-        guarded(m_context.dialogs, [this, &key] { keyPressed(key); })();
-    } else if (type == QEvent::KeyRelease) {
-        guarded(m_context.dialogs, [this, &key] { keyReleased(key); })();
-    }
-    return true;
-}
-
-void KeyTestForm::changeEvent(QEvent *event)
-{
-    QWidget::changeEvent(event);
-    if (event->type() == QEvent::ActivationChange) {
-        // Keys let go elsewhere are not told here.
-        lightModifiers(ShiftDown | CtrlDown | AltDown, false);
-        showNumLock();
-    }
-}
-
 void KeyTestForm::closeEvent(QCloseEvent *event)
 {
     SaveKeyFormPosition();
     QWidget::closeEvent(event);
-}
-
-bool KeyTestForm::focusNextPrevChild(bool)
-{
-    return false;
 }
 
 } // namespace zeph

@@ -84,7 +84,6 @@ private:
     void showKeyEvents(bool shown);
     void showMenus(bool shown);
     void copyList(int index) const;
-    bool restoreKeyCodes(const QString &path);
     void light(QLabel *label, bool on) const;
     void lightModifiers(int shift, bool on) const;
     void showNumLock() const;

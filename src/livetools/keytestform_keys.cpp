@@ -1,0 +1,192 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+// The keys of the Key Tester: how they reach it, and what it shows of them.
+
+#include "livetools/keytestform.h"
+#include "livetools/virtual_keys.h"
+#include "platform/handlers.h"
+#include "platform/keyboard.h"
+#include "platform/rich_text_box.h"
+#include "shell/settings/global_settings.h"
+#include "ui_keytestform.h"
+
+#include <QContextMenuEvent>
+#include <QKeyEvent>
+#include <QPointer>
+
+#include <array>
+
+namespace zeph {
+
+namespace {
+
+void append(RichTextBox *list, const QString &text)
+{
+    QTextCursor end(list->document());
+    end.movePosition(QTextCursor::End);
+    end.insertText(text);
+    list->setTextCursor(end);
+    list->ensureCursorVisible();
+}
+
+KeyStroke strokeOf(const QKeyEvent &event)
+{
+    return { Qt::Key(event.key()), event.modifiers(), event.nativeScanCode(),
+             event.nativeVirtualKey() };
+}
+
+int keyCodeOf(const KeyStroke &stroke)
+{
+#ifdef Q_OS_WIN
+    return virtualKeyOfNative(stroke.nativeCode);
+#else
+    return virtualKeyOf(stroke);
+#endif
+}
+
+/// What a key types. Alt with a letter types nothing, as it is a command everywhere.
+QString typedText(const QKeyEvent &event)
+{
+    const auto commands = event.modifiers() & (Qt::AltModifier | Qt::ControlModifier);
+    return commands == Qt::AltModifier ? QString() : event.text();
+}
+
+} // namespace
+
+void KeyTestForm::Form_KeyDown(int keycode, int shift)
+{
+    const KeyDownEffect effect = m_rules.keyDown(keycode, shift);
+    if (effect.emergency) {
+        emergency();
+        return;
+    }
+    m_timer1->stop();
+    if (effect.clearsLists) {
+        ClearTextBoxes();
+    }
+    lightModifiers(shift, true);
+    if (effect.turnsOffCapsLock) {
+        TurnOffCapsLOCK();
+    }
+    append(m_ui->RTFKeysDownText, effect.eventText);
+    append(m_ui->RTFKeysText, effect.keyText);
+}
+
+void KeyTestForm::Form_KeyPress(char16_t ascii)
+{
+    append(m_ui->RTFKeysText, m_rules.keyPress(ascii));
+}
+
+void KeyTestForm::Form_KeyUp(int keycode, int)
+{
+    if (m_context.settings.ClearDelay == noClearDelay) {
+        m_timer1->stop();
+    } else {
+        m_timer1->start();
+    }
+    if (keycode >= shiftKeyCode && keycode <= altKeyCode) {
+        lightModifiers(1 << (keycode - shiftKeyCode), false);
+    }
+    showNumLock();
+    if (keycode == capsLockKeyCode) {
+        TurnOffCapsLOCK();
+    }
+    append(m_ui->RTFKeysDownText, m_rules.keyUp(keycode));
+}
+
+void KeyTestForm::emergency()
+{
+    const QPointer<KeyTestForm> alive(this);
+    m_host.emergencyOff();
+    if (alive) {
+        close();
+    }
+}
+
+void KeyTestForm::lightModifiers(int shift, bool on) const
+{
+    const std::array labels = { m_ui->LabelSHIFT, m_ui->LabelCTRL, m_ui->LabelALT };
+    for (size_t bit = 0; bit < labels.size(); ++bit) {
+        if (shift & (1 << bit)) {
+            light(labels[bit], on);
+        }
+    }
+}
+
+void KeyTestForm::showNumLock() const
+{
+    light(m_ui->LabelNUMLOCK, m_context.keyboard.numLockOn());
+}
+
+void KeyTestForm::keyPressed(const QKeyEvent &event)
+{
+    m_context.keyboard.noteNativeModifiers(event.nativeModifiers());
+    const KeyStroke stroke = strokeOf(event);
+    const QString text = typedText(event);
+    const QPointer<KeyTestForm> alive(this);
+    Form_KeyDown(keyCodeOf(stroke), shiftStateOf(stroke));
+    for (const QChar character : text) {
+        if (alive && character.isPrint()) {
+            Form_KeyPress(character.unicode());
+        }
+    }
+}
+
+void KeyTestForm::keyReleased(const QKeyEvent &event)
+{
+    m_context.keyboard.noteNativeModifiers(event.nativeModifiers());
+    // Some systems tell a key that is held as one that is let go again and again.
+    if (!event.isAutoRepeat()) {
+        const KeyStroke stroke = strokeOf(event);
+        Form_KeyUp(keyCodeOf(stroke), shiftStateOf(stroke));
+        // AltGr, which counts for two, is let go as one.
+        lightModifiers(~shiftStateOf(stroke), false);
+    }
+}
+
+bool KeyTestForm::eventFilter(QObject *watched, QEvent *event)
+{
+    const auto type = event->type();
+    if (type == QEvent::Resize && watched == m_ui->LabelEvents) {
+        // Its own size, which comes after the window's.
+        ResizeStuff();
+        return false;
+    }
+    if (type != QEvent::KeyPress && type != QEvent::KeyRelease && type != QEvent::ShortcutOverride
+        && type != QEvent::ContextMenu) {
+        return false;
+    }
+    const auto *widget = qobject_cast<QWidget *>(watched);
+    if (!widget || widget->window() != this) {
+        return false;
+    }
+    if (type == QEvent::ContextMenu) {
+        return static_cast<QContextMenuEvent *>(event)->reason() == QContextMenuEvent::Keyboard;
+    }
+    event->accept();
+    auto &key = *static_cast<QKeyEvent *>(event);
+    if (type == QEvent::KeyPress) {
+        guarded(m_context.dialogs, [this, &key] { keyPressed(key); })();
+    } else if (type == QEvent::KeyRelease) {
+        guarded(m_context.dialogs, [this, &key] { keyReleased(key); })();
+    }
+    return true;
+}
+
+void KeyTestForm::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::ActivationChange) {
+        // Keys let go elsewhere are not told here.
+        lightModifiers(ShiftDown | CtrlDown | AltDown, false);
+        showNumLock();
+    }
+}
+
+bool KeyTestForm::focusNextPrevChild(bool)
+{
+    return false;
+}
+
+} // namespace zeph
