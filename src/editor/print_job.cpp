@@ -50,7 +50,7 @@ bool printJob(const Context &context, Printers &printers, const PrintJob &job)
     context.status.setTextNow(u"Printing "_s + job.name);
     QPrinter &printer = printers.printer();
     printer.setDocName(job.name);
-    if (const auto done = printOn(printer, job.text, job.plain); !done) {
+    if (const auto done = printOn(printer, job.text, job.plain, job.tabPixels); !done) {
         context.status.setText(job.name + u" wasn't printed"_s);
         context.dialogs.tell(u"I couldn't print your file buddy"_s,
                              job.name + u" wasn't printed: "_s + done.error(), BoxIcon::Stop);
@@ -72,9 +72,12 @@ void exportAsPdf(const Context &context, Printers &printers, const PrintJob &job
     if (!mayOverwrite(context.dialogs, *path)) {
         return;
     }
-    const QByteArray pdf = pdfOf(job.text, job.plain, job.name, printers.printer());
-    const auto written = writeFileAtomically(*path, pdf);
-    if (!written) {
+    const auto pdf = pdfOf(job.text, job.plain, job.name, printers.printer(), job.tabPixels);
+    if (!pdf) {
+        tellNotSaved(context.dialogs, { *path, pdf.error() });
+        return;
+    }
+    if (const auto written = writeFileAtomically(*path, *pdf); !written) {
         tellNotSaved(context.dialogs, written.error());
         return;
     }

@@ -6,6 +6,7 @@
 // What every window that prints does with the system's printers.
 
 #include "editor/context.h"
+#include "editor/print_pages.h"
 #include "platform/core/rich_text.h"
 
 class QWidget;
@@ -19,6 +20,7 @@ struct PrintJob {
     QString name; ///< of the file, for titles and messages
     RichText text; ///< header and all
     CharFormat plain; ///< the font of characters that have none
+    double tabPixels = usualTabPixels; ///< between tab stops, in the screen's pixels
 };
 
 /// Whether there is a printer; tells it when there is none.

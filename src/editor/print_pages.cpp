@@ -51,14 +51,16 @@ RichText inked(RichText text)
 }
 
 /// The pages that the user asked for, 0-based and within what there is.
-std::pair<int, int> wantedPages(const QPagedPaintDevice &device, int count)
+std::vector<int> wantedPages(const QPagedPaintDevice &device, int count)
 {
     const QPageRanges ranges = device.pageRanges();
-    if (ranges.isEmpty()) {
-        return { 0, count - 1 };
+    std::vector<int> pages;
+    for (int page = 0; page < count; ++page) {
+        if (ranges.isEmpty() || ranges.contains(page + 1)) {
+            pages.push_back(page);
+        }
     }
-    return { std::clamp(ranges.firstPage() - 1, 0, count - 1),
-             std::clamp(ranges.lastPage() - 1, 0, count - 1) };
+    return pages;
 }
 
 } // namespace
@@ -93,12 +95,13 @@ RichText withPrintHeader(const RichText &text, const CharFormat &plain, const QS
 }
 
 PrintPages::PrintPages(const RichText &text, const CharFormat &plain, QPaintDevice &device,
-                       const QSizeF &size)
+                       const QSizeF &size, double tabPixels)
     : m_document(std::make_unique<QTextDocument>())
 {
     // A word that is wider than the page is broken: nothing may be lost at the right.
     QTextOption option = m_document->defaultTextOption();
     option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    option.setTabStopDistance(tabPixels);
     m_document->setDefaultTextOption(option);
     m_document->setUndoRedoEnabled(false);
     m_document->setDocumentMargin(0);
@@ -169,18 +172,20 @@ void PrintPages::drawBullet(QPainter &painter, const Line &line, double pageTop)
 }
 
 Expected<void, QString> printOn(QPagedPaintDevice &device, const RichText &text,
-                                const CharFormat &plain)
+                                const CharFormat &plain, double tabPixels)
 {
+    const PrintPages pages(text, plain, device, QSizeF(device.width(), device.height()), tabPixels);
+    const std::vector<int> wanted = wantedPages(device, pages.count());
+    if (wanted.empty()) {
+        return Unexpected<QString>(u"it has no such pages."_s);
+    }
     QPainter painter;
     if (!painter.begin(&device)) {
         return Unexpected<QString>(u"the printer doesn't take anything."_s);
     }
-    const PrintPages pages(text, plain, device, QSizeF(device.width(), device.height()));
-    const auto [first, last] = wantedPages(device, pages.count());
-    for (int page = first; page <= last; ++page) {
-        if (page > first && !device.newPage()) {
-            return Unexpected<QString>(u"it takes no page after page "_s + QString::number(page)
-                                       + u'.');
+    for (const int page : wanted) {
+        if (page != wanted.front() && !device.newPage()) {
+            return Unexpected<QString>(u"it takes no page %1."_s.arg(page + 1));
         }
         pages.draw(painter, page);
     }
@@ -190,8 +195,9 @@ Expected<void, QString> printOn(QPagedPaintDevice &device, const RichText &text,
     return {};
 }
 
-QByteArray pdfOf(const RichText &text, const CharFormat &plain, const QString &title,
-                 const QPagedPaintDevice &paper)
+Expected<QByteArray, QString> pdfOf(const RichText &text, const CharFormat &plain,
+                                    const QString &title, const QPagedPaintDevice &paper,
+                                    double tabPixels)
 {
     QBuffer buffer;
     buffer.open(QIODevice::WriteOnly);
@@ -199,8 +205,8 @@ QByteArray pdfOf(const RichText &text, const CharFormat &plain, const QString &t
     writer.setTitle(title);
     writer.setCreator(u"Zeph"_s);
     writer.setPageLayout(paper.pageLayout());
-    if (!printOn(writer, text, plain)) {
-        return {};
+    if (const auto printed = printOn(writer, text, plain, tabPixels); !printed) {
+        return Unexpected<QString>(printed.error());
     }
     return buffer.data();
 }

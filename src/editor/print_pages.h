@@ -30,6 +30,9 @@ struct LineExtent {
 /// higher than a page stands alone on one. Without lines there is one page.
 std::vector<size_t> pageStarts(std::span<const LineExtent> lines, double pageHeight);
 
+/// The distance of tab stops where no other is set, in the screen's pixels.
+constexpr double usualTabPixels = 80;
+
 /// The colour that a colour of the screen has on white paper: its own, or black for one that would
 /// not be seen there.
 ColorRef inkOf(ColorRef colour);
@@ -44,9 +47,9 @@ class PrintPages
 {
 public:
     /// The size is that of the printable part of a page, in the device's pixels. Characters without
-    /// a font have the plain one.
+    /// a font have the plain one. Tab stops are as far from each other as on the screen.
     PrintPages(const RichText &text, const CharFormat &plain, QPaintDevice &device,
-               const QSizeF &size);
+               const QSizeF &size, double tabPixels = usualTabPixels);
     ~PrintPages();
 
     int count() const { return int(m_starts.size()); }
@@ -70,10 +73,11 @@ private:
 /// Draws all pages that the device's user wants on a device. The reason of a failure, in the
 /// system's words, otherwise.
 Expected<void, QString> printOn(QPagedPaintDevice &device, const RichText &text,
-                                const CharFormat &plain);
+                                const CharFormat &plain, double tabPixels = usualTabPixels);
 
-/// The pages as a PDF file's bytes, on paper like a device's.
-QByteArray pdfOf(const RichText &text, const CharFormat &plain, const QString &title,
-                 const QPagedPaintDevice &paper);
+/// All pages as a PDF file's bytes, on paper like a device's. The reason of a failure otherwise.
+Expected<QByteArray, QString> pdfOf(const RichText &text, const CharFormat &plain,
+                                    const QString &title, const QPagedPaintDevice &paper,
+                                    double tabPixels = usualTabPixels);
 
 } // namespace zeph

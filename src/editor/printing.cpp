@@ -52,7 +52,7 @@ PrintJob FilePrinting::jobOf(EditorDocument &document) const
     return { document.name,
              withPrintHeader(document.control->richText(), plain, document.path,
                              stampText(m_context.clock.now())),
-             plain };
+             plain, document.control->tabStopDistance() };
 }
 
 void FilePrinting::print(EditorDocument &document, const QString &kind)
@@ -85,7 +85,7 @@ void FilePrinting::PrintAlternativeMethod()
     RichText text = RichText::plain(u"\n"_s, plain);
     text.append(control.selLength() > 0 ? whole.mid(control.selStart(), control.selLength())
                                         : whole);
-    printJob(m_context, m_printers, { document.name, text, plain });
+    printJob(m_context, m_printers, { document.name, text, plain, control.tabStopDistance() });
 }
 
 void FilePrinting::mnuFilePrinterSetup_Click()

@@ -46,8 +46,9 @@ PrintPreview::~PrintPreview()
 
 void PrintPreview::connectControls()
 {
-    connect(m_pages, &QPrintPreviewWidget::paintRequested, this,
-            [this](QPrinter *paper) { (void)printOn(*paper, m_job.text, m_job.plain); });
+    connect(m_pages, &QPrintPreviewWidget::paintRequested, this, [this](QPrinter *paper) {
+        (void)printOn(*paper, m_job.text, m_job.plain, m_job.tabPixels);
+    });
     connect(m_pages, &QPrintPreviewWidget::previewChanged, this, &PrintPreview::showPage);
     connect(m_ui->SpinPage, &QSpinBox::valueChanged, m_pages, &QPrintPreviewWidget::setCurrentPage);
     connect(m_ui->cmdZoomIn, &QPushButton::clicked, m_pages, [this] { m_pages->zoomIn(zoomStep); });

@@ -334,6 +334,56 @@ TEST_F(PrintingTest, ExportOffersTheFilesNameAndFolder)
     EXPECT_EQ(dialogs.files().first().folder, folder.path() + u"/Files/"_s);
 }
 
+TEST_F(PrintingTest, OnlyThePagesThatWereChosenArePrinted)
+{
+    set(J, longFile(300));
+    answerPrint(u"Untitled.tmj"_s);
+    printing.mnuFilePrintJoystick_Click();
+    const auto wordsOn = [](const QList<PrintedWord> &words, int page) {
+        QStringList texts;
+        for (const PrintedWord &word : words) {
+            if (word.page == page) {
+                texts.append(word.text);
+            }
+        }
+        return texts;
+    };
+    const QList<PrintedWord> all = printedWords(pdf);
+    const QString chosen = folder.file(u"chosen.pdf"_s);
+    printers.setFile(chosen);
+    printers.printer().setPageRanges(QPageRanges::fromString(u"1,3"_s));
+    answerPrint(u"Untitled.tmj"_s);
+    printing.mnuFilePrintJoystick_Click();
+    const QList<PrintedWord> some = printedWords(chosen);
+    EXPECT_EQ(some.last().page, 2);
+    EXPECT_EQ(wordsOn(some, 1), wordsOn(all, 1));
+    EXPECT_EQ(wordsOn(some, 2), wordsOn(all, 3));
+}
+
+TEST_F(PrintingTest, PagesThatThereAreNotAreToldAndNothingIsPrinted)
+{
+    set(J, u"BTN S1 a"_s);
+    printers.printer().setPageRanges(QPageRanges::fromString(u"4-5"_s));
+    answerPrint(u"Untitled.tmj"_s);
+    dialogs.answer(u"I couldn't print your file buddy"_s, BoxButton::Ok);
+    printing.mnuFilePrintJoystick_Click();
+    EXPECT_TRUE(dialogs.boxes().last().text.endsWith(u"it has no such pages."));
+    EXPECT_FALSE(folder.exists(u"out.pdf"_s));
+}
+
+TEST_F(PrintingTest, TabsAreAsWideOnPaperAsOnTheScreen)
+{
+    set(J, u"BTN S1\tone\n\ttwo"_s);
+    printing.PrintAlternativeMethod();
+    const QList<PrintedWord> words = printedWords(pdf);
+    ASSERT_EQ(words.size(), 4);
+    // The screen's distance, of 96 to the inch, in the paper's points of 72.
+    const double distance = joystick()->tabStopDistance() * 72 / 96;
+    const double left = words.first().box.left();
+    EXPECT_NEAR(words[2].box.left() - left, distance, 1.5);
+    EXPECT_NEAR(words[3].box.left() - left, distance, 1.5);
+}
+
 TEST_F(PrintingTest, ThePreviewShowsTheSamePagesAndPrintsThem)
 {
     set(J, longFile(300));
