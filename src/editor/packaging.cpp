@@ -191,6 +191,7 @@ bool Packaging::makeZip(const PackagePlan &plan)
         packFolder(plan.folder, plan.zip, [&progress](const QString &name, int done, int all) {
             return progress.step(name, done, all);
         });
+    progress.finish();
     if (!made) {
         m_context.dialogs.tell(u"Zip file not created"_s,
                                u"The files are in "_s + QDir::toNativeSeparators(plan.folder)

@@ -55,6 +55,7 @@ TemplateForm::TemplateForm(const Context &context, Printers &printers, TemplateH
                                                 nullptr, templateMenuBar(), templateActions()))
 {
     m_ui->setupUi(this);
+    const QString caption = windowTitle();
     setWindowFlag(Qt::Window);
     for (QMenu *menu : m_actions->menuBar()) {
         m_ui->MenuBar1->addMenu(menu);
@@ -70,6 +71,8 @@ TemplateForm::TemplateForm(const Context &context, Printers &printers, TemplateH
     connectEdit();
     GetTemplateEditorOptions();
     showFile(templatesFolder() + untitledTemplate.toString(), {});
+    // Nobody has chosen a file yet.
+    setWindowTitle(caption);
     updateConditions();
     box().setFocus();
 }
@@ -99,8 +102,7 @@ void TemplateForm::connectFile()
     on.connectTo(u"mnuFilePrintSelection", [this] { mnuFilePrintSelection_Click(); });
     on.connectTo(u"mnuFilePrintPreview",
                  [this] { showPreview(m_context, m_printers, job(), folderOf(m_path), this); });
-    on.connectTo(u"mnuFileExportPDF",
-                 [this] { exportAsPdf(m_context, m_printers, job(), folderOf(m_path)); });
+    on.connectTo(u"mnuFileExportPDF", [this] { exportPdf(); });
     on.connectTo(u"mnuFileClose", [this] { close(); });
 }
 
@@ -127,6 +129,8 @@ void TemplateForm::connectEdit()
     connect(&box(), &RichTextBox::undoAvailable, on.action(u"mnuEditUndo"), &QAction::setEnabled);
     connect(&box(), &RichTextBox::redoAvailable, on.action(u"mnuEditRedo"), &QAction::setEnabled);
     connect(&box(), &RichTextBox::selectionChanged, this, &TemplateForm::updateConditions);
+    // An answer about leaving the text says nothing about what is written later.
+    connect(&box(), &RichTextBox::textChanged, this, [this] { m_isLeft = false; });
     connect(&box(), &RichTextBox::customContextMenuRequested, this, &TemplateForm::showMenu);
     connect(QApplication::clipboard(), &QClipboard::dataChanged, this,
             &TemplateForm::updateConditions);
@@ -321,6 +325,9 @@ bool TemplateForm::writeTo(const QString &path)
     }
     AssignCurrentTexttoTempRTF();
     say(nameOf(path) + u" was saved successfully"_s);
+    if (m_host.fileWritten) {
+        m_host.fileWritten(path);
+    }
     return true;
 }
 
@@ -371,7 +378,13 @@ void TemplateForm::mnuEditIniFile_Click()
 
 PrintJob TemplateForm::job() const
 {
-    return { m_name, box().richText(), m_plain };
+    return { m_name, box().richText(), m_plain, box().tabStopDistance() };
+}
+
+void TemplateForm::exportPdf()
+{
+    exportAsPdf(m_context, m_printers, job(), folderOf(m_path));
+    m_ui->StatusBar1->showMessage(m_context.status.text());
 }
 
 void TemplateForm::mnuFilePrint_Click()

@@ -31,6 +31,8 @@ struct TemplateHost {
     std::function<std::optional<QString>(const QString &word)> macroKeys;
     /// Opens the Composer's page of templates; null while there is no Composer.
     std::function<void()> openComposer;
+    /// A file was written, which another window may have open too.
+    std::function<void(const QString &path)> fileWritten;
 };
 
 /// A small word processor for templates and readme texts, and a viewer of any text file. Works on a
@@ -86,6 +88,7 @@ private:
     void say(const QString &text);
     QString templatesFolder() const;
     PrintJob job() const;
+    void exportPdf();
     RichTextBox &box() const;
 
     Context m_context;

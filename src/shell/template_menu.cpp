@@ -5,6 +5,7 @@
 
 #include "editor/editor.h"
 #include "editor/editor_actions.h"
+#include "editor/file_opening.h"
 #include "editor/framemacros.h"
 #include "editor/macro_features.h"
 #include "editor/macro_table.h"
@@ -45,6 +46,9 @@ TemplateForm *TemplateMenu::make(QWidget *owner)
     };
     host.macroKeys = [this](const QString &word) {
         return macroKeys(m_editor.macros().list().table(), word);
+    };
+    host.fileWritten = [this](const QString &path) {
+        m_editor.opening().offerToReload({ path });
     };
     return new TemplateForm(m_context, m_printers, host, owner);
 }

@@ -38,9 +38,11 @@ protected:
         paths.appFolder = folder.path();
         paths.hotasFolder = folder.path() + u'/';
         paths.iniPath = folder.file(u"Zeph.ini"_s);
-        for (const QString &name : { u"Rtf"_s, u"Files"_s, u"Layouts"_s, u"Temp"_s }) {
+        for (const QString &name : { u"Rtf"_s, u"Files"_s, u"Layouts"_s, u"Temp"_s, u"Backup"_s }) {
             QDir(folder.path()).mkdir(name);
         }
+        // Where backups of saved files go: without a name they would go to the current folder.
+        settings.BackUpFolder = folder.path() + u"/Backup/"_s;
         settings.TextFontName = u"Arial"_s;
         settings.TextFontSize = u"8"_s;
         settings.BackgroundColour = 0xFFFFFF;

@@ -56,6 +56,18 @@ protected:
     {
         return ProfileFile(paths.iniPath).text(section, key, u"none"_s, profileTextBuffer);
     }
+    /// The colours that can be seen: of all but blanks and line ends, and but digits, which a full
+    /// pass leaves plain in a delay.
+    QString coloursOfWords(DocumentKind kind)
+    {
+        const QString text = control(kind)->text();
+        const QString all = colours(kind);
+        QString seen;
+        for (qsizetype i = 0; i < text.size(); ++i) {
+            seen += text[i].isSpace() || text[i].isDigit() ? QString() : QString(all[i]);
+        }
+        return seen;
+    }
     void caretAt(DocumentKind kind, int position) { control(kind)->select(position, 0); }
 };
 
@@ -254,6 +266,31 @@ TEST_F(InsertFormsTest, EachEntryOfTheMenuInsertsItsWord)
         EXPECT_EQ(colours(J).at(0), i < 10 ? u's' : u'r') << i;
     }
     EXPECT_EQ(inserted.join(u' '), u"/U /M /D /I /O /P /R /T /A /H DLY(80) RPT(2)");
+}
+
+TEST_F(InsertFormsTest, WhatTheMenuInsertsHasTheColoursOfAFullPass)
+{
+    for (int i = 0; i < 12; ++i) {
+        set(J, u""_s);
+        editor->actions().trigger(u"mnuSlashArray_"_s + QString::number(i));
+        const QString inserted = coloursOfWords(J);
+        highlighting().ApplyColourHighlighting();
+        EXPECT_EQ(coloursOfWords(J), inserted) << i;
+    }
+}
+
+TEST_F(InsertFormsTest, TitlesHeadingsAndCommentsHaveTheColoursOfAFullPass)
+{
+    set(J, u""_s);
+    press(open(u"mnuInsertTitle", u"Title"_s), u"cmdOK"_s);
+    insertHeading(u"BTN AND DLY(60)"_s);
+    QDialog *rem = open(u"mnuInsertRemStatement", u"SingleTextForm"_s);
+    fill(rem, u"RichTextBox1"_s, u"USE MDEF /U"_s);
+    press(rem, u"cmdOK"_s);
+    const QString inserted = coloursOfWords(J);
+    EXPECT_GT(inserted.count(u'c'), 100);
+    highlighting().ApplyColourHighlighting();
+    EXPECT_EQ(coloursOfWords(J), inserted);
 }
 
 TEST_F(InsertFormsTest, TheSlashWindowInsertsAtTheCaretAndStaysOpen)

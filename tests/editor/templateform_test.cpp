@@ -38,6 +38,9 @@ protected:
         host.macroKeys = [](const QString &word) {
             return word == u"Fire" ? std::optional(u"Fire = SPC"_s) : std::nullopt;
         };
+        host.fileWritten = [this](const QString &path) {
+            written.append(path);
+        };
         form = std::make_unique<TemplateForm>(
             Context{ paths, settings, status, dialogs, launcher, clock, keyboard }, printers, host);
         text = form->findChild<RichTextBox *>(u"TemplateText"_s);
@@ -57,6 +60,7 @@ protected:
     }
 
     FakePrinters printers;
+    QStringList written;
     std::unique_ptr<TemplateForm> form;
     RichTextBox *text = nullptr;
 };
@@ -65,9 +69,11 @@ protected:
 
 TEST_F(TemplateTest, ANewFileIsUntitledAndUnchanged)
 {
-    EXPECT_EQ(form->windowTitle().toStdString(), " Editing Untitled.rtf");
+    EXPECT_EQ(form->windowTitle().toStdString(), "ReadMe and Template Editor");
     EXPECT_EQ(form->path(), templates(u"Untitled.rtf"_s));
     EXPECT_FALSE(form->HasTemplateTextChanged());
+    press(u"mnuFileNew");
+    EXPECT_EQ(form->windowTitle().toStdString(), " Editing Untitled.rtf");
     EXPECT_TRUE(form->close());
 }
 
@@ -127,6 +133,38 @@ TEST_F(TemplateTest, AQuestionAnsweredBeforeIsNotAskedAgainByTheClosingWindow)
     dialogs.answer(u" Save Untitled.rtf now?"_s, BoxButton::No);
     EXPECT_TRUE(form->mayClose());
     EXPECT_TRUE(form->close());
+}
+
+TEST_F(TemplateTest, AnAnswerBeforeDoesNotCountForWhatIsWrittenLater)
+{
+    write(u"mine"_s);
+    dialogs.answer(u" Save Untitled.rtf now?"_s, BoxButton::No);
+    EXPECT_TRUE(form->mayClose());
+    write(u" and more"_s);
+    dialogs.answer(u" Save Untitled.rtf now?"_s, BoxButton::Cancel);
+    EXPECT_FALSE(form->close());
+}
+
+TEST_F(TemplateTest, WhoeverElseHasTheFileOpenHearsOfASave)
+{
+    const QString path = folder.write(u"Files/a.tmj"_s, "BTN S1 a\r\n");
+    EXPECT_TRUE(form->OpenReadMe(path));
+    EXPECT_EQ(form->windowTitle().toStdString(), " Editing a.tmj");
+    write(u"Rem "_s);
+    EXPECT_TRUE(written.isEmpty());
+    press(u"mnuFileSave");
+    EXPECT_EQ(written, QStringList{ path });
+}
+
+TEST_F(TemplateTest, AnExportedPdfIsToldInTheWindowItself)
+{
+    write(u"mine"_s);
+    const QString path = templates(u"Mine.pdf"_s);
+    dialogs.answerFile(path);
+    press(u"mnuFileExportPDF");
+    EXPECT_EQ(form->findChild<QStatusBar *>(u"StatusBar1"_s)->currentMessage(),
+              path + u" saved successfully."_s);
+    EXPECT_TRUE(folder.read(u"Templates/Mine.pdf"_s).startsWith("%PDF"));
 }
 
 TEST_F(TemplateTest, YesWithACancelledSaveIsTold)
@@ -204,7 +242,8 @@ TEST_F(TemplateTest, AFailedSaveKeepsTheTextChanged)
     dialogs.answer(u"I couldn't save your file buddy"_s, BoxButton::Ok);
     press(u"mnuFileSave");
     EXPECT_TRUE(form->HasTemplateTextChanged());
-    EXPECT_EQ(form->windowTitle().toStdString(), " Editing Untitled.rtf");
+    EXPECT_EQ(form->path(), templates(u"Untitled.rtf"_s));
+    EXPECT_TRUE(written.isEmpty());
 }
 
 TEST_F(TemplateTest, OnlyASavedFileBecomesTheDefault)
