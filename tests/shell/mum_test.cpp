@@ -18,6 +18,7 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QDir>
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
@@ -37,6 +38,8 @@ struct MainWindow : test::ShellWorld {
 
     void SetUp() override
     {
+        settings.BackUpFolder = folder.path() + u"/Backup/"_s;
+        QDir(folder.path()).mkdir(u"Backup"_s);
         settings.PilotCallsign = u"Goose"_s;
         settings.MumWindowstate = 0;
         paths.iniPath = folder.file(u"Zeph.ini"_s);

@@ -1,0 +1,90 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#include "shell/template_menu.h"
+
+#include "editor/editor.h"
+#include "editor/editor_actions.h"
+#include "editor/editor_view.h"
+#include "editor/file_opening.h"
+#include "editor/templateform.h"
+#include "editor/text_control.h"
+#include "platform/rich_text_box.h"
+#include "shell/mum.h"
+#include "shell/tool_windows.h"
+#include "tests/shell/shell_world.h"
+
+using namespace zeph;
+
+namespace {
+
+struct TemplateMenuTest : test::ShellWorld {
+    std::unique_ptr<Application> run;
+
+    void SetUp() override
+    {
+        writeStore();
+        run = application();
+        ASSERT_TRUE(run->start());
+    }
+    void TearDown() override
+    {
+        run.reset();
+        ShellWorld::TearDown();
+    }
+    TemplateForm *form() const { return run->mum().toolWindows().get<TemplateForm>(); }
+    static RichTextBox &textOf(TemplateForm &form)
+    {
+        return *form.findChild<RichTextBox *>(u"TemplateText"_s);
+    }
+};
+
+} // namespace
+
+TEST_F(TemplateMenuTest, TheMenuOpensOneOfIt)
+{
+    run->editor().actions().trigger(u"mnuAppsTemplateEditor");
+    TemplateForm *first = form();
+    ASSERT_NE(first, nullptr);
+    EXPECT_EQ(first->windowTitle(), u"ReadMe and Template Editor");
+    run->editor().actions().trigger(u"mnuAppsTemplateEditor");
+    EXPECT_EQ(form(), first);
+}
+
+TEST_F(TemplateMenuTest, TheReadmeOfTheJoystickFileIsOpened)
+{
+    folder.write(u"Files/Read.rtf"_s, "{\\rtf1 Read me first}");
+    const QString jet =
+        folder.write(u"Files/Jet.tmj"_s, "USE ZEPH README Read.rtf\r\nBTN S1 a\r\n");
+    run->editor().opening().OpenFavouriteFile(jet);
+    run->editor().actions().trigger(u"mnuAppsViewReadMe");
+    ASSERT_NE(form(), nullptr);
+    EXPECT_EQ(form()->windowTitle(), u" Editing Read.rtf");
+    EXPECT_EQ(textOf(*form()).toPlainText(), u"Read me first");
+}
+
+TEST_F(TemplateMenuTest, WhatItSavesIsOfferedToTheEditorThatHasItOpen)
+{
+    const QString path = folder.write(u"Files/Jet.tmj"_s, "BTN S1 a\r\n");
+    run->editor().opening().OpenFavouriteFile(path);
+    run->editor().actions().trigger(u"mnuAppsTemplateEditor");
+    ASSERT_NE(form(), nullptr);
+    ASSERT_TRUE(form()->OpenReadMe(path));
+    textOf(*form()).textCursor().insertText(u"Rem mine\n"_s);
+    dialogs.answer(u"Open Jet.tmj again?"_s, BoxButton::Yes);
+    form()->mnuFileSave_Click();
+    EXPECT_EQ(run->editor().joystick().control->text().section(u'\n', 0, 0), u"Rem mine");
+    EXPECT_EQ(run->editor().joystick().state, EditorDocument::Saved);
+}
+
+TEST_F(TemplateMenuTest, AnUnsavedTemplateIsAskedAboutBeforeTheEnd)
+{
+    run->editor().actions().trigger(u"mnuAppsTemplateEditor");
+    ASSERT_NE(form(), nullptr);
+    textOf(*form()).textCursor().insertText(u"mine"_s);
+    dialogs.answer(u" Save Untitled.rtf now?"_s, BoxButton::Cancel);
+    EXPECT_FALSE(run->mum().close());
+    EXPECT_TRUE(form()->isVisible());
+    dialogs.answer(u" Save Untitled.rtf now?"_s, BoxButton::No);
+    EXPECT_TRUE(run->mum().close());
+}
