@@ -34,7 +34,10 @@ std::optional<RichText> ColouredCopies::load(const QString &name, const QString 
 
 Expected<void, FileError> ColouredCopies::SaveColouredText(const EditorDocument &document) const
 {
-    return writeFileAtomically(pathOf(document.name), writeRtf(document.control->richText()));
+    DocumentStates &states = document.control->states();
+    RtfWriter writer;
+    states.readPieces(states.present(), [&writer](const RichText &piece) { writer.add(piece); });
+    return writeFileAtomically(pathOf(document.name), writer.take());
 }
 
 } // namespace zeph

@@ -6,6 +6,7 @@
 #include "platform/rich_text_document.h"
 
 #include <QTextBlock>
+#include <QTextCursor>
 
 #include <limits>
 #include <unordered_set>
@@ -38,13 +39,13 @@ public:
     {
         while (size > 0 && m_index < m_runs.size()) {
             const Run &run = m_runs[m_index];
-            const qsizetype part = std::min(size, run.*m_size - m_taken);
+            const qsizetype part = std::min(size, qsizetype(run.*m_size) - m_taken);
             if (part > 0) {
                 function(run.format, part);
             }
             size -= part;
             m_taken += part;
-            if (m_taken == run.*m_size) {
+            if (m_taken == qsizetype(run.*m_size)) {
                 ++m_index;
                 m_taken = 0;
             }
@@ -202,6 +203,54 @@ void DocumentStates::know(const RichText &text)
     settle();
 }
 
+void DocumentStates::setLooks(const LookRuns &looks)
+{
+    const DocumentState before = present();
+    std::vector<quint32> numbers;
+    for (const CharFormat &look : looks.looks) {
+        numbers.push_back(numberAsRead(look));
+    }
+    RunReader reader(looks.runs, &LookRun::length);
+    auto chunks = std::make_shared<TextChunks>();
+    chunks->reserve(before.m_chunks->size());
+    QTextCursor change(&m_document);
+    change.beginEditBlock();
+    qsizetype from = 0;
+    for (const auto &chunk : *before.m_chunks) {
+        std::vector<TextChunk::Run> wanted;
+        wanted.reserve(chunk->runs.size());
+        reader.take(chunk->text.size(), [&](quint32 look, qsizetype part) {
+            if (!wanted.empty() && wanted.back().look == numbers[look]) {
+                wanted.back().length += quint32(part);
+            } else {
+                wanted.push_back({ quint32(part), numbers[look] });
+            }
+        });
+        if (wanted == chunk->runs) {
+            chunks->push_back(chunk);
+        } else {
+            applyCharacterRuns(m_document, charRuns(wanted), charRuns(chunk->runs), from);
+            wanted.shrink_to_fit();
+            chunks->push_back(std::make_shared<TextChunk>(
+                TextChunk{ chunk->text, std::move(wanted), chunk->paragraphs }));
+        }
+        from += chunk->text.size();
+    }
+    change.endEditBlock();
+    m_known.m_chunks = std::move(chunks);
+    settle();
+}
+
+std::vector<CharRun> DocumentStates::charRuns(const std::vector<TextChunk::Run> &runs) const
+{
+    std::vector<CharRun> result;
+    result.reserve(runs.size());
+    for (const TextChunk::Run &run : runs) {
+        result.push_back({ run.length, m_looks[run.look] });
+    }
+    return result;
+}
+
 std::vector<qsizetype> DocumentStates::cuts(QStringView text) const
 {
     std::vector<qsizetype> borders{ 0 };
@@ -229,6 +278,14 @@ DocumentState DocumentStates::empty(const ParagraphFormat &paragraph) const
 RichText DocumentStates::richText(const DocumentState &state) const
 {
     return join(*state.m_chunks, 0, state.m_chunks->size());
+}
+
+void DocumentStates::readPieces(const DocumentState &state,
+                                const std::function<void(const RichText &piece)> &read) const
+{
+    for (size_t i = 0; i < state.m_chunks->size(); ++i) {
+        read(join(*state.m_chunks, i, i + 1));
+    }
 }
 
 void DocumentStates::restore(const DocumentState &state)

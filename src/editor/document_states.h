@@ -10,6 +10,7 @@
 #include <QHash>
 #include <QObject>
 
+#include <functional>
 #include <memory>
 #include <span>
 #include <vector>
@@ -67,6 +68,9 @@ public:
     /// value is normal, its paragraphs are the document's, and a text that is new to the states has
     /// a paragraph a line.
     void know(const RichText &text);
+    /// Lays looks over the document, whose whole text the runs cover, in one edit block that
+    /// touches only what looks otherwise.
+    void setLooks(const LookRuns &looks);
     /// The document as it stands, read only where it has changed. Not within an open edit block.
     RichText presentText() { return richText(present()); }
     /// An empty text.
@@ -74,6 +78,10 @@ public:
     /// Makes the document stand as it did, text and looks, in one edit block.
     void restore(const DocumentState &state);
     RichText richText(const DocumentState &state) const;
+    /// The same text in pieces, one behind the other, each of whole lines: for what passes over a
+    /// long text once.
+    void readPieces(const DocumentState &state,
+                    const std::function<void(const RichText &piece)> &read) const;
 
 private:
     /// Chunks [first, behind) of the known state have changed; the document's stretch [from, to) is
@@ -96,6 +104,7 @@ private:
     void settle();
     quint32 numberOf(const CharFormat &look);
     quint32 numberAsRead(const CharFormat &look);
+    std::vector<CharRun> charRuns(const std::vector<TextChunk::Run> &runs) const;
     RichText join(const TextChunks &chunks, size_t first, size_t behind) const;
 
     QTextDocument &m_document;

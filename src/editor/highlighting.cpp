@@ -101,7 +101,7 @@ void Highlighting::applyColour(EditorDocument &document)
                             colourScheme(m_context.settings, document.kind), tell);
     TextControl::Place place = control.place();
     place.anchor = place.caret = control.selStart();
-    control.setCharacterRuns(characterRuns(runs, m_parts.view.plainFormat(document.kind)));
+    control.states().setLooks(lookRuns(runs, m_parts.view.plainFormat(document.kind)));
     control.setPlace(place);
     m_parts.histories.of(document.kind).storeTop();
     if (auto saved = m_parts.copies.SaveColouredText(document); !saved) {

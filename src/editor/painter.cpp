@@ -116,39 +116,53 @@ private:
     std::array<Bucket, asciiCount> m_others; ///< by first character
 };
 
+/// A stretch of the text [from, to).
+struct Block {
+    qsizetype from = 0;
+    qsizetype to = 0;
+};
+
 /// Finds the whole-word hits of the words of all passes in one walk over the text. A word that is
 /// made of word characters alone is a hit exactly where a run of them is that word; any other is
 /// tried where its first character can start it.
 class HitFinder
 {
 public:
-    HitFinder(std::span<const PaintPass> passes, const WordTable &words)
-        : m_passes(passes), m_words(words), m_hits(passes.size())
+    HitFinder(QStringView text, std::span<const PaintPass> passes, const WordTable &words)
+        : m_text(text), m_passes(passes), m_words(words), m_hits(passes.size())
     {
     }
 
-    /// The hits of each pass, in the order of the text.
-    std::vector<Hits> find(QStringView text)
+    /// Walks on to the end of the word that stands at a place, or to the text's end, and gives the
+    /// stretch walked over. The hits are those that begin in it.
+    Block walk(qsizetype until)
     {
-        m_text = text;
-        const qsizetype size = text.size();
-        for (qsizetype at = 0; at < size;) {
-            const qsizetype start = at;
-            if (!isWord(text[at])) {
+        for (Hits &hits : m_hits) {
+            hits.clear();
+        }
+        const qsizetype from = m_at;
+        const qsizetype size = m_text.size();
+        until = std::min(until, size);
+        while (m_at < until) {
+            const qsizetype start = m_at;
+            if (!isWord(m_text[m_at])) {
                 tryOthers(start);
-                ++at;
+                ++m_at;
                 continue;
             }
             WordHash hash;
             do {
-                hash.add(fold(text[at]));
-                ++at;
-            } while (at < size && isWord(text[at]));
-            tryWord(start, at - start, hash);
+                hash.add(fold(m_text[m_at]));
+                ++m_at;
+            } while (m_at < size && isWord(m_text[m_at]));
+            tryWord(start, m_at - start, hash);
             tryOthers(start);
         }
-        return std::move(m_hits);
+        return { from, m_at };
     }
+
+    /// The hits of each pass, in the order of the text.
+    const std::vector<Hits> &hits() const { return m_hits; }
 
 private:
     using Word = WordTable::Word;
@@ -190,84 +204,63 @@ private:
         }
     }
 
+    QStringView m_text;
     std::span<const PaintPass> m_passes;
     const WordTable &m_words;
     std::vector<Hits> m_hits;
-    QStringView m_text;
+    qsizetype m_at = 0;
 };
 
-/// Lays the hits of one pass after another over the text.
+/// Lays the hits of one pass after another over the text, a block of it at a time.
 class Canvas
 {
 public:
-    explicit Canvas(QStringView text) : m_text(text), m_colours(size_t(text.size()), plain) { }
-
-    /// Lays all passes over the text, a block of it after the other: a long text then goes through
-    /// the processor's cache once, not once a pass.
-    void paint(std::span<const PaintPass> passes, const std::vector<Hits> &hits,
-               const std::function<void(const PaintPass &)> &begins)
+    Canvas(QStringView text, std::span<const PaintPass> passes, const ColourScheme &scheme)
+        : m_text(text), m_passes(passes), m_progress(passes.size()),
+          m_schemeColours{ scheme.plain,         scheme.btn, scheme.slash, scheme.raw,
+                           scheme.miscellaneous, scheme.rem, pureRed }
     {
-        std::vector<Progress> progress(passes.size());
-        qsizetype from = 0;
-        do {
-            const qsizetype to = std::min(from + blockLength, m_text.size());
-            for (size_t i = 0; i < passes.size(); ++i) {
-                if (begins && from == 0) {
-                    begins(passes[i]);
-                }
-                paintBlock(passes[i], hits[i], { from, to }, progress[i]);
-            }
-            from = to;
-        } while (from < m_text.size());
+        m_runs.reserve(size_t(text.size() / charactersPerRun) + 1);
     }
 
-    std::vector<ColourRun> runs(const ColourScheme &scheme) const
+    /// Paints the block behind the last one, with the hits that begin in it.
+    void paint(Block block, const std::vector<Hits> &hits)
     {
-        const std::array colours = { scheme.plain,         scheme.btn, scheme.slash, scheme.raw,
-                                     scheme.miscellaneous, scheme.rem, pureRed };
-        std::vector<ColourRun> runs;
-        for (auto at = m_colours.begin(); at != m_colours.end();) {
-            const quint8 here = *at;
-            const auto end =
-                std::find_if(at, m_colours.end(), [here](quint8 each) { return each != here; });
-            const ColorRef colour = colours[here];
-            if (runs.empty() || runs.back().colour != colour) {
-                runs.push_back({ 0, colour });
-            }
-            runs.back().length += end - at;
-            at = end;
+        m_block = block;
+        m_colours.assign(size_t(block.to - block.from), plain);
+        for (size_t i = 0; i < m_passes.size(); ++i) {
+            paintPass(m_passes[i], hits[i], m_progress[i]);
         }
-        return runs;
+        addRuns();
     }
+
+    std::vector<ColourRun> takeRuns() { return std::move(m_runs); }
 
 private:
     /// Stands for characters that no pass painted; the classes follow it.
     static constexpr quint8 plain = 0;
-    /// In characters: colours and text of a block fit into the nearer caches.
-    static constexpr qsizetype blockLength = 32768;
+    /// About as many as a file has that is full of words; a guess alone.
+    static constexpr qsizetype charactersPerRun = 4;
 
     /// How far a pass has come.
     struct Progress {
-        size_t hit = 0;
         qsizetype next = 0; ///< hits before it are passed over
         qsizetype painted = 0; ///< the end of its last stretch, which may lie in a later block
     };
-    struct Block {
-        qsizetype from;
-        qsizetype to;
-    };
 
-    void paintBlock(const PaintPass &pass, const Hits &hits, Block block, Progress &progress)
+    void fill(qsizetype from, qsizetype to, ColourClass colour)
     {
-        const auto fill = [&](qsizetype from, qsizetype to) {
-            if (from < to) {
-                std::fill(m_colours.begin() + from, m_colours.begin() + to,
-                          quint8(quint8(pass.colour) + 1));
-            }
-        };
-        fill(block.from, std::min(progress.painted, block.to));
-        for (; progress.hit < hits.size() && hits[progress.hit] < block.to; ++progress.hit) {
-            const qsizetype start = hits[progress.hit];
+        to = std::min(to, m_block.to);
+        if (from < to) {
+            const auto begin = m_colours.begin() + (from - m_block.from);
+            std::fill(begin, begin + (to - from), quint8(quint8(colour) + 1));
+        }
+    }
+
+    void paintPass(const PaintPass &pass, const Hits &hits, Progress &progress)
+    {
+        fill(m_block.from, progress.painted, pass.colour);
+        for (const qsizetype start : hits) {
             if (start < progress.next) {
                 continue;
             }
@@ -276,8 +269,23 @@ private:
             if (isPainted(pass.primitive, start, wordEnd)) {
                 progress.next = paintedEnd(pass.primitive, wordEnd);
                 progress.painted = progress.next;
-                fill(start, std::min(progress.painted, block.to));
+                fill(start, progress.painted, pass.colour);
             }
+        }
+    }
+
+    void addRuns()
+    {
+        for (auto at = m_colours.begin(); at != m_colours.end();) {
+            const quint8 here = *at;
+            const auto end =
+                std::find_if(at, m_colours.end(), [here](quint8 each) { return each != here; });
+            const ColorRef colour = m_schemeColours[here];
+            if (m_runs.empty() || m_runs.back().colour != colour) {
+                m_runs.push_back({ 0, colour });
+            }
+            m_runs.back().length += end - at;
+            at = end;
         }
     }
 
@@ -316,7 +324,12 @@ private:
     }
 
     QStringView m_text;
-    std::vector<quint8> m_colours;
+    std::span<const PaintPass> m_passes;
+    std::vector<Progress> m_progress;
+    std::array<ColorRef, 7> m_schemeColours; ///< by what stands in m_colours
+    Block m_block;
+    std::vector<quint8> m_colours; ///< of the block
+    std::vector<ColourRun> m_runs;
 };
 
 } // namespace
@@ -348,10 +361,21 @@ Painter::~Painter() = default;
 std::vector<ColourRun> Painter::paint(QStringView text, const ColourScheme &scheme,
                                       const std::function<void(const PaintPass &)> &begins) const
 {
-    const std::vector<Hits> hits = HitFinder(m_passes, *m_words).find(text);
-    Canvas canvas(text);
-    canvas.paint(m_passes, hits, begins);
-    return canvas.runs(scheme);
+    // A block fits into the processor's nearer caches; a long text goes through them once.
+    constexpr qsizetype blockLength = 32768;
+    if (begins) {
+        for (const PaintPass &pass : m_passes) {
+            begins(pass);
+        }
+    }
+    HitFinder finder(text, m_passes, *m_words);
+    Canvas canvas(text, m_passes, scheme);
+    for (qsizetype at = 0; at < text.size();) {
+        const Block block = finder.walk(at + blockLength);
+        canvas.paint(block, finder.hits());
+        at = block.to;
+    }
+    return canvas.takeRuns();
 }
 
 std::vector<ColourRun> paint(QStringView text, std::span<const PaintPass> passes,
@@ -359,6 +383,24 @@ std::vector<ColourRun> paint(QStringView text, std::span<const PaintPass> passes
                              const std::function<void(const PaintPass &)> &begins)
 {
     return Painter(passes).paint(text, scheme, begins);
+}
+
+LookRuns lookRuns(const std::vector<ColourRun> &runs, const CharFormat &plain)
+{
+    LookRuns result;
+    result.runs.reserve(runs.size());
+    for (const ColourRun &run : runs) {
+        const auto known =
+            std::find_if(result.looks.begin(), result.looks.end(),
+                         [&run](const CharFormat &look) { return look.colour == run.colour; });
+        const auto number = quint32(known - result.looks.begin());
+        if (known == result.looks.end()) {
+            result.looks.push_back(plain);
+            result.looks.back().colour = run.colour;
+        }
+        result.runs.push_back({ quint32(run.length), number });
+    }
+    return result;
 }
 
 std::vector<CharRun> characterRuns(const std::vector<ColourRun> &runs, const CharFormat &plain)

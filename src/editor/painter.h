@@ -76,8 +76,8 @@ public:
     ~Painter();
 
     /// Paints a text: linear in its length, exactly as the passes one after another would. No two
-    /// neighbouring runs have the same colour. What is given as begins hears of each pass before
-    /// it.
+    /// neighbouring runs have the same colour. What is given as begins hears of each pass, in
+    /// order, before the text is painted.
     std::vector<ColourRun> paint(QStringView text, const ColourScheme &scheme,
                                  const std::function<void(const PaintPass &)> &begins = {}) const;
 
@@ -94,6 +94,7 @@ std::vector<ColourRun> paint(QStringView text, std::span<const PaintPass> passes
                              const std::function<void(const PaintPass &)> &begins = {});
 
 /// The runs as looks: the plain format with each run's colour.
+LookRuns lookRuns(const std::vector<ColourRun> &runs, const CharFormat &plain);
 std::vector<CharRun> characterRuns(const std::vector<ColourRun> &runs, const CharFormat &plain);
 
 } // namespace zeph

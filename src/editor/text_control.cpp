@@ -122,9 +122,19 @@ void TextControl::setCharacterRuns(const std::vector<CharRun> &runs, int from)
         applyCharacterRuns(*document(), runs, from);
         return;
     }
-    RichText whole = richText();
-    applyCharacterRuns(*document(), runs, std::exchange(whole.characters, runs));
-    m_states->know(whole);
+    LookRuns looks;
+    looks.runs.reserve(runs.size());
+    QHash<CharFormat, quint32> numbers;
+    for (const CharRun &run : runs) {
+        const auto known = numbers.constFind(run.format);
+        const quint32 number = known != numbers.cend() ? *known : quint32(looks.looks.size());
+        if (known == numbers.cend()) {
+            numbers.insert(run.format, number);
+            looks.looks.push_back(run.format);
+        }
+        looks.runs.push_back({ quint32(std::max(run.length, qsizetype(0))), number });
+    }
+    m_states->setLooks(looks);
 }
 
 void TextControl::changeLooks(int from, int length, const std::function<void(CharFormat &)> &change)

@@ -346,9 +346,9 @@ void applyCharacterRuns(QTextDocument &document, const std::vector<CharRun> &run
 }
 
 void applyCharacterRuns(QTextDocument &document, const std::vector<CharRun> &runs,
-                        std::vector<CharRun> present)
+                        std::vector<CharRun> present, qsizetype from)
 {
-    RunPainter(document, std::move(present)).paint(runs);
+    RunPainter(document, std::move(present), from).paint(runs);
 }
 
 void setParagraphFormat(QTextDocument &document, const ParagraphFormat &format)

@@ -53,9 +53,9 @@ void replaceRichText(QTextDocument &document, qsizetype from, qsizetype length,
 /// otherwise is touched, and only what they reach is read.
 void applyCharacterRuns(QTextDocument &document, const std::vector<CharRun> &runs,
                         qsizetype from = 0);
-/// The same for a caller who knows the looks of the whole document: nothing is read.
+/// The same for a caller who knows the looks from the position on: nothing is read.
 void applyCharacterRuns(QTextDocument &document, const std::vector<CharRun> &runs,
-                        std::vector<CharRun> present);
+                        std::vector<CharRun> present, qsizetype from);
 /// Gives all paragraphs one format; nothing is touched when they have it.
 void setParagraphFormat(QTextDocument &document, const ParagraphFormat &format);
 

@@ -50,6 +50,18 @@ struct CharRun {
     friend bool operator==(const CharRun &, const CharRun &) = default;
 };
 
+/// A stretch of characters in one of a few looks.
+struct LookRun {
+    quint32 length = 0;
+    quint32 format = 0; ///< index of the look
+};
+
+/// Characters' looks for texts with many runs and few looks.
+struct LookRuns {
+    std::vector<CharFormat> looks;
+    std::vector<LookRun> runs;
+};
+
 /// A stretch of paragraphs of one format; a paragraph ends at each '\n'.
 struct ParagraphRun {
     qsizetype count = 0;

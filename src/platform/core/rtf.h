@@ -11,6 +11,8 @@
 
 #include <QByteArray>
 
+#include <memory>
+
 namespace zeph {
 
 struct RtfError {
@@ -28,5 +30,21 @@ Expected<RichText, RtfError> readRtf(QByteArrayView bytes);
 /// The whole value as RTF 1 in 7-bit ASCII; characters beyond 1252 as \uN with "?" behind.
 /// readRtf() gives the same value back, but for sizes, which RTF holds in half points.
 QByteArray writeRtf(const RichText &text);
+
+/// writeRtf() of a text that comes in pieces, each of whole lines.
+class RtfWriter
+{
+public:
+    RtfWriter();
+    ~RtfWriter();
+
+    void add(const RichText &piece);
+    /// The file; the object is empty afterwards.
+    QByteArray take();
+
+private:
+    class Body;
+    std::unique_ptr<Body> m_body;
+};
 
 } // namespace zeph

@@ -108,15 +108,16 @@ struct Look {
     bool underline = false;
 };
 
-class Writer
+} // namespace
+
+class RtfWriter::Body
 {
 public:
-    explicit Writer(const RichText &text) : m_text(text) { }
-
-    QByteArray write();
+    void add(const RichText &piece);
+    QByteArray take();
 
 private:
-    void putRun(qsizetype from, qsizetype to);
+    void putRun(QStringView run);
     void putCharacters(QStringView characters);
     void putLook(const CharFormat &format);
     void startParagraph();
@@ -128,7 +129,7 @@ private:
     int fontOf(const QString &family);
     int colourOf(std::optional<ColorRef> colour);
 
-    const RichText &m_text;
+    std::vector<ParagraphRun> m_paragraphs; ///< of the piece
     Sink m_body;
     Look m_look;
     bool m_isWordOpen = false; ///< the last thing written is a word, which text would continue
@@ -146,38 +147,45 @@ private:
     int m_lastFont = 0;
 };
 
-QByteArray Writer::write()
+void RtfWriter::Body::add(const RichText &piece)
 {
-    m_body.ensure(m_text.text.size() * 3 / 2 + qsizetype(m_text.characters.size()) * 16);
+    m_body.ensure(piece.text.size() * 3 / 2 + qsizetype(piece.characters.size()) * 16);
+    m_paragraphs = piece.paragraphs;
+    m_paragraphRun = 0;
+    m_inParagraphRun = 0;
+    const QStringView text = piece.text;
     qsizetype from = 0;
-    for (const CharRun &run : m_text.characters) {
-        const qsizetype to =
-            std::min(from + std::max(run.length, qsizetype(0)), m_text.text.size());
+    for (const CharRun &run : piece.characters) {
+        const qsizetype to = std::min(from + std::max(run.length, qsizetype(0)), text.size());
         if (to > from) {
             putLook(run.format);
-            putRun(from, to);
+            putRun(text.sliced(from, to - from));
             from = to;
         }
     }
-    if (from < m_text.text.size()) {
+    if (from < text.size()) {
         putLook({});
-        putRun(from, m_text.text.size());
+        putRun(text.sliced(from));
     }
+}
+
+QByteArray RtfWriter::Body::take()
+{
     startParagraph();
     m_body.ensure(bytesPerChange);
     m_body.put("\\par\r\n}\r\n");
     return withHeader();
 }
 
-void Writer::putRun(qsizetype from, qsizetype to)
+void RtfWriter::Body::putRun(QStringView run)
 {
-    for (; from < to; from += chunk) {
+    for (; !run.isEmpty(); run = run.sliced(std::min(chunk, run.size()))) {
         m_body.ensure(chunk * bytesPerCharacter + bytesPerChange);
-        putCharacters(QStringView(m_text.text).mid(from, std::min(chunk, to - from)));
+        putCharacters(run.first(std::min(chunk, run.size())));
     }
 }
 
-void Writer::putCharacters(QStringView characters)
+void RtfWriter::Body::putCharacters(QStringView characters)
 {
     for (const QChar character : characters) {
         const char16_t c = character.unicode();
@@ -207,14 +215,14 @@ void Writer::putCharacters(QStringView characters)
     }
 }
 
-void Writer::startParagraph()
+void RtfWriter::Body::startParagraph()
 {
     if (!m_atParagraphStart) {
         return;
     }
     m_atParagraphStart = false;
     m_body.ensure(bytesPerChange + chunk * bytesPerCharacter);
-    const std::vector<ParagraphRun> &runs = m_text.paragraphs;
+    const std::vector<ParagraphRun> &runs = m_paragraphs;
     while (m_paragraphRun < runs.size() && m_inParagraphRun >= runs[m_paragraphRun].count) {
         ++m_paragraphRun;
         m_inParagraphRun = 0;
@@ -248,7 +256,7 @@ void Writer::startParagraph()
 }
 
 /// The sign that readers without lists show, and the list's form where it begins.
-void Writer::putBullet(bool isFirst)
+void RtfWriter::Body::putBullet(bool isFirst)
 {
     m_body.put("{\\pntext\\'95\\tab}");
     if (isFirst) {
@@ -258,7 +266,7 @@ void Writer::putBullet(bool isFirst)
     m_isWordOpen = false;
 }
 
-void Writer::putLook(const CharFormat &format)
+void RtfWriter::Body::putLook(const CharFormat &format)
 {
     m_body.ensure(bytesPerChange);
     const Look look = lookOf(format);
@@ -288,7 +296,7 @@ void Writer::putLook(const CharFormat &format)
     putNumber("\\cf", before.colour, look.colour);
 }
 
-Look Writer::lookOf(const CharFormat &format)
+Look RtfWriter::Body::lookOf(const CharFormat &format)
 {
     Look look;
     look.font = fontOf(format.family);
@@ -302,7 +310,7 @@ Look Writer::lookOf(const CharFormat &format)
     return look;
 }
 
-int Writer::fontOf(const QString &family)
+int RtfWriter::Body::fontOf(const QString &family)
 {
     if (family == m_lastFamily) {
         return m_lastFont;
@@ -317,7 +325,7 @@ int Writer::fontOf(const QString &family)
     return m_lastFont;
 }
 
-int Writer::colourOf(std::optional<ColorRef> colour)
+int RtfWriter::Body::colourOf(std::optional<ColorRef> colour)
 {
     if (!colour) {
         return 0;
@@ -331,7 +339,7 @@ int Writer::colourOf(std::optional<ColorRef> colour)
     return number;
 }
 
-void Writer::putFamily(Sink &sink, const QString &family)
+void RtfWriter::Body::putFamily(Sink &sink, const QString &family)
 {
     sink.ensure(family.size() * bytesPerCharacter + bytesPerChange);
     for (const QChar character : family) {
@@ -347,7 +355,7 @@ void Writer::putFamily(Sink &sink, const QString &family)
     sink.put(";}");
 }
 
-QByteArray Writer::withHeader()
+QByteArray RtfWriter::Body::withHeader()
 {
     // No default font is named: text without one is to look as the reader's control has it.
     Sink file;
@@ -378,11 +386,25 @@ QByteArray Writer::withHeader()
     return file.take();
 }
 
-} // namespace
+RtfWriter::RtfWriter() : m_body(std::make_unique<Body>()) { }
+
+RtfWriter::~RtfWriter() = default;
+
+void RtfWriter::add(const RichText &piece)
+{
+    m_body->add(piece);
+}
+
+QByteArray RtfWriter::take()
+{
+    return std::exchange(m_body, std::make_unique<Body>())->take();
+}
 
 QByteArray writeRtf(const RichText &text)
 {
-    return Writer(text).write();
+    RtfWriter writer;
+    writer.add(text);
+    return writer.take();
 }
 
 } // namespace zeph
