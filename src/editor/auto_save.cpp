@@ -16,8 +16,9 @@
 namespace zeph {
 
 AutoSave::AutoSave(const Context &context, EditorView &view, FileSaving &saving)
-    : m_context(context), m_view(view), m_saving(saving)
+    : m_context(context), m_view(view), m_saving(saving), m_timer(&view)
 {
+    m_timer.setObjectName(u"Timer1"_s);
     m_timer.setInterval(std::chrono::minutes(1));
     m_timer.callOnTimeout(this, guarded(context.dialogs, [this](auto &&...) { Timer1_Timer(); }));
 }

@@ -61,9 +61,12 @@ Box offerBox(const RecoveredText &recovered, const QString &callsign)
 
 Recovery::Recovery(const Context &context, const Parts &parts)
     : m_context(context), m_parts(parts), m_folder(context.paths.inApp(u"Recovery")),
-      m_backups(context)
+      m_backups(context), m_timer(&parts.view)
 {
+    m_timer.setObjectName(u"RecoveryTimer"_s);
     m_timer.setSingleShot(true);
+    // A coarse timer may come some hundred milliseconds late, and with them go as many letters.
+    m_timer.setTimerType(Qt::PreciseTimer);
     m_timer.setInterval(intervalMs);
     m_timer.callOnTimeout(this, guarded(context.dialogs, [this](auto &&...) { update(); }));
     for (const DocumentKind kind : bothKinds) {
