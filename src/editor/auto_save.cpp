@@ -49,8 +49,9 @@ void AutoSave::AutoSaveFile()
     }
     const QScopedValueRollback<bool> saves(m_saves, true);
     for (const DocumentKind kind : { DocumentKind::Joystick, DocumentKind::Macro }) {
-        if (m_view.document(kind).isModified()) {
-            m_saving.AutoSaveText(m_view.document(kind));
+        EditorDocument &document = m_view.document(kind);
+        if (document.isModified() && !document.recovered) {
+            m_saving.AutoSaveText(document);
         }
     }
 }
