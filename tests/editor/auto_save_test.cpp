@@ -212,6 +212,16 @@ TEST_F(AutoSaveTest, ABackupFollowsEachSaveOfEitherDocument)
     EXPECT_EQ(folder.read(u"Backup/a.tmm"_s), folder.read(u"Files/a.TMM"_s));
 }
 
+TEST_F(AutoSaveTest, AnEmptyBackupFolderMeansTheOneBesideTheProgram)
+{
+    settings.CreateBackup = 1;
+    settings.BackUpFolder.clear();
+    open(u"a.tmj"_s, "BTN S1 a");
+    type(DocumentKind::Joystick, u"x"_s);
+    editor->saving().mnuFileSave_Click();
+    EXPECT_EQ(folder.read(u"Backup/a.tmj"_s), "xBTN S1 a");
+}
+
 TEST_F(AutoSaveTest, ABackupThatCannotBeWrittenIsToldAndTheSaveHolds)
 {
     settings.CreateBackup = 1;
