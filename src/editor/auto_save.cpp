@@ -16,8 +16,9 @@
 namespace zeph {
 
 AutoSave::AutoSave(const Context &context, EditorView &view, FileSaving &saving)
-    : m_context(context), m_view(view), m_saving(saving)
+    : m_context(context), m_view(view), m_saving(saving), m_timer(&view)
 {
+    m_timer.setObjectName(u"Timer1"_s);
     m_timer.setInterval(std::chrono::minutes(1));
     m_timer.callOnTimeout(this, guarded(context.dialogs, [this](auto &&...) { Timer1_Timer(); }));
 }
@@ -48,8 +49,9 @@ void AutoSave::AutoSaveFile()
     }
     const QScopedValueRollback<bool> saves(m_saves, true);
     for (const DocumentKind kind : { DocumentKind::Joystick, DocumentKind::Macro }) {
-        if (m_view.document(kind).isModified()) {
-            m_saving.AutoSaveText(m_view.document(kind));
+        EditorDocument &document = m_view.document(kind);
+        if (document.isModified() && !document.recovered) {
+            m_saving.AutoSaveText(document);
         }
     }
 }

@@ -29,7 +29,9 @@ public:
 
     /// A minute has gone.
     void Timer1_Timer();
-    /// Saves each modified document where it belongs, or under its fresh name.
+    /// Saves each modified document where it belongs, or under its fresh name. A text that came
+    /// back after a crash waits for the user's own save: the offer promised that nothing on the
+    /// disk changes before.
     void AutoSaveFile();
     /// The last resort after a failure that nobody caught: saves both documents as the user would.
     void EmergencySaveFiles();

@@ -24,6 +24,16 @@ QString backupName(const QString &caption, const std::optional<QDateTime> &momen
         + caption.last(qMin<qsizetype>(3, caption.size()));
 }
 
+QString Backups::folder() const
+{
+    if (!m_context.settings.BackUpFolder.isEmpty()) {
+        return m_context.settings.BackUpFolder;
+    }
+    const QString standard = m_context.paths.defaultBackupFolder();
+    QDir().mkpath(standard);
+    return standard;
+}
+
 Expected<void, FileError> Backups::SaveJoystickBackup(const EditorDocument &document) const
 {
     if (m_context.settings.CreateBackup != 1) {
@@ -33,22 +43,19 @@ Expected<void, FileError> Backups::SaveJoystickBackup(const EditorDocument &docu
     if (m_context.settings.BackUpDateInfo == 1) {
         moment = m_context.clock.now();
     }
-    return writeFileAtomically(m_context.settings.BackUpFolder
-                                   + backupName(document.caption(), moment),
+    return writeFileAtomically(folder() + backupName(document.caption(), moment),
                                documentBytes(document.control->text()));
 }
 
 Expected<QString, FileError> Backups::keepAside(const QString &caption, const QByteArray &bytes,
                                                 const QDateTime &moment) const
 {
-    const QString folder = m_context.settings.BackUpFolder.isEmpty()
-        ? m_context.paths.defaultBackupFolder()
-        : m_context.settings.BackUpFolder;
-    QDir().mkpath(folder);
+    const QString into = folder();
+    QDir().mkpath(into);
     const QString name = backupName(caption, moment);
-    QString path = folder + name;
+    QString path = into + name;
     for (int number = 2; fileExists(path); ++number) {
-        path = folder + name.chopped(4) + u" ("_s + QString::number(number) + u')' + name.last(4);
+        path = into + name.chopped(4) + u" ("_s + QString::number(number) + u')' + name.last(4);
     }
     if (auto written = writeFileAtomically(path, bytes); !written) {
         return Unexpected<FileError>(written.error());

@@ -30,6 +30,9 @@ public:
                                            const QDateTime &moment) const;
 
 private:
+    /// With its closing separator; an empty setting means the one beside the program.
+    QString folder() const;
+
     Context m_context;
 };
 

@@ -257,7 +257,13 @@ void Editor::connectGuards()
         connect(m_fresh.get(), replaced, &m_guards->recovery, &Recovery::update);
     }
     connect(m_opening.get(), &FileOpening::loaded, &m_guards->recovery, &Recovery::update);
+    connect(m_saving.get(), &FileSaving::aboutToWrite, &m_guards->recovery, &Recovery::catchUp);
     connect(m_saving.get(), &FileSaving::safe, &m_guards->recovery, &Recovery::update);
+    connect(m_opening.get(), &FileOpening::loaded, m_saving.get(), &FileSaving::forgetFresh);
+    connect(m_fresh.get(), &FileNew::joystickReplaced, m_saving.get(),
+            [this] { m_saving->forgetFresh(DocumentKind::Joystick); });
+    connect(m_fresh.get(), &FileNew::macroReplaced, m_saving.get(),
+            [this] { m_saving->forgetFresh(DocumentKind::Macro); });
 }
 
 void Editor::updateConditions()

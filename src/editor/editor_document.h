@@ -18,6 +18,9 @@ struct EditorDocument {
     QString path;
     QString name;
     qint16 state = Empty;
+    /// The text came back after a crash, and the user has not saved it yet: until then nothing but
+    /// the user changes the file.
+    bool recovered = false;
     /// Last known selection, kept across tab changes (0-based characters).
     int caret = 0;
     int selLength = 0;

@@ -26,6 +26,7 @@ bool FileNew::freshen(DocumentKind kind)
     const BusyGuard busy(m_view);
     EditorDocument &document = m_view.document(kind);
     document.state = EditorDocument::Empty;
+    document.recovered = false;
     document.control->setText(QString());
     m_view.applyLook();
     m_view.renameFresh(kind);

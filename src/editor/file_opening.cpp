@@ -279,6 +279,7 @@ void FileOpening::show(EditorDocument &document, const QString &text)
         m_parts.directives.GetUSEZephstatements();
     }
     document.state = EditorDocument::Saved;
+    document.recovered = false;
     view.UpdateSavedIcon();
     document.control->select(0, 0);
 }
@@ -289,6 +290,7 @@ void FileOpening::showRecovered(DocumentKind kind, const QString &path, const QS
     m_parts.view.rename(document, path);
     show(document, text);
     Q_EMIT loaded(kind, path);
+    document.recovered = true;
     m_parts.view.setState(document, EditorDocument::Modified);
 }
 

@@ -148,9 +148,9 @@ void FileSaving::AutoSaveText(EditorDocument &document)
 /// refused, which was told.
 std::optional<QString> FileSaving::writePlain(EditorDocument &document)
 {
-    if (const auto done =
-            writeFileAtomically(document.path, documentBytes(document.control->text()));
-        !done) {
+    Q_EMIT aboutToWrite(document.kind);
+    const QByteArray bytes = documentBytes(document.control->text());
+    if (const auto done = writeFileAtomically(document.path, bytes); !done) {
         tellUnsaved(document, done.error());
         return {};
     }
@@ -159,7 +159,7 @@ std::optional<QString> FileSaving::writePlain(EditorDocument &document)
         status += u" Its backup wasn't: "_s + kept.error().reason;
     }
     if (isUntitled(document.name)) {
-        m_ownFreshFiles.append(document.path);
+        m_ownFresh[size_t(document.kind)] = bytes;
     }
     tellOtherDocument(document);
     return status;
@@ -168,6 +168,7 @@ std::optional<QString> FileSaving::writePlain(EditorDocument &document)
 void FileSaving::finish(EditorDocument &document, QString status)
 {
     m_view.setState(document, EditorDocument::Saved);
+    document.recovered = false;
     m_view.UpdateSavedIcon();
     if (const auto copied = m_copies.SaveColouredText(document); !copied) {
         status += u" Its coloured copy wasn't: "_s + copied.error().reason;
@@ -182,17 +183,27 @@ void FileSaving::tellUnsaved(EditorDocument &document, const FileError &error)
     tellNotSaved(m_context.dialogs, error);
 }
 
-/// A text without a name is saved under its fresh name, and the last run's may stand there still:
-/// nobody was asked about that one, so it moves among the backups. False when it cannot.
+/// A text without a name is saved under its fresh name, where the last run's may stand still, or
+/// that of a document which made room for this one: nobody was asked about those, so they move
+/// among the backups. False when they cannot, which is told.
 bool FileSaving::keepStrangersFile(const EditorDocument &document)
 {
-    if (!isUntitled(document.name) || m_ownFreshFiles.contains(document.path)
-        || !fileExists(document.path)) {
+    if (!isUntitled(document.name) || !fileExists(document.path)) {
         return true;
     }
     const auto bytes = readWholeFile(document.path);
-    return bytes
-        && m_backups.keepAside(document.caption(), *bytes, m_context.clock.now()).has_value();
+    if (bytes && m_ownFresh[size_t(document.kind)] == *bytes) {
+        return true;
+    }
+    const auto aside = bytes
+        ? m_backups.keepAside(document.caption(), *bytes, m_context.clock.now())
+        : Expected<QString, FileError>(Unexpected<FileError>(bytes.error()));
+    if (!aside) {
+        m_context.status.setText(document.path
+                                 + u" wasn't saved, because another text stands there: "_s
+                                 + aside.error().path + u": "_s + aside.error().reason);
+    }
+    return aside.has_value();
 }
 
 void FileSaving::tellOtherDocument(const EditorDocument &saved)

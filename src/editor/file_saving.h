@@ -9,6 +9,8 @@
 
 #include <QObject>
 
+#include <array>
+
 namespace zeph {
 
 class ColouredCopies;
@@ -34,10 +36,15 @@ public:
     /// Writes one document to its path without anything that would disturb the pilot: no stamp,
     /// and caret, undo history and lists stay as they are.
     void AutoSaveText(EditorDocument &document);
+    /// Another text has taken a document's place: what was saved under its fresh name is no longer
+    /// this document's to overwrite.
+    void forgetFresh(DocumentKind kind) { m_ownFresh[size_t(kind)].reset(); }
     /// Brings the "last modified:" line of a document up to date.
     void ModifyDate(EditorDocument &document);
 
 Q_SIGNALS:
+    /// The text is as it will go to the disk.
+    void aboutToWrite(DocumentKind kind);
     /// The text is on disk; what follows a save is still to come.
     void written(DocumentKind kind);
     /// The disk holds what the document shows, however that came.
@@ -61,8 +68,9 @@ private:
     ColouredCopies &m_copies;
     UseDirectives &m_directives;
     Backups m_backups;
-    /// Files under a fresh name that this run has written, so that they are its own.
-    QStringList m_ownFreshFiles;
+    /// What this run has written under a fresh name for the document that is open now: a file that
+    /// holds just that is its own.
+    std::array<std::optional<QByteArray>, 2> m_ownFresh;
 };
 
 } // namespace zeph

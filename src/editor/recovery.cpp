@@ -61,9 +61,12 @@ Box offerBox(const RecoveredText &recovered, const QString &callsign)
 
 Recovery::Recovery(const Context &context, const Parts &parts)
     : m_context(context), m_parts(parts), m_folder(context.paths.inApp(u"Recovery")),
-      m_backups(context)
+      m_backups(context), m_timer(&parts.view)
 {
+    m_timer.setObjectName(u"RecoveryTimer"_s);
     m_timer.setSingleShot(true);
+    // A coarse timer may come some hundred milliseconds late, and with them go as many letters.
+    m_timer.setTimerType(Qt::PreciseTimer);
     m_timer.setInterval(intervalMs);
     m_timer.callOnTimeout(this, guarded(context.dialogs, [this](auto &&...) { update(); }));
     for (const DocumentKind kind : bothKinds) {
@@ -101,11 +104,25 @@ void Recovery::keep(DocumentKind kind)
     if (!kept.isNull() && kept == text) {
         return;
     }
-    if (const auto written = m_folder.write({ kind, document.path, m_context.clock.now(), text })) {
+    const auto written = m_folder.write({ kind, document.path, m_context.clock.now(), text });
+    if (written) {
         kept = text.isNull() ? u""_s : text;
-    } else if (!std::exchange(m_failureTold, true)) {
+        return;
+    }
+    // The disk may have room again by then, and the pilot may not touch another key.
+    m_timer.start();
+    if (!std::exchange(m_failureTold, true)) {
         m_context.status.setText(written.error().path + u" wasn't written, so better save often: "_s
                                  + written.error().reason);
+    }
+}
+
+void Recovery::catchUp()
+{
+    for (const DocumentKind kind : bothKinds) {
+        if (!m_kept[size_t(kind)].isNull() && m_parts.view.document(kind).isModified()) {
+            keep(kind);
+        }
     }
 }
 
@@ -123,13 +140,21 @@ void Recovery::offerLeft()
         for (const LeftRecovery::File &file : left.files()) {
             bool &isTaken = taken[size_t(file.recovered.kind)];
             // A second text of the kind has no room in the Editor any more.
-            if (isOnDisk(file.recovered) || (!isTaken && offer(file.recovered, isTaken))
-                || keepAside(file.recovered)) {
+            if (isOnDisk(file.recovered) || isInHand(file.recovered)
+                || (!isTaken && offer(file.recovered, isTaken)) || keepAside(file.recovered)) {
                 left.remove(file);
             }
         }
         left.finish();
     }
+}
+
+/// A run that fell over while it took a text back has left it twice.
+bool Recovery::isInHand(const RecoveredText &recovered) const
+{
+    const QString &kept = m_kept[size_t(recovered.kind)];
+    return !kept.isNull() && kept == recovered.text
+        && m_parts.view.document(recovered.kind).path == recovered.path;
 }
 
 /// Shows the text if the user wants it. It is kept on disk again before the old file goes.

@@ -33,6 +33,9 @@ public:
     void offerLeft();
     /// Brings the files in line with the documents at once: modified texts are there, others not.
     void update();
+    /// A save is about to write: what is kept already has to be no older than what it writes, since
+    /// a program that falls over right behind it would offer an older text than the file's.
+    void catchUp();
     /// The run ends in good order.
     void finish();
 
@@ -41,6 +44,7 @@ public:
 private:
     void touched();
     void keep(DocumentKind kind);
+    bool isInHand(const RecoveredText &recovered) const;
     bool offer(const RecoveredText &recovered, bool &taken);
     bool keepAside(const RecoveredText &recovered);
 

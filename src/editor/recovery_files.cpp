@@ -96,8 +96,12 @@ Expected<void, FileError> RecoveryFolder::claim()
         const QString folder = m_parent + QString::number(number);
         // Only who makes a folder owns it: one that is there may hold what another run left.
         if (QDir().mkdir(folder)) {
-            m_folder = folder;
             m_lock = std::make_unique<InstanceLock>(folder);
+            if (!m_lock->isFirst()) {
+                // A program that starts right now takes the bare folder for one that a crash left.
+                continue;
+            }
+            m_folder = folder;
             return {};
         }
         if (!folderExists(folder)) {
@@ -156,6 +160,14 @@ void LeftRecovery::remove(const File &file)
 void LeftRecovery::finish()
 {
     m_lock.reset();
+    // A write that never came to its end leaves its part beside the file, and it alone would keep
+    // the folder for ever.
+    QDir folder(m_folder);
+    for (const QStringView name : fileNames) {
+        for (const QString &part : folder.entryList({ name.toString() + u".*"_s }, QDir::Files)) {
+            folder.remove(part);
+        }
+    }
     removeFolder(m_folder);
 }
 

@@ -4,6 +4,7 @@
 #include "shell/custom_apps.h"
 
 #include <QBitmap>
+#include <QBuffer>
 #include <QFileIconProvider>
 #include <QPainter>
 #include <QPixmap>
@@ -78,7 +79,10 @@ bool makeCustomAppPicture(const CustomApp &app, const QString &file)
     painter.drawPixmap((pictureSize - drawn.width()) / 2, (pictureSize - drawn.height()) / 2,
                        drawn);
     painter.end();
-    return picture.save(file, "BMP");
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    return buffer.open(QIODevice::WriteOnly) && picture.save(&buffer, "BMP")
+        && writeFileAtomically(file, bytes).has_value();
 }
 
 QIcon loadCustomAppPicture(const QString &file)

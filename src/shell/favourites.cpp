@@ -20,7 +20,7 @@ constexpr QStringView loadOnStartKey = u"FavLoadOnStart";
 constexpr QStringView nameToLoadKey = u"FavNameToLoad";
 
 bool openOne(const QString &kind, const QString &path, const QString &name, Dialogs &dialogs,
-             const std::function<void(const QString &)> &open)
+             const std::function<bool(const QString &)> &open)
 {
     if (path == noFavouriteFile || path.isEmpty()) {
         return false;
@@ -38,8 +38,7 @@ bool openOne(const QString &kind, const QString &path, const QString &name, Dial
                      BoxIcon::Exclamation);
         return false;
     }
-    open(existing);
-    return true;
+    return open(existing);
 }
 
 } // namespace
@@ -100,7 +99,7 @@ std::optional<Favourite> autoloadFavourite(const Favourites &favourites)
 }
 
 bool openFavourite(const Favourite &favourite, Dialogs &dialogs,
-                   const std::function<void(const QString &)> &open)
+                   const std::function<bool(const QString &)> &open)
 {
     const bool macro = openOne(u"Macro"_s, favourite.macroPath, favourite.name, dialogs, open);
     const bool joystick =

@@ -50,8 +50,8 @@ void SortFavourites(Favourites &favourites);
 std::optional<Favourite> autoloadFavourite(const Favourites &favourites);
 
 /// Opens the favourite's files, the macro file first; a missing one is told. True when both were
-/// opened.
+/// opened, which the given function tells of each.
 bool openFavourite(const Favourite &favourite, Dialogs &dialogs,
-                   const std::function<void(const QString &path)> &open);
+                   const std::function<bool(const QString &path)> &open);
 
 } // namespace zeph

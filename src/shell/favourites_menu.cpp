@@ -20,6 +20,10 @@ void openFavouriteInEditor(const Favourite &favourite, Editor &editor, Dialogs &
 {
     const bool both = openFavourite(favourite, dialogs, [&editor](const QString &path) {
         editor.opening().OpenFavouriteFile(path);
+        const EditorDocument &document =
+            kindOfName(path) == DocumentKind::Macro ? editor.macro() : editor.joystick();
+        // The user may have kept an unsaved text instead.
+        return document.path == path && !document.isModified();
     });
     if (both) {
         editor.actions().trigger(u"mnuMacrosIdentify");

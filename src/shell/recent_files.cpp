@@ -72,8 +72,21 @@ RecentFiles::RecentFiles(const Context &context, Editor &editor)
         }
         makeMenu(kind);
     }
-    connect(&editor.opening(), &FileOpening::loaded, this, &RecentFiles::update);
-    connect(&editor.saving(), &FileSaving::saved, this, &RecentFiles::update);
+    connect(&editor.opening(), &FileOpening::loaded, this,
+            [this](DocumentKind kind, const QString &path) {
+                // A text that came back after a crash may have no file yet.
+                if (fileExists(path)) {
+                    update(kind, path);
+                }
+            });
+    // An autosave counts as well; a text without a name of its own has nothing to be found by.
+    connect(&editor.saving(), &FileSaving::safe, this, [this](DocumentKind kind) {
+        const EditorDocument &saved =
+            kind == DocumentKind::Joystick ? m_editor.joystick() : m_editor.macro();
+        if (!isUntitled(saved.name)) {
+            update(kind, saved.path);
+        }
+    });
 }
 
 void RecentFiles::makeMenu(DocumentKind kind)

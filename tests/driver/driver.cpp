@@ -19,6 +19,11 @@
 //   minimise / close     the main window
 //   pause MS             lets time pass
 //   kill                 ends the process at once, as a crash would
+//   hasten NAME FACTOR   makes the timer of that object name run that much faster, and notes
+//   "timer NAME interval precise" (or coarse), the interval as the program has it in milliseconds
+//   pilot NAME [ACTION N] types letters into the control of that object name until the process
+//   ends, one a step, and notes "key n ms" for each; after every Nth chooses the menu entry, and
+//   notes "done n" when that has done its work
 #include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
@@ -206,6 +211,15 @@ private:
         if (verb == QLatin1String("kill")) {
             std::_Exit(9);
         }
+        if (verb == QLatin1String("hasten")) {
+            return hasten(first, second.toInt());
+        }
+        if (verb == QLatin1String("pilot")) {
+            keepTyping(first, second.section(QLatin1Char(' '), 0, 0),
+                       second.section(QLatin1Char(' '), 1).toInt());
+            m_waited.restart();
+            return false;
+        }
         note(QLatin1String("UNKNOWN ") + verb);
         return true;
     }
@@ -259,23 +273,29 @@ private:
         return false;
     }
 
-    bool trigger(const QString &name)
+    static QAction *actionNamed(const QString &name)
     {
-        for (QWidget *widget : QApplication::allWidgets()) {
+        for (const QWidget *widget : QApplication::allWidgets()) {
             for (QAction *action : widget->actions()) {
                 if (action->objectName() == name) {
-                    if (!action->isEnabled() || QApplication::activeModalWidget()) {
-                        return false;
-                    }
-                    later(action, [](QAction *a) { a->trigger(); });
-                    return true;
+                    return action;
                 }
             }
         }
-        return false;
+        return nullptr;
     }
 
-    bool type(const QString &name, const QString &text)
+    static bool trigger(const QString &name)
+    {
+        QAction *action = actionNamed(name);
+        if (!action || !action->isEnabled() || QApplication::activeModalWidget()) {
+            return false;
+        }
+        later(action, [](QAction *a) { a->trigger(); });
+        return true;
+    }
+
+    static bool type(const QString &name, const QString &text)
     {
         QWidget *widget = widgetNamed(name);
         if (!widget || !widget->isVisible()) {
@@ -292,6 +312,42 @@ private:
             QApplication::sendEvent(widget, &up);
         }
         return true;
+    }
+
+    bool hasten(const QString &name, int factor)
+    {
+        for (const QWidget *widget : QApplication::allWidgets()) {
+            if (auto *timer = widget->findChild<QTimer *>(name, Qt::FindDirectChildrenOnly)) {
+                note(QStringLiteral("timer %1 %2 %3")
+                         .arg(name)
+                         .arg(timer->interval())
+                         .arg(timer->timerType() == Qt::PreciseTimer ? QLatin1String("precise")
+                                                                     : QLatin1String("coarse")));
+                timer->setInterval(timer->interval() / factor);
+                return true;
+            }
+        }
+        return false;
+    }
+
+    void keepTyping(const QString &control, const QString &action, int every)
+    {
+        if (const QWidget *modal = QApplication::activeModalWidget()) {
+            note(QLatin1String("STUCK by ") + modal->windowTitle());
+            std::_Exit(3);
+        }
+        if (!m_typing.isValid()) {
+            m_typing.start();
+        }
+        if (!type(control, QString(QLatin1Char(char('a' + m_keys % 26))))) {
+            return;
+        }
+        ++m_keys;
+        note(QStringLiteral("key %1 %2").arg(m_keys).arg(m_typing.elapsed()));
+        if (every > 0 && m_keys % every == 0) {
+            actionNamed(action)->trigger();
+            note(QStringLiteral("done %1").arg(m_keys));
+        }
     }
 
     bool file(const QString &path)
@@ -314,6 +370,8 @@ private:
     QFile m_log;
     QTimer m_timer;
     QElapsedTimer m_waited;
+    QElapsedTimer m_typing;
+    int m_keys = 0;
 };
 
 } // namespace

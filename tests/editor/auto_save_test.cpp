@@ -124,6 +124,42 @@ TEST_F(AutoSaveTest, AnEarlierRunsUnnamedFileMovesAmongTheBackups)
     EXPECT_EQ(folder.read(u"Backup/Untitled Mar 05 2024, 09-07am.tmj"_s), "yesterday's work");
 }
 
+TEST_F(AutoSaveTest, TheUnnamedDocumentBeforeMovesAmongTheBackups)
+{
+    type(DocumentKind::Joystick, u"an hour's work"_s);
+    guard().AutoSaveFile();
+    // It counts as saved, so nobody is asked.
+    editor->fresh().mnuFileNewJoystick_Click();
+    type(DocumentKind::Joystick, u"BTN S1 a"_s);
+    guard().AutoSaveFile();
+    EXPECT_EQ(folder.read(u"Files/Untitled.tmj"_s), "BTN S1 a");
+    ASSERT_EQ(backups(), QStringList{ u"Untitled Mar 05 2024, 09-07am.tmj"_s });
+    EXPECT_EQ(folder.read(u"Backup/Untitled Mar 05 2024, 09-07am.tmj"_s), "an hour's work");
+}
+
+TEST_F(AutoSaveTest, AnotherProgramsUnnamedFileMovesAmongTheBackups)
+{
+    type(DocumentKind::Joystick, u"a"_s);
+    guard().AutoSaveFile();
+    file(u"Untitled.tmj"_s, "another window's work");
+    type(DocumentKind::Joystick, u"b"_s);
+    guard().AutoSaveFile();
+    EXPECT_EQ(folder.read(u"Files/Untitled.tmj"_s), "ab");
+    ASSERT_EQ(backups().size(), 1);
+    EXPECT_EQ(folder.read(u"Backup/"_s + backups()[0]), "another window's work");
+}
+
+TEST_F(AutoSaveTest, AnUnnamedFileThatCannotMoveAsideStaysAndIsTold)
+{
+    file(u"Untitled.tmj"_s, "yesterday's work");
+    settings.BackUpFolder = folder.write(u"file"_s, "no folder") + u"/below/"_s;
+    type(DocumentKind::Joystick, u"BTN S1 a"_s);
+    guard().AutoSaveFile();
+    EXPECT_EQ(folder.read(u"Files/Untitled.tmj"_s), "yesterday's work");
+    EXPECT_EQ(editor->joystick().state, EditorDocument::Modified);
+    EXPECT_TRUE(status.text().contains(u"wasn't saved"_s)) << status.text().toStdString();
+}
+
 TEST_F(AutoSaveTest, AReadOnlyFileFailsAndStaysAsItIs)
 {
     const QString path = open(u"a.tmj"_s, "BTN S1 a");
@@ -174,6 +210,16 @@ TEST_F(AutoSaveTest, ABackupFollowsEachSaveOfEitherDocument)
     type(DocumentKind::Macro, u"z"_s);
     editor->saving().mnuFileSave_Click();
     EXPECT_EQ(folder.read(u"Backup/a.tmm"_s), folder.read(u"Files/a.TMM"_s));
+}
+
+TEST_F(AutoSaveTest, AnEmptyBackupFolderMeansTheOneBesideTheProgram)
+{
+    settings.CreateBackup = 1;
+    settings.BackUpFolder.clear();
+    open(u"a.tmj"_s, "BTN S1 a");
+    type(DocumentKind::Joystick, u"x"_s);
+    editor->saving().mnuFileSave_Click();
+    EXPECT_EQ(folder.read(u"Backup/a.tmj"_s), "xBTN S1 a");
 }
 
 TEST_F(AutoSaveTest, ABackupThatCannotBeWrittenIsToldAndTheSaveHolds)

@@ -11,6 +11,7 @@
 #include "tests/editor/editor_fixture.h"
 
 #include <QFile>
+#include <QTimer>
 
 using namespace zeph;
 using zeph::test::EditorTest;
@@ -203,4 +204,95 @@ TEST_F(RecoveryTest, WhereNothingCanBeWrittenItIsToldOnce)
     type(DocumentKind::Joystick, u"y"_s);
     recovery().update();
     EXPECT_EQ(status.text(), u"other");
+}
+
+TEST_F(RecoveryTest, ItComesFiveSecondsAfterTheFirstUnkeptKeyToTheMillisecond)
+{
+    const auto *timer = editor->findChild<QTimer *>(u"RecoveryTimer"_s);
+    ASSERT_TRUE(timer);
+    EXPECT_EQ(timer->interval(), 5000);
+    EXPECT_EQ(timer->timerType(), Qt::PreciseTimer);
+    EXPECT_FALSE(timer->isActive());
+    type(DocumentKind::Joystick, u"x"_s);
+    EXPECT_TRUE(timer->isActive());
+}
+
+TEST_F(RecoveryTest, AWriteThatFailedIsTriedAgainWithoutAnotherKey)
+{
+    const QString inTheWay = folder.write(u"Recovery"_s, "a file where the folder should be");
+    type(DocumentKind::Joystick, u"x"_s);
+    auto *timer = editor->findChild<QTimer *>(u"RecoveryTimer"_s);
+    timer->stop();
+    recovery().update();
+    EXPECT_TRUE(timer->isActive());
+    QFile::remove(inTheWay);
+    timer->stop();
+    recovery().update();
+    EXPECT_EQ(kept(u"1/joystick.txt"_s)->text, u"x");
+    EXPECT_FALSE(timer->isActive());
+}
+
+TEST_F(RecoveryTest, ASaveFindsTheRecoveryFileAsNewAsItself)
+{
+    const QString path = open(u"a.tmj"_s, "BTN S1 a");
+    type(DocumentKind::Joystick, u"x"_s);
+    recovery().update();
+    type(DocumentKind::Joystick, u"y"_s);
+    std::optional<RecoveredText> rightBehind;
+    QObject::connect(&editor->saving(), &FileSaving::written, editor.get(),
+                     [&] { rightBehind = kept(u"1/joystick.txt"_s); });
+    editor->saving().mnuFileSave_Click();
+    ASSERT_TRUE(rightBehind);
+    EXPECT_EQ(rightBehind->text, editor->joystickText());
+}
+
+TEST_F(RecoveryTest, ATextThatCameBackIsNotAutosavedBeforeTheUserSavesIt)
+{
+    const QString path = file(u"a.tmj"_s, "BTN S1 a");
+    leave(DocumentKind::Joystick, path, u"BTN S1 a lot more"_s);
+    dialogs.answer(offerTitle, BoxButton::Yes);
+    recovery().offerLeft();
+    AutoSave &autoSave = editor->guards().autoSave;
+    autoSave.AutoSaveFile();
+    EXPECT_EQ(folder.read(u"Files/a.tmj"_s), "BTN S1 a");
+    EXPECT_EQ(editor->joystick().state, EditorDocument::Modified);
+    editor->saving().mnuFileSave_Click();
+    EXPECT_EQ(folder.read(u"Files/a.tmj"_s), "BTN S1 a lot more");
+    editor->joystick().control->replace(0, 3, u"Rem"_s);
+    autoSave.AutoSaveFile();
+    EXPECT_EQ(folder.read(u"Files/a.tmj"_s), "Rem S1 a lot more");
+}
+
+TEST_F(RecoveryTest, AnotherDocumentInItsPlaceIsAutosavedAgain)
+{
+    leave(DocumentKind::Joystick, file(u"a.tmj"_s, "BTN S1 a"), u"more"_s);
+    dialogs.answer(offerTitle, BoxButton::Yes);
+    recovery().offerLeft();
+    dialogs.answer(u" Save a.tmj now?"_s, BoxButton::No);
+    open(u"b.tmj"_s, "BTN S1 b");
+    type(DocumentKind::Joystick, u"x"_s);
+    editor->guards().autoSave.AutoSaveFile();
+    EXPECT_EQ(folder.read(u"Files/b.tmj"_s), "xBTN S1 b");
+    EXPECT_EQ(folder.read(u"Files/a.tmj"_s), "BTN S1 a");
+}
+
+TEST_F(RecoveryTest, ATextThatAFallenRunHadTakenBackItselfIsOfferedOnce)
+{
+    const QString path = file(u"a.tmj"_s, "BTN S1 a");
+    leave(DocumentKind::Joystick, path, u"BTN S1 more"_s, 7);
+    leave(DocumentKind::Joystick, path, u"BTN S1 more"_s, 8);
+    dialogs.answer(offerTitle, BoxButton::Yes);
+    recovery().offerLeft();
+    EXPECT_EQ(editor->joystickText(), u"BTN S1 more");
+    EXPECT_TRUE(QDir(settings.BackUpFolder).entryList(QDir::Files).isEmpty());
+    EXPECT_FALSE(QFile::exists(parent() + u"/7"_s));
+    EXPECT_FALSE(QFile::exists(parent() + u"/8"_s));
+}
+
+TEST_F(RecoveryTest, ThePartOfATornWriteDoesNotKeepTheFolder)
+{
+    folder.write(u"Recovery/7/joystick.txt.Xa3kQz"_s, "Zeph recov");
+    recovery().offerLeft();
+    EXPECT_TRUE(dialogs.boxes().isEmpty());
+    EXPECT_FALSE(QFile::exists(parent()));
 }

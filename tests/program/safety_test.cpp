@@ -7,10 +7,6 @@
 
 #include <gmock/gmock.h>
 
-#include <QFileInfo>
-#include <QRandomGenerator>
-#include <QThread>
-
 using namespace zeph;
 using namespace zeph::test;
 using testing::Contains;
@@ -18,7 +14,6 @@ using testing::HasSubstr;
 
 namespace {
 
-/// A file that takes a while to write.
 QByteArray longFile()
 {
     QByteArray bytes;
@@ -29,39 +24,6 @@ QByteArray longFile()
 }
 
 } // namespace
-
-TEST(ProgramSafety, AKillAtAnyMomentOfASaveLeavesTheOldOrTheNewFileWhole)
-{
-    constexpr int kills = 30;
-    Program program;
-    program.settle();
-    const QByteArray base = longFile();
-    const QString path = program.write(u"Files/a.tmj"_s, base);
-    QStringList script = { u"text Panel_1 Ready"_s };
-    for (int save = 0; save < 200; ++save) {
-        script += { u"type JoystickText x"_s, u"trigger mnuFileSave"_s };
-    }
-    qsizetype typed = 0;
-    auto random = QRandomGenerator(20240305);
-    for (int kill = 0; kill < kills; ++kill) {
-        const QString log = u"kill%1.log"_s.arg(kill);
-        const auto process = program.start(script, log, { path });
-        // Counted from when the file stands open: how long that takes is the machine's affair.
-        for (int waited = 0; waited < 1000 && QFileInfo(program.file(log)).size() == 0; ++waited) {
-            QThread::msleep(10);
-        }
-        process->waitForFinished(int(random.bounded(400)));
-        process->kill();
-        process->waitForFinished();
-        const QByteArray now = program.read(u"Files/a.tmj"_s);
-        ASSERT_TRUE(now.endsWith(base)) << "after kill " << kill;
-        const QByteArray head = now.chopped(base.size());
-        ASSERT_EQ(head.count('x'), head.size());
-        ASSERT_GE(head.size(), typed);
-        typed = head.size();
-    }
-    EXPECT_GT(typed, 0) << "no save took place: the kills came too early";
-}
 
 TEST(ProgramSafety, AFullDiskIsToldAndTheOldFileStaysWhole)
 {

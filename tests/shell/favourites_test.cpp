@@ -16,6 +16,7 @@ struct FavouritesTest : testing::Test {
     test::TempFolder folder;
     ScriptedDialogs dialogs;
     QStringList opened;
+    QString refused = u"none"_s;
 
     ProfileFile store(const QByteArray &bytes)
     {
@@ -23,7 +24,10 @@ struct FavouritesTest : testing::Test {
     }
     bool open(const Favourite &favourite)
     {
-        return openFavourite(favourite, dialogs, [this](const QString &path) { opened += path; });
+        return openFavourite(favourite, dialogs, [this](const QString &path) {
+            opened += path;
+            return !path.endsWith(refused);
+        });
     }
     static bool autoload(const ProfileFile &store)
     {
@@ -86,6 +90,15 @@ TEST_F(FavouritesTest, BothFilesOpenTheMacroFileFirst)
     const QString joystick = folder.write(u"a.tmj"_s, "BTN S2 a");
     const QString macro = folder.write(u"a.tmm"_s, "Fire = a");
     EXPECT_TRUE(open({ u"A"_s, joystick, macro }));
+    EXPECT_EQ(opened, QStringList({ macro, joystick }));
+}
+
+TEST_F(FavouritesTest, AFileThatTheUserKeepsOutIsNotOpenedAndTheOtherOneIs)
+{
+    const QString joystick = folder.write(u"a.tmj"_s, "BTN S2 a");
+    const QString macro = folder.write(u"a.tmm"_s, "Fire = a");
+    refused = u"a.tmm"_s;
+    EXPECT_FALSE(open({ u"A"_s, joystick, macro }));
     EXPECT_EQ(opened, QStringList({ macro, joystick }));
 }
 

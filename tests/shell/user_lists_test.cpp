@@ -7,6 +7,7 @@
 #include "editor/editor_actions.h"
 #include "editor/file_opening.h"
 #include "editor/file_saving.h"
+#include "editor/loss_guards.h"
 #include "editor/text_control.h"
 #include "shell/custom_apps_menu.h"
 #include "shell/enterfavouritename.h"
@@ -105,6 +106,28 @@ TEST_F(UserListsTest, OpenedAndSavedFilesGoIntoTheListOfTheirKind)
     editor().saving().mnuFileSaveAs_Click();
     EXPECT_EQ(entry(u"mnuJFArray_1"_s)->text(), folder.file(u"b.tmj"_s));
     EXPECT_EQ(entry(u"mnuJFArray_2"_s)->text(), a);
+}
+
+TEST_F(UserListsTest, AnAutosaveCountsButNotThatOfATextWithoutAName)
+{
+    start();
+    editor().opening().OpenFavouriteFile(folder.write(u"a.tmj"_s, "BTN S2 a\r\n"));
+    click(u"mnuPreviousClearAllJ"_s);
+    editor().joystick().control->insertPlainText(u"x"_s);
+    editor().macro().control->insertPlainText(u"y"_s);
+    editor().guards().autoSave.AutoSaveFile();
+    EXPECT_EQ(stored(u"PreviousJoystickFiles"_s, u"JFPath1"_s), folder.file(u"a.tmj"_s));
+    EXPECT_TRUE(folder.exists(u"Files/Untitled.tmm"_s));
+    EXPECT_FALSE(isShown(u"mnuMFArray_1"_s));
+}
+
+TEST_F(UserListsTest, ATextThatCameBackWithoutAFileIsNotListed)
+{
+    start();
+    editor().opening().showRecovered(DocumentKind::Joystick, folder.file(u"gone.tmj"_s), u"x"_s);
+    EXPECT_FALSE(isShown(u"mnuJFArray_1"_s));
+    editor().opening().showRecovered(DocumentKind::Joystick, folder.write(u"a.tmj"_s, "a"), u"x"_s);
+    EXPECT_TRUE(isShown(u"mnuJFArray_1"_s));
 }
 
 TEST_F(UserListsTest, A31stRecentFilePushesTheOldestOut)
