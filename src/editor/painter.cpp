@@ -332,6 +332,23 @@ ColourScheme colourScheme(const GlobalSettings &settings, DocumentKind kind)
              settings.RemStatements };
 }
 
+QHash<ColorRef, ColorRef> recolouring(const ColourScheme &before, const ColourScheme &after)
+{
+    constexpr ColorRef ColourScheme::*classes[] = {
+        &ColourScheme::plain, &ColourScheme::btn,           &ColourScheme::slash,
+        &ColourScheme::raw,   &ColourScheme::miscellaneous, &ColourScheme::rem,
+    };
+    QHash<ColorRef, ColorRef> result;
+    bool changes = false;
+    for (const auto each : classes) {
+        if (!result.contains(before.*each)) {
+            result.insert(before.*each, after.*each);
+            changes = changes || before.*each != after.*each;
+        }
+    }
+    return changes ? result : QHash<ColorRef, ColorRef>();
+}
+
 class Painter::Words : public WordTable
 {
 public:

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "platform/core/base.h"
+
 namespace zeph {
 
 /// What the shell asks of the operating system.
@@ -13,5 +15,9 @@ public:
     /// Windows with major version 6.
     virtual bool isVista() const;
 };
+
+/// The folder of Windows, without a closing separator: the system's own, elsewhere that of the
+/// pilot's wine, and without one the folder that Windows usually has.
+QString windowsFolder();
 
 } // namespace zeph
