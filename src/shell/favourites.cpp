@@ -15,14 +15,9 @@ namespace zeph {
 namespace {
 
 constexpr QStringView fields[] = { u"FavName", u"FavJFPath", u"FavMFPath" };
-constexpr ProfileListKeys keys = { u"Favourites", u"FavArrayNum", fields, 50 };
+constexpr ProfileListKeys keys = { u"Favourites", u"FavArrayNum", fields, mostFavourites };
 constexpr QStringView loadOnStartKey = u"FavLoadOnStart";
 constexpr QStringView nameToLoadKey = u"FavNameToLoad";
-
-QString pathOrNone(const QString &stored)
-{
-    return stored.isEmpty() ? noFavouriteFile.toString() : stored;
-}
 
 bool openOne(const QString &kind, const QString &path, const QString &name, Dialogs &dialogs,
              const std::function<void(const QString &)> &open)
@@ -49,6 +44,14 @@ bool openOne(const QString &kind, const QString &path, const QString &name, Dial
 
 } // namespace
 
+QString pathOrNone(const QString &path)
+{
+    const QString trimmed = path.trimmed();
+    const bool none =
+        trimmed.isEmpty() || trimmed.compare(noFavouriteFile, Qt::CaseInsensitive) == 0;
+    return none ? noFavouriteFile.toString() : trimmed;
+}
+
 Favourites readFavourites(const ProfileFile &store)
 {
     Favourites favourites;
@@ -67,11 +70,10 @@ Expected<void, FileError> writeFavourites(const ProfileFile &store, const Favour
         rows.append({ favourite.name, favourite.joystickPath, favourite.macroPath });
     }
     const QString section = keys.section.toString();
-    QList<ProfileEntry> entries = profileListEntries(keys, rows);
-    entries.append(
-        { section, loadOnStartKey.toString(), QString::number(favourites.loadOnStart ? 1 : 0) });
-    entries.append({ section, nameToLoadKey.toString(), favourites.nameToLoad });
-    return store.write(entries);
+    return writeProfileList(store, keys, rows,
+                            { { section, loadOnStartKey.toString(),
+                                QString::number(favourites.loadOnStart ? 1 : 0) },
+                              { section, nameToLoadKey.toString(), favourites.nameToLoad } });
 }
 
 void updateFavourites(Favourites &favourites, const Favourite &favourite)

@@ -24,13 +24,19 @@ struct Favourite {
 
 /// The path that stands for no file.
 constexpr QStringView noFavouriteFile = u"None";
+/// A path as a favourite holds it: an empty one, and the word itself in any case, is "None".
+QString pathOrNone(const QString &path);
+
+constexpr qint32 mostFavourites = 50;
 
 struct Favourites {
-    /// Most recently added first; at most 50.
+    /// Most recently added first; at most mostFavourites.
     QList<Favourite> list;
     /// Whether one of them is opened at start, and which.
     bool loadOnStart = false;
     QString nameToLoad;
+
+    friend bool operator==(const Favourites &, const Favourites &) = default;
 };
 
 Favourites readFavourites(const ProfileFile &store);

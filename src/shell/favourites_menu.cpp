@@ -51,6 +51,12 @@ void FavouritesMenu::add(const QList<Favourite> &favourites)
     changed();
 }
 
+void FavouritesMenu::set(const Favourites &favourites)
+{
+    m_favourites = favourites;
+    changed();
+}
+
 void FavouritesMenu::save()
 {
     // A store that cannot be written makes no fuss: the list then lasts as long as the run.

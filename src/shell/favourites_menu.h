@@ -27,6 +27,8 @@ public:
     const Favourites &favourites() const { return m_favourites; }
     /// Puts favourites on the menu, one after the other, each to the front.
     void add(const QList<Favourite> &favourites);
+    /// Takes the favourites as they now are; saving them is a step of its own.
+    void set(const Favourites &favourites);
     void save();
 
 private:

@@ -13,6 +13,7 @@
 namespace zeph {
 
 class Dialogs;
+class GameFields;
 
 namespace Ui {
 class EnterGameName;
@@ -31,17 +32,10 @@ public:
     Game game() const;
 
 private:
-    void connectFields();
-    void connectButtons();
-    void browseCommand();
-    void browseFolder();
-    void browseJoystickFile();
     void update();
-    GameMode mode() const;
 
-    const Paths &m_paths;
-    Dialogs &m_dialogs;
     std::unique_ptr<Ui::EnterGameName> m_ui;
+    GameFields *m_fields;
 };
 
 } // namespace zeph

@@ -14,7 +14,7 @@ namespace {
 
 constexpr QStringView fields[] = { u"GameName", u"GamePath", u"GameDIRPath", u"GameJF",
                                    u"GameJFmode" };
-constexpr ProfileListKeys keys = { u"Games", u"GameArrayNum", fields, 30 };
+constexpr ProfileListKeys keys = { u"Games", u"GameArrayNum", fields, mostGames };
 
 /// A number that does not fit is none of the modes, and so are the ends of what fits.
 qint16 modeOf(const QString &value)
@@ -24,6 +24,23 @@ qint16 modeOf(const QString &value)
 }
 
 } // namespace
+
+Game startingGame(const QString &filesFolder, const QString &suggestedFile)
+{
+    const bool suggested = !suggestedFile.isEmpty();
+    return { {},
+             {},
+             {},
+             suggested ? suggestedFile : filesFolder + defaultGameFile.toString(),
+             qint16(suggested ? GameMode::Download : GameMode::Windows) };
+}
+
+void sortGames(QList<Game> &games)
+{
+    std::stable_sort(games.begin(), games.end(), [](const Game &a, const Game &b) {
+        return a.GameName.compare(b.GameName, Qt::CaseInsensitive) < 0;
+    });
+}
 
 Games::Games(const QString &iniPath, QObject *parent) : QObject(parent), m_store(iniPath)
 {
@@ -41,9 +58,13 @@ void Games::update(const Game &game)
 
 void Games::SortGamesAlphabetically()
 {
-    std::stable_sort(m_list.begin(), m_list.end(), [](const Game &a, const Game &b) {
-        return a.GameName.compare(b.GameName, Qt::CaseInsensitive) < 0;
-    });
+    sortGames(m_list);
+    save();
+}
+
+void Games::replace(const QList<Game> &games)
+{
+    m_list = games.first(std::min<qsizetype>(games.size(), mostGames));
     save();
 }
 
@@ -55,7 +76,7 @@ void Games::save()
                       QString::number(game.GameJFmode) });
     }
     // A store that cannot be written makes no fuss: the list then lasts as long as the run.
-    (void)m_store.write(profileListEntries(keys, rows));
+    (void)writeProfileList(m_store, keys, rows);
     Q_EMIT changed();
 }
 

@@ -31,7 +31,17 @@ struct Game {
     friend bool operator==(const Game &, const Game &) = default;
 };
 
-/// The list of games, most recently used first, at most 30. Every change goes into the store.
+constexpr qint32 mostGames = 30;
+
+/// What a new game begins with: the joystick file that is suggested for it, or without one the file
+/// for all games, and the stick in Windows mode.
+Game startingGame(const QString &filesFolder, const QString &suggestedFile);
+
+/// By name, in any case.
+void sortGames(QList<Game> &games);
+
+/// The list of games, most recently used first, at most mostGames. Every change goes into the
+/// store.
 class Games : public QObject
 {
     Q_OBJECT
@@ -44,6 +54,8 @@ public:
     /// Puts a game at place 1. One of that name is replaced; a 31st pushes the last one out.
     void update(const Game &game);
     void SortGamesAlphabetically();
+    /// Puts these games in place of all; what goes beyond mostGames falls off.
+    void replace(const QList<Game> &games);
 
 Q_SIGNALS:
     void changed();

@@ -131,3 +131,22 @@ TEST_F(FavouritesTest, WhatIsWrittenComesBackWithTheChoiceForTheStart)
     EXPECT_EQ(file.text(u"Favourites", u"FavMFPath1"), u"None");
     EXPECT_TRUE(autoload(file));
 }
+
+TEST_F(FavouritesTest, TheKeysOfRemovedOnesLeaveTheStore)
+{
+    const ProfileFile file = store("FavArrayNum=2\nFavName1=A\nFavName2=B\nFavJFPath2=b.tmj\n");
+    Favourites favourites = readFavourites(file);
+    favourites.list.removeFirst();
+    ASSERT_TRUE(writeFavourites(file, favourites));
+    EXPECT_EQ(readFavourites(file), favourites);
+    EXPECT_EQ(file.text(u"Favourites", u"FavName2", u"(absent)"_s), u"(absent)");
+    EXPECT_EQ(file.text(u"Favourites", u"FavJFPath2", u"(absent)"_s), u"(absent)");
+}
+
+TEST_F(FavouritesTest, NoPathIsNoneHoweverItIsWritten)
+{
+    for (const auto *path : { u"", u"  ", u"None", u"none", u" NONE " }) {
+        EXPECT_EQ(pathOrNone(QString::fromUtf16(path)), u"None");
+    }
+    EXPECT_EQ(pathOrNone(u" C:\\None.tmj "_s), u"C:\\None.tmj");
+}

@@ -143,8 +143,8 @@ TEST_F(GamesMenuTest, AddAsksForTheGameWithTheCurrentFileSuggested)
     app->editor().opening().OpenFavouriteFile(file);
     QTimer::singleShot(0, &app->mum(), [] {
         QWidget *window = QApplication::activeModalWidget();
-        window->findChild<QLineEdit *>(u"TextGameName"_s)->setText(u"Mig"_s);
-        window->findChild<QLineEdit *>(u"TextGamePath"_s)->setText(u"mig.exe -w"_s);
+        window->findChild<QLineEdit *>(u"GameName"_s)->setText(u"Mig"_s);
+        window->findChild<QLineEdit *>(u"GamePath"_s)->setText(u"mig.exe -w"_s);
         window->findChild<QAbstractButton *>(u"cmdOK"_s)->click();
     });
     entry(u"mnuGamesAdd"_s)->trigger();

@@ -59,7 +59,7 @@ TEST_F(EnterGame, TheTwoTicksAreExclusiveAndBothCanBeOff)
     EXPECT_EQ(standard.text().remove(u'&'), u"Use TM Default.tmj joystick file with this game");
     windows.click();
     EXPECT_EQ(window->game().GameJFmode, 1);
-    EXPECT_FALSE(field(u"TextGameJF"_s).isEnabled());
+    EXPECT_FALSE(field(u"GameJF"_s).isEnabled());
     standard.click();
     EXPECT_FALSE(windows.isChecked());
     EXPECT_EQ(window->game().GameJFmode, 2);
@@ -67,23 +67,23 @@ TEST_F(EnterGame, TheTwoTicksAreExclusiveAndBothCanBeOff)
     EXPECT_FALSE(standard.isChecked());
     windows.click();
     EXPECT_EQ(window->game().GameJFmode, 0);
-    EXPECT_TRUE(field(u"TextGameJF"_s).isEnabled());
+    EXPECT_TRUE(field(u"GameJF"_s).isEnabled());
 }
 
 TEST_F(EnterGame, BrowsingTheGameFillsADirectoryThatIsStillTheSample)
 {
     open();
-    ASSERT_TRUE(field(u"TextGameDIRPath"_s).text().startsWith(u"eg"));
+    ASSERT_TRUE(field(u"GameDIRPath"_s).text().startsWith(u"eg"));
     dialogs.answerFile(u"/games/Falcon 4/falcon4.exe"_s);
     button(u"cmdBrowsePath"_s).click();
     EXPECT_EQ(window->game().GamePath, u"/games/Falcon 4/falcon4.exe");
-    EXPECT_EQ(field(u"TextGameDIRPath"_s).text(), u"/games/Falcon 4");
+    EXPECT_EQ(field(u"GameDIRPath"_s).text(), u"/games/Falcon 4");
     ASSERT_EQ(dialogs.files().size(), 1);
     EXPECT_EQ(dialogs.files()[0].filter, u"Executables (*.exe)|*.exe|All files (*.*)|*.*");
 
     dialogs.answerFile(u"/other/b.exe"_s);
     button(u"cmdBrowsePath"_s).click();
-    EXPECT_EQ(field(u"TextGameDIRPath"_s).text(), u"/games/Falcon 4");
+    EXPECT_EQ(field(u"GameDIRPath"_s).text(), u"/games/Falcon 4");
 }
 
 TEST_F(EnterGame, CancelledBrowsingChangesNothing)
@@ -134,11 +134,11 @@ TEST_F(EnterGame, OkNeedsANameAndACommandThatTheStoreCanHold)
     open();
     QAbstractButton &ok = button(u"cmdOK"_s);
     EXPECT_FALSE(ok.isEnabled());
-    field(u"TextGameName"_s).setText(u" Falcon "_s);
+    field(u"GameName"_s).setText(u" Falcon "_s);
     EXPECT_FALSE(ok.isEnabled());
-    field(u"TextGamePath"_s).setText(u"www.falcon.org"_s);
+    field(u"GamePath"_s).setText(u"www.falcon.org"_s);
     EXPECT_TRUE(ok.isEnabled());
     EXPECT_EQ(window->game().GameName, u"Falcon");
-    field(u"TextGameName"_s).setText(u"\u0416"_s);
+    field(u"GameName"_s).setText(u"\u0416"_s);
     EXPECT_FALSE(ok.isEnabled());
 }

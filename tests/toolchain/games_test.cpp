@@ -108,3 +108,30 @@ TEST_F(GamesTest, AreSortedByNameInAnyCaseAndStored)
     EXPECT_EQ(names(games), QStringList({ u"A"_s, u"b"_s, u"C"_s }));
     EXPECT_EQ(Games(ini).list(), games.list());
 }
+
+TEST_F(GamesTest, ReplacedOnesAreStoredAtOnceAndTheKeysOfOthersGo)
+{
+    Games games(ini);
+    for (const auto *name : { u"C", u"B", u"A" }) {
+        games.update(named(QString::fromUtf16(name)));
+    }
+    const QSignalSpy changed(&games, &Games::changed);
+    games.replace({ named(u"C"_s) });
+    EXPECT_EQ(changed.size(), 1);
+    EXPECT_EQ(names(games), QStringList{ u"C"_s });
+    EXPECT_EQ(Games(ini).list(), games.list());
+    const ProfileFile store(ini);
+    EXPECT_EQ(store.text(u"Games", u"GameName2", u"(absent)"_s), u"(absent)");
+    EXPECT_EQ(store.text(u"Games", u"GameJFmode3", u"(absent)"_s), u"(absent)");
+}
+
+TEST_F(GamesTest, OfMoreThan30ReplacedOnesTheFirstStay)
+{
+    QList<Game> many;
+    for (int i = 1; i <= 31; ++i) {
+        many.append(named(QString::number(i)));
+    }
+    Games games(ini);
+    games.replace(many);
+    EXPECT_EQ(games.list(), many.first(30));
+}

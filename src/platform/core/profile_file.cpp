@@ -4,6 +4,7 @@
 #include "platform/core/profile_file.h"
 
 #include "platform/core/paths.h"
+#include "platform/core/profile_removal.h"
 #include "platform/core/text1252.h"
 
 #include <QFileInfo>
@@ -123,6 +124,7 @@ struct Place {
     bool hasSection = false;
     qsizetype sectionEnd = 0; ///< behind the section's last line that is not empty
     bool hasKey = false;
+    Line line; ///< the key's
     qsizetype valueStart = 0; ///< behind the "=" and its blanks
     qsizetype valueEnd = 0; ///< the line's end, blanks included
 };
@@ -152,6 +154,7 @@ Place placeOf(const QByteArray &file, QStringView section, QStringView key)
         if (equals >= 0 && !isComment(bytes)
             && isSameName(withoutBlanks(bytes.first(equals)), key)) {
             place.hasKey = true;
+            place.line = line;
             place.valueStart = line.start + equals + 1;
             place.valueEnd = line.end;
             while (place.valueStart < place.valueEnd && isBlank(file[place.valueStart])) {
@@ -249,6 +252,18 @@ QByteArray withValue(const QByteArray &file, const ProfileEntry &entry)
     return result.insert(at, onNewLine ? added : lineEnd + added);
 }
 
+QByteArray withoutKeys(QByteArray file, QStringView section, const QStringList &keys)
+{
+    for (const QString &key : keys) {
+        // Behind a line that goes, another of the same key would come to count.
+        for (Place place = placeOf(file, withoutBlanks(section), key); place.hasKey;
+             place = placeOf(file, withoutBlanks(section), key)) {
+            file.remove(place.line.start, place.line.next - place.line.start);
+        }
+    }
+    return file;
+}
+
 qint32 integerOf(const std::optional<QString> &value, qint32 fallback)
 {
     if (!value || value->isEmpty()) {
@@ -344,6 +359,18 @@ Expected<void, FileError> ProfileFile::write(const QList<ProfileEntry> &entries)
             u"The value of %1 holds a character that the file cannot take."_s.arg(lost->key) });
     }
     return {};
+}
+
+Expected<void, FileError> removeKeys(const ProfileFile &file, QStringView section,
+                                     const QStringList &keys)
+{
+    const auto read = file.bytes();
+    if (!read) {
+        return Unexpected<FileError>(read.error());
+    }
+    const QByteArray left = profile::withoutKeys(*read, section, keys);
+    return left == *read ? Expected<void, FileError>()
+                         : writeFileAtomically(diskPath(file.path()), left);
 }
 
 } // namespace zeph

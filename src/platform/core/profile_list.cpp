@@ -3,6 +3,7 @@
 
 #include "platform/core/profile_list.h"
 
+#include "platform/core/profile_removal.h"
 #include "platform/core/text1252.h"
 
 #include <algorithm>
@@ -44,6 +45,21 @@ QList<ProfileEntry> profileListEntries(const ProfileListKeys &keys, const QList<
         }
     }
     return entries;
+}
+
+Expected<void, FileError> writeProfileList(const ProfileFile &store, const ProfileListKeys &keys,
+                                           const QList<ProfileRow> &rows,
+                                           const QList<ProfileEntry> &more)
+{
+    const auto written = store.write(profileListEntries(keys, rows) + more);
+    QStringList stale;
+    for (qsizetype place = rows.size() + 1; place <= keys.most; ++place) {
+        for (const QStringView field : keys.fields) {
+            stale.append(field.toString() + QString::number(place));
+        }
+    }
+    const auto removed = removeKeys(store, keys.section, stale);
+    return written ? removed : written;
 }
 
 } // namespace zeph

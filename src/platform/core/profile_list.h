@@ -32,4 +32,10 @@ QList<ProfileRow> readProfileList(const ProfileFile &store, const ProfileListKey
 /// cannot hold is emptied, so that no earlier item's value stays in its place.
 QList<ProfileEntry> profileListEntries(const ProfileListKeys &keys, const QList<ProfileRow> &rows);
 
+/// Puts the list in place of the one in the store, along with more entries. Keys of items that it
+/// no longer has go.
+Expected<void, FileError> writeProfileList(const ProfileFile &store, const ProfileListKeys &keys,
+                                           const QList<ProfileRow> &rows,
+                                           const QList<ProfileEntry> &more = {});
+
 } // namespace zeph

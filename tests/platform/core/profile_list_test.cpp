@@ -2,9 +2,13 @@
 // SPDX-License-Identifier: MIT
 
 #include "platform/core/profile_list.h"
+
+#include "platform/core/profile_removal.h"
 #include "tests/support/temp_folder.h"
 
 #include <gtest/gtest.h>
+
+#include <QDir>
 
 using namespace zeph;
 
@@ -63,4 +67,31 @@ TEST_F(ProfileListTest, WhatTheStoreCannotHoldLeavesNoOtherItemsValueInItsPlace)
     const ProfileFile file = store("[Things]\nCount=1\nName1=old\nPath1=old\n");
     ASSERT_TRUE(file.write(profileListEntries(keys, { { u"\u0416"_s, u"new"_s } })));
     EXPECT_EQ(readProfileList(file, keys), (QList<ProfileRow>{ { QString(), u"new"_s } }));
+}
+
+TEST_F(ProfileListTest, AShorterListTakesTheKeysOfWhatWentOutOfTheStore)
+{
+    const ProfileFile file = store("[Things]\r\nCount=3\r\nName1=a\r\nPath1=1\r\nName2=b\r\n"
+                                   "Path2=2\r\n; mine\r\nName3=c\r\nPath3=3\r\nName4=odd\r\n"
+                                   "[Other]\r\nName2=x\r\n");
+    ASSERT_TRUE(writeProfileList(file, keys, { { u"b"_s, u"2"_s } },
+                                 { { u"Things"_s, u"Best"_s, u"b"_s } }));
+    EXPECT_EQ(file.bytes().value_or(QByteArray()),
+              "[Things]\r\nCount=1\r\nName1=b\r\nPath1=2\r\n; mine\r\nName4=odd\r\nBest=b\r\n"
+              "[Other]\r\nName2=x\r\n");
+}
+
+TEST_F(ProfileListTest, AListThatCannotBeReadIsNotReplaced)
+{
+    ASSERT_TRUE(QDir(folder.path()).mkdir(u"a.ini"_s));
+    EXPECT_FALSE(writeProfileList(ProfileFile(folder.file(u"a.ini"_s)), keys, {}));
+}
+
+TEST(ProfileRemoval, TakesEveryLineOfAKeyInItsFirstSectionInAnyCase)
+{
+    EXPECT_EQ(profile::withoutKeys("[a]\nKey=1\nother=2\n ; key=3\nKEY = 4", u"A", { u"key"_s }),
+              "[a]\nother=2\n ; key=3\n");
+    EXPECT_EQ(profile::withoutKeys("[b]\nkey=1\n[a]\n[a]\nkey=2\n", u"a", { u"key"_s }),
+              "[b]\nkey=1\n[a]\n[a]\nkey=2\n");
+    EXPECT_EQ(profile::withoutKeys({}, u"a", { u"key"_s }), QByteArray());
 }
