@@ -112,7 +112,7 @@ TEST_F(PreferencesTest, AnIntervalOf60OverflowsTheTimerOfARunningDetectorAndIsSa
     folder.write(u"HOTASConfig.exe"_s, "tool");
     start("[Miscellaneous]\r\nStatusDetectOnStartup=1\r\n");
     ASSERT_TRUE(app->tools().modes().detectorRuns());
-    dialogs.answer(BoxButton::Ok);
+    dialogs.answer(u"Zeph"_s, BoxButton::Ok);
     set(u"StatusMonitoringInterval"_s, u"60"_s);
     ASSERT_EQ(dialogs.boxes().size(), 1);
     EXPECT_TRUE(dialogs.boxes()[0].text.contains(u"Overflow"_s));
@@ -245,7 +245,7 @@ TEST_F(PreferencesTest, ABackupFolderThatCannotBeMadeIsToldAndTheDefaultTakesIts
 {
     start();
     folder.write(u"blocker"_s, "a file");
-    dialogs.answer(BoxButton::Ok);
+    dialogs.answer(u"Backup folder location error"_s, BoxButton::Ok);
     set(u"BackUpFolder"_s, folder.file(u"blocker/inside"_s));
     EXPECT_EQ(boxTitles(), QStringList{ u"Backup folder location error"_s });
     EXPECT_EQ(stored(u"FileLocations", u"BackUpFolder"), app->paths().defaultBackupFolder());

@@ -6,8 +6,12 @@
 #include "platform/handlers.h"
 #include "platform/status_line.h"
 #include "platform/system_info.h"
+#include "shell/preferences/appspage.h"
+#include "shell/preferences/colourspage.h"
 #include "shell/preferences/defaultspage.h"
+#include "shell/preferences/favouritespage.h"
 #include "shell/preferences/filespage.h"
+#include "shell/preferences/gamespage.h"
 #include "shell/preferences/miscpage.h"
 #include "shell/preferences/openpage.h"
 #include "shell/preferences/preferences_rules.h"
@@ -63,15 +67,21 @@ Preferences::~Preferences() = default;
 
 void Preferences::addPages(const Parts &parts)
 {
-    (void)parts;
     auto *open = new OpenPage(m_context, this);
+    auto *favourites = new FavouritesPage(m_context, parts.lists.favourites(), this);
     m_defaults = new DefaultsPage(m_context, this);
     addPage(PreferencesTab::FileLocations, new FilesPage(m_context, this));
+    addPage(PreferencesTab::ColoursFonts, new ColoursPage(m_context, this));
+    addPage(PreferencesTab::Apps, new AppsPage(m_context, parts.lists.customApps(), this));
+    addPage(PreferencesTab::Favourites, favourites);
+    addPage(PreferencesTab::Games, new GamesPage(m_context, parts.games, this));
     addPage(PreferencesTab::OpenSaveUndo, open);
     addPage(PreferencesTab::Misc, new MiscPage(m_context, this));
     addPage(PreferencesTab::DefaultOptions, m_defaults);
     addPage(PreferencesTab::Zeph, new ZephPage(m_context, this));
     connect(open, &OpenPage::deleteUndosWanted, this, m_host.DeleteUndosFromMemory);
+    connect(open, &OpenPage::restoresChanged, favourites, &FavouritesPage::setRestores);
+    favourites->setRestores(open->restores());
 }
 
 void Preferences::addPage(PreferencesTab tab, PreferencesPage *page)

@@ -3,8 +3,7 @@
 
 #include "shell/preferences/preferences_rules.h"
 
-#include "platform/core/profile_file.h"
-#include "platform/core/text1252.h"
+#include "platform/core/storable.h"
 #include "platform/core/units.h"
 
 #include <algorithm>
@@ -53,12 +52,6 @@ bool beginsWithNumber(QStringView text)
         && trimmed[sign].unicode() <= u'9';
 }
 
-bool canBeStored(const QString &text)
-{
-    return text.size() < profileTextBuffer && firstNot1252(text) < 0 && !text.contains(u'\n')
-        && !text.contains(u'\r');
-}
-
 } // namespace
 
 std::span<const NumberRule> numberRules()
@@ -90,10 +83,7 @@ AutoSaveFields takenAutoSave(QStringView text, bool ticked)
 
 QString takenText(QStringView key, const QString &text, const QString &before)
 {
-    const QString trimmed = text.trimmed();
-    if (!canBeStored(trimmed)) {
-        return before;
-    }
+    const QString trimmed = storableOr(text, before);
     const auto *replacement = std::ranges::find(replacements, key, &Replacement::key);
     return trimmed.isEmpty() && replacement != replacements.end() ? replacement->text.toString()
                                                                   : trimmed;
