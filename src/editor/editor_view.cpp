@@ -3,6 +3,7 @@
 
 #include "editor/editor_view.h"
 
+#include "editor/document_look.h"
 #include "editor/editor_texts.h"
 #include "editor/text_control.h"
 #include "platform/rich_text_document.h"
@@ -208,14 +209,7 @@ void EditorView::renameFresh(DocumentKind kind)
 
 CharFormat EditorView::plainFormat(DocumentKind kind) const
 {
-    const GlobalSettings &settings = m_context.settings;
-    CharFormat format;
-    format.family = settings.TextFontName;
-    format.pointSize = leadingNumber(settings.TextFontSize);
-    format.bold = settings.TextFontBold != 0;
-    format.colour = kind == DocumentKind::Joystick ? settings.JoystickTextDefaultColour
-                                                   : settings.MacroTextDefaultColour;
-    return format;
+    return zeph::plainFormat(m_context.settings, kind);
 }
 
 void EditorView::applyLook()
@@ -223,9 +217,7 @@ void EditorView::applyLook()
     const BusyGuard busy(*this);
     const GlobalSettings &settings = m_context.settings;
     for (const EditorDocument &each : m_documents) {
-        each.control->setLook(each.kind == DocumentKind::Joystick ? settings.BackgroundColour
-                                                                  : settings.MacroBackgroundColour,
-                              plainFormat(each.kind));
+        each.control->setLook(documentBackground(settings, each.kind), plainFormat(each.kind));
         each.control->showLineNumbers(settings.LineNumbers == 1);
         each.control->showCurrentLine(settings.CurrentLineMark == 1);
     }

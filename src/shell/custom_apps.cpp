@@ -83,7 +83,12 @@ bool makeCustomAppPicture(const CustomApp &app, const QString &file)
 
 QIcon loadCustomAppPicture(const QString &file)
 {
-    QPixmap picture(existingPath(file));
+    const QString path = existingPath(file);
+    if (path.isEmpty()) {
+        return {};
+    }
+    // Not read as a pixmap: the toolkit would give out the last one that it knows by that name.
+    QPixmap picture = QPixmap::fromImage(QImage(path));
     if (picture.isNull()) {
         return {};
     }

@@ -9,6 +9,7 @@
 #include "shell/menu_array.h"
 
 #include <QAction>
+#include <QFile>
 
 namespace zeph {
 
@@ -23,10 +24,26 @@ QString entryOf(int place)
 
 CustomAppsMenu::CustomAppsMenu(const Context &context, Editor &editor)
     : QObject(&editor), m_context(context), m_editor(editor),
-      m_apps(readCustomApps(ProfileFile(context.paths.iniPath)))
+      m_apps(readCustomApps(ProfileFile(context.paths.iniPath))),
+      m_plainPicture(editor.action(entryOf(1))->icon())
 {
     for (int place = 1; place <= int(m_apps.size()); ++place) {
+        m_plainCaptions[size_t(place - 1)] = editor.action(entryOf(place))->text();
         editor.actions().connectTo(entryOf(place), [this, place] { mnuCustomApp_Click(place); });
+        show(place);
+    }
+}
+
+void CustomAppsMenu::set(const CustomApps &apps)
+{
+    for (int place = 1; place <= int(apps.size()); ++place) {
+        const size_t index = size_t(place - 1);
+        const QString picture = existingPath(customAppPicture(m_context.paths, place));
+        if (apps[index].CustomAppPath != m_apps[index].CustomAppPath && !picture.isEmpty()) {
+            // Another program has another picture, or none.
+            QFile::remove(picture);
+        }
+        m_apps[index] = apps[index];
         show(place);
     }
 }
@@ -55,17 +72,15 @@ void CustomAppsMenu::show(int place)
     if (!app.CustomAppUse) {
         return;
     }
-    if (!app.CustomAppName.isEmpty()) {
-        entry->setText(captionOf(app.CustomAppName));
-    }
+    entry->setText(app.CustomAppName.isEmpty() ? m_plainCaptions[size_t(place - 1)]
+                                               : captionOf(app.CustomAppName));
     entry->setStatusTip(app.CustomAppPath);
     const QString file = customAppPicture(m_context.paths, place);
     if (!fileExists(file)) {
         makeCustomAppPicture(app, file);
     }
-    if (const QIcon picture = loadCustomAppPicture(file); !picture.isNull()) {
-        entry->setIcon(picture);
-    }
+    const QIcon picture = loadCustomAppPicture(file);
+    entry->setIcon(picture.isNull() ? m_plainPicture : picture);
 }
 
 } // namespace zeph

@@ -21,6 +21,9 @@ public:
     CustomAppsMenu(const Context &context, Editor &editor);
 
     const CustomApps &apps() const { return m_apps; }
+    /// Takes other applications and shows them on the menu and the toolbar, with pictures of their
+    /// own; save() keeps them.
+    void set(const CustomApps &apps);
     void save();
 
 private:
@@ -30,6 +33,9 @@ private:
     Context m_context;
     Editor &m_editor;
     CustomApps m_apps;
+    /// How an entry looks whose application has no name or no picture.
+    std::array<QString, std::tuple_size_v<CustomApps>> m_plainCaptions;
+    QIcon m_plainPicture;
 };
 
 } // namespace zeph

@@ -1,0 +1,27 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#include "editor/document_look.h"
+
+#include "shell/settings/global_settings.h"
+
+namespace zeph {
+
+CharFormat plainFormat(const GlobalSettings &settings, DocumentKind kind)
+{
+    CharFormat format;
+    format.family = settings.TextFontName;
+    format.pointSize = leadingNumber(settings.TextFontSize);
+    format.bold = settings.TextFontBold != 0;
+    format.colour = kind == DocumentKind::Joystick ? settings.JoystickTextDefaultColour
+                                                   : settings.MacroTextDefaultColour;
+    return format;
+}
+
+ColorRef documentBackground(const GlobalSettings &settings, DocumentKind kind)
+{
+    return kind == DocumentKind::Joystick ? settings.BackgroundColour
+                                          : settings.MacroBackgroundColour;
+}
+
+} // namespace zeph

@@ -1,0 +1,20 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+// How the settings want a document to look.
+
+#include "editor/file_kinds.h"
+#include "platform/core/rich_text.h"
+
+namespace zeph {
+
+struct GlobalSettings;
+
+/// Font and colour of a document's plain text.
+CharFormat plainFormat(const GlobalSettings &settings, DocumentKind kind);
+/// Background of a document's control.
+ColorRef documentBackground(const GlobalSettings &settings, DocumentKind kind);
+
+} // namespace zeph
