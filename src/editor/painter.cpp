@@ -339,14 +339,15 @@ QHash<ColorRef, ColorRef> recolouring(const ColourScheme &before, const ColourSc
         &ColourScheme::raw,   &ColourScheme::miscellaneous, &ColourScheme::rem,
     };
     QHash<ColorRef, ColorRef> result;
-    bool changes = false;
     for (const auto each : classes) {
-        if (!result.contains(before.*each)) {
+        const bool isClear = std::ranges::all_of(classes, [&](const auto other) {
+            return before.*other != before.*each || after.*other == after.*each;
+        });
+        if (isClear && before.*each != after.*each) {
             result.insert(before.*each, after.*each);
-            changes = changes || before.*each != after.*each;
         }
     }
-    return changes ? result : QHash<ColorRef, ColorRef>();
+    return result;
 }
 
 class Painter::Words : public WordTable

@@ -41,8 +41,8 @@ struct ColourScheme {
 /// The scheme of the settings for one of the documents.
 ColourScheme colourScheme(const GlobalSettings &settings, DocumentKind kind);
 
-/// Which colour each colour of a text becomes when the scheme changes; a colour that serves two
-/// classes follows the first of them. Empty when nothing changes.
+/// What the colours of a text become when the scheme changes. A colour that serves several classes
+/// is left out when they part: which of them a word belongs to, only painting can tell.
 QHash<ColorRef, ColorRef> recolouring(const ColourScheme &before, const ColourScheme &after);
 
 /// How a pass seeks its word and what it paints of a hit. "Whole" is the whole-word rule of

@@ -21,9 +21,24 @@
 #include "shell/user_lists.h"
 #include "ui_preferences.h"
 
+#include <QProxyStyle>
+#include <QTabBar>
+
 namespace zeph {
 
 namespace {
+
+/// Tabs close enough together that all nine of them are in view.
+class CloseTabs : public QProxyStyle
+{
+public:
+    int pixelMetric(PixelMetric metric, const QStyleOption *option,
+                    const QWidget *widget) const override
+    {
+        const int usual = QProxyStyle::pixelMetric(metric, option, widget);
+        return metric == PM_TabBarTabHSpace ? usual / 2 : usual;
+    }
+};
 
 QString captionOf(PreferencesTab tab)
 {
@@ -58,6 +73,9 @@ Preferences::Preferences(const Context &context, const Parts &parts, Preferences
 {
     m_ui->setupUi(this);
     setWindowModality(Qt::ApplicationModal);
+    auto *style = new CloseTabs;
+    style->setParent(this);
+    m_ui->SSTab1->tabBar()->setStyle(style);
     addPages(parts);
     m_ui->SSTab1->setCurrentIndex(0);
     connect(m_ui->cmdOK, &QPushButton::clicked, this, &Preferences::accept);
