@@ -221,13 +221,13 @@ constexpr std::array actions = {
     ActionRow{u"mnuApps", u"mnuAppsViewGraphic", u"View the &graphical layout of these files", u"", u"The picture that USE ZEPH GRAPHIC names", u"shortcut-layout", Later, Entry},
     ActionRow{u"mnuApps", u"mnuAppsViewReadMe", u"View the &ReadMe of these files", u"", u"The text that USE ZEPH README names", u"shortcut-readme", ReadMe, Entry},
     line(u"mnuApps"),
-    ActionRow{u"mnuApps", u"mnuAppsPreferences", u"&Preferences ...", u"F9", u"All the settings of Zeph", u"preferences", Later, Entry},
+    ActionRow{u"mnuApps", u"mnuAppsPreferences", u"&Preferences ...", u"F9", u"All the settings of Zeph", u"preferences", Always, Entry},
 
     ActionRow{u"mnuGames", u"mnuGamesAdd", u"&Add game settings", u"", u"Puts a game on this menu, with what the Cougar needs for it", u"", Always, Entry},
     line(u"mnuGames", u"mnuGamesDivider"),
     line(u"mnuGames", u"mnuGamesSortDivider"),
     ActionRow{u"mnuGames", u"mnuGamesSort", u"&Sort alphabetically", u"", u"Sorts the games by their names", u"", Always, Entry},
-    ActionRow{u"mnuGames", u"mnuGamesEdit", u"&Edit game settings", u"", u"", u"", Later, Entry},
+    ActionRow{u"mnuGames", u"mnuGamesEdit", u"&Edit game settings", u"", u"Opens Preferences at the games", u"", Always, Entry},
 
     ActionRow{u"mnuHelp", u"mnuHelpContents", u"&Help topics", u"F1", u"The help, at its contents", u"help", Always, Entry},
     ActionRow{u"mnuHelp", u"mnuHelpHowDoI", u"How &do I", u"", u"", u"", Custom, Submenu},

@@ -177,6 +177,32 @@ void Highlighting::mnuRemoveColourSelectedText_Click()
     }
 }
 
+void Highlighting::followScheme(const GlobalSettings &before)
+{
+    for (const DocumentKind kind : { DocumentKind::Joystick, DocumentKind::Macro }) {
+        EditorDocument &each = document(kind);
+        const auto colours =
+            recolouring(colourScheme(before, kind), colourScheme(m_context.settings, kind));
+        if (colours.isEmpty() || each.control->end() == 0) {
+            continue;
+        }
+        const BusyGuard busy(m_parts.view);
+        each.control->changeLooks(0, each.control->end(), [&colours](CharFormat &format) {
+            if (format.colour) {
+                format.colour = colours.value(*format.colour, *format.colour);
+            }
+        });
+        UndoHistory &history = m_parts.histories.of(kind);
+        if (!history.canRedo()) {
+            history.storeTop();
+        }
+        if (each.state == EditorDocument::Saved) {
+            // A copy that cannot be written is only a cache that lags behind.
+            (void)m_parts.copies.SaveColouredText(each);
+        }
+    }
+}
+
 void Highlighting::paintStretch(EditorDocument &document, int from, int to)
 {
     const BusyGuard busy(m_parts.view);

@@ -50,6 +50,10 @@ public:
     /// Refused on a protected macro file.
     void mnuRemoveColourSelectedText_Click();
 
+    /// Gives what has a colour of the scheme before the one that took its place; other colours and
+    /// looks stay. The coloured copy of a saved document follows.
+    void followScheme(const GlobalSettings &before);
+
     /// Colours the lines of the selection, or the caret's line, at the cost of these lines alone.
     void BlockColour();
     /// Colours the caret's line; with flag 1 as an undo step of its own.

@@ -345,6 +345,24 @@ ColourScheme colourScheme(const GlobalSettings &settings, DocumentKind kind)
              settings.RemStatements };
 }
 
+QHash<ColorRef, ColorRef> recolouring(const ColourScheme &before, const ColourScheme &after)
+{
+    constexpr ColorRef ColourScheme::*classes[] = {
+        &ColourScheme::plain, &ColourScheme::btn,           &ColourScheme::slash,
+        &ColourScheme::raw,   &ColourScheme::miscellaneous, &ColourScheme::rem,
+    };
+    QHash<ColorRef, ColorRef> result;
+    for (const auto each : classes) {
+        const bool isClear = std::ranges::all_of(classes, [&](const auto other) {
+            return before.*other != before.*each || after.*other == after.*each;
+        });
+        if (isClear && before.*each != after.*each) {
+            result.insert(before.*each, after.*each);
+        }
+    }
+    return result;
+}
+
 class Painter::Words : public WordTable
 {
 public:

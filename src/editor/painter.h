@@ -9,6 +9,8 @@
 #include "editor/file_kinds.h"
 #include "platform/core/rich_text.h"
 
+#include <QHash>
+
 #include <functional>
 #include <memory>
 #include <span>
@@ -38,6 +40,10 @@ struct ColourScheme {
 
 /// The scheme of the settings for one of the documents.
 ColourScheme colourScheme(const GlobalSettings &settings, DocumentKind kind);
+
+/// What the colours of a text become when the scheme changes. A colour that serves several classes
+/// is left out when they part: which of them a word belongs to, only painting can tell.
+QHash<ColorRef, ColorRef> recolouring(const ColourScheme &before, const ColourScheme &after);
 
 /// How a pass seeks its word and what it paints of a hit. "Whole" is the whole-word rule of
 /// platform/core/text_search.h.

@@ -10,7 +10,6 @@
 #include "editor/text_control.h"
 #include "platform/dialogs.h"
 #include "platform/rich_text_document.h"
-#include "platform/status_line.h"
 #include "shell/settings/global_settings.h"
 #include "shell/settings/settings_files.h"
 
@@ -26,11 +25,6 @@ using Flag = bool CharFormat::*;
 
 constexpr std::array<Flag, 3> formatArray1 = { &CharFormat::bold, &CharFormat::italic,
                                                &CharFormat::underline };
-
-void tellNotKept(StatusLine &status, const FileError &error)
-{
-    status.setText(u"The settings couldn't be written: "_s + error.path + u": "_s + error.reason);
-}
 
 } // namespace
 

@@ -18,6 +18,7 @@
 #include "shell/foreign_keyboard.h"
 #include "shell/help_menu.h"
 #include "shell/mum.h"
+#include "shell/preferences_menu.h"
 #include "shell/settings/custom_colours.h"
 #include "shell/settings/settings_files.h"
 #include "shell/settings/settings_moments.h"
@@ -176,6 +177,7 @@ void Application::loadEditor()
     m_help = new HelpMenu(context(), m_options.downloader, m_mum->toolWindows(), *m_editor);
     m_lists = new UserLists(context(), *m_editor);
     m_tools->attach(context(), *m_mum, *m_editor, *m_help);
+    new PreferencesMenu(context(), { *m_mum, *m_editor, *m_lists, *m_tools });
     m_templates = new TemplateMenu(context(), m_options.printers, *m_mum, *m_editor, *m_help);
     m_printing = std::make_unique<FilePrinting>(context(), m_options.printers, *m_editor);
     new ForeignKeyBSupport(m_options.keyboard, m_settings, m_editor);

@@ -25,10 +25,10 @@ void CougarTools::attach(const Context &context, Mum &mum, Editor &editor, HelpM
     new ModeMenu(context, m_modes, mum, editor);
     m_toolsMenu = new ToolsMenu(context, m_modes, m_profiles, mum, editor);
     auto *compile = new CompileMenu(context, m_handshake, mum, editor, help);
-    new DownloadMenu(context,
-                     { m_handshake, m_modes, m_profiles, m_afterDownload, *compile, editor });
-    new GamesMenu(context,
-                  { mum, editor, *compile, m_handshake, m_modes, m_profiles, m_afterDownload });
+    m_downloadMenu = new DownloadMenu(
+        context, { m_handshake, m_modes, m_profiles, m_afterDownload, *compile, editor });
+    m_gamesMenu = new GamesMenu(
+        context, { mum, editor, *compile, m_handshake, m_modes, m_profiles, m_afterDownload });
     new KeyTesterMenu(context, m_modes, mum, editor);
 }
 

@@ -13,7 +13,9 @@
 namespace zeph {
 
 class CompileMenu;
+class DownloadMenu;
 class Editor;
+class GamesMenu;
 class HelpMenu;
 class Joystick;
 class Mum;
@@ -36,13 +38,17 @@ public:
     Profiles &profiles() { return m_profiles; }
     AfterDownload &afterDownload() { return m_afterDownload; }
     ToolsMenu &toolsMenu() { return *m_toolsMenu; }
+    DownloadMenu &downloadMenu() { return *m_downloadMenu; }
+    GamesMenu &gamesMenu() { return *m_gamesMenu; }
 
 private:
     ToolchainHandshake m_handshake;
     CougarModes m_modes;
     Profiles m_profiles;
     AfterDownload m_afterDownload;
-    ToolsMenu *m_toolsMenu;
+    ToolsMenu *m_toolsMenu = nullptr;
+    DownloadMenu *m_downloadMenu = nullptr;
+    GamesMenu *m_gamesMenu = nullptr;
 };
 
 } // namespace zeph

@@ -5,10 +5,13 @@
 
 #include "platform/dialogs.h"
 #include "shell/cougar_tools.h"
+#include "shell/download_menu.h"
 #include "shell/favourites_menu.h"
 #include "shell/flight_sims.h"
 #include "shell/foreign_keyboard.h"
 #include "shell/help_menu.h"
+#include "shell/preferences/default_options.h"
+#include "shell/preferences/preferences.h"
 #include "shell/settings/settings_files.h"
 #include "shell/settings/settings_moments.h"
 #include "shell/user_lists.h"
@@ -21,14 +24,20 @@ namespace {
 constexpr int showMeHowTopic = 100;
 
 /// A write that fails is nobody's failure here, as everywhere in the store.
-void writeStore(const Context &context, UserLists &lists)
+void writeStore(const Context &context, const FirstRunParts &parts)
 {
     const SettingsFiles files = settingsFilesOf(context.paths);
     tellProblems(context.dialogs, readColours(context.settings, files));
+    // The pilot may have named another folder, whose file has options of its own.
+    const DefaultOptions options = GetDefaultOptions(files.hotasIni);
+    context.settings.DownloadMode = options.DownloadMode;
     (void)saveGlobalSettings(context.settings, files);
+    (void)SaveFilesPath(context.paths);
     (void)saveColours(context.settings, files);
-    lists.save();
+    parts.lists.save();
     (void)saveFilesFolder(files, context.paths.filesFolder());
+    (void)SaveDefaultOptions(options, files.hotasIni);
+    parts.tools.downloadMenu().applySettings();
 }
 
 void showByExperience(qint16 firstTimeUsed, HelpMenu &help)
@@ -69,7 +78,7 @@ void runFirstRun(const Context &context, const FirstRunParts &parts, int welcome
     new ForeignKeyBSupport(context.keyboard, context.settings, &welcome);
     welcome.exec();
     takeWelcomeAnswers(welcome.answers(), context.settings, context.paths);
-    writeStore(context, parts.lists);
+    writeStore(context, parts);
     parts.tools.profiles().CopyTMCfiles();
     showByExperience(context.settings.FirstTimeUsed, parts.help);
 }

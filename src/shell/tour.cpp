@@ -28,6 +28,7 @@
 #include <QMenu>
 #include <QPalette>
 #include <QStackedWidget>
+#include <QTabWidget>
 
 namespace zeph {
 
@@ -229,6 +230,9 @@ void Tour::addStops(Application &application)
           } },
     };
     addToolStops(application);
+    m_stops.push_back({ u"preferences-done"_s, [this] {
+                           lookAtPreferences();
+                       } });
     addFormStops(application);
 }
 
@@ -355,6 +359,22 @@ void Tour::lookAtModal(const QString &entry, const QString &name)
         }
     });
     m_application->editor().actions().trigger(entry);
+}
+
+void Tour::lookAtPreferences()
+{
+    QTimer::singleShot(pauseMs, this, [this] {
+        QWidget *window = QApplication::activeModalWidget();
+        auto *tabs = window ? window->findChild<QTabWidget *>(u"SSTab1"_s) : nullptr;
+        for (int i = 0; tabs && i < tabs->count(); ++i) {
+            tabs->setCurrentIndex(i);
+            grab(*window, u"preferences-"_s + QString::number(i));
+        }
+        if (window) {
+            window->close();
+        }
+    });
+    m_application->editor().actions().trigger(u"mnuAppsPreferences");
 }
 
 void Tour::popUpRightMenu()

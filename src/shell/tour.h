@@ -61,6 +61,8 @@ private:
     void addToolStops(Application &application);
     void addFormStops(Application &application);
     void walk();
+    /// Every tab of Preferences.
+    void lookAtPreferences();
     void popUpRightMenu();
     /// Opens a modal window by its menu entry, grabs it and closes it.
     void lookAtModal(const QString &entry, const QString &name);

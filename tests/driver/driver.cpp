@@ -15,6 +15,13 @@
 //   modal                waits for any message box, and notes it as box does
 //   maybe-ok TITLE       answers a box whose title begins so, if one comes with the first windows
 //   file PATH            answers the open file dialog
+//   tab NAME N           turns the tabs of that object name to a page, counted from 0
+//   flip NAME            clicks a tick, and notes it
+//   retype NAME TEXT     types TEXT in place of what stands in a line, and notes it
+//   choose NAME N        takes an entry of a list, or a number, and notes it
+//   value NAME           notes the state of a field: a tick's 0 or 1, a line's text, a list's place
+//                        and text, a number
+//   colour RRGGBB        answers the open colour dialog
 //   grab NAME FILE       grabs the window that holds the control to a picture
 //   minimise / close     the main window
 //   pause MS             lets time pass
@@ -27,6 +34,8 @@
 #include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
+#include <QColorDialog>
+#include <QComboBox>
 #include <QDialog>
 #include <QElapsedTimer>
 #include <QFile>
@@ -34,11 +43,14 @@
 #include <QGenericPlugin>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QMainWindow>
 #include <QMenu>
 #include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QSpinBox>
+#include <QTabWidget>
 #include <QTextEdit>
 #include <QTimer>
 
@@ -81,6 +93,59 @@ QWidget *widgetNamed(const QString &name)
         }
     }
     return hidden;
+}
+
+/// The line that a field is typed into: its own, or that of a list with free entry.
+QLineEdit *lineOf(QWidget *field)
+{
+    auto *list = qobject_cast<QComboBox *>(field);
+    return list ? list->lineEdit() : qobject_cast<QLineEdit *>(field);
+}
+
+QString valueOf(QWidget *field)
+{
+    if (const auto *tick = qobject_cast<QAbstractButton *>(field)) {
+        return tick->isChecked() ? QStringLiteral("1") : QStringLiteral("0");
+    }
+    if (const QLineEdit *line = lineOf(field)) {
+        return line->text();
+    }
+    if (const auto *list = qobject_cast<QComboBox *>(field)) {
+        return QString::number(list->currentIndex()) + QLatin1Char('|') + list->currentText();
+    }
+    const auto *number = qobject_cast<QSpinBox *>(field);
+    return number ? QString::number(number->value()) : textOf(field);
+}
+
+void retype(QLineEdit &line, const QString &text)
+{
+    line.setFocus();
+    line.selectAll();
+    for (const QChar c : text) {
+        QKeyEvent down(QEvent::KeyPress, 0, Qt::NoModifier, QString(c));
+        QApplication::sendEvent(&line, &down);
+    }
+    // Some fields are measured when they are left.
+    line.clearFocus();
+}
+
+bool isOfField(const QString &verb)
+{
+    static const QStringList verbs = { QStringLiteral("tab"), QStringLiteral("flip"),
+                                       QStringLiteral("retype"), QStringLiteral("choose"),
+                                       QStringLiteral("value") };
+    return verbs.contains(verb);
+}
+
+void choose(QWidget *field, int place)
+{
+    if (auto *list = qobject_cast<QComboBox *>(field)) {
+        list->setCurrentIndex(place);
+    } else if (auto *rows = qobject_cast<QListWidget *>(field)) {
+        rows->setCurrentRow(place);
+    } else if (auto *number = qobject_cast<QSpinBox *>(field)) {
+        number->setValue(place);
+    }
 }
 
 QWidget *windowTitled(const QString &title)
@@ -186,7 +251,35 @@ private:
         if (verb == QLatin1String("file")) {
             return file(rest);
         }
-        return performOnWindow(verb, first, second);
+        if (verb == QLatin1String("colour")) {
+            return colour(rest);
+        }
+        return performOnField(verb, first, second) || performOnWindow(verb, first, second);
+    }
+
+    /// False when the verb is no field's, or the field cannot be used yet.
+    bool performOnField(const QString &verb, const QString &first, const QString &second)
+    {
+        QWidget *field = isOfField(verb) ? widgetNamed(first) : nullptr;
+        if (!field || !field->isVisible()) {
+            return false;
+        }
+        if (verb == QLatin1String("tab")) {
+            qobject_cast<QTabWidget *>(field)->setCurrentIndex(second.toInt());
+            return true;
+        }
+        if (verb != QLatin1String("value") && !field->isEnabled()) {
+            return false;
+        }
+        if (verb == QLatin1String("flip")) {
+            qobject_cast<QAbstractButton *>(field)->click();
+        } else if (verb == QLatin1String("retype")) {
+            retype(*lineOf(field), second);
+        } else if (verb == QLatin1String("choose")) {
+            choose(field, second.toInt());
+        }
+        note(first + QLatin1Char('=') + valueOf(field));
+        return true;
     }
 
     bool performOnWindow(const QString &verb, const QString &first, const QString &second)
@@ -218,6 +311,9 @@ private:
             keepTyping(first, second.section(QLatin1Char(' '), 0, 0),
                        second.section(QLatin1Char(' '), 1).toInt());
             m_waited.restart();
+            return false;
+        }
+        if (isOfField(verb)) {
             return false;
         }
         note(QLatin1String("UNKNOWN ") + verb);
@@ -348,6 +444,17 @@ private:
             actionNamed(action)->trigger();
             note(QStringLiteral("done %1").arg(m_keys));
         }
+    }
+
+    static bool colour(const QString &name)
+    {
+        auto *dialog = qobject_cast<QColorDialog *>(QApplication::activeModalWidget());
+        if (!dialog || !dialog->isVisible()) {
+            return false;
+        }
+        dialog->setCurrentColor(QColor(QLatin1Char('#') + name));
+        later(static_cast<QDialog *>(dialog), [](QDialog *d) { d->accept(); });
+        return true;
     }
 
     bool file(const QString &path)

@@ -347,3 +347,27 @@ TEST(Painter, ALongTextIsPaintedAsAShortOneIs)
     macroFile.macro();
     expectAsTold(text, macroPasses(), macroFile);
 }
+
+TEST(Recolouring, GivesEachChangedColourItsNewOne)
+{
+    const ColourScheme before{
+        .plain = 0, .btn = 1, .slash = 2, .raw = 3, .miscellaneous = 4, .rem = 5
+    };
+    ColourScheme after = before;
+    EXPECT_TRUE(recolouring(before, after).isEmpty());
+    after.btn = 10;
+    after.rem = 1;
+    EXPECT_EQ(recolouring(before, after), (QHash<ColorRef, ColorRef>{ { 1, 10 }, { 5, 1 } }));
+}
+
+TEST(Recolouring, LeavesAColourAloneWhoseClassesPart)
+{
+    const ColourScheme before{
+        .plain = 0, .btn = 7, .slash = 7, .raw = 3, .miscellaneous = 4, .rem = 5
+    };
+    ColourScheme after = before;
+    after.btn = 10;
+    EXPECT_TRUE(recolouring(before, after).isEmpty());
+    after.slash = 10;
+    EXPECT_EQ(recolouring(before, after), (QHash<ColorRef, ColorRef>{ { 7, 10 } }));
+}

@@ -19,10 +19,13 @@
 #include "shell/helpwindow.h"
 #include "shell/informationwindow.h"
 #include "shell/mum.h"
+#include "shell/preferences/preferences.h"
+#include "shell/user_lists.h"
 #include "shell/welcome.h"
 #include "tests/shell/shell_world.h"
 #include "toolchain/entergamename.h"
 #include "toolchain/formresetoptions.h"
+#include "toolchain/games.h"
 #include "toolchain/selectprofileform.h"
 
 #include <QAbstractButton>
@@ -36,6 +39,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QStackedWidget>
+#include <QTabBar>
 #include <QTabWidget>
 #include <QTest>
 #include <QTextEdit>
@@ -48,7 +52,9 @@ namespace {
 
 bool isOfTheToolkit(const QWidget &control)
 {
-    return control.objectName().startsWith(u"qt_") || control.inherits("QComboBoxPrivateContainer");
+    return control.objectName().startsWith(u"qt_")
+        || qobject_cast<QTabBar *>(control.parentWidget())
+        || control.inherits("QComboBoxPrivateContainer");
 }
 
 bool isOperated(const QWidget &control)
@@ -111,7 +117,23 @@ std::unique_ptr<QWidget> makeFindAndReplace(test::ShellWorld &world)
     return window;
 }
 
+/// Preferences with an Editor and lists of its own, which go after it.
+std::unique_ptr<QWidget> makePreferences(test::ShellWorld &world)
+{
+    auto *editor = new Editor(world.context());
+    auto *lists = new UserLists(world.context(), *editor);
+    auto *games = new Games(world.paths.iniPath, editor);
+    auto window =
+        std::make_unique<Preferences>(world.context(), Preferences::Parts{ *lists, *games },
+                                      PreferencesHost{ [] {},
+                                                       [] {
+                                                       } });
+    QObject::connect(window.get(), &QObject::destroyed, [editor] { delete editor; });
+    return window;
+}
+
 const LintCase cases[] = {
+    { "Preferences", makePreferences },
     { "frmTip",
       [](auto &w) {
           return std::make_unique<frmTip>(w.paths, w.settings);

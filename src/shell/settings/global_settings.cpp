@@ -3,6 +3,7 @@
 
 #include "shell/settings/global_settings.h"
 #include "platform/handlers.h"
+#include "platform/status_line.h"
 
 #include <QStringList>
 
@@ -218,6 +219,11 @@ void tellProblems(Dialogs &dialogs, const SettingProblems &problems)
         dialogs,
         u"I can't make a number of what these settings say, so I'm using the defaults:\n\n"_s
             + lines.join(u'\n'));
+}
+
+void tellNotKept(StatusLine &status, const FileError &error)
+{
+    status.setText(u"The settings couldn't be written: "_s + error.path + u": "_s + error.reason);
 }
 
 double numberOf(const GlobalSettings &settings, QString GlobalSettings::*field)

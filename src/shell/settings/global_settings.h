@@ -15,6 +15,7 @@
 namespace zeph {
 
 class Dialogs;
+class StatusLine;
 
 /// Every global key. Flags are 0 or 1; numbers are 16-bit signed, as the files are read.
 struct GlobalSettings {
@@ -202,6 +203,9 @@ void setFirstRunColours(GlobalSettings &settings);
 
 /// Tells all problems in one box; no box when there are none.
 void tellProblems(Dialogs &dialogs, const SettingProblems &problems);
+
+/// Tells in panel 1 that settings are not on the disk.
+void tellNotKept(StatusLine &status, const FileError &error);
 
 /// A setting of the form Number as a number; its default when the text is none.
 double numberOf(const GlobalSettings &settings, QString GlobalSettings::*field);

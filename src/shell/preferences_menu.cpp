@@ -1,0 +1,88 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#include "shell/preferences_menu.h"
+
+#include "editor/editor.h"
+#include "editor/editor_actions.h"
+#include "editor/file_new.h"
+#include "editor/loss_guards.h"
+#include "editor/undo_history.h"
+#include "shell/cougar_tools.h"
+#include "shell/download_menu.h"
+#include "shell/foreign_keyboard.h"
+#include "shell/games_menu.h"
+#include "shell/mum.h"
+#include "shell/preferences/preferences.h"
+#include "shell/settings/global_settings.h"
+#include "shell/tools_menu.h"
+#include "shell/user_lists.h"
+
+#include <QApplication>
+#include <QEvent>
+
+namespace zeph {
+
+PreferencesMenu::PreferencesMenu(const Context &context, const Parts &parts)
+    : QObject(&parts.editor), m_context(context), m_parts(parts)
+{
+    EditorActions &actions = parts.editor.actions();
+    actions.connectTo(u"mnuAppsPreferences", [this] { mnuAppsPreferences_Click(); });
+    actions.connectTo(u"mnuGamesEdit", [this] { mnuGamesEdit_Click(); });
+    new TooltipSwitch(context.settings, this);
+}
+
+void PreferencesMenu::open(PreferencesTab tab)
+{
+    const GlobalSettings before = m_context.settings;
+    Preferences window(m_context, { m_parts.lists, m_parts.tools.gamesMenu().games() },
+                       { [this] { m_parts.editor.undos().DeleteUndosFromMemory(); },
+                         [this] {
+                             restartDetector();
+                         } },
+                       &m_parts.mum);
+    new ForeignKeyBSupport(m_context.keyboard, m_context.settings, &window);
+    window.showTab(tab);
+    window.exec();
+    // The program may have been told to end meanwhile, which closes no window.
+    window.unload();
+    follow(before);
+    if (window.hardwareHasChanged()) {
+        m_parts.editor.fresh().HardwareHasChanged();
+    }
+}
+
+void PreferencesMenu::restartDetector()
+{
+    if (m_parts.tools.modes().detectorRuns()) {
+        m_parts.tools.modes().EnableStatusTimer();
+    }
+}
+
+void PreferencesMenu::follow(const GlobalSettings &before)
+{
+    m_parts.tools.downloadMenu().applySettings();
+    const GlobalSettings &now = m_context.settings;
+    if (now.AutoSaveEnabled != before.AutoSaveEnabled || now.AutoSaveTime != before.AutoSaveTime) {
+        m_parts.editor.guards().autoSave.restart();
+    }
+    m_parts.editor.applySettings();
+    m_parts.editor.schemeChanged(before);
+    m_parts.tools.gamesMenu().applySettings();
+    m_parts.mum.UpdateTooltips();
+    m_parts.mum.refreshToolbars();
+}
+
+TooltipSwitch::TooltipSwitch(const GlobalSettings &settings, QObject *parent)
+    : QObject(parent), m_settings(settings)
+{
+    qApp->installEventFilter(this);
+}
+
+bool TooltipSwitch::eventFilter(QObject *watched, QEvent *event)
+{
+    return (event->type() == QEvent::ToolTip && m_settings.OKtoShowToolTips != 1)
+        || QObject::eventFilter(watched, event);
+}
+
+} // namespace zeph
