@@ -308,17 +308,11 @@ bool Editor::queryUnload()
     return askBeforeExit(*m_view, *m_saving, m_context.dialogs);
 }
 
-QString Editor::restorableJoystickFile()
+QString Editor::restorableFile(DocumentKind kind)
 {
-    return joystick().state == EditorDocument::Empty || isUntitled(joystick().name)
-        ? QString()
-        : joystick().path;
-}
-
-QString Editor::restorableMacroFile()
-{
-    return macro().state == EditorDocument::Empty || isUntitled(macro().name) ? QString()
-                                                                              : macro().path;
+    const EditorDocument &document = m_view->document(kind);
+    const bool isNoFile = document.state == EditorDocument::Empty || isUntitled(document.name);
+    return isNoFile ? QString() : document.path;
 }
 
 void Editor::schemeChanged(const GlobalSettings &before)

@@ -77,9 +77,8 @@ public:
 
     /// The questions about unsaved files, macro file first. False stops the exit.
     bool queryUnload();
-    /// The paths that the next run opens again: files that were never saved give empty ones.
-    QString restorableJoystickFile();
-    QString restorableMacroFile();
+    /// The path that the next run opens again; empty for a file that was never saved.
+    QString restorableFile(DocumentKind kind);
 
     /// Both texts take over the colours and the font of the settings; before is what they had.
     void schemeChanged(const GlobalSettings &before);

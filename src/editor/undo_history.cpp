@@ -5,8 +5,6 @@
 
 #include "editor/text_control.h"
 
-#include <algorithm>
-
 namespace zeph {
 
 UndoHistory::UndoHistory(EditorDocument &document, const qint16 &undoMax)
@@ -43,9 +41,9 @@ bool UndoHistory::textChanged()
 {
     const bool pushes = UndoStepNext == 1;
     if (pushes) {
+        const bool full = slots() > m_undoMax;
         m_slots.push_front(present());
-        // More than one goes when the pilot has lowered the limit meanwhile.
-        while (slots() > std::max<int>(m_undoMax, 0) + 1) {
+        if (full) {
             m_slots.pop_back();
         }
     } else {

@@ -268,8 +268,8 @@ void Application::unloadMum()
     if (m_editor) {
         (void)saveTesterOptions(m_settings, files());
         (void)SaveIndentStuff(m_settings, files());
-        m_settings.RestoreJoyFile = m_editor->restorableJoystickFile();
-        m_settings.RestoreMacroFile = m_editor->restorableMacroFile();
+        m_settings.RestoreJoyFile = m_editor->restorableFile(DocumentKind::Joystick);
+        m_settings.RestoreMacroFile = m_editor->restorableFile(DocumentKind::Macro);
         (void)SaveForRestore(m_settings, files());
         m_editor->guards().recovery.finish();
     }
