@@ -81,8 +81,6 @@ public:
     QString restorableJoystickFile();
     QString restorableMacroFile();
 
-    /// Both texts take over the colours and the font of the settings; before is what they had.
-    void schemeChanged(const GlobalSettings &before);
     /// Shows what the settings say: colours, fonts, ticks, tiling.
     void applySettings();
 
