@@ -18,6 +18,13 @@ CharFormat plainFormat(const GlobalSettings &settings, DocumentKind kind)
     return format;
 }
 
+void takeFont(CharFormat &format, const CharFormat &font)
+{
+    format.family = font.family;
+    format.pointSize = font.pointSize;
+    format.bold = font.bold;
+}
+
 ColorRef documentBackground(const GlobalSettings &settings, DocumentKind kind)
 {
     return kind == DocumentKind::Joystick ? settings.BackgroundColour

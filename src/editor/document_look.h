@@ -14,6 +14,8 @@ struct GlobalSettings;
 
 /// Font and colour of a document's plain text.
 CharFormat plainFormat(const GlobalSettings &settings, DocumentKind kind);
+/// Gives a format the font of another: family, size and weight.
+void takeFont(CharFormat &format, const CharFormat &font);
 /// Background of a document's control.
 ColorRef documentBackground(const GlobalSettings &settings, DocumentKind kind);
 

@@ -315,16 +315,6 @@ QString Editor::restorableFile(DocumentKind kind)
     return isNoFile ? QString() : document.path;
 }
 
-void Editor::schemeChanged(const GlobalSettings &before)
-{
-    const GlobalSettings &now = m_context.settings;
-    if (now.TextFontName != before.TextFontName || now.TextFontSize != before.TextFontSize
-        || now.TextFontBold != before.TextFontBold) {
-        m_looks->DoTheFonts();
-    }
-    m_highlighting->followScheme(before);
-}
-
 void Editor::applySettings()
 {
     const GlobalSettings &settings = m_context.settings;

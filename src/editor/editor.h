@@ -80,8 +80,6 @@ public:
     /// The path that the next run opens again; empty for a file that was never saved.
     QString restorableFile(DocumentKind kind);
 
-    /// Both texts take over the colours and the font of the settings; before is what they had.
-    void schemeChanged(const GlobalSettings &before);
     /// Shows what the settings say: colours, fonts, ticks, tiling.
     void applySettings();
 

@@ -5,6 +5,7 @@
 
 #include "editor/coloured_copies.h"
 #include "editor/coloured_insert.h"
+#include "editor/document_look.h"
 #include "editor/editor_texts.h"
 #include "editor/editor_view.h"
 #include "editor/text_control.h"
@@ -183,11 +184,18 @@ void Highlighting::followScheme(const GlobalSettings &before)
         EditorDocument &each = document(kind);
         const auto colours =
             recolouring(colourScheme(before, kind), colourScheme(m_context.settings, kind));
-        if (colours.isEmpty() || each.control->end() == 0) {
+        const CharFormat font = plainFormat(m_context.settings, kind);
+        CharFormat fontBefore = font;
+        takeFont(fontBefore, plainFormat(before, kind));
+        const bool hasNewFont = !(fontBefore == font);
+        if ((colours.isEmpty() && !hasNewFont) || each.control->end() == 0) {
             continue;
         }
         const BusyGuard busy(m_parts.view);
-        each.control->changeLooks(0, each.control->end(), [&colours](CharFormat &format) {
+        each.control->changeLooks(0, each.control->end(), [&](CharFormat &format) {
+            if (hasNewFont) {
+                takeFont(format, font);
+            }
             if (format.colour) {
                 format.colour = colours.value(*format.colour, *format.colour);
             }

@@ -50,8 +50,9 @@ public:
     /// Refused on a protected macro file.
     void mnuRemoveColourSelectedText_Click();
 
-    /// Gives what has a colour of the scheme before the one that took its place; other colours and
-    /// looks stay. The coloured copy of a saved document follows.
+    /// Gives both documents a font that is other than before, and what has a colour of the scheme
+    /// before the one that took its place; other colours and looks stay. The coloured copy of a
+    /// saved document follows.
     void followScheme(const GlobalSettings &before);
 
     /// Colours the lines of the selection, or the caret's line, at the cost of these lines alone.

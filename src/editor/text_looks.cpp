@@ -4,6 +4,7 @@
 #include "editor/text_looks.h"
 
 #include "editor/coloured_insert.h"
+#include "editor/document_look.h"
 #include "editor/editor_actions.h"
 #include "editor/editor_view.h"
 #include "editor/styleeditor.h"
@@ -135,11 +136,8 @@ void TextLooks::DoTheFonts()
     for (const DocumentKind kind : { DocumentKind::Joystick, DocumentKind::Macro }) {
         const CharFormat font = m_parts.view.plainFormat(kind);
         TextControl &control = *m_parts.view.document(kind).control;
-        control.changeLooks(0, control.end(), [&font](CharFormat &format) {
-            format.family = font.family;
-            format.pointSize = font.pointSize;
-            format.bold = font.bold;
-        });
+        control.changeLooks(0, control.end(),
+                            [&font](CharFormat &format) { takeFont(format, font); });
     }
 }
 

@@ -6,6 +6,7 @@
 #include "editor/editor.h"
 #include "editor/editor_actions.h"
 #include "editor/file_new.h"
+#include "editor/highlighting.h"
 #include "editor/loss_guards.h"
 #include "editor/undo_history.h"
 #include "shell/cougar_tools.h"
@@ -67,7 +68,7 @@ void PreferencesMenu::follow(const GlobalSettings &before)
         m_parts.editor.guards().autoSave.restart();
     }
     m_parts.editor.applySettings();
-    m_parts.editor.schemeChanged(before);
+    m_parts.editor.highlighting().followScheme(before);
     m_parts.tools.gamesMenu().applySettings();
     m_parts.mum.UpdateTooltips();
     m_parts.mum.refreshToolbars();

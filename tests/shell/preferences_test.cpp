@@ -8,6 +8,7 @@
 #include "editor/loss_guards.h"
 #include "editor/text_control.h"
 #include "editor/undo_history.h"
+#include "platform/rich_text_document.h"
 #include "shell/cougar_tools.h"
 #include "shell/mum.h"
 #include "shell/preferences/preferences_rules.h"
@@ -330,6 +331,29 @@ TEST_F(PreferencesTest, ANewHardwareOptionLeavesNamedFilesAlone)
     visit([](QDialog &window) { tick(window, u"CHK_Default_5"_s).setChecked(true); });
     EXPECT_EQ(app->editor().joystick().path, file);
     EXPECT_EQ(app->editor().joystickText(), u"BTN S2 a\n");
+}
+
+TEST_F(PreferencesTest, TheTextsFollowANewFontAndANewColourAndStayAsTheyWereOtherwise)
+{
+    start("[Colours]\r\nBTNColour=16711680\r\nSlashColour=255\r\n");
+    TextControl &control = *app->editor().joystick().control;
+    control.insertPlainText(u"BTN S2 a"_s);
+    control.changeLooks(0, 3, [](CharFormat &format) {
+        format.colour = 16711680;
+        format.underline = true;
+    });
+    control.changeLooks(7, 1, [](CharFormat &format) { format.colour = 4711; });
+    dialogs.answerColour(0x123456);
+    visit([](QDialog &window) {
+        window.findChild<QPushButton *>(u"CMD_ChangeColour"_s)->click();
+        tick(window, u"TextFontBold"_s).setChecked(true);
+    });
+    const RichText shown = richTextOf(*control.document(), 0, control.end());
+    EXPECT_EQ(shown.characters.front().format.colour, ColorRef(0x123456));
+    EXPECT_TRUE(shown.characters.front().format.underline);
+    EXPECT_TRUE(shown.characters.front().format.bold);
+    EXPECT_EQ(shown.characters.back().format.colour, ColorRef(4711));
+    EXPECT_EQ(stored(u"Colours", u"BTNColour"), QString::number(0x123456));
 }
 
 TEST_F(PreferencesTest, TheUndoMemoryIsEmptiedWithoutAQuestionAndTheTextStays)
