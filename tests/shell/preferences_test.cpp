@@ -17,8 +17,10 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QSet>
 #include <QTabWidget>
 #include <QTest>
 #include <QTimer>
@@ -181,6 +183,28 @@ TEST_F(PreferencesTest, EveryFieldHasTheNameAndATooltipThatTheTableOfKeysPromise
             const auto *field = window.findChild<QWidget *>(key.control.toString());
             ASSERT_TRUE(field) << key.control.toString().toStdString();
             EXPECT_FALSE(field->toolTip().isEmpty()) << key.control.toString().toStdString();
+        }
+    });
+}
+
+TEST_F(PreferencesTest, NoFieldTakesTheMnemonicOfATab)
+{
+    start();
+    visit([](QDialog &window) {
+        const auto *tabs = window.findChild<QTabWidget *>(u"SSTab1"_s);
+        QSet<QKeySequence> ofTabs;
+        for (int i = 0; i < tabs->count(); ++i) {
+            ofTabs.insert(QKeySequence::mnemonic(tabs->tabText(i)));
+        }
+        EXPECT_EQ(ofTabs.size(), tabs->count());
+        for (const QWidget *each : window.findChildren<QWidget *>()) {
+            const auto *label = qobject_cast<const QLabel *>(each);
+            const auto *button = qobject_cast<const QAbstractButton *>(each);
+            const QString text = label && label->buddy() ? label->text()
+                : button                                 ? button->text()
+                                                         : QString();
+            const QKeySequence key = QKeySequence::mnemonic(text);
+            EXPECT_TRUE(key.isEmpty() || !ofTabs.contains(key)) << text.toStdString();
         }
     });
 }
