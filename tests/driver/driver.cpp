@@ -83,6 +83,12 @@ QString selectionOf(const QWidget *widget)
 
 QWidget *widgetNamed(const QString &name)
 {
+    // Two windows may have a control of the same name; the pilot can only reach the modal one's.
+    if (const QWidget *modal = QApplication::activeModalWidget()) {
+        if (auto *inModal = modal->findChild<QWidget *>(name)) {
+            return inModal;
+        }
+    }
     QWidget *hidden = nullptr;
     for (QWidget *widget : QApplication::allWidgets()) {
         if (widget->objectName() == name) {
@@ -446,13 +452,14 @@ private:
         }
     }
 
-    static bool colour(const QString &name)
+    bool colour(const QString &name)
     {
         auto *dialog = qobject_cast<QColorDialog *>(QApplication::activeModalWidget());
         if (!dialog || !dialog->isVisible()) {
             return false;
         }
         dialog->setCurrentColor(QColor(QLatin1Char('#') + name));
+        note(QLatin1String("colour ") + dialog->currentColor().name());
         later(static_cast<QDialog *>(dialog), [](QDialog *d) { d->accept(); });
         return true;
     }

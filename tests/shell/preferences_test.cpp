@@ -17,8 +17,10 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QSet>
 #include <QTabWidget>
 #include <QTest>
 #include <QTimer>
@@ -181,6 +183,28 @@ TEST_F(PreferencesTest, EveryFieldHasTheNameAndATooltipThatTheTableOfKeysPromise
             const auto *field = window.findChild<QWidget *>(key.control.toString());
             ASSERT_TRUE(field) << key.control.toString().toStdString();
             EXPECT_FALSE(field->toolTip().isEmpty()) << key.control.toString().toStdString();
+        }
+    });
+}
+
+TEST_F(PreferencesTest, NoFieldTakesTheMnemonicOfATab)
+{
+    start();
+    visit([](QDialog &window) {
+        const auto *tabs = window.findChild<QTabWidget *>(u"SSTab1"_s);
+        QSet<QKeySequence> ofTabs;
+        for (int i = 0; i < tabs->count(); ++i) {
+            ofTabs.insert(QKeySequence::mnemonic(tabs->tabText(i)));
+        }
+        EXPECT_EQ(ofTabs.size(), tabs->count());
+        for (const QWidget *each : window.findChildren<QWidget *>()) {
+            const auto *label = qobject_cast<const QLabel *>(each);
+            const auto *button = qobject_cast<const QAbstractButton *>(each);
+            const QString text = label && label->buddy() ? label->text()
+                : button                                 ? button->text()
+                                                         : QString();
+            const QKeySequence key = QKeySequence::mnemonic(text);
+            EXPECT_TRUE(key.isEmpty() || !ofTabs.contains(key)) << text.toStdString();
         }
     });
 }
@@ -369,7 +393,7 @@ TEST_F(PreferencesTest, TheUndoMemoryIsEmptiedWithoutAQuestionAndTheTextStays)
     EXPECT_EQ(app->editor().joystickText(), u"one two ");
 }
 
-TEST_F(PreferencesTest, ALowerUndoLimitHoldsFromTheNextStep)
+TEST_F(PreferencesTest, ALowerUndoLimitStopsTheGrowthFromTheNextStepAndTakesNothingAway)
 {
     start("[Miscellaneous]\r\nUndoMax=200\r\n");
     UndoHistory &history = app->editor().undos().of(DocumentKind::Joystick);
@@ -377,10 +401,11 @@ TEST_F(PreferencesTest, ALowerUndoLimitHoldsFromTheNextStep)
     for (int i = 0; i < 50; ++i) {
         control.insertPlainText(u"x "_s);
     }
-    ASSERT_GT(history.slots(), 40);
+    const auto held = history.slots();
+    ASSERT_GT(held, 40);
     set(u"UndoMax"_s, u"10"_s);
     control.insertPlainText(u"y "_s);
-    EXPECT_EQ(history.slots(), 11);
+    EXPECT_EQ(history.slots(), held);
 }
 
 TEST_F(PreferencesTest, ZephsOwnOptionsShowAtOnceAndAreStored)
