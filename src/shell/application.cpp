@@ -203,6 +203,8 @@ void Application::loadEditor()
         runFirstRun(context(), { *m_help, *m_lists, *m_tools }, m_options.welcomeIntervalMs,
                     m_mum.get());
         m_editor->applySettings();
+        // By the name that the pilot has only now.
+        greet();
     } else if (m_settings.ShowTips == 1) {
         m_help->showTip();
     }

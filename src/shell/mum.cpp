@@ -16,9 +16,17 @@
 #include <QCloseEvent>
 #include <QMenu>
 #include <QMenuBar>
+#include <QScreen>
 #include <QStatusTipEvent>
 
 namespace zeph {
+
+namespace {
+
+/// As large as the window is when the store names no size.
+constexpr QSize restoredTwips{ 13320, 8895 };
+
+} // namespace
 
 Mum::Mum(const Context &context)
     : m_context(context), m_toolWindows(new ToolWindows(this)),
@@ -64,6 +72,12 @@ WindowPlace Mum::place() const
 void Mum::setPlace(const WindowPlace &place)
 {
     if (place.state == WindowState::Maximised) {
+        // What the window is restored to, and what the first dialogs stand over until the system
+        // has maximised it.
+        resize(pixelsFromTwips(restoredTwips.width()), pixelsFromTwips(restoredTwips.height()));
+        QRect restored = rect();
+        restored.moveCenter(screen()->availableGeometry().center());
+        move(restored.topLeft());
         setWindowState(windowState() | Qt::WindowMaximized);
         return;
     }

@@ -324,6 +324,14 @@ TEST_F(Start, TheVeteransAnswerShowsHelpTopic100)
     EXPECT_TRUE(isOpen<HelpWindow>());
 }
 
+TEST_F(Start, TheFirstRunGreetsByTheCallsignThatItAskedFor)
+{
+    Pilot pilot;
+    pilot.experience = 3;
+    ASSERT_TRUE(start());
+    EXPECT_EQ(app->status().text(), u"Ready! Welcome to Zeph, Maverick!");
+}
+
 TEST_F(Start, ACommandLineThatNamesNoExistingFileIsDropped)
 {
     writeStore();

@@ -316,6 +316,15 @@ TEST_F(MainWindow, ItsPlaceIsInTwips)
     EXPECT_EQ(place.state, WindowState::Normal);
 }
 
+TEST_F(MainWindow, AMaximisedWindowIsRestoredToItsUsualSize)
+{
+    mum->setPlace({ .state = WindowState::Maximised });
+    EXPECT_TRUE(mum->isMaximized());
+    mum->showNormal();
+    settle();
+    EXPECT_EQ(mum->size(), QSize(888, 593));
+}
+
 TEST_F(MainWindow, StaysOpenWhenTheQuestionSaysSo)
 {
     bool answer = false;
