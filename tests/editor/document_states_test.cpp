@@ -3,6 +3,7 @@
 
 #include "editor/document_states.h"
 
+#include "platform/core/rtf.h"
 #include "platform/rich_text_document.h"
 #include "tests/support/rich_texts.h"
 
@@ -184,6 +185,60 @@ TEST(DocumentStates, WhatTheyAreToldIsWhatTheyWouldHaveRead)
             states.restore(first);
             ASSERT_EQ(richTextOf(document), firstText) << "round " << round;
         }
+    }
+}
+
+// Looks laid chunk by chunk against looks laid over the whole document at once.
+TEST(DocumentStates, LaysLooksAsTheyWouldBeLaidOverTheWholeDocument)
+{
+    for (int round = 0; round < 300; ++round) {
+        test::RichTextMaker chance{ quint32(round) };
+        Document document;
+        Document other;
+        DocumentStates states(document, 1 + chance.upTo(4));
+        const RichText text = chance.make(u"ab\n"_s, 80);
+        setRichText(document, text);
+        setRichText(other, text);
+        const DocumentState before = states.present();
+        const RichText textBefore = richTextOf(document);
+        for (int step = 0; step < 5; ++step) {
+            LookRuns looks;
+            std::vector<CharRun> runs;
+            for (int i = 0; i < 3; ++i) {
+                looks.looks.push_back(chance.characterFormat());
+            }
+            for (qsizetype left = text.text.size(); left > 0;) {
+                const qsizetype length = std::min<qsizetype>(left, 1 + chance.upTo(20));
+                const auto look = quint32(chance.upTo(2));
+                looks.runs.push_back({ quint32(length), look });
+                runs.push_back({ length, looks.looks[look] });
+                left -= length;
+            }
+            states.setLooks(looks);
+            applyCharacterRuns(other, runs);
+            ASSERT_EQ(richTextOf(document), richTextOf(other)) << "round " << round;
+            ASSERT_EQ(states.presentText(), richTextOf(other)) << "round " << round;
+        }
+        states.restore(before);
+        ASSERT_EQ(richTextOf(document), textBefore) << "round " << round;
+    }
+}
+
+TEST(DocumentStates, PiecesMakeTheWholeTextAndItsFile)
+{
+    for (int round = 0; round < 300; ++round) {
+        test::RichTextMaker chance{ quint32(round) };
+        Document document;
+        DocumentStates states(document, 1 + chance.upTo(4));
+        setRichText(document, chance.make(u"ab\n"_s, 80));
+        QString text;
+        RtfWriter writer;
+        states.readPieces(states.present(), [&](const RichText &piece) {
+            text += piece.text;
+            writer.add(piece);
+        });
+        ASSERT_EQ(text, richTextOf(document).text) << "round " << round;
+        ASSERT_EQ(writer.take(), writeRtf(richTextOf(document))) << "round " << round;
     }
 }
 
