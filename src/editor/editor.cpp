@@ -321,6 +321,7 @@ void Editor::applySettings()
     m_view->applyLook();
     m_looks->UpdateStyleCaptions();
     m_editing->applySettings();
+    m_insertForms->applySettings();
     m_view->setTiled(settings.TileFiles == 1);
     action(u"mnuViewTileVertically")->setChecked(settings.TileFiles == 1);
     m_macros->applySettings();

@@ -157,6 +157,13 @@ void InsertForms::mnuSlashWindow_Click()
     m_slashWindow->raise();
 }
 
+void InsertForms::applySettings()
+{
+    if (m_slashWindow) {
+        m_slashWindow->applySettings();
+    }
+}
+
 QString InsertForms::GetPersonsName() const
 {
     return personsNameOr(m_context.settings.ValidUser);

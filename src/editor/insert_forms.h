@@ -45,6 +45,8 @@ public:
     void SaveThePersonsName(const QString &name);
     /// Keeps whether a line end follows an inserted comment.
     void SaveCRthang(bool addCarriageReturn);
+    /// The floating palette may be open while its delay is changed.
+    void applySettings();
 
 Q_SIGNALS:
     void helpOn(const QString &word);

@@ -6,7 +6,6 @@
 #include "editor/insert_blocks.h"
 #include "shell/settings/global_settings.h"
 
-#include <QEvent>
 #include <QGridLayout>
 #include <QPushButton>
 
@@ -27,7 +26,7 @@ SlashWindow::SlashWindow(const GlobalSettings &settings, QWidget *parent)
     makeButtons();
     m_buttons = ControlArray<QPushButton>(this, u"Command1"_s);
     m_buttons.connect(this, &QPushButton::clicked, [this](int index) { Q_EMIT chosen(index); });
-    showTexts();
+    applySettings();
     layout()->setSizeConstraint(QLayout::SetFixedSize);
 }
 
@@ -46,7 +45,7 @@ void SlashWindow::makeButtons()
     }
 }
 
-void SlashWindow::showTexts()
+void SlashWindow::applySettings()
 {
     const auto words = slashWords();
     for (int i = 0; i < m_buttons.count(); ++i) {
@@ -54,18 +53,9 @@ void SlashWindow::showTexts()
     }
 }
 
-void SlashWindow::changeEvent(QEvent *event)
-{
-    // The delay is a setting, which another window may have changed meanwhile.
-    if (event->type() == QEvent::ActivationChange) {
-        showTexts();
-    }
-    QDialog::changeEvent(event);
-}
-
 void SlashWindow::showEvent(QShowEvent *event)
 {
-    showTexts();
+    applySettings();
     QDialog::showEvent(event);
 }
 

@@ -21,17 +21,18 @@ class SlashWindow : public QDialog
 public:
     explicit SlashWindow(const GlobalSettings &settings, QWidget *parent = nullptr);
 
+    /// The delay of DLY is a setting.
+    void applySettings();
+
 Q_SIGNALS:
     /// A button was pressed: its index among slashWords().
     void chosen(int index);
 
 protected:
-    void changeEvent(QEvent *event) override;
     void showEvent(QShowEvent *event) override;
 
 private:
     void makeButtons();
-    void showTexts();
 
     const GlobalSettings &m_settings;
     ControlArray<QPushButton> m_buttons;

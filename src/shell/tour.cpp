@@ -49,6 +49,7 @@ QPalette darkPalette()
     palette.setColor(QPalette::AlternateBase, QColor(38, 41, 44));
     palette.setColor(QPalette::Highlight, QColor(52, 120, 190));
     palette.setColor(QPalette::HighlightedText, Qt::white);
+    palette.setColor(QPalette::PlaceholderText, QColor(130, 133, 137));
     palette.setColor(QPalette::Link, QColor(110, 175, 240));
     for (const auto role : { QPalette::WindowText, QPalette::Text, QPalette::ButtonText }) {
         palette.setColor(QPalette::Disabled, role, QColor(130, 133, 137));

@@ -319,6 +319,14 @@ TEST_F(InsertFormsTest, TheSlashWindowShowsTheDelayOfTheSetting)
     EXPECT_EQ(editor->joystickText(), u"DLY(120)");
 }
 
+TEST_F(InsertFormsTest, TheSlashWindowThatIsOpenFollowsTheDelay)
+{
+    const QDialog *palette = open(u"mnuSlashWindow", u"SlashWindow"_s);
+    settings.DefaultDLYvalue = 75;
+    editor->applySettings();
+    EXPECT_EQ(palette->findChild<QAbstractButton *>(u"Command1_10"_s)->text(), u"DLY(75)");
+}
+
 TEST_F(InsertFormsTest, TheQuickTipOpensTheHelp)
 {
     QSignalSpy help(editor.get(), &Editor::helpOn);

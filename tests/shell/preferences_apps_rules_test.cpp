@@ -68,13 +68,29 @@ TEST(AppsRules, WithoutAPathTheTickGoes)
     apps[0] = { u" Chat "_s, u"  "_s, true };
     apps[1] = { u"Radio"_s, u" /bin/radio -q "_s, true };
     apps[2] = { u"Off"_s, u"/bin/off"_s, false };
-    const CustomApps kept = settledApps(apps);
+    const CustomApps kept = settledApps(apps, {});
     EXPECT_EQ(kept[0].CustomAppName, u"Chat");
     EXPECT_EQ(kept[0].CustomAppPath, u"");
     EXPECT_FALSE(kept[0].CustomAppUse);
     EXPECT_EQ(kept[1].CustomAppPath, u"/bin/radio -q");
     EXPECT_TRUE(kept[1].CustomAppUse);
     EXPECT_FALSE(kept[2].CustomAppUse);
+}
+
+TEST(AppsRules, WhatTheStoreCannotHoldLeavesTheFieldAsItWas)
+{
+    CustomApps before;
+    before[1] = { u"Radio"_s, u"/bin/radio"_s, true };
+    CustomApps apps = before;
+    apps[0] = { u"Chat"_s, u"/home/\u65e5\u672c/chat"_s, true };
+    apps[1] = { u"\u0416"_s, QString(500, u'x'), true };
+    const CustomApps kept = settledApps(apps, before);
+    EXPECT_EQ(kept[0].CustomAppName, u"Chat");
+    EXPECT_EQ(kept[0].CustomAppPath, u"");
+    EXPECT_FALSE(kept[0].CustomAppUse);
+    EXPECT_EQ(kept[1].CustomAppName, u"Radio");
+    EXPECT_EQ(kept[1].CustomAppPath, u"/bin/radio");
+    EXPECT_TRUE(kept[1].CustomAppUse);
 }
 
 TEST(AppsRules, AProgramWithoutANameIsCalledAsItsFile)

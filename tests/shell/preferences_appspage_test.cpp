@@ -76,6 +76,20 @@ TEST_F(AppsPageTest, ShowsAndKeepsEveryField)
     EXPECT_TRUE(stored[3].CustomAppUse);
 }
 
+TEST_F(AppsPageTest, ALetterThatTheStoreLacksLeavesTheSettingAlone)
+{
+    settings.ImageFilePath = u"/pictures/stick.bmp"_s;
+    settings.TextFilePath = u"/texts/readme.rtf"_s;
+    make("CustomAppName1=Chat\r\nCustomAppPath1=/bin/chat\r\nCustomAppUse1=1\r\n");
+    field(u"ImageFilePath"_s).setText(u"/\u0416.bmp"_s);
+    field(u"TextFilePath"_s).setText(u"/\u65e5.txt"_s);
+    field(u"CustomAppPath_1"_s).setText(u"/bin/\u0416"_s);
+    page->collect();
+    EXPECT_EQ(settings.ImageFilePath, u"/pictures/stick.bmp");
+    EXPECT_EQ(settings.TextFilePath, u"/texts/readme.rtf");
+    EXPECT_EQ(menu->apps()[0].CustomAppPath, u"/bin/chat");
+}
+
 TEST_F(AppsPageTest, WithoutAPathTheTickCannotBeSet)
 {
     make("CustomAppUse1=1\r\n");
@@ -103,6 +117,32 @@ TEST_F(AppsPageTest, YesPutsTheProgramOfAnAppletIntoThePath)
     // It has its program now: nothing is left to ask.
     use(2).setChecked(false);
     use(2).setChecked(true);
+}
+
+TEST_F(AppsPageTest, APathTypedUnderASetTickIsAskedAboutOnceWhenItIsLeft)
+{
+    make("CustomAppPath1=/bin/chat\r\nCustomAppUse1=1\r\n");
+    QLineEdit &path = field(u"CustomAppPath_1"_s);
+    Q_EMIT path.editingFinished();
+    path.selectAll();
+    QTest::keyClicks(&path, u"joy.cpl"_s);
+    dialogs.answer(appletTitle, BoxButton::No);
+    Q_EMIT path.editingFinished();
+    Q_EMIT path.editingFinished();
+    page->collect();
+    EXPECT_EQ(dialogs.boxes().size(), 1);
+    EXPECT_EQ(menu->apps()[0].CustomAppPath, u"joy.cpl");
+}
+
+TEST_F(AppsPageTest, APathThatWasNotLeftIsAskedAboutAtClosing)
+{
+    make("CustomAppPath1=/bin/chat\r\nCustomAppUse1=1\r\n");
+    QLineEdit &path = field(u"CustomAppPath_1"_s);
+    path.selectAll();
+    QTest::keyClicks(&path, u"joy.cpl"_s);
+    dialogs.answer(appletTitle, BoxButton::Yes);
+    page->collect();
+    EXPECT_EQ(menu->apps()[0].CustomAppPath, windowsFolder() + u"\\control.exe joy.cpl"_s);
 }
 
 TEST_F(AppsPageTest, NoLeavesThePathAndTheTick)

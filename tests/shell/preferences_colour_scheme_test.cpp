@@ -91,6 +91,7 @@ TEST(FontChoices, AreThoseOnOfferAndThePresentOne)
               (QStringList{ u"arial"_s, u"Book"_s, u"Mono"_s }));
     EXPECT_EQ(fontChoices(families, u"Mono"_s, fixed), QStringList{ u"Mono"_s });
     EXPECT_EQ(fontChoices(families, u"Book"_s, fixed), (QStringList{ u"Book"_s, u"Mono"_s }));
+    EXPECT_EQ(fontChoices(families, {}, fixed), QStringList{ u"Mono"_s });
     EXPECT_EQ(fontChoices(families, u"Arial"_s, all),
               (QStringList{ u"arial"_s, u"Book"_s, u"Mono"_s }));
 }

@@ -19,8 +19,10 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QPushButton>
 #include <QSet>
+#include <QSpinBox>
 #include <QTabWidget>
 #include <QTest>
 #include <QTimer>
@@ -187,6 +189,39 @@ TEST_F(PreferencesTest, EveryFieldHasTheNameAndATooltipThatTheTableOfKeysPromise
     });
 }
 
+TEST_F(PreferencesTest, EveryFieldHasALabelWithAMnemonicAndATooltip)
+{
+    start();
+    visit([](QDialog &window) {
+        QSet<const QWidget *> labelled;
+        for (const QLabel *label : window.findChildren<QLabel *>()) {
+            if (label->buddy() && !QKeySequence::mnemonic(label->text()).isEmpty()) {
+                labelled.insert(label->buddy());
+            }
+        }
+        const auto *samples = window.findChild<QWidget *>(u"SSTab2"_s);
+        int fields = 0;
+        for (const QWidget *each : window.findChildren<QWidget *>()) {
+            const auto *tick = qobject_cast<const QCheckBox *>(each);
+            const bool isPart = qobject_cast<const QComboBox *>(each->parent())
+                || qobject_cast<const QAbstractSpinBox *>(each->parent());
+            const bool isField = tick || qobject_cast<const QLineEdit *>(each)
+                || qobject_cast<const QComboBox *>(each)
+                || qobject_cast<const QAbstractSpinBox *>(each)
+                || qobject_cast<const QListWidget *>(each);
+            if (!isField || isPart || samples->isAncestorOf(each)) {
+                continue;
+            }
+            ++fields;
+            EXPECT_TRUE(tick ? !QKeySequence::mnemonic(tick->text()).isEmpty()
+                             : labelled.contains(each))
+                << each->objectName().toStdString();
+            EXPECT_FALSE(each->toolTip().isEmpty()) << each->objectName().toStdString();
+        }
+        EXPECT_GE(fields, 70);
+    });
+}
+
 TEST_F(PreferencesTest, NoFieldTakesTheMnemonicOfATab)
 {
     start();
@@ -230,6 +265,13 @@ TEST_F(PreferencesTest, ItOpensAtTheGamesFromTheGamesMenu)
             EXPECT_EQ(tabs->tabText(tabs->currentIndex()), u"&Games");
         },
         u"mnuGamesEdit"_s);
+}
+
+TEST_F(PreferencesTest, F9IsTheKeyOfTheEntryThatOpensIt)
+{
+    start();
+    EXPECT_EQ(app->editor().action(u"mnuAppsPreferences")->shortcut(), QKeySequence(Qt::Key_F9));
+    visit([](QDialog &) {});
 }
 
 TEST_F(PreferencesTest, ToolbarButton34OpensIt)
@@ -293,6 +335,22 @@ TEST_F(PreferencesTest, AnEmptyAutosaveTimeTurnsTheTickOffAtOnce)
     EXPECT_FALSE(app->editor().guards().autoSave.runs());
 }
 
+TEST_F(PreferencesTest, TheAutoloadTicksCaptionFollowsTheTickForTheLastFilesAtOnce)
+{
+    start();
+    visit([](QDialog &window) {
+        const QCheckBox &autoload = tick(window, u"FavLoadOnStart"_s);
+        const auto caption = [&autoload] {
+            return autoload.text().remove(u'&');
+        };
+        EXPECT_EQ(caption(), u"Autoload information is ignored");
+        tick(window, u"RestoreStatus"_s).setChecked(false);
+        EXPECT_EQ(caption(), u"AutoLoad when application starts");
+        tick(window, u"RestoreStatus"_s).setChecked(true);
+        EXPECT_EQ(caption(), u"Autoload information is ignored");
+    });
+}
+
 TEST_F(PreferencesTest, TheAutosaveStartsWithItsTick)
 {
     start();
@@ -322,6 +380,36 @@ TEST_F(PreferencesTest, TooltipsGoFromTheToolbarsAndFromEverythingElse)
     EXPECT_FALSE(QToolTip::isVisible());
     visit([](QDialog &window) { tick(window, u"OKtoShowToolTips"_s).setChecked(true); });
     EXPECT_FALSE(toolButton(u"Toolbar1_34"_s).toolTip().isEmpty());
+}
+
+TEST_F(PreferencesTest, TheMenusToolbarsAndTooltipsOfAllOpenWindowsFollow)
+{
+    start();
+    app->editor().actions().trigger(u"mnuSlashWindow");
+    app->editor().actions().trigger(u"mnuAppsTemplateEditor");
+    const auto *delay = app->mum().findChild<QAbstractButton *>(u"Command1_10"_s);
+    auto *templates = app->mum().findChild<QWidget *>(u"TemplateForm"_s);
+    ASSERT_TRUE(delay && delay->isVisible());
+    ASSERT_TRUE(templates && templates->isVisible());
+    ASSERT_EQ(delay->text(), u"DLY(60)");
+    visit([](QDialog &window) {
+        line(window, u"DefaultDLYvalue"_s).setText(u"75"_s);
+        window.findChild<QComboBox *>(u"GamesCaption"_s)->setEditText(u"Fl&y"_s);
+        tick(window, u"OKtoShowToolTips"_s).setChecked(false);
+    });
+    EXPECT_EQ(delay->text(), u"DLY(75)");
+    EXPECT_EQ(app->editor().actions().menu(u"mnuGames")->title(), u"Fl&y");
+    EXPECT_TRUE(toolButton(u"Toolbar1_34"_s).toolTip().isEmpty());
+    int buttons = 0;
+    for (auto *button : templates->findChildren<QToolButton *>()) {
+        if (!button->toolTip().isEmpty()) {
+            ++buttons;
+            QHelpEvent tip(QEvent::ToolTip, {}, {});
+            QApplication::sendEvent(button, &tip);
+            EXPECT_FALSE(QToolTip::isVisible()) << button->toolTip().toStdString();
+        }
+    }
+    EXPECT_GT(buttons, 0);
 }
 
 TEST_F(PreferencesTest, TheToolbarsOpenButtonFollowsItsTick)

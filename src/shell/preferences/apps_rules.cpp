@@ -3,6 +3,8 @@
 
 #include "shell/preferences/apps_rules.h"
 
+#include "platform/core/storable.h"
+
 namespace zeph {
 
 namespace {
@@ -60,11 +62,12 @@ bool canBeUsed(const QString &path)
     return !path.trimmed().isEmpty();
 }
 
-CustomApps settledApps(CustomApps apps)
+CustomApps settledApps(CustomApps apps, const CustomApps &before)
 {
-    for (CustomApp &app : apps) {
-        app.CustomAppName = app.CustomAppName.trimmed();
-        app.CustomAppPath = app.CustomAppPath.trimmed();
+    for (size_t i = 0; i < apps.size(); ++i) {
+        CustomApp &app = apps[i];
+        app.CustomAppName = storableOr(app.CustomAppName, before[i].CustomAppName);
+        app.CustomAppPath = storableOr(app.CustomAppPath, before[i].CustomAppPath);
         app.CustomAppUse = app.CustomAppUse && canBeUsed(app.CustomAppPath);
     }
     return apps;

@@ -24,9 +24,9 @@ std::optional<AppletQuestion> appletQuestion(const QString &path, const QString 
 
 /// Whether an application with this path can be shown.
 bool canBeUsed(const QString &path);
-/// The applications as they are kept: without blanks around the fields, and without a tick where
-/// there is no path.
-CustomApps settledApps(CustomApps apps);
+/// The applications as they are kept: without blanks around the fields, as before where the store
+/// could not give a text back, and without a tick where there is no path.
+CustomApps settledApps(CustomApps apps, const CustomApps &before);
 /// A name for a program that has none: its file's, without folder and extension.
 QString appNameFor(const QString &path);
 

@@ -4,6 +4,7 @@
 #include "shell/preferences/appspage.h"
 
 #include "editor/template_files.h"
+#include "platform/core/storable.h"
 #include "platform/dialogs.h"
 #include "platform/handlers.h"
 #include "platform/system_info.h"
@@ -42,9 +43,6 @@ constexpr QStringView pictureFilter =
 constexpr int rowsOfAnApp = 3; ///< name, path, and room to the next
 constexpr int roomBetweenApps = 12;
 
-/// What the store gives back whole.
-constexpr int longestText = profileTextBuffer - 1;
-
 QLabel *captionFor(QStringView caption, QWidget *field)
 {
     auto *label = new QLabel(caption.toString());
@@ -59,8 +57,8 @@ AppsPage::AppsPage(const Context &context, CustomAppsMenu &apps, QWidget *parent
       m_ui(std::make_unique<Ui::AppsPage>())
 {
     m_ui->setupUi(this);
-    m_ui->ImageFilePath->setMaxLength(longestText);
-    m_ui->TextFilePath->setMaxLength(longestText);
+    m_ui->ImageFilePath->setMaxLength(longestStorable);
+    m_ui->TextFilePath->setMaxLength(longestStorable);
     m_ui->ImageFilePath->setText(context.settings.ImageFilePath);
     m_ui->TextFilePath->setText(context.settings.TextFilePath);
     connect(
@@ -89,11 +87,11 @@ void AppsPage::addFields(size_t index)
     Fields &fields = m_fields[index];
     fields.name = new QLineEdit(app.CustomAppName);
     fields.name->setObjectName(u"CustomAppName_"_s + place);
-    fields.name->setMaxLength(longestText);
+    fields.name->setMaxLength(longestStorable);
     fields.name->setToolTip(u"What the Apps menu calls it"_s);
     fields.path = new QLineEdit(app.CustomAppPath);
     fields.path->setObjectName(u"CustomAppPath_"_s + place);
-    fields.path->setMaxLength(longestText);
+    fields.path->setMaxLength(longestStorable);
     fields.path->setToolTip(u"The program to start, with any switches behind it. Mine's a beer."_s);
     fields.use = new QCheckBox(captions[index].use.toString());
     fields.use->setObjectName(u"CustomAppUse_"_s + place);
@@ -130,6 +128,8 @@ void AppsPage::connectFields(const Fields &fields)
             fields.use->setChecked(false);
         }
     });
+    connect(fields.path, &QLineEdit::editingFinished, this,
+            guarded(m_context.dialogs, [this, &fields] { askIfTyped(fields); }));
     connect(fields.use, &QCheckBox::toggled, this,
             guarded(m_context.dialogs, [this, &fields](bool) { askAboutApplet(fields); }));
 }
@@ -159,8 +159,17 @@ void AppsPage::browseForApp(const Fields &fields)
     askAboutApplet(fields);
 }
 
+void AppsPage::askIfTyped(const Fields &fields)
+{
+    if (fields.path->isModified()) {
+        askAboutApplet(fields);
+    }
+}
+
 void AppsPage::askAboutApplet(const Fields &fields)
 {
+    // A path is asked about once, until it is typed anew.
+    fields.path->setModified(false);
     if (!fields.use->isChecked()) {
         return;
     }
@@ -180,14 +189,17 @@ void AppsPage::askAboutApplet(const Fields &fields)
 
 void AppsPage::collect()
 {
-    m_context.settings.ImageFilePath = m_ui->ImageFilePath->text().trimmed();
-    m_context.settings.TextFilePath = m_ui->TextFilePath->text().trimmed();
+    GlobalSettings &settings = m_context.settings;
+    settings.ImageFilePath = storableOr(m_ui->ImageFilePath->text(), settings.ImageFilePath);
+    settings.TextFilePath = storableOr(m_ui->TextFilePath->text(), settings.TextFilePath);
     CustomApps apps;
     for (size_t index = 0; index < apps.size(); ++index) {
         const Fields &fields = m_fields[index];
+        // The field may have the focus still.
+        askIfTyped(fields);
         apps[index] = { fields.name->text(), fields.path->text(), fields.use->isChecked() };
     }
-    m_menu.set(settledApps(apps));
+    m_menu.set(settledApps(apps, m_menu.apps()));
 }
 
 } // namespace zeph

@@ -44,6 +44,7 @@ private:
     void connectFields(const Fields &fields);
     void browse(QLineEdit &field, const FileRequest &request, const QString &folder);
     void browseForApp(const Fields &fields);
+    void askIfTyped(const Fields &fields);
     void askAboutApplet(const Fields &fields);
 
     Context m_context;

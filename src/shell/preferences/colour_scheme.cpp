@@ -98,7 +98,7 @@ QStringList fontChoices(const QStringList &families, const QString &present,
 {
     QStringList choices;
     std::ranges::copy_if(families, std::back_inserter(choices), isOffered);
-    if (!choices.contains(present, Qt::CaseInsensitive)) {
+    if (!present.isEmpty() && !choices.contains(present, Qt::CaseInsensitive)) {
         choices.append(present);
     }
     choices.sort(Qt::CaseInsensitive);

@@ -167,11 +167,14 @@ void ColoursPage::showFonts()
     const QSignalBlocker blocker(m_ui->TextFontName);
     const bool fixedOnly = m_ui->CHK_FixedPitch->isChecked();
     m_ui->TextFontName->clear();
-    m_ui->TextFontName->addItems(fontChoices(
-        QFontDatabase::families(), m_scheme.TextFontName, [fixedOnly](const auto &name) {
-            return !QFontDatabase::isPrivateFamily(name)
-                && (!fixedOnly || QFontDatabase::isFixedPitch(name));
-        }));
+    m_ui->TextFontName->addItems(
+        fontChoices(QFontDatabase::families(), fixedOnly ? QString() : m_scheme.TextFontName,
+                    [fixedOnly](const auto &name) {
+                        return !QFontDatabase::isPrivateFamily(name)
+                            && (!fixedOnly || QFontDatabase::isFixedPitch(name));
+                    }));
+    // Shown while it is not among those that are fixed.
+    m_ui->TextFontName->setPlaceholderText(m_scheme.TextFontName);
     m_ui->TextFontName->setCurrentIndex(
         m_ui->TextFontName->findText(m_scheme.TextFontName, Qt::MatchFixedString));
 }
