@@ -22,7 +22,7 @@ struct Store {
     {
         const GlobalSettings settings;
         (void)saveGlobalSettings(settings, files);
-        (void)saveColours(settings, files);
+        (void)SaveColourScheme(settings, files);
         QList<ProfileEntry> lists;
         for (int i = 1; i <= 200; ++i) {
             lists.append({ u"Favourites"_s, u"FavName%1"_s.arg(i),

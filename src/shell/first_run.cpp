@@ -33,7 +33,7 @@ void writeStore(const Context &context, const FirstRunParts &parts)
     context.settings.DownloadMode = options.DownloadMode;
     (void)saveGlobalSettings(context.settings, files);
     (void)SaveFilesPath(context.paths);
-    (void)saveColours(context.settings, files);
+    (void)SaveColourScheme(context.settings, files);
     parts.lists.save();
     (void)saveFilesFolder(files, context.paths.filesFolder());
     (void)SaveDefaultOptions(options, files.hotasIni);

@@ -156,7 +156,7 @@ void Preferences::save()
     };
     also(saveGlobalSettings(settings, files));
     also(saveOwnOptions(settings, files));
-    also(saveColours(settings, files));
+    also(SaveColourScheme(settings, files));
     m_parts.lists.save();
     also(saveFilesFolder(files, m_context.paths.filesFolder()));
     also(SaveDefaultOptions(m_defaults->options(), files.hotasIni));

@@ -253,7 +253,8 @@ Expected<void, FileError> saveSettings(const GlobalSettings &settings, const Set
     return saveRows(settings, files, isOneOf(fields));
 }
 
-Expected<void, FileError> saveColours(const GlobalSettings &settings, const SettingsFiles &files)
+Expected<void, FileError> SaveColourScheme(const GlobalSettings &settings,
+                                           const SettingsFiles &files)
 {
     return saveRows(settings, files, isColour);
 }

@@ -221,6 +221,7 @@ Expected<void, FileError> saveGlobalSettings(const GlobalSettings &settings,
 Expected<void, FileError> saveSettings(const GlobalSettings &settings, const SettingsFiles &files,
                                        std::initializer_list<SettingField> fields);
 /// Writes all sixteen keys of the colours and the font.
-Expected<void, FileError> saveColours(const GlobalSettings &settings, const SettingsFiles &files);
+Expected<void, FileError> SaveColourScheme(const GlobalSettings &settings,
+                                           const SettingsFiles &files);
 
 } // namespace zeph

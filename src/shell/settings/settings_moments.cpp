@@ -32,7 +32,7 @@ Expected<void, FileError> SetUpDefaultIniSettings(GlobalSettings &settings,
                                                   const SettingsFiles &files)
 {
     setFirstRunColours(settings);
-    auto result = saveColours(settings, files);
+    auto result = SaveColourScheme(settings, files);
     if (!result) {
         return result;
     }

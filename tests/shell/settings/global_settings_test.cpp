@@ -431,7 +431,7 @@ TEST(SaveSettings, WritesOnlyWhatIsAsked)
 TEST(SaveColours, WritesAllSixteen)
 {
     const Store store;
-    ASSERT_TRUE(saveColours(G(), store.files));
+    ASSERT_TRUE(SaveColourScheme(G(), store.files));
     EXPECT_EQ(store.folder.read(u"Zeph.ini"_s).count('='), 16);
     EXPECT_EQ(store.text(u"Colours", u"MacroListBackground"), u"16777215"_s);
     EXPECT_EQ(store.text(u"Colours", u"TextFontSize"), u"8"_s);
