@@ -5,17 +5,40 @@
 
 #include "platform/core/paths.h"
 
+#include <QDateTime>
+#include <QFileInfo>
 #include <QLockFile>
 
 namespace zeph {
+
+namespace {
+
+/// Far more than a program needs between making its lock and writing its name into it.
+constexpr qint64 namedWithinMs = 1000;
+
+/// Whether a lock has been without its owner's name for so long that the owner must have died
+/// before it could write it. The toolkit takes such a lock for one that is held, for ever.
+bool isNameless(const QLockFile &lock)
+{
+    qint64 process = 0;
+    QString host;
+    QString application;
+    const QDateTime made = QFileInfo(lock.fileName()).lastModified();
+    return !lock.getLockInfo(&process, &host, &application)
+        && made.msecsTo(QDateTime::currentDateTime()) > namedWithinMs;
+}
+
+} // namespace
 
 InstanceLock::InstanceLock(const QString &folder)
     : m_lock(std::make_unique<QLockFile>(withClosingSeparator(folder) + u"Zeph.lock"_s))
 {
     // Age says nothing about a lock that is held for a whole session; the process's end does.
     m_lock->setStaleLockTime(0);
+    const bool isMine = m_lock->tryLock(0)
+        || (isNameless(*m_lock) && m_lock->removeStaleLockFile() && m_lock->tryLock(0));
     // Where no lock can be made at all, nobody else has one either.
-    m_first = m_lock->tryLock(0) || m_lock->error() != QLockFile::LockFailedError;
+    m_first = isMine || m_lock->error() != QLockFile::LockFailedError;
 }
 
 InstanceLock::~InstanceLock() = default;

@@ -34,6 +34,22 @@ TEST(InstanceLock, GoesWithItsOwner)
     EXPECT_TRUE(InstanceLock(folder.path()).isFirst());
 }
 
+// Killed between the two, an owner leaves a lock without its name.
+TEST(InstanceLock, ANamelessLockHoldsForAMomentOnly)
+{
+    const TempFolder folder;
+    folder.write(u"Zeph.lock"_s, "");
+    EXPECT_FALSE(InstanceLock(folder.path()).isFirst());
+    QFile lock(folder.file(u"Zeph.lock"_s));
+    ASSERT_TRUE(lock.open(QFile::ReadWrite));
+    ASSERT_TRUE(lock.setFileTime(QDateTime::currentDateTime().addSecs(-2),
+                                 QFileDevice::FileModificationTime));
+    lock.close();
+    const InstanceLock next(folder.path());
+    EXPECT_TRUE(next.isFirst());
+    EXPECT_FALSE(InstanceLock(folder.path()).isFirst());
+}
+
 TEST(InstanceLock, WhereNoLockCanBeMadeTheInstanceIsFirst)
 {
     const TempFolder folder;
