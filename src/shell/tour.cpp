@@ -277,39 +277,22 @@ void Tour::addFormStops(Application &application)
     const auto press = [&application](const QString &name) {
         return pressing(application, name);
     };
+    // Where the window would hide behind those of the stops before.
+    const auto alone = [&application](const QString &name) {
+        return [&application, name] {
+            closeForms(application);
+            application.editor().actions().trigger(name);
+        };
+    };
     m_stops.insert(m_stops.end(),
                    {
                        { u"style-editor"_s, press(u"mnuFormatStyleEditor"_s) },
-                       { u"insert-title"_s,
-                         [&application] {
-                             closeForms(application);
-                             application.editor().actions().trigger(u"mnuInsertTitle");
-                         } },
-                       { u"insert-heading"_s,
-                         [&application] {
-                             closeForms(application);
-                             application.editor().actions().trigger(u"mnuInsertHeading");
-                         } },
-                       { u"insert-rem"_s,
-                         [&application] {
-                             closeForms(application);
-                             application.editor().actions().trigger(u"mnuInsertRemStatement");
-                         } },
-                       { u"slash-window"_s,
-                         [&application] {
-                             closeForms(application);
-                             application.editor().actions().trigger(u"mnuSlashWindow");
-                         } },
-                       { u"package"_s,
-                         [&application] {
-                             closeForms(application);
-                             application.editor().actions().trigger(u"mnuFileCreateDistribution");
-                         } },
-                       { u"print-preview"_s,
-                         [&application] {
-                             closeForms(application);
-                             application.editor().actions().trigger(u"mnuFilePrintPreview");
-                         } },
+                       { u"insert-title"_s, alone(u"mnuInsertTitle"_s) },
+                       { u"insert-heading"_s, alone(u"mnuInsertHeading"_s) },
+                       { u"insert-rem"_s, alone(u"mnuInsertRemStatement"_s) },
+                       { u"slash-window"_s, alone(u"mnuSlashWindow"_s) },
+                       { u"package"_s, alone(u"mnuFileCreateDistribution"_s) },
+                       { u"print-preview"_s, alone(u"mnuFilePrintPreview"_s) },
                        { u"template-editor"_s,
                          [&application] {
                              closeForms(application);
@@ -319,11 +302,7 @@ void Tour::addFormStops(Application &application)
                                      application.paths().inApp(u"Templates/ReadMe sample.rtf"));
                              }
                          } },
-                       { u"tip"_s,
-                         [&application] {
-                             closeForms(application);
-                             application.editor().actions().trigger(u"mnuHelpTip");
-                         } },
+                       { u"tip"_s, alone(u"mnuHelpTip"_s) },
                        { u"about"_s, press(u"mnuHelpAbout_2"_s) },
                        { u"help"_s, press(u"mnuHelpContents"_s) },
                        { u"syntax"_s, press(u"mnuHelpSyntax"_s) },

@@ -9,7 +9,7 @@
 #include "editor/file_opening.h"
 #include "editor/text_control.h"
 #include "shell/mum.h"
-#include "tests/shell/shell_world.h"
+#include "tests/shell/running_world.h"
 
 #include <QAbstractButton>
 #include <QAction>
@@ -22,21 +22,7 @@ using namespace zeph;
 
 namespace {
 
-struct GamesMenuTest : test::ShellWorld {
-    std::unique_ptr<Application> app;
-
-    void start(const QByteArray &store = {})
-    {
-        writeStore(store);
-        app = application();
-        ASSERT_TRUE(app->start());
-    }
-    void TearDown() override
-    {
-        app.reset();
-        ShellWorld::TearDown();
-    }
-
+struct GamesMenuTest : test::RunningWorld {
     QMenu &menu() { return *app->editor().actions().menu(u"mnuGames"); }
     QStringList shown()
     {

@@ -12,7 +12,7 @@
 #include "shell/cougar_tools.h"
 #include "shell/mum.h"
 #include "shell/preferences/preferences_rules.h"
-#include "tests/shell/shell_world.h"
+#include "tests/shell/running_world.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -33,21 +33,7 @@ using namespace zeph;
 
 namespace {
 
-struct PreferencesTest : test::ShellWorld {
-    std::unique_ptr<Application> app;
-
-    void start(const QByteArray &store = {})
-    {
-        writeStore(store);
-        app = application();
-        ASSERT_TRUE(app->start());
-    }
-    void TearDown() override
-    {
-        app.reset();
-        ShellWorld::TearDown();
-    }
-
+struct PreferencesTest : test::RunningWorld {
     /// Opens the window through a menu entry, does something in it and leaves it.
     void visit(const std::function<void(QDialog &)> &act,
                const QString &entry = u"mnuAppsPreferences"_s)

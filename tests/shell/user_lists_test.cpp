@@ -14,7 +14,7 @@
 #include "shell/favourites_menu.h"
 #include "shell/mum.h"
 #include "shell/recent_files.h"
-#include "tests/shell/shell_world.h"
+#include "tests/shell/running_world.h"
 
 #include <QAbstractButton>
 #include <QAction>
@@ -33,21 +33,7 @@ const QString joystickQuestion =
 const QString macroQuestion =
     u"Do you want me to create a Favourite without your current macro file?"_s;
 
-struct UserListsTest : test::ShellWorld {
-    std::unique_ptr<Application> app;
-
-    void start(const QByteArray &store = {})
-    {
-        writeStore(store);
-        app = application();
-        ASSERT_TRUE(app->start());
-    }
-    void TearDown() override
-    {
-        app.reset();
-        ShellWorld::TearDown();
-    }
-
+struct UserListsTest : test::RunningWorld {
     Editor &editor() { return app->editor(); }
     QAction *entry(const QString &name) { return entryOf(editor(), name); }
     bool isShown(const QString &name)
