@@ -4,18 +4,18 @@
 // What rewrites a whole file: the aligners alone over 10,000 and 50,000 lines, and through the real
 // Editor window alignment, block comments and Replace All of as many hits.
 
-#include "editor/alignment.h"
+#include "text/alignment.h"
+#include "documents/editor_view.h"
+#include "documents/text_control.h"
+#include "documents/undo_history.h"
+#include "editor/edit/findandreplace.h"
 #include "editor/editor.h"
-#include "editor/editor_view.h"
-#include "editor/findandreplace.h"
-#include "editor/text_control.h"
-#include "editor/undo_history.h"
 #include "platform/clock.h"
 #include "platform/fakes/fake_keyboard.h"
 #include "platform/fakes/fake_launcher.h"
 #include "platform/fakes/scripted_dialogs.h"
 #include "platform/status_line.h"
-#include "shell/settings/global_settings.h"
+#include "settings/global_settings.h"
 
 #include <benchmark/benchmark.h>
 

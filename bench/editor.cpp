@@ -5,7 +5,7 @@
 // platform; "shown" includes the painting of what is seen.
 
 #include "bench/editor_world.h"
-#include "editor/file_saving.h"
+#include "editor/files/file_saving.h"
 #include "platform/core/rtf.h"
 
 #include <benchmark/benchmark.h>

@@ -5,16 +5,16 @@
 
 // The real Editor window, shown on the offscreen platform, over a long joystick file.
 
+#include "documents/editor_view.h"
+#include "documents/text_control.h"
 #include "editor/editor.h"
-#include "editor/editor_view.h"
-#include "editor/file_opening.h"
-#include "editor/text_control.h"
+#include "editor/files/file_opening.h"
 #include "platform/clock.h"
 #include "platform/fakes/fake_keyboard.h"
 #include "platform/fakes/fake_launcher.h"
 #include "platform/fakes/scripted_dialogs.h"
 #include "platform/status_line.h"
-#include "shell/settings/global_settings.h"
+#include "settings/global_settings.h"
 
 #include <QCoreApplication>
 #include <QDir>

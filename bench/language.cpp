@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: The Zeph authors
 // SPDX-License-Identifier: MIT
 
-#include "editor/language/checker.h"
-#include "editor/language/macro_graph.h"
+#include "language/checker.h"
+#include "language/macro_graph.h"
 
 #include <benchmark/benchmark.h>
 

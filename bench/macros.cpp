@@ -3,8 +3,8 @@
 
 // Ticks for 2,000 macros over joystick files of 10,000 and 50,000 lines.
 
-#include "editor/macro_search.h"
-#include "editor/macro_table.h"
+#include "text/macro_search.h"
+#include "text/macro_table.h"
 
 #include <benchmark/benchmark.h>
 

@@ -4,9 +4,9 @@
 // Colouring a joystick file of 10,000 and 50,000 lines: the runs computed, the whole pass in the
 // real Editor window with its painting, and a keystroke with and without colouring as one types.
 
-#include "editor/painter.h"
+#include "text/painter.h"
 #include "bench/editor_world.h"
-#include "editor/highlighting.h"
+#include "documents/highlighting.h"
 
 #include <benchmark/benchmark.h>
 

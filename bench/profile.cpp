@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "platform/core/profile_file.h"
-#include "shell/settings/global_settings.h"
+#include "settings/global_settings.h"
 
 #include <benchmark/benchmark.h>
 

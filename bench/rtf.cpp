@@ -4,7 +4,7 @@
 // Rich text of a 10,000-line file, as RTF and in the toolkit's document.
 
 #include "platform/core/rtf.h"
-#include "platform/rich_text_document.h"
+#include "platform/richtext/rich_text_document.h"
 
 #include <benchmark/benchmark.h>
 

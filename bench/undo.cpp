@@ -4,17 +4,17 @@
 // The undo history in coloured files of 10,000 and 50,000 lines, shown on the offscreen platform:
 // what a keystroke costs, what a thousand steps take and hold.
 
+#include "documents/editor_view.h"
+#include "documents/text_control.h"
+#include "documents/undo_history.h"
 #include "editor/editor.h"
-#include "editor/editor_actions.h"
-#include "editor/editor_view.h"
-#include "editor/text_control.h"
-#include "editor/undo_history.h"
+#include "menus/menu_actions.h"
 #include "platform/clock.h"
 #include "platform/fakes/fake_keyboard.h"
 #include "platform/fakes/fake_launcher.h"
 #include "platform/fakes/scripted_dialogs.h"
 #include "platform/status_line.h"
-#include "shell/settings/global_settings.h"
+#include "settings/global_settings.h"
 
 #include <benchmark/benchmark.h>
 

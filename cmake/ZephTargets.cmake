@@ -92,11 +92,12 @@ function(zeph_test_pch owner)
     endif()
 endfunction()
 
-# zeph_test(NAME [GUI] FOLDER folder LINK libs... [PROPERTIES properties of each test])
-# One test program a room: every .cpp of the folder, each TEST a test of ctest.
+# zeph_test(NAME [GUI] FOLDERS folder... LINK libs... [PROPERTIES properties of each test])
+# One test program a room: every .cpp directly in the folders, each TEST a test of ctest.
 function(zeph_test name)
-    cmake_parse_arguments(ARG "GUI" "FOLDER" "LINK;PROPERTIES" ${ARGN})
-    file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/${ARG_FOLDER}/*.cpp)
+    cmake_parse_arguments(ARG "GUI" "" "FOLDERS;LINK;PROPERTIES" ${ARGN})
+    list(TRANSFORM ARG_FOLDERS REPLACE "(.+)" "${CMAKE_CURRENT_SOURCE_DIR}/\\1/*.cpp")
+    file(GLOB sources CONFIGURE_DEPENDS ${ARG_FOLDERS})
     if(NOT sources)
         return()
     endif()

@@ -4,8 +4,8 @@
 // What rewrites whole texts line by line: the three aligners and the block comments. The first byte
 // chooses how far statements are moved in.
 
-#include "editor/alignment.h"
-#include "editor/block_comments.h"
+#include "text/alignment.h"
+#include "text/block_comments.h"
 
 #include <QStringList>
 

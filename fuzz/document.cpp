@@ -3,11 +3,11 @@
 
 // What a document's bytes go through when a file is opened and saved.
 
-#include "editor/date_stamp.h"
-#include "editor/document_text.h"
-#include "editor/pair_rule.h"
-#include "editor/text_lines.h"
-#include "editor/use_statements.h"
+#include "text/date_stamp.h"
+#include "text/document_text.h"
+#include "text/pair_rule.h"
+#include "text/text_lines.h"
+#include "text/use_statements.h"
 
 #include <cstdlib>
 

@@ -4,8 +4,8 @@
 // Both texts of a pair, as files hold them: the first NUL parts the joystick file from the macro
 // file.
 
-#include "editor/language/checker.h"
-#include "editor/language/macro_graph.h"
+#include "language/checker.h"
+#include "language/macro_graph.h"
 #include "platform/core/text1252.h"
 
 #include <cstdlib>

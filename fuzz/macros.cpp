@@ -3,9 +3,9 @@
 
 // A macro file and, behind the first line that holds "====", the joystick file that uses it.
 
-#include "editor/document_text.h"
-#include "editor/macro_search.h"
-#include "editor/macro_table.h"
+#include "text/document_text.h"
+#include "text/macro_search.h"
+#include "text/macro_table.h"
 
 #include <cstdlib>
 

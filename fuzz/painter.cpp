@@ -4,9 +4,9 @@
 // The painter over any text: its runs cover it, and short ones are as one pass after another paints
 // them.
 
-#include "editor/painter.h"
+#include "text/painter.h"
 #include "platform/core/text1252.h"
-#include "tests/editor/painter_twin.h"
+#include "tests/text/painter_twin.h"
 
 #include <cstdlib>
 

@@ -4,7 +4,7 @@
 // Any bytes as a zip: reading ends, and no entry that may become a file leads outside.
 
 #include "platform/core/zip_names.h"
-#include "platform/zip_archive.h"
+#include "platform/zip/zip_archive.h"
 
 #include <QDir>
 

@@ -2,17 +2,17 @@
 // SPDX-License-Identifier: MIT
 
 #include "editor/editor.h"
-#include "editor/loss_guards.h"
+#include "editor/files/loss_guards.h"
 #include "platform/clock.h"
 #include "platform/downloader.h"
+#include "platform/input/system_joystick.h"
+#include "platform/input/system_keyboard.h"
 #include "platform/printers.h"
 #include "platform/process_launcher.h"
 #include "platform/qt_dialogs.h"
 #include "platform/safe_application.h"
 #include "platform/screen.h"
 #include "platform/system_info.h"
-#include "platform/system_joystick.h"
-#include "platform/system_keyboard.h"
 #include "shell/application.h"
 #include "shell/tour.h"
 

@@ -5,10 +5,10 @@
 
 #include "source_files.h"
 
-#include "editor/language/checker.h"
-#include "editor/language/error_codes.h"
-#include "editor/language/forms.h"
-#include "editor/language/macro_graph.h"
+#include "language/checker.h"
+#include "language/error_codes.h"
+#include "language/forms.h"
+#include "language/macro_graph.h"
 #include "platform/core/paths.h"
 #include "platform/core/profile_file.h"
 

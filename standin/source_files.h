@@ -5,7 +5,7 @@
 
 // The joystick file and its macro file, found and read as the compiler finds and reads them.
 
-#include "editor/language/model.h"
+#include "language/model.h"
 #include "platform/core/file_io.h"
 
 namespace zeph::standin {

@@ -3,33 +3,35 @@
 
 #include "editor/editor.h"
 
-#include "editor/coloured_copies.h"
-#include "editor/coloured_insert.h"
-#include "editor/editing_tools.h"
-#include "editor/editor_actions.h"
+#include "editor/actions.h"
+
+#include "documents/coloured_copies.h"
+#include "documents/coloured_insert.h"
+#include "documents/editor_view.h"
+#include "documents/highlighting.h"
+#include "documents/line_showing.h"
+#include "documents/text_control.h"
+#include "documents/text_looks.h"
+#include "documents/typing_colour.h"
+#include "documents/undo_history.h"
+#include "editor/edit/editing_tools.h"
+#include "editor/edit/insert_forms.h"
 #include "editor/editor_keys.h"
-#include "editor/editor_view.h"
-#include "editor/exit_questions.h"
-#include "editor/file_new.h"
-#include "editor/file_opening.h"
-#include "editor/file_saving.h"
-#include "editor/framemacros.h"
-#include "editor/highlighting.h"
-#include "editor/insert_forms.h"
-#include "editor/line_showing.h"
-#include "editor/loss_guards.h"
-#include "editor/macro_features.h"
-#include "editor/packaging.h"
+#include "editor/files/exit_questions.h"
+#include "editor/files/file_new.h"
+#include "editor/files/file_opening.h"
+#include "editor/files/file_saving.h"
+#include "editor/files/loss_guards.h"
+#include "editor/files/packaging.h"
+#include "editor/files/use_directives.h"
+#include "editor/macros/framemacros.h"
+#include "editor/macros/macro_features.h"
 #include "editor/right_menu.h"
-#include "editor/text_control.h"
-#include "editor/text_lines.h"
-#include "editor/text_looks.h"
-#include "editor/typing_colour.h"
-#include "editor/undo_history.h"
-#include "editor/use_directives.h"
+#include "menus/menu_actions.h"
 #include "platform/dialogs.h"
-#include "platform/rich_text_mime.h"
-#include "shell/settings/global_settings.h"
+#include "platform/richtext/rich_text_mime.h"
+#include "settings/global_settings.h"
+#include "text/text_lines.h"
 
 #include <QAction>
 #include <QApplication>
@@ -44,7 +46,8 @@ namespace zeph {
 
 Editor::Editor(const Context &context, QWidget *parent)
     : QWidget(parent), m_context(context),
-      m_actions(std::make_unique<EditorActions>(context.dialogs, context.paths.inApp(u"icons/"))),
+      m_actions(std::make_unique<MenuActions>(context.dialogs, context.paths.inApp(u"icons/"),
+                                              menuBarTable(), actionTable())),
       m_view(new EditorView(context, this)),
       m_copies(std::make_unique<ColouredCopies>(context.paths)),
       m_keys(std::make_unique<EditorKeys>(*m_view, *m_actions, context.settings)),
@@ -130,7 +133,7 @@ QString Editor::macroText()
 
 void Editor::connectFiles()
 {
-    EditorActions &on = *m_actions;
+    MenuActions &on = *m_actions;
     on.connectTo(u"mnuFileNewJoystick", [this] { m_fresh->mnuFileNewJoystick_Click(); });
     on.connectTo(u"mnuFileNewMacro", [this] { m_fresh->mnuFileNewMacro_Click(); });
     on.connectTo(u"mnuFileNewBoth", [this] { m_fresh->mnuFileNewBoth_Click(); });
@@ -159,7 +162,7 @@ void Editor::connectEditing()
 
 void Editor::connectOptions()
 {
-    EditorActions &on = *m_actions;
+    MenuActions &on = *m_actions;
     on.connectTo(u"mnuViewTileVertically", [this] {
         m_context.settings.TileFiles = action(u"mnuViewTileVertically")->isChecked();
         m_view->setTiled(m_context.settings.TileFiles == 1);
@@ -196,7 +199,7 @@ void Editor::connectUndo()
 
 void Editor::connectLooks()
 {
-    EditorActions &on = *m_actions;
+    MenuActions &on = *m_actions;
     on.connectTo(u"mnuViewLineNumbers", [this] {
         m_context.settings.LineNumbers = action(u"mnuViewLineNumbers")->isChecked();
         applySettings();
@@ -223,7 +226,7 @@ void Editor::connectPainting()
         { u"mnuRemoveColourSelectedText", &Highlighting::mnuRemoveColourSelectedText_Click },
         { u"mnuViewReformat", &Highlighting::mnuViewReformat_Click },
     };
-    EditorActions &on = *m_actions;
+    MenuActions &on = *m_actions;
     for (const Entry &entry : entries) {
         on.connectTo(entry.name, [this, entry] { (*m_highlighting.*entry.operation)(); });
     }

@@ -3,8 +3,8 @@
 
 #pragma once
 
-#include "editor/context.h"
-#include "editor/editor_document.h"
+#include "documents/editor_document.h"
+#include "platform/context.h"
 
 #include <QWidget>
 
@@ -17,7 +17,7 @@ namespace zeph {
 class ColouredCopies;
 class ColouredInsert;
 class EditingTools;
-class EditorActions;
+class MenuActions;
 class EditorKeys;
 class EditorView;
 class FileNew;
@@ -44,7 +44,7 @@ public:
     ~Editor() override;
 
     /// The menu entries by object name; the higher rooms connect what they build.
-    EditorActions &actions() { return *m_actions; }
+    MenuActions &actions() { return *m_actions; }
     QAction *action(QStringView name) const;
 
     /// The two documents, which every tool may read.
@@ -102,7 +102,7 @@ private:
     void updateDownloadCaption();
 
     Context m_context;
-    std::unique_ptr<EditorActions> m_actions;
+    std::unique_ptr<MenuActions> m_actions;
     EditorView *m_view = nullptr;
     std::unique_ptr<ColouredCopies> m_copies;
     std::unique_ptr<EditorKeys> m_keys;

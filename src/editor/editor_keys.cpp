@@ -3,10 +3,10 @@
 
 #include "editor/editor_keys.h"
 
-#include "editor/editor_actions.h"
-#include "editor/editor_view.h"
-#include "editor/text_control.h"
-#include "shell/settings/global_settings.h"
+#include "documents/editor_view.h"
+#include "documents/text_control.h"
+#include "menus/menu_actions.h"
+#include "settings/global_settings.h"
 
 #include <QAction>
 #include <QKeyEvent>
@@ -72,7 +72,7 @@ QStringView standardEntry(const QKeyEvent &event)
 
 } // namespace
 
-EditorKeys::EditorKeys(EditorView &view, EditorActions &actions, const GlobalSettings &settings)
+EditorKeys::EditorKeys(EditorView &view, MenuActions &actions, const GlobalSettings &settings)
     : m_view(view), m_actions(actions), m_settings(settings)
 {
     for (const DocumentKind kind : { DocumentKind::Joystick, DocumentKind::Macro }) {

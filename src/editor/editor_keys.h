@@ -9,7 +9,7 @@ class QKeyEvent;
 
 namespace zeph {
 
-class EditorActions;
+class MenuActions;
 class EditorView;
 struct GlobalSettings;
 
@@ -19,7 +19,7 @@ class EditorKeys : public QObject
 {
     Q_OBJECT
 public:
-    EditorKeys(EditorView &view, EditorActions &actions, const GlobalSettings &settings);
+    EditorKeys(EditorView &view, MenuActions &actions, const GlobalSettings &settings);
 
     /// The entry behind Ctrl and a key in one of the texts; empty when there is none.
     static QString entryFor(int key, bool macroText);
@@ -41,7 +41,7 @@ private:
     void help();
 
     EditorView &m_view;
-    EditorActions &m_actions;
+    MenuActions &m_actions;
     const GlobalSettings &m_settings;
 };
 

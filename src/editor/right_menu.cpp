@@ -3,9 +3,10 @@
 
 #include "editor/right_menu.h"
 
-#include "editor/editor_actions.h"
-#include "editor/editor_view.h"
-#include "editor/text_control.h"
+#include "documents/editor_view.h"
+#include "documents/text_control.h"
+#include "editor/actions.h"
+#include "menus/menu_actions.h"
 
 #include <QAction>
 #include <QCoreApplication>
@@ -14,7 +15,7 @@
 
 namespace zeph {
 
-RightMenu::RightMenu(EditorView &view, EditorActions &actions) : m_view(view), m_actions(actions)
+RightMenu::RightMenu(EditorView &view, MenuActions &actions) : m_view(view), m_actions(actions)
 {
     for (const DocumentKind kind : { DocumentKind::Joystick, DocumentKind::Macro }) {
         TextControl *control = view.document(kind).control;

@@ -11,7 +11,7 @@ class QMenu;
 
 namespace zeph {
 
-class EditorActions;
+class MenuActions;
 class EditorView;
 
 /// The pop-up menu of the right mouse button, built at each press from what can be done then.
@@ -19,7 +19,7 @@ class RightMenu : public QObject
 {
     Q_OBJECT
 public:
-    RightMenu(EditorView &view, EditorActions &actions);
+    RightMenu(EditorView &view, MenuActions &actions);
 
     /// The menu mnuRHMouse for the selected document as it stands.
     std::unique_ptr<QMenu> build() const;
@@ -28,7 +28,7 @@ private:
     void showStatusTip(const QString &tip) const;
 
     EditorView &m_view;
-    EditorActions &m_actions;
+    MenuActions &m_actions;
 };
 
 } // namespace zeph

@@ -3,8 +3,8 @@
 
 #pragma once
 
-#include "editor/context.h"
 #include "livetools/key_names.h"
+#include "platform/context.h"
 
 #include <optional>
 

@@ -7,9 +7,9 @@
 #include "livetools/key_test_menus.h"
 #include "platform/core/units.h"
 #include "platform/handlers.h"
-#include "platform/keyboard.h"
-#include "platform/rich_text_box.h"
-#include "shell/settings/settings_files.h"
+#include "platform/input/keyboard.h"
+#include "platform/richtext/rich_text_box.h"
+#include "settings/settings_files.h"
 #include "ui_keytestform.h"
 
 #include <QAction>

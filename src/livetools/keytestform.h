@@ -3,8 +3,8 @@
 
 #pragma once
 
-#include "editor/context.h"
 #include "livetools/key_test_rules.h"
+#include "platform/context.h"
 #include "toolchain/hotas_ini.h"
 
 #include <QTimer>

@@ -6,9 +6,9 @@
 #include "livetools/keytestform.h"
 #include "livetools/virtual_keys.h"
 #include "platform/handlers.h"
-#include "platform/keyboard.h"
-#include "platform/rich_text_box.h"
-#include "shell/settings/global_settings.h"
+#include "platform/input/keyboard.h"
+#include "platform/richtext/rich_text_box.h"
+#include "settings/global_settings.h"
 #include "ui_keytestform.h"
 
 #include <QContextMenuEvent>

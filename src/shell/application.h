@@ -3,11 +3,11 @@
 
 #pragma once
 
-#include "editor/context.h"
+#include "platform/context.h"
 #include "platform/instance_lock.h"
 #include "platform/status_line.h"
-#include "shell/settings/further_instances.h"
-#include "shell/settings/global_settings.h"
+#include "settings/further_instances.h"
+#include "settings/global_settings.h"
 
 #include <QStringList>
 

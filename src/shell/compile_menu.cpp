@@ -3,15 +3,15 @@
 
 #include "shell/compile_menu.h"
 
+#include "documents/editor_view.h"
 #include "editor/editor.h"
-#include "editor/editor_actions.h"
-#include "editor/editor_view.h"
-#include "editor/file_saving.h"
+#include "editor/files/file_saving.h"
+#include "menus/menu_actions.h"
 #include "platform/handlers.h"
+#include "platform/tool_windows.h"
 #include "shell/help_menu.h"
 #include "shell/informationwindow.h"
 #include "shell/mum.h"
-#include "shell/tool_windows.h"
 #include "toolchain/compilerhelp.h"
 #include "toolchain/hotas_ini.h"
 

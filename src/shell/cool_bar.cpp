@@ -3,11 +3,12 @@
 
 #include "shell/cool_bar.h"
 
+#include "editor/actions.h"
 #include "editor/editor.h"
-#include "editor/editor_actions.h"
+#include "menus/menu_actions.h"
+#include "platform/icons.h"
 #include "platform/status_line.h"
-#include "shell/icons.h"
-#include "shell/settings/global_settings.h"
+#include "settings/global_settings.h"
 
 #include <QAction>
 #include <QEvent>

@@ -3,12 +3,12 @@
 
 #include "shell/download_menu.h"
 
+#include "documents/editor_view.h"
+#include "documents/text_control.h"
 #include "editor/editor.h"
-#include "editor/editor_actions.h"
-#include "editor/editor_view.h"
-#include "editor/text_control.h"
+#include "menus/menu_actions.h"
+#include "settings/settings_files.h"
 #include "shell/compile_menu.h"
-#include "shell/settings/settings_files.h"
 #include "toolchain/after_download.h"
 #include "toolchain/cougar_modes.h"
 #include "toolchain/profiles.h"

@@ -3,18 +3,18 @@
 
 #include "shell/first_run.h"
 
+#include "editor/files/foreign_keyboard.h"
+#include "lists/favourites_menu.h"
+#include "lists/flight_sims.h"
+#include "lists/user_lists.h"
 #include "platform/dialogs.h"
+#include "preferences/default_options.h"
+#include "preferences/preferences.h"
+#include "settings/settings_files.h"
+#include "settings/settings_moments.h"
 #include "shell/cougar_tools.h"
 #include "shell/download_menu.h"
-#include "shell/favourites_menu.h"
-#include "shell/flight_sims.h"
-#include "shell/foreign_keyboard.h"
 #include "shell/help_menu.h"
-#include "shell/preferences/default_options.h"
-#include "shell/preferences/preferences.h"
-#include "shell/settings/settings_files.h"
-#include "shell/settings/settings_moments.h"
-#include "shell/user_lists.h"
 #include "shell/welcome.h"
 
 namespace zeph {

@@ -6,8 +6,8 @@
 #include "platform/core/file_io.h"
 #include "platform/core/paths.h"
 #include "platform/core/text1252.h"
-#include "shell/icons.h"
-#include "shell/settings/settings_files.h"
+#include "platform/icons.h"
+#include "settings/settings_files.h"
 #include "ui_frmtip.h"
 
 #include <QRandomGenerator>

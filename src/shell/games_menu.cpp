@@ -3,17 +3,17 @@
 
 #include "shell/games_menu.h"
 
+#include "documents/editor_view.h"
 #include "editor/editor.h"
-#include "editor/editor_actions.h"
-#include "editor/editor_view.h"
-#include "editor/file_opening.h"
-#include "editor/file_saving.h"
+#include "editor/files/file_opening.h"
+#include "editor/files/file_saving.h"
+#include "editor/files/foreign_keyboard.h"
+#include "menus/menu_actions.h"
+#include "menus/menu_array.h"
+#include "platform/tool_windows.h"
+#include "settings/global_settings.h"
 #include "shell/compile_menu.h"
-#include "shell/foreign_keyboard.h"
-#include "shell/menu_array.h"
 #include "shell/mum.h"
-#include "shell/settings/global_settings.h"
-#include "shell/tool_windows.h"
 #include "toolchain/after_download.h"
 #include "toolchain/cougar_modes.h"
 #include "toolchain/entergamename.h"
@@ -28,7 +28,7 @@ GamesMenu::GamesMenu(const Context &context, const Parts &parts)
     : QObject(&parts.editor), m_context(context), m_parts(parts), m_games(context.paths.iniPath),
       m_launch(context, parts.handshake, m_games, host())
 {
-    EditorActions &actions = parts.editor.actions();
+    MenuActions &actions = parts.editor.actions();
     m_menu = new MenuArray(context.dialogs, *actions.menu(u"mnuGames"),
                            actions.action(u"mnuGamesSortDivider"), u"mnuGameArray"_s,
                            [this](int place) { m_launch.mnuGameArray_Click(place); });

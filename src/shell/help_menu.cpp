@@ -4,16 +4,16 @@
 #include "shell/help_menu.h"
 
 #include "editor/editor.h"
-#include "editor/editor_actions.h"
+#include "menus/menu_actions.h"
 #include "platform/dialogs.h"
 #include "platform/handlers.h"
 #include "platform/process_launcher.h"
+#include "platform/tool_windows.h"
+#include "settings/global_settings.h"
 #include "shell/frmabout.h"
 #include "shell/frmtip.h"
 #include "shell/helpwindow.h"
 #include "shell/informationwindow.h"
-#include "shell/settings/global_settings.h"
-#include "shell/tool_windows.h"
 #include "shell/version_check.h"
 #include "shell/zeph_info.h"
 
@@ -27,7 +27,7 @@ HelpMenu::HelpMenu(const Context &context, Downloader &downloader, ToolWindows &
     : QObject(&editor), m_context(context), m_downloader(downloader), m_windows(windows),
       m_editor(editor)
 {
-    EditorActions &on = editor.actions();
+    MenuActions &on = editor.actions();
     on.connectTo(u"mnuHelpContents", [this] { mnuHelpContents_Click(); });
     on.connectTo(u"mnuHelpTip", [this] { showTip(); });
     on.connectTo(u"mnuHelpSyntax", [this] { showInformation(u"Syntax.rtf"_s, u"Syntax"_s); });

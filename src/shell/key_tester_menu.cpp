@@ -4,9 +4,9 @@
 #include "shell/key_tester_menu.h"
 
 #include "editor/editor.h"
-#include "editor/editor_actions.h"
+#include "menus/menu_actions.h"
+#include "platform/tool_windows.h"
 #include "shell/mum.h"
-#include "shell/tool_windows.h"
 #include "toolchain/cougar_modes.h"
 
 #include <QAction>
@@ -21,7 +21,7 @@ KeyTesterMenu::KeyTesterMenu(const Context &context, CougarModes &modes, Mum &mu
 
 KeyTestHost KeyTesterMenu::host()
 {
-    EditorActions *actions = &m_editor.actions();
+    MenuActions *actions = &m_editor.actions();
     KeyTestHost host;
     host.changeButtonsMode = [this](bool programmed) {
         m_modes.changeButtonsMode(programmed ? ButtonsRequest::Programmed

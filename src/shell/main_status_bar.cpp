@@ -4,9 +4,9 @@
 #include "shell/main_status_bar.h"
 
 #include "platform/core/units.h"
+#include "platform/icons.h"
 #include "platform/status_line.h"
-#include "shell/icons.h"
-#include "shell/settings/global_settings.h"
+#include "settings/global_settings.h"
 
 #include <QHelpEvent>
 #include <QLabel>

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "editor/context.h"
+#include "platform/context.h"
 #include "shell/status_bar_rules.h"
 
 #include <QStatusBar>

@@ -4,7 +4,7 @@
 #include "shell/mode_menu.h"
 
 #include "editor/editor.h"
-#include "editor/editor_actions.h"
+#include "menus/menu_actions.h"
 #include "platform/handlers.h"
 #include "shell/main_status_bar.h"
 #include "shell/mum.h"
@@ -24,7 +24,7 @@ ModeMenu::ModeMenu(const Context &context, CougarModes &modes, Mum &mum, Editor 
         &bar, &MainStatusBar::modePanelClicked, &modes,
         guarded(context.dialogs, [&modes](Qt::MouseButton button) { modes.panelClicked(button); }));
 
-    EditorActions &on = editor.actions();
+    MenuActions &on = editor.actions();
     for (const auto request : { ButtonsRequest::Windows, ButtonsRequest::Programmed }) {
         on.connectTo(u"mnuButtonsModeArray_"_s + QString::number(int(request)),
                      [&modes, request] { modes.changeButtonsMode(request); });

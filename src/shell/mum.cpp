@@ -3,15 +3,15 @@
 
 #include "shell/mum.h"
 
+#include "documents/editor_view.h"
 #include "editor/editor.h"
-#include "editor/editor_actions.h"
-#include "editor/editor_view.h"
+#include "menus/menu_actions.h"
 #include "platform/core/units.h"
+#include "platform/icons.h"
 #include "platform/status_line.h"
+#include "platform/tool_windows.h"
 #include "shell/cool_bar.h"
-#include "shell/icons.h"
 #include "shell/main_status_bar.h"
-#include "shell/tool_windows.h"
 
 #include <QCloseEvent>
 #include <QMenu>
@@ -110,7 +110,7 @@ void Mum::pressAtEnd(int press)
         Q_EMIT compileWanted();
         return;
     }
-    EditorActions &actions = m_editor->actions();
+    MenuActions &actions = m_editor->actions();
     actions.trigger(m_editor->selected().kind == DocumentKind::Joystick ? u"mnuViewColourJoystick"
                                                                         : u"mnuViewColourMacro");
     actions.trigger(u"mnuFileSave");

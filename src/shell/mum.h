@@ -3,8 +3,8 @@
 
 #pragma once
 
-#include "editor/context.h"
-#include "shell/settings/settings_moments.h"
+#include "platform/context.h"
+#include "settings/settings_moments.h"
 
 #include <QMainWindow>
 

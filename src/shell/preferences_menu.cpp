@@ -3,21 +3,21 @@
 
 #include "shell/preferences_menu.h"
 
+#include "documents/highlighting.h"
+#include "documents/undo_history.h"
 #include "editor/editor.h"
-#include "editor/editor_actions.h"
-#include "editor/file_new.h"
-#include "editor/highlighting.h"
-#include "editor/loss_guards.h"
-#include "editor/undo_history.h"
+#include "editor/files/file_new.h"
+#include "editor/files/foreign_keyboard.h"
+#include "editor/files/loss_guards.h"
+#include "lists/user_lists.h"
+#include "menus/menu_actions.h"
+#include "preferences/preferences.h"
+#include "settings/global_settings.h"
 #include "shell/cougar_tools.h"
 #include "shell/download_menu.h"
-#include "shell/foreign_keyboard.h"
 #include "shell/games_menu.h"
 #include "shell/mum.h"
-#include "shell/preferences/preferences.h"
-#include "shell/settings/global_settings.h"
 #include "shell/tools_menu.h"
-#include "shell/user_lists.h"
 
 #include <QApplication>
 #include <QEvent>
@@ -27,7 +27,7 @@ namespace zeph {
 PreferencesMenu::PreferencesMenu(const Context &context, const Parts &parts)
     : QObject(&parts.editor), m_context(context), m_parts(parts)
 {
-    EditorActions &actions = parts.editor.actions();
+    MenuActions &actions = parts.editor.actions();
     actions.connectTo(u"mnuAppsPreferences", [this] { mnuAppsPreferences_Click(); });
     actions.connectTo(u"mnuGamesEdit", [this] { mnuGamesEdit_Click(); });
     new TooltipSwitch(context.settings, this);

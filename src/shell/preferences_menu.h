@@ -3,8 +3,8 @@
 
 #pragma once
 
-#include "editor/context.h"
-#include "shell/preferences/preferences_keys.h"
+#include "platform/context.h"
+#include "preferences/preferences_keys.h"
 
 #include <QObject>
 

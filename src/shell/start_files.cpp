@@ -4,11 +4,11 @@
 #include "shell/start_files.h"
 
 #include "editor/editor.h"
-#include "editor/editor_actions.h"
-#include "editor/file_opening.h"
+#include "editor/files/file_opening.h"
+#include "lists/favourites_menu.h"
+#include "menus/menu_actions.h"
 #include "platform/core/paths.h"
-#include "shell/favourites_menu.h"
-#include "shell/settings/global_settings.h"
+#include "settings/global_settings.h"
 
 #include <QFileInfo>
 

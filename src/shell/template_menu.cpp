@@ -4,16 +4,16 @@
 #include "shell/template_menu.h"
 
 #include "editor/editor.h"
-#include "editor/editor_actions.h"
-#include "editor/file_opening.h"
-#include "editor/framemacros.h"
-#include "editor/macro_features.h"
-#include "editor/macro_table.h"
-#include "editor/templateform.h"
-#include "editor/use_directives.h"
+#include "editor/files/file_opening.h"
+#include "editor/files/use_directives.h"
+#include "editor/macros/framemacros.h"
+#include "editor/macros/macro_features.h"
+#include "menus/menu_actions.h"
+#include "platform/tool_windows.h"
 #include "shell/help_menu.h"
 #include "shell/mum.h"
-#include "shell/tool_windows.h"
+#include "templates/templateform.h"
+#include "text/macro_table.h"
 
 namespace zeph {
 
@@ -29,7 +29,7 @@ TemplateMenu::TemplateMenu(const Context &context, Printers &printers, Mum &mum,
     : QObject(&editor), m_context(context), m_printers(printers), m_mum(mum), m_editor(editor),
       m_help(help)
 {
-    EditorActions &on = editor.actions();
+    MenuActions &on = editor.actions();
     on.connectTo(u"mnuAppsTemplateEditor", [this] { mnuAppsTemplateEditor_Click(); });
     on.connectTo(u"mnuAppsViewReadMe", [this] { mnuAppsViewReadMe_Click(); });
     const UseDirectives *files = &editor.useDirectives();

@@ -4,10 +4,10 @@
 #include "shell/tools_menu.h"
 
 #include "editor/editor.h"
-#include "editor/editor_actions.h"
+#include "menus/menu_actions.h"
+#include "settings/settings_files.h"
+#include "settings/settings_moments.h"
 #include "shell/mum.h"
-#include "shell/settings/settings_files.h"
-#include "shell/settings/settings_moments.h"
 #include "toolchain/formresetoptions.h"
 #include "toolchain/profiles.h"
 #include "toolchain/selectprofileform.h"
@@ -45,7 +45,7 @@ ToolsMenu::ToolsMenu(const Context &context, CougarModes &modes, Profiles &profi
 
 void ToolsMenu::connectTools()
 {
-    EditorActions &actions = m_editor.actions();
+    MenuActions &actions = m_editor.actions();
     for (const IndexedEntries &entries : indexedEntries) {
         for (int i = 0; i < entries.count; ++i) {
             actions.connectTo(
@@ -63,7 +63,7 @@ void ToolsMenu::connectTools()
 
 void ToolsMenu::connectProfiles()
 {
-    EditorActions &actions = m_editor.actions();
+    MenuActions &actions = m_editor.actions();
     actions.connectTo(u"mnuResetAxes", [this] { mnuResetAxes_Click(); });
     actions.connectTo(u"mnuApplyDefaultTMC", [this] { m_profiles.ApplyDefaultProfile(); });
     actions.connectTo(u"mnuResetOptions", [this] { mnuResetOptions_Click(); });

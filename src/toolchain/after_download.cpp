@@ -3,12 +3,12 @@
 
 #include "toolchain/after_download.h"
 
-#include "editor/document_text.h"
 #include "platform/core/file_io.h"
 #include "platform/dialogs.h"
 #include "platform/handlers.h"
 #include "platform/process_launcher.h"
-#include "shell/settings/global_settings.h"
+#include "settings/global_settings.h"
+#include "text/document_text.h"
 #include "toolchain/run_app_lines.h"
 
 #include <QCoreApplication>

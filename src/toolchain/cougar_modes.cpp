@@ -5,9 +5,9 @@
 
 #include "platform/dialogs.h"
 #include "platform/handlers.h"
-#include "platform/joystick.h"
+#include "platform/input/joystick.h"
 #include "platform/status_line.h"
-#include "shell/settings/global_settings.h"
+#include "settings/global_settings.h"
 #include "toolchain/handshake.h"
 #include "toolchain/hotas_ini.h"
 #include "toolchain/tool_commands.h"

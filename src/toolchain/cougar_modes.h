@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "editor/context.h"
+#include "platform/context.h"
 #include "toolchain/mode_rules.h"
 
 #include <QObject>

@@ -3,10 +3,10 @@
 
 #include "toolchain/download.h"
 
-#include "editor/editor_document.h"
+#include "documents/editor_document.h"
 #include "platform/dialogs.h"
 #include "platform/status_line.h"
-#include "shell/settings/global_settings.h"
+#include "settings/global_settings.h"
 #include "toolchain/handshake.h"
 #include "toolchain/tool_commands.h"
 #include "toolchain/verdict.h"

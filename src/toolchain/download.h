@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "editor/context.h"
+#include "platform/context.h"
 #include "toolchain/compiler_host.h"
 
 namespace zeph {

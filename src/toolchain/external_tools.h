@@ -5,7 +5,7 @@
 
 // The programs around the Cougar that Zeph only starts. None is waited for.
 
-#include "editor/context.h"
+#include "platform/context.h"
 
 #include <span>
 

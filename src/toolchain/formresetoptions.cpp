@@ -3,7 +3,7 @@
 
 #include "toolchain/formresetoptions.h"
 
-#include "shell/settings/global_settings.h"
+#include "settings/global_settings.h"
 #include "toolchain/profiles.h"
 #include "ui_formresetoptions.h"
 

@@ -3,11 +3,11 @@
 
 #include "toolchain/game_launch.h"
 
-#include "editor/editor_document.h"
+#include "documents/editor_document.h"
 #include "platform/dialogs.h"
 #include "platform/process_launcher.h"
 #include "platform/status_line.h"
-#include "shell/settings/global_settings.h"
+#include "settings/global_settings.h"
 #include "toolchain/games.h"
 #include "toolchain/handshake.h"
 #include "toolchain/tool_commands.h"

@@ -5,7 +5,7 @@
 
 #include "platform/dialogs.h"
 #include "platform/process_launcher.h"
-#include "shell/settings/global_settings.h"
+#include "settings/global_settings.h"
 #include "toolchain/formdownloadstatus.h"
 #include "toolchain/hotas_ini.h"
 

@@ -6,7 +6,7 @@
 #include "platform/core/file_io.h"
 #include "platform/dialogs.h"
 #include "platform/status_line.h"
-#include "shell/settings/global_settings.h"
+#include "settings/global_settings.h"
 #include "toolchain/handshake.h"
 #include "toolchain/missing_tools.h"
 #include "toolchain/tool_commands.h"

@@ -3,7 +3,7 @@
 
 #include "toolchain/run_app_lines.h"
 
-#include "editor/use_statements.h"
+#include "text/use_statements.h"
 
 namespace zeph {
 

@@ -4,7 +4,7 @@
 #include "toolchain/wait_state.h"
 
 #include "platform/core/units.h"
-#include "shell/settings/global_settings.h"
+#include "settings/global_settings.h"
 
 #include <algorithm>
 #include <limits>

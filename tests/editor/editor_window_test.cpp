@@ -1,13 +1,14 @@
 // SPDX-FileCopyrightText: The Zeph authors
 // SPDX-License-Identifier: MIT
 
-#include "editor/editor_actions.h"
+#include "documents/editor_texts.h"
+#include "editor/actions.h"
 #include "editor/editor_keys.h"
-#include "editor/editor_texts.h"
-#include "editor/file_opening.h"
-#include "editor/file_saving.h"
+#include "editor/files/file_opening.h"
+#include "editor/files/file_saving.h"
 #include "editor/right_menu.h"
-#include "tests/editor/editor_fixture.h"
+#include "menus/menu_actions.h"
+#include "tests/documents/editor_fixture.h"
 
 #include <QAction>
 #include <QClipboard>

@@ -9,7 +9,7 @@
 #include "platform/fakes/fake_launcher.h"
 #include "platform/fakes/scripted_dialogs.h"
 #include "platform/status_line.h"
-#include "shell/settings/global_settings.h"
+#include "settings/global_settings.h"
 #include "tests/support/temp_folder.h"
 
 #include <gtest/gtest.h>

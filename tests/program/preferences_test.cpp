@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "platform/core/base.h"
-#include "shell/preferences/preferences_keys.h"
+#include "preferences/preferences_keys.h"
 #include "tests/program/notes.h"
 #include "tests/program/program.h"
 

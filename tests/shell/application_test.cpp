@@ -3,17 +3,17 @@
 
 #include "shell/application.h"
 
+#include "documents/text_control.h"
 #include "editor/editor.h"
-#include "editor/editor_actions.h"
-#include "editor/macro_features.h"
-#include "editor/text_control.h"
+#include "editor/macros/macro_features.h"
+#include "menus/menu_actions.h"
+#include "platform/tool_windows.h"
 #include "shell/frmtip.h"
 #include "shell/help_menu.h"
 #include "shell/helpwindow.h"
 #include "shell/informationwindow.h"
 #include "shell/main_status_bar.h"
 #include "shell/mum.h"
-#include "shell/tool_windows.h"
 #include "shell/welcome.h"
 #include "tests/shell/shell_world.h"
 

@@ -3,11 +3,11 @@
 
 #include "shell/download_menu.h"
 
+#include "documents/editor_view.h"
+#include "documents/text_control.h"
 #include "editor/editor.h"
-#include "editor/editor_actions.h"
-#include "editor/editor_view.h"
 #include "editor/right_menu.h"
-#include "editor/text_control.h"
+#include "menus/menu_actions.h"
 #include "platform/core/profile_file.h"
 #include "shell/cougar_tools.h"
 #include "shell/help_menu.h"

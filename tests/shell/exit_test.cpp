@@ -1,13 +1,13 @@
 // SPDX-FileCopyrightText: The Zeph authors
 // SPDX-License-Identifier: MIT
 
+#include "documents/text_control.h"
 #include "editor/editor.h"
-#include "editor/editor_actions.h"
-#include "editor/text_control.h"
+#include "menus/menu_actions.h"
+#include "platform/tool_windows.h"
 #include "shell/application.h"
 #include "shell/help_menu.h"
 #include "shell/mum.h"
-#include "shell/tool_windows.h"
 #include "tests/shell/shell_world.h"
 
 #include <QAction>

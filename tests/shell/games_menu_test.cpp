@@ -3,11 +3,11 @@
 
 #include "shell/games_menu.h"
 
+#include "documents/editor_view.h"
+#include "documents/text_control.h"
 #include "editor/editor.h"
-#include "editor/editor_actions.h"
-#include "editor/editor_view.h"
-#include "editor/file_opening.h"
-#include "editor/text_control.h"
+#include "editor/files/file_opening.h"
+#include "menus/menu_actions.h"
 #include "shell/mum.h"
 #include "tests/shell/running_world.h"
 

@@ -4,13 +4,13 @@
 #include "shell/help_menu.h"
 
 #include "editor/editor.h"
-#include "editor/editor_actions.h"
+#include "menus/menu_actions.h"
+#include "platform/tool_windows.h"
 #include "shell/frmabout.h"
 #include "shell/frmtip.h"
 #include "shell/helpwindow.h"
 #include "shell/informationwindow.h"
 #include "shell/mum.h"
-#include "shell/tool_windows.h"
 #include "tests/shell/shell_world.h"
 
 #include <QAction>

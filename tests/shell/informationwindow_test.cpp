@@ -3,7 +3,7 @@
 
 #include "shell/informationwindow.h"
 
-#include "platform/rich_text_box.h"
+#include "platform/richtext/rich_text_box.h"
 #include "tests/shell/shell_world.h"
 
 using namespace zeph;

@@ -3,12 +3,12 @@
 
 #include "shell/key_tester_menu.h"
 
+#include "documents/editor_view.h"
+#include "documents/text_control.h"
 #include "editor/editor.h"
-#include "editor/editor_actions.h"
-#include "editor/editor_view.h"
-#include "editor/text_control.h"
+#include "menus/menu_actions.h"
+#include "platform/tool_windows.h"
 #include "shell/mum.h"
-#include "shell/tool_windows.h"
 #include "tests/shell/shell_world.h"
 
 #include <QAction>

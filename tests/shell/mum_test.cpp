@@ -3,17 +3,17 @@
 
 #include "shell/mum.h"
 
+#include "documents/editor_view.h"
+#include "documents/text_control.h"
 #include "editor/actions.h"
 #include "editor/editor.h"
-#include "editor/editor_actions.h"
 #include "editor/editor_keys.h"
-#include "editor/editor_view.h"
 #include "editor/right_menu.h"
-#include "editor/text_control.h"
+#include "menus/menu_actions.h"
 #include "platform/core/units.h"
+#include "platform/tool_windows.h"
 #include "shell/frmabout.h"
 #include "shell/main_status_bar.h"
-#include "shell/tool_windows.h"
 #include "tests/shell/shell_world.h"
 
 #include <QAction>

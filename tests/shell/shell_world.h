@@ -4,7 +4,7 @@
 #pragma once
 
 #include "editor/editor.h"
-#include "editor/editor_actions.h"
+#include "menus/menu_actions.h"
 #include "platform/clock.h"
 #include "platform/core/paths.h"
 #include "platform/downloader.h"
@@ -16,8 +16,8 @@
 #include "platform/fakes/scripted_dialogs.h"
 #include "platform/status_line.h"
 #include "platform/system_info.h"
+#include "settings/global_settings.h"
 #include "shell/application.h"
-#include "shell/settings/global_settings.h"
 #include "tests/support/temp_folder.h"
 
 #include <gtest/gtest.h>

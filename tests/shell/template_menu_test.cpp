@@ -3,15 +3,15 @@
 
 #include "shell/template_menu.h"
 
+#include "documents/editor_view.h"
+#include "documents/text_control.h"
 #include "editor/editor.h"
-#include "editor/editor_actions.h"
-#include "editor/editor_view.h"
-#include "editor/file_opening.h"
-#include "editor/templateform.h"
-#include "editor/text_control.h"
-#include "platform/rich_text_box.h"
+#include "editor/files/file_opening.h"
+#include "menus/menu_actions.h"
+#include "platform/richtext/rich_text_box.h"
+#include "platform/tool_windows.h"
 #include "shell/mum.h"
-#include "shell/tool_windows.h"
+#include "templates/templateform.h"
 #include "tests/shell/shell_world.h"
 
 using namespace zeph;

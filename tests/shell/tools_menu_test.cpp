@@ -4,7 +4,7 @@
 #include "shell/tools_menu.h"
 
 #include "editor/editor.h"
-#include "editor/editor_actions.h"
+#include "menus/menu_actions.h"
 #include "platform/core/profile_file.h"
 #include "shell/mum.h"
 #include "tests/shell/shell_world.h"

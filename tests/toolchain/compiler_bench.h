@@ -5,7 +5,7 @@
 
 // A tools' folder with a pair of documents, and a compiler that is played.
 
-#include "editor/editor_document.h"
+#include "documents/editor_document.h"
 #include "tests/toolchain/toolchain_bench.h"
 #include "toolchain/compiler_host.h"
 

@@ -3,7 +3,7 @@
 
 #include "toolchain/compilerhelp.h"
 
-#include "platform/rich_text_box.h"
+#include "platform/richtext/rich_text_box.h"
 #include "tests/support/temp_folder.h"
 
 #include <gtest/gtest.h>

@@ -3,7 +3,7 @@
 
 #include "toolchain/game_launch.h"
 
-#include "editor/editor_document.h"
+#include "documents/editor_document.h"
 #include "tests/toolchain/toolchain_bench.h"
 #include "toolchain/games.h"
 

@@ -5,13 +5,13 @@
 
 // A fresh tools' folder with all that the windows share, and a tool that can be played.
 
-#include "editor/context.h"
 #include "platform/clock.h"
+#include "platform/context.h"
 #include "platform/fakes/fake_keyboard.h"
 #include "platform/fakes/fake_launcher.h"
 #include "platform/fakes/scripted_dialogs.h"
 #include "platform/status_line.h"
-#include "shell/settings/global_settings.h"
+#include "settings/global_settings.h"
 #include "tests/support/temp_folder.h"
 #include "toolchain/handshake.h"
 #include "toolchain/hotas_ini.h"

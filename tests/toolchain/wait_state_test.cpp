@@ -3,7 +3,7 @@
 
 #include "toolchain/wait_state.h"
 
-#include "shell/settings/global_settings.h"
+#include "settings/global_settings.h"
 
 #include <gtest/gtest.h>
 

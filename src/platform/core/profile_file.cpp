@@ -4,7 +4,6 @@
 #include "platform/core/profile_file.h"
 
 #include "platform/core/paths.h"
-#include "platform/core/profile_removal.h"
 #include "platform/core/text1252.h"
 
 #include <QFileInfo>

@@ -11,6 +11,7 @@
 
 #include <QByteArray>
 #include <QList>
+#include <QStringList>
 
 namespace zeph {
 
@@ -39,6 +40,9 @@ QByteArray withValue(const QByteArray &file, const ProfileEntry &entry);
 /// the default; 32 bits, wrapped as the platform's call wraps.
 qint32 integerOf(const std::optional<QString> &value, qint32 fallback);
 
+/// The file without the lines of those keys in the first section of that name.
+QByteArray withoutKeys(QByteArray file, QStringView section, const QStringList &keys);
+
 } // namespace profile
 
 /// One profile file on disk. Holds no content: each call reads the disk, since other programs write
@@ -65,5 +69,9 @@ public:
 private:
     QString m_path;
 };
+
+/// Takes the keys out of a file in one replacement. A file that has none of them is not touched.
+Expected<void, FileError> removeKeys(const ProfileFile &file, QStringView section,
+                                     const QStringList &keys);
 
 } // namespace zeph

@@ -3,7 +3,7 @@
 
 #include "platform/core/profile_list.h"
 
-#include "platform/core/profile_removal.h"
+#include "platform/core/profile_file.h"
 #include "platform/core/text1252.h"
 
 #include <algorithm>

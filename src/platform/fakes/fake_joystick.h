@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "platform/joystick.h"
+#include "platform/input/joystick.h"
 
 #include <QList>
 

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "platform/keyboard.h"
+#include "platform/input/keyboard.h"
 
 #include <QStringList>
 

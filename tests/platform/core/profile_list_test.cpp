@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: The Zeph authors
 // SPDX-License-Identifier: MIT
 
+#include "platform/core/profile_file.h"
 #include "platform/core/profile_list.h"
 
-#include "platform/core/profile_removal.h"
 #include "tests/support/temp_folder.h"
 
 #include <gtest/gtest.h>

@@ -1,0 +1,31 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "documents/editor_document.h"
+#include "platform/context.h"
+#include "platform/core/file_io.h"
+
+namespace zeph {
+
+/// The coloured copies: a document's looks, kept in one flat folder under the file's own name. A
+/// copy is a cache; the plain file is the truth.
+class ColouredCopies
+{
+public:
+    explicit ColouredCopies(const Paths &paths) : m_paths(paths) { }
+
+    QString pathOf(const QString &name) const { return m_paths.rtfFolder() + name; }
+    /// The copy for a file of that name, if its text equals the plain text exactly; the
+    /// font becomes the given one throughout, while colours, italics and underlines stay.
+    std::optional<RichText> load(const QString &name, const QString &plainText,
+                                 const CharFormat &font) const;
+    /// Writes the copy of a document as it stands.
+    Expected<void, FileError> SaveColouredText(const EditorDocument &document) const;
+
+private:
+    const Paths &m_paths;
+};
+
+} // namespace zeph

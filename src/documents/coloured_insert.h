@@ -1,0 +1,59 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "language/file_kinds.h"
+#include "platform/context.h"
+#include "platform/core/rich_text.h"
+
+namespace zeph {
+
+class EditorView;
+class UndoHistories;
+
+/// The one way in which a tool writes into the selected document: begin, any number of pieces in
+/// their colours, end. The whole insert is one undo step.
+class ColouredInsert
+{
+public:
+    ColouredInsert(const Context &context, EditorView &view, UndoHistories &histories);
+
+    /// Raises ColouringBusy and puts the present looks and caret into the document's top undo slot.
+    void BeginColInsert();
+    /// Inserts at the caret (a selection is deleted first); the caret goes behind it and typing
+    /// goes on in the plain colour. A line end may be CR LF. A protected macro file is refused with
+    /// the box. False when refused.
+    bool InsertColouredString(const QString &text, ColorRef colour);
+    bool InsertColouredStringNoSpace(const QString &text, ColorRef colour);
+    void InsertBlackBlanks();
+    void InsertCarriageReturn();
+    /// Appends a blank to TextToInsert if the character at the caret is neither a blank nor absent.
+    void AddSpaceToColouredText();
+    /// Starts a line if the caret is not at the start of one.
+    void CheckAtLineBeginning();
+    /// Paints a piece of statement text as typing does, and inserts it, with a blank before it
+    /// where it would stick to what stands there. An empty text does nothing.
+    void MacroTransferText(const QString &text);
+    /// Inserts rich text over the selection, as InsertColouredString does. Margins are the
+    /// document's own. False when refused.
+    bool insertRich(RichText text);
+    /// Lowers ColouringBusy, makes the whole insert one undo step, returns the focus to the Editor.
+    /// When all of it was refused there is no step.
+    void EndColInsert();
+
+    /// What AddSpaceToColouredText works on.
+    QString TextToInsert;
+
+private:
+    CharFormat plain() const;
+
+    Context m_context;
+    EditorView &m_view;
+    UndoHistories &m_histories;
+    DocumentKind m_kind = DocumentKind::Joystick; ///< of the document since Begin
+    bool m_refused = false;
+    bool m_inserted = false;
+};
+
+} // namespace zeph

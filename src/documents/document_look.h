@@ -1,0 +1,22 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+// How the settings want a document to look.
+
+#include "language/file_kinds.h"
+#include "platform/core/rich_text.h"
+
+namespace zeph {
+
+struct GlobalSettings;
+
+/// Font and colour of a document's plain text.
+CharFormat plainFormat(const GlobalSettings &settings, DocumentKind kind);
+/// Gives a format the font of another: family, size and weight.
+void takeFont(CharFormat &format, const CharFormat &font);
+/// Background of a document's control.
+ColorRef documentBackground(const GlobalSettings &settings, DocumentKind kind);
+
+} // namespace zeph

@@ -1,0 +1,71 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#include "documents/editor_texts.h"
+
+namespace zeph {
+
+Box saveQuestion(const EditorDocument &document, const QString &why)
+{
+    return { u" Save "_s + document.name + u" now?"_s,
+             document.name + why,
+             BoxIcon::Exclamation,
+             { BoxButton::Yes, BoxButton::No, BoxButton::Cancel },
+             BoxButton::Yes };
+}
+
+Box wontContinueBox(const EditorDocument &document, DocumentKind wanted)
+{
+    const QString kind =
+        wanted == DocumentKind::Joystick ? u"new joystick file"_s : u"new macro file"_s;
+    return { u"Hmmm...let me think..."_s,
+             document.name + u" wasn't saved, so I won't continue to load up a "_s + kind
+                 + u" just in case you pressed the cancel button by accident."_s,
+             BoxIcon::Information };
+}
+
+Box reloadBox(const EditorDocument &document)
+{
+    const QString loss = document.isModified()
+        ? u" What you've changed since you last saved it would be gone."_s
+        : QString();
+    return { u"Open "_s + document.name + u" again?"_s,
+             document.name
+                 + u" is open here, and its file has just been overwritten. Shall I open the new "
+                   "one instead of what you see?"_s
+                 + loss,
+             BoxIcon::Question,
+             { BoxButton::Yes, BoxButton::No },
+             document.isModified() ? BoxButton::No : BoxButton::Yes };
+}
+
+Box fileProtectedBox()
+{
+    return { u"File protected"_s,
+             u"The macro file is protected, and therefore this option is disabled. To remove the "
+             "protection from the macro file, deselect Protect Macro File in the Macros menu."_s,
+             BoxIcon::Exclamation };
+}
+
+QString tabStatus(const QString &current, const QString &caption, bool isProtected)
+{
+    if (current.startsWith(u"Compile"_s) || current.contains(u'=')) {
+        return current;
+    }
+    return isProtected ? caption + u" is protected and can't be edited."_s
+                       : u"Editing "_s + caption;
+}
+
+QString savedTooltip(const EditorDocument &document)
+{
+    switch (document.state) {
+    case EditorDocument::Empty:
+        return document.name + u" has no text and isn't saved"_s;
+    case EditorDocument::Saved:
+        return document.name + u" is saved"_s;
+    default:
+        return document.name + u" has been modified and isn't saved"_s;
+    }
+}
+
+} // namespace zeph

@@ -1,0 +1,82 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "documents/editor_document.h"
+#include "platform/context.h"
+#include "text/painter.h"
+
+namespace zeph {
+
+class ColouredCopies;
+class ColouredInsert;
+class EditorView;
+class UndoHistories;
+
+/// Gives the documents their colours and takes them away. Looks only: no text changes, and no
+/// saved state either. Caret and scroll stay where the user has them.
+class Highlighting
+{
+public:
+    struct Parts {
+        EditorView &view;
+        ColouredCopies &copies;
+        UndoHistories &histories;
+        ColouredInsert &insert;
+    };
+    Highlighting(const Context &context, const Parts &parts);
+
+    /// Sets font, size, plain colour and margin over the whole document, without bold, italic,
+    /// underline and colours. An empty document stays as it is.
+    void reformat(EditorDocument &document);
+    /// The same on the selected document, its looks stored in the top undo slot. Refused on a
+    /// protected macro file.
+    void mnuViewReformat_Click();
+
+    /// Colours the whole document, stores its looks in the top undo slot and writes its coloured
+    /// copy. An empty document is told on the status line.
+    void applyColour(EditorDocument &document);
+    void ApplyColourHighlighting();
+    void ApplyMacroColourHighlighting();
+    void mnuViewColourJoystick_Click();
+    /// Refused on a protected macro file.
+    void mnuViewColourMacro_Click();
+    /// The joystick file, then the macro file unless it is protected.
+    void mnuViewApplyColourBothFiles_Click();
+
+    void mnuRemoveColourJoystick_Click();
+    void mnuRemoveColourMacro_Click();
+    /// Refused on a protected macro file.
+    void mnuRemoveColourSelectedText_Click();
+
+    /// Gives both documents a font that is other than before, and what has a colour of the scheme
+    /// before the one that took its place; other colours and looks stay. The coloured copy of a
+    /// saved document follows.
+    void followScheme(const GlobalSettings &before);
+
+    /// Colours the lines of the selection, or the caret's line, at the cost of these lines alone.
+    void BlockColour();
+    /// Colours the caret's line; with flag 1 as an undo step of its own.
+    void TestColour(int flag);
+    /// TestColour(1), refused on a protected macro file.
+    void mnuViewHighlightLine_Click();
+
+    /// A piece of text in the selected document's font, painted as typing paints it.
+    RichText ColourType(const QString &text) const;
+    /// The same with its comments alone painted.
+    RichText JustREMtocolour(const QString &text) const;
+
+private:
+    void removeColour(EditorDocument &document, int from, int length);
+    void paintStretch(EditorDocument &document, int from, int to);
+    RichText painted(const QString &text, const Painter &painter) const;
+    EditorDocument &document(DocumentKind kind) const;
+
+    Context m_context;
+    Parts m_parts;
+    Painter m_typing{ typingPasses() };
+    Painter m_comments{ remPasses() };
+};
+
+} // namespace zeph

@@ -1,0 +1,31 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#include "documents/line_showing.h"
+
+#include "documents/editor_view.h"
+#include "documents/text_control.h"
+#include "platform/dialogs.h"
+#include "platform/status_line.h"
+#include "text/text_lines.h"
+
+namespace zeph {
+
+bool showLine(const Context &context, EditorView &view, EditorDocument &document, int line,
+              LineCaret caret)
+{
+    const auto range = lineRange(document.control->text(), line);
+    if (!range) {
+        context.dialogs.tell(u"Oops!"_s, u"Line not found"_s, BoxIcon::Exclamation);
+        return false;
+    }
+    view.select(document.kind);
+    document.control->select(int(range->start),
+                             caret == LineCaret::SelectsLine ? int(range->length) : 0);
+    document.control->centerCursor();
+    document.control->setFocus();
+    context.status.setLine(line);
+    return true;
+}
+
+} // namespace zeph

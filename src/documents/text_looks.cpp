@@ -1,0 +1,144 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#include "documents/text_looks.h"
+
+#include "documents/coloured_insert.h"
+#include "documents/document_look.h"
+#include "documents/editor_view.h"
+#include "documents/styleeditor.h"
+#include "documents/text_control.h"
+#include "menus/menu_actions.h"
+#include "platform/dialogs.h"
+#include "platform/richtext/rich_text_document.h"
+#include "settings/global_settings.h"
+#include "settings/settings_files.h"
+
+#include <QAction>
+
+#include <algorithm>
+
+namespace zeph {
+
+namespace {
+
+using Flag = bool CharFormat::*;
+
+constexpr std::array<Flag, 3> formatArray1 = { &CharFormat::bold, &CharFormat::italic,
+                                               &CharFormat::underline };
+
+} // namespace
+
+TextLooks::TextLooks(const Context &context, const Parts &parts)
+    : m_context(context), m_parts(parts)
+{
+}
+
+TextLooks::~TextLooks()
+{
+    delete m_editor;
+}
+
+void TextLooks::change(const std::function<void(CharFormat &)> &change)
+{
+    if (m_parts.view.refuseProtected()) {
+        return;
+    }
+    TextControl &control = *m_parts.view.selected().control;
+    const int length = control.selLength();
+    if (length == 0) {
+        CharFormat typing = fromTextFormat(control.currentCharFormat());
+        change(typing);
+        control.setCurrentCharFormat(toTextFormat(typing));
+        return;
+    }
+    m_parts.insert.BeginColInsert();
+    control.changeLooks(control.selStart(), length, change);
+    m_parts.insert.EndColInsert();
+}
+
+void TextLooks::mnuFormatArray1_Click(int Index)
+{
+    const Flag flag = formatArray1.at(size_t(Index));
+    const TextControl &control = *m_parts.view.selected().control;
+    const auto runs = characterRunsOf(*control.document(), control.selStart(), control.selLength());
+    const bool isOn = runs.empty()
+        ? fromTextFormat(control.currentCharFormat()).*flag
+        : std::all_of(runs.begin(), runs.end(),
+                      [flag](const CharRun &run) { return run.format.*flag; });
+    change([flag, isOn](CharFormat &format) { format.*flag = !isOn; });
+}
+
+void TextLooks::mnuStyleArray_Click(int Index)
+{
+    const TextStyles styles = readTextStyles(ProfileFile(m_context.paths.iniPath));
+    const CharFormat &style = styles.at(size_t(Index)).format;
+    change([&style](CharFormat &format) { format = style; });
+}
+
+void TextLooks::mnuFormatStyleEditor_Click()
+{
+    if (m_editor) {
+        m_editor->raise();
+        return;
+    }
+    m_editor = new StyleEditor(readTextStyles(ProfileFile(m_context.paths.iniPath)),
+                               m_context.settings.BackgroundColour, m_context.dialogs,
+                               m_parts.view.window());
+    m_editor->setAttribute(Qt::WA_DeleteOnClose);
+    QObject::connect(m_editor, &QDialog::accepted, m_editor,
+                     [this] { keepStyles(m_editor->styles()); });
+    m_editor->open();
+}
+
+void TextLooks::keepStyles(const TextStyles &styles)
+{
+    if (const auto written = writeTextStyles(ProfileFile(m_context.paths.iniPath), styles);
+        !written) {
+        tellNotKept(m_context.status, written.error());
+    }
+    UpdateStyleCaptions();
+}
+
+void TextLooks::UpdateStyleCaptions()
+{
+    const TextStyles styles = readTextStyles(ProfileFile(m_context.paths.iniPath));
+    for (size_t i = 0; i < styles.size(); ++i) {
+        m_parts.actions.action(u"mnuStyleArray_"_s + QString::number(i))->setText(styles[i].name);
+    }
+}
+
+void TextLooks::mnuFormatFont_Click()
+{
+    GlobalSettings &settings = m_context.settings;
+    CharFormat font = m_parts.view.plainFormat(m_parts.view.selected().kind);
+    const auto chosen = m_context.dialogs.chooseFont(font);
+    if (!chosen) {
+        return;
+    }
+    settings.TextFontName = chosen->family;
+    settings.TextFontSize = QString::number(chosen->pointSize);
+    settings.TextFontBold = chosen->bold ? 1 : 0;
+    const auto written =
+        saveSettings(settings, settingsFilesOf(m_context.paths),
+                     { &GlobalSettings::TextFontName, &GlobalSettings::TextFontSize,
+                       &GlobalSettings::TextFontBold });
+    if (!written) {
+        tellNotKept(m_context.status, written.error());
+    }
+    DoTheFonts();
+}
+
+void TextLooks::DoTheFonts()
+{
+    const BusyGuard busy(m_parts.view);
+    m_parts.view.applyLook();
+    for (const DocumentKind kind : { DocumentKind::Joystick, DocumentKind::Macro }) {
+        const CharFormat font = m_parts.view.plainFormat(kind);
+        TextControl &control = *m_parts.view.document(kind).control;
+        control.changeLooks(0, control.end(),
+                            [&font](CharFormat &format) { takeFont(format, font); });
+    }
+}
+
+} // namespace zeph

@@ -1,0 +1,57 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "platform/context.h"
+#include "text/text_styles.h"
+
+#include <QPointer>
+
+#include <functional>
+
+namespace zeph {
+
+class ColouredInsert;
+class MenuActions;
+class EditorView;
+class StyleEditor;
+
+/// What the Format menu does to the texts: bold, italic, underline, the nine styles, the font.
+class TextLooks
+{
+public:
+    struct Parts {
+        EditorView &view;
+        MenuActions &actions;
+        ColouredInsert &insert;
+    };
+    TextLooks(const Context &context, const Parts &parts);
+    ~TextLooks();
+
+    /// Bold (0), italic (1) or underline (2): off when all of the selection has it, on otherwise.
+    /// Without a selection it holds for what is typed next. Refused on a protected macro file, as
+    /// are styles; a change of a selection is one undo step.
+    void mnuFormatArray1_Click(int Index);
+    /// Gives the selection one of the styles, 0 to 8.
+    void mnuStyleArray_Click(int Index);
+    /// Shows the style editor, which keeps what its OK confirms.
+    void mnuFormatStyleEditor_Click();
+    /// Writes the styles' names into the menu entries.
+    void UpdateStyleCaptions();
+
+    /// Asks for the font of both texts, keeps it in the settings and sets it.
+    void mnuFormatFont_Click();
+    /// Gives both texts the font of the settings; colours, italic and underline stay.
+    void DoTheFonts();
+
+private:
+    void change(const std::function<void(CharFormat &)> &change);
+    void keepStyles(const TextStyles &styles);
+
+    Context m_context;
+    Parts m_parts;
+    QPointer<StyleEditor> m_editor;
+};
+
+} // namespace zeph

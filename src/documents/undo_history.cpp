@@ -1,0 +1,116 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#include "documents/undo_history.h"
+
+#include "documents/text_control.h"
+
+namespace zeph {
+
+UndoHistory::UndoHistory(EditorDocument &document, const qint16 &undoMax)
+    : m_document(document), m_undoMax(undoMax), m_states(document.control->states())
+{
+    reset();
+}
+
+void UndoHistory::reset()
+{
+    startWith(m_states.present());
+}
+
+void UndoHistory::forget()
+{
+    startWith(m_states.empty(documentParagraph));
+}
+
+void UndoHistory::startWith(const DocumentState &state)
+{
+    m_slots.clear();
+    m_slots.push_front({ state, 0 });
+    m_index = 1;
+    UndoStepNext = 1;
+    m_lastKeyWasSpace = m_lastKeyWasEnter = false;
+}
+
+UndoHistory::Slot UndoHistory::present()
+{
+    return { m_states.present(), m_document.control->selStart() };
+}
+
+bool UndoHistory::textChanged()
+{
+    const bool pushes = UndoStepNext == 1;
+    if (pushes) {
+        const bool full = slots() > m_undoMax;
+        m_slots.push_front(present());
+        if (full) {
+            m_slots.pop_back();
+        }
+    } else {
+        m_slots.front() = present();
+    }
+    m_index = 1;
+    UndoStepNext = 1;
+    return pushes;
+}
+
+void UndoHistory::storeTop()
+{
+    m_slots.front() = present();
+}
+
+void UndoHistory::keyPressed(int key)
+{
+    if (key == Qt::Key_Delete) {
+        UndoStepNext = 1;
+        return;
+    }
+    const bool space = key == Qt::Key_Space;
+    const bool enter = key == Qt::Key_Return || key == Qt::Key_Enter;
+    if (space && m_document.control->document()->isEmpty()) {
+        UndoStepNext = 0;
+    } else if (slots() == 1 || key == Qt::Key_Backspace) {
+        UndoStepNext = 1;
+    } else {
+        // A run of blanks or of line ends is one boundary of words.
+        const bool goesOn = enter ? m_lastKeyWasEnter : m_lastKeyWasSpace;
+        UndoStepNext = (space || enter) && !goesOn ? 1 : 0;
+        m_lastKeyWasSpace = space;
+        m_lastKeyWasEnter = enter;
+    }
+}
+
+void UndoHistory::undo()
+{
+    if (canUndo()) {
+        show(m_index + 1);
+    }
+}
+
+void UndoHistory::redo()
+{
+    if (canRedo()) {
+        show(m_index - 1);
+    }
+}
+
+void UndoHistory::show(int index)
+{
+    m_index = index;
+    const Slot &slot = m_slots[size_t(index) - 1];
+    m_states.restore(slot.state);
+    m_document.control->select(slot.caret, 0);
+    m_document.caret = m_document.control->selStart();
+    m_document.selLength = 0;
+}
+
+qsizetype UndoHistory::bytesHeld() const
+{
+    std::vector<DocumentState> states;
+    for (const Slot &slot : m_slots) {
+        states.push_back(slot.state);
+    }
+    return DocumentState::bytesHeld(states) + slots() * qsizetype(sizeof(Slot));
+}
+
+} // namespace zeph

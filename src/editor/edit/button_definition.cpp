@@ -1,0 +1,58 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#include "editor/edit/button_definition.h"
+
+#include "documents/editor_view.h"
+#include "documents/text_control.h"
+#include "language/words.h"
+#include "platform/core/text_search.h"
+
+#include <algorithm>
+
+namespace zeph {
+
+namespace {
+
+constexpr QStringView portHead = u"PortB";
+constexpr qsizetype portPrefix = 4;
+
+} // namespace
+
+std::optional<LineRange> buttonDefinition(QStringView text, const QString &head)
+{
+    const qsizetype start = findText(text, head, 0, SearchWholeWord);
+    if (start < 0) {
+        return std::nullopt;
+    }
+    qsizetype end = text.size();
+    for (const QStringView keyword : language::definitionKeywords()) {
+        const qsizetype next = findText(text, keyword, start + head.size(), SearchWholeWord);
+        end = next < 0 ? end : std::min(end, next);
+    }
+    LineRange range{ start, end - start };
+    if (head.startsWith(portHead)) {
+        range.start = std::max<qsizetype>(start - portPrefix, 0);
+        range.length = std::min(range.length + head.size(), text.size() - range.start);
+    }
+    return range;
+}
+
+bool ExtractButtonDefinition(EditorView &view, const QString &head)
+{
+    TextControl &control = *view.document(DocumentKind::Joystick).control;
+    const QString text = control.text();
+    if (text.isEmpty()) {
+        return false;
+    }
+    view.select(DocumentKind::Joystick);
+    const auto range = buttonDefinition(text, head);
+    if (!range) {
+        return false;
+    }
+    control.select(int(range->start), int(range->length));
+    view.ResetFocusToEditor();
+    return true;
+}
+
+} // namespace zeph

@@ -1,0 +1,335 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#include "editor/edit/findandreplace.h"
+
+#include "documents/edit_step.h"
+#include "documents/editor_texts.h"
+#include "documents/editor_view.h"
+#include "documents/line_showing.h"
+#include "documents/text_control.h"
+#include "platform/core/text_search.h"
+#include "platform/core/units.h"
+#include "platform/handlers.h"
+#include "platform/status_line.h"
+#include "text/search_rules.h"
+#include "ui_findandreplace.h"
+
+#include <QSignalBlocker>
+
+namespace zeph {
+
+namespace {
+
+/// Adds to a box's list what it was used with; what is written in it stays.
+void remember(QComboBox &box)
+{
+    const QString text = box.currentText();
+    if (text.isEmpty()) {
+        return;
+    }
+    QStringList earlier;
+    for (int i = 0; i < box.count(); ++i) {
+        earlier.append(box.itemText(i));
+    }
+    const QSignalBlocker quiet(box);
+    box.clear();
+    box.addItems(withEarlier(earlier, text));
+    box.setEditText(text);
+}
+
+void prepareBox(QComboBox &box, const QString &name)
+{
+    // What is typed is sought as it is, not as an earlier text that begins alike.
+    box.setCompleter(nullptr);
+    // The toolkit makes the box's field itself, and gives it no name.
+    box.lineEdit()->setObjectName(box.objectName() + u"Edit"_s);
+    box.lineEdit()->setAccessibleName(name);
+}
+
+QString quoted(const QString &word)
+{
+    return u'"' + word + u'"';
+}
+
+/// Replaces stretches of one length, given by their places before any change.
+void replaceStretches(TextControl &control, const std::vector<qsizetype> &starts, qsizetype length,
+                      const QString &replacement)
+{
+    QTextCursor cursor(control.document());
+    cursor.beginEditBlock();
+    // From the end on, so that the places in front stay what they are.
+    for (auto start = starts.rbegin(); start != starts.rend(); ++start) {
+        cursor.setPosition(int(*start));
+        cursor.setPosition(int(*start + length), QTextCursor::KeepAnchor);
+        cursor.insertText(replacement);
+    }
+    cursor.endEditBlock();
+}
+
+} // namespace
+
+FindAndReplace::FindAndReplace(const Context &context, const Parts &parts, QWidget *parent)
+    : QDialog(parent), m_context(context), m_parts(parts),
+      m_ui(std::make_unique<Ui::FindAndReplace>())
+{
+    m_ui->setupUi(this);
+    m_findPage = { .what = m_ui->ComboTextFind,
+                   .matchCase = m_ui->MatchCaseF,
+                   .wholeWord = m_ui->WholeWordF,
+                   .joystick = m_ui->OptionJoystickF,
+                   .macro = m_ui->OptionMacroF,
+                   .find = m_ui->Command1 };
+    m_replacePage = { .what = m_ui->ComboTextReplaceFind,
+                      .matchCase = m_ui->MatchCaseR,
+                      .wholeWord = m_ui->WholeWordR,
+                      .joystick = m_ui->OptionJoystickR,
+                      .macro = m_ui->OptionMacroR,
+                      .find = m_ui->Command3 };
+    prepareBox(*m_ui->ComboTextFind, u"Find what"_s);
+    prepareBox(*m_ui->ComboTextReplaceFind, u"Find what"_s);
+    prepareBox(*m_ui->ComboTextReplaceWith, u"Replace with"_s);
+    connectPage(m_findPage);
+    connectPage(m_replacePage);
+    connectButtons();
+}
+
+FindAndReplace::~FindAndReplace() = default;
+
+void FindAndReplace::connectPage(Page &page)
+{
+    const auto changed = [this, &page] {
+        startOver(page);
+    };
+    connect(page.what, &QComboBox::editTextChanged, this, changed);
+    connect(page.matchCase, &QCheckBox::toggled, this, changed);
+    connect(page.wholeWord, &QCheckBox::toggled, this, changed);
+    connect(page.joystick, &QRadioButton::toggled, this, changed);
+    connect(page.find, &QPushButton::clicked, this,
+            guarded(m_context.dialogs, [this, &page](bool) { find(page); }));
+}
+
+void FindAndReplace::connectButtons()
+{
+    connect(m_ui->Command5, &QPushButton::clicked, this,
+            guarded(m_context.dialogs, [this](bool) { ReplaceText(); }));
+    connect(m_ui->Command6, &QPushButton::clicked, this,
+            guarded(m_context.dialogs, [this](bool) { ReplaceAll(); }));
+    connect(m_ui->Command7, &QPushButton::clicked, this,
+            guarded(m_context.dialogs, [this](bool) { goToLine(); }));
+    for (const QPushButton *cancel : { m_ui->Command2, m_ui->Command4, m_ui->Command8 }) {
+        connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
+    }
+    connect(m_ui->Command10, &QPushButton::clicked, this, [this] { Q_EMIT helpOn(u"find"_s); });
+    connect(m_ui->SSTab1, &QTabWidget::currentChanged, this,
+            [this](int tab) { showDefault(Tab(tab)); });
+}
+
+void FindAndReplace::showDefault(Tab tab)
+{
+    QPushButton *const buttons[] = { m_ui->Command1, m_ui->Command3, m_ui->Command7 };
+    buttons[int(tab)]->setDefault(true);
+}
+
+void FindAndReplace::showTab(Tab tab)
+{
+    QWidget *const fields[] = { m_ui->ComboTextFind, m_ui->ComboTextReplaceFind, m_ui->LineToFind };
+    m_ui->SSTab1->setCurrentIndex(int(tab));
+    showDefault(tab);
+    // Both pages: the other one is a click on its tab away.
+    preset(m_findPage);
+    preset(m_replacePage);
+    show();
+    raise();
+    activateWindow();
+    fields[int(tab)]->setFocus();
+    QLineEdit *const line = tab == Tab::GoToLine
+        ? m_ui->LineToFind
+        : static_cast<QComboBox *>(fields[int(tab)])->lineEdit();
+    line->selectAll();
+}
+
+void FindAndReplace::preset(Page &page)
+{
+    const EditorDocument &document = m_parts.view.selected();
+    const bool isJoystick = document.kind == DocumentKind::Joystick;
+    (isJoystick ? page.joystick : page.macro)->setChecked(true);
+    const TextControl &control = *document.control;
+    const QString selection = control.text().mid(control.selStart(), control.selLength());
+    const QString present = page.what->currentText();
+    if (selection.isEmpty()) {
+        if (present.isEmpty()) {
+            page.what->setEditText(LastFindText);
+        }
+    } else if (!isSought(selection, present, optionsOf(page))) {
+        // A hit that is still selected goes on as it was sought.
+        page.what->setEditText(selection);
+    }
+}
+
+void FindAndReplace::setFirst(Page &page, bool first)
+{
+    page.first = first;
+    page.find->setText(first ? u"Find first"_s : u"Find next"_s);
+}
+
+void FindAndReplace::startOver(Page &page)
+{
+    setFirst(page, true);
+    if (&page == &m_replacePage) {
+        enableReplacing(false);
+    }
+}
+
+void FindAndReplace::enableReplacing(bool on)
+{
+    m_ui->Command5->setEnabled(on);
+    m_ui->Command6->setEnabled(on);
+}
+
+int FindAndReplace::optionsOf(const Page &page) const
+{
+    return (page.wholeWord->isChecked() ? SearchWholeWord : SearchPlain)
+        + (page.matchCase->isChecked() ? SearchMatchCase : SearchPlain);
+}
+
+EditorDocument &FindAndReplace::documentOf(const Page &page) const
+{
+    return m_parts.view.document(page.joystick->isChecked() ? DocumentKind::Joystick
+                                                            : DocumentKind::Macro);
+}
+
+bool FindAndReplace::refuses(const EditorDocument &document)
+{
+    if (document.kind != DocumentKind::Macro || !m_parts.view.isProtected()) {
+        return false;
+    }
+    m_context.dialogs.box(fileProtectedBox());
+    return true;
+}
+
+bool FindAndReplace::tellNothingToSearch(const QString &word, const EditorDocument &document)
+{
+    if (word.isEmpty()) {
+        m_context.dialogs.tell(u"Please enter text to search"_s,
+                               u"You haven't specified the text to search for"_s);
+        return true;
+    }
+    if (document.control->end() == 0) {
+        const bool isJoystick = document.kind == DocumentKind::Joystick;
+        m_context.dialogs.tell(isJoystick ? u"No text in joystick file"_s
+                                          : u"No text in macro file"_s,
+                               document.name + u" has no text to highlight."_s);
+        return true;
+    }
+    return false;
+}
+
+void FindAndReplace::find(Page &page)
+{
+    EditorDocument &document = documentOf(page);
+    const QString word = page.what->currentText();
+    remember(*page.what);
+    if (tellNothingToSearch(word, document)) {
+        return;
+    }
+    SearchOptions = qint16(optionsOf(page));
+    LastFindText = word;
+    const qsizetype caret = document.control->textCursor().position();
+    const SearchResult result =
+        search(document.control->text(), { word, SearchOptions, page.first, caret });
+    if (result.verdict != SearchVerdict::Hit) {
+        tellNoHit(page, word, document);
+        return;
+    }
+    setFirst(page, false);
+    if (&page == &m_replacePage) {
+        enableReplacing(true);
+    }
+    showHit(document, int(result.start), int(word.size()));
+}
+
+void FindAndReplace::tellNoHit(Page &page, const QString &word, const EditorDocument &document)
+{
+    if (page.first) {
+        m_context.dialogs.tell(u"Text not found"_s,
+                               quoted(word) + u" not found in "_s + document.name);
+        return;
+    }
+    setFirst(page, true);
+    m_context.dialogs.tell(u"You found 'em all!"_s,
+                           u"No further instances of "_s + quoted(word) + u" found in "_s
+                               + document.name);
+}
+
+void FindAndReplace::showHit(EditorDocument &document, int start, int length)
+{
+    m_parts.view.select(document.kind);
+    document.control->select(start, length);
+    m_context.status.setLine(document.control->caretLine());
+    returnToTexts();
+}
+
+void FindAndReplace::returnToTexts()
+{
+    m_parts.view.window()->activateWindow();
+    m_parts.view.ResetFocusToEditor();
+}
+
+void FindAndReplace::ReplaceText()
+{
+    EditorDocument &document = documentOf(m_replacePage);
+    if (refuses(document)) {
+        return;
+    }
+    const QString replacement = m_ui->ComboTextReplaceWith->currentText();
+    remember(*m_ui->ComboTextReplaceWith);
+    TextControl &control = *document.control;
+    if (control.selLength() > 0) {
+        const int start = control.selStart();
+        const EditStep step(m_parts.view, m_parts.histories, document.kind);
+        control.replace(start, control.selLength(), replacement);
+        control.select(start + int(replacement.size()), 0);
+    }
+    find(m_replacePage);
+}
+
+void FindAndReplace::ReplaceAll()
+{
+    EditorDocument &document = documentOf(m_replacePage);
+    const QString word = m_replacePage.what->currentText();
+    const QString replacement = m_ui->ComboTextReplaceWith->currentText();
+    remember(*m_replacePage.what);
+    remember(*m_ui->ComboTextReplaceWith);
+    if (refuses(document) || tellNothingToSearch(word, document)) {
+        return;
+    }
+    SearchOptions = qint16(optionsOf(m_replacePage));
+    LastFindText = word;
+    TextControl &control = *document.control;
+    const std::vector<qsizetype> hits =
+        hitsToReplace(control.text(), word, replacement, SearchOptions);
+    if (!hits.empty()) {
+        const EditStep step(m_parts.view, m_parts.histories, document.kind);
+        replaceStretches(control, hits, word.size(), replacement);
+        const qsizetype growth = replacement.size() - word.size();
+        const qsizetype behind =
+            hits.back() + growth * qsizetype(hits.size() - 1) + replacement.size();
+        control.select(int(behind), 0);
+    }
+    setFirst(m_replacePage, true);
+    m_context.dialogs.tell(u"Replaced 'em all for you. Now buy me a drink"_s,
+                           QString::number(hits.size()) + u" replacements were made in "_s
+                               + document.name);
+}
+
+void FindAndReplace::goToLine()
+{
+    // A number beyond all files is a line that no file has.
+    const double line = qBound(0.0, leadingNumber(m_ui->LineToFind->text()), 1e9);
+    if (showLine(m_context, m_parts.view, m_parts.view.selected(), int(line), LineCaret::AtStart)) {
+        returnToTexts();
+    }
+}
+
+} // namespace zeph

@@ -1,0 +1,95 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "documents/editor_document.h"
+#include "platform/context.h"
+
+#include <QDialog>
+
+#include <array>
+#include <memory>
+
+class QCheckBox;
+class QComboBox;
+class QPushButton;
+class QRadioButton;
+
+namespace zeph {
+
+class EditorView;
+class UndoHistories;
+
+namespace Ui {
+class FindAndReplace;
+}
+
+/// Finds and replaces in either document, and goes to lines. Stands beside the texts and stays
+/// above the main window.
+class FindAndReplace : public QDialog
+{
+    Q_OBJECT
+public:
+    enum class Tab { Find, Replace, GoToLine };
+
+    struct Parts {
+        EditorView &view;
+        UndoHistories &histories;
+    };
+    FindAndReplace(const Context &context, const Parts &parts, QWidget *parent = nullptr);
+    ~FindAndReplace() override;
+
+    /// Comes to the front with a tab, for the selected document and with its selection as the text
+    /// to search for.
+    void showTab(Tab tab);
+
+    /// Bits of SearchOption of the last search, and what it sought.
+    qint16 SearchOptions = 0;
+    QString LastFindText;
+
+Q_SIGNALS:
+    /// Help is wanted.
+    void helpOn(const QString &word);
+
+private:
+    /// The controls that the first two tabs both have.
+    struct Page {
+        QComboBox *what = nullptr;
+        QCheckBox *matchCase = nullptr;
+        QCheckBox *wholeWord = nullptr;
+        QRadioButton *joystick = nullptr;
+        QRadioButton *macro = nullptr;
+        QPushButton *find = nullptr;
+        bool first = true; ///< the next press searches from the start
+    };
+
+    void connectPage(Page &page);
+    void connectButtons();
+    void showDefault(Tab tab);
+    void preset(Page &page);
+    void setFirst(Page &page, bool first);
+    /// The conditions of the search are others: it begins anew.
+    void startOver(Page &page);
+    void enableReplacing(bool on);
+    int optionsOf(const Page &page) const;
+    EditorDocument &documentOf(const Page &page) const;
+    bool refuses(const EditorDocument &document);
+    bool tellNothingToSearch(const QString &word, const EditorDocument &document);
+
+    void find(Page &page);
+    void tellNoHit(Page &page, const QString &word, const EditorDocument &document);
+    void showHit(EditorDocument &document, int start, int length);
+    void returnToTexts();
+    void ReplaceText();
+    void ReplaceAll();
+    void goToLine();
+
+    Context m_context;
+    Parts m_parts;
+    std::unique_ptr<Ui::FindAndReplace> m_ui;
+    Page m_findPage;
+    Page m_replacePage;
+};
+
+} // namespace zeph

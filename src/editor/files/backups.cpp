@@ -1,0 +1,66 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#include "editor/files/backups.h"
+
+#include "documents/text_control.h"
+#include "platform/clock.h"
+#include "settings/global_settings.h"
+#include "text/document_text.h"
+
+#include <QDir>
+#include <QLocale>
+
+namespace zeph {
+
+QString backupName(const QString &caption, const std::optional<QDateTime> &moment)
+{
+    if (!moment) {
+        return caption;
+    }
+    const QLocale english(QLocale::C);
+    return caption.chopped(qMin<qsizetype>(4, caption.size())) + u' '
+        + english.toString(*moment, u"MMM dd yyyy, hh-mmap") + u'.'
+        + caption.last(qMin<qsizetype>(3, caption.size()));
+}
+
+QString Backups::folder() const
+{
+    if (!m_context.settings.BackUpFolder.isEmpty()) {
+        return m_context.settings.BackUpFolder;
+    }
+    const QString standard = m_context.paths.defaultBackupFolder();
+    QDir().mkpath(standard);
+    return standard;
+}
+
+Expected<void, FileError> Backups::SaveJoystickBackup(const EditorDocument &document) const
+{
+    if (m_context.settings.CreateBackup != 1) {
+        return {};
+    }
+    std::optional<QDateTime> moment;
+    if (m_context.settings.BackUpDateInfo == 1) {
+        moment = m_context.clock.now();
+    }
+    return writeFileAtomically(folder() + backupName(document.caption(), moment),
+                               documentBytes(document.control->text()));
+}
+
+Expected<QString, FileError> Backups::keepAside(const QString &caption, const QByteArray &bytes,
+                                                const QDateTime &moment) const
+{
+    const QString into = folder();
+    QDir().mkpath(into);
+    const QString name = backupName(caption, moment);
+    QString path = into + name;
+    for (int number = 2; fileExists(path); ++number) {
+        path = into + name.chopped(4) + u" ("_s + QString::number(number) + u')' + name.last(4);
+    }
+    if (auto written = writeFileAtomically(path, bytes); !written) {
+        return Unexpected<FileError>(written.error());
+    }
+    return path;
+}
+
+} // namespace zeph

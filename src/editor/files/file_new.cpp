@@ -1,0 +1,98 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#include "editor/files/file_new.h"
+
+#include "documents/editor_view.h"
+#include "documents/text_control.h"
+#include "editor/files/file_opening.h"
+#include "editor/files/use_directives.h"
+#include "platform/status_line.h"
+
+namespace zeph {
+
+FileNew::FileNew(const Context &context, EditorView &view, FileOpening &opening,
+                 UseDirectives &directives)
+    : m_context(context), m_view(view), m_opening(opening), m_directives(directives)
+{
+}
+
+bool FileNew::freshen(DocumentKind kind)
+{
+    if (!m_opening.mayReplace(
+            kind, u" has changed and isn't saved. Do you want to save it first?"_s, kind)) {
+        return false;
+    }
+    const BusyGuard busy(m_view);
+    EditorDocument &document = m_view.document(kind);
+    document.state = EditorDocument::Empty;
+    document.recovered = false;
+    document.control->setText(QString());
+    m_view.applyLook();
+    m_view.renameFresh(kind);
+    document.caret = 0;
+    document.selLength = 0;
+    if (kind == DocumentKind::Joystick) {
+        m_directives.forgetFiles();
+        Q_EMIT joystickReplaced();
+    } else {
+        Q_EMIT macroReplaced();
+    }
+    m_view.select(kind);
+    m_view.UpdateSavedIcon();
+    m_context.status.setLine(1);
+    return true;
+}
+
+void FileNew::mnuFileNewJoystick_Click()
+{
+    if (freshen(DocumentKind::Joystick)) {
+        m_context.status.setText(u"New joystick file created"_s);
+    }
+}
+
+void FileNew::mnuFileNewMacro_Click()
+{
+    if (freshen(DocumentKind::Macro)) {
+        m_context.status.setText(u"New macro file created"_s);
+    }
+}
+
+void FileNew::mnuFileNewBoth_Click()
+{
+    mnuFileNewJoystick_Click();
+    mnuFileNewMacro_Click();
+    m_context.status.setText(u"Done .... now what?"_s);
+}
+
+void FileNew::mnuFileClose_Click()
+{
+    if (m_view.selected().kind == DocumentKind::Joystick) {
+        mnuFileNewJoystick_Click();
+    } else {
+        mnuFileNewMacro_Click();
+    }
+}
+
+void FileNew::mnuFileCloseBoth_Click()
+{
+    mnuFileNewBoth_Click();
+}
+
+void FileNew::rewriteUntitled()
+{
+    for (const DocumentKind kind : { DocumentKind::Joystick, DocumentKind::Macro }) {
+        if (isUntitled(m_view.document(kind).name)) {
+            m_view.renameFresh(kind);
+        }
+    }
+    m_view.UpdateSavedIcon();
+}
+
+void FileNew::HardwareHasChanged()
+{
+    rewriteUntitled();
+    m_view.updateCaptions();
+}
+
+} // namespace zeph

@@ -1,0 +1,348 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#include "editor/files/file_opening.h"
+
+#include "documents/coloured_copies.h"
+#include "documents/editor_texts.h"
+#include "documents/editor_view.h"
+#include "documents/highlighting.h"
+#include "documents/text_control.h"
+#include "editor/files/file_saving.h"
+#include "editor/files/use_directives.h"
+#include "platform/input/keyboard.h"
+#include "platform/status_line.h"
+#include "settings/global_settings.h"
+#include "text/document_text.h"
+#include "text/pair_rule.h"
+
+#include <QFileInfo>
+
+#include <algorithm>
+
+namespace zeph {
+
+namespace {
+
+const QString beforeJoystick = u" has changed and isn't saved. Do you want to save it before "
+                               "opening a different joystick file?"_s;
+const QString beforeMacro = u" has changed and isn't saved. Do you want to save it before opening "
+                            "a different macro file?"_s;
+
+bool isAmong(const QStringList &paths, const EditorDocument &document)
+{
+    const QFileInfo mine(existingPath(document.path));
+    return std::any_of(paths.begin(), paths.end(), [&mine](const QString &path) {
+        return nameOf(path) == mine.fileName()
+            && QFileInfo(path).canonicalFilePath() == mine.canonicalFilePath();
+    });
+}
+
+const QString joystickNotOpened = u"Joystick file not opened"_s;
+const QString macroNotOpened = u"Macro file not opened"_s;
+
+} // namespace
+
+FileOpening::FileOpening(const Context &context, const Parts &parts)
+    : m_context(context), m_parts(parts), m_keyboardLayout(context.keyboard.layoutName())
+{
+}
+
+void FileOpening::restoreKeyboard()
+{
+    // Some text controls change the layout by themselves when they load another character set.
+    if (m_context.settings.ForeignLanguageKBInputFix != 0
+        && m_context.keyboard.layoutName() != m_keyboardLayout) {
+        m_context.keyboard.loadLayout(m_keyboardLayout);
+    }
+}
+
+bool FileOpening::mayReplace(DocumentKind kind, const QString &why, DocumentKind wanted)
+{
+    EditorDocument &document = m_parts.view.document(kind);
+    if (!document.isModified()) {
+        return true;
+    }
+    switch (m_context.dialogs.box(saveQuestion(document, why))) {
+    case BoxButton::Yes:
+        m_parts.view.select(kind);
+        m_parts.saving.mnuFileSave_Click();
+        if (document.isModified()) {
+            m_context.dialogs.box(wontContinueBox(document, wanted));
+            return false;
+        }
+        return true;
+    case BoxButton::No:
+        return true;
+    default:
+        return false;
+    }
+}
+
+std::optional<QString> FileOpening::ask(const QString &title, const QString &filter,
+                                        const QString &extension, DocumentKind kind)
+{
+    const EditorDocument &document = m_parts.view.document(kind);
+    const bool macro = kind == DocumentKind::Macro;
+    const EditorDocument &other =
+        m_parts.view.document(macro ? DocumentKind::Joystick : DocumentKind::Macro);
+    const QString name = document.name == freshName(kind)
+        ? baseWithDot(other.name) + (macro ? u"tmm"_s : u"tmj"_s)
+        : document.name;
+    return m_context.dialogs.openFile(
+        { title, filter, extension, m_context.paths.filesFolder(), name });
+}
+
+void FileOpening::mnuFileJoystickLoad_Click(const std::optional<QString> &fileToOpen)
+{
+    if (!mayReplace(DocumentKind::Joystick, beforeJoystick, DocumentKind::Joystick)) {
+        return;
+    }
+    m_parts.view.select(DocumentKind::Joystick);
+    const auto path = fileToOpen
+        ? fileToOpen
+        : ask(u"Select the joystick file to open ..."_s,
+              u"Joystick file (*.tmj)|*.tmj|Original TM files (*.f22,*.b50,*.adv) "
+              "|*.f22;*.b50;*.adv"_s,
+              u"tmj"_s, DocumentKind::Joystick);
+    if (path) {
+        m_context.status.setText(u"Opening joystick file"_s);
+        loadOrTell(DocumentKind::Joystick, *path);
+    }
+}
+
+void FileOpening::MnuFileMacroLoad_Click(const std::optional<QString> &fileToOpen)
+{
+    if (!mayReplace(DocumentKind::Macro, beforeMacro, DocumentKind::Macro)) {
+        return;
+    }
+    m_parts.view.select(DocumentKind::Macro);
+    const auto path = fileToOpen ? fileToOpen
+                                 : ask(u"Select the macro file to open ..."_s,
+                                       u"Macro file (*.tmm)|*.tmm|Original TM macro files "
+                                       "(*.m22,*.m50,*.mdf) |*.m22;*.m50;*.mdf"_s,
+                                       u"tmm"_s, DocumentKind::Macro);
+    if (!path) {
+        return;
+    }
+    m_context.status.setText(u"Opening file"_s);
+    if (loadOrTell(DocumentKind::Macro, *path)) {
+        m_context.status.setText(u"Finished"_s);
+    }
+}
+
+void FileOpening::mnuFileOpen_Click(const std::optional<QString> &fileToOpen)
+{
+    // The macro file's wording of the refusal serves both documents here.
+    if (!mayReplace(DocumentKind::Joystick, beforeJoystick, DocumentKind::Macro)
+        || !mayReplace(DocumentKind::Macro, beforeMacro, DocumentKind::Macro)) {
+        return;
+    }
+    m_context.status.setText(u"Opening joystick and its macro file ..."_s);
+    const auto path = fileToOpen
+        ? fileToOpen
+        : ask(u"Select the joystick file and I'll open it and its macro file"_s,
+              u"Thrustmaster files |*.tmj;*.tmm|Joystick file (*.tmj)|*.tmj|Macro file "
+              "(*.tmm)|*.tmm|Original TM files |*.f22;*.b50;*.adv;*.m22;*.m50;*.mdf"_s,
+              u"tmj"_s, DocumentKind::Joystick);
+    if (!path) {
+        return;
+    }
+    if (isMacroExtension(lastThree(*path))) {
+        openJoystickOf(*path);
+    } else if (isJoystickExtension(lastThree(*path))) {
+        openMacroOf(*path);
+    } else {
+        m_context.status.setText(u"Files not opened"_s);
+    }
+}
+
+void FileOpening::openJoystickOf(const QString &macroPath)
+{
+    if (!loadOrTell(DocumentKind::Macro, macroPath)) {
+        return;
+    }
+    m_context.status.setText(u"Finished opening up macro file and extracting macros from it"_s);
+    const QString name = nameOf(macroPath);
+    const QString joystickPath =
+        existingPath(folderOf(macroPath) + baseWithDot(name) + joystickExtensionFor(name));
+    if (!fileExists(joystickPath)) {
+        m_context.status.setText(joystickNotOpened);
+        return;
+    }
+    loadOrTell(DocumentKind::Joystick, joystickPath);
+}
+
+void FileOpening::openMacroOf(const QString &joystickPath)
+{
+    EditorView &view = m_parts.view;
+    if (!loadOrTell(DocumentKind::Joystick, joystickPath)) {
+        return;
+    }
+    m_context.status.setText(u"Looking for associated macro file"_s);
+    const QString macroPath = macroPathFor(joystickPath);
+    if (macroPath.isEmpty()) {
+        m_context.status.setText(macroNotOpened);
+        view.select(DocumentKind::Joystick);
+        return;
+    }
+    if (!loadOrTell(DocumentKind::Macro, macroPath)) {
+        view.select(DocumentKind::Joystick);
+        return;
+    }
+    for (const DocumentKind kind : { DocumentKind::Joystick, DocumentKind::Macro }) {
+        view.document(kind).caret = 0;
+        view.document(kind).selLength = 0;
+    }
+    view.select(DocumentKind::Joystick);
+    m_context.status.setText(u"Done"_s);
+    Q_EMIT pairLoaded();
+}
+
+QString FileOpening::macroPathFor(const QString &joystickPath)
+{
+    const QString folder = folderOf(joystickPath);
+    const QString name = nameOf(joystickPath);
+    const QString text = m_parts.view.document(DocumentKind::Joystick).control->text();
+    if (const auto reference = lastMdefReference(text)) {
+        QString named = existingPath(folder + macroNameFor(*reference, name));
+        if (fileExists(named)) {
+            return named;
+        }
+    }
+    const QString sameName = existingPath(folder + baseWithDot(name) + macroExtensionFor(name));
+    return fileExists(sameName) ? sameName : QString();
+}
+
+bool FileOpening::loadOrTell(DocumentKind kind, const QString &path)
+{
+    // The dialog goes and the status shows before the long work.
+    m_context.status.setTextNow(m_context.status.text());
+    const bool done = load(kind, path);
+    if (!done) {
+        m_context.status.setText(kind == DocumentKind::Joystick ? joystickNotOpened
+                                                                : macroNotOpened);
+    }
+    return done;
+}
+
+bool FileOpening::load(DocumentKind kind, const QString &wantedPath)
+{
+    const QString found = existingPath(wantedPath);
+    const QString path = found.isEmpty() ? wantedPath : found;
+    const auto bytes = readWholeFile(path);
+    if (!bytes) {
+        m_context.dialogs.tell(u"I couldn't open that file buddy"_s,
+                               bytes.error().path + u" wasn't opened. The system says: "_s
+                                   + bytes.error().reason,
+                               BoxIcon::Stop);
+        return false;
+    }
+    const auto text = documentText(*bytes);
+    if (!text) {
+        m_context.dialogs.tell(
+            u"That's no text file buddy"_s,
+            path + u" wasn't opened, because it holds a NUL byte (at offset "_s
+                + QString::number(text.error())
+                + u"), and no joystick or macro file ever does. Are you sure it's the right one?"_s,
+            BoxIcon::Stop);
+        return false;
+    }
+    EditorDocument &document = m_parts.view.document(kind);
+    m_parts.view.rename(document, path);
+    show(document, *text);
+    Q_EMIT loaded(kind, path);
+    return true;
+}
+
+void FileOpening::show(EditorDocument &document, const QString &text)
+{
+    EditorView &view = m_parts.view;
+    const BusyGuard busy(view);
+    if (document.kind == DocumentKind::Macro) {
+        Q_EMIT macroReplaced();
+    }
+    const auto coloured = m_parts.copies.load(document.name, text, view.plainFormat(document.kind));
+    restoreKeyboard();
+    if (coloured) {
+        document.control->setRichText(*coloured);
+    } else {
+        document.control->setText(text);
+        m_parts.highlighting.reformat(document);
+        m_parts.highlighting.applyColour(document);
+    }
+    view.updateCaptions();
+    document.caret = 0;
+    document.selLength = 0;
+    view.select(document.kind);
+    if (document.kind == DocumentKind::Joystick) {
+        m_parts.directives.GetUSEZephstatements();
+    }
+    document.state = EditorDocument::Saved;
+    document.recovered = false;
+    view.UpdateSavedIcon();
+    document.control->select(0, 0);
+}
+
+void FileOpening::showRecovered(DocumentKind kind, const QString &path, const QString &text)
+{
+    EditorDocument &document = m_parts.view.document(kind);
+    m_parts.view.rename(document, path);
+    show(document, text);
+    Q_EMIT loaded(kind, path);
+    document.recovered = true;
+    m_parts.view.setState(document, EditorDocument::Modified);
+}
+
+void FileOpening::offerToReload(const QStringList &overwritten)
+{
+    EditorView &view = m_parts.view;
+    const DocumentKind before = view.selected().kind;
+    for (const DocumentKind kind : { DocumentKind::Joystick, DocumentKind::Macro }) {
+        EditorDocument &document = view.document(kind);
+        if (isUntitled(document.name) || !isAmong(overwritten, document)) {
+            continue;
+        }
+        if (m_context.dialogs.box(reloadBox(document)) != BoxButton::Yes
+            || !loadOrTell(kind, document.path)) {
+            view.setState(document, EditorDocument::Modified);
+        }
+        view.select(before);
+    }
+}
+
+void FileOpening::OpenPreviouslySavedFiles(const QString &fileToOpen)
+{
+    if (!OpenSingleFileOnly) {
+        mnuFileOpen_Click(fileToOpen);
+    } else if (QStringView(u"tmmm22m50mdf").contains(lastThree(fileToOpen))) {
+        MnuFileMacroLoad_Click(fileToOpen);
+    } else {
+        mnuFileJoystickLoad_Click(fileToOpen);
+    }
+}
+
+void FileOpening::OpenFavouriteFile(const QString &fileToOpen)
+{
+    if (kindOfName(fileToOpen) == DocumentKind::Macro) {
+        MnuFileMacroLoad_Click(fileToOpen);
+    } else {
+        mnuFileJoystickLoad_Click(fileToOpen);
+    }
+}
+
+bool FileOpening::OpenRestoredStatus(const QString &joystickFile, const QString &macroFile)
+{
+    bool any = false;
+    if (!joystickFile.isEmpty() && fileExists(joystickFile)) {
+        OpenFavouriteFile(joystickFile);
+        any = true;
+    }
+    if (!macroFile.isEmpty() && fileExists(macroFile)) {
+        OpenFavouriteFile(macroFile);
+        any = true;
+    }
+    return any;
+}
+
+} // namespace zeph

@@ -1,0 +1,84 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "documents/editor_document.h"
+#include "platform/context.h"
+
+#include <QObject>
+
+namespace zeph {
+
+class ColouredCopies;
+class EditorView;
+class FileSaving;
+class Highlighting;
+class UseDirectives;
+
+/// Opening, by dialog, by list and at start. A path given stands for the dialog's answer.
+class FileOpening : public QObject
+{
+    Q_OBJECT
+public:
+    struct Parts {
+        EditorView &view;
+        ColouredCopies &copies;
+        Highlighting &highlighting;
+        UseDirectives &directives;
+        FileSaving &saving;
+    };
+    FileOpening(const Context &context, const Parts &parts);
+
+    void mnuFileJoystickLoad_Click(const std::optional<QString> &fileToOpen = {});
+    void MnuFileMacroLoad_Click(const std::optional<QString> &fileToOpen = {});
+    /// Opens a joystick file and the macro file that belongs to it, or the other way round.
+    void mnuFileOpen_Click(const std::optional<QString> &fileToOpen = {});
+
+    /// Opens a file of the recent lists or the command line: alone when the user wants single
+    /// files.
+    void OpenPreviouslySavedFiles(const QString &fileToOpen);
+    /// Opens just that one file, as a macro file by its extension.
+    void OpenFavouriteFile(const QString &fileToOpen);
+    /// Opens each of the files of the last run that still exists. True when any was opened.
+    bool OpenRestoredStatus(const QString &joystickFile, const QString &macroFile);
+
+    /// Shows a text that never came to its file as that file's, modified.
+    void showRecovered(DocumentKind kind, const QString &path, const QString &text);
+
+    /// Offers to open those of the documents again whose files are among these, which were just
+    /// overwritten. A document that stays as it is counts as modified.
+    void offerToReload(const QStringList &overwritten);
+
+    /// Whether a file from a list opens without its partner.
+    bool OpenSingleFileOnly = false;
+
+    /// Asks about unsaved changes before a document is replaced. False: nothing may be replaced.
+    bool mayReplace(DocumentKind kind, const QString &why, DocumentKind wanted);
+
+Q_SIGNALS:
+    /// A macro document is about to be replaced.
+    void macroReplaced();
+    /// A file was read into its document.
+    void loaded(DocumentKind kind, const QString &path);
+    /// A pair stands complete.
+    void pairLoaded();
+
+private:
+    bool load(DocumentKind kind, const QString &path);
+    /// As load(); a failure also stands on the status line.
+    bool loadOrTell(DocumentKind kind, const QString &path);
+    void show(EditorDocument &document, const QString &text);
+    std::optional<QString> ask(const QString &title, const QString &filter,
+                               const QString &extension, DocumentKind kind);
+    void openJoystickOf(const QString &macroPath);
+    void openMacroOf(const QString &joystickPath);
+    QString macroPathFor(const QString &joystickPath);
+    void restoreKeyboard();
+
+    Context m_context;
+    Parts m_parts;
+    QString m_keyboardLayout;
+};
+
+} // namespace zeph

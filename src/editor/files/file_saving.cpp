@@ -1,0 +1,262 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#include "editor/files/file_saving.h"
+
+#include "documents/coloured_copies.h"
+#include "documents/editor_view.h"
+#include "documents/text_control.h"
+#include "editor/files/use_directives.h"
+#include "platform/clock.h"
+#include "platform/core/file_attributes.h"
+#include "platform/core/text1252.h"
+#include "platform/dialogs.h"
+#include "platform/overwrite_question.h"
+#include "platform/status_line.h"
+#include "settings/global_settings.h"
+#include "text/date_stamp.h"
+#include "text/document_text.h"
+
+namespace zeph {
+
+namespace {
+
+struct SaveAsLook {
+    QStringView extension;
+    QStringView filter;
+};
+
+constexpr SaveAsLook saveAsLooks[] = {
+    { u"tmj", u"Joystick file (*.tmj)|*.tmj|All files (*.*)|*.*" },
+    { u"tmm", u"Macro file (*.tmm)|*.tmm|All files (*.*)|*.*" },
+};
+
+} // namespace
+
+FileSaving::FileSaving(const Context &context, EditorView &view, ColouredCopies &copies,
+                       UseDirectives &directives)
+    : m_context(context), m_view(view), m_copies(copies), m_directives(directives),
+      m_backups(context)
+{
+}
+
+void FileSaving::mnuFileSave_Click()
+{
+    EditorDocument &document = m_view.selected();
+    if (isUntitled(document.name)) {
+        mnuFileSaveAs_Click();
+        return;
+    }
+    if (isReadOnlyFile(document.path)) {
+        m_context.dialogs.tell(readOnlyTitle.toString(),
+                               document.path
+                                   + u" is read only. You'll need to save it elsewhere using the "
+                                     "Save As routine. I'll run this for you now."_s,
+                               BoxIcon::Exclamation);
+        mnuFileSaveAs_Click();
+        return;
+    }
+    SaveText(document);
+}
+
+void FileSaving::mnuFileSaveAs_Click()
+{
+    EditorDocument &document = m_view.selected();
+    const SaveAsLook &look = saveAsLooks[size_t(document.kind)];
+    const auto chosen = m_context.dialogs.saveFile(
+        { u"Save file as ..."_s, look.filter.toString(), look.extension.toString(),
+          m_context.paths.filesFolder(), proposedName(document) });
+    if (!chosen) {
+        return;
+    }
+    // A file whose name differs in nothing but case is the one that is overwritten: the tools that
+    // read it would never tell the two apart.
+    const QString existing = existingPath(*chosen);
+    const QString path = existing.isEmpty() ? *chosen : existing;
+    if (!mayOverwrite(m_context.dialogs, path)) {
+        return;
+    }
+    const QString oldPath = document.path;
+    m_view.rename(document, path);
+    SaveText(document);
+    if (document.state != EditorDocument::Saved) {
+        // The text still belongs to the file that it came from.
+        m_view.rename(document, oldPath);
+        m_view.UpdateSavedIcon();
+    }
+}
+
+void FileSaving::mnuFileSaveBoth_Click()
+{
+    const DocumentKind selected = m_view.selected().kind;
+    m_view.select(DocumentKind::Joystick);
+    mnuFileSave_Click();
+    m_view.select(DocumentKind::Macro);
+    mnuFileSave_Click();
+    m_view.select(selected);
+}
+
+QString FileSaving::proposedName(const EditorDocument &document)
+{
+    const bool macro = document.kind == DocumentKind::Macro;
+    const EditorDocument &other =
+        m_view.document(macro ? DocumentKind::Joystick : DocumentKind::Macro);
+    if (isUntitled(document.name) && !isUntitled(other.name)) {
+        return baseWithDot(other.name) + (macro ? u"tmm"_s : u"tmj"_s);
+    }
+    return document.name;
+}
+
+void FileSaving::SaveText(EditorDocument &document)
+{
+    TextControl &control = *document.control;
+    if (!encodable(document, Stranger::Show)) {
+        return;
+    }
+    if (m_context.settings.UpdateModified == 1) {
+        ModifyDate(document);
+    }
+    const TextControl::Place place = control.place();
+    const auto status = writePlain(document);
+    if (!status) {
+        return;
+    }
+    Q_EMIT written(document.kind);
+    finish(document, *status);
+    if (document.kind == DocumentKind::Joystick) {
+        m_directives.GetUSEZephstatements();
+    }
+    control.setPlace(place);
+    Q_EMIT saved(document.kind, document.path);
+}
+
+void FileSaving::AutoSaveText(EditorDocument &document)
+{
+    if (isReadOnlyFile(document.path)) {
+        tellUnsaved(document, { document.path, u"the file is read only."_s });
+        return;
+    }
+    if (!encodable(document, Stranger::TellOnly) || !keepStrangersFile(document)) {
+        return;
+    }
+    if (const auto status = writePlain(document)) {
+        finish(document, *status);
+    }
+}
+
+/// Puts the text on the disk, and its backup beside it. The status text, or nothing when the disk
+/// refused, which was told.
+std::optional<QString> FileSaving::writePlain(EditorDocument &document)
+{
+    Q_EMIT aboutToWrite(document.kind);
+    const QByteArray bytes = documentBytes(document.control->text());
+    if (const auto done = writeFileAtomically(document.path, bytes); !done) {
+        tellUnsaved(document, done.error());
+        return {};
+    }
+    QString status = document.path + u" saved successfully."_s;
+    if (const auto kept = m_backups.SaveJoystickBackup(document); !kept) {
+        status += u" Its backup wasn't: "_s + kept.error().reason;
+    }
+    if (isUntitled(document.name)) {
+        m_ownFresh[size_t(document.kind)] = bytes;
+    }
+    tellOtherDocument(document);
+    return status;
+}
+
+void FileSaving::finish(EditorDocument &document, QString status)
+{
+    m_view.setState(document, EditorDocument::Saved);
+    document.recovered = false;
+    m_view.UpdateSavedIcon();
+    if (const auto copied = m_copies.SaveColouredText(document); !copied) {
+        status += u" Its coloured copy wasn't: "_s + copied.error().reason;
+    }
+    m_context.status.setText(status);
+    Q_EMIT safe(document.kind);
+}
+
+void FileSaving::tellUnsaved(EditorDocument &document, const FileError &error)
+{
+    m_view.setState(document, EditorDocument::Modified);
+    tellNotSaved(m_context.dialogs, error);
+}
+
+/// A text without a name is saved under its fresh name, where the last run's may stand still, or
+/// that of a document which made room for this one: nobody was asked about those, so they move
+/// among the backups. False when they cannot, which is told.
+bool FileSaving::keepStrangersFile(const EditorDocument &document)
+{
+    if (!isUntitled(document.name) || !fileExists(document.path)) {
+        return true;
+    }
+    const auto bytes = readWholeFile(document.path);
+    if (bytes && m_ownFresh[size_t(document.kind)] == *bytes) {
+        return true;
+    }
+    const auto aside = bytes
+        ? m_backups.keepAside(document.caption(), *bytes, m_context.clock.now())
+        : Expected<QString, FileError>(Unexpected<FileError>(bytes.error()));
+    if (!aside) {
+        m_context.status.setText(document.path
+                                 + u" wasn't saved, because another text stands there: "_s
+                                 + aside.error().path + u": "_s + aside.error().reason);
+    }
+    return aside.has_value();
+}
+
+void FileSaving::tellOtherDocument(const EditorDocument &saved)
+{
+    EditorDocument &other = m_view.document(
+        saved.kind == DocumentKind::Macro ? DocumentKind::Joystick : DocumentKind::Macro);
+    // Nobody keeps the user from saving one document over the other's file. What the other one
+    // holds is then on no disk any more.
+    if (other.state == EditorDocument::Saved && other.path == saved.path
+        && other.control->text() != saved.control->text()) {
+        m_view.setState(other, EditorDocument::Modified);
+    }
+}
+
+bool FileSaving::encodable(EditorDocument &document, Stranger show)
+{
+    const QString text = document.control->text();
+    const qsizetype stranger = firstNot1252(text);
+    if (stranger < 0) {
+        return true;
+    }
+    const qsizetype line = QStringView(text).left(stranger).count(u'\n') + 1;
+    // Beyond the first plane a character is two units, which only together can be shown.
+    const qsizetype units = text[stranger].isHighSurrogate() && stranger + 1 < text.size() ? 2 : 1;
+    m_view.setState(document, EditorDocument::Modified);
+    m_context.dialogs.tell(
+        u"There's a letter in there that I can't write"_s,
+        document.path + u" wasn't saved: the character \""_s + text.mid(stranger, units)
+            + u"\" in line "_s + QString::number(line)
+            + u" doesn't exist in the Windows-1252 alphabet, which is all that the Thrustmaster "
+              "software reads. "_s
+            + (show == Stranger::Show ? u"I've selected it for you, so change it and save again."_s
+                                      : u"Please change it."_s),
+        BoxIcon::Exclamation);
+    if (show == Stranger::Show) {
+        m_view.select(document.kind);
+        document.control->select(int(stranger), int(units));
+    }
+    return false;
+}
+
+void FileSaving::ModifyDate(EditorDocument &document)
+{
+    const auto stamp = modifiedStamp(document.control->text(), m_context.clock.now());
+    if (!stamp) {
+        return;
+    }
+    const BusyGuard busy(m_view);
+    TextControl::Place place = document.control->place();
+    document.control->replace(int(stamp->start), int(stamp->length), stamp->text);
+    place.anchor = int(movedByStamp(*stamp, place.anchor));
+    place.caret = int(movedByStamp(*stamp, place.caret));
+    document.control->setPlace(place);
+}
+
+} // namespace zeph

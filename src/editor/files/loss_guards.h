@@ -1,0 +1,17 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "editor/files/auto_save.h"
+#include "editor/files/recovery.h"
+
+namespace zeph {
+
+/// What stands between the pilot and lost work.
+struct LossGuards {
+    AutoSave autoSave;
+    Recovery recovery;
+};
+
+} // namespace zeph

@@ -1,0 +1,43 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "documents/editor_document.h"
+#include "platform/context.h"
+#include "print/print_job.h"
+
+namespace zeph {
+
+class Editor;
+class Printers;
+
+/// The File menu's printing: either file, the selection, the preview, the setup and PDF files.
+class FilePrinting
+{
+public:
+    /// Connects the menu entries.
+    FilePrinting(const Context &context, Printers &printers, Editor &editor);
+
+    void mnuFilePrintJoystick_Click();
+    void mnuFilePrintMacro_Click();
+    /// Prints the selected tab's file, with the questions.
+    void PrintCurrent();
+    /// Prints the selection, or everything where nothing is selected.
+    void PrintAlternativeMethod();
+    void mnuFilePrinterSetup_Click();
+    /// Shows the selected file's pages.
+    void mnuFilePrintPreview_Click();
+    /// Writes the selected file's pages into a PDF file, for which no printer is needed.
+    void mnuFileExportPDF_Click();
+
+private:
+    PrintJob jobOf(EditorDocument &document) const;
+    void print(EditorDocument &document, const QString &kind);
+
+    Context m_context;
+    Printers &m_printers;
+    Editor &m_editor;
+};
+
+} // namespace zeph

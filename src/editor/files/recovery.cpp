@@ -1,0 +1,183 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#include "editor/files/recovery.h"
+
+#include "documents/editor_view.h"
+#include "documents/text_control.h"
+#include "editor/files/file_opening.h"
+#include "platform/clock.h"
+#include "platform/core/text1252.h"
+#include "platform/dialogs.h"
+#include "platform/handlers.h"
+#include "platform/status_line.h"
+#include "settings/global_settings.h"
+#include "text/date_stamp.h"
+#include "text/document_text.h"
+
+#include <QFileInfo>
+
+#include <utility>
+
+namespace zeph {
+
+namespace {
+
+constexpr DocumentKind bothKinds[] = { DocumentKind::Joystick, DocumentKind::Macro };
+
+/// The bytes under which a text goes among the backups: its own kind of file where that can hold
+/// it.
+QByteArray bytesOf(const QString &text)
+{
+    return firstNot1252(text) < 0 ? documentBytes(text) : text.toUtf8();
+}
+
+bool isOnDisk(const RecoveredText &recovered)
+{
+    const auto bytes = readWholeFile(recovered.path);
+    return bytes && documentText(*bytes) == recovered.text;
+}
+
+Box offerBox(const RecoveredText &recovered, const QString &callsign)
+{
+    const QFileInfo file(existingPath(recovered.path));
+    const QString onDisk = file.isFile()
+        ? u"The file on your disk is of "_s + stampText(file.lastModified()) + u'.'
+        : u"There's no such file on your disk."_s;
+    return { .title = u"Look what I found, "_s + callsign,
+             .text = u"It seems that we crashed last time before you could save "_s + recovered.path
+                 + u". Luckily I had pulled the black box out just before.\n\n"_s
+                 + u"My copy of your text is of "_s + stampText(recovered.written) + u".\n"_s
+                 + onDisk
+                 + u"\n\nWould you like my copy in the Editor? Nothing on your disk changes until "
+                   "you save it. If you'd rather not, I'll put it into your backup folder, just "
+                   "in case."_s,
+             .icon = BoxIcon::Question,
+             .buttons = { BoxButton::Yes, BoxButton::No },
+             .defaultButton = BoxButton::Yes };
+}
+
+} // namespace
+
+Recovery::Recovery(const Context &context, const Parts &parts)
+    : m_context(context), m_parts(parts), m_folder(context.paths.inApp(u"Recovery")),
+      m_backups(context), m_timer(&parts.view)
+{
+    m_timer.setObjectName(u"RecoveryTimer"_s);
+    m_timer.setSingleShot(true);
+    // A coarse timer may come some hundred milliseconds late, and with them go as many letters.
+    m_timer.setTimerType(Qt::PreciseTimer);
+    m_timer.setInterval(intervalMs);
+    m_timer.callOnTimeout(this, guarded(context.dialogs, [this](auto &&...) { update(); }));
+    for (const DocumentKind kind : bothKinds) {
+        connect(parts.view.document(kind).control, &TextControl::textChanged, this,
+                &Recovery::touched);
+    }
+}
+
+void Recovery::touched()
+{
+    // Not started afresh by each key: who types without a pause is kept too.
+    if (!m_timer.isActive()) {
+        m_timer.start();
+    }
+}
+
+void Recovery::update()
+{
+    for (const DocumentKind kind : bothKinds) {
+        QString &kept = m_kept[size_t(kind)];
+        if (m_parts.view.document(kind).isModified()) {
+            keep(kind);
+        } else if (!kept.isNull()) {
+            m_folder.remove(kind);
+            kept = QString();
+        }
+    }
+}
+
+void Recovery::keep(DocumentKind kind)
+{
+    const EditorDocument &document = m_parts.view.document(kind);
+    const QString text = document.control->text();
+    QString &kept = m_kept[size_t(kind)];
+    if (!kept.isNull() && kept == text) {
+        return;
+    }
+    const auto written = m_folder.write({ kind, document.path, m_context.clock.now(), text });
+    if (written) {
+        kept = text.isNull() ? u""_s : text;
+        return;
+    }
+    // The disk may have room again by then, and the pilot may not touch another key.
+    m_timer.start();
+    if (!std::exchange(m_failureTold, true)) {
+        m_context.status.setText(written.error().path + u" wasn't written, so better save often: "_s
+                                 + written.error().reason);
+    }
+}
+
+void Recovery::catchUp()
+{
+    for (const DocumentKind kind : bothKinds) {
+        if (!m_kept[size_t(kind)].isNull() && m_parts.view.document(kind).isModified()) {
+            keep(kind);
+        }
+    }
+}
+
+void Recovery::finish()
+{
+    m_timer.stop();
+    m_kept = {};
+    m_folder.finish();
+}
+
+void Recovery::offerLeft()
+{
+    std::array<bool, 2> taken{};
+    for (LeftRecovery &left : leftRecoveries(m_context.paths.inApp(u"Recovery"))) {
+        for (const LeftRecovery::File &file : left.files()) {
+            bool &isTaken = taken[size_t(file.recovered.kind)];
+            // A second text of the kind has no room in the Editor any more.
+            if (isOnDisk(file.recovered) || isInHand(file.recovered)
+                || (!isTaken && offer(file.recovered, isTaken)) || keepAside(file.recovered)) {
+                left.remove(file);
+            }
+        }
+        left.finish();
+    }
+}
+
+/// A run that fell over while it took a text back has left it twice.
+bool Recovery::isInHand(const RecoveredText &recovered) const
+{
+    const QString &kept = m_kept[size_t(recovered.kind)];
+    return !kept.isNull() && kept == recovered.text
+        && m_parts.view.document(recovered.kind).path == recovered.path;
+}
+
+/// Shows the text if the user wants it. It is kept on disk again before the old file goes.
+bool Recovery::offer(const RecoveredText &recovered, bool &taken)
+{
+    if (m_context.dialogs.box(offerBox(recovered, m_context.settings.PilotCallsign))
+        != BoxButton::Yes) {
+        return false;
+    }
+    taken = true;
+    m_parts.opening.showRecovered(recovered.kind, recovered.path, recovered.text);
+    update();
+    return !m_kept[size_t(recovered.kind)].isNull();
+}
+
+bool Recovery::keepAside(const RecoveredText &recovered)
+{
+    const auto kept = m_backups.keepAside(tabCaption(nameOf(recovered.path)),
+                                          bytesOf(recovered.text), recovered.written);
+    m_context.status.setText(kept ? u"Your text is in "_s + *kept
+                                  : kept.error().path + u" wasn't written: "_s
+                                     + kept.error().reason);
+    return kept.has_value();
+}
+
+} // namespace zeph

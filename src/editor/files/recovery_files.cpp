@@ -1,0 +1,188 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#include "editor/files/recovery_files.h"
+
+#include "platform/core/paths.h"
+
+#include <QDir>
+
+#include <algorithm>
+
+namespace zeph {
+
+namespace {
+
+constexpr QByteArrayView firstLine = "Zeph recovery file";
+constexpr QByteArrayView kindKey = "Kind=";
+constexpr QByteArrayView pathKey = "Path=";
+constexpr QByteArrayView writtenKey = "Written=";
+constexpr QByteArrayView lengthKey = "Length=";
+constexpr QByteArrayView kindNames[] = { "Joystick", "Macro" };
+constexpr QStringView fileNames[] = { u"joystick.txt", u"macro.txt" };
+/// More runs at once than anybody starts.
+constexpr int mostFolders = 1000;
+
+QByteArray keyLine(QByteArrayView key, const QByteArray &value)
+{
+    return key.toByteArray() + value + '\n';
+}
+
+/// Takes the value of the next line off the front; no value when the line has another key.
+std::optional<QByteArray> takeValue(QByteArrayView &bytes, QByteArrayView key)
+{
+    const qsizetype end = bytes.indexOf('\n');
+    if (end < 0 || !bytes.startsWith(key)) {
+        return {};
+    }
+    const QByteArray value = bytes.sliced(key.size(), end - key.size()).toByteArray();
+    bytes = bytes.sliced(end + 1);
+    return value;
+}
+
+QString fileIn(const QString &folder, DocumentKind kind)
+{
+    return withClosingSeparator(folder) + fileNames[size_t(kind)].toString();
+}
+
+void removeFolder(const QString &folder)
+{
+    QDir().rmdir(folder);
+    // The parent goes with the last of them; it stays while another run has its folder there.
+    QDir().rmdir(QFileInfo(folder).path());
+}
+
+} // namespace
+
+QByteArray recoveryBytes(const RecoveredText &recovered)
+{
+    const QByteArray text = recovered.text.toUtf8();
+    return keyLine(firstLine, {})
+        + keyLine(kindKey, kindNames[size_t(recovered.kind)].toByteArray())
+        + keyLine(pathKey, recovered.path.toUtf8())
+        + keyLine(writtenKey, recovered.written.toString(Qt::ISODate).toLatin1())
+        + keyLine(lengthKey, QByteArray::number(text.size())) + '\n' + text;
+}
+
+std::optional<RecoveredText> readRecovery(const QByteArray &bytes)
+{
+    QByteArrayView rest = bytes;
+    if (!takeValue(rest, firstLine)) {
+        return {};
+    }
+    const auto kind = takeValue(rest, kindKey);
+    const auto path = kind ? takeValue(rest, pathKey) : std::nullopt;
+    const auto written = path ? takeValue(rest, writtenKey) : std::nullopt;
+    const auto length = written ? takeValue(rest, lengthKey) : std::nullopt;
+    if (!length || !rest.startsWith('\n')) {
+        return {};
+    }
+    const auto *name = std::ranges::find(kindNames, QByteArrayView(*kind));
+    rest = rest.sliced(1);
+    if (name == std::end(kindNames) || rest.size() != length->toLongLong()) {
+        return {};
+    }
+    return RecoveredText{ DocumentKind(name - std::begin(kindNames)), QString::fromUtf8(*path),
+                          QDateTime::fromString(QString::fromLatin1(*written), Qt::ISODate),
+                          QString::fromUtf8(rest) };
+}
+
+RecoveryFolder::RecoveryFolder(const QString &parent) : m_parent(withClosingSeparator(parent)) { }
+
+Expected<void, FileError> RecoveryFolder::claim()
+{
+    QDir().mkpath(m_parent);
+    for (int number = 1; number <= mostFolders; ++number) {
+        const QString folder = m_parent + QString::number(number);
+        // Only who makes a folder owns it: one that is there may hold what another run left.
+        if (QDir().mkdir(folder)) {
+            m_lock = std::make_unique<InstanceLock>(folder);
+            if (!m_lock->isFirst()) {
+                // A program that starts right now takes the bare folder for one that a crash left.
+                continue;
+            }
+            m_folder = folder;
+            return {};
+        }
+        if (!folderExists(folder)) {
+            return Unexpected<FileError>(FileError{ folder, u"the folder can't be made."_s });
+        }
+    }
+    return Unexpected<FileError>(FileError{ m_parent, u"the folder is full."_s });
+}
+
+Expected<void, FileError> RecoveryFolder::write(const RecoveredText &recovered)
+{
+    if (m_folder.isEmpty()) {
+        if (auto claimed = claim(); !claimed) {
+            return claimed;
+        }
+    }
+    return writeFileAtomically(fileIn(m_folder, recovered.kind), recoveryBytes(recovered));
+}
+
+void RecoveryFolder::remove(DocumentKind kind)
+{
+    if (!m_folder.isEmpty()) {
+        QFile::remove(fileIn(m_folder, kind));
+    }
+}
+
+void RecoveryFolder::finish()
+{
+    if (m_folder.isEmpty()) {
+        return;
+    }
+    remove(DocumentKind::Joystick);
+    remove(DocumentKind::Macro);
+    m_lock.reset();
+    removeFolder(m_folder);
+    m_folder.clear();
+}
+
+LeftRecovery::LeftRecovery(QString folder, std::unique_ptr<InstanceLock> lock)
+    : m_folder(std::move(folder)), m_lock(std::move(lock))
+{
+    for (const DocumentKind kind : { DocumentKind::Joystick, DocumentKind::Macro }) {
+        const QString path = fileIn(m_folder, kind);
+        const auto bytes = readWholeFile(path);
+        if (auto recovered = bytes ? readRecovery(*bytes) : std::nullopt) {
+            m_files.append({ path, *std::move(recovered) });
+        }
+    }
+}
+
+void LeftRecovery::remove(const File &file)
+{
+    QFile::remove(file.path);
+}
+
+void LeftRecovery::finish()
+{
+    m_lock.reset();
+    // A write that never came to its end leaves its part beside the file, and it alone would keep
+    // the folder for ever.
+    QDir folder(m_folder);
+    for (const QStringView name : fileNames) {
+        for (const QString &part : folder.entryList({ name.toString() + u".*"_s }, QDir::Files)) {
+            folder.remove(part);
+        }
+    }
+    removeFolder(m_folder);
+}
+
+std::vector<LeftRecovery> leftRecoveries(const QString &parent)
+{
+    std::vector<LeftRecovery> left;
+    const QFileInfoList folders =
+        QDir(parent).entryInfoList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Time);
+    for (const QFileInfo &folder : folders) {
+        auto lock = std::make_unique<InstanceLock>(folder.filePath());
+        if (lock->isFirst()) {
+            left.emplace_back(folder.filePath(), std::move(lock));
+        }
+    }
+    return left;
+}
+
+} // namespace zeph

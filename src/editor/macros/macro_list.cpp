@@ -1,0 +1,244 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#include "editor/macros/macro_list.h"
+
+#include "documents/coloured_insert.h"
+#include "documents/editor_view.h"
+#include "documents/text_control.h"
+#include "editor/files/file_saving.h"
+#include "editor/macros/framemacros.h"
+#include "menus/menu_actions.h"
+#include "platform/core/file_io.h"
+#include "platform/core/text_search.h"
+#include "platform/dialogs.h"
+#include "platform/handlers.h"
+#include "platform/status_line.h"
+#include "settings/global_settings.h"
+#include "settings/settings_files.h"
+#include "text/document_text.h"
+
+#include <QAction>
+#include <QComboBox>
+
+namespace zeph {
+
+MacroList::MacroList(const Context &context, const Parts &parts)
+    : m_context(context), m_parts(parts), m_frame(std::make_unique<FrameMacros>(m_model))
+{
+    MacroListView &list = m_frame->list();
+    connect(&list, &MacroListView::chosen, this,
+            guarded(context.dialogs, [this](const QString &name) { choose(name); }));
+    connect(&list, &MacroListView::insertWanted, this,
+            guarded(context.dialogs, [this](const QString &name) {
+                SelectedMacro = name;
+                List1_DblClick();
+            }));
+    connect(&list, &MacroListView::findWanted, this, &MacroList::findWanted);
+    connect(&list, &MacroListView::popUpWanted, this, &MacroList::popUpWanted);
+    connect(&list, &MacroListView::dragStarted, this, &MacroList::dragStarted);
+    connect(m_frame.get(), &FrameMacros::headingChosen, this,
+            guarded(context.dialogs, [this](const QString &heading) { Combo1_Click(heading); }));
+    connect(m_frame.get(), &FrameMacros::widthChosen, this, &MacroList::storeWidth);
+    ClearAllForNewMacroFile();
+}
+
+MacroList::~MacroList() = default;
+
+void MacroList::ClearAllForNewMacroFile()
+{
+    m_table = MacroTable();
+    MacroListIsEmpty = true;
+    m_frame->setHeadings({});
+    m_heading = 0;
+    m_model.setNames({});
+    m_context.status.setTextTooltip(macroCounts(m_table));
+    Q_EMIT tableChanged();
+}
+
+void MacroList::GetEachLineFromMacroFile()
+{
+    const EditorDocument &macro = m_parts.view.document(DocumentKind::Macro);
+    const QString path = existingPath(macro.path);
+    if (path.isEmpty()) {
+        return;
+    }
+    m_context.status.setText(u"Opening "_s + macro.name + u" file for analysis "_s);
+    m_table.MacroLines.clear();
+    const auto bytes = readWholeFile(path);
+    if (!bytes) {
+        return;
+    }
+    if (const auto text = documentText(*bytes)) {
+        m_table.MacroLines = usableMacroLines(*text);
+    }
+}
+
+void MacroList::ExtractMacrosAndTitles()
+{
+    m_context.status.setText(u"Analysing "_s + m_parts.view.document(DocumentKind::Macro).name
+                             + u" for macros and sub-headings. Please wait ..."_s);
+    m_table = extractMacros(m_table.MacroLines);
+    MacroListIsEmpty = false;
+    m_model.setNames(m_table.names);
+    m_frame->setHeadings(m_table.MacroHeadings);
+    showHeading(0);
+    m_context.status.setTextTooltip(macroCounts(m_table));
+    m_context.status.setText(u"Done"_s);
+    Q_EMIT tableChanged();
+}
+
+void MacroList::showHeading(qsizetype heading)
+{
+    m_heading = heading;
+    m_model.showHeading(heading);
+    m_frame->setCurrentHeading(int(heading));
+}
+
+void MacroList::Combo1_Click(const QString &heading)
+{
+    if (m_frame->isVisible()) {
+        m_frame->list().setFocus();
+    }
+    m_context.status.setText(u"Select a macro heading to view the macros under it"_s);
+    const auto isChosen = [&heading](const QString &each) {
+        return each.compare(heading, Qt::CaseInsensitive) == 0;
+    };
+    const QStringList &all = m_table.MacroHeadings;
+    showHeading(std::distance(all.begin(), std::find_if(all.begin(), all.end(), isChosen)));
+    if (m_frame->list().selectFirst()) {
+        select(m_frame->list().currentName());
+    }
+}
+
+void MacroList::select(const QString &name)
+{
+    SelectedMacro = name;
+    if (m_listSelection != name) {
+        m_listSelection = name;
+        Q_EMIT listSelectionChanged();
+    }
+    ShowMacroKeys();
+}
+
+void MacroList::choose(const QString &name)
+{
+    select(name);
+    Q_EMIT macroChosen(name);
+}
+
+void MacroList::ShowMacroKeys()
+{
+    const auto line = macroKeys(m_table, SelectedMacro);
+    if (!line) {
+        return;
+    }
+    m_context.status.setText(*line);
+    const bool macroIsSeen =
+        m_parts.view.selected().kind == DocumentKind::Macro || m_parts.view.isTiled();
+    if (macroIsSeen && m_parts.actions.action(u"MnuMacroSelectMacroShow")->isChecked()) {
+        showInMacroText(*line);
+    }
+}
+
+bool MacroList::showInMacroText(const QString &line)
+{
+    TextControl &control = *m_parts.view.document(DocumentKind::Macro).control;
+    const qsizetype at = findText(control.text(), line, 0, SearchPlain);
+    if (at >= 0) {
+        control.select(int(at), int(line.size()));
+        control.centerCursor();
+    }
+    return at >= 0;
+}
+
+void MacroList::List1_DblClick()
+{
+    if (SelectedMacro.isEmpty() || m_parts.view.refuseProtected()) {
+        return;
+    }
+    const EditorDocument &document = m_parts.view.selected();
+    const TextControl &control = *document.control;
+    const int at = control.selStart();
+    const bool needsBlank =
+        control.selLength() == 0 && at > 0 && control.document()->characterAt(at - 1) != u' ';
+    m_parts.insert.BeginColInsert();
+    m_parts.insert.InsertColouredStringNoSpace(
+        (needsBlank ? u" "_s : QString()) + SelectedMacro + u' ',
+        m_parts.view.plainFormat(document.kind).colour.value_or(0));
+    m_parts.insert.EndColInsert();
+    Q_EMIT inserted();
+}
+
+void MacroList::mnuRHListEdit_Click()
+{
+    m_parts.view.select(DocumentKind::Macro);
+    m_parts.view.ResetFocusToEditor();
+    if (const auto line = macroKeys(m_table, SelectedMacro)) {
+        m_context.status.setText(*line);
+        showInMacroText(*line);
+    }
+}
+
+bool MacroList::askForSave()
+{
+    const EditorDocument &macro = m_parts.view.document(DocumentKind::Macro);
+    const BoxButton answer = m_context.dialogs.box(
+        { u" Save "_s + macro.name + u" now?"_s,
+          macro.name
+              + u" has changed and isn't saved. You must save it if you want to update your macros "
+                "list. Shall I go ahead and save it?"_s,
+          BoxIcon::Question,
+          { BoxButton::Yes, BoxButton::No },
+          BoxButton::Yes });
+    if (answer == BoxButton::Yes) {
+        m_parts.saving.mnuFileSave_Click();
+    }
+    if (!macro.isModified()) {
+        return true;
+    }
+    m_context.dialogs.tell(
+        u"File not saved"_s,
+        macro.name + u" wasn't saved, so I won't continue to update your macros list."_s);
+    return false;
+}
+
+void MacroList::mnuEditUpdateMacros_Click()
+{
+    const EditorDocument &macro = m_parts.view.document(DocumentKind::Macro);
+    if (!macro.control->text().contains(u'=')) {
+        return;
+    }
+    m_parts.view.select(DocumentKind::Macro);
+    if (macro.isModified() && !askForSave()) {
+        return;
+    }
+    const BusyGuard busy(m_parts.view);
+    show();
+    ClearAllForNewMacroFile();
+    GetEachLineFromMacroFile();
+    ExtractMacrosAndTitles();
+}
+
+void MacroList::mnuViewMacros_Click()
+{
+    m_frame->setVisible(m_parts.actions.action(u"mnuViewMacros")->isChecked());
+}
+
+void MacroList::show()
+{
+    QAction *view = m_parts.actions.action(u"mnuViewMacros");
+    if (!view->isChecked()) {
+        view->trigger();
+    }
+}
+
+void MacroList::storeWidth(int width)
+{
+    m_context.settings.MacroFrameWidth = qint16(width);
+    // A store that cannot be written is nobody's failure: the width then holds for this run.
+    (void)saveSettings(m_context.settings, settingsFilesOf(m_context.paths),
+                       { &GlobalSettings::MacroFrameWidth });
+}
+
+} // namespace zeph

@@ -1,0 +1,189 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#include "editor/macros/macro_operations.h"
+
+#include "documents/edit_step.h"
+#include "documents/editor_texts.h"
+#include "documents/editor_view.h"
+#include "documents/text_control.h"
+#include "documents/undo_history.h"
+#include "editor/files/file_saving.h"
+#include "editor/macros/macro_list.h"
+#include "editor/macros/macrorenameform.h"
+#include "menus/menu_actions.h"
+#include "platform/status_line.h"
+#include "text/macro_search.h"
+
+#include <QAction>
+#include <QMouseEvent>
+#include <QTextBlock>
+
+#include <algorithm>
+
+namespace zeph {
+
+MacroOperations::MacroOperations(const Context &context, const Parts &parts)
+    : m_context(context), m_parts(parts)
+{
+    connect(&parts.list, &MacroList::listSelectionChanged, this, [this] { m_foundName.clear(); });
+    QWidget *viewport = parts.view.document(DocumentKind::Joystick).control->viewport();
+    viewport->setMouseTracking(true);
+    viewport->installEventFilter(this);
+}
+
+void MacroOperations::ClearMacroTicks()
+{
+    m_parts.list.model().clearTicks();
+}
+
+void MacroOperations::TickMacroList()
+{
+    const QString &name = m_parts.list.SelectedMacro;
+    if (!name.isEmpty()) {
+        const QString text = m_parts.view.document(DocumentKind::Joystick).control->text();
+        m_parts.list.model().setTick(name, !macroUses(text, name).isEmpty());
+    }
+}
+
+void MacroOperations::IdentifyMacrosUsed(Mode mode)
+{
+    const EditorDocument &joystick = m_parts.view.document(DocumentKind::Joystick);
+    const EditorDocument &macro = m_parts.view.document(DocumentKind::Macro);
+    if (joystick.control->document()->isEmpty() || macro.control->document()->isEmpty()) {
+        return;
+    }
+    m_context.status.setText(u"Analysing the macros you've already assigned in the "_s
+                             + joystick.name + u". Please wait ..."_s);
+    const QStringList &names = m_parts.list.model().allNames();
+    const QList<bool> used = usedMacros(joystick.control->text(), names);
+    QStringList ticked;
+    for (qsizetype i = 0; i < names.size(); ++i) {
+        if (used[i]) {
+            ticked.append(names[i]);
+        }
+    }
+    m_parts.list.model().setTicked(ticked);
+    if (mode == ShowAll && !m_parts.list.MacroListIsEmpty) {
+        m_parts.list.showHeading(0);
+    }
+    m_context.status.setText(u"Finished analysing the macros assigned in your joystick file."_s);
+}
+
+void MacroOperations::FindMacroInJF()
+{
+    const QString name = m_parts.list.SelectedMacro;
+    EditorDocument &joystick = m_parts.view.document(DocumentKind::Joystick);
+    const QList<qsizetype> uses = macroUses(joystick.control->text(), name);
+    if (uses.isEmpty()) {
+        return;
+    }
+    const auto next =
+        m_foundName == name ? std::lower_bound(uses.begin(), uses.end(), m_findFrom) : uses.begin();
+    const qsizetype at = next == uses.end() ? uses.first() : *next;
+    m_foundName = name;
+    m_findFrom = at + name.size();
+    m_parts.view.select(DocumentKind::Joystick);
+    joystick.control->select(int(at), int(name.size()));
+    joystick.control->centerCursor();
+}
+
+void MacroOperations::mnuRenameMacro_Click()
+{
+    MacroRenameForm form(m_context.dialogs, m_parts.list.model().allNames(),
+                         m_parts.list.SelectedMacro, m_parts.view.window());
+    if (form.exec() != QDialog::Accepted) {
+        return;
+    }
+    ChangeMacroName(form.oldName(), form.newName());
+    if (form.wantsAutoSave()) {
+        m_parts.saving.mnuFileSaveBoth_Click();
+        m_parts.list.mnuEditUpdateMacros_Click();
+        IdentifyMacrosUsed(KeepHeading);
+    }
+}
+
+void MacroOperations::ChangeMacroName(const QString &oldName, const QString &newName)
+{
+    if (m_parts.view.isProtected()) {
+        m_context.dialogs.box(fileProtectedBox());
+        return;
+    }
+    const int inJoystick = renameIn(DocumentKind::Joystick, oldName, newName);
+    const int inMacro = renameIn(DocumentKind::Macro, oldName, newName);
+    const auto counted = [this](int count, DocumentKind kind) {
+        return QString::number(count) + u" replacements were made in "_s
+            + m_parts.view.document(kind).name;
+    };
+    m_context.dialogs.tell(u"Replaced 'em all for you. Now buy me a drink"_s,
+                           counted(inJoystick, DocumentKind::Joystick) + u", and "_s
+                               + counted(inMacro, DocumentKind::Macro));
+}
+
+int MacroOperations::renameIn(DocumentKind kind, const QString &oldName, const QString &newName)
+{
+    EditorDocument &document = m_parts.view.document(kind);
+    const QString text = document.control->text();
+    if (text.isEmpty()) {
+        return 0;
+    }
+    const QList<qsizetype> hits = renameHits(text, oldName);
+    if (hits.isEmpty()) {
+        const QString notFound = oldName + u" not found in "_s + document.name;
+        m_context.status.setText(notFound);
+        m_context.dialogs.tell(u"Text not found"_s, notFound);
+        return 0;
+    }
+    {
+        const EditStep step(m_parts.view, m_parts.undos, kind);
+        document.control->replaceAll(hits, int(oldName.size()), newName);
+        const qsizetype grown = (hits.size() - 1) * (newName.size() - oldName.size());
+        document.control->select(int(hits.last() + grown + newName.size()), 0);
+    }
+    m_context.status.setLine(m_parts.view.selected().control->caretLine());
+    return int(hits.size());
+}
+
+QString MacroOperations::RichWordOver(const TextControl &control, const QPoint &at)
+{
+    const QTextCursor nearest = control.cursorForPosition(at);
+    const QRect place = control.cursorRect(nearest);
+    if (at.y() < place.top() || at.y() > place.bottom()) {
+        return {};
+    }
+    // A word ends at its line's end, so its line is enough; the place nearest to the point may be
+    // the one behind the character that the point is on.
+    const int position = nearest.positionInBlock() - (at.x() < place.left() ? 1 : 0);
+    return wordOver(nearest.block().text(), position);
+}
+
+void MacroOperations::mouseMoved(const QPoint &at)
+{
+    if (!m_parts.actions.action(u"mnuMacroMouseActive")->isChecked()
+        || m_context.status.text().startsWith(u"Compile")) {
+        return;
+    }
+    const QString word = RichWordOver(*m_parts.view.document(DocumentKind::Joystick).control, at);
+    if (word == m_wordUnderMouse) {
+        return;
+    }
+    m_wordUnderMouse = word;
+    if (!word.isEmpty()) {
+        // A blank under the mouse leaves the macro that was chosen in the list: the way to the
+        // menus crosses the text.
+        m_parts.list.SelectedMacro = word;
+        m_parts.list.ShowMacroKeys();
+    }
+}
+
+bool MacroOperations::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::MouseMove) {
+        mouseMoved(static_cast<QMouseEvent *>(event)->pos());
+    } else if (event->type() == QEvent::Leave) {
+        m_wordUnderMouse.clear();
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+} // namespace zeph

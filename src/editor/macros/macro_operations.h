@@ -1,0 +1,74 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "language/file_kinds.h"
+#include "platform/context.h"
+
+#include <QObject>
+
+class QPoint;
+class QWidget;
+
+namespace zeph {
+
+class MenuActions;
+class EditorView;
+class FileSaving;
+class MacroList;
+class TextControl;
+class UndoHistories;
+
+/// What ties the macro list to the two texts: which macros are used and where, a rename in both
+/// files, the macro under the mouse.
+class MacroOperations : public QObject
+{
+    Q_OBJECT
+public:
+    struct Parts {
+        EditorView &view;
+        MenuActions &actions;
+        FileSaving &saving;
+        UndoHistories &undos;
+        MacroList &list;
+    };
+    /// Which heading is shown after the macros used were identified.
+    enum Mode : qint16 { ShowAll = 1, KeepHeading = 2 };
+
+    MacroOperations(const Context &context, const Parts &parts);
+
+    void ClearMacroTicks();
+    /// Brings the selected macro's tick up to date.
+    void TickMacroList();
+    /// Ticks every macro that the joystick text uses; nothing happens while a text is empty.
+    void IdentifyMacrosUsed(Mode mode);
+
+    /// Selects the selected macro's next use in the joystick text, behind the last one the first
+    /// again.
+    void FindMacroInJF();
+
+    /// Asks for a macro and its new name, and renames it.
+    void mnuRenameMacro_Click();
+    /// Renames in both texts and tells how often.
+    void ChangeMacroName(const QString &oldName, const QString &newName);
+
+    /// The word under a point of a text control's viewport; empty when there is none.
+    static QString RichWordOver(const TextControl &control, const QPoint &at);
+    /// Shows the keys of the macro that the mouse touches in the joystick text.
+    void mouseMoved(const QPoint &at);
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    int renameIn(DocumentKind kind, const QString &oldName, const QString &newName);
+
+    Context m_context;
+    Parts m_parts;
+    QString m_foundName;
+    qsizetype m_findFrom = 0;
+    QString m_wordUnderMouse;
+};
+
+} // namespace zeph

@@ -1,0 +1,171 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#include "language/forms.h"
+#include "language/reporter.h"
+#include "language/scan.h"
+#include "language/vocabulary.h"
+
+namespace zeph::language {
+
+namespace {
+
+constexpr int lastCurve = 32;
+constexpr int lastTrim = 127;
+
+bool isName(QStringView text)
+{
+    return !text.isEmpty() && nameEnd(text, 0) == text.size();
+}
+
+void checkAxis(Reporter &reporter, const Argument &axis)
+{
+    const WordInfo info = wordInfo(axis.text);
+    if (isName(axis.text) && !info.is(AxisRole) && !info.is(AxisGroupRole))
+        reporter.report(UnknownAxis, axis.place, u"There is no axis %1"_s.arg(axis.text));
+}
+
+// A trim's sign leads for a fixed value and follows for one that is added.
+std::optional<int> trimValue(QStringView text)
+{
+    if (text.size() > 1 && (text.endsWith(u'+') || text.endsWith(u'-')))
+        text.chop(1);
+    return wholeNumber(text);
+}
+
+void checkTrim(Reporter &reporter, const Arguments &arguments)
+{
+    checkAxis(reporter, arguments[0]);
+    if (arguments.size() != 2)
+        return;
+    const std::optional<int> value = trimValue(arguments[1].text);
+    if (value && qAbs(*value) > lastTrim)
+        reporter.report(ValueOutOfRange, arguments[1].place,
+                        u"The trim %1 lies outside -127 to 127"_s.arg(arguments[1].text));
+}
+
+void checkOneAxis(Reporter &reporter, const Arguments &arguments)
+{
+    if (arguments.size() == 1)
+        checkAxis(reporter, arguments[0]);
+}
+
+void checkLock(Reporter &reporter, const Arguments &arguments)
+{
+    checkAxis(reporter, arguments[0]);
+}
+
+void checkSwap(Reporter &reporter, const Arguments &arguments)
+{
+    if (arguments.size() != 2)
+        return;
+    checkAxis(reporter, arguments[0]);
+    checkAxis(reporter, arguments[1]);
+    const WordInfo first = wordInfo(arguments[0].text);
+    const WordInfo second = wordInfo(arguments[1].text);
+    const bool unequal = (first.is(AxisRole) && second.is(AxisGroupRole))
+        || (first.is(AxisGroupRole) && second.is(AxisRole));
+    if (unequal)
+        reporter.report(UnequalSwap, arguments[0].place,
+                        u"%1 and %2 cannot be swapped: one is a pair of axes"_s.arg(
+                            arguments[0].text, arguments[1].text));
+}
+
+void checkThrottleRange(Reporter &reporter, const Arguments &arguments)
+{
+    if (arguments.size() != 2)
+        return;
+    const std::optional<int> from = wholeNumber(arguments[0].text);
+    const std::optional<int> to = wholeNumber(arguments[1].text);
+    if (from && to && *to <= *from)
+        reporter.report(ThrottleRangeOrder, arguments[0].place,
+                        u"The second value of THR_RANGE must be greater than the first"_s);
+}
+
+void checkControl(Reporter &reporter, const Arguments &arguments)
+{
+    const Argument &name = arguments[0];
+    if (arguments.size() == 1 && isName(name.text) && !wordInfo(name.text).is(ControlRole))
+        reporter.report(UnknownControl, name.place, u"There is no control %1"_s.arg(name.text));
+}
+
+using CallCheck = void (*)(Reporter &, const Arguments &);
+
+struct CallRule {
+    CallShape shape;
+    CallCheck check;
+};
+
+constexpr CallRule rules[] = {
+    { CallShape::AxisAndCurve, checkCurve }, { CallShape::AxisAndTrim, checkTrim },
+    { CallShape::Axis, checkOneAxis },       { CallShape::AxisAndLock, checkLock },
+    { CallShape::TwoAxes, checkSwap },       { CallShape::TwoPercents, checkThrottleRange },
+    { CallShape::Control, checkControl },
+};
+
+} // namespace
+
+void Reporter::report(Code code, const Place &place, const QString &message)
+{
+    const Code told = m_file == File::Macro ? InMacroFile : code;
+    m_findings.append({ told, message, m_file, place });
+}
+
+bool isIn(Words words, QStringView word)
+{
+    return std::any_of(words.begin(), words.end(),
+                       [&](QStringView candidate) { return sameWord(candidate, word); });
+}
+
+Arguments argumentsOf(const Source &source, const Item &item)
+{
+    const QStringView text(source.text);
+    Arguments arguments;
+    Place place{ item.place.position, 0, item.place.line };
+    bool begun = false;
+    const auto end = [&] {
+        arguments.append({ text.sliced(place.position, place.length), place });
+    };
+    const int first = int(&item - source.items.constData()) + 1;
+    for (int index = first; index < item.endItem; index = source.items[index].endItem) {
+        const Item &part = source.items[index];
+        if (part.kind == ItemKind::Comma) {
+            end();
+            place = { part.place.end(), 0, part.place.line };
+            begun = false;
+            continue;
+        }
+        if (!begun)
+            place = part.place;
+        begun = true;
+        place.length = part.place.end() - place.position;
+    }
+    end();
+    return arguments;
+}
+
+void checkCurve(Reporter &reporter, const Arguments &arguments)
+{
+    checkAxis(reporter, arguments[0]);
+    if (arguments.size() != 2)
+        return;
+    const std::optional<int> value = wholeNumber(arguments[1].text);
+    if (value && qAbs(*value) > lastCurve)
+        reporter.report(ValueOutOfRange, arguments[1].place,
+                        u"The curve %1 lies outside -32 to 32"_s.arg(arguments[1].text));
+}
+
+void checkCalls(Reporter &reporter)
+{
+    for (const Item &item : reporter.source().items) {
+        if (item.kind != ItemKind::Call || !item.closed)
+            continue;
+        const CallShape shape = callForms()[size_t(item.reference)].shape;
+        for (const CallRule &rule : rules) {
+            if (rule.shape == shape)
+                rule.check(reporter, argumentsOf(reporter.source(), item));
+        }
+    }
+}
+
+} // namespace zeph::language

@@ -1,0 +1,146 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#include "language/reporter.h"
+#include "language/scan.h"
+
+namespace zeph::language {
+
+namespace {
+
+constexpr int lastAxisType = 6;
+constexpr int lastPercent = 100;
+
+using Parts = QVarLengthArray<const Item *, 8>;
+
+// The items of a branch that stand in no bracket.
+Parts topLevel(const Source &source, const Branch &branch)
+{
+    Parts parts;
+    for (int index = branch.items.first; index < branch.items.end;) {
+        const Item &item = source.items[index];
+        if (item.parent < 0)
+            parts.append(&item);
+        index = item.endItem;
+    }
+    return parts;
+}
+
+// Only these say under which switches an axis has which keys; behind any other modifier stand the
+// keys themselves.
+bool opensDefinition(const Branch &branch)
+{
+    for (int at = 0; at < branch.chain.size; ++at) {
+        const int modifier = branch.chain.links[size_t(at)].modifier;
+        const PositionClass position = slashModifiers()[size_t(modifier)].position;
+        if (position != PositionClass::Dogfight && position != PositionClass::S3)
+            return false;
+    }
+    return true;
+}
+
+std::optional<int> number(const Source &source, const Parts &parts, int index)
+{
+    if (index >= parts.size() || parts[index]->kind != ItemKind::Number)
+        return {};
+    return wholeNumber(source.at(*parts[index]));
+}
+
+// Half percents round to the even neighbour, so that two borders one percent apart can print alike.
+// Halves come from counts that are multiples of eight.
+bool mayPrintAlike(int border, int count)
+{
+    return border % 2 == 0 && count % 8 == 0;
+}
+
+void checkBorders(Reporter &reporter, const Item &group, int count)
+{
+    const Source &source = reporter.source();
+    int borders = 0;
+    int before = -1;
+    for (int index = int(&group - source.items.constData()) + 1; index < group.endItem; ++index) {
+        const Item &item = source.items[index];
+        if (item.kind == ItemKind::Comma)
+            continue;
+        const std::optional<int> border =
+            item.kind == ItemKind::Number ? wholeNumber(source.at(item)) : std::nullopt;
+        if (!border)
+            return;
+        const bool rises = *border > before || (*border == before && mayPrintAlike(before, count));
+        if (*border < 0 || *border > lastPercent || !rises) {
+            reporter.report(BandBorders, item.place,
+                            u"The border %1 is out of order"_s.arg(source.at(item)));
+            return;
+        }
+        before = *border;
+        ++borders;
+    }
+    if (borders != count + 1)
+        reporter.report(
+            BandCount, group.place,
+            u"%1 bands need %2 borders, and there are %3"_s.arg(count).arg(count + 1).arg(borders));
+}
+
+void checkBands(Reporter &reporter, const Parts &parts)
+{
+    const std::optional<int> count = number(reporter.source(), parts, 1);
+    if (!count)
+        return;
+    if (*count < 1 || *count > lastBandCount) {
+        reporter.report(BandCount, parts[1]->place,
+                        u"The number of bands must be 1 to 50, not %1"_s.arg(*count));
+        return;
+    }
+    const bool hasBorders = parts.size() > 2 && parts[2]->kind == ItemKind::Group;
+    if (!hasBorders)
+        reporter.report(BandCount, parts[1]->place, u"The borders of the bands are missing"_s);
+    else if (parts[2]->closed)
+        checkBorders(reporter, *parts[2], *count);
+}
+
+bool isSingleKey(const Item &item)
+{
+    return item.kind == ItemKind::Key || item.kind == ItemKind::Number
+        || item.kind == ItemKind::MacroUse;
+}
+
+// Three keys are up, down and centre; with a SHF or an unknown word among them it is not certain
+// how many keys there are.
+void checkCentre(Reporter &reporter, Parts parts)
+{
+    const Source &source = reporter.source();
+    const auto size = parts.size();
+    if (size > 2 && sameWord(source.at(*parts[size - 1]), u"FORCE_MACROS"))
+        parts.resize(source.at(*parts[size - 2]) == u"-" ? size - 2 : size - 1);
+    const std::optional<int> count = number(source, parts, 1);
+    if (!count || *count % 2 == 0 || parts.size() != 5)
+        return;
+    if (std::all_of(parts.begin() + 2, parts.end(), [](const Item *i) { return isSingleKey(*i); }))
+        reporter.report(OddBandsWithCentre, parts[1]->place,
+                        u"The number of bands is odd, and there is a centre character"_s);
+}
+
+} // namespace
+
+void checkDigitalAxis(Reporter &reporter, const Statement &statement)
+{
+    const Source &source = reporter.source();
+    for (int index = statement.body.branches.first; index < statement.body.branches.end; ++index) {
+        const Branch &branch = source.branches[index];
+        if (!opensDefinition(branch))
+            continue;
+        const Parts parts = topLevel(source, branch);
+        const std::optional<int> type = number(source, parts, 0);
+        if (!type)
+            continue;
+        if (*type < 1 || *type > lastAxisType)
+            reporter.report(UnknownAxisType, parts[0]->place,
+                            u"There is no digital axis of type %1"_s.arg(*type));
+        else if (*type == 1)
+            checkCentre(reporter, parts);
+        else if (*type >= 5)
+            checkBands(reporter, parts);
+    }
+}
+
+} // namespace zeph::language

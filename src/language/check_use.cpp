@@ -1,0 +1,179 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#include "language/forms.h"
+#include "language/reporter.h"
+#include "language/scan.h"
+#include "language/vocabulary.h"
+
+namespace zeph::language {
+
+namespace {
+
+constexpr int lastMouseRate = 127;
+// With all buttons given to Windows there are more than the 28 that have a statement of their own.
+constexpr int lastDirectXButton = 32;
+constexpr int lastDirectXAxis = 10;
+
+/// The body of a USE statement, read from left to right.
+class UseBody
+{
+public:
+    UseBody(const Source &source, const Statement &statement)
+        : m_source(source), m_at(statement.body.items.first), m_end(statement.body.items.end)
+    {
+    }
+
+    /// The next item that stands in no bracket, or null at the end.
+    const Item *next()
+    {
+        if (m_at >= m_end)
+            return nullptr;
+        const Item &item = m_source.items[m_at];
+        m_at = item.endItem;
+        return &item;
+    }
+
+    /// The word of an item; of a call, what stands before the bracket.
+    QStringView word(const Item *item) const
+    {
+        if (!item)
+            return {};
+        const QStringView text = m_source.at(*item);
+        return item->kind == ItemKind::Call ? text.first(nameEnd(text, 0)) : text;
+    }
+
+private:
+    const Source &m_source;
+    int m_at;
+    int m_end;
+};
+
+void checkMouseType(Reporter &reporter, UseBody body)
+{
+    const Item *type = body.next();
+    const QStringView word = body.word(type);
+    const bool isLettered = word.size() > 1 && sameWord(word.first(1), u"A");
+    const std::optional<int> number = isLettered ? wholeNumber(word.sliced(1)) : std::nullopt;
+    if (number && (*number < 1 || *number > 5))
+        reporter.report(UnknownMouseType, type->place, u"There is no mouse type %1"_s.arg(word));
+}
+
+void checkHatRole(Reporter &reporter, const Statement &statement, UseBody body)
+{
+    const Item *role = body.next();
+    if (!role || !isIn(hatRoles(), body.word(role))) {
+        reporter.report(UnknownHatRole, role ? role->place : statement.subject,
+                        u"A hat can be POV, ARROWKEYS, KEYPAD or MOUSE"_s);
+        return;
+    }
+    if (role->kind != ItemKind::Call || !role->closed)
+        return;
+    const Arguments arguments = argumentsOf(reporter.source(), *role);
+    const std::optional<int> rate = wholeNumber(arguments[0].text);
+    if (rate && (*rate < 1 || *rate > lastMouseRate))
+        reporter.report(ValueOutOfRange, arguments[0].place,
+                        u"The mouse rate %1 lies outside 1 to 127"_s.arg(*rate));
+}
+
+void checkAxesConfiguration(Reporter &reporter, const Statement &statement, UseBody body)
+{
+    std::array<bool, lastDirectXAxis + 1> used{};
+    bool understood = true;
+    while (const Item *item = body.next()) {
+        if (item->kind != ItemKind::Group)
+            continue;
+        if (!item->closed) {
+            understood = false;
+            continue;
+        }
+        const Arguments arguments = argumentsOf(reporter.source(), *item);
+        const std::optional<int> number = wholeNumber(arguments[0].text);
+        if (arguments.size() != 2 || !number) {
+            understood = false;
+            continue;
+        }
+        QStringView axis = arguments[1].text;
+        if (axis.startsWith(u'-') || axis.startsWith(u'+'))
+            axis = axis.sliced(1).trimmed();
+        if (!wordInfo(axis).is(AxisRole))
+            reporter.report(UnknownAxis, arguments[1].place, u"There is no axis %1"_s.arg(axis));
+        if (*number < 1 || *number > lastDirectXAxis) {
+            reporter.report(AxesConfiguration, arguments[0].place,
+                            u"There is no DirectX axis %1"_s.arg(*number));
+        } else if (std::exchange(used[size_t(*number)], true)) {
+            reporter.report(AxesConfiguration, arguments[0].place,
+                            u"DirectX axis %1 is used twice"_s.arg(*number));
+        }
+    }
+    if (understood && (!used[1] || !used[2]))
+        reporter.report(AxesConfiguration, statement.subject,
+                        u"DirectX axes 1 and 2 must have an axis"_s);
+}
+
+void checkMouseAxis(Reporter &reporter, WordInfo axis, const Item &role, QStringView word)
+{
+    const bool wholeMouse = sameWord(word, u"MOUSE");
+    if ((axis.is(AxisGroupRole) && !wholeMouse) || (axis.is(AxisRole) && wholeMouse))
+        reporter.report(AxisAsMouse, role.place, u"The axis cannot drive %1"_s.arg(word));
+    if (role.kind != ItemKind::Call || !role.closed)
+        return;
+    const Arguments arguments = argumentsOf(reporter.source(), role);
+    if (arguments.size() < 2)
+        return;
+    const std::optional<int> scale = wholeNumber(arguments[0].text);
+    const std::optional<int> increment = wholeNumber(arguments[1].text);
+    if (scale && increment && qint64(*scale) * *increment > lastMouseRate)
+        reporter.report(ValueOutOfRange, role.place,
+                        u"Scale times increment must be less than 128"_s);
+}
+
+void checkDirectXButton(Reporter &reporter, const Item &role, QStringView word)
+{
+    const std::optional<int> number = wholeNumber(word.sliced(2));
+    if (number && (*number < 1 || *number > lastDirectXButton))
+        reporter.report(DirectXButton, role.place, u"There is no DirectX button %1"_s.arg(*number));
+}
+
+// "NAME AS ROLE" for any control, hat or axis. What is no such statement may be anything.
+void checkAssignment(Reporter &reporter, UseBody body)
+{
+    const Item *name = body.next();
+    const Item *as = body.next();
+    const Item *role = body.next();
+    if (!role || !sameWord(body.word(as), u"AS"))
+        return;
+    const QStringView nameWord = body.word(name);
+    const WordInfo info = wordInfo(nameWord);
+    const QStringView word = body.word(role);
+    const bool toButton = word.startsWith(u"DX", Qt::CaseInsensitive);
+    const bool needsControl = toButton || sameWord(word, u"SHIFTBTN");
+    const bool isAxis = info.is(AxisRole) || info.is(AxisGroupRole);
+    // A flag works like a button. Other words of the language may have roles that are not known.
+    const bool isPossible =
+        info.is(ControlRole) || flagNumber(nameWord) || (!needsControl && info.roles != NoRole);
+    if (!isPossible)
+        reporter.report(UnknownControl, name->place, u"There is no control %1"_s.arg(nameWord));
+    if (toButton)
+        checkDirectXButton(reporter, *role, word);
+    else if (isAxis && (sameWord(word, u"MOUSE") || wordInfo(word).is(MouseAxisRole)))
+        checkMouseAxis(reporter, info, *role, word);
+}
+
+} // namespace
+
+void checkUse(Reporter &reporter, const Statement &statement)
+{
+    const UseBody body(reporter.source(), statement);
+    if (statement.useForm < 0)
+        return checkAssignment(reporter, body);
+    const UseForm &form = useForms()[size_t(statement.useForm)];
+    if (form.head == u"MTYPE")
+        checkMouseType(reporter, body);
+    else if (form.shape == UseShape::Role)
+        checkHatRole(reporter, statement, body);
+    else if (form.shape == UseShape::AxisList)
+        checkAxesConfiguration(reporter, statement, body);
+}
+
+} // namespace zeph::language

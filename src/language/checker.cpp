@@ -1,0 +1,177 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#include "language/checker.h"
+
+#include "language/forms.h"
+#include "language/reporter.h"
+#include "language/scan.h"
+#include "language/vocabulary.h"
+
+namespace zeph::language {
+
+namespace {
+
+bool isFlag(QStringView word)
+{
+    const std::optional<int> number = flagNumber(word);
+    return number && *number >= 1 && *number <= lastFlag;
+}
+
+// What both files' bodies can get wrong.
+void checkBodies(Reporter &reporter)
+{
+    const Source &source = reporter.source();
+    for (const StrayBracket &bracket : source.strayBrackets) {
+        const QString message = bracket.opening ? u"The bracket %1 is not closed"_s
+                                                : u"The bracket %1 was never opened"_s;
+        reporter.report(StrayBracketCode, bracket.place, message.arg(source.at(bracket.place)));
+    }
+    for (const Place &place : source.lateS3)
+        reporter.report(InAfterOut, place, u"/I must come before /O"_s);
+    for (const Item &item : source.items) {
+        if (item.kind == ItemKind::Flag && !isFlag(source.at(item)))
+            reporter.report(UnknownFlag, item.place,
+                            u"There is no logical flag %1"_s.arg(source.at(item)));
+    }
+    checkCalls(reporter);
+}
+
+void checkButton(Reporter &reporter, const Statement &statement)
+{
+    const QStringView name = reporter.source().at(statement.subject);
+    const WordInfo info = wordInfo(name);
+    if (name.isEmpty())
+        reporter.report(UnknownControl, statement.keyword, u"BTN needs a control"_s);
+    else if (!info.is(ControlRole) && !info.is(StatementRole)
+             && !name.startsWith(u"PORTB", Qt::CaseInsensitive))
+        reporter.report(UnknownControl, statement.subject, u"There is no control %1"_s.arg(name));
+}
+
+void checkFlagSubject(Reporter &reporter, const Statement &statement)
+{
+    const QStringView name = reporter.source().at(statement.subject);
+    if (name.isEmpty())
+        reporter.report(UnknownFlag, statement.keyword, u"DEF needs a logical flag"_s);
+    else if (!isFlag(name))
+        reporter.report(UnknownFlag, statement.subject, u"There is no logical flag %1"_s.arg(name));
+}
+
+// A letter or two and a number, as controls are named.
+bool looksLikeControl(QStringView word)
+{
+    for (const QStringView prefix : { QStringView(u"TG"), QStringView(u"T"), QStringView(u"S") }) {
+        if (word.size() > prefix.size() && word.startsWith(prefix, Qt::CaseInsensitive)
+            && wholeNumber(word.sliced(prefix.size())))
+            return true;
+    }
+    return word.size() > 2 && sameWord(word.first(1), u"H") && wholeNumber(word.sliced(1, 1))
+        && isIn(hatPositions(), word.sliced(2));
+}
+
+void checkDefinition(Reporter &reporter, const Statement &statement)
+{
+    checkFlagSubject(reporter, statement);
+    const Source &source = reporter.source();
+    for (int index = statement.body.items.first; index < statement.body.items.end; ++index) {
+        const Item &item = source.items[index];
+        if (item.kind == ItemKind::Unknown && looksLikeControl(source.at(item)))
+            reporter.report(UnknownControl, item.place,
+                            u"There is no control %1"_s.arg(source.at(item)));
+    }
+}
+
+// "CURVE /I (THR, 4)": the arguments stand behind the modifiers.
+void checkCurveStatement(Reporter &reporter, const Statement &statement)
+{
+    const Source &source = reporter.source();
+    for (int index = statement.body.items.first; index < statement.body.items.end; ++index) {
+        const Item &item = source.items[index];
+        if (item.kind == ItemKind::Group && item.closed && source.at(item).startsWith(u'('))
+            checkCurve(reporter, argumentsOf(source, item));
+    }
+}
+
+void checkDisable(Reporter &reporter, const Statement &statement)
+{
+    const Source &source = reporter.source();
+    const int index = statement.body.items.first + 1;
+    if (index >= statement.body.items.end)
+        return;
+    const Item &item = source.items[index];
+    const QStringView name = source.at(item);
+    const WordInfo info = wordInfo(name);
+    if (isIn(disableableAxes(), name))
+        return;
+    if (info.is(AxisRole) || info.is(AxisGroupRole))
+        reporter.report(NotDisableable, item.place, u"%1 cannot be disabled"_s.arg(name));
+    else if (item.kind == ItemKind::Unknown)
+        reporter.report(UnknownAxis, item.place, u"There is no axis %1"_s.arg(name));
+}
+
+using StatementCheck = void (*)(Reporter &, const Statement &);
+
+struct StatementRule {
+    StatementKind kind;
+    StatementCheck check;
+};
+
+constexpr StatementRule rules[] = {
+    { StatementKind::Button, checkButton },
+    { StatementKind::FlagButton, checkFlagSubject },
+    { StatementKind::FlagDefinition, checkDefinition },
+    { StatementKind::Axis, checkDigitalAxis },
+    { StatementKind::Curve, checkCurveStatement },
+    { StatementKind::Disable, checkDisable },
+    { StatementKind::Use, checkUse },
+};
+
+// Places on the screen need its size, unless they are percentages.
+void checkScreen(Reporter &reporter, const JoystickFile &joystick)
+{
+    for (const Statement &statement : joystick.statements) {
+        if (statement.useForm >= 0
+            && useForms()[size_t(statement.useForm)].head == u"SCREEN_RESOLUTION")
+            return;
+    }
+    for (const Item &item : joystick.items) {
+        const bool isScreen = item.kind == ItemKind::Call
+            && callForms()[size_t(item.reference)].shape == CallShape::Screen;
+        if (isScreen && !joystick.at(item).contains(u'%')) {
+            reporter.report(NoScreenResolution, item.place,
+                            u"There is no USE SCREEN_RESOLUTION statement"_s);
+            return;
+        }
+    }
+}
+
+} // namespace
+
+QList<Finding> check(const FilePair &pair)
+{
+    QList<Finding> findings;
+    Reporter joystick(pair.joystick, File::Joystick, findings);
+    checkBodies(joystick);
+    for (const Statement &statement : pair.joystick.statements) {
+        for (const StatementRule &rule : rules) {
+            if (rule.kind == statement.kind)
+                rule.check(joystick, statement);
+        }
+    }
+    checkScreen(joystick, pair.joystick);
+    Reporter macro(pair.macro, File::Macro, findings);
+    checkBodies(macro);
+    checkMacroCycles(macro, pair.macro);
+    std::stable_sort(findings.begin(), findings.end(), [](const Finding &a, const Finding &b) {
+        return std::pair(a.file, a.place.position) < std::pair(b.file, b.place.position);
+    });
+    return findings;
+}
+
+Finding missingMacroFile(const MacroReference &reference)
+{
+    return { NoMacroFile, u"The macro file %1 was not found"_s.arg(reference.name), File::Joystick,
+             reference.place };
+}
+
+} // namespace zeph::language

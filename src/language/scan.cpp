@@ -1,0 +1,96 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#include "language/scan.h"
+
+#include "language/words.h"
+
+namespace zeph::language {
+
+qsizetype skipBlanks(QStringView text, qsizetype at)
+{
+    while (at < text.size() && isBlank(text[at]))
+        ++at;
+    return at;
+}
+
+qsizetype nameEnd(QStringView text, qsizetype at)
+{
+    while (at < text.size() && isNameCharacter(text[at]))
+        ++at;
+    return at;
+}
+
+qsizetype wordEnd(QStringView text, qsizetype at)
+{
+    while (at < text.size() && isWordCharacter(text[at]))
+        ++at;
+    return at;
+}
+
+qsizetype trimmedEnd(QStringView text)
+{
+    qsizetype end = text.size();
+    while (end > 0 && isBlank(text[end - 1]))
+        --end;
+    return end;
+}
+
+qsizetype commentStart(QStringView line)
+{
+    const auto is = [&](qsizetype at, char16_t lower) {
+        return (line[at].unicode() | 0x20) == lower && line[at].unicode() < 128;
+    };
+    for (qsizetype at = 0; at + 2 < line.size(); ++at) {
+        if (!is(at, u'r') || !is(at + 1, u'e') || !is(at + 2, u'm'))
+            continue;
+        const bool startsWord = at == 0 || !isNameCharacter(line[at - 1]);
+        const bool endsWord = at + 3 == line.size() || !isNameCharacter(line[at + 3]);
+        if (startsWord && endsWord)
+            return at;
+    }
+    return -1;
+}
+
+int slashAt(QStringView line, qsizetype at)
+{
+    if (line[at] != u'/' || at + 1 >= line.size())
+        return -1;
+    // "/Up" and "/I2" are words of their own, "/I/U" are two modifiers.
+    if (at + 2 < line.size() && line[at + 2] != u'/' && isWordCharacter(line[at + 2]))
+        return -1;
+    const QChar letter = line[at + 1].toUpper();
+    const auto modifiers = slashModifiers();
+    for (int index = 0; index < int(modifiers.size()); ++index) {
+        if (modifiers[size_t(index)].word[1] == letter)
+            return index;
+    }
+    return -1;
+}
+
+bool sameWord(QStringView left, QStringView right)
+{
+    return left.size() == right.size() && left.compare(right, Qt::CaseInsensitive) == 0;
+}
+
+std::optional<int> wholeNumber(QStringView text)
+{
+    if (text.endsWith(u'%'))
+        text.chop(1);
+    const bool negative = text.startsWith(u'-');
+    if (negative || text.startsWith(u'+'))
+        text = text.sliced(1);
+    if (text.isEmpty())
+        return {};
+    // Nothing in the language comes near this, so all that is larger may be as large.
+    constexpr qint64 largest = 999'999'999;
+    qint64 value = 0;
+    for (const QChar c : text) {
+        if (c < u'0' || c > u'9')
+            return {};
+        value = std::min(largest, value * 10 + (c.unicode() - u'0'));
+    }
+    return int(negative ? -value : value);
+}
+
+} // namespace zeph::language

@@ -1,0 +1,201 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#include "platform/input/system_joystick.h"
+
+// The program's entry is its own.
+#define SDL_MAIN_HANDLED
+#include <SDL.h>
+
+#include <algorithm>
+#include <array>
+#include <cstring>
+#include <vector>
+
+namespace zeph {
+
+namespace {
+
+constexpr quint32 unreadable = 166;
+constexpr SDL_JoystickID nobody = -1;
+constexpr int mostButtons = 32;
+
+struct HatRow {
+    int hat;
+    quint32 pov;
+};
+
+constexpr std::array hatRows = {
+    HatRow{ SDL_HAT_UP, 0 },           HatRow{ SDL_HAT_RIGHTUP, 4500 },
+    HatRow{ SDL_HAT_RIGHT, 9000 },     HatRow{ SDL_HAT_RIGHTDOWN, 13500 },
+    HatRow{ SDL_HAT_DOWN, 18000 },     HatRow{ SDL_HAT_LEFTDOWN, 22500 },
+    HatRow{ SDL_HAT_LEFT, 27000 },     HatRow{ SDL_HAT_LEFTUP, 31500 },
+    HatRow{ SDL_HAT_CENTERED, 65535 },
+};
+
+quint32 povOf(SDL_Joystick *stick)
+{
+    const int hat = SDL_JoystickNumHats(stick) > 0 ? SDL_JoystickGetHat(stick, 0) : 0;
+    const auto row = std::ranges::find(hatRows, hat, &HatRow::hat);
+    return row == hatRows.end() ? hatRows.back().pov : row->pov;
+}
+
+quint32 buttonsOf(SDL_Joystick *stick)
+{
+    quint32 bits = 0;
+    const int count = std::min(SDL_JoystickNumButtons(stick), mostButtons);
+    for (int button = 0; button < count; ++button) {
+        if (SDL_JoystickGetButton(stick, button) != 0) {
+            bits |= quint32(1) << button;
+        }
+    }
+    return bits;
+}
+
+/// A controller's place, which it keeps while it is pulled out.
+struct Place {
+    SDL_JoystickGUID model;
+    SDL_JoystickID instance = nobody;
+    SDL_Joystick *stick = nullptr;
+
+    void close()
+    {
+        if (stick) {
+            SDL_JoystickClose(stick);
+        }
+        stick = nullptr;
+        instance = nobody;
+    }
+};
+
+void setUp()
+{
+    // Zeph's windows are not SDL's: to it they are always in the background, and how the program
+    // ends is not its business.
+    SDL_SetHint(SDL_HINT_JOYSTICK_ALLOW_BACKGROUND_EVENTS, "1");
+    SDL_SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
+    // The raw drivers would take hold of game pads that nobody asked for.
+    SDL_SetHint(SDL_HINT_JOYSTICK_HIDAPI, "0");
+    SDL_SetMainReady();
+}
+
+} // namespace
+
+/// The running subsystem and the places of the controllers that it has ever shown.
+class SystemJoystick::Devices
+{
+public:
+    Devices()
+    {
+        setUp();
+        m_running = SDL_InitSubSystem(SDL_INIT_JOYSTICK) == 0;
+        // The states are asked for; nobody would ever empty a queue of events.
+        SDL_JoystickEventState(SDL_IGNORE);
+    }
+    ~Devices()
+    {
+        for (Place &place : m_places) {
+            place.close();
+        }
+        if (m_running) {
+            SDL_QuitSubSystem(SDL_INIT_JOYSTICK);
+        }
+    }
+    Devices(const Devices &) = delete;
+    Devices &operator=(const Devices &) = delete;
+
+    JoystickReading read(int id)
+    {
+        if (!m_running) {
+            return { .result = badId };
+        }
+        SDL_JoystickUpdate();
+        dropVanished();
+        if (placeNew()) {
+            // What a controller holds is known only from the update behind its opening on.
+            SDL_JoystickUpdate();
+        }
+        if (id < 0 || size_t(id) >= m_places.size()) {
+            return { .result = badId };
+        }
+        return readingOf(m_places[size_t(id)]);
+    }
+
+private:
+    static int indexOf(SDL_JoystickID instance)
+    {
+        const int count = SDL_NumJoysticks();
+        for (int index = 0; index < count; ++index) {
+            if (SDL_JoystickGetDeviceInstanceID(index) == instance) {
+                return index;
+            }
+        }
+        return -1;
+    }
+
+    static JoystickReading readingOf(Place &place)
+    {
+        if (place.instance == nobody) {
+            return { .result = unplugged };
+        }
+        if (!place.stick) {
+            // The system may grant the access only a moment after it shows the device.
+            place.stick = SDL_JoystickOpen(indexOf(place.instance));
+        }
+        if (!place.stick) {
+            return { .result = unreadable };
+        }
+        return { answered, buttonsOf(place.stick), povOf(place.stick) };
+    }
+
+    void dropVanished()
+    {
+        for (Place &place : m_places) {
+            if (place.instance != nobody && indexOf(place.instance) < 0) {
+                place.close();
+            }
+        }
+    }
+
+    /// Opens what was plugged in since the last reading; false when there is nothing new.
+    bool placeNew()
+    {
+        bool isNew = false;
+        const int count = SDL_NumJoysticks();
+        for (int index = 0; index < count; ++index) {
+            const SDL_JoystickID instance = SDL_JoystickGetDeviceInstanceID(index);
+            if (std::ranges::find(m_places, instance, &Place::instance) == m_places.end()) {
+                Place &place = placeFor(SDL_JoystickGetDeviceGUID(index));
+                place.instance = instance;
+                place.stick = SDL_JoystickOpen(index);
+                isNew = true;
+            }
+        }
+        return isNew;
+    }
+
+    /// The place that a controller of that model has left, or a fresh one behind all others.
+    Place &placeFor(const SDL_JoystickGUID &model)
+    {
+        const auto left = std::ranges::find_if(m_places, [&model](const Place &place) {
+            return place.instance == nobody && std::memcmp(&place.model, &model, sizeof model) == 0;
+        });
+        return left != m_places.end() ? *left : m_places.emplace_back(Place{ .model = model });
+    }
+
+    bool m_running = false;
+    std::vector<Place> m_places;
+};
+
+SystemJoystick::SystemJoystick() = default;
+SystemJoystick::~SystemJoystick() = default;
+
+JoystickReading SystemJoystick::read(int id)
+{
+    if (!m_devices) {
+        m_devices = std::make_unique<Devices>();
+    }
+    return m_devices->read(id);
+}
+
+} // namespace zeph

@@ -1,0 +1,196 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#include "platform/zip/zip_unpack.h"
+
+#include "platform/core/file_attributes.h"
+#include "platform/core/file_io.h"
+#include "platform/core/paths.h"
+#include "platform/core/zip_names.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+namespace zeph {
+
+namespace {
+
+/// One run over a zip.
+class Unpacking
+{
+public:
+    Unpacking(ZipReader &zip, const QString &folder, const UnpackQuestions &questions,
+              const UnpackLimits &limits)
+        : m_zip(zip), m_folder(folder), m_questions(questions), m_limits(limits),
+          m_nextBytes(limits.bytes), m_nextEntries(limits.entries)
+    {
+    }
+
+    UnpackReport run()
+    {
+        while (!m_report.stopped) {
+            const auto entry = m_zip.next();
+            if (!entry) {
+                m_report.damage = entry.error();
+                break;
+            }
+            if (!*entry) {
+                break;
+            }
+            take(**entry);
+        }
+        return m_report;
+    }
+
+private:
+    void take(const ZipEntry &entry)
+    {
+        ++m_entries;
+        m_report.stopped = !withinLimits(0)
+            || !m_questions.progress(entry.name, int(m_entries - 1), m_zip.count());
+        if (m_report.stopped) {
+            return;
+        }
+        const auto name = safeEntryName(entry.name);
+        if (!name) {
+            refuse(entry, name.error());
+        } else if (entry.kind == ZipEntry::Other) {
+            refuse(entry, u"it is a link, not a file"_s);
+        } else {
+            takeSafe(entry, *name);
+        }
+    }
+
+    void takeSafe(const ZipEntry &entry, const QString &name)
+    {
+        const bool isFolder = entry.kind == ZipEntry::Folder;
+        const qsizetype slash = name.lastIndexOf(u'/');
+        const auto parent =
+            makeFolders(isFolder ? name : name.first(std::max(slash, qsizetype(0))));
+        if (!parent) {
+            refuse(entry, parent.error());
+        } else if (!isFolder) {
+            takeFile(entry, *parent + name.sliced(slash + 1));
+        }
+    }
+
+    /// The folder of that name below the target, made where it is missing, with a closing
+    /// separator. Names are the same in any case.
+    Expected<QString, QString> makeFolders(const QString &name) const
+    {
+        QString path = m_folder;
+        for (const QString &part : name.split(u'/', Qt::SkipEmptyParts)) {
+            const QString found = existingPath(path + part);
+            const QString next = found.isEmpty() ? path + part : found;
+            const QFileInfo there(next);
+            if (there.isSymLink()) {
+                return Unexpected<QString>(u"a link stands where its folder should be"_s);
+            }
+            if (there.exists() && !there.isDir()) {
+                return Unexpected<QString>(u"a file stands where its folder should be"_s);
+            }
+            if (!there.exists() && !QDir().mkdir(next)) {
+                return Unexpected<QString>(u"its folder can't be made"_s);
+            }
+            path = withClosingSeparator(next);
+        }
+        return path;
+    }
+
+    void takeFile(const ZipEntry &entry, const QString &wanted)
+    {
+        const QString found = existingPath(wanted);
+        const QString path = found.isEmpty() ? wanted : found;
+        const QFileInfo there(path);
+        if (there.isSymLink() || there.isDir()) {
+            refuse(entry, u"a folder or a link has that name already"_s);
+            return;
+        }
+        if (isReadOnlyFile(path)) {
+            refuse(entry, u"a file of that name is read only"_s);
+            return;
+        }
+        if (there.exists() && !mayOverwrite(path)) {
+            return;
+        }
+        const auto bytes = readEntry();
+        if (!bytes) {
+            refuse(entry, bytes.error());
+        } else if (*bytes) {
+            write(entry, path, **bytes);
+        }
+    }
+
+    bool mayOverwrite(const QString &path)
+    {
+        const auto answer = m_questions.overwrite(path);
+        if (answer == UnpackQuestions::Overwrite::No) {
+            m_report.kept.append(path);
+        }
+        m_report.stopped = answer == UnpackQuestions::Overwrite::Stop;
+        return answer == UnpackQuestions::Overwrite::Yes;
+    }
+
+    Expected<std::optional<QByteArray>, QString> readEntry()
+    {
+        bool tooLarge = false;
+        auto bytes = m_zip.read([this, &tooLarge](qint64 soFar) {
+            tooLarge = soFar > largestUnpackedFile;
+            m_report.stopped = !tooLarge && !withinLimits(soFar);
+            return !tooLarge && !m_report.stopped;
+        });
+        if (tooLarge) {
+            return Unexpected<QString>(u"it is too large"_s);
+        }
+        return bytes;
+    }
+
+    void write(const ZipEntry &entry, const QString &path, const QByteArray &bytes)
+    {
+        m_bytes += bytes.size();
+        if (const auto written = writeFileAtomically(path, bytes); !written) {
+            refuse(entry, written.error().reason);
+            return;
+        }
+        m_report.written.append(path);
+    }
+
+    /// With so many bytes of the present entry.
+    bool withinLimits(qint64 soFar)
+    {
+        if (m_bytes + soFar <= m_nextBytes && m_entries <= m_nextEntries) {
+            return true;
+        }
+        if (!m_questions.goOn(m_bytes + soFar, m_entries)) {
+            return false;
+        }
+        m_nextBytes = m_bytes + soFar + m_limits.bytes;
+        m_nextEntries = m_entries + m_limits.entries;
+        return true;
+    }
+
+    void refuse(const ZipEntry &entry, const QString &reason)
+    {
+        m_report.refused.append(entry.name + u": "_s + reason);
+    }
+
+    ZipReader &m_zip;
+    const QString &m_folder;
+    const UnpackQuestions &m_questions;
+    const UnpackLimits &m_limits;
+    qint64 m_nextBytes;
+    qint64 m_nextEntries;
+    qint64 m_bytes = 0;
+    qint64 m_entries = 0;
+    UnpackReport m_report;
+};
+
+} // namespace
+
+UnpackReport unpackZip(ZipReader &zip, const QString &folder, const UnpackQuestions &questions,
+                       const UnpackLimits &limits)
+{
+    return Unpacking(zip, folder, questions, limits).run();
+}
+
+} // namespace zeph

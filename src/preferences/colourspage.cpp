@@ -1,0 +1,263 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#include "preferences/colourspage.h"
+
+#include "documents/document_look.h"
+#include "editor/macros/framemacros.h"
+#include "editor/macros/macro_list_model.h"
+#include "platform/dialogs.h"
+#include "platform/handlers.h"
+#include "preferences/colour_scheme.h"
+#include "text/macro_search.h"
+#include "text/text_styles.h"
+#include "ui_colourspage.h"
+
+#include <QComboBox>
+#include <QFontDatabase>
+#include <QKeyEvent>
+#include <QPainter>
+#include <QSignalBlocker>
+
+namespace zeph {
+
+namespace {
+
+constexpr QSize swatchSize(26, 14);
+constexpr int sampleListWidth = 230;
+const QColor swatchFrame(128, 128, 128);
+
+QColor toColor(ColorRef colour)
+{
+    return QColor(redOf(colour), greenOf(colour), blueOf(colour));
+}
+
+/// The colour in a thin frame that is seen on light and dark lists, the same when it is selected.
+QIcon swatchOf(ColorRef colour, qreal scale)
+{
+    QPixmap swatch(swatchSize * scale);
+    swatch.setDevicePixelRatio(scale);
+    swatch.fill(toColor(colour));
+    QPainter painter(&swatch);
+    painter.setPen(swatchFrame);
+    painter.drawRect(QRectF(0.5, 0.5, swatchSize.width() - 1, swatchSize.height() - 1));
+    painter.end();
+    QIcon icon;
+    icon.addPixmap(swatch, QIcon::Normal);
+    icon.addPixmap(swatch, QIcon::Selected);
+    return icon;
+}
+
+bool isEnter(const QEvent &event)
+{
+    if (event.type() != QEvent::KeyPress) {
+        return false;
+    }
+    const int key = static_cast<const QKeyEvent &>(event).key();
+    return key == Qt::Key_Return || key == Qt::Key_Enter;
+}
+
+} // namespace
+
+ColoursPage::ColoursPage(const Context &context, QWidget *parent)
+    : PreferencesPage(parent), m_context(context), m_scheme(context.settings),
+      m_ui(std::make_unique<Ui::ColoursPage>())
+{
+    m_ui->setupUi(this);
+    m_scheme.MacroFrameWidth = sampleListWidth;
+    addMacroList();
+    AddColourTabStuff();
+    connectFields();
+    m_ui->List1->setCurrentRow(0);
+}
+
+ColoursPage::~ColoursPage() = default;
+
+void ColoursPage::addMacroList()
+{
+    m_macros = new MacroListModel(this);
+    m_list = new FrameMacros(*m_macros);
+    m_list->setObjectName(u"SampleMacroList"_s);
+    m_list->list().setObjectName(u"SampleList"_s);
+    m_list->list().setToolTip(u"Your colours on a macro list"_s);
+    m_list->list().setDragDropMode(QAbstractItemView::NoDragDrop);
+    m_list->headings().setObjectName(u"SampleHeadings"_s);
+    // Its width is dragged in the Editor, not here.
+    m_list->findChild<QWidget *>(u"MacroEdge"_s)->hide();
+    m_ui->layoutMacroList->insertWidget(0, m_list);
+    connect(&m_list->headings(), &QComboBox::currentIndexChanged, m_macros,
+            &MacroListModel::showHeading);
+}
+
+void ColoursPage::AddColourTabStuff()
+{
+    m_ui->List1->setIconSize(swatchSize);
+    for (const ColourCategory &category : colourCategories()) {
+        auto *item = new QListWidgetItem(category.caption.toString(), m_ui->List1);
+        item->setToolTip(category.paints.toString());
+    }
+    m_ui->TextFontSize->setRange(smallestStyleSize, largestStyleSize);
+    for (TextControl *sample : { m_ui->SampleJoystick, m_ui->SampleMacro }) {
+        sample->setLocked(true);
+        sample->setTabChangesFocus(true);
+    }
+    m_ui->SampleJoystick->setText(sampleJoystickText());
+    m_ui->SampleMacro->setText(sampleMacroText());
+    const MacroTable macros = sampleMacros();
+    m_list->setHeadings(macros.MacroHeadings);
+    m_macros->setNames(macros.names);
+    const QStringList &names = m_macros->allNames();
+    const QList<bool> used = usedMacros(sampleJoystickText(), names);
+    for (qsizetype i = 0; i < names.size(); ++i) {
+        m_macros->setTick(names[i], used[i]);
+    }
+    showScheme();
+    const int frame = 2 * (m_ui->List1->frameWidth() + m_ui->List1->spacing());
+    m_ui->List1->setMinimumWidth(m_ui->List1->sizeHintForColumn(0) + frame);
+}
+
+void ColoursPage::connectFields()
+{
+    Dialogs &dialogs = m_context.dialogs;
+    const auto change = guarded(dialogs, [this](const auto &...) { changeColour(); });
+    connect(m_ui->List1, &QListWidget::currentRowChanged, this, &ColoursPage::choose);
+    connect(m_ui->List1, &QListWidget::itemDoubleClicked, this, change);
+    connect(m_ui->CMD_ChangeColour, &QPushButton::clicked, this, change);
+    connect(m_ui->CMD_FirstRunColours, &QPushButton::clicked, this,
+            guarded(dialogs, [this](bool) { returnToFirstRun(); }));
+    m_ui->List1->installEventFilter(this);
+    connect(m_ui->TextFontName, &QComboBox::currentTextChanged, this, [this](const QString &name) {
+        m_scheme.TextFontName = name;
+        ApplyColour();
+    });
+    connect(m_ui->TextFontSize, &QSpinBox::valueChanged, this, [this](int points) {
+        m_scheme.TextFontSize = QString::number(points);
+        ApplyColour();
+    });
+    connect(m_ui->TextFontBold, &QCheckBox::toggled, this, [this](bool bold) {
+        m_scheme.TextFontBold = bold ? 1 : 0;
+        ApplyColour();
+    });
+    connect(m_ui->CHK_FixedPitch, &QCheckBox::toggled, this, &ColoursPage::showFonts);
+    connect(m_ui->CMD_FontHelp, &QPushButton::clicked, this, [&dialogs] {
+        dialogs.tell(u"Lining up slash modifiers"_s,
+                     u"If you want all your slash modifiers to line up as they do in Notepad, "
+                     "choose a fixed pitch font, like Courier New."_s);
+    });
+}
+
+void ColoursPage::collect()
+{
+    copyColours(m_context.settings, m_scheme);
+}
+
+/// Puts the scheme into the fields; what they cannot show (a size beyond their range) stays in it.
+void ColoursPage::showScheme()
+{
+    const QSignalBlocker size(m_ui->TextFontSize);
+    const QSignalBlocker bold(m_ui->TextFontBold);
+    m_ui->TextFontSize->setValue(qRound(leadingNumber(m_scheme.TextFontSize)));
+    m_ui->TextFontBold->setChecked(m_scheme.TextFontBold != 0);
+    showFonts();
+    ApplyColour();
+}
+
+void ColoursPage::showFonts()
+{
+    const QSignalBlocker blocker(m_ui->TextFontName);
+    const bool fixedOnly = m_ui->CHK_FixedPitch->isChecked();
+    m_ui->TextFontName->clear();
+    m_ui->TextFontName->addItems(
+        fontChoices(QFontDatabase::families(), fixedOnly ? QString() : m_scheme.TextFontName,
+                    [fixedOnly](const auto &name) {
+                        return !QFontDatabase::isPrivateFamily(name)
+                            && (!fixedOnly || QFontDatabase::isFixedPitch(name));
+                    }));
+    // Shown while it is not among those that are fixed.
+    m_ui->TextFontName->setPlaceholderText(m_scheme.TextFontName);
+    m_ui->TextFontName->setCurrentIndex(
+        m_ui->TextFontName->findText(m_scheme.TextFontName, Qt::MatchFixedString));
+}
+
+void ColoursPage::showSwatches()
+{
+    int row = 0;
+    for (const ColourCategory &category : colourCategories()) {
+        const ColorRef colour = m_scheme.*category.colour;
+        QListWidgetItem *item = m_ui->List1->item(row++);
+        item->setIcon(swatchOf(colour, devicePixelRatioF()));
+        item->setData(Qt::AccessibleTextRole, item->text() + u", "_s + toColor(colour).name());
+    }
+}
+
+void ColoursPage::colourSample(TextControl &sample, DocumentKind kind, const Painter &painter)
+{
+    const CharFormat plain = plainFormat(m_scheme, kind);
+    sample.setLook(documentBackground(m_scheme, kind), plain);
+    sample.setCharacterRuns(
+        characterRuns(painter.paint(sample.text(), colourScheme(m_scheme, kind)), plain));
+}
+
+void ColoursPage::ColourJoy()
+{
+    colourSample(*m_ui->SampleJoystick, DocumentKind::Joystick, m_joystick);
+}
+
+void ColoursPage::ColourMac()
+{
+    colourSample(*m_ui->SampleMacro, DocumentKind::Macro, m_macro);
+}
+
+void ColoursPage::ApplyColour()
+{
+    ColourJoy();
+    ColourMac();
+    m_list->applySettings(m_scheme);
+    showSwatches();
+}
+
+void ColoursPage::choose(int row)
+{
+    if (row < 0) {
+        return;
+    }
+    const ColourCategory &category = colourCategories()[size_t(row)];
+    m_ui->LabelPaints->setText(category.paints.toString());
+    const auto present = PreviewPage(m_ui->SSTab2->currentIndex());
+    m_ui->SSTab2->setCurrentIndex(int(previewPageFor(category, present)));
+}
+
+void ColoursPage::changeColour()
+{
+    const int row = m_ui->List1->currentRow();
+    if (row < 0) {
+        return;
+    }
+    ColorRef &colour = m_scheme.*colourCategories()[size_t(row)].colour;
+    if (const auto chosen = m_context.dialogs.chooseColour(colour)) {
+        colour = *chosen;
+        ApplyColour();
+    }
+}
+
+void ColoursPage::returnToFirstRun()
+{
+    if (m_context.dialogs.ask(u"Back to where we started?"_s,
+                              u"All your colours and your font go, and those that I came with "
+                              "come back. Is that what you want?"_s)) {
+        setFirstRunColours(m_scheme);
+        showScheme();
+    }
+}
+
+bool ColoursPage::eventFilter(QObject *watched, QEvent *event)
+{
+    // The list would hand the key on to the window's OK.
+    if (watched == m_ui->List1 && isEnter(*event)) {
+        m_ui->CMD_ChangeColour->click();
+        return true;
+    }
+    return PreferencesPage::eventFilter(watched, event);
+}
+
+} // namespace zeph

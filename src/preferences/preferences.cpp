@@ -1,0 +1,168 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#include "preferences/preferences.h"
+
+#include "lists/user_lists.h"
+#include "platform/handlers.h"
+#include "platform/status_line.h"
+#include "platform/system_info.h"
+#include "preferences/appspage.h"
+#include "preferences/colourspage.h"
+#include "preferences/defaultspage.h"
+#include "preferences/favouritespage.h"
+#include "preferences/filespage.h"
+#include "preferences/gamespage.h"
+#include "preferences/miscpage.h"
+#include "preferences/openpage.h"
+#include "preferences/preferences_rules.h"
+#include "preferences/zephpage.h"
+#include "settings/settings_files.h"
+#include "settings/settings_moments.h"
+#include "ui_preferences.h"
+
+#include <QProxyStyle>
+#include <QTabBar>
+
+namespace zeph {
+
+namespace {
+
+/// Tabs close enough together that all nine of them are in view.
+class CloseTabs : public QProxyStyle
+{
+public:
+    int pixelMetric(PixelMetric metric, const QStyleOption *option,
+                    const QWidget *widget) const override
+    {
+        const int usual = QProxyStyle::pixelMetric(metric, option, widget);
+        return metric == PM_TabBarTabHSpace ? usual / 2 : usual;
+    }
+};
+
+QString captionOf(PreferencesTab tab)
+{
+    constexpr QStringView captions[] = {
+        u"&File locations", u"&Colours/Fonts",   u"&Apps",
+        u"Fa&vourites",     u"&Games",           u"&Open/Save/Undo",
+        u"&Misc.",          u"&Default options", u"&Zeph",
+    };
+    return captions[size_t(tab)].toString();
+}
+
+/// The settings of Zeph's own tab that the global save leaves out.
+Expected<void, FileError> saveOwnOptions(const GlobalSettings &settings, const SettingsFiles &files)
+{
+    using G = GlobalSettings;
+    return saveSettings(settings, files, { &G::ShowTips, &G::TileFiles, &G::NumlockDownloadMode });
+}
+
+} // namespace
+
+Expected<void, FileError> SaveFilesPath(const Paths &paths)
+{
+    return ProfileFile(paths.iniPath)
+        .write(ProfileEntry{ u"Launcher"_s, u"FilesDirectory"_s,
+                             filesDirectoryCommand(windowsFolder(), paths.filesFolder()) });
+}
+
+Preferences::Preferences(const Context &context, const Parts &parts, PreferencesHost host,
+                         QWidget *parent)
+    : QDialog(parent), m_context(context), m_parts(parts), m_host(std::move(host)),
+      m_ui(std::make_unique<Ui::Preferences>())
+{
+    m_ui->setupUi(this);
+    setWindowModality(Qt::ApplicationModal);
+    auto *style = new CloseTabs;
+    style->setParent(this);
+    m_ui->SSTab1->tabBar()->setStyle(style);
+    addPages(parts);
+    m_ui->SSTab1->setCurrentIndex(0);
+    connect(m_ui->cmdOK, &QPushButton::clicked, this, &Preferences::accept);
+}
+
+Preferences::~Preferences() = default;
+
+void Preferences::addPages(const Parts &parts)
+{
+    auto *open = new OpenPage(m_context, this);
+    auto *favourites = new FavouritesPage(m_context, parts.lists.favourites(), this);
+    m_defaults = new DefaultsPage(m_context, this);
+    addPage(PreferencesTab::FileLocations, new FilesPage(m_context, this));
+    addPage(PreferencesTab::ColoursFonts, new ColoursPage(m_context, this));
+    addPage(PreferencesTab::Apps, new AppsPage(m_context, parts.lists.customApps(), this));
+    addPage(PreferencesTab::Favourites, favourites);
+    addPage(PreferencesTab::Games, new GamesPage(m_context, parts.games, this));
+    addPage(PreferencesTab::OpenSaveUndo, open);
+    addPage(PreferencesTab::Misc, new MiscPage(m_context, this));
+    addPage(PreferencesTab::DefaultOptions, m_defaults);
+    addPage(PreferencesTab::Zeph, new ZephPage(m_context, this));
+    connect(open, &OpenPage::deleteUndosWanted, this, m_host.DeleteUndosFromMemory);
+    connect(open, &OpenPage::restoresChanged, favourites, &FavouritesPage::setRestores);
+    favourites->setRestores(open->restores());
+}
+
+void Preferences::addPage(PreferencesTab tab, PreferencesPage *page)
+{
+    m_ui->SSTab1->addTab(page, captionOf(tab));
+    m_pages.append(page);
+    m_tabs.append(tab);
+}
+
+void Preferences::showTab(PreferencesTab tab)
+{
+    m_ui->SSTab1->setCurrentIndex(int(m_tabs.indexOf(tab)));
+}
+
+void Preferences::done(int result)
+{
+    unload();
+    QDialog::done(result);
+}
+
+void Preferences::unload()
+{
+    if (std::exchange(m_unloaded, true)) {
+        return;
+    }
+    const qint16 joystick = m_context.settings.JoyIDnumber;
+    const qint16 interval = m_context.settings.StatusMonitoringInterval;
+    takeFields();
+    m_hardwareHasChanged = m_context.settings.JoyIDnumber != joystick || m_defaults->haveChanged();
+    if (m_context.settings.StatusMonitoringInterval != interval) {
+        // An interval that is too long for the timer is told, and nothing is lost by it.
+        guarded(m_context.dialogs, m_host.restartDetector)();
+    }
+    save();
+}
+
+void Preferences::takeFields()
+{
+    for (PreferencesPage *page : m_pages) {
+        guarded(m_context.dialogs, [page] { page->collect(); })();
+    }
+}
+
+void Preferences::save()
+{
+    const SettingsFiles files = settingsFilesOf(m_context.paths);
+    const GlobalSettings &settings = m_context.settings;
+    // Each is tried, and the first that fails is told.
+    Expected<void, FileError> result = SaveFilesPath(m_context.paths);
+    const auto also = [&result](const Expected<void, FileError> &written) {
+        if (result && !written) {
+            result = written;
+        }
+    };
+    also(saveGlobalSettings(settings, files));
+    also(saveOwnOptions(settings, files));
+    also(SaveColourScheme(settings, files));
+    m_parts.lists.save();
+    also(saveFilesFolder(files, m_context.paths.filesFolder()));
+    also(SaveDefaultOptions(m_defaults->options(), files.hotasIni));
+    if (!result) {
+        tellNotKept(m_context.status, result.error());
+    }
+}
+
+} // namespace zeph

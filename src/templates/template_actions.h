@@ -1,0 +1,17 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+// The menus of the Template Editor, which mirror the main window's where they do the same.
+
+#include "menus/action_row.h"
+
+#include <span>
+
+namespace zeph {
+
+std::span<const MenuRow> templateMenuBar();
+std::span<const ActionRow> templateActions();
+
+} // namespace zeph

@@ -1,0 +1,76 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "platform/context.h"
+#include "templates/template_look.h"
+
+#include <QObject>
+
+#include <functional>
+
+class QComboBox;
+class QFontComboBox;
+class QToolBar;
+class QToolButton;
+
+namespace zeph {
+
+class MenuActions;
+class RichTextBox;
+
+/// The looks of the Template Editor's text: menu entries and toolbar give them to the selection and
+/// show what the selection has. Fills the toolbar.
+class TemplateFormatting : public QObject
+{
+    Q_OBJECT
+public:
+    struct Parts {
+        RichTextBox &text;
+        MenuActions &actions;
+        QToolBar &toolbar;
+    };
+    /// Characters without a font are shown in the plain format's.
+    TemplateFormatting(const Context &context, const Parts &parts, CharFormat plain);
+
+    /// Bold (0), italic (1) or underline (2): off when all of the selection has it, else on.
+    void mnuFormatArray1_Click(int Index);
+    /// A bullet before each paragraph of the selection; off when all have one.
+    void mnuFormatBullets_Click();
+    /// Left (0), centre (1), right (2).
+    void mnuFormatAlign_Click(int Index);
+    /// One of the nine styles, 0 to 8.
+    void mnuStyleArray_Click(int Index);
+    /// Writes the styles' names into the menu entries.
+    void UpdateStyleCaptions();
+    void mnuFormatFont_Click();
+    void mnuFormatColour_Click();
+
+    /// Shows on the toolbar and in the menu what the selection has.
+    void UpdateToolbarButtonStates();
+
+private:
+    void fillToolbar();
+    void connectEntries();
+    void change(const std::function<void(CharFormat &)> &change);
+    CommonLook look() const;
+    void UpdateComboFonts(const CommonLook &look);
+    void UpdateComboFontSize(const CommonLook &look);
+    void UpdateBoldButton(const CommonLook &look);
+    void UpdateItalicsButton(const CommonLook &look);
+    void UpdateUnderlineButton(const CommonLook &look);
+    void UpdateBulletedButton(const CommonLook &look);
+    void UpdateAlignmentButtons(const CommonLook &look);
+    void updateColour(const CommonLook &look);
+    void setSize(const QString &text);
+
+    Context m_context;
+    Parts m_parts;
+    CharFormat m_plain;
+    QFontComboBox *m_fonts = nullptr;
+    QComboBox *m_sizes = nullptr;
+    QToolButton *m_colour = nullptr;
+};
+
+} // namespace zeph

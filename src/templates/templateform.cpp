@@ -1,0 +1,473 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#include "templates/templateform.h"
+
+#include "language/file_kinds.h"
+#include "menus/menu_actions.h"
+#include "platform/core/file_attributes.h"
+#include "platform/core/file_io.h"
+#include "platform/dialogs.h"
+#include "platform/overwrite_question.h"
+#include "platform/printers.h"
+#include "platform/richtext/rich_text_box.h"
+#include "platform/richtext/rich_text_document.h"
+#include "platform/richtext/rich_text_mime.h"
+#include "platform/status_line.h"
+#include "print/printpreview.h"
+#include "settings/global_settings.h"
+#include "settings/settings_files.h"
+#include "templates/template_actions.h"
+#include "templates/template_formatting.h"
+#include "text/painter.h"
+#include "ui_templateform.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QClipboard>
+#include <QCloseEvent>
+#include <QMenu>
+#include <QMouseEvent>
+#include <QTextBlock>
+
+namespace zeph {
+
+namespace {
+
+constexpr double plainSize = 10;
+
+QPalette paperPalette(QPalette palette)
+{
+    // A word processor's text is black on white paper whatever the desktop looks like: what is
+    // written here is read elsewhere.
+    palette.setColor(QPalette::Base, Qt::white);
+    palette.setColor(QPalette::Text, Qt::black);
+    return palette;
+}
+
+} // namespace
+
+TemplateForm::TemplateForm(const Context &context, Printers &printers, TemplateHost host,
+                           QWidget *parent)
+    : QMainWindow(parent), m_context(context), m_printers(printers), m_host(std::move(host)),
+      m_plain{ .family = u"Arial"_s, .pointSize = plainSize, .colour = {} },
+      m_ui(std::make_unique<Ui::TemplateForm>()),
+      m_actions(std::make_unique<MenuActions>(context.dialogs, context.paths.inApp(u"icons/"),
+                                              templateMenuBar(), templateActions()))
+{
+    m_ui->setupUi(this);
+    const QString caption = windowTitle();
+    setWindowFlag(Qt::Window);
+    for (QMenu *menu : m_actions->menuBar()) {
+        m_ui->MenuBar1->addMenu(menu);
+    }
+    box().setPalette(paperPalette(box().palette()));
+    box().document()->setDefaultFont(toTextFormat(m_plain).font());
+    box().document()->setDocumentMargin(12);
+    box().viewport()->installEventFilter(this);
+    box().setContextMenuPolicy(Qt::CustomContextMenu);
+    m_formatting = new TemplateFormatting(
+        context, TemplateFormatting::Parts{ box(), *m_actions, *m_ui->Toolbar1 }, m_plain);
+    connectFile();
+    connectEdit();
+    GetTemplateEditorOptions();
+    showFile(templatesFolder() + untitledTemplate.toString(), {});
+    // Nobody has chosen a file yet.
+    setWindowTitle(caption);
+    updateConditions();
+    box().setFocus();
+}
+
+TemplateForm::~TemplateForm() = default;
+
+RichTextBox &TemplateForm::box() const
+{
+    return *m_ui->TemplateText;
+}
+
+QString TemplateForm::templatesFolder() const
+{
+    return m_context.paths.inApp(u"Templates/");
+}
+
+void TemplateForm::connectFile()
+{
+    MenuActions &on = *m_actions;
+    on.connectTo(u"mnuFileNew", [this] { mnuFileNew_Click(); });
+    on.connectTo(u"mnuFileOpen", [this] { mnuFileOpen_Click(); });
+    on.connectTo(u"mnuFileOpenDefault", [this] { mnuFileOpenDefault_Click(); });
+    on.connectTo(u"mnuFileSetDefault", [this] { mnuFileSetDefault_Click(); });
+    on.connectTo(u"mnuFileSave", [this] { mnuFileSave_Click(); });
+    on.connectTo(u"mnuFileSaveAs", [this] { mnuFileSaveAs_Click(); });
+    on.connectTo(u"mnuFilePrint", [this] { mnuFilePrint_Click(); });
+    on.connectTo(u"mnuFilePrintSelection", [this] { mnuFilePrintSelection_Click(); });
+    on.connectTo(u"mnuFilePrintPreview",
+                 [this] { showPreview(m_context, m_printers, job(), folderOf(m_path), this); });
+    on.connectTo(u"mnuFileExportPDF", [this] { exportPdf(); });
+    on.connectTo(u"mnuFileClose", [this] { close(); });
+}
+
+void TemplateForm::connectEdit()
+{
+    MenuActions &on = *m_actions;
+    on.connectTo(u"mnuEditUndo", [this] { box().undo(); });
+    on.connectTo(u"mnuEditRedo", [this] { box().redo(); });
+    on.connectTo(u"mnuEditCut", [this] { box().cut(); });
+    on.connectTo(u"mnuEditCopy", [this] { box().copy(); });
+    on.connectTo(u"mnuEditPaste", [this] { box().paste(); });
+    on.connectTo(u"mnuEditDelete", [this] { box().textCursor().removeSelectedText(); });
+    on.connectTo(u"mnuEditSelectAll", [this] { box().selectAll(); });
+    on.connectTo(u"mnuEditIniFile", [this] { mnuEditIniFile_Click(); });
+    on.connectTo(u"mnuViewColour", [this] { ColourTemplateText(); });
+    on.connectTo(u"mnuViewToolBar", [this] {
+        m_ui->Toolbar1->setVisible(m_actions->action(u"mnuViewToolBar")->isChecked());
+        SaveTemplateEditorOptions();
+    });
+    on.connectTo(u"mnuComposerPlugin", [this] { m_host.openComposer(); });
+    on.connectTo(u"mnuHelpContents", [this] { m_host.showHelp(); });
+    connect(on.menu(u"mnuStyles"), &QMenu::aboutToShow, m_formatting,
+            &TemplateFormatting::UpdateStyleCaptions);
+    connect(&box(), &RichTextBox::undoAvailable, on.action(u"mnuEditUndo"), &QAction::setEnabled);
+    connect(&box(), &RichTextBox::redoAvailable, on.action(u"mnuEditRedo"), &QAction::setEnabled);
+    connect(&box(), &RichTextBox::selectionChanged, this, &TemplateForm::updateConditions);
+    // An answer about leaving the text says nothing about what is written later.
+    connect(&box(), &RichTextBox::textChanged, this, [this] { m_isLeft = false; });
+    connect(&box(), &RichTextBox::customContextMenuRequested, this, &TemplateForm::showMenu);
+    connect(QApplication::clipboard(), &QClipboard::dataChanged, this,
+            &TemplateForm::updateConditions);
+    on.action(u"mnuComposerPlugin")->setEnabled(bool(m_host.openComposer));
+}
+
+void TemplateForm::updateConditions()
+{
+    m_actions->setCondition(When::Selection, box().selLength() > 0);
+    m_actions->setCondition(When::PasteReady, holdsText(QApplication::clipboard()->mimeData()));
+}
+
+void TemplateForm::showMenu(const QPoint &at)
+{
+    QMenu menu(this);
+    for (const QStringView name :
+         { u"mnuEditUndo", u"mnuEditRedo", u"", u"mnuEditCut", u"mnuEditCopy", u"mnuEditPaste",
+           u"mnuEditDelete", u"mnuEditSelectAll", u"" }) {
+        if (name.isEmpty()) {
+            menu.addSeparator();
+        } else {
+            menu.addAction(m_actions->action(name));
+        }
+    }
+    menu.addMenu(m_actions->menu(u"mnuStyles"));
+    menu.exec(box().viewport()->mapToGlobal(at));
+}
+
+void TemplateForm::say(const QString &text)
+{
+    m_context.status.setText(text);
+    m_ui->StatusBar1->showMessage(text);
+}
+
+void TemplateForm::AssignCurrentTexttoTempRTF()
+{
+    m_tempRTF = box().richText();
+}
+
+bool TemplateForm::HasTemplateTextChanged() const
+{
+    return differs(m_name, box().richText(), m_tempRTF);
+}
+
+void TemplateForm::showFile(const QString &path, const RichText &text)
+{
+    m_path = path;
+    m_name = nameOf(path);
+    box().setRichText(text);
+    if (text.text.isEmpty()) {
+        box().setCurrentCharFormat(toTextFormat(m_plain));
+    }
+    AssignCurrentTexttoTempRTF();
+    setWindowTitle(u" Editing "_s + m_name);
+    m_formatting->UpdateToolbarButtonStates();
+}
+
+bool TemplateForm::mayLeave(TemplateLeaving leaving)
+{
+    if (!HasTemplateTextChanged()) {
+        return true;
+    }
+    const TemplateQuestion question = templateQuestion(leaving, m_name);
+    const BoxButton answer =
+        m_context.dialogs.box({ .title = question.title,
+                                .text = question.text,
+                                .icon = BoxIcon::Exclamation,
+                                .buttons = { BoxButton::Yes, BoxButton::No, BoxButton::Cancel },
+                                .defaultButton = BoxButton::Yes });
+    if (answer != BoxButton::Yes) {
+        return answer == BoxButton::No;
+    }
+    mnuFileSave_Click();
+    if (HasTemplateTextChanged()) {
+        m_context.dialogs.tell(u"Ooops!"_s, question.refusal, BoxIcon::Exclamation);
+        return false;
+    }
+    return true;
+}
+
+bool TemplateForm::mayClose()
+{
+    m_isLeft = mayLeave(TemplateLeaving::Closing);
+    return m_isLeft;
+}
+
+void TemplateForm::closeEvent(QCloseEvent *event)
+{
+    if (!m_isLeft && !mayClose()) {
+        event->ignore();
+        return;
+    }
+    SaveTemplateEditorOptions();
+    QMainWindow::closeEvent(event);
+}
+
+bool TemplateForm::load(const QString &path)
+{
+    const QString found = existingPath(path);
+    const auto bytes = readWholeFile(found.isEmpty() ? path : found);
+    const auto text =
+        bytes ? templateText(path, *bytes, m_plain) : Unexpected<QString>(bytes.error().reason);
+    if (!text) {
+        m_context.dialogs.tell(u"Can't read file"_s, path + u" wasn't opened: "_s + text.error(),
+                               BoxIcon::Exclamation);
+        return false;
+    }
+    showFile(found, *text);
+    say(m_name + u" was opened successfully"_s);
+    return true;
+}
+
+bool TemplateForm::OpenReadMe(const QString &path)
+{
+    return mayLeave(TemplateLeaving::Open) && load(path);
+}
+
+void TemplateForm::mnuFileNew_Click()
+{
+    if (mayLeave(TemplateLeaving::New)) {
+        showFile(templatesFolder() + untitledTemplate.toString(), {});
+        say(u"New file created"_s);
+    }
+}
+
+void TemplateForm::mnuFileOpen_Click()
+{
+    if (!mayLeave(TemplateLeaving::Open)) {
+        return;
+    }
+    const auto path = m_context.dialogs.openFile({ u"Select the file to open ..."_s,
+                                                   templateOpenFilter(),
+                                                   u"rtf"_s,
+                                                   templatesFolder(),
+                                                   {} });
+    if (path) {
+        load(*path);
+    }
+}
+
+void TemplateForm::mnuFileSave_Click()
+{
+    if (isUntitled(m_name)) {
+        mnuFileSaveAs_Click();
+        return;
+    }
+    if (isReadOnlyFile(m_path)) {
+        m_context.dialogs.tell(readOnlyTitle.toString(),
+                               m_path
+                                   + u" is read only. You'll need to save it elsewhere using the "
+                                     "Save As routine. I'll run this for you now."_s,
+                               BoxIcon::Exclamation);
+        mnuFileSaveAs_Click();
+        return;
+    }
+    writeTo(m_path);
+}
+
+void TemplateForm::mnuFileSaveAs_Click()
+{
+    const auto chosen = m_context.dialogs.saveFile(
+        { u"Save file as ..."_s, templateSaveFilter(), u"rtf"_s,
+          isUntitled(m_name) ? templatesFolder() : folderOf(m_path), m_name });
+    if (!chosen) {
+        return;
+    }
+    const QString existing = existingPath(*chosen);
+    const QString path = existing.isEmpty() ? *chosen : existing;
+    if (mayOverwrite(m_context.dialogs, path) && writeTo(path)) {
+        m_path = path;
+        m_name = nameOf(path);
+        setWindowTitle(u" Editing "_s + m_name);
+    }
+}
+
+bool TemplateForm::writeTo(const QString &path)
+{
+    const RichText text = box().richText();
+    if (const qsizetype stranger = firstUnsavable(path, text.text); stranger >= 0) {
+        m_context.dialogs.tell(
+            u"There's a letter in there that I can't write"_s,
+            nameOf(path)
+                + u" wasn't saved: a plain text file can't hold the character that I've selected "
+                  "for you. Change it, or save the file as rich text (*.rtf)."_s,
+            BoxIcon::Exclamation);
+        box().select(int(stranger), 1);
+        return false;
+    }
+    if (const auto done = writeFileAtomically(path, templateBytes(path, text)); !done) {
+        tellNotSaved(m_context.dialogs, done.error());
+        return false;
+    }
+    AssignCurrentTexttoTempRTF();
+    say(nameOf(path) + u" was saved successfully"_s);
+    if (m_host.fileWritten) {
+        m_host.fileWritten(path);
+    }
+    return true;
+}
+
+void TemplateForm::mnuFileSetDefault_Click()
+{
+    if (isUntitled(m_name) || HasTemplateTextChanged()) {
+        m_context.dialogs.tell(u"You need to save "_s + m_name
+                                   + u" first before you can make it the default file."_s,
+                               m_name + u" needs to be saved first buddy"_s);
+        return;
+    }
+    m_context.settings.TextFilePath = m_path;
+    const auto kept = saveSettings(m_context.settings, settingsFilesOf(m_context.paths),
+                                   { &GlobalSettings::TextFilePath });
+    say(kept ? m_name + u" is the default file now"_s
+             : u"The settings couldn't be written: "_s + kept.error().reason);
+}
+
+void TemplateForm::mnuFileOpenDefault_Click()
+{
+    const QString path = m_context.settings.TextFilePath;
+    if (path.isEmpty()) {
+        m_context.dialogs.tell(u"Have a beer instead"_s,
+                               u"You don't have a default template to open. You can set one here "
+                               "or in Preferences."_s);
+        return;
+    }
+    if (OpenReadMe(path)) {
+        say(u" Default file ("_s + path + u") was opened successfully. How about that then!"_s);
+    }
+}
+
+void TemplateForm::mnuEditIniFile_Click()
+{
+    const QString path = m_context.paths.iniPath;
+    if (!fileExists(path)) {
+        m_context.dialogs.tell(u"Couldn't locate Zeph.ini"_s,
+                               u"Hmmm...I couldn't find your ini file - I was looking for it "
+                               "here: "_s
+                                   + path,
+                               BoxIcon::Exclamation);
+        return;
+    }
+    if (mayLeave(TemplateLeaving::IniFile)) {
+        load(path);
+    }
+}
+
+PrintJob TemplateForm::job() const
+{
+    return { m_name, box().richText(), m_plain, box().tabStopDistance() };
+}
+
+void TemplateForm::exportPdf()
+{
+    exportAsPdf(m_context, m_printers, job(), folderOf(m_path));
+    m_ui->StatusBar1->showMessage(m_context.status.text());
+}
+
+void TemplateForm::mnuFilePrint_Click()
+{
+    if (!tellIfNoPrinter(m_context, m_printers)) {
+        askForPortrait(m_context, m_printers);
+        printJob(m_context, m_printers, job());
+        say(m_context.status.text());
+    }
+}
+
+void TemplateForm::mnuFilePrintSelection_Click()
+{
+    if (!tellIfNoPrinter(m_context, m_printers)) {
+        PrintJob part = job();
+        part.text = part.text.mid(box().selStart(), box().selLength());
+        printJob(m_context, m_printers, part);
+        say(m_context.status.text());
+    }
+}
+
+void TemplateForm::ColourTemplateText()
+{
+    RichText text = box().richText();
+    if (text.text.isEmpty()) {
+        say(u"There's no text to highlight."_s);
+        return;
+    }
+    const DocumentKind kind = kindOfName(m_name);
+    const auto passes = kind == DocumentKind::Macro ? macroPasses() : joystickPasses();
+    qsizetype from = 0;
+    RichTextChanges changes(std::move(text));
+    for (const ColourRun &run :
+         paint(plainTextOf(*box().document()), passes, colourScheme(m_context.settings, kind))) {
+        changes.change(from, run.length,
+                       [&run](CharFormat &format) { format.colour = run.colour; });
+        from += run.length;
+    }
+    applyCharacterRuns(*box().document(), changes.take().characters);
+    say(u"Done"_s);
+}
+
+QString TemplateForm::TemplateRichWordOver(const QPoint &at) const
+{
+    const QTextCursor nearest = box().cursorForPosition(at);
+    const QRect place = box().cursorRect(nearest);
+    if (at.y() < place.top() || at.y() > place.bottom()) {
+        return {};
+    }
+    const int position = nearest.positionInBlock() - (at.x() < place.left() ? 1 : 0);
+    return templateWordOver(nearest.block().text(), position);
+}
+
+bool TemplateForm::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::MouseMove && m_host.macroKeys
+        && m_context.settings.MacroWithMouse == 1) {
+        const QString word = TemplateRichWordOver(static_cast<QMouseEvent *>(event)->pos());
+        if (std::exchange(m_wordUnderMouse, word) != word && !word.isEmpty()) {
+            if (const auto keys = m_host.macroKeys(word)) {
+                say(*keys);
+            }
+        }
+    }
+    return QMainWindow::eventFilter(watched, event);
+}
+
+void TemplateForm::GetTemplateEditorOptions()
+{
+    // A value that cannot be read counts as none: the toolbar is shown.
+    (void)readSettings(m_context.settings, settingsFilesOf(m_context.paths),
+                       { &GlobalSettings::HideAppsToolBar });
+    const bool shown = m_context.settings.HideAppsToolBar != 1;
+    m_actions->action(u"mnuViewToolBar")->setChecked(shown);
+    m_ui->Toolbar1->setVisible(shown);
+}
+
+void TemplateForm::SaveTemplateEditorOptions()
+{
+    m_context.settings.HideAppsToolBar = m_actions->action(u"mnuViewToolBar")->isChecked() ? 0 : 1;
+    (void)saveSettings(m_context.settings, settingsFilesOf(m_context.paths),
+                       { &GlobalSettings::HideAppsToolBar });
+}
+
+} // namespace zeph

@@ -1,0 +1,144 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#include "text/macro_table.h"
+
+#include "language/words.h"
+
+namespace zeph {
+
+namespace {
+
+QStringView withoutLeadingBlanks(QStringView line)
+{
+    while (line.startsWith(u' ')) {
+        line = line.mid(1);
+    }
+    return line;
+}
+
+/// Blanks alone: the toolkit's own trimming would take tabs and the no-break blank too.
+QStringView withoutBlanksAround(QStringView line)
+{
+    line = withoutLeadingBlanks(line);
+    while (line.endsWith(u' ')) {
+        line.chop(1);
+    }
+    return line;
+}
+
+bool isUsable(QStringView line)
+{
+    const bool comment = line.compare(u"rem", Qt::CaseInsensitive) == 0;
+    const bool switchedOff = line.startsWith(u'~') && (line.size() == 1 || line.contains(u'='));
+    return !line.isEmpty() && !comment && !switchedOff && line != u"//";
+}
+
+bool isRule(QStringView line)
+{
+    return line.startsWith(u"rem --", Qt::CaseInsensitive);
+}
+
+QString headingOf(QStringView line)
+{
+    QString heading = withoutBlanksAround(line.mid(3)).toString().toLower();
+    if (!heading.isEmpty()) {
+        heading[0] = heading[0].toUpper();
+    }
+    return heading;
+}
+
+/// The line with each run of blanks and tabs as one blank.
+QString collapsed(QString line)
+{
+    line.replace(u'\t', u' ');
+    QString result;
+    result.reserve(line.size());
+    for (const QChar each : std::as_const(line)) {
+        if (each != u' ' || !result.endsWith(u' ')) {
+            result.append(each);
+        }
+    }
+    return withoutBlanksAround(result).toString();
+}
+
+} // namespace
+
+QStringList usableMacroLines(QStringView text)
+{
+    QStringList lines;
+    for (const QStringView each : text.split(u'\n')) {
+        const QStringView line = withoutLeadingBlanks(each);
+        if (isUsable(line)) {
+            lines.append(line.toString());
+        }
+    }
+    return lines;
+}
+
+MacroTable extractMacros(const QStringList &lines)
+{
+    MacroTable table{ lines, { u"All"_s }, { {} } };
+    for (qsizetype i = 0; i < lines.size(); ++i) {
+        if (lines[i].startsWith(u"rem ", Qt::CaseInsensitive)) {
+            if (i + 2 < lines.size() && isRule(lines[i]) && isRule(lines[i + 2])) {
+                table.MacroHeadings.append(headingOf(lines[i + 1]));
+                table.names.append(QStringList());
+                i += 2;
+            }
+        } else if (lines[i].contains(u'=')) {
+            const QString name = macroName(lines[i]);
+            table.names.first().append(name);
+            if (table.names.size() > 1) {
+                table.names.last().append(name);
+            }
+        }
+    }
+    return table;
+}
+
+QString macroName(QStringView line)
+{
+    const qsizetype equals = line.indexOf(u'=');
+    QString name = line.left(equals < 0 ? line.size() : equals).toString();
+    name.remove(u'\t');
+    return withoutBlanksAround(name).toString();
+}
+
+std::optional<QString> macroKeys(const MacroTable &table, const QString &name)
+{
+    const QString head = name + u" ="_s;
+    for (const QString &line : table.MacroLines) {
+        if (line.contains(name, Qt::CaseInsensitive)
+            && collapsed(line).startsWith(head, Qt::CaseInsensitive)) {
+            return line;
+        }
+    }
+    return std::nullopt;
+}
+
+QString macroCounts(const MacroTable &table)
+{
+    if (table.MacroHeadings.isEmpty()) {
+        return u"No macro file analysed"_s;
+    }
+    QString counts =
+        u"Contains "_s + QString::number(table.names.first().size()) + u" macros and "_s;
+    if (table.MacroHeadings.size() > 1) {
+        counts += QString::number(table.MacroHeadings.size() - 1) + u" macro headings"_s;
+    }
+    return counts;
+}
+
+QString withoutRefused(QString typed)
+{
+    for (QChar &each : typed) {
+        // Reading a macro's name deletes tabs, so that one could never be found by it.
+        if (language::forbiddenMacroNameCharacters.contains(each) || each == u'\t') {
+            each = u'_';
+        }
+    }
+    return typed;
+}
+
+} // namespace zeph

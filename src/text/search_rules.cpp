@@ -1,0 +1,69 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#include "text/search_rules.h"
+
+#include "platform/core/text_search.h"
+
+namespace zeph {
+
+SearchResult search(QStringView text, const SearchRequest &request)
+{
+    if (request.word.isEmpty()) {
+        return { SearchVerdict::NoWord };
+    }
+    if (text.isEmpty()) {
+        return { SearchVerdict::NoText };
+    }
+    const qsizetype from = request.first ? 0 : request.caret;
+    const qsizetype start = findText(text, request.word, from, request.options);
+    if (start >= 0) {
+        return { SearchVerdict::Hit, start };
+    }
+    return { request.first ? SearchVerdict::NotFound : SearchVerdict::NoFurther };
+}
+
+std::vector<qsizetype> hitsToReplace(QStringView text, QStringView word, QStringView replacement,
+                                     int options)
+{
+    std::vector<qsizetype> hits;
+    // Only a hit that follows the one before directly has a changed neighbour on its left: the
+    // replacement's last character, or what stands before an empty one.
+    const bool asksNeighbour =
+        (options & SearchWholeWord) && !word.isEmpty() && isWordCharacter(word.front());
+    QChar last;
+    qsizetype behind = 0;
+    qsizetype at = findText(text, word, 0, options);
+    while (at >= 0) {
+        const bool touches = at == behind && !hits.empty();
+        if (touches && asksNeighbour && !last.isNull() && isWordCharacter(last)) {
+            at = findText(text, word, at + 1, options);
+            continue;
+        }
+        if (!replacement.isEmpty()) {
+            last = replacement.back();
+        } else if (at > behind) {
+            last = text[at - 1];
+        }
+        hits.push_back(at);
+        behind = at + word.size();
+        at = findText(text, word, behind, options);
+    }
+    return hits;
+}
+
+bool isSought(QStringView text, QStringView word, int options)
+{
+    return text.compare(word, options & SearchMatchCase ? Qt::CaseSensitive : Qt::CaseInsensitive)
+        == 0;
+}
+
+QStringList withEarlier(QStringList earlier, const QString &text)
+{
+    if (!earlier.contains(text)) {
+        earlier.prepend(text);
+    }
+    return earlier;
+}
+
+} // namespace zeph

@@ -1,0 +1,113 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+// Both texts side by side: which one is meant, and what each shows.
+
+#include "documents/editor_texts.h"
+#include "editor/files/file_opening.h"
+#include "editor/files/file_saving.h"
+#include "tests/documents/editor_fixture.h"
+
+#include <QAction>
+#include <QScrollBar>
+#include <QTabBar>
+#include <QTest>
+
+using namespace zeph;
+using zeph::test::EditorTest;
+
+namespace {
+
+class TiledViewTest : public EditorTest
+{
+protected:
+    void SetUp() override
+    {
+        editor->resize(900, 600);
+        editor->show();
+        editor->activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(editor.get()));
+        editor->action(u"mnuViewTileVertically")->trigger();
+        editor->opening().mnuFileJoystickLoad_Click(file(u"a.tmj"_s, lines("BTN S1 a")));
+        editor->opening().MnuFileMacroLoad_Click(file(u"a.tmm"_s, lines("Gun = g")));
+        editor->view().select(DocumentKind::Joystick);
+        QTest::qWait(0);
+    }
+    static QByteArray lines(const QByteArray &line) { return (line + "\r\n").repeated(400); }
+    TextControl *joystick() { return editor->joystick().control; }
+    TextControl *macro() { return editor->macro().control; }
+    void click(TextControl *control)
+    {
+        QTest::mouseClick(control->viewport(), Qt::LeftButton, {}, QPoint(20, 30));
+    }
+};
+
+} // namespace
+
+TEST_F(TiledViewTest, AClickIntoTheOtherTextSelectsItsTab)
+{
+    click(macro());
+    EXPECT_EQ(editor->selected().kind, DocumentKind::Macro);
+    EXPECT_EQ(editor->findChild<QTabBar *>(u"TabStrip1"_s)->currentIndex(), 1);
+    EXPECT_EQ(status.text(), u"Editing a.tmm");
+    EXPECT_TRUE(macro()->hasFocus());
+    EXPECT_TRUE(joystick()->isVisible());
+    click(joystick());
+    EXPECT_EQ(editor->selected().kind, DocumentKind::Joystick);
+}
+
+TEST_F(TiledViewTest, CommandsActOnTheTextThatWasClicked)
+{
+    click(macro());
+    QTest::keyClicks(macro(), u"x"_s);
+    QTest::keyClick(macro(), Qt::Key_S, Qt::ControlModifier);
+    EXPECT_EQ(editor->macro().state, EditorDocument::Saved);
+    EXPECT_TRUE(folder.read(u"Files/a.tmm"_s).contains('x'));
+}
+
+TEST_F(TiledViewTest, AClickHitsTheLineThatTheUserSees)
+{
+    macro()->verticalScrollBar()->setValue(200);
+    click(macro());
+    EXPECT_EQ(macro()->verticalScrollBar()->value(), 200);
+    EXPECT_GT(macro()->caretLine(), 200);
+}
+
+TEST_F(TiledViewTest, TheTextThatIsNotSelectedKeepsItsCaretAndItsScroll)
+{
+    macro()->select(50, 4);
+    macro()->verticalScrollBar()->setValue(200);
+    QTest::keyClicks(joystick(), u"x"_s);
+    editor->saving().mnuFileSave_Click();
+    EXPECT_EQ(macro()->verticalScrollBar()->value(), 200);
+    EXPECT_EQ(macro()->selStart(), 50);
+    EXPECT_EQ(macro()->selLength(), 4);
+    EXPECT_EQ(editor->macro().caret, 50);
+}
+
+TEST_F(TiledViewTest, AClickIntoTheProtectedTextSaysSo)
+{
+    editor->action(u"mnuPreferencesProtectMacroFile")->trigger();
+    click(macro());
+    EXPECT_EQ(status.text(), u"a.tmm is protected and can't be edited.");
+}
+
+TEST_F(TiledViewTest, TheCompilersWordStaysWhenItsLineIsInTheProtectedText)
+{
+    editor->action(u"mnuPreferencesProtectMacroFile")->trigger();
+    const QString word = u"Compiler reported an error at line 2: ERROR 1013: brackets"_s;
+    status.setText(word);
+    editor->HighlightErrorLine(2, u"ERROR 1013: brackets"_s);
+    EXPECT_EQ(editor->selected().kind, DocumentKind::Macro);
+    EXPECT_EQ(status.text(), word);
+}
+
+TEST_F(TiledViewTest, ProtectionOutlivesTheFileAndGuardsTheNextOne)
+{
+    editor->action(u"mnuPreferencesProtectMacroFile")->trigger();
+    editor->opening().MnuFileMacroLoad_Click(file(u"b.tmm"_s, "Fire = f"));
+    EXPECT_EQ(editor->macroText(), u"Fire = f");
+    QTest::keyClicks(macro(), u"x"_s);
+    EXPECT_EQ(editor->macroText(), u"Fire = f");
+    EXPECT_EQ(editor->macro().state, EditorDocument::Saved);
+}

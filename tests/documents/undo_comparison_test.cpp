@@ -1,0 +1,332 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+// The history against a plain one that keeps whole copies: same texts, looks, carets and captions
+// after every step of long random sequences in the real Editor.
+
+#include "documents/undo_history.h"
+#include "editor/files/file_new.h"
+#include "editor/files/file_opening.h"
+#include "editor/files/file_saving.h"
+#include "menus/menu_actions.h"
+#include "platform/richtext/rich_text_document.h"
+#include "tests/documents/editor_fixture.h"
+#include "tests/support/rich_texts.h"
+
+#include <QAction>
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QTest>
+
+using namespace zeph;
+
+namespace {
+
+/// A history of whole copies, by the letter of its rules; slot 0 is the newest.
+class CopiesHistory
+{
+public:
+    struct Slot {
+        RichText text;
+        int caret;
+    };
+
+    void start(const RichText &text)
+    {
+        slotsHeld = { { text, 0 } };
+        index = 0;
+        next = true;
+        space = enter = false;
+    }
+    void key(int which, bool emptyText)
+    {
+        if (which == Qt::Key_Delete) {
+            next = true;
+        } else if (emptyText && which == Qt::Key_Space) {
+            next = false;
+        } else if (slotsHeld.size() > 1) {
+            next = false;
+            if (which == Qt::Key_Backspace) {
+                next = true;
+            } else if (which == Qt::Key_Return) {
+                if (!enter) {
+                    next = true;
+                }
+                enter = true;
+                space = false;
+            } else if (which == Qt::Key_Space) {
+                if (!space) {
+                    next = true;
+                }
+                space = true;
+                enter = false;
+            } else {
+                space = enter = false;
+            }
+        } else {
+            next = true;
+        }
+    }
+    void changed(const RichText &text, int caret, int undoMax)
+    {
+        if (next) {
+            const size_t n = slotsHeld.size();
+            const size_t grown = int(n) <= undoMax ? n + 1 : n;
+            slotsHeld.insert(slotsHeld.begin(), Slot{});
+            slotsHeld.resize(grown);
+        }
+        slotsHeld[0] = { text, caret };
+        index = 0;
+        next = true;
+    }
+
+    std::vector<Slot> slotsHeld;
+    size_t index = 0;
+    bool next = true;
+    bool space = false;
+    bool enter = false;
+};
+
+QString captionOf(QStringView word, size_t steps)
+{
+    return steps == 0 ? u'&' + word.toString()
+                      : u'&' + word.toString() + u" ("_s + QString::number(steps) + u')';
+}
+
+class UndoComparison : public test::EditorTest
+{
+protected:
+    UndoComparison() { settings.UpdateModified = 0; }
+
+    EditorDocument &document() { return editor->selected(); }
+    TextControl &control() { return *document().control; }
+    CopiesHistory &copies() { return m_copies[size_t(document().kind)]; }
+    UndoHistory &history() { return editor->undos().of(document().kind); }
+
+    /// Two loaded files of some lines each.
+    void begin(quint32 seed)
+    {
+        chance = std::make_unique<test::RichTextMaker>(seed);
+        // Most texts are short; some have many chunks.
+        const int most = seed % 20 == 0 ? 400 : 12;
+        settings.UndoMax = qint16(10 + chance->upTo(10));
+        for (const DocumentKind kind : { DocumentKind::Joystick, DocumentKind::Macro }) {
+            editor->view().document(kind).state = EditorDocument::Saved;
+            QByteArray bytes;
+            for (int line = chance->upTo(most); line > 0; --line) {
+                bytes += "BTN S" + QByteArray::number(line) + " Fire\r\n";
+            }
+            const bool macro = kind == DocumentKind::Macro;
+            const QString path = file(macro ? u"r.tmm"_s : u"r.tmj"_s, bytes);
+            editor->opening().OpenFavouriteFile(path);
+            copies().start(control().richText());
+        }
+    }
+    void changed()
+    {
+        copies().changed(control().richText(), control().selStart(), settings.UndoMax);
+    }
+
+    void typeKey(int key)
+    {
+        copies().key(key, control().text().isEmpty());
+        const RichText before = control().richText();
+        if (key < 128 && key != Qt::Key_Space) {
+            QTest::keyClick(&control(), char(key));
+        } else {
+            QTest::keyClick(&control(), Qt::Key(key));
+        }
+        // At an end Backspace and Delete change nothing.
+        const bool erases = key == Qt::Key_Backspace || key == Qt::Key_Delete;
+        if (!erases || control().richText() != before) {
+            changed();
+        }
+    }
+    void typeWords()
+    {
+        constexpr int keys[] = { 'a',
+                                 'b',
+                                 'Z',
+                                 '/',
+                                 Qt::Key_Space,
+                                 Qt::Key_Space,
+                                 Qt::Key_Return,
+                                 Qt::Key_Return,
+                                 Qt::Key_Backspace,
+                                 Qt::Key_Delete };
+        for (int count = 1 + chance->upTo(5); count > 0; --count) {
+            typeKey(keys[chance->upTo(9)]);
+        }
+    }
+    void selectSomething(int most)
+    {
+        control().select(chance->upTo(int(control().text().size())), chance->upTo(most));
+    }
+    void deleteSelection()
+    {
+        const bool much = chance->upTo(9) == 0;
+        selectSomething(much ? 5000 : 30);
+        if (control().selLength() > 0) {
+            // The present looks go along, unless an older state is shown.
+            if (copies().index == 0) {
+                copies().slotsHeld[0] = { control().richText(), control().selStart() };
+            }
+            editor->action(u"mnuEditDelete")->trigger();
+            changed();
+        }
+    }
+    void paste()
+    {
+        const bool much = chance->upTo(9) == 0;
+        QString text = chance->make(u"cd \n"_s, 20).text + u'e';
+        text = much ? text.repeated(60) : text;
+        QGuiApplication::clipboard()->setText(text);
+        selectSomething(10);
+        // A paste is a tool's insert: it begins with putting the present state into slot 1.
+        copies().slotsHeld[0] = { control().richText(), control().selStart() };
+        editor->action(u"mnuEditPaste")->trigger();
+        changed();
+    }
+    RichText piece()
+    {
+        RichText text = chance->make(u"xy \n"_s, 12);
+        for (ParagraphRun &run : text.paragraphs) {
+            // Files have no lists, whose keys are the toolkit's own.
+            run.format.bullet = false;
+        }
+        text.normalise();
+        return text;
+    }
+    void insertAsTool()
+    {
+        selectSomething(0);
+        {
+            const BusyGuard busy(editor->view());
+            history().storeTop();
+            copies().slotsHeld[0] = { control().richText(), control().selStart() };
+            QTextCursor cursor = control().textCursor();
+            for (int pieces = 1 + chance->upTo(2); pieces > 0; --pieces) {
+                insertRichText(cursor, piece());
+            }
+            control().setTextCursor(cursor);
+        }
+        changed();
+        editor->undos().textChanged(document().kind);
+    }
+    void colour(bool store)
+    {
+        const BusyGuard busy(editor->view());
+        RichText looks = control().richText();
+        for (int stretches = chance->upTo(4); stretches > 0; --stretches) {
+            looks.change(chance->upTo(int(looks.text.size())), chance->upTo(40),
+                         [this](CharFormat &format) { format = chance->characterFormat(); });
+        }
+        looks.normalise();
+        applyCharacterRuns(*control().document(), looks.characters);
+        if (store) {
+            history().storeTop();
+            copies().slotsHeld[0] = { control().richText(), control().selStart() };
+        }
+    }
+    void indent()
+    {
+        const BusyGuard busy(editor->view());
+        QTextCursor cursor(control().document());
+        cursor.setPosition(chance->upTo(int(control().text().size())));
+        QTextBlockFormat format;
+        format.setLeftMargin(chance->upTo(2) * 5);
+        cursor.setBlockFormat(format);
+    }
+    void step(bool back)
+    {
+        CopiesHistory &plain = copies();
+        const bool possible = back ? plain.index + 1 < plain.slotsHeld.size() : plain.index > 0;
+        QAction *entry = editor->action(back ? u"mnuEditUndo" : u"mnuEditRedo");
+        ASSERT_EQ(entry->isEnabled(), possible);
+        entry->trigger();
+        if (possible) {
+            plain.index = back ? plain.index + 1 : plain.index - 1;
+            const CopiesHistory::Slot &slot = plain.slotsHeld[plain.index];
+            ASSERT_EQ(control().richText(), slot.text);
+            ASSERT_EQ(control().selStart(), slot.caret);
+            ASSERT_EQ(document().caret, slot.caret);
+        }
+    }
+    void save()
+    {
+        settings.UndoClearOnSave = qint16(chance->upTo(1));
+        const QString before = control().text();
+        editor->saving().SaveText(document());
+        ASSERT_EQ(control().text(), before);
+        if (settings.UndoClearOnSave == 1) {
+            copies().start(control().richText());
+        }
+    }
+    void compareMenus()
+    {
+        const CopiesHistory &plain = copies();
+        ASSERT_EQ(editor->action(u"mnuEditUndo")->text(),
+                  captionOf(u"Undo", plain.slotsHeld.size() - plain.index - 1));
+        ASSERT_EQ(editor->action(u"mnuEditRedo")->text(), captionOf(u"Redo", plain.index));
+    }
+    void oneStep()
+    {
+        switch (chance->upTo(19)) {
+        case 0:
+        case 1:
+        case 2:
+        case 3:
+        case 4:
+            return step(true);
+        case 5:
+        case 6:
+            return step(false);
+        case 7:
+            return paste();
+        case 8:
+            return deleteSelection();
+        case 9:
+            return insertAsTool();
+        case 10:
+            return colour(true);
+        case 11:
+            return colour(false);
+        case 12:
+            return indent();
+        case 13:
+            return editor->view().select(DocumentKind(chance->upTo(1)));
+        case 14:
+            return chance->upTo(3) == 0 ? save() : selectSomething(3);
+        default:
+            return typeWords();
+        }
+    }
+
+    std::unique_ptr<test::RichTextMaker> chance;
+
+private:
+    std::array<CopiesHistory, 2> m_copies;
+};
+
+} // namespace
+
+TEST_F(UndoComparison, TwoThousandRandomSequencesGiveWhatWholeCopiesGive)
+{
+    for (quint32 sequence = 0; sequence < 2000; ++sequence) {
+        begin(sequence);
+        for (int steps = 0; steps < 25; ++steps) {
+            oneStep();
+            compareMenus();
+            if (HasFatalFailure()) {
+                FAIL() << "sequence " << sequence << " step " << steps;
+            }
+        }
+        // Whatever is held comes back in the end.
+        while (editor->action(u"mnuEditUndo")->isEnabled()) {
+            step(true);
+            if (HasFatalFailure()) {
+                FAIL() << "sequence " << sequence;
+            }
+        }
+    }
+}

@@ -1,0 +1,109 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "documents/coloured_insert.h"
+#include "documents/highlighting.h"
+#include "documents/undo_history.h"
+#include "menus/menu_actions.h"
+#include "platform/richtext/rich_text_document.h"
+#include "tests/documents/editor_fixture.h"
+
+#include <QSignalSpy>
+
+namespace zeph::test {
+
+/// The Editor with a scheme of easily told colours; what the texts look like is read as one letter
+/// a character.
+class PaintingTest : public EditorTest
+{
+protected:
+    PaintingTest()
+    {
+        settings.JoystickTextDefaultColour = 0x111111;
+        settings.MacroTextDefaultColour = 0x222222;
+        settings.BTNColour = 0xB00000;
+        settings.SlashColour = 0x0000AA;
+        settings.RAWColour = 0x00BB00;
+        settings.MiscellaneousColour = 0xCCCC00;
+        settings.RemStatements = 0x808080;
+        settings.UndoMax = 20;
+        makeEditor();
+    }
+
+    TextControl *control(DocumentKind kind) { return editor->view().document(kind).control; }
+    TextControl *joystick() { return control(DocumentKind::Joystick); }
+    TextControl *macro() { return control(DocumentKind::Macro); }
+    Highlighting &highlighting() { return editor->highlighting(); }
+
+    /// Sets a text in the plain format, saved, without a history, the caret in front.
+    void set(DocumentKind kind, const QString &text)
+    {
+        const BusyGuard busy(editor->view());
+        control(kind)->setText(text);
+        control(kind)->select(0, 0);
+        editor->view().setState(editor->view().document(kind), EditorDocument::Saved);
+        editor->undos().startOver(kind);
+    }
+
+    /// Looks that the user gave before; no change of the document.
+    void look(DocumentKind kind, int from, int length,
+              const std::function<void(CharFormat &)> &change)
+    {
+        const BusyGuard busy(editor->view());
+        control(kind)->changeLooks(from, length, change);
+    }
+
+    /// "." plain, b BTN and DEF, s slash, r raw, m miscellaneous, c comment, ! pure red, ? another.
+    QString colours(DocumentKind kind)
+    {
+        const ColorRef plain = kind == DocumentKind::Joystick ? settings.JoystickTextDefaultColour
+                                                              : settings.MacroTextDefaultColour;
+        const QHash<ColorRef, QChar> letters = {
+            { plain, u'.' },
+            { settings.BTNColour, u'b' },
+            { settings.SlashColour, u's' },
+            { settings.RAWColour, u'r' },
+            { settings.MiscellaneousColour, u'm' },
+            { settings.RemStatements, u'c' },
+            { ColorRef(255), u'!' },
+        };
+        QString marks;
+        for (const CharRun &run : characterRunsOf(*control(kind)->document())) {
+            const QChar letter =
+                run.format.colour ? letters.value(*run.format.colour, u'?') : QChar(u'?');
+            marks += QString(run.length, letter);
+        }
+        return marks;
+    }
+
+    /// The characters that have a flag, as "x", the others as ".".
+    QString flagged(DocumentKind kind, bool CharFormat::*flag)
+    {
+        QString marks;
+        for (const CharRun &run : characterRunsOf(*control(kind)->document())) {
+            marks += QString(run.length, run.format.*flag ? u'x' : u'.');
+        }
+        return marks;
+    }
+
+    /// Everything that the status line says while something is done.
+    template <class Do> QStringList said(Do what)
+    {
+        QSignalSpy spy(&status, &StatusLine::textChanged);
+        what();
+        QStringList texts;
+        for (const QList<QVariant> &text : spy) {
+            texts.append(text.first().toString());
+        }
+        return texts;
+    }
+
+    void protectMacro() { editor->view().setProtected(true); }
+
+    static constexpr DocumentKind J = DocumentKind::Joystick;
+    static constexpr DocumentKind M = DocumentKind::Macro;
+};
+
+} // namespace zeph::test
