@@ -44,7 +44,9 @@
 //   one menu NAME            pops up the menu of that entry, or the right mouse button's of that
 //   control keys NAME KEY ...    presses keys ("Shift+C") in the control of that object name toggle
 //   BUTTON NAME 1 presses the button when the control NAME is not visible (0: when it is)
-//   environment NAME V   sets a variable for the programs that are started from now on
+//   click NAME           clicks into the control of that object name
+//   environment NAME V   sets a variable for the programs that are started from now on; without a
+//                        value it is unset
 #include "finding.h"
 #include "tour_steps.h"
 

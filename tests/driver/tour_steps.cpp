@@ -14,6 +14,7 @@
 #include <QKeySequence>
 #include <QMenu>
 #include <QMessageBox>
+#include <QMouseEvent>
 #include <QPalette>
 #include <QPushButton>
 #include <QStackedWidget>
@@ -92,12 +93,16 @@ std::optional<bool> TourSteps::perform(const QString &verb, const QString &rest,
     if (verb == QLatin1String("keys")) {
         return pressKeys(first, second);
     }
+    if (verb == QLatin1String("click")) {
+        return click(rest);
+    }
     if (verb == QLatin1String("toggle")) {
         return toggle(first, second.section(QLatin1Char(' '), 0, 0),
                       second.endsWith(QLatin1String(" 1")));
     }
     if (verb == QLatin1String("environment")) {
-        return qputenv(first.toUtf8().constData(), second.toUtf8());
+        return second.isEmpty() ? qunsetenv(first.toUtf8().constData())
+                                : qputenv(first.toUtf8().constData(), second.toUtf8());
     }
     if (verb == QLatin1String("write")) {
         return writeText(QDir(QCoreApplication::applicationDirPath()).filePath(first), second);
@@ -191,6 +196,23 @@ bool TourSteps::pressKeys(const QString &name, const QString &keys) const
             QApplication::sendEvent(control, &event);
         }
     }
+    return true;
+}
+
+bool TourSteps::click(const QString &name) const
+{
+    QWidget *control = widgetNamed(name);
+    if (!control || !control->isVisible()) {
+        return false;
+    }
+    later(control, [](QWidget *at) {
+        const QPoint middle = at->rect().center();
+        for (const auto type : { QEvent::MouseButtonPress, QEvent::MouseButtonRelease }) {
+            QMouseEvent event(type, middle, at->mapToGlobal(middle), Qt::LeftButton, Qt::LeftButton,
+                              Qt::NoModifier);
+            QApplication::sendEvent(at, &event);
+        }
+    });
     return true;
 }
 
