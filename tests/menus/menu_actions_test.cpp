@@ -19,6 +19,8 @@ using namespace zeph;
 
 namespace {
 
+namespace plane {
+
 enum class PlaneWhen { OnGround, InAir };
 
 using enum ActionKind;
@@ -39,10 +41,12 @@ constexpr std::array rows = {
     ActionRow{ u"", u"mnuEject", u"Eject", u"", u"", u"", Always, Entry },
 };
 
+} // namespace plane
+
 struct MenuActionsTest : testing::Test {
     QWidget window;
     ScriptedDialogs dialogs;
-    MenuActions on{ dialogs, QString(), menus, rows, &window };
+    MenuActions on{ dialogs, QString(), plane::menus, plane::rows, &window };
     QStringList ran;
 
     bool isEnabled(QStringView name) { return on.action(name)->isEnabled(); }
@@ -62,11 +66,11 @@ TEST_F(MenuActionsTest, AConditionIsTheWindowsOwn)
 {
     EXPECT_TRUE(isEnabled(u"mnuGearDown"));
     EXPECT_FALSE(isEnabled(u"mnuGearUp"));
-    on.setCondition(InAir, true);
+    on.setCondition(plane::PlaneWhen::InAir, true);
     EXPECT_TRUE(isEnabled(u"mnuGearUp"));
     EXPECT_FALSE(isEnabled(u"mnuSlats_1"));
-    on.setCondition(OnGround, true);
-    on.setCondition(InAir, false);
+    on.setCondition(plane::PlaneWhen::OnGround, true);
+    on.setCondition(plane::PlaneWhen::InAir, false);
     EXPECT_FALSE(isEnabled(u"mnuGearUp"));
     EXPECT_TRUE(isEnabled(u"mnuSlats_1"));
     EXPECT_FALSE(isEnabled(u"mnuSlats_2"));
@@ -90,7 +94,7 @@ TEST_F(MenuActionsTest, AnArraysOperationReceivesTheIndexFromItsName)
 {
     on.connectArray(u"mnuFlap"_s, [this](int i) { ran.append(u"flap %1"_s.arg(i)); });
     on.connectArray(u"mnuSlats"_s, [this](int i) { ran.append(u"slats %1"_s.arg(i)); });
-    on.setCondition(OnGround, true);
+    on.setCondition(plane::PlaneWhen::OnGround, true);
     EXPECT_TRUE(on.trigger(u"mnuFlap_1"));
     EXPECT_TRUE(on.trigger(u"mnuSlats_1"));
     EXPECT_TRUE(on.trigger(u"mnuFlap_0"));
@@ -121,12 +125,12 @@ TEST_F(MenuActionsTest, WhatAnOperationThrowsIsTold)
 
 TEST(ActionRows, AShortcutLeadsToItsEntryAndBack)
 {
-    EXPECT_EQ(entryWithShortcut(rows, Qt::CTRL | Qt::Key_U), u"mnuGearUp");
-    EXPECT_EQ(entryWithShortcut(rows, QKeyCombination(Qt::Key_F7)), u"mnuGearDown");
-    EXPECT_EQ(entryWithShortcut(rows, QKeyCombination(Qt::Key_U)), QString());
-    EXPECT_EQ(shortcutOf(rows, u"mnuGearUp"), u"Ctrl+U");
-    EXPECT_EQ(shortcutOf(rows, u"mnuFlap_0"), QString());
-    EXPECT_EQ(shortcutOf(rows, u"mnuNone"), QString());
+    EXPECT_EQ(entryWithShortcut(plane::rows, Qt::CTRL | Qt::Key_U), u"mnuGearUp");
+    EXPECT_EQ(entryWithShortcut(plane::rows, QKeyCombination(Qt::Key_F7)), u"mnuGearDown");
+    EXPECT_EQ(entryWithShortcut(plane::rows, QKeyCombination(Qt::Key_U)), QString());
+    EXPECT_EQ(shortcutOf(plane::rows, u"mnuGearUp"), u"Ctrl+U");
+    EXPECT_EQ(shortcutOf(plane::rows, u"mnuFlap_0"), QString());
+    EXPECT_EQ(shortcutOf(plane::rows, u"mnuNone"), QString());
 }
 
 TEST_F(MenuActionsTest, AnEntryOpensItsToolWindowUnlessThatRefuses)
