@@ -6,10 +6,15 @@
 #include "documents/editor_view.h"
 #include "editor/editor.h"
 #include "editor/files/backup_folder.h"
+#include "editor/files/file_opening.h"
 #include "editor/files/foreign_keyboard.h"
 #include "editor/files/loss_guards.h"
 #include "editor/files/printing.h"
+#include "editor/files/use_directives.h"
+#include "editor/macros/framemacros.h"
+#include "editor/macros/macro_features.h"
 #include "lists/user_lists.h"
+#include "livetools/live_tools.h"
 #include "menus/menu_actions.h"
 #include "platform/dialogs.h"
 #include "platform/handlers.h"
@@ -24,10 +29,10 @@
 #include "shell/help_menu.h"
 #include "shell/mum.h"
 #include "shell/preferences_menu.h"
-#include "shell/start_checks.h"
-#include "shell/start_files.h"
-#include "shell/template_menu.h"
+#include "shell/start_up.h"
 #include "shell/tools_menu.h"
+#include "templates/template_tools.h"
+#include "templates/templateform.h"
 
 #include <QAction>
 #include <QApplication>
@@ -178,7 +183,7 @@ void Application::loadEditor()
     m_lists = new UserLists(context(), *m_editor);
     m_tools->attach(context(), *m_mum, *m_editor, *m_help);
     new PreferencesMenu(context(), { *m_mum, *m_editor, *m_lists, *m_tools });
-    m_templates = new TemplateMenu(context(), m_options.printers, *m_mum, *m_editor, *m_help);
+    addToolWindows();
     m_printing = std::make_unique<FilePrinting>(context(), m_options.printers, *m_editor);
     new ForeignKeyBSupport(m_options.keyboard, m_settings, m_editor);
     QObject::connect(&m_mum->toolWindows(), &ToolWindows::loaded, m_mum.get(),
@@ -208,6 +213,25 @@ void Application::loadEditor()
     } else if (m_settings.ShowTips == 1) {
         m_help->showTip();
     }
+}
+
+void Application::addToolWindows()
+{
+    ToolWindows &windows = m_mum->toolWindows();
+    const ToolEntries tools{ m_editor->actions(), windows };
+    addLiveTools(tools, context(), m_tools->modes());
+    addTemplateTools(tools, context(), m_options.printers, m_editor->macros().list().table());
+    windows.whenLoaded<TemplateForm>(m_mum.get(), [this](TemplateForm &form) {
+        QObject::connect(
+            &form, &TemplateForm::helpWanted, m_help,
+            guarded(m_options.dialogs, [this](int topic) { m_help->showTopic(topic); }));
+        QObject::connect(&form, &TemplateForm::fileWritten, m_editor, [this](const QString &path) {
+            m_editor->opening().offerToReload({ path });
+        });
+    });
+    m_editor->actions().connectTo(u"mnuAppsViewReadMe", [this, &windows] {
+        windows.open<TemplateForm>()->OpenReadMe(m_editor->useDirectives().textFilePath());
+    });
 }
 
 void Application::readEditorOptions()
@@ -261,7 +285,7 @@ void Application::selectFirstTab()
 
 bool Application::queryUnload()
 {
-    return !m_editor || (m_editor->queryUnload() && m_templates->queryUnload());
+    return !m_editor || (m_editor->queryUnload() && m_mum->toolWindows().mayUnloadAll());
 }
 
 void Application::unloadMum()

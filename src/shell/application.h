@@ -27,7 +27,6 @@ class Mum;
 class Printers;
 class Screen;
 class SystemInfo;
-class TemplateMenu;
 class UserLists;
 
 /// The world that a run stands in; all must outlive it.
@@ -79,6 +78,7 @@ private:
     void readSettings();
     void startModes();
     void loadEditor();
+    void addToolWindows();
     void readEditorOptions();
     /// Some keys are read at several steps of the start; what is wrong with them is told at the
     /// first.
@@ -103,7 +103,6 @@ private:
     HelpMenu *m_help = nullptr;
     UserLists *m_lists = nullptr;
     CougarTools *m_tools = nullptr;
-    TemplateMenu *m_templates = nullptr;
     std::unique_ptr<FilePrinting> m_printing;
 };
 

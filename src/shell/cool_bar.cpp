@@ -116,7 +116,7 @@ void CoolBar::follow(Button &button)
     button.control->setEnabled(m_editor && (showsEditor || (action && action->isEnabled())));
     button.control->setCheckable(action && action->isCheckable());
     button.control->setChecked(action && action->isChecked());
-    button.control->setAccessibleName(text(lookOf(*button.row, choices()).tooltip));
+    button.control->setAccessibleName(tooltipOf(*button.row, choices()));
     if (action && saysSteps(*button.row)) {
         button.control->setAccessibleName(action->toolTip());
     }

@@ -11,7 +11,6 @@ namespace zeph {
 
 class Downloader;
 class Editor;
-class HelpWindow;
 class ToolWindows;
 struct InfoEntry;
 
@@ -35,7 +34,7 @@ public:
     void mnuHelpAbout_Click(int index);
 
 private:
-    HelpWindow *helpWindow();
+    void offerWindows();
     void fillSubmenu(QStringView name, const QList<InfoEntry> &entries,
                      void (HelpMenu::*open)(const InfoEntry &));
     void openInformation(const InfoEntry &entry);

@@ -14,7 +14,6 @@
 #include "shell/main_status_bar.h"
 
 #include <QCloseEvent>
-#include <QMenu>
 #include <QMenuBar>
 #include <QScreen>
 #include <QStatusTipEvent>
@@ -50,9 +49,7 @@ void Mum::attachEditor(Editor *editor)
 {
     m_editor = editor;
     setCentralWidget(editor);
-    for (QMenu *menu : editor->actions().menuBar()) {
-        menuBar()->addMenu(menu);
-    }
+    editor->actions().addTo(*menuBar());
     m_coolBar->attach(*editor);
     connect(&editor->documents(), &Documents::selectedChanged, m_coolBar, &CoolBar::refresh);
 }

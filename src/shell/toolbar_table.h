@@ -11,8 +11,12 @@
 
 namespace zeph {
 
+/// Whether a tooltip ends with the shortcut of the button's menu entry.
+enum class ToolButtonKey { KeyTold, KeyUntold };
+
 /// What a button does and says.
 struct ToolButtonLook {
+    /// Without the shortcut.
     const char16_t *tooltip = u"";
     /// Longer description for the status bar.
     const char16_t *status = u"";
@@ -20,6 +24,7 @@ struct ToolButtonLook {
     const char16_t *action = u"";
     /// The one that it runs with the macro tab selected; empty when it is the same.
     const char16_t *macroAction = u"";
+    ToolButtonKey key = ToolButtonKey::KeyTold;
 };
 
 /// The setting that turns a button into its other self.
@@ -48,6 +53,9 @@ struct ToolbarChoices {
 };
 
 const ToolButtonLook &lookOf(const ToolButtonRow &row, const ToolbarChoices &choices);
+/// The whole tooltip. A look whose entry has no shortcut tells that of the row's other look, since
+/// the key runs whichever of them is chosen.
+QString tooltipOf(const ToolButtonRow &row, const ToolbarChoices &choices);
 QString actionOf(const ToolButtonLook &look, bool macroSelected);
 
 /// What the status bar says over a toolbar's empty part.

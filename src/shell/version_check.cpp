@@ -7,7 +7,6 @@
 #include "platform/core/paths.h"
 #include "platform/core/text1252.h"
 #include "platform/downloader.h"
-#include "shell/version.h"
 
 namespace zeph {
 

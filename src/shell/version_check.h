@@ -3,7 +3,8 @@
 
 #pragma once
 
-// Is there a newer Zeph? The server's answer is a file that holds the latest version and no more.
+// Which Zeph this is, and whether there is a newer one: the server's answer is a file that holds
+// the latest version and nothing else.
 
 #include "platform/dialogs.h"
 
@@ -11,6 +12,9 @@ namespace zeph {
 
 class Downloader;
 struct Paths;
+
+/// The running version as it is told, compared and shown.
+inline constexpr char16_t versionText[] = u"4.4.02";
 
 /// What is told when the server could not be reached.
 Box versionUnknownBox();
