@@ -19,8 +19,9 @@ namespace zeph {
 
 namespace {
 
-/// What Ctrl and a key runs in the macro text where that is not the entry with this shortcut: New,
-/// open and print act on the joystick file from the macro text too, as pilots rely on it.
+/// What Ctrl and a key runs in the macro text, for the keys that do not run the entry with that
+/// shortcut there. New, open and print have no row: pilots rely on these keys for the joystick file
+/// in both texts.
 struct MacroKey {
     int key;
     QStringView entry; ///< empty: none

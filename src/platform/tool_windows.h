@@ -90,7 +90,7 @@ public:
     }
     template <class T> void unload() { unload(keyOf<T>()); }
 
-    /// Minimises all open windows, and restoreAll brings those back.
+    /// Minimises all open windows; restoreAll() restores exactly those.
     void minimiseAll();
     void restoreAll();
     /// Minimises all open windows; they stay minimised until the user restores them.

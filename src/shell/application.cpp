@@ -58,7 +58,7 @@ Application::Application(const ApplicationOptions &options)
     m_options.dialogs.customColours = {
         [this] { return GetCustomColour(ProfileFile(m_paths.iniPath)); },
         [this](const CustomColours &colours) {
-            // A store that cannot be written is nobody's failure: the colours hold for this run.
+            // When the store cannot be written, the colours still hold for this run.
             (void)keepCustomColours(ProfileFile(m_paths.iniPath), colours);
         },
     };
@@ -101,8 +101,8 @@ bool Application::start()
             m_options.dialogs.box(*warning);
         }
     }
-    // The program expects to stand among the Cougar's own software; the first run and Preferences
-    // point elsewhere. The compiler's path follows the folder by itself.
+    // The program expects to be installed among the Cougar's own software; the first run and
+    // Preferences can set another folder.
     m_paths.hotasFolder = withClosingSeparator(m_paths.appFolder);
     makeFolders();
     readSettings();
@@ -160,7 +160,7 @@ void Application::readSettings()
     if (m_settings.TextFilePath.isEmpty()) {
         m_settings.TextFilePath = m_paths.inApp(u"ReadMe.txt");
     }
-    // A store that cannot be written makes no fuss: the run then works with what it has read.
+    // When the store cannot be written, the run works with what it has read.
     (void)saveGlobalSettings(m_settings, files());
     if (m_settings.FirstTimeUsed == 1) {
         (void)SetUpDefaultIniSettings(m_settings, files());
@@ -208,7 +208,7 @@ void Application::loadEditor()
         runFirstRun(context(), { *m_help, *m_lists, *m_tools }, m_options.welcomeIntervalMs,
                     m_mum.get());
         m_editor->applySettings();
-        // By the name that the pilot has only now.
+        // The first run has only now asked for the callsign.
         greet();
     } else if (m_settings.ShowTips == 1) {
         m_help->showTip();

@@ -21,7 +21,7 @@ class HelpMenu : public QObject
 public:
     HelpMenu(const Context &context, Downloader &downloader, ToolWindows &windows, Editor &editor);
 
-    /// Fills How do I and Manuals from ZephInfo.ini; a missing one is told.
+    /// Fills the menus How do I and Manuals from ZephInfo.ini; tells when that file is missing.
     void readZephInfo();
 
     void mnuHelpContents_Click();

@@ -69,8 +69,8 @@ WindowPlace Mum::place() const
 void Mum::setPlace(const WindowPlace &place)
 {
     if (place.state == WindowState::Maximised) {
-        // What the window is restored to, and what the first dialogs stand over until the system
-        // has maximised it.
+        // The size for a later restore. The first dialogs open over this place, before the system
+        // has maximised the window.
         resize(pixelsFromTwips(restoredTwips.width()), pixelsFromTwips(restoredTwips.height()));
         QRect restored = rect();
         restored.moveCenter(screen()->availableGeometry().center());
@@ -103,7 +103,7 @@ void Mum::pressAtEnd(int press)
         return;
     }
     if (StatusPress(press) == StatusPress::Compile) {
-        // Not by the menu's entry: the bar's end compiles whatever tab is selected.
+        // Not through the menu entry, which is off on the macro tab: the bar's end always compiles.
         Q_EMIT compileWanted();
         return;
     }

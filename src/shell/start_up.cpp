@@ -28,7 +28,7 @@ QString existingFile(QString name)
 /// True when the last run left a file to open, whether or not that still exists.
 bool openRestored(Editor &editor, const GlobalSettings &settings)
 {
-    // Opening reads the settings' files anew as it goes, so the names are taken beforehand.
+    // Opening a file reads the settings again and would change these names on the way.
     const QString joystick = settings.RestoreJoyFile;
     const QString macro = settings.RestoreMacroFile;
     if (joystick.isEmpty() && macro.isEmpty()) {

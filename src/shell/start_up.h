@@ -19,11 +19,11 @@ struct GlobalSettings;
 /// for; no value when they are.
 std::optional<Box> smallFontsWarning(int logicalDpi);
 
-/// What is told when no numbered store is free any more.
+/// The message when no numbered store is free any more.
 Box tooManyWindowsBox();
 
 /// The file that the command line names, with its full path; empty when it names none that exists.
-/// Words that a shell has parted are also tried as one name.
+/// All words together are also tried as one name, since a shell splits a name at blanks.
 QString TestCommandLine(const QStringList &arguments);
 
 /// Opens the command line's file; else the files of the last run; else the favourite that is to be

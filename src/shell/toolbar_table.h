@@ -3,7 +3,7 @@
 
 #pragma once
 
-// The two toolbars and the shortcut pictures as tables: what each button does, and what it says.
+// The two toolbars and the shortcut pictures as tables: what each button does and tells.
 
 #include "platform/core/base.h"
 
@@ -14,7 +14,7 @@ namespace zeph {
 /// Whether a tooltip ends with the shortcut of the button's menu entry.
 enum class ToolButtonKey { KeyTold, KeyUntold };
 
-/// What a button does and says.
+/// What a button does and tells.
 struct ToolButtonLook {
     /// Without the shortcut.
     const char16_t *tooltip = u"";
@@ -27,7 +27,7 @@ struct ToolButtonLook {
     ToolButtonKey key = ToolButtonKey::KeyTold;
 };
 
-/// The setting that turns a button into its other self.
+/// The setting that chooses between a button's two looks.
 enum class ToolButtonChoice { None, OpenBoth, SaveBoth, DirectXKeyTester };
 
 struct ToolButtonRow {
@@ -36,7 +36,7 @@ struct ToolButtonRow {
     const char16_t *icon;
     ToolButtonLook look;
     ToolButtonChoice choice = ToolButtonChoice::None;
-    /// How it is while the choice's setting is off.
+    /// The look while the choice's setting is off.
     ToolButtonLook other = {};
 };
 

@@ -16,9 +16,9 @@ struct Paths;
 /// The running version as it is told, compared and shown.
 inline constexpr char16_t versionText[] = u"4.4.02";
 
-/// What is told when the server could not be reached.
+/// The message when the server could not be reached.
 Box versionUnknownBox();
-/// What is told of the server's text, which is compared exactly.
+/// The message about the server's text, which is compared exactly with the running version.
 Box versionBox(const QString &latest, const QString &running);
 
 /// Fetches the latest version into VersionURL.txt of the application's folder and tells how it

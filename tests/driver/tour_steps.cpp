@@ -21,7 +21,15 @@
 
 namespace {
 
-constexpr int settleMs = 400;
+/// How long a window has before its picture is taken; ZEPH_TOUR_SETTLE_MS sets another time.
+int settleMs()
+{
+    bool isSet = false;
+    const int set = qEnvironmentVariableIntValue("ZEPH_TOUR_SETTLE_MS", &isSet);
+    return isSet ? set : 400;
+}
+
+/// The first run's window is late by less than this.
 constexpr int welcomeMs = 500;
 constexpr QPoint menuPlace(300, 100);
 
@@ -76,7 +84,8 @@ std::optional<bool> TourSteps::perform(const QString &verb, const QString &rest,
         return welcome();
     }
     if (verb == QLatin1String("look") || verb == QLatin1String("stop")) {
-        if (waitedMs < settleMs || qobject_cast<QMessageBox *>(QApplication::activeModalWidget())) {
+        if (waitedMs < settleMs()
+            || qobject_cast<QMessageBox *>(QApplication::activeModalWidget())) {
             return false;
         }
         grabAll(rest);
