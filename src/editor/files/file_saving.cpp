@@ -102,7 +102,7 @@ QString FileSaving::proposedName(const EditorDocument &document)
     const EditorDocument &other =
         m_view.document(macro ? DocumentKind::Joystick : DocumentKind::Macro);
     if (isUntitled(document.name) && !isUntitled(other.name)) {
-        return baseWithDot(other.name) + (macro ? u"tmm"_s : u"tmj"_s);
+        return baseWithDot(other.name) + extensionOf(document.kind);
     }
     return document.name;
 }
