@@ -3,6 +3,8 @@
 
 #include "editor/actions.h"
 
+#include "language/words.h"
+
 #include <array>
 
 namespace zeph {
@@ -21,6 +23,14 @@ constexpr std::array menus = {
     MenuRow{ u"mnuApps", u"&Apps" },         MenuRow{ u"mnuGames", u"&Games" },
     MenuRow{ u"mnuHelp", u"&Help" },
 };
+
+/// The entry of one of the words that the menu inserts.
+constexpr ActionRow insertEntry(const char16_t *name, size_t word)
+{
+    return {
+        u"mnuInsert", name, language::insertWords[word].caption, u"", u"", u"", Always, Entry
+    };
+}
 
 // clang-format off
 constexpr std::array actions = {
@@ -101,18 +111,18 @@ constexpr std::array actions = {
     ActionRow{u"mnuInsert", u"mnuInsertHeading", u"&Heading ...", u"F5", u"Inserts a heading, which groups macros", u"insert-heading", Always, Entry},
     ActionRow{u"mnuInsert", u"mnuInsertRemStatement", u"&Rem statement ...", u"F6", u"Inserts a comment", u"insert-rem", Always, Entry},
     separator(u"mnuInsert"),
-    ActionRow{u"mnuInsert", u"mnuSlashArray_0", u"/&U dogfight switch is up", u"", u"", u"", Always, Entry},
-    ActionRow{u"mnuInsert", u"mnuSlashArray_1", u"/&M dogfight switch middle position", u"", u"", u"", Always, Entry},
-    ActionRow{u"mnuInsert", u"mnuSlashArray_2", u"/&D dogfight switch is down", u"", u"", u"", Always, Entry},
-    ActionRow{u"mnuInsert", u"mnuSlashArray_3", u"/&I  S3 is held in", u"", u"", u"", Always, Entry},
-    ActionRow{u"mnuInsert", u"mnuSlashArray_4", u"/&O S3 is out", u"", u"", u"", Always, Entry},
-    ActionRow{u"mnuInsert", u"mnuSlashArray_5", u"/&P  press event", u"", u"", u"", Always, Entry},
-    ActionRow{u"mnuInsert", u"mnuSlashArray_6", u"/R  r&elease event", u"", u"", u"", Always, Entry},
-    ActionRow{u"mnuInsert", u"mnuSlashArray_7", u"/T  to&ggle modifier", u"", u"", u"", Always, Entry},
-    ActionRow{u"mnuInsert", u"mnuSlashArray_8", u"/&A  autorepeat the statement", u"", u"", u"", Always, Entry},
-    ActionRow{u"mnuInsert", u"mnuSlashArray_9", u"/H  hold dow&n", u"", u"", u"", Always, Entry},
-    ActionRow{u"mnuInsert", u"mnuSlashArray_10", u"D&LY delay statement", u"", u"", u"", Always, Entry},
-    ActionRow{u"mnuInsert", u"mnuSlashArray_11", u"RPT repeat &statement", u"", u"", u"", Always, Entry},
+    insertEntry(u"mnuSlashArray_0", 0),
+    insertEntry(u"mnuSlashArray_1", 1),
+    insertEntry(u"mnuSlashArray_2", 2),
+    insertEntry(u"mnuSlashArray_3", 3),
+    insertEntry(u"mnuSlashArray_4", 4),
+    insertEntry(u"mnuSlashArray_5", 5),
+    insertEntry(u"mnuSlashArray_6", 6),
+    insertEntry(u"mnuSlashArray_7", 7),
+    insertEntry(u"mnuSlashArray_8", 8),
+    insertEntry(u"mnuSlashArray_9", 9),
+    insertEntry(u"mnuSlashArray_10", 10),
+    insertEntry(u"mnuSlashArray_11", 11),
     separator(u"mnuInsert"),
     ActionRow{u"mnuInsert", u"mnuSlashWindow", u"Show the Slash windo&w", u"", u"A floating palette of the slash modifiers", u"", Always, Entry},
     separator(u"mnuInsert", u"mnuInsertDivider8"),

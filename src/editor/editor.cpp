@@ -26,11 +26,11 @@
 #include "editor/macros/framemacros.h"
 #include "editor/macros/macro_features.h"
 #include "editor/right_menu.h"
+#include "language/error_codes.h"
 #include "menus/menu_actions.h"
 #include "platform/dialogs.h"
 #include "platform/richtext/rich_text_mime.h"
 #include "settings/global_settings.h"
-#include "text/text_lines.h"
 
 #include <QAction>
 #include <QApplication>
@@ -280,7 +280,7 @@ void Editor::updateConditions()
 void Editor::updateDownloadCaption()
 {
     // Only a file of the Cougar's own kind goes to it; the others keep the plain words.
-    const bool named = lastThree(joystick().name()) == u"tmj";
+    const bool named = lastThree(joystick().name()) == extensionOf(DocumentKind::Joystick);
     QString caption = named ? joystick().caption() : u"joystick file"_s;
     caption.replace(u'&', u"&&"_s);
     action(u"DownloadArray1_0")->setText(u"&Download "_s + caption);
@@ -294,8 +294,8 @@ void Editor::ResetFocusToEditor()
 void Editor::HighlightErrorLine(int line, const QString &compileErrorText)
 {
     try {
-        showLine(m_context, *m_view, m_documents->of(documentOfError(compileErrorText)), line,
-                 LineCaret::SelectsLine);
+        showLine(m_context, *m_view, m_documents->of(language::documentOfError(compileErrorText)),
+                 line, LineCaret::SelectsLine);
     } catch (const std::exception &error) {
         m_context.dialogs.tell(u"Hmmm....bizarre..."_s,
                                u"Please report this on the Klaifi forums so I can investigate "

@@ -3,6 +3,7 @@
 
 #include "platform/qt_dialogs.h"
 
+#include "platform/colours.h"
 #include "platform/core/paths.h"
 
 #include <QApplication>
@@ -67,16 +68,6 @@ BoxButton escapeButton(const Box &box)
         }
     }
     return box.buttons.value(0, BoxButton::Ok);
-}
-
-QColor toColor(ColorRef colour)
-{
-    return QColor(redOf(colour), greenOf(colour), blueOf(colour));
-}
-
-ColorRef fromColor(const QColor &colour)
-{
-    return colorRef(quint32(colour.red()), quint32(colour.green()), quint32(colour.blue()));
 }
 
 void showCustomColours(const CustomColours &colours)

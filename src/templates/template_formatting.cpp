@@ -4,6 +4,7 @@
 #include "templates/template_formatting.h"
 
 #include "menus/menu_actions.h"
+#include "platform/colours.h"
 #include "platform/dialogs.h"
 #include "platform/handlers.h"
 #include "platform/richtext/rich_text_box.h"
@@ -66,11 +67,6 @@ constexpr std::array<QStringView, 24> toolbar = {
     u"",
     u"mnuViewColour",
 };
-
-QColor toColor(ColorRef colour)
-{
-    return QColor(redOf(colour), greenOf(colour), blueOf(colour));
-}
 
 } // namespace
 

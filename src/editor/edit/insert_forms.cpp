@@ -127,14 +127,15 @@ void InsertForms::insertRem(const QString &text, bool addCarriageReturn)
 
 void InsertForms::mnuSlashArray_Click(int Index)
 {
-    const SlashWord &word = slashWords()[size_t(Index)];
+    const language::Word &word = language::insertWords[size_t(Index)];
     const GlobalSettings &settings = m_context.settings;
     ColouredInsert &insert = m_parts.insert;
-    insert.TextToInsert = slashText(word, settings.DefaultDLYvalue);
+    insert.TextToInsert = insertText(word, settings.DefaultDLYvalue);
     insert.AddSpaceToColouredText();
     insert.BeginColInsert();
     insert.InsertColouredString(insert.TextToInsert,
-                                word.isSlash ? settings.SlashColour : settings.RAWColour);
+                                word.is(language::SlashRole) ? settings.SlashColour
+                                                             : settings.RAWColour);
     insert.EndColInsert();
 }
 

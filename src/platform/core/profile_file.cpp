@@ -119,7 +119,7 @@ bool isQuoted(QStringView value)
 }
 
 /// Where a key is, or where it would be added.
-struct Place {
+struct KeyPlace {
     bool hasSection = false;
     qsizetype sectionEnd = 0; ///< after the section's last line that is not empty
     bool hasKey = false;
@@ -128,9 +128,9 @@ struct Place {
     qsizetype valueEnd = 0; ///< the line's end, blanks included
 };
 
-Place placeOf(const QByteArray &file, QStringView section, QStringView key)
+KeyPlace placeOf(const QByteArray &file, QStringView section, QStringView key)
 {
-    Place place;
+    KeyPlace place;
     Lines lines(file);
     Line line;
     while (lines.next(line)) {
@@ -165,7 +165,7 @@ Place placeOf(const QByteArray &file, QStringView section, QStringView key)
     return place;
 }
 
-QString valueAt(const QByteArray &file, const Place &place)
+QString valueAt(const QByteArray &file, const KeyPlace &place)
 {
     QByteArrayView bytes =
         QByteArrayView(file).sliced(place.valueStart, place.valueEnd - place.valueStart);
@@ -220,7 +220,7 @@ bool isSectionName(QStringView section)
 
 std::optional<QString> value(const QByteArray &file, QStringView section, QStringView key)
 {
-    const Place place = placeOf(file, withoutBlanks(section), withoutBlanks(key));
+    const KeyPlace place = placeOf(file, withoutBlanks(section), withoutBlanks(key));
     return place.hasKey ? std::optional(valueAt(file, place)) : std::nullopt;
 }
 
@@ -232,7 +232,7 @@ QByteArray withValue(const QByteArray &file, const ProfileEntry &entry)
         return file;
     }
     const QStringView text = oneLine(entry.value);
-    const Place place = placeOf(file, section, key);
+    const KeyPlace place = placeOf(file, section, key);
     QByteArray result = file;
     if (place.hasKey) {
         if (valueAt(file, place) != text) {
@@ -255,7 +255,7 @@ QByteArray withoutKeys(QByteArray file, QStringView section, const QStringList &
 {
     for (const QString &key : keys) {
         // Without this line a later one of the same key would count: all of them go.
-        for (Place place = placeOf(file, withoutBlanks(section), key); place.hasKey;
+        for (KeyPlace place = placeOf(file, withoutBlanks(section), key); place.hasKey;
              place = placeOf(file, withoutBlanks(section), key)) {
             file.remove(place.line.start, place.line.next - place.line.start);
         }

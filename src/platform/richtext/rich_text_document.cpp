@@ -3,6 +3,8 @@
 
 #include "platform/richtext/rich_text_document.h"
 
+#include "platform/colours.h"
+
 #include <QTextBlock>
 #include <QTextList>
 
@@ -245,8 +247,7 @@ QTextCharFormat toTextFormat(const CharFormat &format)
     result.setFontItalic(format.italic);
     result.setFontUnderline(format.underline);
     if (format.colour) {
-        const ColorRef colour = *format.colour;
-        result.setForeground(QColor(redOf(colour), greenOf(colour), blueOf(colour)));
+        result.setForeground(toColor(*format.colour));
     }
     return result;
 }
