@@ -3,12 +3,14 @@
 
 #include "documents/coloured_insert.h"
 
+#include "documents/document_look.h"
 #include "documents/editor_view.h"
 #include "documents/text_control.h"
 #include "documents/undo_history.h"
 #include "platform/richtext/rich_text_document.h"
 #include "platform/status_line.h"
-#include "settings/global_settings.h"
+#include "settings/colour_settings.h"
+#include "settings/settings.h"
 #include "text/painter.h"
 
 #include <algorithm>
@@ -104,7 +106,8 @@ void ColouredInsert::MacroTransferText(const QString &text)
     }
     RichText painted = RichText::plain(whole);
     painted.characters = characterRuns(
-        paint(whole, typingPasses(), colourScheme(m_context.settings, m_view.selected().kind)),
+        paint(whole, typingPasses(),
+              colourScheme(m_context.settings.of<ColourSettings>(), m_view.selected().kind)),
         plain());
     insertRich(std::move(painted));
 }

@@ -4,11 +4,13 @@
 #include "documents/editor_view.h"
 
 #include "documents/document_look.h"
+#include "documents/document_settings.h"
 #include "documents/editor_texts.h"
 #include "documents/text_control.h"
 #include "platform/richtext/rich_text_document.h"
 #include "platform/status_line.h"
-#include "settings/global_settings.h"
+#include "settings/colour_settings.h"
+#include "settings/settings.h"
 
 #include "platform/icon_file.h"
 #include <QHBoxLayout>
@@ -209,17 +211,18 @@ void EditorView::renameFresh(DocumentKind kind)
 
 CharFormat EditorView::plainFormat(DocumentKind kind) const
 {
-    return zeph::plainFormat(m_context.settings, kind);
+    return zeph::plainFormat(m_context.settings.of<ColourSettings>(), kind);
 }
 
 void EditorView::applyLook()
 {
     const BusyGuard busy(*this);
-    const GlobalSettings &settings = m_context.settings;
+    const auto &colours = m_context.settings.of<ColourSettings>();
+    const auto &settings = m_context.settings.of<DocumentSettings>();
     for (const EditorDocument &each : m_documents) {
-        each.control->setLook(documentBackground(settings, each.kind), plainFormat(each.kind));
-        each.control->showLineNumbers(settings.LineNumbers == 1);
-        each.control->showCurrentLine(settings.CurrentLineMark == 1);
+        each.control->setLook(documentBackground(colours, each.kind), plainFormat(each.kind));
+        each.control->showLineNumbers(settings.LineNumbers);
+        each.control->showCurrentLine(settings.CurrentLineMark);
     }
 }
 

@@ -12,7 +12,8 @@
 #include "documents/undo_history.h"
 #include "platform/richtext/rich_text_document.h"
 #include "platform/status_line.h"
-#include "settings/global_settings.h"
+#include "settings/colour_settings.h"
+#include "settings/settings.h"
 
 #include <QTextBlock>
 
@@ -99,8 +100,9 @@ void Highlighting::applyColour(EditorDocument &document)
             }
         }
     };
-    const auto runs = paint(control.text(), isJoystick ? joystickPasses() : macroPasses(),
-                            colourScheme(m_context.settings, document.kind), tell);
+    const auto runs =
+        paint(control.text(), isJoystick ? joystickPasses() : macroPasses(),
+              colourScheme(m_context.settings.of<ColourSettings>(), document.kind), tell);
     TextControl::Place place = control.place();
     place.anchor = place.caret = control.selStart();
     control.states().setLooks(lookRuns(runs, m_parts.view.plainFormat(document.kind)));
@@ -179,13 +181,14 @@ void Highlighting::mnuRemoveColourSelectedText_Click()
     }
 }
 
-void Highlighting::followScheme(const GlobalSettings &before)
+void Highlighting::followScheme(const ColourSettings &before)
 {
     for (const DocumentKind kind : { DocumentKind::Joystick, DocumentKind::Macro }) {
         EditorDocument &each = document(kind);
         const auto colours =
-            recolouring(colourScheme(before, kind), colourScheme(m_context.settings, kind));
-        const CharFormat font = plainFormat(m_context.settings, kind);
+            recolouring(colourScheme(before, kind),
+                        colourScheme(m_context.settings.of<ColourSettings>(), kind));
+        const CharFormat font = plainFormat(m_context.settings.of<ColourSettings>(), kind);
         CharFormat fontBefore = font;
         takeFont(fontBefore, plainFormat(before, kind));
         const bool hasNewFont = !(fontBefore == font);
@@ -256,8 +259,9 @@ RichText Highlighting::painted(const QString &text, const Painter &painter) cons
 {
     const DocumentKind kind = m_parts.view.selected().kind;
     RichText result = RichText::plain(text, {}, documentParagraph);
-    result.characters = characterRuns(painter.paint(text, colourScheme(m_context.settings, kind)),
-                                      m_parts.view.plainFormat(kind));
+    result.characters = characterRuns(
+        painter.paint(text, colourScheme(m_context.settings.of<ColourSettings>(), kind)),
+        m_parts.view.plainFormat(kind));
     return result;
 }
 

@@ -3,17 +3,17 @@
 
 #include "documents/typing_colour.h"
 
+#include "documents/document_settings.h"
 #include "documents/editor_view.h"
 #include "documents/highlighting.h"
 #include "documents/text_control.h"
-#include "settings/global_settings.h"
 
 #include <QKeyEvent>
 
 namespace zeph {
 
 TypingColour::TypingColour(EditorView &view, Highlighting &highlighting,
-                           const GlobalSettings &settings)
+                           const DocumentSettings &settings)
     : m_view(view), m_highlighting(highlighting), m_settings(settings)
 {
     for (const DocumentKind kind : { DocumentKind::Joystick, DocumentKind::Macro }) {
@@ -26,7 +26,7 @@ TypingColour::TypingColour(EditorView &view, Highlighting &highlighting,
 
 bool TypingColour::eventFilter(QObject *, QEvent *event)
 {
-    if (m_settings.ColourWithTyping == 1 && endsLine(*event)) {
+    if (m_settings.ColourWithTyping && endsLine(*event)) {
         const bool isProtected =
             m_view.isProtected() && m_view.selected().kind == DocumentKind::Macro;
         if (!isProtected) {

@@ -1,13 +1,14 @@
 // SPDX-FileCopyrightText: The Zeph authors
 // SPDX-License-Identifier: MIT
 
+#include "documents/document_settings.h"
 #include "documents/editor_view.h"
 #include "documents/line_blink.h"
 #include "documents/text_control.h"
 #include "documents/undo_history.h"
 #include "menus/menu_actions.h"
 #include "platform/status_line.h"
-#include "settings/global_settings.h"
+#include "settings/settings.h"
 
 #include <QAction>
 
@@ -29,8 +30,10 @@ void showSteps(QAction &entry, const QString &word, int steps)
 UndoHistories::UndoHistories(const Context &context, EditorView &view, MenuActions &actions)
     : m_context(context), m_view(view), m_actions(actions),
       m_histories{
-          UndoHistory(view.document(DocumentKind::Joystick), context.settings.UndoMax),
-          UndoHistory(view.document(DocumentKind::Macro), context.settings.UndoMax),
+          UndoHistory(view.document(DocumentKind::Joystick),
+                      context.settings.of<DocumentSettings>().UndoMax),
+          UndoHistory(view.document(DocumentKind::Macro),
+                      context.settings.of<DocumentSettings>().UndoMax),
       },
       m_blink(new LineBlink(view, this))
 {
@@ -80,7 +83,7 @@ void UndoHistories::step(void (UndoHistory::*way)(), bool possible)
     (of(document.kind).*way)();
     m_context.status.setLine(document.control->caretLine());
     UpdateUndoRedoMenus();
-    if (m_context.settings.HighlightLineOnUndo == 1) {
+    if (m_context.settings.of<DocumentSettings>().HighlightLineOnUndo) {
         m_blink->start(document);
     }
 }

@@ -7,7 +7,7 @@
 
 namespace zeph {
 
-UndoHistory::UndoHistory(EditorDocument &document, const qint16 &undoMax)
+UndoHistory::UndoHistory(EditorDocument &document, const int &undoMax)
     : m_document(document), m_undoMax(undoMax), m_states(document.control->states())
 {
     reset();

@@ -24,7 +24,7 @@ class UndoHistory
 {
 public:
     /// Both are outlived by document and setting.
-    UndoHistory(EditorDocument &document, const qint16 &undoMax);
+    UndoHistory(EditorDocument &document, const int &undoMax);
 
     /// One slot holding the document as it stands, caret 0: after load, new and clearing.
     void reset();
@@ -62,7 +62,7 @@ private:
     void show(int index);
 
     EditorDocument &m_document;
-    const qint16 &m_undoMax;
+    const int &m_undoMax;
     DocumentStates &m_states;
     std::deque<Slot> m_slots; ///< slot 1 in front
     int m_index = 1;

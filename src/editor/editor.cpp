@@ -3,7 +3,9 @@
 
 #include "editor/editor.h"
 
+#include "documents/document_settings.h"
 #include "editor/actions.h"
+#include "editor/editor_settings.h"
 
 #include "documents/coloured_copies.h"
 #include "documents/coloured_insert.h"
@@ -30,7 +32,7 @@
 #include "menus/menu_actions.h"
 #include "platform/dialogs.h"
 #include "platform/richtext/rich_text_mime.h"
-#include "settings/global_settings.h"
+#include "settings/settings.h"
 #include "text/text_lines.h"
 
 #include <QAction>
@@ -50,7 +52,8 @@ Editor::Editor(const Context &context, QWidget *parent)
                                               menuBarTable(), actionTable())),
       m_view(new EditorView(context, this)),
       m_copies(std::make_unique<ColouredCopies>(context.paths)),
-      m_keys(std::make_unique<EditorKeys>(*m_view, *m_actions, context.settings)),
+      m_keys(
+          std::make_unique<EditorKeys>(*m_view, *m_actions, context.settings.of<EditorSettings>())),
       // Behind the keys: a line that blinks has to be let go before a key's entry runs.
       m_undos(std::make_unique<UndoHistories>(context, *m_view, *m_actions)),
       m_insert(std::make_unique<ColouredInsert>(context, *m_view, *m_undos)),
@@ -58,7 +61,8 @@ Editor::Editor(const Context &context, QWidget *parent)
           context, Highlighting::Parts{ *m_view, *m_copies, *m_undos, *m_insert })),
       m_looks(
           std::make_unique<TextLooks>(context, TextLooks::Parts{ *m_view, *m_actions, *m_insert })),
-      m_typingColour(std::make_unique<TypingColour>(*m_view, *m_highlighting, context.settings)),
+      m_typingColour(std::make_unique<TypingColour>(*m_view, *m_highlighting,
+                                                    context.settings.of<DocumentSettings>())),
       m_editing(std::make_unique<EditingTools>(
           context,
           EditingTools::Parts{ *m_view, *m_actions, *m_undos, *m_highlighting, *m_insert })),
@@ -164,8 +168,9 @@ void Editor::connectOptions()
 {
     MenuActions &on = *m_actions;
     on.connectTo(u"mnuViewTileVertically", [this] {
-        m_context.settings.TileFiles = action(u"mnuViewTileVertically")->isChecked();
-        m_view->setTiled(m_context.settings.TileFiles == 1);
+        m_context.settings.of<EditorSettings>().TileFiles =
+            action(u"mnuViewTileVertically")->isChecked();
+        m_view->setTiled(m_context.settings.of<EditorSettings>().TileFiles);
     });
     on.connectTo(u"mnuPreferencesProtectMacroFile", [this] {
         m_view->setProtected(action(u"mnuPreferencesProtectMacroFile")->isChecked());
@@ -173,7 +178,7 @@ void Editor::connectOptions()
     });
     on.connectTo(u"mnuJoyPopUpSingleFile", [this] {
         m_opening->OpenSingleFileOnly = action(u"mnuJoyPopUpSingleFile")->isChecked();
-        m_context.settings.OpenSingleFileOnly = m_opening->OpenSingleFileOnly;
+        m_context.settings.of<EditorSettings>().OpenSingleFileOnly = m_opening->OpenSingleFileOnly;
     });
 }
 
@@ -186,7 +191,7 @@ void Editor::connectUndo()
     connect(m_fresh.get(), &FileNew::macroReplaced, undos,
             [undos] { undos->startOver(DocumentKind::Macro); });
     connect(m_saving.get(), &FileSaving::written, undos, [this, undos](DocumentKind kind) {
-        if (m_context.settings.UndoClearOnSave != 1) {
+        if (!m_context.settings.of<DocumentSettings>().UndoClearOnSave) {
             return;
         }
         if (kind == DocumentKind::Joystick) {
@@ -201,11 +206,13 @@ void Editor::connectLooks()
 {
     MenuActions &on = *m_actions;
     on.connectTo(u"mnuViewLineNumbers", [this] {
-        m_context.settings.LineNumbers = action(u"mnuViewLineNumbers")->isChecked();
+        m_context.settings.of<DocumentSettings>().LineNumbers =
+            action(u"mnuViewLineNumbers")->isChecked();
         applySettings();
     });
     on.connectTo(u"mnuViewCurrentLine", [this] {
-        m_context.settings.CurrentLineMark = action(u"mnuViewCurrentLine")->isChecked();
+        m_context.settings.of<DocumentSettings>().CurrentLineMark =
+            action(u"mnuViewCurrentLine")->isChecked();
         applySettings();
     });
 }
@@ -273,9 +280,10 @@ void Editor::updateConditions()
 {
     m_actions->setCondition(When::Selection, selected().control->textCursor().hasSelection());
     m_actions->setCondition(When::PasteReady, holdsText(QApplication::clipboard()->mimeData()));
-    m_actions->setCondition(When::JoystickText,
-                            selected().kind == DocumentKind::Joystick
-                                || m_context.settings.AlwaysShowCompileDownload == 1);
+    m_actions->setCondition(
+        When::JoystickText,
+        selected().kind == DocumentKind::Joystick
+            || m_context.settings.of<EditorSettings>().AlwaysShowCompileDownload);
 }
 
 void Editor::updateDownloadCaption()
@@ -320,18 +328,19 @@ QString Editor::restorableFile(DocumentKind kind)
 
 void Editor::applySettings()
 {
-    const GlobalSettings &settings = m_context.settings;
+    const auto &settings = m_context.settings.of<EditorSettings>();
+    const auto &looks = m_context.settings.of<DocumentSettings>();
     m_view->applyLook();
     m_looks->UpdateStyleCaptions();
     m_editing->applySettings();
     m_insertForms->applySettings();
-    m_view->setTiled(settings.TileFiles == 1);
-    action(u"mnuViewTileVertically")->setChecked(settings.TileFiles == 1);
+    m_view->setTiled(settings.TileFiles);
+    action(u"mnuViewTileVertically")->setChecked(settings.TileFiles);
     m_macros->applySettings();
-    m_opening->OpenSingleFileOnly = settings.OpenSingleFileOnly == 1;
+    m_opening->OpenSingleFileOnly = settings.OpenSingleFileOnly;
     action(u"mnuJoyPopUpSingleFile")->setChecked(m_opening->OpenSingleFileOnly);
-    action(u"mnuViewLineNumbers")->setChecked(settings.LineNumbers == 1);
-    action(u"mnuViewCurrentLine")->setChecked(settings.CurrentLineMark == 1);
+    action(u"mnuViewLineNumbers")->setChecked(looks.LineNumbers);
+    action(u"mnuViewCurrentLine")->setChecked(looks.CurrentLineMark);
     updateConditions();
 }
 

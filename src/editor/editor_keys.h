@@ -11,7 +11,7 @@ namespace zeph {
 
 class MenuActions;
 class EditorView;
-struct GlobalSettings;
+struct EditorSettings;
 
 /// What the keys do in the two texts beyond typing. With Ctrl alone held a key runs its menu entry,
 /// which may differ between the texts, and is swallowed.
@@ -19,7 +19,7 @@ class EditorKeys : public QObject
 {
     Q_OBJECT
 public:
-    EditorKeys(EditorView &view, MenuActions &actions, const GlobalSettings &settings);
+    EditorKeys(EditorView &view, MenuActions &actions, const EditorSettings &settings);
 
     /// The entry behind Ctrl and a key in one of the texts; empty when there is none.
     static QString entryFor(int key, bool macroText);
@@ -42,7 +42,7 @@ private:
 
     EditorView &m_view;
     MenuActions &m_actions;
-    const GlobalSettings &m_settings;
+    const EditorSettings &m_settings;
 };
 
 } // namespace zeph

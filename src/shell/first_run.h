@@ -15,7 +15,7 @@ class UserLists;
 struct WelcomeAnswers;
 
 /// Puts what the pilot said into the settings and the paths. No name at all leaves the stored one.
-void takeWelcomeAnswers(const WelcomeAnswers &answers, GlobalSettings &settings, Paths &paths);
+void takeWelcomeAnswers(const WelcomeAnswers &answers, Settings &settings, Paths &paths);
 
 /// What the first run fills and shows.
 struct FirstRunParts {

@@ -12,6 +12,7 @@
 #include "platform/tool_windows.h"
 #include "shell/cool_bar.h"
 #include "shell/main_status_bar.h"
+#include "shell/settings/shell_settings.h"
 
 #include <QCloseEvent>
 #include <QMenu>
@@ -24,7 +25,6 @@ namespace zeph {
 namespace {
 
 /// As large as the window is when the store names no size.
-constexpr QSize restoredTwips{ 13320, 8895 };
 
 } // namespace
 
@@ -74,7 +74,8 @@ void Mum::setPlace(const WindowPlace &place)
     if (place.state == WindowState::Maximised) {
         // What the window is restored to, and what the first dialogs stand over until the system
         // has maximised it.
-        resize(pixelsFromTwips(restoredTwips.width()), pixelsFromTwips(restoredTwips.height()));
+        resize(pixelsFromTwips(defaultOf(&ShellSettings::MumWidthAtStartup)),
+               pixelsFromTwips(defaultOf(&ShellSettings::MumHeightAtStartup)));
         QRect restored = rect();
         restored.moveCenter(screen()->availableGeometry().center());
         move(restored.topLeft());

@@ -11,10 +11,12 @@
 #include "editor/macros/framemacros.h"
 #include "editor/macros/macro_features.h"
 #include "editor/right_menu.h"
+#include "livetools/key_tester_settings.h"
 #include "livetools/keytestform.h"
 #include "menus/menu_actions.h"
 #include "platform/core/file_io.h"
 #include "platform/tool_windows.h"
+#include "settings/settings.h"
 #include "shell/application.h"
 #include "shell/mum.h"
 #include "shell/welcome.h"
@@ -98,7 +100,7 @@ void showKeyTester(Application &application, bool withMenus)
     if (!tester) {
         return;
     }
-    if (application.settings().MenuDisplay != (withMenus ? 1 : 0)) {
+    if (application.settings().of<KeyTesterSettings>().MenuDisplay != withMenus) {
         tester->ToggleMenus();
     }
     constexpr int shift = 1;

@@ -59,7 +59,7 @@ QList<QStringList> titleSections(const TitleFields &fields)
     if (!fields.game.isEmpty()) {
         file.append(titleIndent + u"    for "_s + fields.game);
     }
-    const QStringList person{ titleIndent + u"by "_s + personsNameOr(fields.person),
+    const QStringList person{ titleIndent + u"by "_s + fields.person,
                               titleIndent + u"Last modified: "_s + fields.lastModified,
                               titleIndent + u"Controllers: "_s + fields.controllers };
     QList<QStringList> sections{ file, person };
@@ -105,12 +105,6 @@ QStringList titleBlock(const TitleFields &fields)
     }
     block.append(titleRule);
     return block;
-}
-
-QString personsNameOr(const QString &name)
-{
-    const QString trimmed = name.trimmed();
-    return trimmed.isEmpty() ? u"User unknown"_s : trimmed;
 }
 
 std::span<const SlashWord> slashWords()

@@ -34,9 +34,6 @@ struct TitleFields {
 /// under the end of the rules, or farther right when a line needs more room.
 QStringList titleBlock(const TitleFields &fields);
 
-/// The name of whoever writes files: the given one, or what stands for nobody.
-QString personsNameOr(const QString &name);
-
 /// One word of the slash palette and of the Insert menu.
 struct SlashWord {
     const char16_t *text; ///< empty: the delay, whose number is a setting

@@ -1,9 +1,11 @@
 // SPDX-FileCopyrightText: The Zeph authors
 // SPDX-License-Identifier: MIT
 
+#include "documents/document_settings.h"
 #include "editor/files/file_opening.h"
 #include "platform/core/rtf.h"
 #include "platform/richtext/rich_text_document.h"
+#include "settings/colour_settings.h"
 #include "tests/text/painting_fixture.h"
 
 #include <QAction>
@@ -126,7 +128,7 @@ TEST_F(HighlightingTest, APassKeepsCaretAndScrollAndDropsTheSelection)
 
 TEST_F(HighlightingTest, APassStripsBoldItalicUnderlineAndForeignFonts)
 {
-    settings.TextFontBold = 1;
+    settings.of<ColourSettings>().TextFontBold = true;
     set(J, u"BTN S1 a"_s);
     look(J, 2, 4, [](CharFormat &format) {
         format.family = u"Courier"_s;
@@ -150,8 +152,9 @@ TEST_F(HighlightingTest, APassWritesTheColouredCopyOfAnUnsavedFileAtOnce)
     const auto copy = readRtf(folder.read(u"Rtf/Untitled.tmj"_s));
     ASSERT_TRUE(copy);
     EXPECT_EQ(copy->text, u"BTN S1 a");
-    EXPECT_EQ(copy->formatAt(0).colour, settings.BTNColour);
-    EXPECT_EQ(copy->formatAt(7).colour.value_or(0), settings.JoystickTextDefaultColour);
+    EXPECT_EQ(copy->formatAt(0).colour, settings.of<ColourSettings>().BTNColour);
+    EXPECT_EQ(copy->formatAt(7).colour.value_or(0),
+              settings.of<ColourSettings>().JoystickTextDefaultColour);
 }
 
 TEST_F(HighlightingTest, ACopyThatCannotBeWrittenIsTold)
@@ -210,7 +213,7 @@ TEST_F(HighlightingTest, RemovingColourLeavesTheFontAndTheCaret)
     set(J, u"BTN S1 a"_s);
     look(J, 0, 5, [this](CharFormat &format) {
         format.family = u"Courier"_s;
-        format.colour = settings.RAWColour;
+        format.colour = settings.of<ColourSettings>().RAWColour;
         format.bold = format.italic = format.underline = true;
     });
     joystick()->select(3, 2);
@@ -359,7 +362,7 @@ TEST_F(HighlightingTest, ColouringALineOfAProtectedMacroFileIsRefused)
 TEST_F(HighlightingTest, AStatementsTextIsPaintedInTheSelectedDocumentsPlainFormat)
 {
     const RichText joystickText = highlighting().ColourType(u"BTN S1 a"_s);
-    EXPECT_EQ(joystickText.formatAt(0).colour, settings.BTNColour);
+    EXPECT_EQ(joystickText.formatAt(0).colour, settings.of<ColourSettings>().BTNColour);
     EXPECT_EQ(joystickText.formatAt(7), editor->view().plainFormat(J));
     editor->view().select(M);
     EXPECT_EQ(highlighting().ColourType(u"a"_s).formatAt(0), editor->view().plainFormat(M));
@@ -370,7 +373,7 @@ TEST_F(HighlightingTest, JustRemPaintsCommentsAlone)
     const RichText text = highlighting().JustREMtocolour(u"BTN S1 Rem x"_s);
     ASSERT_EQ(text.characters.size(), 2U);
     EXPECT_EQ(text.characters[0].length, 7);
-    EXPECT_EQ(text.characters[1].format.colour, settings.RemStatements);
+    EXPECT_EQ(text.characters[1].format.colour, settings.of<ColourSettings>().RemStatements);
 }
 
 TEST_F(HighlightingTest, RefreshingTheLayoutStripsLooksAndSetsTheMargin)
@@ -444,7 +447,7 @@ class TypingColourTest : public HighlightingTest
 protected:
     void SetUp() override
     {
-        settings.ColourWithTyping = 1;
+        settings.of<DocumentSettings>().ColourWithTyping = true;
         showWindow();
     }
 };
@@ -488,7 +491,7 @@ TEST_F(TypingColourTest, TheMouseColoursWhatItHasSelected)
 
 TEST_F(TypingColourTest, NothingIsColouredWhileTheSettingIsOff)
 {
-    settings.ColourWithTyping = 0;
+    settings.of<DocumentSettings>().ColourWithTyping = false;
     QTest::keyClicks(joystick(), u"/U /M"_s);
     QTest::keyClick(joystick(), Qt::Key_Return);
     EXPECT_EQ(colours(J), u"......");

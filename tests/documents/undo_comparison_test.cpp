@@ -4,7 +4,9 @@
 // The history against a plain one that keeps whole copies: same texts, looks, carets and captions
 // after every step of long random sequences in the real Editor.
 
+#include "documents/document_settings.h"
 #include "documents/undo_history.h"
+#include "editor/editor_settings.h"
 #include "editor/files/file_new.h"
 #include "editor/files/file_opening.h"
 #include "editor/files/file_saving.h"
@@ -96,7 +98,7 @@ QString captionOf(QStringView word, size_t steps)
 class UndoComparison : public test::EditorTest
 {
 protected:
-    UndoComparison() { settings.UpdateModified = 0; }
+    UndoComparison() { settings.of<EditorSettings>().UpdateModified = false; }
 
     EditorDocument &document() { return editor->selected(); }
     TextControl &control() { return *document().control; }
@@ -109,7 +111,7 @@ protected:
         chance = std::make_unique<test::RichTextMaker>(seed);
         // Most texts are short; some have many chunks.
         const int most = seed % 20 == 0 ? 400 : 12;
-        settings.UndoMax = qint16(10 + chance->upTo(10));
+        settings.of<DocumentSettings>().UndoMax = int(10 + chance->upTo(10));
         for (const DocumentKind kind : { DocumentKind::Joystick, DocumentKind::Macro }) {
             editor->view().document(kind).state = EditorDocument::Saved;
             QByteArray bytes;
@@ -124,7 +126,8 @@ protected:
     }
     void changed()
     {
-        copies().changed(control().richText(), control().selStart(), settings.UndoMax);
+        copies().changed(control().richText(), control().selStart(),
+                         settings.of<DocumentSettings>().UndoMax);
     }
 
     void typeKey(int key)
@@ -254,11 +257,11 @@ protected:
     }
     void save()
     {
-        settings.UndoClearOnSave = qint16(chance->upTo(1));
+        settings.of<DocumentSettings>().UndoClearOnSave = int(chance->upTo(1));
         const QString before = control().text();
         editor->saving().SaveText(document());
         ASSERT_EQ(control().text(), before);
-        if (settings.UndoClearOnSave == 1) {
+        if (settings.of<DocumentSettings>().UndoClearOnSave) {
             copies().start(control().richText());
         }
     }

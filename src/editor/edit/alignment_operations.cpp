@@ -7,10 +7,11 @@
 #include "documents/highlighting.h"
 #include "documents/text_control.h"
 #include "documents/undo_history.h"
+#include "editor/editor_settings.h"
 #include "menus/menu_actions.h"
 #include "platform/richtext/rich_text_document.h"
 #include "platform/status_line.h"
-#include "settings/global_settings.h"
+#include "settings/settings.h"
 #include "text/alignment.h"
 #include "text/text_lines.h"
 
@@ -46,7 +47,8 @@ AlignmentOperations::AlignmentOperations(const Context &context, const Parts &pa
 
 void AlignmentOperations::applySettings()
 {
-    m_parts.actions.action(u"mnuIndentSlashes")->setChecked(m_context.settings.IndentAsWell == 1);
+    m_parts.actions.action(u"mnuIndentSlashes")
+        ->setChecked(m_context.settings.of<EditorSettings>().IndentAsWell);
 }
 
 void AlignmentOperations::mnuAlignSlash_Click()
@@ -61,8 +63,9 @@ void AlignmentOperations::mnuAlignSlash_Click()
     }
     m_context.status.setTextNow(u" Hang on - this could take time ..."_s);
     m_parts.view.select(DocumentKind::Joystick);
-    const QString aligned = AlignSlashes(
-        text, { m_context.settings.IndentAsWell == 1, m_context.settings.IndentSpaces });
+    const QString aligned = AlignSlashes(text,
+                                         { m_context.settings.of<EditorSettings>().IndentAsWell,
+                                           m_context.settings.of<EditorSettings>().IndentSpaces });
     if (aligned != text) {
         const EditStep step(m_parts.view, m_parts.histories, DocumentKind::Joystick);
         replaceAll(*joystick.control, aligned);
@@ -73,7 +76,8 @@ void AlignmentOperations::mnuAlignSlash_Click()
 
 void AlignmentOperations::mnuIndentSlashes_Click()
 {
-    m_context.settings.IndentAsWell = m_parts.actions.action(u"mnuIndentSlashes")->isChecked();
+    m_context.settings.of<EditorSettings>().IndentAsWell =
+        m_parts.actions.action(u"mnuIndentSlashes")->isChecked();
 }
 
 void AlignmentOperations::mnuViewrefreshIndent_Click()

@@ -6,6 +6,7 @@
 #include "documents/coloured_copies.h"
 #include "documents/editor_view.h"
 #include "documents/text_control.h"
+#include "editor/editor_settings.h"
 #include "editor/files/use_directives.h"
 #include "platform/clock.h"
 #include "platform/core/file_attributes.h"
@@ -13,7 +14,7 @@
 #include "platform/dialogs.h"
 #include "platform/overwrite_question.h"
 #include "platform/status_line.h"
-#include "settings/global_settings.h"
+#include "settings/settings.h"
 #include "text/date_stamp.h"
 #include "text/document_text.h"
 
@@ -113,7 +114,7 @@ void FileSaving::SaveText(EditorDocument &document)
     if (!encodable(document, Stranger::Show)) {
         return;
     }
-    if (m_context.settings.UpdateModified == 1) {
+    if (m_context.settings.of<EditorSettings>().UpdateModified) {
         ModifyDate(document);
     }
     const TextControl::Place place = control.place();
