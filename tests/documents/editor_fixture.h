@@ -23,6 +23,9 @@
 
 namespace zeph::test {
 
+/// A colour that no scheme of the tests has.
+constexpr ColorRef blue = 0xFF0000;
+
 /// A stopped clock: 5 March 2024, 9:07.
 class StoppedClock : public Clock
 {

@@ -9,11 +9,10 @@
 #include <QFile>
 
 using namespace zeph;
+using zeph::test::hangOn;
+using zeph::test::success;
 
 namespace {
-
-const QString hangOn = u"Hang on a minute ..."_s;
-const QString success = u"File successfully compiled!"_s;
 
 class CompileTest : public test::CompilerBench
 {

@@ -11,6 +11,10 @@
 
 namespace zeph::test {
 
+/// What panel 1 tells during a compile and after it.
+inline const QString hangOn = u"Hang on a minute ..."_s;
+inline const QString success = u"File successfully compiled!"_s;
+
 /// A fixture for what runs the compiler. What is asked of the windows is noted in order.
 class CompilerBench : public ToolchainBench
 {

@@ -8,11 +8,11 @@
 #include "toolchain/toolchain_settings.h"
 
 using namespace zeph;
+using zeph::test::hangOn;
+using zeph::test::success;
 
 namespace {
 
-const QString hangOn = u"Hang on a minute ..."_s;
-const QString success = u"File successfully compiled!"_s;
 const QString unknown = u"Unknown result"_s;
 const QString longTime = u"Now this is taking rather a long time Maverick, isn't it?!"_s;
 const QString tab = u"joystick tab"_s;

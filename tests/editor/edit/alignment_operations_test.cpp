@@ -13,11 +13,10 @@
 #include <QTest>
 
 using namespace zeph;
+using zeph::test::blue;
 using zeph::test::EditorTest;
 
 namespace {
-
-constexpr ColorRef blue = 0xFF0000;
 
 class AlignmentOperationsTest : public EditorTest
 {

@@ -10,11 +10,11 @@
 #include <QAction>
 
 using namespace zeph;
+using zeph::test::blue;
 using zeph::test::EditorTest;
 
 namespace {
 
-constexpr ColorRef blue = 0xFF0000;
 constexpr ColorRef green = 0x00FF00;
 constexpr ColorRef grey = 0x808080;
 

@@ -16,11 +16,11 @@
 #include <QTest>
 
 using namespace zeph;
+using zeph::test::blue;
 using zeph::test::EditorTest;
 
 namespace {
 
-constexpr ColorRef blue = 0xFF0000;
 constexpr ColorRef red = 0x0000FF;
 
 class ClipboardOperationsTest : public EditorTest
