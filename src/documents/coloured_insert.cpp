@@ -4,11 +4,13 @@
 #include "documents/coloured_insert.h"
 
 #include "documents/change.h"
+#include "documents/document_look.h"
 #include "documents/documents.h"
 #include "documents/editor_view.h"
 #include "platform/richtext/rich_text_document.h"
 #include "platform/status_line.h"
-#include "settings/global_settings.h"
+#include "settings/colour_settings.h"
+#include "settings/settings.h"
 #include "text/painter.h"
 
 #include <QTextBlock>
@@ -101,8 +103,10 @@ void ColouredInsert::MacroTransferText(const QString &text)
         }
     }
     RichText painted = RichText::plain(whole);
-    painted.characters = characterRuns(
-        paint(whole, typingPasses(), colourScheme(m_context.settings, into.kind())), into.plain());
+    painted.characters =
+        characterRuns(paint(whole, typingPasses(),
+                            colourScheme(m_context.settings.of<ColourSettings>(), into.kind())),
+                      into.plain());
     insertRich(painted);
 }
 

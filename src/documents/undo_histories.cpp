@@ -2,13 +2,13 @@
 // SPDX-License-Identifier: MIT
 
 #include "documents/undo_histories.h"
-
+#include "documents/document_settings.h"
 #include "documents/documents.h"
 #include "documents/editor_view.h"
 #include "documents/line_blink.h"
 #include "menus/menu_actions.h"
 #include "platform/status_line.h"
-#include "settings/global_settings.h"
+#include "settings/settings.h"
 
 #include <QAction>
 
@@ -66,7 +66,7 @@ void UndoHistories::step(void (UndoHistory::*way)(), bool possible)
     (document.history().*way)();
     m_context.status.setLine(document.caretLine());
     UpdateUndoRedoMenus();
-    if (m_context.settings.HighlightLineOnUndo == 1) {
+    if (m_context.settings.of<DocumentSettings>().HighlightLineOnUndo) {
         m_blink->start(document.kind());
     }
 }

@@ -5,6 +5,7 @@
 
 #include "documents/coloured_copies.h"
 #include "documents/editor_view.h"
+#include "editor/editor_settings.h"
 #include "editor/files/use_directives.h"
 #include "platform/clock.h"
 #include "platform/core/file_attributes.h"
@@ -12,7 +13,7 @@
 #include "platform/dialogs.h"
 #include "platform/overwrite_question.h"
 #include "platform/status_line.h"
-#include "settings/global_settings.h"
+#include "settings/settings.h"
 #include "text/date_stamp.h"
 #include "text/document_text.h"
 
@@ -97,7 +98,6 @@ void FileSaving::mnuFileSaveBoth_Click()
 
 QString FileSaving::proposedName(const Document &document)
 {
-    const bool macro = document.kind() == DocumentKind::Macro;
     const Document &other = m_view.documents().other(document);
     if (isUntitled(document.name()) && !isUntitled(other.name())) {
         return baseWithDot(other.name()) + extensionOf(document.kind());
@@ -110,7 +110,7 @@ void FileSaving::SaveText(Document &document)
     if (!encodable(document, Stranger::Show)) {
         return;
     }
-    if (m_context.settings.UpdateModified == 1) {
+    if (m_context.settings.of<EditorSettings>().UpdateModified) {
         ModifyDate(document);
     }
     std::optional<EditorView::KeptPlace> place(std::in_place, m_view, document);

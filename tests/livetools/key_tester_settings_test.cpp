@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Zeph authors
 // SPDX-License-Identifier: MIT
 
-#include "settings/global_settings.h"
+#include "livetools/key_tester_settings.h"
 
 #include <gtest/gtest.h>
 
@@ -9,9 +9,9 @@ using namespace zeph;
 
 TEST(KeyTesterSettings, StartInTheCornerWithTheDelayOffAndEverythingShown)
 {
-    const GlobalSettings settings;
-    EXPECT_EQ(settings.KeyTopAtStartup, u"30");
-    EXPECT_EQ(settings.KeyLeftAtStartup, u"30");
+    const KeyTesterSettings settings;
+    EXPECT_EQ(settings.KeyTopAtStartup, 30);
+    EXPECT_EQ(settings.KeyLeftAtStartup, 30);
     EXPECT_EQ(settings.ClearDelay, -1);
     EXPECT_EQ(settings.KeyViewAll, 1);
     EXPECT_EQ(settings.MenuDisplay, 1);
@@ -20,11 +20,10 @@ TEST(KeyTesterSettings, StartInTheCornerWithTheDelayOffAndEverythingShown)
 TEST(KeyTesterSettings, AreNoPartOfTheGlobalSave)
 {
     int keys = 0;
-    for (const Setting &setting : settingsTable()) {
-        if (setting.section == u"Key Tester") {
-            EXPECT_FALSE(setting.saved) << setting.key.toString().toStdString();
-            ++keys;
-        }
+    for (const SettingKey &key : KeyTesterSettings::rows()) {
+        EXPECT_EQ(key.section, u"Key Tester");
+        EXPECT_FALSE(key.isSaved()) << key.key.toString().toStdString();
+        ++keys;
     }
     EXPECT_EQ(keys, 7);
 }

@@ -1,9 +1,15 @@
 // SPDX-FileCopyrightText: The Zeph authors
 // SPDX-License-Identifier: MIT
 
-#include "settings/settings_moments.h"
+#include "shell/settings/settings_moments.h"
 
+#include "documents/document_settings.h"
+#include "editor/editor_settings.h"
+#include "settings/colour_settings.h"
+#include "settings/shared_settings.h"
+#include "shell/settings/shell_settings.h"
 #include "tests/settings/store.h"
+#include "toolchain/toolchain_settings.h"
 
 #include <gtest/gtest.h>
 
@@ -14,19 +20,24 @@ using test::Store;
 
 namespace {
 
-using G = GlobalSettings;
-
 constexpr ScreenSize screen{ 15360, 11520 };
+
+Settings allSettings()
+{
+    Settings settings;
+    addAllSettings(settings);
+    return settings;
+}
 
 } // namespace
 
 TEST(SetUpDefaultIniSettings, SetsAndWritesTheFirstRunsColours)
 {
     const Store store;
-    G settings;
+    Settings settings = allSettings();
     ASSERT_TRUE(SetUpDefaultIniSettings(settings, store.files));
-    EXPECT_EQ(settings.BTNColour, 16711680U);
-    EXPECT_EQ(settings.MacroListBackground, 11779289U);
+    EXPECT_EQ(settings.of<ColourSettings>().BTNColour, 16711680U);
+    EXPECT_EQ(settings.of<ColourSettings>().MacroListBackground, 11779289U);
     const std::pair<QStringView, QStringView> expected[] = {
         { u"BackgroundColour", u"14285565" },
         { u"BTNColour", u"16711680" },
@@ -53,8 +64,8 @@ TEST(SetUpDefaultIniSettings, SetsAndWritesTheFirstRunsColours)
 TEST(SetUpDefaultIniSettings, WritesTheHandlesAndTheGlobalKeys)
 {
     const Store store;
-    G settings;
-    settings.PilotCallsign = u"Viper"_s;
+    Settings settings = allSettings();
+    settings.of<SharedSettings>().PilotCallsign = u"Viper"_s;
     ASSERT_TRUE(SetUpDefaultIniSettings(settings, store.files));
     EXPECT_EQ(store.text(u"Handles", u"Default"), u"F-16 Block 50.tmh"_s);
     EXPECT_EQ(store.text(u"Handles", u"Handle1"), u"F-16 Block 50.tmh"_s);
@@ -66,11 +77,11 @@ TEST(SetUpDefaultIniSettings, WritesTheHandlesAndTheGlobalKeys)
 TEST(FirstStart, AnAbsentStoreEndsUpWithEveryGlobalKeyColoursAndHandles)
 {
     const Store store;
-    G settings;
+    Settings settings = allSettings();
     EXPECT_TRUE(GetMumPosition(settings, store.files).isEmpty());
     EXPECT_TRUE(readGlobalSettings(settings, store.files).isEmpty());
     ASSERT_TRUE(saveGlobalSettings(settings, store.files));
-    ASSERT_EQ(settings.FirstTimeUsed, 1);
+    ASSERT_EQ(settings.of<ShellSettings>().FirstTimeUsed, 1);
     ASSERT_TRUE(SetUpDefaultIniSettings(settings, store.files));
     // 52 global keys (two of them colours), the other 14 colours, 3 of the handles.
     EXPECT_EQ(store.folder.read(u"Zeph.ini"_s).count('='), 69);
@@ -85,31 +96,32 @@ TEST(GetMumPosition, ReadsThePlaceTheTesterAndThreeUnsupportedKeysOnly)
                        "MumWidthAtStartup=9000.5\nMumHeightAtStartup=6000\nMumWindowstate=0\n"
                        "DefaultToDX8KeyTester=1\nUndoMax=99\n[Unsupported]\nTurnOffFontCheck=1\n"
                        "SynchroniseModeOnStartup=1\nForeignLanguageKBInputFix=1\nUseHLPnotCHM=1\n");
-    G settings;
+    Settings settings = allSettings();
     EXPECT_TRUE(GetMumPosition(settings, store.files).isEmpty());
-    EXPECT_EQ(mumPlace(settings), (WindowPlace{ 300, 150, 9000.5, 6000, WindowState::Normal }));
-    EXPECT_EQ(settings.DefaultToDX8KeyTester, 1);
-    EXPECT_EQ(settings.TurnOffFontCheck, 1);
-    EXPECT_EQ(settings.SynchroniseModeOnStartup, 1);
-    EXPECT_EQ(settings.ForeignLanguageKBInputFix, 1);
-    EXPECT_EQ(settings.UndoMax, 20);
-    EXPECT_EQ(settings.UseHLPnotCHM, 0);
+    EXPECT_EQ(mumPlace(settings.of<ShellSettings>()),
+              (WindowPlace{ 300, 150, 9000.5, 6000, WindowState::Normal }));
+    EXPECT_EQ(settings.of<EditorSettings>().DefaultToDX8KeyTester, 1);
+    EXPECT_EQ(settings.of<ShellSettings>().TurnOffFontCheck, 1);
+    EXPECT_EQ(settings.of<ToolchainSettings>().SynchroniseModeOnStartup, 1);
+    EXPECT_EQ(settings.of<EditorSettings>().ForeignLanguageKBInputFix, 1);
+    EXPECT_EQ(settings.of<DocumentSettings>().UndoMax, 20);
+    EXPECT_EQ(settings.of<ShellSettings>().UseHLPnotCHM, 0);
 }
 
 TEST(GetMumPosition, AnyStateButZeroIsMaximised)
 {
-    G settings;
-    EXPECT_EQ(mumPlace(settings).state, WindowState::Maximised);
-    settings.MumWindowstate = -1;
-    EXPECT_EQ(mumPlace(settings).state, WindowState::Maximised);
-    settings.MumWindowstate = 0;
-    EXPECT_EQ(mumPlace(settings).state, WindowState::Normal);
+    Settings settings = allSettings();
+    EXPECT_EQ(mumPlace(settings.of<ShellSettings>()).state, WindowState::Maximised);
+    settings.of<ShellSettings>().MumWindowstate = -1;
+    EXPECT_EQ(mumPlace(settings.of<ShellSettings>()).state, WindowState::Maximised);
+    settings.of<ShellSettings>().MumWindowstate = 0;
+    EXPECT_EQ(mumPlace(settings.of<ShellSettings>()).state, WindowState::Normal);
 }
 
 TEST(SaveMumPosition, WritesTheFiveKeys)
 {
     const Store store;
-    G settings;
+    Settings settings = allSettings();
     ASSERT_TRUE(SaveMumPosition(settings, store.files,
                                 { 300, 150.5, 12000, 9000, WindowState::Normal }, screen));
     EXPECT_EQ(store.folder.read(u"Zeph.ini"_s),
@@ -119,13 +131,14 @@ TEST(SaveMumPosition, WritesTheFiveKeys)
 
 TEST(SaveMumPosition, LiesOnTheScreenAndIsNotLargerThanIt)
 {
-    G settings;
-    ASSERT_TRUE(takeMumPlace(settings, { -60, -75, 15480, 11640, WindowState::Maximised }, screen));
-    EXPECT_EQ(settings.MumLeftAtStartup, u"0"_s);
-    EXPECT_EQ(settings.MumTopAtStartup, u"0"_s);
-    EXPECT_EQ(settings.MumWidthAtStartup, u"15360"_s);
-    EXPECT_EQ(settings.MumHeightAtStartup, u"11520"_s);
-    EXPECT_EQ(settings.MumWindowstate, 2);
+    Settings settings = allSettings();
+    ASSERT_TRUE(takeMumPlace(settings.of<ShellSettings>(),
+                             { -60, -75, 15480, 11640, WindowState::Maximised }, screen));
+    EXPECT_EQ(settings.of<ShellSettings>().MumLeftAtStartup, 0);
+    EXPECT_EQ(settings.of<ShellSettings>().MumTopAtStartup, 0);
+    EXPECT_EQ(settings.of<ShellSettings>().MumWidthAtStartup, 15360);
+    EXPECT_EQ(settings.of<ShellSettings>().MumHeightAtStartup, 11520);
+    EXPECT_EQ(settings.of<ShellSettings>().MumWindowstate, 2);
 }
 
 TEST(SaveMumPosition, ClosingWhileMinimisedLeavesTheLastPositionUnchanged)
@@ -133,27 +146,28 @@ TEST(SaveMumPosition, ClosingWhileMinimisedLeavesTheLastPositionUnchanged)
     const Store store;
     const QByteArray before = "[Miscellaneous]\r\nMumTopAtStartup=5\r\n";
     store.folder.write(u"Zeph.ini"_s, before);
-    G settings;
-    settings.MumTopAtStartup = u"5"_s;
+    Settings settings = allSettings();
+    settings.of<ShellSettings>().MumTopAtStartup = 5;
     ASSERT_TRUE(
         SaveMumPosition(settings, store.files, { 1, 2, 3, 4, WindowState::Minimised }, screen));
-    EXPECT_EQ(settings.MumTopAtStartup, u"5"_s);
+    EXPECT_EQ(settings.of<ShellSettings>().MumTopAtStartup, 5);
     EXPECT_EQ(store.folder.read(u"Zeph.ini"_s), before);
 }
 
 TEST(SaveMumPosition, LargeTwipsStayPlainDecimals)
 {
-    G settings;
-    ASSERT_TRUE(takeMumPlace(settings, { 1234567, 0, 10, 10, WindowState::Normal }, screen));
-    EXPECT_EQ(settings.MumLeftAtStartup, u"1234567"_s);
+    Settings settings = allSettings();
+    ASSERT_TRUE(takeMumPlace(settings.of<ShellSettings>(),
+                             { 1234567, 0, 10, 10, WindowState::Normal }, screen));
+    EXPECT_EQ(settings.of<ShellSettings>().MumLeftAtStartup, 1234567);
 }
 
 TEST(EndOfTheEditor, WritesTheTesterOptions)
 {
     const Store store;
-    G settings;
-    settings.OpenSingleFileOnly = 1;
-    settings.RunKeyTest = 0;
+    Settings settings = allSettings();
+    settings.of<EditorSettings>().OpenSingleFileOnly = 1;
+    settings.of<ToolchainSettings>().RunKeyTest = 0;
     ASSERT_TRUE(saveTesterOptions(settings, store.files));
     EXPECT_EQ(store.folder.read(u"Zeph.ini"_s),
               "[Miscellaneous]\r\nDefaultToDX8KeyTester=0\r\nOpenSingleFileOnly=1\r\n"
@@ -163,9 +177,9 @@ TEST(EndOfTheEditor, WritesTheTesterOptions)
 TEST(EndOfTheEditor, WritesTheIndentAndMacroOptionsAndTileFiles)
 {
     const Store store;
-    G settings;
-    settings.TileFiles = 1;
-    settings.IndentSpaces = 7;
+    Settings settings = allSettings();
+    settings.of<EditorSettings>().TileFiles = 1;
+    settings.of<EditorSettings>().IndentSpaces = 7;
     ASSERT_TRUE(SaveIndentStuff(settings, store.files));
     EXPECT_EQ(store.text(u"Miscellaneous", u"TileFiles"), u"1"_s);
     EXPECT_EQ(store.text(u"Miscellaneous", u"IndentSpaces"), u"7"_s);
@@ -179,21 +193,21 @@ TEST(EndOfTheEditor, WritesTheIndentAndMacroOptionsAndTileFiles)
 TEST(SaveForRestore, KeepsFilesThatExistAndEmptiesTheOthers)
 {
     const Store store;
-    G settings;
-    settings.RestoreJoyFile = store.folder.write(u"a.tmj"_s, "x");
-    settings.RestoreMacroFile = store.folder.file(u"gone.tmm"_s);
+    Settings settings = allSettings();
+    settings.of<EditorSettings>().RestoreJoyFile = store.folder.write(u"a.tmj"_s, "x");
+    settings.of<EditorSettings>().RestoreMacroFile = store.folder.file(u"gone.tmm"_s);
     ASSERT_TRUE(SaveForRestore(settings, store.files));
     EXPECT_EQ(store.text(u"Miscellaneous", u"RestoreJoyFile"), store.folder.file(u"a.tmj"_s));
     EXPECT_EQ(store.text(u"Miscellaneous", u"RestoreMacroFile"), QString());
-    EXPECT_EQ(settings.RestoreMacroFile, QString());
+    EXPECT_EQ(settings.of<EditorSettings>().RestoreMacroFile, QString());
 }
 
 TEST(SaveForRestore, ANameThatTheStoreCannotHoldIsEmptiedToo)
 {
     const Store store;
     store.folder.write(u"Zeph.ini"_s, "[Miscellaneous]\nRestoreJoyFile=/other.tmj\n");
-    G settings;
-    settings.RestoreJoyFile = store.folder.write(u"Жук.tmj"_s, "x");
+    Settings settings = allSettings();
+    settings.of<EditorSettings>().RestoreJoyFile = store.folder.write(u"Жук.tmj"_s, "x");
     ASSERT_TRUE(SaveForRestore(settings, store.files));
     EXPECT_EQ(store.text(u"Miscellaneous", u"RestoreJoyFile"), QString());
 }
@@ -210,21 +224,21 @@ TEST(SaveFilesFolder, GoesIntoTheSharedFileAndKeepsWhatOthersWrote)
 TEST(ResetAxes, HaveTheirDefaultsAndComeBackAsTheyWereSaved)
 {
     const Store store;
-    G settings;
+    Settings settings = allSettings();
     EXPECT_TRUE(GetResetAxes(settings, store.files).isEmpty());
-    EXPECT_EQ(settings.ResetProfile, u"Default"_s);
-    EXPECT_EQ(settings.ResetCalibrate, 0);
-    EXPECT_EQ(settings.UseResetProfile, 0);
-    settings.ResetProfile = u"Rudder only"_s;
-    settings.ResetCalibrate = 1;
-    settings.UseResetProfile = 1;
+    EXPECT_EQ(settings.of<ToolchainSettings>().ResetProfile, u"Default"_s);
+    EXPECT_EQ(settings.of<ToolchainSettings>().ResetCalibrate, 0);
+    EXPECT_EQ(settings.of<ToolchainSettings>().UseResetProfile, 0);
+    settings.of<ToolchainSettings>().ResetProfile = u"Rudder only"_s;
+    settings.of<ToolchainSettings>().ResetCalibrate = 1;
+    settings.of<ToolchainSettings>().UseResetProfile = 1;
     ASSERT_TRUE(SaveResetProfiles(settings, store.files));
     EXPECT_EQ(store.text(u"Apps", u"ResetProfile"), u"Rudder only"_s);
     EXPECT_EQ(store.text(u"Apps", u"ResetCalibrate"), u"1"_s);
     EXPECT_EQ(store.text(u"Apps", u"UseResetProfile"), u"1"_s);
-    G again;
+    Settings again = allSettings();
     EXPECT_TRUE(GetResetAxes(again, store.files).isEmpty());
-    EXPECT_EQ(again.ResetProfile, u"Rudder only"_s);
-    EXPECT_EQ(again.ResetCalibrate, 1);
-    EXPECT_EQ(again.UseResetProfile, 1);
+    EXPECT_EQ(again.of<ToolchainSettings>().ResetProfile, u"Rudder only"_s);
+    EXPECT_EQ(again.of<ToolchainSettings>().ResetCalibrate, 1);
+    EXPECT_EQ(again.of<ToolchainSettings>().UseResetProfile, 1);
 }
