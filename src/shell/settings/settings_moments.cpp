@@ -3,7 +3,6 @@
 
 #include "shell/settings/settings_moments.h"
 
-#include "settings/settings.h"
 #include "composer/composer_settings.h"
 #include "documents/document_settings.h"
 #include "editor/editor_settings.h"
@@ -11,6 +10,7 @@
 #include "menus/menu_settings.h"
 #include "platform/core/text1252.h"
 #include "settings/colour_settings.h"
+#include "settings/settings.h"
 #include "settings/shared_settings.h"
 #include "shell/settings/shell_settings.h"
 #include "templates/template_settings.h"
