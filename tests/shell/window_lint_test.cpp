@@ -197,7 +197,7 @@ const LintCase cases[] = {
           return std::make_unique<Title>(TitleFields());
       } },
     { "SlashWindow",
-      [](auto &w) {
+      [](test::ShellWorld &w) {
           return std::make_unique<SlashWindow>(w.settings.of<EditorSettings>());
       } },
     { "Frm_CreatePackage",

@@ -41,7 +41,7 @@ protected:
         editor->opening().OpenFavouriteFile(path);
         return path;
     }
-    QStringList backups() const
+    QStringList backups()
     {
         return QDir(settings.of<EditorSettings>().BackUpFolder).entryList(QDir::Files, QDir::Name);
     }

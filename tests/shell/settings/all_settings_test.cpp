@@ -157,9 +157,9 @@ TEST(AllSettings, ANewFileHasItsKeysInThisOrder)
     ASSERT_TRUE(saveGlobalSettings(settings, store.files));
     QByteArray names;
     for (const QByteArray &line : store.folder.read(u"Zeph.ini"_s).split('\n')) {
-        names += line.left(line.indexOf('=')).trimmed() + ' ';
+        names += line.split('=').first().trimmed() + ' ';
     }
-    EXPECT_EQ(names.simplified(),
+    EXPECT_EQ(names.simplified().toStdString(),
               "[FileLocations] WinZipFilePath BackUpFolder GamesCaption FirstTimeUsed "
               "HOTASStatusBarErrors "
               "[Miscellaneous] AutoSaveEnabled AutoSaveTime RestoreStatus RestoreJoyFile "
