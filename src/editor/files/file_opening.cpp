@@ -84,7 +84,7 @@ std::optional<QString> FileOpening::ask(const QString &title, const QString &fil
     const bool macro = kind == DocumentKind::Macro;
     const Document &other = m_parts.view.documents().other(document);
     const QString name = document.name() == freshName(kind)
-        ? baseWithDot(other.name()) + (macro ? u"tmm"_s : u"tmj"_s)
+        ? baseWithDot(other.name()) + extensionOf(kind)
         : document.name();
     return m_context.dialogs.openFile(
         { title, filter, extension, m_context.paths.filesFolder(), name });
