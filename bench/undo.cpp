@@ -86,7 +86,7 @@ struct World {
 void Keystroke(benchmark::State &state)
 {
     World world(state.range(0));
-    world.control().select(int(world.size / 2), 0);
+    world.control().shown().select(int(world.size / 2), 0);
     for (auto _ : state) {
         QTest::keyClick(&world.control(), Qt::Key_A);
     }
@@ -96,7 +96,7 @@ void Keystroke(benchmark::State &state)
 void KeystrokeWithStep(benchmark::State &state)
 {
     World world(state.range(0));
-    world.control().select(int(world.size / 2), 0);
+    world.control().shown().select(int(world.size / 2), 0);
     for (auto _ : state) {
         QTest::keyClick(&world.control(), Qt::Key_Delete);
     }

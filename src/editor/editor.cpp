@@ -65,12 +65,11 @@ Editor::Editor(const Context &context, QWidget *parent)
                                                     context.settings.of<DocumentSettings>())),
       m_editing(std::make_unique<EditingTools>(
           context, EditingTools::Parts{ *m_view, *m_actions, *m_highlighting, *m_insert })),
-      m_useDirectives(std::make_unique<UseDirectives>(context, *m_view)),
-      m_saving(std::make_unique<FileSaving>(context, *m_view, *m_copies, *m_useDirectives)),
+      m_useDirectives(std::make_unique<UseDirectives>(context, *m_documents)),
+      m_saving(std::make_unique<FileSaving>(context, *m_view, *m_copies)),
       m_opening(std::make_unique<FileOpening>(
-          context,
-          FileOpening::Parts{ *m_view, *m_copies, *m_highlighting, *m_useDirectives, *m_saving })),
-      m_fresh(std::make_unique<FileNew>(context, *m_view, *m_opening, *m_useDirectives)),
+          context, FileOpening::Parts{ *m_view, *m_copies, *m_highlighting, *m_saving })),
+      m_fresh(std::make_unique<FileNew>(context, *m_view, *m_opening)),
       m_rightMenu(std::make_unique<RightMenu>(*m_view, *m_actions)),
       m_guards(new LossGuards{ .autoSave = { context, *m_view, *m_saving },
                                .recovery = { context, { *m_view, *m_opening } } }),
@@ -87,11 +86,9 @@ Editor::Editor(const Context &context, QWidget *parent)
     connectFiles();
     connectEditing();
     connectOptions();
-    connectUndo();
     connectLooks();
     connectPainting();
     connectMacros();
-    connectGuards();
     connect(m_keys.get(), &EditorKeys::helpOn, this, &Editor::helpOn);
     connect(m_keys.get(), &EditorKeys::emergencyOff, this, &Editor::emergencyOff);
     m_documents->forEach([this](Document &each) {
@@ -99,8 +96,7 @@ Editor::Editor(const Context &context, QWidget *parent)
     });
     connect(m_documents.get(), &Documents::selectedChanged, this, &Editor::updateConditions);
     connect(m_documents.get(), &Documents::selectedChanged, this, &Editor::updateDownloadCaption);
-    connect(m_opening.get(), &FileOpening::loaded, this, &Editor::updateDownloadCaption);
-    connect(m_fresh.get(), &FileNew::joystickReplaced, this, &Editor::updateDownloadCaption);
+    connect(&m_documents->joystick(), &Document::replaced, this, &Editor::updateDownloadCaption);
     connect(QApplication::clipboard(), &QClipboard::dataChanged, this, &Editor::updateConditions);
     updateConditions();
 }
@@ -187,26 +183,6 @@ void Editor::connectOptions()
     });
 }
 
-void Editor::connectUndo()
-{
-    UndoHistories *undos = m_undos.get();
-    connect(m_opening.get(), &FileOpening::loaded, undos, &UndoHistories::startOver);
-    connect(m_fresh.get(), &FileNew::joystickReplaced, undos,
-            [undos] { undos->startOver(DocumentKind::Joystick); });
-    connect(m_fresh.get(), &FileNew::macroReplaced, undos,
-            [undos] { undos->startOver(DocumentKind::Macro); });
-    connect(m_saving.get(), &FileSaving::written, undos, [this, undos](DocumentKind kind) {
-        if (!m_context.settings.of<DocumentSettings>().UndoClearOnSave) {
-            return;
-        }
-        if (kind == DocumentKind::Joystick) {
-            undos->DeleteUndosOnSaveJ();
-        } else {
-            undos->DeleteUndosOnSaveM();
-        }
-    });
-}
-
 void Editor::connectLooks()
 {
     MenuActions &on = *m_actions;
@@ -251,27 +227,10 @@ void Editor::connectPainting()
 void Editor::connectMacros()
 {
     m_macros = std::make_unique<MacroFeatures>(
-        m_context,
-        MacroFeatures::Parts{ *m_view, *m_actions, *m_opening, *m_saving, *m_fresh, *m_insert });
+        m_context, MacroFeatures::Parts{ *m_view, *m_actions, *m_opening, *m_saving, *m_insert });
     layout()->addWidget(m_macros->list().frame());
     connect(&m_macros->menu(), &MacroListMenu::quickTipWanted, this,
             [this] { Q_EMIT helpOn(u"macro list"_s); });
-}
-
-void Editor::connectGuards()
-{
-    for (const auto replaced : { &FileNew::joystickReplaced, &FileNew::macroReplaced }) {
-        connect(m_fresh.get(), replaced, &m_guards->autoSave, &AutoSave::restart);
-        connect(m_fresh.get(), replaced, &m_guards->recovery, &Recovery::update);
-    }
-    connect(m_opening.get(), &FileOpening::loaded, &m_guards->recovery, &Recovery::update);
-    connect(m_saving.get(), &FileSaving::aboutToWrite, &m_guards->recovery, &Recovery::catchUp);
-    connect(m_saving.get(), &FileSaving::safe, &m_guards->recovery, &Recovery::update);
-    connect(m_opening.get(), &FileOpening::loaded, m_saving.get(), &FileSaving::forgetFresh);
-    connect(m_fresh.get(), &FileNew::joystickReplaced, m_saving.get(),
-            [this] { m_saving->forgetFresh(DocumentKind::Joystick); });
-    connect(m_fresh.get(), &FileNew::macroReplaced, m_saving.get(),
-            [this] { m_saving->forgetFresh(DocumentKind::Macro); });
 }
 
 void Editor::updateConditions()
