@@ -40,19 +40,16 @@ struct GoldenCase {
     QByteArray bytes(const QString &suffix) const;
 };
 
+/// The name alone, which ctest adds to the test's.
 void PrintTo(const GoldenCase &golden, std::ostream *out);
 
 /// The inputs that have an expectation, in the order of their names. An empty folder has none, by
 /// which GoogleTest fails the suite.
 std::vector<GoldenCase> goldenCases(const GoldenKind &kind);
 
-/// What is wrong with the folder, a line a file: an input without an expectation, an expectation or
-/// a companion without an input, two inputs of one name, a suffix that means nothing, a name that
-/// cannot name a test.
-QStringList misplacedGoldenFiles(const GoldenKind &kind);
-
-/// Names the test for its input.
-std::string goldenName(const testing::TestParamInfo<GoldenCase> &info);
+/// Fails for each name in the folder that has an input without an expectation, an expectation or a
+/// companion without an input, two inputs, or a suffix that means nothing.
+void expectGoldenPartners(const GoldenKind &kind);
 
 /// Fails, with a unified diff of texts that have lines, when they are not the same. The suffix
 /// tells whose expectation it is.
