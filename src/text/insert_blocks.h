@@ -32,9 +32,6 @@ struct TitleFields {
 /// under the end of the rules, or farther right when a line needs more room.
 QStringList titleBlock(const TitleFields &fields);
 
-/// The name of whoever writes files: the given one, or what stands for nobody.
-QString personsNameOr(const QString &name);
-
 /// What the Insert menu and the slash palette write for one of insertWords; a delay lasts so many
 /// milliseconds.
 QString insertText(const language::Word &word, int delay);
