@@ -94,7 +94,6 @@ void FileSaving::mnuFileSaveBoth_Click()
 
 QString FileSaving::proposedName(const Document &document)
 {
-    const bool macro = document.kind() == DocumentKind::Macro;
     const Document &other = m_view.documents().other(document);
     if (isUntitled(document.name()) && !isUntitled(other.name())) {
         return baseWithDot(other.name()) + extensionOf(document.kind());
