@@ -82,7 +82,6 @@ std::optional<QString> FileOpening::ask(const QString &title, const QString &fil
                                         const QString &extension, DocumentKind kind)
 {
     const Document &document = m_parts.view.documents().of(kind);
-    const bool macro = kind == DocumentKind::Macro;
     const Document &other = m_parts.view.documents().other(document);
     const QString name = document.name() == freshName(kind)
         ? baseWithDot(other.name()) + extensionOf(kind)
