@@ -2,8 +2,10 @@
 // SPDX-License-Identifier: MIT
 
 #include "documents/change.h"
+#include "documents/document_look.h"
 #include "documents/statement.h"
 #include "platform/richtext/rich_text_box.h"
+#include "settings/colour_settings.h"
 #include "tests/text/painting_fixture.h"
 
 #include <QSignalSpy>
@@ -147,7 +149,9 @@ TEST_F(InsertTest, AStatementIsOneStepInItsColoursWithTheCaretAtItsEnd)
 {
     set(J, u"ab"_s);
     documents().joystick().select(2, 0);
-    const Statement statement{ { { u"BTN S1 "_s }, { u"x"_s, settings.RAWColour } }, true };
+    const Statement statement{
+        { { u"BTN S1 "_s }, { u"x"_s, settings.of<ColourSettings>().RAWColour } }, true
+    };
     EXPECT_TRUE(documents().insert(statement));
     EXPECT_EQ(editor->joystickText(), u"ab\nBTN S1 x");
     EXPECT_EQ(colours(J), u"...bbbbbb.r");
@@ -160,7 +164,7 @@ TEST_F(InsertTest, AStatementThatStartsALineStartsNoneWhereOneStarts)
 {
     set(J, u"ab\n"_s);
     documents().joystick().select(3, 0);
-    documents().insert({ { { u"USE a\r\n"_s, settings.RAWColour } }, true });
+    documents().insert({ { { u"USE a\r\n"_s, settings.of<ColourSettings>().RAWColour } }, true });
     EXPECT_EQ(editor->joystickText(), u"ab\nUSE a\n");
 }
 
@@ -181,11 +185,11 @@ TEST_F(InsertTest, ABoxIsPaintedAsTypingIsPainted)
     box.setRichText(RichText::plain(u"BTN S1 /U x"_s));
     box.select(4, 2);
     const CharFormat plain = documents().plainFormat(J);
-    colourBox(box, colourScheme(settings, J), plain);
+    colourBox(box, colourScheme(settings.of<ColourSettings>(), J), plain);
     const RichText shown = box.richText();
     EXPECT_EQ(shown.text, u"BTN S1 /U x");
-    EXPECT_EQ(shown.formatAt(0).colour, settings.BTNColour);
-    EXPECT_EQ(shown.formatAt(7).colour, settings.SlashColour);
+    EXPECT_EQ(shown.formatAt(0).colour, settings.of<ColourSettings>().BTNColour);
+    EXPECT_EQ(shown.formatAt(7).colour, settings.of<ColourSettings>().SlashColour);
     EXPECT_EQ(shown.formatAt(10).colour, plain.colour);
     EXPECT_EQ(box.selStart(), 4);
     EXPECT_EQ(box.selLength(), 2);
