@@ -5,7 +5,6 @@
 
 #include "text/date_stamp.h"
 #include "text/document_text.h"
-#include "text/pair_rule.h"
 #include "text/text_lines.h"
 #include "text/use_statements.h"
 

@@ -27,7 +27,7 @@ const Word &rowOf(QStringView word, size_t hash)
 
 const Word &rowOf(QStringView word)
 {
-    // Arguments come here whole, with all the brackets in them, however many.
+    // Callers also ask for whole arguments, which can be as long as the file: do not hash those.
     constexpr qsizetype longest =
         std::ranges::max(words, {}, [](const Word &row) { return row.text.size(); }).text.size();
     return word.size() <= longest ? rowOf(word, foldedHash(word)) : unknown;

@@ -3,6 +3,7 @@
 
 #include "livetools/key_names.h"
 
+#include "language/words.h"
 #include "livetools/virtual_keys.h"
 #include "platform/core/text1252.h"
 #include "platform/core/units.h"
@@ -14,6 +15,8 @@
 namespace zeph {
 
 namespace {
+
+using language::operator""_w;
 
 /// Where no name was looked for and found yet; no key has this code.
 constexpr int noKeyCode = 65535;
@@ -46,7 +49,7 @@ QString lowerCharacter(int keycode)
 
 QString eventName(const KeyTable &table, int keycode)
 {
-    constexpr std::array<QStringView, 3> modifiers = { u"SHF", u"CTL", u"ALT" };
+    constexpr std::array<QStringView, 3> modifiers = { u"SHF"_w, u"CTL"_w, u"ALT"_w };
     if (isModifier(keycode)) {
         return modifiers[size_t(keycode - shiftKeyCode)].toString();
     }

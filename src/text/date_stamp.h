@@ -3,7 +3,7 @@
 
 #pragma once
 
-// The "last modified:" line that a save brings up to date.
+// The date in a file's "last modified:" line, which each save updates.
 
 #include "platform/core/base.h"
 
@@ -11,23 +11,22 @@
 
 namespace zeph {
 
-/// A stretch of a text to replace (0-based) and what to put there.
+/// A stretch of a text (0-based) and its replacement.
 struct Stamp {
     qsizetype start = 0;
     qsizetype length = 0;
     QString text;
 };
 
-/// As a title block shows it: "dd mmmm yyyy, h:mm am", in English, whatever the system speaks.
+/// A date and time for a title block: "dd mmmm yyyy, h:mm am", always in English.
 QString stampText(const QDateTime &when);
 
-/// Where the first "last modified:" of the text, in any case, gets its date: from the second
-/// character behind the words (the blank between stays) to the line's end. No value when the text
-/// has none.
+/// The change that dates the first "last modified:" of the text, in any case. It replaces the rest
+/// of the line after the words and one blank. No value when the text has no such words.
 std::optional<Stamp> modifiedStamp(QStringView text, const QDateTime &when);
 
-/// Where a position of the text stands once the stamp is in: with the character that it stood
-/// before, or as far into the stamp as it was.
+/// Where a position of the text is after the stamp: before the same character as it was, or as far
+/// into the stamp as it was into the old date.
 qsizetype movedByStamp(const Stamp &stamp, qsizetype position);
 
 } // namespace zeph

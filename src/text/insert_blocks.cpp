@@ -17,7 +17,7 @@ const QString titleRule = emptyRem + QString(46, u'#');
 const QString titleIndent = emptyRem + u"   "_s;
 const QString closingRem = u"Rem"_w.toString();
 
-/// Lines of the same width in every font of fixed pitch.
+/// Tabs have another width in each program, so they become blanks.
 QString withoutTabs(QString line)
 {
     line.replace(u'\t', u' ');
@@ -33,7 +33,7 @@ QStringList commentLines(QString comments)
     return comments.trimmed().isEmpty() ? QStringList() : comments.split(u'\n');
 }
 
-/// The field lines by section, still open on the right.
+/// The lines with contents by section, without their closing Rem.
 QList<QStringList> titleSections(const TitleFields &fields)
 {
     QStringList file{ titleIndent + fields.fileName };

@@ -3,6 +3,7 @@
 
 #include "toolchain/gamefields.h"
 
+#include "language/file_kinds.h"
 #include "platform/core/storable.h"
 #include "platform/dialogs.h"
 #include "platform/field_text.h"
@@ -118,8 +119,8 @@ void GameFields::browseFolder()
 void GameFields::browseJoystickFile()
 {
     if (const auto path = m_dialogs.openFile({ u"Select the joystick file for your game"_s,
-                                               u"Joystick file (*.tmj)|*.tmj|All files (*.*)|*.*"_s,
-                                               u"tmj"_s,
+                                               fileFilter(DocumentKind::Joystick),
+                                               extensionOf(DocumentKind::Joystick),
                                                m_paths.filesFolder(),
                                                {} })) {
         m_ui->GameJF->setText(*path);

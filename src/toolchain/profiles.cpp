@@ -3,6 +3,7 @@
 
 #include "toolchain/profiles.h"
 
+#include "language/file_kinds.h"
 #include "platform/core/file_io.h"
 #include "platform/dialogs.h"
 #include "platform/status_line.h"
@@ -18,16 +19,15 @@ namespace zeph {
 
 namespace {
 
-constexpr QStringView ending = u".tmc";
-
 /// The files of a folder that are profiles, by name and ending.
 QStringList profileFiles(const QString &folder)
 {
     const QString found = existingPath(folder);
     // Without a folder QDir would list the current one.
-    return found.isEmpty() ? QStringList()
-                           : QDir(found).entryList({ u"*.tmc"_s }, QDir::Files | QDir::Readable,
-                                                   QDir::Name | QDir::IgnoreCase);
+    return found.isEmpty()
+        ? QStringList()
+        : QDir(found).entryList({ u'*' + profileExtension.toString() },
+                                QDir::Files | QDir::Readable, QDir::Name | QDir::IgnoreCase);
 }
 
 bool isManual(CalibrationRequest request, const GlobalSettings &settings)
@@ -54,7 +54,7 @@ QStringList profileNames(const QString &folder)
 {
     QStringList names = profileFiles(folder);
     for (QString &name : names) {
-        name.chop(ending.size());
+        name.chop(profileExtension.size());
     }
     return names;
 }
@@ -92,7 +92,7 @@ bool Profiles::ApplyDefaultProfile(const QString &name, CalibrationRequest calib
 /// Whether the tools have the profile; a missing one is told.
 bool Profiles::isThere(const QString &name)
 {
-    if (fileExists(profilesFolder(m_context.paths) + name + ending.toString())) {
+    if (fileExists(profilesFolder(m_context.paths) + name + profileExtension.toString())) {
         return true;
     }
     const bool isStored = name.compare(m_context.settings.ResetProfile, Qt::CaseInsensitive) == 0;

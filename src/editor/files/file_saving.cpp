@@ -18,20 +18,6 @@
 
 namespace zeph {
 
-namespace {
-
-struct SaveAsLook {
-    QStringView extension;
-    QStringView filter;
-};
-
-constexpr SaveAsLook saveAsLooks[] = {
-    { u"tmj", u"Joystick file (*.tmj)|*.tmj|All files (*.*)|*.*" },
-    { u"tmm", u"Macro file (*.tmm)|*.tmm|All files (*.*)|*.*" },
-};
-
-} // namespace
-
 FileSaving::FileSaving(const Context &context, EditorView &view, ColouredCopies &copies,
                        UseDirectives &directives)
     : m_context(context), m_view(view), m_copies(copies), m_directives(directives),
@@ -61,9 +47,8 @@ void FileSaving::mnuFileSave_Click()
 void FileSaving::mnuFileSaveAs_Click()
 {
     Document &document = m_view.documents().selected();
-    const SaveAsLook &look = saveAsLooks[size_t(document.kind())];
     const auto chosen = m_context.dialogs.saveFile(
-        { u"Save file as ..."_s, look.filter.toString(), look.extension.toString(),
+        { u"Save file as ..."_s, fileFilter(document.kind()), extensionOf(document.kind()),
           m_context.paths.filesFolder(), proposedName(document) });
     if (!chosen) {
         return;
@@ -97,7 +82,6 @@ void FileSaving::mnuFileSaveBoth_Click()
 
 QString FileSaving::proposedName(const Document &document)
 {
-    const bool macro = document.kind() == DocumentKind::Macro;
     const Document &other = m_view.documents().other(document);
     if (isUntitled(document.name()) && !isUntitled(other.name())) {
         return baseWithDot(other.name()) + extensionOf(document.kind());

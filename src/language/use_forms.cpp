@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Zeph authors
 // SPDX-License-Identifier: MIT
 
-#include "language/forms.h"
+#include "language/use_forms.h"
 
 #include "language/scan.h"
 

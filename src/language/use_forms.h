@@ -9,15 +9,15 @@
 
 namespace zeph::language {
 
-/// What follows a USE form's head words.
+/// What may follow the head words of a USE form.
 enum class UseShape : quint8 {
     /// Nothing.
     None,
-    /// The rest of the line as it stands: file names may hold blanks and brackets.
+    /// The rest of the line, unread: file names may hold blanks and brackets.
     Tail,
     /// One word.
     Word,
-    /// Arguments in brackets, which the form's last head word takes as it does in a body.
+    /// Arguments in brackets, as the last head word takes them in a body.
     Brackets,
     /// A list of "(number, axis)".
     AxisList,
@@ -26,16 +26,16 @@ enum class UseShape : quint8 {
 };
 
 struct UseForm {
-    /// The words behind USE, one blank between two.
+    /// The words after USE, separated by one blank.
     QStringView head;
     UseShape shape;
 };
 
-/// The forms that the tools read or write by name. What matches none of them is either
-/// "NAME AS ROLE" with any control or axis, or unknown.
+/// The forms that the tools read or write by name. Any other USE statement is either "NAME AS ROLE"
+/// with a control or axis, or unknown.
 std::span<const UseForm> useForms();
 
-/// Index into useForms() of the form whose head words begin the line behind USE, or -1.
+/// Index in useForms() of the form whose head words come first in the text after USE, or -1.
 int useFormOf(QStringView behindUse);
 
 } // namespace zeph::language
