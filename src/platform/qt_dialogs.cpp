@@ -93,7 +93,7 @@ QStringList nameFilters(const QString &filter)
     const QStringList parts = filter.split(u'|', Qt::SkipEmptyParts);
     QStringList filters;
     for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
-        // The toolkit reads the last bracket as the patterns, so what the caption shows goes first.
+        // The toolkit takes the last bracket for the patterns, so the brackets of the caption go.
         QString caption = parts[i];
         const QString shown = u"(%1)"_s.arg(parts[i + 1]);
         if (caption.endsWith(shown, Qt::CaseInsensitive)) {

@@ -130,16 +130,9 @@ void TemplateFormatting::fillToolbar()
 void TemplateFormatting::connectEntries()
 {
     MenuActions &on = m_parts.actions;
-    for (int i = 0; i < 3; ++i) {
-        on.connectTo(u"mnuFormatArray1_"_s + QString::number(i),
-                     [this, i] { mnuFormatArray1_Click(i); });
-        on.connectTo(u"mnuFormatAlign_"_s + QString::number(i),
-                     [this, i] { mnuFormatAlign_Click(i); });
-    }
-    for (int i = 0; i < int(TextStyles().size()); ++i) {
-        on.connectTo(u"mnuStyleArray_"_s + QString::number(i),
-                     [this, i] { mnuStyleArray_Click(i); });
-    }
+    on.connectArray(u"mnuFormatArray1"_s, [this](int i) { mnuFormatArray1_Click(i); });
+    on.connectArray(u"mnuFormatAlign"_s, [this](int i) { mnuFormatAlign_Click(i); });
+    on.connectArray(u"mnuStyleArray"_s, [this](int i) { mnuStyleArray_Click(i); });
     on.connectTo(u"mnuFormatBullets", [this] { mnuFormatBullets_Click(); });
     on.connectTo(u"mnuFormatFont", [this] { mnuFormatFont_Click(); });
     on.connectTo(u"mnuFormatColour", [this] { mnuFormatColour_Click(); });

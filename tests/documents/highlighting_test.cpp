@@ -101,8 +101,7 @@ TEST_F(HighlightingTest, APassSelectsTheTabOfItsDocument)
 
 TEST_F(HighlightingTest, APassNeverChangesTheSavedState)
 {
-    for (const auto state :
-         { Document::Empty, Document::Saved, Document::Modified }) {
+    for (const auto state : { Document::Empty, Document::Saved, Document::Modified }) {
         set(J, u"BTN S1"_s);
         editor->joystick().setState(state);
         highlighting().ApplyColourHighlighting();
@@ -382,6 +381,7 @@ TEST_F(HighlightingTest, RefreshingTheLayoutStripsLooksAndSetsTheMargin)
         format.pointSize = 30;
     });
     {
+        const Document::Quiet quiet(editor->joystick());
         setParagraphFormat(*joystick()->document(), { .leftIndentTwips = 300, .bullet = true });
     }
     joystick()->shown().select(5, 0);

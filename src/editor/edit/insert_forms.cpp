@@ -26,10 +26,7 @@ InsertForms::InsertForms(const Context &context, const Parts &parts)
     on.connectTo(u"mnuInsertTitle", [this] { mnuInsertTitle_Click(); });
     on.connectTo(u"mnuInsertHeading", [this] { mnuInsertHeading_Click(); });
     on.connectTo(u"mnuInsertRemStatement", [this] { mnuInsertRemStatement_Click(); });
-    for (int i = 0; i < int(language::insertWords.size()); ++i) {
-        on.connectTo(u"mnuSlashArray_"_s + QString::number(i),
-                     [this, i] { mnuSlashArray_Click(i); });
-    }
+    on.connectArray(u"mnuSlashArray"_s, [this](int i) { mnuSlashArray_Click(i); });
     on.connectTo(u"mnuSlashWindow", [this] { mnuSlashWindow_Click(); });
     on.connectTo(u"mnuInsertQuickTip", [this] { Q_EMIT helpOn(u"insert forms"_s); });
 }

@@ -3,7 +3,7 @@
 
 #include "platform/input/system_joystick.h"
 
-// The program's entry is its own.
+// The program has its own main(), which SDL must not replace.
 #define SDL_MAIN_HANDLED
 #include <SDL.h>
 
@@ -70,11 +70,11 @@ struct Controller {
 
 void setUp()
 {
-    // Zeph's windows are not SDL's: to it they are always in the background, and how the program
-    // ends is not its business.
+    // SDL does not know Zeph's windows and takes the program to be always in the background. It
+    // must not catch the signals that end the program either.
     SDL_SetHint(SDL_HINT_JOYSTICK_ALLOW_BACKGROUND_EVENTS, "1");
     SDL_SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
-    // The raw drivers would take hold of game pads that nobody asked for.
+    // The raw drivers would open game pads for themselves, which other programs may need.
     SDL_SetHint(SDL_HINT_JOYSTICK_HIDAPI, "0");
     SDL_SetMainReady();
 }
@@ -89,7 +89,7 @@ public:
     {
         setUp();
         m_running = SDL_InitSubSystem(SDL_INIT_JOYSTICK) == 0;
-        // The states are asked for; nobody would ever empty a queue of events.
+        // States are polled; a queue of events would never be emptied.
         SDL_JoystickEventState(SDL_IGNORE);
     }
     ~Devices()

@@ -39,6 +39,7 @@ protected:
     /// As text from elsewhere may stand.
     void moveLinesIn()
     {
+        const Document::Quiet quiet(editor->joystick());
         setParagraphFormat(*joystick().document(), { .leftIndentTwips = 300 });
     }
     TextControl &joystick() { return editor->view().control(DocumentKind::Joystick); }
@@ -145,7 +146,8 @@ TEST_F(AlignmentOperationsTest, RefreshingTheLayoutTakesColoursAway)
     editor->action(u"mnuViewReformat")->trigger();
     const RichText after = joystick().shown().richText();
     ASSERT_EQ(after.characters.size(), 1U);
-    EXPECT_EQ(after.characters.front().format, editor->documents().plainFormat(DocumentKind::Joystick));
+    EXPECT_EQ(after.characters.front().format,
+              editor->documents().plainFormat(DocumentKind::Joystick));
     EXPECT_EQ(after.paragraphs.front().format.leftIndentTwips, 20);
     EXPECT_EQ(status.text(), u"Layout refreshed ... (I wish I was!)");
 }
