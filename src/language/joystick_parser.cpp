@@ -143,7 +143,7 @@ private:
         const QStringView code = m_text.first(line.codeEnd);
         const qsizetype from = skipBlanks(code, keywordEnd);
         qsizetype to = from;
-        while (to < code.size() && isWordCharacter(code[to]) && slashAt(code, to) < 0)
+        while (to < code.size() && isBodyCharacter(code[to]) && slashAt(code, to) < 0)
             ++to;
         m_statement.subject = { from, to - from, line.number };
         m_nameIsDue = from == code.size();

@@ -21,7 +21,7 @@ qsizetype nameEnd(QStringView text, qsizetype at)
 
 qsizetype wordEnd(QStringView text, qsizetype at)
 {
-    while (at < text.size() && isWordCharacter(text[at]))
+    while (at < text.size() && isBodyCharacter(text[at]))
         ++at;
     return at;
 }

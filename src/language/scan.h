@@ -5,7 +5,7 @@
 
 // The smallest steps over a text and its lines. Positions are 0-based and count characters.
 
-#include "platform/core/base.h"
+#include "platform/core/text_search.h"
 
 namespace zeph::language {
 
@@ -16,15 +16,15 @@ inline bool isBlank(QChar c)
     return c.unicode() <= u' ' || c.unicode() == 0xA0;
 }
 
-/// Whether the whole-word rule counts the character as part of a word: letters of the whole code
-/// page, digits and "_".
+/// The whole-word rule's answer, without a call for the characters that nearly all words consist
+/// of.
 inline bool isNameCharacter(QChar c)
 {
     const char16_t u = c.unicode();
     if (u < 128)
         return (u >= u'a' && u <= u'z') || (u >= u'A' && u <= u'Z') || (u >= u'0' && u <= u'9')
             || u == u'_';
-    return c.isLetterOrNumber();
+    return zeph::isWordCharacter(c);
 }
 
 /// Brackets and the comma end a word of a body, as blanks do.
@@ -34,7 +34,8 @@ inline bool isBracketOrComma(QChar c)
     return u == u'(' || u == u')' || u == u'<' || u == u'>' || u == u'{' || u == u'}' || u == u',';
 }
 
-inline bool isWordCharacter(QChar c)
+/// Whether the character can be in a word of a body, which is often no name: "KP+".
+inline bool isBodyCharacter(QChar c)
 {
     return !isBlank(c) && !isBracketOrComma(c);
 }
@@ -43,7 +44,7 @@ inline bool isWordCharacter(QChar c)
 qsizetype skipBlanks(QStringView text, qsizetype at);
 /// The end of the run of name characters that begins at `at`.
 qsizetype nameEnd(QStringView text, qsizetype at);
-/// The end of the run of word characters that begins at `at`.
+/// The end of the run of body characters that begins at `at`.
 qsizetype wordEnd(QStringView text, qsizetype at);
 /// The text's length without the blanks at its end.
 qsizetype trimmedEnd(QStringView text);

@@ -43,7 +43,7 @@ int slashAt(QStringView line, qsizetype at)
     if (line[at] != u'/' || at + 1 >= line.size())
         return -1;
     // "/Up" and "/I2" are words of their own, "/I/U" are two modifiers.
-    if (at + 2 < line.size() && line[at + 2] != u'/' && isWordCharacter(line[at + 2]))
+    if (at + 2 < line.size() && line[at + 2] != u'/' && isBodyCharacter(line[at + 2]))
         return -1;
     const QChar letter = line[at + 1].toUpper();
     for (const Word &modifier : slashModifiers) {

@@ -3,10 +3,12 @@
 
 #pragma once
 
-// The comment blocks and words that the Insert menu writes, as plain text.
+// The comment blocks and words that the Insert menu writes, as plain text, and the date that each
+// save puts into a title.
 
 #include "language/words.h"
 
+#include <QDateTime>
 #include <QStringList>
 
 namespace zeph {
@@ -38,5 +40,23 @@ QString personsNameOr(const QString &name);
 /// The text that the Insert menu and the slash palette insert for one of insertWords. The delay is
 /// the number of milliseconds that DLY is written with.
 QString insertText(const language::Word &word, int delay);
+
+/// A stretch of a text (0-based) and its replacement.
+struct Stamp {
+    qsizetype start = 0;
+    qsizetype length = 0;
+    QString text;
+};
+
+/// A date and time for a title block: "dd mmmm yyyy, h:mm am", always in English.
+QString stampText(const QDateTime &when);
+
+/// The change that dates the first "last modified:" of the text, in any case. It replaces the rest
+/// of the line after the words and one blank. No value when the text has no such words.
+std::optional<Stamp> modifiedStamp(QStringView text, const QDateTime &when);
+
+/// Where a position of the text is after the stamp: before the same character as it was, or as far
+/// into the stamp as it was into the old date.
+qsizetype movedByStamp(const Stamp &stamp, qsizetype position);
 
 } // namespace zeph

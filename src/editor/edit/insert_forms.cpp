@@ -14,7 +14,6 @@
 #include "platform/handlers.h"
 #include "platform/status_line.h"
 #include "settings/settings_files.h"
-#include "text/date_stamp.h"
 #include "text/insert_blocks.h"
 
 namespace zeph {

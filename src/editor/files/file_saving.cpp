@@ -13,8 +13,8 @@
 #include "platform/overwrite_question.h"
 #include "platform/status_line.h"
 #include "settings/global_settings.h"
-#include "text/date_stamp.h"
 #include "text/document_text.h"
+#include "text/insert_blocks.h"
 
 namespace zeph {
 

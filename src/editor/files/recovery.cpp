@@ -11,8 +11,8 @@
 #include "platform/handlers.h"
 #include "platform/status_line.h"
 #include "settings/global_settings.h"
-#include "text/date_stamp.h"
 #include "text/document_text.h"
+#include "text/insert_blocks.h"
 
 #include <QFileInfo>
 
