@@ -7,6 +7,7 @@
 
 #include "language/file_kinds.h"
 #include "language/words.h"
+#include "platform/core/colour_scheme.h"
 #include "platform/core/rich_text.h"
 
 #include <QHash>
@@ -25,29 +26,6 @@ struct ColourRun {
 
     friend bool operator==(const ColourRun &, const ColourRun &) = default;
 };
-
-/// The colour for each class of words, and the plain one for the rest.
-struct ColourScheme {
-    ColorRef plain = 0;
-    ColorRef btn = 0;
-    ColorRef slash = 0;
-    ColorRef raw = 0;
-    ColorRef miscellaneous = 0;
-    ColorRef rem = 0;
-};
-
-/// The scheme of one of the documents. The settings are a template parameter because they belong to
-/// a room above this one.
-template <class Settings> ColourScheme colourScheme(const Settings &settings, DocumentKind kind)
-{
-    return { kind == DocumentKind::Joystick ? settings.JoystickTextDefaultColour
-                                            : settings.MacroTextDefaultColour,
-             settings.BTNColour,
-             settings.SlashColour,
-             settings.RAWColour,
-             settings.MiscellaneousColour,
-             settings.RemStatements };
-}
 
 /// The new colour for each old one when the scheme changes. A colour of several classes that get
 /// different colours is left out, because only painting can tell which class a word belongs to.
