@@ -9,6 +9,7 @@
 #include <QTextCursor>
 #include <QTextDocument>
 
+#include <algorithm>
 #include <unordered_set>
 
 namespace zeph {
@@ -86,6 +87,15 @@ qsizetype DocumentState::bytesHeld(std::span<const DocumentState> states)
         }
     }
     return bytes;
+}
+
+bool operator==(const DocumentState &one, const DocumentState &other)
+{
+    const auto areEqual = [](const auto &left, const auto &right) {
+        return left == right || *left == *right;
+    };
+    return one.m_chunks == other.m_chunks
+        || std::ranges::equal(*one.m_chunks, *other.m_chunks, areEqual);
 }
 
 DocumentStates::DocumentStates(QTextDocument &document, int linesPerChunk)

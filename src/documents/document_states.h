@@ -24,6 +24,8 @@ class DocumentState
 public:
     /// Bytes that states hold together; what they share counts once.
     static qsizetype bytesHeld(std::span<const DocumentState> states);
+    /// Whether two states of one document hold the same text in the same looks.
+    friend bool operator==(const DocumentState &one, const DocumentState &other);
 
 private:
     friend class DocumentStates;
@@ -73,8 +75,8 @@ public:
     void setLooks(const LookRuns &looks, qsizetype from = 0);
     void setCharacterRuns(const std::vector<CharRun> &runs, qsizetype from = 0);
 
-    /// How the next character that is typed at a position looks: like the one before it, or at a
-    /// line's start like the one after it.
+    /// How the next character that is typed at a position looks: as was chosen there, else like the
+    /// one before it, or at a line's start like the one after it.
     CharFormat lookForTyping(qsizetype position);
     /// Where the user types, and the look chosen there, if one is.
     void setTyping(qsizetype caret, std::optional<CharFormat> look);

@@ -110,7 +110,7 @@ void DocumentStates::setTyping(qsizetype caret, std::optional<CharFormat> look)
 CharFormat DocumentStates::lookForTyping(qsizetype position)
 {
     catchUp();
-    return lookAround(position);
+    return position == m_caret && m_chosenLook ? *m_chosenLook : lookAround(position);
 }
 
 quint32 DocumentStates::lookOfTyped(const TextEdit &edit)

@@ -151,15 +151,44 @@ void LooksLayout::giveLooks(const QTextBlock &block, Line &line)
 
 QList<QTextLayout::FormatRange> LooksLayout::formatsOf(const QTextBlock &block)
 {
-    const TextChunk::Runs runs = m_states->runs(block.position(), block.length() - 1);
     QList<QTextLayout::FormatRange> formats;
-    formats.reserve(qsizetype(runs.size()));
     int start = 0;
-    for (const TextChunk::Run &run : runs) {
+    for (const TextChunk::Run &run : m_states->runs(block.position(), block.length() - 1)) {
         formats.append({ start, int(run.length), formatOf(run.look) });
         start += int(run.length);
     }
-    return formats;
+    return block.layout()->preeditAreaText().isEmpty() ? formats : withComposed(block, formats);
+}
+
+/// Makes room in a line's formats for what an input method composes in it; it keeps the input
+/// method's marks, in the look that it will be typed in.
+QList<QTextLayout::FormatRange>
+LooksLayout::withComposed(const QTextBlock &block,
+                          const QList<QTextLayout::FormatRange> &formats) const
+{
+    const QTextLayout &layout = *block.layout();
+    const int at = layout.preeditAreaPosition();
+    const int length = int(layout.preeditAreaText().size());
+    QList<QTextLayout::FormatRange> result;
+    for (const QTextLayout::FormatRange &range : formats) {
+        const int before = std::clamp(at - range.start, 0, range.length);
+        if (before > 0) {
+            result.append({ range.start, before, range.format });
+        }
+        if (before < range.length) {
+            result.append(
+                { range.start + before + length, range.length - before, range.format });
+        }
+    }
+    const QTextCharFormat typed =
+        toTextFormat(m_states->lookForTyping(block.position() + at));
+    for (const QTextLayout::FormatRange &mark : layout.formats()) {
+        if (mark.start >= at && mark.start + mark.length <= at + length) {
+            result.append({ mark.start, mark.length, typed });
+            result.back().format.merge(mark.format);
+        }
+    }
+    return result;
 }
 
 const QTextCharFormat &LooksLayout::formatOf(quint32 look)

@@ -40,6 +40,8 @@ private:
     void layOut(const QTextBlock &block);
     void giveLooks(const QTextBlock &block, Line &line);
     QList<QTextLayout::FormatRange> formatsOf(const QTextBlock &block);
+    QList<QTextLayout::FormatRange>
+    withComposed(const QTextBlock &block, const QList<QTextLayout::FormatRange> &formats) const;
     const QTextCharFormat &formatOf(quint32 look);
     void layOutAgain(const QTextBlock &block);
     void forget(const QTextBlock &first, const QTextBlock &last);

@@ -4,7 +4,7 @@
 #include "shell/preferences_menu.h"
 
 #include "documents/highlighting.h"
-#include "documents/undo_history.h"
+#include "documents/undo_histories.h"
 #include "editor/editor.h"
 #include "editor/files/file_new.h"
 #include "editor/files/foreign_keyboard.h"

@@ -72,7 +72,7 @@ protected:
     }
     void type(DocumentKind kind, const QString &text)
     {
-        editor->view().document(kind).control->insertPlainText(text);
+        editor->view().control(kind).insertPlainText(text);
     }
 
     TempFolder folder;

@@ -104,15 +104,13 @@ protected:
     {
         const QImage one = pictureOf(pieces);
         const QImage other = pictureOf(looks);
-        if (one != other) {
-            one.save(u"pieces.png"_s);
-            other.save(u"looks.png"_s);
-        }
+        if (one != other) { one.save(u"pieces-%1.png"_s.arg(++shots)); other.save(u"looks-%1.png"_s.arg(shots)); }
         ASSERT_EQ(one, other);
         ASSERT_EQ(looks.horizontalScrollBar()->maximum(), pieces.horizontalScrollBar()->maximum());
         ASSERT_EQ(looks.verticalScrollBar()->maximum(), pieces.verticalScrollBar()->maximum());
     }
 
+    int shots = 0;
     PiecesView pieces;
     LooksView looks;
 };
