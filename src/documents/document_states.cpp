@@ -175,12 +175,12 @@ void DocumentStates::replace(qsizetype from, qsizetype length, const RichText &t
     apply({ editOf(from, length, text) });
 }
 
-void DocumentStates::replaceAll(const QList<qsizetype> &starts, qsizetype length,
+void DocumentStates::replaceAll(std::span<const qsizetype> starts, qsizetype length,
                                 const QString &text)
 {
     catchUp();
     std::vector<TextEdit> edits;
-    edits.reserve(size_t(starts.size()));
+    edits.reserve(starts.size());
     for (const qsizetype start : starts) {
         edits.push_back(
             editOf(start, length, RichText::plain(text, lookAround(start + length))));

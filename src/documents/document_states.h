@@ -68,7 +68,7 @@ public:
     void replace(qsizetype from, qsizetype length, const RichText &text);
     /// The same with stretches of one length, at ascending places that do not overlap; each text
     /// looks as if it were typed at the end of the stretch that it replaces.
-    void replaceAll(const QList<qsizetype> &starts, qsizetype length, const QString &text);
+    void replaceAll(std::span<const qsizetype> starts, qsizetype length, const QString &text);
     /// Makes the document what it was, text and looks; only what differs is touched.
     void restore(const DocumentState &state);
     /// Lays looks over the characters from a position on. The document itself does not change.
@@ -79,7 +79,10 @@ public:
     /// one before it, or at a line's start like the one after it.
     CharFormat lookForTyping(qsizetype position);
     /// Where the user types, and the look chosen there, if one is.
-    void setTyping(qsizetype caret, std::optional<CharFormat> look);
+    void setTyping(qsizetype place, std::optional<CharFormat> look);
+    qsizetype typingPlace() const { return m_typingPlace; }
+    /// The look of what is typed into an empty text.
+    void setPlain(const CharFormat &plain) { m_plain = plain; }
 
     /// False while the document is being changed: its lines cannot be told looks then.
     bool isUpToDate() const;
@@ -114,7 +117,8 @@ private:
     qsizetype m_size = 0; ///< characters of the known state
     bool m_isWriting = false; ///< changes come from here, and the known state has them
     int m_revision = -1; ///< the toolkit's number of the last change that was told
-    qsizetype m_caret = 0;
+    CharFormat m_plain;
+    qsizetype m_typingPlace = 0;
     std::optional<CharFormat> m_chosenLook;
     mutable size_t m_lastChunk = 0; ///< where runs() found its stretch, and its start
     mutable qsizetype m_lastStart = 0;

@@ -101,29 +101,29 @@ ParagraphReader DocumentStates::paragraphReader() const
     };
 }
 
-void DocumentStates::setTyping(qsizetype caret, std::optional<CharFormat> look)
+void DocumentStates::setTyping(qsizetype place, std::optional<CharFormat> look)
 {
-    m_caret = caret;
+    m_typingPlace = place;
     m_chosenLook = std::move(look);
 }
 
 CharFormat DocumentStates::lookForTyping(qsizetype position)
 {
     catchUp();
-    return position == m_caret && m_chosenLook ? *m_chosenLook : lookAround(position);
+    return position == m_typingPlace && m_chosenLook ? *m_chosenLook : lookAround(position);
 }
 
 quint32 DocumentStates::lookOfTyped(const TextEdit &edit)
 {
     const qsizetype end = edit.from + edit.length;
-    const bool isAtCaret = edit.from <= m_caret && m_caret <= end;
-    return m_looks.numberOf(m_chosenLook.value_or(lookAround(isAtCaret ? m_caret : end)));
+    const bool isAtCaret = edit.from <= m_typingPlace && m_typingPlace <= end;
+    return m_looks.numberOf(m_chosenLook.value_or(lookAround(isAtCaret ? m_typingPlace : end)));
 }
 
 CharFormat DocumentStates::lookAround(qsizetype position) const
 {
     if (m_size == 0) {
-        return {};
+        return m_plain;
     }
     position = std::clamp(position, qsizetype(0), m_size);
     const qsizetype before = std::max(position - 1, qsizetype(0));

@@ -313,7 +313,8 @@ private:
     TextChunk::Runs m_runs;
 };
 
-/// What two texts have in common at their start and end.
+/// What two texts have in common at their start and end. The end comes first: the toolkit says
+/// exactly where a change starts, but may count too much at its end.
 struct CommonEnds {
     qsizetype front = 0;
     qsizetype back = 0;
@@ -321,10 +322,11 @@ struct CommonEnds {
     CommonEnds(QStringView one, QStringView other)
     {
         const qsizetype most = std::min(one.size(), other.size());
-        front = std::mismatch(one.begin(), one.begin() + most, other.begin()).first - one.begin();
-        while (back < most - front
-               && one[one.size() - 1 - back] == other[other.size() - 1 - back]) {
+        while (back < most && one[one.size() - 1 - back] == other[other.size() - 1 - back]) {
             ++back;
+        }
+        while (front < most - back && one[front] == other[front]) {
+            ++front;
         }
     }
 };

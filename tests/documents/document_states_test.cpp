@@ -462,14 +462,14 @@ TEST(DocumentStates, ManyReplacementsAreOneEditBlock)
         Followed text(chance.make(u"ab\n"_s, 200), 1 + chance.upTo(7));
         const RichText before = text.expected;
         const QString word = chance.make(u"xy\n"_s, 5).text;
-        QList<qsizetype> starts;
+        std::vector<qsizetype> starts;
         const int length = chance.upTo(2);
         for (int at = chance.upTo(9); at + length <= text.size(); at += length + 1 + chance.upTo(9)) {
-            starts.append(at);
+            starts.push_back(at);
         }
         QSignalSpy changes(&text.document, &QTextDocument::contentsChange);
         text.states->replaceAll(starts, length, word);
-        const bool changesNothing = starts.isEmpty() || (length == 0 && word.isEmpty());
+        const bool changesNothing = starts.empty() || (length == 0 && word.isEmpty());
         EXPECT_EQ(changes.size(), changesNothing ? 0 : 1);
         QString wanted = before.text;
         for (auto start = starts.rbegin(); start != starts.rend(); ++start) {
@@ -480,7 +480,7 @@ TEST(DocumentStates, ManyReplacementsAreOneEditBlock)
         // What is not replaced looks as before.
         qsizetype old = 0;
         qsizetype now = 0;
-        starts.append(before.text.size());
+        starts.push_back(before.text.size());
         for (const qsizetype start : starts) {
             ASSERT_EQ(text.states->looks(now, start - old),
                       before.mid(old, start - old).characters)

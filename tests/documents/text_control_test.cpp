@@ -142,27 +142,76 @@ TEST_F(TextControlTest, OddCharactersAreCharactersOfOneLine)
     EXPECT_EQ(control.shown().richText().text, odd);
 }
 
-// Reading costs only what has changed; what it gives must be what the document holds.
-TEST_F(TextControlTest, ItsRichTextIsTheDocumentsWhateverSetIt)
+// What it gives must be what was set and laid, in the toolkit's text.
+TEST_F(TextControlTest, ItsRichTextIsWhatWasMadeOfIt)
 {
+    ColouredText &text = control.shown();
     for (int round = 0; round < 200; ++round) {
         test::RichTextMaker chance{ quint32(round) };
-        control.shown().setRichText(chance.make(u"ab \n\r\u2028"_s, 80));
-        ASSERT_EQ(control.shown().richText(), richTextOf(*control.document())) << "round " << round;
+        RichText expected = chance.make(u"ab \n"_s, 80);
+        const auto compare = [&] {
+            expected.normalise();
+            expected.paragraphs = richTextOf(*control.document()).paragraphs;
+            ASSERT_EQ(plainTextOf(*control.document()), expected.text) << "round " << round;
+            ASSERT_EQ(text.richText(), expected) << "round " << round;
+        };
+        text.setRichText(expected);
+        compare();
         // A colour of which only the lower bytes are one.
         CharFormat odd;
         odd.colour = 0xFF000012;
-        control.shown().setCharacterRuns({ { control.shown().length(), odd } });
-        ASSERT_EQ(control.shown().richText(), richTextOf(*control.document())) << "round " << round;
-        const int from = chance.upTo(control.shown().length());
-        control.shown().setCharacterRuns(
-            { { chance.upTo(control.shown().length() - from), chance.characterFormat() } }, from);
-        ASSERT_EQ(control.shown().richText(), richTextOf(*control.document())) << "round " << round;
-        control.shown().changeLooks(0, control.shown().length(),
-                                    [](CharFormat &look) { look.bold = !look.bold; });
-        control.shown().replace(from, 0, u"x\ny"_s);
-        ASSERT_EQ(control.shown().richText(), richTextOf(*control.document())) << "round " << round;
+        text.setCharacterRuns({ { text.length(), odd } });
+        odd.colour = 0x12;
+        expected.change(0, text.length(), [&odd](CharFormat &look) { look = odd; });
+        compare();
+        const int from = chance.upTo(text.length());
+        const int length = chance.upTo(text.length() - from);
+        const CharFormat laid = fromTextFormat(toTextFormat(chance.characterFormat()));
+        text.setCharacterRuns({ { length, laid } }, from);
+        expected.change(from, length, [&laid](CharFormat &look) { look = laid; });
+        compare();
+        const auto turn = [](CharFormat &look) {
+            look.bold = !look.bold;
+        };
+        text.changeLooks(0, text.length(), turn);
+        expected.change(0, text.length(), turn);
+        compare();
+        text.replace(from, 0, u"x\ny"_s);
+        EXPECT_EQ(text.text(), QString(expected.text).insert(from, u"x\ny"_s));
     }
+}
+
+TEST_F(TextControlTest, ATextThatNoLineHoldsIsReplaced)
+{
+    control.shown().setText(u"a\rb\u2028c\nd"_s);
+    EXPECT_EQ(control.shown().text(), u"a\uFFFDb\uFFFDc\nd");
+    EXPECT_EQ(control.shown().richText().text, control.shown().text());
+}
+
+TEST_F(TextControlTest, WhatIsDraggedElsewhereKeepsItsLooksAndThoseBetween)
+{
+    CharFormat plain{ u"Arial"_s, 8, false, false, false, 0 };
+    CharFormat red = plain;
+    red.colour = 0xFF;
+    ColouredText &text = control.shown();
+    text.setPlain(plain);
+    text.setText(u"one two three four"_s);
+    text.setCharacterRuns({ { 3, red } }, 4);
+    text.setCharacterRuns({ { 5, red } }, 8);
+    text.select(14, 4);
+    // The text is taken from its end and let go at the start, as one change.
+    QMimeData data;
+    data.setText(u"four"_s);
+    const QPoint at(2, 8);
+    QDragEnterEvent enter(at, Qt::MoveAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(control.viewport(), &enter);
+    QDropEvent event(at, Qt::MoveAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(control.viewport(), &event);
+    const std::vector<CharRun> looks = text.richText().characters;
+    ASSERT_GE(looks.size(), 4u);
+    EXPECT_TRUE(text.text().startsWith(u"fourone two three"));
+    EXPECT_EQ(looks[1], (CharRun{ 3, red }));
+    EXPECT_EQ(looks[3], (CharRun{ 5, red }));
 }
 
 TEST_F(TextControlTest, EveryTextHasTheMargin)
