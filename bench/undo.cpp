@@ -84,7 +84,7 @@ struct World {
 void Keystroke(benchmark::State &state)
 {
     World world(state.range(0));
-    world.control().select(int(world.size / 2), 0);
+    world.control().shown().select(int(world.size / 2), 0);
     for (auto _ : state) {
         QTest::keyClick(&world.control(), Qt::Key_A);
     }
@@ -94,7 +94,7 @@ void Keystroke(benchmark::State &state)
 void KeystrokeWithStep(benchmark::State &state)
 {
     World world(state.range(0));
-    world.control().select(int(world.size / 2), 0);
+    world.control().shown().select(int(world.size / 2), 0);
     for (auto _ : state) {
         QTest::keyClick(&world.control(), Qt::Key_Delete);
     }
@@ -144,11 +144,9 @@ void ColouredAll(benchmark::State &state)
     for (auto _ : state) {
         state.PauseTiming();
         {
-            QTextCursor all(world.control().document());
-            all.select(QTextCursor::Document);
-            QTextCharFormat format;
-            format.setForeground(QColor::fromRgb(++colour % 2 == 0 ? 0xFF0000 : 0x00FF00));
-            all.mergeCharFormat(format);
+            ColouredText &text = world.control().shown();
+            const ColorRef next = ++colour % 2 == 0 ? 0x0000FF : 0x00FF00;
+            text.changeLooks(0, text.length(), [next](CharFormat &look) { look.colour = next; });
         }
         state.ResumeTiming();
         world.history().storeTop();

@@ -3,10 +3,14 @@
 
 #include "documents/documents.h"
 
+#include "documents/change.h"
 #include "documents/document_look.h"
 #include "documents/editor_texts.h"
+#include "documents/statement.h"
 #include "platform/dialogs.h"
 #include "settings/global_settings.h"
+
+#include <QTextBlock>
 
 namespace zeph {
 
@@ -17,6 +21,20 @@ Documents::Documents(const Context &context, QObject *parent)
 {
     renameFresh(DocumentKind::Joystick);
     renameFresh(DocumentKind::Macro);
+    forEach([this](Document &each) {
+        connect(&each, &Document::written, this, [this, &each] { markOverwritten(each); });
+    });
+}
+
+void Documents::markOverwritten(const Document &written)
+{
+    // Nobody keeps the user from saving one document over the other's file. What the other one
+    // holds is then on no disk any more.
+    Document &other = this->other(written);
+    if (other.state() == Document::Saved && other.path() == written.path()
+        && other.text() != written.text()) {
+        other.setState(Document::Modified);
+    }
 }
 
 void Documents::select(DocumentKind kind)
@@ -43,6 +61,26 @@ bool Documents::refuseProtected()
     // A text that is on its way to the Cougar is locked for seconds only, and the status bar says
     // so: no box.
     return selected().isLocked();
+}
+
+bool Documents::insert(const Statement &statement)
+{
+    if (refuseProtected()) {
+        return false;
+    }
+    Document &into = selected();
+    RichText text =
+        richTextOf(statement, colourScheme(m_context.settings, into.kind()), into.plain());
+    const int line = into.content().findBlock(into.selStart()).position();
+    if (statement.startsLine && line != into.selStart()) {
+        RichText started = RichText::plain(u"\n"_s, into.plain());
+        started.append(text);
+        text = started;
+    }
+    Change change(into);
+    into.insert(text);
+    change.commit();
+    return true;
 }
 
 void Documents::renameFresh(DocumentKind kind)

@@ -6,6 +6,8 @@
 #include "documents/coloured_text.h"
 #include "documents/line_margin.h"
 #include "documents/pasted_text.h"
+#include "documents/text_accessible.h"
+#include "platform/colours.h"
 #include "platform/richtext/rich_text_document.h"
 #include "platform/richtext/rich_text_mime.h"
 
@@ -16,11 +18,6 @@
 namespace zeph {
 
 namespace {
-
-QColor toColor(ColorRef colour)
-{
-    return QColor(redOf(colour), greenOf(colour), blueOf(colour));
-}
 
 /// Whether a key press puts characters into a text, which commands do not.
 bool types(const QKeyEvent &event)
@@ -48,6 +45,7 @@ TextControl::TextControl(ColouredText &text, QWidget *parent)
     : QPlainTextEdit(parent), m_text(text),
       m_margin(new LineMargin(*this, [this] { return seenLines(); }))
 {
+    TextAccessible::install();
     setDocument(&text.content());
     setLineWrapMode(NoWrap);
     m_margin->hide();

@@ -26,11 +26,11 @@
 #include "editor/macros/framemacros.h"
 #include "editor/macros/macro_features.h"
 #include "editor/right_menu.h"
+#include "language/error_codes.h"
 #include "menus/menu_actions.h"
 #include "platform/dialogs.h"
 #include "platform/richtext/rich_text_mime.h"
 #include "settings/global_settings.h"
-#include "text/text_lines.h"
 
 #include <QAction>
 #include <QApplication>
@@ -46,7 +46,7 @@ namespace zeph {
 Editor::Editor(const Context &context, QWidget *parent)
     : QWidget(parent), m_context(context),
       m_actions(std::make_unique<MenuActions>(context.dialogs, context.paths.inApp(u"icons/"),
-                                              menuBarTable(), actionTable())),
+                                              menuBarTable(), actionTable(), this)),
       m_documents(std::make_unique<Documents>(context)),
       m_view(std::make_unique<EditorView>(context, *m_documents, this)),
       m_copies(std::make_unique<ColouredCopies>(context.paths)),
@@ -61,12 +61,11 @@ Editor::Editor(const Context &context, QWidget *parent)
       m_typingColour(std::make_unique<TypingColour>(*m_view, *m_highlighting, context.settings)),
       m_editing(std::make_unique<EditingTools>(
           context, EditingTools::Parts{ *m_view, *m_actions, *m_highlighting, *m_insert })),
-      m_useDirectives(std::make_unique<UseDirectives>(context, *m_view)),
-      m_saving(std::make_unique<FileSaving>(context, *m_view, *m_copies, *m_useDirectives)),
+      m_useDirectives(std::make_unique<UseDirectives>(context, *m_documents)),
+      m_saving(std::make_unique<FileSaving>(context, *m_view, *m_copies)),
       m_opening(std::make_unique<FileOpening>(
-          context,
-          FileOpening::Parts{ *m_view, *m_copies, *m_highlighting, *m_useDirectives, *m_saving })),
-      m_fresh(std::make_unique<FileNew>(context, *m_view, *m_opening, *m_useDirectives)),
+          context, FileOpening::Parts{ *m_view, *m_copies, *m_highlighting, *m_saving })),
+      m_fresh(std::make_unique<FileNew>(context, *m_view, *m_opening)),
       m_rightMenu(std::make_unique<RightMenu>(*m_view, *m_actions)),
       m_guards(new LossGuards{ .autoSave = { context, *m_view, *m_saving },
                                .recovery = { context, { *m_view, *m_opening } } }),
@@ -83,11 +82,9 @@ Editor::Editor(const Context &context, QWidget *parent)
     connectFiles();
     connectEditing();
     connectOptions();
-    connectUndo();
     connectLooks();
     connectPainting();
     connectMacros();
-    connectGuards();
     connect(m_keys.get(), &EditorKeys::helpOn, this, &Editor::helpOn);
     connect(m_keys.get(), &EditorKeys::emergencyOff, this, &Editor::emergencyOff);
     m_documents->forEach([this](Document &each) {
@@ -95,8 +92,7 @@ Editor::Editor(const Context &context, QWidget *parent)
     });
     connect(m_documents.get(), &Documents::selectedChanged, this, &Editor::updateConditions);
     connect(m_documents.get(), &Documents::selectedChanged, this, &Editor::updateDownloadCaption);
-    connect(m_opening.get(), &FileOpening::loaded, this, &Editor::updateDownloadCaption);
-    connect(m_fresh.get(), &FileNew::joystickReplaced, this, &Editor::updateDownloadCaption);
+    connect(&m_documents->joystick(), &Document::replaced, this, &Editor::updateDownloadCaption);
     connect(QApplication::clipboard(), &QClipboard::dataChanged, this, &Editor::updateConditions);
     updateConditions();
 }
@@ -147,6 +143,9 @@ void Editor::connectFiles()
     on.connectTo(u"mnuFileSave", [this] { m_saving->mnuFileSave_Click(); });
     on.connectTo(u"mnuFileSaveAs", [this] { m_saving->mnuFileSaveAs_Click(); });
     on.connectTo(u"mnuFileSaveBoth", [this] { m_saving->mnuFileSaveBoth_Click(); });
+    connect(m_useDirectives.get(), &UseDirectives::filesChanged, this, [this] {
+        m_actions->setCondition(EditorWhen::ReadMe, !m_useDirectives->textFilePath().isEmpty());
+    });
     connect(on.menu(u"mnuFile"), &QMenu::aboutToShow, this, [this] {
         m_fresh->rewriteUntitled();
         QString caption = selected().caption();
@@ -176,26 +175,6 @@ void Editor::connectOptions()
     on.connectTo(u"mnuJoyPopUpSingleFile", [this] {
         m_opening->OpenSingleFileOnly = action(u"mnuJoyPopUpSingleFile")->isChecked();
         m_context.settings.OpenSingleFileOnly = m_opening->OpenSingleFileOnly;
-    });
-}
-
-void Editor::connectUndo()
-{
-    UndoHistories *undos = m_undos.get();
-    connect(m_opening.get(), &FileOpening::loaded, undos, &UndoHistories::startOver);
-    connect(m_fresh.get(), &FileNew::joystickReplaced, undos,
-            [undos] { undos->startOver(DocumentKind::Joystick); });
-    connect(m_fresh.get(), &FileNew::macroReplaced, undos,
-            [undos] { undos->startOver(DocumentKind::Macro); });
-    connect(m_saving.get(), &FileSaving::written, undos, [this, undos](DocumentKind kind) {
-        if (m_context.settings.UndoClearOnSave != 1) {
-            return;
-        }
-        if (kind == DocumentKind::Joystick) {
-            undos->DeleteUndosOnSaveJ();
-        } else {
-            undos->DeleteUndosOnSaveM();
-        }
     });
 }
 
@@ -232,14 +211,8 @@ void Editor::connectPainting()
     for (const Entry &entry : entries) {
         on.connectTo(entry.name, [this, entry] { (*m_highlighting.*entry.operation)(); });
     }
-    for (int i = 0; i < 3; ++i) {
-        on.connectTo(u"mnuFormatArray1_"_s + QString::number(i),
-                     [this, i] { m_looks->mnuFormatArray1_Click(i); });
-    }
-    for (int i = 0; i < int(TextStyles().size()); ++i) {
-        on.connectTo(u"mnuStyleArray_"_s + QString::number(i),
-                     [this, i] { m_looks->mnuStyleArray_Click(i); });
-    }
+    on.connectArray(u"mnuFormatArray1"_s, [this](int i) { m_looks->mnuFormatArray1_Click(i); });
+    on.connectArray(u"mnuStyleArray"_s, [this](int i) { m_looks->mnuStyleArray_Click(i); });
     on.connectTo(u"mnuFormatStyleEditor", [this] { m_looks->mnuFormatStyleEditor_Click(); });
     on.connectTo(u"mnuFormatFont", [this] { m_looks->mnuFormatFont_Click(); });
 }
@@ -247,34 +220,18 @@ void Editor::connectPainting()
 void Editor::connectMacros()
 {
     m_macros = std::make_unique<MacroFeatures>(
-        m_context,
-        MacroFeatures::Parts{ *m_view, *m_actions, *m_opening, *m_saving, *m_fresh, *m_insert });
+        m_context, MacroFeatures::Parts{ *m_view, *m_actions, *m_opening, *m_saving, *m_insert });
     layout()->addWidget(m_macros->list().frame());
     connect(&m_macros->menu(), &MacroListMenu::quickTipWanted, this,
             [this] { Q_EMIT helpOn(u"macro list"_s); });
 }
 
-void Editor::connectGuards()
-{
-    for (const auto replaced : { &FileNew::joystickReplaced, &FileNew::macroReplaced }) {
-        connect(m_fresh.get(), replaced, &m_guards->autoSave, &AutoSave::restart);
-        connect(m_fresh.get(), replaced, &m_guards->recovery, &Recovery::update);
-    }
-    connect(m_opening.get(), &FileOpening::loaded, &m_guards->recovery, &Recovery::update);
-    connect(m_saving.get(), &FileSaving::aboutToWrite, &m_guards->recovery, &Recovery::catchUp);
-    connect(m_saving.get(), &FileSaving::safe, &m_guards->recovery, &Recovery::update);
-    connect(m_opening.get(), &FileOpening::loaded, m_saving.get(), &FileSaving::forgetFresh);
-    connect(m_fresh.get(), &FileNew::joystickReplaced, m_saving.get(),
-            [this] { m_saving->forgetFresh(DocumentKind::Joystick); });
-    connect(m_fresh.get(), &FileNew::macroReplaced, m_saving.get(),
-            [this] { m_saving->forgetFresh(DocumentKind::Macro); });
-}
-
 void Editor::updateConditions()
 {
-    m_actions->setCondition(When::Selection, selected().selLength() > 0);
-    m_actions->setCondition(When::PasteReady, holdsText(QApplication::clipboard()->mimeData()));
-    m_actions->setCondition(When::JoystickText,
+    m_actions->setCondition(EditorWhen::Selection, selected().selLength() > 0);
+    m_actions->setCondition(EditorWhen::PasteReady,
+                            holdsText(QApplication::clipboard()->mimeData()));
+    m_actions->setCondition(EditorWhen::JoystickText,
                             selected().kind() == DocumentKind::Joystick
                                 || m_context.settings.AlwaysShowCompileDownload == 1);
 }
@@ -282,7 +239,7 @@ void Editor::updateConditions()
 void Editor::updateDownloadCaption()
 {
     // Only a file of the Cougar's own kind goes to it; the others keep the plain words.
-    const bool named = lastThree(joystick().name()) == u"tmj";
+    const bool named = lastThree(joystick().name()) == extensionOf(DocumentKind::Joystick);
     QString caption = named ? joystick().caption() : u"joystick file"_s;
     caption.replace(u'&', u"&&"_s);
     action(u"DownloadArray1_0")->setText(u"&Download "_s + caption);
@@ -296,8 +253,8 @@ void Editor::ResetFocusToEditor()
 void Editor::HighlightErrorLine(int line, const QString &compileErrorText)
 {
     try {
-        showLine(m_context, *m_view, m_documents->of(documentOfError(compileErrorText)), line,
-                 LineCaret::SelectsLine);
+        showLine(m_context, *m_view, m_documents->of(language::documentOfError(compileErrorText)),
+                 line, LineCaret::SelectsLine);
     } catch (const std::exception &error) {
         m_context.dialogs.tell(u"Hmmm....bizarre..."_s,
                                u"Please report this on the Klaifi forums so I can investigate "

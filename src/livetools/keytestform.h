@@ -10,32 +10,27 @@
 #include <QTimer>
 #include <QWidget>
 
-#include <functional>
+#include <array>
 #include <memory>
 
+class QAction;
 class QKeyEvent;
 class QLabel;
+class QMenuBar;
 
 namespace zeph {
 
-class KeyTestMenus;
+class MenuActions;
 class RichTextBox;
 
 namespace Ui {
 class KeyTestForm;
 }
 
-/// What the Key Tester needs of the rooms around it. All must be set.
-struct KeyTestHost {
-    /// Asks for the buttons' programmed (true) or Windows mode.
-    std::function<void(bool programmed)> changeButtonsMode;
-    /// Shift+Break: tells what it does, asks for Windows mode, and lets events run.
-    std::function<void()> emergencyOff;
-    /// The Cougar menu's memory command of that index: 0 empty buffers, 1 clear memory.
-    std::function<void(int index)> mnuMemoryClear_Click;
-    /// Whether there is a tester for DirectX keys, and its start.
-    std::function<bool()> hasDirectXTester;
-    std::function<void()> startDirectXTester;
+/// The Editor's menu entries that the Key Tester runs too. All must outlive it.
+struct KeyTestEntries {
+    std::array<QAction *, 2> memoryClear; ///< 0 empty buffers, 1 clear memory
+    QAction *directXTester; ///< hidden where there is no such tester
 };
 
 /// Shows what the Cougar really sends: each key that goes down and up, and the text that results.
@@ -44,7 +39,7 @@ class KeyTestForm : public QWidget
 {
     Q_OBJECT
 public:
-    KeyTestForm(const Context &context, KeyTestHost host, QWidget *parent = nullptr);
+    KeyTestForm(const Context &context, const KeyTestEntries &entries, QWidget *parent = nullptr);
     ~KeyTestForm() override;
 
     /// Reads what the window needs and asks for the Cougar's programmed mode. False when the
@@ -67,6 +62,12 @@ public:
     void Form_KeyUp(int keycode, int shift);
     void Form_KeyPress(char16_t ascii);
 
+Q_SIGNALS:
+    /// The buttons' programmed (true) or Windows mode is wanted.
+    void buttonsModeWanted(bool programmed);
+    /// Shift+Break: the Cougar's buttons must stop typing at once.
+    void emergencyOff();
+
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
     void changeEvent(QEvent *event) override;
@@ -74,7 +75,8 @@ protected:
     bool focusNextPrevChild(bool next) override;
 
 private:
-    void chosen(const QString &name, int index);
+    void connectEntries();
+    void mnuYankCord_Click();
     void keyPressed(const QKeyEvent &event);
     void keyReleased(const QKeyEvent &event);
     void emergency();
@@ -91,9 +93,10 @@ private:
     void LBL_ModeWarning_Click();
 
     Context m_context;
-    KeyTestHost m_host;
+    KeyTestEntries m_entries;
     std::unique_ptr<Ui::KeyTestForm> m_ui;
-    KeyTestMenus *m_menus;
+    std::unique_ptr<MenuActions> m_menus;
+    QMenuBar *m_bar;
     KeyTestRules m_rules;
     QTimer *m_timer1;
     QTimer m_modeTimer;

@@ -98,7 +98,7 @@ void KeyTestForm::Form_KeyUp(int keycode, int)
 void KeyTestForm::emergency()
 {
     const QPointer<KeyTestForm> alive(this);
-    m_host.emergencyOff();
+    Q_EMIT emergencyOff();
     if (alive) {
         close();
     }

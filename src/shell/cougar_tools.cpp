@@ -7,7 +7,6 @@
 #include "shell/compile_menu.h"
 #include "shell/download_menu.h"
 #include "shell/games_menu.h"
-#include "shell/key_tester_menu.h"
 #include "shell/mode_menu.h"
 #include "shell/mum.h"
 #include "shell/tools_menu.h"
@@ -29,7 +28,6 @@ void CougarTools::attach(const Context &context, Mum &mum, Editor &editor, HelpM
         context, { m_handshake, m_modes, m_profiles, m_afterDownload, *compile, editor });
     m_gamesMenu = new GamesMenu(
         context, { mum, editor, *compile, m_handshake, m_modes, m_profiles, m_afterDownload });
-    new KeyTesterMenu(context, m_modes, mum, editor);
 }
 
 } // namespace zeph

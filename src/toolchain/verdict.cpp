@@ -107,9 +107,4 @@ VerdictTelling tellGameVerdict(const CompilerVerdict &verdict, bool statusBarOnl
     return telling;
 }
 
-bool isMacroFileError(QStringView errorText)
-{
-    return errorText.mid(6, 4) == u"1013";
-}
-
 } // namespace zeph

@@ -9,6 +9,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QAccessible>
 #include <QClipboard>
 #include <QDropEvent>
 #include <QGuiApplication>
@@ -212,6 +213,57 @@ TEST_F(TextControlTest, WhatIsDraggedElsewhereKeepsItsLooksAndThoseBetween)
     EXPECT_TRUE(text.text().startsWith(u"fourone two three"));
     EXPECT_EQ(looks[1], (CharRun{ 3, red }));
     EXPECT_EQ(looks[3], (CharRun{ 5, red }));
+}
+
+TEST_F(TextControlTest, AScreenReaderIsToldTheColours)
+{
+    ColouredText &text = control.shown();
+    text.setPlain({ u"Arial"_s, 8, false, false, false, 0 });
+    text.setText(u"Rem x\nBTN S1"_s);
+    text.setCharacterRuns({ { 3, { u"Arial"_s, 8, true, true, true, 0x0000FF } } }, 6);
+    QAccessibleInterface *told = QAccessible::queryAccessibleInterface(&control);
+    ASSERT_TRUE(told && told->textInterface() && told->editableTextInterface());
+    EXPECT_EQ(told->role(), QAccessible::EditableText);
+    EXPECT_EQ(told->text(QAccessible::Value), u"Rem x\nBTN S1");
+    int start = -1;
+    int end = -1;
+    const QString look = told->textInterface()->attributes(7, &start, &end);
+    EXPECT_EQ(start, 6);
+    EXPECT_EQ(end, 9);
+    for (const QString &wanted :
+         { u"color:rgb(255,0,0);"_s, u"font-weight:bold;"_s, u"font-style:italic;"_s,
+           u"text-underline-style:solid;"_s, u"font-family:\"Arial\";"_s, u"font-size:8pt;"_s }) {
+        EXPECT_TRUE(look.contains(wanted)) << wanted.toStdString();
+    }
+    EXPECT_TRUE(told->textInterface()->attributes(0, &start, &end).contains(u"color:rgb(0,0,0);"));
+    EXPECT_TRUE(told->textInterface()->attributes(12, &start, &end).contains(u"rgb(0,0,0)"));
+    EXPECT_EQ(told->textInterface()->attributes(13, &start, &end), QString());
+}
+
+TEST_F(TextControlTest, AScreenReaderReadsAndWritesTheText)
+{
+    ColouredText &text = control.shown();
+    text.setText(u"one\ntwo"_s);
+    QAccessibleInterface *told = QAccessible::queryAccessibleInterface(&control);
+    QAccessibleTextInterface &reader = *told->textInterface();
+    EXPECT_EQ(reader.characterCount(), 7);
+    EXPECT_EQ(reader.text(2, 5), u"e\nt");
+    reader.setSelection(0, 1, 3);
+    int start = -1;
+    int end = -1;
+    reader.selection(0, &start, &end);
+    EXPECT_EQ(start, 1);
+    EXPECT_EQ(end, 3);
+    EXPECT_EQ(text.selLength(), 2);
+    reader.removeSelection(0);
+    EXPECT_EQ(reader.selectionCount(), 0);
+    EXPECT_EQ(reader.offsetAtPoint(reader.characterRect(5).center()), 5);
+    told->editableTextInterface()->replaceText(0, 3, u"1"_s);
+    EXPECT_EQ(text.text(), u"1\ntwo");
+    text.setLocked(true);
+    EXPECT_TRUE(told->state().readOnly);
+    told->editableTextInterface()->deleteText(0, 3);
+    EXPECT_EQ(text.text(), u"1\ntwo");
 }
 
 TEST_F(TextControlTest, EveryTextHasTheMargin)

@@ -205,16 +205,14 @@ protected:
     void insertAsTool()
     {
         selectSomething(0);
-        {
-            history().storeTop();
-            copies().slotsHeld[0] = { control().shown().richText(), control().shown().selStart() };
-            Change change(document());
-            for (int pieces = 1 + chance->upTo(2); pieces > 0; --pieces) {
-                document().insert(piece());
-            }
-            if (!change.commit()) {
-                return;
-            }
+        history().storeTop();
+        copies().slotsHeld[0] = { control().shown().richText(), control().shown().selStart() };
+        Change change(document());
+        for (int pieces = 1 + chance->upTo(2); pieces > 0; --pieces) {
+            document().insert(piece());
+        }
+        if (!change.commit()) {
+            return;
         }
         changed();
     }

@@ -43,6 +43,9 @@ public:
     StatusLine status;
     QStringList asked;
     bool hasDirectX = true;
+    QAction emptyBuffers;
+    QAction clearMemory;
+    QAction directX;
     QPointer<KeyTestForm> form;
 
     void SetUp() override
@@ -54,6 +57,9 @@ public:
                      "9,Tab\r\n13,Enter\r\n20,Caps Lock\r\n32,Space\r\n37,Left Arrow\r\n112,F1\r\n"
                      "121,F10\r\n93,Menu\r\n27,Escape\r\n");
         report("OKAY", 1);
+        noteRuns(emptyBuffers, u"memory 0"_s);
+        noteRuns(clearMemory, u"memory 1"_s);
+        noteRuns(directX, u"directx"_s);
     }
     void TearDown() override
     {
@@ -67,25 +73,21 @@ public:
                      "[TMMODE]\r\nStatus=" + modeStatus
                          + "\r\nAxes=1\r\nButtons=" + QByteArray::number(buttons) + "\r\n");
     }
-    KeyTestHost host()
+    void noteRuns(QAction &entry, const QString &words)
     {
-        return { .changeButtonsMode =
-                     [this](bool programmed) {
-                         asked.append(programmed ? u"programmed"_s : u"windows"_s);
-                     },
-                 .emergencyOff = [this] { asked.append(u"emergency"_s); },
-                 .mnuMemoryClear_Click =
-                     [this](int index) { asked.append(u"memory %1"_s.arg(index)); },
-                 .hasDirectXTester = [this] { return hasDirectX; },
-                 .startDirectXTester =
-                     [this] {
-                         asked.append(u"directx"_s);
-                     } };
+        QObject::connect(&entry, &QAction::triggered, &entry,
+                         [this, words] { asked.append(words); });
     }
     bool open()
     {
+        directX.setVisible(hasDirectX);
         form = new KeyTestForm({ paths, settings, status, dialogs, launcher, clock, keyboard },
-                               host());
+                               KeyTestEntries{ { &emptyBuffers, &clearMemory }, &directX });
+        QObject::connect(form, &KeyTestForm::buttonsModeWanted, form, [this](bool programmed) {
+            asked.append(programmed ? u"programmed"_s : u"windows"_s);
+        });
+        QObject::connect(form, &KeyTestForm::emergencyOff, form,
+                         [this] { asked.append(u"emergency"_s); });
         form->setAttribute(Qt::WA_DeleteOnClose);
         const bool loaded = form->Form_Load();
         if (loaded) {

@@ -21,6 +21,13 @@ AutoSave::AutoSave(const Context &context, EditorView &view, FileSaving &saving)
     m_timer.setObjectName(u"Timer1"_s);
     m_timer.setInterval(std::chrono::minutes(1));
     m_timer.callOnTimeout(this, guarded(context.dialogs, [this](auto &&...) { Timer1_Timer(); }));
+    view.documents().forEach([this](Document &each) {
+        connect(&each, &Document::replaced, this, [this](Document::How how) {
+            if (how == Document::How::Fresh) {
+                restart();
+            }
+        });
+    });
 }
 
 void AutoSave::restart()

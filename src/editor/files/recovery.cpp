@@ -68,10 +68,18 @@ Recovery::Recovery(const Context &context, const Parts &parts)
     m_timer.setTimerType(Qt::PreciseTimer);
     m_timer.setInterval(intervalMs);
     m_timer.callOnTimeout(this, guarded(context.dialogs, [this](auto &&...) { update(); }));
-    for (const DocumentKind kind : bothKinds) {
-        connect(&parts.view.documents().of(kind).content(), &QTextDocument::contentsChanged, this,
-                &Recovery::touched);
-    }
+    parts.view.documents().forEach([this](Document &each) {
+        connect(&each, &Document::edited, this, &Recovery::touched);
+        connect(&each, &Document::replaced, this, [this](Document::How how) {
+            if (how == Document::How::Undone) {
+                touched();
+            } else {
+                update();
+            }
+        });
+        connect(&each, &Document::aboutToBeWritten, this, &Recovery::catchUp);
+        connect(&each, &Document::written, this, &Recovery::update);
+    });
 }
 
 void Recovery::touched()

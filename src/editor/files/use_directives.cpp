@@ -3,19 +3,31 @@
 
 #include "editor/files/use_directives.h"
 
-#include "documents/editor_view.h"
+#include "documents/documents.h"
 #include "settings/global_settings.h"
 
 namespace zeph {
 
-UseDirectives::UseDirectives(const Context &context, EditorView &view)
-    : m_context(context), m_view(view)
+UseDirectives::UseDirectives(const Context &context, Documents &documents)
+    : m_context(context), m_joystick(documents.joystick())
 {
+    connect(&m_joystick, &Document::replaced, this, [this](Document::How how) {
+        if (how == Document::How::Fresh) {
+            forgetFiles();
+        } else if (how != Document::How::Undone) {
+            GetUSEZephstatements();
+        }
+    });
+    connect(&m_joystick, &Document::written, this, [this](Document::Save save) {
+        if (save == Document::Save::Asked) {
+            GetUSEZephstatements();
+        }
+    });
 }
 
 void UseDirectives::GetUSEstatements()
 {
-    const QString text = m_view.documents().joystick().text();
+    const QString text = m_joystick.text();
     if (!text.isEmpty()) {
         m_statements = readUseStatements(text);
     }
@@ -34,7 +46,6 @@ void UseDirectives::GetUSEZephstatements()
     if (!m_textFilePath.isEmpty()) {
         m_context.settings.TextFilePath = m_textFilePath;
     }
-    m_view.documents().joystick().select(0, 0);
     Q_EMIT filesChanged();
 }
 
@@ -51,7 +62,7 @@ QString UseDirectives::found(QString &name) const
     if (name.isEmpty()) {
         return {};
     }
-    QString path = existingPath(folderOf(m_view.documents().joystick().path()) + name);
+    QString path = existingPath(folderOf(m_joystick.path()) + name);
     if (path.isEmpty() || !fileExists(path)) {
         name.clear();
         return {};

@@ -4,9 +4,7 @@
 #include "editor/macros/macro_features.h"
 
 #include "documents/editor_view.h"
-#include "editor/files/file_new.h"
 #include "editor/files/file_opening.h"
-#include "editor/files/file_saving.h"
 #include "editor/macros/framemacros.h"
 #include "menus/menu_actions.h"
 #include "platform/handlers.h"
@@ -49,29 +47,33 @@ MacroFeatures::MacroFeatures(const Context &context, const Parts &parts)
 
 void MacroFeatures::connectFiles()
 {
-    const auto forget = [this] {
-        m_list.ClearAllForNewMacroFile();
-    };
-    connect(&m_parts.opening, &FileOpening::macroReplaced, this, forget);
-    connect(&m_parts.fresh, &FileNew::macroReplaced, this, forget);
-    connect(&m_parts.fresh, &FileNew::joystickReplaced, this,
-            [this] { m_operations.ClearMacroTicks(); });
-    connect(&m_parts.opening, &FileOpening::loaded, this, [this](DocumentKind kind) {
-        if (kind == DocumentKind::Joystick) {
+    Documents &documents = m_parts.view.documents();
+    connect(&documents.joystick(), &Document::replaced, this, [this](Document::How how) {
+        if (how != Document::How::Undone) {
             m_operations.ClearMacroTicks();
-            return;
         }
-        m_list.GetEachLineFromMacroFile();
-        m_list.ExtractMacrosAndTitles();
-        m_list.show();
     });
-    connect(&m_parts.opening, &FileOpening::pairLoaded, this,
-            [this] { m_operations.IdentifyMacrosUsed(MacroOperations::ShowAll); });
-    connect(&m_parts.saving, &FileSaving::saved, this, [this](DocumentKind kind) {
-        if (kind == DocumentKind::Macro) {
+    connect(&documents.macro(), &Document::replaced, this, &MacroFeatures::afterMacroReplaced);
+    connect(&documents.macro(), &Document::written, this, [this](Document::Save save) {
+        if (save == Document::Save::Asked) {
             afterMacroSave();
         }
     });
+    connect(&m_parts.opening, &FileOpening::pairLoaded, this,
+            [this] { m_operations.IdentifyMacrosUsed(MacroOperations::ShowAll); });
+}
+
+void MacroFeatures::afterMacroReplaced(Document::How how)
+{
+    if (how == Document::How::Undone) {
+        return;
+    }
+    m_list.ClearAllForNewMacroFile();
+    if (how != Document::How::Fresh) {
+        m_list.GetEachLineFromMacroFile();
+        m_list.ExtractMacrosAndTitles();
+        m_list.show();
+    }
 }
 
 void MacroFeatures::afterMacroSave()

@@ -3,6 +3,8 @@
 
 #include "platform/richtext/rich_text_document.h"
 
+#include "platform/colours.h"
+
 #include <QTextBlock>
 #include <QTextList>
 
@@ -173,8 +175,8 @@ CharFormat commonLook(const std::vector<CharRun> &runs)
     return most == looks.end() ? CharFormat() : *most->first;
 }
 
-/// Puts a text, without the paragraphs' formats, in place of the cursor's selection; the cursor
-/// stands behind it.
+/// Replaces the cursor's selection with a text, without the paragraphs' formats; the cursor is
+/// after it then.
 void insertCharacters(QTextCursor &cursor, const RichText &text)
 {
     const int from = cursor.selectionStart();
@@ -231,13 +233,12 @@ QTextCharFormat toTextFormat(const CharFormat &format)
     if (format.pointSize > 0) {
         result.setFontPointSize(format.pointSize);
     }
-    // Said also where they are off: the control's own font may be bold.
+    // Set also when they are off: the control's own font may be bold.
     result.setFontWeight(format.bold ? QFont::Bold : QFont::Normal);
     result.setFontItalic(format.italic);
     result.setFontUnderline(format.underline);
     if (format.colour) {
-        const ColorRef colour = *format.colour;
-        result.setForeground(QColor(redOf(colour), greenOf(colour), blueOf(colour)));
+        result.setForeground(toColor(*format.colour));
     }
     return result;
 }

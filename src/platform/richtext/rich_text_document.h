@@ -16,7 +16,7 @@ namespace zeph {
 /// By how much a bullet's text hangs, in device-independent pixels: a quarter of an inch.
 constexpr double bulletIndentPixels = 24;
 
-/// The toolkit's format of a character and back.
+/// A character's format as the toolkit's, and back.
 QTextCharFormat toTextFormat(const CharFormat &format);
 CharFormat fromTextFormat(const QTextCharFormat &format);
 
@@ -44,8 +44,8 @@ std::vector<CharRun> characterRunsOf(const QTextDocument &document, qsizetype fr
 std::vector<ParagraphRun> paragraphRunsOf(const QTextDocument &document, qsizetype from,
                                           QStringView text);
 
-/// A text that the toolkit cannot take for more paragraphs than its '\n' make. The characters
-/// replaced are none of any text file's; each stays one character, so that runs fit.
+/// The text with another character for each, except '\n', at which the toolkit would end a block.
+/// No text file holds such a character. The length stays the same, so that the runs fit.
 QString insertableText(const QString &text);
 
 /// Replaces everything in one edit block, without an entry in the toolkit's own undo, which is
@@ -57,12 +57,12 @@ void setPlainText(QTextDocument &document, const QString &text,
 /// Gives the paragraphs of a stretch their formats where they have others.
 void setParagraphRuns(QTextDocument &document, qsizetype from, QStringView text,
                       const std::vector<ParagraphRun> &wanted);
-/// Replaces the cursor's selection with rich text; the cursor stands behind it. A paragraph that
-/// had characters before or behind the cursor keeps its format for the part that they are in.
+/// Replaces the cursor's selection with rich text; the cursor is after it then. A paragraph that
+/// had characters before or after the cursor keeps its format for the part that they are in.
 void insertRichText(QTextCursor &cursor, const RichText &text);
-/// Lays character runs over the text as it stands, in one edit block; the text does not change.
-/// Runs are laid from a position on; what they do not reach stays as it is. Only what looks
-/// otherwise is touched, and only what they reach is read.
+/// Gives the text the looks of character runs, from a position on, in one edit block; the text does
+/// not change, and characters after the last run keep their looks. Only characters that look
+/// otherwise are touched, and only those that the runs cover are read.
 void applyCharacterRuns(QTextDocument &document, const std::vector<CharRun> &runs,
                         qsizetype from = 0);
 /// Gives all paragraphs one format; nothing is touched when they have it.
@@ -74,7 +74,7 @@ int lineOfCharacter(const QTextDocument &document, int position);
 int startOfLine(const QTextDocument &document, int line);
 int lineCount(const QTextDocument &document);
 
-/// Position behind the stretch that holds only (or, negated, none of) the characters of a set.
+/// Position after the stretch that holds only (or, negated, none of) the characters of a set.
 int spanEnd(const QTextDocument &document, int from, QStringView set, bool forward, bool negate);
 
 } // namespace zeph

@@ -239,7 +239,7 @@ TEST_F(RecoveryTest, ASaveFindsTheRecoveryFileAsNewAsItself)
     recovery().update();
     type(DocumentKind::Joystick, u"y"_s);
     std::optional<RecoveredText> rightBehind;
-    QObject::connect(&editor->saving(), &FileSaving::written, editor.get(),
+    QObject::connect(&editor->joystick(), &Document::aboutToBeWritten, editor.get(),
                      [&] { rightBehind = kept(u"1/joystick.txt"_s); });
     editor->saving().mnuFileSave_Click();
     ASSERT_TRUE(rightBehind);
