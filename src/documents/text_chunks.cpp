@@ -313,20 +313,37 @@ private:
     TextChunk::Runs m_runs;
 };
 
-/// What two texts have in common at their start and end. The end comes first: the toolkit says
-/// exactly where a change starts, but may count too much at its end.
+/// What two texts have in common at their start and end. The toolkit may count a line end too much
+/// before what was put in, and after what was taken out.
 struct CommonEnds {
     qsizetype front = 0;
     qsizetype back = 0;
 
     CommonEnds(QStringView one, QStringView other)
     {
-        const qsizetype most = std::min(one.size(), other.size());
+        const bool hasGrown = one.size() < other.size();
+        if (hasGrown) {
+            countFront(one, other);
+        }
+        countBack(one, other);
+        if (!hasGrown) {
+            countFront(one, other);
+        }
+    }
+
+private:
+    void countFront(QStringView one, QStringView other)
+    {
+        const qsizetype most = std::min(one.size(), other.size()) - back;
+        while (front < most && one[front] == other[front]) {
+            ++front;
+        }
+    }
+    void countBack(QStringView one, QStringView other)
+    {
+        const qsizetype most = std::min(one.size(), other.size()) - front;
         while (back < most && one[one.size() - 1 - back] == other[other.size() - 1 - back]) {
             ++back;
-        }
-        while (front < most - back && one[front] == other[front]) {
-            ++front;
         }
     }
 };
