@@ -60,7 +60,7 @@ struct DownloadMenuTest : test::ShellWorld {
         tools->attach(context(), *mum, *editor, *help);
         mum->show();
         control()->shown().setText(u"BTN S1 a"_s);
-        editor->joystick().path() = folder.write(u"Files/a.tmj"_s, "BTN S1 a");
+        editor->joystick().rename(folder.write(u"Files/a.tmj"_s, "BTN S1 a"));
         editor->joystick().setState(Document::Saved);
     }
     TextControl *control() const { return &editor->view().control(DocumentKind::Joystick); }
