@@ -6,6 +6,7 @@
 #include "documents/coloured_text.h"
 #include "documents/line_margin.h"
 #include "documents/pasted_text.h"
+#include "documents/text_accessible.h"
 #include "platform/colours.h"
 #include "platform/richtext/rich_text_document.h"
 #include "platform/richtext/rich_text_mime.h"
@@ -44,6 +45,7 @@ TextControl::TextControl(ColouredText &text, QWidget *parent)
     : QPlainTextEdit(parent), m_text(text),
       m_margin(new LineMargin(*this, [this] { return seenLines(); }))
 {
+    TextAccessible::install();
     setDocument(&text.content());
     setLineWrapMode(NoWrap);
     m_margin->hide();
@@ -54,8 +56,6 @@ TextControl::TextControl(ColouredText &text, QWidget *parent)
     connect(this, &TextControl::selectionChanged, this, &TextControl::tellCaret);
     connect(&m_text, &ColouredText::caretSet, this, &TextControl::showCaret);
     connect(&m_text, &ColouredText::lockedChanged, this, &TextControl::setLocked);
-    connect(&m_text, &ColouredText::typingLookSet, this,
-            [this](const CharFormat &look) { setCurrentCharFormat(toTextFormat(look)); });
 }
 
 void TextControl::setLook(ColorRef background, const CharFormat &plain)
@@ -254,9 +254,12 @@ bool TextControl::canInsertFromMimeData(const QMimeData *source) const
 
 void TextControl::insertFromMimeData(const QMimeData *source)
 {
-    QTextCursor cursor = textCursor();
-    insertRichText(cursor, pastedText(*source, m_text.plain()));
-    setTextCursor(cursor);
+    const QTextCursor selection = textCursor();
+    const RichText pasted = pastedText(*source, m_text.plain());
+    const int start = selection.selectionStart();
+    m_text.states().replace(start, selection.selectionEnd() - start, pasted);
+    const int end = start + int(pasted.text.size());
+    m_text.setCaret(end, end);
     m_text.setTypingLook(m_text.plain());
     ensureCursorVisible();
 }
