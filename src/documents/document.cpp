@@ -13,7 +13,7 @@ constexpr qint16 noSteps = 0;
 
 } // namespace
 
-Document::Document(DocumentKind kind, const qint16 &undoMax, QObject *parent)
+Document::Document(DocumentKind kind, const int &undoMax, QObject *parent)
     : ColouredText(parent), m_kind(kind), m_history(*this, undoMax)
 {
     connect(this, &ColouredText::changed, this, &Document::countEdit);

@@ -32,7 +32,7 @@ public:
 
     /// The greatest number of steps to undo is read whenever one is added, and outlives the
     /// document.
-    explicit Document(DocumentKind kind, const qint16 &undoMax, QObject *parent = nullptr);
+    explicit Document(DocumentKind kind, const int &undoMax, QObject *parent = nullptr);
     /// A document that nobody edits: it has no steps to undo.
     explicit Document(DocumentKind kind = DocumentKind::Joystick);
     ~Document() override;

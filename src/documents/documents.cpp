@@ -5,10 +5,12 @@
 
 #include "documents/change.h"
 #include "documents/document_look.h"
+#include "documents/document_settings.h"
 #include "documents/editor_texts.h"
 #include "documents/statement.h"
 #include "platform/dialogs.h"
-#include "settings/global_settings.h"
+#include "settings/colour_settings.h"
+#include "settings/settings.h"
 
 #include <QTextBlock>
 
@@ -16,8 +18,8 @@ namespace zeph {
 
 Documents::Documents(const Context &context, QObject *parent)
     : QObject(parent), m_context(context),
-      m_joystick(DocumentKind::Joystick, context.settings.UndoMax),
-      m_macro(DocumentKind::Macro, context.settings.UndoMax)
+      m_joystick(DocumentKind::Joystick, context.settings.of<DocumentSettings>().UndoMax),
+      m_macro(DocumentKind::Macro, context.settings.of<DocumentSettings>().UndoMax)
 {
     renameFresh(DocumentKind::Joystick);
     renameFresh(DocumentKind::Macro);
@@ -90,7 +92,7 @@ void Documents::renameFresh(DocumentKind kind)
 
 CharFormat Documents::plainFormat(DocumentKind kind) const
 {
-    return zeph::plainFormat(m_context.settings, kind);
+    return zeph::plainFormat(m_context.settings.of<ColourSettings>(), kind);
 }
 
 } // namespace zeph

@@ -2,13 +2,13 @@
 // SPDX-License-Identifier: MIT
 
 #include "documents/undo_histories.h"
-
+#include "documents/document_settings.h"
 #include "documents/documents.h"
 #include "documents/editor_view.h"
 #include "documents/line_blink.h"
 #include "menus/menu_actions.h"
 #include "platform/status_line.h"
-#include "settings/global_settings.h"
+#include "settings/settings.h"
 
 #include <QAction>
 
@@ -75,7 +75,7 @@ void UndoHistories::step(void (Document::*way)(), bool possible)
     m_blink->stop();
     (document.*way)();
     m_context.status.setLine(document.caretLine());
-    if (m_context.settings.HighlightLineOnUndo == 1) {
+    if (m_context.settings.of<DocumentSettings>().HighlightLineOnUndo) {
         m_blink->start(document.kind());
     }
 }

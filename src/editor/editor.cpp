@@ -3,7 +3,9 @@
 
 #include "editor/editor.h"
 
+#include "documents/document_settings.h"
 #include "editor/actions.h"
+#include "editor/editor_settings.h"
 
 #include "documents/coloured_copies.h"
 #include "documents/coloured_insert.h"
@@ -30,7 +32,7 @@
 #include "menus/menu_actions.h"
 #include "platform/dialogs.h"
 #include "platform/richtext/rich_text_mime.h"
-#include "settings/global_settings.h"
+#include "settings/settings.h"
 
 #include <QAction>
 #include <QApplication>
@@ -50,7 +52,8 @@ Editor::Editor(const Context &context, QWidget *parent)
       m_documents(std::make_unique<Documents>(context)),
       m_view(std::make_unique<EditorView>(context, *m_documents, this)),
       m_copies(std::make_unique<ColouredCopies>(context.paths)),
-      m_keys(std::make_unique<EditorKeys>(*m_view, *m_actions, context.settings)),
+      m_keys(
+          std::make_unique<EditorKeys>(*m_view, *m_actions, context.settings.of<EditorSettings>())),
       // After the keys: a line that blinks has to be let go before a key's entry runs.
       m_undos(std::make_unique<UndoHistories>(context, *m_view, *m_actions)),
       m_insert(std::make_unique<ColouredInsert>(context, *m_view)),
@@ -58,7 +61,8 @@ Editor::Editor(const Context &context, QWidget *parent)
           context, Highlighting::Parts{ *m_view, *m_copies, *m_insert })),
       m_looks(
           std::make_unique<TextLooks>(context, TextLooks::Parts{ *m_view, *m_actions, *m_insert })),
-      m_typingColour(std::make_unique<TypingColour>(*m_view, *m_highlighting, context.settings)),
+      m_typingColour(std::make_unique<TypingColour>(*m_view, *m_highlighting,
+                                                    context.settings.of<DocumentSettings>())),
       m_editing(std::make_unique<EditingTools>(
           context, EditingTools::Parts{ *m_view, *m_actions, *m_highlighting, *m_insert })),
       m_useDirectives(std::make_unique<UseDirectives>(context, *m_documents)),
@@ -165,8 +169,9 @@ void Editor::connectOptions()
 {
     MenuActions &on = *m_actions;
     on.connectTo(u"mnuViewTileVertically", [this] {
-        m_context.settings.TileFiles = action(u"mnuViewTileVertically")->isChecked();
-        m_view->setTiled(m_context.settings.TileFiles == 1);
+        m_context.settings.of<EditorSettings>().TileFiles =
+            action(u"mnuViewTileVertically")->isChecked();
+        m_view->setTiled(m_context.settings.of<EditorSettings>().TileFiles);
     });
     on.connectTo(u"mnuPreferencesProtectMacroFile", [this] {
         m_documents->setProtected(action(u"mnuPreferencesProtectMacroFile")->isChecked());
@@ -174,7 +179,7 @@ void Editor::connectOptions()
     });
     on.connectTo(u"mnuJoyPopUpSingleFile", [this] {
         m_opening->OpenSingleFileOnly = action(u"mnuJoyPopUpSingleFile")->isChecked();
-        m_context.settings.OpenSingleFileOnly = m_opening->OpenSingleFileOnly;
+        m_context.settings.of<EditorSettings>().OpenSingleFileOnly = m_opening->OpenSingleFileOnly;
     });
 }
 
@@ -182,11 +187,13 @@ void Editor::connectLooks()
 {
     MenuActions &on = *m_actions;
     on.connectTo(u"mnuViewLineNumbers", [this] {
-        m_context.settings.LineNumbers = action(u"mnuViewLineNumbers")->isChecked();
+        m_context.settings.of<DocumentSettings>().LineNumbers =
+            action(u"mnuViewLineNumbers")->isChecked();
         applySettings();
     });
     on.connectTo(u"mnuViewCurrentLine", [this] {
-        m_context.settings.CurrentLineMark = action(u"mnuViewCurrentLine")->isChecked();
+        m_context.settings.of<DocumentSettings>().CurrentLineMark =
+            action(u"mnuViewCurrentLine")->isChecked();
         applySettings();
     });
 }
@@ -231,9 +238,10 @@ void Editor::updateConditions()
     m_actions->setCondition(EditorWhen::Selection, selected().selLength() > 0);
     m_actions->setCondition(EditorWhen::PasteReady,
                             holdsText(QApplication::clipboard()->mimeData()));
-    m_actions->setCondition(EditorWhen::JoystickText,
-                            selected().kind() == DocumentKind::Joystick
-                                || m_context.settings.AlwaysShowCompileDownload == 1);
+    m_actions->setCondition(
+        EditorWhen::JoystickText,
+        selected().kind() == DocumentKind::Joystick
+            || m_context.settings.of<EditorSettings>().AlwaysShowCompileDownload);
 }
 
 void Editor::updateDownloadCaption()
@@ -278,18 +286,19 @@ QString Editor::restorableFile(DocumentKind kind)
 
 void Editor::applySettings()
 {
-    const GlobalSettings &settings = m_context.settings;
+    const auto &settings = m_context.settings.of<EditorSettings>();
+    const auto &looks = m_context.settings.of<DocumentSettings>();
     m_view->applyLook();
     m_looks->UpdateStyleCaptions();
     m_editing->applySettings();
     m_insertForms->applySettings();
-    m_view->setTiled(settings.TileFiles == 1);
-    action(u"mnuViewTileVertically")->setChecked(settings.TileFiles == 1);
+    m_view->setTiled(settings.TileFiles);
+    action(u"mnuViewTileVertically")->setChecked(settings.TileFiles);
     m_macros->applySettings();
-    m_opening->OpenSingleFileOnly = settings.OpenSingleFileOnly == 1;
+    m_opening->OpenSingleFileOnly = settings.OpenSingleFileOnly;
     action(u"mnuJoyPopUpSingleFile")->setChecked(m_opening->OpenSingleFileOnly);
-    action(u"mnuViewLineNumbers")->setChecked(settings.LineNumbers == 1);
-    action(u"mnuViewCurrentLine")->setChecked(settings.CurrentLineMark == 1);
+    action(u"mnuViewLineNumbers")->setChecked(looks.LineNumbers);
+    action(u"mnuViewCurrentLine")->setChecked(looks.CurrentLineMark);
     updateConditions();
 }
 

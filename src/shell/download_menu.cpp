@@ -5,12 +5,16 @@
 
 #include "documents/editor_view.h"
 #include "editor/editor.h"
+#include "editor/editor_settings.h"
 #include "menus/menu_actions.h"
+#include "settings/settings.h"
 #include "settings/settings_files.h"
 #include "shell/compile_menu.h"
 #include "toolchain/after_download.h"
 #include "toolchain/cougar_modes.h"
+#include "toolchain/default_options.h"
 #include "toolchain/profiles.h"
+#include "toolchain/toolchain_settings.h"
 
 #include <QAction>
 
@@ -22,14 +26,14 @@ enum DownloadEntry { DownloadFile, EnableAfter, RunKeyTester, NumLockOn, IgnoreR
 
 struct Tick {
     DownloadEntry entry;
-    qint16 GlobalSettings::*setting;
+    SettingRef setting;
 };
 
-constexpr Tick ticks[] = {
-    { EnableAfter, &GlobalSettings::DownloadMode },
-    { RunKeyTester, &GlobalSettings::RunKeyTest },
-    { NumLockOn, &GlobalSettings::NumlockDownloadMode },
-    { IgnoreRunApp, &GlobalSettings::RunAppsWithDownload },
+const Tick ticks[] = {
+    { EnableAfter, &DefaultOptions::DownloadMode },
+    { RunKeyTester, &ToolchainSettings::RunKeyTest },
+    { NumLockOn, &ToolchainSettings::NumlockDownloadMode },
+    { IgnoreRunApp, &ToolchainSettings::RunAppsWithDownload },
 };
 
 QString nameOf(int entry)
@@ -57,13 +61,13 @@ void DownloadMenu::DownloadArray1_Click(int index)
     }
     for (const Tick &tick : ticks) {
         if (tick.entry == index) {
-            m_context.settings.*tick.setting = m_parts.editor.action(nameOf(index))->isChecked();
+            tick.setting.set(m_context.settings, m_parts.editor.action(nameOf(index))->isChecked());
         }
     }
     if (index == EnableAfter) {
-        if (m_context.settings.DownloadMode == 0) {
+        if (!m_context.settings.of<DefaultOptions>().DownloadMode) {
             // In Windows mode the Cougar sends none of the keys that there would be to test.
-            m_context.settings.RunKeyTest = 0;
+            m_context.settings.of<ToolchainSettings>().RunKeyTest = false;
         }
         applySettings();
     }
@@ -74,19 +78,20 @@ void DownloadMenu::DownloadArray1_Click(int index)
 
 void DownloadMenu::SaveDownloadMode()
 {
-    using G = GlobalSettings;
     // Nobody is told when this fails: the ticks hold for this run all the same.
     (void)saveSettings(m_context.settings, settingsFilesOf(m_context.paths),
-                       { &G::DownloadMode, &G::NumlockDownloadMode, &G::RunAppsWithDownload });
+                       { &DefaultOptions::DownloadMode, &ToolchainSettings::NumlockDownloadMode,
+                         &ToolchainSettings::RunAppsWithDownload });
 }
 
 void DownloadMenu::applySettings()
 {
     for (const Tick &tick : ticks) {
         m_parts.editor.action(nameOf(tick.entry))
-            ->setChecked(m_context.settings.*tick.setting == 1);
+            ->setChecked(tick.setting.isOn(m_context.settings));
     }
-    m_parts.editor.action(nameOf(RunKeyTester))->setEnabled(m_context.settings.DownloadMode == 1);
+    m_parts.editor.action(nameOf(RunKeyTester))
+        ->setEnabled(m_context.settings.of<DefaultOptions>().DownloadMode);
 }
 
 DownloadHost DownloadMenu::host()
@@ -120,8 +125,9 @@ DownloadHost DownloadMenu::host()
 
 void DownloadMenu::openKeyTester()
 {
-    m_parts.editor.actions().trigger(
-        m_context.settings.DefaultToDX8KeyTester == 1 ? u"mnuAppsDX8_0" : u"mnuAppsKeyTester");
+    m_parts.editor.actions().trigger(m_context.settings.of<EditorSettings>().DefaultToDX8KeyTester
+                                         ? u"mnuAppsDX8_0"
+                                         : u"mnuAppsKeyTester");
 }
 
 } // namespace zeph

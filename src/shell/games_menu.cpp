@@ -5,13 +5,15 @@
 
 #include "documents/editor_view.h"
 #include "editor/editor.h"
+#include "editor/editor_settings.h"
 #include "editor/files/file_opening.h"
 #include "editor/files/file_saving.h"
 #include "editor/files/foreign_keyboard.h"
 #include "menus/menu_actions.h"
 #include "menus/menu_array.h"
+#include "menus/menu_settings.h"
 #include "platform/tool_windows.h"
-#include "settings/global_settings.h"
+#include "settings/settings.h"
 #include "shell/compile_menu.h"
 #include "shell/mum.h"
 #include "toolchain/after_download.h"
@@ -41,8 +43,10 @@ GamesMenu::GamesMenu(const Context &context, const Parts &parts)
 
 void GamesMenu::applySettings()
 {
-    const QString caption = m_context.settings.GamesCaption;
-    m_parts.editor.actions().menu(u"mnuGames")->setTitle(caption.isEmpty() ? u"&Games"_s : caption);
+    const QString caption = m_context.settings.of<MenuSettings>().GamesCaption;
+    m_parts.editor.actions()
+        .menu(u"mnuGames")
+        ->setTitle(caption.isEmpty() ? defaultOf(&MenuSettings::GamesCaption) : caption);
 }
 
 GamesHost GamesMenu::host()
@@ -132,7 +136,7 @@ void GamesMenu::mnuGamesAdd_Click()
     const Document &joystick = m_parts.editor.joystick();
     EnterGameName window(m_context.paths, m_context.dialogs,
                          isUntitled(joystick.name()) ? QString() : joystick.path(), &m_parts.mum);
-    new ForeignKeyBSupport(m_context.keyboard, m_context.settings, &window);
+    new ForeignKeyBSupport(m_context.keyboard, m_context.settings.of<EditorSettings>(), &window);
     if (window.exec() == QDialog::Accepted) {
         m_games.update(window.game());
     }

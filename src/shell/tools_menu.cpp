@@ -5,12 +5,14 @@
 
 #include "editor/editor.h"
 #include "menus/menu_actions.h"
+#include "settings/settings.h"
 #include "settings/settings_files.h"
-#include "settings/settings_moments.h"
 #include "shell/mum.h"
+#include "shell/settings/settings_moments.h"
 #include "toolchain/formresetoptions.h"
 #include "toolchain/profiles.h"
 #include "toolchain/selectprofileform.h"
+#include "toolchain/toolchain_settings.h"
 
 #include <QAction>
 
@@ -72,7 +74,7 @@ void ToolsMenu::connectProfiles()
 
 void ToolsMenu::UpdateResetAxes()
 {
-    const bool used = m_context.settings.UseResetProfile == 1;
+    const bool used = m_context.settings.of<ToolchainSettings>().UseResetProfile;
     m_editor.action(u"mnuResetAxes")->setChecked(used);
     m_editor.action(u"mnuApplyDefaultTMC")->setEnabled(used);
 }
@@ -86,7 +88,8 @@ void ToolsMenu::saveAndUpdate()
 
 void ToolsMenu::mnuResetAxes_Click()
 {
-    m_context.settings.UseResetProfile = m_editor.action(u"mnuResetAxes")->isChecked() ? 1 : 0;
+    m_context.settings.of<ToolchainSettings>().UseResetProfile =
+        m_editor.action(u"mnuResetAxes")->isChecked();
     saveAndUpdate();
 }
 

@@ -7,9 +7,10 @@
 #include "platform/dialogs.h"
 #include "platform/handlers.h"
 #include "platform/process_launcher.h"
-#include "settings/global_settings.h"
+#include "settings/settings.h"
 #include "text/document_text.h"
 #include "toolchain/run_app_lines.h"
+#include "toolchain/toolchain_settings.h"
 
 #include <QCoreApplication>
 
@@ -49,7 +50,7 @@ void AfterDownload::TurnNumLockOn()
 
 void AfterDownload::GetAppsToRun(const QString &joystickText)
 {
-    if (m_context.settings.RunAppsWithDownload == 1 || joystickText.isEmpty()) {
+    if (m_context.settings.of<ToolchainSettings>().RunAppsWithDownload || joystickText.isEmpty()) {
         return;
     }
     // Only a copy for the curious: the lines are read from the text itself, so that a full disk

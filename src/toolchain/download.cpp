@@ -6,9 +6,12 @@
 #include "documents/document.h"
 #include "platform/dialogs.h"
 #include "platform/status_line.h"
-#include "settings/global_settings.h"
+#include "settings/settings.h"
+#include "settings/shared_settings.h"
+#include "toolchain/default_options.h"
 #include "toolchain/handshake.h"
 #include "toolchain/tool_commands.h"
+#include "toolchain/toolchain_settings.h"
 #include "toolchain/verdict.h"
 
 #include <utility>
@@ -103,7 +106,7 @@ bool Download::macroFileMayDiffer()
 
 void Download::send()
 {
-    const bool enables = m_context.settings.DownloadMode == 1;
+    const bool enables = m_context.settings.of<DefaultOptions>().DownloadMode;
     // The user may open another file during the wait: the verdict is about this one.
     const QString path = m_host.joystick().path();
     m_context.status.setText(
@@ -123,8 +126,8 @@ void Download::send()
         m_host.showCougarMode();
     }
     if (end == ExchangeEnd::GivenUp) {
-        m_context.dialogs.box(
-            compilerTimeOutBox(CompilerTask::Download, m_context.settings.PilotCallsign));
+        m_context.dialogs.box(compilerTimeOutBox(
+            CompilerTask::Download, m_context.settings.of<SharedSettings>().PilotCallsign));
     }
     m_context.status.setText(panelAfterCompilerWait(givenUp));
     if (end != ExchangeEnd::NotStarted) {
@@ -135,9 +138,10 @@ void Download::send()
 void Download::tellOutcome(const QString &path, TextLock &lock)
 {
     const CompilerVerdict verdict = HotasIni(m_context.paths.hotasIni()).readCompiler();
-    const VerdictTelling telling = tellVerdict(verdict, CompilerTask::Download, path,
-                                               m_context.settings.HOTASStatusBarErrors != 0);
-    if (!telling.failed && m_context.settings.NumlockDownloadMode == 1) {
+    const VerdictTelling telling =
+        tellVerdict(verdict, CompilerTask::Download, path,
+                    m_context.settings.of<ToolchainSettings>().HOTASStatusBarErrors);
+    if (!telling.failed && m_context.settings.of<ToolchainSettings>().NumlockDownloadMode) {
         m_host.TurnNumLockOn();
     }
     if (!telling.panel.isEmpty()) {
@@ -157,7 +161,8 @@ void Download::succeed(TextLock &lock)
 {
     m_host.GetAppsToRun(m_host.joystickText());
     // Only programmed mode sends keys that there would be something to test about.
-    if (m_context.settings.RunKeyTest == 1 && m_context.settings.DownloadMode == 1) {
+    if (m_context.settings.of<ToolchainSettings>().RunKeyTest
+        && m_context.settings.of<DefaultOptions>().DownloadMode) {
         lock.release();
         m_host.openKeyTester();
     }

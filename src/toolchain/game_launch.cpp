@@ -7,10 +7,12 @@
 #include "platform/dialogs.h"
 #include "platform/process_launcher.h"
 #include "platform/status_line.h"
-#include "settings/global_settings.h"
+#include "settings/settings.h"
+#include "settings/shared_settings.h"
 #include "toolchain/games.h"
 #include "toolchain/handshake.h"
 #include "toolchain/tool_commands.h"
+#include "toolchain/toolchain_settings.h"
 #include "toolchain/verdict.h"
 
 #include <utility>
@@ -120,7 +122,8 @@ bool GameLaunch::download(const QString &wanted)
 bool GameLaunch::goOnWithoutVerdict()
 {
     const bool goOn =
-        m_context.dialogs.box(gameTimeOutBox(m_context.settings.PilotCallsign)) == BoxButton::Yes;
+        m_context.dialogs.box(gameTimeOutBox(m_context.settings.of<SharedSettings>().PilotCallsign))
+        == BoxButton::Yes;
     m_context.status.setText(panelAfterCompilerWait(!goOn));
     if (!goOn) {
         m_host.bringMainWindowBack();
@@ -133,7 +136,7 @@ bool GameLaunch::tellVerdict(const QString &file)
     m_host.bringMainWindowBack();
     const CompilerVerdict verdict = HotasIni(m_context.paths.hotasIni()).readCompiler();
     const VerdictTelling telling =
-        tellGameVerdict(verdict, m_context.settings.HOTASStatusBarErrors != 0);
+        tellGameVerdict(verdict, m_context.settings.of<ToolchainSettings>().HOTASStatusBarErrors);
     if (!telling.failed) {
         m_context.status.setText(telling.panel);
         if (m_host.ensuresNumLock()) {

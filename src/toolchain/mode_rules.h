@@ -30,6 +30,6 @@ ModeChange changeAtClick(ModePicture picture, qint16 buttons);
 
 /// The detector's interval in milliseconds, counted in 16 bits as ever: nothing from 33 seconds
 /// on. Below a second the default holds, since the detector must neither stop nor race.
-std::optional<qint16> detectorInterval(qint16 seconds);
+std::optional<qint16> detectorInterval(int seconds);
 
 } // namespace zeph

@@ -6,10 +6,11 @@
 #include "platform/core/file_io.h"
 #include "platform/dialogs.h"
 #include "platform/status_line.h"
-#include "settings/global_settings.h"
+#include "settings/settings.h"
 #include "toolchain/handshake.h"
 #include "toolchain/missing_tools.h"
 #include "toolchain/tool_commands.h"
+#include "toolchain/toolchain_settings.h"
 #include "toolchain/wait_messages.h"
 
 #include <QDir>
@@ -30,7 +31,7 @@ QStringList profileFiles(const QString &folder)
                                                    QDir::Name | QDir::IgnoreCase);
 }
 
-bool isManual(CalibrationRequest request, const GlobalSettings &settings)
+bool isManual(CalibrationRequest request, const ToolchainSettings &settings)
 {
     switch (request) {
     case CalibrationRequest::Auto:
@@ -40,7 +41,7 @@ bool isManual(CalibrationRequest request, const GlobalSettings &settings)
     case CalibrationRequest::Stored:
         break;
     }
-    return settings.ResetCalibrate == 1;
+    return settings.ResetCalibrate;
 }
 
 } // namespace
@@ -70,7 +71,7 @@ bool Profiles::ApplyDefaultProfile(const QString &name, CalibrationRequest calib
         m_context.dialogs.box(noControlPanelBox(m_context.paths));
         return true;
     }
-    const GlobalSettings &settings = m_context.settings;
+    const auto &settings = m_context.settings.of<ToolchainSettings>();
     const QString profile = name.isEmpty() ? settings.ResetProfile : name;
     if (!isThere(profile)) {
         return true;
@@ -95,7 +96,9 @@ bool Profiles::isThere(const QString &name)
     if (fileExists(profilesFolder(m_context.paths) + name + ending.toString())) {
         return true;
     }
-    const bool isStored = name.compare(m_context.settings.ResetProfile, Qt::CaseInsensitive) == 0;
+    const bool isStored =
+        name.compare(m_context.settings.of<ToolchainSettings>().ResetProfile, Qt::CaseInsensitive)
+        == 0;
     m_context.dialogs.box(missingProfileBox(name, isStored));
     return false;
 }

@@ -4,6 +4,8 @@
 #include "toolchain/download.h"
 
 #include "tests/toolchain/compiler_bench.h"
+#include "toolchain/default_options.h"
+#include "toolchain/toolchain_settings.h"
 
 using namespace zeph;
 using zeph::test::hangOn;
@@ -26,8 +28,8 @@ class DownloadTest : public test::CompilerBench
 protected:
     DownloadTest()
     {
-        settings.DownloadMode = 1;
-        settings.RunKeyTest = 0;
+        settings.of<DefaultOptions>().DownloadMode = true;
+        settings.of<ToolchainSettings>().RunKeyTest = false;
     }
 
     DownloadHost host()
@@ -163,7 +165,7 @@ TEST_F(DownloadTest, EnablesProgrammedModeByTheTick)
 {
     for (const auto &[ticked, name] :
          { std::pair(1, u"/ZEPH /CE \""), std::pair(0, u"/ZEPH /CD \"") }) {
-        settings.DownloadMode = qint16(ticked);
+        settings.of<DefaultOptions>().DownloadMode = int(ticked);
         dialogs.answer(success, BoxButton::Ok);
         download();
         const Launch &launch = launcher.launches.constLast();
@@ -212,7 +214,7 @@ TEST_F(DownloadTest, SuccessIsToldWithBothTimes)
 
 TEST_F(DownloadTest, WithTheStatusBarAloneASuccessComesWithoutABox)
 {
-    settings.HOTASStatusBarErrors = 1;
+    settings.of<ToolchainSettings>().HOTASStatusBarErrors = true;
     download();
     EXPECT_EQ(status.text(), u"Compiled successfully. (Memory used: 4%)");
     EXPECT_EQ(done, (QStringList{ tab, locks, mode, apps, focus, unlocks }));
@@ -220,7 +222,7 @@ TEST_F(DownloadTest, WithTheStatusBarAloneASuccessComesWithoutABox)
 
 TEST_F(DownloadTest, TheNumLockHelperComesBeforeTheSuccessIsTold)
 {
-    settings.NumlockDownloadMode = 1;
+    settings.of<ToolchainSettings>().NumlockDownloadMode = true;
     auto prepared = host();
     prepared.TurnNumLockOn = [this] {
         done += u"NumLock"_s;
@@ -234,7 +236,7 @@ TEST_F(DownloadTest, TheNumLockHelperComesBeforeTheSuccessIsTold)
 
 TEST_F(DownloadTest, TheKeyTesterOpensBehindTheApplicationsWithTheTextEditable)
 {
-    settings.RunKeyTest = 1;
+    settings.of<ToolchainSettings>().RunKeyTest = true;
     dialogs.answer(success, BoxButton::Ok);
     download();
     EXPECT_EQ(done, (QStringList{ tab, locks, mode, apps, unlocks, tester, focus }));
@@ -242,8 +244,8 @@ TEST_F(DownloadTest, TheKeyTesterOpensBehindTheApplicationsWithTheTextEditable)
 
 TEST_F(DownloadTest, WithoutProgrammedModeNoKeyTesterOpensWhateverItsTick)
 {
-    settings.RunKeyTest = 1;
-    settings.DownloadMode = 0;
+    settings.of<ToolchainSettings>().RunKeyTest = true;
+    settings.of<DefaultOptions>().DownloadMode = false;
     dialogs.answer(success, BoxButton::Ok);
     download();
     EXPECT_EQ(done.count(tester), 0);
@@ -251,8 +253,8 @@ TEST_F(DownloadTest, WithoutProgrammedModeNoKeyTesterOpensWhateverItsTick)
 
 TEST_F(DownloadTest, AnErrorOpensItsHelpAndShowsItsLineInAnEditableText)
 {
-    settings.RunKeyTest = 1;
-    settings.NumlockDownloadMode = 1;
+    settings.of<ToolchainSettings>().RunKeyTest = true;
+    settings.of<ToolchainSettings>().NumlockDownloadMode = true;
     statusWritten = u"ERROR"_s;
     lineWritten = u"5"_s;
     download();
@@ -273,7 +275,7 @@ TEST_F(DownloadTest, AnErrorWithoutALineOpensItsHelpOnlyAndFreesTheText)
 
 TEST_F(DownloadTest, WithTheStatusBarAloneAFailureShowsNoWindowYetItsLine)
 {
-    settings.HOTASStatusBarErrors = 1;
+    settings.of<ToolchainSettings>().HOTASStatusBarErrors = true;
     statusWritten = u"ERROR"_s;
     lineWritten = u"5"_s;
     download();
@@ -323,7 +325,7 @@ TEST_F(DownloadTest, OverTwoSecondsTheStatusWindowShowsAndClosesAtTheEnd)
             writeVerdict();
         }
     };
-    settings.HOTASStatusBarErrors = 1;
+    settings.of<ToolchainSettings>().HOTASStatusBarErrors = true;
     bool shownAtTheMode = true;
     auto prepared = host();
     prepared.showCougarMode = [&] {
@@ -359,7 +361,7 @@ TEST_F(DownloadTest, TheVerdictIsAboutTheFileThatWasSent)
 
 TEST_F(DownloadTest, AFailureBehindTheWaitFreesTheText)
 {
-    settings.HOTASStatusBarErrors = 1;
+    settings.of<ToolchainSettings>().HOTASStatusBarErrors = true;
     auto prepared = host();
     prepared.GetAppsToRun = [](const QString &) {
         throw std::runtime_error("no good");
@@ -371,7 +373,7 @@ TEST_F(DownloadTest, AFailureBehindTheWaitFreesTheText)
 
 TEST_F(DownloadTest, ASecondDownloadDuringTheFirstTellsTheSameVerdictForBoth)
 {
-    settings.HOTASStatusBarErrors = 1;
+    settings.of<ToolchainSettings>().HOTASStatusBarErrors = true;
     Download command(context, *handshake, host());
     afterTick = [&](int count) {
         if (count == 1) {
@@ -389,7 +391,7 @@ TEST_F(DownloadTest, ASecondDownloadDuringTheFirstTellsTheSameVerdictForBoth)
 
 TEST_F(DownloadTest, ASecondDownloadThatDoesNotStartLeavesTheFirstOnesTextLocked)
 {
-    settings.HOTASStatusBarErrors = 1;
+    settings.of<ToolchainSettings>().HOTASStatusBarErrors = true;
     dialogs.answer(u"Unable to run the Thrustmaster software"_s, BoxButton::Ok);
     Download command(context, *handshake, host());
     afterTick = [&](int count) {

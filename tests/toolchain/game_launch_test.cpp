@@ -6,6 +6,7 @@
 #include "documents/document.h"
 #include "tests/toolchain/toolchain_bench.h"
 #include "toolchain/games.h"
+#include "toolchain/toolchain_settings.h"
 
 using namespace zeph;
 
@@ -256,7 +257,7 @@ TEST_F(GameLaunchTest, AnErrorWithoutALineHighlightsNone)
 TEST_F(GameLaunchTest, WithStatusBarErrorsTheLineIsShownWithoutTheWindow)
 {
     statusWritten = u"ERROR"_s;
-    settings.HOTASStatusBarErrors = 1;
+    settings.of<ToolchainSettings>().HOTASStatusBarErrors = true;
     launch();
     EXPECT_EQ(done.last(), u"highlight 7 ERROR 1002: no such button");
     EXPECT_FALSE(done.contains(u"help ERROR 1002: no such button"_s));

@@ -7,10 +7,11 @@
 #include "documents/editor_texts.h"
 #include "documents/editor_view.h"
 #include "documents/highlighting.h"
+#include "editor/editor_settings.h"
 #include "editor/files/file_saving.h"
 #include "platform/input/keyboard.h"
 #include "platform/status_line.h"
-#include "settings/global_settings.h"
+#include "settings/settings.h"
 #include "text/document_text.h"
 #include "text/pair_rule.h"
 
@@ -49,7 +50,7 @@ FileOpening::FileOpening(const Context &context, const Parts &parts)
 void FileOpening::restoreKeyboard()
 {
     // Some text controls change the layout by themselves when they load another character set.
-    if (m_context.settings.ForeignLanguageKBInputFix != 0
+    if (m_context.settings.of<EditorSettings>().ForeignLanguageKBInputFix
         && m_context.keyboard.layoutName() != m_keyboardLayout) {
         m_context.keyboard.loadLayout(m_keyboardLayout);
     }

@@ -5,13 +5,14 @@
 
 #include "documents/coloured_copies.h"
 #include "documents/editor_view.h"
+#include "editor/editor_settings.h"
 #include "platform/clock.h"
 #include "platform/core/file_attributes.h"
 #include "platform/core/text1252.h"
 #include "platform/dialogs.h"
 #include "platform/overwrite_question.h"
 #include "platform/status_line.h"
-#include "settings/global_settings.h"
+#include "settings/settings.h"
 #include "text/date_stamp.h"
 #include "text/document_text.h"
 
@@ -106,7 +107,7 @@ void FileSaving::SaveText(Document &document)
     if (!encodable(document, Stranger::Show)) {
         return;
     }
-    if (m_context.settings.UpdateModified == 1) {
+    if (m_context.settings.of<EditorSettings>().UpdateModified) {
         ModifyDate(document);
     }
     write(document, Document::Save::Asked);

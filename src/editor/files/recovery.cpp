@@ -10,7 +10,8 @@
 #include "platform/dialogs.h"
 #include "platform/handlers.h"
 #include "platform/status_line.h"
-#include "settings/global_settings.h"
+#include "settings/settings.h"
+#include "settings/shared_settings.h"
 #include "text/date_stamp.h"
 #include "text/document_text.h"
 
@@ -167,7 +168,8 @@ bool Recovery::isInHand(const RecoveredText &recovered) const
 /// Shows the text if the user wants it. It is kept on disk again before the old file goes.
 bool Recovery::offer(const RecoveredText &recovered, bool &taken)
 {
-    if (m_context.dialogs.box(offerBox(recovered, m_context.settings.PilotCallsign))
+    if (m_context.dialogs.box(
+            offerBox(recovered, m_context.settings.of<SharedSettings>().PilotCallsign))
         != BoxButton::Yes) {
         return false;
     }

@@ -4,7 +4,8 @@
 #include "editor/files/use_directives.h"
 
 #include "documents/documents.h"
-#include "settings/global_settings.h"
+#include "settings/settings.h"
+#include "settings/shared_settings.h"
 
 namespace zeph {
 
@@ -41,10 +42,10 @@ void UseDirectives::GetUSEZephstatements()
     m_textFilePath = found(m_statements.ZephReadme);
     // The viewers show these next; a file that names none leaves them what they had.
     if (!m_imageFilePath.isEmpty()) {
-        m_context.settings.ImageFilePath = m_imageFilePath;
+        m_context.settings.of<SharedSettings>().ImageFilePath = m_imageFilePath;
     }
     if (!m_textFilePath.isEmpty()) {
-        m_context.settings.TextFilePath = m_textFilePath;
+        m_context.settings.of<SharedSettings>().TextFilePath = m_textFilePath;
     }
     Q_EMIT filesChanged();
 }

@@ -3,6 +3,7 @@
 
 #include "editor/files/foreign_keyboard.h"
 
+#include "editor/editor_settings.h"
 #include "tests/shell/shell_world.h"
 
 #include <QApplication>
@@ -22,7 +23,7 @@ struct KeyboardFix : test::ShellWorld {
     KeyboardFix()
     {
         keyboard.layout = u"0000040C"_s;
-        new ForeignKeyBSupport(keyboard, settings, &window);
+        new ForeignKeyBSupport(keyboard, settings.of<EditorSettings>(), &window);
         keyboard.layout = u"00000409"_s;
     }
     static void focus(QWidget &widget)
@@ -36,7 +37,7 @@ struct KeyboardFix : test::ShellWorld {
 
 TEST_F(KeyboardFix, PutsTheRememberedLayoutBackWhenATextBoxGetsTheFocus)
 {
-    settings.ForeignLanguageKBInputFix = 1;
+    settings.of<EditorSettings>().ForeignLanguageKBInputFix = true;
     focus(box);
     EXPECT_EQ(keyboard.loaded, QStringList{ u"0000040C"_s });
     focus(box);
@@ -51,7 +52,7 @@ TEST_F(KeyboardFix, DoesNothingWithTheSettingOff)
 
 TEST_F(KeyboardFix, LeavesOtherControlsAlone)
 {
-    settings.ForeignLanguageKBInputFix = 1;
+    settings.of<EditorSettings>().ForeignLanguageKBInputFix = true;
     focus(button);
     EXPECT_TRUE(keyboard.loaded.isEmpty());
 }

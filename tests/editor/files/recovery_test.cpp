@@ -4,11 +4,13 @@
 #include "documents/change.h"
 #include "editor/files/recovery.h"
 
+#include "editor/editor_settings.h"
 #include "editor/files/auto_save.h"
 #include "editor/files/file_new.h"
 #include "editor/files/file_opening.h"
 #include "editor/files/file_saving.h"
 #include "editor/files/loss_guards.h"
+#include "settings/shared_settings.h"
 #include "tests/documents/editor_fixture.h"
 
 #include <QFile>
@@ -26,8 +28,8 @@ class RecoveryTest : public EditorTest
 protected:
     RecoveryTest()
     {
-        settings.PilotCallsign = u"buddy"_s;
-        settings.BackUpFolder = folder.file(u"Backup/"_s);
+        settings.of<SharedSettings>().PilotCallsign = u"buddy"_s;
+        settings.of<EditorSettings>().BackUpFolder = folder.file(u"Backup/"_s);
     }
     Recovery &recovery() { return editor->guards().recovery; }
     QString parent() const { return folder.file(u"Recovery"_s); }
@@ -185,7 +187,8 @@ TEST_F(RecoveryTest, ASecondTextOfTheKindDoesNotPushTheFirstOut)
     dialogs.answer(offerTitle, BoxButton::Yes);
     recovery().offerLeft();
     EXPECT_EQ(editor->macroText(), u"third");
-    const QStringList backups = QDir(settings.BackUpFolder).entryList(QDir::Files, QDir::Name);
+    const QStringList backups =
+        QDir(settings.of<EditorSettings>().BackUpFolder).entryList(QDir::Files, QDir::Name);
     ASSERT_EQ(backups.size(), 1);
     // Which of the two runs is the later one is the file system's word.
     const bool firstShown = editor->joystickText() == u"first"_s;
@@ -292,7 +295,7 @@ TEST_F(RecoveryTest, ATextThatAFallenRunHadTakenBackItselfIsOfferedOnce)
     dialogs.answer(offerTitle, BoxButton::Yes);
     recovery().offerLeft();
     EXPECT_EQ(editor->joystickText(), u"BTN S1 more");
-    EXPECT_TRUE(QDir(settings.BackUpFolder).entryList(QDir::Files).isEmpty());
+    EXPECT_TRUE(QDir(settings.of<EditorSettings>().BackUpFolder).entryList(QDir::Files).isEmpty());
     EXPECT_FALSE(QFile::exists(parent() + u"/7"_s));
     EXPECT_FALSE(QFile::exists(parent() + u"/8"_s));
 }
