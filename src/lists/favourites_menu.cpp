@@ -3,9 +3,9 @@
 
 #include "lists/favourites_menu.h"
 
+#include "documents/foreign_keyboard.h"
 #include "editor/editor.h"
 #include "editor/files/file_opening.h"
-#include "editor/files/foreign_keyboard.h"
 #include "lists/enterfavouritename.h"
 #include "menus/menu_actions.h"
 #include "menus/menu_array.h"

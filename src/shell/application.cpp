@@ -4,9 +4,9 @@
 #include "shell/application.h"
 
 #include "documents/editor_view.h"
+#include "documents/foreign_keyboard.h"
 #include "editor/editor.h"
 #include "editor/files/backup_folder.h"
-#include "editor/files/foreign_keyboard.h"
 #include "editor/files/loss_guards.h"
 #include "editor/files/printing.h"
 #include "lists/user_lists.h"

@@ -12,7 +12,7 @@
 #include "shell/help_menu.h"
 #include "shell/informationwindow.h"
 #include "shell/mum.h"
-#include "toolchain/compilerhelp.h"
+#include "toolchain/compile/compilerhelp.h"
 #include "toolchain/hotas_ini.h"
 
 namespace zeph {

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "toolchain/compile.h"
+#include "toolchain/compile/compile.h"
 
 #include <QObject>
 

@@ -3,10 +3,10 @@
 
 #pragma once
 
-#include "toolchain/after_download.h"
-#include "toolchain/cougar_modes.h"
+#include "toolchain/compile/after_download.h"
 #include "toolchain/handshake.h"
-#include "toolchain/profiles.h"
+#include "toolchain/modes/cougar_modes.h"
+#include "toolchain/modes/profiles.h"
 
 #include <QObject>
 

@@ -9,9 +9,9 @@
 #include "menus/menu_actions.h"
 #include "settings/settings_files.h"
 #include "shell/compile_menu.h"
-#include "toolchain/after_download.h"
-#include "toolchain/cougar_modes.h"
-#include "toolchain/profiles.h"
+#include "toolchain/compile/after_download.h"
+#include "toolchain/modes/cougar_modes.h"
+#include "toolchain/modes/profiles.h"
 
 #include <QAction>
 

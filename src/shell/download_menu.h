@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "toolchain/download.h"
+#include "toolchain/compile/download.h"
 
 #include <QObject>
 

@@ -3,7 +3,7 @@
 
 #include "shell/first_run.h"
 
-#include "editor/files/foreign_keyboard.h"
+#include "documents/foreign_keyboard.h"
 #include "lists/favourites_menu.h"
 #include "lists/flight_sims.h"
 #include "lists/user_lists.h"

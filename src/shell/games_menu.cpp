@@ -4,20 +4,20 @@
 #include "shell/games_menu.h"
 
 #include "documents/editor_view.h"
+#include "documents/foreign_keyboard.h"
 #include "editor/editor.h"
 #include "editor/files/file_opening.h"
 #include "editor/files/file_saving.h"
-#include "editor/files/foreign_keyboard.h"
 #include "menus/menu_actions.h"
 #include "menus/menu_array.h"
 #include "platform/tool_windows.h"
 #include "settings/global_settings.h"
 #include "shell/compile_menu.h"
 #include "shell/mum.h"
-#include "toolchain/after_download.h"
-#include "toolchain/cougar_modes.h"
-#include "toolchain/entergamename.h"
-#include "toolchain/profiles.h"
+#include "toolchain/compile/after_download.h"
+#include "toolchain/games/entergamename.h"
+#include "toolchain/modes/cougar_modes.h"
+#include "toolchain/modes/profiles.h"
 
 #include <QAction>
 #include <QMenu>

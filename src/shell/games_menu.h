@@ -3,8 +3,8 @@
 
 #pragma once
 
-#include "toolchain/game_launch.h"
-#include "toolchain/games.h"
+#include "toolchain/games/game_launch.h"
+#include "toolchain/games/games.h"
 
 #include <QObject>
 

@@ -7,7 +7,7 @@
 #include "menus/menu_actions.h"
 #include "platform/tool_windows.h"
 #include "shell/mum.h"
-#include "toolchain/cougar_modes.h"
+#include "toolchain/modes/cougar_modes.h"
 
 #include <QAction>
 

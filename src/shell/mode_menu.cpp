@@ -8,7 +8,7 @@
 #include "platform/handlers.h"
 #include "shell/main_status_bar.h"
 #include "shell/mum.h"
-#include "toolchain/cougar_modes.h"
+#include "toolchain/modes/cougar_modes.h"
 
 namespace zeph {
 

@@ -3,11 +3,11 @@
 
 #include "shell/preferences_menu.h"
 
+#include "documents/foreign_keyboard.h"
 #include "documents/highlighting.h"
 #include "documents/undo_history.h"
 #include "editor/editor.h"
 #include "editor/files/file_new.h"
-#include "editor/files/foreign_keyboard.h"
 #include "editor/files/loss_guards.h"
 #include "lists/user_lists.h"
 #include "menus/menu_actions.h"

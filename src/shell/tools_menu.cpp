@@ -8,9 +8,9 @@
 #include "settings/settings_files.h"
 #include "settings/settings_moments.h"
 #include "shell/mum.h"
-#include "toolchain/formresetoptions.h"
-#include "toolchain/profiles.h"
-#include "toolchain/selectprofileform.h"
+#include "toolchain/modes/formresetoptions.h"
+#include "toolchain/modes/profiles.h"
+#include "toolchain/modes/selectprofileform.h"
 
 #include <QAction>
 

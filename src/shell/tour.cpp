@@ -19,7 +19,7 @@
 #include "shell/mum.h"
 #include "shell/welcome.h"
 #include "templates/templateform.h"
-#include "toolchain/mode_rules.h"
+#include "toolchain/modes/mode_rules.h"
 
 #include <QAbstractButton>
 #include <QApplication>

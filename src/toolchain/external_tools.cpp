@@ -5,9 +5,9 @@
 
 #include "platform/dialogs.h"
 #include "platform/status_line.h"
-#include "toolchain/cougar_modes.h"
-#include "toolchain/missing_tools.h"
+#include "toolchain/modes/cougar_modes.h"
 #include "toolchain/tool_commands.h"
+#include "toolchain/tool_messages.h"
 
 namespace zeph {
 

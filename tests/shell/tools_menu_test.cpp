@@ -8,8 +8,8 @@
 #include "platform/core/profile_file.h"
 #include "shell/mum.h"
 #include "tests/shell/shell_world.h"
-#include "toolchain/formresetoptions.h"
-#include "toolchain/selectprofileform.h"
+#include "toolchain/modes/formresetoptions.h"
+#include "toolchain/modes/selectprofileform.h"
 
 #include <QAction>
 #include <QApplication>

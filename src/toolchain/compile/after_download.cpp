@@ -1,0 +1,121 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#include "toolchain/compile/after_download.h"
+
+#include "platform/core/file_io.h"
+#include "platform/dialogs.h"
+#include "platform/handlers.h"
+#include "settings/global_settings.h"
+#include "text/document_text.h"
+#include "text/use_statements.h"
+
+#include <QCoreApplication>
+
+namespace zeph {
+
+namespace {
+
+/// The root of the drive that a command's path begins with: the folder in which it starts.
+QString rootOfCommand(const QString &command)
+{
+    return rootOf(command.startsWith(u'"') ? command.sliced(1) : command);
+}
+
+constexpr QStringView head = u"use zeph run_app";
+/// What no line that names an application falls below: the head, a blank and three characters.
+constexpr qsizetype shortestLine = 20;
+constexpr qsizetype commandAt = head.size() + 1;
+
+QString trimmedRight(QString text)
+{
+    while (text.endsWith(u' ')) {
+        text.chop(1);
+    }
+    return text;
+}
+
+QString withoutComment(const QString &command)
+{
+    const qsizetype rem = command.indexOf(u"rem "_s, 0, Qt::CaseInsensitive);
+    return trimmedRight(rem < 0 ? command : command.first(rem));
+}
+
+WindowStyle styleOf(QChar digit)
+{
+    return digit >= u'0' && digit <= u'4' ? WindowStyle(digit.digitValue())
+                                          : WindowStyle::MinimisedNoFocus;
+}
+
+std::optional<RunApp> runAppOf(QStringView raw)
+{
+    if (raw.size() < shortestLine || !raw.contains(u"use", Qt::CaseInsensitive)) {
+        return std::nullopt;
+    }
+    const QString line = normalisedLine(raw);
+    if (line.size() < shortestLine || !line.startsWith(head, Qt::CaseInsensitive)) {
+        return std::nullopt;
+    }
+    RunApp app{ .command = withoutComment(line.sliced(commandAt)) };
+    const qsizetype word = app.command.indexOf(u"window_style"_s, 0, Qt::CaseInsensitive);
+    if (word >= 0) {
+        app.style = styleOf(app.command.back());
+        app.command = trimmedRight(app.command.first(word));
+    }
+    return app;
+}
+
+} // namespace
+
+QList<RunApp> runAppLines(QStringView joystickText)
+{
+    QList<RunApp> apps;
+    for (const QStringView line : joystickText.split(u'\n')) {
+        if (const auto app = runAppOf(line)) {
+            apps.append(*app);
+        }
+    }
+    return apps;
+}
+
+bool AfterDownload::started(const Launch &launch)
+{
+    const auto result = m_context.launcher.start(launch);
+    if (!result) {
+        tellEscaped(m_context.dialogs, result.error());
+    }
+    return result.has_value();
+}
+
+void AfterDownload::TurnNumLockOn()
+{
+    const QString helper = m_context.paths.inApp(u"ZephNUMLon.exe");
+    if (!fileExists(helper)) {
+        m_context.dialogs.tell(u"Where is it?"_s,
+                               u"I couldn't find ZephNUMLon.exe - it should be in the same "
+                               u"directory as Zeph.exe. What have you done with it? "_s,
+                               BoxIcon::Exclamation);
+        return;
+    }
+    started({ helper, {}, m_context.paths.appFolder, WindowStyle::NormalFocus });
+}
+
+void AfterDownload::GetAppsToRun(const QString &joystickText)
+{
+    if (m_context.settings.RunAppsWithDownload == 1 || joystickText.isEmpty()) {
+        return;
+    }
+    // Only a copy for the curious: the lines are read from the text itself, so that a full disk
+    // keeps nobody from flying.
+    (void)writeFileAtomically(m_context.paths.tempFolder() + u"Original.txt"_s,
+                              documentBytes(joystickText));
+    for (const RunApp &app : runAppLines(joystickText)) {
+        if (!started(launchFromCommand(app.command, rootOfCommand(app.command), app.style))) {
+            return;
+        }
+        // The windows are drawn between two starts; a command of the user comes behind the last.
+        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    }
+}
+
+} // namespace zeph

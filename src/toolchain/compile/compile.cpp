@@ -1,0 +1,122 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#include "toolchain/compile/compile.h"
+
+#include "documents/editor_document.h"
+#include "platform/dialogs.h"
+#include "platform/status_line.h"
+#include "settings/global_settings.h"
+#include "toolchain/compile/verdict.h"
+#include "toolchain/handshake.h"
+#include "toolchain/tool_commands.h"
+
+#include <utility>
+
+namespace zeph {
+
+Compile::Compile(const Context &context, ToolchainHandshake &handshake, CompileHost host)
+    : m_context(context), m_handshake(handshake), m_host(std::move(host))
+{
+}
+
+void Compile::mnuAppsCompile_Click()
+{
+    if (!canBegin() || !saveJoystick() || !macroFileMayDiffer()) {
+        return;
+    }
+    m_host.unloadHelpers();
+    m_host.minimiseToolWindows();
+    // The user may open another file during the wait: the verdict is about this one.
+    const QString path = m_host.joystick().path;
+    m_handshake.setStatusCaption(u"Compiling "_s + m_host.joystick().caption());
+    const ExchangeEnd end =
+        m_handshake.runCompiler(compilerLaunch(m_context.paths, CompilerCommand::Compile, path));
+    if (end == ExchangeEnd::Abandoned || end == ExchangeEnd::NotStarted) {
+        return;
+    }
+    const bool givenUp = end == ExchangeEnd::GivenUp;
+    if (givenUp) {
+        m_context.dialogs.box(
+            compilerTimeOutBox(CompilerTask::Compile, m_context.settings.PilotCallsign));
+    }
+    m_context.status.setText(panelAfterCompilerWait(givenUp));
+    tellOutcome(path);
+}
+
+bool Compile::canBegin()
+{
+    if (m_host.joystickText().isEmpty()) {
+        m_context.dialogs.tell(
+            u"Nothing to compile ..."_s,
+            u"The Joystick file is empty, so there's not much point in me trying to compile it!. "
+            u"Load up a joystick file, or create one, or just put your feet up and watch TV."_s);
+        return false;
+    }
+    const QString compiler = m_context.paths.compiler();
+    if (!fileExists(compiler)) {
+        m_context.dialogs.tell(
+            u"Compiler not found"_s,
+            u"I couldn't locate the Compiler, which according to your preferences should be at: "_s
+                + compiler + u", so I cannot compile the file. Sorry "_s
+                + m_context.settings.PilotCallsign + u'!',
+            BoxIcon::Exclamation);
+        return false;
+    }
+    return true;
+}
+
+/// To compile means to save, so nobody is asked. Whether the file on the disk is the edited one.
+bool Compile::saveJoystick()
+{
+    if (!m_host.joystick().isModified()) {
+        return true;
+    }
+    m_host.selectJoystickTab();
+    m_host.mnuFileSave_Click();
+    if (!m_host.joystick().isModified()) {
+        return true;
+    }
+    // Nothing hangs on the answer: a compile of another text than the edited one helps nobody.
+    m_context.dialogs.ask(
+        u"Hang on a minute ..."_s,
+        u"The joystick file isn't saved, which it needs to be for me to be able to compile it"_s);
+    return false;
+}
+
+bool Compile::macroFileMayDiffer()
+{
+    if (!m_host.macro().isModified() || m_host.macroText().isEmpty()) {
+        return true;
+    }
+    return m_context.dialogs.ask(
+        u"Hang on a minute ..."_s,
+        u"The macro file isn't saved, so when I compile the joystick file, there's a danger that "
+        u"the compile might fail or not give the correct response. This will be because the "
+        u"compiler is using the macros from the saved file, not the one currently open. Do you "
+        u"want to continue anyway?"_s);
+}
+
+void Compile::tellOutcome(const QString &path)
+{
+    const CompilerVerdict verdict = HotasIni(m_context.paths.hotasIni()).readCompiler();
+    const VerdictTelling telling = tellVerdict(verdict, CompilerTask::Compile, path,
+                                               m_context.settings.HOTASStatusBarErrors != 0);
+    if (!telling.panel.isEmpty()) {
+        m_context.status.setText(telling.panel);
+    }
+    if (telling.box) {
+        m_context.dialogs.box(*telling.box);
+    }
+    if (telling.showHelp) {
+        m_host.showCompilerHelp(verdict);
+    }
+    if (telling.highlightLine != 0) {
+        m_host.HighlightErrorLine(telling.highlightLine, verdict.ErrorCode);
+    }
+    if (!telling.failed) {
+        m_host.ResetFocusToEditor();
+    }
+}
+
+} // namespace zeph

@@ -1,0 +1,53 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#include "toolchain/compile/error_codes.h"
+
+#include "platform/core/file_io.h"
+#include "platform/core/paths.h"
+#include "platform/core/rtf.h"
+#include "platform/core/text_search.h"
+
+#include <algorithm>
+
+namespace zeph {
+
+namespace {
+
+constexpr qsizetype codeLength = 10;
+/// From here on, an entry's own first word is not found again.
+constexpr qsizetype behindOwnWord = 5;
+
+} // namespace
+
+std::optional<ErrorEntry> findErrorEntry(QStringView text, QStringView errorText)
+{
+    const qsizetype start = findText(text, errorText.left(codeLength), 0, SearchPlain);
+    if (start < 0) {
+        return std::nullopt;
+    }
+    const qsizetype behind = std::min(start + behindOwnWord, text.size());
+    const qsizetype next = findText(text, u"ERROR", behind, SearchMatchCase);
+    const qsizetype lineEnd = text.indexOf(u'\n', behind);
+    return ErrorEntry{
+        start,
+        next < 0 ? text.size() : next,
+        lineEnd < 0 ? std::min(start + errorText.size(), text.size()) : lineEnd,
+    };
+}
+
+Expected<RichText, QString> readErrorCodes(const QString &path)
+{
+    const QString onDisk = existingPath(path);
+    const auto bytes = readWholeFile(onDisk.isEmpty() ? path : onDisk);
+    if (!bytes) {
+        return Unexpected<QString>(bytes.error().path + u"\n\n"_s + bytes.error().reason);
+    }
+    auto text = readRtf(*bytes);
+    if (!text) {
+        return Unexpected<QString>(onDisk + u"\n\n"_s + text.error().reason);
+    }
+    return std::move(*text);
+}
+
+} // namespace zeph
