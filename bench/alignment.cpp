@@ -7,7 +7,7 @@
 #include "text/alignment.h"
 #include "documents/editor_view.h"
 #include "documents/text_control.h"
-#include "documents/undo_history.h"
+#include "documents/undo_histories.h"
 #include "editor/edit/findandreplace.h"
 #include "editor/editor.h"
 #include "platform/clock.h"
@@ -101,8 +101,7 @@ struct World {
     void reset()
     {
         {
-            const BusyGuard busy(editor->view());
-            editor->joystick().control->setText(text);
+            editor->joystick().setText(text);
         }
         editor->action(u"mnuViewColourJoystick")->trigger();
         editor->undos().startOver(DocumentKind::Joystick);
@@ -128,7 +127,7 @@ void runEntry(benchmark::State &state, World &world, QStringView entry)
     for (auto _ : state) {
         state.PauseTiming();
         world.reset();
-        world.editor->joystick().control->selectAll();
+        world.editor->view().control(DocumentKind::Joystick).selectAll();
         state.ResumeTiming();
         world.trigger(entry);
     }

@@ -23,12 +23,11 @@ using bench::World;
 void colour(Editor &editor)
 {
     const qsizetype size = editor.joystickText().size();
-    RichTextChanges changes(editor.joystick().control->richText());
+    RichTextChanges changes(editor.joystick().richText());
     for (qsizetype at = 0; at + 5 < size; at += 22) {
         changes.change(at, 5, [](CharFormat &format) { format.colour = 0x0000FF; });
     }
-    const BusyGuard busy(editor.view());
-    editor.joystick().control->setRichText(changes.take());
+    editor.joystick().setRichText(changes.take());
 }
 
 void OpenWithoutColouredCopy(benchmark::State &state)
@@ -51,7 +50,7 @@ void OpenWithColouredCopy(benchmark::State &state)
     colour(*world.editor);
     world.settings.UpdateModified = 0;
     world.editor->saving().mnuFileSave_Click();
-    state.counters["runs"] = double(world.editor->joystick().control->richText().characters.size());
+    state.counters["runs"] = double(world.editor->joystick().richText().characters.size());
     for (auto _ : state) {
         world.editor->opening().OpenFavouriteFile(world.path);
         world.editor->repaint();
@@ -74,8 +73,8 @@ void Keystroke(benchmark::State &state)
     World world;
     world.editor->opening().OpenFavouriteFile(world.path);
     colour(*world.editor);
-    TextControl *control = world.editor->joystick().control;
-    control->select(300000, 0);
+    TextControl *control = &world.editor->view().control(DocumentKind::Joystick);
+    control->shown().select(300000, 0);
     for (auto _ : state) {
         QTest::keyClick(control, Qt::Key_A);
     }

@@ -70,8 +70,8 @@ void Keystroke(benchmark::State &state)
     World world(int(state.range(0)));
     world.settings.ColourWithTyping = qint16(state.range(1));
     world.editor->opening().OpenFavouriteFile(world.path);
-    TextControl *control = world.editor->joystick().control;
-    control->select(control->end() / 2, 0);
+    TextControl *control = &world.editor->view().control(DocumentKind::Joystick);
+    control->shown().select(control->shown().length() / 2, 0);
     int keys = 0;
     for (auto _ : state) {
         // Words of eight letters, each with its blank, on lines of eight words.

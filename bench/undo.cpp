@@ -6,7 +6,7 @@
 
 #include "documents/editor_view.h"
 #include "documents/text_control.h"
-#include "documents/undo_history.h"
+#include "documents/undo_histories.h"
 #include "editor/editor.h"
 #include "menus/menu_actions.h"
 #include "platform/clock.h"
@@ -49,22 +49,21 @@ struct World {
                 + u'\n';
         }
         size = text.size();
-        RichTextChanges changes(RichText::plain(text, control().plainFormat()));
+        RichTextChanges changes(RichText::plain(text, control().shown().plain()));
         for (qsizetype at = 0; at + 5 < size; at += 22) {
             changes.change(at, 5, [](CharFormat &format) { format.colour = 0x0000FF; });
         }
-        const BusyGuard busy(editor->view());
-        control().setRichText(changes.take());
+        control().shown().setRichText(changes.take());
         editor->undos().startOver(DocumentKind::Joystick);
         QCoreApplication::processEvents();
     }
-    TextControl &control() { return *editor->joystick().control; }
+    TextControl &control() { return editor->view().control(DocumentKind::Joystick); }
     UndoHistory &history() { return editor->undos().of(DocumentKind::Joystick); }
     /// One step, far from the one before.
     void makeStep()
     {
         place = (place + 629'107) % (size - 10 * stepCount);
-        control().select(int(place), 0);
+        control().shown().select(int(place), 0);
         QTest::keyClick(&control(), Qt::Key_Delete);
     }
 
@@ -145,7 +144,6 @@ void ColouredAll(benchmark::State &state)
     for (auto _ : state) {
         state.PauseTiming();
         {
-            const BusyGuard busy(world.editor->view());
             QTextCursor all(world.control().document());
             all.select(QTextCursor::Document);
             QTextCharFormat format;

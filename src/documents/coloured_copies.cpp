@@ -3,7 +3,7 @@
 
 #include "documents/coloured_copies.h"
 
-#include "documents/text_control.h"
+#include "documents/document.h"
 #include "platform/core/rtf.h"
 
 namespace zeph {
@@ -32,12 +32,12 @@ std::optional<RichText> ColouredCopies::load(const QString &name, const QString 
     return *copy;
 }
 
-Expected<void, FileError> ColouredCopies::SaveColouredText(const EditorDocument &document) const
+Expected<void, FileError> ColouredCopies::SaveColouredText(Document &document) const
 {
-    DocumentStates &states = document.control->states();
+    DocumentStates &states = document.states();
     RtfWriter writer;
     states.readPieces(states.present(), [&writer](const RichText &piece) { writer.add(piece); });
-    return writeFileAtomically(pathOf(document.name), writer.take());
+    return writeFileAtomically(pathOf(document.name()), writer.take());
 }
 
 } // namespace zeph

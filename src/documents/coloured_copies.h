@@ -3,11 +3,13 @@
 
 #pragma once
 
-#include "documents/editor_document.h"
 #include "platform/context.h"
 #include "platform/core/file_io.h"
+#include "platform/core/rich_text.h"
 
 namespace zeph {
+
+class Document;
 
 /// The coloured copies: a document's looks, kept in one flat folder under the file's own name. A
 /// copy is a cache; the plain file is the truth.
@@ -22,7 +24,7 @@ public:
     std::optional<RichText> load(const QString &name, const QString &plainText,
                                  const CharFormat &font) const;
     /// Writes the copy of a document as it stands.
-    Expected<void, FileError> SaveColouredText(const EditorDocument &document) const;
+    Expected<void, FileError> SaveColouredText(Document &document) const;
 
 private:
     const Paths &m_paths;

@@ -3,15 +3,15 @@
 
 #include "documents/coloured_insert.h"
 
+#include "documents/change.h"
+#include "documents/documents.h"
 #include "documents/editor_view.h"
-#include "documents/text_control.h"
-#include "documents/undo_history.h"
 #include "platform/richtext/rich_text_document.h"
 #include "platform/status_line.h"
 #include "settings/global_settings.h"
 #include "text/painter.h"
 
-#include <algorithm>
+#include <QTextBlock>
 
 namespace zeph {
 
@@ -28,27 +28,27 @@ QString withLineEnds(QString text)
 
 } // namespace
 
-ColouredInsert::ColouredInsert(const Context &context, EditorView &view, UndoHistories &histories)
-    : m_context(context), m_view(view), m_histories(histories)
+ColouredInsert::ColouredInsert(const Context &context, EditorView &view)
+    : m_context(context), m_view(view)
 {
 }
 
-CharFormat ColouredInsert::plain() const
+ColouredInsert::~ColouredInsert() = default;
+
+Document &ColouredInsert::document() const
 {
-    return m_view.plainFormat(m_view.selected().kind);
+    return m_view.documents().selected();
 }
 
 void ColouredInsert::BeginColInsert()
 {
-    ++m_view.ColouringBusy;
-    m_kind = m_view.selected().kind;
-    m_refused = m_inserted = false;
-    m_histories.of(m_kind).storeTop();
+    document().history().storeTop();
+    m_change = std::make_unique<Change>(document());
 }
 
 bool ColouredInsert::InsertColouredString(const QString &text, ColorRef colour)
 {
-    CharFormat format = plain();
+    CharFormat format = document().plain();
     format.colour = colour;
     return insertRich(RichText::plain(withLineEnds(text), format));
 }
@@ -60,32 +60,30 @@ bool ColouredInsert::InsertColouredStringNoSpace(const QString &text, ColorRef c
 
 void ColouredInsert::InsertBlackBlanks()
 {
-    InsertColouredString(blackBlanks, plain().colour.value_or(0));
+    InsertColouredString(blackBlanks, document().plain().colour.value_or(0));
 }
 
 void ColouredInsert::InsertCarriageReturn()
 {
-    InsertColouredString(u"\n"_s, plain().colour.value_or(0));
+    InsertColouredString(u"\n"_s, document().plain().colour.value_or(0));
 }
 
 void ColouredInsert::AddSpaceToColouredText()
 {
-    const TextControl &control = *m_view.selected().control;
-    const int caret = control.selStart();
-    if (caret < control.end() && control.document()->characterAt(caret) != u' ') {
+    const Document &into = document();
+    const int caret = into.selStart();
+    if (caret < into.length() && into.content().characterAt(caret) != u' ') {
         TextToInsert += u' ';
     }
 }
 
 void ColouredInsert::CheckAtLineBeginning()
 {
-    const TextControl &control = *m_view.selected().control;
-    QTextCursor caret(control.document());
-    caret.setPosition(control.selStart());
-    if (!caret.atBlockStart()) {
+    const Document &into = document();
+    if (into.content().findBlock(into.selStart()).position() != into.selStart()) {
         InsertCarriageReturn();
     }
-    m_context.status.setLine(control.caretLine());
+    m_context.status.setLine(into.caretLine());
 }
 
 void ColouredInsert::MacroTransferText(const QString &text)
@@ -93,47 +91,36 @@ void ColouredInsert::MacroTransferText(const QString &text)
     if (text.isEmpty()) {
         return;
     }
-    const TextControl &control = *m_view.selected().control;
-    const int caret = control.selStart();
+    const Document &into = document();
+    const int caret = into.selStart();
     QString whole = withLineEnds(text);
     if (caret > 0) {
-        const QChar before = control.document()->characterAt(caret - 1);
+        const QChar before = into.content().characterAt(caret - 1);
         if (before != u' ' && !isBlockBorder(before)) {
             whole.prepend(u' ');
         }
     }
     RichText painted = RichText::plain(whole);
     painted.characters = characterRuns(
-        paint(whole, typingPasses(), colourScheme(m_context.settings, m_view.selected().kind)),
-        plain());
-    insertRich(std::move(painted));
+        paint(whole, typingPasses(), colourScheme(m_context.settings, into.kind())), into.plain());
+    insertRich(painted);
 }
 
-bool ColouredInsert::insertRich(RichText text)
+bool ColouredInsert::insertRich(const RichText &text)
 {
-    if (m_view.refuseProtected()) {
-        m_refused = true;
+    if (m_view.documents().refuseProtected()) {
         return false;
     }
-    const BusyGuard busy(m_view);
-    TextControl &control = *m_view.selected().control;
-    // Lines that it brings take the document's margin, not their own.
-    text.paragraphs.clear();
-    QTextCursor cursor = control.textCursor();
-    insertRichText(cursor, text);
-    control.setTextCursor(cursor);
-    control.setCurrentCharFormat(toTextFormat(plain()));
-    control.setFocus();
-    m_inserted = true;
+    document().insert(text);
+    m_view.ResetFocusToEditor();
     return true;
 }
 
 void ColouredInsert::EndColInsert()
 {
-    m_view.ColouringBusy = std::max(m_view.ColouringBusy - 1, 0);
-    if (m_inserted || !m_refused) {
-        m_histories.of(m_kind).UndoStepNext = 1;
-        m_histories.textChanged(m_kind);
+    if (m_change) {
+        m_change->commit();
+        m_change.reset();
     }
     m_view.ResetFocusToEditor();
 }

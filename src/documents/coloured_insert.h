@@ -3,25 +3,29 @@
 
 #pragma once
 
-#include "language/file_kinds.h"
 #include "platform/context.h"
 #include "platform/core/rich_text.h"
 
+#include <memory>
+
 namespace zeph {
 
+class Change;
+class Document;
 class EditorView;
-class UndoHistories;
 
 /// The one way in which a tool writes into the selected document: begin, any number of pieces in
 /// their colours, end. The whole insert is one undo step.
 class ColouredInsert
 {
 public:
-    ColouredInsert(const Context &context, EditorView &view, UndoHistories &histories);
+    ColouredInsert(const Context &context, EditorView &view);
+    ~ColouredInsert();
 
-    /// Raises ColouringBusy and puts the present looks and caret into the document's top undo slot.
+    /// Begins a Change of the selected document and puts the present looks and caret into its top
+    /// undo slot.
     void BeginColInsert();
-    /// Inserts at the caret (a selection is deleted first); the caret goes behind it and typing
+    /// Inserts at the caret (a selection is deleted first); the caret goes to its end and typing
     /// goes on in the plain colour. A line end may be CR LF. A protected macro file is refused with
     /// the box. False when refused.
     bool InsertColouredString(const QString &text, ColorRef colour);
@@ -37,23 +41,20 @@ public:
     void MacroTransferText(const QString &text);
     /// Inserts rich text over the selection, as InsertColouredString does. Margins are the
     /// document's own. False when refused.
-    bool insertRich(RichText text);
-    /// Lowers ColouringBusy, makes the whole insert one undo step, returns the focus to the Editor.
-    /// When all of it was refused there is no step.
+    bool insertRich(const RichText &text);
+    /// Commits the Change, so that the whole insert is one undo step, and returns the focus to the
+    /// Editor. When nothing was inserted there is no step.
     void EndColInsert();
 
     /// What AddSpaceToColouredText works on.
     QString TextToInsert;
 
 private:
-    CharFormat plain() const;
+    Document &document() const;
 
     Context m_context;
     EditorView &m_view;
-    UndoHistories &m_histories;
-    DocumentKind m_kind = DocumentKind::Joystick; ///< of the document since Begin
-    bool m_refused = false;
-    bool m_inserted = false;
+    std::unique_ptr<Change> m_change; ///< from Begin to End
 };
 
 } // namespace zeph

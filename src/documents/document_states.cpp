@@ -7,6 +7,7 @@
 
 #include <QTextCursor>
 
+#include <algorithm>
 #include <limits>
 #include <unordered_set>
 
@@ -115,6 +116,15 @@ qsizetype DocumentState::bytesHeld(std::span<const DocumentState> states)
         }
     }
     return bytes;
+}
+
+bool operator==(const DocumentState &one, const DocumentState &other)
+{
+    const auto areEqual = [](const auto &left, const auto &right) {
+        return left == right || *left == *right;
+    };
+    return one.m_chunks == other.m_chunks
+        || std::ranges::equal(*one.m_chunks, *other.m_chunks, areEqual);
 }
 
 DocumentStates::DocumentStates(QTextDocument &document, int linesPerChunk)

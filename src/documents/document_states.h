@@ -45,6 +45,8 @@ class DocumentState
 public:
     /// Bytes that states hold together; what they share counts once.
     static qsizetype bytesHeld(std::span<const DocumentState> states);
+    /// Whether two states of one document hold the same text in the same looks.
+    friend bool operator==(const DocumentState &one, const DocumentState &other);
 
 private:
     friend class DocumentStates;

@@ -5,32 +5,32 @@
 
 namespace zeph {
 
-Box saveQuestion(const EditorDocument &document, const QString &why)
+Box saveQuestion(const Document &document, const QString &why)
 {
-    return { u" Save "_s + document.name + u" now?"_s,
-             document.name + why,
+    return { u" Save "_s + document.name() + u" now?"_s,
+             document.name() + why,
              BoxIcon::Exclamation,
              { BoxButton::Yes, BoxButton::No, BoxButton::Cancel },
              BoxButton::Yes };
 }
 
-Box wontContinueBox(const EditorDocument &document, DocumentKind wanted)
+Box wontContinueBox(const Document &document, DocumentKind wanted)
 {
     const QString kind =
         wanted == DocumentKind::Joystick ? u"new joystick file"_s : u"new macro file"_s;
     return { u"Hmmm...let me think..."_s,
-             document.name + u" wasn't saved, so I won't continue to load up a "_s + kind
+             document.name() + u" wasn't saved, so I won't continue to load up a "_s + kind
                  + u" just in case you pressed the cancel button by accident."_s,
              BoxIcon::Information };
 }
 
-Box reloadBox(const EditorDocument &document)
+Box reloadBox(const Document &document)
 {
     const QString loss = document.isModified()
         ? u" What you've changed since you last saved it would be gone."_s
         : QString();
-    return { u"Open "_s + document.name + u" again?"_s,
-             document.name
+    return { u"Open "_s + document.name() + u" again?"_s,
+             document.name()
                  + u" is open here, and its file has just been overwritten. Shall I open the new "
                    "one instead of what you see?"_s
                  + loss,
@@ -56,15 +56,15 @@ QString tabStatus(const QString &current, const QString &caption, bool isProtect
                        : u"Editing "_s + caption;
 }
 
-QString savedTooltip(const EditorDocument &document)
+QString savedTooltip(const Document &document)
 {
-    switch (document.state) {
-    case EditorDocument::Empty:
-        return document.name + u" has no text and isn't saved"_s;
-    case EditorDocument::Saved:
-        return document.name + u" is saved"_s;
+    switch (document.state()) {
+    case Document::Empty:
+        return document.name() + u" has no text and isn't saved"_s;
+    case Document::Saved:
+        return document.name() + u" is saved"_s;
     default:
-        return document.name + u" has been modified and isn't saved"_s;
+        return document.name() + u" has been modified and isn't saved"_s;
     }
 }
 

@@ -5,19 +5,19 @@
 
 // The Editor's own words that more than one place says.
 
-#include "documents/editor_document.h"
+#include "documents/document.h"
 #include "platform/dialogs.h"
 
 namespace zeph {
 
 /// The Yes, No and Cancel box before an unsaved document is replaced or the program ends.
-Box saveQuestion(const EditorDocument &document, const QString &why);
+Box saveQuestion(const Document &document, const QString &why);
 
 /// The box that a save which the user perhaps cancelled by accident ends in.
-Box wontContinueBox(const EditorDocument &document, DocumentKind wanted);
+Box wontContinueBox(const Document &document, DocumentKind wanted);
 
 /// The question whether to open a document again whose file was overwritten on disk.
-Box reloadBox(const EditorDocument &document);
+Box reloadBox(const Document &document);
 
 /// The refusal of every operation that would change a protected macro file.
 Box fileProtectedBox();
@@ -27,6 +27,6 @@ Box fileProtectedBox();
 QString tabStatus(const QString &current, const QString &caption, bool isProtected = false);
 
 /// Tooltip of the saved state's picture.
-QString savedTooltip(const EditorDocument &document);
+QString savedTooltip(const Document &document);
 
 } // namespace zeph

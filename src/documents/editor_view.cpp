@@ -17,8 +17,8 @@
 
 namespace zeph {
 
-EditorView::EditorView(const Context &context, QWidget *parent)
-    : QWidget(parent), m_context(context)
+EditorView::EditorView(const Context &context, Documents &documents, QWidget *parent)
+    : QWidget(parent), m_context(context), m_documents(documents)
 {
     m_tabs = new QTabBar;
     m_tabs->setObjectName(u"TabStrip1"_s);
@@ -28,13 +28,13 @@ EditorView::EditorView(const Context &context, QWidget *parent)
     m_tabs->addTab(QString());
     m_tabs->setTabIcon(0, iconFromFile(context.paths.inApp(u"icons/tab-joystick.svg")));
     m_tabs->setTabIcon(1, iconFromFile(context.paths.inApp(u"icons/tab-macro.svg")));
-    makeControl(DocumentKind::Joystick, u"JoystickText"_s);
-    makeControl(DocumentKind::Macro, u"MacroText"_s);
+    makeControl(documents.joystick(), u"JoystickText"_s);
+    makeControl(documents.macro(), u"MacroText"_s);
 
     auto *texts = new QHBoxLayout;
     texts->setSpacing(4);
-    for (const EditorDocument &each : m_documents) {
-        texts->addWidget(each.control, 1);
+    for (TextControl *control : m_controls) {
+        texts->addWidget(control, 1);
     }
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(4, 4, 4, 4);
@@ -42,88 +42,142 @@ EditorView::EditorView(const Context &context, QWidget *parent)
     layout->addWidget(m_tabs);
     layout->addLayout(texts, 1);
 
-    renameFresh(DocumentKind::Joystick);
-    renameFresh(DocumentKind::Macro);
+    updateCaptions();
     applyLook();
     PositionControls();
     UpdateSavedIcon();
-    connect(m_tabs, &QTabBar::currentChanged, this, &EditorView::onTabChanged);
+    connect(m_tabs, &QTabBar::currentChanged, this,
+            [this](int index) { m_documents.select(DocumentKind(index)); });
+    connect(&documents, &Documents::selectedChanged, this, &EditorView::showSelected);
+    connect(&documents, &Documents::protectedChanged, this, &EditorView::showProtected);
 }
 
-void EditorView::makeControl(DocumentKind kind, const QString &name)
+void EditorView::makeControl(Document &document, const QString &name)
 {
-    auto *control = new TextControl(this);
+    const DocumentKind kind = document.kind();
+    auto *control = new TextControl(document, this);
     control->setObjectName(name);
     control->setAccessibleName(kind == DocumentKind::Joystick ? u"Joystick file"_s
                                                               : u"Macro file"_s);
-    EditorDocument &each = document(kind);
-    each.kind = kind;
-    each.control = control;
-    connect(control, &TextControl::focused, this, [this, kind] { select(kind); });
-    connect(control, &TextControl::textChanged, this, [this, kind] { onTextChanged(kind); });
-    connect(control, &TextControl::cursorPositionChanged, this,
-            [this, kind] { storeCaret(document(kind)); });
-    connect(control, &TextControl::selectionChanged, this, [this, kind] {
-        storeCaret(document(kind));
-        Q_EMIT selectionChanged();
+    m_controls[size_t(kind)] = control;
+    control->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(control, &QWidget::customContextMenuRequested, this,
+            [this, control, kind](const QPoint &at) {
+                Q_EMIT popUpWanted(kind, control->viewport()->mapToGlobal(at));
+            });
+    connect(control, &TextControl::focused, this, [this, kind] { m_documents.select(kind); });
+    connectDocument(document);
+}
+
+void EditorView::connectDocument(Document &document)
+{
+    connect(&document, &Document::renamed, this, &EditorView::updateCaptions);
+    connect(&document, &Document::stateChanged, this, &EditorView::UpdateSavedIcon);
+    connect(&document, &Document::caretMoved, this, [this, &document] {
+        if (&document == &m_documents.selected()) {
+            m_context.status.setLine(document.caretLine());
+        }
     });
 }
 
-void EditorView::onTextChanged(DocumentKind kind)
+void EditorView::showSelected()
 {
-    if (ColouringBusy > 0) {
-        return;
-    }
-    EditorDocument &each = document(kind);
-    if (each.control->end() == 0) {
-        // What goes into the emptied text has the document's margin, whatever stood there before.
-        const BusyGuard busy(*this);
-        setParagraphFormat(*each.control->document(), documentParagraph);
-    }
-    setState(each, EditorDocument::Modified);
-    Q_EMIT edited(kind);
-}
-
-void EditorView::storeCaret(EditorDocument &each)
-{
-    each.caret = each.control->selStart();
-    each.selLength = each.control->selLength();
-    if (&each == &selected()) {
-        m_context.status.setLine(each.control->caretLine());
-    }
-}
-
-void EditorView::select(DocumentKind kind)
-{
-    m_tabs->setCurrentIndex(int(kind));
-}
-
-void EditorView::onTabChanged(int index)
-{
-    m_selected = DocumentKind(index);
-    EditorDocument &now = selected();
+    const Document &now = m_documents.selected();
+    m_tabs->setCurrentIndex(int(now.kind()));
     if (m_tiled) {
         ShowBothFiles();
     } else {
         PositionControls();
     }
-    const bool isProtected = m_selected == DocumentKind::Macro && m_protected;
+    const bool isProtected = now.kind() == DocumentKind::Macro && m_documents.isProtected();
     m_context.status.setText(tabStatus(m_context.status.text(), now.caption(), isProtected));
     UpdateSavedIcon();
-    now.control->setFocus();
-    if (now.caret != now.control->selStart() || now.selLength != now.control->selLength()) {
-        // Only then: selecting scrolls, and a click into the other of two tiled texts has to hit
-        // what the user sees.
-        now.control->select(now.caret, now.selLength);
+    ResetFocusToEditor();
+    m_context.status.setLine(now.caretLine());
+}
+
+void EditorView::centreCaret(DocumentKind kind)
+{
+    control(kind).centerCursor();
+}
+
+EditorView::KeptPlace::KeptPlace(EditorView &view, const Document &document)
+    : m_control(view.control(document.kind())), m_scroll(m_control.scroll())
+{
+}
+
+EditorView::KeptPlace::~KeptPlace()
+{
+    m_control.setScroll(m_scroll);
+}
+
+EditorView::KeptLine::KeptLine(EditorView &view, const Document &document)
+    : m_control(view.control(document.kind())), m_down(m_control.scroll().down)
+{
+}
+
+EditorView::KeptLine::~KeptLine()
+{
+    m_control.setScroll({ 0, m_down });
+}
+
+void EditorView::watchMouse(DocumentKind kind, QObject &filter)
+{
+    QWidget *viewport = control(kind).viewport();
+    viewport->setMouseTracking(true);
+    viewport->installEventFilter(&filter);
+}
+
+std::optional<DocumentKind> EditorView::kindOf(const QObject *watched) const
+{
+    const auto found = std::ranges::find(m_controls, watched);
+    return found == m_controls.end() ? std::nullopt
+                                     : std::optional(DocumentKind(found - m_controls.begin()));
+}
+
+int EditorView::characterAt(DocumentKind kind, const QPoint &at) const
+{
+    const TextControl &control = this->control(kind);
+    const QTextCursor nearest = control.cursorForPosition(at);
+    const QRect place = control.cursorRect(nearest);
+    if (at.y() < place.top() || at.y() > place.bottom()) {
+        return -1;
     }
-    m_context.status.setLine(now.control->caretLine());
-    Q_EMIT tabSelected(m_selected);
-    Q_EMIT selectionChanged();
+    // The place nearest to the point may be the one after the character that the point is on.
+    if (at.x() >= place.left()) {
+        return nearest.position();
+    }
+    return nearest.atBlockStart() ? -1 : nearest.position() - 1;
+}
+
+QPoint EditorView::belowCaret() const
+{
+    const TextControl &control = selectedControl();
+    return control.viewport()->mapToGlobal(control.cursorRect().bottomLeft());
+}
+
+void EditorView::selectAll()
+{
+    selectedControl().selectAll();
+}
+
+void EditorView::copy()
+{
+    selectedControl().copy();
+}
+
+void EditorView::watch(QObject &filter)
+{
+    for (TextControl *control : m_controls) {
+        control->installEventFilter(&filter);
+        // The mouse speaks to the viewport.
+        control->viewport()->installEventFilter(&filter);
+    }
 }
 
 void EditorView::ResetFocusToEditor()
 {
-    selected().control->setFocus();
+    selectedControl().setFocus();
 }
 
 void EditorView::setTiled(bool tiled)
@@ -138,89 +192,54 @@ void EditorView::setTiled(bool tiled)
 
 void EditorView::ShowBothFiles()
 {
-    for (const EditorDocument &each : m_documents) {
-        each.control->show();
+    for (TextControl *control : m_controls) {
+        control->show();
     }
 }
 
 void EditorView::PositionControls()
 {
     // Shown first: the focus never falls to another window's control in between.
-    selected().control->show();
-    for (const EditorDocument &each : m_documents) {
-        each.control->setVisible(each.kind == m_selected);
+    TextControl &selected = selectedControl();
+    selected.show();
+    for (TextControl *control : m_controls) {
+        control->setVisible(control == &selected);
     }
 }
 
-void EditorView::setProtected(bool on)
+void EditorView::showProtected(bool on)
 {
-    m_protected = on;
-    document(DocumentKind::Macro).control->setLocked(on);
     m_tabs->setTabIcon(1,
                        iconFromFile(m_context.paths.inApp(on ? u"icons/tab-protected.svg"
                                                              : u"icons/tab-macro.svg")));
 }
 
-bool EditorView::refuseProtected()
-{
-    if (m_selected == DocumentKind::Macro && m_protected) {
-        m_context.dialogs.box(fileProtectedBox());
-        return true;
-    }
-    // A text that is on its way to the Cougar is locked for seconds only, and the status bar says
-    // so: no box.
-    return selected().control->isReadOnly();
-}
-
 void EditorView::updateCaptions()
 {
-    for (const EditorDocument &each : m_documents) {
+    m_documents.forEach([this](const Document &each) {
         QString caption = each.caption();
         caption.replace(u'&', u"&&"_s);
-        m_tabs->setTabText(int(each.kind), caption);
-        m_tabs->setTabToolTip(int(each.kind), each.path);
-    }
+        m_tabs->setTabText(int(each.kind()), caption);
+        m_tabs->setTabToolTip(int(each.kind()), each.path());
+    });
 }
 
 void EditorView::UpdateSavedIcon()
 {
-    m_context.status.setSaved(selected().state + 2, savedTooltip(selected()));
-}
-
-void EditorView::setState(EditorDocument &each, qint16 state)
-{
-    if (each.state != state) {
-        each.state = state;
-        UpdateSavedIcon();
-    }
-}
-
-void EditorView::rename(EditorDocument &each, const QString &path)
-{
-    each.path = path;
-    each.name = nameOf(path);
-    updateCaptions();
-}
-
-void EditorView::renameFresh(DocumentKind kind)
-{
-    rename(document(kind), m_context.paths.filesFolder() + freshName(kind));
-}
-
-CharFormat EditorView::plainFormat(DocumentKind kind) const
-{
-    return zeph::plainFormat(m_context.settings, kind);
+    const Document &selected = m_documents.selected();
+    m_context.status.setSaved(selected.state() + 2, savedTooltip(selected));
 }
 
 void EditorView::applyLook()
 {
-    const BusyGuard busy(*this);
     const GlobalSettings &settings = m_context.settings;
-    for (const EditorDocument &each : m_documents) {
-        each.control->setLook(documentBackground(settings, each.kind), plainFormat(each.kind));
-        each.control->showLineNumbers(settings.LineNumbers == 1);
-        each.control->showCurrentLine(settings.CurrentLineMark == 1);
-    }
+    m_documents.forEach([this, &settings](const Document &each) {
+        TextControl &control = this->control(each.kind());
+        control.setLook(documentBackground(settings, each.kind()),
+                        m_documents.plainFormat(each.kind()));
+        control.showLineNumbers(settings.LineNumbers == 1);
+        control.showCurrentLine(settings.CurrentLineMark == 1);
+    });
 }
 
 } // namespace zeph

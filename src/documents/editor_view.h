@@ -3,7 +3,8 @@
 
 #pragma once
 
-#include "documents/editor_document.h"
+#include "documents/documents.h"
+#include "documents/text_control.h"
 #include "platform/context.h"
 
 #include <QWidget>
@@ -14,20 +15,65 @@ class QTabBar;
 
 namespace zeph {
 
-/// The room of the Editor window that shows the texts: the tab strip and the two controls. Owns
-/// both documents and knows which one is selected.
+/// The room of the Editor window that shows the documents: the tab strip and two controls.
 class EditorView : public QWidget
 {
     Q_OBJECT
 public:
-    explicit EditorView(const Context &context, QWidget *parent = nullptr);
+    /// The documents outlive the view.
+    EditorView(const Context &context, Documents &documents, QWidget *parent = nullptr);
 
-    EditorDocument &document(DocumentKind kind) { return m_documents[size_t(kind)]; }
-    EditorDocument &selected() { return document(m_selected); }
+    Documents &documents() { return m_documents; }
+    /// The view of one document; only this folder and tests operate it.
+    TextControl &control(DocumentKind kind) const { return *m_controls[size_t(kind)]; }
 
-    /// Selects a tab, as a click on it does.
-    void select(DocumentKind kind);
+    /// Gives the keyboard to the selected document's control.
     void ResetFocusToEditor();
+    /// What the user sees of a document when this is made is what he sees again when it goes,
+    /// however the caret moves meanwhile.
+    class KeptPlace
+    {
+    public:
+        KeptPlace(EditorView &view, const Document &document);
+        ~KeptPlace();
+        KeptPlace(const KeptPlace &) = delete;
+        KeptPlace &operator=(const KeptPlace &) = delete;
+
+    private:
+        TextControl &m_control;
+        TextControl::Scroll m_scroll;
+    };
+    /// The same for a text that is changed line by line: it is seen from its left edge then.
+    class KeptLine
+    {
+    public:
+        KeptLine(EditorView &view, const Document &document);
+        ~KeptLine();
+        KeptLine(const KeptLine &) = delete;
+        KeptLine &operator=(const KeptLine &) = delete;
+
+    private:
+        TextControl &m_control;
+        int m_down;
+    };
+    /// Scrolls so that a document's caret is in the middle.
+    void centreCaret(DocumentKind kind);
+    /// Lets an event filter see what comes to the controls and to their viewports.
+    void watch(QObject &filter);
+    /// Lets an event filter see the mouse over a text, pressed or not: in its viewport's pixels.
+    void watchMouse(DocumentKind kind, QObject &filter);
+    /// Whose control an event filter has been shown; nothing for other objects, viewports too.
+    std::optional<DocumentKind> kindOf(const QObject *watched) const;
+    /// The character under a point of a text's viewport; -1 above and below the text.
+    int characterAt(DocumentKind kind, const QPoint &at) const;
+    /// Where on the screen a pop-up at the selected document's caret belongs.
+    QPoint belowCaret() const;
+
+    /// Distance of the selected control's tab stops, in device-independent pixels.
+    double tabStop() const { return selectedControl().tabStopDistance(); }
+    void selectAll();
+    /// Puts the selection on the clipboard.
+    void copy();
 
     /// Shows both texts side by side, or the selected one over the whole space.
     void setTiled(bool tiled);
@@ -35,58 +81,29 @@ public:
     void ShowBothFiles();
     void PositionControls();
 
-    /// Guards the macro text against the user.
-    void setProtected(bool on);
-    bool isProtected() const { return m_protected; }
-    /// Whether the selected text takes no changes; tells the refusal when it is the protected one.
-    bool refuseProtected();
-
     /// Shows the documents' names on the tabs.
     void updateCaptions();
     /// Shows the selected document's state on the status bar.
     void UpdateSavedIcon();
-    void setState(EditorDocument &document, qint16 state);
-    /// Gives a document a fresh name and path, without touching its text.
-    void rename(EditorDocument &document, const QString &path);
-    void renameFresh(DocumentKind kind);
-
     /// Colours and fonts from the settings, for text to come; text that is there keeps its looks.
     void applyLook();
-    CharFormat plainFormat(DocumentKind kind) const;
-
-    /// While more than 0, changes are the program's own and count as no edits.
-    int ColouringBusy = 0;
 
 Q_SIGNALS:
-    void tabSelected(DocumentKind kind);
-    void edited(DocumentKind kind);
-    void selectionChanged();
+    /// The right-hand menu is wanted over a document, at a point of the screen.
+    void popUpWanted(DocumentKind kind, const QPoint &at);
 
 private:
-    void makeControl(DocumentKind kind, const QString &name);
-    void onTextChanged(DocumentKind kind);
-    void onTabChanged(int index);
-    void storeCaret(EditorDocument &document);
+    TextControl &selectedControl() const { return control(m_documents.selected().kind()); }
+    void makeControl(Document &document, const QString &name);
+    void connectDocument(Document &document);
+    void showSelected();
+    void showProtected(bool on);
 
     Context m_context;
-    std::array<EditorDocument, 2> m_documents;
+    Documents &m_documents;
+    std::array<TextControl *, 2> m_controls{};
     QTabBar *m_tabs = nullptr;
-    DocumentKind m_selected = DocumentKind::Joystick;
     bool m_tiled = false;
-    bool m_protected = false;
-};
-
-/// Raises ColouringBusy for a scope.
-class BusyGuard
-{
-public:
-    explicit BusyGuard(EditorView &view) : m_view(view) { ++m_view.ColouringBusy; }
-    ~BusyGuard() { --m_view.ColouringBusy; }
-    BusyGuard(const BusyGuard &) = delete;
-    BusyGuard &operator=(const BusyGuard &) = delete;
-
-private:
-    EditorView &m_view;
 };
 
 } // namespace zeph

@@ -8,9 +8,6 @@
 #include "documents/document_look.h"
 #include "documents/editor_texts.h"
 #include "documents/editor_view.h"
-#include "documents/text_control.h"
-#include "documents/undo_history.h"
-#include "platform/richtext/rich_text_document.h"
 #include "platform/status_line.h"
 #include "settings/global_settings.h"
 
@@ -40,55 +37,46 @@ constexpr PassStatus macroSteps[] = {
 } // namespace
 
 Highlighting::Highlighting(const Context &context, const Parts &parts)
-    : m_context(context), m_parts(parts)
+    : m_context(context), m_parts(parts), m_documents(parts.view.documents())
 {
 }
 
-EditorDocument &Highlighting::document(DocumentKind kind) const
+void Highlighting::reformat(Document &document)
 {
-    return m_parts.view.document(kind);
-}
-
-void Highlighting::reformat(EditorDocument &document)
-{
-    TextControl &control = *document.control;
-    if (control.end() == 0) {
+    if (document.length() == 0) {
         return;
     }
-    const BusyGuard busy(m_parts.view);
     m_context.status.setText(u"Reformatting layout. Please wait ..."_s);
-    setParagraphFormat(*control.document(), documentParagraph);
-    control.setCharacterRuns({ { control.end(), m_parts.view.plainFormat(document.kind) } });
+    document.setMargins();
+    document.setCharacterRuns({ { document.length(), m_documents.plainFormat(document.kind()) } });
     m_parts.view.UpdateSavedIcon();
     m_context.status.setText(u"Layout refreshed ... (I wish I was!)"_s);
 }
 
 void Highlighting::mnuViewReformat_Click()
 {
-    EditorDocument &selected = m_parts.view.selected();
-    if (!m_parts.view.refuseProtected() && selected.control->end() > 0) {
+    Document &selected = m_documents.selected();
+    if (!m_documents.refuseProtected() && selected.length() > 0) {
         reformat(selected);
-        m_parts.histories.of(selected.kind).storeTop();
+        selected.history().storeTop();
     }
 }
 
-void Highlighting::applyColour(EditorDocument &document)
+void Highlighting::applyColour(Document &document)
 {
     StatusLine &status = m_context.status;
-    TextControl &control = *document.control;
-    if (control.end() == 0) {
+    if (document.length() == 0) {
         status.setText(document.caption() + u" has no text to highlight."_s);
         return;
     }
-    const bool isJoystick = document.kind == DocumentKind::Joystick;
-    const BusyGuard busy(m_parts.view);
+    const bool isJoystick = document.kind() == DocumentKind::Joystick;
     // Colours go before colours come; one set of looks serves both.
     status.setTextNow(u"Removing colour highlighting from "_s + document.caption()
                       + u". Please wait ..."_s);
     status.setText(u"Done"_s);
     status.setTextNow(u"Applying colour highlighting to "_s + document.caption()
                       + u". Please wait ..."_s);
-    m_parts.view.select(document.kind);
+    m_documents.select(document.kind());
     m_parts.view.applyLook();
     const std::span<const PassStatus> steps =
         isJoystick ? std::span<const PassStatus>(joystickSteps) : macroSteps;
@@ -99,13 +87,12 @@ void Highlighting::applyColour(EditorDocument &document)
             }
         }
     };
-    const auto runs = paint(control.text(), isJoystick ? joystickPasses() : macroPasses(),
-                            colourScheme(m_context.settings, document.kind), tell);
-    TextControl::Place place = control.place();
-    place.anchor = place.caret = control.selStart();
-    control.states().setLooks(lookRuns(runs, m_parts.view.plainFormat(document.kind)));
-    control.setPlace(place);
-    m_parts.histories.of(document.kind).storeTop();
+    const auto runs = paint(document.text(), isJoystick ? joystickPasses() : macroPasses(),
+                            colourScheme(m_context.settings, document.kind()), tell);
+    const EditorView::KeptPlace place(m_parts.view, document);
+    document.setLooks(lookRuns(runs, m_documents.plainFormat(document.kind())));
+    document.select(document.selStart(), 0);
+    document.history().storeTop();
     if (auto saved = m_parts.copies.SaveColouredText(document); !saved) {
         status.setText(u"The coloured copy couldn't be written: "_s + saved.error().path + u": "_s
                        + saved.error().reason);
@@ -116,12 +103,12 @@ void Highlighting::applyColour(EditorDocument &document)
 
 void Highlighting::ApplyColourHighlighting()
 {
-    applyColour(document(DocumentKind::Joystick));
+    applyColour(m_documents.joystick());
 }
 
 void Highlighting::ApplyMacroColourHighlighting()
 {
-    applyColour(document(DocumentKind::Macro));
+    applyColour(m_documents.macro());
 }
 
 void Highlighting::mnuViewColourJoystick_Click()
@@ -131,7 +118,7 @@ void Highlighting::mnuViewColourJoystick_Click()
 
 void Highlighting::mnuViewColourMacro_Click()
 {
-    if (m_parts.view.isProtected()) {
+    if (m_documents.isProtected()) {
         m_context.dialogs.box(fileProtectedBox());
         return;
     }
@@ -141,18 +128,17 @@ void Highlighting::mnuViewColourMacro_Click()
 void Highlighting::mnuViewApplyColourBothFiles_Click()
 {
     ApplyColourHighlighting();
-    if (!m_parts.view.isProtected()) {
+    if (!m_documents.isProtected()) {
         ApplyMacroColourHighlighting();
     }
 }
 
-void Highlighting::removeColour(EditorDocument &document, int from, int length)
+void Highlighting::removeColour(Document &document, int from, int length)
 {
-    const BusyGuard busy(m_parts.view);
     m_context.status.setTextNow(u"Removing colour highlighting from "_s + document.caption()
                                 + u". Please wait ..."_s);
-    const auto plain = m_parts.view.plainFormat(document.kind).colour;
-    document.control->changeLooks(from, length, [plain](CharFormat &format) {
+    const auto plain = m_documents.plainFormat(document.kind()).colour;
+    document.changeLooks(from, length, [plain](CharFormat &format) {
         format.colour = plain;
         format.bold = format.italic = format.underline = false;
     });
@@ -161,39 +147,36 @@ void Highlighting::removeColour(EditorDocument &document, int from, int length)
 
 void Highlighting::mnuRemoveColourJoystick_Click()
 {
-    EditorDocument &joystick = document(DocumentKind::Joystick);
-    removeColour(joystick, 0, joystick.control->end());
+    removeColour(m_documents.joystick(), 0, m_documents.joystick().length());
 }
 
 void Highlighting::mnuRemoveColourMacro_Click()
 {
-    EditorDocument &macro = document(DocumentKind::Macro);
-    removeColour(macro, 0, macro.control->end());
+    removeColour(m_documents.macro(), 0, m_documents.macro().length());
 }
 
 void Highlighting::mnuRemoveColourSelectedText_Click()
 {
-    if (!m_parts.view.refuseProtected()) {
-        EditorDocument &selected = m_parts.view.selected();
-        removeColour(selected, selected.control->selStart(), selected.control->selLength());
+    if (!m_documents.refuseProtected()) {
+        Document &selected = m_documents.selected();
+        removeColour(selected, selected.selStart(), selected.selLength());
     }
 }
 
 void Highlighting::followScheme(const GlobalSettings &before)
 {
-    for (const DocumentKind kind : { DocumentKind::Joystick, DocumentKind::Macro }) {
-        EditorDocument &each = document(kind);
+    m_documents.forEach([this, &before](Document &each) {
+        const DocumentKind kind = each.kind();
         const auto colours =
             recolouring(colourScheme(before, kind), colourScheme(m_context.settings, kind));
         const CharFormat font = plainFormat(m_context.settings, kind);
         CharFormat fontBefore = font;
         takeFont(fontBefore, plainFormat(before, kind));
         const bool hasNewFont = !(fontBefore == font);
-        if ((colours.isEmpty() && !hasNewFont) || each.control->end() == 0) {
-            continue;
+        if ((colours.isEmpty() && !hasNewFont) || each.length() == 0) {
+            return;
         }
-        const BusyGuard busy(m_parts.view);
-        each.control->changeLooks(0, each.control->end(), [&](CharFormat &format) {
+        each.changeLooks(0, each.length(), [&](CharFormat &format) {
             if (hasNewFont) {
                 takeFont(format, font);
             }
@@ -201,39 +184,36 @@ void Highlighting::followScheme(const GlobalSettings &before)
                 format.colour = colours.value(*format.colour, *format.colour);
             }
         });
-        UndoHistory &history = m_parts.histories.of(kind);
-        if (!history.canRedo()) {
-            history.storeTop();
+        if (!each.history().canRedo()) {
+            each.history().storeTop();
         }
-        if (each.state == EditorDocument::Saved) {
+        if (each.state() == Document::Saved) {
             // A copy that cannot be written is only a cache that lags behind.
             (void)m_parts.copies.SaveColouredText(each);
         }
-    }
+    });
 }
 
-void Highlighting::paintStretch(EditorDocument &document, int from, int to)
+void Highlighting::paintStretch(Document &document, int from, int to)
 {
-    const BusyGuard busy(m_parts.view);
-    const QString text = richTextOf(*document.control->document(), from, to - from).text;
-    document.control->setCharacterRuns(ColourType(text).characters, from);
+    const QString text = document.richText(from, to - from).text;
+    document.setCharacterRuns(ColourType(text).characters, from);
 }
 
 void Highlighting::BlockColour()
 {
-    EditorDocument &document = m_parts.view.selected();
-    const QTextCursor cursor = document.control->textCursor();
-    const QTextDocument &text = *document.control->document();
-    const QTextBlock last = text.findBlock(cursor.selectionEnd());
-    const int to = std::min(last.position() + last.length(), document.control->end());
-    paintStretch(document, text.findBlock(cursor.selectionStart()).position(), to);
+    Document &document = m_documents.selected();
+    const QTextDocument &lines = document.content();
+    const QTextBlock last = lines.findBlock(document.selStart() + document.selLength());
+    const int to = std::min(last.position() + last.length(), document.length());
+    paintStretch(document, lines.findBlock(document.selStart()).position(), to);
 }
 
 void Highlighting::TestColour(int flag)
 {
-    EditorDocument &document = m_parts.view.selected();
-    const qint16 state = document.state;
-    const QTextBlock line = document.control->document()->findBlock(document.control->selStart());
+    Document &document = m_documents.selected();
+    const qint16 state = document.state();
+    const QTextBlock line = document.content().findBlock(document.selStart());
     if (flag == 1) {
         m_parts.insert.BeginColInsert();
     }
@@ -241,23 +221,23 @@ void Highlighting::TestColour(int flag)
     if (flag == 1) {
         m_parts.insert.EndColInsert();
         // A step to undo, but no change to save: the file itself has no colours.
-        m_parts.view.setState(document, state);
+        document.setState(state);
     }
 }
 
 void Highlighting::mnuViewHighlightLine_Click()
 {
-    if (!m_parts.view.refuseProtected()) {
+    if (!m_documents.refuseProtected()) {
         TestColour(1);
     }
 }
 
 RichText Highlighting::painted(const QString &text, const Painter &painter) const
 {
-    const DocumentKind kind = m_parts.view.selected().kind;
+    const DocumentKind kind = m_documents.selected().kind();
     RichText result = RichText::plain(text, {}, documentParagraph);
     result.characters = characterRuns(painter.paint(text, colourScheme(m_context.settings, kind)),
-                                      m_parts.view.plainFormat(kind));
+                                      m_documents.plainFormat(kind));
     return result;
 }
 

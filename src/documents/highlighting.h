@@ -3,7 +3,6 @@
 
 #pragma once
 
-#include "documents/editor_document.h"
 #include "platform/context.h"
 #include "text/painter.h"
 
@@ -11,8 +10,9 @@ namespace zeph {
 
 class ColouredCopies;
 class ColouredInsert;
+class Document;
+class Documents;
 class EditorView;
-class UndoHistories;
 
 /// Gives the documents their colours and takes them away. Looks only: no text changes, and no
 /// saved state either. Caret and scroll stay where the user has them.
@@ -22,21 +22,20 @@ public:
     struct Parts {
         EditorView &view;
         ColouredCopies &copies;
-        UndoHistories &histories;
         ColouredInsert &insert;
     };
     Highlighting(const Context &context, const Parts &parts);
 
     /// Sets font, size, plain colour and margin over the whole document, without bold, italic,
     /// underline and colours. An empty document stays as it is.
-    void reformat(EditorDocument &document);
+    void reformat(Document &document);
     /// The same on the selected document, its looks stored in the top undo slot. Refused on a
     /// protected macro file.
     void mnuViewReformat_Click();
 
     /// Colours the whole document, stores its looks in the top undo slot and writes its coloured
     /// copy. An empty document is told on the status line.
-    void applyColour(EditorDocument &document);
+    void applyColour(Document &document);
     void ApplyColourHighlighting();
     void ApplyMacroColourHighlighting();
     void mnuViewColourJoystick_Click();
@@ -68,13 +67,13 @@ public:
     RichText JustREMtocolour(const QString &text) const;
 
 private:
-    void removeColour(EditorDocument &document, int from, int length);
-    void paintStretch(EditorDocument &document, int from, int to);
+    void removeColour(Document &document, int from, int length);
+    void paintStretch(Document &document, int from, int to);
     RichText painted(const QString &text, const Painter &painter) const;
-    EditorDocument &document(DocumentKind kind) const;
 
     Context m_context;
     Parts m_parts;
+    Documents &m_documents;
     Painter m_typing{ typingPasses() };
     Painter m_comments{ remPasses() };
 };

@@ -3,6 +3,7 @@
 
 #include "documents/line_blink.h"
 
+#include "documents/documents.h"
 #include "documents/editor_view.h"
 #include "documents/text_control.h"
 
@@ -15,10 +16,19 @@ namespace zeph {
 
 using namespace std::chrono_literals;
 
-void SelectLine(TextControl &control)
+namespace {
+
+QTextBlock caretsLine(const Document &document)
 {
-    const QTextBlock line = control.textCursor().block();
-    control.select(line.position(), line.length() - 1);
+    return document.cursor().block();
+}
+
+} // namespace
+
+void SelectLine(Document &document)
+{
+    const QTextBlock line = caretsLine(document);
+    document.select(line.position(), line.length() - 1);
 }
 
 LineBlink::LineBlink(EditorView &view, QObject *parent) : QObject(parent), m_view(view)
@@ -26,19 +36,13 @@ LineBlink::LineBlink(EditorView &view, QObject *parent) : QObject(parent), m_vie
     m_timer.setObjectName(u"TimerBlinkLine"_s);
     m_timer.setInterval(100ms);
     connect(&m_timer, &QTimer::timeout, this, &LineBlink::tick);
-    connect(&view, &EditorView::tabSelected, this, &LineBlink::stop);
-    for (const DocumentKind kind : { DocumentKind::Joystick, DocumentKind::Macro }) {
-        TextControl *control = view.document(kind).control;
-        control->installEventFilter(this);
-        control->viewport()->installEventFilter(this);
-    }
+    connect(&view.documents(), &Documents::selectedChanged, this, &LineBlink::stop);
+    view.watch(*this);
 }
 
-void LineBlink::start(EditorDocument &document)
+void LineBlink::start(DocumentKind kind)
 {
-    const BusyGuard busy(m_view);
-    m_document = &document;
-    m_caret = document.caret;
+    m_kind = kind;
     m_count = 0;
     showLine();
     m_timer.start();
@@ -66,17 +70,14 @@ void LineBlink::tick()
 
 void LineBlink::showLine()
 {
-    const BusyGuard busy(m_view);
-    SelectLine(*m_document->control);
     // The document's caret stays where the undo put it: the selection is only for the eye.
-    m_document->caret = m_caret;
-    m_document->selLength = 0;
+    const QTextBlock line = caretsLine(m_view.documents().of(m_kind));
+    m_view.control(m_kind).mark(line.position(), line.length() - 1);
 }
 
 void LineBlink::putCaretBack()
 {
-    const BusyGuard busy(m_view);
-    m_document->control->select(m_caret, 0);
+    m_view.control(m_kind).showCaret();
 }
 
 bool LineBlink::eventFilter(QObject *watched, QEvent *event)

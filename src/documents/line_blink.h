@@ -3,17 +3,18 @@
 
 #pragma once
 
+#include "language/file_kinds.h"
+
 #include <QObject>
 #include <QTimer>
 
 namespace zeph {
 
+class Document;
 class EditorView;
-class TextControl;
-struct EditorDocument;
 
 /// Selects the caret's line, its line end left out.
-void SelectLine(TextControl &control);
+void SelectLine(Document &document);
 
 /// Shows where undo and redo have led: the caret's line is selected and let go again, twice.
 class LineBlink : public QObject
@@ -23,7 +24,7 @@ public:
     LineBlink(EditorView &view, QObject *parent);
 
     /// Blinks the line of a document's caret.
-    void start(EditorDocument &document);
+    void start(DocumentKind kind);
     /// Puts the caret back at once, if a line blinks.
     void stop();
 
@@ -37,10 +38,9 @@ private:
     void putCaretBack();
 
     EditorView &m_view;
-    EditorDocument *m_document = nullptr;
+    DocumentKind m_kind = DocumentKind::Joystick;
     QTimer m_timer{ this };
     int m_count = 0;
-    int m_caret = 0;
 };
 
 } // namespace zeph

@@ -3,6 +3,7 @@
 
 #include "documents/text_control.h"
 
+#include "documents/document.h"
 #include "documents/line_margin.h"
 #include "documents/pasted_text.h"
 #include "platform/richtext/rich_text_document.h"
@@ -38,166 +39,73 @@ bool changesText(int key)
 
 } // namespace
 
-TextControl::TextControl(QWidget *parent)
-    : QPlainTextEdit(parent), m_states(std::make_unique<DocumentStates>(*document())),
+TextControl::TextControl(QWidget *parent) : TextControl(*new Document, parent)
+{
+    m_document.setParent(this);
+}
+
+TextControl::TextControl(Document &document, QWidget *parent)
+    : QPlainTextEdit(parent), m_document(document),
       m_margin(new LineMargin(*this, [this] { return seenLines(); }))
 {
+    setDocument(&document.content());
     setLineWrapMode(NoWrap);
-    setUndoRedoEnabled(false);
-    document()->setDocumentMargin(6);
-    setParagraphFormat(*document(), documentParagraph);
     m_margin->hide();
     connect(this, &TextControl::blockCountChanged, this, &TextControl::placeMargin);
     connect(this, &TextControl::updateRequest, this, &TextControl::updateMargin);
     connect(this, &TextControl::cursorPositionChanged, this, &TextControl::moveMark);
+    connect(this, &TextControl::cursorPositionChanged, this, &TextControl::tellCaret);
+    connect(this, &TextControl::selectionChanged, this, &TextControl::tellCaret);
+    connect(&m_document, &Document::caretSet, this, &TextControl::showCaret);
+    connect(&m_document, &Document::lockedChanged, this, &TextControl::setLocked);
+    connect(&m_document, &Document::typingLookSet, this,
+            [this](const CharFormat &look) { setCurrentCharFormat(toTextFormat(look)); });
 }
 
 void TextControl::setLook(ColorRef background, const CharFormat &plain)
 {
-    m_plain = plain;
+    const Document::Quiet quiet(m_document);
     QPalette look = palette();
     look.setColor(QPalette::Base, toColor(background));
     look.setColor(QPalette::Text, toColor(plain.colour.value_or(0)));
     setPalette(look);
     setFont(toTextFormat(plain).font());
     setTabStopDistance(8 * fontMetrics().averageCharWidth());
-    if (document()->isEmpty()) {
-        setCurrentCharFormat(toTextFormat(plain));
-    }
+    m_document.setPlain(plain);
     placeMargin();
 }
 
-QString TextControl::text() const
+void TextControl::tellCaret()
 {
-    return plainTextOf(*document());
-}
-
-RichText TextControl::richText() const
-{
-    return m_states->presentText();
-}
-
-void TextControl::setText(const QString &text)
-{
-    setRichText(RichText::plain(text, m_plain, documentParagraph));
-}
-
-void TextControl::setRichText(const RichText &text)
-{
-    zeph::setRichText(*document(), text);
-    const bool isUniform = text.paragraphs.size() == 1 && !text.paragraphs.front().format.bullet;
-    if (isUniform && text.text == this->text()) {
-        m_states->know(text);
-    }
-    if (document()->isEmpty()) {
-        setCurrentCharFormat(toTextFormat(m_plain));
+    if (!m_marks) {
+        m_document.follow(textCursor());
     }
 }
 
-void TextControl::replace(int start, int length, const QString &text)
+void TextControl::mark(int start, int length)
 {
+    m_marks = true;
     QTextCursor cursor(document());
     cursor.setPosition(start);
     cursor.setPosition(start + length, QTextCursor::KeepAnchor);
-    cursor.insertText(text);
-}
-
-void TextControl::replaceAll(const QList<qsizetype> &starts, int length, const QString &text)
-{
-    QTextCursor change(document());
-    change.beginEditBlock();
-    for (auto start = starts.rbegin(); start != starts.rend(); ++start) {
-        replace(int(*start), length, text);
-    }
-    change.endEditBlock();
-}
-
-void TextControl::setCharacterRuns(const std::vector<CharRun> &runs, int from)
-{
-    qsizetype length = 0;
-    for (const CharRun &run : runs) {
-        length += std::max(run.length, qsizetype(0));
-    }
-    if (from > 0 || length != end()) {
-        applyCharacterRuns(*document(), runs, from);
-        return;
-    }
-    LookRuns looks;
-    looks.runs.reserve(runs.size());
-    QHash<CharFormat, quint32> numbers;
-    for (const CharRun &run : runs) {
-        const auto known = numbers.constFind(run.format);
-        const quint32 number = known != numbers.cend() ? *known : quint32(looks.looks.size());
-        if (known == numbers.cend()) {
-            numbers.insert(run.format, number);
-            looks.looks.push_back(run.format);
-        }
-        looks.runs.push_back({ quint32(std::max(run.length, qsizetype(0))), number });
-    }
-    m_states->setLooks(looks);
-}
-
-void TextControl::changeLooks(int from, int length, const std::function<void(CharFormat &)> &change)
-{
-    const bool whole = from == 0 && length == end();
-    std::vector<CharRun> runs =
-        whole ? richText().characters : characterRunsOf(*document(), from, length);
-    for (CharRun &run : runs) {
-        change(run.format);
-    }
-    setCharacterRuns(runs, from);
-}
-
-int TextControl::end() const
-{
-    return document()->characterCount() - 1;
-}
-
-int TextControl::selStart() const
-{
-    return textCursor().selectionStart();
-}
-
-int TextControl::selLength() const
-{
-    return textCursor().selectionEnd() - textCursor().selectionStart();
-}
-
-void TextControl::select(int start, int length)
-{
-    const int last = end();
-    QTextCursor cursor(document());
-    cursor.setPosition(qBound(0, start, last));
-    cursor.setPosition(qBound(0, start + length, last), QTextCursor::KeepAnchor);
     setTextCursor(cursor);
-    if (document()->isEmpty()) {
-        // A new cursor knows nothing of the looks that typing is to have.
-        setCurrentCharFormat(toTextFormat(m_plain));
-    }
 }
 
-int TextControl::caretLine() const
+void TextControl::showCaret()
 {
-    return textCursor().blockNumber() + 1;
+    m_marks = false;
+    setTextCursor(m_document.cursor());
 }
 
-TextControl::Place TextControl::place() const
+TextControl::Scroll TextControl::scroll() const
 {
-    const QTextCursor cursor = textCursor();
-    return { cursor.anchor(), cursor.position(), horizontalScrollBar()->value(),
-             verticalScrollBar()->value() };
+    return { horizontalScrollBar()->value(), verticalScrollBar()->value() };
 }
 
-void TextControl::setPlace(const Place &place)
+void TextControl::setScroll(const Scroll &scroll)
 {
-    const int last = end();
-    QTextCursor cursor(document());
-    cursor.setPosition(qBound(0, place.anchor, last));
-    cursor.setPosition(qBound(0, place.caret, last), QTextCursor::KeepAnchor);
-    setTextCursor(cursor);
-    // Setting the caret has brought it into view, where it need not have been.
-    horizontalScrollBar()->setValue(place.across);
-    verticalScrollBar()->setValue(place.down);
+    horizontalScrollBar()->setValue(scroll.across);
+    verticalScrollBar()->setValue(scroll.down);
 }
 
 void TextControl::setLocked(bool on)
@@ -270,7 +178,7 @@ void TextControl::updateMargin(const QRect &changed, int scrolled)
 
 void TextControl::moveMark()
 {
-    const int line = caretLine();
+    const int line = textCursor().blockNumber() + 1;
     if (line != m_markedLine) {
         updateLine(m_markedLine);
         updateLine(line);
@@ -307,7 +215,7 @@ void TextControl::paintEvent(QPaintEvent *event)
 void TextControl::tellKey(const QKeyEvent &event)
 {
     if (!isReadOnly() && (types(event) || changesText(event.key()))) {
-        Q_EMIT keyComing(event.key());
+        m_document.history().keyPressed(event.key());
     }
 }
 
@@ -315,7 +223,8 @@ void TextControl::inputMethodEvent(QInputMethodEvent *event)
 {
     // What is composed of several keys comes without a key press.
     if (!isReadOnly() && !event->commitString().isEmpty()) {
-        Q_EMIT keyComing(event->commitString() == u" " ? Qt::Key_Space : Qt::Key_unknown);
+        m_document.history().keyPressed(event->commitString() == u" " ? Qt::Key_Space
+                                                                      : Qt::Key_unknown);
     }
     QPlainTextEdit::inputMethodEvent(event);
 }
@@ -340,7 +249,7 @@ void TextControl::keyPressEvent(QKeyEvent *event)
 
 QMimeData *TextControl::createMimeDataFromSelection() const
 {
-    return new RichTextMime(zeph::richTextOf(*document(), selStart(), selLength()));
+    return new RichTextMime(m_document.richText(m_document.selStart(), m_document.selLength()));
 }
 
 bool TextControl::canInsertFromMimeData(const QMimeData *source) const
@@ -351,9 +260,9 @@ bool TextControl::canInsertFromMimeData(const QMimeData *source) const
 void TextControl::insertFromMimeData(const QMimeData *source)
 {
     QTextCursor cursor = textCursor();
-    insertRichText(cursor, pastedText(*source, m_plain));
+    insertRichText(cursor, pastedText(*source, m_document.plain()));
     setTextCursor(cursor);
-    setCurrentCharFormat(toTextFormat(m_plain));
+    m_document.setTypingLook(m_document.plain());
     ensureCursorVisible();
 }
 

@@ -7,10 +7,8 @@
 #include "documents/document_look.h"
 #include "documents/editor_view.h"
 #include "documents/styleeditor.h"
-#include "documents/text_control.h"
 #include "menus/menu_actions.h"
 #include "platform/dialogs.h"
-#include "platform/richtext/rich_text_document.h"
 #include "settings/global_settings.h"
 #include "settings/settings_files.h"
 
@@ -30,7 +28,7 @@ constexpr std::array<Flag, 3> formatArray1 = { &CharFormat::bold, &CharFormat::i
 } // namespace
 
 TextLooks::TextLooks(const Context &context, const Parts &parts)
-    : m_context(context), m_parts(parts)
+    : m_context(context), m_parts(parts), m_documents(parts.view.documents())
 {
 }
 
@@ -41,29 +39,29 @@ TextLooks::~TextLooks()
 
 void TextLooks::change(const std::function<void(CharFormat &)> &change)
 {
-    if (m_parts.view.refuseProtected()) {
+    if (m_documents.refuseProtected()) {
         return;
     }
-    TextControl &control = *m_parts.view.selected().control;
-    const int length = control.selLength();
+    Document &document = m_documents.selected();
+    const int length = document.selLength();
     if (length == 0) {
-        CharFormat typing = fromTextFormat(control.currentCharFormat());
+        CharFormat typing = document.typingLook();
         change(typing);
-        control.setCurrentCharFormat(toTextFormat(typing));
+        document.setTypingLook(typing);
         return;
     }
     m_parts.insert.BeginColInsert();
-    control.changeLooks(control.selStart(), length, change);
+    document.changeLooks(document.selStart(), length, change);
     m_parts.insert.EndColInsert();
 }
 
 void TextLooks::mnuFormatArray1_Click(int Index)
 {
     const Flag flag = formatArray1.at(size_t(Index));
-    const TextControl &control = *m_parts.view.selected().control;
-    const auto runs = characterRunsOf(*control.document(), control.selStart(), control.selLength());
+    const Document &document = m_documents.selected();
+    const auto runs = document.richText(document.selStart(), document.selLength()).characters;
     const bool isOn = runs.empty()
-        ? fromTextFormat(control.currentCharFormat()).*flag
+        ? document.typingLook().*flag
         : std::all_of(runs.begin(), runs.end(),
                       [flag](const CharRun &run) { return run.format.*flag; });
     change([flag, isOn](CharFormat &format) { format.*flag = !isOn; });
@@ -111,7 +109,7 @@ void TextLooks::UpdateStyleCaptions()
 void TextLooks::mnuFormatFont_Click()
 {
     GlobalSettings &settings = m_context.settings;
-    CharFormat font = m_parts.view.plainFormat(m_parts.view.selected().kind);
+    CharFormat font = m_documents.plainFormat(m_documents.selected().kind());
     const auto chosen = m_context.dialogs.chooseFont(font);
     if (!chosen) {
         return;
@@ -131,14 +129,11 @@ void TextLooks::mnuFormatFont_Click()
 
 void TextLooks::DoTheFonts()
 {
-    const BusyGuard busy(m_parts.view);
     m_parts.view.applyLook();
-    for (const DocumentKind kind : { DocumentKind::Joystick, DocumentKind::Macro }) {
-        const CharFormat font = m_parts.view.plainFormat(kind);
-        TextControl &control = *m_parts.view.document(kind).control;
-        control.changeLooks(0, control.end(),
-                            [&font](CharFormat &format) { takeFont(format, font); });
-    }
+    m_documents.forEach([](Document &each) {
+        each.changeLooks(0, each.length(),
+                         [&each](CharFormat &format) { takeFont(format, each.plain()); });
+    });
 }
 
 } // namespace zeph

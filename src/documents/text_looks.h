@@ -13,6 +13,7 @@
 namespace zeph {
 
 class ColouredInsert;
+class Documents;
 class MenuActions;
 class EditorView;
 class StyleEditor;
@@ -51,6 +52,7 @@ private:
 
     Context m_context;
     Parts m_parts;
+    Documents &m_documents;
     QPointer<StyleEditor> m_editor;
 };
 

@@ -5,7 +5,6 @@
 
 #include "documents/editor_view.h"
 #include "documents/highlighting.h"
-#include "documents/text_control.h"
 #include "settings/global_settings.h"
 
 #include <QKeyEvent>
@@ -14,21 +13,16 @@ namespace zeph {
 
 TypingColour::TypingColour(EditorView &view, Highlighting &highlighting,
                            const GlobalSettings &settings)
-    : m_view(view), m_highlighting(highlighting), m_settings(settings)
+    : m_documents(view.documents()), m_highlighting(highlighting), m_settings(settings)
 {
-    for (const DocumentKind kind : { DocumentKind::Joystick, DocumentKind::Macro }) {
-        TextControl *control = view.document(kind).control;
-        control->installEventFilter(this);
-        // The mouse speaks to the viewport.
-        control->viewport()->installEventFilter(this);
-    }
+    view.watch(*this);
 }
 
 bool TypingColour::eventFilter(QObject *, QEvent *event)
 {
     if (m_settings.ColourWithTyping == 1 && endsLine(*event)) {
         const bool isProtected =
-            m_view.isProtected() && m_view.selected().kind == DocumentKind::Macro;
+            m_documents.isProtected() && m_documents.selected().kind() == DocumentKind::Macro;
         if (!isProtected) {
             m_highlighting.BlockColour();
         }
@@ -47,7 +41,7 @@ bool TypingColour::endsLine(const QEvent &event) const
     case QEvent::KeyRelease:
         return keyOf() == Qt::Key_Backspace || keyOf() == Qt::Key_Right;
     case QEvent::MouseButtonRelease:
-        return m_view.selected().control->textCursor().hasSelection();
+        return m_documents.selected().selLength() > 0;
     default:
         return false;
     }

@@ -7,6 +7,7 @@
 
 namespace zeph {
 
+class Documents;
 class EditorView;
 class Highlighting;
 struct GlobalSettings;
@@ -26,7 +27,7 @@ protected:
 private:
     bool endsLine(const QEvent &event) const;
 
-    EditorView &m_view;
+    Documents &m_documents;
     Highlighting &m_highlighting;
     const GlobalSettings &m_settings;
 };

@@ -1,10 +1,11 @@
 // SPDX-FileCopyrightText: The Zeph authors
 // SPDX-License-Identifier: MIT
 
+#include "documents/undo_histories.h"
+
+#include "documents/documents.h"
 #include "documents/editor_view.h"
 #include "documents/line_blink.h"
-#include "documents/text_control.h"
-#include "documents/undo_history.h"
 #include "menus/menu_actions.h"
 #include "platform/status_line.h"
 #include "settings/global_settings.h"
@@ -27,72 +28,57 @@ void showSteps(QAction &entry, const QString &word, int steps)
 } // namespace
 
 UndoHistories::UndoHistories(const Context &context, EditorView &view, MenuActions &actions)
-    : m_context(context), m_view(view), m_actions(actions),
-      m_histories{
-          UndoHistory(view.document(DocumentKind::Joystick), context.settings.UndoMax),
-          UndoHistory(view.document(DocumentKind::Macro), context.settings.UndoMax),
-      },
+    : m_context(context), m_view(view), m_actions(actions), m_documents(view.documents()),
       m_blink(new LineBlink(view, this))
 {
-    follow(DocumentKind::Joystick);
-    follow(DocumentKind::Macro);
-    connect(&view, &EditorView::edited, this, &UndoHistories::textChanged);
-    connect(&view, &EditorView::tabSelected, this, &UndoHistories::UpdateUndoRedoMenus);
+    m_documents.forEach([this](Document &each) {
+        connect(&each, &Document::stepsChanged, this, &UndoHistories::UpdateUndoRedoMenus);
+    });
+    connect(&m_documents, &Documents::selectedChanged, this, &UndoHistories::UpdateUndoRedoMenus);
     actions.connectTo(u"mnuEditUndo", [this] { mnuEditUndo_Click(); });
     actions.connectTo(u"mnuEditRedo", [this] { mnuEditRedo_Click(); });
     actions.connectTo(u"mnuEditSelectLine", [this] { mnuEditSelectLine_Click(); });
     UpdateUndoRedoMenus();
 }
 
-void UndoHistories::follow(DocumentKind kind)
+UndoHistory &UndoHistories::of(DocumentKind kind)
 {
-    connect(m_view.document(kind).control, &TextControl::keyComing, this,
-            [this, kind](int key) { of(kind).keyPressed(key); });
-}
-
-void UndoHistories::textChanged(DocumentKind kind)
-{
-    m_view.setState(m_view.document(kind), EditorDocument::Modified);
-    const bool undone = of(kind).canRedo();
-    if (of(kind).textChanged() || undone) {
-        UpdateUndoRedoMenus();
-    }
+    return m_documents.of(kind).history();
 }
 
 void UndoHistories::mnuEditUndo_Click()
 {
-    step(&UndoHistory::undo, of(m_view.selected().kind).canUndo());
+    step(&UndoHistory::undo, m_documents.selected().history().canUndo());
 }
 
 void UndoHistories::mnuEditRedo_Click()
 {
-    step(&UndoHistory::redo, of(m_view.selected().kind).canRedo());
+    step(&UndoHistory::redo, m_documents.selected().history().canRedo());
 }
 
 void UndoHistories::step(void (UndoHistory::*way)(), bool possible)
 {
-    if (m_view.refuseProtected() || !possible) {
+    if (m_documents.refuseProtected() || !possible) {
         return;
     }
-    EditorDocument &document = m_view.selected();
-    const BusyGuard busy(m_view);
+    Document &document = m_documents.selected();
     m_blink->stop();
-    (of(document.kind).*way)();
-    m_context.status.setLine(document.control->caretLine());
+    (document.history().*way)();
+    m_context.status.setLine(document.caretLine());
     UpdateUndoRedoMenus();
     if (m_context.settings.HighlightLineOnUndo == 1) {
-        m_blink->start(document);
+        m_blink->start(document.kind());
     }
 }
 
 void UndoHistories::mnuEditSelectLine_Click()
 {
-    SelectLine(*m_view.selected().control);
+    SelectLine(m_documents.selected());
 }
 
 void UndoHistories::UpdateUndoRedoMenus()
 {
-    const UndoHistory &history = of(m_view.selected().kind);
+    const UndoHistory &history = m_documents.selected().history();
     showSteps(*m_actions.action(u"mnuEditUndo"), u"Undo"_s, history.slots() - history.UndoIndex());
     showSteps(*m_actions.action(u"mnuEditRedo"), u"Redo"_s, history.UndoIndex() - 1);
     Q_EMIT menusUpdated();

@@ -3,12 +3,12 @@
 
 #include "documents/undo_history.h"
 
-#include "documents/text_control.h"
+#include "documents/document.h"
 
 namespace zeph {
 
-UndoHistory::UndoHistory(EditorDocument &document, const qint16 &undoMax)
-    : m_document(document), m_undoMax(undoMax), m_states(document.control->states())
+UndoHistory::UndoHistory(Document &document, const qint16 &undoMax)
+    : m_document(document), m_undoMax(undoMax), m_states(document.states())
 {
     reset();
 }
@@ -34,7 +34,7 @@ void UndoHistory::startWith(const DocumentState &state)
 
 UndoHistory::Slot UndoHistory::present()
 {
-    return { m_states.present(), m_document.control->selStart() };
+    return { m_states.present(), m_document.selStart() };
 }
 
 bool UndoHistory::textChanged()
@@ -67,7 +67,7 @@ void UndoHistory::keyPressed(int key)
     }
     const bool space = key == Qt::Key_Space;
     const bool enter = key == Qt::Key_Return || key == Qt::Key_Enter;
-    if (space && m_document.control->document()->isEmpty()) {
+    if (space && m_document.length() == 0) {
         UndoStepNext = 0;
     } else if (slots() == 1 || key == Qt::Key_Backspace) {
         UndoStepNext = 1;
@@ -98,10 +98,11 @@ void UndoHistory::show(int index)
 {
     m_index = index;
     const Slot &slot = m_slots[size_t(index) - 1];
-    m_states.restore(slot.state);
-    m_document.control->select(slot.caret, 0);
-    m_document.caret = m_document.control->selStart();
-    m_document.selLength = 0;
+    {
+        const Document::Quiet quiet(m_document);
+        m_states.restore(slot.state);
+    }
+    m_document.select(slot.caret, 0);
 }
 
 qsizetype UndoHistory::bytesHeld() const

@@ -10,10 +10,9 @@
 #include "documents/editor_view.h"
 #include "documents/highlighting.h"
 #include "documents/line_showing.h"
-#include "documents/text_control.h"
 #include "documents/text_looks.h"
 #include "documents/typing_colour.h"
-#include "documents/undo_history.h"
+#include "documents/undo_histories.h"
 #include "editor/edit/editing_tools.h"
 #include "editor/edit/insert_forms.h"
 #include "editor/editor_keys.h"
@@ -48,20 +47,21 @@ Editor::Editor(const Context &context, QWidget *parent)
     : QWidget(parent), m_context(context),
       m_actions(std::make_unique<MenuActions>(context.dialogs, context.paths.inApp(u"icons/"),
                                               menuBarTable(), actionTable())),
-      m_view(new EditorView(context, this)),
+      m_documents(std::make_unique<Documents>(context)),
+      m_view(std::make_unique<EditorView>(context, *m_documents, this)),
       m_copies(std::make_unique<ColouredCopies>(context.paths)),
       m_keys(std::make_unique<EditorKeys>(*m_view, *m_actions, context.settings)),
-      // Behind the keys: a line that blinks has to be let go before a key's entry runs.
+      // After the keys: a line that blinks has to be let go before a key's entry runs.
       m_undos(std::make_unique<UndoHistories>(context, *m_view, *m_actions)),
-      m_insert(std::make_unique<ColouredInsert>(context, *m_view, *m_undos)),
+      m_insert(std::make_unique<ColouredInsert>(context, *m_view)),
       m_highlighting(std::make_unique<Highlighting>(
-          context, Highlighting::Parts{ *m_view, *m_copies, *m_undos, *m_insert })),
+          context, Highlighting::Parts{ *m_view, *m_copies, *m_insert })),
       m_looks(
           std::make_unique<TextLooks>(context, TextLooks::Parts{ *m_view, *m_actions, *m_insert })),
       m_typingColour(std::make_unique<TypingColour>(*m_view, *m_highlighting, context.settings)),
       m_editing(std::make_unique<EditingTools>(
           context,
-          EditingTools::Parts{ *m_view, *m_actions, *m_undos, *m_highlighting, *m_insert })),
+          EditingTools::Parts{ *m_view, *m_actions, *m_highlighting, *m_insert })),
       m_useDirectives(std::make_unique<UseDirectives>(context, *m_view)),
       m_saving(std::make_unique<FileSaving>(context, *m_view, *m_copies, *m_useDirectives)),
       m_opening(std::make_unique<FileOpening>(
@@ -80,7 +80,7 @@ Editor::Editor(const Context &context, QWidget *parent)
     auto *layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
-    layout->addWidget(m_view, 1);
+    layout->addWidget(m_view.get(), 1);
     connectFiles();
     connectEditing();
     connectOptions();
@@ -91,8 +91,11 @@ Editor::Editor(const Context &context, QWidget *parent)
     connectGuards();
     connect(m_keys.get(), &EditorKeys::helpOn, this, &Editor::helpOn);
     connect(m_keys.get(), &EditorKeys::emergencyOff, this, &Editor::emergencyOff);
-    connect(m_view, &EditorView::selectionChanged, this, &Editor::updateConditions);
-    connect(m_view, &EditorView::tabSelected, this, &Editor::updateDownloadCaption);
+    m_documents->forEach([this](Document &each) {
+        connect(&each, &Document::selectionChanged, this, &Editor::updateConditions);
+    });
+    connect(m_documents.get(), &Documents::selectedChanged, this, &Editor::updateConditions);
+    connect(m_documents.get(), &Documents::selectedChanged, this, &Editor::updateDownloadCaption);
     connect(m_opening.get(), &FileOpening::loaded, this, &Editor::updateDownloadCaption);
     connect(m_fresh.get(), &FileNew::joystickReplaced, this, &Editor::updateDownloadCaption);
     connect(QApplication::clipboard(), &QClipboard::dataChanged, this, &Editor::updateConditions);
@@ -106,29 +109,29 @@ QAction *Editor::action(QStringView name) const
     return m_actions->action(name);
 }
 
-EditorDocument &Editor::joystick()
+Document &Editor::joystick()
 {
-    return m_view->document(DocumentKind::Joystick);
+    return m_documents->joystick();
 }
 
-EditorDocument &Editor::macro()
+Document &Editor::macro()
 {
-    return m_view->document(DocumentKind::Macro);
+    return m_documents->macro();
 }
 
-EditorDocument &Editor::selected()
+Document &Editor::selected()
 {
-    return m_view->selected();
+    return m_documents->selected();
 }
 
 QString Editor::joystickText()
 {
-    return joystick().control->text();
+    return joystick().text();
 }
 
 QString Editor::macroText()
 {
-    return macro().control->text();
+    return macro().text();
 }
 
 void Editor::connectFiles()
@@ -157,7 +160,7 @@ void Editor::connectEditing()
 {
     connect(m_editing.get(), &EditingTools::helpOn, this, &Editor::helpOn);
     connect(m_insertForms.get(), &InsertForms::helpOn, this, &Editor::helpOn);
-    m_actions->connectTo(u"mnuEditSelectAll", [this] { selected().control->selectAll(); });
+    m_actions->connectTo(u"mnuEditSelectAll", [this] { m_view->selectAll(); });
 }
 
 void Editor::connectOptions()
@@ -168,7 +171,7 @@ void Editor::connectOptions()
         m_view->setTiled(m_context.settings.TileFiles == 1);
     });
     on.connectTo(u"mnuPreferencesProtectMacroFile", [this] {
-        m_view->setProtected(action(u"mnuPreferencesProtectMacroFile")->isChecked());
+        m_documents->setProtected(action(u"mnuPreferencesProtectMacroFile")->isChecked());
         updateConditions();
     });
     on.connectTo(u"mnuJoyPopUpSingleFile", [this] {
@@ -246,8 +249,7 @@ void Editor::connectMacros()
 {
     m_macros = std::make_unique<MacroFeatures>(
         m_context,
-        MacroFeatures::Parts{ *m_view, *m_actions, *m_opening, *m_saving, *m_fresh, *m_undos,
-                              *m_insert });
+        MacroFeatures::Parts{ *m_view, *m_actions, *m_opening, *m_saving, *m_fresh, *m_insert });
     layout()->addWidget(m_macros->list().frame());
     connect(&m_macros->menu(), &MacroListMenu::quickTipWanted, this,
             [this] { Q_EMIT helpOn(u"macro list"_s); });
@@ -271,17 +273,17 @@ void Editor::connectGuards()
 
 void Editor::updateConditions()
 {
-    m_actions->setCondition(When::Selection, selected().control->textCursor().hasSelection());
+    m_actions->setCondition(When::Selection, selected().selLength() > 0);
     m_actions->setCondition(When::PasteReady, holdsText(QApplication::clipboard()->mimeData()));
     m_actions->setCondition(When::JoystickText,
-                            selected().kind == DocumentKind::Joystick
+                            selected().kind() == DocumentKind::Joystick
                                 || m_context.settings.AlwaysShowCompileDownload == 1);
 }
 
 void Editor::updateDownloadCaption()
 {
     // Only a file of the Cougar's own kind goes to it; the others keep the plain words.
-    const bool named = lastThree(joystick().name) == u"tmj";
+    const bool named = lastThree(joystick().name()) == u"tmj";
     QString caption = named ? joystick().caption() : u"joystick file"_s;
     caption.replace(u'&', u"&&"_s);
     action(u"DownloadArray1_0")->setText(u"&Download "_s + caption);
@@ -295,7 +297,7 @@ void Editor::ResetFocusToEditor()
 void Editor::HighlightErrorLine(int line, const QString &compileErrorText)
 {
     try {
-        showLine(m_context, *m_view, m_view->document(documentOfError(compileErrorText)), line,
+        showLine(m_context, *m_view, m_documents->of(documentOfError(compileErrorText)), line,
                  LineCaret::SelectsLine);
     } catch (const std::exception &error) {
         m_context.dialogs.tell(u"Hmmm....bizarre..."_s,
@@ -313,9 +315,9 @@ bool Editor::queryUnload()
 
 QString Editor::restorableFile(DocumentKind kind)
 {
-    const EditorDocument &document = m_view->document(kind);
-    const bool isNoFile = document.state == EditorDocument::Empty || isUntitled(document.name);
-    return isNoFile ? QString() : document.path;
+    const Document &document = m_documents->of(kind);
+    const bool isNoFile = document.state() == Document::Empty || isUntitled(document.name());
+    return isNoFile ? QString() : document.path();
 }
 
 void Editor::applySettings()

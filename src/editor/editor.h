@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "documents/editor_document.h"
+#include "documents/document.h"
 #include "platform/context.h"
 
 #include <QWidget>
@@ -16,6 +16,7 @@ namespace zeph {
 
 class ColouredCopies;
 class ColouredInsert;
+class Documents;
 class EditingTools;
 class MenuActions;
 class EditorKeys;
@@ -48,12 +49,13 @@ public:
     QAction *action(QStringView name) const;
 
     /// The two documents, which every tool may read.
-    EditorDocument &joystick();
-    EditorDocument &macro();
-    EditorDocument &selected();
+    Document &joystick();
+    Document &macro();
+    Document &selected();
     QString joystickText();
     QString macroText();
 
+    Documents &documents() { return *m_documents; }
     EditorView &view() { return *m_view; }
     FileOpening &opening() { return *m_opening; }
     FileSaving &saving() { return *m_saving; }
@@ -103,7 +105,8 @@ private:
 
     Context m_context;
     std::unique_ptr<MenuActions> m_actions;
-    EditorView *m_view = nullptr;
+    std::unique_ptr<Documents> m_documents;
+    std::unique_ptr<EditorView> m_view;
     std::unique_ptr<ColouredCopies> m_copies;
     std::unique_ptr<EditorKeys> m_keys;
     std::unique_ptr<UndoHistories> m_undos;

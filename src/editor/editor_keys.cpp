@@ -4,7 +4,6 @@
 #include "editor/editor_keys.h"
 
 #include "documents/editor_view.h"
-#include "documents/text_control.h"
 #include "menus/menu_actions.h"
 #include "settings/global_settings.h"
 
@@ -75,9 +74,7 @@ QStringView standardEntry(const QKeyEvent &event)
 EditorKeys::EditorKeys(EditorView &view, MenuActions &actions, const GlobalSettings &settings)
     : m_view(view), m_actions(actions), m_settings(settings)
 {
-    for (const DocumentKind kind : { DocumentKind::Joystick, DocumentKind::Macro }) {
-        view.document(kind).control->installEventFilter(this);
-    }
+    view.watch(*this);
     // A key that no control has a use for comes up to the Editor as a whole.
     if (QWidget *editor = view.parentWidget()) {
         editor->installEventFilter(this);
@@ -96,10 +93,11 @@ bool EditorKeys::eventFilter(QObject *watched, QEvent *event)
     if (event->type() == QEvent::KeyPress && emergencyPressed(*static_cast<QKeyEvent *>(event))) {
         return true;
     }
-    if (watched == m_view.parentWidget()) {
+    const auto kind = m_view.kindOf(watched);
+    if (!kind) {
         return false;
     }
-    const bool macroText = watched == m_view.document(DocumentKind::Macro).control;
+    const bool macroText = *kind == DocumentKind::Macro;
     if (event->type() == QEvent::ShortcutOverride) {
         // The text has the first word on its keys; menu shortcuts serve the rest of the window.
         if (handles(*static_cast<QKeyEvent *>(event), macroText)) {
@@ -166,16 +164,17 @@ void EditorKeys::popUpInsertMenu()
     QAction *tip = m_actions.action(u"mnuInsertQuickTip");
     divider->setVisible(false);
     tip->setVisible(false);
-    const TextControl *control = m_view.selected().control;
     m_actions.menu(u"mnuInsert")
-        ->exec(control->viewport()->mapToGlobal(control->cursorRect().bottomLeft()));
+        ->exec(m_view.belowCaret());
     divider->setVisible(true);
     tip->setVisible(true);
 }
 
 void EditorKeys::help()
 {
-    const QString word = m_view.selected().control->textCursor().selectedText().trimmed();
+    const Document &document = m_view.documents().selected();
+    const QString word =
+        document.text().mid(document.selStart(), document.selLength()).trimmed();
     if (word.isEmpty()) {
         m_actions.trigger(u"mnuHelpContents");
     } else {

@@ -4,7 +4,6 @@
 #include "editor/right_menu.h"
 
 #include "documents/editor_view.h"
-#include "documents/text_control.h"
 #include "editor/actions.h"
 #include "menus/menu_actions.h"
 
@@ -17,22 +16,17 @@ namespace zeph {
 
 RightMenu::RightMenu(EditorView &view, MenuActions &actions) : m_view(view), m_actions(actions)
 {
-    for (const DocumentKind kind : { DocumentKind::Joystick, DocumentKind::Macro }) {
-        TextControl *control = view.document(kind).control;
-        control->setContextMenuPolicy(Qt::CustomContextMenu);
-        connect(control, &QWidget::customContextMenuRequested, this,
-                [this, control, kind](const QPoint &at) {
-                    m_view.select(kind);
-                    build()->exec(control->viewport()->mapToGlobal(at));
-                });
-    }
+    connect(&view, &EditorView::popUpWanted, this, [this](DocumentKind kind, const QPoint &at) {
+        m_view.documents().select(kind);
+        build()->exec(at);
+    });
 }
 
 std::unique_ptr<QMenu> RightMenu::build() const
 {
     auto menu = std::make_unique<QMenu>();
     menu->setObjectName(u"mnuRHMouse"_s);
-    const bool macro = m_view.selected().kind == DocumentKind::Macro;
+    const bool macro = m_view.documents().selected().kind() == DocumentKind::Macro;
     QMenu *submenu = nullptr;
     for (const RightMenuRow &row : rightMenuTable()) {
         if (row.shown == RightMenuRow::Divider) {

@@ -20,10 +20,10 @@ void openFavouriteInEditor(const Favourite &favourite, Editor &editor, Dialogs &
 {
     const bool both = openFavourite(favourite, dialogs, [&editor](const QString &path) {
         editor.opening().OpenFavouriteFile(path);
-        const EditorDocument &document =
+        const Document &document =
             kindOfName(path) == DocumentKind::Macro ? editor.macro() : editor.joystick();
         // The user may have kept an unsaved text instead.
-        return document.path == path && !document.isModified();
+        return document.path() == path && !document.isModified();
     });
     if (both) {
         editor.actions().trigger(u"mnuMacrosIdentify");
@@ -76,11 +76,11 @@ void FavouritesMenu::mnuFavArray_Click(int place)
 
 void FavouritesMenu::mnuFavouritesAddCurrent_Click()
 {
-    const auto joystick = pathFor(m_editor.joystick().path, u"joystick"_s, u"macro"_s);
+    const auto joystick = pathFor(m_editor.joystick().path(), u"joystick"_s, u"macro"_s);
     if (!joystick) {
         return;
     }
-    const auto macro = pathFor(m_editor.macro().path, u"macro"_s, u"joystick"_s);
+    const auto macro = pathFor(m_editor.macro().path(), u"macro"_s, u"joystick"_s);
     if (!macro) {
         return;
     }

@@ -81,10 +81,10 @@ RecentFiles::RecentFiles(const Context &context, Editor &editor)
             });
     // An autosave counts as well; a text without a name of its own has nothing to be found by.
     connect(&editor.saving(), &FileSaving::safe, this, [this](DocumentKind kind) {
-        const EditorDocument &saved =
+        const Document &saved =
             kind == DocumentKind::Joystick ? m_editor.joystick() : m_editor.macro();
-        if (!isUntitled(saved.name)) {
-            update(kind, saved.path);
+        if (!isUntitled(saved.name())) {
+            update(kind, saved.path());
         }
     });
 }

@@ -3,6 +3,7 @@
 
 #include "preferences/colourspage.h"
 
+#include "documents/document.h"
 #include "documents/document_look.h"
 #include "editor/macros/framemacros.h"
 #include "editor/macros/macro_list_model.h"
@@ -98,11 +99,11 @@ void ColoursPage::AddColourTabStuff()
     }
     m_ui->TextFontSize->setRange(smallestStyleSize, largestStyleSize);
     for (TextControl *sample : { m_ui->SampleJoystick, m_ui->SampleMacro }) {
-        sample->setLocked(true);
+        sample->shown().setLocked(true);
         sample->setTabChangesFocus(true);
     }
-    m_ui->SampleJoystick->setText(sampleJoystickText());
-    m_ui->SampleMacro->setText(sampleMacroText());
+    m_ui->SampleJoystick->shown().setText(sampleJoystickText());
+    m_ui->SampleMacro->shown().setText(sampleMacroText());
     const MacroTable macros = sampleMacros();
     m_list->setHeadings(macros.MacroHeadings);
     m_macros->setNames(macros.names);
@@ -194,8 +195,8 @@ void ColoursPage::colourSample(TextControl &sample, DocumentKind kind, const Pai
 {
     const CharFormat plain = plainFormat(m_scheme, kind);
     sample.setLook(documentBackground(m_scheme, kind), plain);
-    sample.setCharacterRuns(
-        characterRuns(painter.paint(sample.text(), colourScheme(m_scheme, kind)), plain));
+    sample.shown().setCharacterRuns(
+        characterRuns(painter.paint(sample.shown().text(), colourScheme(m_scheme, kind)), plain));
 }
 
 void ColoursPage::ColourJoy()

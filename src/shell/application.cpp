@@ -251,12 +251,11 @@ void Application::selectFirstTab()
 {
     const bool joystickFirst =
         !m_editor->joystickText().isEmpty() || m_editor->macroText().isEmpty();
-    if (joystickFirst && m_editor->selected().kind != DocumentKind::Joystick) {
-        m_editor->view().select(DocumentKind::Joystick);
+    if (joystickFirst && m_editor->selected().kind() != DocumentKind::Joystick) {
+        m_editor->documents().select(DocumentKind::Joystick);
     }
-    EditorDocument &document = m_editor->selected();
-    document.caret = 0;
-    document.selLength = 0;
+    Document &document = m_editor->selected();
+    document.select(0, 0);
     m_editor->ResetFocusToEditor();
 }
 

@@ -43,14 +43,14 @@ CompilerHost CompileMenu::compilerHost()
     host.macroText = [this] {
         return m_editor.macroText();
     };
-    host.joystick = [this]() -> const EditorDocument & {
+    host.joystick = [this]() -> const Document & {
         return m_editor.joystick();
     };
-    host.macro = [this]() -> const EditorDocument & {
+    host.macro = [this]() -> const Document & {
         return m_editor.macro();
     };
     host.selectJoystickTab = [this] {
-        m_editor.view().select(DocumentKind::Joystick);
+        m_editor.documents().select(DocumentKind::Joystick);
     };
     host.mnuFileSave_Click = [this] {
         m_editor.saving().mnuFileSave_Click();

@@ -149,7 +149,7 @@ QAction *CoolBar::target(const ToolButtonRow &row) const
     if (!m_editor) {
         return nullptr;
     }
-    const bool macroSelected = m_editor->selected().kind == DocumentKind::Macro;
+    const bool macroSelected = m_editor->selected().kind() == DocumentKind::Macro;
     const QString name = actionOf(lookOf(row, choices()), macroSelected);
     QAction *action = m_editor->actions().has(name) ? m_editor->action(name) : nullptr;
     // Files without a picture of their own get the viewer's default one.

@@ -4,7 +4,6 @@
 #include "shell/download_menu.h"
 
 #include "documents/editor_view.h"
-#include "documents/text_control.h"
 #include "editor/editor.h"
 #include "menus/menu_actions.h"
 #include "settings/settings_files.h"
@@ -94,7 +93,7 @@ DownloadHost DownloadMenu::host()
 {
     DownloadHost host{ m_parts.compile.compilerHost(), {}, {}, {}, {}, {}, {}, {} };
     host.lockJoystickText = [this](bool locked) {
-        m_parts.editor.joystick().control->setLocked(locked);
+        m_parts.editor.joystick().setLocked(locked);
     };
     host.resetsAxes = [this] {
         return m_parts.editor.action(u"mnuResetAxes")->isChecked();

@@ -63,7 +63,7 @@ GamesHost GamesMenu::host()
 void GamesMenu::addEditorTo(GamesHost &host)
 {
     Editor &editor = m_parts.editor;
-    host.joystick = [&editor]() -> const EditorDocument & {
+    host.joystick = [&editor]() -> const Document & {
         return editor.joystick();
     };
     host.saveChanged = [this] {
@@ -79,7 +79,7 @@ void GamesMenu::addEditorTo(GamesHost &host)
         editor.opening().OpenPreviouslySavedFiles(path);
     };
     host.selectJoystickTab = [&editor] {
-        editor.view().select(DocumentKind::Joystick);
+        editor.documents().select(DocumentKind::Joystick);
     };
     host.HighlightErrorLine = [&editor](int line, const QString &text) {
         editor.HighlightErrorLine(line, text);
@@ -115,23 +115,23 @@ void GamesMenu::addToolsTo(GamesHost &host)
 void GamesMenu::saveChanged()
 {
     Editor &editor = m_parts.editor;
-    const DocumentKind selected = editor.selected().kind;
+    const DocumentKind selected = editor.selected().kind();
     for (const DocumentKind kind : { DocumentKind::Joystick, DocumentKind::Macro }) {
-        if (editor.view().document(kind).isModified()) {
-            editor.view().select(kind);
+        if (editor.documents().of(kind).isModified()) {
+            editor.documents().select(kind);
             editor.saving().mnuFileSave_Click();
         }
     }
-    if (editor.selected().kind != selected) {
-        editor.view().select(selected);
+    if (editor.selected().kind() != selected) {
+        editor.documents().select(selected);
     }
 }
 
 void GamesMenu::mnuGamesAdd_Click()
 {
-    const EditorDocument &joystick = m_parts.editor.joystick();
+    const Document &joystick = m_parts.editor.joystick();
     EnterGameName window(m_context.paths, m_context.dialogs,
-                         isUntitled(joystick.name) ? QString() : joystick.path, &m_parts.mum);
+                         isUntitled(joystick.name()) ? QString() : joystick.path(), &m_parts.mum);
     new ForeignKeyBSupport(m_context.keyboard, m_context.settings, &window);
     if (window.exec() == QDialog::Accepted) {
         m_games.update(window.game());

@@ -54,7 +54,7 @@ void Mum::attachEditor(Editor *editor)
         menuBar()->addMenu(menu);
     }
     m_coolBar->attach(*editor);
-    connect(&editor->view(), &EditorView::tabSelected, m_coolBar, &CoolBar::refresh);
+    connect(&editor->documents(), &Documents::selectedChanged, m_coolBar, &CoolBar::refresh);
 }
 
 WindowPlace Mum::place() const
@@ -111,7 +111,7 @@ void Mum::pressAtEnd(int press)
         return;
     }
     MenuActions &actions = m_editor->actions();
-    actions.trigger(m_editor->selected().kind == DocumentKind::Joystick ? u"mnuViewColourJoystick"
+    actions.trigger(m_editor->selected().kind() == DocumentKind::Joystick ? u"mnuViewColourJoystick"
                                                                         : u"mnuViewColourMacro");
     actions.trigger(u"mnuFileSave");
     actions.trigger(u"mnuMacrosIdentify");

@@ -5,7 +5,7 @@
 
 #include "documents/foreign_keyboard.h"
 #include "documents/highlighting.h"
-#include "documents/undo_history.h"
+#include "documents/undo_histories.h"
 #include "editor/editor.h"
 #include "editor/files/file_new.h"
 #include "editor/files/loss_guards.h"

@@ -187,11 +187,11 @@ void Tour::addStops(Application &application)
         { u"macro-tab"_s,
           [&application] {
               application.editor().actions().trigger(u"mnuViewTileVertically");
-              application.editor().view().select(DocumentKind::Macro);
+              application.editor().documents().select(DocumentKind::Macro);
           } },
         { u"macro-list"_s,
           [&application] {
-              application.editor().view().select(DocumentKind::Joystick);
+              application.editor().documents().select(DocumentKind::Joystick);
               chooseMacro(application);
           } },
         { u"macro-rename-done"_s,
@@ -218,7 +218,7 @@ void Tour::addStops(Application &application)
               if (auto *find = application.mum().findChild<FindAndReplace *>()) {
                   find->reject();
               }
-              application.editor().view().select(DocumentKind::Joystick);
+              application.editor().documents().select(DocumentKind::Joystick);
               application.editor().actions().trigger(u"mnuAppsCompile");
           } },
         { u"slow-compile"_s,

@@ -14,7 +14,7 @@ class ColouredInsertTest : public test::PaintingTest
 {
 protected:
     ColouredInsert &insert() { return editor->insert(); }
-    void caretAt(int position) { joystick()->select(position, 0); }
+    void caretAt(int position) { joystick()->shown().select(position, 0); }
 };
 
 } // namespace
@@ -29,7 +29,7 @@ TEST_F(ColouredInsertTest, PiecesStandInTheirColoursAndTheCaretBehindThem)
     insert().EndColInsert();
     EXPECT_EQ(editor->joystickText(), u"aBTN xb");
     EXPECT_EQ(colours(J), u".bbbrr.");
-    EXPECT_EQ(joystick()->selStart(), 6);
+    EXPECT_EQ(joystick()->shown().selStart(), 6);
 }
 
 TEST_F(ColouredInsertTest, TypingGoesOnInThePlainColourAndFont)
@@ -39,13 +39,13 @@ TEST_F(ColouredInsertTest, TypingGoesOnInThePlainColourAndFont)
     insert().EndColInsert();
     QTest::keyClicks(joystick(), u"x"_s);
     EXPECT_EQ(editor->joystickText(), u"BTNx");
-    EXPECT_EQ(joystick()->richText().formatAt(3), editor->view().plainFormat(J));
+    EXPECT_EQ(joystick()->shown().richText().formatAt(3), editor->documents().plainFormat(J));
 }
 
 TEST_F(ColouredInsertTest, ASelectionIsReplacedByTheFirstPiece)
 {
     set(J, u"one two three"_s);
-    joystick()->select(4, 3);
+    joystick()->shown().select(4, 3);
     insert().BeginColInsert();
     insert().InsertColouredString(u"2"_s, settings.RAWColour);
     insert().InsertColouredString(u"!"_s, settings.RAWColour);
@@ -62,7 +62,7 @@ TEST_F(ColouredInsertTest, TheWholeInsertIsOneUndoStepAndOneRedo)
     insert().InsertCarriageReturn();
     insert().InsertColouredString(u"/U"_s, settings.SlashColour);
     insert().EndColInsert();
-    EXPECT_EQ(editor->joystick().state, EditorDocument::Modified);
+    EXPECT_EQ(editor->joystick().state(), Document::Modified);
     EXPECT_EQ(editor->undos().of(J).slots(), 2);
     editor->undos().mnuEditUndo_Click();
     EXPECT_EQ(editor->joystickText(), u"ab");
@@ -98,7 +98,7 @@ TEST_F(ColouredInsertTest, TheStateBeforeIsStoredWithItsLooks)
 
 TEST_F(ColouredInsertTest, BlanksAndLineEndsAreInTheDocumentsPlainColour)
 {
-    editor->view().select(M);
+    editor->documents().select(M);
     insert().BeginColInsert();
     insert().InsertBlackBlanks();
     insert().InsertCarriageReturn();
@@ -118,7 +118,7 @@ TEST_F(ColouredInsertTest, LineEndsOfFilesAreLineEnds)
 
 TEST_F(ColouredInsertTest, AProtectedMacroFileTakesNothing)
 {
-    editor->view().select(M);
+    editor->documents().select(M);
     set(M, u"a = b"_s);
     protectMacro();
     dialogs.answer(u"File protected"_s, BoxButton::Ok);
@@ -126,8 +126,7 @@ TEST_F(ColouredInsertTest, AProtectedMacroFileTakesNothing)
     EXPECT_FALSE(insert().InsertColouredString(u"x"_s, settings.RAWColour));
     insert().EndColInsert();
     EXPECT_EQ(editor->macroText(), u"a = b");
-    EXPECT_EQ(editor->macro().state, EditorDocument::Saved);
-    EXPECT_EQ(editor->view().ColouringBusy, 0);
+    EXPECT_EQ(editor->macro().state(), Document::Saved);
     EXPECT_FALSE(editor->action(u"mnuEditUndo")->isEnabled());
 }
 
@@ -166,7 +165,7 @@ TEST_F(ColouredInsertTest, AStatementIsPaintedAsTypingPaintsIt)
     insert().MacroTransferText(u"BTN S1 /U USE"_s);
     insert().EndColInsert();
     EXPECT_EQ(colours(J), u"bbbbbb.ss.mmm");
-    EXPECT_EQ(joystick()->selStart(), 13);
+    EXPECT_EQ(joystick()->shown().selStart(), 13);
 }
 
 TEST_F(ColouredInsertTest, AStatementIsKeptApartFromWhatStandsBeforeIt)
@@ -189,18 +188,18 @@ TEST_F(ColouredInsertTest, AStatementIsKeptApartFromWhatStandsBeforeIt)
 TEST_F(ColouredInsertTest, AnEmptyStatementDoesNothing)
 {
     set(J, u"abc"_s);
-    joystick()->select(0, 3);
+    joystick()->shown().select(0, 3);
     insert().MacroTransferText(QString());
     EXPECT_EQ(editor->joystickText(), u"abc");
 }
 
 TEST_F(ColouredInsertTest, AMacroFileTakesStatementsInItsOwnPlainColour)
 {
-    editor->view().select(M);
+    editor->documents().select(M);
     insert().BeginColInsert();
     insert().MacroTransferText(u"F = a"_s);
     insert().EndColInsert();
-    EXPECT_EQ(macro()->richText().formatAt(0), editor->view().plainFormat(M));
+    EXPECT_EQ(macro()->shown().richText().formatAt(0), editor->documents().plainFormat(M));
 }
 
 TEST_F(ColouredInsertTest, RichTextTakesTheDocumentsMargin)
@@ -217,5 +216,5 @@ TEST_F(ColouredInsertTest, RichTextTakesTheDocumentsMargin)
     EXPECT_EQ(editor->joystickText(), u"a1\n2\n3\nb");
     EXPECT_EQ(flagged(J, &CharFormat::bold), u".xxxxx..");
     const std::vector<ParagraphRun> expected = { { 4, { .leftIndentTwips = 20 } } };
-    EXPECT_EQ(joystick()->richText().paragraphs, expected);
+    EXPECT_EQ(joystick()->shown().richText().paragraphs, expected);
 }

@@ -21,6 +21,9 @@
 
 namespace zeph::test {
 
+/// A colour that no scheme of the tests has.
+constexpr ColorRef blue = 0xFF0000;
+
 /// A stopped clock: 5 March 2024, 9:07.
 class StoppedClock : public Clock
 {
@@ -69,7 +72,7 @@ protected:
     }
     void type(DocumentKind kind, const QString &text)
     {
-        editor->view().document(kind).control->insertPlainText(text);
+        editor->view().control(kind).insertPlainText(text);
     }
 
     TempFolder folder;

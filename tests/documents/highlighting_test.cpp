@@ -69,7 +69,7 @@ TEST_F(HighlightingTest, AFullPassShowsEachStepBeforeItGoesOn)
 
 TEST_F(HighlightingTest, AFullPassColoursTheMacroFileWithItsOwnList)
 {
-    editor->view().select(M);
+    editor->documents().select(M);
     set(M, u"BTN = /U USB (D04) rem x"_s);
     const QStringList texts = said([this] { highlighting().ApplyMacroColourHighlighting(); });
     EXPECT_EQ(colours(M), u"......ss.rrr.r...r.ccccc");
@@ -102,12 +102,11 @@ TEST_F(HighlightingTest, APassSelectsTheTabOfItsDocument)
 TEST_F(HighlightingTest, APassNeverChangesTheSavedState)
 {
     for (const auto state :
-         { EditorDocument::Empty, EditorDocument::Saved, EditorDocument::Modified }) {
+         { Document::Empty, Document::Saved, Document::Modified }) {
         set(J, u"BTN S1"_s);
-        editor->view().setState(editor->joystick(), state);
+        editor->joystick().setState(state);
         highlighting().ApplyColourHighlighting();
-        EXPECT_EQ(editor->joystick().state, state);
-        EXPECT_EQ(editor->view().ColouringBusy, 0);
+        EXPECT_EQ(editor->joystick().state(), state);
     }
 }
 
@@ -115,12 +114,12 @@ TEST_F(HighlightingTest, APassKeepsCaretAndScrollAndDropsTheSelection)
 {
     showWindow();
     set(J, u"BTN S1 /U a and quite a lot more of it\n"_s.repeated(300));
-    joystick()->select(8000, 20);
+    joystick()->shown().select(8000, 20);
     joystick()->verticalScrollBar()->setValue(100);
     joystick()->horizontalScrollBar()->setValue(7);
     highlighting().ApplyColourHighlighting();
-    EXPECT_EQ(joystick()->selStart(), 8000);
-    EXPECT_EQ(joystick()->selLength(), 0);
+    EXPECT_EQ(joystick()->shown().selStart(), 8000);
+    EXPECT_EQ(joystick()->shown().selLength(), 0);
     EXPECT_EQ(joystick()->verticalScrollBar()->value(), 100);
 }
 
@@ -135,7 +134,7 @@ TEST_F(HighlightingTest, APassStripsBoldItalicUnderlineAndForeignFonts)
         format.italic = format.underline = true;
     });
     highlighting().ApplyColourHighlighting();
-    for (const CharRun &run : joystick()->richText().characters) {
+    for (const CharRun &run : joystick()->shown().richText().characters) {
         EXPECT_EQ(run.format.family, u"Arial");
         EXPECT_EQ(run.format.pointSize, 8);
         EXPECT_TRUE(run.format.bold);
@@ -168,7 +167,7 @@ TEST_F(HighlightingTest, APassGoesIntoTheTopUndoSlot)
 {
     set(J, u"BTN S1"_s);
     highlighting().ApplyColourHighlighting();
-    joystick()->select(6, 0);
+    joystick()->shown().select(6, 0);
     type(J, u" a"_s);
     editor->undos().mnuEditUndo_Click();
     EXPECT_EQ(editor->joystickText(), u"BTN S1");
@@ -213,16 +212,16 @@ TEST_F(HighlightingTest, RemovingColourLeavesTheFontAndTheCaret)
         format.colour = settings.RAWColour;
         format.bold = format.italic = format.underline = true;
     });
-    joystick()->select(3, 2);
+    joystick()->shown().select(3, 2);
     const QStringList texts =
         said([this] { editor->actions().trigger(u"mnuRemoveColourJoystick"); });
     EXPECT_EQ(colours(J), u"........");
     EXPECT_EQ(flagged(J, &CharFormat::bold), u"........");
     EXPECT_EQ(flagged(J, &CharFormat::italic), u"........");
     EXPECT_EQ(flagged(J, &CharFormat::underline), u"........");
-    EXPECT_EQ(joystick()->richText().formatAt(0).family, u"Courier");
-    EXPECT_EQ(joystick()->selStart(), 3);
-    EXPECT_EQ(editor->joystick().state, EditorDocument::Saved);
+    EXPECT_EQ(joystick()->shown().richText().formatAt(0).family, u"Courier");
+    EXPECT_EQ(joystick()->shown().selStart(), 3);
+    EXPECT_EQ(editor->joystick().state(), Document::Saved);
     EXPECT_EQ(texts,
               QStringList({ u"Removing colour highlighting from Untitled.tmj. Please wait ..."_s,
                             u"Done"_s }));
@@ -242,7 +241,7 @@ TEST_F(HighlightingTest, RemovingColourFromTheSelectionLeavesTheRest)
 {
     set(J, u"BTN S1 /U /M"_s);
     highlighting().ApplyColourHighlighting();
-    joystick()->select(4, 5);
+    joystick()->shown().select(4, 5);
     editor->actions().trigger(u"mnuRemoveColourSelectedText");
     EXPECT_EQ(colours(J), u"bbbb......ss");
 }
@@ -252,7 +251,7 @@ TEST_F(HighlightingTest, RemovingColourFromAProtectedSelectionIsRefused)
     set(M, u"a = /U"_s);
     highlighting().ApplyMacroColourHighlighting();
     protectMacro();
-    macro()->select(0, 6);
+    macro()->shown().select(0, 6);
     dialogs.answer(u"File protected"_s, BoxButton::Ok);
     highlighting().mnuRemoveColourSelectedText_Click();
     EXPECT_EQ(colours(M), u"....ss");
@@ -262,25 +261,25 @@ TEST_F(HighlightingTest, RemovingColourFromTheSelectionNeedsOne)
 {
     set(J, u"BTN S1"_s);
     EXPECT_FALSE(editor->action(u"mnuRemoveColourSelectedText")->isEnabled());
-    joystick()->select(0, 2);
+    joystick()->shown().select(0, 2);
     EXPECT_TRUE(editor->action(u"mnuRemoveColourSelectedText")->isEnabled());
 }
 
 TEST_F(HighlightingTest, ABlockIsTheLinesThatTheSelectionTouches)
 {
     set(J, u"/U a\n/M a\n/D a\n/I a"_s);
-    joystick()->select(7, 4);
+    joystick()->shown().select(7, 4);
     highlighting().BlockColour();
     EXPECT_EQ(colours(J), u".....ss...ss.......");
-    EXPECT_EQ(joystick()->selStart(), 7);
-    EXPECT_EQ(joystick()->selLength(), 4);
-    EXPECT_EQ(editor->joystick().state, EditorDocument::Saved);
+    EXPECT_EQ(joystick()->shown().selStart(), 7);
+    EXPECT_EQ(joystick()->shown().selLength(), 4);
+    EXPECT_EQ(editor->joystick().state(), Document::Saved);
 }
 
 TEST_F(HighlightingTest, ABlockEndingAtALinesStartTakesThatLineIn)
 {
     set(J, u"/U a\n/M a\n/D a"_s);
-    joystick()->select(0, 5);
+    joystick()->shown().select(0, 5);
     highlighting().BlockColour();
     EXPECT_EQ(colours(J), u"ss...ss.......");
 }
@@ -288,10 +287,10 @@ TEST_F(HighlightingTest, ABlockEndingAtALinesStartTakesThatLineIn)
 TEST_F(HighlightingTest, ABlockWithoutASelectionIsTheCaretsLine)
 {
     set(J, u"/U\n/M\n/D"_s);
-    joystick()->select(4, 0);
+    joystick()->shown().select(4, 0);
     highlighting().BlockColour();
     EXPECT_EQ(colours(J), u"...ss...");
-    joystick()->select(8, 0);
+    joystick()->shown().select(8, 0);
     highlighting().BlockColour();
     EXPECT_EQ(colours(J), u"...ss.ss");
 }
@@ -305,7 +304,7 @@ TEST_F(HighlightingTest, ABlockSetsFontAndPlainColourAndNoLook)
         format.colour = 0x123456;
     });
     highlighting().BlockColour();
-    EXPECT_EQ(joystick()->richText().formatAt(1), editor->view().plainFormat(J));
+    EXPECT_EQ(joystick()->shown().richText().formatAt(1), editor->documents().plainFormat(J));
 }
 
 TEST_F(HighlightingTest, UseAtALinesVeryEndIsPlainInTheFullPassAndColouredInABlock)
@@ -313,14 +312,14 @@ TEST_F(HighlightingTest, UseAtALinesVeryEndIsPlainInTheFullPassAndColouredInABlo
     set(J, u"a USE\nb"_s);
     highlighting().ApplyColourHighlighting();
     EXPECT_EQ(colours(J), u".......");
-    joystick()->select(0, 0);
+    joystick()->shown().select(0, 0);
     highlighting().BlockColour();
     EXPECT_EQ(colours(J), u"..mmm..");
 }
 
 TEST_F(HighlightingTest, MacroTextGetsTheJoystickListWhileTyping)
 {
-    editor->view().select(M);
+    editor->documents().select(M);
     set(M, u"BTN S1"_s);
     highlighting().BlockColour();
     EXPECT_EQ(colours(M), u"bbbbbb");
@@ -329,10 +328,10 @@ TEST_F(HighlightingTest, MacroTextGetsTheJoystickListWhileTyping)
 TEST_F(HighlightingTest, ColouringALineIsAStepToUndoButNothingToSave)
 {
     set(J, u"/U\n/M"_s);
-    joystick()->select(4, 0);
+    joystick()->shown().select(4, 0);
     editor->actions().trigger(u"mnuViewHighlightLine");
     EXPECT_EQ(colours(J), u"...ss");
-    EXPECT_EQ(editor->joystick().state, EditorDocument::Saved);
+    EXPECT_EQ(editor->joystick().state(), Document::Saved);
     EXPECT_TRUE(editor->action(u"mnuEditUndo")->isEnabled());
     editor->undos().mnuEditUndo_Click();
     EXPECT_EQ(colours(J), u".....");
@@ -348,7 +347,7 @@ TEST_F(HighlightingTest, ColouringALineWithoutTheFlagIsNoStep)
 
 TEST_F(HighlightingTest, ColouringALineOfAProtectedMacroFileIsRefused)
 {
-    editor->view().select(M);
+    editor->documents().select(M);
     set(M, u"a = /U"_s);
     protectMacro();
     dialogs.answer(u"File protected"_s, BoxButton::Ok);
@@ -360,9 +359,9 @@ TEST_F(HighlightingTest, AStatementsTextIsPaintedInTheSelectedDocumentsPlainForm
 {
     const RichText joystickText = highlighting().ColourType(u"BTN S1 a"_s);
     EXPECT_EQ(joystickText.formatAt(0).colour, settings.BTNColour);
-    EXPECT_EQ(joystickText.formatAt(7), editor->view().plainFormat(J));
-    editor->view().select(M);
-    EXPECT_EQ(highlighting().ColourType(u"a"_s).formatAt(0), editor->view().plainFormat(M));
+    EXPECT_EQ(joystickText.formatAt(7), editor->documents().plainFormat(J));
+    editor->documents().select(M);
+    EXPECT_EQ(highlighting().ColourType(u"a"_s).formatAt(0), editor->documents().plainFormat(M));
 }
 
 TEST_F(HighlightingTest, JustRemPaintsCommentsAlone)
@@ -383,16 +382,15 @@ TEST_F(HighlightingTest, RefreshingTheLayoutStripsLooksAndSetsTheMargin)
         format.pointSize = 30;
     });
     {
-        const BusyGuard busy(editor->view());
         setParagraphFormat(*joystick()->document(), { .leftIndentTwips = 300, .bullet = true });
     }
-    joystick()->select(5, 0);
+    joystick()->shown().select(5, 0);
     const QStringList texts = said([this] { editor->actions().trigger(u"mnuViewReformat"); });
-    RichText expected = RichText::plain(u"BTN S1\na"_s, editor->view().plainFormat(J));
+    RichText expected = RichText::plain(u"BTN S1\na"_s, editor->documents().plainFormat(J));
     expected.paragraphs = { { 2, { .leftIndentTwips = 20 } } };
-    EXPECT_EQ(joystick()->richText(), expected);
-    EXPECT_EQ(joystick()->selStart(), 5);
-    EXPECT_EQ(editor->joystick().state, EditorDocument::Saved);
+    EXPECT_EQ(joystick()->shown().richText(), expected);
+    EXPECT_EQ(joystick()->shown().selStart(), 5);
+    EXPECT_EQ(editor->joystick().state(), Document::Saved);
     EXPECT_EQ(texts,
               QStringList({ u"Reformatting layout. Please wait ..."_s,
                             u"Layout refreshed ... (I wish I was!)"_s }));
@@ -412,7 +410,7 @@ TEST_F(HighlightingTest, RefreshingTheLayoutGoesIntoTheTopUndoSlot)
 TEST_F(HighlightingTest, RefreshingTheLayoutOfAProtectedOrEmptyDocumentDoesNothing)
 {
     EXPECT_EQ(said([this] { editor->actions().trigger(u"mnuViewReformat"); }), QStringList());
-    editor->view().select(M);
+    editor->documents().select(M);
     set(M, u"a = /U"_s);
     highlighting().ApplyMacroColourHighlighting();
     protectMacro();
@@ -425,7 +423,7 @@ TEST_F(HighlightingTest, AFileOpenedWithoutAColouredCopyIsColouredAndGetsOne)
 {
     editor->opening().mnuFileJoystickLoad_Click(file(u"a.tmj"_s, "BTN S1 /U a\r\nRem x\r\n"));
     EXPECT_EQ(colours(J), u"bbbbbb.ss...ccccc.");
-    EXPECT_EQ(editor->joystick().state, EditorDocument::Saved);
+    EXPECT_EQ(editor->joystick().state(), Document::Saved);
     EXPECT_TRUE(QFile::exists(folder.file(u"Rtf/a.tmj"_s)));
     EXPECT_FALSE(editor->action(u"mnuEditUndo")->isEnabled());
 }
@@ -466,11 +464,11 @@ TEST_F(TypingColourTest, BlankAndEnterColourTheLineBeforeThem)
 TEST_F(TypingColourTest, BackspaceAndRightColourTheLineBehindThem)
 {
     set(J, u"/UX"_s);
-    joystick()->select(3, 0);
+    joystick()->shown().select(3, 0);
     QTest::keyClick(joystick(), Qt::Key_Backspace);
     EXPECT_EQ(colours(J), u"ss");
     set(J, u"/U"_s);
-    joystick()->select(0, 0);
+    joystick()->shown().select(0, 0);
     QTest::keyClick(joystick(), Qt::Key_Right);
     EXPECT_EQ(colours(J), u"ss");
 }
@@ -478,10 +476,10 @@ TEST_F(TypingColourTest, BackspaceAndRightColourTheLineBehindThem)
 TEST_F(TypingColourTest, TheMouseColoursWhatItHasSelected)
 {
     set(J, u"/U\n/M"_s);
-    joystick()->select(0, 1);
+    joystick()->shown().select(0, 1);
     QTest::mouseRelease(joystick()->viewport(), Qt::LeftButton, Qt::NoModifier, QPoint(2, 2));
     EXPECT_EQ(colours(J), u"ss...");
-    joystick()->select(4, 0);
+    joystick()->shown().select(4, 0);
     QTest::mouseRelease(joystick()->viewport(), Qt::LeftButton, Qt::NoModifier, QPoint(2, 2));
     EXPECT_EQ(colours(J), u"ss...");
 }
@@ -496,7 +494,7 @@ TEST_F(TypingColourTest, NothingIsColouredWhileTheSettingIsOff)
 
 TEST_F(TypingColourTest, AProtectedMacroTextStaysAsItIs)
 {
-    editor->view().select(M);
+    editor->documents().select(M);
     set(M, u"/U"_s);
     protectMacro();
     QTest::keyClick(macro(), Qt::Key_Right);

@@ -21,7 +21,7 @@ protected:
         editor->applySettings();
         editor->show();
     }
-    TextControl *joystick() { return editor->joystick().control; }
+    TextControl *joystick() { return &editor->view().control(DocumentKind::Joystick); }
     LineMargin *margin() { return joystick()->findChild<LineMargin *>(); }
     QColor pixel(int x, double y)
     {
@@ -101,7 +101,7 @@ TEST_F(LineMarginTest, StandsBesideTheTextAndGrowsWithTheNumbers)
 TEST_F(LineMarginTest, NumbersTheLinesThatAreSeen)
 {
     type(DocumentKind::Joystick, QString(500, u'\n'));
-    joystick()->select(0, 0);
+    joystick()->shown().select(0, 0);
     QList<SeenLine> seen = joystick()->seenLines();
     ASSERT_GT(seen.size(), 5);
     EXPECT_EQ(seen[0].number, 1);
@@ -111,7 +111,7 @@ TEST_F(LineMarginTest, NumbersTheLinesThatAreSeen)
         EXPECT_GT(seen[i].baseline, seen[i].top);
         EXPECT_LT(seen[i].baseline, seen[i].top + seen[i].height);
     }
-    joystick()->select(500, 0);
+    joystick()->shown().select(500, 0);
     seen = joystick()->seenLines();
     EXPECT_EQ(seen.last().number, 501);
     EXPECT_LE(seen.last().top, joystick()->viewport()->height());
@@ -128,7 +128,7 @@ TEST_F(LineMarginTest, TheMarkFollowsTheCaret)
     };
     EXPECT_EQ(at(2), mark);
     EXPECT_EQ(at(0), plain);
-    joystick()->select(0, 0);
+    joystick()->shown().select(0, 0);
     EXPECT_EQ(at(0), mark);
     EXPECT_EQ(at(2), plain);
     editor->action(u"mnuViewCurrentLine")->trigger();
@@ -140,14 +140,14 @@ TEST_F(LineMarginTest, TheLinePanelSaysWhatItSaidWithoutIt)
     type(DocumentKind::Joystick, u"a\nb\nc"_s);
     EXPECT_EQ(status.lineText(), u"Line no: 3");
     editor->action(u"mnuViewLineNumbers")->trigger();
-    joystick()->select(2, 0);
+    joystick()->shown().select(2, 0);
     EXPECT_EQ(status.lineText(), u"Line no: 2");
 }
 
 TEST_F(LineMarginTest, TheWheelScrollsTheTextOverTheMarginToo)
 {
     type(DocumentKind::Joystick, QString(500, u'\n'));
-    joystick()->select(0, 0);
+    joystick()->shown().select(0, 0);
     QWheelEvent wheel({ 5, 5 }, margin()->mapToGlobal(QPointF(5, 5)), {}, { 0, -240 }, Qt::NoButton,
                       Qt::NoModifier, Qt::NoScrollPhase, false);
     QCoreApplication::sendEvent(margin(), &wheel);

@@ -3,6 +3,7 @@
 
 #include "documents/text_control.h"
 
+#include "documents/document.h"
 #include "platform/richtext/rich_text_document.h"
 #include "tests/support/rich_texts.h"
 
@@ -36,7 +37,7 @@ protected:
         for (int i = 0; i < lines; ++i) {
             text += u"BTN S1 a\n"_s;
         }
-        control.setText(text);
+        control.shown().setText(text);
     }
     /// What the toolkit answers to something dragged over the text and let go there.
     bool drop(QMimeData &data)
@@ -59,45 +60,47 @@ protected:
 
 TEST_F(TextControlTest, CopyingKeepsNoBreakSpacesAndLineEnds)
 {
-    control.setText(u"a"_s + noBreak + u"b\nc"_s);
+    control.shown().setText(u"a"_s + noBreak + u"b\nc"_s);
     control.selectAll();
     control.copy();
     EXPECT_EQ(QGuiApplication::clipboard()->text(), u"a"_s + noBreak + u"b\nc"_s);
-    control.select(0, 0);
+    control.shown().select(0, 0);
     control.paste();
-    EXPECT_EQ(control.text(), u"a"_s + noBreak + u"b\nca"_s + noBreak + u"b\nc"_s);
+    EXPECT_EQ(control.shown().text(), u"a"_s + noBreak + u"b\nca"_s + noBreak + u"b\nc"_s);
 }
 
 TEST_F(TextControlTest, ALockedTextStillHasACaretAndASelection)
 {
-    control.setText(u"one\ntwo"_s);
-    control.select(0, 0);
-    control.setLocked(true);
+    control.shown().setText(u"one\ntwo"_s);
+    control.shown().select(0, 0);
+    control.shown().setLocked(true);
     QTest::keyClicks(&control, u"x"_s);
     QTest::keyClick(&control, Qt::Key_Delete);
-    EXPECT_EQ(control.text(), u"one\ntwo");
+    EXPECT_EQ(control.shown().text(), u"one\ntwo");
     QTest::keyClick(&control, Qt::Key_Down);
-    EXPECT_EQ(control.caretLine(), 2);
+    EXPECT_EQ(control.shown().caretLine(), 2);
     QTest::keyClick(&control, Qt::Key_End, Qt::ShiftModifier);
     EXPECT_EQ(control.textCursor().selectedText(), u"two");
-    control.setLocked(false);
+    control.shown().setLocked(false);
     QTest::keyClick(&control, Qt::Key_Delete);
-    EXPECT_EQ(control.text(), u"one\n");
+    EXPECT_EQ(control.shown().text(), u"one\n");
 }
 
 TEST_F(TextControlTest, APlaceIsTheSelectionWithItsDirectionAndWhatIsSeen)
 {
     fill(300);
-    control.select(0, 0);
+    control.shown().select(0, 0);
     QTextCursor backwards = control.textCursor();
     backwards.setPosition(20);
     backwards.setPosition(11, QTextCursor::KeepAnchor);
     control.setTextCursor(backwards);
     control.verticalScrollBar()->setValue(150);
-    const TextControl::Place place = control.place();
-    control.select(0, 0);
+    const TextControl::Scroll scroll = control.scroll();
+    const QTextCursor before = control.shown().cursor();
+    control.shown().select(0, 0);
     ASSERT_EQ(control.verticalScrollBar()->value(), 0);
-    control.setPlace(place);
+    control.shown().setCaret(before.anchor(), before.position());
+    control.setScroll(scroll);
     EXPECT_EQ(control.textCursor().anchor(), 20);
     EXPECT_EQ(control.textCursor().position(), 11);
     EXPECT_EQ(control.verticalScrollBar()->value(), 150);
@@ -109,8 +112,8 @@ TEST_F(TextControlTest, ADroppedTextIsTakenAsPlainText)
     data.setText(u"a\r\nb"_s);
     data.setHtml(u"<b>a</b>"_s);
     EXPECT_TRUE(drop(data));
-    EXPECT_EQ(control.text(), u"a\nb");
-    EXPECT_FALSE(control.richText().formatAt(0).bold);
+    EXPECT_EQ(control.shown().text(), u"a\nb");
+    EXPECT_FALSE(control.shown().richText().formatAt(0).bold);
 }
 
 TEST_F(TextControlTest, ADroppedFileIsNoText)
@@ -118,25 +121,25 @@ TEST_F(TextControlTest, ADroppedFileIsNoText)
     QMimeData data;
     data.setUrls({ QUrl(u"file:///tmp/a.tmj"_s) });
     EXPECT_FALSE(drop(data));
-    EXPECT_EQ(control.text(), QString());
+    EXPECT_EQ(control.shown().text(), QString());
 }
 
 TEST_F(TextControlTest, ALockedTextTakesNoDrop)
 {
-    control.setLocked(true);
+    control.shown().setLocked(true);
     QMimeData data;
     data.setText(u"a"_s);
     EXPECT_FALSE(drop(data));
-    EXPECT_EQ(control.text(), QString());
+    EXPECT_EQ(control.shown().text(), QString());
 }
 
 TEST_F(TextControlTest, OddCharactersAreCharactersOfOneLine)
 {
     const QString odd = u"a\fb"_s + noBreak + QChar(0x85) + u"\v\t\u001Ac"_s;
-    control.setText(odd);
-    EXPECT_EQ(control.text(), odd);
+    control.shown().setText(odd);
+    EXPECT_EQ(control.shown().text(), odd);
     EXPECT_EQ(control.blockCount(), 1);
-    EXPECT_EQ(control.richText().text, odd);
+    EXPECT_EQ(control.shown().richText().text, odd);
 }
 
 // Reading costs only what has changed; what it gives must be what the document holds.
@@ -144,20 +147,20 @@ TEST_F(TextControlTest, ItsRichTextIsTheDocumentsWhateverSetIt)
 {
     for (int round = 0; round < 200; ++round) {
         test::RichTextMaker chance{ quint32(round) };
-        control.setRichText(chance.make(u"ab \n\r\u2028"_s, 80));
-        ASSERT_EQ(control.richText(), richTextOf(*control.document())) << "round " << round;
+        control.shown().setRichText(chance.make(u"ab \n\r\u2028"_s, 80));
+        ASSERT_EQ(control.shown().richText(), richTextOf(*control.document())) << "round " << round;
         // A colour of which only the lower bytes are one.
         CharFormat odd;
         odd.colour = 0xFF000012;
-        control.setCharacterRuns({ { control.end(), odd } });
-        ASSERT_EQ(control.richText(), richTextOf(*control.document())) << "round " << round;
-        const int from = chance.upTo(control.end());
-        control.setCharacterRuns(
-            { { chance.upTo(control.end() - from), chance.characterFormat() } }, from);
-        ASSERT_EQ(control.richText(), richTextOf(*control.document())) << "round " << round;
-        control.changeLooks(0, control.end(), [](CharFormat &look) { look.bold = !look.bold; });
-        control.replace(from, 0, u"x\ny"_s);
-        ASSERT_EQ(control.richText(), richTextOf(*control.document())) << "round " << round;
+        control.shown().setCharacterRuns({ { control.shown().length(), odd } });
+        ASSERT_EQ(control.shown().richText(), richTextOf(*control.document())) << "round " << round;
+        const int from = chance.upTo(control.shown().length());
+        control.shown().setCharacterRuns(
+            { { chance.upTo(control.shown().length() - from), chance.characterFormat() } }, from);
+        ASSERT_EQ(control.shown().richText(), richTextOf(*control.document())) << "round " << round;
+        control.shown().changeLooks(0, control.shown().length(), [](CharFormat &look) { look.bold = !look.bold; });
+        control.shown().replace(from, 0, u"x\ny"_s);
+        ASSERT_EQ(control.shown().richText(), richTextOf(*control.document())) << "round " << round;
     }
 }
 
@@ -165,9 +168,9 @@ TEST_F(TextControlTest, EveryTextHasTheMargin)
 {
     const std::vector<ParagraphRun> one{ { 1, { .leftIndentTwips = 20 } } };
     EXPECT_EQ(richTextOf(*control.document()).paragraphs, one);
-    control.setText(u"a\nb"_s);
+    control.shown().setText(u"a\nb"_s);
     const std::vector<ParagraphRun> two{ { 2, { .leftIndentTwips = 20 } } };
     EXPECT_EQ(richTextOf(*control.document()).paragraphs, two);
-    control.setText(QString());
+    control.shown().setText(QString());
     EXPECT_EQ(richTextOf(*control.document()).paragraphs, one);
 }

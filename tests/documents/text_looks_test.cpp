@@ -34,23 +34,23 @@ protected:
 TEST_F(TextLooksTest, BoldGoesOnWhereSomeIsPlainAndOffWhereAllIsBold)
 {
     set(J, u"abcdef"_s);
-    joystick()->select(1, 2);
+    joystick()->shown().select(1, 2);
     editor->actions().trigger(u"mnuFormatArray1_0");
     EXPECT_EQ(flagged(J, &CharFormat::bold), u".xx...");
-    joystick()->select(2, 3);
+    joystick()->shown().select(2, 3);
     editor->actions().trigger(u"mnuFormatArray1_0");
     EXPECT_EQ(flagged(J, &CharFormat::bold), u".xxxx.");
     editor->actions().trigger(u"mnuFormatArray1_0");
     EXPECT_EQ(flagged(J, &CharFormat::bold), u".x....");
-    EXPECT_EQ(joystick()->selLength(), 3);
+    EXPECT_EQ(joystick()->shown().selLength(), 3);
 }
 
 TEST_F(TextLooksTest, EachEntryChangesItsOwnLook)
 {
     set(J, u"abc"_s);
-    joystick()->select(0, 1);
+    joystick()->shown().select(0, 1);
     editor->actions().trigger(u"mnuFormatArray1_1");
-    joystick()->select(1, 1);
+    joystick()->shown().select(1, 1);
     editor->actions().trigger(u"mnuFormatArray1_2");
     EXPECT_EQ(flagged(J, &CharFormat::italic), u"x..");
     EXPECT_EQ(flagged(J, &CharFormat::underline), u".x.");
@@ -60,9 +60,9 @@ TEST_F(TextLooksTest, EachEntryChangesItsOwnLook)
 TEST_F(TextLooksTest, AChangeOfASelectionIsOneUndoStepAndToBeSaved)
 {
     set(J, u"abc"_s);
-    joystick()->select(0, 3);
+    joystick()->shown().select(0, 3);
     editor->actions().trigger(u"mnuFormatArray1_0");
-    EXPECT_EQ(editor->joystick().state, EditorDocument::Modified);
+    EXPECT_EQ(editor->joystick().state(), Document::Modified);
     editor->undos().mnuEditUndo_Click();
     EXPECT_EQ(flagged(J, &CharFormat::bold), u"...");
 }
@@ -70,9 +70,9 @@ TEST_F(TextLooksTest, AChangeOfASelectionIsOneUndoStepAndToBeSaved)
 TEST_F(TextLooksTest, WithoutASelectionItHoldsForWhatIsTypedNext)
 {
     set(J, u"a"_s);
-    joystick()->select(1, 0);
+    joystick()->shown().select(1, 0);
     editor->actions().trigger(u"mnuFormatArray1_0");
-    EXPECT_EQ(editor->joystick().state, EditorDocument::Saved);
+    EXPECT_EQ(editor->joystick().state(), Document::Saved);
     QTest::keyClicks(joystick(), u"b"_s);
     editor->actions().trigger(u"mnuFormatArray1_0");
     QTest::keyClicks(joystick(), u"c"_s);
@@ -82,15 +82,15 @@ TEST_F(TextLooksTest, WithoutASelectionItHoldsForWhatIsTypedNext)
 
 TEST_F(TextLooksTest, AProtectedMacroFileKeepsItsLooks)
 {
-    editor->view().select(M);
+    editor->documents().select(M);
     set(M, u"abc"_s);
     protectMacro();
-    macro()->select(0, 3);
+    macro()->shown().select(0, 3);
     for (const QString &entry : { u"mnuFormatArray1_0"_s, u"mnuStyleArray_0"_s }) {
         dialogs.answer(u"File protected"_s, BoxButton::Ok);
         editor->actions().trigger(entry);
     }
-    EXPECT_EQ(macro()->richText().formatAt(0), editor->view().plainFormat(M));
+    EXPECT_EQ(macro()->shown().richText().formatAt(0), editor->documents().plainFormat(M));
 }
 
 TEST_F(TextLooksTest, AStyleSetsAllOfASelectionsLooks)
@@ -99,10 +99,10 @@ TEST_F(TextLooksTest, AStyleSetsAllOfASelectionsLooks)
     styles[7].format = { u"Courier"_s, 14, true, true, true, ColorRef(0x00FF00) };
     ASSERT_TRUE(writeTextStyles(store(), styles));
     set(J, u"abc"_s);
-    joystick()->select(1, 1);
+    joystick()->shown().select(1, 1);
     editor->actions().trigger(u"mnuStyleArray_7");
-    EXPECT_EQ(joystick()->richText().formatAt(1), styles[7].format);
-    EXPECT_EQ(joystick()->richText().formatAt(2), editor->view().plainFormat(J));
+    EXPECT_EQ(joystick()->shown().richText().formatAt(1), styles[7].format);
+    EXPECT_EQ(joystick()->shown().richText().formatAt(2), editor->documents().plainFormat(J));
 }
 
 TEST_F(TextLooksTest, TheStylesNamesStandInBothMenus)
@@ -122,10 +122,10 @@ TEST_F(TextLooksTest, TheStylesNamesStandInBothMenus)
 TEST_F(TextLooksTest, TheRightMenusStyleStylesTheSelection)
 {
     set(J, u"abc"_s);
-    joystick()->select(0, 3);
+    joystick()->shown().select(0, 3);
     const auto menu = editor->rightMenu().build();
     menu->findChild<QAction *>(u"mnuRHMStyleArray_6"_s)->trigger();
-    EXPECT_EQ(joystick()->richText().formatAt(0).colour, ColorRef(164));
+    EXPECT_EQ(joystick()->shown().richText().formatAt(0).colour, ColorRef(164));
 }
 
 TEST_F(TextLooksTest, TheFontOfBothTextsIsChosenKeptAndSet)
@@ -140,11 +140,11 @@ TEST_F(TextLooksTest, TheFontOfBothTextsIsChosenKeptAndSet)
     dialogs.answerFont(font);
     editor->actions().trigger(u"mnuFormatFont");
     for (const DocumentKind kind : { J, M }) {
-        const CharFormat format = control(kind)->richText().formatAt(0);
+        const CharFormat format = control(kind)->shown().richText().formatAt(0);
         EXPECT_EQ(format.family, u"Courier");
         EXPECT_EQ(format.pointSize, 12);
         EXPECT_TRUE(format.bold);
-        EXPECT_EQ(editor->view().document(kind).state, EditorDocument::Saved);
+        EXPECT_EQ(editor->documents().of(kind).state(), Document::Saved);
     }
     EXPECT_EQ(colours(J), u"bbbbbb");
     EXPECT_EQ(colours(M), u"....ss");

@@ -30,12 +30,12 @@ protected:
         editor->action(u"mnuViewTileVertically")->trigger();
         editor->opening().mnuFileJoystickLoad_Click(file(u"a.tmj"_s, lines("BTN S1 a")));
         editor->opening().MnuFileMacroLoad_Click(file(u"a.tmm"_s, lines("Gun = g")));
-        editor->view().select(DocumentKind::Joystick);
+        editor->documents().select(DocumentKind::Joystick);
         QTest::qWait(0);
     }
     static QByteArray lines(const QByteArray &line) { return (line + "\r\n").repeated(400); }
-    TextControl *joystick() { return editor->joystick().control; }
-    TextControl *macro() { return editor->macro().control; }
+    TextControl *joystick() { return &editor->view().control(DocumentKind::Joystick); }
+    TextControl *macro() { return &editor->view().control(DocumentKind::Macro); }
     void click(TextControl *control)
     {
         QTest::mouseClick(control->viewport(), Qt::LeftButton, {}, QPoint(20, 30));
@@ -47,13 +47,13 @@ protected:
 TEST_F(TiledViewTest, AClickIntoTheOtherTextSelectsItsTab)
 {
     click(macro());
-    EXPECT_EQ(editor->selected().kind, DocumentKind::Macro);
+    EXPECT_EQ(editor->selected().kind(), DocumentKind::Macro);
     EXPECT_EQ(editor->findChild<QTabBar *>(u"TabStrip1"_s)->currentIndex(), 1);
     EXPECT_EQ(status.text(), u"Editing a.tmm");
     EXPECT_TRUE(macro()->hasFocus());
     EXPECT_TRUE(joystick()->isVisible());
     click(joystick());
-    EXPECT_EQ(editor->selected().kind, DocumentKind::Joystick);
+    EXPECT_EQ(editor->selected().kind(), DocumentKind::Joystick);
 }
 
 TEST_F(TiledViewTest, CommandsActOnTheTextThatWasClicked)
@@ -61,7 +61,7 @@ TEST_F(TiledViewTest, CommandsActOnTheTextThatWasClicked)
     click(macro());
     QTest::keyClicks(macro(), u"x"_s);
     QTest::keyClick(macro(), Qt::Key_S, Qt::ControlModifier);
-    EXPECT_EQ(editor->macro().state, EditorDocument::Saved);
+    EXPECT_EQ(editor->macro().state(), Document::Saved);
     EXPECT_TRUE(folder.read(u"Files/a.tmm"_s).contains('x'));
 }
 
@@ -70,19 +70,19 @@ TEST_F(TiledViewTest, AClickHitsTheLineThatTheUserSees)
     macro()->verticalScrollBar()->setValue(200);
     click(macro());
     EXPECT_EQ(macro()->verticalScrollBar()->value(), 200);
-    EXPECT_GT(macro()->caretLine(), 200);
+    EXPECT_GT(macro()->shown().caretLine(), 200);
 }
 
 TEST_F(TiledViewTest, TheTextThatIsNotSelectedKeepsItsCaretAndItsScroll)
 {
-    macro()->select(50, 4);
+    macro()->shown().select(50, 4);
     macro()->verticalScrollBar()->setValue(200);
     QTest::keyClicks(joystick(), u"x"_s);
     editor->saving().mnuFileSave_Click();
     EXPECT_EQ(macro()->verticalScrollBar()->value(), 200);
-    EXPECT_EQ(macro()->selStart(), 50);
-    EXPECT_EQ(macro()->selLength(), 4);
-    EXPECT_EQ(editor->macro().caret, 50);
+    EXPECT_EQ(macro()->shown().selStart(), 50);
+    EXPECT_EQ(macro()->shown().selLength(), 4);
+    EXPECT_EQ(editor->macro().selStart(), 50);
 }
 
 TEST_F(TiledViewTest, AClickIntoTheProtectedTextSaysSo)
@@ -98,7 +98,7 @@ TEST_F(TiledViewTest, TheCompilersWordStaysWhenItsLineIsInTheProtectedText)
     const QString word = u"Compiler reported an error at line 2: ERROR 1013: brackets"_s;
     status.setText(word);
     editor->HighlightErrorLine(2, u"ERROR 1013: brackets"_s);
-    EXPECT_EQ(editor->selected().kind, DocumentKind::Macro);
+    EXPECT_EQ(editor->selected().kind(), DocumentKind::Macro);
     EXPECT_EQ(status.text(), word);
 }
 
@@ -109,5 +109,5 @@ TEST_F(TiledViewTest, ProtectionOutlivesTheFileAndGuardsTheNextOne)
     EXPECT_EQ(editor->macroText(), u"Fire = f");
     QTest::keyClicks(macro(), u"x"_s);
     EXPECT_EQ(editor->macroText(), u"Fire = f");
-    EXPECT_EQ(editor->macro().state, EditorDocument::Saved);
+    EXPECT_EQ(editor->macro().state(), Document::Saved);
 }

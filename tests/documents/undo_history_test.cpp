@@ -1,7 +1,9 @@
 // SPDX-FileCopyrightText: The Zeph authors
 // SPDX-License-Identifier: MIT
 
-#include "documents/undo_history.h"
+#include "documents/undo_histories.h"
+
+#include "documents/change.h"
 
 #include "documents/line_blink.h"
 #include "editor/files/file_new.h"
@@ -25,8 +27,8 @@ namespace {
 class UndoTest : public test::EditorTest
 {
 protected:
-    TextControl *joystick() { return editor->joystick().control; }
-    TextControl *macro() { return editor->macro().control; }
+    TextControl *joystick() { return &editor->view().control(DocumentKind::Joystick); }
+    TextControl *macro() { return &editor->view().control(DocumentKind::Macro); }
     UndoHistory &history() { return editor->undos().of(DocumentKind::Joystick); }
     QAction *undoEntry() { return editor->action(u"mnuEditUndo"); }
     QAction *redoEntry() { return editor->action(u"mnuEditRedo"); }
@@ -52,22 +54,18 @@ protected:
     /// A tool writes into the joystick file, framed as every tool frames it.
     void insertAsTool(const QString &piece)
     {
-        {
-            const BusyGuard busy(editor->view());
-            history().storeTop();
-            joystick()->insertPlainText(u" "_s);
-            joystick()->insertPlainText(piece);
-        }
-        editor->undos().JoystickTextChanged();
+        Change change(editor->joystick());
+        joystick()->insertPlainText(u" "_s);
+        joystick()->insertPlainText(piece);
+        change.commit();
     }
     void colour(int from, int length, ColorRef colour)
     {
-        const BusyGuard busy(editor->view());
-        RichText looks = joystick()->richText();
+        RichText looks = joystick()->shown().richText();
         looks.change(from, length, [&](CharFormat &format) { format.colour = colour; });
-        const int caret = joystick()->selStart();
-        joystick()->setRichText(looks);
-        joystick()->select(caret, 0);
+        const int caret = joystick()->shown().selStart();
+        joystick()->shown().setRichText(looks);
+        joystick()->shown().select(caret, 0);
     }
 };
 
@@ -159,7 +157,7 @@ TEST_F(UndoTest, EachBackspaceIsAStep)
 TEST_F(UndoTest, EachDeleteIsAStep)
 {
     keys(u"abc"_s);
-    joystick()->select(0, 0);
+    joystick()->shown().select(0, 0);
     key(Qt::Key_Delete);
     key(Qt::Key_Delete);
     EXPECT_EQ(undoAll(), (QStringList{ u"bc"_s, u"abc"_s, QString() }));
@@ -202,7 +200,7 @@ TEST_F(UndoTest, PasteAndCutAreStepsOfTheirOwn)
     QGuiApplication::clipboard()->setText(u"cd"_s);
     editor->action(u"mnuEditPaste")->trigger();
     keys(u"e"_s);
-    joystick()->select(0, 1);
+    joystick()->shown().select(0, 1);
     key(Qt::Key_X, Qt::ControlModifier);
     EXPECT_EQ(text(), u"bcde");
     EXPECT_EQ(undoAll(), (QStringList{ u"abcde"_s, u"ab"_s, QString() }));
@@ -225,11 +223,11 @@ TEST_F(UndoTest, ColoursComeBackWithTheText)
     keys(u"BTN S1"_s);
     colour(0, 3, 0x0000FF);
     history().storeTop();
-    const RichText red = joystick()->richText();
+    const RichText red = joystick()->shown().richText();
     keys(u" x"_s);
     colour(0, 3, 0x00FF00);
     undo();
-    EXPECT_EQ(joystick()->richText(), red);
+    EXPECT_EQ(joystick()->shown().richText(), red);
 }
 
 TEST_F(UndoTest, ColouringAloneIsNoStep)
@@ -244,16 +242,16 @@ TEST_F(UndoTest, ColouringAloneIsNoStep)
 TEST_F(UndoTest, TheCaretComesBackToWhereItWas)
 {
     keys(u"one two"_s);
-    joystick()->select(0, 0);
+    joystick()->shown().select(0, 0);
     key(Qt::Key_Delete);
     undo();
     EXPECT_EQ(text(), u"one two");
-    EXPECT_EQ(joystick()->selStart(), 7);
-    EXPECT_EQ(joystick()->selLength(), 0);
-    EXPECT_EQ(editor->joystick().caret, 7);
+    EXPECT_EQ(joystick()->shown().selStart(), 7);
+    EXPECT_EQ(joystick()->shown().selLength(), 0);
+    EXPECT_EQ(editor->joystick().selStart(), 7);
     redo();
-    EXPECT_EQ(joystick()->selStart(), 0);
-    EXPECT_EQ(editor->joystick().caret, 0);
+    EXPECT_EQ(joystick()->shown().selStart(), 0);
+    EXPECT_EQ(editor->joystick().selStart(), 0);
 }
 
 TEST_F(UndoTest, TheLinePanelFollows)
@@ -329,14 +327,14 @@ TEST_F(UndoTest, UndoingIsNoEdit)
     keys(u"x y"_s);
     editor->saving().mnuFileSave_Click();
     undo();
-    EXPECT_EQ(editor->joystick().state, EditorDocument::Saved);
+    EXPECT_EQ(editor->joystick().state(), Document::Saved);
     EXPECT_EQ(history().slots(), 3);
 }
 
 TEST_F(UndoTest, EachDocumentHasItsOwnHistoryAndTheCaptionsFollowTheTab)
 {
     keys(u"a b"_s);
-    editor->view().select(DocumentKind::Macro);
+    editor->documents().select(DocumentKind::Macro);
     EXPECT_EQ(undoEntry()->text(), u"&Undo");
     QTest::keyClicks(macro(), u"c"_s);
     EXPECT_EQ(undoEntry()->text(), u"&Undo (1)");
@@ -344,14 +342,14 @@ TEST_F(UndoTest, EachDocumentHasItsOwnHistoryAndTheCaptionsFollowTheTab)
     EXPECT_EQ(editor->macroText(), QString());
     EXPECT_EQ(text(), u"a b");
     EXPECT_EQ(redoEntry()->text(), u"&Redo (1)");
-    editor->view().select(DocumentKind::Joystick);
+    editor->documents().select(DocumentKind::Joystick);
     EXPECT_EQ(undoEntry()->text(), u"&Undo (2)");
     EXPECT_EQ(redoEntry()->text(), u"&Redo");
 }
 
 TEST_F(UndoTest, AProtectedMacroFileIsNotUndone)
 {
-    editor->view().select(DocumentKind::Macro);
+    editor->documents().select(DocumentKind::Macro);
     QTest::keyClicks(macro(), u"a b"_s);
     undo();
     editor->action(u"mnuPreferencesProtectMacroFile")->trigger();
@@ -372,7 +370,7 @@ TEST_F(UndoTest, ASaveWithUndoClearOnSaveDisablesUndo)
     editor->opening().mnuFileJoystickLoad_Click(file(u"a.tmj"_s, "BTN"));
     keys(u"x y"_s);
     undo();
-    editor->view().select(DocumentKind::Joystick);
+    editor->documents().select(DocumentKind::Joystick);
     editor->saving().mnuFileSave_Click();
     EXPECT_EQ(undoEntry()->text(), u"&Undo");
     EXPECT_FALSE(undoEntry()->isEnabled());
@@ -381,7 +379,7 @@ TEST_F(UndoTest, ASaveWithUndoClearOnSaveDisablesUndo)
     keys(u"z"_s);
     undo();
     EXPECT_EQ(text(), u"xBTN");
-    EXPECT_EQ(joystick()->selStart(), 0);
+    EXPECT_EQ(joystick()->shown().selStart(), 0);
 }
 
 TEST_F(UndoTest, ASaveWithoutUndoClearOnSaveKeepsTheHistory)
@@ -401,7 +399,7 @@ TEST_F(UndoTest, ASaveClearsTheHistoryOfItsDocumentAlone)
     QTest::keyClicks(macro(), u"q"_s);
     editor->saving().mnuFileSave_Click();
     EXPECT_FALSE(undoEntry()->isEnabled());
-    editor->view().select(DocumentKind::Joystick);
+    editor->documents().select(DocumentKind::Joystick);
     EXPECT_EQ(undoEntry()->text(), u"&Undo (2)");
 }
 
@@ -419,15 +417,15 @@ TEST_F(UndoTest, AFailedSaveKeepsTheHistory)
 TEST_F(UndoTest, ALoadedFileStartsWithOneSlotHoldingIt)
 {
     keys(u"a b"_s);
-    editor->joystick().state = EditorDocument::Saved;
+    editor->joystick().setState(Document::Saved);
     editor->opening().mnuFileJoystickLoad_Click(file(u"a.tmj"_s, "BTN S1 Fire"));
     EXPECT_EQ(history().slots(), 1);
     EXPECT_EQ(undoEntry()->text(), u"&Undo");
-    const RichText loaded = joystick()->richText();
+    const RichText loaded = joystick()->shown().richText();
     keys(u"x"_s);
     undo();
-    EXPECT_EQ(joystick()->richText(), loaded);
-    EXPECT_EQ(joystick()->selStart(), 0);
+    EXPECT_EQ(joystick()->shown().richText(), loaded);
+    EXPECT_EQ(joystick()->shown().selStart(), 0);
 }
 
 TEST_F(UndoTest, NewAndCloseStartTheirHistoryAfresh)
@@ -435,7 +433,7 @@ TEST_F(UndoTest, NewAndCloseStartTheirHistoryAfresh)
     for (const QStringView entry : { u"mnuFileNewJoystick", u"mnuFileClose" }) {
         keys(u"a b"_s);
         undo();
-        editor->joystick().state = EditorDocument::Saved;
+        editor->joystick().setState(Document::Saved);
         editor->action(entry)->trigger();
         EXPECT_EQ(undoEntry()->text(), u"&Undo");
         EXPECT_EQ(redoEntry()->text(), u"&Redo");
@@ -450,33 +448,32 @@ TEST_F(UndoTest, NewAndCloseStartTheirHistoryAfresh)
 TEST_F(UndoTest, TypingIntoAnEmptiedTextHasTheSchemesLooks)
 {
     keys(u"a"_s);
-    const RichText typed = joystick()->richText();
+    const RichText typed = joystick()->shown().richText();
     undo();
     ASSERT_EQ(text(), QString());
     keys(u"a"_s);
-    EXPECT_EQ(joystick()->richText(), typed);
+    EXPECT_EQ(joystick()->shown().richText(), typed);
 }
 
 TEST_F(UndoTest, AnEmptiedTextHasItsMarginBack)
 {
     {
-        const BusyGuard busy(editor->view());
-        joystick()->setRichText(RichText::plain(
+        joystick()->shown().setRichText(RichText::plain(
             u"a\nb"_s, {}, { .leftIndentTwips = 300, .alignment = ParagraphAlignment::Centre }));
     }
     joystick()->selectAll();
     key(Qt::Key_Delete);
     ASSERT_EQ(text(), QString());
     const std::vector<ParagraphRun> margin{ { 1, { .leftIndentTwips = 20 } } };
-    EXPECT_EQ(joystick()->richText().paragraphs, margin);
+    EXPECT_EQ(joystick()->shown().richText().paragraphs, margin);
     keys(u"c"_s);
-    EXPECT_EQ(joystick()->richText().paragraphs, margin);
+    EXPECT_EQ(joystick()->shown().richText().paragraphs, margin);
 }
 
 TEST_F(UndoTest, DeletingTheUndosFromMemoryLeavesAnEmptySlotInBothDocuments)
 {
     keys(u"a b"_s);
-    editor->view().select(DocumentKind::Macro);
+    editor->documents().select(DocumentKind::Macro);
     QTest::keyClicks(macro(), u"c d"_s);
     editor->undos().DeleteUndosFromMemory();
     EXPECT_FALSE(undoEntry()->isEnabled());
@@ -494,13 +491,12 @@ TEST_F(UndoTest, ThousandStepsInALongFileFitIntoFiftyMegabytes)
         lines += u"BTN H1U /U /I Radar_Mode DLY(60) /O Missile_Mode Rem line\n"_s;
     }
     {
-        const BusyGuard busy(editor->view());
-        joystick()->setText(lines);
+        joystick()->shown().setText(lines);
     }
     editor->undos().startOver(DocumentKind::Joystick);
     for (int step = 0; step < 1000; ++step) {
         // Each in another place, so that none shares its chunk with the step before.
-        joystick()->select(int(step * 997LL * 631 % (lines.size() - 2000)), 0);
+        joystick()->shown().select(int(step * 997LL * 631 % (lines.size() - 2000)), 0);
         key(Qt::Key_Delete);
     }
     EXPECT_EQ(history().slots(), 1001);
@@ -527,15 +523,16 @@ TEST_F(UndoTest, TheCaretsLineBlinksWhenTheSettingSaysSo)
         QMetaObject::invokeMethod(timer, "timeout");
     };
     const auto selection = [this] {
-        return std::pair(joystick()->selStart(), joystick()->selLength());
+        const QTextCursor seen = joystick()->textCursor();
+        return std::pair(seen.selectionStart(), seen.selectionEnd() - seen.selectionStart());
     };
     EXPECT_EQ(selection(), std::pair(4, 3));
-    EXPECT_EQ(editor->joystick().caret, 7);
+    EXPECT_EQ(editor->joystick().selStart(), 7);
     tick();
     EXPECT_EQ(selection(), std::pair(7, 0));
     tick();
     EXPECT_EQ(selection(), std::pair(4, 3));
-    EXPECT_EQ(editor->joystick().caret, 7);
+    EXPECT_EQ(editor->joystick().selStart(), 7);
     EXPECT_TRUE(timer->isActive());
     tick();
     EXPECT_EQ(selection(), std::pair(7, 0));
@@ -547,7 +544,7 @@ TEST_F(UndoTest, NothingBlinksWithoutTheSetting)
     keys(u"a b"_s);
     undo();
     EXPECT_FALSE(editor->undos().findChild<QTimer *>(u"TimerBlinkLine"_s)->isActive());
-    EXPECT_EQ(joystick()->selLength(), 0);
+    EXPECT_EQ(joystick()->shown().selLength(), 0);
 }
 
 TEST_F(UndoTest, WhoTypesIntoABlinkingLineReplacesNothing)
@@ -555,7 +552,7 @@ TEST_F(UndoTest, WhoTypesIntoABlinkingLineReplacesNothing)
     settings.HighlightLineOnUndo = 1;
     keys(u"one two three"_s);
     undo();
-    ASSERT_EQ(joystick()->selLength(), 7);
+    ASSERT_EQ(joystick()->textCursor().selectedText().size(), 7);
     keys(u"x"_s);
     EXPECT_EQ(text(), u"one twox");
     undo();
@@ -570,17 +567,17 @@ TEST_F(UndoTest, ATabChangeEndsTheBlinking)
     settings.HighlightLineOnUndo = 1;
     keys(u"a b"_s);
     undo();
-    editor->view().select(DocumentKind::Macro);
+    editor->documents().select(DocumentKind::Macro);
     EXPECT_FALSE(editor->undos().findChild<QTimer *>(u"TimerBlinkLine"_s)->isActive());
-    EXPECT_EQ(joystick()->selLength(), 0);
-    EXPECT_EQ(joystick()->selStart(), 1);
+    EXPECT_EQ(joystick()->shown().selLength(), 0);
+    EXPECT_EQ(joystick()->shown().selStart(), 1);
 }
 
 TEST_F(UndoTest, SelectLineTakesTheCaretsLineWithoutItsEnd)
 {
     type(DocumentKind::Joystick, u"first\nsecond\n\nlast"_s);
     const auto lineAt = [this](int caret) {
-        joystick()->select(caret, 0);
+        joystick()->shown().select(caret, 0);
         editor->action(u"mnuEditSelectLine")->trigger();
         return joystick()->textCursor().selectedText();
     };
@@ -589,5 +586,5 @@ TEST_F(UndoTest, SelectLineTakesTheCaretsLineWithoutItsEnd)
     EXPECT_EQ(lineAt(6), u"second");
     EXPECT_EQ(lineAt(13), QString());
     EXPECT_EQ(lineAt(18), u"last");
-    EXPECT_EQ(editor->joystick().caret, 14);
+    EXPECT_EQ(editor->joystick().selStart(), 14);
 }

@@ -35,8 +35,8 @@ protected:
         editor->show();
         ASSERT_TRUE(QTest::qWaitForWindowExposed(editor.get()));
     }
-    TextControl *joystick() { return editor->joystick().control; }
-    TextControl *macro() { return editor->macro().control; }
+    TextControl *joystick() { return &editor->view().control(DocumentKind::Joystick); }
+    TextControl *macro() { return &editor->view().control(DocumentKind::Macro); }
     QTabBar *tabs() { return editor->findChild<QTabBar *>(u"TabStrip1"_s); }
     /// Notes which entries run, in place of what they do.
     void noteEntries()
@@ -70,19 +70,18 @@ TEST_F(EditorWindowTest, BothDocumentsAreFreshAtStart)
 {
     EXPECT_EQ(tabs()->tabText(0), u"Untitled.tmj");
     EXPECT_EQ(tabs()->tabText(1), u"Untitled.tmm");
-    EXPECT_EQ(editor->joystick().state, EditorDocument::Empty);
-    EXPECT_EQ(editor->macro().state, EditorDocument::Empty);
+    EXPECT_EQ(editor->joystick().state(), Document::Empty);
+    EXPECT_EQ(editor->macro().state(), Document::Empty);
 }
 
 TEST_F(EditorWindowTest, TypingModifiesAndColouringDoesNot)
 {
     {
-        const BusyGuard busy(editor->view());
-        joystick()->setText(u"set by a program"_s);
+        joystick()->shown().setText(u"set by a program"_s);
     }
-    EXPECT_EQ(editor->joystick().state, EditorDocument::Empty);
+    EXPECT_EQ(editor->joystick().state(), Document::Empty);
     QTest::keyClicks(joystick(), u"a"_s);
-    EXPECT_EQ(editor->joystick().state, EditorDocument::Modified);
+    EXPECT_EQ(editor->joystick().state(), Document::Modified);
     EXPECT_EQ(status.savedTooltip(), u"Untitled.tmj has been modified and isn't saved");
 }
 
@@ -97,13 +96,13 @@ TEST_F(EditorWindowTest, TheLinePanelFollowsTheCaret)
 TEST_F(EditorWindowTest, ATabKeepsItsSelectionWhileTheOtherIsShown)
 {
     type(DocumentKind::Joystick, u"one two"_s);
-    joystick()->select(4, 3);
+    joystick()->shown().select(4, 3);
     tabs()->setCurrentIndex(1);
     EXPECT_TRUE(macro()->isVisible());
     EXPECT_FALSE(joystick()->isVisible());
     tabs()->setCurrentIndex(0);
-    EXPECT_EQ(joystick()->selStart(), 4);
-    EXPECT_EQ(joystick()->selLength(), 3);
+    EXPECT_EQ(joystick()->shown().selStart(), 4);
+    EXPECT_EQ(joystick()->shown().selLength(), 3);
 }
 
 TEST_F(EditorWindowTest, ATabClickSaysWhatIsEdited)
@@ -246,7 +245,7 @@ TEST_F(EditorWindowTest, EachControlKeyPressedRunsItsEntryOnceAndTypesNothing)
             const QString expected = (inMacroText ? row.macro : row.joystick).toString();
             noteEntries();
             ran.clear();
-            QTest::keyClick(editor->selected().control, Qt::Key(row.key), Qt::ControlModifier);
+            QTest::keyClick(&editor->view().control(editor->selected().kind()), Qt::Key(row.key), Qt::ControlModifier);
             EXPECT_EQ(ran, expected.isEmpty() ? QStringList() : QStringList{ expected })
                 << row.key << (inMacroText ? " in the macro text" : " in the joystick text");
         }
@@ -398,7 +397,7 @@ TEST_F(EditorWindowTest, CutAndCopyNeedASelectionAndPasteNeedsText)
     type(DocumentKind::Joystick, u"one two"_s);
     EXPECT_FALSE(editor->action(u"mnuEditCut")->isEnabled());
     EXPECT_FALSE(editor->action(u"mnuEditPaste")->isEnabled());
-    joystick()->select(0, 4);
+    joystick()->shown().select(0, 4);
     EXPECT_TRUE(editor->action(u"mnuEditCut")->isEnabled());
     editor->action(u"mnuEditCut")->trigger();
     EXPECT_EQ(editor->joystickText(), u"two");
@@ -440,7 +439,7 @@ TEST_F(EditorWindowTest, AnErrorLineOfTheJoystickFileIsSelected)
     type(DocumentKind::Joystick, u"one\ntwo\nthree"_s);
     tabs()->setCurrentIndex(1);
     editor->HighlightErrorLine(2, u"ERROR 1004: no such button"_s);
-    EXPECT_EQ(editor->selected().kind, DocumentKind::Joystick);
+    EXPECT_EQ(editor->selected().kind(), DocumentKind::Joystick);
     EXPECT_EQ(joystick()->textCursor().selectedText(), u"two");
     EXPECT_EQ(status.lineText(), u"Line no: 2");
 }
@@ -449,7 +448,7 @@ TEST_F(EditorWindowTest, Code1013SelectsTheLineInTheMacroFile)
 {
     type(DocumentKind::Macro, u"Gun = g\nFire = ("_s);
     editor->HighlightErrorLine(2, u"ERROR 1013: brackets"_s);
-    EXPECT_EQ(editor->selected().kind, DocumentKind::Macro);
+    EXPECT_EQ(editor->selected().kind(), DocumentKind::Macro);
     EXPECT_EQ(macro()->textCursor().selectedText(), u"Fire = (");
 }
 

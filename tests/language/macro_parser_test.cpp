@@ -13,7 +13,7 @@ using testing::IsEmpty;
 
 namespace {
 
-MacroFile parsed(const QString &text)
+MacroFile parsedMacros(const QString &text)
 {
     return parsePair({}, text).macro;
 }
@@ -38,7 +38,7 @@ std::vector<std::string> titles(const MacroFile &file)
 
 TEST(MacroParser, ARuleATitleAndARuleAreAHeading)
 {
-    const MacroFile file = parsed(u"Rem ------\nRem   Radar modes\nrem ---\nA1 = b\n"_s);
+    const MacroFile file = parsedMacros(u"Rem ------\nRem   Radar modes\nrem ---\nA1 = b\n"_s);
     EXPECT_THAT(titles(file), ElementsAre("Radar modes"));
     EXPECT_EQ(file.headings[0].place.line, 2);
     EXPECT_EQ(file.headings[0].firstMacro, 0);
@@ -47,44 +47,45 @@ TEST(MacroParser, ARuleATitleAndARuleAreAHeading)
 
 TEST(MacroParser, RemAloneOnALineGivesNothing)
 {
-    const MacroFile file = parsed(u"rem\nREM\nRem \nRem x = y\n"_s);
+    const MacroFile file = parsedMacros(u"rem\nREM\nRem \nRem x = y\n"_s);
     EXPECT_THAT(names(file), IsEmpty());
     EXPECT_THAT(titles(file), IsEmpty());
 }
 
 TEST(MacroParser, AHeadingLineIsNoMacroEvenWithAnEqualsSign)
 {
-    const MacroFile file = parsed(u"Rem --\nFire = a\nRem --=\nRem --\nx\n"_s);
+    const MacroFile file = parsedMacros(u"Rem --\nFire = a\nRem --=\nRem --\nx\n"_s);
     EXPECT_THAT(titles(file), ElementsAre("e = a"));
     EXPECT_THAT(names(file), IsEmpty());
 }
 
 TEST(MacroParser, EmptyAndBareLinesDoNotBreakAHeading)
 {
-    const MacroFile file = parsed(u"Rem ----\n\nrem\nRem Guns\n~\nRem ----\n"_s);
+    const MacroFile file = parsedMacros(u"Rem ----\n\nrem\nRem Guns\n~\nRem ----\n"_s);
     EXPECT_THAT(titles(file), ElementsAre("Guns"));
 }
 
 TEST(MacroParser, AHeadingThatTheFileCutsOffIsNone)
 {
-    EXPECT_THAT(titles(parsed(u"Rem ----\nRem Guns"_s)), IsEmpty());
+    EXPECT_THAT(titles(parsedMacros(u"Rem ----\nRem Guns"_s)), IsEmpty());
 }
 
 TEST(MacroParser, BlanksAndATildeBeforeAMacroDropIt)
 {
-    EXPECT_THAT(names(parsed(u"   ~Fire = a\n~Flare = b\nChaff = c"_s)), ElementsAre("Chaff"));
+    EXPECT_THAT(names(parsedMacros(u"   ~Fire = a\n~Flare = b\nChaff = c"_s)),
+                ElementsAre("Chaff"));
 }
 
 TEST(MacroParser, ATildeInsideAMacrosKeysHasNoMeaning)
 {
-    const MacroFile file = parsed(u"Fire = a ~ b"_s);
+    const MacroFile file = parsedMacros(u"Fire = a ~ b"_s);
     EXPECT_THAT(names(file), ElementsAre("Fire"));
     EXPECT_EQ(file.items.size(), 3);
 }
 
 TEST(MacroParser, TheTextBeforeTheFirstEqualsSignNamesTheMacro)
 {
-    const MacroFile file = parsed(u"Plus = = a"_s);
+    const MacroFile file = parsedMacros(u"Plus = = a"_s);
     EXPECT_THAT(names(file), ElementsAre("Plus"));
     ASSERT_EQ(file.items.size(), 2);
     EXPECT_EQ(file.at(file.items[0]), u"=");
@@ -93,25 +94,25 @@ TEST(MacroParser, TheTextBeforeTheFirstEqualsSignNamesTheMacro)
 
 TEST(MacroParser, ALineBeginningWithTwoSlashesKeepsThemInTheName)
 {
-    EXPECT_THAT(names(parsed(u"//\n//Fire = a"_s)), ElementsAre("//Fire"));
+    EXPECT_THAT(names(parsedMacros(u"//\n//Fire = a"_s)), ElementsAre("//Fire"));
 }
 
 TEST(MacroParser, TabsGoFromANameAndInnerBlanksStay)
 {
-    EXPECT_THAT(names(parsed(u"\tFire\t missile \t= a\nnothing here\n"_s)),
+    EXPECT_THAT(names(parsedMacros(u"\tFire\t missile \t= a\nnothing here\n"_s)),
                 ElementsAre("Fire missile"));
 }
 
 TEST(MacroParser, ACommentEndsTheKeys)
 {
-    const MacroFile file = parsed(u"Fire = a b  Rem pull"_s);
+    const MacroFile file = parsedMacros(u"Fire = a b  Rem pull"_s);
     EXPECT_EQ(file.at(file.macros[0].place), u"Fire = a b");
     EXPECT_EQ(file.items.size(), 2);
 }
 
 TEST(MacroParser, ALoneBracketIsTheKeyOfThatName)
 {
-    const MacroFile file = parsed(u"Less = <\nOpen = (  Rem x\n"_s);
+    const MacroFile file = parsedMacros(u"Less = <\nOpen = (  Rem x\n"_s);
     EXPECT_TRUE(file.strayBrackets.isEmpty());
     ASSERT_EQ(file.items.size(), 2);
     EXPECT_EQ(file.items[1].kind, ItemKind::Key);
@@ -139,7 +140,7 @@ TEST(MacroReferences, OfTwoMacrosOfOneNameTheFirstIsMeant)
 
 TEST(MacroOrder, PutsEachMacroBehindThoseThatItUses)
 {
-    const MacroFile file = parsed(u"All = Left2 Right2\nLeft2 = q\nRight2 = Left2 w"_s);
+    const MacroFile file = parsedMacros(u"All = Left2 Right2\nLeft2 = q\nRight2 = Left2 w"_s);
     const MacroOrder order = orderMacros(file);
     EXPECT_THAT(order.order, ElementsAre(1, 2, 0));
     EXPECT_TRUE(order.cycles.isEmpty());

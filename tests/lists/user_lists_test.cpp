@@ -99,8 +99,8 @@ TEST_F(UserListsTest, AnAutosaveCountsButNotThatOfATextWithoutAName)
     start();
     editor().opening().OpenFavouriteFile(folder.write(u"a.tmj"_s, "BTN S2 a\r\n"));
     click(u"mnuPreviousClearAllJ"_s);
-    editor().joystick().control->insertPlainText(u"x"_s);
-    editor().macro().control->insertPlainText(u"y"_s);
+    editor().view().control(DocumentKind::Joystick).insertPlainText(u"x"_s);
+    editor().view().control(DocumentKind::Macro).insertPlainText(u"y"_s);
     editor().guards().autoSave.AutoSaveFile();
     EXPECT_EQ(stored(u"PreviousJoystickFiles"_s, u"JFPath1"_s), folder.file(u"a.tmj"_s));
     EXPECT_TRUE(folder.exists(u"Files/Untitled.tmm"_s));
@@ -137,8 +137,8 @@ TEST_F(UserListsTest, ARecentFileOpensWithItsPartnerAndMovesToTheTop)
     start("[PreviousJoystickFiles]\r\nJFArrayNum=2\r\nJFPath1=x.tmj\r\nJFPath2=" + path(u"a.tmj"_s)
           + "\r\n");
     click(u"mnuJFArray_2"_s);
-    EXPECT_EQ(editor().joystick().path, folder.file(u"a.tmj"_s));
-    EXPECT_EQ(editor().macro().path, folder.file(u"a.tmm"_s));
+    EXPECT_EQ(editor().joystick().path(), folder.file(u"a.tmj"_s));
+    EXPECT_EQ(editor().macro().path(), folder.file(u"a.tmm"_s));
     EXPECT_EQ(entry(u"mnuJFArray_1"_s)->text(), folder.file(u"a.tmj"_s));
     EXPECT_EQ(entry(u"mnuJFArray_2"_s)->text(), u"x.tmj");
 }
@@ -171,8 +171,8 @@ TEST_F(UserListsTest, AFavouriteOpensItsFiles)
     start("[Favourites]\r\nFavArrayNum=1\r\nFavName1=Eagle\r\nFavJFPath1=" + path(u"a.tmj"_s)
           + "\r\nFavMFPath1=" + path(u"b.tmm"_s) + "\r\n");
     click(u"mnuFavArray_1"_s);
-    EXPECT_EQ(editor().joystick().path, folder.file(u"a.tmj"_s));
-    EXPECT_EQ(editor().macro().path, folder.file(u"b.tmm"_s));
+    EXPECT_EQ(editor().joystick().path(), folder.file(u"a.tmj"_s));
+    EXPECT_EQ(editor().macro().path(), folder.file(u"b.tmm"_s));
 }
 
 TEST_F(UserListsTest, AFavouriteWithNoneAsMacroPathOpensTheJoystickFileAloneWithoutAMessage)
@@ -182,8 +182,8 @@ TEST_F(UserListsTest, AFavouriteWithNoneAsMacroPathOpensTheJoystickFileAloneWith
     start("[Favourites]\r\nFavArrayNum=1\r\nFavName1=Eagle\r\nFavJFPath1=" + path(u"a.tmj"_s)
           + "\r\nFavMFPath1=None\r\n");
     click(u"mnuFavArray_1"_s);
-    EXPECT_EQ(editor().joystick().path, folder.file(u"a.tmj"_s));
-    EXPECT_EQ(editor().macro().name, u"Untitled.tmm");
+    EXPECT_EQ(editor().joystick().path(), folder.file(u"a.tmj"_s));
+    EXPECT_EQ(editor().macro().name(), u"Untitled.tmm");
 }
 
 TEST_F(UserListsTest, TheCurrentFilesBecomeAFavourite)
@@ -218,7 +218,7 @@ TEST_F(UserListsTest, AFavouriteOfTwoUnsavedFilesHoldsNoneTwiceAndOpensNothing)
     EXPECT_EQ(stored(u"Favourites"_s, u"FavJFPath1"_s), u"None");
     EXPECT_EQ(stored(u"Favourites"_s, u"FavMFPath1"_s), u"None");
     click(u"mnuFavArray_1"_s);
-    EXPECT_EQ(editor().joystick().name, u"Untitled.tmj");
+    EXPECT_EQ(editor().joystick().name(), u"Untitled.tmj");
     EXPECT_TRUE(isShown(u"mnuSortFavourites"_s));
 }
 

@@ -5,7 +5,7 @@
 
 #include "documents/editor_view.h"
 #include "documents/text_control.h"
-#include "documents/undo_history.h"
+#include "documents/undo_histories.h"
 #include "editor/files/file_opening.h"
 #include "editor/files/loss_guards.h"
 #include "platform/richtext/rich_text_document.h"
@@ -409,7 +409,7 @@ TEST_F(PreferencesTest, TheToolbarsOpenButtonFollowsItsTick)
 TEST_F(PreferencesTest, ANewHardwareOptionNeverTouchesUnsavedText)
 {
     start();
-    app->editor().joystick().control->insertPlainText(u"BTN S1 precious\n"_s);
+    app->editor().view().control(DocumentKind::Joystick).insertPlainText(u"BTN S1 precious\n"_s);
     ASSERT_TRUE(app->editor().joystick().isModified());
     visit([](QDialog &window) {
         window.findChild<QComboBox *>(u"JoyIDnumber"_s)->setCurrentIndex(3);
@@ -427,26 +427,26 @@ TEST_F(PreferencesTest, ANewHardwareOptionLeavesNamedFilesAlone)
     start();
     app->editor().opening().OpenFavouriteFile(file);
     visit([](QDialog &window) { tick(window, u"CHK_Default_5"_s).setChecked(true); });
-    EXPECT_EQ(app->editor().joystick().path, file);
+    EXPECT_EQ(app->editor().joystick().path(), file);
     EXPECT_EQ(app->editor().joystickText(), u"BTN S2 a\n");
 }
 
 TEST_F(PreferencesTest, TheTextsFollowANewFontAndANewColourAndStayAsTheyWereOtherwise)
 {
     start("[Colours]\r\nBTNColour=16711680\r\nSlashColour=255\r\n");
-    TextControl &control = *app->editor().joystick().control;
+    TextControl &control = app->editor().view().control(DocumentKind::Joystick);
     control.insertPlainText(u"BTN S2 a"_s);
-    control.changeLooks(0, 3, [](CharFormat &format) {
+    control.shown().changeLooks(0, 3, [](CharFormat &format) {
         format.colour = 16711680;
         format.underline = true;
     });
-    control.changeLooks(7, 1, [](CharFormat &format) { format.colour = 4711; });
+    control.shown().changeLooks(7, 1, [](CharFormat &format) { format.colour = 4711; });
     dialogs.answerColour(0x123456);
     visit([](QDialog &window) {
         window.findChild<QPushButton *>(u"CMD_ChangeColour"_s)->click();
         tick(window, u"TextFontBold"_s).setChecked(true);
     });
-    const RichText shown = richTextOf(*control.document(), 0, control.end());
+    const RichText shown = richTextOf(*control.document(), 0, control.shown().length());
     EXPECT_EQ(shown.characters.front().format.colour, ColorRef(0x123456));
     EXPECT_TRUE(shown.characters.front().format.underline);
     EXPECT_TRUE(shown.characters.front().format.bold);
@@ -457,7 +457,7 @@ TEST_F(PreferencesTest, TheTextsFollowANewFontAndANewColourAndStayAsTheyWereOthe
 TEST_F(PreferencesTest, TheUndoMemoryIsEmptiedWithoutAQuestionAndTheTextStays)
 {
     start();
-    TextControl &control = *app->editor().joystick().control;
+    TextControl &control = app->editor().view().control(DocumentKind::Joystick);
     for (const QString &word : { u"one "_s, u"two "_s }) {
         control.insertPlainText(word);
     }
@@ -471,7 +471,7 @@ TEST_F(PreferencesTest, ALowerUndoLimitStopsTheGrowthFromTheNextStepAndTakesNoth
 {
     start("[Miscellaneous]\r\nUndoMax=200\r\n");
     UndoHistory &history = app->editor().undos().of(DocumentKind::Joystick);
-    TextControl &control = *app->editor().joystick().control;
+    TextControl &control = app->editor().view().control(DocumentKind::Joystick);
     for (int i = 0; i < 50; ++i) {
         control.insertPlainText(u"x "_s);
     }

@@ -17,9 +17,6 @@ using testing::StartsWith;
 
 namespace {
 
-const QString sample = u"Files/Sample flight.tmj"_s;
-const QString sampleMacros = u"Files/Sample flight.tmm"_s;
-
 /// The sample pair's line (1-based) at which a text first stands, and the file with it replaced.
 int plant(const Program &program, const QString &name, const QByteArray &good,
           const QByteArray &bad)

@@ -17,8 +17,6 @@ using testing::Not;
 
 namespace {
 
-const QString sample = u"Files/Sample flight.tmj"_s;
-const QString sampleMacros = u"Files/Sample flight.tmm"_s;
 const QString opened = u"text MacroText ="_s;
 const QString download = u"trigger DownloadArray1_0"_s;
 const QString hotas = u"HOTAS.ini"_s;

@@ -18,8 +18,6 @@ using testing::HasSubstr;
 
 namespace {
 
-const QString sample = u"Files/Sample flight.tmj"_s;
-
 /// Everything that the start itself has to say is on the status line by then.
 const QString started = u"text Panel_1 Ready! Welcome to Zeph"_s;
 

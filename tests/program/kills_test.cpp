@@ -7,6 +7,7 @@
 #include "platform/core/base.h"
 #include "tests/program/notes.h"
 #include "tests/program/program.h"
+#include "tests/support/long_run.h"
 
 #include <gmock/gmock.h>
 
@@ -23,7 +24,7 @@ using namespace zeph::test;
 
 namespace {
 
-constexpr int kills = 50;
+const int kills = repeats(12, 50);
 /// From the first key on.
 constexpr int latestKillMs = 300;
 constexpr int startsWithinMs = 30000;

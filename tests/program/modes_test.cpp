@@ -14,8 +14,6 @@ using testing::HasSubstr;
 
 namespace {
 
-const QString sample = u"Files/Sample flight.tmj"_s;
-
 } // namespace
 
 TEST(ProgramModes, TheAxesChangeIsWaitedForAndItsAnswerStands)

@@ -12,6 +12,10 @@
 
 namespace zeph::test {
 
+/// The pair that comes with the program, from its folder.
+inline const QString sample = u"Files/Sample flight.tmj"_s;
+inline const QString sampleMacros = u"Files/Sample flight.tmm"_s;
+
 /// The installed program in a fresh folder of its own, driven from outside by scripts.
 class Program
 {

@@ -127,9 +127,9 @@ TEST_F(Start, WelcomesAndHasTwoFreshDocuments)
     ASSERT_TRUE(start());
     EXPECT_EQ(status.text(), QString()) << "the status line is the application's own";
     EXPECT_EQ(app->status().text(), u"Ready! Welcome to Zeph, Goose!");
-    EXPECT_EQ(app->editor().joystick().name, u"Untitled.tmj");
-    EXPECT_EQ(app->editor().macro().name, u"Untitled.tmm");
-    EXPECT_EQ(app->editor().selected().kind, DocumentKind::Joystick);
+    EXPECT_EQ(app->editor().joystick().name(), u"Untitled.tmj");
+    EXPECT_EQ(app->editor().macro().name(), u"Untitled.tmm");
+    EXPECT_EQ(app->editor().selected().kind(), DocumentKind::Joystick);
     EXPECT_EQ(app->status().lineText(), u"Line no: 1");
     EXPECT_EQ(app->status().modePicture(), 1);
 }
@@ -337,7 +337,7 @@ TEST_F(Start, ACommandLineThatNamesNoExistingFileIsDropped)
     writeStore();
     arguments = { folder.file(u"gone.tmj"_s) };
     ASSERT_TRUE(start());
-    EXPECT_EQ(app->editor().joystick().name, u"Untitled.tmj");
+    EXPECT_EQ(app->editor().joystick().name(), u"Untitled.tmj");
     EXPECT_EQ(app->status().text(), u"Ready! Welcome to Zeph, buddy!");
 }
 
@@ -347,7 +347,7 @@ TEST_F(Start, ADroppedCommandLineLeavesTheRestoredFilesAsIfNoneWereGiven)
     writeStore("[Miscellaneous]\r\nRestoreJoyFile=" + last.toLocal8Bit() + "\r\n");
     arguments = { folder.file(u"gone.tmj"_s) };
     ASSERT_TRUE(start());
-    EXPECT_EQ(app->editor().joystick().path, last);
+    EXPECT_EQ(app->editor().joystick().path(), last);
 }
 
 TEST_F(Start, ACommandLineOpensItsFileAndItsPartner)
@@ -357,9 +357,9 @@ TEST_F(Start, ACommandLineOpensItsFileAndItsPartner)
     const QString macro = folder.write(u"my files/Viper.tmm"_s, "Fire = a\r\n");
     arguments = { joystickFile };
     ASSERT_TRUE(start());
-    EXPECT_EQ(app->editor().joystick().path, joystickFile);
-    EXPECT_EQ(app->editor().macro().path, macro);
-    EXPECT_EQ(app->editor().selected().kind, DocumentKind::Joystick);
+    EXPECT_EQ(app->editor().joystick().path(), joystickFile);
+    EXPECT_EQ(app->editor().macro().path(), macro);
+    EXPECT_EQ(app->editor().selected().kind(), DocumentKind::Joystick);
 }
 
 TEST_F(Start, ACommandLineThatAShellHasPartedIsOneName)
@@ -369,7 +369,7 @@ TEST_F(Start, ACommandLineThatAShellHasPartedIsOneName)
     arguments = joystickFile.split(u' ');
     ASSERT_EQ(arguments.size(), 2);
     ASSERT_TRUE(start());
-    EXPECT_EQ(app->editor().joystick().path, joystickFile);
+    EXPECT_EQ(app->editor().joystick().path(), joystickFile);
 }
 
 TEST_F(Start, AMacroFileOnTheCommandLineStaysInFront)
@@ -377,8 +377,8 @@ TEST_F(Start, AMacroFileOnTheCommandLineStaysInFront)
     writeStore();
     arguments = { folder.write(u"Alone.tmm"_s, "Fire = a\r\n") };
     ASSERT_TRUE(start());
-    EXPECT_EQ(app->editor().macro().name, u"Alone.tmm");
-    EXPECT_EQ(app->editor().selected().kind, DocumentKind::Macro);
+    EXPECT_EQ(app->editor().macro().name(), u"Alone.tmm");
+    EXPECT_EQ(app->editor().selected().kind(), DocumentKind::Macro);
 }
 
 TEST_F(Start, MacrosOfARestoredPairAreIdentifiedOnce)
@@ -408,7 +408,7 @@ TEST_F(Start, TheAutoloadFavouriteAppliesWithBothRestoreKeysEmpty)
     writeStore("[Miscellaneous]\r\nRestoreStatus=1\r\n" + favourite
                + "FavJFPath1=" + viper.toLocal8Bit() + "\r\n");
     ASSERT_TRUE(start());
-    EXPECT_EQ(app->editor().joystick().path, viper);
+    EXPECT_EQ(app->editor().joystick().path(), viper);
 }
 
 TEST_F(Start, TheAutoloadFavouriteDoesNotApplyWithARestoredFile)
@@ -418,8 +418,8 @@ TEST_F(Start, TheAutoloadFavouriteDoesNotApplyWithARestoredFile)
     writeStore("[Miscellaneous]\r\nRestoreStatus=1\r\nRestoreMacroFile=" + last.toLocal8Bit()
                + "\r\n" + favourite + "FavJFPath1=" + viper.toLocal8Bit() + "\r\n");
     ASSERT_TRUE(start());
-    EXPECT_EQ(app->editor().macro().path, last);
-    EXPECT_EQ(app->editor().joystick().name, u"Untitled.tmj");
+    EXPECT_EQ(app->editor().macro().path(), last);
+    EXPECT_EQ(app->editor().joystick().name(), u"Untitled.tmj");
 }
 
 TEST_F(Start, RestoreStatusOffLeavesTheLastFilesClosedAndTheAutoloadFavouriteApplies)
@@ -429,8 +429,8 @@ TEST_F(Start, RestoreStatusOffLeavesTheLastFilesClosedAndTheAutoloadFavouriteApp
     writeStore("[Miscellaneous]\r\nRestoreStatus=0\r\nRestoreMacroFile=" + last.toLocal8Bit()
                + "\r\n" + favourite + "FavJFPath1=" + viper.toLocal8Bit() + "\r\n");
     ASSERT_TRUE(start());
-    EXPECT_EQ(app->editor().joystick().path, viper);
-    EXPECT_EQ(app->editor().macro().name, u"Untitled.tmm");
+    EXPECT_EQ(app->editor().joystick().path(), viper);
+    EXPECT_EQ(app->editor().macro().name(), u"Untitled.tmm");
 }
 
 TEST_F(Start, AFurtherInstanceThatClosesWhileMinimisedLeavesItsCopy)

@@ -59,11 +59,11 @@ struct DownloadMenuTest : test::ShellWorld {
         tools = new CougarTools(context(), joystick, *mum);
         tools->attach(context(), *mum, *editor, *help);
         mum->show();
-        control()->setText(u"BTN S1 a"_s);
-        editor->joystick().path = folder.write(u"Files/a.tmj"_s, "BTN S1 a");
-        editor->view().setState(editor->joystick(), EditorDocument::Saved);
+        control()->shown().setText(u"BTN S1 a"_s);
+        editor->joystick().path() = folder.write(u"Files/a.tmj"_s, "BTN S1 a");
+        editor->joystick().setState(Document::Saved);
     }
-    TextControl *control() const { return editor->joystick().control; }
+    TextControl *control() const { return &editor->view().control(DocumentKind::Joystick); }
     QAction *entry(int index) const
     {
         return editor->action(u"DownloadArray1_"_s + QString::number(index));
@@ -165,7 +165,7 @@ TEST_F(DownloadMenuTest, TheTextIsLockedDuringTheWaitAndEditableBehindIt)
     EXPECT_TRUE(lockedAtStart);
     EXPECT_FALSE(control()->isReadOnly());
     QTest::keyClicks(control(), u"x"_s);
-    EXPECT_TRUE(control()->text().contains(u'x'));
+    EXPECT_TRUE(control()->shown().text().contains(u'x'));
 }
 
 TEST_F(DownloadMenuTest, ALockedTextRefusesWhatMenusAndToolsWouldChange)
@@ -178,14 +178,14 @@ TEST_F(DownloadMenuTest, ALockedTextRefusesWhatMenusAndToolsWouldChange)
             editor->actions().trigger(u"mnuEditCut");
             editor->actions().trigger(u"mnuEditPaste");
             editor->actions().trigger(u"mnuBlockREM");
-            EXPECT_EQ(control()->text(), u"BTN S1 a");
+            EXPECT_EQ(control()->shown().text(), u"BTN S1 a");
             EXPECT_TRUE(hotasIni().write({ u"Compiler"_s, u"Status"_s, verdict }));
         });
         return Expected<void, QString>();
     };
     dialogs.answer(success, BoxButton::Ok);
     entry(0)->trigger();
-    EXPECT_EQ(control()->text(), u"BTN S1 a");
+    EXPECT_EQ(control()->shown().text(), u"BTN S1 a");
 }
 
 TEST_F(DownloadMenuTest, TheKeyTesterOpensThroughItsEntry)
@@ -218,7 +218,7 @@ TEST_F(DownloadMenuTest, TheDownloadBelongsToTheJoystickTab)
     auto *button = mum->findChild<QToolButton *>(u"Toolbar1_32"_s);
     ASSERT_TRUE(button);
     EXPECT_TRUE(entry(0)->isEnabled());
-    editor->view().select(DocumentKind::Macro);
+    editor->documents().select(DocumentKind::Macro);
     EXPECT_FALSE(entry(0)->isEnabled());
     QCoreApplication::sendPostedEvents();
     QCoreApplication::processEvents();
@@ -233,10 +233,10 @@ TEST_F(DownloadMenuTest, FromTheMacroTabItSelectsTheJoystickTabFirst)
     settings.AlwaysShowCompileDownload = 1;
     settings.RunKeyTest = 0;
     show();
-    editor->view().select(DocumentKind::Macro);
+    editor->documents().select(DocumentKind::Macro);
     dialogs.answer(success, BoxButton::Ok);
     entry(0)->trigger();
-    EXPECT_EQ(editor->selected().kind, DocumentKind::Joystick);
+    EXPECT_EQ(editor->selected().kind(), DocumentKind::Joystick);
 }
 
 TEST_F(DownloadMenuTest, ToolbarAndRightHandMenuDownloadToo)

@@ -37,9 +37,9 @@ struct Exit : test::ShellWorld {
         app.reset();
         ShellWorld::TearDown();
     }
-    void typeInto(EditorDocument &document) const
+    void typeInto(Document &document) const
     {
-        document.control->insertPlainText(u"x"_s);
+        app->editor().view().control(document.kind()).insertPlainText(u"x"_s);
         ASSERT_TRUE(document.isModified());
     }
     QString stored(const QString &key) const

@@ -101,21 +101,21 @@ TEST_F(GamesMenuTest, ChoosingAGameSavesBothChangedDocumentsWithoutAsking)
     start(twoGames);
     Editor &editor = app->editor();
     editor.opening().OpenPreviouslySavedFiles(folder.file(u"a.tmj"_s));
-    editor.joystick().control->insertPlainText(u"Rem j\n"_s);
-    editor.macro().control->insertPlainText(u"Rem m\n"_s);
+    editor.view().control(DocumentKind::Joystick).insertPlainText(u"Rem j\n"_s);
+    editor.view().control(DocumentKind::Macro).insertPlainText(u"Rem m\n"_s);
     ASSERT_TRUE(editor.joystick().isModified() && editor.macro().isModified());
     entry(u"mnuGameArray_1"_s)->trigger();
     EXPECT_FALSE(editor.joystick().isModified());
     EXPECT_FALSE(editor.macro().isModified());
     EXPECT_TRUE(folder.read(u"a.tmj"_s).startsWith("Rem j\r\n"));
     EXPECT_TRUE(folder.read(u"a.tmm"_s).startsWith("Rem m\r\n"));
-    EXPECT_EQ(editor.selected().kind, DocumentKind::Joystick);
+    EXPECT_EQ(editor.selected().kind(), DocumentKind::Joystick);
 }
 
 TEST_F(GamesMenuTest, ATextThatIsNotOnTheDiskStaysGuarded)
 {
     start(twoGames);
-    app->editor().joystick().control->insertPlainText(u"Rem j\n"_s);
+    app->editor().view().control(DocumentKind::Joystick).insertPlainText(u"Rem j\n"_s);
     dialogs.answerFile({});
     entry(u"mnuGameArray_1"_s)->trigger();
     EXPECT_TRUE(app->editor().joystick().isModified());

@@ -273,8 +273,8 @@ TEST_F(Modes, ShiftBreakAnywhereInTheEditorSendsOneEmergencyRequest)
 {
     start();
     Editor &editor = app->editor();
-    for (QWidget *focused : { static_cast<QWidget *>(editor.joystick().control),
-                              static_cast<QWidget *>(editor.macro().control),
+    for (QWidget *focused : { static_cast<QWidget *>(&editor.view().control(DocumentKind::Joystick)),
+                              static_cast<QWidget *>(&editor.view().control(DocumentKind::Macro)),
                               static_cast<QWidget *>(&editor.macros().list().frame()->list()) }) {
         launcher.launches.clear();
         QStringList told;
@@ -292,7 +292,7 @@ TEST_F(Modes, ShiftBreakAnywhereInTheEditorSendsOneEmergencyRequest)
 TEST_F(Modes, BreakWithoutShiftAndAKeyHeldDownSendNothing)
 {
     start();
-    QWidget *text = app->editor().joystick().control;
+    QWidget *text = &app->editor().view().control(DocumentKind::Joystick);
     QTest::keyClick(text, Qt::Key_Pause);
     QKeyEvent held(QEvent::KeyPress, Qt::Key_Pause, Qt::ShiftModifier, {}, true);
     QApplication::sendEvent(text, &held);
@@ -303,7 +303,7 @@ TEST_F(Modes, MenusTypingAndTimersWorkDuringAModeWait)
 {
     start("[Unsupported]\r\nCheckForCompletionTime=5\r\n");
     Editor &editor = app->editor();
-    editor.view().select(DocumentKind::Macro);
+    editor.documents().select(DocumentKind::Macro);
     const bool tiledBefore = editor.view().isTiled();
     int beats = 0;
     QTimer beat;
@@ -311,7 +311,7 @@ TEST_F(Modes, MenusTypingAndTimersWorkDuringAModeWait)
     launcher.onStart = [&](const Launch &) {
         beat.start(1);
         QTimer::singleShot(0, &editor, [&] {
-            QTest::keyClicks(editor.macro().control, u"Fire = a"_s);
+            QTest::keyClicks(&editor.view().control(DocumentKind::Macro), u"Fire = a"_s);
             press(u"mnuViewTileVertically");
         });
         return Expected<void, QString>();

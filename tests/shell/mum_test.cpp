@@ -129,7 +129,7 @@ TEST_F(MainWindow, AButtonRunsItsEntryForTheSelectedTab)
     const int *macro = countRuns(u"mnuViewColourMacro"_s);
     settle();
     button(u"Toolbar1_25"_s)->click();
-    editor->view().select(DocumentKind::Macro);
+    editor->documents().select(DocumentKind::Macro);
     settle();
     button(u"Toolbar1_25"_s)->click();
     EXPECT_EQ(*joystickRuns, 1);
@@ -250,7 +250,7 @@ TEST_F(MainWindow, AKeyThatTextAndMenuBothKnowRunsOneEntry)
         }
     };
     for (const DocumentKind kind : { DocumentKind::Joystick, DocumentKind::Macro }) {
-        editor->view().select(kind);
+        editor->documents().select(kind);
         for (const ActionRow &row : actionTable()) {
             const auto keys = QKeySequence(QString::fromUtf16(row.shortcut));
             if (keys.isEmpty()) {
@@ -262,7 +262,7 @@ TEST_F(MainWindow, AKeyThatTextAndMenuBothKnowRunsOneEntry)
             const QString ofText = key.keyboardModifiers() == Qt::ControlModifier
                 ? EditorKeys::entryFor(key.key(), kind == DocumentKind::Macro)
                 : QString();
-            QTest::keyClick(editor->selected().control, key.key(), key.keyboardModifiers());
+            QTest::keyClick(&editor->view().control(editor->selected().kind()), key.key(), key.keyboardModifiers());
             EXPECT_EQ(ran, QStringList{ ofText.isEmpty() ? QString::fromUtf16(row.name) : ofText })
                 << keys.toString().toStdString();
         }
@@ -274,10 +274,10 @@ TEST_F(MainWindow, TheBarsLeftEndColoursSavesAndIdentifies)
     const int *colour = countRuns(u"mnuViewColourMacro"_s);
     const int *identify = countRuns(u"mnuMacrosIdentify"_s);
     const QString path = folder.write(u"a.tmm"_s, "old");
-    editor->view().select(DocumentKind::Macro);
-    editor->macro().path = path;
-    editor->macro().name = u"a.tmm"_s;
-    editor->macro().control->insertPlainText(u"Fire = a"_s);
+    editor->documents().select(DocumentKind::Macro);
+    editor->macro().path() = path;
+    editor->macro().name() = u"a.tmm"_s;
+    editor->view().control(DocumentKind::Macro).insertPlainText(u"Fire = a"_s);
     QTest::mousePress(&mum->bar(), Qt::LeftButton, {}, QPoint(5, 10));
     EXPECT_EQ(*colour, 1);
     EXPECT_EQ(*identify, 1);

@@ -73,8 +73,8 @@ TEST_F(TemplateMenuTest, WhatItSavesIsOfferedToTheEditorThatHasItOpen)
     textOf(*form()).textCursor().insertText(u"Rem mine\n"_s);
     dialogs.answer(u"Open Jet.tmj again?"_s, BoxButton::Yes);
     form()->mnuFileSave_Click();
-    EXPECT_EQ(run->editor().joystick().control->text().section(u'\n', 0, 0), u"Rem mine");
-    EXPECT_EQ(run->editor().joystick().state, EditorDocument::Saved);
+    EXPECT_EQ(run->editor().joystick().text().section(u'\n', 0, 0), u"Rem mine");
+    EXPECT_EQ(run->editor().joystick().state(), Document::Saved);
 }
 
 TEST_F(TemplateMenuTest, AnUnsavedTemplateIsAskedAboutBeforeTheEnd)

@@ -5,7 +5,7 @@
 
 #include "documents/coloured_insert.h"
 #include "documents/highlighting.h"
-#include "documents/undo_history.h"
+#include "documents/undo_histories.h"
 #include "menus/menu_actions.h"
 #include "platform/richtext/rich_text_document.h"
 #include "tests/documents/editor_fixture.h"
@@ -32,7 +32,7 @@ protected:
         makeEditor();
     }
 
-    TextControl *control(DocumentKind kind) { return editor->view().document(kind).control; }
+    TextControl *control(DocumentKind kind) { return &editor->view().control(kind); }
     TextControl *joystick() { return control(DocumentKind::Joystick); }
     TextControl *macro() { return control(DocumentKind::Macro); }
     Highlighting &highlighting() { return editor->highlighting(); }
@@ -40,10 +40,9 @@ protected:
     /// Sets a text in the plain format, saved, without a history, the caret in front.
     void set(DocumentKind kind, const QString &text)
     {
-        const BusyGuard busy(editor->view());
-        control(kind)->setText(text);
-        control(kind)->select(0, 0);
-        editor->view().setState(editor->view().document(kind), EditorDocument::Saved);
+        control(kind)->shown().setText(text);
+        control(kind)->shown().select(0, 0);
+        editor->documents().of(kind).setState(Document::Saved);
         editor->undos().startOver(kind);
     }
 
@@ -51,8 +50,7 @@ protected:
     void look(DocumentKind kind, int from, int length,
               const std::function<void(CharFormat &)> &change)
     {
-        const BusyGuard busy(editor->view());
-        control(kind)->changeLooks(from, length, change);
+        control(kind)->shown().changeLooks(from, length, change);
     }
 
     /// "." plain, b BTN and DEF, s slash, r raw, m miscellaneous, c comment, ! pure red, ? another.
@@ -100,7 +98,7 @@ protected:
         return texts;
     }
 
-    void protectMacro() { editor->view().setProtected(true); }
+    void protectMacro() { editor->documents().setProtected(true); }
 
     static constexpr DocumentKind J = DocumentKind::Joystick;
     static constexpr DocumentKind M = DocumentKind::Macro;

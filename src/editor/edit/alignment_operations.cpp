@@ -3,12 +3,10 @@
 
 #include "editor/edit/alignment_operations.h"
 
-#include "documents/edit_step.h"
+#include "documents/change.h"
 #include "documents/highlighting.h"
-#include "documents/text_control.h"
-#include "documents/undo_history.h"
+#include "documents/editor_view.h"
 #include "menus/menu_actions.h"
-#include "platform/richtext/rich_text_document.h"
 #include "platform/status_line.h"
 #include "settings/global_settings.h"
 #include "text/alignment.h"
@@ -21,15 +19,12 @@ namespace zeph {
 namespace {
 
 /// Puts a text in place of the whole one. Caret and view stay with the line that they were at.
-void replaceAll(TextControl &control, const QString &text)
+void replaceAll(EditorView &view, Document &document, const QString &text)
 {
-    const int line = control.caretLine();
-    const int down = control.place().down;
-    QTextCursor cursor(control.document());
-    cursor.select(QTextCursor::Document);
-    cursor.insertText(text, toTextFormat(control.plainFormat()));
-    const int start = int(lineRange(text, line).value_or(LineRange()).start);
-    control.setPlace({ start, start, 0, down });
+    const int line = document.caretLine();
+    const EditorView::KeptLine place(view, document);
+    document.replaceWhole(text);
+    document.select(int(lineRange(text, line).value_or(LineRange()).start), 0);
 }
 
 } // namespace
@@ -51,21 +46,22 @@ void AlignmentOperations::applySettings()
 
 void AlignmentOperations::mnuAlignSlash_Click()
 {
-    if (m_parts.view.refuseProtected()) {
+    if (m_parts.view.documents().refuseProtected()) {
         return;
     }
-    EditorDocument &joystick = m_parts.view.document(DocumentKind::Joystick);
-    const QString text = joystick.control->text();
+    Document &joystick = m_parts.view.documents().joystick();
+    const QString text = joystick.text();
     if (text.isEmpty()) {
         return;
     }
     m_context.status.setTextNow(u" Hang on - this could take time ..."_s);
-    m_parts.view.select(DocumentKind::Joystick);
+    m_parts.view.documents().select(DocumentKind::Joystick);
     const QString aligned = AlignSlashes(
         text, { m_context.settings.IndentAsWell == 1, m_context.settings.IndentSpaces });
     if (aligned != text) {
-        const EditStep step(m_parts.view, m_parts.histories, DocumentKind::Joystick);
-        replaceAll(*joystick.control, aligned);
+        Change change(joystick);
+        replaceAll(m_parts.view, joystick, aligned);
+        change.commit();
     }
     m_parts.highlighting.mnuViewColourJoystick_Click();
     m_context.status.setText(u" OK - done!"_s);
@@ -78,16 +74,15 @@ void AlignmentOperations::mnuIndentSlashes_Click()
 
 void AlignmentOperations::mnuViewrefreshIndent_Click()
 {
-    EditorDocument &document = m_parts.view.selected();
-    if (m_parts.view.refuseProtected() || document.control->end() == 0) {
+    Document &document = m_parts.view.documents().selected();
+    if (m_parts.view.documents().refuseProtected() || document.length() == 0) {
         return;
     }
-    const BusyGuard busy(m_parts.view);
     m_context.status.setText(u"Reformatting layout. Please wait ..."_s);
-    setParagraphFormat(*document.control->document(), documentParagraph);
+    document.setMargins();
     m_parts.view.UpdateSavedIcon();
     m_context.status.setText(u"Layout refreshed ... (I wish I was!)"_s);
-    m_parts.histories.of(document.kind).storeTop();
+    document.history().storeTop();
 }
 
 } // namespace zeph

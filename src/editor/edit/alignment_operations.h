@@ -10,7 +10,6 @@ namespace zeph {
 class MenuActions;
 class EditorView;
 class Highlighting;
-class UndoHistories;
 
 /// The entries of the View menu that set a text's lines afresh.
 class AlignmentOperations
@@ -19,7 +18,6 @@ public:
     struct Parts {
         EditorView &view;
         MenuActions &actions;
-        UndoHistories &histories;
         Highlighting &highlighting;
     };
     AlignmentOperations(const Context &context, const Parts &parts);

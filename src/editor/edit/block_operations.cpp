@@ -6,9 +6,7 @@
 #include "documents/coloured_insert.h"
 #include "documents/editor_view.h"
 #include "documents/highlighting.h"
-#include "documents/text_control.h"
 #include "menus/menu_actions.h"
-#include "platform/richtext/rich_text_document.h"
 
 #include <algorithm>
 
@@ -32,22 +30,21 @@ BlockOperations::BlockOperations(const Parts &parts) : m_parts(parts)
 
 LineRange BlockOperations::lines() const
 {
-    const TextControl &control = *m_parts.view.selected().control;
-    return touchedLines(control.text(), control.selStart(), control.selLength());
+    const Document &document = m_parts.view.documents().selected();
+    return touchedLines(document.text(), document.selStart(), document.selLength());
 }
 
 std::vector<LineChange> BlockOperations::changed(LineRange range,
                                                  LineChange (*change)(QStringView line)) const
 {
-    const QString text = m_parts.view.selected().control->text();
+    const QString text = m_parts.view.documents().selected().text();
     return changeLines(QStringView(text).sliced(range.start, range.length), change);
 }
 
 void BlockOperations::insertOver(LineRange range, const RichText &text)
 {
-    TextControl &control = *m_parts.view.selected().control;
     m_parts.insert.BeginColInsert();
-    control.select(int(range.start), int(range.length));
+    m_parts.view.documents().selected().select(int(range.start), int(range.length));
     m_parts.insert.insertRich(text);
     goToStart(range);
     m_parts.insert.EndColInsert();
@@ -55,12 +52,12 @@ void BlockOperations::insertOver(LineRange range, const RichText &text)
 
 void BlockOperations::goToStart(LineRange range)
 {
-    m_parts.view.selected().control->select(int(range.start), 0);
+    m_parts.view.documents().selected().select(int(range.start), 0);
 }
 
 void BlockOperations::BlockREM()
 {
-    if (m_parts.view.refuseProtected()) {
+    if (m_parts.view.documents().refuseProtected()) {
         return;
     }
     const LineRange range = lines();
@@ -78,7 +75,7 @@ void BlockOperations::BlockREM()
 
 void BlockOperations::BlockRemoveREM()
 {
-    if (m_parts.view.refuseProtected()) {
+    if (m_parts.view.documents().refuseProtected()) {
         return;
     }
     const LineRange range = lines();
@@ -87,7 +84,7 @@ void BlockOperations::BlockRemoveREM()
         goToStart(range);
         return;
     }
-    const TextControl &control = *m_parts.view.selected().control;
+    const Document &document = m_parts.view.documents().selected();
     constexpr qsizetype taken = 4; // "rem " and its blank
     RichText text;
     qsizetype at = range.start;
@@ -95,7 +92,7 @@ void BlockOperations::BlockRemoveREM()
         const qsizetype length = line.text.size() + (line.changed ? taken : 0);
         // What stays keeps the looks that it has; what is live again is painted as it is typed.
         text.append(line.changed ? m_parts.highlighting.ColourType(line.text)
-                                 : richTextOf(*control.document(), at, length));
+                                 : document.richText(int(at), int(length)));
         at += length;
     }
     insertOver(range, text);

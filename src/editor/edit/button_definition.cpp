@@ -4,7 +4,6 @@
 #include "editor/edit/button_definition.h"
 
 #include "documents/editor_view.h"
-#include "documents/text_control.h"
 #include "language/words.h"
 #include "platform/core/text_search.h"
 
@@ -40,17 +39,17 @@ std::optional<LineRange> buttonDefinition(QStringView text, const QString &head)
 
 bool ExtractButtonDefinition(EditorView &view, const QString &head)
 {
-    TextControl &control = *view.document(DocumentKind::Joystick).control;
-    const QString text = control.text();
+    Document &joystick = view.documents().joystick();
+    const QString text = joystick.text();
     if (text.isEmpty()) {
         return false;
     }
-    view.select(DocumentKind::Joystick);
+    view.documents().select(DocumentKind::Joystick);
     const auto range = buttonDefinition(text, head);
     if (!range) {
         return false;
     }
-    control.select(int(range->start), int(range->length));
+    joystick.select(int(range->start), int(range->length));
     view.ResetFocusToEditor();
     return true;
 }

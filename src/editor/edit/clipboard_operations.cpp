@@ -4,9 +4,9 @@
 #include "editor/edit/clipboard_operations.h"
 
 #include "documents/coloured_insert.h"
-#include "documents/edit_step.h"
+#include "documents/change.h"
+#include "documents/editor_view.h"
 #include "documents/pasted_text.h"
-#include "documents/text_control.h"
 #include "menus/menu_actions.h"
 #include "platform/richtext/rich_text_mime.h"
 
@@ -27,12 +27,12 @@ ClipboardOperations::ClipboardOperations(const Parts &parts) : m_parts(parts)
 
 void ClipboardOperations::mnuEditCopy_Click()
 {
-    m_parts.view.selected().control->copy();
+    m_parts.view.copy();
 }
 
 void ClipboardOperations::mnuEditCut_Click()
 {
-    if (!m_parts.view.refuseProtected()) {
+    if (!m_parts.view.documents().refuseProtected()) {
         mnuEditCopy_Click();
         removeSelection();
     }
@@ -40,19 +40,18 @@ void ClipboardOperations::mnuEditCut_Click()
 
 void ClipboardOperations::mnuEditDelete_Click()
 {
-    if (!m_parts.view.refuseProtected()) {
+    if (!m_parts.view.documents().refuseProtected()) {
         removeSelection();
     }
 }
 
 void ClipboardOperations::removeSelection()
 {
-    const EditorDocument &document = m_parts.view.selected();
-    QTextCursor cursor = document.control->textCursor();
-    if (cursor.hasSelection()) {
-        const EditStep step(m_parts.view, m_parts.histories, document.kind);
-        cursor.removeSelectedText();
-        document.control->setTextCursor(cursor);
+    Document &document = m_parts.view.documents().selected();
+    if (document.selLength() > 0) {
+        Change change(document);
+        document.removeSelection();
+        change.commit();
     }
 }
 
@@ -69,10 +68,10 @@ void ClipboardOperations::mnuPasteSimple_Click()
 void ClipboardOperations::paste(RichText (*take)(const QMimeData &data, const CharFormat &plain))
 {
     const QMimeData *clipboard = QGuiApplication::clipboard()->mimeData();
-    if (m_parts.view.refuseProtected() || !holdsText(clipboard)) {
+    if (m_parts.view.documents().refuseProtected() || !holdsText(clipboard)) {
         return;
     }
-    const RichText text = take(*clipboard, m_parts.view.plainFormat(m_parts.view.selected().kind));
+    const RichText text = take(*clipboard, m_parts.view.documents().plainFormat(m_parts.view.documents().selected().kind()));
     if (text.text.isEmpty()) {
         return;
     }

@@ -12,7 +12,6 @@ namespace zeph {
 class ColouredInsert;
 class MenuActions;
 class EditorView;
-class UndoHistories;
 
 /// Copy, cut, paste and delete on the selected document. All that change it are one undo step each
 /// and refused on a protected macro file.
@@ -22,7 +21,6 @@ public:
     struct Parts {
         EditorView &view;
         MenuActions &actions;
-        UndoHistories &histories;
         ColouredInsert &insert;
     };
     explicit ClipboardOperations(const Parts &parts);

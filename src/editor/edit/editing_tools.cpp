@@ -10,9 +10,9 @@ namespace zeph {
 
 EditingTools::EditingTools(const Context &context, const Parts &parts)
     : m_context(context), m_parts(parts),
-      m_clipboard({ parts.view, parts.actions, parts.histories, parts.insert }),
+      m_clipboard({ parts.view, parts.actions, parts.insert }),
       m_blocks({ parts.view, parts.actions, parts.highlighting, parts.insert }),
-      m_alignment(context, { parts.view, parts.actions, parts.histories, parts.highlighting })
+      m_alignment(context, { parts.view, parts.actions, parts.highlighting })
 {
     MenuActions &on = m_parts.actions;
     on.connectTo(u"mnuEditFind", [this] { mnuEditFind_Click(); });
@@ -43,7 +43,7 @@ void EditingTools::mnuEditGoto_Click()
 void EditingTools::openFind(FindAndReplace::Tab tab)
 {
     if (!m_find) {
-        m_find = new FindAndReplace(m_context, { m_parts.view, m_parts.histories },
+        m_find = new FindAndReplace(m_context, { m_parts.view },
                                     m_parts.view.window());
         connect(m_find, &FindAndReplace::helpOn, this, &EditingTools::helpOn);
     }

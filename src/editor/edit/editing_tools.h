@@ -22,7 +22,6 @@ public:
     struct Parts {
         EditorView &view;
         MenuActions &actions;
-        UndoHistories &histories;
         Highlighting &highlighting;
         ColouredInsert &insert;
     };

@@ -3,11 +3,10 @@
 
 #include "editor/edit/findandreplace.h"
 
-#include "documents/edit_step.h"
+#include "documents/change.h"
 #include "documents/editor_texts.h"
 #include "documents/editor_view.h"
 #include "documents/line_showing.h"
-#include "documents/text_control.h"
 #include "platform/core/text_search.h"
 #include "platform/core/units.h"
 #include "platform/handlers.h"
@@ -50,21 +49,6 @@ void prepareBox(QComboBox &box, const QString &name)
 QString quoted(const QString &word)
 {
     return u'"' + word + u'"';
-}
-
-/// Replaces stretches of one length, given by their places before any change.
-void replaceStretches(TextControl &control, const std::vector<qsizetype> &starts, qsizetype length,
-                      const QString &replacement)
-{
-    QTextCursor cursor(control.document());
-    cursor.beginEditBlock();
-    // From the end on, so that the places in front stay what they are.
-    for (auto start = starts.rbegin(); start != starts.rend(); ++start) {
-        cursor.setPosition(int(*start));
-        cursor.setPosition(int(*start + length), QTextCursor::KeepAnchor);
-        cursor.insertText(replacement);
-    }
-    cursor.endEditBlock();
 }
 
 } // namespace
@@ -151,11 +135,10 @@ void FindAndReplace::showTab(Tab tab)
 
 void FindAndReplace::preset(Page &page)
 {
-    const EditorDocument &document = m_parts.view.selected();
-    const bool isJoystick = document.kind == DocumentKind::Joystick;
+    const Document &document = m_parts.view.documents().selected();
+    const bool isJoystick = document.kind() == DocumentKind::Joystick;
     (isJoystick ? page.joystick : page.macro)->setChecked(true);
-    const TextControl &control = *document.control;
-    const QString selection = control.text().mid(control.selStart(), control.selLength());
+    const QString selection = document.text().mid(document.selStart(), document.selLength());
     const QString present = page.what->currentText();
     if (selection.isEmpty()) {
         if (present.isEmpty()) {
@@ -193,33 +176,33 @@ int FindAndReplace::optionsOf(const Page &page) const
         + (page.matchCase->isChecked() ? SearchMatchCase : SearchPlain);
 }
 
-EditorDocument &FindAndReplace::documentOf(const Page &page) const
+Document &FindAndReplace::documentOf(const Page &page) const
 {
-    return m_parts.view.document(page.joystick->isChecked() ? DocumentKind::Joystick
+    return m_parts.view.documents().of(page.joystick->isChecked() ? DocumentKind::Joystick
                                                             : DocumentKind::Macro);
 }
 
-bool FindAndReplace::refuses(const EditorDocument &document)
+bool FindAndReplace::refuses(const Document &document)
 {
-    if (document.kind != DocumentKind::Macro || !m_parts.view.isProtected()) {
+    if (document.kind() != DocumentKind::Macro || !m_parts.view.documents().isProtected()) {
         return false;
     }
     m_context.dialogs.box(fileProtectedBox());
     return true;
 }
 
-bool FindAndReplace::tellNothingToSearch(const QString &word, const EditorDocument &document)
+bool FindAndReplace::tellNothingToSearch(const QString &word, const Document &document)
 {
     if (word.isEmpty()) {
         m_context.dialogs.tell(u"Please enter text to search"_s,
                                u"You haven't specified the text to search for"_s);
         return true;
     }
-    if (document.control->end() == 0) {
-        const bool isJoystick = document.kind == DocumentKind::Joystick;
+    if (document.length() == 0) {
+        const bool isJoystick = document.kind() == DocumentKind::Joystick;
         m_context.dialogs.tell(isJoystick ? u"No text in joystick file"_s
                                           : u"No text in macro file"_s,
-                               document.name + u" has no text to highlight."_s);
+                               document.name() + u" has no text to highlight."_s);
         return true;
     }
     return false;
@@ -227,7 +210,7 @@ bool FindAndReplace::tellNothingToSearch(const QString &word, const EditorDocume
 
 void FindAndReplace::find(Page &page)
 {
-    EditorDocument &document = documentOf(page);
+    Document &document = documentOf(page);
     const QString word = page.what->currentText();
     remember(*page.what);
     if (tellNothingToSearch(word, document)) {
@@ -235,9 +218,9 @@ void FindAndReplace::find(Page &page)
     }
     SearchOptions = qint16(optionsOf(page));
     LastFindText = word;
-    const qsizetype caret = document.control->textCursor().position();
+    const qsizetype caret = document.cursor().position();
     const SearchResult result =
-        search(document.control->text(), { word, SearchOptions, page.first, caret });
+        search(document.text(), { word, SearchOptions, page.first, caret });
     if (result.verdict != SearchVerdict::Hit) {
         tellNoHit(page, word, document);
         return;
@@ -249,24 +232,24 @@ void FindAndReplace::find(Page &page)
     showHit(document, int(result.start), int(word.size()));
 }
 
-void FindAndReplace::tellNoHit(Page &page, const QString &word, const EditorDocument &document)
+void FindAndReplace::tellNoHit(Page &page, const QString &word, const Document &document)
 {
     if (page.first) {
         m_context.dialogs.tell(u"Text not found"_s,
-                               quoted(word) + u" not found in "_s + document.name);
+                               quoted(word) + u" not found in "_s + document.name());
         return;
     }
     setFirst(page, true);
     m_context.dialogs.tell(u"You found 'em all!"_s,
                            u"No further instances of "_s + quoted(word) + u" found in "_s
-                               + document.name);
+                               + document.name());
 }
 
-void FindAndReplace::showHit(EditorDocument &document, int start, int length)
+void FindAndReplace::showHit(Document &document, int start, int length)
 {
-    m_parts.view.select(document.kind);
-    document.control->select(start, length);
-    m_context.status.setLine(document.control->caretLine());
+    m_parts.view.documents().select(document.kind());
+    document.select(start, length);
+    m_context.status.setLine(document.caretLine());
     returnToTexts();
 }
 
@@ -278,25 +261,25 @@ void FindAndReplace::returnToTexts()
 
 void FindAndReplace::ReplaceText()
 {
-    EditorDocument &document = documentOf(m_replacePage);
+    Document &document = documentOf(m_replacePage);
     if (refuses(document)) {
         return;
     }
     const QString replacement = m_ui->ComboTextReplaceWith->currentText();
     remember(*m_ui->ComboTextReplaceWith);
-    TextControl &control = *document.control;
-    if (control.selLength() > 0) {
-        const int start = control.selStart();
-        const EditStep step(m_parts.view, m_parts.histories, document.kind);
-        control.replace(start, control.selLength(), replacement);
-        control.select(start + int(replacement.size()), 0);
+    if (document.selLength() > 0) {
+        const int start = document.selStart();
+        Change change(document);
+        document.replace(start, document.selLength(), replacement);
+        document.select(start + int(replacement.size()), 0);
+        change.commit();
     }
     find(m_replacePage);
 }
 
 void FindAndReplace::ReplaceAll()
 {
-    EditorDocument &document = documentOf(m_replacePage);
+    Document &document = documentOf(m_replacePage);
     const QString word = m_replacePage.what->currentText();
     const QString replacement = m_ui->ComboTextReplaceWith->currentText();
     remember(*m_replacePage.what);
@@ -306,28 +289,28 @@ void FindAndReplace::ReplaceAll()
     }
     SearchOptions = qint16(optionsOf(m_replacePage));
     LastFindText = word;
-    TextControl &control = *document.control;
     const std::vector<qsizetype> hits =
-        hitsToReplace(control.text(), word, replacement, SearchOptions);
+        hitsToReplace(document.text(), word, replacement, SearchOptions);
     if (!hits.empty()) {
-        const EditStep step(m_parts.view, m_parts.histories, document.kind);
-        replaceStretches(control, hits, word.size(), replacement);
+        Change change(document);
+        document.replaceAll(hits, word.size(), replacement);
         const qsizetype growth = replacement.size() - word.size();
         const qsizetype behind =
             hits.back() + growth * qsizetype(hits.size() - 1) + replacement.size();
-        control.select(int(behind), 0);
+        document.select(int(behind), 0);
+        change.commit();
     }
     setFirst(m_replacePage, true);
     m_context.dialogs.tell(u"Replaced 'em all for you. Now buy me a drink"_s,
                            QString::number(hits.size()) + u" replacements were made in "_s
-                               + document.name);
+                               + document.name());
 }
 
 void FindAndReplace::goToLine()
 {
     // A number beyond all files is a line that no file has.
     const double line = qBound(0.0, leadingNumber(m_ui->LineToFind->text()), 1e9);
-    if (showLine(m_context, m_parts.view, m_parts.view.selected(), int(line), LineCaret::AtStart)) {
+    if (showLine(m_context, m_parts.view, m_parts.view.documents().selected(), int(line), LineCaret::AtStart)) {
         returnToTexts();
     }
 }

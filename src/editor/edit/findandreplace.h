@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "documents/editor_document.h"
+#include "documents/document.h"
 #include "platform/context.h"
 
 #include <QDialog>
@@ -19,7 +19,6 @@ class QRadioButton;
 namespace zeph {
 
 class EditorView;
-class UndoHistories;
 
 namespace Ui {
 class FindAndReplace;
@@ -35,7 +34,6 @@ public:
 
     struct Parts {
         EditorView &view;
-        UndoHistories &histories;
     };
     FindAndReplace(const Context &context, const Parts &parts, QWidget *parent = nullptr);
     ~FindAndReplace() override;
@@ -73,13 +71,13 @@ private:
     void startOver(Page &page);
     void enableReplacing(bool on);
     int optionsOf(const Page &page) const;
-    EditorDocument &documentOf(const Page &page) const;
-    bool refuses(const EditorDocument &document);
-    bool tellNothingToSearch(const QString &word, const EditorDocument &document);
+    Document &documentOf(const Page &page) const;
+    bool refuses(const Document &document);
+    bool tellNothingToSearch(const QString &word, const Document &document);
 
     void find(Page &page);
-    void tellNoHit(Page &page, const QString &word, const EditorDocument &document);
-    void showHit(EditorDocument &document, int start, int length);
+    void tellNoHit(Page &page, const QString &word, const Document &document);
+    void showHit(Document &document, int start, int length);
     void returnToTexts();
     void ReplaceText();
     void ReplaceAll();

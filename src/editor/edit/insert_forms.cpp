@@ -5,7 +5,6 @@
 
 #include "documents/coloured_insert.h"
 #include "documents/editor_view.h"
-#include "documents/text_control.h"
 #include "editor/edit/heading.h"
 #include "editor/edit/list_files.h"
 #include "editor/edit/singletextform.h"
@@ -43,7 +42,7 @@ InsertForms::~InsertForms()
 
 bool InsertForms::canOpen()
 {
-    return !(m_form && m_form->isVisible()) && !m_parts.view.refuseProtected();
+    return !(m_form && m_form->isVisible()) && !m_parts.view.documents().refuseProtected();
 }
 
 template <class Form> void InsertForms::open(Form *form, std::function<void(const Form &)> accepted)
@@ -61,7 +60,7 @@ void InsertForms::mnuInsertTitle_Click()
     if (!canOpen()) {
         return;
     }
-    const TitleFields preset{ .fileName = m_parts.view.selected().name,
+    const TitleFields preset{ .fileName = m_parts.view.documents().selected().name(),
                               .person = GetPersonsName(),
                               .lastModified = stampText(m_context.clock.now()),
                               .controllers = u"Thrustmaster Cougar"_s };
@@ -112,9 +111,9 @@ void InsertForms::insertLines(const QStringList &lines)
 
 void InsertForms::insertRem(const QString &text, bool addCarriageReturn)
 {
-    const TextControl &control = *m_parts.view.selected().control;
-    const int caret = control.selStart();
-    const QChar before = caret > 0 ? control.document()->characterAt(caret - 1) : QChar(u' ');
+    const Document &document = m_parts.view.documents().selected();
+    const int caret = document.selStart();
+    const QChar before = caret > 0 ? document.content().characterAt(caret - 1) : QChar(u' ');
     ColouredInsert &insert = m_parts.insert;
     insert.TextToInsert = remStatement(text);
     if (!before.isSpace()) {

@@ -49,8 +49,8 @@ void AutoSave::AutoSaveFile()
     }
     const QScopedValueRollback<bool> saves(m_saves, true);
     for (const DocumentKind kind : { DocumentKind::Joystick, DocumentKind::Macro }) {
-        EditorDocument &document = m_view.document(kind);
-        if (document.isModified() && !document.recovered) {
+        Document &document = m_view.documents().of(kind);
+        if (document.isModified() && !document.isRecovered()) {
             m_saving.AutoSaveText(document);
         }
     }
@@ -59,7 +59,7 @@ void AutoSave::AutoSaveFile()
 void AutoSave::EmergencySaveFiles()
 {
     for (const DocumentKind kind : { DocumentKind::Joystick, DocumentKind::Macro }) {
-        m_view.select(kind);
+        m_view.documents().select(kind);
         m_saving.mnuFileSave_Click();
     }
     m_context.dialogs.tell(

@@ -3,7 +3,7 @@
 
 #include "editor/files/backups.h"
 
-#include "documents/text_control.h"
+#include "documents/document.h"
 #include "platform/clock.h"
 #include "settings/global_settings.h"
 #include "text/document_text.h"
@@ -34,7 +34,7 @@ QString Backups::folder() const
     return standard;
 }
 
-Expected<void, FileError> Backups::SaveJoystickBackup(const EditorDocument &document) const
+Expected<void, FileError> Backups::SaveJoystickBackup(const Document &document) const
 {
     if (m_context.settings.CreateBackup != 1) {
         return {};
@@ -44,7 +44,7 @@ Expected<void, FileError> Backups::SaveJoystickBackup(const EditorDocument &docu
         moment = m_context.clock.now();
     }
     return writeFileAtomically(folder() + backupName(document.caption(), moment),
-                               documentBytes(document.control->text()));
+                               documentBytes(document.text()));
 }
 
 Expected<QString, FileError> Backups::keepAside(const QString &caption, const QByteArray &bytes,

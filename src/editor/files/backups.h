@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "documents/editor_document.h"
+#include "documents/document.h"
 #include "platform/context.h"
 #include "platform/core/file_io.h"
 
@@ -23,7 +23,7 @@ public:
     explicit Backups(const Context &context) : m_context(context) { }
 
     /// Writes the document's plain text, beside its save, if the user wants backups.
-    Expected<void, FileError> SaveJoystickBackup(const EditorDocument &document) const;
+    Expected<void, FileError> SaveJoystickBackup(const Document &document) const;
     /// Puts bytes that would be lost otherwise into the folder under a dated name, whatever the
     /// user wants. The path that they stand at now; a name that is taken gets a number.
     Expected<QString, FileError> keepAside(const QString &caption, const QByteArray &bytes,

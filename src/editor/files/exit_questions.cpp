@@ -11,7 +11,7 @@ namespace zeph {
 
 namespace {
 
-bool askFor(EditorDocument &document, EditorView &view, FileSaving &saving, Dialogs &dialogs)
+bool askFor(Document &document, EditorView &view, FileSaving &saving, Dialogs &dialogs)
 {
     if (!document.isModified()) {
         return true;
@@ -19,10 +19,10 @@ bool askFor(EditorDocument &document, EditorView &view, FileSaving &saving, Dial
     const QString why = u" has changed and isn't saved. Do you want to save it before exiting?"_s;
     switch (dialogs.box(saveQuestion(document, why))) {
     case BoxButton::Yes:
-        view.select(document.kind);
+        view.documents().select(document.kind());
         saving.mnuFileSave_Click();
         if (document.isModified()) {
-            dialogs.tell(u"Ooops!"_s, document.name + u" wasn't saved. Exit program aborted."_s,
+            dialogs.tell(u"Ooops!"_s, document.name() + u" wasn't saved. Exit program aborted."_s,
                          BoxIcon::Exclamation);
             return false;
         }
@@ -38,8 +38,8 @@ bool askFor(EditorDocument &document, EditorView &view, FileSaving &saving, Dial
 
 bool askBeforeExit(EditorView &view, FileSaving &saving, Dialogs &dialogs)
 {
-    return askFor(view.document(DocumentKind::Macro), view, saving, dialogs)
-        && askFor(view.document(DocumentKind::Joystick), view, saving, dialogs);
+    return askFor(view.documents().macro(), view, saving, dialogs)
+        && askFor(view.documents().joystick(), view, saving, dialogs);
 }
 
 } // namespace zeph

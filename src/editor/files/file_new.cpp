@@ -4,7 +4,6 @@
 #include "editor/files/file_new.h"
 
 #include "documents/editor_view.h"
-#include "documents/text_control.h"
 #include "editor/files/file_opening.h"
 #include "editor/files/use_directives.h"
 #include "platform/status_line.h"
@@ -23,22 +22,20 @@ bool FileNew::freshen(DocumentKind kind)
             kind, u" has changed and isn't saved. Do you want to save it first?"_s, kind)) {
         return false;
     }
-    const BusyGuard busy(m_view);
-    EditorDocument &document = m_view.document(kind);
-    document.state = EditorDocument::Empty;
-    document.recovered = false;
-    document.control->setText(QString());
+    Document &document = m_view.documents().of(kind);
+    document.setState(Document::Empty);
+    document.setRecovered(false);
+    document.setText(QString());
     m_view.applyLook();
-    m_view.renameFresh(kind);
-    document.caret = 0;
-    document.selLength = 0;
+    m_view.documents().renameFresh(kind);
+    document.select(0, 0);
     if (kind == DocumentKind::Joystick) {
         m_directives.forgetFiles();
         Q_EMIT joystickReplaced();
     } else {
         Q_EMIT macroReplaced();
     }
-    m_view.select(kind);
+    m_view.documents().select(kind);
     m_view.UpdateSavedIcon();
     m_context.status.setLine(1);
     return true;
@@ -67,7 +64,7 @@ void FileNew::mnuFileNewBoth_Click()
 
 void FileNew::mnuFileClose_Click()
 {
-    if (m_view.selected().kind == DocumentKind::Joystick) {
+    if (m_view.documents().selected().kind() == DocumentKind::Joystick) {
         mnuFileNewJoystick_Click();
     } else {
         mnuFileNewMacro_Click();
@@ -82,8 +79,8 @@ void FileNew::mnuFileCloseBoth_Click()
 void FileNew::rewriteUntitled()
 {
     for (const DocumentKind kind : { DocumentKind::Joystick, DocumentKind::Macro }) {
-        if (isUntitled(m_view.document(kind).name)) {
-            m_view.renameFresh(kind);
+        if (isUntitled(m_view.documents().of(kind).name())) {
+            m_view.documents().renameFresh(kind);
         }
     }
     m_view.UpdateSavedIcon();

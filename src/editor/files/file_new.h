@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "documents/editor_document.h"
+#include "documents/document.h"
 #include "platform/context.h"
 
 #include <QObject>

@@ -7,7 +7,6 @@
 #include "documents/editor_texts.h"
 #include "documents/editor_view.h"
 #include "documents/highlighting.h"
-#include "documents/text_control.h"
 #include "editor/files/file_saving.h"
 #include "editor/files/use_directives.h"
 #include "platform/input/keyboard.h"
@@ -29,9 +28,9 @@ const QString beforeJoystick = u" has changed and isn't saved. Do you want to sa
 const QString beforeMacro = u" has changed and isn't saved. Do you want to save it before opening "
                             "a different macro file?"_s;
 
-bool isAmong(const QStringList &paths, const EditorDocument &document)
+bool isAmong(const QStringList &paths, const Document &document)
 {
-    const QFileInfo mine(existingPath(document.path));
+    const QFileInfo mine(existingPath(document.path()));
     return std::any_of(paths.begin(), paths.end(), [&mine](const QString &path) {
         return nameOf(path) == mine.fileName()
             && QFileInfo(path).canonicalFilePath() == mine.canonicalFilePath();
@@ -59,13 +58,13 @@ void FileOpening::restoreKeyboard()
 
 bool FileOpening::mayReplace(DocumentKind kind, const QString &why, DocumentKind wanted)
 {
-    EditorDocument &document = m_parts.view.document(kind);
+    Document &document = m_parts.view.documents().of(kind);
     if (!document.isModified()) {
         return true;
     }
     switch (m_context.dialogs.box(saveQuestion(document, why))) {
     case BoxButton::Yes:
-        m_parts.view.select(kind);
+        m_parts.view.documents().select(kind);
         m_parts.saving.mnuFileSave_Click();
         if (document.isModified()) {
             m_context.dialogs.box(wontContinueBox(document, wanted));
@@ -82,13 +81,13 @@ bool FileOpening::mayReplace(DocumentKind kind, const QString &why, DocumentKind
 std::optional<QString> FileOpening::ask(const QString &title, const QString &filter,
                                         const QString &extension, DocumentKind kind)
 {
-    const EditorDocument &document = m_parts.view.document(kind);
+    const Document &document = m_parts.view.documents().of(kind);
     const bool macro = kind == DocumentKind::Macro;
-    const EditorDocument &other =
-        m_parts.view.document(macro ? DocumentKind::Joystick : DocumentKind::Macro);
-    const QString name = document.name == freshName(kind)
-        ? baseWithDot(other.name) + (macro ? u"tmm"_s : u"tmj"_s)
-        : document.name;
+    const Document &other =
+        m_parts.view.documents().of(macro ? DocumentKind::Joystick : DocumentKind::Macro);
+    const QString name = document.name() == freshName(kind)
+        ? baseWithDot(other.name()) + (macro ? u"tmm"_s : u"tmj"_s)
+        : document.name();
     return m_context.dialogs.openFile(
         { title, filter, extension, m_context.paths.filesFolder(), name });
 }
@@ -98,7 +97,7 @@ void FileOpening::mnuFileJoystickLoad_Click(const std::optional<QString> &fileTo
     if (!mayReplace(DocumentKind::Joystick, beforeJoystick, DocumentKind::Joystick)) {
         return;
     }
-    m_parts.view.select(DocumentKind::Joystick);
+    m_parts.view.documents().select(DocumentKind::Joystick);
     const auto path = fileToOpen
         ? fileToOpen
         : ask(u"Select the joystick file to open ..."_s,
@@ -116,7 +115,7 @@ void FileOpening::MnuFileMacroLoad_Click(const std::optional<QString> &fileToOpe
     if (!mayReplace(DocumentKind::Macro, beforeMacro, DocumentKind::Macro)) {
         return;
     }
-    m_parts.view.select(DocumentKind::Macro);
+    m_parts.view.documents().select(DocumentKind::Macro);
     const auto path = fileToOpen ? fileToOpen
                                  : ask(u"Select the macro file to open ..."_s,
                                        u"Macro file (*.tmm)|*.tmm|Original TM macro files "
@@ -183,18 +182,17 @@ void FileOpening::openMacroOf(const QString &joystickPath)
     const QString macroPath = macroPathFor(joystickPath);
     if (macroPath.isEmpty()) {
         m_context.status.setText(macroNotOpened);
-        view.select(DocumentKind::Joystick);
+        view.documents().select(DocumentKind::Joystick);
         return;
     }
     if (!loadOrTell(DocumentKind::Macro, macroPath)) {
-        view.select(DocumentKind::Joystick);
+        view.documents().select(DocumentKind::Joystick);
         return;
     }
     for (const DocumentKind kind : { DocumentKind::Joystick, DocumentKind::Macro }) {
-        view.document(kind).caret = 0;
-        view.document(kind).selLength = 0;
+        view.documents().of(kind).select(0, 0);
     }
-    view.select(DocumentKind::Joystick);
+    view.documents().select(DocumentKind::Joystick);
     m_context.status.setText(u"Done"_s);
     Q_EMIT pairLoaded();
 }
@@ -203,7 +201,7 @@ QString FileOpening::macroPathFor(const QString &joystickPath)
 {
     const QString folder = folderOf(joystickPath);
     const QString name = nameOf(joystickPath);
-    const QString text = m_parts.view.document(DocumentKind::Joystick).control->text();
+    const QString text = m_parts.view.documents().joystick().text();
     if (const auto reference = lastMdefReference(text)) {
         QString named = existingPath(folder + macroNameFor(*reference, name));
         if (fileExists(named)) {
@@ -248,66 +246,64 @@ bool FileOpening::load(DocumentKind kind, const QString &wantedPath)
             BoxIcon::Stop);
         return false;
     }
-    EditorDocument &document = m_parts.view.document(kind);
-    m_parts.view.rename(document, path);
+    Document &document = m_parts.view.documents().of(kind);
+    document.rename(path);
     show(document, *text);
     Q_EMIT loaded(kind, path);
     return true;
 }
 
-void FileOpening::show(EditorDocument &document, const QString &text)
+void FileOpening::show(Document &document, const QString &text)
 {
     EditorView &view = m_parts.view;
-    const BusyGuard busy(view);
-    if (document.kind == DocumentKind::Macro) {
+    if (document.kind() == DocumentKind::Macro) {
         Q_EMIT macroReplaced();
     }
-    const auto coloured = m_parts.copies.load(document.name, text, view.plainFormat(document.kind));
+    const auto coloured = m_parts.copies.load(document.name(), text, view.documents().plainFormat(document.kind()));
     restoreKeyboard();
     if (coloured) {
-        document.control->setRichText(*coloured);
+        document.setRichText(*coloured);
     } else {
-        document.control->setText(text);
+        document.setText(text);
         m_parts.highlighting.reformat(document);
         m_parts.highlighting.applyColour(document);
     }
     view.updateCaptions();
-    document.caret = 0;
-    document.selLength = 0;
-    view.select(document.kind);
-    if (document.kind == DocumentKind::Joystick) {
+    document.select(0, 0);
+    view.documents().select(document.kind());
+    if (document.kind() == DocumentKind::Joystick) {
         m_parts.directives.GetUSEZephstatements();
     }
-    document.state = EditorDocument::Saved;
-    document.recovered = false;
+    document.setState(Document::Saved);
+    document.setRecovered(false);
     view.UpdateSavedIcon();
-    document.control->select(0, 0);
+    document.select(0, 0);
 }
 
 void FileOpening::showRecovered(DocumentKind kind, const QString &path, const QString &text)
 {
-    EditorDocument &document = m_parts.view.document(kind);
-    m_parts.view.rename(document, path);
+    Document &document = m_parts.view.documents().of(kind);
+    document.rename(path);
     show(document, text);
     Q_EMIT loaded(kind, path);
-    document.recovered = true;
-    m_parts.view.setState(document, EditorDocument::Modified);
+    document.setRecovered(true);
+    document.setState(Document::Modified);
 }
 
 void FileOpening::offerToReload(const QStringList &overwritten)
 {
     EditorView &view = m_parts.view;
-    const DocumentKind before = view.selected().kind;
+    const DocumentKind before = view.documents().selected().kind();
     for (const DocumentKind kind : { DocumentKind::Joystick, DocumentKind::Macro }) {
-        EditorDocument &document = view.document(kind);
-        if (isUntitled(document.name) || !isAmong(overwritten, document)) {
+        Document &document = view.documents().of(kind);
+        if (isUntitled(document.name()) || !isAmong(overwritten, document)) {
             continue;
         }
         if (m_context.dialogs.box(reloadBox(document)) != BoxButton::Yes
-            || !loadOrTell(kind, document.path)) {
-            view.setState(document, EditorDocument::Modified);
+            || !loadOrTell(kind, document.path())) {
+            document.setState(Document::Modified);
         }
-        view.select(before);
+        view.documents().select(before);
     }
 }
 

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "documents/editor_document.h"
+#include "documents/document.h"
 #include "platform/context.h"
 
 #include <QObject>
@@ -68,7 +68,7 @@ private:
     bool load(DocumentKind kind, const QString &path);
     /// As load(); a failure also stands on the status line.
     bool loadOrTell(DocumentKind kind, const QString &path);
-    void show(EditorDocument &document, const QString &text);
+    void show(Document &document, const QString &text);
     std::optional<QString> ask(const QString &title, const QString &filter,
                                const QString &extension, DocumentKind kind);
     void openJoystickOf(const QString &macroPath);

@@ -5,7 +5,6 @@
 
 #include "documents/coloured_copies.h"
 #include "documents/editor_view.h"
-#include "documents/text_control.h"
 #include "editor/files/use_directives.h"
 #include "platform/clock.h"
 #include "platform/core/file_attributes.h"
@@ -42,14 +41,14 @@ FileSaving::FileSaving(const Context &context, EditorView &view, ColouredCopies 
 
 void FileSaving::mnuFileSave_Click()
 {
-    EditorDocument &document = m_view.selected();
-    if (isUntitled(document.name)) {
+    Document &document = m_view.documents().selected();
+    if (isUntitled(document.name())) {
         mnuFileSaveAs_Click();
         return;
     }
-    if (isReadOnlyFile(document.path)) {
+    if (isReadOnlyFile(document.path())) {
         m_context.dialogs.tell(readOnlyTitle.toString(),
-                               document.path
+                               document.path()
                                    + u" is read only. You'll need to save it elsewhere using the "
                                      "Save As routine. I'll run this for you now."_s,
                                BoxIcon::Exclamation);
@@ -61,8 +60,8 @@ void FileSaving::mnuFileSave_Click()
 
 void FileSaving::mnuFileSaveAs_Click()
 {
-    EditorDocument &document = m_view.selected();
-    const SaveAsLook &look = saveAsLooks[size_t(document.kind)];
+    Document &document = m_view.documents().selected();
+    const SaveAsLook &look = saveAsLooks[size_t(document.kind())];
     const auto chosen = m_context.dialogs.saveFile(
         { u"Save file as ..."_s, look.filter.toString(), look.extension.toString(),
           m_context.paths.filesFolder(), proposedName(document) });
@@ -76,64 +75,65 @@ void FileSaving::mnuFileSaveAs_Click()
     if (!mayOverwrite(m_context.dialogs, path)) {
         return;
     }
-    const QString oldPath = document.path;
-    m_view.rename(document, path);
+    const QString oldPath = document.path();
+    document.rename(path);
     SaveText(document);
-    if (document.state != EditorDocument::Saved) {
+    if (document.state() != Document::Saved) {
         // The text still belongs to the file that it came from.
-        m_view.rename(document, oldPath);
+        document.rename(oldPath);
         m_view.UpdateSavedIcon();
     }
 }
 
 void FileSaving::mnuFileSaveBoth_Click()
 {
-    const DocumentKind selected = m_view.selected().kind;
-    m_view.select(DocumentKind::Joystick);
+    const DocumentKind selected = m_view.documents().selected().kind();
+    m_view.documents().select(DocumentKind::Joystick);
     mnuFileSave_Click();
-    m_view.select(DocumentKind::Macro);
+    m_view.documents().select(DocumentKind::Macro);
     mnuFileSave_Click();
-    m_view.select(selected);
+    m_view.documents().select(selected);
 }
 
-QString FileSaving::proposedName(const EditorDocument &document)
+QString FileSaving::proposedName(const Document &document)
 {
-    const bool macro = document.kind == DocumentKind::Macro;
-    const EditorDocument &other =
-        m_view.document(macro ? DocumentKind::Joystick : DocumentKind::Macro);
-    if (isUntitled(document.name) && !isUntitled(other.name)) {
-        return baseWithDot(other.name) + (macro ? u"tmm"_s : u"tmj"_s);
+    const bool macro = document.kind() == DocumentKind::Macro;
+    const Document &other = m_view.documents().other(document);
+    if (isUntitled(document.name()) && !isUntitled(other.name())) {
+        return baseWithDot(other.name()) + (macro ? u"tmm"_s : u"tmj"_s);
     }
-    return document.name;
+    return document.name();
 }
 
-void FileSaving::SaveText(EditorDocument &document)
+void FileSaving::SaveText(Document &document)
 {
-    TextControl &control = *document.control;
     if (!encodable(document, Stranger::Show)) {
         return;
     }
     if (m_context.settings.UpdateModified == 1) {
         ModifyDate(document);
     }
-    const TextControl::Place place = control.place();
+    std::optional<EditorView::KeptPlace> place(std::in_place, m_view, document);
+    const int anchor = document.cursor().anchor();
+    const int caret = document.cursor().position();
     const auto status = writePlain(document);
     if (!status) {
         return;
     }
-    Q_EMIT written(document.kind);
+    Q_EMIT written(document.kind());
     finish(document, *status);
-    if (document.kind == DocumentKind::Joystick) {
+    if (document.kind() == DocumentKind::Joystick) {
         m_directives.GetUSEZephstatements();
     }
-    control.setPlace(place);
-    Q_EMIT saved(document.kind, document.path);
+    document.setCaret(anchor, caret);
+    place.reset();
+    Q_EMIT saved(document.kind(), document.path());
 }
 
-void FileSaving::AutoSaveText(EditorDocument &document)
+void FileSaving::AutoSaveText(Document &document)
 {
-    if (isReadOnlyFile(document.path)) {
-        tellUnsaved(document, { document.path, u"the file is read only."_s });
+    if (isReadOnlyFile(document.path())) {
+        tellUnsaved(document, { document.path(), u"the file is read only."_s });
         return;
     }
     if (!encodable(document, Stranger::TellOnly) || !keepStrangersFile(document)) {
@@ -146,81 +146,80 @@ void FileSaving::AutoSaveText(EditorDocument &document)
 
 /// Puts the text on the disk, and its backup beside it. The status text, or nothing when the disk
 /// refused, which was told.
-std::optional<QString> FileSaving::writePlain(EditorDocument &document)
+std::optional<QString> FileSaving::writePlain(Document &document)
 {
-    Q_EMIT aboutToWrite(document.kind);
-    const QByteArray bytes = documentBytes(document.control->text());
-    if (const auto done = writeFileAtomically(document.path, bytes); !done) {
+    Q_EMIT aboutToWrite(document.kind());
+    const QByteArray bytes = documentBytes(document.text());
+    if (const auto done = writeFileAtomically(document.path(), bytes); !done) {
         tellUnsaved(document, done.error());
         return {};
     }
-    QString status = document.path + u" saved successfully."_s;
+    QString status = document.path() + u" saved successfully."_s;
     if (const auto kept = m_backups.SaveJoystickBackup(document); !kept) {
         status += u" Its backup wasn't: "_s + kept.error().reason;
     }
-    if (isUntitled(document.name)) {
-        m_ownFresh[size_t(document.kind)] = bytes;
+    if (isUntitled(document.name())) {
+        m_ownFresh[size_t(document.kind())] = bytes;
     }
     tellOtherDocument(document);
     return status;
 }
 
-void FileSaving::finish(EditorDocument &document, QString status)
+void FileSaving::finish(Document &document, QString status)
 {
-    m_view.setState(document, EditorDocument::Saved);
-    document.recovered = false;
+    document.setState(Document::Saved);
+    document.setRecovered(false);
     m_view.UpdateSavedIcon();
     if (const auto copied = m_copies.SaveColouredText(document); !copied) {
         status += u" Its coloured copy wasn't: "_s + copied.error().reason;
     }
     m_context.status.setText(status);
-    Q_EMIT safe(document.kind);
+    Q_EMIT safe(document.kind());
 }
 
-void FileSaving::tellUnsaved(EditorDocument &document, const FileError &error)
+void FileSaving::tellUnsaved(Document &document, const FileError &error)
 {
-    m_view.setState(document, EditorDocument::Modified);
+    document.setState(Document::Modified);
     tellNotSaved(m_context.dialogs, error);
 }
 
 /// A text without a name is saved under its fresh name, where the last run's may stand still, or
 /// that of a document which made room for this one: nobody was asked about those, so they move
 /// among the backups. False when they cannot, which is told.
-bool FileSaving::keepStrangersFile(const EditorDocument &document)
+bool FileSaving::keepStrangersFile(const Document &document)
 {
-    if (!isUntitled(document.name) || !fileExists(document.path)) {
+    if (!isUntitled(document.name()) || !fileExists(document.path())) {
         return true;
     }
-    const auto bytes = readWholeFile(document.path);
-    if (bytes && m_ownFresh[size_t(document.kind)] == *bytes) {
+    const auto bytes = readWholeFile(document.path());
+    if (bytes && m_ownFresh[size_t(document.kind())] == *bytes) {
         return true;
     }
     const auto aside = bytes
         ? m_backups.keepAside(document.caption(), *bytes, m_context.clock.now())
         : Expected<QString, FileError>(Unexpected<FileError>(bytes.error()));
     if (!aside) {
-        m_context.status.setText(document.path
+        m_context.status.setText(document.path()
                                  + u" wasn't saved, because another text stands there: "_s
                                  + aside.error().path + u": "_s + aside.error().reason);
     }
     return aside.has_value();
 }
 
-void FileSaving::tellOtherDocument(const EditorDocument &saved)
+void FileSaving::tellOtherDocument(const Document &saved)
 {
-    EditorDocument &other = m_view.document(
-        saved.kind == DocumentKind::Macro ? DocumentKind::Joystick : DocumentKind::Macro);
+    Document &other = m_view.documents().other(saved);
     // Nobody keeps the user from saving one document over the other's file. What the other one
     // holds is then on no disk any more.
-    if (other.state == EditorDocument::Saved && other.path == saved.path
-        && other.control->text() != saved.control->text()) {
-        m_view.setState(other, EditorDocument::Modified);
+    if (other.state() == Document::Saved && other.path() == saved.path()
+        && other.text() != saved.text()) {
+        other.setState(Document::Modified);
     }
 }
 
-bool FileSaving::encodable(EditorDocument &document, Stranger show)
+bool FileSaving::encodable(Document &document, Stranger show)
 {
-    const QString text = document.control->text();
+    const QString text = document.text();
     const qsizetype stranger = firstNot1252(text);
     if (stranger < 0) {
         return true;
@@ -228,10 +227,10 @@ bool FileSaving::encodable(EditorDocument &document, Stranger show)
     const qsizetype line = QStringView(text).left(stranger).count(u'\n') + 1;
     // Beyond the first plane a character is two units, which only together can be shown.
     const qsizetype units = text[stranger].isHighSurrogate() && stranger + 1 < text.size() ? 2 : 1;
-    m_view.setState(document, EditorDocument::Modified);
+    document.setState(Document::Modified);
     m_context.dialogs.tell(
         u"There's a letter in there that I can't write"_s,
-        document.path + u" wasn't saved: the character \""_s + text.mid(stranger, units)
+        document.path() + u" wasn't saved: the character \""_s + text.mid(stranger, units)
             + u"\" in line "_s + QString::number(line)
             + u" doesn't exist in the Windows-1252 alphabet, which is all that the Thrustmaster "
               "software reads. "_s
@@ -239,24 +238,23 @@ bool FileSaving::encodable(EditorDocument &document, Stranger show)
                                       : u"Please change it."_s),
         BoxIcon::Exclamation);
     if (show == Stranger::Show) {
-        m_view.select(document.kind);
-        document.control->select(int(stranger), int(units));
+        m_view.documents().select(document.kind());
+        document.select(int(stranger), int(units));
     }
     return false;
 }
 
-void FileSaving::ModifyDate(EditorDocument &document)
+void FileSaving::ModifyDate(Document &document)
 {
-    const auto stamp = modifiedStamp(document.control->text(), m_context.clock.now());
+    const auto stamp = modifiedStamp(document.text(), m_context.clock.now());
     if (!stamp) {
         return;
     }
-    const BusyGuard busy(m_view);
-    TextControl::Place place = document.control->place();
-    document.control->replace(int(stamp->start), int(stamp->length), stamp->text);
-    place.anchor = int(movedByStamp(*stamp, place.anchor));
-    place.caret = int(movedByStamp(*stamp, place.caret));
-    document.control->setPlace(place);
+    const EditorView::KeptPlace place(m_view, document);
+    const int anchor = int(movedByStamp(*stamp, document.cursor().anchor()));
+    const int caret = int(movedByStamp(*stamp, document.cursor().position()));
+    document.replace(int(stamp->start), int(stamp->length), stamp->text);
+    document.setCaret(anchor, caret);
 }
 
 } // namespace zeph

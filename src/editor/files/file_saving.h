@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "documents/editor_document.h"
+#include "documents/document.h"
 #include "editor/files/backups.h"
 #include "platform/context.h"
 
@@ -32,15 +32,15 @@ public:
     void mnuFileSaveBoth_Click();
 
     /// Writes one document to its path, stamp and coloured copy included.
-    void SaveText(EditorDocument &document);
+    void SaveText(Document &document);
     /// Writes one document to its path without anything that would disturb the pilot: no stamp,
     /// and caret, undo history and lists stay as they are.
-    void AutoSaveText(EditorDocument &document);
+    void AutoSaveText(Document &document);
     /// Another text has taken a document's place: what was saved under its fresh name is no longer
     /// this document's to overwrite.
     void forgetFresh(DocumentKind kind) { m_ownFresh[size_t(kind)].reset(); }
     /// Brings the "last modified:" line of a document up to date.
-    void ModifyDate(EditorDocument &document);
+    void ModifyDate(Document &document);
 
 Q_SIGNALS:
     /// The text is as it will go to the disk.
@@ -55,13 +55,13 @@ Q_SIGNALS:
 private:
     enum class Stranger { Show, TellOnly };
 
-    bool encodable(EditorDocument &document, Stranger stranger);
-    std::optional<QString> writePlain(EditorDocument &document);
-    void finish(EditorDocument &document, QString status);
-    void tellUnsaved(EditorDocument &document, const FileError &error);
-    bool keepStrangersFile(const EditorDocument &document);
-    QString proposedName(const EditorDocument &document);
-    void tellOtherDocument(const EditorDocument &saved);
+    bool encodable(Document &document, Stranger stranger);
+    std::optional<QString> writePlain(Document &document);
+    void finish(Document &document, QString status);
+    void tellUnsaved(Document &document, const FileError &error);
+    bool keepStrangersFile(const Document &document);
+    QString proposedName(const Document &document);
+    void tellOtherDocument(const Document &saved);
 
     Context m_context;
     EditorView &m_view;

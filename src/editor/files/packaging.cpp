@@ -4,7 +4,6 @@
 #include "editor/files/packaging.h"
 
 #include "documents/editor_view.h"
-#include "documents/text_control.h"
 #include "editor/files/file_opening.h"
 #include "editor/files/frm_createpackage.h"
 #include "editor/files/use_directives.h"
@@ -84,12 +83,12 @@ PackageFields Packaging::preset()
     const auto set = [&fields](PackageFile file, const QString &path) {
         fields.files[size_t(file)] = path;
     };
-    const EditorDocument &joystick = m_parts.view.document(DocumentKind::Joystick);
-    const EditorDocument &macro = m_parts.view.document(DocumentKind::Macro);
+    const Document &joystick = m_parts.view.documents().joystick();
+    const Document &macro = m_parts.view.documents().macro();
     // A file that was never saved is no file yet.
-    set(PackageFile::Joystick, isUntitled(joystick.name) ? QString() : joystick.path);
-    set(PackageFile::Macro, isUntitled(macro.name) ? QString() : macro.path);
-    if (joystick.control->text().isEmpty()) {
+    set(PackageFile::Joystick, isUntitled(joystick.name()) ? QString() : joystick.path());
+    set(PackageFile::Macro, isUntitled(macro.name()) ? QString() : macro.path());
+    if (joystick.text().isEmpty()) {
         return fields;
     }
     m_parts.directives.GetUSEstatements();
@@ -97,8 +96,8 @@ PackageFields Packaging::preset()
     const auto beside = [](const QString &folder, const QString &name) {
         return name.isEmpty() ? QString() : folder + name;
     };
-    set(PackageFile::Graphic, beside(folderOf(joystick.path), said.ZephGraphic));
-    set(PackageFile::Readme, beside(folderOf(joystick.path), said.ZephReadme));
+    set(PackageFile::Graphic, beside(folderOf(joystick.path()), said.ZephGraphic));
+    set(PackageFile::Readme, beside(folderOf(joystick.path()), said.ZephReadme));
     set(PackageFile::Profile,
         beside(m_context.paths.hotasFolder + u"Profiles/"_s, said.ProfileName));
     return fields;
@@ -108,9 +107,9 @@ QString Packaging::unsavedHint() const
 {
     QStringList names;
     for (const DocumentKind kind : { DocumentKind::Joystick, DocumentKind::Macro }) {
-        const EditorDocument &document = m_parts.view.document(kind);
-        if (document.state == EditorDocument::Modified) {
-            names.append(document.name);
+        const Document &document = m_parts.view.documents().of(kind);
+        if (document.state() == Document::Modified) {
+            names.append(document.name());
         }
     }
     return names.isEmpty()

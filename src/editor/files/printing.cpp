@@ -4,7 +4,6 @@
 #include "editor/files/printing.h"
 
 #include "documents/editor_view.h"
-#include "documents/text_control.h"
 #include "editor/editor.h"
 #include "menus/menu_actions.h"
 #include "platform/clock.h"
@@ -40,30 +39,30 @@ void FilePrinting::mnuFilePrintMacro_Click()
 
 void FilePrinting::PrintCurrent()
 {
-    if (m_editor.selected().kind == DocumentKind::Macro) {
+    if (m_editor.selected().kind() == DocumentKind::Macro) {
         mnuFilePrintMacro_Click();
     } else {
         mnuFilePrintJoystick_Click();
     }
 }
 
-PrintJob FilePrinting::jobOf(EditorDocument &document) const
+PrintJob FilePrinting::jobOf(Document &document) const
 {
-    const CharFormat plain = document.control->plainFormat();
-    return { document.name,
-             withPrintHeader(document.control->richText(), plain, document.path,
+    const CharFormat plain = document.plain();
+    return { document.name(),
+             withPrintHeader(document.richText(), plain, document.path(),
                              stampText(m_context.clock.now())),
-             plain, document.control->tabStopDistance() };
+             plain, m_editor.view().tabStop() };
 }
 
-void FilePrinting::print(EditorDocument &document, const QString &kind)
+void FilePrinting::print(Document &document, const QString &kind)
 {
     if (tellIfNoPrinter(m_context, m_printers)) {
         return;
     }
     askForPortrait(m_context, m_printers);
-    const Box box = { .title = u"Print "_s + document.name + u'?',
-                      .text = u"Zeph is ready to print "_s + document.name
+    const Box box = { .title = u"Print "_s + document.name() + u'?',
+                      .text = u"Zeph is ready to print "_s + document.name()
                           + u". Would you like me to go ahead and print this "_s + kind
                           + u" file?"_s,
                       .icon = BoxIcon::Question,
@@ -79,14 +78,13 @@ void FilePrinting::PrintAlternativeMethod()
     if (tellIfNoPrinter(m_context, m_printers)) {
         return;
     }
-    EditorDocument &document = m_editor.selected();
-    const TextControl &control = *document.control;
-    const CharFormat plain = control.plainFormat();
-    const RichText whole = control.richText();
+    Document &document = m_editor.selected();
+    const CharFormat plain = document.plain();
     RichText text = RichText::plain(u"\n"_s, plain);
-    text.append(control.selLength() > 0 ? whole.mid(control.selStart(), control.selLength())
-                                        : whole);
-    printJob(m_context, m_printers, { document.name, text, plain, control.tabStopDistance() });
+    text.append(document.selLength() > 0
+                    ? document.richText(document.selStart(), document.selLength())
+                    : document.richText());
+    printJob(m_context, m_printers, { document.name(), text, plain, m_editor.view().tabStop() });
 }
 
 void FilePrinting::mnuFilePrinterSetup_Click()
@@ -98,14 +96,14 @@ void FilePrinting::mnuFilePrinterSetup_Click()
 
 void FilePrinting::mnuFilePrintPreview_Click()
 {
-    EditorDocument &document = m_editor.selected();
-    showPreview(m_context, m_printers, jobOf(document), folderOf(document.path), m_editor.window());
+    Document &document = m_editor.selected();
+    showPreview(m_context, m_printers, jobOf(document), folderOf(document.path()), m_editor.window());
 }
 
 void FilePrinting::mnuFileExportPDF_Click()
 {
-    EditorDocument &document = m_editor.selected();
-    exportAsPdf(m_context, m_printers, jobOf(document), folderOf(document.path));
+    Document &document = m_editor.selected();
+    exportAsPdf(m_context, m_printers, jobOf(document), folderOf(document.path()));
 }
 
 } // namespace zeph

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "documents/editor_document.h"
+#include "documents/document.h"
 #include "platform/context.h"
 #include "print/print_job.h"
 
@@ -32,8 +32,8 @@ public:
     void mnuFileExportPDF_Click();
 
 private:
-    PrintJob jobOf(EditorDocument &document) const;
-    void print(EditorDocument &document, const QString &kind);
+    PrintJob jobOf(Document &document) const;
+    void print(Document &document, const QString &kind);
 
     Context m_context;
     Printers &m_printers;

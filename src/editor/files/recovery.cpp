@@ -4,7 +4,6 @@
 #include "editor/files/recovery.h"
 
 #include "documents/editor_view.h"
-#include "documents/text_control.h"
 #include "editor/files/file_opening.h"
 #include "platform/clock.h"
 #include "platform/core/text1252.h"
@@ -70,7 +69,7 @@ Recovery::Recovery(const Context &context, const Parts &parts)
     m_timer.setInterval(intervalMs);
     m_timer.callOnTimeout(this, guarded(context.dialogs, [this](auto &&...) { update(); }));
     for (const DocumentKind kind : bothKinds) {
-        connect(parts.view.document(kind).control, &TextControl::textChanged, this,
+        connect(&parts.view.documents().of(kind).content(), &QTextDocument::contentsChanged, this,
                 &Recovery::touched);
     }
 }
@@ -87,7 +86,7 @@ void Recovery::update()
 {
     for (const DocumentKind kind : bothKinds) {
         QString &kept = m_kept[size_t(kind)];
-        if (m_parts.view.document(kind).isModified()) {
+        if (m_parts.view.documents().of(kind).isModified()) {
             keep(kind);
         } else if (!kept.isNull()) {
             m_folder.remove(kind);
@@ -98,13 +97,13 @@ void Recovery::update()
 
 void Recovery::keep(DocumentKind kind)
 {
-    const EditorDocument &document = m_parts.view.document(kind);
-    const QString text = document.control->text();
+    const Document &document = m_parts.view.documents().of(kind);
+    const QString text = document.text();
     QString &kept = m_kept[size_t(kind)];
     if (!kept.isNull() && kept == text) {
         return;
     }
-    const auto written = m_folder.write({ kind, document.path, m_context.clock.now(), text });
+    const auto written = m_folder.write({ kind, document.path(), m_context.clock.now(), text });
     if (written) {
         kept = text.isNull() ? u""_s : text;
         return;
@@ -120,7 +119,7 @@ void Recovery::keep(DocumentKind kind)
 void Recovery::catchUp()
 {
     for (const DocumentKind kind : bothKinds) {
-        if (!m_kept[size_t(kind)].isNull() && m_parts.view.document(kind).isModified()) {
+        if (!m_kept[size_t(kind)].isNull() && m_parts.view.documents().of(kind).isModified()) {
             keep(kind);
         }
     }
@@ -154,7 +153,7 @@ bool Recovery::isInHand(const RecoveredText &recovered) const
 {
     const QString &kept = m_kept[size_t(recovered.kind)];
     return !kept.isNull() && kept == recovered.text
-        && m_parts.view.document(recovered.kind).path == recovered.path;
+        && m_parts.view.documents().of(recovered.kind).path() == recovered.path;
 }
 
 /// Shows the text if the user wants it. It is kept on disk again before the old file goes.

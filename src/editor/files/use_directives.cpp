@@ -4,7 +4,6 @@
 #include "editor/files/use_directives.h"
 
 #include "documents/editor_view.h"
-#include "documents/text_control.h"
 #include "settings/global_settings.h"
 
 namespace zeph {
@@ -16,7 +15,7 @@ UseDirectives::UseDirectives(const Context &context, EditorView &view)
 
 void UseDirectives::GetUSEstatements()
 {
-    const QString text = m_view.document(DocumentKind::Joystick).control->text();
+    const QString text = m_view.documents().joystick().text();
     if (!text.isEmpty()) {
         m_statements = readUseStatements(text);
     }
@@ -35,7 +34,7 @@ void UseDirectives::GetUSEZephstatements()
     if (!m_textFilePath.isEmpty()) {
         m_context.settings.TextFilePath = m_textFilePath;
     }
-    m_view.document(DocumentKind::Joystick).control->select(0, 0);
+    m_view.documents().joystick().select(0, 0);
     Q_EMIT filesChanged();
 }
 
@@ -52,7 +51,7 @@ QString UseDirectives::found(QString &name) const
     if (name.isEmpty()) {
         return {};
     }
-    QString path = existingPath(folderOf(m_view.document(DocumentKind::Joystick).path) + name);
+    QString path = existingPath(folderOf(m_view.documents().joystick().path()) + name);
     if (path.isEmpty() || !fileExists(path)) {
         name.clear();
         return {};

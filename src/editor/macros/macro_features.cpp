@@ -38,7 +38,7 @@ constexpr TickSetting tickSettings[] = {
 MacroFeatures::MacroFeatures(const Context &context, const Parts &parts)
     : m_context(context), m_parts(parts),
       m_list(context, { parts.view, parts.actions, parts.saving, parts.insert }),
-      m_operations(context, { parts.view, parts.actions, parts.saving, parts.undos, m_list }),
+      m_operations(context, { parts.view, parts.actions, parts.saving, m_list }),
       m_menu(context, m_list, parts.actions)
 {
     parts.actions.action(u"mnuViewMacros")->setChecked(true);
@@ -110,10 +110,12 @@ void MacroFeatures::connectList()
             guarded(m_context.dialogs, [this] { m_operations.FindMacroInJF(); }));
     connect(&m_list, &MacroList::dragStarted, this, [this] { m_dragStarted = true; });
     // Where a drag ends is seen by the change that it makes.
-    connect(&m_parts.view, &EditorView::edited, this, [this] {
-        if (std::exchange(m_dragStarted, false)) {
-            m_operations.TickMacroList();
-        }
+    m_parts.view.documents().forEach([this](Document &each) {
+        connect(&each, &Document::edited, this, [this] {
+            if (std::exchange(m_dragStarted, false)) {
+                m_operations.TickMacroList();
+            }
+        });
     });
 }
 

@@ -18,7 +18,6 @@ class EditorView;
 class FileNew;
 class FileOpening;
 class FileSaving;
-class UndoHistories;
 
 /// Everything that has to do with macros, tied to the files' comings and goings and to the menus.
 class MacroFeatures : public QObject
@@ -31,7 +30,6 @@ public:
         FileOpening &opening;
         FileSaving &saving;
         FileNew &fresh;
-        UndoHistories &undos;
         ColouredInsert &insert;
     };
     MacroFeatures(const Context &context, const Parts &parts);

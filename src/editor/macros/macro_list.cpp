@@ -5,7 +5,6 @@
 
 #include "documents/coloured_insert.h"
 #include "documents/editor_view.h"
-#include "documents/text_control.h"
 #include "editor/files/file_saving.h"
 #include "editor/macros/framemacros.h"
 #include "menus/menu_actions.h"
@@ -58,12 +57,12 @@ void MacroList::ClearAllForNewMacroFile()
 
 void MacroList::GetEachLineFromMacroFile()
 {
-    const EditorDocument &macro = m_parts.view.document(DocumentKind::Macro);
-    const QString path = existingPath(macro.path);
+    const Document &macro = m_parts.view.documents().macro();
+    const QString path = existingPath(macro.path());
     if (path.isEmpty()) {
         return;
     }
-    m_context.status.setText(u"Opening "_s + macro.name + u" file for analysis "_s);
+    m_context.status.setText(u"Opening "_s + macro.name() + u" file for analysis "_s);
     m_table.MacroLines.clear();
     const auto bytes = readWholeFile(path);
     if (!bytes) {
@@ -76,7 +75,7 @@ void MacroList::GetEachLineFromMacroFile()
 
 void MacroList::ExtractMacrosAndTitles()
 {
-    m_context.status.setText(u"Analysing "_s + m_parts.view.document(DocumentKind::Macro).name
+    m_context.status.setText(u"Analysing "_s + m_parts.view.documents().macro().name()
                              + u" for macros and sub-headings. Please wait ..."_s);
     m_table = extractMacros(m_table.MacroLines);
     MacroListIsEmpty = false;
@@ -135,7 +134,7 @@ void MacroList::ShowMacroKeys()
     }
     m_context.status.setText(*line);
     const bool macroIsSeen =
-        m_parts.view.selected().kind == DocumentKind::Macro || m_parts.view.isTiled();
+        m_parts.view.documents().selected().kind() == DocumentKind::Macro || m_parts.view.isTiled();
     if (macroIsSeen && m_parts.actions.action(u"MnuMacroSelectMacroShow")->isChecked()) {
         showInMacroText(*line);
     }
@@ -143,36 +142,35 @@ void MacroList::ShowMacroKeys()
 
 bool MacroList::showInMacroText(const QString &line)
 {
-    TextControl &control = *m_parts.view.document(DocumentKind::Macro).control;
-    const qsizetype at = findText(control.text(), line, 0, SearchPlain);
+    Document &macro = m_parts.view.documents().macro();
+    const qsizetype at = findText(macro.text(), line, 0, SearchPlain);
     if (at >= 0) {
-        control.select(int(at), int(line.size()));
-        control.centerCursor();
+        macro.select(int(at), int(line.size()));
+        m_parts.view.centreCaret(DocumentKind::Macro);
     }
     return at >= 0;
 }
 
 void MacroList::List1_DblClick()
 {
-    if (SelectedMacro.isEmpty() || m_parts.view.refuseProtected()) {
+    if (SelectedMacro.isEmpty() || m_parts.view.documents().refuseProtected()) {
         return;
     }
-    const EditorDocument &document = m_parts.view.selected();
-    const TextControl &control = *document.control;
-    const int at = control.selStart();
+    const Document &document = m_parts.view.documents().selected();
+    const int at = document.selStart();
     const bool needsBlank =
-        control.selLength() == 0 && at > 0 && control.document()->characterAt(at - 1) != u' ';
+        document.selLength() == 0 && at > 0 && document.content().characterAt(at - 1) != u' ';
     m_parts.insert.BeginColInsert();
     m_parts.insert.InsertColouredStringNoSpace(
         (needsBlank ? u" "_s : QString()) + SelectedMacro + u' ',
-        m_parts.view.plainFormat(document.kind).colour.value_or(0));
+        m_parts.view.documents().plainFormat(document.kind()).colour.value_or(0));
     m_parts.insert.EndColInsert();
     Q_EMIT inserted();
 }
 
 void MacroList::mnuRHListEdit_Click()
 {
-    m_parts.view.select(DocumentKind::Macro);
+    m_parts.view.documents().select(DocumentKind::Macro);
     m_parts.view.ResetFocusToEditor();
     if (const auto line = macroKeys(m_table, SelectedMacro)) {
         m_context.status.setText(*line);
@@ -182,10 +180,10 @@ void MacroList::mnuRHListEdit_Click()
 
 bool MacroList::askForSave()
 {
-    const EditorDocument &macro = m_parts.view.document(DocumentKind::Macro);
+    const Document &macro = m_parts.view.documents().macro();
     const BoxButton answer = m_context.dialogs.box(
-        { u" Save "_s + macro.name + u" now?"_s,
-          macro.name
+        { u" Save "_s + macro.name() + u" now?"_s,
+          macro.name()
               + u" has changed and isn't saved. You must save it if you want to update your macros "
                 "list. Shall I go ahead and save it?"_s,
           BoxIcon::Question,
@@ -199,21 +197,20 @@ bool MacroList::askForSave()
     }
     m_context.dialogs.tell(
         u"File not saved"_s,
-        macro.name + u" wasn't saved, so I won't continue to update your macros list."_s);
+        macro.name() + u" wasn't saved, so I won't continue to update your macros list."_s);
     return false;
 }
 
 void MacroList::mnuEditUpdateMacros_Click()
 {
-    const EditorDocument &macro = m_parts.view.document(DocumentKind::Macro);
-    if (!macro.control->text().contains(u'=')) {
+    const Document &macro = m_parts.view.documents().macro();
+    if (!macro.text().contains(u'=')) {
         return;
     }
-    m_parts.view.select(DocumentKind::Macro);
+    m_parts.view.documents().select(DocumentKind::Macro);
     if (macro.isModified() && !askForSave()) {
         return;
     }
-    const BusyGuard busy(m_parts.view);
     show();
     ClearAllForNewMacroFile();
     GetEachLineFromMacroFile();

@@ -3,11 +3,9 @@
 
 #include "editor/macros/macro_operations.h"
 
-#include "documents/edit_step.h"
+#include "documents/change.h"
 #include "documents/editor_texts.h"
 #include "documents/editor_view.h"
-#include "documents/text_control.h"
-#include "documents/undo_history.h"
 #include "editor/files/file_saving.h"
 #include "editor/macros/macro_list.h"
 #include "editor/macros/macrorenameform.h"
@@ -27,9 +25,7 @@ MacroOperations::MacroOperations(const Context &context, const Parts &parts)
     : m_context(context), m_parts(parts)
 {
     connect(&parts.list, &MacroList::listSelectionChanged, this, [this] { m_foundName.clear(); });
-    QWidget *viewport = parts.view.document(DocumentKind::Joystick).control->viewport();
-    viewport->setMouseTracking(true);
-    viewport->installEventFilter(this);
+    parts.view.watchMouse(DocumentKind::Joystick, *this);
 }
 
 void MacroOperations::ClearMacroTicks()
@@ -41,22 +37,22 @@ void MacroOperations::TickMacroList()
 {
     const QString &name = m_parts.list.SelectedMacro;
     if (!name.isEmpty()) {
-        const QString text = m_parts.view.document(DocumentKind::Joystick).control->text();
+        const QString text = m_parts.view.documents().joystick().text();
         m_parts.list.model().setTick(name, !macroUses(text, name).isEmpty());
     }
 }
 
 void MacroOperations::IdentifyMacrosUsed(Mode mode)
 {
-    const EditorDocument &joystick = m_parts.view.document(DocumentKind::Joystick);
-    const EditorDocument &macro = m_parts.view.document(DocumentKind::Macro);
-    if (joystick.control->document()->isEmpty() || macro.control->document()->isEmpty()) {
+    const Document &joystick = m_parts.view.documents().joystick();
+    const Document &macro = m_parts.view.documents().macro();
+    if (joystick.length() == 0 || macro.length() == 0) {
         return;
     }
     m_context.status.setText(u"Analysing the macros you've already assigned in the "_s
-                             + joystick.name + u". Please wait ..."_s);
+                             + joystick.name() + u". Please wait ..."_s);
     const QStringList &names = m_parts.list.model().allNames();
-    const QList<bool> used = usedMacros(joystick.control->text(), names);
+    const QList<bool> used = usedMacros(joystick.text(), names);
     QStringList ticked;
     for (qsizetype i = 0; i < names.size(); ++i) {
         if (used[i]) {
@@ -73,8 +69,8 @@ void MacroOperations::IdentifyMacrosUsed(Mode mode)
 void MacroOperations::FindMacroInJF()
 {
     const QString name = m_parts.list.SelectedMacro;
-    EditorDocument &joystick = m_parts.view.document(DocumentKind::Joystick);
-    const QList<qsizetype> uses = macroUses(joystick.control->text(), name);
+    Document &joystick = m_parts.view.documents().joystick();
+    const QList<qsizetype> uses = macroUses(joystick.text(), name);
     if (uses.isEmpty()) {
         return;
     }
@@ -83,9 +79,9 @@ void MacroOperations::FindMacroInJF()
     const qsizetype at = next == uses.end() ? uses.first() : *next;
     m_foundName = name;
     m_findFrom = at + name.size();
-    m_parts.view.select(DocumentKind::Joystick);
-    joystick.control->select(int(at), int(name.size()));
-    joystick.control->centerCursor();
+    m_parts.view.documents().select(DocumentKind::Joystick);
+    joystick.select(int(at), int(name.size()));
+    m_parts.view.centreCaret(DocumentKind::Joystick);
 }
 
 void MacroOperations::mnuRenameMacro_Click()
@@ -105,7 +101,7 @@ void MacroOperations::mnuRenameMacro_Click()
 
 void MacroOperations::ChangeMacroName(const QString &oldName, const QString &newName)
 {
-    if (m_parts.view.isProtected()) {
+    if (m_parts.view.documents().isProtected()) {
         m_context.dialogs.box(fileProtectedBox());
         return;
     }
@@ -113,7 +109,7 @@ void MacroOperations::ChangeMacroName(const QString &oldName, const QString &new
     const int inMacro = renameIn(DocumentKind::Macro, oldName, newName);
     const auto counted = [this](int count, DocumentKind kind) {
         return QString::number(count) + u" replacements were made in "_s
-            + m_parts.view.document(kind).name;
+            + m_parts.view.documents().of(kind).name();
     };
     m_context.dialogs.tell(u"Replaced 'em all for you. Now buy me a drink"_s,
                            counted(inJoystick, DocumentKind::Joystick) + u", and "_s
@@ -122,39 +118,37 @@ void MacroOperations::ChangeMacroName(const QString &oldName, const QString &new
 
 int MacroOperations::renameIn(DocumentKind kind, const QString &oldName, const QString &newName)
 {
-    EditorDocument &document = m_parts.view.document(kind);
-    const QString text = document.control->text();
+    Document &document = m_parts.view.documents().of(kind);
+    const QString text = document.text();
     if (text.isEmpty()) {
         return 0;
     }
     const QList<qsizetype> hits = renameHits(text, oldName);
     if (hits.isEmpty()) {
-        const QString notFound = oldName + u" not found in "_s + document.name;
+        const QString notFound = oldName + u" not found in "_s + document.name();
         m_context.status.setText(notFound);
         m_context.dialogs.tell(u"Text not found"_s, notFound);
         return 0;
     }
-    {
-        const EditStep step(m_parts.view, m_parts.undos, kind);
-        document.control->replaceAll(hits, int(oldName.size()), newName);
-        const qsizetype grown = (hits.size() - 1) * (newName.size() - oldName.size());
-        document.control->select(int(hits.last() + grown + newName.size()), 0);
-    }
-    m_context.status.setLine(m_parts.view.selected().control->caretLine());
+    Change change(document);
+    document.replaceAll(hits, oldName.size(), newName);
+    const qsizetype grown = qsizetype(hits.size() - 1) * (newName.size() - oldName.size());
+    document.select(int(hits.back() + grown + newName.size()), 0);
+    change.commit();
+    m_context.status.setLine(m_parts.view.documents().selected().caretLine());
     return int(hits.size());
 }
 
-QString MacroOperations::RichWordOver(const TextControl &control, const QPoint &at)
+QString MacroOperations::RichWordOver(const QPoint &at) const
 {
-    const QTextCursor nearest = control.cursorForPosition(at);
-    const QRect place = control.cursorRect(nearest);
-    if (at.y() < place.top() || at.y() > place.bottom()) {
+    const int position = m_parts.view.characterAt(DocumentKind::Joystick, at);
+    if (position < 0) {
         return {};
     }
-    // A word ends at its line's end, so its line is enough; the place nearest to the point may be
-    // the one behind the character that the point is on.
-    const int position = nearest.positionInBlock() - (at.x() < place.left() ? 1 : 0);
-    return wordOver(nearest.block().text(), position);
+    // A word ends at its line's end, so its line is enough.
+    const QTextBlock line =
+        m_parts.view.documents().joystick().content().findBlock(position);
+    return wordOver(line.text(), position - line.position());
 }
 
 void MacroOperations::mouseMoved(const QPoint &at)
@@ -163,7 +157,7 @@ void MacroOperations::mouseMoved(const QPoint &at)
         || m_context.status.text().startsWith(u"Compile")) {
         return;
     }
-    const QString word = RichWordOver(*m_parts.view.document(DocumentKind::Joystick).control, at);
+    const QString word = RichWordOver(at);
     if (word == m_wordUnderMouse) {
         return;
     }

@@ -17,8 +17,6 @@ class MenuActions;
 class EditorView;
 class FileSaving;
 class MacroList;
-class TextControl;
-class UndoHistories;
 
 /// What ties the macro list to the two texts: which macros are used and where, a rename in both
 /// files, the macro under the mouse.
@@ -30,7 +28,6 @@ public:
         EditorView &view;
         MenuActions &actions;
         FileSaving &saving;
-        UndoHistories &undos;
         MacroList &list;
     };
     /// Which heading is shown after the macros used were identified.
@@ -54,7 +51,7 @@ public:
     void ChangeMacroName(const QString &oldName, const QString &newName);
 
     /// The word under a point of a text control's viewport; empty when there is none.
-    static QString RichWordOver(const TextControl &control, const QPoint &at);
+    QString RichWordOver(const QPoint &at) const;
     /// Shows the keys of the macro that the mouse touches in the joystick text.
     void mouseMoved(const QPoint &at);
 

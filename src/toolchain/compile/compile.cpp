@@ -3,7 +3,7 @@
 
 #include "toolchain/compile/compile.h"
 
-#include "documents/editor_document.h"
+#include "documents/document.h"
 #include "platform/dialogs.h"
 #include "platform/status_line.h"
 #include "settings/global_settings.h"
@@ -28,7 +28,7 @@ void Compile::mnuAppsCompile_Click()
     m_host.unloadHelpers();
     m_host.minimiseToolWindows();
     // The user may open another file during the wait: the verdict is about this one.
-    const QString path = m_host.joystick().path;
+    const QString path = m_host.joystick().path();
     m_handshake.setStatusCaption(u"Compiling "_s + m_host.joystick().caption());
     const ExchangeEnd end =
         m_handshake.runCompiler(compilerLaunch(m_context.paths, CompilerCommand::Compile, path));

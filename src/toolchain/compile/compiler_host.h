@@ -10,14 +10,14 @@
 namespace zeph {
 
 struct CompilerVerdict;
-struct EditorDocument;
+class Document;
 
 /// What everything that runs the compiler needs of the windows above it. All must be set.
 struct CompilerHost {
     std::function<QString()> joystickText;
     std::function<QString()> macroText;
-    std::function<const EditorDocument &()> joystick;
-    std::function<const EditorDocument &()> macro;
+    std::function<const Document &()> joystick;
+    std::function<const Document &()> macro;
     std::function<void()> selectJoystickTab;
     /// Saves the selected document; its state tells afterwards whether that took place.
     std::function<void()> mnuFileSave_Click;

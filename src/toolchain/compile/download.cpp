@@ -3,7 +3,7 @@
 
 #include "toolchain/compile/download.h"
 
-#include "documents/editor_document.h"
+#include "documents/document.h"
 #include "platform/dialogs.h"
 #include "platform/status_line.h"
 #include "settings/global_settings.h"
@@ -105,7 +105,7 @@ void Download::send()
 {
     const bool enables = m_context.settings.DownloadMode == 1;
     // The user may open another file during the wait: the verdict is about this one.
-    const QString path = m_host.joystick().path;
+    const QString path = m_host.joystick().path();
     m_context.status.setText(
         u" Waiting for compiler to download your file. Please be patient ...."_s);
     m_handshake.setStatusCaption(u"Downloading "_s + m_host.joystick().caption());

@@ -3,7 +3,7 @@
 
 #include "toolchain/games/game_launch.h"
 
-#include "documents/editor_document.h"
+#include "documents/document.h"
 #include "platform/dialogs.h"
 #include "platform/process_launcher.h"
 #include "platform/status_line.h"

@@ -12,12 +12,12 @@ namespace zeph {
 class Games;
 class ToolchainHandshake;
 struct CompilerVerdict;
-struct EditorDocument;
+class Document;
 struct Game;
 
 /// What the launch of a game needs of the windows above it and of the other tools. All must be set.
 struct GamesHost {
-    std::function<const EditorDocument &()> joystick;
+    std::function<const Document &()> joystick;
     /// Saves each of the two documents that is changed, without asking, the joystick file first.
     std::function<void()> saveChanged;
     /// The Download menu's ticks.

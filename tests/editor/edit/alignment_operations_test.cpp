@@ -3,7 +3,7 @@
 
 #include "editor/edit/alignment_operations.h"
 
-#include "documents/undo_history.h"
+#include "documents/undo_histories.h"
 #include "platform/richtext/rich_text_document.h"
 #include "tests/documents/editor_fixture.h"
 
@@ -11,11 +11,10 @@
 #include <QTest>
 
 using namespace zeph;
+using zeph::test::blue;
 using zeph::test::EditorTest;
 
 namespace {
-
-constexpr ColorRef blue = 0xFF0000;
 
 class AlignmentOperationsTest : public EditorTest
 {
@@ -27,24 +26,22 @@ protected:
     }
     void load(DocumentKind kind, const QString &text)
     {
-        const BusyGuard busy(editor->view());
-        editor->view().document(kind).control->setText(text);
+        editor->documents().of(kind).setText(text);
         editor->undos().startOver(kind);
-        editor->view().setState(editor->view().document(kind), EditorDocument::Saved);
+        editor->documents().of(kind).setState(Document::Saved);
     }
     void protectAndSelectMacro()
     {
         editor->action(u"mnuPreferencesProtectMacroFile")->trigger();
-        editor->view().select(DocumentKind::Macro);
+        editor->documents().select(DocumentKind::Macro);
         dialogs.answer(u"File protected"_s, BoxButton::Ok);
     }
     /// As text from elsewhere may stand.
     void moveLinesIn()
     {
-        const BusyGuard busy(editor->view());
         setParagraphFormat(*joystick().document(), { .leftIndentTwips = 300 });
     }
-    TextControl &joystick() { return *editor->joystick().control; }
+    TextControl &joystick() { return editor->view().control(DocumentKind::Joystick); }
     int steps() { return editor->undos().of(DocumentKind::Joystick).slots() - 1; }
 };
 
@@ -53,36 +50,36 @@ protected:
 TEST_F(AlignmentOperationsTest, AligningIsOneStepThatModifiesAndColours)
 {
     load(DocumentKind::Joystick, u"BTN S1 /I a\n/O b"_s);
-    editor->view().select(DocumentKind::Macro);
+    editor->documents().select(DocumentKind::Macro);
     editor->action(u"mnuAlignSlash")->trigger();
     EXPECT_EQ(editor->joystickText(), u"BTN S1 /I a\n       /O b\n");
-    EXPECT_EQ(editor->selected().kind, DocumentKind::Joystick);
+    EXPECT_EQ(editor->selected().kind(), DocumentKind::Joystick);
     EXPECT_EQ(status.text(), u" OK - done!");
-    EXPECT_EQ(editor->joystick().state, EditorDocument::Modified);
+    EXPECT_EQ(editor->joystick().state(), Document::Modified);
     EXPECT_EQ(steps(), 1);
-    EXPECT_EQ(joystick().richText().formatAt(19).colour, blue);
+    EXPECT_EQ(joystick().shown().richText().formatAt(19).colour, blue);
     editor->action(u"mnuEditUndo")->trigger();
     EXPECT_EQ(editor->joystickText(), u"BTN S1 /I a\n/O b");
     editor->action(u"mnuEditRedo")->trigger();
-    EXPECT_EQ(joystick().richText().formatAt(19).colour, blue);
+    EXPECT_EQ(joystick().shown().richText().formatAt(19).colour, blue);
 }
 
 TEST_F(AlignmentOperationsTest, AnAlignedFileIsColouredAndStaysSaved)
 {
     load(DocumentKind::Joystick, u"BTN S1 /I a\n"_s);
     editor->action(u"mnuAlignSlash")->trigger();
-    EXPECT_EQ(editor->joystick().state, EditorDocument::Saved);
+    EXPECT_EQ(editor->joystick().state(), Document::Saved);
     EXPECT_EQ(steps(), 0);
-    EXPECT_EQ(joystick().richText().formatAt(7).colour, blue);
+    EXPECT_EQ(joystick().shown().richText().formatAt(7).colour, blue);
     EXPECT_EQ(status.text(), u" OK - done!");
 }
 
 TEST_F(AlignmentOperationsTest, TheCaretStaysInItsLine)
 {
     load(DocumentKind::Joystick, u"  BTN S1 /I a\n/O b\nBTN S2"_s);
-    joystick().select(20, 0);
+    joystick().shown().select(20, 0);
     editor->action(u"mnuAlignSlash")->trigger();
-    EXPECT_EQ(joystick().caretLine(), 3);
+    EXPECT_EQ(joystick().shown().caretLine(), 3);
     EXPECT_EQ(status.lineText(), u"Line no: 3");
 }
 
@@ -106,7 +103,7 @@ TEST_F(AlignmentOperationsTest, AnEmptyFileIsLeftAlone)
     status.setText(u"before"_s);
     editor->action(u"mnuAlignSlash")->trigger();
     EXPECT_EQ(editor->joystickText(), QString());
-    EXPECT_EQ(editor->joystick().state, EditorDocument::Empty);
+    EXPECT_EQ(editor->joystick().state(), Document::Empty);
     EXPECT_EQ(status.text(), u"before");
 }
 
@@ -123,17 +120,17 @@ TEST_F(AlignmentOperationsTest, RefreshingTheIndentKeepsColoursCaretAndState)
 {
     load(DocumentKind::Joystick, u"BTN S1 /I a\n/O b"_s);
     moveLinesIn();
-    joystick().changeLooks(0, 3, [](CharFormat &format) { format.colour = blue; });
-    editor->view().setState(editor->joystick(), EditorDocument::Saved);
+    joystick().shown().changeLooks(0, 3, [](CharFormat &format) { format.colour = blue; });
+    editor->joystick().setState(Document::Saved);
     const std::vector<CharRun> looks = characterRunsOf(*joystick().document());
-    joystick().select(5, 2);
+    joystick().shown().select(5, 2);
     editor->action(u"mnuViewrefreshIndent")->trigger();
     EXPECT_EQ(characterRunsOf(*joystick().document()), looks);
-    const RichText after = joystick().richText();
+    const RichText after = joystick().shown().richText();
     ASSERT_EQ(after.paragraphs.size(), 1U);
     EXPECT_EQ(after.paragraphs.front().format.leftIndentTwips, 20);
-    EXPECT_EQ(joystick().selStart(), 5);
-    EXPECT_EQ(editor->joystick().state, EditorDocument::Saved);
+    EXPECT_EQ(joystick().shown().selStart(), 5);
+    EXPECT_EQ(editor->joystick().state(), Document::Saved);
     EXPECT_EQ(status.text(), u"Layout refreshed ... (I wish I was!)");
 }
 
@@ -141,14 +138,14 @@ TEST_F(AlignmentOperationsTest, RefreshingTheLayoutTakesColoursAway)
 {
     load(DocumentKind::Joystick, u"BTN S1"_s);
     moveLinesIn();
-    joystick().changeLooks(0, 3, [](CharFormat &format) {
+    joystick().shown().changeLooks(0, 3, [](CharFormat &format) {
         format.colour = blue;
         format.italic = true;
     });
     editor->action(u"mnuViewReformat")->trigger();
-    const RichText after = joystick().richText();
+    const RichText after = joystick().shown().richText();
     ASSERT_EQ(after.characters.size(), 1U);
-    EXPECT_EQ(after.characters.front().format, editor->view().plainFormat(DocumentKind::Joystick));
+    EXPECT_EQ(after.characters.front().format, editor->documents().plainFormat(DocumentKind::Joystick));
     EXPECT_EQ(after.paragraphs.front().format.leftIndentTwips, 20);
     EXPECT_EQ(status.text(), u"Layout refreshed ... (I wish I was!)");
 }
@@ -158,9 +155,9 @@ TEST_F(AlignmentOperationsTest, AProtectedMacroFileRefusesBothRefreshes)
     load(DocumentKind::Macro, u"a = b"_s);
     protectAndSelectMacro();
     dialogs.answer(u"File protected"_s, BoxButton::Ok);
-    const RichText before = editor->macro().control->richText();
+    const RichText before = editor->macro().richText();
     editor->action(u"mnuViewReformat")->trigger();
     editor->action(u"mnuViewrefreshIndent")->trigger();
-    EXPECT_EQ(editor->macro().control->richText(), before);
+    EXPECT_EQ(editor->macro().richText(), before);
     EXPECT_EQ(dialogs.boxes().size(), 2);
 }

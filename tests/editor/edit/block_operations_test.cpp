@@ -3,17 +3,17 @@
 
 #include "editor/edit/block_operations.h"
 
-#include "documents/undo_history.h"
+#include "documents/undo_histories.h"
 #include "tests/documents/editor_fixture.h"
 
 #include <QAction>
 
 using namespace zeph;
+using zeph::test::blue;
 using zeph::test::EditorTest;
 
 namespace {
 
-constexpr ColorRef blue = 0xFF0000;
 constexpr ColorRef green = 0x00FF00;
 constexpr ColorRef grey = 0x808080;
 
@@ -28,10 +28,10 @@ protected:
         type(DocumentKind::Joystick, u"BTN S1 a\n\nBTN S2 b\nBTN S3 c"_s);
         editor->undos().startOver(DocumentKind::Joystick);
     }
-    TextControl &joystick() { return *editor->joystick().control; }
+    TextControl &joystick() { return editor->view().control(DocumentKind::Joystick); }
     std::optional<ColorRef> colourAt(qsizetype position)
     {
-        return joystick().richText().formatAt(position).colour;
+        return joystick().shown().richText().formatAt(position).colour;
     }
     int steps() { return editor->undos().of(DocumentKind::Joystick).slots() - 1; }
 };
@@ -40,14 +40,14 @@ protected:
 
 TEST_F(BlockOperationsTest, TheLinesOfTheSelectionAreCommentedOutInOneStep)
 {
-    joystick().select(3, 9);
+    joystick().shown().select(3, 9);
     editor->action(u"mnuBlockREM")->trigger();
     EXPECT_EQ(editor->joystickText(), u"Rem BTN S1 a\n\nRem BTN S2 b\nBTN S3 c");
-    EXPECT_EQ(joystick().selStart(), 0);
-    EXPECT_EQ(joystick().selLength(), 0);
+    EXPECT_EQ(joystick().shown().selStart(), 0);
+    EXPECT_EQ(joystick().shown().selLength(), 0);
     EXPECT_EQ(colourAt(0), grey);
     EXPECT_EQ(colourAt(5), grey);
-    EXPECT_EQ(editor->joystick().state, EditorDocument::Modified);
+    EXPECT_EQ(editor->joystick().state(), Document::Modified);
     EXPECT_EQ(steps(), 1);
     editor->action(u"mnuEditUndo")->trigger();
     EXPECT_EQ(editor->joystickText(), u"BTN S1 a\n\nBTN S2 b\nBTN S3 c");
@@ -55,59 +55,58 @@ TEST_F(BlockOperationsTest, TheLinesOfTheSelectionAreCommentedOutInOneStep)
 
 TEST_F(BlockOperationsTest, ASelectionToALinesStartTakesThatLineAndNoFurther)
 {
-    joystick().select(10, 9);
+    joystick().shown().select(10, 9);
     editor->action(u"mnuBlockREM")->trigger();
     EXPECT_EQ(editor->joystickText(), u"BTN S1 a\n\nRem BTN S2 b\nRem BTN S3 c");
-    EXPECT_EQ(joystick().selStart(), 10);
+    EXPECT_EQ(joystick().shown().selStart(), 10);
 }
 
 TEST_F(BlockOperationsTest, ABlankLineAloneChangesNothing)
 {
-    editor->view().setState(editor->joystick(), EditorDocument::Saved);
-    joystick().select(9, 0);
+    editor->joystick().setState(Document::Saved);
+    joystick().shown().select(9, 0);
     editor->action(u"mnuBlockREM")->trigger();
     EXPECT_EQ(editor->joystickText(), u"BTN S1 a\n\nBTN S2 b\nBTN S3 c");
-    EXPECT_EQ(editor->joystick().state, EditorDocument::Saved);
+    EXPECT_EQ(editor->joystick().state(), Document::Saved);
     EXPECT_EQ(steps(), 0);
 }
 
 TEST_F(BlockOperationsTest, TheCaretGoesToTheFirstLinesStartEvenIfNothingChanges)
 {
-    joystick().select(12, 5);
+    joystick().shown().select(12, 5);
     editor->action(u"mnuBlockRemoveREM")->trigger();
-    EXPECT_EQ(joystick().selStart(), 10);
-    EXPECT_EQ(joystick().selLength(), 0);
+    EXPECT_EQ(joystick().shown().selStart(), 10);
+    EXPECT_EQ(joystick().shown().selLength(), 0);
     type(DocumentKind::Macro, u"a = b\n\n\n"_s);
-    editor->view().select(DocumentKind::Macro);
-    editor->macro().control->select(6, 1);
+    editor->documents().select(DocumentKind::Macro);
+    editor->macro().select(6, 1);
     editor->action(u"mnuBlockREM")->trigger();
     EXPECT_EQ(editor->macroText(), u"a = b\n\n\n");
-    EXPECT_EQ(editor->macro().control->selStart(), 6);
-    EXPECT_EQ(editor->macro().control->selLength(), 0);
+    EXPECT_EQ(editor->macro().selStart(), 6);
+    EXPECT_EQ(editor->macro().selLength(), 0);
 }
 
 TEST_F(BlockOperationsTest, TakenBackLinesAreLiveAgainAndOthersKeepTheirLooks)
 {
-    joystick().select(0, 0);
+    joystick().shown().select(0, 0);
     editor->action(u"mnuBlockREM")->trigger();
-    const BusyGuard busy(editor->view());
-    joystick().changeLooks(14, 3, [](CharFormat &format) { format.colour = green; });
-    joystick().select(0, 20);
+    joystick().shown().changeLooks(14, 3, [](CharFormat &format) { format.colour = green; });
+    joystick().shown().select(0, 20);
     editor->action(u"mnuBlockRemoveREM")->trigger();
     EXPECT_EQ(editor->joystickText(), u"BTN S1 a\n\nBTN S2 b\nBTN S3 c");
     EXPECT_EQ(colourAt(0), blue);
     EXPECT_EQ(colourAt(7), 0U);
     EXPECT_EQ(colourAt(10), green);
-    EXPECT_EQ(joystick().selStart(), 0);
-    EXPECT_EQ(joystick().selLength(), 0);
+    EXPECT_EQ(joystick().shown().selStart(), 0);
+    EXPECT_EQ(joystick().shown().selLength(), 0);
 }
 
 TEST_F(BlockOperationsTest, NothingToTakeBackChangesNothing)
 {
-    editor->view().setState(editor->joystick(), EditorDocument::Saved);
+    editor->joystick().setState(Document::Saved);
     joystick().selectAll();
     editor->action(u"mnuBlockRemoveREM")->trigger();
-    EXPECT_EQ(editor->joystick().state, EditorDocument::Saved);
+    EXPECT_EQ(editor->joystick().state(), Document::Saved);
     EXPECT_EQ(steps(), 0);
 }
 
@@ -115,8 +114,8 @@ TEST_F(BlockOperationsTest, AProtectedMacroFileRefusesBoth)
 {
     type(DocumentKind::Macro, u"Rem a\nb = c"_s);
     editor->action(u"mnuPreferencesProtectMacroFile")->trigger();
-    editor->view().select(DocumentKind::Macro);
-    editor->macro().control->selectAll();
+    editor->documents().select(DocumentKind::Macro);
+    editor->view().control(DocumentKind::Macro).selectAll();
     for (const QString &entry : { u"mnuBlockREM"_s, u"mnuBlockRemoveREM"_s }) {
         dialogs.answer(u"File protected"_s, BoxButton::Ok);
         editor->action(entry)->trigger();

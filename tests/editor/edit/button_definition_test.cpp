@@ -70,31 +70,31 @@ TEST(ButtonDefinition, APortsPrefixOfFourIsTakenInAndItsEndMovesByItsHead)
 class ExtractDefinitionTest : public test::EditorTest
 {
 protected:
-    TextControl *joystick() { return editor->joystick().control; }
+    TextControl *joystick() { return &editor->view().control(DocumentKind::Joystick); }
 };
 
 TEST_F(ExtractDefinitionTest, BringsTheDefinitionToTheFrontSelected)
 {
-    joystick()->setText(u"BTN S1 a\nBTN S2 b\n"_s);
-    editor->view().select(DocumentKind::Macro);
+    joystick()->shown().setText(u"BTN S1 a\nBTN S2 b\n"_s);
+    editor->documents().select(DocumentKind::Macro);
     EXPECT_TRUE(ExtractButtonDefinition(editor->view(), u"BTN S2"_s));
-    EXPECT_EQ(editor->view().selected().kind, DocumentKind::Joystick);
-    EXPECT_EQ(joystick()->selStart(), 9);
-    EXPECT_EQ(joystick()->selLength(), 9);
+    EXPECT_EQ(editor->documents().selected().kind(), DocumentKind::Joystick);
+    EXPECT_EQ(joystick()->shown().selStart(), 9);
+    EXPECT_EQ(joystick()->shown().selLength(), 9);
 }
 
 TEST_F(ExtractDefinitionTest, LeavesTheCaretWhereThereIsNone)
 {
-    joystick()->setText(u"BTN S1 a\n"_s);
-    joystick()->select(4, 2);
+    joystick()->shown().setText(u"BTN S1 a\n"_s);
+    joystick()->shown().select(4, 2);
     EXPECT_FALSE(ExtractButtonDefinition(editor->view(), u"BTN S2"_s));
-    EXPECT_EQ(joystick()->selStart(), 4);
-    EXPECT_EQ(joystick()->selLength(), 2);
+    EXPECT_EQ(joystick()->shown().selStart(), 4);
+    EXPECT_EQ(joystick()->shown().selLength(), 2);
 }
 
 TEST_F(ExtractDefinitionTest, LeavesTheTabWhileTheJoystickTextIsEmpty)
 {
-    editor->view().select(DocumentKind::Macro);
+    editor->documents().select(DocumentKind::Macro);
     EXPECT_FALSE(ExtractButtonDefinition(editor->view(), u"BTN S1"_s));
-    EXPECT_EQ(editor->view().selected().kind, DocumentKind::Macro);
+    EXPECT_EQ(editor->documents().selected().kind(), DocumentKind::Macro);
 }

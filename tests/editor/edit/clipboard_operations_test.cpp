@@ -3,7 +3,7 @@
 
 #include "editor/edit/clipboard_operations.h"
 
-#include "documents/undo_history.h"
+#include "documents/undo_histories.h"
 #include "editor/edit/editing_tools.h"
 #include "platform/core/rtf.h"
 #include "tests/documents/editor_fixture.h"
@@ -15,11 +15,11 @@
 #include <QTest>
 
 using namespace zeph;
+using zeph::test::blue;
 using zeph::test::EditorTest;
 
 namespace {
 
-constexpr ColorRef blue = 0xFF0000;
 constexpr ColorRef red = 0x0000FF;
 
 class ClipboardOperationsTest : public EditorTest
@@ -33,7 +33,7 @@ protected:
         type(DocumentKind::Joystick, u"one two"_s);
         editor->undos().startOver(DocumentKind::Joystick);
     }
-    TextControl &joystick() { return *editor->joystick().control; }
+    TextControl &joystick() { return editor->view().control(DocumentKind::Joystick); }
     int steps() { return editor->undos().of(DocumentKind::Joystick).slots() - 1; }
     void trigger(const QString &entry) { editor->action(entry)->trigger(); }
     /// Puts red, italic text in another font on the clipboard, as a word processor does.
@@ -54,8 +54,8 @@ protected:
 
 TEST_F(ClipboardOperationsTest, CopyOffersPlainAndRichText)
 {
-    joystick().changeLooks(4, 3, [](CharFormat &format) { format.colour = red; });
-    joystick().select(2, 5);
+    joystick().shown().changeLooks(4, 3, [](CharFormat &format) { format.colour = red; });
+    joystick().shown().select(2, 5);
     trigger(u"mnuEditCopy"_s);
     EXPECT_EQ(clipboard().text(), u"e two");
     const auto rich = readRtf(clipboard().data(u"text/rtf"_s));
@@ -68,13 +68,13 @@ TEST_F(ClipboardOperationsTest, CopyOffersPlainAndRichText)
 
 TEST_F(ClipboardOperationsTest, CutIsCopyAndOneStep)
 {
-    joystick().select(3, 4);
+    joystick().shown().select(3, 4);
     trigger(u"mnuEditCut"_s);
     EXPECT_EQ(editor->joystickText(), u"one");
     EXPECT_EQ(clipboard().text(), u" two");
-    EXPECT_EQ(joystick().selStart(), 3);
+    EXPECT_EQ(joystick().shown().selStart(), 3);
     EXPECT_EQ(steps(), 1);
-    EXPECT_EQ(editor->joystick().state, EditorDocument::Modified);
+    EXPECT_EQ(editor->joystick().state(), Document::Modified);
     trigger(u"mnuEditUndo"_s);
     EXPECT_EQ(editor->joystickText(), u"one two");
 }
@@ -82,19 +82,19 @@ TEST_F(ClipboardOperationsTest, CutIsCopyAndOneStep)
 TEST_F(ClipboardOperationsTest, PastedRichTextTakesTheFontAndKeepsItsColours)
 {
     offerRichText();
-    joystick().select(0, 3);
+    joystick().shown().select(0, 3);
     trigger(u"mnuEditPaste"_s);
     EXPECT_EQ(editor->joystickText(), u"rich\ntext two");
-    const CharFormat pasted = joystick().richText().formatAt(0);
+    const CharFormat pasted = joystick().shown().richText().formatAt(0);
     EXPECT_EQ(pasted.family, u"Arial");
     EXPECT_EQ(pasted.pointSize, 8);
     EXPECT_FALSE(pasted.bold);
     EXPECT_TRUE(pasted.italic);
     EXPECT_EQ(pasted.colour, red);
-    for (const ParagraphRun &run : joystick().richText().paragraphs) {
+    for (const ParagraphRun &run : joystick().shown().richText().paragraphs) {
         EXPECT_FALSE(run.format.bullet);
     }
-    EXPECT_EQ(joystick().selStart(), 9);
+    EXPECT_EQ(joystick().shown().selStart(), 9);
     EXPECT_EQ(steps(), 1);
     trigger(u"mnuEditUndo"_s);
     EXPECT_EQ(editor->joystickText(), u"one two");
@@ -106,29 +106,29 @@ TEST_F(ClipboardOperationsTest, TypingBehindPastedTextIsPlain)
     trigger(u"mnuEditPaste"_s);
     editor->show();
     QTest::keyClicks(&joystick(), u"x"_s);
-    const qsizetype typed = joystick().selStart() - 1;
-    EXPECT_EQ(joystick().richText().formatAt(typed).colour, blue);
-    EXPECT_FALSE(joystick().richText().formatAt(typed).italic);
+    const qsizetype typed = joystick().shown().selStart() - 1;
+    EXPECT_EQ(joystick().shown().richText().formatAt(typed).colour, blue);
+    EXPECT_FALSE(joystick().shown().richText().formatAt(typed).italic);
 }
 
 TEST_F(ClipboardOperationsTest, PastedPlainTextHasThePlainColour)
 {
     QGuiApplication::clipboard()->setText(u"a\r\nb"_s);
-    joystick().select(7, 0);
+    joystick().shown().select(7, 0);
     trigger(u"mnuEditPaste"_s);
     EXPECT_EQ(editor->joystickText(), u"one twoa\nb");
-    EXPECT_EQ(joystick().richText().formatAt(7),
-              editor->view().plainFormat(DocumentKind::Joystick));
+    EXPECT_EQ(joystick().shown().richText().formatAt(7),
+              editor->documents().plainFormat(DocumentKind::Joystick));
 }
 
 TEST_F(ClipboardOperationsTest, PastingAsSimpleTextDropsTheLooks)
 {
     offerRichText();
-    joystick().select(0, 7);
+    joystick().shown().select(0, 7);
     trigger(u"mnuPasteSimple"_s);
     EXPECT_EQ(editor->joystickText(), u"rich\ntext");
-    EXPECT_EQ(joystick().richText().formatAt(0),
-              editor->view().plainFormat(DocumentKind::Joystick));
+    EXPECT_EQ(joystick().shown().richText().formatAt(0),
+              editor->documents().plainFormat(DocumentKind::Joystick));
     EXPECT_EQ(steps(), 1);
 }
 
@@ -138,7 +138,7 @@ TEST_F(ClipboardOperationsTest, BrokenRichTextGivesItsPlainText)
     data->setText(u"plain"_s);
     data->setData(u"text/rtf"_s, "{\\rtf1 never closed");
     QGuiApplication::clipboard()->setMimeData(data);
-    joystick().select(0, 7);
+    joystick().shown().select(0, 7);
     trigger(u"mnuEditPaste"_s);
     EXPECT_EQ(editor->joystickText(), u"plain");
 }
@@ -154,7 +154,7 @@ TEST_F(ClipboardOperationsTest, AnEmptyClipboardPastesNothing)
 
 TEST_F(ClipboardOperationsTest, WithoutASelectionNothingIsCutOrDeleted)
 {
-    joystick().select(3, 0);
+    joystick().shown().select(3, 0);
     editor->editing().clipboard().mnuEditCut_Click();
     editor->editing().clipboard().mnuEditDelete_Click();
     EXPECT_EQ(editor->joystickText(), u"one two");
@@ -164,10 +164,10 @@ TEST_F(ClipboardOperationsTest, WithoutASelectionNothingIsCutOrDeleted)
 TEST_F(ClipboardOperationsTest, DeletingIsOneStepEvenWithinAWord)
 {
     editor->show();
-    joystick().select(7, 0);
+    joystick().shown().select(7, 0);
     QTest::keyClicks(&joystick(), u" abc"_s);
     const int before = steps();
-    joystick().select(0, 4);
+    joystick().shown().select(0, 4);
     trigger(u"mnuEditDelete"_s);
     EXPECT_EQ(editor->joystickText(), u"two abc");
     EXPECT_EQ(steps(), before + 1);
@@ -177,8 +177,8 @@ TEST_F(ClipboardOperationsTest, AProtectedMacroFileRefusesAllThatChangesIt)
 {
     type(DocumentKind::Macro, u"a = b"_s);
     editor->action(u"mnuPreferencesProtectMacroFile")->trigger();
-    editor->view().select(DocumentKind::Macro);
-    editor->macro().control->selectAll();
+    editor->documents().select(DocumentKind::Macro);
+    editor->view().control(DocumentKind::Macro).selectAll();
     offerRichText();
     for (const QString &entry :
          { u"mnuEditCut"_s, u"mnuEditDelete"_s, u"mnuEditPaste"_s, u"mnuPasteSimple"_s }) {
@@ -194,7 +194,7 @@ TEST_F(ClipboardOperationsTest, AProtectedMacroFileRefusesAllThatChangesIt)
 TEST_F(ClipboardOperationsTest, TheOtherKeysOfTheClipboardDoTheSame)
 {
     editor->show();
-    joystick().select(0, 4);
+    joystick().shown().select(0, 4);
     QTest::keyClick(&joystick(), Qt::Key_Insert, Qt::ControlModifier);
     EXPECT_EQ(clipboard().text(), u"one ");
     QTest::keyClick(&joystick(), Qt::Key_Delete, Qt::ShiftModifier);

@@ -3,7 +3,7 @@
 
 #include "editor/edit/findandreplace.h"
 
-#include "documents/undo_history.h"
+#include "documents/undo_histories.h"
 #include "platform/core/text_search.h"
 #include "tests/documents/editor_fixture.h"
 
@@ -40,10 +40,9 @@ protected:
     }
     void load(DocumentKind kind, const QString &text)
     {
-        const BusyGuard busy(editor->view());
-        editor->view().document(kind).control->setText(text);
+        editor->documents().of(kind).setText(text);
         editor->undos().startOver(kind);
-        editor->view().setState(editor->view().document(kind), EditorDocument::Saved);
+        editor->documents().of(kind).setState(Document::Saved);
     }
     FindAndReplace *window() { return editor->findChild<FindAndReplace *>(); }
     /// A dialog counts as active while its owner is; mnemonics go by the window that really is.
@@ -74,11 +73,11 @@ protected:
     void open(const QString &entry) { editor->action(entry)->trigger(); }
     void expectBox(QStringView title) { dialogs.answer(title.toString(), BoxButton::Ok); }
     QString lastBox() { return dialogs.boxes().last().text; }
-    TextControl &joystick() { return *editor->joystick().control; }
-    TextControl &macro() { return *editor->macro().control; }
+    TextControl &joystick() { return editor->view().control(DocumentKind::Joystick); }
+    TextControl &macro() { return editor->view().control(DocumentKind::Macro); }
     std::pair<int, int> selection(TextControl &text)
     {
-        return { text.selStart(), text.selLength() };
+        return { text.shown().selStart(), text.shown().selLength() };
     }
     int steps(DocumentKind kind) { return editor->undos().of(kind).slots() - 1; }
 };
@@ -97,7 +96,7 @@ TEST_F(FindAndReplaceTest, EachEntryShowsItsTabForTheSelectedDocument)
     EXPECT_EQ(tabs->tabText(2), u"Go to line");
     EXPECT_EQ(tabs->currentIndex(), 0);
     EXPECT_TRUE(control<QRadioButton>(u"OptionJoystickF"_s)->isChecked());
-    editor->view().select(DocumentKind::Macro);
+    editor->documents().select(DocumentKind::Macro);
     open(u"mnuEditReplace"_s);
     EXPECT_EQ(tabs->currentIndex(), 1);
     EXPECT_TRUE(control<QRadioButton>(u"OptionMacroR"_s)->isChecked());
@@ -109,18 +108,18 @@ TEST_F(FindAndReplaceTest, EachEntryShowsItsTabForTheSelectedDocument)
 
 TEST_F(FindAndReplaceTest, TheSelectionIsWhatIsSought)
 {
-    joystick().select(5, 3);
+    joystick().shown().select(5, 3);
     open(u"mnuEditFind"_s);
     EXPECT_EQ(control<QComboBox>(u"ComboTextFind"_s)->currentText(), u"one");
-    joystick().select(0, 0);
+    joystick().shown().select(0, 0);
     open(u"mnuEditFind"_s);
     EXPECT_EQ(control<QComboBox>(u"ComboTextFind"_s)->currentText(), u"one");
 }
 
 TEST_F(FindAndReplaceTest, EachEntryPresetsThePagesForTheSelectedDocument)
 {
-    editor->view().select(DocumentKind::Macro);
-    macro().select(0, 4);
+    editor->documents().select(DocumentKind::Macro);
+    macro().shown().select(0, 4);
     for (const QString &entry : { u"mnuEditFind"_s, u"mnuEditReplace"_s, u"mnuEditGoto"_s }) {
         open(entry);
         EXPECT_TRUE(control<QRadioButton>(u"OptionMacroF"_s)->isChecked()) << entry.toStdString();
@@ -242,7 +241,7 @@ TEST_F(FindAndReplaceTest, TheOtherDocumentIsSearchedAndShown)
     control<QRadioButton>(u"OptionMacroF"_s)->click();
     write(u"ComboTextFind"_s, u"spc"_s);
     button(u"Command1"_s)->click();
-    EXPECT_EQ(editor->selected().kind, DocumentKind::Macro);
+    EXPECT_EQ(editor->selected().kind(), DocumentKind::Macro);
     EXPECT_EQ(selection(macro()), Selection(7, 3));
 }
 
@@ -269,7 +268,7 @@ TEST_F(FindAndReplaceTest, ReplaceReplacesTheHitAndFindsTheNext)
     EXPECT_EQ(editor->joystickText(), u"Drop one\nfire two\nFires three\n");
     EXPECT_EQ(selection(joystick()), Selection(9, 4));
     EXPECT_EQ(steps(DocumentKind::Joystick), 1);
-    EXPECT_EQ(editor->joystick().state, EditorDocument::Modified);
+    EXPECT_EQ(editor->joystick().state(), Document::Modified);
     EXPECT_EQ(listOf(u"ComboTextReplaceWith"_s), QStringList{ u"Drop"_s });
     open(u"mnuEditUndo"_s);
     EXPECT_EQ(editor->joystickText(), u"Fire one\nfire two\nFires three\n");
@@ -287,7 +286,7 @@ TEST_F(FindAndReplaceTest, AnEmptyReplacementDeletes)
 
 TEST_F(FindAndReplaceTest, TheReplacementHasTheHitsColour)
 {
-    joystick().changeLooks(9, 4, [](CharFormat &format) { format.colour = 255; });
+    joystick().shown().changeLooks(9, 4, [](CharFormat &format) { format.colour = 255; });
     open(u"mnuEditReplace"_s);
     write(u"ComboTextReplaceFind"_s, u"fire"_s);
     write(u"ComboTextReplaceWith"_s, u"Launch"_s);
@@ -295,10 +294,10 @@ TEST_F(FindAndReplaceTest, TheReplacementHasTheHitsColour)
     expectBox(replacedAll);
     button(u"Command6"_s)->click();
     EXPECT_EQ(editor->joystickText(), u"Launch one\nLaunch two\nLaunchs three\n");
-    EXPECT_EQ(joystick().richText().formatAt(11).colour, 255U);
-    EXPECT_EQ(joystick().richText().formatAt(16).colour, 255U);
-    EXPECT_NE(joystick().richText().formatAt(5).colour, 255U);
-    EXPECT_NE(joystick().richText().formatAt(17).colour, 255U);
+    EXPECT_EQ(joystick().shown().richText().formatAt(11).colour, 255U);
+    EXPECT_EQ(joystick().shown().richText().formatAt(16).colour, 255U);
+    EXPECT_NE(joystick().shown().richText().formatAt(5).colour, 255U);
+    EXPECT_NE(joystick().shown().richText().formatAt(17).colour, 255U);
 }
 
 TEST_F(FindAndReplaceTest, ReplaceAllIsOneStepAndReported)
@@ -314,7 +313,7 @@ TEST_F(FindAndReplaceTest, ReplaceAllIsOneStepAndReported)
     EXPECT_EQ(button(u"Command3"_s)->text(), u"Find first");
     EXPECT_EQ(selection(joystick()), Selection(22, 0));
     EXPECT_EQ(steps(DocumentKind::Joystick), 1);
-    EXPECT_EQ(editor->joystick().state, EditorDocument::Modified);
+    EXPECT_EQ(editor->joystick().state(), Document::Modified);
     open(u"mnuEditUndo"_s);
     EXPECT_EQ(editor->joystickText(), u"Fire one\nfire two\nFires three\n");
 }
@@ -354,7 +353,7 @@ TEST_F(FindAndReplaceTest, NothingReplacedIsNoModification)
     expectBox(replacedAll);
     button(u"Command6"_s)->click();
     EXPECT_EQ(lastBox(), u"0 replacements were made in Untitled.tmj");
-    EXPECT_EQ(editor->joystick().state, EditorDocument::Saved);
+    EXPECT_EQ(editor->joystick().state(), Document::Saved);
 }
 
 TEST_F(FindAndReplaceTest, ReplaceWithoutASelectionOnlySearchesOn)
@@ -363,7 +362,7 @@ TEST_F(FindAndReplaceTest, ReplaceWithoutASelectionOnlySearchesOn)
     write(u"ComboTextReplaceFind"_s, u"fire"_s);
     write(u"ComboTextReplaceWith"_s, u"Drop"_s);
     button(u"Command3"_s)->click();
-    joystick().select(6, 0);
+    joystick().shown().select(6, 0);
     button(u"Command5"_s)->click();
     EXPECT_EQ(editor->joystickText(), u"Fire one\nfire two\nFires three\n");
     EXPECT_EQ(selection(joystick()), Selection(9, 4));
@@ -372,7 +371,7 @@ TEST_F(FindAndReplaceTest, ReplaceWithoutASelectionOnlySearchesOn)
 TEST_F(FindAndReplaceTest, AProtectedMacroFileIsSearchedAndNotReplaced)
 {
     editor->action(u"mnuPreferencesProtectMacroFile")->trigger();
-    editor->view().select(DocumentKind::Macro);
+    editor->documents().select(DocumentKind::Macro);
     open(u"mnuEditReplace"_s);
     write(u"ComboTextReplaceFind"_s, u"fire"_s);
     button(u"Command3"_s)->click();
@@ -387,7 +386,7 @@ TEST_F(FindAndReplaceTest, AProtectedMacroFileIsSearchedAndNotReplaced)
 TEST_F(FindAndReplaceTest, TheJoystickFileCanBeReplacedInWhileTheProtectedOneIsSelected)
 {
     editor->action(u"mnuPreferencesProtectMacroFile")->trigger();
-    editor->view().select(DocumentKind::Macro);
+    editor->documents().select(DocumentKind::Macro);
     open(u"mnuEditReplace"_s);
     control<QRadioButton>(u"OptionJoystickR"_s)->click();
     write(u"ComboTextReplaceFind"_s, u"one"_s);
@@ -399,7 +398,7 @@ TEST_F(FindAndReplaceTest, TheJoystickFileCanBeReplacedInWhileTheProtectedOneIsS
 
 TEST_F(FindAndReplaceTest, GotoPutsTheCaretAtTheLinesFirstCharacter)
 {
-    joystick().select(0, 20);
+    joystick().shown().select(0, 20);
     open(u"mnuEditGoto"_s);
     control<QLineEdit>(u"LineToFind"_s)->setText(u"2"_s);
     button(u"Command7"_s)->click();
@@ -413,12 +412,12 @@ TEST_F(FindAndReplaceTest, GotoPutsTheCaretAtTheLinesFirstCharacter)
 TEST_F(FindAndReplaceTest, GotoGoesToALineOfTheSelectedDocument)
 {
     load(DocumentKind::Macro, u"Fire = SPC\nGun = g"_s);
-    editor->view().select(DocumentKind::Macro);
+    editor->documents().select(DocumentKind::Macro);
     open(u"mnuEditGoto"_s);
     control<QLineEdit>(u"LineToFind"_s)->setText(u"2"_s);
     button(u"Command7"_s)->click();
     EXPECT_EQ(selection(macro()), Selection(11, 0));
-    EXPECT_EQ(editor->selected().kind, DocumentKind::Macro);
+    EXPECT_EQ(editor->selected().kind(), DocumentKind::Macro);
 }
 
 TEST_F(FindAndReplaceTest, ALineThatIsNotThereIsTold)

@@ -60,7 +60,7 @@ protected:
     /// pass leaves plain in a delay.
     QString coloursOfWords(DocumentKind kind)
     {
-        const QString text = control(kind)->text();
+        const QString text = control(kind)->shown().text();
         const QString all = colours(kind);
         QString seen;
         for (qsizetype i = 0; i < text.size(); ++i) {
@@ -68,7 +68,7 @@ protected:
         }
         return seen;
     }
-    void caretAt(DocumentKind kind, int position) { control(kind)->select(position, 0); }
+    void caretAt(DocumentKind kind, int position) { control(kind)->shown().select(position, 0); }
 };
 
 } // namespace
@@ -76,7 +76,7 @@ protected:
 TEST_F(InsertFormsTest, AHeadingStandsOnLinesOfItsOwnInTheCommentsColour)
 {
     set(M, u"Gun = a"_s);
-    editor->view().select(M);
+    editor->documents().select(M);
     caretAt(M, 3);
     insertHeading(u"IR"_s);
     EXPECT_EQ(editor->macroText(), u"Gun\nRem --\nRem           IR\nRem --\n = a");
@@ -90,7 +90,7 @@ TEST_F(InsertFormsTest, AnInsertedHeadingIsInTheMacroListOnceTheFileIsSaved)
 {
     const QString path = file(u"a.tmm"_s, "Gun = a\r\n");
     editor->opening().OpenFavouriteFile(path);
-    editor->view().select(M);
+    editor->documents().select(M);
     caretAt(M, 8);
     insertHeading(u"radar AND displays"_s);
     type(M, u"Lock = b\n"_s);
@@ -120,7 +120,7 @@ TEST_F(InsertFormsTest, WithoutTheListAHeadingCanStillBeTyped)
     EXPECT_EQ(heading->findChild<QComboBox *>(u"Combo1"_s)->count(), 0);
     heading->reject();
     EXPECT_EQ(editor->joystickText(), u"");
-    EXPECT_EQ(editor->joystick().state, EditorDocument::Empty);
+    EXPECT_EQ(editor->joystick().state(), Document::Empty);
 }
 
 TEST_F(InsertFormsTest, AHeadingOfBlanksIsNone)
@@ -134,7 +134,7 @@ TEST_F(InsertFormsTest, AHeadingOfBlanksIsNone)
 TEST_F(InsertFormsTest, AProtectedMacroFileRefusesEachFormBeforeItOpens)
 {
     set(M, u"a = b"_s);
-    editor->view().select(M);
+    editor->documents().select(M);
     protectMacro();
     for (const QStringView entry :
          { u"mnuInsertHeading", u"mnuInsertTitle", u"mnuInsertRemStatement", u"mnuSlashArray_0" }) {
@@ -144,7 +144,7 @@ TEST_F(InsertFormsTest, AProtectedMacroFileRefusesEachFormBeforeItOpens)
     EXPECT_TRUE(editor->findChildren<QDialog *>().isEmpty());
     EXPECT_EQ(dialogs.boxes().size(), 4);
     EXPECT_EQ(editor->macroText(), u"a = b");
-    EXPECT_EQ(editor->macro().state, EditorDocument::Saved);
+    EXPECT_EQ(editor->macro().state(), Document::Saved);
 }
 
 TEST_F(InsertFormsTest, ACommentStandsAtTheCaretAndALineEndBehindItWhenWanted)
@@ -157,7 +157,7 @@ TEST_F(InsertFormsTest, ACommentStandsAtTheCaretAndALineEndBehindItWhenWanted)
     press(rem, u"cmdOK"_s);
     EXPECT_EQ(editor->joystickText(), u"BTN S1 Gun Rem  fires\n\nBTN S2");
     EXPECT_EQ(colours(J), u"...........cccccccccc........");
-    EXPECT_EQ(joystick()->selStart(), 22);
+    EXPECT_EQ(joystick()->shown().selStart(), 22);
 }
 
 TEST_F(InsertFormsTest, TheTickOfTheLineEndIsKept)

@@ -83,8 +83,8 @@ TEST_F(AutoSaveTest, BothDocumentsAreSavedWithTheirColouredCopies)
     EXPECT_EQ(folder.read(u"Files/a.tmm"_s), "ym = a");
     EXPECT_EQ(readRtf(folder.read(u"Rtf/a.tmj"_s))->text, u"xBTN S1 a");
     EXPECT_EQ(readRtf(folder.read(u"Rtf/a.tmm"_s))->text, u"ym = a");
-    EXPECT_EQ(editor->joystick().state, EditorDocument::Saved);
-    EXPECT_EQ(editor->macro().state, EditorDocument::Saved);
+    EXPECT_EQ(editor->joystick().state(), Document::Saved);
+    EXPECT_EQ(editor->macro().state(), Document::Saved);
     EXPECT_EQ(status.text(), macro + u" saved successfully."_s);
     EXPECT_EQ(status.savedPicture(), 2);
 }
@@ -94,12 +94,12 @@ TEST_F(AutoSaveTest, CaretStampAndHistoryStayAsTheyAre)
     settings.UndoClearOnSave = 1;
     open(u"a.tmj"_s, "Rem Last modified: long ago\r\nBTN S1 a");
     type(DocumentKind::Joystick, u"x"_s);
-    editor->joystick().control->select(5, 3);
+    editor->joystick().select(5, 3);
     ASSERT_TRUE(editor->action(u"mnuEditUndo")->isEnabled());
     guard().AutoSaveFile();
     EXPECT_EQ(folder.read(u"Files/a.tmj"_s), "xRem Last modified: long ago\r\nBTN S1 a");
-    EXPECT_EQ(editor->joystick().control->selStart(), 5);
-    EXPECT_EQ(editor->joystick().control->selLength(), 3);
+    EXPECT_EQ(editor->joystick().selStart(), 5);
+    EXPECT_EQ(editor->joystick().selLength(), 3);
     EXPECT_TRUE(editor->action(u"mnuEditUndo")->isEnabled());
 }
 
@@ -156,7 +156,7 @@ TEST_F(AutoSaveTest, AnUnnamedFileThatCannotMoveAsideStaysAndIsTold)
     type(DocumentKind::Joystick, u"BTN S1 a"_s);
     guard().AutoSaveFile();
     EXPECT_EQ(folder.read(u"Files/Untitled.tmj"_s), "yesterday's work");
-    EXPECT_EQ(editor->joystick().state, EditorDocument::Modified);
+    EXPECT_EQ(editor->joystick().state(), Document::Modified);
     EXPECT_TRUE(status.text().contains(u"wasn't saved"_s)) << status.text().toStdString();
 }
 
@@ -168,18 +168,18 @@ TEST_F(AutoSaveTest, AReadOnlyFileFailsAndStaysAsItIs)
     dialogs.answer(unsavedTitle, BoxButton::Ok);
     guard().AutoSaveFile();
     EXPECT_EQ(folder.read(u"Files/a.tmj"_s), "BTN S1 a");
-    EXPECT_EQ(editor->joystick().state, EditorDocument::Modified);
+    EXPECT_EQ(editor->joystick().state(), Document::Modified);
 }
 
 TEST_F(AutoSaveTest, ALetterThatTheFileCannotHoldIsToldWithoutMovingTheCaret)
 {
     open(u"a.tmj"_s, "BTN S1 a");
     type(DocumentKind::Joystick, u"\u03A9"_s);
-    editor->joystick().control->select(4, 0);
+    editor->joystick().select(4, 0);
     dialogs.answer(u"There's a letter in there that I can't write"_s, BoxButton::Ok);
     guard().AutoSaveFile();
-    EXPECT_EQ(editor->joystick().control->selStart(), 4);
-    EXPECT_EQ(editor->joystick().state, EditorDocument::Modified);
+    EXPECT_EQ(editor->joystick().selStart(), 4);
+    EXPECT_EQ(editor->joystick().state(), Document::Modified);
 }
 
 TEST_F(AutoSaveTest, ItRunsOnlyWhenWantedAndAFreshDocumentStartsTheCount)
@@ -232,7 +232,7 @@ TEST_F(AutoSaveTest, ABackupThatCannotBeWrittenIsToldAndTheSaveHolds)
     EXPECT_EQ(folder.read(u"Files/a.tmj"_s), "xBTN S1 a");
     EXPECT_TRUE(status.text().startsWith(path + u" saved successfully. Its backup wasn't: "_s))
         << status.text().toStdString();
-    EXPECT_EQ(editor->joystick().state, EditorDocument::Saved);
+    EXPECT_EQ(editor->joystick().state(), Document::Saved);
 }
 
 TEST_F(AutoSaveTest, TheEmergencySavesBothAsAUserWould)

@@ -27,7 +27,7 @@ class FileExtremesTest : public EditorTest
 protected:
     FileOpening &opening() { return editor->opening(); }
     FileSaving &saving() { return editor->saving(); }
-    TextControl *joystick() { return editor->joystick().control; }
+    TextControl *joystick() { return &editor->view().control(DocumentKind::Joystick); }
     QString tabText(int index)
     {
         return editor->findChild<QTabBar *>(u"TabStrip1"_s)->tabText(index);
@@ -37,7 +37,7 @@ protected:
     {
         opening().mnuFileJoystickLoad_Click(path);
         type(DocumentKind::Joystick, u"x"_s);
-        joystick()->replace(0, 1, {});
+        joystick()->shown().replace(0, 1, {});
         saving().mnuFileSave_Click();
     }
 };
@@ -77,13 +77,13 @@ TEST_F(FileExtremesTest, TwoHundredThousandLinesComeBack)
 TEST_F(FileExtremesTest, AnEmptyFileIsASavedDocument)
 {
     opening().mnuFileJoystickLoad_Click(file(u"a.tmj"_s, ""));
-    EXPECT_EQ(editor->joystick().state, EditorDocument::Saved);
+    EXPECT_EQ(editor->joystick().state(), Document::Saved);
     type(DocumentKind::Joystick, u"x"_s);
-    EXPECT_EQ(editor->joystick().state, EditorDocument::Modified);
+    EXPECT_EQ(editor->joystick().state(), Document::Modified);
     saving().mnuFileSave_Click();
-    EXPECT_EQ(editor->joystick().state, EditorDocument::Saved);
+    EXPECT_EQ(editor->joystick().state(), Document::Saved);
     editor->fresh().mnuFileNewJoystick_Click();
-    EXPECT_EQ(editor->joystick().state, EditorDocument::Empty);
+    EXPECT_EQ(editor->joystick().state(), Document::Empty);
 }
 
 TEST_F(FileExtremesTest, AFileIsSavedEvenWhereItsColouredCopyCannotBe)
@@ -95,7 +95,7 @@ TEST_F(FileExtremesTest, AFileIsSavedEvenWhereItsColouredCopyCannotBe)
     type(DocumentKind::Joystick, u"x"_s);
     saving().mnuFileSave_Click();
     EXPECT_EQ(folder.read(u"Files/a.tmj"_s), "xBTN");
-    EXPECT_EQ(editor->joystick().state, EditorDocument::Saved);
+    EXPECT_EQ(editor->joystick().state(), Document::Saved);
     EXPECT_TRUE(
         status.text().startsWith(folder.file(u"Files/a.tmj"_s) + u" saved successfully."_s));
     EXPECT_TRUE(status.text().contains(u"coloured copy"_s));
@@ -123,7 +123,7 @@ TEST_F(FileExtremesTest, TwoFilesOfOneNameShareACopyWithoutHarm)
     EXPECT_EQ(editor->joystickText(), u"BTN S1 there");
     opening().mnuFileJoystickLoad_Click(here);
     EXPECT_EQ(editor->joystickText(), u"BTN S1 here");
-    EXPECT_EQ(editor->joystick().path, here);
+    EXPECT_EQ(editor->joystick().path(), here);
 }
 
 TEST_F(FileExtremesTest, ANameWithAnAmpersandIsShownAsItIs)
@@ -139,8 +139,8 @@ TEST_F(FileExtremesTest, ACapitalExtensionIsLowerCasedOnTheTabAlone)
 {
     opening().mnuFileJoystickLoad_Click(file(u"FALCON.TMJ"_s, "BTN"));
     EXPECT_EQ(tabText(0), u"FALCON.tmj");
-    EXPECT_EQ(editor->joystick().name, u"FALCON.TMJ");
-    EXPECT_EQ(editor->joystick().path, folder.file(u"Files/FALCON.TMJ"_s));
+    EXPECT_EQ(editor->joystick().name(), u"FALCON.TMJ");
+    EXPECT_EQ(editor->joystick().path(), folder.file(u"Files/FALCON.TMJ"_s));
 }
 
 TEST_F(FileExtremesTest, ANameOfAnyAlphabetIsOpenedAndSaved)
@@ -150,11 +150,11 @@ TEST_F(FileExtremesTest, ANameOfAnyAlphabetIsOpenedAndSaved)
     file(u"Полёт 猫.tmm"_s, "Gun = g");
     opening().mnuFileOpen_Click(joystick);
     EXPECT_EQ(editor->macroText(), u"Gun = g");
-    editor->view().select(DocumentKind::Joystick);
+    editor->documents().select(DocumentKind::Joystick);
     type(DocumentKind::Joystick, u"x"_s);
     saving().mnuFileSave_Click();
     EXPECT_EQ(folder.read(u"Files/"_s + name), "xBTN S1 a");
-    EXPECT_EQ(editor->joystick().state, EditorDocument::Saved);
+    EXPECT_EQ(editor->joystick().state(), Document::Saved);
 }
 
 TEST_F(FileExtremesTest, TheSameFileOpenedTwiceIsReadAfresh)
@@ -175,7 +175,7 @@ TEST_F(FileExtremesTest, SaveAsOverItselfAsksAndSaves)
     dialogs.answer(u"OK to overwrite exisiting file?"_s, BoxButton::Yes);
     saving().mnuFileSaveAs_Click();
     EXPECT_EQ(folder.read(u"Files/a.tmj"_s), "xBTN");
-    EXPECT_EQ(editor->joystick().state, EditorDocument::Saved);
+    EXPECT_EQ(editor->joystick().state(), Document::Saved);
 }
 
 TEST_F(FileExtremesTest, SaveAsOverAFileInAnotherCaseOverwritesThatFile)
@@ -187,7 +187,7 @@ TEST_F(FileExtremesTest, SaveAsOverAFileInAnotherCaseOverwritesThatFile)
     saving().mnuFileSaveAs_Click();
     EXPECT_EQ(QDir(folder.file(u"Files"_s)).entryList(QDir::Files), QStringList{ u"Old.TMJ"_s });
     EXPECT_EQ(folder.read(u"Files/Old.TMJ"_s), "new");
-    EXPECT_EQ(editor->joystick().name, u"Old.TMJ");
+    EXPECT_EQ(editor->joystick().name(), u"Old.TMJ");
     EXPECT_EQ(tabText(0), u"Old.tmj");
 }
 
@@ -196,13 +196,13 @@ TEST_F(FileExtremesTest, AMacroFileSavedOverTheJoystickFileLeavesThatOneUnsaved)
     const QString path = file(u"a.tmj"_s, "BTN");
     opening().mnuFileJoystickLoad_Click(path);
     type(DocumentKind::Macro, u"Gun = g"_s);
-    editor->view().select(DocumentKind::Macro);
+    editor->documents().select(DocumentKind::Macro);
     dialogs.answerFile(path);
     dialogs.answer(u"OK to overwrite exisiting file?"_s, BoxButton::Yes);
     saving().mnuFileSaveAs_Click();
     EXPECT_EQ(folder.read(u"Files/a.tmj"_s), "Gun = g");
-    EXPECT_EQ(editor->macro().state, EditorDocument::Saved);
-    EXPECT_EQ(editor->joystick().state, EditorDocument::Modified);
+    EXPECT_EQ(editor->macro().state(), Document::Saved);
+    EXPECT_EQ(editor->joystick().state(), Document::Modified);
     EXPECT_EQ(editor->joystickText(), u"BTN");
 }
 
@@ -229,13 +229,13 @@ TEST_F(FileExtremesTest, ACharacterOfTwoUnitsIsShownAndSelectedWhole)
 TEST_F(FileExtremesTest, TheSelectionStaysOnItsTextWhenTheStampBeforeItGrows)
 {
     opening().MnuFileMacroLoad_Click(file(u"a.tmm"_s, "Rem Last modified: x\r\nGun = g"));
-    TextControl *macro = editor->macro().control;
-    macro->select(int(editor->macroText().indexOf(u"Gun"_s)), 3);
+    TextControl *macro = &editor->view().control(DocumentKind::Macro);
+    macro->shown().select(int(editor->macroText().indexOf(u"Gun"_s)), 3);
     saving().mnuFileSave_Click();
     EXPECT_EQ(macro->textCursor().selectedText(), u"Gun");
     // The document remembers the same for the next change of tabs.
-    editor->view().select(DocumentKind::Joystick);
-    editor->view().select(DocumentKind::Macro);
+    editor->documents().select(DocumentKind::Joystick);
+    editor->documents().select(DocumentKind::Macro);
     EXPECT_EQ(macro->textCursor().selectedText(), u"Gun");
 }
 
@@ -244,10 +244,10 @@ TEST_F(FileExtremesTest, ACaretInTheStampStaysWhereItIs)
     opening().mnuFileJoystickLoad_Click(
         file(u"a.tmj"_s, "Rem Last modified: 01 May 2020, 1:00 pm"));
     for (const int caret : { 19, 22, 4 }) {
-        joystick()->select(caret, 0);
+        joystick()->shown().select(caret, 0);
         saving().mnuFileSave_Click();
-        EXPECT_EQ(joystick()->selStart(), caret);
-        EXPECT_EQ(joystick()->selLength(), 0);
+        EXPECT_EQ(joystick()->shown().selStart(), caret);
+        EXPECT_EQ(joystick()->shown().selLength(), 0);
     }
 }
 
@@ -258,7 +258,7 @@ TEST_F(FileExtremesTest, ASaveLeavesWhatTheUserSees)
     ASSERT_TRUE(QTest::qWaitForWindowExposed(editor.get()));
     const QByteArray bytes = "Rem last modified: x\r\n" + QByteArray("BTN S1 a\r\n").repeated(500);
     opening().mnuFileJoystickLoad_Click(file(u"a.tmj"_s, bytes));
-    joystick()->select(30, 0);
+    joystick()->shown().select(30, 0);
     joystick()->verticalScrollBar()->setValue(300);
     saving().mnuFileSave_Click();
     EXPECT_EQ(joystick()->verticalScrollBar()->value(), 300);
@@ -267,11 +267,11 @@ TEST_F(FileExtremesTest, ASaveLeavesWhatTheUserSees)
 TEST_F(FileExtremesTest, TheLinePanelStartsAgainWithEachFile)
 {
     opening().mnuFileJoystickLoad_Click(file(u"a.tmj"_s, "a\r\nb\r\nc"));
-    joystick()->select(5, 0);
+    joystick()->shown().select(5, 0);
     ASSERT_EQ(status.lineText(), u"Line no: 3");
     opening().mnuFileJoystickLoad_Click(file(u"b.tmj"_s, "a\r\nb\r\nc"));
     EXPECT_EQ(status.lineText(), u"Line no: 1");
-    EXPECT_EQ(joystick()->selStart(), 0);
+    EXPECT_EQ(joystick()->shown().selStart(), 0);
 }
 
 TEST_F(FileExtremesTest, AFileThatCannotBeOpenedIsNamedOnTheStatusLineToo)
@@ -291,8 +291,8 @@ TEST_F(FileExtremesTest, AnUnreadableMacroFileOfAPairIsSaidSo)
     dialogs.answer(u"That's no text file buddy"_s, BoxButton::Ok);
     opening().mnuFileOpen_Click(joystick);
     EXPECT_EQ(status.text(), u"Macro file not opened");
-    EXPECT_EQ(editor->selected().kind, DocumentKind::Joystick);
-    EXPECT_EQ(editor->macro().name, u"Untitled.tmm");
+    EXPECT_EQ(editor->selected().kind(), DocumentKind::Joystick);
+    EXPECT_EQ(editor->macro().name(), u"Untitled.tmm");
 }
 
 TEST_F(FileExtremesTest, AFolderOfTheJoystickFilesNameIsNoPartner)
@@ -319,7 +319,7 @@ TEST_F(FileExtremesTest, RestoredFilesOpenByTheirExtension)
     const QString macro = file(u"odd.tmm"_s, "Gun = g");
     opening().OpenRestoredStatus(macro, {});
     EXPECT_EQ(editor->macroText(), u"Gun = g");
-    EXPECT_EQ(editor->joystick().state, EditorDocument::Empty);
+    EXPECT_EQ(editor->joystick().state(), Document::Empty);
 }
 
 TEST_F(FileExtremesTest, TheFileMenuTellsTheRewrittenNameEverywhere)
@@ -337,6 +337,6 @@ TEST_F(FileExtremesTest, NewHardwareRenewsTheNamesOfUntitledFilesAlone)
     opening().MnuFileMacroLoad_Click(file(u"a.tmm"_s, "Gun = g"));
     editor->fresh().HardwareHasChanged();
     EXPECT_EQ(tabText(0), u"Untitled.tmj");
-    EXPECT_EQ(editor->joystick().path, paths.filesFolder() + u"Untitled.tmj"_s);
-    EXPECT_EQ(editor->macro().name, u"a.tmm");
+    EXPECT_EQ(editor->joystick().path(), paths.filesFolder() + u"Untitled.tmj"_s);
+    EXPECT_EQ(editor->macro().name(), u"a.tmm");
 }

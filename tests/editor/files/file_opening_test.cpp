@@ -27,7 +27,7 @@ protected:
     }
     ColorRef colourAt(DocumentKind kind, qsizetype position)
     {
-        return editor->view().document(kind).control->richText().formatAt(position).colour.value_or(
+        return editor->documents().of(kind).richText().formatAt(position).colour.value_or(
             0xFFFFFFFF);
     }
     FileOpening &opening() { return editor->opening(); }
@@ -42,10 +42,10 @@ TEST_F(FileOpeningTest, APairIsOpenedByItsUseMdef)
     opening().mnuFileOpen_Click(joystick);
     EXPECT_EQ(editor->joystickText(), u"USE MDEF macros.tmm\nBTN S1 Fire\n");
     EXPECT_EQ(editor->macroText(), u"Fire = SPC\n");
-    EXPECT_EQ(editor->selected().kind, DocumentKind::Joystick);
+    EXPECT_EQ(editor->selected().kind(), DocumentKind::Joystick);
     EXPECT_EQ(status.text(), u"Finished analysing the macros assigned in your joystick file.");
-    EXPECT_EQ(editor->joystick().state, EditorDocument::Saved);
-    EXPECT_EQ(editor->macro().state, EditorDocument::Saved);
+    EXPECT_EQ(editor->joystick().state(), Document::Saved);
+    EXPECT_EQ(editor->macro().state(), Document::Saved);
 }
 
 TEST_F(FileOpeningTest, ANamedMacroFileIsFoundInAnyCase)
@@ -53,7 +53,7 @@ TEST_F(FileOpeningTest, ANamedMacroFileIsFoundInAnyCase)
     const QString joystick = file(u"a.tmj"_s, "USE MDEF MACROS.tmm\r\n");
     file(u"Macros.TMM"_s, "Fire = SPC");
     opening().mnuFileOpen_Click(joystick);
-    EXPECT_EQ(editor->macro().name, u"Macros.TMM");
+    EXPECT_EQ(editor->macro().name(), u"Macros.TMM");
 }
 
 TEST_F(FileOpeningTest, WithoutAnExistingMdefFileTheSameNameServes)
@@ -61,7 +61,7 @@ TEST_F(FileOpeningTest, WithoutAnExistingMdefFileTheSameNameServes)
     const QString joystick = file(u"a.f22"_s, "USE MDEF gone\r\n");
     file(u"a.m22"_s, "Fire = SPC");
     opening().mnuFileOpen_Click(joystick);
-    EXPECT_EQ(editor->macro().name, u"a.m22");
+    EXPECT_EQ(editor->macro().name(), u"a.m22");
 }
 
 TEST_F(FileOpeningTest, AJoystickFileWithoutMacroFileLeavesTheLastOneInPlace)
@@ -70,8 +70,8 @@ TEST_F(FileOpeningTest, AJoystickFileWithoutMacroFileLeavesTheLastOneInPlace)
     opening().mnuFileOpen_Click(file(u"a.tmj"_s, "BTN S1 a"));
     EXPECT_EQ(status.text(), u"Macro file not opened");
     EXPECT_EQ(editor->macroText(), u"Gun = g");
-    EXPECT_EQ(editor->macro().name, u"other.tmm");
-    EXPECT_EQ(editor->selected().kind, DocumentKind::Joystick);
+    EXPECT_EQ(editor->macro().name(), u"other.tmm");
+    EXPECT_EQ(editor->selected().kind(), DocumentKind::Joystick);
 }
 
 TEST_F(FileOpeningTest, APickedMacroFileBringsTheJoystickFileOfItsNameAndNoMdefSearch)
@@ -80,8 +80,8 @@ TEST_F(FileOpeningTest, APickedMacroFileBringsTheJoystickFileOfItsNameAndNoMdefS
     file(u"a.tmj"_s, "USE MDEF other.tmm");
     file(u"other.tmm"_s, "Fire = SPC");
     opening().mnuFileOpen_Click(macro);
-    EXPECT_EQ(editor->joystick().name, u"a.tmj");
-    EXPECT_EQ(editor->macro().name, u"a.tmm");
+    EXPECT_EQ(editor->joystick().name(), u"a.tmj");
+    EXPECT_EQ(editor->macro().name(), u"a.tmm");
 }
 
 TEST_F(FileOpeningTest, APickedMacroFileWithoutPartnerStandsAlone)
@@ -89,7 +89,7 @@ TEST_F(FileOpeningTest, APickedMacroFileWithoutPartnerStandsAlone)
     opening().mnuFileOpen_Click(file(u"a.mdf"_s, "Gun = g"));
     EXPECT_EQ(status.text(), u"Joystick file not opened");
     EXPECT_EQ(editor->macroText(), u"Gun = g");
-    EXPECT_EQ(editor->joystick().state, EditorDocument::Empty);
+    EXPECT_EQ(editor->joystick().state(), Document::Empty);
 }
 
 TEST_F(FileOpeningTest, AStrangeExtensionOpensNothing)
@@ -126,14 +126,14 @@ TEST_F(FileOpeningTest, ACapitalExtensionShowsInLowerCaseWhileThePathKeepsItsCas
 {
     const QString path = file(u"FALCON.TMJ"_s, "BTN S1 a");
     opening().mnuFileJoystickLoad_Click(path);
-    EXPECT_EQ(editor->joystick().path, path);
+    EXPECT_EQ(editor->joystick().path(), path);
     EXPECT_EQ(editor->joystick().caption(), u"FALCON.tmj");
 }
 
 TEST_F(FileOpeningTest, AVanishedFileIsToldWithPathAndReasonAndReplacesNothing)
 {
     type(DocumentKind::Joystick, u"BTN S1 a"_s);
-    editor->joystick().state = EditorDocument::Saved;
+    editor->joystick().setState(Document::Saved);
     const QString path = folder.file(u"Files/gone.tmj"_s);
     dialogs.answer(u"I couldn't open that file buddy"_s, BoxButton::Ok);
     opening().mnuFileJoystickLoad_Click(path);
@@ -147,7 +147,7 @@ TEST_F(FileOpeningTest, ANulIsToldAndReplacesNothing)
     dialogs.answer(u"That's no text file buddy"_s, BoxButton::Ok);
     opening().mnuFileJoystickLoad_Click(path);
     EXPECT_TRUE(dialogs.boxes().last().text.contains(path));
-    EXPECT_EQ(editor->joystick().name, u"Untitled.tmj");
+    EXPECT_EQ(editor->joystick().name(), u"Untitled.tmj");
 }
 
 TEST_F(FileOpeningTest, CancelInTheQuestionLeavesEverything)
@@ -234,7 +234,7 @@ TEST_F(FileOpeningTest, RestoredFilesOpenEachOnItsOwnIfItExists)
     const QString macro = file(u"b.tmm"_s, "Gun = g");
     EXPECT_TRUE(opening().OpenRestoredStatus(folder.file(u"Files/gone.tmj"_s), macro));
     EXPECT_EQ(editor->macroText(), u"Gun = g");
-    EXPECT_EQ(editor->joystick().state, EditorDocument::Empty);
+    EXPECT_EQ(editor->joystick().state(), Document::Empty);
     EXPECT_FALSE(opening().OpenRestoredStatus({}, {}));
 }
 
@@ -251,8 +251,8 @@ TEST_F(FileOpeningTest, PictureAndReadmeAreFoundBesideTheFile)
 TEST_F(FileOpeningTest, OpeningSelectsTheTabAndPutsTheCaretAtTheStart)
 {
     opening().MnuFileMacroLoad_Click(file(u"a.tmm"_s, "Gun = g\r\nFire = f"));
-    EXPECT_EQ(editor->selected().kind, DocumentKind::Macro);
-    EXPECT_EQ(editor->macro().control->selStart(), 0);
+    EXPECT_EQ(editor->selected().kind(), DocumentKind::Macro);
+    EXPECT_EQ(editor->macro().selStart(), 0);
     EXPECT_EQ(status.lineText(), u"Line no: 1");
     EXPECT_EQ(status.savedPicture(), 2);
 }

@@ -34,12 +34,12 @@ TEST_F(FileSavingTest, ASaveWritesThePlainFileAndItsColouredCopy)
 {
     open(u"a.tmj"_s, "BTN S1 a");
     type(DocumentKind::Joystick, u"Rem x\n"_s);
-    EXPECT_EQ(editor->joystick().state, EditorDocument::Modified);
+    EXPECT_EQ(editor->joystick().state(), Document::Modified);
     EXPECT_EQ(status.savedPicture(), 3);
     saving().mnuFileSave_Click();
     EXPECT_EQ(folder.read(u"Files/a.tmj"_s), "Rem x\r\nBTN S1 a");
     EXPECT_EQ(readRtf(folder.read(u"Rtf/a.tmj"_s))->text, u"Rem x\nBTN S1 a");
-    EXPECT_EQ(editor->joystick().state, EditorDocument::Saved);
+    EXPECT_EQ(editor->joystick().state(), Document::Saved);
     EXPECT_EQ(status.text(), folder.file(u"Files/a.tmj"_s) + u" saved successfully."_s);
     EXPECT_EQ(status.savedTooltip(), u"a.tmj is saved");
 }
@@ -64,7 +64,7 @@ TEST_F(FileSavingTest, TheStampIsBroughtUpToDateAndIsNoEdit)
     saving().mnuFileSave_Click();
     EXPECT_EQ(folder.read(u"Files/a.tmj"_s),
               "Rem Last modified: 05 March 2024, 9:07 am\r\nBTN S1 a");
-    EXPECT_EQ(editor->joystick().state, EditorDocument::Saved);
+    EXPECT_EQ(editor->joystick().state(), Document::Saved);
 }
 
 TEST_F(FileSavingTest, WithoutUpdateModifiedTheStampStays)
@@ -78,10 +78,10 @@ TEST_F(FileSavingTest, WithoutUpdateModifiedTheStampStays)
 TEST_F(FileSavingTest, TheSelectionIsPutBack)
 {
     open(u"a.tmj"_s, "BTN S1 a\r\nUSE ZEPH README x.txt");
-    editor->joystick().control->select(4, 2);
+    editor->joystick().select(4, 2);
     saving().mnuFileSave_Click();
-    EXPECT_EQ(editor->joystick().control->selStart(), 4);
-    EXPECT_EQ(editor->joystick().control->selLength(), 2);
+    EXPECT_EQ(editor->joystick().selStart(), 4);
+    EXPECT_EQ(editor->joystick().selLength(), 2);
 }
 
 TEST_F(FileSavingTest, AnUntitledDocumentGoesToSaveAs)
@@ -91,7 +91,7 @@ TEST_F(FileSavingTest, AnUntitledDocumentGoesToSaveAs)
     saving().mnuFileSave_Click();
     EXPECT_EQ(dialogs.files().last().title, u"Save file as ...");
     EXPECT_EQ(folder.read(u"Files/new.tmj"_s), "BTN S1 a");
-    EXPECT_EQ(editor->joystick().name, u"new.tmj");
+    EXPECT_EQ(editor->joystick().name(), u"new.tmj");
 }
 
 TEST_F(FileSavingTest, ANameThatMerelyBeginsUntitledGoesToSaveAs)
@@ -101,7 +101,7 @@ TEST_F(FileSavingTest, ANameThatMerelyBeginsUntitledGoesToSaveAs)
     dialogs.answerFile({});
     saving().mnuFileSave_Click();
     EXPECT_EQ(dialogs.files().size(), 1);
-    EXPECT_EQ(editor->joystick().state, EditorDocument::Modified);
+    EXPECT_EQ(editor->joystick().state(), Document::Modified);
 }
 
 TEST_F(FileSavingTest, ACancelledSaveAsLeavesTheStateModified)
@@ -109,8 +109,8 @@ TEST_F(FileSavingTest, ACancelledSaveAsLeavesTheStateModified)
     type(DocumentKind::Joystick, u"BTN S1 a"_s);
     dialogs.answerFile({});
     saving().mnuFileSave_Click();
-    EXPECT_EQ(editor->joystick().state, EditorDocument::Modified);
-    EXPECT_EQ(editor->joystick().name, u"Untitled.tmj");
+    EXPECT_EQ(editor->joystick().state(), Document::Modified);
+    EXPECT_EQ(editor->joystick().name(), u"Untitled.tmj");
 }
 
 TEST_F(FileSavingTest, AnExistingFileIsOverwrittenOnlyWhenAskedFor)
@@ -158,7 +158,7 @@ TEST_F(FileSavingTest, SaveAsOverAReadOnlyFileSavesNothing)
     EXPECT_EQ(dialogs.boxes().last().text,
               path + u" is read only. Please save the file with a different name or location."_s);
     EXPECT_EQ(folder.read(u"Files/old.tmj"_s), "old");
-    EXPECT_EQ(editor->joystick().name, u"Untitled.tmj");
+    EXPECT_EQ(editor->joystick().name(), u"Untitled.tmj");
 }
 
 TEST_F(FileSavingTest, AFolderThatIsGoneIsToldAndTheDocumentStaysModified)
@@ -169,7 +169,7 @@ TEST_F(FileSavingTest, AFolderThatIsGoneIsToldAndTheDocumentStaysModified)
     dialogs.answer(u"I couldn't save your file buddy"_s, BoxButton::Ok);
     saving().mnuFileSave_Click();
     EXPECT_TRUE(dialogs.boxes().last().text.startsWith(folder.file(u"Files/deep/a.tmj"_s)));
-    EXPECT_EQ(editor->joystick().state, EditorDocument::Modified);
+    EXPECT_EQ(editor->joystick().state(), Document::Modified);
     EXPECT_EQ(editor->joystickText(), u"xBTN S1 a");
 }
 
@@ -179,21 +179,21 @@ TEST_F(FileSavingTest, AFailedSaveAsKeepsTheOldName)
     dialogs.answerFile(folder.file(u"nowhere/b.tmj"_s));
     dialogs.answer(u"I couldn't save your file buddy"_s, BoxButton::Ok);
     saving().mnuFileSaveAs_Click();
-    EXPECT_EQ(editor->joystick().path, folder.file(u"Files/a.tmj"_s));
-    EXPECT_EQ(editor->joystick().state, EditorDocument::Modified);
+    EXPECT_EQ(editor->joystick().path(), folder.file(u"Files/a.tmj"_s));
+    EXPECT_EQ(editor->joystick().state(), Document::Modified);
 }
 
 TEST_F(FileSavingTest, ACharacterOutsideTheCodePageIsRefusedAndShown)
 {
     open(u"a.tmj"_s, "one\r\ntwo");
-    editor->joystick().control->select(5, 0);
+    editor->joystick().select(5, 0);
     type(DocumentKind::Joystick, u"\u0416"_s);
     dialogs.answer(u"There's a letter in there that I can't write"_s, BoxButton::Ok);
     saving().mnuFileSave_Click();
     EXPECT_TRUE(dialogs.boxes().last().text.contains(u"in line 2"_s));
-    EXPECT_EQ(editor->joystick().control->selStart(), 5);
+    EXPECT_EQ(editor->joystick().selStart(), 5);
     EXPECT_EQ(folder.read(u"Files/a.tmj"_s), "one\r\ntwo");
-    EXPECT_EQ(editor->joystick().state, EditorDocument::Modified);
+    EXPECT_EQ(editor->joystick().state(), Document::Modified);
 }
 
 TEST_F(FileSavingTest, SaveBothSavesEachAndComesBackToTheTab)
@@ -205,13 +205,13 @@ TEST_F(FileSavingTest, SaveBothSavesEachAndComesBackToTheTab)
     saving().mnuFileSaveBoth_Click();
     EXPECT_EQ(folder.read(u"Files/a.tmj"_s), "xBTN S1 a");
     EXPECT_EQ(folder.read(u"Files/a.tmm"_s), "yGun = g");
-    EXPECT_EQ(editor->selected().kind, DocumentKind::Joystick);
+    EXPECT_EQ(editor->selected().kind(), DocumentKind::Joystick);
 }
 
 TEST_F(FileSavingTest, AnUntitledMacroFileIsProposedTheJoystickFilesName)
 {
     open(u"falcon.tmj"_s, "BTN S1 a");
-    editor->view().select(DocumentKind::Macro);
+    editor->documents().select(DocumentKind::Macro);
     dialogs.answerFile({});
     saving().mnuFileSaveAs_Click();
     EXPECT_EQ(dialogs.files().last().name, u"falcon.tmm");
@@ -223,9 +223,9 @@ TEST_F(FileSavingTest, AFreshFileTakesTheOldOnesPlace)
     open(u"a.tmj"_s, "USE ZEPH README x.txt");
     editor->fresh().mnuFileNewJoystick_Click();
     EXPECT_EQ(editor->joystickText(), QString());
-    EXPECT_EQ(editor->joystick().name, u"Untitled.tmj");
-    EXPECT_EQ(editor->joystick().path, paths.filesFolder() + u"Untitled.tmj"_s);
-    EXPECT_EQ(editor->joystick().state, EditorDocument::Empty);
+    EXPECT_EQ(editor->joystick().name(), u"Untitled.tmj");
+    EXPECT_EQ(editor->joystick().path(), paths.filesFolder() + u"Untitled.tmj"_s);
+    EXPECT_EQ(editor->joystick().state(), Document::Empty);
     EXPECT_EQ(status.text(), u"New joystick file created");
     EXPECT_EQ(status.savedTooltip(), u"Untitled.tmj has no text and isn't saved");
 }
@@ -261,6 +261,6 @@ TEST_F(FileSavingTest, OpeningTheFileMenuRewritesUntitledNames)
 {
     open(u"Untitled flight.tmj"_s, "BTN S1 a");
     Q_EMIT editor->actions().menu(u"mnuFile")->aboutToShow();
-    EXPECT_EQ(editor->joystick().name, u"Untitled.tmj");
+    EXPECT_EQ(editor->joystick().name(), u"Untitled.tmj");
     EXPECT_EQ(editor->joystickText(), u"BTN S1 a");
 }

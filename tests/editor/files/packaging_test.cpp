@@ -280,7 +280,7 @@ TEST_F(PackagingTest, AFileOfMineIsOverwrittenOnlyWhenISaySo)
 TEST_F(PackagingTest, AnOpenFileThatWasOverwrittenIsOpenedAgainWhenISaySo)
 {
     openSetup();
-    editor->view().select(DocumentKind::Joystick);
+    editor->documents().select(DocumentKind::Joystick);
     AnyZip zip;
     zip.file("My jet.tmj", "BTN S2 theirs\r\n").file("MY JET.tmm", "c = d\r\n");
     dialogs.answer(u"OK to overwrite exisiting file?"_s, BoxButton::Yes);
@@ -292,25 +292,25 @@ TEST_F(PackagingTest, AnOpenFileThatWasOverwrittenIsOpenedAgainWhenISaySo)
               u"My jet.tmm is open here, and its file has just been overwritten. Shall I open the "
               "new one instead of what you see?");
     EXPECT_EQ(dialogs.boxes().last().defaultButton, BoxButton::Yes);
-    EXPECT_EQ(editor->joystick().control->text().trimmed(), u"BTN S2 theirs");
-    EXPECT_EQ(editor->macro().control->text().trimmed(), u"c = d");
-    EXPECT_EQ(editor->joystick().state, EditorDocument::Saved);
-    EXPECT_EQ(editor->macro().state, EditorDocument::Saved);
-    EXPECT_EQ(editor->view().selected().kind, DocumentKind::Joystick);
+    EXPECT_EQ(editor->joystick().text().trimmed(), u"BTN S2 theirs");
+    EXPECT_EQ(editor->macro().text().trimmed(), u"c = d");
+    EXPECT_EQ(editor->joystick().state(), Document::Saved);
+    EXPECT_EQ(editor->macro().state(), Document::Saved);
+    EXPECT_EQ(editor->documents().selected().kind(), DocumentKind::Joystick);
 }
 
 TEST_F(PackagingTest, AnOpenFileThatIKeepOnTheScreenCountsAsNotSaved)
 {
     openSetup();
-    const QString before = editor->joystick().control->text();
+    const QString before = editor->joystick().text();
     AnyZip zip;
     zip.file("My jet.tmj", "BTN S2 theirs\r\n");
     dialogs.answer(u"OK to overwrite exisiting file?"_s, BoxButton::Yes);
     dialogs.answer(u"Open My jet.tmj again?"_s, BoxButton::No);
     openZip(zip.bytes());
-    EXPECT_EQ(editor->joystick().control->text(), before);
-    EXPECT_EQ(editor->joystick().state, EditorDocument::Modified);
-    EXPECT_EQ(editor->macro().state, EditorDocument::Saved);
+    EXPECT_EQ(editor->joystick().text(), before);
+    EXPECT_EQ(editor->joystick().state(), Document::Modified);
+    EXPECT_EQ(editor->macro().state(), Document::Saved);
 }
 
 TEST_F(PackagingTest, ChangesThatOpeningAgainWouldLoseAreToldAndKeptByDefault)
@@ -325,7 +325,7 @@ TEST_F(PackagingTest, ChangesThatOpeningAgainWouldLoseAreToldAndKeptByDefault)
     EXPECT_TRUE(dialogs.boxes().last().text.endsWith(
         u" What you've changed since you last saved it would be gone."));
     EXPECT_EQ(dialogs.boxes().last().defaultButton, BoxButton::No);
-    EXPECT_TRUE(editor->joystick().control->text().startsWith(u"Rem mine\n"));
+    EXPECT_TRUE(editor->joystick().text().startsWith(u"Rem mine\n"));
 }
 
 TEST_F(PackagingTest, AFileOfTheSameNameElsewhereIsNotTheOneThatIsOpen)
@@ -334,7 +334,7 @@ TEST_F(PackagingTest, AFileOfTheSameNameElsewhereIsNotTheOneThatIsOpen)
     AnyZip zip;
     zip.file("other/My jet.tmj", "BTN S2 theirs\r\n");
     openZip(zip.bytes());
-    EXPECT_EQ(editor->joystick().state, EditorDocument::Saved);
+    EXPECT_EQ(editor->joystick().state(), Document::Saved);
 }
 
 TEST_F(PackagingTest, WhatIsRefusedIsTold)

@@ -202,7 +202,7 @@ TEST_F(PrintingTest, AFileIsPrintedBehindItsPathAndTheDate)
     // The path may be wrapped, so it is compared without its line ends.
     const QString text = wordsOfPdf(pdf).join(u""_s);
     EXPECT_EQ(text.toStdString(),
-              QString(editor->macro().path + u"Printedon:05March2024,9:07amFire=SPCGear=g"_s)
+              QString(editor->macro().path() + u"Printedon:05March2024,9:07amFire=SPCGear=g"_s)
                   .remove(u' ')
                   .toStdString());
 }
@@ -211,7 +211,7 @@ TEST_F(PrintingTest, PrintCurrentPrintsTheSelectedTab)
 {
     set(J, u"BTN S1 a"_s);
     set(M, u"Fire = SPC"_s);
-    editor->view().select(M);
+    editor->documents().select(M);
     answerPrint(u"Untitled.tmm"_s);
     printing.PrintCurrent();
     EXPECT_TRUE(wordsOfPdf(pdf).contains(u"SPC"_s));
@@ -220,28 +220,28 @@ TEST_F(PrintingTest, PrintCurrentPrintsTheSelectedTab)
 TEST_F(PrintingTest, PrintSelectionPrintsOnlyThat)
 {
     set(J, u"one two three"_s);
-    joystick()->select(4, 3);
+    joystick()->shown().select(4, 3);
     printing.PrintAlternativeMethod();
     EXPECT_EQ(wordsOfPdf(pdf), QStringList{ u"two"_s });
-    EXPECT_EQ(joystick()->selStart(), 4);
-    EXPECT_EQ(joystick()->selLength(), 3);
+    EXPECT_EQ(joystick()->shown().selStart(), 4);
+    EXPECT_EQ(joystick()->shown().selLength(), 3);
 }
 
 TEST_F(PrintingTest, PrintSelectionWithoutOnePrintsEverythingAndSelectsNothing)
 {
     set(J, u"one two three"_s);
-    joystick()->select(2, 0);
+    joystick()->shown().select(2, 0);
     printing.PrintAlternativeMethod();
     EXPECT_EQ(wordsOfPdf(pdf), (QStringList{ u"one"_s, u"two"_s, u"three"_s }));
-    EXPECT_EQ(joystick()->selStart(), 2);
-    EXPECT_EQ(joystick()->selLength(), 0);
+    EXPECT_EQ(joystick()->shown().selStart(), 2);
+    EXPECT_EQ(joystick()->shown().selLength(), 0);
 }
 
 TEST_F(PrintingTest, PrintingIsNoEdit)
 {
     set(J, u"one two three"_s);
     printing.PrintAlternativeMethod();
-    EXPECT_EQ(editor->joystick().state, EditorDocument::Saved);
+    EXPECT_EQ(editor->joystick().state(), Document::Saved);
 }
 
 TEST_F(PrintingTest, TheMenuReachesThePrinterSetup)
@@ -274,7 +274,7 @@ TEST_F(PrintingTest, APdfNeedsNoPrinterAndHoldsALongFileWholeInItsColours)
 
     // Complete and in order, behind the header.
     const QList<PrintedWord> printed = printedWords(exported);
-    const QString text = joystick()->text();
+    const QString text = joystick()->shown().text();
     const QStringList wanted = wordsOf(text);
     const qsizetype header = printed.size() - wanted.size();
     ASSERT_GT(header, 3) << "words are missing, or the header is";
@@ -291,7 +291,7 @@ TEST_F(PrintingTest, APdfNeedsNoPrinterAndHoldsALongFileWholeInItsColours)
     }
 
     // Sampled pages have each word in its colour of the screen.
-    const RichText looks = joystick()->richText();
+    const RichText looks = joystick()->shown().richText();
     const int last = printed.last().page;
     ASSERT_GT(last, 10);
     QSet<ColorRef> seen;

@@ -81,7 +81,7 @@ TEST_F(RecoveryTest, UnsavedTextsAreOnTheDiskAndSavedOnesAreNot)
     EXPECT_EQ(kept(u"1/joystick.txt"_s),
               (RecoveredText{ DocumentKind::Joystick, path, clock.now(), u"\u03A9xBTN S1 a"_s }));
     EXPECT_FALSE(QFile::exists(parent() + u"/1/macro.txt"_s));
-    editor->joystick().control->replace(0, 1, u""_s);
+    editor->joystick().replace(0, 1, u""_s);
     editor->saving().mnuFileSave_Click();
     EXPECT_FALSE(QFile::exists(parent() + u"/1/joystick.txt"_s));
 }
@@ -124,8 +124,8 @@ TEST_F(RecoveryTest, WhatIsTakenBackStandsModifiedAndTheFileIsUntouched)
     dialogs.answer(offerTitle, BoxButton::Yes);
     recovery().offerLeft();
     EXPECT_EQ(editor->joystickText(), u"BTN S1 a lot more");
-    EXPECT_EQ(editor->joystick().path, path);
-    EXPECT_EQ(editor->joystick().state, EditorDocument::Modified);
+    EXPECT_EQ(editor->joystick().path(), path);
+    EXPECT_EQ(editor->joystick().state(), Document::Modified);
     EXPECT_EQ(folder.read(u"Files/a.tmj"_s), "BTN S1 a");
     // It is this run's own now, and still on the disk.
     EXPECT_FALSE(QFile::exists(parent() + u"/7"_s));
@@ -255,10 +255,10 @@ TEST_F(RecoveryTest, ATextThatCameBackIsNotAutosavedBeforeTheUserSavesIt)
     AutoSave &autoSave = editor->guards().autoSave;
     autoSave.AutoSaveFile();
     EXPECT_EQ(folder.read(u"Files/a.tmj"_s), "BTN S1 a");
-    EXPECT_EQ(editor->joystick().state, EditorDocument::Modified);
+    EXPECT_EQ(editor->joystick().state(), Document::Modified);
     editor->saving().mnuFileSave_Click();
     EXPECT_EQ(folder.read(u"Files/a.tmj"_s), "BTN S1 a lot more");
-    editor->joystick().control->replace(0, 3, u"Rem"_s);
+    editor->joystick().replace(0, 3, u"Rem"_s);
     autoSave.AutoSaveFile();
     EXPECT_EQ(folder.read(u"Files/a.tmj"_s), "Rem S1 a lot more");
 }

@@ -58,8 +58,8 @@ protected:
     FrameMacros *frame() { return editor->findChild<FrameMacros *>(u"FrameMacros"_s); }
     QListView *list() { return editor->findChild<QListView *>(u"List1"_s); }
     QComboBox *headings() { return editor->findChild<QComboBox *>(u"Combo1"_s); }
-    TextControl *joystick() { return editor->joystick().control; }
-    TextControl *macro() { return editor->macro().control; }
+    TextControl *joystick() { return &editor->view().control(DocumentKind::Joystick); }
+    TextControl *macro() { return &editor->view().control(DocumentKind::Macro); }
     MacroList &macroList() { return editor->macros().list(); }
 
     QStringList names()
@@ -287,17 +287,17 @@ TEST_F(MacroListTest, TheChosenMacroIsHighlightedInTheMacroTextWhereItIsSeen)
     QAction *highlight = editor->action(u"MnuMacroSelectMacroShow");
     ASSERT_FALSE(highlight->isChecked());
     click(u"Fire"_s);
-    EXPECT_EQ(editor->macro().selLength, 0);
+    EXPECT_EQ(editor->macro().selLength(), 0);
     highlight->trigger();
     EXPECT_EQ(settings.MacroHighlightedInMacroFile, 1);
     click(u"Fire"_s);
     EXPECT_EQ(macro()->textCursor().selectedText(), u"Fire = SPC");
-    EXPECT_EQ(editor->macro().caret, editor->macroText().indexOf(u"Fire = SPC"));
-    EXPECT_EQ(editor->macro().selLength, 10);
+    EXPECT_EQ(editor->macro().selStart(), editor->macroText().indexOf(u"Fire = SPC"));
+    EXPECT_EQ(editor->macro().selLength(), 10);
 
-    editor->view().select(DocumentKind::Joystick);
+    editor->documents().select(DocumentKind::Joystick);
     click(u"Early"_s);
-    EXPECT_EQ(editor->macro().selLength, 10);
+    EXPECT_EQ(editor->macro().selLength(), 10);
     editor->action(u"mnuViewTileVertically")->trigger();
     click(u"Early"_s);
     EXPECT_EQ(macro()->textCursor().selectedText(), u"Early = e");
@@ -309,7 +309,7 @@ TEST_F(MacroListTest, ADoubleClickAtTheStartPutsABlankBehind)
     openJoystick("");
     doubleClick(u"Fire"_s);
     EXPECT_EQ(editor->joystickText(), u"Fire ");
-    EXPECT_EQ(joystick()->selStart(), 5);
+    EXPECT_EQ(joystick()->shown().selStart(), 5);
     EXPECT_TRUE(joystick()->hasFocus());
     EXPECT_TRUE(editor->joystick().isModified());
 }
@@ -318,20 +318,20 @@ TEST_F(MacroListTest, ADoubleClickBehindABlankPutsABlankBehind)
 {
     openMacros();
     openJoystick("BTN S1 /U");
-    joystick()->select(7, 0);
+    joystick()->shown().select(7, 0);
     doubleClick(u"Fire"_s);
     EXPECT_EQ(editor->joystickText(), u"BTN S1 Fire /U");
-    EXPECT_EQ(joystick()->selStart(), 12);
+    EXPECT_EQ(joystick()->shown().selStart(), 12);
 }
 
 TEST_F(MacroListTest, ADoubleClickBehindAnythingElsePutsBlanksAround)
 {
     openMacros();
     openJoystick("BTN S1\r\n");
-    joystick()->select(6, 0);
+    joystick()->shown().select(6, 0);
     doubleClick(u"Fire"_s);
     EXPECT_EQ(editor->joystickText(), u"BTN S1 Fire \n");
-    joystick()->select(13, 0);
+    joystick()->shown().select(13, 0);
     doubleClick(u"Gun"_s);
     EXPECT_EQ(editor->joystickText(), u"BTN S1 Fire \n Gun ");
 }
@@ -340,11 +340,11 @@ TEST_F(MacroListTest, ADoubleClickReplacesTheSelection)
 {
     openMacros();
     openJoystick("BTN S1 old.");
-    joystick()->select(7, 3);
+    joystick()->shown().select(7, 3);
     doubleClick(u"Fire"_s);
     EXPECT_EQ(editor->joystickText(), u"BTN S1 Fire .");
-    EXPECT_EQ(joystick()->selStart(), 12);
-    EXPECT_EQ(joystick()->selLength(), 0);
+    EXPECT_EQ(joystick()->shown().selStart(), 12);
+    EXPECT_EQ(joystick()->shown().selLength(), 0);
 }
 
 TEST_F(MacroListTest, AnInsertedNameHasThePlainColourOfItsDocument)
@@ -353,19 +353,19 @@ TEST_F(MacroListTest, AnInsertedNameHasThePlainColourOfItsDocument)
     editor->applySettings();
     openMacros();
     openJoystick("x");
-    joystick()->select(1, 0);
+    joystick()->shown().select(1, 0);
     QTextCharFormat red;
     red.setForeground(Qt::red);
     joystick()->setCurrentCharFormat(red);
     doubleClick(u"Fire"_s);
-    EXPECT_EQ(joystick()->richText().formatAt(3).colour, 0x112233U);
+    EXPECT_EQ(joystick()->shown().richText().formatAt(3).colour, 0x112233U);
 }
 
 TEST_F(MacroListTest, AnInsertIsOneUndoStep)
 {
     openMacros();
     openJoystick("BTN S1 ");
-    joystick()->select(7, 0);
+    joystick()->shown().select(7, 0);
     doubleClick(u"Fire"_s);
     doubleClick(u"Gun"_s);
     editor->action(u"mnuEditUndo")->trigger();
@@ -377,7 +377,7 @@ TEST_F(MacroListTest, AnInsertIsOneUndoStep)
 TEST_F(MacroListTest, ADoubleClickInsertsIntoTheMacroTextWhenThatIsSelected)
 {
     openMacros("Fire = SPC\r\n");
-    macro()->select(11, 0);
+    macro()->shown().select(11, 0);
     doubleClick(u"Fire"_s);
     EXPECT_EQ(editor->macroText(), u"Fire = SPC\n Fire ");
 }
@@ -458,7 +458,7 @@ TEST_F(MacroListTest, ADropOverASelectionLeavesWhatWasSelected)
 {
     openMacros();
     openJoystick("BTN S1 old\r\n");
-    joystick()->select(4, 6);
+    joystick()->shown().select(4, 6);
     drop(u"Fire"_s, joystick(), 6);
     EXPECT_EQ(editor->joystickText(), u"BTN S1 Fire  old\n");
 }
@@ -502,7 +502,7 @@ TEST_F(MacroListTest, AClickRefreshesThatMacrosTickAlone)
     openJoystick("BTN S1 Fire Gun\r\n");
     click(u"Fire"_s);
     EXPECT_EQ(ticked(), (QStringList{ u"Fire"_s, u"fire"_s }));
-    joystick()->setText(u"BTN S1 x"_s);
+    joystick()->shown().setText(u"BTN S1 x"_s);
     click(u"Fire"_s);
     EXPECT_TRUE(ticked().isEmpty());
 }
@@ -582,20 +582,20 @@ TEST_F(MacroListTest, ThePopUpsEntriesDoWhatTheySay)
     openJoystick("BTN S1 Fire Gun\r\n");
     click(u"Fire"_s);
     const auto menu = editor->macros().menu().build();
-    joystick()->select(7, 0);
+    joystick()->shown().select(7, 0);
     entry(*menu, u"mnuRHListInsert"_s)->trigger();
     EXPECT_EQ(editor->joystickText(), u"BTN S1 Fire Fire Gun\n");
-    joystick()->select(0, 0);
+    joystick()->shown().select(0, 0);
     entry(*menu, u"mnuFindInJoyFile"_s)->trigger();
-    EXPECT_EQ(joystick()->selStart(), 7);
-    EXPECT_EQ(joystick()->selLength(), 4);
+    EXPECT_EQ(joystick()->shown().selStart(), 7);
+    EXPECT_EQ(joystick()->shown().selLength(), 4);
     entry(*menu, u"mnuRHListIdentify"_s)->trigger();
     EXPECT_EQ(ticked(), (QStringList{ u"Fire"_s, u"Gun"_s }));
     QSignalSpy help(editor.get(), &Editor::helpOn);
     entry(*menu, u"mnuRHListQuickTip"_s)->trigger();
     EXPECT_EQ(help.value(0).value(0).toString(), u"macro list");
     entry(*menu, u"mnuRHListEdit"_s)->trigger();
-    EXPECT_EQ(editor->selected().kind, DocumentKind::Macro);
+    EXPECT_EQ(editor->selected().kind(), DocumentKind::Macro);
     EXPECT_TRUE(macro()->hasFocus());
     EXPECT_EQ(macro()->textCursor().selectedText(), u"Fire = SPC");
     EXPECT_EQ(status.text(), u"Fire = SPC");
@@ -688,7 +688,7 @@ TEST_F(MacroListTest, UpdatingDoesNothingForATextWithoutAMacro)
     openJoystick("BTN S1 a\r\n");
     type(DocumentKind::Macro, u"no macro here"_s);
     editor->action(u"mnuEditUpdateMacros")->trigger();
-    EXPECT_EQ(editor->selected().kind, DocumentKind::Joystick);
+    EXPECT_EQ(editor->selected().kind(), DocumentKind::Joystick);
     EXPECT_TRUE(macroList().MacroListIsEmpty);
 }
 
@@ -698,7 +698,7 @@ TEST_F(MacroListTest, UpdatingAModifiedFileSavesItFirst)
     editor->applySettings();
     openMacros("Fire = SPC\r\n");
     type(DocumentKind::Macro, u"New = n\n"_s);
-    editor->view().select(DocumentKind::Joystick);
+    editor->documents().select(DocumentKind::Joystick);
     dialogs.answer(u" Save m.tmm now?"_s, BoxButton::Yes);
     editor->action(u"mnuEditUpdateMacros")->trigger();
     EXPECT_EQ(dialogs.boxes().last().text,
@@ -706,7 +706,7 @@ TEST_F(MacroListTest, UpdatingAModifiedFileSavesItFirst)
               "macros list. Shall I go ahead and save it?");
     EXPECT_EQ(dialogs.boxes().last().icon, BoxIcon::Question);
     EXPECT_EQ(names(), (QStringList{ u"New"_s, u"Fire"_s }));
-    EXPECT_EQ(editor->selected().kind, DocumentKind::Macro);
+    EXPECT_EQ(editor->selected().kind(), DocumentKind::Macro);
     EXPECT_FALSE(editor->macro().isModified());
 }
 
@@ -753,7 +753,7 @@ TEST_F(MacroListTest, ASaveLeavesTheListAloneWhereThatIsWanted)
     type(DocumentKind::Macro, u"New = n\n"_s);
     editor->saving().mnuFileSave_Click();
     EXPECT_EQ(names(), QStringList{ u"Fire"_s });
-    EXPECT_EQ(status.text(), editor->macro().path + u" saved successfully."_s);
+    EXPECT_EQ(status.text(), editor->macro().path() + u" saved successfully."_s);
 }
 
 TEST_F(MacroListTest, ASaveOfTheJoystickFileLeavesTheListAlone)

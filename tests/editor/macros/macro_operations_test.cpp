@@ -44,8 +44,8 @@ protected:
         editor->opening().OpenFavouriteFile(file(u"m.tmm"_s, macroBytes));
         editor->opening().OpenFavouriteFile(file(u"j.tmj"_s, joystickBytes));
     }
-    TextControl *joystick() { return editor->joystick().control; }
-    TextControl *macro() { return editor->macro().control; }
+    TextControl *joystick() { return &editor->view().control(DocumentKind::Joystick); }
+    TextControl *macro() { return &editor->view().control(DocumentKind::Macro); }
     MacroList &list() { return editor->macros().list(); }
     MacroOperations &operations() { return editor->macros().operations(); }
     QListView *listView() { return editor->findChild<QListView *>(u"List1"_s); }
@@ -68,9 +68,9 @@ protected:
     /// A point on a character of the joystick text.
     QPoint placeOf(int position)
     {
-        joystick()->select(position, 0);
+        joystick()->shown().select(position, 0);
         const QRect left = joystick()->cursorRect();
-        joystick()->select(position + 1, 0);
+        joystick()->shown().select(position + 1, 0);
         const QRect right = joystick()->cursorRect();
         return { (left.x() + right.x()) / 2, left.center().y() };
     }
@@ -135,7 +135,7 @@ TEST_F(MacroOperationsTest, IdentifyingTakesOldTicksAway)
     open("BTN S1 Fire\r\n", "Fire = a\r\nGun = b\r\n");
     identify();
     ASSERT_EQ(ticked(), QStringList{ u"Fire"_s });
-    joystick()->setText(u"BTN S1 Gun"_s);
+    joystick()->shown().setText(u"BTN S1 Gun"_s);
     identify();
     EXPECT_EQ(ticked(), QStringList{ u"Gun"_s });
 }
@@ -175,14 +175,14 @@ TEST_F(MacroOperationsTest, AnOpenedPairIsIdentified)
 TEST_F(MacroOperationsTest, FindGoesFromUseToUseAndStartsAgain)
 {
     open("Rem Fire no\r\nBTN S1 Fire\r\nBTN S2 Fire)\r\n", "Fire = a\r\n");
-    editor->view().select(DocumentKind::Macro);
+    editor->documents().select(DocumentKind::Macro);
     list().SelectedMacro = u"fire"_s;
     for (const int place : { 19, 31, 19 }) {
         find();
-        EXPECT_EQ(joystick()->selStart(), place);
-        EXPECT_EQ(joystick()->selLength(), 4);
+        EXPECT_EQ(joystick()->shown().selStart(), place);
+        EXPECT_EQ(joystick()->shown().selLength(), 4);
     }
-    EXPECT_EQ(editor->selected().kind, DocumentKind::Joystick);
+    EXPECT_EQ(editor->selected().kind(), DocumentKind::Joystick);
 }
 
 TEST_F(MacroOperationsTest, FindScrollsToTheUse)
@@ -191,19 +191,19 @@ TEST_F(MacroOperationsTest, FindScrollsToTheUse)
     list().SelectedMacro = u"Fire"_s;
     find();
     EXPECT_TRUE(joystick()->viewport()->rect().contains(joystick()->cursorRect()));
-    EXPECT_EQ(joystick()->caretLine(), 501);
+    EXPECT_EQ(joystick()->shown().caretLine(), 501);
 }
 
 TEST_F(MacroOperationsTest, FindWithoutAUseChangesNoSelection)
 {
     open("BTN S1 Gun\r\nRem Fire\r\n", "Fire = a\r\n");
-    joystick()->select(3, 2);
-    editor->view().select(DocumentKind::Macro);
+    joystick()->shown().select(3, 2);
+    editor->documents().select(DocumentKind::Macro);
     list().SelectedMacro = u"Fire"_s;
     find();
-    EXPECT_EQ(joystick()->selStart(), 3);
-    EXPECT_EQ(joystick()->selLength(), 2);
-    EXPECT_EQ(editor->selected().kind, DocumentKind::Macro);
+    EXPECT_EQ(joystick()->shown().selStart(), 3);
+    EXPECT_EQ(joystick()->shown().selLength(), 2);
+    EXPECT_EQ(editor->selected().kind(), DocumentKind::Macro);
 }
 
 TEST_F(MacroOperationsTest, AShiftClickFindsAndAnotherMacroStartsAtTheTop)
@@ -212,7 +212,7 @@ TEST_F(MacroOperationsTest, AShiftClickFindsAndAnotherMacroStartsAtTheTop)
     const auto shiftClick = [this](int row) {
         QTest::mouseClick(listView()->viewport(), Qt::LeftButton, Qt::ShiftModifier,
                           placeInList(row));
-        return joystick()->selStart();
+        return joystick()->shown().selStart();
     };
     EXPECT_EQ(shiftClick(0), 7);
     EXPECT_EQ(shiftClick(0), 23);
@@ -226,11 +226,11 @@ TEST_F(MacroOperationsTest, AKeyLetGoWithShiftHeldFinds)
     QTest::mouseClick(listView()->viewport(), Qt::LeftButton, {}, placeInList(0));
     QTest::keyClick(listView(), Qt::Key_Down, Qt::ShiftModifier);
     EXPECT_EQ(list().SelectedMacro, u"Gun");
-    EXPECT_EQ(joystick()->selStart(), 12);
+    EXPECT_EQ(joystick()->shown().selStart(), 12);
     // The way into the list by Shift+Tab ends with a key let go in it.
-    joystick()->select(0, 0);
+    joystick()->shown().select(0, 0);
     QTest::keyRelease(listView(), Qt::Key_Backtab, Qt::ShiftModifier);
-    EXPECT_EQ(joystick()->selStart(), 0);
+    EXPECT_EQ(joystick()->shown().selStart(), 0);
 }
 
 TEST_F(MacroOperationsTest, ARenameReplacesInBothTextsAndCountsEach)
@@ -244,7 +244,7 @@ TEST_F(MacroOperationsTest, ARenameReplacesInBothTextsAndCountsEach)
               u"2 replacements were made in j.tmj, and 3 replacements were made in m.tmm");
     EXPECT_TRUE(editor->joystick().isModified());
     EXPECT_TRUE(editor->macro().isModified());
-    EXPECT_EQ(joystick()->selStart(), editor->joystickText().size() - 1);
+    EXPECT_EQ(joystick()->shown().selStart(), editor->joystickText().size() - 1);
 }
 
 TEST_F(MacroOperationsTest, ARenamedWordKeepsItsColour)
@@ -259,9 +259,9 @@ TEST_F(MacroOperationsTest, ARenamedWordKeepsItsColour)
     dialogs.answer(renamedTitle, BoxButton::Ok);
     operations().ChangeMacroName(u"Fire"_s, u"Go"_s);
     ASSERT_EQ(editor->joystickText(), u"BTN S1 Go x\n");
-    EXPECT_EQ(joystick()->richText().formatAt(7).colour, 0x00FF00U);
-    EXPECT_EQ(joystick()->richText().formatAt(8).colour, 0x00FF00U);
-    EXPECT_NE(joystick()->richText().formatAt(10).colour, 0x00FF00U);
+    EXPECT_EQ(joystick()->shown().richText().formatAt(7).colour, 0x00FF00U);
+    EXPECT_EQ(joystick()->shown().richText().formatAt(8).colour, 0x00FF00U);
+    EXPECT_NE(joystick()->shown().richText().formatAt(10).colour, 0x00FF00U);
 }
 
 TEST_F(MacroOperationsTest, ARenameIsOneUndoStepOfEachText)
@@ -281,14 +281,13 @@ TEST_F(MacroOperationsTest, ARenameTakenBackLeavesTheColoursThatWereThere)
     open("BTN S1 Fire\r\n", "Fire = SPC\r\n");
     {
         // As the colours of typing come: without a step of their own.
-        const BusyGuard busy(editor->view());
-        joystick()->changeLooks(0, 3, [](CharFormat &format) { format.colour = 0x00FF00; });
+        joystick()->shown().changeLooks(0, 3, [](CharFormat &format) { format.colour = 0x00FF00; });
     }
     dialogs.answer(renamedTitle, BoxButton::Ok);
     operations().ChangeMacroName(u"Fire"_s, u"Go"_s);
     editor->action(u"mnuEditUndo")->trigger();
     EXPECT_EQ(editor->joystickText(), u"BTN S1 Fire\n");
-    EXPECT_EQ(joystick()->richText().formatAt(1).colour, 0x00FF00U);
+    EXPECT_EQ(joystick()->shown().richText().formatAt(1).colour, 0x00FF00U);
 }
 
 TEST_F(MacroOperationsTest, ADocumentWithoutTheNameIsToldByItsOwnName)

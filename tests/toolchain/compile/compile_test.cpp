@@ -8,11 +8,10 @@
 #include <QFile>
 
 using namespace zeph;
+using zeph::test::hangOn;
+using zeph::test::success;
 
 namespace {
-
-const QString hangOn = u"Hang on a minute ..."_s;
-const QString success = u"File successfully compiled!"_s;
 
 class CompileTest : public test::CompilerBench
 {
@@ -33,7 +32,7 @@ protected:
 TEST_F(CompileTest, AnEmptyFileIsNotCompiled)
 {
     joystickText.clear();
-    joystick.state = EditorDocument::Modified;
+    joystick.setState(Document::Modified);
     dialogs.answer(u"Nothing to compile ..."_s, BoxButton::Ok);
     compile();
     ASSERT_EQ(dialogs.boxes().size(), 1);
@@ -48,7 +47,7 @@ TEST_F(CompileTest, AnEmptyFileIsNotCompiled)
 TEST_F(CompileTest, AMissingCompilerIsToldWithItsPath)
 {
     ASSERT_TRUE(QFile::remove(paths.compiler()));
-    joystick.state = EditorDocument::Modified;
+    joystick.setState(Document::Modified);
     dialogs.answer(u"Compiler not found"_s, BoxButton::Ok);
     compile();
     ASSERT_EQ(dialogs.boxes().size(), 1);
@@ -62,7 +61,7 @@ TEST_F(CompileTest, AMissingCompilerIsToldWithItsPath)
 
 TEST_F(CompileTest, AChangedFileIsSavedWithoutAQuestion)
 {
-    joystick.state = EditorDocument::Modified;
+    joystick.setState(Document::Modified);
     dialogs.answer(success, BoxButton::Ok);
     compile();
     EXPECT_EQ(
@@ -75,7 +74,7 @@ TEST_F(CompileTest, ACancelledSaveEndsTheCompileWhateverTheAnswer)
 {
     saveWorks = false;
     for (const BoxButton answer : { BoxButton::Yes, BoxButton::No }) {
-        joystick.state = EditorDocument::Modified;
+        joystick.setState(Document::Modified);
         dialogs.answer(hangOn, answer);
         compile();
         const Box &box = dialogs.boxes().constLast();
@@ -90,7 +89,7 @@ TEST_F(CompileTest, ACancelledSaveEndsTheCompileWhateverTheAnswer)
 
 TEST_F(CompileTest, AChangedMacroFileIsAskedAboutAndNoEndsTheCompile)
 {
-    macro.state = EditorDocument::Modified;
+    macro.setState(Document::Modified);
     dialogs.answer(hangOn, BoxButton::No);
     compile();
     ASSERT_EQ(dialogs.boxes().size(), 1);
@@ -109,7 +108,7 @@ TEST_F(CompileTest, AChangedMacroFileIsAskedAboutAndNoEndsTheCompile)
 
 TEST_F(CompileTest, AChangedMacroFileIsLeftUnsavedWhenTheUserGoesOn)
 {
-    macro.state = EditorDocument::Modified;
+    macro.setState(Document::Modified);
     dialogs.answer(hangOn, BoxButton::Yes);
     dialogs.answer(success, BoxButton::Ok);
     compile();
@@ -119,7 +118,7 @@ TEST_F(CompileTest, AChangedMacroFileIsLeftUnsavedWhenTheUserGoesOn)
 
 TEST_F(CompileTest, AnEmptyMacroTextWithItsChangedFlagSetGivesNoWarning)
 {
-    macro.state = EditorDocument::Modified;
+    macro.setState(Document::Modified);
     macroText.clear();
     dialogs.answer(success, BoxButton::Ok);
     compile();
@@ -133,7 +132,7 @@ TEST_F(CompileTest, RunsTheCompilerOnTheFileOnTheDisk)
     ASSERT_EQ(launcher.launches.size(), 1);
     const Launch &launch = launcher.launches[0];
     EXPECT_EQ(launch.program, paths.compiler());
-    EXPECT_EQ(launch.arguments, u"/ZEPH /CO \""_s + joystick.path + u'"');
+    EXPECT_EQ(launch.arguments, u"/ZEPH /CO \""_s + joystick.path() + u'"');
     EXPECT_EQ(launch.folder, paths.hotasFolder);
     EXPECT_EQ(launch.style, WindowStyle::NormalFocus);
     EXPECT_EQ(handshake->StatusCaption(), u"Compiling A.tmj");
@@ -149,7 +148,7 @@ TEST_F(CompileTest, SuccessIsToldAndTheFocusGoesBack)
     EXPECT_EQ(panels, (QStringList{ u"Done"_s, u"Compiled successfully. (Memory used: 4%)"_s }));
     ASSERT_EQ(dialogs.boxes().size(), 1);
     EXPECT_EQ(dialogs.boxes()[0].text,
-              joystick.path + u" compiled successfully.\n\nCompile time: 0.5s.\nMemory used: 4%"_s);
+              joystick.path() + u" compiled successfully.\n\nCompile time: 0.5s.\nMemory used: 4%"_s);
     EXPECT_EQ(done, (QStringList{ u"unload"_s, u"minimise"_s, u"focus"_s }));
 }
 
@@ -243,8 +242,8 @@ TEST_F(CompileTest, ACompilerThatDoesNotStartIsToldOnce)
 
 TEST_F(CompileTest, TheVerdictIsAboutTheFileThatWasCompiled)
 {
-    const QString compiled = joystick.path;
-    QTimer::singleShot(0, &mainWindow, [this] { joystick.path = u"/another.tmj"_s; });
+    const QString compiled = joystick.path();
+    QTimer::singleShot(0, &mainWindow, [this] { joystick.rename(u"/another.tmj"_s); });
     dialogs.answer(success, BoxButton::Ok);
     compile();
     ASSERT_EQ(dialogs.boxes().size(), 1);

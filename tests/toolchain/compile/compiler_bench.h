@@ -5,11 +5,15 @@
 
 // A tools' folder with a pair of documents, and a compiler that is played.
 
-#include "documents/editor_document.h"
+#include "documents/document.h"
 #include "tests/toolchain/toolchain_bench.h"
 #include "toolchain/compile/compiler_host.h"
 
 namespace zeph::test {
+
+/// What panel 1 tells during a compile and after it.
+inline const QString hangOn = u"Hang on a minute ..."_s;
+inline const QString success = u"File successfully compiled!"_s;
 
 /// A fixture for what runs the compiler. What is asked of the windows is noted in order.
 class CompilerBench : public ToolchainBench
@@ -17,11 +21,10 @@ class CompilerBench : public ToolchainBench
 protected:
     CompilerBench()
     {
-        joystick.path = folder.file(u"My files/A.TMJ"_s);
-        joystick.name = u"A.TMJ"_s;
-        joystick.state = EditorDocument::Saved;
-        macro.name = u"a.tmm"_s;
-        macro.state = EditorDocument::Saved;
+        joystick.rename(folder.file(u"My files/A.TMJ"_s));
+        joystick.setState(Document::Saved);
+        macro.rename(u"a.tmm"_s);
+        macro.setState(Document::Saved);
         afterTick = [this](int count) {
             if (count == 1 && !statusWritten.isEmpty()) {
                 writeVerdict();
@@ -55,16 +58,16 @@ protected:
         host.macroText = [this] {
             return macroText;
         };
-        host.joystick = [this]() -> const EditorDocument & {
+        host.joystick = [this]() -> const Document & {
             return joystick;
         };
-        host.macro = [this]() -> const EditorDocument & {
+        host.macro = [this]() -> const Document & {
             return macro;
         };
         host.selectJoystickTab = note(u"joystick tab"_s);
         host.mnuFileSave_Click = [this] {
             done += u"save"_s;
-            joystick.state = saveWorks ? EditorDocument::Saved : EditorDocument::Modified;
+            joystick.setState(saveWorks ? Document::Saved : Document::Modified);
         };
         host.ResetFocusToEditor = note(u"focus"_s);
         host.HighlightErrorLine = [this](int line, const QString &text) {
@@ -76,8 +79,8 @@ protected:
         return host;
     }
 
-    EditorDocument joystick;
-    EditorDocument macro;
+    Document joystick;
+    Document macro{ DocumentKind::Macro };
     QString joystickText = u"BTN S1 x"_s;
     QString macroText = u"m = a"_s;
     bool saveWorks = true;

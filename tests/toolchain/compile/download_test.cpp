@@ -6,11 +6,11 @@
 #include "tests/toolchain/compile/compiler_bench.h"
 
 using namespace zeph;
+using zeph::test::hangOn;
+using zeph::test::success;
 
 namespace {
 
-const QString hangOn = u"Hang on a minute ..."_s;
-const QString success = u"File successfully compiled!"_s;
 const QString unknown = u"Unknown result"_s;
 const QString longTime = u"Now this is taking rather a long time Maverick, isn't it?!"_s;
 const QString tab = u"joystick tab"_s;
@@ -67,7 +67,7 @@ protected:
 TEST_F(DownloadTest, SelectsTheJoystickTabAndEndsWithAnEmptyText)
 {
     joystickText.clear();
-    joystick.state = EditorDocument::Modified;
+    joystick.setState(Document::Modified);
     dialogs.answer(u"Nothing to transfer ..."_s, BoxButton::Ok);
     download();
     ASSERT_EQ(dialogs.boxes().size(), 1);
@@ -81,7 +81,7 @@ TEST_F(DownloadTest, SelectsTheJoystickTabAndEndsWithAnEmptyText)
 
 TEST_F(DownloadTest, AChangedFileIsSavedWithoutAQuestion)
 {
-    joystick.state = EditorDocument::Modified;
+    joystick.setState(Document::Modified);
     dialogs.answer(success, BoxButton::Ok);
     download();
     EXPECT_EQ(done, (QStringList{ tab, u"save"_s, locks, mode, apps, focus, unlocks }));
@@ -90,7 +90,7 @@ TEST_F(DownloadTest, AChangedFileIsSavedWithoutAQuestion)
 TEST_F(DownloadTest, AFileThatCouldNotBeSavedIsAskedAboutAndNoEndsTheDownload)
 {
     saveWorks = false;
-    joystick.state = EditorDocument::Modified;
+    joystick.setState(Document::Modified);
     dialogs.answer(hangOn, BoxButton::No);
     download();
     ASSERT_EQ(dialogs.boxes().size(), 1);
@@ -107,18 +107,18 @@ TEST_F(DownloadTest, AFileThatCouldNotBeSavedIsAskedAboutAndNoEndsTheDownload)
 TEST_F(DownloadTest, YesGoesOnWithTheOldFileOnTheDisk)
 {
     saveWorks = false;
-    joystick.state = EditorDocument::Modified;
+    joystick.setState(Document::Modified);
     dialogs.answer(hangOn, BoxButton::Yes);
     dialogs.answer(success, BoxButton::Ok);
     download();
     ASSERT_EQ(launcher.launches.size(), 1);
-    EXPECT_TRUE(launcher.launches[0].arguments.endsWith(u'"' + joystick.path + u'"'));
+    EXPECT_TRUE(launcher.launches[0].arguments.endsWith(u'"' + joystick.path() + u'"'));
     EXPECT_TRUE(joystick.isModified());
 }
 
 TEST_F(DownloadTest, AChangedMacroFileIsAskedAboutAndNoEndsTheDownload)
 {
-    macro.state = EditorDocument::Modified;
+    macro.setState(Document::Modified);
     dialogs.answer(hangOn, BoxButton::No);
     download();
     ASSERT_EQ(dialogs.boxes().size(), 1);
@@ -135,7 +135,7 @@ TEST_F(DownloadTest, AChangedMacroFileIsAskedAboutAndNoEndsTheDownload)
 
 TEST_F(DownloadTest, AnEmptyMacroTextWithItsChangedFlagSetGivesNoWarning)
 {
-    macro.state = EditorDocument::Modified;
+    macro.setState(Document::Modified);
     macroText.clear();
     dialogs.answer(success, BoxButton::Ok);
     download();
@@ -168,7 +168,7 @@ TEST_F(DownloadTest, EnablesProgrammedModeByTheTick)
         download();
         const Launch &launch = launcher.launches.constLast();
         EXPECT_EQ(launch.program, paths.compiler());
-        EXPECT_EQ(launch.arguments, QString::fromUtf16(name) + joystick.path + u'"');
+        EXPECT_EQ(launch.arguments, QString::fromUtf16(name) + joystick.path() + u'"');
         EXPECT_EQ(launch.folder, paths.hotasFolder);
         EXPECT_EQ(launch.style, WindowStyle::NormalFocus);
         ticks = 0;
@@ -205,7 +205,7 @@ TEST_F(DownloadTest, SuccessIsToldWithBothTimes)
     ASSERT_EQ(dialogs.boxes().size(), 1);
     EXPECT_EQ(dialogs.boxes()[0].icon, BoxIcon::Information);
     EXPECT_EQ(dialogs.boxes()[0].text,
-              joystick.path
+              joystick.path()
                   + u" compiled successfully.\n\nCompile time: 0.5s.\nDownload time: 1.25s.\n"
                     u"Memory used: 4%"_s);
 }
@@ -349,8 +349,8 @@ TEST_F(DownloadTest, ACompilerThatDoesNotStartIsToldOnceAndFreesTheText)
 
 TEST_F(DownloadTest, TheVerdictIsAboutTheFileThatWasSent)
 {
-    const QString sent = joystick.path;
-    QTimer::singleShot(0, &mainWindow, [this] { joystick.path = u"/another.tmj"_s; });
+    const QString sent = joystick.path();
+    QTimer::singleShot(0, &mainWindow, [this] { joystick.rename(u"/another.tmj"_s); });
     dialogs.answer(success, BoxButton::Ok);
     download();
     ASSERT_EQ(dialogs.boxes().size(), 1);

@@ -3,7 +3,7 @@
 
 #include "toolchain/games/game_launch.h"
 
-#include "documents/editor_document.h"
+#include "documents/document.h"
 #include "tests/toolchain/toolchain_bench.h"
 #include "toolchain/games/games.h"
 
@@ -21,7 +21,7 @@ protected:
         folder.write(u"Falcon/falcon.exe"_s, "game");
         game = { u"Falcon"_s, folder.file(u"Falcon/falcon.exe"_s) + u" -g2"_s,
                  folder.file(u"Falcon"_s), folder.write(u"Files/F4.TMJ"_s, "BTN S2 a"), 0 };
-        joystick.name = u"f4.tmj"_s;
+        joystick.rename(u"f4.tmj"_s);
         afterTick = [this](int count) {
             if (count == 1 && !statusWritten.isEmpty()) {
                 writeCompiler(u"LineNumber"_s, lineWritten);
@@ -47,7 +47,7 @@ protected:
             };
         };
         GamesHost result;
-        result.joystick = [this]() -> const EditorDocument & {
+        result.joystick = [this]() -> const Document & {
             return joystick;
         };
         result.saveChanged = note(u"save"_s);
@@ -96,7 +96,7 @@ protected:
 
     Game game;
     Game top;
-    EditorDocument joystick;
+    Document joystick;
     bool resetsAxes = false;
     bool ensuresNumLock = false;
     bool ends = false;
@@ -236,7 +236,7 @@ TEST_F(GameLaunchTest, AnErrorIsShownInTheOpenFileAndTheGameIsNotStarted)
 TEST_F(GameLaunchTest, ALaunchWhoseCompileFailsOpensTheFailedFileAndNeverStartsTheGame)
 {
     statusWritten = u"ERROR"_s;
-    joystick.name = u"Other.tmj"_s;
+    joystick.rename(u"Other.tmj"_s);
     launch();
     EXPECT_EQ(done.value(4), u"open F4.TMJ");
     EXPECT_EQ(done.value(5), u"joystick tab");

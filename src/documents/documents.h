@@ -1,0 +1,64 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "documents/document.h"
+#include "platform/context.h"
+
+#include <array>
+
+namespace zeph {
+
+/// The pair of documents that is edited: there are always exactly two, and closing one means a
+/// fresh empty one. One of them is selected.
+class Documents : public QObject
+{
+    Q_OBJECT
+public:
+    explicit Documents(const Context &context, QObject *parent = nullptr);
+
+    Document &of(DocumentKind kind) { return kind == DocumentKind::Macro ? m_macro : m_joystick; }
+    Document &joystick() { return m_joystick; }
+    Document &macro() { return m_macro; }
+    Document &selected() { return of(m_selected); }
+    /// The one that is not given.
+    Document &other(const Document &document)
+    {
+        return document.kind() == DocumentKind::Macro ? m_joystick : m_macro;
+    }
+    /// Calls a function with the joystick document, then with the macro document.
+    template <class Function> void forEach(Function function)
+    {
+        function(m_joystick);
+        function(m_macro);
+    }
+
+    /// Selects a document, as a click on its tab does.
+    void select(DocumentKind kind);
+
+    /// Guards the macro text against the user.
+    void setProtected(bool on);
+    bool isProtected() const { return m_protected; }
+    /// Whether the selected text takes no changes; tells the refusal when it is the protected one.
+    bool refuseProtected();
+
+    /// A name and a path for a document that has no file yet; its text stays.
+    void renameFresh(DocumentKind kind);
+    /// Font and colour of plain text that the settings say.
+    CharFormat plainFormat(DocumentKind kind) const;
+
+Q_SIGNALS:
+    /// Another document is selected now.
+    void selectedChanged(DocumentKind kind);
+    void protectedChanged(bool on);
+
+private:
+    Context m_context;
+    Document m_joystick;
+    Document m_macro;
+    DocumentKind m_selected = DocumentKind::Joystick;
+    bool m_protected = false;
+};
+
+} // namespace zeph

@@ -1,0 +1,54 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "documents/undo_history.h"
+#include "language/file_kinds.h"
+#include "platform/context.h"
+
+#include <QObject>
+
+namespace zeph {
+
+class Documents;
+class EditorView;
+class LineBlink;
+class MenuActions;
+
+/// The menu entries that undo and redo in the selected document, and show how many steps it has.
+class UndoHistories : public QObject
+{
+    Q_OBJECT
+public:
+    UndoHistories(const Context &context, EditorView &view, MenuActions &actions);
+
+    UndoHistory &of(DocumentKind kind);
+    void mnuEditUndo_Click();
+    void mnuEditRedo_Click();
+    /// Selects the caret's line in the selected document.
+    void mnuEditSelectLine_Click();
+    void UpdateUndoRedoMenus();
+    /// A fresh history for a document that was loaded or emptied.
+    void startOver(DocumentKind kind);
+    /// When a save clears the history (UndoClearOnSave), this is what it does.
+    void DeleteUndosOnSaveJ() { startOver(DocumentKind::Joystick); }
+    void DeleteUndosOnSaveM() { startOver(DocumentKind::Macro); }
+    /// Both documents, with an empty slot.
+    void DeleteUndosFromMemory();
+
+Q_SIGNALS:
+    /// Captions and tooltips of undo and redo changed: the toolbar follows.
+    void menusUpdated();
+
+private:
+    void step(void (UndoHistory::*way)(), bool possible);
+
+    Context m_context;
+    EditorView &m_view;
+    MenuActions &m_actions;
+    Documents &m_documents;
+    LineBlink *m_blink;
+};
+
+} // namespace zeph
