@@ -13,24 +13,23 @@ Change::Change(Document &document)
         // Colours may have come since the last step; a state that was undone is no newest one.
         document.history().storeTop();
     }
-    ++document.m_quiet;
+    m_quiet.emplace(document);
 }
 
 Change::~Change()
 {
-    if (m_open) {
+    if (m_quiet) {
         m_document.states().restore(m_before);
         m_document.setCaret(m_anchor, m_caret);
-        --m_document.m_quiet;
     }
 }
 
 bool Change::commit()
 {
-    if (!std::exchange(m_open, false)) {
+    if (!m_quiet) {
         return false;
     }
-    --m_document.m_quiet;
+    m_quiet.reset();
     if (m_document.states().present() == m_before) {
         return false;
     }

@@ -24,10 +24,10 @@ public:
 
 private:
     Document &m_document;
+    std::optional<ColouredText::Quiet> m_quiet;
     DocumentState m_before;
     int m_anchor;
     int m_caret;
-    bool m_open = true;
 };
 
 } // namespace zeph

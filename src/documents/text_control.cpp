@@ -3,7 +3,7 @@
 
 #include "documents/text_control.h"
 
-#include "documents/document.h"
+#include "documents/coloured_text.h"
 #include "documents/line_margin.h"
 #include "documents/pasted_text.h"
 #include "platform/richtext/rich_text_document.h"
@@ -39,16 +39,16 @@ bool changesText(int key)
 
 } // namespace
 
-TextControl::TextControl(QWidget *parent) : TextControl(*new Document, parent)
+TextControl::TextControl(QWidget *parent) : TextControl(*new ColouredText, parent)
 {
-    m_document.setParent(this);
+    m_text.setParent(this);
 }
 
-TextControl::TextControl(Document &document, QWidget *parent)
-    : QPlainTextEdit(parent), m_document(document),
+TextControl::TextControl(ColouredText &text, QWidget *parent)
+    : QPlainTextEdit(parent), m_text(text),
       m_margin(new LineMargin(*this, [this] { return seenLines(); }))
 {
-    setDocument(&document.content());
+    setDocument(&text.content());
     setLineWrapMode(NoWrap);
     m_margin->hide();
     connect(this, &TextControl::blockCountChanged, this, &TextControl::placeMargin);
@@ -56,29 +56,29 @@ TextControl::TextControl(Document &document, QWidget *parent)
     connect(this, &TextControl::cursorPositionChanged, this, &TextControl::moveMark);
     connect(this, &TextControl::cursorPositionChanged, this, &TextControl::tellCaret);
     connect(this, &TextControl::selectionChanged, this, &TextControl::tellCaret);
-    connect(&m_document, &Document::caretSet, this, &TextControl::showCaret);
-    connect(&m_document, &Document::lockedChanged, this, &TextControl::setLocked);
-    connect(&m_document, &Document::typingLookSet, this,
+    connect(&m_text, &ColouredText::caretSet, this, &TextControl::showCaret);
+    connect(&m_text, &ColouredText::lockedChanged, this, &TextControl::setLocked);
+    connect(&m_text, &ColouredText::typingLookSet, this,
             [this](const CharFormat &look) { setCurrentCharFormat(toTextFormat(look)); });
 }
 
 void TextControl::setLook(ColorRef background, const CharFormat &plain)
 {
-    const Document::Quiet quiet(m_document);
+    const ColouredText::Quiet quiet(m_text);
     QPalette look = palette();
     look.setColor(QPalette::Base, toColor(background));
     look.setColor(QPalette::Text, toColor(plain.colour.value_or(0)));
     setPalette(look);
     setFont(toTextFormat(plain).font());
     setTabStopDistance(8 * fontMetrics().averageCharWidth());
-    m_document.setPlain(plain);
+    m_text.setPlain(plain);
     placeMargin();
 }
 
 void TextControl::tellCaret()
 {
     if (!m_marks) {
-        m_document.follow(textCursor());
+        m_text.follow(textCursor());
     }
 }
 
@@ -94,7 +94,7 @@ void TextControl::mark(int start, int length)
 void TextControl::showCaret()
 {
     m_marks = false;
-    setTextCursor(m_document.cursor());
+    setTextCursor(m_text.cursor());
 }
 
 TextControl::Scroll TextControl::scroll() const
@@ -215,7 +215,7 @@ void TextControl::paintEvent(QPaintEvent *event)
 void TextControl::tellKey(const QKeyEvent &event)
 {
     if (!isReadOnly() && (types(event) || changesText(event.key()))) {
-        m_document.history().keyPressed(event.key());
+        Q_EMIT m_text.keyComing(event.key());
     }
 }
 
@@ -223,8 +223,7 @@ void TextControl::inputMethodEvent(QInputMethodEvent *event)
 {
     // What is composed of several keys comes without a key press.
     if (!isReadOnly() && !event->commitString().isEmpty()) {
-        m_document.history().keyPressed(event->commitString() == u" " ? Qt::Key_Space
-                                                                      : Qt::Key_unknown);
+        Q_EMIT m_text.keyComing(event->commitString() == u" " ? Qt::Key_Space : Qt::Key_unknown);
     }
     QPlainTextEdit::inputMethodEvent(event);
 }
@@ -249,7 +248,7 @@ void TextControl::keyPressEvent(QKeyEvent *event)
 
 QMimeData *TextControl::createMimeDataFromSelection() const
 {
-    return new RichTextMime(m_document.richText(m_document.selStart(), m_document.selLength()));
+    return new RichTextMime(m_text.richText(m_text.selStart(), m_text.selLength()));
 }
 
 bool TextControl::canInsertFromMimeData(const QMimeData *source) const
@@ -260,9 +259,9 @@ bool TextControl::canInsertFromMimeData(const QMimeData *source) const
 void TextControl::insertFromMimeData(const QMimeData *source)
 {
     QTextCursor cursor = textCursor();
-    insertRichText(cursor, pastedText(*source, m_document.plain()));
+    insertRichText(cursor, pastedText(*source, m_text.plain()));
     setTextCursor(cursor);
-    m_document.setTypingLook(m_document.plain());
+    m_text.setTypingLook(m_text.plain());
     ensureCursorVisible();
 }
 

@@ -9,27 +9,27 @@
 
 namespace zeph {
 
-class Document;
+class ColouredText;
 class LineMargin;
 struct SeenLine;
 
-/// A view of a document: shows its text and colours, unwrapped, so that a line is always a line of
-/// the file, and lets the user type into it. Caret and selection are the document's. Positions are
+/// A view of a text: shows it in its colours, unwrapped, so that a line is always a line of
+/// the file, and lets the user type into it. Caret and selection are the text's own. Positions are
 /// 0-based characters.
 class TextControl : public QPlainTextEdit
 {
     Q_OBJECT
 public:
-    /// The document outlives the view.
-    explicit TextControl(Document &document, QWidget *parent = nullptr);
-    /// A view of a document of its own.
+    /// The text outlives the view.
+    explicit TextControl(ColouredText &text, QWidget *parent = nullptr);
+    /// A view of a text of its own.
     explicit TextControl(QWidget *parent = nullptr);
 
-    Document &shown() const { return m_document; }
+    ColouredText &shown() const { return m_text; }
 
     /// Background of the whole control, and what plain text looks like.
     void setLook(ColorRef background, const CharFormat &plain);
-    /// Selects a stretch for the eye alone: the document's caret stays where it is.
+    /// Selects a stretch for the eye alone: the text's own caret stays where it is.
     void mark(int start, int length);
     /// Ends what mark() has shown.
     void showCaret();
@@ -74,7 +74,7 @@ private:
     /// The stretch of the viewport, over its whole width, in which a line stands.
     QRectF lineArea(const QTextBlock &line) const;
 
-    Document &m_document;
+    ColouredText &m_text;
     LineMargin *m_margin;
     bool m_marks = false; ///< the selection is for the eye alone
     bool m_marksLine = false;

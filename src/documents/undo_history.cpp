@@ -3,12 +3,12 @@
 
 #include "documents/undo_history.h"
 
-#include "documents/document.h"
+#include "documents/coloured_text.h"
 
 namespace zeph {
 
-UndoHistory::UndoHistory(Document &document, const qint16 &undoMax)
-    : m_document(document), m_undoMax(undoMax), m_states(document.states())
+UndoHistory::UndoHistory(ColouredText &text, const qint16 &undoMax)
+    : m_text(text), m_undoMax(undoMax), m_states(text.states())
 {
     reset();
 }
@@ -34,7 +34,7 @@ void UndoHistory::startWith(const DocumentState &state)
 
 UndoHistory::Slot UndoHistory::present()
 {
-    return { m_states.present(), m_document.selStart() };
+    return { m_states.present(), m_text.selStart() };
 }
 
 bool UndoHistory::textChanged()
@@ -67,7 +67,7 @@ void UndoHistory::keyPressed(int key)
     }
     const bool space = key == Qt::Key_Space;
     const bool enter = key == Qt::Key_Return || key == Qt::Key_Enter;
-    if (space && m_document.length() == 0) {
+    if (space && m_text.length() == 0) {
         UndoStepNext = 0;
     } else if (slots() == 1 || key == Qt::Key_Backspace) {
         UndoStepNext = 1;
@@ -99,10 +99,10 @@ void UndoHistory::show(int index)
     m_index = index;
     const Slot &slot = m_slots[size_t(index) - 1];
     {
-        const Document::Quiet quiet(m_document);
+        const ColouredText::Quiet quiet(m_text);
         m_states.restore(slot.state);
     }
-    m_document.select(slot.caret, 0);
+    m_text.select(slot.caret, 0);
 }
 
 qsizetype UndoHistory::bytesHeld() const

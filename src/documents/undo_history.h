@@ -11,14 +11,14 @@
 
 namespace zeph {
 
-class Document;
+class ColouredText;
 
 /// One document's history. Slot 1 is the newest state; UndoIndex is the slot now shown.
 class UndoHistory
 {
 public:
-    /// Document and setting outlive the history.
-    UndoHistory(Document &document, const qint16 &undoMax);
+    /// Text and setting outlive the history.
+    UndoHistory(ColouredText &text, const qint16 &undoMax);
 
     /// One slot holding the document as it stands, caret 0: after load, new and clearing.
     void reset();
@@ -55,7 +55,7 @@ private:
     void startWith(const DocumentState &state);
     void show(int index);
 
-    Document &m_document;
+    ColouredText &m_text;
     const qint16 &m_undoMax;
     DocumentStates &m_states;
     std::deque<Slot> m_slots; ///< slot 1 in front

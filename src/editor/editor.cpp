@@ -60,8 +60,7 @@ Editor::Editor(const Context &context, QWidget *parent)
           std::make_unique<TextLooks>(context, TextLooks::Parts{ *m_view, *m_actions, *m_insert })),
       m_typingColour(std::make_unique<TypingColour>(*m_view, *m_highlighting, context.settings)),
       m_editing(std::make_unique<EditingTools>(
-          context,
-          EditingTools::Parts{ *m_view, *m_actions, *m_highlighting, *m_insert })),
+          context, EditingTools::Parts{ *m_view, *m_actions, *m_highlighting, *m_insert })),
       m_useDirectives(std::make_unique<UseDirectives>(context, *m_view)),
       m_saving(std::make_unique<FileSaving>(context, *m_view, *m_copies, *m_useDirectives)),
       m_opening(std::make_unique<FileOpening>(

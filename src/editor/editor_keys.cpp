@@ -164,8 +164,7 @@ void EditorKeys::popUpInsertMenu()
     QAction *tip = m_actions.action(u"mnuInsertQuickTip");
     divider->setVisible(false);
     tip->setVisible(false);
-    m_actions.menu(u"mnuInsert")
-        ->exec(m_view.belowCaret());
+    m_actions.menu(u"mnuInsert")->exec(m_view.belowCaret());
     divider->setVisible(true);
     tip->setVisible(true);
 }
@@ -173,8 +172,7 @@ void EditorKeys::popUpInsertMenu()
 void EditorKeys::help()
 {
     const Document &document = m_view.documents().selected();
-    const QString word =
-        document.text().mid(document.selStart(), document.selLength()).trimmed();
+    const QString word = document.text().mid(document.selStart(), document.selLength()).trimmed();
     if (word.isEmpty()) {
         m_actions.trigger(u"mnuHelpContents");
     } else {

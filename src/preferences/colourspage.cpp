@@ -3,7 +3,7 @@
 
 #include "preferences/colourspage.h"
 
-#include "documents/document.h"
+#include "documents/coloured_text.h"
 #include "documents/document_look.h"
 #include "editor/macros/framemacros.h"
 #include "editor/macros/macro_list_model.h"

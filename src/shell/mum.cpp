@@ -112,7 +112,7 @@ void Mum::pressAtEnd(int press)
     }
     MenuActions &actions = m_editor->actions();
     actions.trigger(m_editor->selected().kind() == DocumentKind::Joystick ? u"mnuViewColourJoystick"
-                                                                        : u"mnuViewColourMacro");
+                                                                          : u"mnuViewColourMacro");
     actions.trigger(u"mnuFileSave");
     actions.trigger(u"mnuMacrosIdentify");
 }

@@ -101,8 +101,7 @@ TEST_F(HighlightingTest, APassSelectsTheTabOfItsDocument)
 
 TEST_F(HighlightingTest, APassNeverChangesTheSavedState)
 {
-    for (const auto state :
-         { Document::Empty, Document::Saved, Document::Modified }) {
+    for (const auto state : { Document::Empty, Document::Saved, Document::Modified }) {
         set(J, u"BTN S1"_s);
         editor->joystick().setState(state);
         highlighting().ApplyColourHighlighting();

@@ -3,7 +3,7 @@
 
 #include "documents/text_control.h"
 
-#include "documents/document.h"
+#include "documents/coloured_text.h"
 #include "platform/richtext/rich_text_document.h"
 #include "tests/support/rich_texts.h"
 
@@ -158,7 +158,8 @@ TEST_F(TextControlTest, ItsRichTextIsTheDocumentsWhateverSetIt)
         control.shown().setCharacterRuns(
             { { chance.upTo(control.shown().length() - from), chance.characterFormat() } }, from);
         ASSERT_EQ(control.shown().richText(), richTextOf(*control.document())) << "round " << round;
-        control.shown().changeLooks(0, control.shown().length(), [](CharFormat &look) { look.bold = !look.bold; });
+        control.shown().changeLooks(0, control.shown().length(),
+                                    [](CharFormat &look) { look.bold = !look.bold; });
         control.shown().replace(from, 0, u"x\ny"_s);
         ASSERT_EQ(control.shown().richText(), richTextOf(*control.document())) << "round " << round;
     }

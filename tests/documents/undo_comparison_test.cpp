@@ -126,7 +126,8 @@ protected:
     }
     void changed()
     {
-        copies().changed(control().shown().richText(), control().shown().selStart(), settings.UndoMax);
+        copies().changed(control().shown().richText(), control().shown().selStart(),
+                         settings.UndoMax);
     }
 
     void typeKey(int key)
@@ -162,7 +163,8 @@ protected:
     }
     void selectSomething(int most)
     {
-        control().shown().select(chance->upTo(int(control().shown().text().size())), chance->upTo(most));
+        control().shown().select(chance->upTo(int(control().shown().text().size())),
+                                 chance->upTo(most));
     }
     void deleteSelection()
     {
@@ -171,7 +173,8 @@ protected:
         if (control().shown().selLength() > 0) {
             // The present looks go along, unless an older state is shown.
             if (copies().index == 0) {
-                copies().slotsHeld[0] = { control().shown().richText(), control().shown().selStart() };
+                copies().slotsHeld[0] = { control().shown().richText(),
+                                          control().shown().selStart() };
             }
             editor->action(u"mnuEditDelete")->trigger();
             changed();

@@ -245,7 +245,8 @@ TEST_F(EditorWindowTest, EachControlKeyPressedRunsItsEntryOnceAndTypesNothing)
             const QString expected = (inMacroText ? row.macro : row.joystick).toString();
             noteEntries();
             ran.clear();
-            QTest::keyClick(&editor->view().control(editor->selected().kind()), Qt::Key(row.key), Qt::ControlModifier);
+            QTest::keyClick(&editor->view().control(editor->selected().kind()), Qt::Key(row.key),
+                            Qt::ControlModifier);
             EXPECT_EQ(ran, expected.isEmpty() ? QStringList() : QStringList{ expected })
                 << row.key << (inMacroText ? " in the macro text" : " in the joystick text");
         }

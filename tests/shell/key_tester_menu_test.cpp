@@ -41,7 +41,8 @@ struct KeyTesterMenuTest : test::ShellWorld {
 TEST_F(KeyTesterMenuTest, CtrlKInTheTextOpensIt)
 {
     EXPECT_EQ(tester(), nullptr);
-    QTest::keyClick(&run->editor().view().control(run->editor().selected().kind()), Qt::Key_K, Qt::ControlModifier);
+    QTest::keyClick(&run->editor().view().control(run->editor().selected().kind()), Qt::Key_K,
+                    Qt::ControlModifier);
     ASSERT_NE(tester(), nullptr);
     EXPECT_TRUE(tester()->isVisible());
     EXPECT_EQ(tester()->windowTitle(), u"Key Tester");

@@ -273,9 +273,10 @@ TEST_F(Modes, ShiftBreakAnywhereInTheEditorSendsOneEmergencyRequest)
 {
     start();
     Editor &editor = app->editor();
-    for (QWidget *focused : { static_cast<QWidget *>(&editor.view().control(DocumentKind::Joystick)),
-                              static_cast<QWidget *>(&editor.view().control(DocumentKind::Macro)),
-                              static_cast<QWidget *>(&editor.macros().list().frame()->list()) }) {
+    for (QWidget *focused :
+         { static_cast<QWidget *>(&editor.view().control(DocumentKind::Joystick)),
+           static_cast<QWidget *>(&editor.view().control(DocumentKind::Macro)),
+           static_cast<QWidget *>(&editor.macros().list().frame()->list()) }) {
         launcher.launches.clear();
         QStringList told;
         const auto heard = QObject::connect(&app->status(), &StatusLine::textChanged, &editor,

@@ -262,7 +262,8 @@ TEST_F(MainWindow, AKeyThatTextAndMenuBothKnowRunsOneEntry)
             const QString ofText = key.keyboardModifiers() == Qt::ControlModifier
                 ? EditorKeys::entryFor(key.key(), kind == DocumentKind::Macro)
                 : QString();
-            QTest::keyClick(&editor->view().control(editor->selected().kind()), key.key(), key.keyboardModifiers());
+            QTest::keyClick(&editor->view().control(editor->selected().kind()), key.key(),
+                            key.keyboardModifiers());
             EXPECT_EQ(ran, QStringList{ ofText.isEmpty() ? QString::fromUtf16(row.name) : ofText })
                 << keys.toString().toStdString();
         }

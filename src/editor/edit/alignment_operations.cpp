@@ -4,8 +4,8 @@
 #include "editor/edit/alignment_operations.h"
 
 #include "documents/change.h"
-#include "documents/highlighting.h"
 #include "documents/editor_view.h"
+#include "documents/highlighting.h"
 #include "menus/menu_actions.h"
 #include "platform/status_line.h"
 #include "settings/global_settings.h"

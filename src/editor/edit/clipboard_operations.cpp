@@ -3,8 +3,8 @@
 
 #include "editor/edit/clipboard_operations.h"
 
-#include "documents/coloured_insert.h"
 #include "documents/change.h"
+#include "documents/coloured_insert.h"
 #include "documents/editor_view.h"
 #include "documents/pasted_text.h"
 #include "menus/menu_actions.h"
@@ -71,7 +71,9 @@ void ClipboardOperations::paste(RichText (*take)(const QMimeData &data, const Ch
     if (m_parts.view.documents().refuseProtected() || !holdsText(clipboard)) {
         return;
     }
-    const RichText text = take(*clipboard, m_parts.view.documents().plainFormat(m_parts.view.documents().selected().kind()));
+    const RichText text =
+        take(*clipboard,
+             m_parts.view.documents().plainFormat(m_parts.view.documents().selected().kind()));
     if (text.text.isEmpty()) {
         return;
     }

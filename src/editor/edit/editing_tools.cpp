@@ -9,8 +9,7 @@
 namespace zeph {
 
 EditingTools::EditingTools(const Context &context, const Parts &parts)
-    : m_context(context), m_parts(parts),
-      m_clipboard({ parts.view, parts.actions, parts.insert }),
+    : m_context(context), m_parts(parts), m_clipboard({ parts.view, parts.actions, parts.insert }),
       m_blocks({ parts.view, parts.actions, parts.highlighting, parts.insert }),
       m_alignment(context, { parts.view, parts.actions, parts.highlighting })
 {
@@ -43,8 +42,7 @@ void EditingTools::mnuEditGoto_Click()
 void EditingTools::openFind(FindAndReplace::Tab tab)
 {
     if (!m_find) {
-        m_find = new FindAndReplace(m_context, { m_parts.view },
-                                    m_parts.view.window());
+        m_find = new FindAndReplace(m_context, { m_parts.view }, m_parts.view.window());
         connect(m_find, &FindAndReplace::helpOn, this, &EditingTools::helpOn);
     }
     m_find->showTab(tab);

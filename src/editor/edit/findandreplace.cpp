@@ -179,7 +179,7 @@ int FindAndReplace::optionsOf(const Page &page) const
 Document &FindAndReplace::documentOf(const Page &page) const
 {
     return m_parts.view.documents().of(page.joystick->isChecked() ? DocumentKind::Joystick
-                                                            : DocumentKind::Macro);
+                                                                  : DocumentKind::Macro);
 }
 
 bool FindAndReplace::refuses(const Document &document)
@@ -219,8 +219,7 @@ void FindAndReplace::find(Page &page)
     SearchOptions = qint16(optionsOf(page));
     LastFindText = word;
     const qsizetype caret = document.cursor().position();
-    const SearchResult result =
-        search(document.text(), { word, SearchOptions, page.first, caret });
+    const SearchResult result = search(document.text(), { word, SearchOptions, page.first, caret });
     if (result.verdict != SearchVerdict::Hit) {
         tellNoHit(page, word, document);
         return;
@@ -310,7 +309,8 @@ void FindAndReplace::goToLine()
 {
     // A number beyond all files is a line that no file has.
     const double line = qBound(0.0, leadingNumber(m_ui->LineToFind->text()), 1e9);
-    if (showLine(m_context, m_parts.view, m_parts.view.documents().selected(), int(line), LineCaret::AtStart)) {
+    if (showLine(m_context, m_parts.view, m_parts.view.documents().selected(), int(line),
+                 LineCaret::AtStart)) {
         returnToTexts();
     }
 }

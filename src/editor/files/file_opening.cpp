@@ -259,7 +259,8 @@ void FileOpening::show(Document &document, const QString &text)
     if (document.kind() == DocumentKind::Macro) {
         Q_EMIT macroReplaced();
     }
-    const auto coloured = m_parts.copies.load(document.name(), text, view.documents().plainFormat(document.kind()));
+    const auto coloured =
+        m_parts.copies.load(document.name(), text, view.documents().plainFormat(document.kind()));
     restoreKeyboard();
     if (coloured) {
         document.setRichText(*coloured);

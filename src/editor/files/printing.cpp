@@ -97,7 +97,8 @@ void FilePrinting::mnuFilePrinterSetup_Click()
 void FilePrinting::mnuFilePrintPreview_Click()
 {
     Document &document = m_editor.selected();
-    showPreview(m_context, m_printers, jobOf(document), folderOf(document.path()), m_editor.window());
+    showPreview(m_context, m_printers, jobOf(document), folderOf(document.path()),
+                m_editor.window());
 }
 
 void FilePrinting::mnuFileExportPDF_Click()

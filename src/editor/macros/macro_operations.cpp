@@ -146,8 +146,7 @@ QString MacroOperations::RichWordOver(const QPoint &at) const
         return {};
     }
     // A word ends at its line's end, so its line is enough.
-    const QTextBlock line =
-        m_parts.view.documents().joystick().content().findBlock(position);
+    const QTextBlock line = m_parts.view.documents().joystick().content().findBlock(position);
     return wordOver(line.text(), position - line.position());
 }
 

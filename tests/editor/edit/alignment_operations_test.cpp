@@ -37,10 +37,7 @@ protected:
         dialogs.answer(u"File protected"_s, BoxButton::Ok);
     }
     /// As text from elsewhere may stand.
-    void moveLinesIn()
-    {
-        setParagraphFormat(*joystick().document(), { .leftIndentTwips = 300 });
-    }
+    void moveLinesIn() { setParagraphFormat(*joystick().document(), { .leftIndentTwips = 300 }); }
     TextControl &joystick() { return editor->view().control(DocumentKind::Joystick); }
     int steps() { return editor->undos().of(DocumentKind::Joystick).slots() - 1; }
 };
@@ -145,7 +142,8 @@ TEST_F(AlignmentOperationsTest, RefreshingTheLayoutTakesColoursAway)
     editor->action(u"mnuViewReformat")->trigger();
     const RichText after = joystick().shown().richText();
     ASSERT_EQ(after.characters.size(), 1U);
-    EXPECT_EQ(after.characters.front().format, editor->documents().plainFormat(DocumentKind::Joystick));
+    EXPECT_EQ(after.characters.front().format,
+              editor->documents().plainFormat(DocumentKind::Joystick));
     EXPECT_EQ(after.paragraphs.front().format.leftIndentTwips, 20);
     EXPECT_EQ(status.text(), u"Layout refreshed ... (I wish I was!)");
 }

@@ -148,7 +148,8 @@ TEST_F(CompileTest, SuccessIsToldAndTheFocusGoesBack)
     EXPECT_EQ(panels, (QStringList{ u"Done"_s, u"Compiled successfully. (Memory used: 4%)"_s }));
     ASSERT_EQ(dialogs.boxes().size(), 1);
     EXPECT_EQ(dialogs.boxes()[0].text,
-              joystick.path() + u" compiled successfully.\n\nCompile time: 0.5s.\nMemory used: 4%"_s);
+              joystick.path()
+                  + u" compiled successfully.\n\nCompile time: 0.5s.\nMemory used: 4%"_s);
     EXPECT_EQ(done, (QStringList{ u"unload"_s, u"minimise"_s, u"focus"_s }));
 }
 

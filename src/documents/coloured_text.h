@@ -1,0 +1,122 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "documents/document_states.h"
+#include "platform/core/rich_text.h"
+
+#include <QTextCursor>
+#include <QTextDocument>
+
+namespace zeph {
+
+/// The small margin that every document has.
+constexpr ParagraphFormat documentParagraph = { .leftIndentTwips = 20 };
+
+/// A text of lines with its looks, and the place where the user is in it, with or without a view.
+/// Owns the toolkit's text; positions are 0-based characters.
+///
+/// The operations here change text and looks and count as no edit. What a view or anybody else does
+/// to content() is told as changed(), unless a Quiet lives.
+class ColouredText : public QObject
+{
+    Q_OBJECT
+public:
+    explicit ColouredText(QObject *parent = nullptr);
+
+    QTextDocument &content() { return m_content; }
+    const QTextDocument &content() const { return m_content; }
+    DocumentStates &states() { return m_states; }
+
+    /// The text, every character as it is (the toolkit's own call changes some blanks).
+    QString text() const;
+    RichText richText() const;
+    /// A stretch of it.
+    RichText richText(int from, int length) const;
+    /// Number of characters.
+    int length() const;
+    void setText(const QString &text);
+    void setRichText(const RichText &text);
+    /// Replaces a stretch, in the format that stands there; caret and selection move along.
+    void replace(int start, int length, const QString &text);
+    /// Replaces stretches of one length, at ascending places that do not overlap, as one edit.
+    void replaceAll(std::span<const qsizetype> starts, qsizetype length, const QString &text);
+    /// Puts a text in the place of the whole one, in the plain look.
+    void replaceWhole(const QString &text);
+    /// Puts rich text in the selection's place, in the document's own margins; the caret goes to
+    /// its end, and typing goes on in the plain look.
+    void insert(RichText text);
+    void removeSelection();
+
+    /// Font and colour of plain text, which typing starts with.
+    const CharFormat &plain() const { return m_plain; }
+    void setPlain(const CharFormat &plain);
+    /// Lays looks over the characters from a position on.
+    void setCharacterRuns(const std::vector<CharRun> &runs, int from = 0);
+    /// The same over the whole text.
+    void setLooks(const LookRuns &looks);
+    /// Changes the looks of a stretch through a function.
+    void changeLooks(int from, int length, const std::function<void(CharFormat &)> &change);
+    /// Gives all lines the document's margin.
+    void setMargins();
+    /// How the next typed character will look.
+    CharFormat typingLook() const;
+    void setTypingLook(const CharFormat &look);
+
+    /// Caret and selection, which views follow. A caret without a selection stands at selStart().
+    const QTextCursor &cursor() const { return m_cursor; }
+    int selStart() const { return m_cursor.selectionStart(); }
+    int selLength() const { return m_cursor.selectionEnd() - m_cursor.selectionStart(); }
+    /// 1-based line of the caret.
+    int caretLine() const { return m_cursor.blockNumber() + 1; }
+    void select(int start, int length) { setCaret(start, start + length); }
+    /// The same with a direction: the caret is at the selection's end that moves.
+    void setCaret(int anchor, int caret);
+    /// The user has moved the caret in a view.
+    void follow(const QTextCursor &cursor);
+
+    /// A locked text takes no changes from the user.
+    bool isLocked() const { return m_locked; }
+    void setLocked(bool locked);
+
+    /// While one lives, changes of content() count as nothing.
+    class Quiet
+    {
+    public:
+        explicit Quiet(ColouredText &text) : m_text(text) { ++m_text.m_quiet; }
+        ~Quiet() { --m_text.m_quiet; }
+        Quiet(const Quiet &) = delete;
+        Quiet &operator=(const Quiet &) = delete;
+
+    private:
+        ColouredText &m_text;
+    };
+
+Q_SIGNALS:
+    /// The user has changed the text.
+    void changed();
+    /// A key that may change the text comes to a view: Qt::Key value.
+    void keyComing(int key);
+    void lockedChanged(bool locked);
+    /// The caret has moved, by the user or by a call.
+    void caretMoved();
+    /// There is a selection now where there was none, or the other way round.
+    void selectionChanged(bool hasSelection);
+    /// A call has moved the caret: views show it where it is now.
+    void caretSet();
+    void typingLookSet(const CharFormat &look);
+
+private:
+    void tellCaret();
+
+    bool m_locked = false;
+    bool m_hadSelection = false;
+    int m_quiet = 0;
+    CharFormat m_plain;
+    QTextDocument m_content;
+    mutable DocumentStates m_states; ///< reads what has changed when it is asked
+    QTextCursor m_cursor;
+};
+
+} // namespace zeph
