@@ -12,21 +12,21 @@ class QAction;
 
 namespace zeph {
 
-/// The Key Tester's menus, made from one table. They are the mouse's alone: every key that reaches
-/// the window is there to be shown.
+/// The Key Tester's menus, made from one table. Only the mouse operates them, since the window
+/// shows every key that reaches it.
 class KeyTestMenus : public QMenuBar
 {
     Q_OBJECT
 public:
     explicit KeyTestMenus(QWidget *parent);
 
-    /// The entry, or the menu's own action, of that object name.
+    /// The entry of that object name, or the action that opens the menu of that name.
     QAction *action(QStringView name) const;
-    /// Ticks the entry NAME_index of a list of exclusive ones; another index ticks none.
+    /// Ticks NAME_index and unticks the other entries NAME_i; an index without entry unticks all.
     void tickOnly(const QString &name, int index) const;
 
 Q_SIGNALS:
-    /// An entry was chosen; element i of NAME_i is the index, -1 for entries of their own.
+    /// The user has chosen an entry: NAME and i of NAME_i, or its name and -1.
     void chosen(const QString &name, int index);
 
 private:

@@ -10,6 +10,8 @@
 #include "platform/input/keyboard.h"
 #include "platform/richtext/rich_text_box.h"
 #include "settings/settings_files.h"
+#include "toolchain/external_tools.h"
+#include "toolchain/modes/cougar_modes.h"
 #include "ui_keytestform.h"
 
 #include <QAction>
@@ -28,7 +30,7 @@ using G = GlobalSettings;
 
 constexpr int defaultDelayMs = 500;
 constexpr int layoutNameLength = 10;
-/// A Cougar that sends without end must not fill the memory.
+/// In lines. A Cougar that sends without end must not fill the memory.
 constexpr int longestList = 10000;
 
 constexpr std::array fontPoints = { 8, 10, 14 };
@@ -52,8 +54,8 @@ void paint(QWidget *widget, QPalette::ColorRole back, QPalette::ColorRole text, 
 
 } // namespace
 
-KeyTestForm::KeyTestForm(const Context &context, KeyTestHost host, QWidget *parent)
-    : QWidget(parent, Qt::Window), m_context(context), m_host(std::move(host)),
+KeyTestForm::KeyTestForm(const Context &context, const Parts &parts, QWidget *parent)
+    : QWidget(parent, Qt::Window), m_context(context), m_parts(parts),
       m_ui(std::make_unique<Ui::KeyTestForm>()), m_menus(new KeyTestMenus(this)),
       m_timer1(new QTimer(this))
 {
@@ -78,7 +80,8 @@ KeyTestForm::KeyTestForm(const Context &context, KeyTestHost host, QWidget *pare
             guarded(context.dialogs, [this](bool) { LBL_ModeWarning_Click(); }));
     paint(m_ui->LBL_ModeWarning, QPalette::Button, QPalette::ButtonText, warning);
     m_ui->LBL_ModeWarning->hide();
-    // Before all others: menu bars and shortcuts look at a key before the window that has it.
+    // Menu bars and shortcuts see a key before the window that has the focus; a filter of the
+    // application sees it first of all.
     QCoreApplication::instance()->installEventFilter(this);
 }
 
@@ -96,13 +99,13 @@ bool KeyTestForm::Form_Load()
         TurnOffCapsLOCK();
     }
     GetKeyPosition();
-    m_menus->action(u"mnuDX8KeyTester")->setVisible(m_host.hasDirectXTester());
+    m_menus->action(u"mnuDX8KeyTester")->setVisible(m_parts.directXTester.isVisible());
     ResizeStuff();
     if (!GetMappedCharacters()) {
         return false;
     }
     const QPointer<KeyTestForm> alive(this);
-    m_host.changeButtonsMode(true);
+    m_parts.modes.changeButtonsMode(ButtonsRequest::Programmed);
     QCoreApplication::processEvents();
     if (!alive) {
         return false;
@@ -124,7 +127,7 @@ void KeyTestForm::GetKeyPosition()
            pixelsFromTwips(numberOf(settings, &G::KeyHeightAtStartup)));
     const QPoint corner(pixelsFromTwips(numberOf(settings, &G::KeyLeftAtStartup)),
                         pixelsFromTwips(numberOf(settings, &G::KeyTopAtStartup)));
-    // A screen that was there last time may be gone.
+    // The screen where the window was last time may be gone.
     if (QGuiApplication::screenAt(corner)) {
         move(corner);
     }
@@ -142,7 +145,7 @@ void KeyTestForm::SaveKeyFormPosition()
         settings.KeyWidthAtStartup = QString::number(twipsFromPixels(width()));
         settings.KeyHeightAtStartup = QString::number(twipsFromPixels(height()));
     }
-    // A store that cannot be written makes no fuss.
+    // A store that cannot be written is not told: the window then opens as it did before.
     (void)saveSettings(settings, settingsFilesOf(m_context.paths),
                        { &G::KeyTopAtStartup, &G::KeyLeftAtStartup, &G::KeyWidthAtStartup,
                          &G::KeyHeightAtStartup, &G::ClearDelay, &G::KeyViewAll, &G::MenuDisplay });
@@ -176,7 +179,7 @@ void KeyTestForm::ToggleMenus()
 void KeyTestForm::showMenus(bool shown)
 {
     m_context.settings.MenuDisplay = shown ? 1 : 0;
-    // Not the bar alone: its entries are what tests and assistive programs look at.
+    // The entries too, since assistive programs look at them and not at the bar.
     for (const QStringView name : { u"mnuEmergency", u"mnuClear", u"mnuView", u"mnuCopy" }) {
         m_menus->action(name)->setVisible(shown);
     }
@@ -196,9 +199,9 @@ void KeyTestForm::ResizeStuff()
 void KeyTestForm::chosen(const QString &name, int index)
 {
     if (name == u"mnuEmergencyOff") {
-        m_host.changeButtonsMode(false);
+        m_parts.modes.changeButtonsMode(ButtonsRequest::Windows);
     } else if (name == u"mnuMemoryClear") {
-        m_host.mnuMemoryClear_Click(index);
+        m_parts.tools.mnuMemoryClear_Click(index);
     } else if (name == u"mnuYankCord") {
         m_context.dialogs.tell(
             u"I suppose you want me to make you a cup of tea as well"_s,
@@ -216,7 +219,7 @@ void KeyTestForm::chosen(const QString &name, int index)
     } else if (name == u"mnuCopyList") {
         copyList(index);
     } else if (name == u"mnuDX8KeyTester") {
-        m_host.startDirectXTester();
+        m_parts.directXTester.trigger();
     }
 }
 
@@ -274,8 +277,8 @@ void KeyTestForm::readMode()
     const bool good = m_mode.Status != u"ERROR" && m_mode.Buttons == programmedMode;
     m_ui->LBL_ModeWarning->setVisible(!good);
     if (good) {
-        // The request is not waited for, so the tools' answer may come only now. A later change of
-        // mode is the pilot's own and no error.
+        // Form_Load() does not wait for the tools' answer, so it is polled until it is good. What
+        // changes the mode afterwards is the pilot's own doing.
         m_modeTimer.stop();
     }
 }

@@ -10,14 +10,16 @@
 #include <QTimer>
 #include <QWidget>
 
-#include <functional>
 #include <memory>
 
+class QAction;
 class QKeyEvent;
 class QLabel;
 
 namespace zeph {
 
+class CougarModes;
+class ExternalTools;
 class KeyTestMenus;
 class RichTextBox;
 
@@ -25,37 +27,30 @@ namespace Ui {
 class KeyTestForm;
 }
 
-/// What the Key Tester needs of the rooms around it. All must be set.
-struct KeyTestHost {
-    /// Asks for the buttons' programmed (true) or Windows mode.
-    std::function<void(bool programmed)> changeButtonsMode;
-    /// Shift+Break: tells what it does, asks for Windows mode, and lets events run.
-    std::function<void()> emergencyOff;
-    /// The Cougar menu's memory command of that index: 0 empty buffers, 1 clear memory.
-    std::function<void(int index)> mnuMemoryClear_Click;
-    /// Whether there is a tester for DirectX keys, and its start.
-    std::function<bool()> hasDirectXTester;
-    std::function<void()> startDirectXTester;
-};
-
 /// Shows what the Cougar really sends: each key that goes down and up, and the text that results.
-/// While the window is in front every key is shown and none does anything else.
+/// While the window is in front, every key is shown and does nothing else.
 class KeyTestForm : public QWidget
 {
     Q_OBJECT
 public:
-    KeyTestForm(const Context &context, KeyTestHost host, QWidget *parent = nullptr);
+    struct Parts {
+        CougarModes &modes;
+        ExternalTools &tools;
+        /// The menu entry that starts the tester for DirectX keys; hidden where there is none.
+        QAction &directXTester;
+    };
+    KeyTestForm(const Context &context, const Parts &parts, QWidget *parent = nullptr);
     ~KeyTestForm() override;
 
-    /// Reads what the window needs and asks for the Cougar's programmed mode. False when the
-    /// window has to go again: without a key table, or closed while events ran (it may then be
-    /// gone for good).
+    /// Reads what the window needs and puts the Cougar into programmed mode. False when there is no
+    /// key table, or when the window was closed meanwhile, and maybe deleted: the caller must not
+    /// show it.
     bool Form_Load();
 
     void GetKeyPosition();
     void SaveKeyFormPosition();
     void ClearTextBoxes();
-    /// Reads KeyCodes.txt, restored from its copy if need be. False when there is none.
+    /// Reads KeyCodes.txt. False, which is told, when there is none.
     bool GetMappedCharacters();
     void TurnOffCapsLOCK();
     void ToggleMenus();
@@ -91,7 +86,7 @@ private:
     void LBL_ModeWarning_Click();
 
     Context m_context;
-    KeyTestHost m_host;
+    Parts m_parts;
     std::unique_ptr<Ui::KeyTestForm> m_ui;
     KeyTestMenus *m_menus;
     KeyTestRules m_rules;

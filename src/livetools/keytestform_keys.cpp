@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Zeph authors
 // SPDX-License-Identifier: MIT
 
-// The keys of the Key Tester: how they reach it, and what it shows of them.
+// How keys reach the Key Tester, and what it shows for each.
 
 #include "livetools/keytestform.h"
 #include "livetools/virtual_keys.h"
@@ -9,6 +9,7 @@
 #include "platform/input/keyboard.h"
 #include "platform/richtext/rich_text_box.h"
 #include "settings/global_settings.h"
+#include "toolchain/modes/cougar_modes.h"
 #include "ui_keytestform.h"
 
 #include <QContextMenuEvent>
@@ -45,7 +46,7 @@ int keyCodeOf(const KeyStroke &stroke)
 #endif
 }
 
-/// What a key types. Alt with a letter types nothing, as it is a command everywhere.
+/// What a key types. Alt with a letter is a command everywhere and types nothing.
 QString typedText(const QKeyEvent &event)
 {
     const auto commands = event.modifiers() & (Qt::AltModifier | Qt::ControlModifier);
@@ -98,7 +99,7 @@ void KeyTestForm::Form_KeyUp(int keycode, int)
 void KeyTestForm::emergency()
 {
     const QPointer<KeyTestForm> alive(this);
-    m_host.emergencyOff();
+    m_parts.modes.emergencyOff();
     if (alive) {
         close();
     }
@@ -136,11 +137,11 @@ void KeyTestForm::keyPressed(const QKeyEvent &event)
 void KeyTestForm::keyReleased(const QKeyEvent &event)
 {
     m_context.keyboard.noteNativeModifiers(event.nativeModifiers());
-    // Some systems tell a key that is held as one that is let go again and again.
+    // Some systems report a key that is held down as released and pressed again and again.
     if (!event.isAutoRepeat()) {
         const KeyStroke stroke = strokeOf(event);
         Form_KeyUp(keyCodeOf(stroke), shiftStateOf(stroke));
-        // AltGr, which counts for two, is let go as one.
+        // AltGr counts as Ctrl and Alt, but there is only one release.
         lightModifiers(~shiftStateOf(stroke), false);
     }
 }
@@ -149,7 +150,7 @@ bool KeyTestForm::eventFilter(QObject *watched, QEvent *event)
 {
     const auto type = event->type();
     if (type == QEvent::Resize && watched == m_ui->LabelEvents) {
-        // Its own size, which comes after the window's.
+        // The label gets its size after the window, and its heading depends on it.
         ResizeStuff();
         return false;
     }
@@ -178,7 +179,7 @@ void KeyTestForm::changeEvent(QEvent *event)
 {
     QWidget::changeEvent(event);
     if (event->type() == QEvent::ActivationChange) {
-        // Keys let go elsewhere are not told here.
+        // The window is not told of keys that are released while another one is active.
         lightModifiers(ShiftDown | CtrlDown | AltDown, false);
         showNumLock();
     }

@@ -19,15 +19,17 @@
 #include "settings/custom_colours.h"
 #include "settings/settings_files.h"
 #include "settings/settings_moments.h"
-#include "shell/cougar_tools.h"
 #include "shell/first_run.h"
 #include "shell/help_menu.h"
+#include "shell/key_tester_menu.h"
+#include "shell/main_scene.h"
 #include "shell/mum.h"
 #include "shell/preferences_menu.h"
 #include "shell/start_checks.h"
 #include "shell/start_files.h"
 #include "shell/template_menu.h"
-#include "shell/tools_menu.h"
+#include "toolchain/cougar_tools.h"
+#include "toolchain/tools_menu.h"
 
 #include <QAction>
 #include <QApplication>
@@ -176,7 +178,8 @@ void Application::loadEditor()
     m_mum->attachEditor(m_editor);
     m_help = new HelpMenu(context(), m_options.downloader, m_mum->toolWindows(), *m_editor);
     m_lists = new UserLists(context(), *m_editor);
-    m_tools->attach(context(), *m_mum, *m_editor, *m_help);
+    new MainScene(context(), { *m_mum, *m_editor, *m_help, *m_tools });
+    new KeyTesterMenu(context(), *m_tools, *m_mum, *m_editor);
     new PreferencesMenu(context(), { *m_mum, *m_editor, *m_lists, *m_tools });
     m_templates = new TemplateMenu(context(), m_options.printers, *m_mum, *m_editor, *m_help);
     m_printing = std::make_unique<FilePrinting>(context(), m_options.printers, *m_editor);

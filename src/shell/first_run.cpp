@@ -12,8 +12,8 @@
 #include "preferences/preferences.h"
 #include "settings/settings_files.h"
 #include "settings/settings_moments.h"
-#include "shell/cougar_tools.h"
-#include "shell/download_menu.h"
+#include "toolchain/cougar_tools.h"
+#include "toolchain/compile/download_menu.h"
 #include "shell/help_menu.h"
 #include "shell/welcome.h"
 

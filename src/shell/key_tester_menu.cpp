@@ -7,39 +7,16 @@
 #include "menus/menu_actions.h"
 #include "platform/tool_windows.h"
 #include "shell/mum.h"
-#include "toolchain/modes/cougar_modes.h"
+#include "toolchain/cougar_tools.h"
 
 #include <QAction>
 
 namespace zeph {
 
-KeyTesterMenu::KeyTesterMenu(const Context &context, CougarModes &modes, Mum &mum, Editor &editor)
-    : QObject(&editor), m_context(context), m_modes(modes), m_mum(mum), m_editor(editor)
+KeyTesterMenu::KeyTesterMenu(const Context &context, CougarTools &tools, Mum &mum, Editor &editor)
+    : QObject(&editor), m_context(context), m_tools(tools), m_mum(mum), m_editor(editor)
 {
     editor.actions().connectTo(u"mnuAppsKeyTester", [this] { mnuAppsKeyTester_Click(); });
-}
-
-KeyTestHost KeyTesterMenu::host()
-{
-    MenuActions *actions = &m_editor.actions();
-    KeyTestHost host;
-    host.changeButtonsMode = [this](bool programmed) {
-        m_modes.changeButtonsMode(programmed ? ButtonsRequest::Programmed
-                                             : ButtonsRequest::Windows);
-    };
-    host.emergencyOff = [this] {
-        m_modes.emergencyOff();
-    };
-    host.mnuMemoryClear_Click = [actions](int index) {
-        actions->trigger(u"mnuMemoryClear_"_s + QString::number(index));
-    };
-    host.hasDirectXTester = [actions] {
-        return actions->action(u"mnuAppsDX8_0")->isVisible();
-    };
-    host.startDirectXTester = [actions] {
-        actions->trigger(u"mnuAppsDX8_0");
-    };
-    return host;
 }
 
 void KeyTesterMenu::mnuAppsKeyTester_Click()
@@ -49,8 +26,10 @@ void KeyTesterMenu::mnuAppsKeyTester_Click()
         ToolWindows::raise(*open);
         return;
     }
+    const KeyTestForm::Parts parts{ m_tools.modes(), m_tools.externalTools(),
+                                    *m_editor.action(u"mnuAppsDX8_0") };
     auto *form = windows.load<KeyTestForm>(
-        [this](QWidget *owner) { return new KeyTestForm(m_context, host(), owner); });
+        [&](QWidget *owner) { return new KeyTestForm(m_context, parts, owner); });
     if (form->Form_Load()) {
         ToolWindows::raise(*form);
     } else {

@@ -9,7 +9,7 @@
 
 namespace zeph {
 
-class CougarModes;
+class CougarTools;
 class Editor;
 class Mum;
 
@@ -19,16 +19,14 @@ class KeyTesterMenu : public QObject
 {
     Q_OBJECT
 public:
-    KeyTesterMenu(const Context &context, CougarModes &modes, Mum &mum, Editor &editor);
+    KeyTesterMenu(const Context &context, CougarTools &tools, Mum &mum, Editor &editor);
 
     /// Opens the Key Tester, or brings it to the front.
     void mnuAppsKeyTester_Click();
 
 private:
-    KeyTestHost host();
-
     Context m_context;
-    CougarModes &m_modes;
+    CougarTools &m_tools;
     Mum &m_mum;
     Editor &m_editor;
 };

@@ -13,11 +13,11 @@
 #include "menus/menu_actions.h"
 #include "preferences/preferences.h"
 #include "settings/global_settings.h"
-#include "shell/cougar_tools.h"
-#include "shell/download_menu.h"
-#include "shell/games_menu.h"
+#include "toolchain/cougar_tools.h"
+#include "toolchain/compile/download_menu.h"
+#include "toolchain/games/games_menu.h"
 #include "shell/mum.h"
-#include "shell/tools_menu.h"
+#include "toolchain/tools_menu.h"
 
 #include <QApplication>
 #include <QEvent>

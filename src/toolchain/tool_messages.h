@@ -3,35 +3,35 @@
 
 #pragma once
 
-// What the user is told of the tools: about waits that ended, and about programs and profiles that
-// are not where they should be.
+// What the user is told about the tools: that a wait has ended, and that a program or a profile is
+// not where it should be.
 
 #include "platform/core/paths.h"
 #include "platform/dialogs.h"
 
 namespace zeph {
 
-/// The two things for which the compiler is waited for.
+/// What the compiler is doing while Zeph waits for it.
 enum class CompilerTask { Compile, Download };
 
-/// Told when the compiler was waited for too long; the callsign is the user's.
+/// The compiler took too long; the callsign is the user's.
 Box compilerTimeOutBox(CompilerTask task, const QString &callsign);
-/// Told when the download before a game was waited for too long; Yes goes on without it.
+/// The download before a game took too long; Yes starts the game without its verdict.
 Box gameTimeOutBox(const QString &callsign);
-/// Told when a mode request was waited for too long.
+/// A mode request took too long.
 Box modeTimeOutBox();
 
-/// Panel 1 after a wait, by whether it was given up.
+/// What panel 1 shows after a wait.
 QString panelAfterCompilerWait(bool givenUp);
 QString panelAfterModeWait(bool givenUp);
 
 /// HOTASConfig.exe is missing.
 Box noControlPanelBox(const Paths &paths);
-/// Another program of the tools' folder is missing; the note stands behind its name.
+/// Another program of the tools' folder is missing; the note follows its name.
 Box missingToolBox(QStringView program, QStringView note);
 /// A program that belongs beside Zeph is missing.
 Box missingCompanionBox(const Paths &paths, QStringView program);
-/// A profile is missing; for the stored one the text says where to choose another.
+/// A profile is missing; if it is the stored one, the text says where to choose another.
 Box missingProfileBox(const QString &name, bool isStored);
 /// There is no profile at all in the folder.
 Box noProfilesBox(const QString &folder);

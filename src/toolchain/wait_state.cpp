@@ -13,7 +13,7 @@ namespace zeph {
 
 namespace {
 
-/// A tool that answers sooner than this should not make a window flash up.
+/// Milliseconds; a window that appeared sooner would only flash when the tool answers in time.
 constexpr qint32 windowAfter = 2000;
 
 } // namespace
@@ -21,7 +21,7 @@ constexpr qint32 windowAfter = 2000;
 WaitTimes waitTimes(const GlobalSettings &settings)
 {
     WaitTimes times;
-    // An interval of nothing would never reach the limit, and so never give control back.
+    // With an interval of 0 the time would never reach the limit.
     if (const qint32 interval = checkForCompletionTimeMs(settings); interval > 0) {
         times.checkForCompletion = interval;
     }

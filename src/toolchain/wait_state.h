@@ -3,7 +3,7 @@
 
 #pragma once
 
-// How long a tool is waited for, as numbers: one tick of the poll at a time.
+// How long Zeph waits for a tool: what each tick of the poll's timer counts and decides.
 
 #include "platform/core/base.h"
 
@@ -11,7 +11,7 @@ namespace zeph {
 
 struct GlobalSettings;
 
-/// How a wait stands: the values that its finished variable takes.
+/// The values of a wait's finished variable.
 enum WaitResult : qint16 { WaitRunning = 0, WaitVerdict = 1, WaitGivenUp = 2 };
 
 /// The variables of one wait. There is one set for the compiler and one for mode requests, however
@@ -31,8 +31,8 @@ struct WaitTimes {
     friend bool operator==(const WaitTimes &, const WaitTimes &) = default;
 };
 
-/// The times of the settings, which are texts that a user edits by hand: what is no number, and an
-/// interval below 1, give the default.
+/// The times of the settings. A text that is no number, and an interval below 1, give the default,
+/// since users edit these by hand.
 WaitTimes waitTimes(const GlobalSettings &settings);
 
 /// What the status window has to do at a tick.
@@ -46,13 +46,13 @@ struct TickActions {
     friend bool operator==(const TickActions &, const TickActions &) = default;
 };
 
-/// One tick of a wait's timer. A verdict ends the wait before any time is counted; without one the
-/// interval is added, the status window follows once two seconds are reached (unless it is hidden),
-/// and above the limit the wait is given up.
+/// One tick of a wait's timer. If the tool has answered, the wait ends and no time is counted.
+/// Otherwise the interval is added to the time elapsed; from two seconds on the status window is
+/// shown, unless it is hidden; above the limit the wait is given up.
 TickActions tick(WaitState &state, bool statusNonEmpty, const WaitTimes &times, bool hideWindow,
                  bool windowShown);
 
-/// Milliseconds as whole seconds, to nearest, halves to even.
+/// Milliseconds rounded to whole seconds, halves to the even one.
 int wholeSeconds(qint32 milliseconds);
 
 } // namespace zeph

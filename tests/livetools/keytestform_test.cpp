@@ -5,12 +5,16 @@
 
 #include "platform/clock.h"
 #include "platform/core/profile_file.h"
+#include "platform/fakes/fake_joystick.h"
 #include "platform/fakes/fake_keyboard.h"
 #include "platform/fakes/fake_launcher.h"
 #include "platform/fakes/scripted_dialogs.h"
 #include "platform/status_line.h"
 #include "settings/global_settings.h"
 #include "tests/support/temp_folder.h"
+#include "toolchain/external_tools.h"
+#include "toolchain/handshake.h"
+#include "toolchain/modes/cougar_modes.h"
 
 #include <gtest/gtest.h>
 
@@ -41,8 +45,15 @@ public:
     Paths paths;
     GlobalSettings settings;
     StatusLine status;
+    Context context{ paths, settings, status, dialogs, launcher, clock, keyboard };
+    FakeJoystick joystick;
+    ToolchainHandshake handshake{ context, nullptr };
+    CougarModes modes{ context, handshake, joystick };
+    ExternalTools tools{ context, modes };
+    QAction directXTester{ nullptr };
+    /// The switches of the requests to the Cougar.
     QStringList asked;
-    bool hasDirectX = true;
+    bool directXStarted = false;
     QPointer<KeyTestForm> form;
 
     void SetUp() override
@@ -53,6 +64,13 @@ public:
         folder.write(u"KeyCodes.txt"_s,
                      "9,Tab\r\n13,Enter\r\n20,Caps Lock\r\n32,Space\r\n37,Left Arrow\r\n112,F1\r\n"
                      "121,F10\r\n93,Menu\r\n27,Escape\r\n");
+        folder.write(u"HOTASConfig.exe"_s, "tool");
+        launcher.onStart = [this](const Launch &launch) {
+            asked += launch.arguments.section(u' ', -1);
+            return Expected<void, QString>();
+        };
+        QObject::connect(&directXTester, &QAction::triggered, &directXTester,
+                         [this] { directXStarted = true; });
         report("OKAY", 1);
     }
     void TearDown() override
@@ -67,25 +85,9 @@ public:
                      "[TMMODE]\r\nStatus=" + modeStatus
                          + "\r\nAxes=1\r\nButtons=" + QByteArray::number(buttons) + "\r\n");
     }
-    KeyTestHost host()
-    {
-        return { .changeButtonsMode =
-                     [this](bool programmed) {
-                         asked.append(programmed ? u"programmed"_s : u"windows"_s);
-                     },
-                 .emergencyOff = [this] { asked.append(u"emergency"_s); },
-                 .mnuMemoryClear_Click =
-                     [this](int index) { asked.append(u"memory %1"_s.arg(index)); },
-                 .hasDirectXTester = [this] { return hasDirectX; },
-                 .startDirectXTester =
-                     [this] {
-                         asked.append(u"directx"_s);
-                     } };
-    }
     bool open()
     {
-        form = new KeyTestForm({ paths, settings, status, dialogs, launcher, clock, keyboard },
-                               host());
+        form = new KeyTestForm(context, { modes, tools, directXTester });
         form->setAttribute(Qt::WA_DeleteOnClose);
         const bool loaded = form->Form_Load();
         if (loaded) {
@@ -135,7 +137,7 @@ const QColor orange(0xFF, 0xC0, 0x80);
 TEST_F(KeyTester, AsksForProgrammedModeWhenItOpens)
 {
     ASSERT_TRUE(open());
-    EXPECT_EQ(asked, QStringList{ u"programmed"_s });
+    EXPECT_EQ(asked, QStringList{ u"/BU"_s });
     EXPECT_FALSE(child<QPushButton>(u"LBL_ModeWarning"_s)->isVisible());
     EXPECT_EQ(keys(), QString());
     EXPECT_EQ(events(), QString());
@@ -221,7 +223,8 @@ TEST_F(KeyTester, ShiftAndPauseAlwaysGetsOut)
         stroke(Qt::Key_A, {}, u"a"_s);
     }
     stroke(Qt::Key_Pause, Qt::ShiftModifier, u"\x13"_s);
-    EXPECT_EQ(asked.last(), u"emergency");
+    EXPECT_EQ(asked.last(), u"/BW");
+    EXPECT_EQ(status.text(), u" Control has been returned to Zeph");
     EXPECT_FALSE(form && form->isVisible());
 }
 
@@ -314,7 +317,7 @@ TEST_F(KeyTester, TheEmergencyMenuSendsItsRequests)
          { u"mnuEmergencyOff", u"mnuMemoryClear_0", u"mnuMemoryClear_1", u"mnuYankCord" }) {
         choose(QString::fromUtf16(name));
     }
-    EXPECT_EQ(asked, (QStringList{ u"windows"_s, u"memory 0"_s, u"memory 1"_s }));
+    EXPECT_EQ(asked, (QStringList{ u"/BW"_s, u"/EB"_s, u"/CM"_s }));
     EXPECT_EQ(dialogs.boxes().last().text,
               u"You don't think I can do this for you, do you? I'm just a computer, and I've got "
               "enough of my own problems thank you very much without having to be burdened with "
@@ -326,9 +329,9 @@ TEST_F(KeyTester, TheDirectXTesterIsOnOfferWhereThereIsOne)
     ASSERT_TRUE(open());
     EXPECT_EQ(action(u"mnuDX8KeyTester"_s)->text(), u"Zeph's DX8 KeyTester");
     choose(u"mnuDX8KeyTester"_s);
-    EXPECT_EQ(asked.last(), u"directx");
+    EXPECT_TRUE(directXStarted);
     delete form;
-    hasDirectX = false;
+    directXTester.setVisible(false);
     ASSERT_TRUE(open());
     EXPECT_FALSE(action(u"mnuDX8KeyTester"_s)->isVisible());
 }

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Zeph authors
 // SPDX-License-Identifier: MIT
 
-#include "shell/tools_menu.h"
+#include "toolchain/tools_menu.h"
 
 #include "editor/editor.h"
 #include "menus/menu_actions.h"

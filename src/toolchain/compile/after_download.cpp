@@ -16,14 +16,14 @@ namespace zeph {
 
 namespace {
 
-/// The root of the drive that a command's path begins with: the folder in which it starts.
+/// The folder in which a command starts: the root of the drive that its path begins with.
 QString rootOfCommand(const QString &command)
 {
     return rootOf(command.startsWith(u'"') ? command.sliced(1) : command);
 }
 
 constexpr QStringView head = u"use zeph run_app";
-/// What no line that names an application falls below: the head, a blank and three characters.
+/// The head, a blank and three characters: a shorter line names no application.
 constexpr qsizetype shortestLine = 20;
 constexpr qsizetype commandAt = head.size() + 1;
 
@@ -105,15 +105,15 @@ void AfterDownload::GetAppsToRun(const QString &joystickText)
     if (m_context.settings.RunAppsWithDownload == 1 || joystickText.isEmpty()) {
         return;
     }
-    // Only a copy for the curious: the lines are read from the text itself, so that a full disk
-    // keeps nobody from flying.
+    // Nothing reads this copy. A full disk must not keep anybody from flying, so its failure is
+    // not told.
     (void)writeFileAtomically(m_context.paths.tempFolder() + u"Original.txt"_s,
                               documentBytes(joystickText));
     for (const RunApp &app : runAppLines(joystickText)) {
         if (!started(launchFromCommand(app.command, rootOfCommand(app.command), app.style))) {
             return;
         }
-        // The windows are drawn between two starts; a command of the user comes behind the last.
+        // Lets the windows be drawn; what the user does meanwhile has to wait for the last start.
         QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
     }
 }

@@ -10,7 +10,7 @@
 
 namespace zeph {
 
-/// One line: a program's path with its arguments, and how its window comes up.
+/// What one line names: a program's path with its arguments, and how its window opens.
 struct RunApp {
     QString command = {};
     WindowStyle style = WindowStyle::MinimisedNoFocus;
@@ -18,12 +18,12 @@ struct RunApp {
     friend bool operator==(const RunApp &, const RunApp &) = default;
 };
 
-/// The applications that the lines of a text name, in their order. Lines end with '\n'. A style
-/// that is none of 0 to 4, and a line without one, mean a minimised window without the focus.
+/// The applications that the USE ZEPH RUN_APP lines of a text name, in their order. Lines end with
+/// '\n'. Without a style from 0 to 4 the window opens minimised, without the focus.
 QList<RunApp> runAppLines(QStringView joystickText);
 
-/// What a good download may start: the NumLock helper and the applications that the joystick file
-/// names.
+/// Starts what follows a good download: the NumLock helper, and the applications that the joystick
+/// file names.
 class AfterDownload
 {
 public:
@@ -31,8 +31,8 @@ public:
 
     /// Runs the helper that turns NumLock on; a missing one is told.
     void TurnNumLockOn();
-    /// Starts what the USE ZEPH RUN_APP lines of the text name, in their order, unless the user
-    /// wants none of it. One that cannot be started is told and ends the row.
+    /// Starts the applications that the text names, one after the other, unless the user has
+    /// switched that off. One that cannot be started is told, and the rest is left out.
     void GetAppsToRun(const QString &joystickText);
 
 private:

@@ -3,20 +3,20 @@
 
 #include "toolchain/compile/compile.h"
 
-#include "documents/document.h"
+#include "documents/documents.h"
 #include "platform/dialogs.h"
 #include "platform/status_line.h"
 #include "settings/global_settings.h"
 #include "toolchain/compile/verdict.h"
+#include "toolchain/document_saver.h"
 #include "toolchain/handshake.h"
 #include "toolchain/tool_commands.h"
-
-#include <utility>
+#include "toolchain/tool_scene.h"
 
 namespace zeph {
 
-Compile::Compile(const Context &context, ToolchainHandshake &handshake, CompileHost host)
-    : m_context(context), m_handshake(handshake), m_host(std::move(host))
+Compile::Compile(const Context &context, const ToolParts &parts)
+    : m_context(context), m_parts(parts)
 {
 }
 
@@ -25,13 +25,12 @@ void Compile::mnuAppsCompile_Click()
     if (!canBegin() || !saveJoystick() || !macroFileMayDiffer()) {
         return;
     }
-    m_host.unloadHelpers();
-    m_host.minimiseToolWindows();
+    m_parts.scene.minimiseToolWindows();
     // The user may open another file during the wait: the verdict is about this one.
-    const QString path = m_host.joystick().path();
-    m_handshake.setStatusCaption(u"Compiling "_s + m_host.joystick().caption());
-    const ExchangeEnd end =
-        m_handshake.runCompiler(compilerLaunch(m_context.paths, CompilerCommand::Compile, path));
+    const QString path = m_parts.documents.joystick().path();
+    m_parts.handshake.setStatusCaption(u"Compiling "_s + m_parts.documents.joystick().caption());
+    const ExchangeEnd end = m_parts.handshake.runCompiler(
+        compilerLaunch(m_context.paths, CompilerCommand::Compile, path));
     if (end == ExchangeEnd::Abandoned || end == ExchangeEnd::NotStarted) {
         return;
     }
@@ -46,7 +45,7 @@ void Compile::mnuAppsCompile_Click()
 
 bool Compile::canBegin()
 {
-    if (m_host.joystickText().isEmpty()) {
+    if (m_parts.documents.joystick().length() == 0) {
         m_context.dialogs.tell(
             u"Nothing to compile ..."_s,
             u"The Joystick file is empty, so there's not much point in me trying to compile it!. "
@@ -66,18 +65,20 @@ bool Compile::canBegin()
     return true;
 }
 
-/// To compile means to save, so nobody is asked. Whether the file on the disk is the edited one.
+/// Saves a changed file without a question, since to compile means to save. False, which is told,
+/// when the file on the disk is still another.
 bool Compile::saveJoystick()
 {
-    if (!m_host.joystick().isModified()) {
+    const Document &joystick = m_parts.documents.joystick();
+    if (!joystick.isModified()) {
         return true;
     }
-    m_host.selectJoystickTab();
-    m_host.mnuFileSave_Click();
-    if (!m_host.joystick().isModified()) {
+    m_parts.documents.select(DocumentKind::Joystick);
+    m_parts.saver.saveSelected();
+    if (!joystick.isModified()) {
         return true;
     }
-    // Nothing hangs on the answer: a compile of another text than the edited one helps nobody.
+    // Both answers end the compile: it would be about another text than the edited one.
     m_context.dialogs.ask(
         u"Hang on a minute ..."_s,
         u"The joystick file isn't saved, which it needs to be for me to be able to compile it"_s);
@@ -86,7 +87,8 @@ bool Compile::saveJoystick()
 
 bool Compile::macroFileMayDiffer()
 {
-    if (!m_host.macro().isModified() || m_host.macroText().isEmpty()) {
+    const Document &macro = m_parts.documents.macro();
+    if (!macro.isModified() || macro.length() == 0) {
         return true;
     }
     return m_context.dialogs.ask(
@@ -109,13 +111,14 @@ void Compile::tellOutcome(const QString &path)
         m_context.dialogs.box(*telling.box);
     }
     if (telling.showHelp) {
-        m_host.showCompilerHelp(verdict);
+        m_parts.scene.showCompilerHelp(errorOf(verdict, m_parts.documents.joystick().caption(),
+                                               m_parts.documents.macro().caption()));
     }
     if (telling.highlightLine != 0) {
-        m_host.HighlightErrorLine(telling.highlightLine, verdict.ErrorCode);
+        m_parts.scene.HighlightErrorLine(telling.highlightLine, verdict.ErrorCode);
     }
     if (!telling.failed) {
-        m_host.ResetFocusToEditor();
+        m_parts.scene.ResetFocusToEditor();
     }
 }
 

@@ -4,7 +4,6 @@
 #include "toolchain/compile/compilerhelp.h"
 
 #include "toolchain/compile/error_codes.h"
-#include "toolchain/compile/verdict.h"
 #include "ui_compilerhelp.h"
 
 #include <QSignalBlocker>
@@ -45,7 +44,7 @@ void CompilerHelp::setFontSize(int points)
     QTextCharFormat size;
     size.setFontPointSize(points);
     all.mergeCharFormat(size);
-    // The lines above have moved the entry.
+    // The new size of the lines above the entry has moved it.
     m_ui->RichTextCodes->scrollTo(m_ui->RichTextCodes->selStart());
 }
 

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "platform/core/base.h"
+#include "toolchain/compile/verdict.h"
 
 #include <QDialog>
 
@@ -15,21 +15,13 @@ namespace Ui {
 class CompilerHelp;
 }
 
-/// An error that the compiler reported, with what is needed to say where it is.
-struct CompilerError {
-    QString text; ///< begins with the code
-    int line = 0; ///< 1-based; 0 = none
-    QString joystickName; ///< as the first tab shows it
-    QString macroName; ///< as the second tab shows it
-};
-
-/// Explains an error of the compiler: where it is, and the entry of its code among all the codes.
-/// Stands beside the other windows.
+/// Explains an error of the compiler: shows where it is, and selects the entry of its code in the
+/// list of all codes. Does not block the other windows.
 class CompilerHelp : public QDialog
 {
     Q_OBJECT
 public:
-    /// Loads the explanations; a file that cannot be read is told in their place.
+    /// Loads the explanations; when the file cannot be read, the window shows the reason instead.
     explicit CompilerHelp(const QString &errorCodesPath, QWidget *parent = nullptr);
     ~CompilerHelp() override;
 
@@ -37,7 +29,7 @@ public:
     void ShowTheError(const CompilerError &error);
 
 Q_SIGNALS:
-    /// The user wants the line in the document.
+    /// The user wants to see the line in the document.
     void highlightRequested(int line, const QString &errorText);
     /// The user wants the help topic on errors.
     void helpRequested();

@@ -3,27 +3,33 @@
 
 #include "toolchain/compile/download.h"
 
-#include "documents/document.h"
+#include "documents/documents.h"
+#include "menus/menu_actions.h"
 #include "platform/dialogs.h"
 #include "platform/status_line.h"
 #include "settings/global_settings.h"
+#include "toolchain/compile/after_download.h"
 #include "toolchain/compile/verdict.h"
+#include "toolchain/document_saver.h"
 #include "toolchain/handshake.h"
+#include "toolchain/modes/cougar_modes.h"
+#include "toolchain/modes/profiles.h"
 #include "toolchain/tool_commands.h"
+#include "toolchain/tool_scene.h"
 
 #include <utility>
 
 namespace zeph {
 
-/// Keeps the joystick text read-only, at the longest until it goes out of scope: whatever becomes
-/// of a download, the pilot can type again behind it.
+/// Keeps the joystick text read-only until it is released, at the latest when it goes out of scope:
+/// however a download ends, the pilot can type again afterwards.
 class Download::TextLock
 {
 public:
     explicit TextLock(Download &download) : m_download(&download)
     {
         if (download.m_locks++ == 0) {
-            download.m_host.lockJoystickText(true);
+            download.m_parts.documents.joystick().setLocked(true);
         }
     }
     ~TextLock() { release(); }
@@ -34,28 +40,29 @@ public:
     {
         Download *download = std::exchange(m_download, nullptr);
         if (download && --download->m_locks == 0) {
-            download->m_host.lockJoystickText(false);
+            download->m_parts.documents.joystick().setLocked(false);
         }
     }
-    /// There is no text any more.
+    /// The program ends: there is no text to release any more.
     void forget() { m_download = nullptr; }
 
 private:
     Download *m_download;
 };
 
-Download::Download(const Context &context, ToolchainHandshake &handshake, DownloadHost host)
-    : m_context(context), m_handshake(handshake), m_host(std::move(host))
+Download::Download(const Context &context, const ToolParts &parts)
+    : m_context(context), m_parts(parts)
 {
 }
 
 void Download::DownloadTMJ()
 {
-    m_host.selectJoystickTab();
+    m_parts.documents.select(DocumentKind::Joystick);
     if (!canBegin() || !joystickFileMayGo() || !macroFileMayDiffer()) {
         return;
     }
-    if (m_host.resetsAxes() && !m_host.ApplyDefaultProfile()) {
+    const bool resetsAxes = m_context.settings.UseResetProfile == 1;
+    if (resetsAxes && !m_parts.profiles.ApplyDefaultProfile()) {
         return;
     }
     send();
@@ -63,7 +70,7 @@ void Download::DownloadTMJ()
 
 bool Download::canBegin()
 {
-    if (!m_host.joystickText().isEmpty()) {
+    if (m_parts.documents.joystick().length() > 0) {
         return true;
     }
     m_context.dialogs.tell(
@@ -77,11 +84,12 @@ bool Download::canBegin()
 /// Saves a changed file. When it could not be saved, the user may still send the old one.
 bool Download::joystickFileMayGo()
 {
-    if (!m_host.joystick().isModified()) {
+    const Document &joystick = m_parts.documents.joystick();
+    if (!joystick.isModified()) {
         return true;
     }
-    m_host.mnuFileSave_Click();
-    return !m_host.joystick().isModified()
+    m_parts.saver.saveSelected();
+    return !joystick.isModified()
         || m_context.dialogs.ask(
             u"Hang on a minute ..."_s,
             u"The joystick file isn't saved, so you won't be sending the currently edited file to "
@@ -90,7 +98,8 @@ bool Download::joystickFileMayGo()
 
 bool Download::macroFileMayDiffer()
 {
-    if (!m_host.macro().isModified() || m_host.macroText().isEmpty()) {
+    const Document &macro = m_parts.documents.macro();
+    if (!macro.isModified() || macro.length() == 0) {
         return true;
     }
     return m_context.dialogs.ask(
@@ -105,12 +114,12 @@ void Download::send()
 {
     const bool enables = m_context.settings.DownloadMode == 1;
     // The user may open another file during the wait: the verdict is about this one.
-    const QString path = m_host.joystick().path();
+    const QString path = m_parts.documents.joystick().path();
     m_context.status.setText(
         u" Waiting for compiler to download your file. Please be patient ...."_s);
-    m_handshake.setStatusCaption(u"Downloading "_s + m_host.joystick().caption());
+    m_parts.handshake.setStatusCaption(u"Downloading "_s + m_parts.documents.joystick().caption());
     TextLock lock(*this);
-    const ExchangeEnd end = m_handshake.runCompiler(compilerLaunch(
+    const ExchangeEnd end = m_parts.handshake.runCompiler(compilerLaunch(
         m_context.paths, enables ? CompilerCommand::DownloadAndEnable : CompilerCommand::Download,
         path));
     if (end == ExchangeEnd::Abandoned) {
@@ -119,8 +128,8 @@ void Download::send()
     }
     const bool givenUp = end != ExchangeEnd::Verdict;
     if (end != ExchangeEnd::NotStarted) {
-        m_handshake.closeStatusWindow();
-        m_host.showCougarMode();
+        m_parts.handshake.closeStatusWindow();
+        m_parts.modes.showIfDetecting();
     }
     if (end == ExchangeEnd::GivenUp) {
         m_context.dialogs.box(
@@ -138,7 +147,7 @@ void Download::tellOutcome(const QString &path, TextLock &lock)
     const VerdictTelling telling = tellVerdict(verdict, CompilerTask::Download, path,
                                                m_context.settings.HOTASStatusBarErrors != 0);
     if (!telling.failed && m_context.settings.NumlockDownloadMode == 1) {
-        m_host.TurnNumLockOn();
+        m_parts.afterDownload.TurnNumLockOn();
     }
     if (!telling.panel.isEmpty()) {
         m_context.status.setText(telling.panel);
@@ -155,27 +164,35 @@ void Download::tellOutcome(const QString &path, TextLock &lock)
 
 void Download::succeed(TextLock &lock)
 {
-    m_host.GetAppsToRun(m_host.joystickText());
-    // Only programmed mode sends keys that there would be something to test about.
+    m_parts.afterDownload.GetAppsToRun(m_parts.documents.joystick().text());
+    // In Windows mode the Cougar sends no keys to test.
     if (m_context.settings.RunKeyTest == 1 && m_context.settings.DownloadMode == 1) {
         lock.release();
-        m_host.openKeyTester();
+        openKeyTester();
     }
-    m_host.ResetFocusToEditor();
+    m_parts.scene.ResetFocusToEditor();
+}
+
+/// Opens the Key Tester, or the tester that the user prefers.
+void Download::openKeyTester()
+{
+    m_parts.actions.trigger(m_context.settings.DefaultToDX8KeyTester == 1 ? u"mnuAppsDX8_0"
+                                                                          : u"mnuAppsKeyTester");
 }
 
 void Download::fail(const VerdictTelling &telling, const CompilerVerdict &verdict, TextLock &lock)
 {
     if (telling.showHelp) {
-        m_host.showCompilerHelp(verdict);
+        m_parts.scene.showCompilerHelp(errorOf(verdict, m_parts.documents.joystick().caption(),
+                                               m_parts.documents.macro().caption()));
     }
     lock.release();
     if (telling.highlightLine != 0) {
-        m_host.HighlightErrorLine(telling.highlightLine, verdict.ErrorCode);
+        m_parts.scene.HighlightErrorLine(telling.highlightLine, verdict.ErrorCode);
     }
     if (verdict.Status.isEmpty()) {
-        m_host.selectJoystickTab();
-        m_host.ResetFocusToEditor();
+        m_parts.documents.select(DocumentKind::Joystick);
+        m_parts.scene.ResetFocusToEditor();
     }
 }
 

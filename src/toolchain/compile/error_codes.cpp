@@ -15,8 +15,8 @@ namespace zeph {
 namespace {
 
 constexpr qsizetype codeLength = 10;
-/// From here on, an entry's own first word is not found again.
-constexpr qsizetype behindOwnWord = 5;
+/// A search for the next entry's "ERROR" starts here, so that it does not find the entry's own.
+constexpr qsizetype afterOwnWord = 5;
 
 } // namespace
 
@@ -26,9 +26,9 @@ std::optional<ErrorEntry> findErrorEntry(QStringView text, QStringView errorText
     if (start < 0) {
         return std::nullopt;
     }
-    const qsizetype behind = std::min(start + behindOwnWord, text.size());
-    const qsizetype next = findText(text, u"ERROR", behind, SearchMatchCase);
-    const qsizetype lineEnd = text.indexOf(u'\n', behind);
+    const qsizetype after = std::min(start + afterOwnWord, text.size());
+    const qsizetype next = findText(text, u"ERROR", after, SearchMatchCase);
+    const qsizetype lineEnd = text.indexOf(u'\n', after);
     return ErrorEntry{
         start,
         next < 0 ? text.size() : next,

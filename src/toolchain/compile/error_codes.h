@@ -14,17 +14,17 @@ namespace zeph {
 struct ErrorEntry {
     qsizetype entryStart = 0;
     qsizetype entryEnd = 0; ///< where the next entry starts, or the text's end
-    qsizetype headingEnd = 0; ///< behind the heading line's last character
+    qsizetype headingEnd = 0; ///< after the heading line's last character
 
     friend bool operator==(const ErrorEntry &, const ErrorEntry &) = default;
 };
 
-/// The entry of the code that an error text begins with (its first ten characters); none when the
-/// explanations do not hold the code. A heading that no line end follows is taken to be as long as
-/// the error text.
+/// Finds the entry of the code that an error text begins with (its first ten characters). None when
+/// the explanations lack the code. A heading without a line end after it counts as long as the
+/// error text.
 std::optional<ErrorEntry> findErrorEntry(QStringView text, QStringView errorText);
 
-/// Reads the explanations; the error says in words which file failed and why.
+/// Reads the explanations. The error says in words which file failed and why.
 Expected<RichText, QString> readErrorCodes(const QString &path);
 
 } // namespace zeph

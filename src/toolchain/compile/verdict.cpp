@@ -7,7 +7,7 @@ namespace zeph {
 
 namespace {
 
-/// The words that differ by what the compiler was asked to do.
+/// The words that depend on what the compiler was asked to do.
 struct VerdictWords {
     QStringView noResponse;
     QStringView errorAtLine;
@@ -87,7 +87,7 @@ VerdictTelling tellVerdict(const CompilerVerdict &verdict, CompilerTask task, co
     if (verdict.Status.isEmpty()) {
         VerdictTelling telling;
         telling.failed = true;
-        // Panel 1 has no words for this outcome, so the box comes whatever the settings say.
+        // Panel 1 has no words for this outcome, so the box is shown whatever the settings say.
         telling.box = box(u"Unknown result"_s, words.noResponse.toString(), BoxIcon::Exclamation);
         return telling;
     }
@@ -105,6 +105,12 @@ VerdictTelling tellGameVerdict(const CompilerVerdict &verdict, bool statusBarOnl
     VerdictTelling telling;
     telling.panel = u"Compiled successfully. Launching game ..."_s;
     return telling;
+}
+
+CompilerError errorOf(const CompilerVerdict &verdict, const QString &joystickName,
+                      const QString &macroName)
+{
+    return { verdict.ErrorCode, verdict.LineNumber, joystickName, macroName };
 }
 
 bool isMacroFileError(QStringView errorText)

@@ -19,12 +19,12 @@ namespace Ui {
 class EnterGameName;
 }
 
-/// Asks for a game and what the Cougar needs for it. Changes nothing itself.
+/// Asks for a game and what the Cougar needs for it. The list of games is left to the caller.
 class EnterGameName : public QDialog
 {
     Q_OBJECT
 public:
-    /// A joystick file to suggest; with an empty one the stick goes into Windows mode.
+    /// Suggests a joystick file; if its path is empty, Windows mode.
     EnterGameName(const Paths &paths, Dialogs &dialogs, const QString &joystickFile,
                   QWidget *parent = nullptr);
     ~EnterGameName() override;

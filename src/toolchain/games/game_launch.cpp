@@ -3,17 +3,20 @@
 
 #include "toolchain/games/game_launch.h"
 
-#include "documents/document.h"
+#include "documents/documents.h"
 #include "platform/dialogs.h"
 #include "platform/process_launcher.h"
 #include "platform/status_line.h"
 #include "settings/global_settings.h"
+#include "toolchain/compile/after_download.h"
 #include "toolchain/compile/verdict.h"
+#include "toolchain/document_saver.h"
 #include "toolchain/games/games.h"
 #include "toolchain/handshake.h"
+#include "toolchain/modes/cougar_modes.h"
+#include "toolchain/modes/profiles.h"
 #include "toolchain/tool_commands.h"
-
-#include <utility>
+#include "toolchain/tool_scene.h"
 
 namespace zeph {
 
@@ -37,8 +40,7 @@ Box missingFileBox(const QString &path)
     return box;
 }
 
-/// The folder that the game finds as its current one: its own, or what is left when a step on the
-/// way there fails.
+/// The game's current folder: its own, else the root of its drive, else the tools' folder.
 QString gameFolder(const Game &game, const Paths &paths)
 {
     if (folderExists(game.GameDIRPath)) {
@@ -50,32 +52,51 @@ QString gameFolder(const Game &game, const Paths &paths)
 
 } // namespace
 
-GameLaunch::GameLaunch(const Context &context, ToolchainHandshake &handshake, Games &games,
-                       GamesHost host)
-    : m_context(context), m_handshake(handshake), m_games(games), m_host(std::move(host))
+GameLaunch::GameLaunch(const Context &context, const ToolParts &parts, Games &games)
+    : m_context(context), m_parts(parts), m_games(games)
 {
 }
 
 void GameLaunch::mnuGameArray_Click(int index)
 {
-    // The list moves with its use, so the place is taken before anything can use it again.
+    // A launched game moves to the top of the list, so it is copied out before anything runs.
     const Game game = m_games.list().value(index - 1);
-    m_host.saveChanged();
+    saveChanged();
     m_games.update(game);
     if (!prepare(game)) {
         return;
     }
-    m_host.GetAppsToRun();
+    m_parts.afterDownload.GetAppsToRun(m_parts.documents.joystick().text());
     start(game);
-    m_host.minimiseMainWindow();
+    m_parts.scene.minimiseMainWindow();
+}
+
+/// Saves both documents. One that could not be saved, or whose Save As was cancelled, stays marked
+/// as modified, so that the end of the run still asks about it.
+void GameLaunch::saveChanged()
+{
+    Documents &documents = m_parts.documents;
+    const DocumentKind selected = documents.selected().kind();
+    documents.forEach([this, &documents](const Document &document) {
+        if (document.isModified()) {
+            documents.select(document.kind());
+            m_parts.saver.saveSelected();
+        }
+    });
+    documents.select(selected);
+}
+
+/// Applies the stored profile, if each download does. False when the program ends meanwhile.
+bool GameLaunch::resetAxes()
+{
+    return m_context.settings.UseResetProfile != 1 || m_parts.profiles.ApplyDefaultProfile();
 }
 
 bool GameLaunch::prepare(const Game &game)
 {
     switch (GameMode(game.GameJFmode)) {
     case GameMode::Windows:
-        return (!m_host.resetsAxes() || m_host.ApplyDefaultProfile())
-            && m_host.changeToPureWindows();
+        return resetAxes() && m_parts.modes.changeWholeMode(false);
     case GameMode::Download:
         return download(game.GameJF);
     case GameMode::DownloadDefault:
@@ -91,25 +112,25 @@ bool GameLaunch::download(const QString &wanted)
         return false;
     }
     const QString file = existingPath(wanted);
-    if (m_host.resetsAxes() && !m_host.ApplyDefaultProfile()) {
+    if (!resetAxes()) {
         return false;
     }
     m_context.status.setText(
         u" Waiting for compiler to download your file. Please be patient ...."_s);
     const QString files = m_context.paths.filesFolder();
-    m_handshake.setStatusCaption(u"Downloading "_s
-                                 + (file.startsWith(files) ? file.mid(files.size()) : file));
-    const ExchangeEnd end = m_handshake.runCompiler(
+    m_parts.handshake.setStatusCaption(u"Downloading "_s
+                                       + (file.startsWith(files) ? file.mid(files.size()) : file));
+    const ExchangeEnd end = m_parts.handshake.runCompiler(
         compilerLaunch(m_context.paths, CompilerCommand::DownloadAndEnable, file));
     if (end == ExchangeEnd::Abandoned) {
         return false;
     }
-    m_host.showCougarModeIfDetecting();
+    m_parts.modes.showIfDetecting();
     switch (end) {
     case ExchangeEnd::GivenUp:
         return goOnWithoutVerdict();
     case ExchangeEnd::NotStarted:
-        // Told already, and like every failed step no reason to keep the pilot from flying.
+        // It has been told, and no failed step keeps the pilot from flying.
         m_context.status.setText(panelAfterCompilerWait(true));
         return true;
     default:
@@ -123,34 +144,36 @@ bool GameLaunch::goOnWithoutVerdict()
         m_context.dialogs.box(gameTimeOutBox(m_context.settings.PilotCallsign)) == BoxButton::Yes;
     m_context.status.setText(panelAfterCompilerWait(!goOn));
     if (!goOn) {
-        m_host.bringMainWindowBack();
+        m_parts.scene.bringMainWindowBack();
     }
     return goOn;
 }
 
 bool GameLaunch::tellVerdict(const QString &file)
 {
-    m_host.bringMainWindowBack();
+    m_parts.scene.bringMainWindowBack();
     const CompilerVerdict verdict = HotasIni(m_context.paths.hotasIni()).readCompiler();
     const VerdictTelling telling =
         tellGameVerdict(verdict, m_context.settings.HOTASStatusBarErrors != 0);
     if (!telling.failed) {
         m_context.status.setText(telling.panel);
-        if (m_host.ensuresNumLock()) {
-            m_host.TurnNumLockOn();
+        if (m_context.settings.NumlockDownloadMode == 1) {
+            m_parts.afterDownload.TurnNumLockOn();
         }
         return true;
     }
-    if (nameOf(file).compare(m_host.joystick().caption(), Qt::CaseInsensitive) != 0) {
-        m_host.OpenPreviouslySavedFiles(file);
+    const Document &joystick = m_parts.documents.joystick();
+    if (nameOf(file).compare(joystick.caption(), Qt::CaseInsensitive) != 0) {
+        m_parts.scene.OpenPreviouslySavedFiles(file);
     }
-    m_host.selectJoystickTab();
+    m_parts.documents.select(DocumentKind::Joystick);
     m_context.status.setText(telling.panel);
     if (telling.showHelp) {
-        m_host.showCompilerHelp(verdict);
+        m_parts.scene.showCompilerHelp(
+            errorOf(verdict, joystick.caption(), m_parts.documents.macro().caption()));
     }
     if (telling.highlightLine != 0) {
-        m_host.HighlightErrorLine(telling.highlightLine, verdict.ErrorCode);
+        m_parts.scene.HighlightErrorLine(telling.highlightLine, verdict.ErrorCode);
     }
     return false;
 }
@@ -159,15 +182,15 @@ void GameLaunch::start(const Game &game)
 {
     Expected<void, QString> started;
     if (isWebAddress(game.GamePath)) {
-        m_host.bringMainWindowBack();
+        m_parts.scene.bringMainWindowBack();
         started = m_context.launcher.openWithDesktop(game.GamePath);
     } else {
         started = m_context.launcher.start(
             launchFromCommand(game.GamePath, gameFolder(game, m_context.paths)));
     }
     if (!started) {
-        // No box: the main window goes out of the game's way in any case, and the line is there
-        // when the pilot comes back to look why nothing happened.
+        // Not a box: the main window is about to be minimised, and panel 1 still tells the reason
+        // when the pilot comes back to see why nothing happened.
         m_context.status.setText(started.error());
     }
 }

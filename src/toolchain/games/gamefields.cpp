@@ -15,9 +15,9 @@ namespace zeph {
 
 namespace {
 
-/// How the field of the working directory begins while nobody has touched it.
+/// How the example begins.
 constexpr QStringView sample = u"eg";
-/// What stands in the directory's field until the pilot writes there.
+/// The example in the directory's field.
 constexpr QStringView wholeSample = u"eg C:\\Games\\Falcon4";
 
 const QString commandHelp =
@@ -60,7 +60,7 @@ void GameFields::connectFields()
         connect(field, &QLineEdit::textChanged, this, &GameFields::changed);
         connect(field, &QLineEdit::editingFinished, this, &GameFields::left);
     }
-    // Exclusive, and yet both can be off.
+    // Not a group of radio buttons, since both can be off.
     const auto exclude = [this](QCheckBox *ticked, QCheckBox *other) {
         connect(ticked, &QCheckBox::toggled, this, [this, other](bool on) {
             if (m_isShowing) {

@@ -20,7 +20,7 @@ namespace Ui {
 class GameFields;
 }
 
-/// The fields of one game, for every window in which a game is edited.
+/// The fields of one game, a part of every window in which games are edited.
 class GameFields : public QWidget
 {
     Q_OBJECT
@@ -28,19 +28,19 @@ public:
     GameFields(const Paths &paths, Dialogs &dialogs, QWidget *parent = nullptr);
     ~GameFields() override;
 
-    /// Shows a game, which is no edit of it.
+    /// Shows a game, without emitting edited().
     void setGame(const Game &game);
-    /// As the fields stand, without blanks around them. A mode that is none of the three is kept
-    /// until one of the ticks is touched.
+    /// What the fields say, trimmed. A mode that is none of the three is kept until the user
+    /// touches one of the ticks.
     Game game() const;
-    /// Shows in the working directory's field what may stand there; it counts as empty.
+    /// Fills the working directory's field with an example, which counts as empty.
     void showSample();
-    /// Puts the caret into the name, all of it selected.
+    /// Gives the name's field the keyboard and selects its text.
     void startNaming();
 
 Q_SIGNALS:
     void edited();
-    /// The user is done with a field.
+    /// The user has finished with a field.
     void left();
 
 private:

@@ -16,7 +16,7 @@ constexpr QStringView fields[] = { u"GameName", u"GamePath", u"GameDIRPath", u"G
                                    u"GameJFmode" };
 constexpr ProfileListKeys keys = { u"Games", u"GameArrayNum", fields, mostGames };
 
-/// A number that does not fit is none of the modes, and so are the ends of what fits.
+/// A number that does not fit 16 bits becomes the nearest that does, which is none of the modes.
 qint16 modeOf(const QString &value)
 {
     using Limits = std::numeric_limits<qint16>;
@@ -75,7 +75,7 @@ void Games::save()
         rows.append({ game.GameName, game.GamePath, game.GameDIRPath, game.GameJF,
                       QString::number(game.GameJFmode) });
     }
-    // A store that cannot be written makes no fuss: the list then lasts as long as the run.
+    // A store that cannot be written is not told: the list then lasts as long as the run.
     (void)writeProfileList(m_store, keys, rows);
     Q_EMIT changed();
 }

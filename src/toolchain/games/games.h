@@ -11,7 +11,7 @@
 
 namespace zeph {
 
-/// What is done to the Cougar before a game starts; the numbers stand in the store.
+/// What is done to the Cougar before a game starts; the numbers are those in the store.
 enum class GameMode : qint16 {
     Download = 0, ///< its own joystick file is downloaded
     Windows = 1, ///< the stick goes into Windows mode
@@ -33,11 +33,11 @@ struct Game {
 
 constexpr qint32 mostGames = 30;
 
-/// What a new game begins with: the joystick file that is suggested for it, or without one the file
-/// for all games, and the stick in Windows mode.
+/// A new game with a joystick file suggested for it; if that is empty, with the file for all games
+/// and the stick in Windows mode.
 Game startingGame(const QString &filesFolder, const QString &suggestedFile);
 
-/// By name, in any case.
+/// Sorts by name, without regard to case.
 void sortGames(QList<Game> &games);
 
 /// The list of games, most recently used first, at most mostGames. Every change goes into the
@@ -54,7 +54,7 @@ public:
     /// Puts a game at place 1. One of that name is replaced; a 31st pushes the last one out.
     void update(const Game &game);
     void SortGamesAlphabetically();
-    /// Puts these games in place of all; what goes beyond mostGames falls off.
+    /// Replaces the whole list; games beyond mostGames are left out.
     void replace(const QList<Game> &games);
 
 Q_SIGNALS:

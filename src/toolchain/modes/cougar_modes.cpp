@@ -38,8 +38,8 @@ constexpr std::array buttonsRequests = {
     RequestRow{ ConfigCommand::ReportMode, u" Initialising mode information ..." },
 };
 
-/// Lets the interface draw and tick. What the user does meanwhile waits a moment, so that a key
-/// held down or a second click cannot pile requests upon one another.
+/// Lets the interface draw and its timers tick. Keys and clicks have to wait, so that a key held
+/// down or a second click cannot start a request inside this one.
 void yieldOnce()
 {
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
@@ -86,9 +86,7 @@ void CougarModes::changeButtonsMode(ButtonsRequest request)
                                BoxIcon::Exclamation);
     }
     yieldOnce();
-    if (detectorRuns()) {
-        ShowCougarMode();
-    }
+    showIfDetecting();
 }
 
 bool CougarModes::changeWholeMode(bool programmed)
@@ -121,9 +119,7 @@ bool CougarModes::waitedRequest(ConfigCommand command, const QString &panel)
         m_context.dialogs.box(modeTimeOutBox());
     }
     m_context.status.setText(panelAfterModeWait(end != ExchangeEnd::Verdict));
-    if (detectorRuns()) {
-        ShowCougarMode();
-    }
+    showIfDetecting();
     return true;
 }
 
@@ -155,12 +151,19 @@ void CougarModes::ShowCougarMode()
     setPicture(isJoystickMissed() ? ModePicture::Unknown : reported);
 }
 
+void CougarModes::showIfDetecting()
+{
+    if (detectorRuns()) {
+        ShowCougarMode();
+    }
+}
+
 bool CougarModes::IsJoyConnected()
 {
     return m_joystick.read(m_context.settings.JoyIDnumber).result == Joystick::answered;
 }
 
-/// Whether the controller is to be looked for and does not answer.
+/// Whether the settings want a controller that does not answer.
 bool CougarModes::isJoystickMissed()
 {
     return m_context.settings.JoyTestConnect == 1 && !IsJoyConnected();
@@ -190,7 +193,7 @@ void CougarModes::leftClick()
     if (clicked == ModePicture::SelectorOff) {
         ShowCougarMode();
     }
-    // The detector runs from the first click on, whether or not there was a change to make.
+    // The first click switches the detector on, whether or not there is a mode to change.
     if (change(changeAtClick(clicked, report().Buttons))) {
         EnableStatusTimer();
     }

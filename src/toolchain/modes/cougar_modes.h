@@ -16,12 +16,12 @@ class ToolchainHandshake;
 struct ModeReport;
 enum class ConfigCommand;
 
-/// What the buttons are asked to do; the numbers are the menu's indices.
+/// A request to the buttons; the numbers are the menu's indices.
 enum class ButtonsRequest { Windows = 0, Programmed = 1, ReportOnly = 2 };
 
-/// The Cougar's modes: the requests, which go out through the configuration tool, and the detector,
-/// which asks the hardware nothing but rereads what the tools last wrote into HOTAS.ini and shows
-/// it as the status line's mode picture.
+/// The Cougar's modes. Requests go out through the configuration tool. The detector does not ask
+/// the hardware: at each tick it rereads what the tools last wrote into HOTAS.ini and shows it as
+/// the status line's mode picture.
 class CougarModes : public QObject
 {
     Q_OBJECT
@@ -29,39 +29,41 @@ public:
     CougarModes(const Context &context, ToolchainHandshake &handshake, Joystick &joystick,
                 QObject *parent = nullptr);
 
-    /// What the settings want at the start of a run: the mode reported, the detector on. Fails as
-    /// EnableStatusTimer() does.
+    /// At the start of a run: has the mode reported and starts the detector, if the settings say
+    /// so. Throws as EnableStatusTimer() does.
     void startOfRun();
 
-    /// Changes the buttons' mode or has it reported. Not waited for. Does nothing, silently,
-    /// without the tool.
+    /// Changes the buttons' mode or has it reported, and does not wait for the tool. Does nothing,
+    /// silently, when the tool is missing.
     void changeButtonsMode(ButtonsRequest request);
-    /// Axes and buttons into programmed or pure Windows mode; waits for the tool. False when the
-    /// program ends meanwhile: the caller then touches nothing any more.
+    /// Puts axes and buttons into programmed or pure Windows mode, and waits for the tool. False
+    /// when the program ends meanwhile: the caller then touches nothing any more.
     bool changeWholeMode(bool programmed);
-    /// The axes alone: 0 Windows, 1 user defined. Waits.
+    /// Changes the axes' mode (0 Windows, 1 user defined), and waits for the tool.
     void mnuAxesModeArray_Click(int index);
-    /// Shift+Break: the buttons into Windows mode at once.
+    /// Shift+Break: puts the buttons into Windows mode at once.
     void emergencyOff();
 
-    /// Starts the detector afresh with the stored interval; an interval of 33 s or more is an
-    /// overflow, which is thrown for the guard of the handler to tell.
+    /// Starts the detector again with the stored interval. Throws std::overflow_error for an
+    /// interval of 33 s or more; the guard around the handler tells it.
     void EnableStatusTimer();
-    /// Shows the mode that was last reported; what the detector does at each tick.
+    /// Shows the mode that was last reported, as the detector does at each tick.
     void ShowCougarMode();
+    /// ShowCougarMode() if the detector runs.
+    void showIfDetecting();
     /// Whether the controller of the stored number answers.
     bool IsJoyConnected();
     /// Tells the last reported mode in panel 1 and in panel 2's tooltip.
     void UpdateStatusTooltip();
     bool detectorRuns() const { return m_timer.isActive(); }
-    /// The mouse on panel 2: the left button switches the selector on or the buttons over, the
-    /// right one switches the selector off. Fails as EnableStatusTimer() does.
+    /// A click on panel 2: the left button switches the selector on, or the buttons to their other
+    /// mode; the right one switches the selector off. Throws as EnableStatusTimer() does.
     void panelClicked(Qt::MouseButton button);
 
     const QString &tooltip() const { return m_tooltip; }
 
 Q_SIGNALS:
-    /// Panel 2's tooltip.
+    /// Panel 2 has another tooltip now.
     void tooltipChanged(const QString &tooltip);
 
 private:

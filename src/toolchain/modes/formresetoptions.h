@@ -15,7 +15,7 @@ namespace Ui {
 class FormResetOptions;
 }
 
-/// Which profile resets the axes before a download, and how they are calibrated.
+/// Asks which profile resets the axes before a download, and how they are calibrated.
 class FormResetOptions : public QDialog
 {
     Q_OBJECT
@@ -23,7 +23,7 @@ public:
     explicit FormResetOptions(const Context &context, QWidget *parent = nullptr);
     ~FormResetOptions() override;
 
-    /// Lists the profiles that there are. False, which is told, when there are none.
+    /// Lists the profiles. False, which is told, when there are none.
     bool UpdateProfiles();
     /// Shows what the settings say.
     void ShowResetValues();

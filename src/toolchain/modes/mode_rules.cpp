@@ -15,7 +15,7 @@ constexpr qint16 changeFailed = -1;
 constexpr int perSecond = 1000;
 constexpr qint16 defaultInterval = 3000;
 
-/// The words for one reported value.
+/// The halves of the sentence for one reported value.
 struct Words {
     qint16 value;
     QStringView axes;

@@ -3,7 +3,7 @@
 
 #pragma once
 
-// What the modes mean, as values: pictures, sentences, and what a click asks for.
+// The rules of the modes, apart from the tools: pictures, sentences, and what a click changes.
 
 #include "platform/core/base.h"
 
@@ -12,24 +12,24 @@ namespace zeph {
 /// The picture of panel 2.
 enum class ModePicture { SelectorOff = 1, Windows = 2, Programmed = 3, Unknown = 4 };
 
-/// The picture of the last reported mode of the buttons. The axes have no say in it.
+/// The picture of the buttons' last reported mode. The axes do not count.
 ModePicture pictureOf(qint16 buttons);
 
-/// The last report in words: one half for the axes, one for the buttons.
+/// The last report as a sentence: first the axes, then the buttons.
 QString reportInWords(qint16 axes, qint16 buttons);
-/// What stands in its place when no controller answers; the number is 0-based, the text counts
-/// from 1.
+/// The sentence in its place when no controller answers. The number is 0-based, in the text it is
+/// 1-based.
 QString noJoystickInWords(int joyIdNumber);
 
-/// What a left click on the picture asks of the Cougar.
+/// What a left click on the picture changes.
 enum class ModeChange { None, ToWindows, ToProgrammed };
 
-/// With the selector off a click only shows the mode, unless the last change of the buttons is
-/// reported to have failed.
+/// The change that a left click makes. With the selector off there is none, unless the last change
+/// of the buttons was reported as failed.
 ModeChange changeAtClick(ModePicture picture, qint16 buttons);
 
-/// The detector's interval in milliseconds, counted in 16 bits as ever: nothing from 33 seconds
-/// on. Below a second the default holds, since the detector must neither stop nor race.
+/// The detector's interval in milliseconds. None from 33 seconds on, which 16 bits cannot hold. A
+/// setting below 1 second gives the default, since the detector must neither stop nor race.
 std::optional<qint16> detectorInterval(qint16 seconds);
 
 } // namespace zeph

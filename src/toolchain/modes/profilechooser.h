@@ -17,7 +17,7 @@ namespace Ui {
 class ProfileChooser;
 }
 
-/// A list of profiles and the choice of the calibration, for the windows that ask for both.
+/// A list of profiles and the choice of the calibration, a part of the windows that ask for both.
 class ProfileChooser : public QWidget
 {
     Q_OBJECT
@@ -27,7 +27,8 @@ public:
 
     /// Lists the profiles of a folder. False, which is told, when there are none.
     bool UpdateProfiles(const QString &folder, Dialogs &dialogs);
-    /// Selects a profile, in any case of its letters; none is selected when the list lacks it.
+    /// Selects a profile by its name, without regard to case; a name that is not there selects
+    /// none.
     void select(const QString &name, bool manualCalibration);
 
     /// The selected profile; empty when there is none.
@@ -35,7 +36,7 @@ public:
     bool manualCalibration() const;
 
 Q_SIGNALS:
-    /// Another profile, or none, is selected.
+    /// Another profile is selected now, or none (an empty name).
     void profileChanged(const QString &name);
     /// A profile was double-clicked.
     void activated();

@@ -19,11 +19,11 @@ namespace {
 
 constexpr QStringView ending = u".tmc";
 
-/// The files of a folder that are profiles, by name and ending.
+/// The names of a folder's profiles, with their ending.
 QStringList profileFiles(const QString &folder)
 {
     const QString found = existingPath(folder);
-    // Without a folder QDir would list the current one.
+    // QDir takes an empty name for the current folder.
     return found.isEmpty() ? QStringList()
                            : QDir(found).entryList({ u"*.tmc"_s }, QDir::Files | QDir::Readable,
                                                    QDir::Name | QDir::IgnoreCase);
@@ -88,7 +88,7 @@ bool Profiles::ApplyDefaultProfile(const QString &name, CalibrationRequest calib
     return true;
 }
 
-/// Whether the tools have the profile; a missing one is told.
+/// Whether the profile is in the tools' folder; a missing one is told.
 bool Profiles::isThere(const QString &name)
 {
     if (fileExists(profilesFolder(m_context.paths) + name + ending.toString())) {

@@ -9,12 +9,12 @@ namespace zeph {
 
 class ToolchainHandshake;
 
-/// Which calibration goes with a profile; the numbers are those of the request.
+/// How a profile is calibrated; Stored means as the settings say.
 enum class CalibrationRequest { Stored = 0, Auto = 1, Manual = 2 };
 
-/// Where the tools keep the profiles, with a closing separator.
+/// The folder where the tools keep the profiles, with a closing separator.
 QString profilesFolder(const Paths &paths);
-/// The profiles (*.tmc) of a folder by name, without the ending, in the order of the alphabet.
+/// The names of a folder's profiles (*.tmc), without the ending, in alphabetical order.
 QStringList profileNames(const QString &folder);
 
 /// Sends saved axis profiles (*.tmc) to the Cougar.
@@ -28,8 +28,8 @@ public:
     /// touches nothing any more.
     bool ApplyDefaultProfile(const QString &name = {},
                              CalibrationRequest calibration = CalibrationRequest::Stored);
-    /// The first run's step: profiles that came with Zeph go where the tools look, none is
-    /// overwritten. Without the compiler nothing happens.
+    /// At the first run: copies the profiles that came with Zeph to the tools' folder, and
+    /// overwrites none. Does nothing when the compiler is missing.
     void CopyTMCfiles();
 
 private:

@@ -17,8 +17,8 @@ namespace Ui {
 class SelectProfileForm;
 }
 
-/// Which profile goes to the Cougar right now. What resets the axes before a download stays as it
-/// is.
+/// Asks which profile to send to the Cougar now. The profile that resets the axes before a download
+/// is another matter and stays as it is.
 class SelectProfileForm : public QDialog
 {
     Q_OBJECT
@@ -26,11 +26,10 @@ public:
     explicit SelectProfileForm(const Context &context, QWidget *parent = nullptr);
     ~SelectProfileForm() override;
 
-    /// Lists the profiles that there are, the stored one selected. False, which is told, when there
-    /// are none.
+    /// Lists the profiles and selects the stored one. False, which is told, when there are none.
     bool UpdateProfiles();
 
-    /// The choice, once the window was left by Download.
+    /// The user's choice, valid after the window was accepted.
     QString profile() const;
     CalibrationRequest calibration() const;
 

@@ -3,7 +3,7 @@
 
 #include "toolchain/compile/compile.h"
 
-#include "tests/toolchain/compile/compiler_bench.h"
+#include "tests/toolchain/compiler_bench.h"
 
 #include <QFile>
 
@@ -16,22 +16,17 @@ namespace {
 class CompileTest : public test::CompilerBench
 {
 protected:
-    CompileHost host()
-    {
-        CompileHost result{ compilerHost(), {}, {} };
-        result.minimiseToolWindows = note(u"minimise"_s);
-        result.unloadHelpers = note(u"unload"_s);
-        return result;
-    }
+    void compile() { Compile(context, parts()).mnuAppsCompile_Click(); }
 
-    void compile() { Compile(context, *handshake, host()).mnuAppsCompile_Click(); }
+    /// What every compile does that begins.
+    const QStringList begun{ u"minimise tools"_s, compilerStarts };
 };
 
 } // namespace
 
 TEST_F(CompileTest, AnEmptyFileIsNotCompiled)
 {
-    joystickText.clear();
+    joystick.setText({});
     joystick.setState(Document::Modified);
     dialogs.answer(u"Nothing to compile ..."_s, BoxButton::Ok);
     compile();
@@ -64,15 +59,14 @@ TEST_F(CompileTest, AChangedFileIsSavedWithoutAQuestion)
     joystick.setState(Document::Modified);
     dialogs.answer(success, BoxButton::Ok);
     compile();
-    EXPECT_EQ(
-        done,
-        (QStringList{ u"joystick tab"_s, u"save"_s, u"unload"_s, u"minimise"_s, u"focus"_s }));
+    EXPECT_EQ(done, (QStringList{ u"save A.TMJ"_s } + begun + QStringList{ u"focus"_s }));
+    EXPECT_EQ(documents.selected().kind(), DocumentKind::Joystick);
     EXPECT_EQ(launcher.launches.size(), 1);
 }
 
 TEST_F(CompileTest, ACancelledSaveEndsTheCompileWhateverTheAnswer)
 {
-    saveWorks = false;
+    saver.works = false;
     for (const BoxButton answer : { BoxButton::Yes, BoxButton::No }) {
         joystick.setState(Document::Modified);
         dialogs.answer(hangOn, answer);
@@ -119,7 +113,7 @@ TEST_F(CompileTest, AChangedMacroFileIsLeftUnsavedWhenTheUserGoesOn)
 TEST_F(CompileTest, AnEmptyMacroTextWithItsChangedFlagSetGivesNoWarning)
 {
     macro.setState(Document::Modified);
-    macroText.clear();
+    macro.setText({});
     dialogs.answer(success, BoxButton::Ok);
     compile();
     EXPECT_EQ(launcher.launches.size(), 1);
@@ -150,7 +144,7 @@ TEST_F(CompileTest, SuccessIsToldAndTheFocusGoesBack)
     EXPECT_EQ(dialogs.boxes()[0].text,
               joystick.path()
                   + u" compiled successfully.\n\nCompile time: 0.5s.\nMemory used: 4%"_s);
-    EXPECT_EQ(done, (QStringList{ u"unload"_s, u"minimise"_s, u"focus"_s }));
+    EXPECT_EQ(done, (begun + QStringList{ u"focus"_s }));
 }
 
 TEST_F(CompileTest, ASuccessWithALineIsSuccessAndHighlightsNothing)
@@ -158,7 +152,7 @@ TEST_F(CompileTest, ASuccessWithALineIsSuccessAndHighlightsNothing)
     lineWritten = u"5"_s;
     dialogs.answer(success, BoxButton::Ok);
     compile();
-    EXPECT_EQ(done, (QStringList{ u"unload"_s, u"minimise"_s, u"focus"_s }));
+    EXPECT_EQ(done, (begun + QStringList{ u"focus"_s }));
 }
 
 TEST_F(CompileTest, AnErrorOpensItsHelpAndShowsItsLine)
@@ -167,9 +161,20 @@ TEST_F(CompileTest, AnErrorOpensItsHelpAndShowsItsLine)
     lineWritten = u"5"_s;
     compile();
     EXPECT_EQ(status.text(), u"Compiler reported an error at line 5: ERROR 1013: bad macro");
-    EXPECT_EQ(done,
-              (QStringList{ u"unload"_s, u"minimise"_s, u"help ERROR 1013: bad macro"_s,
-                            u"highlight 5 ERROR 1013: bad macro"_s }));
+    EXPECT_EQ(
+        done,
+        (begun
+         + QStringList{ u"help ERROR 1013: bad macro"_s, u"highlight 5 ERROR 1013: bad macro"_s }));
+}
+
+TEST_F(CompileTest, TheHelpOnAnErrorKnowsItsLineAndBothFiles)
+{
+    statusWritten = u"ERROR"_s;
+    lineWritten = u"5"_s;
+    compile();
+    EXPECT_EQ(scene.shown.line, 5);
+    EXPECT_EQ(scene.shown.joystickName, u"A.tmj");
+    EXPECT_EQ(scene.shown.macroName, u"a.tmm");
 }
 
 TEST_F(CompileTest, AnErrorWithoutALineOpensItsHelpOnly)
@@ -177,7 +182,7 @@ TEST_F(CompileTest, AnErrorWithoutALineOpensItsHelpOnly)
     statusWritten = u"ERROR"_s;
     compile();
     EXPECT_EQ(status.text(), u"Compiler reported the following error: ERROR 1013: bad macro");
-    EXPECT_EQ(done, (QStringList{ u"unload"_s, u"minimise"_s, u"help ERROR 1013: bad macro"_s }));
+    EXPECT_EQ(done, (begun + QStringList{ u"help ERROR 1013: bad macro"_s }));
 }
 
 TEST_F(CompileTest, WithTheStatusBarAloneAFailureShowsNoWindowYetItsLine)
@@ -187,8 +192,7 @@ TEST_F(CompileTest, WithTheStatusBarAloneAFailureShowsNoWindowYetItsLine)
     lineWritten = u"5"_s;
     compile();
     EXPECT_EQ(status.text(), u"Compiler reported an error at line 5: ERROR 1013: bad macro");
-    EXPECT_EQ(done,
-              (QStringList{ u"unload"_s, u"minimise"_s, u"highlight 5 ERROR 1013: bad macro"_s }));
+    EXPECT_EQ(done, (begun + QStringList{ u"highlight 5 ERROR 1013: bad macro"_s }));
 }
 
 TEST_F(CompileTest, WithTheStatusBarAloneASuccessComesWithoutABox)
@@ -211,7 +215,7 @@ TEST_F(CompileTest, ASilentCompilerIsToldTwiceAsTimeOutAndAsUnknownResult)
     EXPECT_EQ(dialogs.boxes()[1].title, u"Unknown result");
     EXPECT_EQ(dialogs.boxes()[1].icon, BoxIcon::Exclamation);
     EXPECT_EQ(status.text(), u"Control returned to you");
-    EXPECT_EQ(done, (QStringList{ u"unload"_s, u"minimise"_s }));
+    EXPECT_EQ(done, begun);
 }
 
 TEST_F(CompileTest, AVerdictThatComesDuringTheTimeOutMessageIsTold)
@@ -232,9 +236,7 @@ TEST_F(CompileTest, AVerdictThatComesDuringTheTimeOutMessageIsTold)
 TEST_F(CompileTest, ACompilerThatDoesNotStartIsToldOnce)
 {
     dialogs.answer(u"Unable to run the Thrustmaster software"_s, BoxButton::Ok);
-    launcher.onStart = [](const Launch &) -> Expected<void, QString> {
-        return Unexpected<QString>(u"no permission"_s);
-    };
+    refused = u"HOTASCompiler.exe"_s;
     status.setText(u"before"_s);
     compile();
     EXPECT_EQ(dialogs.boxes().size(), 1);
@@ -269,13 +271,13 @@ TEST_F(CompileTest, ASecondCompileDuringTheFirstTellsTheSameVerdictForBoth)
 
 TEST_F(CompileTest, ClosingTheProgramDuringTheWaitTellsNothing)
 {
-    auto compileCommand = std::make_unique<Compile>(context, *handshake, host());
+    auto compileCommand = std::make_unique<Compile>(context, parts());
     statusWritten.clear();
     QTimer::singleShot(0, &mainWindow, [&] {
         compileCommand.reset();
         handshake.reset();
     });
     compileCommand->mnuAppsCompile_Click();
-    EXPECT_EQ(done, (QStringList{ u"unload"_s, u"minimise"_s }));
+    EXPECT_EQ(done, begun);
     EXPECT_EQ(status.text(), u"");
 }

@@ -3,7 +3,7 @@
 
 #include "toolchain/compile/download.h"
 
-#include "tests/toolchain/compile/compiler_bench.h"
+#include "tests/toolchain/compiler_bench.h"
 
 using namespace zeph;
 using zeph::test::hangOn;
@@ -13,11 +13,9 @@ namespace {
 
 const QString unknown = u"Unknown result"_s;
 const QString longTime = u"Now this is taking rather a long time Maverick, isn't it?!"_s;
-const QString tab = u"joystick tab"_s;
 const QString locks = u"lock"_s;
 const QString unlocks = u"unlock"_s;
 const QString mode = u"mode"_s;
-const QString apps = u"apps"_s;
 const QString tester = u"tester"_s;
 const QString focus = u"focus"_s;
 
@@ -28,45 +26,18 @@ protected:
     {
         settings.DownloadMode = 1;
         settings.RunKeyTest = 0;
+        joystick.setText(u"BTN S1 x\nUSE ZEPH RUN_APP "_s + app);
+        detectMode();
     }
 
-    DownloadHost host()
-    {
-        DownloadHost result{ compilerHost(), {}, {}, {}, {}, {}, {}, {} };
-        result.lockJoystickText = [this](bool on) {
-            EXPECT_NE(on, locked) << "locks and unlocks come in turns";
-            locked = on;
-            done += on ? locks : unlocks;
-        };
-        result.resetsAxes = [this] {
-            return resetsAxes;
-        };
-        result.ApplyDefaultProfile = [this] {
-            done += u"profile"_s;
-            return profileReturns;
-        };
-        result.showCougarMode = note(mode);
-        result.TurnNumLockOn = note(u"NumLock"_s);
-        result.GetAppsToRun = [this](const QString &text) {
-            EXPECT_EQ(text, joystickText);
-            done += apps;
-        };
-        result.openKeyTester = note(tester);
-        return result;
-    }
-
-    void download() { Download(context, *handshake, host()).DownloadTMJ(); }
-
-    bool locked = false;
-    bool resetsAxes = false;
-    bool profileReturns = true;
+    void download() { Download(context, parts()).DownloadTMJ(); }
 };
 
 } // namespace
 
 TEST_F(DownloadTest, SelectsTheJoystickTabAndEndsWithAnEmptyText)
 {
-    joystickText.clear();
+    joystick.setText({});
     joystick.setState(Document::Modified);
     dialogs.answer(u"Nothing to transfer ..."_s, BoxButton::Ok);
     download();
@@ -75,8 +46,8 @@ TEST_F(DownloadTest, SelectsTheJoystickTabAndEndsWithAnEmptyText)
               u"The Joystick file is empty, so there's not much point in me sending that off to "
               u"your joystick. Load up a joystick file, or create one, or just put your feet up "
               u"and watch TV.");
-    EXPECT_EQ(done, QStringList{ tab });
-    EXPECT_TRUE(launcher.launches.isEmpty());
+    EXPECT_EQ(done, QStringList());
+    EXPECT_EQ(documents.selected().kind(), DocumentKind::Joystick);
 }
 
 TEST_F(DownloadTest, AChangedFileIsSavedWithoutAQuestion)
@@ -84,12 +55,14 @@ TEST_F(DownloadTest, AChangedFileIsSavedWithoutAQuestion)
     joystick.setState(Document::Modified);
     dialogs.answer(success, BoxButton::Ok);
     download();
-    EXPECT_EQ(done, (QStringList{ tab, u"save"_s, locks, mode, apps, focus, unlocks }));
+    EXPECT_EQ(
+        done,
+        (QStringList{ u"save A.TMJ"_s, locks, compilerStarts, mode, appStarts, focus, unlocks }));
 }
 
 TEST_F(DownloadTest, AFileThatCouldNotBeSavedIsAskedAboutAndNoEndsTheDownload)
 {
-    saveWorks = false;
+    saver.works = false;
     joystick.setState(Document::Modified);
     dialogs.answer(hangOn, BoxButton::No);
     download();
@@ -101,17 +74,17 @@ TEST_F(DownloadTest, AFileThatCouldNotBeSavedIsAskedAboutAndNoEndsTheDownload)
     EXPECT_EQ(box.buttons, (QList<BoxButton>{ BoxButton::Yes, BoxButton::No }));
     EXPECT_EQ(box.defaultButton, BoxButton::No);
     EXPECT_TRUE(launcher.launches.isEmpty());
-    EXPECT_FALSE(locked);
+    EXPECT_FALSE(joystick.isLocked());
 }
 
 TEST_F(DownloadTest, YesGoesOnWithTheOldFileOnTheDisk)
 {
-    saveWorks = false;
+    saver.works = false;
     joystick.setState(Document::Modified);
     dialogs.answer(hangOn, BoxButton::Yes);
     dialogs.answer(success, BoxButton::Ok);
     download();
-    ASSERT_EQ(launcher.launches.size(), 1);
+    ASSERT_EQ(done.count(compilerStarts), 1);
     EXPECT_TRUE(launcher.launches[0].arguments.endsWith(u'"' + joystick.path() + u'"'));
     EXPECT_TRUE(joystick.isModified());
 }
@@ -136,27 +109,29 @@ TEST_F(DownloadTest, AChangedMacroFileIsAskedAboutAndNoEndsTheDownload)
 TEST_F(DownloadTest, AnEmptyMacroTextWithItsChangedFlagSetGivesNoWarning)
 {
     macro.setState(Document::Modified);
-    macroText.clear();
+    macro.setText({});
     dialogs.answer(success, BoxButton::Ok);
     download();
-    EXPECT_EQ(launcher.launches.size(), 1);
+    EXPECT_EQ(done.count(compilerStarts), 1);
 }
 
 TEST_F(DownloadTest, TheStoredProfileGoesFirstWhenAxesAreReset)
 {
-    resetsAxes = true;
+    settings.UseResetProfile = 1;
     dialogs.answer(success, BoxButton::Ok);
     download();
-    EXPECT_EQ(done, (QStringList{ tab, u"profile"_s, locks, mode, apps, focus, unlocks }));
+    EXPECT_TRUE(launcher.launches[0].arguments.contains(u"/P\"Default.tmc\""));
+    EXPECT_EQ(
+        done,
+        (QStringList{ configStarts, locks, compilerStarts, mode, appStarts, focus, unlocks }));
 }
 
 TEST_F(DownloadTest, TheProgramsEndDuringTheProfileEndsTheDownload)
 {
-    resetsAxes = true;
-    profileReturns = false;
+    settings.UseResetProfile = 1;
+    QTimer::singleShot(0, &mainWindow, [this] { handshake.reset(); });
     download();
-    EXPECT_EQ(done, (QStringList{ tab, u"profile"_s }));
-    EXPECT_TRUE(launcher.launches.isEmpty());
+    EXPECT_EQ(done, QStringList{ configStarts });
 }
 
 TEST_F(DownloadTest, EnablesProgrammedModeByTheTick)
@@ -166,7 +141,7 @@ TEST_F(DownloadTest, EnablesProgrammedModeByTheTick)
         settings.DownloadMode = qint16(ticked);
         dialogs.answer(success, BoxButton::Ok);
         download();
-        const Launch &launch = launcher.launches.constLast();
+        const Launch &launch = launcher.launches[launcher.launches.size() - 2];
         EXPECT_EQ(launch.program, paths.compiler());
         EXPECT_EQ(launch.arguments, QString::fromUtf16(name) + joystick.path() + u'"');
         EXPECT_EQ(launch.folder, paths.hotasFolder);
@@ -177,18 +152,18 @@ TEST_F(DownloadTest, EnablesProgrammedModeByTheTick)
 
 TEST_F(DownloadTest, TellsThatItWaitsAndLocksTheTextBeforeTheCompilerStarts)
 {
-    launcher.onStart = [this](const Launch &) {
+    joystick.setText(u"BTN S1 x"_s);
+    launcher.onStart = [this](const Launch &launch) {
         EXPECT_EQ(status.text(),
                   u" Waiting for compiler to download your file. Please be patient ....");
         EXPECT_EQ(handshake->StatusCaption(), u"Downloading A.tmj");
-        EXPECT_TRUE(locked);
-        hasten();
-        return Expected<void, QString>();
+        EXPECT_TRUE(joystick.isLocked());
+        return start(launch);
     };
     dialogs.answer(success, BoxButton::Ok);
     download();
     EXPECT_EQ(launcher.launches.size(), 1);
-    EXPECT_FALSE(locked);
+    EXPECT_FALSE(joystick.isLocked());
 }
 
 TEST_F(DownloadTest, SuccessIsToldWithBothTimes)
@@ -215,21 +190,25 @@ TEST_F(DownloadTest, WithTheStatusBarAloneASuccessComesWithoutABox)
     settings.HOTASStatusBarErrors = 1;
     download();
     EXPECT_EQ(status.text(), u"Compiled successfully. (Memory used: 4%)");
-    EXPECT_EQ(done, (QStringList{ tab, locks, mode, apps, focus, unlocks }));
+    EXPECT_EQ(done, (QStringList{ locks, compilerStarts, mode, appStarts, focus, unlocks }));
 }
 
 TEST_F(DownloadTest, TheNumLockHelperComesBeforeTheSuccessIsTold)
 {
     settings.NumlockDownloadMode = 1;
-    auto prepared = host();
-    prepared.TurnNumLockOn = [this] {
-        done += u"NumLock"_s;
-        EXPECT_EQ(status.text(), u"Done");
-        EXPECT_TRUE(dialogs.boxes().isEmpty());
+    const QString numLock = u"start ZephNUMLon.exe"_s;
+    launcher.onStart = [&, this](const Launch &launch) {
+        const auto started = start(launch);
+        if (done.last() == numLock) {
+            EXPECT_EQ(status.text(), u"Done");
+            EXPECT_TRUE(dialogs.boxes().isEmpty());
+        }
+        return started;
     };
     dialogs.answer(success, BoxButton::Ok);
-    Download(context, *handshake, prepared).DownloadTMJ();
-    EXPECT_EQ(done, (QStringList{ tab, locks, mode, u"NumLock"_s, apps, focus, unlocks }));
+    download();
+    EXPECT_EQ(done,
+              (QStringList{ locks, compilerStarts, mode, numLock, appStarts, focus, unlocks }));
 }
 
 TEST_F(DownloadTest, TheKeyTesterOpensBehindTheApplicationsWithTheTextEditable)
@@ -237,7 +216,8 @@ TEST_F(DownloadTest, TheKeyTesterOpensBehindTheApplicationsWithTheTextEditable)
     settings.RunKeyTest = 1;
     dialogs.answer(success, BoxButton::Ok);
     download();
-    EXPECT_EQ(done, (QStringList{ tab, locks, mode, apps, unlocks, tester, focus }));
+    EXPECT_EQ(done,
+              (QStringList{ locks, compilerStarts, mode, appStarts, unlocks, tester, focus }));
 }
 
 TEST_F(DownloadTest, WithoutProgrammedModeNoKeyTesterOpensWhateverItsTick)
@@ -258,7 +238,7 @@ TEST_F(DownloadTest, AnErrorOpensItsHelpAndShowsItsLineInAnEditableText)
     download();
     EXPECT_EQ(status.text(), u"Compiler error at line 5: ERROR 1013: bad macro");
     EXPECT_EQ(done,
-              (QStringList{ tab, locks, mode, u"help ERROR 1013: bad macro"_s, unlocks,
+              (QStringList{ locks, compilerStarts, mode, u"help ERROR 1013: bad macro"_s, unlocks,
                             u"highlight 5 ERROR 1013: bad macro"_s }));
     EXPECT_TRUE(dialogs.boxes().isEmpty());
 }
@@ -268,7 +248,9 @@ TEST_F(DownloadTest, AnErrorWithoutALineOpensItsHelpOnlyAndFreesTheText)
     statusWritten = u"ERROR"_s;
     download();
     EXPECT_EQ(status.text(), u"Compiler error: ERROR 1013: bad macro");
-    EXPECT_EQ(done, (QStringList{ tab, locks, mode, u"help ERROR 1013: bad macro"_s, unlocks }));
+    EXPECT_EQ(
+        done,
+        (QStringList{ locks, compilerStarts, mode, u"help ERROR 1013: bad macro"_s, unlocks }));
 }
 
 TEST_F(DownloadTest, WithTheStatusBarAloneAFailureShowsNoWindowYetItsLine)
@@ -278,7 +260,8 @@ TEST_F(DownloadTest, WithTheStatusBarAloneAFailureShowsNoWindowYetItsLine)
     lineWritten = u"5"_s;
     download();
     EXPECT_EQ(done,
-              (QStringList{ tab, locks, mode, unlocks, u"highlight 5 ERROR 1013: bad macro"_s }));
+              (QStringList{ locks, compilerStarts, mode, unlocks,
+                            u"highlight 5 ERROR 1013: bad macro"_s }));
 }
 
 TEST_F(DownloadTest, ASilentCompilerIsToldTwiceAndTheTextGetsTheFocus)
@@ -286,6 +269,7 @@ TEST_F(DownloadTest, ASilentCompilerIsToldTwiceAndTheTextGetsTheFocus)
     statusWritten.clear();
     dialogs.answer(longTime, BoxButton::Ok);
     dialogs.answer(unknown, BoxButton::Ok);
+    QTimer::singleShot(0, &mainWindow, [this] { documents.select(DocumentKind::Macro); });
     download();
     ASSERT_EQ(dialogs.boxes().size(), 2);
     EXPECT_EQ(dialogs.boxes()[0].title, longTime);
@@ -296,7 +280,8 @@ TEST_F(DownloadTest, ASilentCompilerIsToldTwiceAndTheTextGetsTheFocus)
               u"There may be a problem. I'm going to exit the download function and return control "
               u"to you.");
     EXPECT_EQ(status.text(), u"Control returned to you");
-    EXPECT_EQ(done, (QStringList{ tab, locks, mode, unlocks, tab, focus }));
+    EXPECT_EQ(done, (QStringList{ locks, compilerStarts, mode, unlocks, focus }));
+    EXPECT_EQ(documents.selected().kind(), DocumentKind::Joystick);
 }
 
 TEST_F(DownloadTest, AVerdictThatComesWithTheTimeOutIsTold)
@@ -325,11 +310,9 @@ TEST_F(DownloadTest, OverTwoSecondsTheStatusWindowShowsAndClosesAtTheEnd)
     };
     settings.HOTASStatusBarErrors = 1;
     bool shownAtTheMode = true;
-    auto prepared = host();
-    prepared.showCougarMode = [&] {
-        shownAtTheMode = handshake->StatusWindowShown();
-    };
-    Download(context, *handshake, prepared).DownloadTMJ();
+    QObject::connect(&status, &StatusLine::modePictureChanged, &status,
+                     [&] { shownAtTheMode = handshake->StatusWindowShown(); });
+    download();
     EXPECT_TRUE(shown);
     EXPECT_FALSE(shownAtTheMode) << "it closes before the mode is shown";
     EXPECT_FALSE(handshake->StatusWindowShown());
@@ -338,13 +321,11 @@ TEST_F(DownloadTest, OverTwoSecondsTheStatusWindowShowsAndClosesAtTheEnd)
 TEST_F(DownloadTest, ACompilerThatDoesNotStartIsToldOnceAndFreesTheText)
 {
     dialogs.answer(u"Unable to run the Thrustmaster software"_s, BoxButton::Ok);
-    launcher.onStart = [](const Launch &) -> Expected<void, QString> {
-        return Unexpected<QString>(u"no permission"_s);
-    };
+    refused = u"HOTASCompiler.exe"_s;
     download();
     EXPECT_EQ(dialogs.boxes().size(), 1);
     EXPECT_EQ(status.text(), u"Control returned to you");
-    EXPECT_EQ(done, (QStringList{ tab, locks, unlocks }));
+    EXPECT_EQ(done, (QStringList{ locks, compilerStarts, unlocks }));
 }
 
 TEST_F(DownloadTest, TheVerdictIsAboutTheFileThatWasSent)
@@ -360,19 +341,21 @@ TEST_F(DownloadTest, TheVerdictIsAboutTheFileThatWasSent)
 TEST_F(DownloadTest, AFailureBehindTheWaitFreesTheText)
 {
     settings.HOTASStatusBarErrors = 1;
-    auto prepared = host();
-    prepared.GetAppsToRun = [](const QString &) {
-        throw std::runtime_error("no good");
+    launcher.onStart = [this](const Launch &launch) {
+        if (launch.program == app) {
+            throw std::runtime_error("no good");
+        }
+        return start(launch);
     };
-    Download command(context, *handshake, prepared);
+    Download command(context, parts());
     EXPECT_THROW(command.DownloadTMJ(), std::runtime_error);
-    EXPECT_FALSE(locked);
+    EXPECT_FALSE(joystick.isLocked());
 }
 
 TEST_F(DownloadTest, ASecondDownloadDuringTheFirstTellsTheSameVerdictForBoth)
 {
     settings.HOTASStatusBarErrors = 1;
-    Download command(context, *handshake, host());
+    Download command(context, parts());
     afterTick = [&](int count) {
         if (count == 1) {
             command.DownloadTMJ();
@@ -381,8 +364,8 @@ TEST_F(DownloadTest, ASecondDownloadDuringTheFirstTellsTheSameVerdictForBoth)
         }
     };
     command.DownloadTMJ();
-    EXPECT_EQ(launcher.launches.size(), 2);
-    EXPECT_EQ(done.count(apps), 2);
+    EXPECT_EQ(done.count(compilerStarts), 2);
+    EXPECT_EQ(done.count(appStarts), 2);
     EXPECT_EQ(done.count(locks), 1);
     EXPECT_EQ(done.last(), unlocks);
 }
@@ -391,32 +374,30 @@ TEST_F(DownloadTest, ASecondDownloadThatDoesNotStartLeavesTheFirstOnesTextLocked
 {
     settings.HOTASStatusBarErrors = 1;
     dialogs.answer(u"Unable to run the Thrustmaster software"_s, BoxButton::Ok);
-    Download command(context, *handshake, host());
+    Download command(context, parts());
     afterTick = [&](int count) {
         if (count == 1) {
-            launcher.onStart = [](const Launch &) -> Expected<void, QString> {
-                return Unexpected<QString>(u"no permission"_s);
-            };
+            refused = u"HOTASCompiler.exe"_s;
             command.DownloadTMJ();
-            EXPECT_TRUE(locked);
+            EXPECT_TRUE(joystick.isLocked());
         } else if (count == 2) {
             writeVerdict();
         }
     };
     command.DownloadTMJ();
-    EXPECT_FALSE(locked);
-    EXPECT_EQ(done.count(apps), 1);
+    EXPECT_FALSE(joystick.isLocked());
+    EXPECT_EQ(done.count(appStarts), 1);
 }
 
 TEST_F(DownloadTest, ClosingTheProgramDuringTheWaitTellsNothing)
 {
-    auto command = std::make_unique<Download>(context, *handshake, host());
+    auto command = std::make_unique<Download>(context, parts());
     statusWritten.clear();
     QTimer::singleShot(0, &mainWindow, [&] {
         command.reset();
         handshake.reset();
     });
     command->DownloadTMJ();
-    EXPECT_EQ(done, (QStringList{ tab, locks }));
+    EXPECT_EQ(done, (QStringList{ locks, compilerStarts }));
     EXPECT_TRUE(dialogs.boxes().isEmpty());
 }

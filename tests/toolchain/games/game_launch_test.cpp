@@ -3,107 +3,55 @@
 
 #include "toolchain/games/game_launch.h"
 
-#include "documents/document.h"
-#include "tests/toolchain/toolchain_bench.h"
+#include "tests/toolchain/compiler_bench.h"
 #include "toolchain/games/games.h"
 
 using namespace zeph;
 
 namespace {
 
-class GameLaunchTest : public test::ToolchainBench
+class GameLaunchTest : public test::CompilerBench
 {
 protected:
     GameLaunchTest()
     {
-        paths.iniPath = folder.file(u"Zeph.ini"_s);
         folder.write(u"Files/TM Default for games.tmj"_s, "BTN S2 a");
         folder.write(u"Falcon/falcon.exe"_s, "game");
         game = { u"Falcon"_s, folder.file(u"Falcon/falcon.exe"_s) + u" -g2"_s,
                  folder.file(u"Falcon"_s), folder.write(u"Files/F4.TMJ"_s, "BTN S2 a"), 0 };
-        joystick.rename(u"f4.tmj"_s);
-        afterTick = [this](int count) {
-            if (count == 1 && !statusWritten.isEmpty()) {
-                writeCompiler(u"LineNumber"_s, lineWritten);
-                writeCompiler(u"ErrorCode"_s, u"ERROR 1002: no such button"_s);
-                writeCompiler(u"Status"_s, statusWritten);
-            }
-        };
-        launcher.onStart = [this](const Launch &launch) -> Expected<void, QString> {
-            done += u"start "_s + nameOf(launch.program);
-            hasten();
-            if (refused == nameOf(launch.program)) {
-                return Unexpected<QString>(launch.program + u": No such file or directory"_s);
-            }
-            return {};
-        };
+        joystick.rename(folder.file(u"Files/f4.tmj"_s));
+        joystick.setText(u"USE ZEPH RUN_APP "_s + app);
+        lineWritten = u"7"_s;
+        errorWritten = u"ERROR 1002: no such button"_s;
+        detectMode();
     }
 
-    GamesHost host()
-    {
-        const auto note = [this](const QString &what) {
-            return [this, what] {
-                done += what;
-            };
-        };
-        GamesHost result;
-        result.joystick = [this]() -> const Document & {
-            return joystick;
-        };
-        result.saveChanged = note(u"save"_s);
-        result.resetsAxes = [this] {
-            return resetsAxes;
-        };
-        result.ensuresNumLock = [this] {
-            return ensuresNumLock;
-        };
-        result.ApplyDefaultProfile = [this] {
-            done += u"profile"_s;
-            return !ends;
-        };
-        result.changeToPureWindows = [this] {
-            done += u"pure Windows"_s;
-            return !ends;
-        };
-        result.TurnNumLockOn = note(u"NumLock"_s);
-        result.GetAppsToRun = note(u"apps"_s);
-        result.showCougarModeIfDetecting = note(u"mode"_s);
-        result.OpenPreviouslySavedFiles = [this](const QString &path) {
-            done += u"open "_s + nameOf(path);
-        };
-        result.selectJoystickTab = note(u"joystick tab"_s);
-        result.showCompilerHelp = [this](const CompilerVerdict &verdict) {
-            done += u"help "_s + verdict.ErrorCode;
-        };
-        result.HighlightErrorLine = [this](int line, const QString &text) {
-            done += u"highlight %1 %2"_s.arg(line).arg(text);
-        };
-        result.bringMainWindowBack = note(u"back"_s);
-        result.minimiseMainWindow = note(u"minimise"_s);
-        return result;
-    }
-
-    /// Launches the game as the second of two.
+    /// Launches the game as the second of two, with a changed joystick file open.
     void launch()
     {
+        joystick.setState(Document::Modified);
         Games games(paths.iniPath);
         games.update(game);
         games.update({ u"Other"_s, {}, {}, {}, 1 });
-        GameLaunch(context, *handshake, games, host()).mnuGameArray_Click(2);
+        GameLaunch(context, parts(), games).mnuGameArray_Click(2);
         top = games.list().first();
     }
     Launch started() const { return launcher.launches.value(launcher.launches.size() - 1); }
+    /// The program ends while that program is waited for.
+    void endWith(const QString &program)
+    {
+        launcher.onStart = [this, program](const Launch &launch) {
+            if (launch.program == program) {
+                QTimer::singleShot(0, &mainWindow, [this] { handshake.reset(); });
+            }
+            return start(launch);
+        };
+    }
 
     Game game;
     Game top;
-    Document joystick;
-    bool resetsAxes = false;
-    bool ensuresNumLock = false;
-    bool ends = false;
-    QString statusWritten = u"OKAY"_s;
-    QString lineWritten = u"7"_s;
-    QString refused;
-    QStringList done;
+    const QString save = u"save f4.tmj"_s;
+    const QString gameStarts = gameStarts;
 };
 
 const QString tooLong = u"Now this is taking rather a long time Maverick, isn't it?!"_s;
@@ -115,8 +63,8 @@ TEST_F(GameLaunchTest, SavesMovesTheGameToTheTopDownloadsAndStartsIt)
     launch();
     EXPECT_EQ(top, game);
     EXPECT_EQ(done,
-              QStringList({ u"save"_s, u"start HOTASCompiler.exe"_s, u"mode"_s, u"back"_s,
-                            u"apps"_s, u"start falcon.exe"_s, u"minimise"_s }));
+              QStringList({ save, compilerStarts, u"mode"_s, u"back"_s, appStarts, gameStarts,
+                            u"minimise"_s }));
     EXPECT_EQ(status.text(), u"Compiled successfully. Launching game ...");
     const Launch compiler = launcher.launches.value(0);
     EXPECT_EQ(compiler.program, paths.compiler());
@@ -127,6 +75,22 @@ TEST_F(GameLaunchTest, SavesMovesTheGameToTheTopDownloadsAndStartsIt)
     EXPECT_EQ(started().folder, game.GameDIRPath);
     EXPECT_EQ(started().style, WindowStyle::NormalFocus);
     EXPECT_EQ(handshake->StatusCaption(), u"Downloading F4.TMJ");
+}
+
+TEST_F(GameLaunchTest, BothChangedDocumentsAreSavedAndTheSelectedOneStays)
+{
+    macro.setState(Document::Modified);
+    launch();
+    EXPECT_EQ(done.mid(0, 2), QStringList({ save, u"save a.tmm"_s }));
+    EXPECT_EQ(documents.selected().kind(), DocumentKind::Macro);
+}
+
+TEST_F(GameLaunchTest, ADocumentThatCouldNotBeSavedStaysModifiedAndTheGameStarts)
+{
+    saver.works = false;
+    launch();
+    EXPECT_TRUE(joystick.isModified());
+    EXPECT_TRUE(done.contains(gameStarts));
 }
 
 TEST_F(GameLaunchTest, AFileOutsideTheFilesFolderIsNamedWhole)
@@ -140,7 +104,7 @@ TEST_F(GameLaunchTest, TheEmptiedSectionWaitsForTheVerdictOfThisDownload)
 {
     writeCompiler(u"Status"_s, u"ERROR"_s);
     launch();
-    EXPECT_TRUE(done.contains(u"start falcon.exe"_s));
+    EXPECT_TRUE(done.contains(gameStarts));
 }
 
 TEST_F(GameLaunchTest, PanelOneAsksForPatienceDuringTheWait)
@@ -160,9 +124,7 @@ TEST_F(GameLaunchTest, Mode1IgnoresTheJoystickFileAndStartsAfterTheModeWait)
     game.GameJFmode = 1;
     game.GameJF = u"/nowhere/a.tmj"_s;
     launch();
-    EXPECT_EQ(done,
-              QStringList({ u"save"_s, u"pure Windows"_s, u"apps"_s, u"start falcon.exe"_s,
-                            u"minimise"_s }));
+    EXPECT_EQ(done, QStringList({ save, configStarts, appStarts, gameStarts, u"minimise"_s }));
 }
 
 TEST_F(GameLaunchTest, Mode2DownloadsTheFileForAllGames)
@@ -172,47 +134,49 @@ TEST_F(GameLaunchTest, Mode2DownloadsTheFileForAllGames)
     launch();
     EXPECT_EQ(launcher.launches.value(0).arguments,
               u"/ZEPH /CE \""_s + folder.file(u"Files/TM Default for games.tmj"_s) + u'"');
-    EXPECT_TRUE(done.contains(u"start falcon.exe"_s));
+    EXPECT_TRUE(done.contains(gameStarts));
 }
 
 TEST_F(GameLaunchTest, AnyOtherModeJustStartsTheGame)
 {
     game.GameJFmode = 3;
     launch();
-    EXPECT_EQ(done, QStringList({ u"save"_s, u"apps"_s, u"start falcon.exe"_s, u"minimise"_s }));
+    EXPECT_EQ(done, QStringList({ save, appStarts, gameStarts, u"minimise"_s }));
 }
 
 TEST_F(GameLaunchTest, TheStoredProfileGoesFirstWhenAxesAreReset)
 {
-    resetsAxes = true;
+    settings.UseResetProfile = 1;
     launch();
-    EXPECT_EQ(done.mid(0, 3),
-              QStringList({ u"save"_s, u"profile"_s, u"start HOTASCompiler.exe"_s }));
+    EXPECT_EQ(done.mid(0, 3), QStringList({ save, configStarts, compilerStarts }));
     done.clear();
     game.GameJFmode = 1;
     launch();
-    EXPECT_EQ(done.mid(0, 3), QStringList({ u"save"_s, u"profile"_s, u"pure Windows"_s }));
+    EXPECT_EQ(done.mid(0, 3), QStringList({ save, configStarts, configStarts }));
+    EXPECT_TRUE(launcher.launches[0].arguments.contains(u"/P\"Default.tmc\""));
+    EXPECT_TRUE(launcher.launches[4].arguments.contains(u"/P\"Default.tmc\""));
+    EXPECT_EQ(launcher.launches[5].arguments, u"/MODE /ZEPH /AW /BW");
 }
 
 TEST_F(GameLaunchTest, NumLockIsTurnedOnAfterAGoodDownloadOnly)
 {
-    ensuresNumLock = true;
+    settings.NumlockDownloadMode = 1;
     launch();
-    EXPECT_LT(done.indexOf(u"NumLock"_s), done.indexOf(u"apps"_s));
-    EXPECT_TRUE(done.contains(u"NumLock"_s));
+    EXPECT_LT(done.indexOf(u"start ZephNUMLon.exe"_s), done.indexOf(appStarts));
+    EXPECT_TRUE(done.contains(u"start ZephNUMLon.exe"_s));
     done.clear();
     game.GameJFmode = 1;
     launch();
-    EXPECT_FALSE(done.contains(u"NumLock"_s));
+    EXPECT_FALSE(done.contains(u"start ZephNUMLon.exe"_s));
 }
 
 TEST_F(GameLaunchTest, AMissingFileEndsTheLaunch)
 {
     game.GameJF = u"/nowhere/a.tmj"_s;
-    resetsAxes = true;
+    settings.UseResetProfile = 1;
     dialogs.answer(u"Aborting game launch"_s, BoxButton::Ok);
     launch();
-    EXPECT_EQ(done, QStringList{ u"save"_s });
+    EXPECT_EQ(done, QStringList{ save });
     ASSERT_EQ(dialogs.boxes().size(), 1);
     EXPECT_EQ(dialogs.boxes()[0].icon, BoxIcon::Stop);
     EXPECT_EQ(dialogs.boxes()[0].text,
@@ -227,20 +191,21 @@ TEST_F(GameLaunchTest, AnErrorIsShownInTheOpenFileAndTheGameIsNotStarted)
     statusWritten = u"ERROR"_s;
     launch();
     EXPECT_EQ(done,
-              QStringList({ u"save"_s, u"start HOTASCompiler.exe"_s, u"mode"_s, u"back"_s,
-                            u"joystick tab"_s, u"help ERROR 1002: no such button"_s,
+              QStringList({ save, compilerStarts, u"mode"_s, u"back"_s,
+                            u"help ERROR 1002: no such button"_s,
                             u"highlight 7 ERROR 1002: no such button"_s }));
     EXPECT_EQ(status.text(), u"Compiler error on line 7: ERROR 1002: no such button");
+    EXPECT_EQ(documents.selected().kind(), DocumentKind::Joystick);
 }
 
 TEST_F(GameLaunchTest, ALaunchWhoseCompileFailsOpensTheFailedFileAndNeverStartsTheGame)
 {
     statusWritten = u"ERROR"_s;
-    joystick.rename(u"Other.tmj"_s);
+    joystick.rename(folder.file(u"Files/Other.tmj"_s));
     launch();
     EXPECT_EQ(done.value(4), u"open F4.TMJ");
-    EXPECT_EQ(done.value(5), u"joystick tab");
-    EXPECT_FALSE(done.contains(u"start falcon.exe"_s));
+    EXPECT_EQ(documents.selected().kind(), DocumentKind::Joystick);
+    EXPECT_FALSE(done.contains(gameStarts));
     EXPECT_FALSE(done.contains(u"minimise"_s));
 }
 
@@ -266,7 +231,7 @@ TEST_F(GameLaunchTest, AfterTheWaitGaveUpYesStartsTheGameWithTheStatusUnread)
 {
     statusWritten.clear();
     afterTick = [this](int) {
-        // Too late: written behind the last look at it.
+        // Too late: written after the last look at it.
         if (handshake->CompilerFinished() == 2) {
             writeCompiler(u"Status"_s, u"ERROR"_s);
         }
@@ -274,9 +239,9 @@ TEST_F(GameLaunchTest, AfterTheWaitGaveUpYesStartsTheGameWithTheStatusUnread)
     dialogs.answer(tooLong, BoxButton::Yes);
     launch();
     EXPECT_EQ(status.text(), u"Done");
-    EXPECT_EQ(done,
-              QStringList({ u"save"_s, u"start HOTASCompiler.exe"_s, u"mode"_s, u"apps"_s,
-                            u"start falcon.exe"_s, u"minimise"_s }));
+    EXPECT_EQ(
+        done,
+        QStringList({ save, compilerStarts, u"mode"_s, appStarts, gameStarts, u"minimise"_s }));
     ASSERT_EQ(dialogs.boxes().size(), 1);
     const Box &box = dialogs.boxes()[0];
     EXPECT_EQ(box.buttons, QList<BoxButton>({ BoxButton::Yes, BoxButton::No }));
@@ -298,7 +263,7 @@ TEST_F(GameLaunchTest, AfterTheWaitGaveUpNoEndsTheLaunchWithTheEditorInFront)
     launch();
     EXPECT_EQ(status.text(), u"Control returned to you");
     EXPECT_EQ(done.last(), u"back");
-    EXPECT_FALSE(done.contains(u"start falcon.exe"_s));
+    EXPECT_FALSE(done.contains(gameStarts));
 }
 
 TEST_F(GameLaunchTest, ACompilerThatCannotStartIsToldAndTheGameStillStarts)
@@ -306,25 +271,23 @@ TEST_F(GameLaunchTest, ACompilerThatCannotStartIsToldAndTheGameStillStarts)
     refused = u"HOTASCompiler.exe"_s;
     dialogs.answer(u"Unable to run the Thrustmaster software"_s, BoxButton::Ok);
     launch();
-    EXPECT_TRUE(done.contains(u"start falcon.exe"_s));
+    EXPECT_TRUE(done.contains(gameStarts));
     EXPECT_EQ(done.last(), u"minimise");
 }
 
 TEST_F(GameLaunchTest, TheEndOfTheProgramDuringTheModeWaitStartsNothing)
 {
     game.GameJFmode = 1;
-    ends = true;
+    endWith(paths.config());
     launch();
-    EXPECT_EQ(done.last(), u"pure Windows");
+    EXPECT_EQ(done.last(), configStarts);
 }
 
 TEST_F(GameLaunchTest, TheEndOfTheProgramDuringTheDownloadStartsNothing)
 {
-    afterTick = [this](int) {
-        QTimer::singleShot(0, &mainWindow, [this] { handshake.reset(); });
-    };
+    endWith(paths.compiler());
     launch();
-    EXPECT_EQ(done, QStringList({ u"save"_s, u"start HOTASCompiler.exe"_s }));
+    EXPECT_EQ(done, QStringList({ save, compilerStarts }));
 }
 
 TEST_F(GameLaunchTest, AWebAddressOpensInTheBrowserWithNoWorkingDirectory)
@@ -332,11 +295,12 @@ TEST_F(GameLaunchTest, AWebAddressOpensInTheBrowserWithNoWorkingDirectory)
     for (const auto *address : { u"www.example.com/game", u"http://example.com" }) {
         game.GameJFmode = 3;
         game.GamePath = QString::fromUtf16(address);
+        joystick.setText({});
         launch();
     }
     EXPECT_EQ(launcher.opened, QStringList({ u"www.example.com/game"_s, u"http://example.com"_s }));
     EXPECT_TRUE(launcher.launches.isEmpty());
-    EXPECT_EQ(done.mid(0, 4), QStringList({ u"save"_s, u"apps"_s, u"back"_s, u"minimise"_s }));
+    EXPECT_EQ(done.mid(0, 3), QStringList({ save, u"back"_s, u"minimise"_s }));
 }
 
 TEST_F(GameLaunchTest, AGameThatCannotStartShowsNoBoxAndTheLineTellsWhy)

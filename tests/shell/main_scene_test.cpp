@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Zeph authors
 // SPDX-License-Identifier: MIT
 
-#include "shell/mode_menu.h"
+#include "shell/main_scene.h"
 
 #include "documents/editor_view.h"
 #include "documents/text_control.h"
@@ -11,10 +11,10 @@
 #include "editor/macros/macro_list.h"
 #include "menus/menu_actions.h"
 #include "platform/core/profile_file.h"
-#include "shell/cougar_tools.h"
 #include "shell/main_status_bar.h"
 #include "shell/mum.h"
 #include "tests/shell/shell_world.h"
+#include "toolchain/cougar_tools.h"
 
 #include <QAction>
 #include <QApplication>

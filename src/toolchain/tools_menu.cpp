@@ -1,13 +1,12 @@
 // SPDX-FileCopyrightText: The Zeph authors
 // SPDX-License-Identifier: MIT
 
-#include "shell/tools_menu.h"
+#include "toolchain/tools_menu.h"
 
-#include "editor/editor.h"
 #include "menus/menu_actions.h"
 #include "settings/settings_files.h"
 #include "settings/settings_moments.h"
-#include "shell/mum.h"
+#include "toolchain/external_tools.h"
 #include "toolchain/modes/formresetoptions.h"
 #include "toolchain/modes/profiles.h"
 #include "toolchain/modes/selectprofileform.h"
@@ -18,7 +17,7 @@ namespace zeph {
 
 namespace {
 
-/// Entries of which one handler receives the index.
+/// The entries NAME_0 ... that one operation serves; it receives the index.
 struct IndexedEntries {
     QStringView name;
     int count;
@@ -33,10 +32,8 @@ constexpr IndexedEntries indexedEntries[] = {
 
 } // namespace
 
-ToolsMenu::ToolsMenu(const Context &context, CougarModes &modes, Profiles &profiles, Mum &mum,
-                     Editor &editor)
-    : QObject(&editor), m_context(context), m_profiles(profiles), m_mum(mum), m_editor(editor),
-      m_tools(context, modes)
+ToolsMenu::ToolsMenu(const Context &context, const ToolParts &parts, ExternalTools &tools)
+    : m_context(context), m_parts(parts), m_tools(tools)
 {
     connectTools();
     connectProfiles();
@@ -45,7 +42,7 @@ ToolsMenu::ToolsMenu(const Context &context, CougarModes &modes, Profiles &profi
 
 void ToolsMenu::connectTools()
 {
-    MenuActions &actions = m_editor.actions();
+    MenuActions &actions = m_parts.actions;
     for (const IndexedEntries &entries : indexedEntries) {
         for (int i = 0; i < entries.count; ++i) {
             actions.connectTo(
@@ -63,9 +60,9 @@ void ToolsMenu::connectTools()
 
 void ToolsMenu::connectProfiles()
 {
-    MenuActions &actions = m_editor.actions();
+    MenuActions &actions = m_parts.actions;
     actions.connectTo(u"mnuResetAxes", [this] { mnuResetAxes_Click(); });
-    actions.connectTo(u"mnuApplyDefaultTMC", [this] { m_profiles.ApplyDefaultProfile(); });
+    actions.connectTo(u"mnuApplyDefaultTMC", [this] { m_parts.profiles.ApplyDefaultProfile(); });
     actions.connectTo(u"mnuResetOptions", [this] { mnuResetOptions_Click(); });
     actions.connectTo(u"mnuDownloadProfile", [this] { mnuDownloadProfile_Click(); });
 }
@@ -73,26 +70,27 @@ void ToolsMenu::connectProfiles()
 void ToolsMenu::UpdateResetAxes()
 {
     const bool used = m_context.settings.UseResetProfile == 1;
-    m_editor.action(u"mnuResetAxes")->setChecked(used);
-    m_editor.action(u"mnuApplyDefaultTMC")->setEnabled(used);
+    m_parts.actions.action(u"mnuResetAxes")->setChecked(used);
+    m_parts.actions.action(u"mnuApplyDefaultTMC")->setEnabled(used);
 }
 
 void ToolsMenu::saveAndUpdate()
 {
-    // A store that cannot be written makes no fuss, as everywhere.
+    // A store that cannot be written is not told: the choice holds for this run all the same.
     (void)SaveResetProfiles(m_context.settings, settingsFilesOf(m_context.paths));
     UpdateResetAxes();
 }
 
 void ToolsMenu::mnuResetAxes_Click()
 {
-    m_context.settings.UseResetProfile = m_editor.action(u"mnuResetAxes")->isChecked() ? 1 : 0;
+    m_context.settings.UseResetProfile =
+        m_parts.actions.action(u"mnuResetAxes")->isChecked() ? 1 : 0;
     saveAndUpdate();
 }
 
 void ToolsMenu::mnuResetOptions_Click()
 {
-    FormResetOptions form(m_context, &m_mum);
+    FormResetOptions form(m_context, &m_parts.mainWindow);
     if (!form.UpdateProfiles()) {
         return;
     }
@@ -106,15 +104,15 @@ void ToolsMenu::mnuDownloadProfile_Click()
     QString profile;
     CalibrationRequest calibration = CalibrationRequest::Stored;
     {
-        // The window is gone before the wait, during which its owner may go.
-        SelectProfileForm form(m_context, &m_mum);
+        // The window must be gone before the wait, during which its owner may be destroyed.
+        SelectProfileForm form(m_context, &m_parts.mainWindow);
         if (!form.UpdateProfiles() || form.exec() != QDialog::Accepted) {
             return;
         }
         profile = form.profile();
         calibration = form.calibration();
     }
-    m_profiles.ApplyDefaultProfile(profile, calibration);
+    m_parts.profiles.ApplyDefaultProfile(profile, calibration);
 }
 
 } // namespace zeph
