@@ -14,7 +14,6 @@
 #include "platform/screen.h"
 #include "platform/system_info.h"
 #include "shell/application.h"
-#include "shell/tour.h"
 
 #include <QStandardPaths>
 
@@ -25,9 +24,7 @@ int main(int argc, char **argv)
     SafeApplication toolkit(argc, argv);
     Application::applyStyle(toolkit);
 
-    const QString tourFolder = qEnvironmentVariable("ZEPH_TOUR");
-    QtDialogs shown;
-    RecordingDialogs recorded;
+    QtDialogs dialogs;
     SystemLauncher launcher;
     Clock clock;
     HttpDownloader downloader;
@@ -36,16 +33,12 @@ int main(int argc, char **argv)
     SystemPrinters printers;
     const PrimaryScreen screen;
     const SystemInfo system;
-    std::unique_ptr<Tour> tour;
-    if (!tourFolder.isEmpty()) {
-        tour = std::make_unique<Tour>(tourFolder, recorded);
-    }
 
     const QString perUser = QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation);
     Application application({
         .appFolder = chooseAppFolder(QCoreApplication::applicationDirPath(), perUser),
         .arguments = QCoreApplication::arguments().mid(1),
-        .dialogs = tour ? static_cast<Dialogs &>(recorded) : shown,
+        .dialogs = dialogs,
         .launcher = launcher,
         .clock = clock,
         .downloader = downloader,
@@ -55,15 +48,12 @@ int main(int argc, char **argv)
         .screen = screen,
         .system = system,
     });
-    toolkit.guard.dialogs = tour ? static_cast<Dialogs *>(&recorded) : &shown;
+    toolkit.guard.dialogs = &dialogs;
     if (!application.start()) {
         return 0;
     }
     toolkit.guard.lastResort = [&application] {
         application.editor().guards().autoSave.EmergencySaveFiles();
     };
-    if (tour) {
-        tour->start(application);
-    }
     return QApplication::exec();
 }

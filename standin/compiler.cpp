@@ -7,6 +7,7 @@
 
 #include "language/checker.h"
 #include "language/error_codes.h"
+#include "language/file_kinds.h"
 #include "language/forms.h"
 #include "language/macro_graph.h"
 #include "platform/core/paths.h"
@@ -15,6 +16,8 @@
 #include <QElapsedTimer>
 
 namespace zeph::standin {
+
+using language::operator""_w;
 
 namespace {
 
@@ -78,16 +81,15 @@ QString profileOf(const language::FilePair &pair)
     QString profile;
     for (const language::Statement &statement : pair.joystick.statements) {
         const bool isProfile = statement.useForm >= 0
-            && language::useForms()[size_t(statement.useForm)].head == u"PROFILE";
+            && language::useForms()[size_t(statement.useForm)].head == u"PROFILE"_w;
         if (!isProfile)
             continue;
         profile = pair.joystick.at(statement.tail).toString();
-        for (const QString &mode : { u"(AUTO)"_s, u"(CUSTOM)"_s }) {
+        for (const QStringView mode : { u"(AUTO)"_w, u"(CUSTOM)"_w }) {
             if (profile.endsWith(mode, Qt::CaseInsensitive))
                 profile = profile.chopped(mode.size()).trimmed();
         }
-        if (!profile.endsWith(u".tmc", Qt::CaseInsensitive))
-            profile += u".tmc"_s;
+        profile = withProfileExtension(profile);
     }
     return profile;
 }

@@ -3,24 +3,13 @@
 
 #include "source_files.h"
 
+#include "language/file_kinds.h"
 #include "platform/core/paths.h"
 #include "platform/core/text1252.h"
 
 namespace zeph::standin {
 
 namespace {
-
-struct Extensions {
-    QStringView joystick;
-    QStringView macro;
-};
-
-constexpr Extensions extensions[] = {
-    { u"tmj", u"tmm" },
-    { u"f22", u"m22" },
-    { u"b50", u"m50" },
-    { u"adv", u"mdf" },
-};
 
 QString withoutExtension(const QString &name)
 {
@@ -41,23 +30,12 @@ Expected<QString, FileError> readSource(const QString &path)
     return text;
 }
 
-QString macroExtension(const QString &joystickPath)
-{
-    const QStringView extension =
-        QStringView(joystickPath).last(std::min<qsizetype>(3, joystickPath.size()));
-    for (const Extensions &row : extensions) {
-        if (row.joystick.compare(extension, Qt::CaseInsensitive) == 0)
-            return row.macro.toString();
-    }
-    return u"tmm"_s;
-}
-
 QString findMacroFile(const QString &joystickPath, const QString &name)
 {
     if (name.isEmpty())
         return {};
     const QString folder = folderOf(joystickPath);
-    const QString extension = macroExtension(joystickPath);
+    const QString extension = macroExtensionFor(joystickPath);
     const QString extended = folder + name + u'.' + extension;
     const QString plain = folder + name;
     const bool isExtended = name.endsWith(extension, Qt::CaseInsensitive);

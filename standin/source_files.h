@@ -13,9 +13,6 @@ namespace zeph::standin {
 /// A file's characters with "\n" at every line's end, whichever ends the file has.
 Expected<QString, FileError> readSource(const QString &path);
 
-/// Extension of the macro files that belong to joystick files with this name: tmm, m22, m50, mdf.
-QString macroExtension(const QString &joystickPath);
-
 /// Where the macro file of that name lies, in the joystick file's own folder and in any case; the
 /// extension may be left out. Empty when it is not there.
 QString findMacroFile(const QString &joystickPath, const QString &name);

@@ -17,6 +17,8 @@ namespace zeph {
 
 namespace {
 
+using language::operator""_w;
+
 /// What the status line says from the pass of a word on.
 struct PassStatus {
     QStringView word;
@@ -24,14 +26,14 @@ struct PassStatus {
 };
 
 constexpr PassStatus joystickSteps[] = {
-    { u"BTN", u"Applying colour to BTN statements ..." },
-    { u"USE", u"Applying colour to USE,ANT,MDEF etc. commands ..." },
-    { u"DEF", u"Applying colour to logical programming statements ..." },
-    { u"Rem", u"Applying colour to Rem comments ..." },
+    { u"BTN"_w, u"Applying colour to BTN statements ..." },
+    { u"USE"_w, u"Applying colour to USE,ANT,MDEF etc. commands ..." },
+    { u"DEF"_w, u"Applying colour to logical programming statements ..." },
+    { u"Rem"_w, u"Applying colour to Rem comments ..." },
 };
 constexpr PassStatus macroSteps[] = {
-    { u"/U", u"Applying colour to / modifiers ..." },
-    { u"Rem", u"Applying colour to Rem comments ..." },
+    { u"/U"_w, u"Applying colour to / modifiers ..." },
+    { u"Rem"_w, u"Applying colour to Rem comments ..." },
 };
 
 } // namespace

@@ -3,6 +3,7 @@
 
 #include "documents/styleeditor.h"
 
+#include "platform/colours.h"
 #include "platform/dialogs.h"
 #include "platform/richtext/rich_text_document.h"
 #include "ui_styleeditor.h"
@@ -15,11 +16,6 @@ namespace zeph {
 namespace {
 
 constexpr int swatchSize = 16;
-
-QColor toColor(ColorRef colour)
-{
-    return QColor(redOf(colour), greenOf(colour), blueOf(colour));
-}
 
 } // namespace
 

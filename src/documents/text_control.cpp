@@ -6,6 +6,7 @@
 #include "documents/coloured_text.h"
 #include "documents/line_margin.h"
 #include "documents/pasted_text.h"
+#include "platform/colours.h"
 #include "platform/richtext/rich_text_document.h"
 #include "platform/richtext/rich_text_mime.h"
 
@@ -16,11 +17,6 @@
 namespace zeph {
 
 namespace {
-
-QColor toColor(ColorRef colour)
-{
-    return QColor(redOf(colour), greenOf(colour), blueOf(colour));
-}
 
 /// Whether a key press puts characters into a text, which commands do not.
 bool types(const QKeyEvent &event)

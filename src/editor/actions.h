@@ -3,8 +3,8 @@
 
 #pragma once
 
-// Every menu entry in one table: what it is called, where it stands, how it looks and when it can
-// be used. The menus, the toolbars and the tests of what is enabled all read it.
+// Every menu entry of the Editor in one table. The menus, the toolbars, the keys in the texts and
+// the tests of what is enabled are derived from it.
 
 #include "menus/action_row.h"
 
@@ -12,10 +12,19 @@
 
 namespace zeph {
 
+/// The Editor's own conditions of menu entries.
+enum class EditorWhen {
+    Later, ///< never: its tool does not exist yet
+    Selection, ///< text is selected in the selected document
+    PasteReady, ///< there is text on the clipboard
+    JoystickText, ///< the joystick tab is selected, or AlwaysShowCompileDownload is set
+    ReadMe ///< a readme belongs to the joystick file
+};
+
 std::span<const MenuRow> menuBarTable();
 std::span<const ActionRow> actionTable();
 
-/// One row of the pop-up menu of the right mouse button, which is built afresh at each press.
+/// One row of the pop-up menu of the right mouse button.
 struct RightMenuRow {
     enum Shown {
         Both,
@@ -27,9 +36,9 @@ struct RightMenuRow {
     };
 
     const char16_t *name; ///< object name
-    const char16_t *caption; ///< empty: the caption of the entry behind it
-    const char16_t
-        *target; ///< the entry of the menus that does the work and lends picture, tick and state
+    const char16_t *caption; ///< empty: the target's caption
+    /// The entry of the menus that it runs and takes picture, tick and state from.
+    const char16_t *target;
     Shown shown;
 };
 

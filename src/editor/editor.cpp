@@ -26,11 +26,11 @@
 #include "editor/macros/framemacros.h"
 #include "editor/macros/macro_features.h"
 #include "editor/right_menu.h"
+#include "language/error_codes.h"
 #include "menus/menu_actions.h"
 #include "platform/dialogs.h"
 #include "platform/richtext/rich_text_mime.h"
 #include "settings/global_settings.h"
-#include "text/text_lines.h"
 
 #include <QAction>
 #include <QApplication>
@@ -46,7 +46,7 @@ namespace zeph {
 Editor::Editor(const Context &context, QWidget *parent)
     : QWidget(parent), m_context(context),
       m_actions(std::make_unique<MenuActions>(context.dialogs, context.paths.inApp(u"icons/"),
-                                              menuBarTable(), actionTable())),
+                                              menuBarTable(), actionTable(), this)),
       m_documents(std::make_unique<Documents>(context)),
       m_view(std::make_unique<EditorView>(context, *m_documents, this)),
       m_copies(std::make_unique<ColouredCopies>(context.paths)),
@@ -147,6 +147,9 @@ void Editor::connectFiles()
     on.connectTo(u"mnuFileSave", [this] { m_saving->mnuFileSave_Click(); });
     on.connectTo(u"mnuFileSaveAs", [this] { m_saving->mnuFileSaveAs_Click(); });
     on.connectTo(u"mnuFileSaveBoth", [this] { m_saving->mnuFileSaveBoth_Click(); });
+    connect(m_useDirectives.get(), &UseDirectives::filesChanged, this, [this] {
+        m_actions->setCondition(EditorWhen::ReadMe, !m_useDirectives->textFilePath().isEmpty());
+    });
     connect(on.menu(u"mnuFile"), &QMenu::aboutToShow, this, [this] {
         m_fresh->rewriteUntitled();
         QString caption = selected().caption();
@@ -232,14 +235,8 @@ void Editor::connectPainting()
     for (const Entry &entry : entries) {
         on.connectTo(entry.name, [this, entry] { (*m_highlighting.*entry.operation)(); });
     }
-    for (int i = 0; i < 3; ++i) {
-        on.connectTo(u"mnuFormatArray1_"_s + QString::number(i),
-                     [this, i] { m_looks->mnuFormatArray1_Click(i); });
-    }
-    for (int i = 0; i < int(TextStyles().size()); ++i) {
-        on.connectTo(u"mnuStyleArray_"_s + QString::number(i),
-                     [this, i] { m_looks->mnuStyleArray_Click(i); });
-    }
+    on.connectArray(u"mnuFormatArray1"_s, [this](int i) { m_looks->mnuFormatArray1_Click(i); });
+    on.connectArray(u"mnuStyleArray"_s, [this](int i) { m_looks->mnuStyleArray_Click(i); });
     on.connectTo(u"mnuFormatStyleEditor", [this] { m_looks->mnuFormatStyleEditor_Click(); });
     on.connectTo(u"mnuFormatFont", [this] { m_looks->mnuFormatFont_Click(); });
 }
@@ -272,9 +269,10 @@ void Editor::connectGuards()
 
 void Editor::updateConditions()
 {
-    m_actions->setCondition(When::Selection, selected().selLength() > 0);
-    m_actions->setCondition(When::PasteReady, holdsText(QApplication::clipboard()->mimeData()));
-    m_actions->setCondition(When::JoystickText,
+    m_actions->setCondition(EditorWhen::Selection, selected().selLength() > 0);
+    m_actions->setCondition(EditorWhen::PasteReady,
+                            holdsText(QApplication::clipboard()->mimeData()));
+    m_actions->setCondition(EditorWhen::JoystickText,
                             selected().kind() == DocumentKind::Joystick
                                 || m_context.settings.AlwaysShowCompileDownload == 1);
 }
@@ -282,7 +280,7 @@ void Editor::updateConditions()
 void Editor::updateDownloadCaption()
 {
     // Only a file of the Cougar's own kind goes to it; the others keep the plain words.
-    const bool named = lastThree(joystick().name()) == u"tmj";
+    const bool named = lastThree(joystick().name()) == extensionOf(DocumentKind::Joystick);
     QString caption = named ? joystick().caption() : u"joystick file"_s;
     caption.replace(u'&', u"&&"_s);
     action(u"DownloadArray1_0")->setText(u"&Download "_s + caption);
@@ -296,8 +294,8 @@ void Editor::ResetFocusToEditor()
 void Editor::HighlightErrorLine(int line, const QString &compileErrorText)
 {
     try {
-        showLine(m_context, *m_view, m_documents->of(documentOfError(compileErrorText)), line,
-                 LineCaret::SelectsLine);
+        showLine(m_context, *m_view, m_documents->of(language::documentOfError(compileErrorText)),
+                 line, LineCaret::SelectsLine);
     } catch (const std::exception &error) {
         m_context.dialogs.tell(u"Hmmm....bizarre..."_s,
                                u"Please report this on the Klaifi forums so I can investigate "

@@ -4,6 +4,7 @@
 #include "editor/editor_keys.h"
 
 #include "documents/editor_view.h"
+#include "editor/actions.h"
 #include "menus/menu_actions.h"
 #include "settings/global_settings.h"
 
@@ -18,36 +19,19 @@ namespace zeph {
 
 namespace {
 
-struct ControlKey {
+/// What Ctrl and a key runs in the macro text, for the keys that do not run the entry with that
+/// shortcut there. New, open and print have no row: pilots rely on these keys for the joystick file
+/// in both texts.
+struct MacroKey {
     int key;
-    QStringView joystick;
-    QStringView macro;
+    QStringView entry; ///< empty: none
 };
 
-// New, open and print act on the joystick file from the macro text too: pilots rely on it.
-constexpr std::array controlKeys = {
-    ControlKey{ Qt::Key_Z, u"mnuEditUndo", u"mnuEditUndo" },
-    ControlKey{ Qt::Key_X, u"mnuEditCut", u"mnuEditCut" },
-    ControlKey{ Qt::Key_C, u"mnuEditCopy", u"mnuEditCopy" },
-    ControlKey{ Qt::Key_V, u"mnuEditPaste", u"mnuEditPaste" },
-    ControlKey{ Qt::Key_A, u"mnuEditSelectAll", u"mnuEditSelectAll" },
-    ControlKey{ Qt::Key_F, u"mnuEditFind", u"mnuEditFind" },
-    ControlKey{ Qt::Key_G, u"mnuEditGoto", u"" },
-    ControlKey{ Qt::Key_R, u"mnuEditReplace", u"mnuEditReplace" },
-    ControlKey{ Qt::Key_N, u"mnuFileNewJoystick", u"mnuFileNewJoystick" },
-    ControlKey{ Qt::Key_O, u"mnuFileJoystickLoad", u"mnuFileJoystickLoad" },
-    ControlKey{ Qt::Key_S, u"mnuFileSave", u"mnuFileSave" },
-    ControlKey{ Qt::Key_P, u"mnuFilePrintJoystick", u"mnuFilePrintJoystick" },
-    ControlKey{ Qt::Key_Y, u"mnuEditRedo", u"mnuEditRedo" },
-    ControlKey{ Qt::Key_H, u"mnuViewReformat", u"mnuViewReformat" },
-    ControlKey{ Qt::Key_B, u"mnuFormatArray1_0", u"mnuViewApplyColourBothFiles" },
-    ControlKey{ Qt::Key_I, u"mnuFormatArray1_1", u"" },
-    ControlKey{ Qt::Key_U, u"mnuFormatArray1_2", u"mnuEditUpdateMacros" },
-    ControlKey{ Qt::Key_K, u"mnuAppsKeyTester", u"mnuAppsKeyTester" },
-    ControlKey{ Qt::Key_L, u"mnuViewHighlightLine", u"mnuViewHighlightLine" },
-    ControlKey{ Qt::Key_T, u"mnuViewApplyColourBothFiles", u"mnuViewApplyColourBothFiles" },
-    ControlKey{ Qt::Key_F8, u"mnuFileSaveBoth", u"mnuFileSaveBoth" },
-    ControlKey{ Qt::Key_M, u"mnuAlignSlash", u"mnuAlignSlash" },
+constexpr std::array macroKeys = {
+    MacroKey{ Qt::Key_G, u"" },
+    MacroKey{ Qt::Key_B, u"mnuViewApplyColourBothFiles" },
+    MacroKey{ Qt::Key_I, u"" },
+    MacroKey{ Qt::Key_U, u"mnuEditUpdateMacros" },
 };
 
 struct StandardKey {
@@ -83,9 +67,10 @@ EditorKeys::EditorKeys(EditorView &view, MenuActions &actions, const GlobalSetti
 
 QString EditorKeys::entryFor(int key, bool macroText)
 {
-    const auto row = std::ranges::find(controlKeys, key, &ControlKey::key);
-    return row == controlKeys.end() ? QString()
-                                    : (macroText ? row->macro : row->joystick).toString();
+    const auto row = std::ranges::find(macroKeys, key, &MacroKey::key);
+    return macroText && row != macroKeys.end()
+        ? row->entry.toString()
+        : entryWithShortcut(actionTable(), Qt::CTRL | Qt::Key(key));
 }
 
 bool EditorKeys::eventFilter(QObject *watched, QEvent *event)

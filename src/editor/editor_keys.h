@@ -21,7 +21,8 @@ class EditorKeys : public QObject
 public:
     EditorKeys(EditorView &view, MenuActions &actions, const GlobalSettings &settings);
 
-    /// The entry behind Ctrl and a key in one of the texts; empty when there is none.
+    /// Object name of the entry that Ctrl and a key runs in one of the texts; empty when there is
+    /// none.
     static QString entryFor(int key, bool macroText);
 
 Q_SIGNALS:

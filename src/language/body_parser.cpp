@@ -3,25 +3,15 @@
 
 #include "language/body_parser.h"
 
-#include "language/forms.h"
-#include "language/vocabulary.h"
+#include "language/words.h"
 
 namespace zeph::language {
 
 namespace {
 
-// A toggle may hold a press and a release, so it is a level of its own, although it stands in one
-// column with them.
-constexpr QStringView levels[] = { u"UMD", u"IO", u"T", u"PR", u"AH" };
-
-int levelOf(int modifier)
+SlashLevel levelOf(int modifier)
 {
-    const QChar letter = slashModifiers()[size_t(modifier)].word[1];
-    for (int level = 0; level < int(std::size(levels)); ++level) {
-        if (levels[level].contains(letter))
-            return level;
-    }
-    return 0;
+    return slashModifiers[size_t(modifier)].level;
 }
 
 char16_t partnerOf(QChar bracket)
@@ -44,7 +34,7 @@ bool Chain::holds(QStringView slashWord) const
 {
     for (int at = 0; at < size; ++at) {
         const int modifier = links[size_t(at)].modifier;
-        if (sameWord(slashModifiers()[size_t(modifier)].word, slashWord))
+        if (sameWord(slashModifiers[size_t(modifier)].text, slashWord))
             return true;
     }
     return false;
@@ -131,14 +121,14 @@ void BodyParser::readWord(qsizetype from, qsizetype to)
 {
     const QStringView word = m_text.sliced(from, to - from);
     const size_t hash = foldedHash(word);
-    const WordInfo info = wordInfo(word, hash);
-    const bool isKey = word.size() == 1 || info.is(KeyRole) || info.is(ModifierKeyRole);
-    if (info.is(StatementRole) && m_open.empty() && sameWord(word, u"BTN"))
+    const Word &row = rowOf(word, hash);
+    const bool isKey = word.size() == 1 || row.is(KeyRole) || row.is(ModifierKeyRole);
+    if (row.is(StatementRole) && m_open.empty() && sameWord(word, u"BTN"_w))
         leaveModifiers();
     if (const int macro = m_macros.value(word, hash); macro >= 0) {
         Item &item = m_source.items[add(ItemKind::MacroUse, from, to)];
         item.reference = macro;
-        item.alsoKey = isKey || info.roles != NoRole;
+        item.alsoKey = isKey || row.isKnown();
         return;
     }
     // A macro's name may stand in square brackets, which are keys everywhere else.
@@ -156,13 +146,13 @@ void BodyParser::readWord(qsizetype from, qsizetype to)
         kind = ItemKind::Null;
     else if (wholeNumber(word))
         kind = ItemKind::Number;
-    else if (info.is(ModifierKeyRole))
+    else if (row.is(ModifierKeyRole))
         kind = ItemKind::ModifierKey;
     else if (isKey)
         kind = ItemKind::Key;
     else if (flagNumber(word))
         kind = ItemKind::Flag;
-    else if (info.roles != NoRole || isDirectXButton(word))
+    else if (row.isKnown() || isDirectXButton(word))
         kind = ItemKind::Word;
     add(kind, from, to);
 }
@@ -180,14 +170,13 @@ void BodyParser::readSlash(qsizetype from, int modifier)
 // The modifier takes the place of the one of its own level; what stood further in goes with it.
 void BodyParser::enter(int modifier, int item)
 {
-    const int level = levelOf(modifier);
-    const bool isS3 = slashModifiers()[size_t(modifier)].position == PositionClass::S3;
-    const bool isOut = slashModifiers()[size_t(modifier)].word[1] == u'O';
+    const SlashLevel level = levelOf(modifier);
+    const bool isOut = slashModifiers[size_t(modifier)].text == u"/O"_w;
     int at = 0;
     while (at < m_chain.size && levelOf(m_chain.links[size_t(at)].modifier) != level)
         ++at;
     const bool continues = at < m_chain.size;
-    if (isS3) {
+    if (level == SlashLevel::S3) {
         bool &outFirst = m_outFirst[size_t(at)];
         if (!continues) {
             outFirst = isOut;
@@ -254,7 +243,7 @@ int BodyParser::callBefore(qsizetype at) const
     if (!canCall || item.place.line != m_line || item.endItem != index + 1)
         return -1;
     const QStringView between = m_text.sliced(item.place.end(), at - item.place.end());
-    if (trimmedEnd(between) != 0 || !wordInfo(m_source.at(item)).is(CallRole))
+    if (trimmedEnd(between) != 0 || rowOf(m_source.at(item)).arguments == CallShape::None)
         return -1;
     return index;
 }
@@ -269,9 +258,9 @@ void BodyParser::open(qsizetype at)
         Item &call = m_source.items[bracket.item];
         call.kind = ItemKind::Call;
         call.alsoKey = false;
-        call.reference = wordInfo(m_source.at(call)).call;
-        const CallForm &form = callForms()[size_t(call.reference)];
-        bracket.keys = form.shape == CallShape::Keys;
+        const Word &row = rowOf(m_source.at(call));
+        call.reference = indexOf(row);
+        bracket.keys = row.arguments == CallShape::Keys;
     } else {
         bracket.item = add(ItemKind::Group, at, at + 1);
     }

@@ -1,17 +1,13 @@
 // SPDX-FileCopyrightText: The Zeph authors
 // SPDX-License-Identifier: MIT
 
-#include "language/forms.h"
 #include "language/reporter.h"
 #include "language/scan.h"
-#include "language/vocabulary.h"
+#include "language/words.h"
 
 namespace zeph::language {
 
 namespace {
-
-constexpr int lastCurve = 32;
-constexpr int lastTrim = 127;
 
 bool isName(QStringView text)
 {
@@ -20,8 +16,8 @@ bool isName(QStringView text)
 
 void checkAxis(Reporter &reporter, const Argument &axis)
 {
-    const WordInfo info = wordInfo(axis.text);
-    if (isName(axis.text) && !info.is(AxisRole) && !info.is(AxisGroupRole))
+    const Word &row = rowOf(axis.text);
+    if (isName(axis.text) && !row.is(AxisRole) && !row.is(AxisGroupRole))
         reporter.report(UnknownAxis, axis.place, u"There is no axis %1"_s.arg(axis.text));
 }
 
@@ -41,7 +37,8 @@ void checkTrim(Reporter &reporter, const Arguments &arguments)
     const std::optional<int> value = trimValue(arguments[1].text);
     if (value && qAbs(*value) > lastTrim)
         reporter.report(ValueOutOfRange, arguments[1].place,
-                        u"The trim %1 lies outside -127 to 127"_s.arg(arguments[1].text));
+                        u"The trim %1 lies outside -%2 to %2"_s.arg(arguments[1].text,
+                                                                    QString::number(lastTrim)));
 }
 
 void checkOneAxis(Reporter &reporter, const Arguments &arguments)
@@ -61,8 +58,8 @@ void checkSwap(Reporter &reporter, const Arguments &arguments)
         return;
     checkAxis(reporter, arguments[0]);
     checkAxis(reporter, arguments[1]);
-    const WordInfo first = wordInfo(arguments[0].text);
-    const WordInfo second = wordInfo(arguments[1].text);
+    const Word &first = rowOf(arguments[0].text);
+    const Word &second = rowOf(arguments[1].text);
     const bool unequal = (first.is(AxisRole) && second.is(AxisGroupRole))
         || (first.is(AxisGroupRole) && second.is(AxisRole));
     if (unequal)
@@ -85,7 +82,7 @@ void checkThrottleRange(Reporter &reporter, const Arguments &arguments)
 void checkControl(Reporter &reporter, const Arguments &arguments)
 {
     const Argument &name = arguments[0];
-    if (arguments.size() == 1 && isName(name.text) && !wordInfo(name.text).is(ControlRole))
+    if (arguments.size() == 1 && isName(name.text) && !rowOf(name.text).is(ControlRole))
         reporter.report(UnknownControl, name.place, u"There is no control %1"_s.arg(name.text));
 }
 
@@ -109,12 +106,6 @@ void Reporter::report(Code code, const Place &place, const QString &message)
 {
     const Code told = m_file == File::Macro ? InMacroFile : code;
     m_findings.append({ told, message, m_file, place });
-}
-
-bool isIn(Words words, QStringView word)
-{
-    return std::any_of(words.begin(), words.end(),
-                       [&](QStringView candidate) { return sameWord(candidate, word); });
 }
 
 Arguments argumentsOf(const Source &source, const Item &item)
@@ -152,7 +143,8 @@ void checkCurve(Reporter &reporter, const Arguments &arguments)
     const std::optional<int> value = wholeNumber(arguments[1].text);
     if (value && qAbs(*value) > lastCurve)
         reporter.report(ValueOutOfRange, arguments[1].place,
-                        u"The curve %1 lies outside -32 to 32"_s.arg(arguments[1].text));
+                        u"The curve %1 lies outside -%2 to %2"_s.arg(arguments[1].text,
+                                                                     QString::number(lastCurve)));
 }
 
 void checkCalls(Reporter &reporter)
@@ -160,7 +152,7 @@ void checkCalls(Reporter &reporter)
     for (const Item &item : reporter.source().items) {
         if (item.kind != ItemKind::Call || !item.closed)
             continue;
-        const CallShape shape = callForms()[size_t(item.reference)].shape;
+        const CallShape shape = words[size_t(item.reference)].arguments;
         for (const CallRule &rule : rules) {
             if (rule.shape == shape)
                 rule.check(reporter, argumentsOf(reporter.source(), item));

@@ -3,13 +3,11 @@
 
 #include "language/reporter.h"
 #include "language/scan.h"
+#include "language/words.h"
 
 namespace zeph::language {
 
 namespace {
-
-constexpr int lastAxisType = 6;
-constexpr int lastPercent = 100;
 
 using Parts = QVarLengthArray<const Item *, 8>;
 
@@ -32,8 +30,8 @@ bool opensDefinition(const Branch &branch)
 {
     for (int at = 0; at < branch.chain.size; ++at) {
         const int modifier = branch.chain.links[size_t(at)].modifier;
-        const PositionClass position = slashModifiers()[size_t(modifier)].position;
-        if (position != PositionClass::Dogfight && position != PositionClass::S3)
+        const SlashLevel level = slashModifiers[size_t(modifier)].level;
+        if (level != SlashLevel::Dogfight && level != SlashLevel::S3)
             return false;
     }
     return true;
@@ -87,8 +85,9 @@ void checkBands(Reporter &reporter, const Parts &parts)
     if (!count)
         return;
     if (*count < 1 || *count > lastBandCount) {
-        reporter.report(BandCount, parts[1]->place,
-                        u"The number of bands must be 1 to 50, not %1"_s.arg(*count));
+        reporter.report(
+            BandCount, parts[1]->place,
+            u"The number of bands must be 1 to %1, not %2"_s.arg(lastBandCount).arg(*count));
         return;
     }
     const bool hasBorders = parts.size() > 2 && parts[2]->kind == ItemKind::Group;
@@ -110,7 +109,7 @@ void checkCentre(Reporter &reporter, Parts parts)
 {
     const Source &source = reporter.source();
     const auto size = parts.size();
-    if (size > 2 && sameWord(source.at(*parts[size - 1]), u"FORCE_MACROS"))
+    if (size > 2 && sameWord(source.at(*parts[size - 1]), u"FORCE_MACROS"_w))
         parts.resize(source.at(*parts[size - 2]) == u"-" ? size - 2 : size - 1);
     const std::optional<int> count = number(source, parts, 1);
     if (!count || *count % 2 == 0 || parts.size() != 5)

@@ -4,16 +4,14 @@
 #include "language/forms.h"
 #include "language/reporter.h"
 #include "language/scan.h"
-#include "language/vocabulary.h"
+#include "language/words.h"
 
 namespace zeph::language {
 
 namespace {
 
-constexpr int lastMouseRate = 127;
 // With all buttons given to Windows there are more than the 28 that have a statement of their own.
 constexpr int lastDirectXButton = 32;
-constexpr int lastDirectXAxis = 10;
 
 /// The body of a USE statement, read from left to right.
 class UseBody
@@ -55,14 +53,14 @@ void checkMouseType(Reporter &reporter, UseBody body)
     const QStringView word = body.word(type);
     const bool isLettered = word.size() > 1 && sameWord(word.first(1), u"A");
     const std::optional<int> number = isLettered ? wholeNumber(word.sliced(1)) : std::nullopt;
-    if (number && (*number < 1 || *number > 5))
+    if (number && (*number < 1 || *number > lastMouseType))
         reporter.report(UnknownMouseType, type->place, u"There is no mouse type %1"_s.arg(word));
 }
 
 void checkHatRole(Reporter &reporter, const Statement &statement, UseBody body)
 {
     const Item *role = body.next();
-    if (!role || !isIn(hatRoles(), body.word(role))) {
+    if (!role || !rowOf(body.word(role)).is(HatUseRole)) {
         reporter.report(UnknownHatRole, role ? role->place : statement.subject,
                         u"A hat can be POV, ARROWKEYS, KEYPAD or MOUSE"_s);
         return;
@@ -73,7 +71,7 @@ void checkHatRole(Reporter &reporter, const Statement &statement, UseBody body)
     const std::optional<int> rate = wholeNumber(arguments[0].text);
     if (rate && (*rate < 1 || *rate > lastMouseRate))
         reporter.report(ValueOutOfRange, arguments[0].place,
-                        u"The mouse rate %1 lies outside 1 to 127"_s.arg(*rate));
+                        u"The mouse rate %1 lies outside 1 to %2"_s.arg(*rate).arg(lastMouseRate));
 }
 
 void checkAxesConfiguration(Reporter &reporter, const Statement &statement, UseBody body)
@@ -96,7 +94,7 @@ void checkAxesConfiguration(Reporter &reporter, const Statement &statement, UseB
         QStringView axis = arguments[1].text;
         if (axis.startsWith(u'-') || axis.startsWith(u'+'))
             axis = axis.sliced(1).trimmed();
-        if (!wordInfo(axis).is(AxisRole))
+        if (!rowOf(axis).is(AxisRole))
             reporter.report(UnknownAxis, arguments[1].place, u"There is no axis %1"_s.arg(axis));
         if (*number < 1 || *number > lastDirectXAxis) {
             reporter.report(AxesConfiguration, arguments[0].place,
@@ -111,9 +109,9 @@ void checkAxesConfiguration(Reporter &reporter, const Statement &statement, UseB
                         u"DirectX axes 1 and 2 must have an axis"_s);
 }
 
-void checkMouseAxis(Reporter &reporter, WordInfo axis, const Item &role, QStringView word)
+void checkMouseAxis(Reporter &reporter, const Word &axis, const Item &role, QStringView word)
 {
-    const bool wholeMouse = sameWord(word, u"MOUSE");
+    const bool wholeMouse = sameWord(word, u"MOUSE"_w);
     if ((axis.is(AxisGroupRole) && !wholeMouse) || (axis.is(AxisRole) && wholeMouse))
         reporter.report(AxisAsMouse, role.place, u"The axis cannot drive %1"_s.arg(word));
     if (role.kind != ItemKind::Call || !role.closed)
@@ -125,7 +123,7 @@ void checkMouseAxis(Reporter &reporter, WordInfo axis, const Item &role, QString
     const std::optional<int> increment = wholeNumber(arguments[1].text);
     if (scale && increment && qint64(*scale) * *increment > lastMouseRate)
         reporter.report(ValueOutOfRange, role.place,
-                        u"Scale times increment must be less than 128"_s);
+                        u"Scale times increment must be less than %1"_s.arg(lastMouseRate + 1));
 }
 
 void checkDirectXButton(Reporter &reporter, const Item &role, QStringView word)
@@ -141,23 +139,23 @@ void checkAssignment(Reporter &reporter, UseBody body)
     const Item *name = body.next();
     const Item *as = body.next();
     const Item *role = body.next();
-    if (!role || !sameWord(body.word(as), u"AS"))
+    if (!role || !sameWord(body.word(as), u"AS"_w))
         return;
     const QStringView nameWord = body.word(name);
-    const WordInfo info = wordInfo(nameWord);
+    const Word &row = rowOf(nameWord);
     const QStringView word = body.word(role);
     const bool toButton = word.startsWith(u"DX", Qt::CaseInsensitive);
-    const bool needsControl = toButton || sameWord(word, u"SHIFTBTN");
-    const bool isAxis = info.is(AxisRole) || info.is(AxisGroupRole);
+    const bool needsControl = toButton || sameWord(word, u"SHIFTBTN"_w);
+    const bool isAxis = row.is(AxisRole) || row.is(AxisGroupRole);
     // A flag works like a button. Other words of the language may have roles that are not known.
     const bool isPossible =
-        info.is(ControlRole) || flagNumber(nameWord) || (!needsControl && info.roles != NoRole);
+        row.is(ControlRole) || flagNumber(nameWord) || (!needsControl && row.isKnown());
     if (!isPossible)
         reporter.report(UnknownControl, name->place, u"There is no control %1"_s.arg(nameWord));
     if (toButton)
         checkDirectXButton(reporter, *role, word);
-    else if (isAxis && (sameWord(word, u"MOUSE") || wordInfo(word).is(MouseAxisRole)))
-        checkMouseAxis(reporter, info, *role, word);
+    else if (isAxis && (sameWord(word, u"MOUSE"_w) || rowOf(word).is(MouseAxisRole)))
+        checkMouseAxis(reporter, row, *role, word);
 }
 
 } // namespace
@@ -168,7 +166,7 @@ void checkUse(Reporter &reporter, const Statement &statement)
     if (statement.useForm < 0)
         return checkAssignment(reporter, body);
     const UseForm &form = useForms()[size_t(statement.useForm)];
-    if (form.head == u"MTYPE")
+    if (form.head == u"MTYPE"_w)
         checkMouseType(reporter, body);
     else if (form.shape == UseShape::Role)
         checkHatRole(reporter, statement, body);

@@ -6,7 +6,7 @@
 #include "language/forms.h"
 #include "language/reporter.h"
 #include "language/scan.h"
-#include "language/vocabulary.h"
+#include "language/words.h"
 
 namespace zeph::language {
 
@@ -40,11 +40,11 @@ void checkBodies(Reporter &reporter)
 void checkButton(Reporter &reporter, const Statement &statement)
 {
     const QStringView name = reporter.source().at(statement.subject);
-    const WordInfo info = wordInfo(name);
+    const Word &row = rowOf(name);
     if (name.isEmpty())
         reporter.report(UnknownControl, statement.keyword, u"BTN needs a control"_s);
-    else if (!info.is(ControlRole) && !info.is(StatementRole)
-             && !name.startsWith(u"PORTB", Qt::CaseInsensitive))
+    else if (!row.is(ControlRole) && !row.is(StatementRole)
+             && !name.startsWith(u"PORTB"_w, Qt::CaseInsensitive))
         reporter.report(UnknownControl, statement.subject, u"There is no control %1"_s.arg(name));
 }
 
@@ -57,16 +57,29 @@ void checkFlagSubject(Reporter &reporter, const Statement &statement)
         reporter.report(UnknownFlag, statement.subject, u"There is no logical flag %1"_s.arg(name));
 }
 
-// A letter or two and a number, as controls are named.
+bool isDigit(QChar c)
+{
+    return c >= u'0' && c <= u'9';
+}
+
+// Whether the word is the control's name but for its number, as T11 is T1 and H5U is H1U.
+bool differsInNumber(QStringView word, QStringView control)
+{
+    const auto from = std::ranges::find_if(control, isDigit);
+    const auto to = std::find_if_not(from, control.end(), isDigit);
+    const QStringView before = control.first(from - control.begin());
+    const QStringView after = control.sliced(to - control.begin());
+    const qsizetype digits = word.size() - before.size() - after.size();
+    return digits > 0 && (digits == 1 || after.isEmpty())
+        && word.startsWith(before, Qt::CaseInsensitive) && word.endsWith(after, Qt::CaseInsensitive)
+        && wholeNumber(word.sliced(before.size(), digits));
+}
+
 bool looksLikeControl(QStringView word)
 {
-    for (const QStringView prefix : { QStringView(u"TG"), QStringView(u"T"), QStringView(u"S") }) {
-        if (word.size() > prefix.size() && word.startsWith(prefix, Qt::CaseInsensitive)
-            && wholeNumber(word.sliced(prefix.size())))
-            return true;
-    }
-    return word.size() > 2 && sameWord(word.first(1), u"H") && wholeNumber(word.sliced(1, 1))
-        && isIn(hatPositions(), word.sliced(2));
+    return std::ranges::any_of(wordsOf<ControlRole>(), [word](QStringView control) {
+        return differsInNumber(word, control);
+    });
 }
 
 void checkDefinition(Reporter &reporter, const Statement &statement)
@@ -100,10 +113,10 @@ void checkDisable(Reporter &reporter, const Statement &statement)
         return;
     const Item &item = source.items[index];
     const QStringView name = source.at(item);
-    const WordInfo info = wordInfo(name);
-    if (isIn(disableableAxes(), name))
+    const Word &row = rowOf(name);
+    if (row.is(DisableableRole))
         return;
-    if (info.is(AxisRole) || info.is(AxisGroupRole))
+    if (row.is(AxisRole) || row.is(AxisGroupRole))
         reporter.report(NotDisableable, item.place, u"%1 cannot be disabled"_s.arg(name));
     else if (item.kind == ItemKind::Unknown)
         reporter.report(UnknownAxis, item.place, u"There is no axis %1"_s.arg(name));
@@ -131,12 +144,12 @@ void checkScreen(Reporter &reporter, const JoystickFile &joystick)
 {
     for (const Statement &statement : joystick.statements) {
         if (statement.useForm >= 0
-            && useForms()[size_t(statement.useForm)].head == u"SCREEN_RESOLUTION")
+            && useForms()[size_t(statement.useForm)].head == u"SCREEN_RESOLUTION"_w)
             return;
     }
     for (const Item &item : joystick.items) {
         const bool isScreen = item.kind == ItemKind::Call
-            && callForms()[size_t(item.reference)].shape == CallShape::Screen;
+            && words[size_t(item.reference)].arguments == CallShape::Screen;
         if (isScreen && !joystick.at(item).contains(u'%')) {
             reporter.report(NoScreenResolution, item.place,
                             u"There is no USE SCREEN_RESOLUTION statement"_s);

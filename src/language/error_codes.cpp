@@ -117,7 +117,16 @@ const ErrorEntry *errorEntry(int code)
 
 QString errorHeading(int code)
 {
-    return u"ERROR %1"_s.arg(code, 4, 10, QChar(u'0'));
+    return u"%1 %2"_s.arg(errorWord).arg(code, 4, 10, QChar(u'0'));
+}
+
+DocumentKind documentOfError(QStringView errorText)
+{
+    // Whatever the word before the digits is.
+    return errorText.left(errorHeadingLength).mid(errorWord.size() + 1)
+            == QString::number(InMacroFile)
+        ? DocumentKind::Macro
+        : DocumentKind::Joystick;
 }
 
 QString errorCodesText()

@@ -6,7 +6,7 @@
 // What can be wrong with a pair of files, by number, in a pilot's words. The information file
 // "Error codes.rtf" holds the same entries.
 
-#include "platform/core/base.h"
+#include "language/file_kinds.h"
 
 #include <span>
 
@@ -53,8 +53,15 @@ std::span<const ErrorEntry> errorCodes();
 /// The entry of a code, or null.
 const ErrorEntry *errorEntry(int code);
 
+/// The word that starts each entry.
+constexpr QStringView errorWord = u"ERROR";
 /// "ERROR " and the four digits: the form by which an entry is found.
 QString errorHeading(int code);
+constexpr qsizetype errorHeadingLength = errorWord.size() + 5;
+
+/// The document that a compiler's error text speaks of: the macro file where the code's four
+/// digits are those of InMacroFile.
+DocumentKind documentOfError(QStringView errorText);
 
 /// The whole of "Error codes.rtf" as plain text: for each entry a heading line, the cause, the cure
 /// and an empty line.

@@ -10,6 +10,9 @@ namespace zeph {
 
 namespace {
 
+constexpr QStringView untitled = u"Untitled";
+constexpr QStringView profileExtension = u".tmc";
+
 struct ExtensionPair {
     QStringView joystick;
     QStringView macro;
@@ -67,6 +70,12 @@ QString baseWithDot(QStringView name)
     return name.chopped(std::min<qsizetype>(3, name.size())).toString();
 }
 
+QString extensionOf(DocumentKind kind)
+{
+    const ExtensionPair &own = extensionPairs[0];
+    return (kind == DocumentKind::Joystick ? own.joystick : own.macro).toString();
+}
+
 QString tabCaption(const QString &name)
 {
     return baseWithDot(name) + lastThree(name);
@@ -74,12 +83,19 @@ QString tabCaption(const QString &name)
 
 bool isUntitled(QStringView name)
 {
-    return name.left(8) == u"Untitled";
+    return name.startsWith(untitled);
 }
 
 QString freshName(DocumentKind kind)
 {
-    return kind == DocumentKind::Joystick ? u"Untitled.tmj"_s : u"Untitled.tmm"_s;
+    return untitled.toString() + u'.' + extensionOf(kind);
+}
+
+QString withProfileExtension(const QString &name)
+{
+    return name.endsWith(profileExtension, Qt::CaseInsensitive)
+        ? name
+        : name + profileExtension.toString();
 }
 
 } // namespace zeph

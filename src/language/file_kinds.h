@@ -24,11 +24,15 @@ QString macroExtensionFor(QStringView joystickName);
 QString joystickExtensionFor(QStringView macroName);
 /// The name without its last three characters (the dot stays).
 QString baseWithDot(QStringView name);
+/// "tmj" or "tmm".
+QString extensionOf(DocumentKind kind);
 /// What a tab shows: the name with its last three characters lower-cased.
 QString tabCaption(const QString &name);
 /// Names that count as never saved: the first eight characters are "Untitled".
 bool isUntitled(QStringView name);
 /// "Untitled.tmj" or "Untitled.tmm".
 QString freshName(DocumentKind kind);
+/// A calibration profile's name with ".tmc", which may be left out.
+QString withProfileExtension(const QString &name);
 
 } // namespace zeph

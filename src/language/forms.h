@@ -3,7 +3,7 @@
 
 #pragma once
 
-// What takes arguments, and of which shape: the USE statements and the words with brackets.
+// The USE statements, by the words that follow USE.
 
 #include "language/words.h"
 
@@ -37,29 +37,5 @@ std::span<const UseForm> useForms();
 
 /// Index into useForms() of the form whose head words begin the line behind USE, or -1.
 int useFormOf(QStringView behindUse);
-
-/// The arguments of a word with brackets, separated by commas.
-enum class CallShape : quint8 {
-    /// Nothing is known of them.
-    Any,
-    /// Keys or key codes: brackets among them are keys.
-    Keys,
-    AxisAndCurve,
-    AxisAndTrim,
-    Axis,
-    AxisAndLock,
-    TwoAxes,
-    TwoPercents,
-    Control,
-    /// A place on the screen, which needs the screen's resolution.
-    Screen,
-};
-
-struct CallForm {
-    QStringView word;
-    CallShape shape;
-};
-
-std::span<const CallForm> callForms();
 
 } // namespace zeph::language

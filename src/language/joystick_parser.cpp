@@ -6,7 +6,7 @@
 #include "language/body_parser.h"
 #include "language/forms.h"
 #include "language/lines.h"
-#include "language/vocabulary.h"
+#include "language/words.h"
 
 namespace zeph::language {
 
@@ -19,10 +19,10 @@ struct KeywordKind {
 
 // Every other statement keyword is an axis or one of the old ones.
 constexpr KeywordKind kinds[] = {
-    { u"BTN", StatementKind::Button },      { u"DEF", StatementKind::FlagDefinition },
-    { u"USE", StatementKind::Use },         { u"CURVE", StatementKind::Curve },
-    { u"RATE", StatementKind::Rate },       { u"SHIFTBTN", StatementKind::ShiftButton },
-    { u"DISABLE", StatementKind::Disable }, { u"THR_RANGE", StatementKind::ThrottleRange },
+    { u"BTN"_w, StatementKind::Button },      { u"DEF"_w, StatementKind::FlagDefinition },
+    { u"USE"_w, StatementKind::Use },         { u"CURVE"_w, StatementKind::Curve },
+    { u"RATE"_w, StatementKind::Rate },       { u"SHIFTBTN"_w, StatementKind::ShiftButton },
+    { u"DISABLE"_w, StatementKind::Disable }, { u"THR_RANGE"_w, StatementKind::ThrottleRange },
 };
 
 StatementKind kindOf(QStringView keyword)
@@ -31,7 +31,7 @@ StatementKind kindOf(QStringView keyword)
         if (sameWord(row.word, keyword))
             return row.kind;
     }
-    return wordInfo(keyword).is(AxisRole) ? StatementKind::Axis : StatementKind::Legacy;
+    return rowOf(keyword).is(AxisRole) ? StatementKind::Axis : StatementKind::Legacy;
 }
 
 class JoystickParser
@@ -81,7 +81,7 @@ private:
         if (!ends || end - line.first < 2)
             return 0;
         const QStringView word = code.sliced(line.first, end - line.first);
-        if (!wordInfo(word).is(StatementRole))
+        if (!rowOf(word).is(StatementRole))
             return 0;
         // RATE and the axes are words of bodies too.
         const bool goesOn = m_open && m_body.isInBrackets() && !beginsAnywhere(word);
@@ -100,7 +100,8 @@ private:
 
     static bool beginsAnywhere(QStringView keyword)
     {
-        return sameWord(keyword, u"BTN") || sameWord(keyword, u"DEF") || sameWord(keyword, u"USE");
+        return sameWord(keyword, u"BTN"_w) || sameWord(keyword, u"DEF"_w)
+            || sameWord(keyword, u"USE"_w);
     }
 
     static bool holdsKeys(StatementKind kind)
@@ -204,7 +205,7 @@ void parseJoystick(JoystickFile &file, const WordMap &macros)
 std::optional<MacroReference> macroReference(const JoystickFile &joystick)
 {
     for (auto it = joystick.statements.crbegin(); it != joystick.statements.crend(); ++it) {
-        if (it->useForm < 0 || useForms()[size_t(it->useForm)].head != u"MDEF")
+        if (it->useForm < 0 || useForms()[size_t(it->useForm)].head != u"MDEF"_w)
             continue;
         QStringView name = joystick.at(it->tail);
         if (name.size() > 1 && name.startsWith(u'"') && name.endsWith(u'"'))

@@ -8,7 +8,7 @@
 // are flat and in text order, and parts point into them by index, so that a deep or broken text
 // costs no more than a plain one.
 
-#include "language/words.h"
+#include "platform/core/base.h"
 
 #include <QList>
 
@@ -54,12 +54,12 @@ enum class ItemKind : quint8 {
     Flag,
     /// A macro of the macro file; Item::reference is its index.
     MacroUse,
-    /// A word with brackets behind it; Item::reference is its index in callForms().
+    /// A word with brackets behind it; Item::reference is its index in words.
     Call,
     /// Brackets with what stands between them.
     Group,
     Comma,
-    /// A slash modifier; Item::reference is its index in slashModifiers().
+    /// A slash modifier; Item::reference is its index in slashModifiers.
     Slash,
 };
 
@@ -82,7 +82,7 @@ struct Item {
 
 /// One slash modifier in force for a branch.
 struct Link {
-    /// Index in slashModifiers().
+    /// Index in slashModifiers.
     int modifier = -1;
     /// Its item.
     int item = -1;

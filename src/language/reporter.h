@@ -44,8 +44,6 @@ using Arguments = QVarLengthArray<Argument, 4>;
 /// least one. The item must be one of the source's.
 Arguments argumentsOf(const Source &source, const Item &item);
 
-bool isIn(Words words, QStringView word);
-
 void checkCurve(Reporter &reporter, const Arguments &arguments);
 /// The arguments of every word with brackets.
 void checkCalls(Reporter &reporter);

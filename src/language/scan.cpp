@@ -3,8 +3,6 @@
 
 #include "language/scan.h"
 
-#include "language/words.h"
-
 namespace zeph::language {
 
 qsizetype skipBlanks(QStringView text, qsizetype at)
@@ -48,22 +46,6 @@ qsizetype commentStart(QStringView line)
         const bool endsWord = at + 3 == line.size() || !isNameCharacter(line[at + 3]);
         if (startsWord && endsWord)
             return at;
-    }
-    return -1;
-}
-
-int slashAt(QStringView line, qsizetype at)
-{
-    if (line[at] != u'/' || at + 1 >= line.size())
-        return -1;
-    // "/Up" and "/I2" are words of their own, "/I/U" are two modifiers.
-    if (at + 2 < line.size() && line[at + 2] != u'/' && isWordCharacter(line[at + 2]))
-        return -1;
-    const QChar letter = line[at + 1].toUpper();
-    const auto modifiers = slashModifiers();
-    for (int index = 0; index < int(modifiers.size()); ++index) {
-        if (modifiers[size_t(index)].word[1] == letter)
-            return index;
     }
     return -1;
 }

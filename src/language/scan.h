@@ -49,9 +49,6 @@ qsizetype trimmedEnd(QStringView text);
 /// Where the comment of a line begins: the word Rem in any case, as a whole word; -1 without one.
 qsizetype commentStart(QStringView line);
 
-/// Whether a slash modifier stands at `at`: its index in slashModifiers(), or -1.
-int slashAt(QStringView line, qsizetype at);
-
 bool sameWord(QStringView left, QStringView right);
 
 /// A whole number with an optional sign; a "%" behind it is dropped. Anything else has no value.

@@ -5,18 +5,18 @@
 
 #include "livetools/key_codes_file.h"
 #include "livetools/key_test_menus.h"
+#include "menus/menu_actions.h"
 #include "platform/core/units.h"
 #include "platform/handlers.h"
 #include "platform/input/keyboard.h"
 #include "platform/richtext/rich_text_box.h"
 #include "settings/settings_files.h"
-#include "toolchain/external_tools.h"
-#include "toolchain/modes/cougar_modes.h"
 #include "ui_keytestform.h"
 
 #include <QAction>
 #include <QClipboard>
 #include <QGuiApplication>
+#include <QMenuBar>
 #include <QPointer>
 #include <QScreen>
 
@@ -54,13 +54,19 @@ void paint(QWidget *widget, QPalette::ColorRole back, QPalette::ColorRole text, 
 
 } // namespace
 
-KeyTestForm::KeyTestForm(const Context &context, const Parts &parts, QWidget *parent)
-    : QWidget(parent, Qt::Window), m_context(context), m_parts(parts),
-      m_ui(std::make_unique<Ui::KeyTestForm>()), m_menus(new KeyTestMenus(this)),
+KeyTestForm::KeyTestForm(const Context &context, const KeyTestEntries &entries, QWidget *parent)
+    : QWidget(parent, Qt::Window), m_context(context), m_entries(entries),
+      m_ui(std::make_unique<Ui::KeyTestForm>()),
+      m_menus(std::make_unique<MenuActions>(context.dialogs, QString(), keyTestMenus(),
+                                            keyTestActions(), this)),
       m_timer1(new QTimer(this))
 {
     m_ui->setupUi(this);
-    layout()->setMenuBar(m_menus);
+    m_bar = new QMenuBar(this);
+    m_bar->setObjectName(u"KeyTestMenus"_s);
+    m_menus->addTo(*m_bar);
+    layout()->setMenuBar(m_bar);
+    connectEntries();
     for (RichTextBox *list : { m_ui->RTFKeysText, m_ui->RTFKeysDownText }) {
         list->setUndoRedoEnabled(false);
         list->document()->setMaximumBlockCount(longestList);
@@ -72,9 +78,6 @@ KeyTestForm::KeyTestForm(const Context &context, const Parts &parts, QWidget *pa
     connect(m_timer1, &QTimer::timeout, this, [this] { m_rules.delayOver(); });
     m_modeTimer.setInterval(checkForCompletionTimeMs(context.settings));
     connect(&m_modeTimer, &QTimer::timeout, this, [this] { readMode(); });
-    connect(
-        m_menus, &KeyTestMenus::chosen, this,
-        guarded(context.dialogs, [this](const QString &name, int index) { chosen(name, index); }));
     connect(m_ui->Label1, &QPushButton::clicked, this, [this] { ToggleMenus(); });
     connect(m_ui->LBL_ModeWarning, &QPushButton::clicked, this,
             guarded(context.dialogs, [this](bool) { LBL_ModeWarning_Click(); }));
@@ -99,13 +102,13 @@ bool KeyTestForm::Form_Load()
         TurnOffCapsLOCK();
     }
     GetKeyPosition();
-    m_menus->action(u"mnuDX8KeyTester")->setVisible(m_parts.directXTester.isVisible());
+    m_menus->action(u"mnuDX8KeyTester")->setVisible(m_entries.directXTester->isVisible());
     ResizeStuff();
     if (!GetMappedCharacters()) {
         return false;
     }
     const QPointer<KeyTestForm> alive(this);
-    m_parts.modes.changeButtonsMode(ButtonsRequest::Programmed);
+    Q_EMIT buttonsModeWanted(true);
     QCoreApplication::processEvents();
     if (!alive) {
         return false;
@@ -183,7 +186,7 @@ void KeyTestForm::showMenus(bool shown)
     for (const QStringView name : { u"mnuEmergency", u"mnuClear", u"mnuView", u"mnuCopy" }) {
         m_menus->action(name)->setVisible(shown);
     }
-    m_menus->setVisible(shown);
+    m_bar->setVisible(shown);
     paint(m_ui->Label1, QPalette::Button, QPalette::ButtonText, shown ? menusShown : menusHidden);
 }
 
@@ -196,31 +199,28 @@ void KeyTestForm::ResizeStuff()
     heading->setText(fits ? whole : u"Events"_s);
 }
 
-void KeyTestForm::chosen(const QString &name, int index)
+void KeyTestForm::connectEntries()
 {
-    if (name == u"mnuEmergencyOff") {
-        m_parts.modes.changeButtonsMode(ButtonsRequest::Windows);
-    } else if (name == u"mnuMemoryClear") {
-        m_parts.tools.mnuMemoryClear_Click(index);
-    } else if (name == u"mnuYankCord") {
-        m_context.dialogs.tell(
-            u"I suppose you want me to make you a cup of tea as well"_s,
-            u"You don't think I can do this for you, do you? I'm just a computer, and I've got "
-            "enough of my own problems thank you very much without having to be burdened with "
-            "yours."_s);
-    } else if (name == u"mnuClearDelay") {
-        chooseClearDelay(index);
-    } else if (name == u"mnuClearAll") {
-        ClearTextBoxes();
-    } else if (name == u"mnuViewKeyEvents") {
-        showKeyEvents(m_context.settings.KeyViewAll == 0);
-    } else if (name == u"mnuFontSize") {
-        setFontSize(index);
-    } else if (name == u"mnuCopyList") {
-        copyList(index);
-    } else if (name == u"mnuDX8KeyTester") {
-        m_parts.directXTester.trigger();
-    }
+    MenuActions &on = *m_menus;
+    on.connectTo(u"mnuEmergencyOff", [this] { Q_EMIT buttonsModeWanted(false); });
+    on.connectArray(u"mnuMemoryClear"_s,
+                    [this](int index) { m_entries.memoryClear[size_t(index)]->trigger(); });
+    on.connectTo(u"mnuYankCord", [this] { mnuYankCord_Click(); });
+    on.connectArray(u"mnuClearDelay"_s, [this](int index) { chooseClearDelay(index); });
+    on.connectTo(u"mnuClearAll", [this] { ClearTextBoxes(); });
+    on.connectTo(u"mnuViewKeyEvents",
+                 [this] { showKeyEvents(m_context.settings.KeyViewAll == 0); });
+    on.connectArray(u"mnuFontSize"_s, [this](int index) { setFontSize(index); });
+    on.connectArray(u"mnuCopyList"_s, [this](int index) { copyList(index); });
+    on.connectTo(u"mnuDX8KeyTester", [this] { m_entries.directXTester->trigger(); });
+}
+
+void KeyTestForm::mnuYankCord_Click()
+{
+    m_context.dialogs.tell(
+        u"I suppose you want me to make you a cup of tea as well"_s,
+        u"You don't think I can do this for you, do you? I'm just a computer, and I've got enough "
+        "of my own problems thank you very much without having to be burdened with yours."_s);
 }
 
 void KeyTestForm::chooseClearDelay(int index)

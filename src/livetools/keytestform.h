@@ -10,22 +10,28 @@
 #include <QTimer>
 #include <QWidget>
 
+#include <array>
 #include <memory>
 
 class QAction;
 class QKeyEvent;
 class QLabel;
+class QMenuBar;
 
 namespace zeph {
 
-class CougarModes;
-class ExternalTools;
-class KeyTestMenus;
+class MenuActions;
 class RichTextBox;
 
 namespace Ui {
 class KeyTestForm;
 }
+
+/// The Editor's menu entries that the Key Tester runs too. All must outlive it.
+struct KeyTestEntries {
+    std::array<QAction *, 2> memoryClear; ///< 0 empty buffers, 1 clear memory
+    QAction *directXTester; ///< hidden where there is no such tester
+};
 
 /// Shows what the Cougar really sends: each key that goes down and up, and the text that results.
 /// While the window is in front, every key is shown and does nothing else.
@@ -33,13 +39,7 @@ class KeyTestForm : public QWidget
 {
     Q_OBJECT
 public:
-    struct Parts {
-        CougarModes &modes;
-        ExternalTools &tools;
-        /// The menu entry that starts the tester for DirectX keys; hidden where there is none.
-        QAction &directXTester;
-    };
-    KeyTestForm(const Context &context, const Parts &parts, QWidget *parent = nullptr);
+    KeyTestForm(const Context &context, const KeyTestEntries &entries, QWidget *parent = nullptr);
     ~KeyTestForm() override;
 
     /// Reads what the window needs and puts the Cougar into programmed mode. False when there is no
@@ -62,6 +62,12 @@ public:
     void Form_KeyUp(int keycode, int shift);
     void Form_KeyPress(char16_t ascii);
 
+Q_SIGNALS:
+    /// The buttons' programmed (true) or Windows mode is wanted.
+    void buttonsModeWanted(bool programmed);
+    /// Shift+Break: the Cougar's buttons must stop typing at once.
+    void emergencyOff();
+
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
     void changeEvent(QEvent *event) override;
@@ -69,7 +75,8 @@ protected:
     bool focusNextPrevChild(bool next) override;
 
 private:
-    void chosen(const QString &name, int index);
+    void connectEntries();
+    void mnuYankCord_Click();
     void keyPressed(const QKeyEvent &event);
     void keyReleased(const QKeyEvent &event);
     void emergency();
@@ -86,9 +93,10 @@ private:
     void LBL_ModeWarning_Click();
 
     Context m_context;
-    Parts m_parts;
+    KeyTestEntries m_entries;
     std::unique_ptr<Ui::KeyTestForm> m_ui;
-    KeyTestMenus *m_menus;
+    std::unique_ptr<MenuActions> m_menus;
+    QMenuBar *m_bar;
     KeyTestRules m_rules;
     QTimer *m_timer1;
     QTimer m_modeTimer;

@@ -9,7 +9,6 @@
 #include "platform/input/keyboard.h"
 #include "platform/richtext/rich_text_box.h"
 #include "settings/global_settings.h"
-#include "toolchain/modes/cougar_modes.h"
 #include "ui_keytestform.h"
 
 #include <QContextMenuEvent>
@@ -99,7 +98,7 @@ void KeyTestForm::Form_KeyUp(int keycode, int)
 void KeyTestForm::emergency()
 {
     const QPointer<KeyTestForm> alive(this);
-    m_parts.modes.emergencyOff();
+    Q_EMIT emergencyOff();
     if (alive) {
         close();
     }

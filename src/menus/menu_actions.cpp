@@ -5,11 +5,11 @@
 
 #include "platform/dialogs.h"
 #include "platform/handlers.h"
-
 #include "platform/icon_file.h"
+
 #include <QAction>
-#include <QFile>
 #include <QMenu>
+#include <QMenuBar>
 
 namespace zeph {
 
@@ -20,48 +20,32 @@ QString text(const char16_t *characters)
     return QString::fromUtf16(characters);
 }
 
+QString element(const QString &array, int index)
+{
+    return array + u'_' + QString::number(index);
+}
+
 } // namespace
 
 MenuActions::MenuActions(Dialogs &dialogs, const QString &iconFolder,
                          std::span<const MenuRow> menus, std::span<const ActionRow> rows,
-                         QObject *parent)
-    : QObject(parent), m_dialogs(dialogs), m_iconFolder(iconFolder), m_bar(menus), m_rows(rows)
+                         QWidget *window)
+    : m_dialogs(dialogs), m_iconFolder(iconFolder), m_bar(menus), m_rows(rows), m_window(window)
 {
     makeMenus();
-}
-
-MenuActions::~MenuActions()
-{
-    // A menu cannot have this object as its parent, since it is no widget; submenus go with their
-    // menus.
-    for (QMenu *menu : std::as_const(m_menus)) {
-        if (!menu->parent()) {
-            menu->deleteLater();
-        }
-    }
 }
 
 void MenuActions::makeMenus()
 {
     for (const MenuRow &row : m_bar) {
-        auto *menu = new QMenu(text(row.caption));
+        auto *menu = new QMenu(text(row.caption), m_window);
         menu->setObjectName(text(row.name));
+        menu->menuAction()->setObjectName(text(row.name));
         m_menus.insert(menu->objectName(), menu);
+        m_actions.insert(menu->objectName(), menu->menuAction());
     }
     for (const ActionRow &row : m_rows) {
-        QMenu *menu = m_menus.value(text(row.menu));
-        QAction *action = nullptr;
-        if (row.kind == ActionKind::Separator) {
-            action = menu->addSeparator();
-        } else if (row.kind == ActionKind::Submenu) {
-            auto *submenu = new QMenu(text(row.caption), menu);
-            m_menus.insert(text(row.name), submenu);
-            action = menu->addMenu(submenu);
-        } else {
-            action = menu->addAction(text(row.caption));
-            action->setShortcut(QKeySequence(text(row.shortcut)));
-            action->setCheckable(row.kind == ActionKind::Tick);
-        }
+        QAction *action = make(row);
         action->setObjectName(text(row.name));
         action->setStatusTip(text(row.status));
         if (row.icon[0] != 0) {
@@ -70,8 +54,28 @@ void MenuActions::makeMenus()
         if (row.name[0] != 0) {
             m_actions.insert(text(row.name), action);
         }
-        action->setEnabled(row.kind == ActionKind::Separator || row.when == When::Always);
+        action->setEnabled(row.kind == ActionKind::Separator || row.when == CommonWhen::Always);
     }
+}
+
+QAction *MenuActions::make(const ActionRow &row)
+{
+    QMenu *menu = m_menus.value(text(row.menu));
+    if (row.kind == ActionKind::Separator) {
+        return menu->addSeparator();
+    }
+    if (row.kind == ActionKind::Submenu) {
+        auto *submenu = new QMenu(text(row.caption), menu);
+        m_menus.insert(text(row.name), submenu);
+        return menu->addMenu(submenu);
+    }
+    auto *action = new QAction(text(row.caption), menu ? static_cast<QWidget *>(menu) : m_window);
+    if (menu) {
+        menu->addAction(action);
+    }
+    action->setShortcut(QKeySequence(text(row.shortcut)));
+    action->setCheckable(row.kind == ActionKind::Tick);
+    return action;
 }
 
 QAction *MenuActions::action(QStringView name) const
@@ -100,10 +104,32 @@ QList<QMenu *> MenuActions::menuBar() const
     return bar;
 }
 
+void MenuActions::addTo(QMenuBar &bar) const
+{
+    for (QMenu *menu : menuBar()) {
+        bar.addMenu(menu);
+    }
+    for (const ActionRow &row : m_rows) {
+        if (row.menu[0] == 0) {
+            bar.addAction(action(text(row.name)));
+        }
+    }
+}
+
 void MenuActions::connectTo(QStringView name, std::function<void()> operation)
 {
     connect(action(name), &QAction::triggered, this,
             guarded(m_dialogs, [operation = std::move(operation)](bool) { operation(); }));
+}
+
+void MenuActions::connectArray(const QString &name, std::function<void(int)> operation)
+{
+    Q_ASSERT_X(has(element(name, 0)) || has(element(name, 1)), "MenuActions::connectArray",
+               qPrintable(name));
+    // Some arrays count from 1.
+    for (int i = has(element(name, 0)) ? 0 : 1; has(element(name, i)); ++i) {
+        connectTo(element(name, i), [operation, i] { operation(i); });
+    }
 }
 
 bool MenuActions::trigger(QStringView name)
@@ -122,6 +148,13 @@ void MenuActions::setCondition(When when, bool holds)
         if (row.when == when && row.kind != ActionKind::Separator) {
             action(QStringView(row.name))->setEnabled(holds);
         }
+    }
+}
+
+void MenuActions::tickOnly(const QString &name, int index) const
+{
+    for (int i = 0; has(element(name, i)); ++i) {
+        action(element(name, i))->setChecked(i == index);
     }
 }
 

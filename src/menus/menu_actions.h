@@ -13,44 +13,54 @@
 
 class QAction;
 class QMenu;
+class QMenuBar;
 
 namespace zeph {
 
 class Dialogs;
 
-/// The menu entries of a window as live actions, made from its tables. Owns the menus.
+/// The menu entries of a window as live actions, made from its tables. The menus and the entries of
+/// the bar itself become children of the window.
 class MenuActions : public QObject
 {
     Q_OBJECT
 public:
-    /// The tables must outlive this.
+    /// The tables must outlive this, and the window must outlive the calls below.
     MenuActions(Dialogs &dialogs, const QString &iconFolder, std::span<const MenuRow> menus,
-                std::span<const ActionRow> rows, QObject *parent = nullptr);
-    ~MenuActions() override;
+                std::span<const ActionRow> rows, QWidget *window);
 
-    /// The entry of that object name. Every name of the table has one; another is a programming
-    /// error.
+    /// The entry, or the menu's own action, of that object name. A name that no table has is a
+    /// programming error.
     QAction *action(QStringView name) const;
     bool has(QStringView name) const;
+    /// The menu or submenu of that object name; null when there is none.
     QMenu *menu(QStringView name) const;
-    /// The menus of the menu bar in order, for whoever owns the bar.
+    /// The menus of the menu bar from left to right.
     QList<QMenu *> menuBar() const;
+    /// Adds the menus, and after them the entries of the bar itself.
+    void addTo(QMenuBar &bar) const;
 
-    /// Connects an entry with what it does, through the guard that every handler has.
+    /// Lets an entry run an operation. What escapes the operation is shown to the user.
     void connectTo(QStringView name, std::function<void()> operation);
-    /// Does what the entry does, if it is enabled. False when it is not.
+    /// The same for all entries NAME_i; the operation receives the index i.
+    void connectArray(const QString &name, std::function<void(int)> operation);
+    /// Runs an entry if it is enabled. False when it is not.
     bool trigger(QStringView name);
 
-    /// Enables or disables all entries that depend on a condition.
+    /// Enables or disables all entries under a condition.
     void setCondition(When when, bool holds);
+    /// Ticks the entry NAME_index of an array and no other of it; -1 ticks none.
+    void tickOnly(const QString &name, int index) const;
 
 private:
     void makeMenus();
+    QAction *make(const ActionRow &row);
 
     Dialogs &m_dialogs;
     QString m_iconFolder;
     std::span<const MenuRow> m_bar;
     std::span<const ActionRow> m_rows;
+    QWidget *m_window;
     QHash<QString, QAction *> m_actions;
     QHash<QString, QMenu *> m_menus;
 };

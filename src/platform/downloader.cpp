@@ -15,7 +15,7 @@ namespace zeph {
 
 namespace {
 
-/// What is fetched is a line of text or a page; more than this is no answer of ours.
+/// The most bytes of an answer: only lines of text and pages are fetched.
 constexpr qint64 maxBytes = 1 << 20;
 
 QNetworkRequest requestFor(const QUrl &url)

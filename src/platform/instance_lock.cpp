@@ -16,8 +16,8 @@ namespace {
 /// Far more than a program needs between making its lock and writing its name into it.
 constexpr qint64 namedWithinMs = 1000;
 
-/// Whether a lock has been without its owner's name for so long that the owner must have died
-/// before it could write it. The toolkit takes such a lock for one that is held, for ever.
+/// Whether a lock has lacked its owner's name for so long that the owner must have died before it
+/// could write it. The toolkit takes such a lock for one that is held, for ever.
 bool isNameless(const QLockFile &lock)
 {
     qint64 process = 0;
@@ -33,11 +33,11 @@ bool isNameless(const QLockFile &lock)
 InstanceLock::InstanceLock(const QString &folder)
     : m_lock(std::make_unique<QLockFile>(withClosingSeparator(folder) + u"Zeph.lock"_s))
 {
-    // Age says nothing about a lock that is held for a whole session; the process's end does.
+    // A lock is held for a whole run, so its age says nothing; only the process's end frees it.
     m_lock->setStaleLockTime(0);
     const bool isMine = m_lock->tryLock(0)
         || (isNameless(*m_lock) && m_lock->removeStaleLockFile() && m_lock->tryLock(0));
-    // Where no lock can be made at all, nobody else has one either.
+    // Where no lock can be made at all, no other run has one either.
     m_first = isMine || m_lock->error() != QLockFile::LockFailedError;
 }
 

@@ -25,7 +25,7 @@ LongProgress::LongProgress(const QString &title, QWidget *parent, qint64 patienc
     m_window.setMinimumWidth(leastWidth);
     m_window.setAutoClose(false);
     m_window.setAutoReset(false);
-    // Shown by the clock below; the toolkit's own guess needs to know the end.
+    // The clock below decides when to show it: the toolkit's own guess needs to know the end.
     m_window.setMinimumDuration(std::numeric_limits<int>::max());
     m_window.reset();
     m_since.start();

@@ -21,7 +21,7 @@ public:
     /// Shows where it is, and lets timers and the window live. Of an unknown number, all is 0.
     /// False when the user wants it to stop.
     bool step(const QString &text, int done, int all);
-    /// Takes the window away before its time, for whatever is told next.
+    /// Closes the window before its time, so that it does not cover a message.
     void finish() { m_window.hide(); }
 
 private:

@@ -49,7 +49,7 @@ void SystemPrinters::setup(QWidget *parent)
     QPrintDialog dialog(&printer(), parent);
     dialog.setWindowTitle(u"Printer setup"_s);
     dialog.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintShowPageSize);
-    // The toolkit's own box would start to print; this one only keeps what is chosen.
+    // The toolkit's own print box would start to print; this one only keeps the choices.
     if (const auto *buttons = dialog.findChild<QDialogButtonBox *>()) {
         if (QPushButton *ok = buttons->button(QDialogButtonBox::Ok)) {
             ok->setText(u"OK"_s);

@@ -110,7 +110,7 @@ Expected<void, QString> setUpWine(QProcess &process, const QString &program, Win
 
 #endif
 
-/// An address as people write it, with or without what stands before "www.".
+/// An address as people write it, with or without the scheme before "www.".
 QUrl addressOf(const QString &address)
 {
     const bool bare = address.startsWith(u"www.", Qt::CaseInsensitive);

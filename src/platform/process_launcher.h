@@ -7,7 +7,7 @@
 
 namespace zeph {
 
-/// How a started program's window comes up; the numbers stand in files.
+/// How a started program's window comes up; the numbers are those that files hold.
 enum class WindowStyle {
     Hidden = 0,
     NormalFocus = 1,
@@ -46,9 +46,9 @@ public:
 };
 
 /// A launch from a command that names a program and its arguments in one text, such as
-/// "C:\My Games\fly.exe -window", parted as Windows does it: a quoted first word is the program;
+/// "C:\My Games\fly.exe -window", split as Windows does it: a quoted first word is the program;
 /// otherwise the shortest beginning that ends at a blank (or at the end) and names a file, if need
-/// be with ".exe" behind a name that has no ending; otherwise the first word. A name without a
+/// be with ".exe" after a name that has no ending; otherwise the first word. A name without a
 /// folder is looked for in the working folder too.
 Launch launchFromCommand(const QString &command, const QString &folder,
                          WindowStyle style = WindowStyle::NormalFocus);

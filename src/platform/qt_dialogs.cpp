@@ -3,6 +3,7 @@
 
 #include "platform/qt_dialogs.h"
 
+#include "platform/colours.h"
 #include "platform/core/paths.h"
 
 #include <QApplication>
@@ -69,16 +70,6 @@ BoxButton escapeButton(const Box &box)
     return box.buttons.value(0, BoxButton::Ok);
 }
 
-QColor toColor(ColorRef colour)
-{
-    return QColor(redOf(colour), greenOf(colour), blueOf(colour));
-}
-
-ColorRef fromColor(const QColor &colour)
-{
-    return colorRef(quint32(colour.red()), quint32(colour.green()), quint32(colour.blue()));
-}
-
 void showCustomColours(const CustomColours &colours)
 {
     for (size_t i = 0; i < colours.size(); ++i) {
@@ -102,7 +93,7 @@ QStringList nameFilters(const QString &filter)
     const QStringList parts = filter.split(u'|', Qt::SkipEmptyParts);
     QStringList filters;
     for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
-        // The toolkit reads the last bracket as the patterns, so what the caption shows goes first.
+        // The toolkit takes the last bracket for the patterns, so the brackets of the caption go.
         QString caption = parts[i];
         const QString shown = u"(%1)"_s.arg(parts[i + 1]);
         if (caption.endsWith(shown, Qt::CaseInsensitive)) {

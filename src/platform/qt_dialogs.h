@@ -12,7 +12,7 @@ class QFileDialog;
 
 namespace zeph {
 
-/// The dialogs that the user sees. They stand over the window that is active, else over the parent.
+/// The dialogs that the user sees. They open over the active window, else over the parent.
 class QtDialogs : public Dialogs
 {
 public:
@@ -36,8 +36,8 @@ private:
     QPointer<QWidget> m_parent;
 };
 
-/// "Caption|*.a;*.b|Caption|*.c" as the toolkit's name filters. A caption without its patterns
-/// behind it in brackets gets them; an empty filter shows all files.
+/// "Caption|*.a;*.b|Caption|*.c" as the toolkit's name filters. A caption that does
+/// not end with its patterns in brackets gets them; an empty filter shows all files.
 QStringList nameFilters(const QString &filter);
 
 } // namespace zeph

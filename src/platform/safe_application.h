@@ -11,17 +11,17 @@ namespace zeph {
 
 class Dialogs;
 
-/// Stands between the handlers and the event loop: what escapes one is told, and the last resort
-/// gets its turn.
+/// Keeps what escapes a handler from the event loop: tells it to the user and runs the last
+/// resort.
 class FallGuard
 {
 public:
-    /// Who tells a failure; without, it is swallowed.
+    /// Shows a failure; when null, nothing is shown.
     Dialogs *dialogs = nullptr;
-    /// Runs after the telling, once at a time, whatever it meets itself.
+    /// Runs after the message. Its own failure does not run it again.
     std::function<void()> lastResort;
 
-    /// What the handler gives, or true when it failed.
+    /// Runs the handler. Gives its result, or true when it failed.
     bool run(const std::function<bool()> &handler);
 
 private:

@@ -16,8 +16,8 @@ public:
     virtual bool isVista() const;
 };
 
-/// The folder of Windows, without a closing separator: the system's own, elsewhere that of the
-/// pilot's wine, and without one the folder that Windows usually has.
+/// The folder of Windows, without a closing separator: on Windows the system's own, elsewhere that
+/// of the pilot's wine, and without wine the usual C:\Windows.
 QString windowsFolder();
 
 } // namespace zeph

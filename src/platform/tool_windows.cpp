@@ -5,6 +5,34 @@
 
 namespace zeph {
 
+QWidget *ToolWindows::load(size_t key)
+{
+    if (QWidget *loaded = m_windows.value(key)) {
+        return loaded;
+    }
+    Q_ASSERT_X(m_factories.contains(key), "ToolWindows::load", "nobody offered this window");
+    QWidget *made = m_factories.value(key)(m_owner);
+    made->setAttribute(Qt::WA_DeleteOnClose);
+    m_windows.insert(key, made);
+    Q_EMIT loaded(made);
+    return made;
+}
+
+QWidget *ToolWindows::open(size_t key)
+{
+    const bool isNew = !m_windows.value(key);
+    const QPointer<QWidget> window = load(key);
+    if (const auto beforeShown = m_beforeShown.value(key); isNew && beforeShown) {
+        // Events may run in there, and close the window.
+        if (!beforeShown(window) || !window) {
+            unload(key);
+            return nullptr;
+        }
+    }
+    raise(*window);
+    return window;
+}
+
 void ToolWindows::minimiseAll()
 {
     m_minimised.append(minimiseOpen());
@@ -34,6 +62,19 @@ void ToolWindows::restoreAll()
             window->setWindowState(window->windowState() & ~Qt::WindowMinimized);
         }
     }
+}
+
+bool ToolWindows::mayUnloadAll() const
+{
+    // A question runs events, which may unload windows.
+    const auto windows = m_windows;
+    for (const auto &window : windows) {
+        auto *asks = dynamic_cast<AsksBeforeClosing *>(window.data());
+        if (asks && !asks->mayClose()) {
+            return false;
+        }
+    }
+    return true;
 }
 
 void ToolWindows::unloadAll()

@@ -7,6 +7,7 @@
 #include "documents/document_look.h"
 #include "editor/macros/framemacros.h"
 #include "editor/macros/macro_list_model.h"
+#include "platform/colours.h"
 #include "platform/dialogs.h"
 #include "platform/handlers.h"
 #include "preferences/colour_scheme.h"
@@ -27,11 +28,6 @@ namespace {
 constexpr QSize swatchSize(26, 14);
 constexpr int sampleListWidth = 230;
 const QColor swatchFrame(128, 128, 128);
-
-QColor toColor(ColorRef colour)
-{
-    return QColor(redOf(colour), greenOf(colour), blueOf(colour));
-}
 
 /// The colour in a thin frame that is seen on light and dark lists, the same when it is selected.
 QIcon swatchOf(ColorRef colour, qreal scale)

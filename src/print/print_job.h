@@ -25,10 +25,10 @@ struct PrintJob {
 bool tellIfNoPrinter(const Context &context, Printers &printers);
 /// Offers portrait where the printer is set up to print in landscape.
 void askForPortrait(const Context &context, Printers &printers);
-/// Prints, and says so on the status line; a failure is told in a box. False when it failed.
+/// Prints, and says so on the status line; a box tells a failure. False when it failed.
 bool printJob(const Context &context, Printers &printers, const PrintJob &job);
-/// Asks for a file's name and writes the pages into it as PDF. The name on offer has the job's, and
-/// the folder is the one given.
+/// Asks for a file's name and writes the pages into it as PDF. The dialog starts in the folder,
+/// with the job's name.
 void exportAsPdf(const Context &context, Printers &printers, const PrintJob &job,
                  const QString &folder);
 

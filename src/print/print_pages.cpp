@@ -20,10 +20,10 @@ namespace zeph {
 
 namespace {
 
-// A colour that differs less from white than this is taken for one of a dark screen.
+// A colour that differs less from white than this was chosen for a dark screen.
 constexpr double leastContrast = 1.5;
 constexpr double flare = 0.05;
-// Of a bullet, in parts of its line's ascent.
+// A bullet's measures, in parts of its line's ascent.
 constexpr double bulletRadius = 0.16;
 constexpr double bulletDistance = 0.8;
 
@@ -50,7 +50,7 @@ RichText inked(RichText text)
     return text;
 }
 
-/// The pages that the user asked for, 0-based and within what there is.
+/// The pages that the user asked for, 0-based, among those that exist.
 std::vector<int> wantedPages(const QPagedPaintDevice &device, int count)
 {
     const QPageRanges ranges = device.pageRanges();

@@ -20,25 +20,25 @@ class QTextDocument;
 
 namespace zeph {
 
-/// Where a line of print stands on an endless strip of paper.
+/// The place of a line of print on an endless strip of paper, in the device's pixels.
 struct LineExtent {
     double top = 0;
     double bottom = 0;
 };
 
 /// The first line (0-based) of each page. A page is broken between lines only; a line that is
-/// higher than a page stands alone on one. Without lines there is one page.
+/// higher than a page has one to itself. Without lines there is one page.
 std::vector<size_t> pageStarts(std::span<const LineExtent> lines, double pageHeight);
 
 /// The distance of tab stops where no other is set, in the screen's pixels.
 constexpr double usualTabPixels = 80;
 
-/// The colour that a colour of the screen has on white paper: its own, or black for one that would
-/// not be seen there.
+/// The colour in which a colour of the screen is printed on white paper: itself, or black when it
+/// could not be seen there.
 ColorRef inkOf(ColorRef colour);
 
-/// Two lines of nothing, where the file lies, when it was printed, and one line of nothing, in
-/// front of a file's text. The header has the text's first font, and is black.
+/// A file's text after a header: two empty lines, the file's path, when it was printed, and another
+/// empty line. The header has the text's first font, and is black.
 RichText withPrintHeader(const RichText &text, const CharFormat &plain, const QString &path,
                          const QString &printedOn);
 
@@ -70,12 +70,12 @@ private:
     std::vector<size_t> m_starts;
 };
 
-/// Draws all pages that the device's user wants on a device. The reason of a failure, in the
-/// system's words, otherwise.
+/// Draws those pages on a device that its user chose to print. The error is the reason of a failure
+/// in the system's words.
 Expected<void, QString> printOn(QPagedPaintDevice &device, const RichText &text,
                                 const CharFormat &plain, double tabPixels = usualTabPixels);
 
-/// All pages as a PDF file's bytes, on paper like a device's. The reason of a failure otherwise.
+/// All pages as the bytes of a PDF file, on paper like the device's. The error is the reason.
 Expected<QByteArray, QString> pdfOf(const RichText &text, const CharFormat &plain,
                                     const QString &title, const QPagedPaintDevice &paper,
                                     double tabPixels = usualTabPixels);

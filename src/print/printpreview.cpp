@@ -40,7 +40,7 @@ PrintPreview::PrintPreview(const Context &context, Printers &printers, PrintJob 
 
 PrintPreview::~PrintPreview()
 {
-    // It draws on the paper, which goes before the window's children do.
+    // It draws on the paper, a member, which goes before the window's children do.
     delete m_pages;
 }
 

@@ -37,7 +37,8 @@ private:
     Printers &m_printers;
     PrintJob m_job;
     QString m_pdfFolder;
-    std::unique_ptr<QPrinter> m_paper; ///< prints nothing; only as large as the printer's
+    std::unique_ptr<QPrinter> m_paper; ///< never prints: the preview draws on it, and it has the
+                                       ///< size of the printer's paper
     std::unique_ptr<Ui::PrintPreview> m_ui;
     QPrintPreviewWidget *m_pages = nullptr;
 };

@@ -7,9 +7,14 @@
 #include "documents/foreign_keyboard.h"
 #include "editor/editor.h"
 #include "editor/files/backup_folder.h"
+#include "editor/files/file_opening.h"
 #include "editor/files/loss_guards.h"
 #include "editor/files/printing.h"
+#include "editor/files/use_directives.h"
+#include "editor/macros/framemacros.h"
+#include "editor/macros/macro_features.h"
 #include "lists/user_lists.h"
+#include "livetools/live_tools.h"
 #include "menus/menu_actions.h"
 #include "platform/dialogs.h"
 #include "platform/handlers.h"
@@ -21,13 +26,12 @@
 #include "settings/settings_moments.h"
 #include "shell/first_run.h"
 #include "shell/help_menu.h"
-#include "shell/key_tester_menu.h"
 #include "shell/main_scene.h"
 #include "shell/mum.h"
 #include "shell/preferences_menu.h"
-#include "shell/start_checks.h"
-#include "shell/start_files.h"
-#include "shell/template_menu.h"
+#include "shell/start_up.h"
+#include "templates/template_tools.h"
+#include "templates/templateform.h"
 #include "toolchain/cougar_tools.h"
 #include "toolchain/tools_menu.h"
 
@@ -55,7 +59,7 @@ Application::Application(const ApplicationOptions &options)
     m_options.dialogs.customColours = {
         [this] { return GetCustomColour(ProfileFile(m_paths.iniPath)); },
         [this](const CustomColours &colours) {
-            // A store that cannot be written is nobody's failure: the colours hold for this run.
+            // When the store cannot be written, the colours still hold for this run.
             (void)keepCustomColours(ProfileFile(m_paths.iniPath), colours);
         },
     };
@@ -98,8 +102,8 @@ bool Application::start()
             m_options.dialogs.box(*warning);
         }
     }
-    // The program expects to stand among the Cougar's own software; the first run and Preferences
-    // point elsewhere. The compiler's path follows the folder by itself.
+    // The program expects to be installed among the Cougar's own software; the first run and
+    // Preferences can set another folder.
     m_paths.hotasFolder = withClosingSeparator(m_paths.appFolder);
     makeFolders();
     readSettings();
@@ -157,7 +161,7 @@ void Application::readSettings()
     if (m_settings.TextFilePath.isEmpty()) {
         m_settings.TextFilePath = m_paths.inApp(u"ReadMe.txt");
     }
-    // A store that cannot be written makes no fuss: the run then works with what it has read.
+    // When the store cannot be written, the run works with what it has read.
     (void)saveGlobalSettings(m_settings, files());
     if (m_settings.FirstTimeUsed == 1) {
         (void)SetUpDefaultIniSettings(m_settings, files());
@@ -179,9 +183,8 @@ void Application::loadEditor()
     m_help = new HelpMenu(context(), m_options.downloader, m_mum->toolWindows(), *m_editor);
     m_lists = new UserLists(context(), *m_editor);
     new MainScene(context(), { *m_mum, *m_editor, *m_help, *m_tools });
-    new KeyTesterMenu(context(), *m_tools, *m_mum, *m_editor);
     new PreferencesMenu(context(), { *m_mum, *m_editor, *m_lists, *m_tools });
-    m_templates = new TemplateMenu(context(), m_options.printers, *m_mum, *m_editor, *m_help);
+    addToolWindows();
     m_printing = std::make_unique<FilePrinting>(context(), m_options.printers, *m_editor);
     new ForeignKeyBSupport(m_options.keyboard, m_settings, m_editor);
     QObject::connect(&m_mum->toolWindows(), &ToolWindows::loaded, m_mum.get(),
@@ -206,11 +209,30 @@ void Application::loadEditor()
         runFirstRun(context(), { *m_help, *m_lists, *m_tools }, m_options.welcomeIntervalMs,
                     m_mum.get());
         m_editor->applySettings();
-        // By the name that the pilot has only now.
+        // The first run has only now asked for the callsign.
         greet();
     } else if (m_settings.ShowTips == 1) {
         m_help->showTip();
     }
+}
+
+void Application::addToolWindows()
+{
+    ToolWindows &windows = m_mum->toolWindows();
+    const ToolEntries tools{ m_editor->actions(), windows };
+    addLiveTools(tools, context(), m_tools->modes());
+    addTemplateTools(tools, context(), m_options.printers, m_editor->macros().list().table());
+    windows.whenLoaded<TemplateForm>(m_mum.get(), [this](TemplateForm &form) {
+        QObject::connect(
+            &form, &TemplateForm::helpWanted, m_help,
+            guarded(m_options.dialogs, [this](int topic) { m_help->showTopic(topic); }));
+        QObject::connect(&form, &TemplateForm::fileWritten, m_editor, [this](const QString &path) {
+            m_editor->opening().offerToReload({ path });
+        });
+    });
+    m_editor->actions().connectTo(u"mnuAppsViewReadMe", [this, &windows] {
+        windows.open<TemplateForm>()->OpenReadMe(m_editor->useDirectives().textFilePath());
+    });
 }
 
 void Application::readEditorOptions()
@@ -264,7 +286,7 @@ void Application::selectFirstTab()
 
 bool Application::queryUnload()
 {
-    return !m_editor || (m_editor->queryUnload() && m_templates->queryUnload());
+    return !m_editor || (m_editor->queryUnload() && m_mum->toolWindows().mayUnloadAll());
 }
 
 void Application::unloadMum()

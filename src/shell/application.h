@@ -27,12 +27,11 @@ class Mum;
 class Printers;
 class Screen;
 class SystemInfo;
-class TemplateMenu;
 class UserLists;
 
-/// The world that a run stands in; all must outlive it.
+/// The outside world of a run; all of it must outlive the Application.
 struct ApplicationOptions {
-    /// The folder that everything lies in, without a closing separator.
+    /// The folder of all files, without a closing separator.
     QString appFolder;
     /// The command line without the program's name.
     QStringList arguments;
@@ -60,7 +59,7 @@ public:
     /// How every window looks, on every system.
     static void applyStyle(QApplication &application);
 
-    /// Brings the run up. False when it has to end at once, which has been told.
+    /// Brings the run up. False when it has to end at once; the user knows why then.
     bool start();
 
     Mum &mum() { return *m_mum; }
@@ -79,9 +78,10 @@ private:
     void readSettings();
     void startModes();
     void loadEditor();
+    void addToolWindows();
     void readEditorOptions();
-    /// Some keys are read at several steps of the start; what is wrong with them is told at the
-    /// first.
+    /// Tells the user the problems that were not told before: some keys are read at several steps
+    /// of the start.
     void tellOnce(const SettingProblems &problems);
     void hideDirectXTesters();
     void greet();
@@ -103,7 +103,6 @@ private:
     HelpMenu *m_help = nullptr;
     UserLists *m_lists = nullptr;
     CougarTools *m_tools = nullptr;
-    TemplateMenu *m_templates = nullptr;
     std::unique_ptr<FilePrinting> m_printing;
 };
 

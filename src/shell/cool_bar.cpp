@@ -28,7 +28,7 @@ QString text(const char16_t *characters)
     return QString::fromUtf16(characters);
 }
 
-/// Whether a button says what its entry says, since that changes.
+/// Whether a button's tooltip follows its entry's: undo and redo name their next step.
 bool saysSteps(const ToolButtonRow &row)
 {
     const QString name = text(row.look.action);
@@ -116,7 +116,7 @@ void CoolBar::follow(Button &button)
     button.control->setEnabled(m_editor && (showsEditor || (action && action->isEnabled())));
     button.control->setCheckable(action && action->isCheckable());
     button.control->setChecked(action && action->isChecked());
-    button.control->setAccessibleName(text(lookOf(*button.row, choices()).tooltip));
+    button.control->setAccessibleName(tooltipOf(*button.row, choices()));
     if (action && saysSteps(*button.row)) {
         button.control->setAccessibleName(action->toolTip());
     }
@@ -169,7 +169,7 @@ void CoolBar::press(const ToolButtonRow &row)
     if (QAction *action = target(row); action && action->isEnabled()) {
         action->trigger();
     }
-    // A tick may have refused to change; the button shows what is.
+    // The entry may have refused the change of its tick; the button shows the entry's state.
     refresh();
 }
 
@@ -195,7 +195,7 @@ QString CoolBar::hoverText(const QObject *watched) const
 bool CoolBar::eventFilter(QObject *watched, QEvent *event)
 {
     const bool passes = event->type() == QEvent::MouseMove || event->type() == QEvent::Enter;
-    // A usable button hands the move on to its band, which then has nothing of its own to say.
+    // A usable button passes the move on to its band, which must not replace the button's words.
     const auto *band = qobject_cast<QToolBar *>(watched);
     const auto *move =
         event->type() == QEvent::MouseMove ? static_cast<QMouseEvent *>(event) : nullptr;

@@ -27,9 +27,9 @@ class CoolBar : public QObject
 public:
     CoolBar(QMainWindow &window, const Context &context);
 
-    /// The buttons come to life with the editing window.
+    /// Connects the buttons with the Editor's entries; before that all are disabled.
     void attach(Editor &editor);
-    /// Follows the settings and the selected tab.
+    /// Brings the buttons up to date with the settings and the selected tab.
     void refresh();
     /// Tooltips on or off, by OKtoShowToolTips.
     void UpdateTooltips();

@@ -12,10 +12,10 @@
 #include "preferences/preferences.h"
 #include "settings/settings_files.h"
 #include "settings/settings_moments.h"
-#include "toolchain/cougar_tools.h"
-#include "toolchain/compile/download_menu.h"
 #include "shell/help_menu.h"
 #include "shell/welcome.h"
+#include "toolchain/compile/download_menu.h"
+#include "toolchain/cougar_tools.h"
 
 namespace zeph {
 
@@ -23,7 +23,7 @@ namespace {
 
 constexpr int showMeHowTopic = 100;
 
-/// A write that fails is nobody's failure here, as everywhere in the store.
+/// Failures to write the store are ignored: the run goes on with the values in memory.
 void writeStore(const Context &context, const FirstRunParts &parts)
 {
     const SettingsFiles files = settingsFilesOf(context.paths);

@@ -14,7 +14,7 @@ class HelpMenu;
 class UserLists;
 struct WelcomeAnswers;
 
-/// Puts what the pilot said into the settings and the paths. No name at all leaves the stored one.
+/// Puts the pilot's answers into the settings and the paths. Without any name the stored one stays.
 void takeWelcomeAnswers(const WelcomeAnswers &answers, GlobalSettings &settings, Paths &paths);
 
 /// What the first run fills and shows.

@@ -4,7 +4,7 @@
 #include "shell/frmabout.h"
 
 #include "platform/core/paths.h"
-#include "shell/version.h"
+#include "shell/version_check.h"
 #include "ui_frmabout.h"
 
 #include <QPixmap>

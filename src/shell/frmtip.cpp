@@ -67,7 +67,7 @@ void frmTip::DisplayCurrentTip()
 void frmTip::accept()
 {
     m_settings.ShowTips = m_ui->chkLoadTipsAtStartup->isChecked() ? 1 : 0;
-    // A store that cannot be written is nobody's failure: the setting then holds for this run.
+    // When the store cannot be written, the setting still holds for this run.
     (void)saveSettings(m_settings, settingsFilesOf(m_paths), { &GlobalSettings::ShowTips });
     QDialog::accept();
 }

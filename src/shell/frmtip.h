@@ -19,7 +19,7 @@ namespace Ui {
 class frmTip;
 }
 
-/// "Tip of the Day". OK keeps whether it shows at the next start; closing it otherwise does not.
+/// "Tip of the Day". OK saves whether it shows at the next start; closing it otherwise does not.
 class frmTip : public QDialog
 {
     Q_OBJECT
@@ -27,7 +27,7 @@ public:
     /// Gives a number from 0 to below count (at least 1).
     using Pick = std::function<qsizetype(qsizetype count)>;
 
-    /// Loads the tips and shows one; pick says which comes first, by chance when not given.
+    /// Loads the tips and shows one; pick chooses the first, a random one when it is not given.
     frmTip(const Paths &paths, GlobalSettings &settings, Pick pick = {}, QWidget *parent = nullptr);
     ~frmTip() override;
 

@@ -27,6 +27,7 @@ HelpMenu::HelpMenu(const Context &context, Downloader &downloader, ToolWindows &
     : QObject(&editor), m_context(context), m_downloader(downloader), m_windows(windows),
       m_editor(editor)
 {
+    offerWindows();
     MenuActions &on = editor.actions();
     on.connectTo(u"mnuHelpContents", [this] { mnuHelpContents_Click(); });
     on.connectTo(u"mnuHelpTip", [this] { showTip(); });
@@ -35,11 +36,23 @@ HelpMenu::HelpMenu(const Context &context, Downloader &downloader, ToolWindows &
                  [this] { showInformation(u"Slash modifiers.rtf"_s, u"Slash modifiers"_s); });
     on.connectTo(u"mnuHelpErrorCodes",
                  [this] { showInformation(u"Error codes.rtf"_s, u"Error codes"_s); });
-    for (int i = 0; i <= 2; ++i) {
-        on.connectTo(u"mnuHelpAbout_"_s + QString::number(i), [this, i] { mnuHelpAbout_Click(i); });
-    }
+    on.connectArray(u"mnuHelpAbout"_s, [this](int i) { mnuHelpAbout_Click(i); });
     connect(&editor, &Editor::helpOn, this,
             guarded(context.dialogs, [this](const QString &word) { showKeyword(word); }));
+}
+
+void HelpMenu::offerWindows()
+{
+    m_windows.offer<HelpWindow>([this](QWidget *owner) {
+        return new HelpWindow(m_context.paths, m_context.dialogs, m_context.launcher, owner);
+    });
+    m_windows.offer<InformationWindow>(
+        [this](QWidget *owner) { return new InformationWindow(m_context.dialogs, owner); });
+    m_windows.offer<frmTip>([this](QWidget *owner) {
+        return new frmTip(m_context.paths, m_context.settings, {}, owner);
+    });
+    m_windows.offer<frmAbout>(
+        [this](QWidget *owner) { return new frmAbout(m_context.paths, owner); });
 }
 
 void HelpMenu::readZephInfo()
@@ -73,13 +86,6 @@ void HelpMenu::fillSubmenu(QStringView name, const QList<InfoEntry> &entries,
     m_editor.action(name)->setEnabled(!entries.isEmpty());
 }
 
-HelpWindow *HelpMenu::helpWindow()
-{
-    return m_windows.load<HelpWindow>([this](QWidget *owner) {
-        return new HelpWindow(m_context.paths, m_context.dialogs, m_context.launcher, owner);
-    });
-}
-
 void HelpMenu::mnuHelpContents_Click()
 {
     // A pilot who keeps a help file of the old form asks for it by hand.
@@ -90,29 +96,28 @@ void HelpMenu::mnuHelpContents_Click()
         }
         return;
     }
-    if (HelpWindow *help = helpWindow(); help->showContents()) {
+    if (auto *help = m_windows.load<HelpWindow>(); help->showContents()) {
         ToolWindows::raise(*help);
     }
 }
 
 void HelpMenu::showTopic(int number)
 {
-    if (HelpWindow *help = helpWindow(); help->showTopic(number)) {
+    if (auto *help = m_windows.load<HelpWindow>(); help->showTopic(number)) {
         ToolWindows::raise(*help);
     }
 }
 
 void HelpMenu::showKeyword(const QString &word)
 {
-    if (HelpWindow *help = helpWindow(); help->showKeyword(word)) {
+    if (auto *help = m_windows.load<HelpWindow>(); help->showKeyword(word)) {
         ToolWindows::raise(*help);
     }
 }
 
 bool HelpMenu::showFile(const QString &path, const QString &title)
 {
-    auto *window = m_windows.load<InformationWindow>(
-        [this](QWidget *owner) { return new InformationWindow(m_context.dialogs, owner); });
+    auto *window = m_windows.load<InformationWindow>();
     if (!window->showFile(path, title)) {
         return false;
     }
@@ -141,7 +146,7 @@ void HelpMenu::openManual(const InfoEntry &entry)
                                BoxIcon::Exclamation);
         return;
     }
-    HelpWindow *help = helpWindow();
+    auto *help = m_windows.load<HelpWindow>();
     if (help->showPage(path)) {
         ToolWindows::raise(*help);
     } else if (const auto opened = m_context.launcher.openWithDesktop(path); !opened) {
@@ -151,9 +156,7 @@ void HelpMenu::openManual(const InfoEntry &entry)
 
 void HelpMenu::showTip()
 {
-    m_windows.open<frmTip>([this](QWidget *owner) {
-        return new frmTip(m_context.paths, m_context.settings, {}, owner);
-    });
+    m_windows.open<frmTip>();
 }
 
 void HelpMenu::mnuHelpAbout_Click(int index)
@@ -164,8 +167,7 @@ void HelpMenu::mnuHelpAbout_Click(int index)
     } else if (index == 1) {
         showInformation(u"Vista compatibility.rtf"_s, u"Vista compatibility"_s);
     } else {
-        m_windows.open<frmAbout>(
-            [this](QWidget *owner) { return new frmAbout(m_context.paths, owner); });
+        m_windows.open<frmAbout>();
     }
 }
 

@@ -11,7 +11,6 @@ namespace zeph {
 
 class Downloader;
 class Editor;
-class HelpWindow;
 class ToolWindows;
 struct InfoEntry;
 
@@ -22,7 +21,7 @@ class HelpMenu : public QObject
 public:
     HelpMenu(const Context &context, Downloader &downloader, ToolWindows &windows, Editor &editor);
 
-    /// Fills How do I and Manuals from ZephInfo.ini; a missing one is told.
+    /// Fills the menus How do I and Manuals from ZephInfo.ini; tells when that file is missing.
     void readZephInfo();
 
     void mnuHelpContents_Click();
@@ -35,7 +34,7 @@ public:
     void mnuHelpAbout_Click(int index);
 
 private:
-    HelpWindow *helpWindow();
+    void offerWindows();
     void fillSubmenu(QStringView name, const QList<InfoEntry> &entries,
                      void (HelpMenu::*open)(const InfoEntry &));
     void openInformation(const InfoEntry &entry);

@@ -3,7 +3,7 @@
 
 #pragma once
 
-// What the help folder's two lists say: which page a topic number means, and where a keyword leads.
+// The help folder's two lists: which page a topic number means, and which place a keyword.
 
 #include "platform/core/base.h"
 
@@ -20,7 +20,7 @@ struct HelpTopic {
 };
 
 /// A word of the index and the place that it leads to: a file of the help folder, with or without
-/// "#anchor" behind it.
+/// "#anchor" after it.
 struct HelpKeyword {
     QString word;
     QString target;
@@ -41,7 +41,7 @@ public:
 
     /// The page with that number; no value when there is none.
     std::optional<HelpTopic> topic(int number) const;
-    /// Where a word leads, by its own entry in any case; no value on a miss.
+    /// Where a word leads; case does not matter. No value when the index lacks the word.
     std::optional<QString> target(QStringView word) const;
     /// The words of the index that hold a text, in any case; all for an empty text.
     QStringList wordsWith(QStringView part) const;

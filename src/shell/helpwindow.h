@@ -30,11 +30,11 @@ public:
                QWidget *parent = nullptr);
     ~HelpWindow() override;
 
-    /// Each shows its page; false, with the box already shown, when there is none.
+    /// Each shows its page. When there is none, it tells the user and gives false.
     bool showContents();
     bool showTopic(int number);
     bool showKeyword(const QString &word);
-    /// A page by its full path; false, and nothing shown, when it is none of the help's.
+    /// Shows a page by its full path; false, and nothing shown, when it is no page of the help.
     bool showPage(const QString &path);
 
 private:

@@ -29,7 +29,7 @@ public:
     explicit InformationWindow(Dialogs &dialogs, QWidget *parent = nullptr);
     ~InformationWindow() override;
 
-    /// Shows a file under a title. A file that cannot be read is told with its path, and the window
+    /// Shows a file under a title. Tells the path of a file that cannot be read, and the window
     /// stays as it was; false then.
     bool showFile(const QString &path, const QString &title);
 

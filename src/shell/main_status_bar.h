@@ -13,7 +13,7 @@ class QLabel;
 namespace zeph {
 
 /// The main window's status bar. Shows the status line's panels and turns the mouse's place into
-/// meaning; what a press does is for the listener.
+/// meaning; signals tell what a press is for.
 class MainStatusBar : public QStatusBar
 {
     Q_OBJECT

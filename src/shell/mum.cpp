@@ -14,7 +14,6 @@
 #include "shell/main_status_bar.h"
 
 #include <QCloseEvent>
-#include <QMenu>
 #include <QMenuBar>
 #include <QScreen>
 #include <QStatusTipEvent>
@@ -50,9 +49,7 @@ void Mum::attachEditor(Editor *editor)
 {
     m_editor = editor;
     setCentralWidget(editor);
-    for (QMenu *menu : editor->actions().menuBar()) {
-        menuBar()->addMenu(menu);
-    }
+    editor->actions().addTo(*menuBar());
     m_coolBar->attach(*editor);
     connect(&editor->documents(), &Documents::selectedChanged, m_coolBar, &CoolBar::refresh);
 }
@@ -72,8 +69,8 @@ WindowPlace Mum::place() const
 void Mum::setPlace(const WindowPlace &place)
 {
     if (place.state == WindowState::Maximised) {
-        // What the window is restored to, and what the first dialogs stand over until the system
-        // has maximised it.
+        // The size for a later restore. The first dialogs open over this place, before the system
+        // has maximised the window.
         resize(pixelsFromTwips(restoredTwips.width()), pixelsFromTwips(restoredTwips.height()));
         QRect restored = rect();
         restored.moveCenter(screen()->availableGeometry().center());
@@ -106,7 +103,7 @@ void Mum::pressAtEnd(int press)
         return;
     }
     if (StatusPress(press) == StatusPress::Compile) {
-        // Not by the menu's entry: the bar's end compiles whatever tab is selected.
+        // Not through the menu entry, which is off on the macro tab: the bar's end always compiles.
         Q_EMIT compileWanted();
         return;
     }

@@ -25,13 +25,13 @@ public:
     explicit Mum(const Context &context);
     ~Mum() override;
 
-    /// Takes the Editor as the window's content, and its menus for the menu bar.
+    /// Makes the Editor the window's content and puts its menus on the menu bar.
     void attachEditor(Editor *editor);
 
     ToolWindows &toolWindows() { return *m_toolWindows; }
     MainStatusBar &bar() { return *m_bar; }
 
-    /// Where the window stands, in twips, and the way back.
+    /// The window's place, in twips.
     WindowPlace place() const;
     void setPlace(const WindowPlace &place);
 
@@ -50,7 +50,7 @@ public:
 Q_SIGNALS:
     /// The status bar's end was pressed for a compile.
     void compileWanted();
-    /// The window goes for good; its place can still be asked.
+    /// The window is about to close for good; place() still works.
     void unloading();
 
 protected:

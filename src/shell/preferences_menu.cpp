@@ -13,10 +13,10 @@
 #include "menus/menu_actions.h"
 #include "preferences/preferences.h"
 #include "settings/global_settings.h"
-#include "toolchain/cougar_tools.h"
-#include "toolchain/compile/download_menu.h"
-#include "toolchain/games/games_menu.h"
 #include "shell/mum.h"
+#include "toolchain/compile/download_menu.h"
+#include "toolchain/cougar_tools.h"
+#include "toolchain/games/games_menu.h"
 #include "toolchain/tools_menu.h"
 
 #include <QApplication>

@@ -12,7 +12,7 @@ namespace zeph {
 
 /// What panel 1 shows for the mouse's place.
 struct StatusHover {
-    /// The text for panel 1; empty when the mode tooltip is to be worked out instead.
+    /// The text for panel 1; empty where the Cougar's mode is shown instead.
     QString text;
     bool wantsModeTooltip = false;
 };

@@ -12,18 +12,18 @@ namespace zeph {
 /// The tips of a tip file: one a line. Blank lines are no tips.
 QStringList parseTips(QStringView file);
 
-/// Walks round a list of tips without end.
+/// Walks a list of tips; after the last comes the first.
 class TipCycle
 {
 public:
     TipCycle() = default;
-    /// Starts at a tip (0-based, taken round when beyond the end).
+    /// Starts at a tip (0-based; a place beyond the end counts on from the first).
     TipCycle(QStringList tips, qsizetype first);
 
     bool isEmpty() const { return m_tips.isEmpty(); }
-    /// The tip in turn; empty when there are none.
+    /// The present tip; empty when there are none.
     QString current() const;
-    /// Moves on; behind the last comes the first.
+    /// Moves on to the next tip; after the last comes the first.
     void next();
 
 private:

@@ -3,7 +3,7 @@
 
 #pragma once
 
-// The two toolbars and the shortcut pictures as tables: what each button does, and what it says.
+// The two toolbars and the shortcut pictures as tables: what each button does and tells.
 
 #include "platform/core/base.h"
 
@@ -11,8 +11,12 @@
 
 namespace zeph {
 
-/// What a button does and says.
+/// Whether a tooltip ends with the shortcut of the button's menu entry.
+enum class ToolButtonKey { KeyTold, KeyUntold };
+
+/// What a button does and tells.
 struct ToolButtonLook {
+    /// Without the shortcut.
     const char16_t *tooltip = u"";
     /// Longer description for the status bar.
     const char16_t *status = u"";
@@ -20,9 +24,10 @@ struct ToolButtonLook {
     const char16_t *action = u"";
     /// The one that it runs with the macro tab selected; empty when it is the same.
     const char16_t *macroAction = u"";
+    ToolButtonKey key = ToolButtonKey::KeyTold;
 };
 
-/// The setting that turns a button into its other self.
+/// The setting that chooses between a button's two looks.
 enum class ToolButtonChoice { None, OpenBoth, SaveBoth, DirectXKeyTester };
 
 struct ToolButtonRow {
@@ -31,7 +36,7 @@ struct ToolButtonRow {
     const char16_t *icon;
     ToolButtonLook look;
     ToolButtonChoice choice = ToolButtonChoice::None;
-    /// How it is while the choice's setting is off.
+    /// The look while the choice's setting is off.
     ToolButtonLook other = {};
 };
 
@@ -48,6 +53,9 @@ struct ToolbarChoices {
 };
 
 const ToolButtonLook &lookOf(const ToolButtonRow &row, const ToolbarChoices &choices);
+/// The whole tooltip. A look whose entry has no shortcut tells that of the row's other look, since
+/// the key runs whichever of them is chosen.
+QString tooltipOf(const ToolButtonRow &row, const ToolbarChoices &choices);
 QString actionOf(const ToolButtonLook &look, bool macroSelected);
 
 /// What the status bar says over a toolbar's empty part.

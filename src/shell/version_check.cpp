@@ -7,7 +7,6 @@
 #include "platform/core/paths.h"
 #include "platform/core/text1252.h"
 #include "platform/downloader.h"
-#include "shell/version.h"
 
 namespace zeph {
 
@@ -42,8 +41,8 @@ Box versionBox(const QString &latest, const QString &running)
 void checkVersion(Downloader &downloader, Dialogs &dialogs, const Paths &paths,
                   const QString &address)
 {
-    // The answer goes through the file, so that the last one can be looked at when a pilot reports
-    // something odd.
+    // The answer is kept in a file, where it can be looked at when a pilot reports something
+    // odd.
     const QString target = paths.inApp(u"VersionURL.txt");
     const auto body = downloader.fetch(address, timeoutMs);
     if (!body || !writeFileAtomically(target, *body)) {

@@ -3,7 +3,8 @@
 
 #pragma once
 
-// Is there a newer Zeph? The server's answer is a file that holds the latest version and no more.
+// Which Zeph this is, and whether there is a newer one: the server's answer is a file that holds
+// the latest version and nothing else.
 
 #include "platform/dialogs.h"
 
@@ -12,9 +13,12 @@ namespace zeph {
 class Downloader;
 struct Paths;
 
-/// What is told when the server could not be reached.
+/// The running version as it is told, compared and shown.
+inline constexpr char16_t versionText[] = u"4.4.02";
+
+/// The message when the server could not be reached.
 Box versionUnknownBox();
-/// What is told of the server's text, which is compared exactly.
+/// The message about the server's text, which is compared exactly with the running version.
 Box versionBox(const QString &latest, const QString &running);
 
 /// Fetches the latest version into VersionURL.txt of the application's folder and tells how it

@@ -34,7 +34,7 @@ public:
 
     /// Whether the folder of the Cougar's software is known.
     bool CheckForHotasDirectory() const;
-    /// Lets the pilot show the folder.
+    /// Lets the pilot choose that folder in a dialog.
     void GetHotasDirectory();
 
 protected:

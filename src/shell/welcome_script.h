@@ -33,8 +33,8 @@ qint16 firstTimeUsedAfter(int experience);
 /// The pages that wait for the pilot.
 enum class WelcomePage { None, Name, Hotas, Experience };
 
-/// A step of the script: a line that stands for some ticks and grows by a dot at each, then a page
-/// that waits for the pilot. At the end of one step the pilot is greeted by callsign.
+/// A step of the script: a line that is shown for some ticks and grows by a dot at each, then a
+/// page that waits for the pilot. At the end of one step the pilot is greeted by callsign.
 struct WelcomeStep {
     const char16_t *line;
     int ticks;

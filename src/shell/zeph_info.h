@@ -13,7 +13,7 @@ namespace zeph {
 
 struct InfoEntry {
     QString caption;
-    /// Full path of the file behind the entry; nobody has looked whether it exists.
+    /// Full path of the entry's file, which need not exist.
     QString path;
 };
 

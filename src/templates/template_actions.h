@@ -11,6 +11,12 @@
 
 namespace zeph {
 
+/// The Template Editor's own conditions of menu entries.
+enum class TemplateWhen {
+    Selection, ///< some text is selected
+    PasteReady ///< there is text on the clipboard
+};
+
 std::span<const MenuRow> templateMenuBar();
 std::span<const ActionRow> templateActions();
 

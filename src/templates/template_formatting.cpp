@@ -4,6 +4,7 @@
 #include "templates/template_formatting.h"
 
 #include "menus/menu_actions.h"
+#include "platform/colours.h"
 #include "platform/dialogs.h"
 #include "platform/handlers.h"
 #include "platform/richtext/rich_text_box.h"
@@ -67,11 +68,6 @@ constexpr std::array<QStringView, 24> toolbar = {
     u"mnuViewColour",
 };
 
-QColor toColor(ColorRef colour)
-{
-    return QColor(redOf(colour), greenOf(colour), blueOf(colour));
-}
-
 } // namespace
 
 TemplateFormatting::TemplateFormatting(const Context &context, const Parts &parts, CharFormat plain)
@@ -134,16 +130,9 @@ void TemplateFormatting::fillToolbar()
 void TemplateFormatting::connectEntries()
 {
     MenuActions &on = m_parts.actions;
-    for (int i = 0; i < 3; ++i) {
-        on.connectTo(u"mnuFormatArray1_"_s + QString::number(i),
-                     [this, i] { mnuFormatArray1_Click(i); });
-        on.connectTo(u"mnuFormatAlign_"_s + QString::number(i),
-                     [this, i] { mnuFormatAlign_Click(i); });
-    }
-    for (int i = 0; i < int(TextStyles().size()); ++i) {
-        on.connectTo(u"mnuStyleArray_"_s + QString::number(i),
-                     [this, i] { mnuStyleArray_Click(i); });
-    }
+    on.connectArray(u"mnuFormatArray1"_s, [this](int i) { mnuFormatArray1_Click(i); });
+    on.connectArray(u"mnuFormatAlign"_s, [this](int i) { mnuFormatAlign_Click(i); });
+    on.connectArray(u"mnuStyleArray"_s, [this](int i) { mnuStyleArray_Click(i); });
     on.connectTo(u"mnuFormatBullets", [this] { mnuFormatBullets_Click(); });
     on.connectTo(u"mnuFormatFont", [this] { mnuFormatFont_Click(); });
     on.connectTo(u"mnuFormatColour", [this] { mnuFormatColour_Click(); });

@@ -19,6 +19,7 @@
 #include "settings/settings_files.h"
 #include "templates/template_actions.h"
 #include "templates/template_formatting.h"
+#include "text/macro_table.h"
 #include "text/painter.h"
 #include "ui_templateform.h"
 
@@ -35,6 +36,8 @@ namespace zeph {
 namespace {
 
 constexpr double plainSize = 10;
+/// The help topic on this window.
+constexpr int helpTopic = 290;
 
 QPalette paperPalette(QPalette palette)
 {
@@ -47,20 +50,18 @@ QPalette paperPalette(QPalette palette)
 
 } // namespace
 
-TemplateForm::TemplateForm(const Context &context, Printers &printers, TemplateHost host,
+TemplateForm::TemplateForm(const Context &context, Printers &printers, const MacroTable &macros,
                            QWidget *parent)
-    : QMainWindow(parent), m_context(context), m_printers(printers), m_host(std::move(host)),
+    : QMainWindow(parent), m_context(context), m_printers(printers), m_macros(macros),
       m_plain{ .family = u"Arial"_s, .pointSize = plainSize, .colour = {} },
       m_ui(std::make_unique<Ui::TemplateForm>()),
       m_actions(std::make_unique<MenuActions>(context.dialogs, context.paths.inApp(u"icons/"),
-                                              templateMenuBar(), templateActions()))
+                                              templateMenuBar(), templateActions(), this))
 {
     m_ui->setupUi(this);
     const QString caption = windowTitle();
     setWindowFlag(Qt::Window);
-    for (QMenu *menu : m_actions->menuBar()) {
-        m_ui->MenuBar1->addMenu(menu);
-    }
+    m_actions->addTo(*m_ui->MenuBar1);
     box().setPalette(paperPalette(box().palette()));
     box().document()->setDefaultFont(toTextFormat(m_plain).font());
     box().document()->setDocumentMargin(12);
@@ -123,8 +124,7 @@ void TemplateForm::connectEdit()
         m_ui->Toolbar1->setVisible(m_actions->action(u"mnuViewToolBar")->isChecked());
         SaveTemplateEditorOptions();
     });
-    on.connectTo(u"mnuComposerPlugin", [this] { m_host.openComposer(); });
-    on.connectTo(u"mnuHelpContents", [this] { m_host.showHelp(); });
+    on.connectTo(u"mnuHelpContents", [this] { Q_EMIT helpWanted(helpTopic); });
     connect(on.menu(u"mnuStyles"), &QMenu::aboutToShow, m_formatting,
             &TemplateFormatting::UpdateStyleCaptions);
     connect(&box(), &RichTextBox::undoAvailable, on.action(u"mnuEditUndo"), &QAction::setEnabled);
@@ -135,13 +135,13 @@ void TemplateForm::connectEdit()
     connect(&box(), &RichTextBox::customContextMenuRequested, this, &TemplateForm::showMenu);
     connect(QApplication::clipboard(), &QClipboard::dataChanged, this,
             &TemplateForm::updateConditions);
-    on.action(u"mnuComposerPlugin")->setEnabled(bool(m_host.openComposer));
 }
 
 void TemplateForm::updateConditions()
 {
-    m_actions->setCondition(When::Selection, box().selLength() > 0);
-    m_actions->setCondition(When::PasteReady, holdsText(QApplication::clipboard()->mimeData()));
+    m_actions->setCondition(TemplateWhen::Selection, box().selLength() > 0);
+    m_actions->setCondition(TemplateWhen::PasteReady,
+                            holdsText(QApplication::clipboard()->mimeData()));
 }
 
 void TemplateForm::showMenu(const QPoint &at)
@@ -326,9 +326,7 @@ bool TemplateForm::writeTo(const QString &path)
     }
     AssignCurrentTexttoTempRTF();
     say(nameOf(path) + u" was saved successfully"_s);
-    if (m_host.fileWritten) {
-        m_host.fileWritten(path);
-    }
+    Q_EMIT fileWritten(path);
     return true;
 }
 
@@ -441,11 +439,10 @@ QString TemplateForm::TemplateRichWordOver(const QPoint &at) const
 
 bool TemplateForm::eventFilter(QObject *watched, QEvent *event)
 {
-    if (event->type() == QEvent::MouseMove && m_host.macroKeys
-        && m_context.settings.MacroWithMouse == 1) {
+    if (event->type() == QEvent::MouseMove && m_context.settings.MacroWithMouse == 1) {
         const QString word = TemplateRichWordOver(static_cast<QMouseEvent *>(event)->pos());
         if (std::exchange(m_wordUnderMouse, word) != word && !word.isEmpty()) {
-            if (const auto keys = m_host.macroKeys(word)) {
+            if (const auto keys = macroKeys(m_macros, word)) {
                 say(*keys);
             }
         }

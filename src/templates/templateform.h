@@ -4,12 +4,12 @@
 #pragma once
 
 #include "platform/context.h"
+#include "platform/tool_windows.h"
 #include "print/print_job.h"
 #include "text/template_files.h"
 
 #include <QMainWindow>
 
-#include <functional>
 #include <memory>
 
 namespace zeph {
@@ -18,37 +18,27 @@ namespace Ui {
 class TemplateForm;
 }
 
+struct MacroTable;
 class MenuActions;
 class Printers;
 class RichTextBox;
 class TemplateFormatting;
 
-/// What the Template Editor needs of the rooms around it.
-struct TemplateHost {
-    /// Brings the help on this window up.
-    std::function<void()> showHelp;
-    /// The line of a macro's keys, if there is a macro of that name.
-    std::function<std::optional<QString>(const QString &word)> macroKeys;
-    /// Opens the Composer's page of templates; null while there is no Composer.
-    std::function<void()> openComposer;
-    /// A file was written, which another window may have open too.
-    std::function<void(const QString &path)> fileWritten;
-};
-
 /// A small word processor for templates and readme texts, and a viewer of any text file. Works on a
 /// text of its own, never on the two documents.
-class TemplateForm : public QMainWindow
+class TemplateForm : public QMainWindow, public AsksBeforeClosing
 {
     Q_OBJECT
 public:
-    TemplateForm(const Context &context, Printers &printers, TemplateHost host,
+    /// Tells the keys of the macros under the mouse; the table must outlive this. Whoever has the
+    /// Composer enables the entry mnuComposerPlugin and gives it its work.
+    TemplateForm(const Context &context, Printers &printers, const MacroTable &macros,
                  QWidget *parent = nullptr);
     ~TemplateForm() override;
 
     /// Opens a readme, after the question about unsaved changes. False when it was not opened.
     bool OpenReadMe(const QString &path);
-    /// The question before the window goes. False: it has to stay.
-    bool mayClose();
+    bool mayClose() override;
     bool HasTemplateTextChanged() const;
 
     void mnuFileNew_Click();
@@ -70,6 +60,12 @@ public:
 
     MenuActions &actions() { return *m_actions; }
     const QString &path() const { return m_path; }
+
+Q_SIGNALS:
+    /// The help page of that number was asked for.
+    void helpWanted(int topic);
+    /// A file was written, which another window may have open too.
+    void fileWritten(const QString &path);
 
 protected:
     void closeEvent(QCloseEvent *event) override;
@@ -93,7 +89,7 @@ private:
 
     Context m_context;
     Printers &m_printers;
-    TemplateHost m_host;
+    const MacroTable &m_macros;
     CharFormat m_plain;
     std::unique_ptr<Ui::TemplateForm> m_ui;
     std::unique_ptr<MenuActions> m_actions;

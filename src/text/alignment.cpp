@@ -7,17 +7,17 @@
 
 #include <algorithm>
 #include <array>
-#include <initializer_list>
 
 namespace zeph {
+
+using language::SlashLevel;
+using language::slashModifiers;
+using language::Word;
+using language::wordsOf;
 
 namespace {
 
 constexpr qsizetype mostPadding = 69;
-
-constexpr std::array<QStringView, 12> heads = { u"btn", u"curve", u"joyx", u"joyy",
-                                                u"thr", u"rddr",  u"lbrk", u"rbrk",
-                                                u"mix", u"miy",   u"ant",  u"rng" };
 
 bool beginsAnyCase(QStringView line, QStringView start)
 {
@@ -26,124 +26,113 @@ bool beginsAnyCase(QStringView line, QStringView start)
 
 bool isHead(QStringView line)
 {
-    return std::ranges::any_of(heads,
-                               [line](QStringView head) { return beginsAnyCase(line, head); });
+    return beginsAnyCase(line, u"BTN"_w) || beginsAnyCase(line, u"CURVE"_w)
+        || std::ranges::any_of(wordsOf<language::AxisRole>(),
+                               [line](QStringView axis) { return beginsAnyCase(line, axis); });
+}
+
+bool isComment(QStringView line)
+{
+    return beginsAnyCase(line, u"Rem"_w);
 }
 
 bool isKept(QStringView line)
 {
-    return line.isEmpty() || line.front() == u'~' || beginsAnyCase(line, u"rem");
+    return line.isEmpty() || line.front() == u'~' || isComment(line);
 }
 
-/// A line without leading blanks, tabs as blanks, and no two blanks side by side.
-QString collapsed(QStringView line)
+/// 1-based columns of a statement's modifiers, by level; 0 without one.
+using Columns = std::array<qsizetype, size_t(SlashLevel::Repeat)>;
+
+/// 1-based column at which a line holds a modifier; 0 when it does not.
+qsizetype columnOf(QStringView line, const Word &modifier)
 {
-    QString result;
-    result.reserve(line.size());
-    bool blankBefore = true;
-    for (const QChar character : line) {
-        const bool blank = character == u' ' || character == u'\t';
-        if (!blank) {
-            result += character;
-        } else if (!blankBefore) {
-            result += u' ';
-        }
-        blankBefore = blank;
-    }
-    return result;
+    return line.indexOf(modifier.text) + 1;
 }
 
-/// 1-based column of the first of the words that the line holds, in their order; 0 without any.
-qsizetype columnOf(QStringView line, std::initializer_list<QStringView> words)
+/// The column of a level's first modifier, in the order of the words, that the line holds.
+qsizetype columnOf(QStringView line, SlashLevel level)
 {
-    for (const QStringView word : words) {
-        const qsizetype at = line.indexOf(word);
-        if (at >= 0) {
-            return at + 1;
+    for (const Word &modifier : slashModifiers) {
+        if (const qsizetype column = modifier.level == level ? columnOf(line, modifier) : 0) {
+            return column;
         }
     }
     return 0;
 }
 
-/// Where the modifiers of a statement stand, by kind.
-struct Columns {
-    qsizetype dogfight = 0;
-    qsizetype s3 = 0;
-    qsizetype action = 0;
-    qsizetype toggle = 0;
-
-    explicit Columns(QStringView line = {})
-        : dogfight(columnOf(line, { u"/U", u"/M", u"/D" })), s3(columnOf(line, { u"/I", u"/O" })),
-          action(columnOf(line, { u"/P", u"/R" })), toggle(columnOf(line, { u"/T" }))
-    {
-    }
-};
-
-/// Where a line that begins with a modifier goes: under one of two words in the last line that had
-/// a slash, else under the statement's column.
-struct ColumnRule {
-    QStringView begin;
-    QStringView above;
-    QStringView orAbove;
-    qsizetype Columns::*otherwise;
-};
-
-using ColumnRules = std::array<ColumnRule, 5>;
-
-constexpr ColumnRules editorRules = { {
-    { u"/I", u"/I", u"/O", &Columns::s3 },
-    { u"/O", u"/O", u"/I", &Columns::s3 },
-    { u"/P", u"/P", u"/R", &Columns::action },
-    { u"/R", u"/R", u"/P", &Columns::action },
-    { u"/T", u"/T", u"/T", &Columns::toggle },
-} };
-
-// The sheets look above for the counterpart alone.
-constexpr ColumnRules layoutRules = { {
-    { u"/I", u"/O", u"/O", &Columns::s3 },
-    { u"/O", u"/I", u"/I", &Columns::s3 },
-    { u"/P", u"/R", u"/R", &Columns::action },
-    { u"/R", u"/P", u"/P", &Columns::action },
-    { u"/T", u"/T", u"/T", &Columns::toggle },
-} };
-
-/// The column by how a line begins; no value when no rule is for it.
-std::optional<qsizetype> columnBy(const ColumnRules &rules, QStringView line, QStringView reference,
-                                  const Columns &columns)
+Columns columnsOf(QStringView line)
 {
-    for (const ColumnRule &rule : rules) {
-        if (line.startsWith(rule.begin)) {
-            const qsizetype column = columnOf(reference, { rule.above, rule.orAbove });
-            return column > 0 ? column : columns.*rule.otherwise;
-        }
+    Columns columns{};
+    for (size_t level = 0; level < columns.size(); ++level) {
+        columns[level] = columnOf(line, SlashLevel(level));
     }
-    return std::nullopt;
+    return columns;
 }
 
-/// The column of a continuation line in the document; 0 leaves it at the left.
+/// The modifier that a line begins with, or null.
+const Word *modifierAtStart(QStringView line)
+{
+    const auto found = std::ranges::find_if(
+        slashModifiers, [line](const Word &modifier) { return line.startsWith(modifier.text); });
+    return found == slashModifiers.end() ? nullptr : &*found;
+}
+
+/// The other modifier of its level, /O for /I; /T has none but itself.
+const Word &counterpartOf(const Word &modifier)
+{
+    const auto found = std::ranges::find_if(slashModifiers, [&modifier](const Word &other) {
+        return other.level == modifier.level && &other != &modifier;
+    });
+    return found == slashModifiers.end() ? modifier : *found;
+}
+
+/// Whether a modifier is aligned under one of its own kind: S3, press, release and toggle are.
+bool alignsUnderItsKind(const Word *modifier)
+{
+    return modifier && modifier->level != SlashLevel::Dogfight
+        && modifier->level != SlashLevel::Repeat;
+}
+
+/// The column of a continuation line in the document, where the reference is the last line with a
+/// slash; 0 leaves the line at the left.
 qsizetype editorColumn(QStringView line, QStringView reference, const Columns &columns)
 {
-    if (line.startsWith(u"/U") || line.startsWith(u"/M") || line.startsWith(u"/D")) {
-        return columns.dogfight;
+    const Word *modifier = modifierAtStart(line);
+    if (!modifier || modifier->level == SlashLevel::Repeat) {
+        return 0;
     }
-    return columnBy(editorRules, line, reference, columns).value_or(0);
+    const qsizetype own = columns[size_t(modifier->level)];
+    if (!alignsUnderItsKind(modifier)) {
+        return own;
+    }
+    for (const Word *above : { modifier, &counterpartOf(*modifier) }) {
+        if (const qsizetype column = columnOf(reference, *above)) {
+            return column;
+        }
+    }
+    return own;
 }
 
-/// The column of a continuation line on the sheets.
+/// The column of a continuation line on the sheets, which look above for the counterpart alone.
 qsizetype layoutColumn(QStringView line, QStringView reference, const Columns &columns)
 {
-    const qsizetype dogfight = columnOf(line, { u"/U", u"/M", u"/D" }) > 0 ? columns.dogfight : 0;
-    return columnBy(layoutRules, line, reference, columns).value_or(dogfight);
+    const Word *modifier = modifierAtStart(line);
+    if (!alignsUnderItsKind(modifier)) {
+        const bool hasDogfight = columnOf(line, SlashLevel::Dogfight) > 0;
+        return hasDogfight ? columns[size_t(SlashLevel::Dogfight)] : 0;
+    }
+    const qsizetype column = columnOf(reference, counterpartOf(*modifier));
+    return column > 0 ? column : columns[size_t(modifier->level)];
 }
 
-/// The columns behind a head line that keeps what it does not name.
+/// The columns after a head line that keeps what it does not name.
 Columns keptColumns(const Columns &before, QStringView line)
 {
-    Columns now(line);
-    for (qsizetype Columns::*each :
-         { &Columns::dogfight, &Columns::s3, &Columns::action, &Columns::toggle }) {
-        if (now.*each == 0) {
-            now.*each = before.*each;
+    Columns now = columnsOf(line);
+    for (size_t level = 0; level < now.size(); ++level) {
+        if (now[level] == 0) {
+            now[level] = before[level];
         }
     }
     return now;
@@ -167,7 +156,7 @@ QString aligned(QStringView text, const Rules &rules)
 {
     QString result;
     result.reserve(text.size() + text.size() / 2);
-    Columns columns;
+    Columns columns{};
     QString reference;
     forEachLine(text, [&](QStringView input) {
         if (isKept(input)) {
@@ -175,7 +164,7 @@ QString aligned(QStringView text, const Rules &rules)
             result += u'\n';
             return;
         }
-        QString line = collapsed(input);
+        QString line = normalisedLine(input);
         if (isHead(line)) {
             columns = rules.columnsAt(columns, line);
         } else {
@@ -184,7 +173,7 @@ QString aligned(QStringView text, const Rules &rules)
         if (line.contains(u'/')) {
             reference = line;
         }
-        if (line.size() >= 3 && !beginsAnyCase(line, u"rem")) {
+        if (line.size() >= 3 && !isComment(line)) {
             result += rules.indent;
         }
         result += line;
@@ -201,17 +190,13 @@ struct UseRecord {
 };
 
 constexpr std::array<UseRecord, 5> useRecords = { {
-    { u"USE HAT1 AS", u"Hat1:" },
-    { u"USE HAT2 AS", u"Hat2:" },
-    { u"USE HAT3 AS", u"Hat3:" },
-    { u"USE HAT4 AS", u"Hat4:" },
-    { u"USE RADIOSWITCH AS", u"Radio:" },
+    { u"USE HAT1 AS"_w, u"Hat1:" },
+    { u"USE HAT2 AS"_w, u"Hat2:" },
+    { u"USE HAT3 AS"_w, u"Hat3:" },
+    { u"USE HAT4 AS"_w, u"Hat4:" },
+    { u"USE RADIOSWITCH AS"_w, u"Radio:" },
 } };
-constexpr QStringView mouseType = u"USE MTYPE A";
-
-constexpr std::array<QStringView, 11> axisStarts = { u"JOYX ", u"JOYY ", u"THR ",  u"ANT ",
-                                                     u"RNG ",  u"RDDR ", u"LBRK ", u"RBRK ",
-                                                     u"MIX ",  u"MIY ",  u"CURVE " };
+constexpr QStringView mouseType = u"USE MTYPE A"_w;
 
 QStringView leadingDigits(QStringView text)
 {
@@ -236,17 +221,17 @@ QString useRecord(QStringView line)
     return {};
 }
 
-QStringView withoutComment(QStringView line)
+/// Whether the word begins the line, with a blank and more after it.
+bool begins(QStringView line, QStringView word)
 {
-    const qsizetype comment = line.indexOf(u"REM ", 0, Qt::CaseInsensitive);
-    return comment < 0 ? line : line.first(comment);
+    return line.size() > word.size() + 1 && line[word.size()] == u' ' && beginsAnyCase(line, word);
 }
 
 bool opensAxisRecord(QStringView line)
 {
-    return std::ranges::any_of(axisStarts, [line](QStringView start) {
-        return beginsAnyCase(line, start) && line.size() > start.size();
-    });
+    return begins(line, u"CURVE"_w)
+        || std::ranges::any_of(wordsOf<language::AxisRole>(),
+                               [line](QStringView axis) { return begins(line, axis); });
 }
 
 class Digest
@@ -254,29 +239,29 @@ class Digest
 public:
     void addLine(QStringView line)
     {
-        if (beginsAnyCase(line, u"rem") || beginsAnyCase(line, u"DISABLE") || line.size() < 2) {
+        if (isComment(line) || beginsAnyCase(line, u"DISABLE"_w) || line.size() < 2) {
             return;
         }
-        if (beginsAnyCase(line, u"USE")) {
+        if (beginsAnyCase(line, u"USE"_w)) {
             if (const QString record = useRecord(line); !record.isEmpty()) {
                 open();
                 write(record);
             }
             return;
         }
-        if (beginsAnyCase(line, u"DEF") || beginsAnyCase(line, u"BTN X")) {
+        if (beginsAnyCase(line, u"DEF"_w) || beginsAnyCase(line, u"BTN X"_w)) {
             return;
         }
-        constexpr QStringView button = u"BTN ";
-        if (beginsAnyCase(line, button) && line.size() > button.size()) {
+        constexpr QStringView button = u"BTN"_w;
+        if (begins(line, button)) {
             open();
-            write(withoutComment(line.sliced(button.size())));
+            write(beforeRem(line.sliced(button.size() + 1)));
             return;
         }
         if (opensAxisRecord(line)) {
             open();
         }
-        write(withoutComment(line));
+        write(beforeRem(line));
     }
 
     QString take()
@@ -303,9 +288,9 @@ QString AlignSlashes(QStringView text, const IndentOptions &options)
 {
     const QString indent(options.indent ? std::clamp<qsizetype>(options.spaces, 0, mostPadding) : 0,
                          u' ');
-    return aligned(
-        text,
-        { [](const Columns &, QStringView head) { return Columns(head); }, editorColumn, indent });
+    return aligned(text,
+                   { [](const Columns &, QStringView head) { return columnsOf(head); },
+                     editorColumn, indent });
 }
 
 QString AlignForLayouts(QStringView text)
@@ -318,7 +303,7 @@ QString LeftAlignAnalyse(QStringView text)
     Digest digest;
     forEachLine(text, [&digest](QStringView line) {
         if (line.size() >= 3) {
-            digest.addLine(collapsed(line));
+            digest.addLine(normalisedLine(line));
         }
     });
     return digest.take();

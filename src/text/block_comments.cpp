@@ -9,8 +9,6 @@ namespace zeph {
 
 namespace {
 
-constexpr QStringView rem = u"rem ";
-
 bool isBlank(QStringView line)
 {
     return line.isEmpty() || line.front() == u'\n';
@@ -30,13 +28,13 @@ LineRange touchedLines(QStringView text, qsizetype selStart, qsizetype selLength
 LineChange commentedOut(QStringView line)
 {
     return isBlank(line) ? LineChange{ line.toString(), false }
-                         : LineChange{ u"Rem "_s + line.toString(), true };
+                         : LineChange{ remAndBlank.toString() + line.toString(), true };
 }
 
 LineChange commentedIn(QStringView line)
 {
-    return line.startsWith(rem, Qt::CaseInsensitive)
-        ? LineChange{ line.sliced(rem.size()).toString(), true }
+    return line.startsWith(remAndBlank, Qt::CaseInsensitive)
+        ? LineChange{ line.sliced(remAndBlank.size()).toString(), true }
         : LineChange{ line.toString(), false };
 }
 

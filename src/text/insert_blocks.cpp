@@ -3,44 +3,25 @@
 
 #include "text/insert_blocks.h"
 
+#include "text/text_lines.h"
+
 #include <algorithm>
-#include <array>
 
 namespace zeph {
 
 namespace {
 
 constexpr qsizetype headingIndent = 10;
-const QString titleRule = u"Rem "_s + QString(46, u'#');
-const QString emptyRem = u"Rem "_s;
-const QString titleIndent = u"Rem    "_s;
-const QString closingRem = u"Rem"_s;
-
-// clang-format off
-constexpr std::array words = {
-    SlashWord{ u"/U", u"Dogfight switch up", true },
-    SlashWord{ u"/M", u"Dogfight switch in the middle", true },
-    SlashWord{ u"/D", u"Dogfight switch down", true },
-    SlashWord{ u"/I", u"S3 held in", true },
-    SlashWord{ u"/O", u"S3 out", true },
-    SlashWord{ u"/P", u"When the control is pressed", true },
-    SlashWord{ u"/R", u"When the control is released", true },
-    SlashWord{ u"/T", u"One statement a press, in turn", true },
-    SlashWord{ u"/A", u"Repeats while the control is held", true },
-    SlashWord{ u"/H", u"Holds the key as long as the control", true },
-    SlashWord{ u"", u"Waits so many milliseconds", false },
-    SlashWord{ u"RPT(2)", u"Repeats what follows", false },
-};
-// clang-format on
+const QString emptyRem = remAndBlank.toString();
+const QString titleRule = emptyRem + QString(46, u'#');
+const QString titleIndent = emptyRem + u"   "_s;
+const QString closingRem = u"Rem"_w.toString();
 
 /// Lines of the same width in every font of fixed pitch.
 QString withoutTabs(QString line)
 {
     line.replace(u'\t', u' ');
-    while (line.endsWith(u' ')) {
-        line.chop(1);
-    }
-    return line;
+    return withoutBlanksAtEnd(line).toString();
 }
 
 QStringList commentLines(QString comments)
@@ -77,13 +58,13 @@ QList<QStringList> titleSections(const TitleFields &fields)
 
 QStringList headingBlock(const QString &heading)
 {
-    const QString rule = u"Rem "_s + QString(heading.size(), u'-');
-    return { rule, u"Rem "_s + QString(headingIndent, u' ') + heading, rule };
+    const QString rule = emptyRem + QString(heading.size(), u'-');
+    return { rule, emptyRem + QString(headingIndent, u' ') + heading, rule };
 }
 
 QString remStatement(const QString &text)
 {
-    return u"Rem "_s + u' ' + text;
+    return emptyRem + u' ' + text;
 }
 
 QStringList titleBlock(const TitleFields &fields)
@@ -113,15 +94,13 @@ QString personsNameOr(const QString &name)
     return trimmed.isEmpty() ? u"User unknown"_s : trimmed;
 }
 
-std::span<const SlashWord> slashWords()
+QString insertText(const language::Word &word, int delay)
 {
-    return words;
-}
-
-QString slashText(const SlashWord &word, int delay)
-{
-    const QString text = QString::fromUtf16(word.text);
-    return text.isEmpty() ? u"DLY(%1)"_s.arg(delay) : text;
+    if (word.is(language::SlashRole)) {
+        return word.text.toString();
+    }
+    constexpr int repeats = 2;
+    return u"%1(%2)"_s.arg(word.text).arg(word.text == u"DLY"_w ? delay : repeats);
 }
 
 } // namespace zeph

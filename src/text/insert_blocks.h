@@ -5,11 +5,9 @@
 
 // The comment blocks and words that the Insert menu writes, as plain text.
 
-#include "platform/core/base.h"
+#include "language/words.h"
 
 #include <QStringList>
-
-#include <span>
 
 namespace zeph {
 
@@ -37,15 +35,8 @@ QStringList titleBlock(const TitleFields &fields);
 /// The name of whoever writes files: the given one, or what stands for nobody.
 QString personsNameOr(const QString &name);
 
-/// One word of the slash palette and of the Insert menu.
-struct SlashWord {
-    const char16_t *text; ///< empty: the delay, whose number is a setting
-    const char16_t *tip;
-    bool isSlash; ///< coloured as slash modifiers are, otherwise as raw words
-};
-/// The ten modifiers, delay and repeat, in the order of the menu.
-std::span<const SlashWord> slashWords();
-/// The text of a word; a delay lasts so many milliseconds.
-QString slashText(const SlashWord &word, int delay);
+/// What the Insert menu and the slash palette write for one of insertWords; a delay lasts so many
+/// milliseconds.
+QString insertText(const language::Word &word, int delay);
 
 } // namespace zeph

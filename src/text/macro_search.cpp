@@ -4,6 +4,7 @@
 #include "text/macro_search.h"
 
 #include "platform/core/text_search.h"
+#include "text/text_lines.h"
 
 #include <QHash>
 
@@ -37,19 +38,16 @@ public:
         if (hit < m_start || hit > m_end) {
             readLine(hit);
         }
-        return m_rem >= 0 && m_rem + rem.size() <= hit;
+        return m_rem >= 0 && m_rem + remAndBlank.size() <= hit;
     }
 
 private:
-    static constexpr QStringView rem = u"rem ";
-
     void readLine(qsizetype at)
     {
         m_start = m_text.left(at).lastIndexOf(u'\n') + 1;
         const qsizetype end = m_text.indexOf(u'\n', at);
         m_end = end < 0 ? m_text.size() : end;
-        const qsizetype found =
-            m_text.mid(m_start, m_end - m_start).indexOf(rem, 0, Qt::CaseInsensitive);
+        const qsizetype found = remAt(m_text.mid(m_start, m_end - m_start));
         m_rem = found < 0 ? -1 : m_start + found;
     }
 

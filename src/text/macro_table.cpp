@@ -3,7 +3,7 @@
 
 #include "text/macro_table.h"
 
-#include "language/words.h"
+#include "text/text_lines.h"
 
 namespace zeph {
 
@@ -17,26 +17,22 @@ QStringView withoutLeadingBlanks(QStringView line)
     return line;
 }
 
-/// Blanks alone: the toolkit's own trimming would take tabs and the no-break blank too.
 QStringView withoutBlanksAround(QStringView line)
 {
-    line = withoutLeadingBlanks(line);
-    while (line.endsWith(u' ')) {
-        line.chop(1);
-    }
-    return line;
+    return withoutBlanksAtEnd(withoutLeadingBlanks(line));
 }
 
 bool isUsable(QStringView line)
 {
-    const bool comment = line.compare(u"rem", Qt::CaseInsensitive) == 0;
+    const bool comment = line.compare(u"Rem"_w, Qt::CaseInsensitive) == 0;
     const bool switchedOff = line.startsWith(u'~') && (line.size() == 1 || line.contains(u'='));
     return !line.isEmpty() && !comment && !switchedOff && line != u"//";
 }
 
 bool isRule(QStringView line)
 {
-    return line.startsWith(u"rem --", Qt::CaseInsensitive);
+    return line.startsWith(remAndBlank, Qt::CaseInsensitive)
+        && line.sliced(remAndBlank.size()).startsWith(u"--");
 }
 
 QString headingOf(QStringView line)
@@ -46,20 +42,6 @@ QString headingOf(QStringView line)
         heading[0] = heading[0].toUpper();
     }
     return heading;
-}
-
-/// The line with each run of blanks and tabs as one blank.
-QString collapsed(QString line)
-{
-    line.replace(u'\t', u' ');
-    QString result;
-    result.reserve(line.size());
-    for (const QChar each : std::as_const(line)) {
-        if (each != u' ' || !result.endsWith(u' ')) {
-            result.append(each);
-        }
-    }
-    return withoutBlanksAround(result).toString();
 }
 
 } // namespace
@@ -80,7 +62,7 @@ MacroTable extractMacros(const QStringList &lines)
 {
     MacroTable table{ lines, { u"All"_s }, { {} } };
     for (qsizetype i = 0; i < lines.size(); ++i) {
-        if (lines[i].startsWith(u"rem ", Qt::CaseInsensitive)) {
+        if (lines[i].startsWith(remAndBlank, Qt::CaseInsensitive)) {
             if (i + 2 < lines.size() && isRule(lines[i]) && isRule(lines[i + 2])) {
                 table.MacroHeadings.append(headingOf(lines[i + 1]));
                 table.names.append(QStringList());
@@ -110,7 +92,7 @@ std::optional<QString> macroKeys(const MacroTable &table, const QString &name)
     const QString head = name + u" ="_s;
     for (const QString &line : table.MacroLines) {
         if (line.contains(name, Qt::CaseInsensitive)
-            && collapsed(line).startsWith(head, Qt::CaseInsensitive)) {
+            && normalisedLine(line).startsWith(head, Qt::CaseInsensitive)) {
             return line;
         }
     }

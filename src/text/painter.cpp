@@ -10,6 +10,9 @@
 
 namespace zeph {
 
+using language::ColourClass;
+using language::operator""_w;
+
 namespace {
 
 constexpr size_t asciiCount = 128;
@@ -55,7 +58,7 @@ bool matchesCase(const PaintPass &pass)
     case PaintPrimitive::OnlyWord:
         return true;
     case PaintPrimitive::BTNorDEF:
-        return pass.word != u"BTN";
+        return pass.word != u"BTN"_w;
     default:
         return false;
     }
@@ -226,7 +229,7 @@ public:
     void paint(Block block, const std::vector<Hits> &hits)
     {
         m_block = block;
-        m_colours.assign(size_t(block.to - block.from), plain);
+        m_colours.assign(size_t(block.to - block.from), ColourClass::Plain);
         for (size_t i = 0; i < m_passes.size(); ++i) {
             paintPass(m_passes[i], hits[i], m_progress[i]);
         }
@@ -236,8 +239,6 @@ public:
     std::vector<ColourRun> takeRuns() { return std::move(m_runs); }
 
 private:
-    /// Stands for characters that no pass painted; the classes follow it.
-    static constexpr quint8 plain = 0;
     /// About as many as a file has that is full of words; a guess alone.
     static constexpr qsizetype charactersPerRun = 4;
 
@@ -252,7 +253,7 @@ private:
         to = std::min(to, m_block.to);
         if (from < to) {
             const auto begin = m_colours.begin() + (from - m_block.from);
-            std::fill(begin, begin + (to - from), quint8(quint8(colour) + 1));
+            std::fill(begin, begin + (to - from), colour);
         }
     }
 
@@ -276,10 +277,10 @@ private:
     void addRuns()
     {
         for (auto at = m_colours.begin(); at != m_colours.end();) {
-            const quint8 here = *at;
-            const auto end =
-                std::find_if(at, m_colours.end(), [here](quint8 each) { return each != here; });
-            const ColorRef colour = m_schemeColours[here];
+            const ColourClass here = *at;
+            const auto end = std::find_if(at, m_colours.end(),
+                                          [here](ColourClass each) { return each != here; });
+            const ColorRef colour = m_schemeColours[size_t(here)];
             if (m_runs.empty() || m_runs.back().colour != colour) {
                 m_runs.push_back({ 0, colour });
             }
@@ -325,9 +326,9 @@ private:
     QStringView m_text;
     std::span<const PaintPass> m_passes;
     std::vector<Progress> m_progress;
-    std::array<ColorRef, 7> m_schemeColours; ///< by what stands in m_colours
+    std::array<ColorRef, 7> m_schemeColours; ///< by ColourClass
     Block m_block;
-    std::vector<quint8> m_colours; ///< of the block
+    std::vector<ColourClass> m_colours; ///< of the block
     std::vector<ColourRun> m_runs;
 };
 

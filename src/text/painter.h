@@ -7,6 +7,7 @@
 // character.
 
 #include "language/file_kinds.h"
+#include "language/words.h"
 #include "platform/core/rich_text.h"
 
 #include <QHash>
@@ -64,14 +65,12 @@ enum class PaintPrimitive : quint8 {
     REM ///< whole word in any case, and on to the line's end
 };
 
-enum class ColourClass : quint8 { Btn, Slash, Raw, Miscellaneous, Rem, PureRed };
-
 /// One search over the whole text; passes run in order, and later ones paint over earlier ones. A
 /// pass goes on behind what its last hit painted.
 struct PaintPass {
     PaintPrimitive primitive;
     QStringView word;
-    ColourClass colour;
+    language::ColourClass colour;
 };
 
 std::span<const PaintPass> joystickPasses();

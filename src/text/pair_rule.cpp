@@ -4,24 +4,13 @@
 #include "text/pair_rule.h"
 
 #include "language/file_kinds.h"
+#include "text/text_lines.h"
 
 namespace zeph {
 
-namespace {
-
-QStringView withoutBlanksBehind(QStringView text)
-{
-    while (text.endsWith(u' ')) {
-        text.chop(1);
-    }
-    return text;
-}
-
-} // namespace
-
 std::optional<MdefReference> lastMdefReference(QStringView joystickText)
 {
-    constexpr QStringView words = u"USE MDEF";
+    constexpr QStringView words = u"USE MDEF"_w;
     const qsizetype hit = joystickText.lastIndexOf(words, -1, Qt::CaseInsensitive);
     if (hit < 0) {
         return std::nullopt;
@@ -33,9 +22,7 @@ std::optional<MdefReference> lastMdefReference(QStringView joystickText)
     }
     const qsizetype start = std::min(behind + 1, lineEnd);
     const QStringView line = joystickText.sliced(start, lineEnd - start);
-    const qsizetype rem = line.indexOf(u"rem ", 0, Qt::CaseInsensitive);
-    const QStringView cut = rem < 0 ? line : line.left(rem);
-    return MdefReference{ line.toString(), withoutBlanksBehind(cut).toString() };
+    return MdefReference{ line.toString(), withoutBlanksAtEnd(beforeRem(line)).toString() };
 }
 
 QString macroNameFor(const MdefReference &reference, QStringView joystickName)

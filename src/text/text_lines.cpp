@@ -22,9 +22,40 @@ std::optional<LineRange> lineRange(QStringView text, int line)
     return LineRange{ start, (end < 0 ? text.size() : end) - start };
 }
 
-DocumentKind documentOfError(QStringView errorText)
+QString normalisedLine(QStringView line)
 {
-    return errorText.mid(6, 4) == u"1013" ? DocumentKind::Macro : DocumentKind::Joystick;
+    QString result;
+    result.reserve(line.size());
+    bool afterBlank = true;
+    for (const QChar character : line) {
+        const bool blank = character == u' ' || character == u'\t';
+        if (!blank) {
+            result += character;
+        } else if (!afterBlank) {
+            result += u' ';
+        }
+        afterBlank = blank;
+    }
+    return result;
+}
+
+QStringView withoutBlanksAtEnd(QStringView text)
+{
+    while (text.endsWith(u' ')) {
+        text.chop(1);
+    }
+    return text;
+}
+
+qsizetype remAt(QStringView line)
+{
+    return line.indexOf(remAndBlank, 0, Qt::CaseInsensitive);
+}
+
+QStringView beforeRem(QStringView line)
+{
+    const qsizetype at = remAt(line);
+    return at < 0 ? line : line.first(at);
 }
 
 } // namespace zeph

@@ -3,13 +3,13 @@
 
 #pragma once
 
-// Lines of a text by number, for everything that shows a line: compiler errors, go to line.
+// Lines of a text: by number, one after another, and the few steps that every line rule takes.
 
-#include "platform/core/base.h"
-
-#include "language/file_kinds.h"
+#include "language/words.h"
 
 namespace zeph {
+
+using language::operator""_w;
 
 struct LineRange {
     qsizetype start = 0; ///< 0-based
@@ -30,8 +30,19 @@ template <class Function> void forEachLine(QStringView text, Function function)
     }
 }
 
-/// The document that a compiler's error text speaks of: the macro file for code 1013, which stands
-/// from the seventh character on.
-DocumentKind documentOfError(QStringView errorText);
+/// A line without blanks at its start, with every run of blanks and tabs as one blank.
+QString normalisedLine(QStringView line);
+
+/// Without the blanks at the end. Blanks alone: the toolkit's own trimming takes tabs and the
+/// no-break blank too.
+QStringView withoutBlanksAtEnd(QStringView text);
+
+/// Where a comment starts for the tools that read directives and macros: at the first "rem " in any
+/// case, even within a longer word. -1 without one.
+qsizetype remAt(QStringView line);
+/// The line up to there.
+QStringView beforeRem(QStringView line);
+/// "Rem " in the tools' own spelling.
+inline constexpr QStringView remAndBlank = u"Rem "_w;
 
 } // namespace zeph

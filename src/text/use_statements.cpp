@@ -3,6 +3,9 @@
 
 #include "text/use_statements.h"
 
+#include "language/file_kinds.h"
+#include "text/text_lines.h"
+
 #include <QList>
 
 #include <array>
@@ -17,18 +20,16 @@ struct Head {
 };
 
 constexpr std::array heads = {
-    Head{ u"use zeph graphic", &UseStatements::ZephGraphic },
-    Head{ u"use zeph readme", &UseStatements::ZephReadme },
-    Head{ u"use profile", &UseStatements::ProfileName },
+    Head{ u"USE ZEPH GRAPHIC"_w, &UseStatements::ZephGraphic },
+    Head{ u"USE ZEPH README"_w, &UseStatements::ZephReadme },
+    Head{ u"USE PROFILE"_w, &UseStatements::ProfileName },
 };
 
 constexpr qsizetype shortestLine = 10;
 
-QString valueBehind(const QString &line, qsizetype headLength)
+QString valueAfter(const QString &line, qsizetype headLength)
 {
-    QString value = line.sliced(headLength);
-    const qsizetype rem = value.indexOf(u"rem "_s, 0, Qt::CaseInsensitive);
-    return (rem < 0 ? value : value.left(rem)).trimmed();
+    return beforeRem(QStringView(line).sliced(headLength)).trimmed().toString();
 }
 
 QString profileName(QString value)
@@ -37,40 +38,22 @@ QString profileName(QString value)
     if (bracket >= 0) {
         value = value.left(bracket).trimmed();
     }
-    if (!value.isEmpty() && !value.endsWith(u".tmc"_s, Qt::CaseInsensitive)) {
-        value += u".tmc"_s;
-    }
-    return value;
+    return value.isEmpty() ? value : withProfileExtension(value);
 }
 
 } // namespace
-
-QString normalisedLine(QStringView line)
-{
-    QString result;
-    result.reserve(line.size());
-    for (const QChar c : line) {
-        const bool blank = c == u' ' || c == u'\t';
-        if (!blank) {
-            result += c;
-        } else if (!result.isEmpty() && !result.endsWith(u' ')) {
-            result += u' ';
-        }
-    }
-    return result;
-}
 
 UseStatements readUseStatements(QStringView joystickText)
 {
     UseStatements found;
     for (const QStringView raw : joystickText.split(u'\n')) {
-        if (raw.size() < shortestLine || !raw.contains(u"use", Qt::CaseInsensitive)) {
+        if (raw.size() < shortestLine || !raw.contains(u"USE"_w, Qt::CaseInsensitive)) {
             continue;
         }
         const QString line = normalisedLine(raw);
         for (const Head &head : heads) {
             if (line.startsWith(head.words, Qt::CaseInsensitive)) {
-                found.*head.value = valueBehind(line, head.words.size());
+                found.*head.value = valueAfter(line, head.words.size());
             }
         }
     }

@@ -18,9 +18,6 @@ struct UseStatements {
     friend bool operator==(const UseStatements &, const UseStatements &) = default;
 };
 
-/// Tabs to blanks, blanks on the left gone, runs of blanks made one.
-QString normalisedLine(QStringView line);
-
 /// Reads all lines; the last line of a kind wins.
 UseStatements readUseStatements(QStringView joystickText);
 

@@ -44,7 +44,6 @@ public:
     CougarModes &modes() { return m_modes; }
     Profiles &profiles() { return m_profiles; }
     AfterDownload &afterDownload() { return m_afterDownload; }
-    ExternalTools &externalTools() { return m_externalTools; }
     /// The following exist only after attach().
     Compile &compile() { return *m_compile; }
     ToolsMenu &toolsMenu() { return *m_toolsMenu; }

@@ -20,10 +20,10 @@ namespace {
 const CharFormat plain{ u"Arial"_s, 8, false, false, false, 0 };
 const CharFormat red{ u"Arial"_s, 8, false, false, false, 0x0000FF };
 
-class Document : public QTextDocument
+class FollowedText : public QTextDocument
 {
 public:
-    explicit Document(const QString &text = {})
+    explicit FollowedText(const QString &text = {})
     {
         setDocumentLayout(new QPlainTextDocumentLayout(this));
         setUndoRedoEnabled(false);
@@ -54,7 +54,7 @@ QString lines(int count)
 }
 
 /// One change of a document by chance: text, looks, paragraphs, all of it, several at a stroke.
-void changeByChance(Document &document, test::RichTextMaker &chance)
+void changeByChance(FollowedText &document, test::RichTextMaker &chance)
 {
     const int size = document.characterCount() - 1;
     const int from = chance.upTo(size);
@@ -109,7 +109,7 @@ void changeByChance(Document &document, test::RichTextMaker &chance)
 
 TEST(DocumentStates, GiveBackTextAndLooks)
 {
-    Document document(u"BTN S1 Fire\nBTN S2 Flares"_s);
+    FollowedText document(u"BTN S1 Fire\nBTN S2 Flares"_s);
     DocumentStates states(document);
     document.stretch(0, 3).setCharFormat(toTextFormat(red));
     const RichText before = richTextOf(document);
@@ -124,7 +124,7 @@ TEST(DocumentStates, GiveBackTextAndLooks)
 
 TEST(DocumentStates, AnEmptyStateEmptiesTheDocument)
 {
-    Document document(lines(300));
+    FollowedText document(lines(300));
     DocumentStates states(document);
     states.restore(states.empty());
     EXPECT_EQ(plainTextOf(document), QString());
@@ -137,7 +137,7 @@ TEST(DocumentStates, AreExactWhateverChangesADocument)
 {
     for (int round = 0; round < 300; ++round) {
         test::RichTextMaker chance{ quint32(round) };
-        Document document(lines(chance.upTo(20)));
+        FollowedText document(lines(chance.upTo(20)));
         DocumentStates states(document, 1 + chance.upTo(7));
         std::vector<std::pair<DocumentState, RichText>> taken;
         for (int step = 0; step < 60; ++step) {
@@ -164,7 +164,7 @@ TEST(DocumentStates, WhatTheyAreToldIsWhatTheyWouldHaveRead)
 {
     for (int round = 0; round < 300; ++round) {
         test::RichTextMaker chance{ quint32(round) };
-        Document document;
+        FollowedText document;
         DocumentStates states(document, 1 + chance.upTo(7));
         for (int step = 0; step < 20; ++step) {
             setRichText(document, chance.make(u"ab\n"_s, 60));
@@ -193,8 +193,8 @@ TEST(DocumentStates, LaysLooksAsTheyWouldBeLaidOverTheWholeDocument)
 {
     for (int round = 0; round < 300; ++round) {
         test::RichTextMaker chance{ quint32(round) };
-        Document document;
-        Document other;
+        FollowedText document;
+        FollowedText other;
         DocumentStates states(document, 1 + chance.upTo(4));
         const RichText text = chance.make(u"ab\n"_s, 80);
         setRichText(document, text);
@@ -228,7 +228,7 @@ TEST(DocumentStates, PiecesMakeTheWholeTextAndItsFile)
 {
     for (int round = 0; round < 300; ++round) {
         test::RichTextMaker chance{ quint32(round) };
-        Document document;
+        FollowedText document;
         DocumentStates states(document, 1 + chance.upTo(4));
         setRichText(document, chance.make(u"ab\n"_s, 80));
         QString text;
@@ -244,7 +244,7 @@ TEST(DocumentStates, PiecesMakeTheWholeTextAndItsFile)
 
 TEST(DocumentStates, AToldTextIsCutAsOneThatIsRead)
 {
-    Document document(lines(10000));
+    FollowedText document(lines(10000));
     DocumentStates told(document);
     told.know(richTextOf(document));
     DocumentStates read(document);
@@ -256,7 +256,7 @@ TEST(DocumentStates, AToldTextIsCutAsOneThatIsRead)
 
 TEST(DocumentStates, NewLooksThatAreToldShareTheText)
 {
-    Document document(lines(10000));
+    FollowedText document(lines(10000));
     DocumentStates states(document);
     std::vector<DocumentState> taken{ states.present() };
     const qsizetype whole = DocumentState::bytesHeld(taken);
@@ -270,7 +270,7 @@ TEST(DocumentStates, NewLooksThatAreToldShareTheText)
 
 TEST(DocumentStates, AreExactWithinAnOpenEditBlock)
 {
-    Document document(lines(300));
+    FollowedText document(lines(300));
     DocumentStates states(document);
     states.present();
     QTextCursor cursor(&document);
@@ -284,7 +284,7 @@ TEST(DocumentStates, AreExactWithinAnOpenEditBlock)
 
 TEST(DocumentStates, AKeystrokeCostsOneChunk)
 {
-    Document document(lines(10000));
+    FollowedText document(lines(10000));
     DocumentStates states(document);
     std::vector<DocumentState> taken{ states.present() };
     const qsizetype whole = DocumentState::bytesHeld(taken);
@@ -300,7 +300,7 @@ TEST(DocumentStates, AKeystrokeCostsOneChunk)
 
 TEST(DocumentStates, NewLooksShareTheText)
 {
-    Document document(lines(10000));
+    FollowedText document(lines(10000));
     DocumentStates states(document);
     std::vector<DocumentState> taken{ states.present() };
     const qsizetype whole = DocumentState::bytesHeld(taken);
@@ -314,7 +314,7 @@ TEST(DocumentStates, NewLooksShareTheText)
 
 TEST(DocumentStates, RestoringTouchesOnlyTheChunksThatDiffer)
 {
-    Document document(lines(1000));
+    FollowedText document(lines(1000));
     DocumentStates states(document);
     const DocumentState state = states.present();
     document.insert(20000, u"typed"_s);
@@ -332,7 +332,7 @@ TEST(DocumentStates, RestoringTouchesOnlyTheChunksThatDiffer)
 
 TEST(DocumentStates, ManyLinesAtOnceAreCutIntoChunks)
 {
-    Document document;
+    FollowedText document;
     DocumentStates states(document);
     std::vector<DocumentState> taken{ states.present() };
     document.insert(0, lines(5000));

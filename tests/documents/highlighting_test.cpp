@@ -381,6 +381,7 @@ TEST_F(HighlightingTest, RefreshingTheLayoutStripsLooksAndSetsTheMargin)
         format.pointSize = 30;
     });
     {
+        const Document::Quiet quiet(editor->joystick());
         setParagraphFormat(*joystick()->document(), { .leftIndentTwips = 300, .bullet = true });
     }
     joystick()->shown().select(5, 0);

@@ -205,18 +205,16 @@ protected:
     void insertAsTool()
     {
         selectSomething(0);
-        {
-            history().storeTop();
-            copies().slotsHeld[0] = { control().shown().richText(), control().shown().selStart() };
-            Change change(document());
-            QTextCursor cursor = control().textCursor();
-            for (int pieces = 1 + chance->upTo(2); pieces > 0; --pieces) {
-                insertRichText(cursor, piece());
-            }
-            control().setTextCursor(cursor);
-            if (!change.commit()) {
-                return;
-            }
+        history().storeTop();
+        copies().slotsHeld[0] = { control().shown().richText(), control().shown().selStart() };
+        Change change(document());
+        QTextCursor cursor = control().textCursor();
+        for (int pieces = 1 + chance->upTo(2); pieces > 0; --pieces) {
+            insertRichText(cursor, piece());
+        }
+        control().setTextCursor(cursor);
+        if (!change.commit()) {
+            return;
         }
         changed();
     }

@@ -457,10 +457,8 @@ TEST_F(UndoTest, TypingIntoAnEmptiedTextHasTheSchemesLooks)
 
 TEST_F(UndoTest, AnEmptiedTextHasItsMarginBack)
 {
-    {
-        joystick()->shown().setRichText(RichText::plain(
-            u"a\nb"_s, {}, { .leftIndentTwips = 300, .alignment = ParagraphAlignment::Centre }));
-    }
+    joystick()->shown().setRichText(RichText::plain(
+        u"a\nb"_s, {}, { .leftIndentTwips = 300, .alignment = ParagraphAlignment::Centre }));
     joystick()->selectAll();
     key(Qt::Key_Delete);
     ASSERT_EQ(text(), QString());
@@ -490,9 +488,7 @@ TEST_F(UndoTest, ThousandStepsInALongFileFitIntoFiftyMegabytes)
     for (int line = 0; line < 10000; ++line) {
         lines += u"BTN H1U /U /I Radar_Mode DLY(60) /O Missile_Mode Rem line\n"_s;
     }
-    {
-        joystick()->shown().setText(lines);
-    }
+    joystick()->shown().setText(lines);
     editor->undos().startOver(DocumentKind::Joystick);
     for (int step = 0; step < 1000; ++step) {
         // Each in another place, so that none shares its chunk with the step before.

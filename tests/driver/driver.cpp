@@ -4,8 +4,9 @@
 // A plugin that plays the pilot: the toolkit loads it into the untouched program, where it follows
 // a script of clicks and keys by object names and writes down what it saw. One step a line:
 //   box TITLE            waits for a message box of that title and notes
-//   "title|text|buttons|default" press NAME           clicks the button of that text or object
-//   name, in the topmost window trigger ACTION       chooses the menu entry of that object name
+//                        "title|text|buttons|default"
+//   press NAME           clicks the button of that text or object name, in the topmost window
+//   trigger ACTION       chooses the menu entry of that object name; WINDOW/ACTION names its window
 //   type NAME TEXT       types into the control of that object name; \n is Enter
 //   window TITLE         waits for a visible window whose title begins so and notes its whole title
 //   gone TITLE           waits until no such window is visible
@@ -14,7 +15,8 @@
 //   selection NAME TEXT  waits until the text selected in the control holds TEXT
 //   modal                waits for any message box, and notes it as box does
 //   maybe-ok TITLE       answers a box whose title begins so, if one comes with the first windows
-//   file PATH            answers the open file dialog
+//   file PATH            answers the open file dialog; a relative name is one beside the program
+//   write PATH TEXT      writes such a file; \n is CR LF
 //   tab NAME N           turns the tabs of that object name to a page, counted from 0
 //   flip NAME            clicks a tick, and notes it
 //   retype NAME TEXT     types TEXT in place of what stands in a line, and notes it
@@ -22,7 +24,8 @@
 //   value NAME           notes the state of a field: a tick's 0 or 1, a line's text, a list's place
 //                        and text, a number
 //   colour RRGGBB        answers the open colour dialog
-//   grab NAME FILE       grabs the window that holds the control to a picture
+//   grab NAME FILE       grabs the window that holds the control to a picture; a relative name is
+//                        one beside the notes
 //   minimise / close     the main window
 //   pause MS             lets time pass
 //   kill                 ends the process at once, as a crash would
@@ -31,27 +34,36 @@
 //   pilot NAME [ACTION N] types letters into the control of that object name until the process
 //   ends, one a step, and notes "key n ms" for each; after every Nth chooses the menu entry, and
 //   notes "done n" when that has done its work
+//   done                 waits until the last act has returned, with the windows that it opened
+// Lines that begin with # are comments. A tour has steps of its own:
+//   answers              notes each message box from now on and presses its default button
+//   welcome              answers the first run's questions, if they come, and grabs their pages
+//   look NAME            lets things settle, and grabs all windows: the main one to NAME.png, the
+//                        others to NAME-WINDOW.png
+//   stop NAME            looks, notes "NAME: panel 1's text", and leaves all windows but the main
+//   one menu NAME            pops up the menu of that entry, or the right mouse button's of that
+//   control keys NAME KEY ...    presses keys ("Shift+C") in the control of that object name toggle
+//   BUTTON NAME 1 presses the button when the control NAME is not visible (0: when it is)
+//   click NAME           clicks into the control of that object name
+//   environment NAME V   sets a variable for the programs that are started from now on; without a
+//                        value it is unset
+#include "finding.h"
+#include "tour_steps.h"
+
 #include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
 #include <QColorDialog>
-#include <QComboBox>
 #include <QDialog>
+#include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QFileDialog>
 #include <QGenericPlugin>
-#include <QLabel>
-#include <QLineEdit>
-#include <QListWidget>
-#include <QMainWindow>
-#include <QMenu>
+#include <QKeyEvent>
 #include <QMessageBox>
-#include <QPlainTextEdit>
+#include <QPointer>
 #include <QPushButton>
-#include <QSpinBox>
-#include <QTabWidget>
-#include <QTextEdit>
 #include <QTimer>
 
 #include <cstdlib>
@@ -61,107 +73,12 @@ namespace {
 constexpr int stepMs = 10;
 constexpr int patienceMs = 15000;
 
-QString textOf(const QWidget *widget)
-{
-    if (const auto *edit = qobject_cast<const QPlainTextEdit *>(widget)) {
-        return edit->toPlainText();
-    }
-    if (const auto *edit = qobject_cast<const QTextEdit *>(widget)) {
-        return edit->toPlainText();
-    }
-    return widget->property("text").toString();
-}
-
-QString selectionOf(const QWidget *widget)
-{
-    if (const auto *edit = qobject_cast<const QPlainTextEdit *>(widget)) {
-        return edit->textCursor().selectedText();
-    }
-    const auto *edit = qobject_cast<const QTextEdit *>(widget);
-    return edit ? edit->textCursor().selectedText() : QString();
-}
-
-QWidget *widgetNamed(const QString &name)
-{
-    // Two windows may have a control of the same name; the pilot can only reach the modal one's.
-    if (const QWidget *modal = QApplication::activeModalWidget()) {
-        if (auto *inModal = modal->findChild<QWidget *>(name)) {
-            return inModal;
-        }
-    }
-    QWidget *hidden = nullptr;
-    for (QWidget *widget : QApplication::allWidgets()) {
-        if (widget->objectName() == name) {
-            if (widget->isVisible()) {
-                return widget;
-            }
-            hidden = widget;
-        }
-    }
-    return hidden;
-}
-
-/// The line that a field is typed into: its own, or that of a list with free entry.
-QLineEdit *lineOf(QWidget *field)
-{
-    auto *list = qobject_cast<QComboBox *>(field);
-    return list ? list->lineEdit() : qobject_cast<QLineEdit *>(field);
-}
-
-QString valueOf(QWidget *field)
-{
-    if (const auto *tick = qobject_cast<QAbstractButton *>(field)) {
-        return tick->isChecked() ? QStringLiteral("1") : QStringLiteral("0");
-    }
-    if (const QLineEdit *line = lineOf(field)) {
-        return line->text();
-    }
-    if (const auto *list = qobject_cast<QComboBox *>(field)) {
-        return QString::number(list->currentIndex()) + QLatin1Char('|') + list->currentText();
-    }
-    const auto *number = qobject_cast<QSpinBox *>(field);
-    return number ? QString::number(number->value()) : textOf(field);
-}
-
-void retype(QLineEdit &line, const QString &text)
-{
-    line.setFocus();
-    line.selectAll();
-    for (const QChar c : text) {
-        QKeyEvent down(QEvent::KeyPress, 0, Qt::NoModifier, QString(c));
-        QApplication::sendEvent(&line, &down);
-    }
-    // Some fields are measured when they are left.
-    line.clearFocus();
-}
-
 bool isOfField(const QString &verb)
 {
     static const QStringList verbs = { QStringLiteral("tab"), QStringLiteral("flip"),
                                        QStringLiteral("retype"), QStringLiteral("choose"),
                                        QStringLiteral("value") };
     return verbs.contains(verb);
-}
-
-void choose(QWidget *field, int place)
-{
-    if (auto *list = qobject_cast<QComboBox *>(field)) {
-        list->setCurrentIndex(place);
-    } else if (auto *rows = qobject_cast<QListWidget *>(field)) {
-        rows->setCurrentRow(place);
-    } else if (auto *number = qobject_cast<QSpinBox *>(field)) {
-        number->setValue(place);
-    }
-}
-
-QWidget *windowTitled(const QString &title)
-{
-    for (QWidget *widget : QApplication::topLevelWidgets()) {
-        if (widget->isVisible() && widget->windowTitle().startsWith(title)) {
-            return widget;
-        }
-    }
-    return nullptr;
 }
 
 class Driver : public QObject
@@ -173,23 +90,19 @@ public:
         if (script.open(QIODevice::ReadOnly)) {
             m_steps =
                 QString::fromUtf8(script.readAll()).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+            m_steps.removeIf([](const QString &step) { return step.startsWith(QLatin1Char('#')); });
         }
-        m_log.setFileName(qEnvironmentVariable("ZEPH_SCRIPT_LOG"));
-        m_log.open(QIODevice::WriteOnly);
         m_timer.callOnTimeout(this, &Driver::tick);
         m_timer.start(stepMs);
         m_waited.start();
     }
 
 private:
-    void note(const QString &line)
-    {
-        m_log.write(QString(line).replace(QLatin1Char('\n'), QLatin1String("\\n")).toUtf8() + '\n');
-        m_log.flush();
-    }
+    void note(const QString &line) { m_notes.note(line); }
 
     void tick()
     {
+        m_tour.answerBox();
         if (m_steps.isEmpty()) {
             return;
         }
@@ -212,6 +125,9 @@ private:
     /// Does one step; false when what it waits for is not there yet.
     bool perform(const QString &verb, const QString &rest)
     {
+        if (const auto done = m_tour.perform(verb, rest, m_waited.elapsed())) {
+            return *done;
+        }
         const QString first = rest.section(QLatin1Char(' '), 0, 0);
         const QString second = rest.section(QLatin1Char(' '), 1);
         if (verb == QLatin1String("box")) {
@@ -271,7 +187,7 @@ private:
             return false;
         }
         if (verb == QLatin1String("tab")) {
-            qobject_cast<QTabWidget *>(field)->setCurrentIndex(second.toInt());
+            field->setProperty("currentIndex", second.toInt());
             return true;
         }
         if (verb != QLatin1String("value") && !field->isEnabled()) {
@@ -292,20 +208,21 @@ private:
     {
         if (verb == QLatin1String("grab")) {
             QWidget *widget = widgetNamed(first);
-            return widget && widget->window()->grab().save(second);
+            return widget && widget->window()->grab().save(QDir(m_notes.folder()).filePath(second));
         }
         if (verb == QLatin1String("minimise") || verb == QLatin1String("close")) {
-            for (QWidget *widget : QApplication::topLevelWidgets()) {
-                if (auto *main = qobject_cast<QMainWindow *>(widget)) {
-                    later(main, verb == QLatin1String("close") ? [](QWidget *w) { w->close(); }
-                                                               : [](QWidget *w) { w->showMinimized(); });
-                    return true;
-                }
+            QWidget *main = mainWindow();
+            if (main) {
+                later(main, verb == QLatin1String("close") ? [](QWidget *w) { w->close(); }
+                                                           : [](QWidget *w) { w->showMinimized(); });
             }
-            return false;
+            return main != nullptr;
         }
         if (verb == QLatin1String("pause")) {
             return m_waited.elapsed() >= first.toInt();
+        }
+        if (verb == QLatin1String("done")) {
+            return m_acts == 0;
         }
         if (verb == QLatin1String("kill")) {
             std::_Exit(9);
@@ -324,12 +241,6 @@ private:
         }
         note(QLatin1String("UNKNOWN ") + verb);
         return true;
-    }
-
-    /// Acts from the event loop, so that a modal loop begun by the act does not hold this timer.
-    template <class Target, class Act> static void later(Target *target, Act act)
-    {
-        QTimer::singleShot(0, target, [target, act] { act(target); });
     }
 
     bool box(const QString &title)
@@ -375,25 +286,19 @@ private:
         return false;
     }
 
-    static QAction *actionNamed(const QString &name)
-    {
-        for (const QWidget *widget : QApplication::allWidgets()) {
-            for (QAction *action : widget->actions()) {
-                if (action->objectName() == name) {
-                    return action;
-                }
-            }
-        }
-        return nullptr;
-    }
-
-    static bool trigger(const QString &name)
+    bool trigger(const QString &name)
     {
         QAction *action = actionNamed(name);
         if (!action || !action->isEnabled() || QApplication::activeModalWidget()) {
             return false;
         }
-        later(action, [](QAction *a) { a->trigger(); });
+        ++m_acts;
+        QTimer::singleShot(0, this, [this, action = QPointer(action)] {
+            if (action) {
+                action->trigger();
+            }
+            --m_acts;
+        });
         return true;
     }
 
@@ -464,13 +369,14 @@ private:
         return true;
     }
 
-    bool file(const QString &path)
+    bool file(const QString &name)
     {
         auto *dialog = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
         if (!dialog || !dialog->isVisible()) {
             return false;
         }
         note(QLatin1String("file ") + dialog->windowTitle());
+        const QString path = QDir(QCoreApplication::applicationDirPath()).filePath(name);
         // In one go, since the dialog writes its own choice into the field whenever it reads the
         // folder.
         later(static_cast<QDialog *>(dialog), [path](QDialog *d) {
@@ -481,7 +387,9 @@ private:
     }
 
     QStringList m_steps;
-    QFile m_log;
+    Notes m_notes;
+    TourSteps m_tour{ m_notes };
+    int m_acts = 0;
     QTimer m_timer;
     QElapsedTimer m_waited;
     QElapsedTimer m_typing;

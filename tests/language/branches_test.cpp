@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "language/model.h"
+#include "language/words.h"
 
 #include <gmock/gmock.h>
 
@@ -20,7 +21,7 @@ std::vector<std::string> branches(const QString &text)
     for (const Branch &branch : file.branches) {
         QString line;
         for (int at = 0; at < branch.chain.size; ++at)
-            line += slashModifiers()[size_t(branch.chain.links[size_t(at)].modifier)].word;
+            line += slashModifiers[size_t(branch.chain.links[size_t(at)].modifier)].text;
         line += u':';
         for (int index = branch.items.first; index < branch.items.end; ++index) {
             if (file.items[index].kind != ItemKind::Group)

@@ -79,3 +79,12 @@ TEST(ErrorCodesFile, HeadingsAreBold)
     EXPECT_TRUE(text->formatAt(start).bold);
     EXPECT_FALSE(text->formatAt(text->text.indexOf(u'\n', start) + 1).bold);
 }
+
+TEST(DocumentOfError, IsTheMacroFileForCode1013AtItsPlace)
+{
+    EXPECT_EQ(documentOfError(u"ERROR 1013: something"), DocumentKind::Macro);
+    EXPECT_EQ(documentOfError(u"ERROR 1013"), DocumentKind::Macro);
+    for (const QStringView other :
+         { u"ERROR 1012: something", u"ERROR 1014: see 1013", u"1013", u"ERROR 101", u"" })
+        EXPECT_EQ(documentOfError(other), DocumentKind::Joystick);
+}

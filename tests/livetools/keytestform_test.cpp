@@ -5,16 +5,12 @@
 
 #include "platform/clock.h"
 #include "platform/core/profile_file.h"
-#include "platform/fakes/fake_joystick.h"
 #include "platform/fakes/fake_keyboard.h"
 #include "platform/fakes/fake_launcher.h"
 #include "platform/fakes/scripted_dialogs.h"
 #include "platform/status_line.h"
 #include "settings/global_settings.h"
 #include "tests/support/temp_folder.h"
-#include "toolchain/external_tools.h"
-#include "toolchain/handshake.h"
-#include "toolchain/modes/cougar_modes.h"
 
 #include <gtest/gtest.h>
 
@@ -45,15 +41,11 @@ public:
     Paths paths;
     GlobalSettings settings;
     StatusLine status;
-    Context context{ paths, settings, status, dialogs, launcher, clock, keyboard };
-    FakeJoystick joystick;
-    ToolchainHandshake handshake{ context, nullptr };
-    CougarModes modes{ context, handshake, joystick };
-    ExternalTools tools{ context, modes };
-    QAction directXTester{ nullptr };
-    /// The switches of the requests to the Cougar.
     QStringList asked;
-    bool directXStarted = false;
+    bool hasDirectX = true;
+    QAction emptyBuffers;
+    QAction clearMemory;
+    QAction directX;
     QPointer<KeyTestForm> form;
 
     void SetUp() override
@@ -64,14 +56,10 @@ public:
         folder.write(u"KeyCodes.txt"_s,
                      "9,Tab\r\n13,Enter\r\n20,Caps Lock\r\n32,Space\r\n37,Left Arrow\r\n112,F1\r\n"
                      "121,F10\r\n93,Menu\r\n27,Escape\r\n");
-        folder.write(u"HOTASConfig.exe"_s, "tool");
-        launcher.onStart = [this](const Launch &launch) {
-            asked += launch.arguments.section(u' ', -1);
-            return Expected<void, QString>();
-        };
-        QObject::connect(&directXTester, &QAction::triggered, &directXTester,
-                         [this] { directXStarted = true; });
         report("OKAY", 1);
+        noteRuns(emptyBuffers, u"memory 0"_s);
+        noteRuns(clearMemory, u"memory 1"_s);
+        noteRuns(directX, u"directx"_s);
     }
     void TearDown() override
     {
@@ -85,9 +73,21 @@ public:
                      "[TMMODE]\r\nStatus=" + modeStatus
                          + "\r\nAxes=1\r\nButtons=" + QByteArray::number(buttons) + "\r\n");
     }
+    void noteRuns(QAction &entry, const QString &words)
+    {
+        QObject::connect(&entry, &QAction::triggered, &entry,
+                         [this, words] { asked.append(words); });
+    }
     bool open()
     {
-        form = new KeyTestForm(context, { modes, tools, directXTester });
+        directX.setVisible(hasDirectX);
+        form = new KeyTestForm({ paths, settings, status, dialogs, launcher, clock, keyboard },
+                               KeyTestEntries{ { &emptyBuffers, &clearMemory }, &directX });
+        QObject::connect(form, &KeyTestForm::buttonsModeWanted, form, [this](bool programmed) {
+            asked.append(programmed ? u"programmed"_s : u"windows"_s);
+        });
+        QObject::connect(form, &KeyTestForm::emergencyOff, form,
+                         [this] { asked.append(u"emergency"_s); });
         form->setAttribute(Qt::WA_DeleteOnClose);
         const bool loaded = form->Form_Load();
         if (loaded) {
@@ -137,7 +137,7 @@ const QColor orange(0xFF, 0xC0, 0x80);
 TEST_F(KeyTester, AsksForProgrammedModeWhenItOpens)
 {
     ASSERT_TRUE(open());
-    EXPECT_EQ(asked, QStringList{ u"/BU"_s });
+    EXPECT_EQ(asked, QStringList{ u"programmed"_s });
     EXPECT_FALSE(child<QPushButton>(u"LBL_ModeWarning"_s)->isVisible());
     EXPECT_EQ(keys(), QString());
     EXPECT_EQ(events(), QString());
@@ -223,8 +223,7 @@ TEST_F(KeyTester, ShiftAndPauseAlwaysGetsOut)
         stroke(Qt::Key_A, {}, u"a"_s);
     }
     stroke(Qt::Key_Pause, Qt::ShiftModifier, u"\x13"_s);
-    EXPECT_EQ(asked.last(), u"/BW");
-    EXPECT_EQ(status.text(), u" Control has been returned to Zeph");
+    EXPECT_EQ(asked.last(), u"emergency");
     EXPECT_FALSE(form && form->isVisible());
 }
 
@@ -317,7 +316,7 @@ TEST_F(KeyTester, TheEmergencyMenuSendsItsRequests)
          { u"mnuEmergencyOff", u"mnuMemoryClear_0", u"mnuMemoryClear_1", u"mnuYankCord" }) {
         choose(QString::fromUtf16(name));
     }
-    EXPECT_EQ(asked, (QStringList{ u"/BW"_s, u"/EB"_s, u"/CM"_s }));
+    EXPECT_EQ(asked, (QStringList{ u"windows"_s, u"memory 0"_s, u"memory 1"_s }));
     EXPECT_EQ(dialogs.boxes().last().text,
               u"You don't think I can do this for you, do you? I'm just a computer, and I've got "
               "enough of my own problems thank you very much without having to be burdened with "
@@ -329,9 +328,9 @@ TEST_F(KeyTester, TheDirectXTesterIsOnOfferWhereThereIsOne)
     ASSERT_TRUE(open());
     EXPECT_EQ(action(u"mnuDX8KeyTester"_s)->text(), u"Zeph's DX8 KeyTester");
     choose(u"mnuDX8KeyTester"_s);
-    EXPECT_TRUE(directXStarted);
+    EXPECT_EQ(asked.last(), u"directx");
     delete form;
-    directXTester.setVisible(false);
+    hasDirectX = false;
     ASSERT_TRUE(open());
     EXPECT_FALSE(action(u"mnuDX8KeyTester"_s)->isVisible());
 }

@@ -18,10 +18,13 @@ public:
     explicit Hammer(QWidget *parent) : QDialog(parent) { }
 };
 
-class Saw : public QDialog
+class Saw : public QDialog, public AsksBeforeClosing
 {
+    Q_OBJECT
 public:
     explicit Saw(QWidget *parent) : QDialog(parent) { }
+    bool mayClose() override { return isSharp; }
+    bool isSharp = true;
 };
 
 struct Tools : testing::Test {
@@ -108,6 +111,41 @@ TEST_F(Tools, OneThatItsUserMinimisedStaysSo)
     EXPECT_TRUE(hammer->isMinimized());
 }
 
+TEST_F(Tools, AreOfferedOnceAndThenOpenedByClassAlone)
+{
+    int made = 0;
+    windows.offer<Hammer>([&made](QWidget *parent) {
+        ++made;
+        return new Hammer(parent);
+    });
+    EXPECT_EQ(made, 0);
+    Hammer *hammer = windows.open<Hammer>();
+    EXPECT_TRUE(hammer->isVisible());
+    EXPECT_EQ(windows.load<Hammer>(), hammer);
+    EXPECT_EQ(made, 1);
+}
+
+TEST_F(Tools, TellWhoeverWaitsForTheirClassThatTheyWereMade)
+{
+    QList<Saw *> told;
+    windows.whenLoaded<Saw>(&owner, [&told](Saw &saw) { told.append(&saw); });
+    openHammer();
+    EXPECT_TRUE(told.isEmpty());
+    Saw *saw = openSaw();
+    openSaw();
+    EXPECT_EQ(told, QList<Saw *>{ saw });
+}
+
+TEST_F(Tools, WithSomethingToSaveAreAskedBeforeAllGo)
+{
+    EXPECT_TRUE(windows.mayUnloadAll());
+    openHammer();
+    Saw *saw = openSaw();
+    EXPECT_TRUE(windows.mayUnloadAll());
+    saw->isSharp = false;
+    EXPECT_FALSE(windows.mayUnloadAll());
+}
+
 TEST_F(Tools, AllGoAtOnce)
 {
     const QPointer<Hammer> hammer = openHammer();
@@ -116,3 +154,5 @@ TEST_F(Tools, AllGoAtOnce)
     EXPECT_TRUE(hammer.isNull());
     EXPECT_TRUE(saw.isNull());
 }
+
+#include "tool_windows_test.moc"

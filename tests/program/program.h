@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "platform/core/base.h"
 #include "tests/support/temp_folder.h"
 
 #include <QProcess>

@@ -21,7 +21,7 @@ Tooltips tooltipsOf(std::span<const ToolButtonRow> rows, const ToolbarChoices &c
 {
     Tooltips tooltips;
     for (const ToolButtonRow &row : rows) {
-        tooltips.insert(row.place, QString::fromUtf16(lookOf(row, choices).tooltip));
+        tooltips.insert(row.place, tooltipOf(row, choices));
     }
     return tooltips;
 }
@@ -91,7 +91,7 @@ TEST(Toolbar2, HoldsTheToolsInTheirOrder)
 {
     QStringList tooltips;
     for (const ToolButtonRow &row : toolbar2Table().first(15)) {
-        tooltips.append(QString::fromUtf16(row.look.tooltip));
+        tooltips.append(tooltipOf(row, { .directXKeyTester = true }));
     }
     EXPECT_EQ(tooltips,
               QStringList({ u"Composer (F2)"_s, u"Tumbo (F4)"_s,

@@ -23,6 +23,7 @@
 #include "shell/welcome.h"
 #include "templates/templateform.h"
 #include "tests/shell/shell_world.h"
+#include "text/macro_table.h"
 #include "toolchain/games/entergamename.h"
 #include "toolchain/games/games.h"
 #include "toolchain/modes/formresetoptions.h"
@@ -180,7 +181,7 @@ const LintCase cases[] = {
           return std::make_unique<EnterFavouritename>();
       } },
     { "KeyTestForm",
-      [](auto &w) { return std::make_unique<KeyTestForm>(w.context(), KeyTestHost()); },
+      [](auto &w) { return std::make_unique<KeyTestForm>(w.context(), KeyTestEntries()); },
       ShowsEscape },
     { "Heading",
       [](auto &) {
@@ -210,7 +211,8 @@ const LintCase cases[] = {
       } },
     { "TemplateForm",
       [](auto &w) {
-          return std::make_unique<TemplateForm>(w.context(), w.printers, TemplateHost());
+          static const MacroTable noMacros;
+          return std::make_unique<TemplateForm>(w.context(), w.printers, noMacros);
       } },
     { "Mum", makeMum },
 };

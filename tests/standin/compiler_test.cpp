@@ -221,15 +221,6 @@ TEST_F(Compiler, AcceptsTheFileForGames)
     EXPECT_EQ(value(u"Status"_s), u"OK") << value(u"ErrorCode"_s).toStdString();
 }
 
-TEST(MacroExtension, FollowsTheJoystickFiles)
-{
-    EXPECT_EQ(macroExtension(u"a.tmj"_s), u"tmm");
-    EXPECT_EQ(macroExtension(u"a.F22"_s), u"m22");
-    EXPECT_EQ(macroExtension(u"a.b50"_s), u"m50");
-    EXPECT_EQ(macroExtension(u"a.adv"_s), u"mdf");
-    EXPECT_EQ(macroExtension(u"a"_s), u"tmm");
-}
-
 TEST(FindMacroFile, AddsTheExtensionThatBelongsToTheJoystickFile)
 {
     const test::TempFolder folder;

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "templates/templateform.h"
+#include "text/macro_table.h"
 
 #include "menus/menu_actions.h"
 #include "platform/core/rtf.h"
@@ -34,15 +35,11 @@ protected:
 
     void makeForm()
     {
-        TemplateHost host;
-        host.macroKeys = [](const QString &word) {
-            return word == u"Fire" ? std::optional(u"Fire = SPC"_s) : std::nullopt;
-        };
-        host.fileWritten = [this](const QString &path) {
-            written.append(path);
-        };
         form = std::make_unique<TemplateForm>(
-            Context{ paths, settings, status, dialogs, launcher, clock, keyboard }, printers, host);
+            Context{ paths, settings, status, dialogs, launcher, clock, keyboard }, printers,
+            macros);
+        QObject::connect(form.get(), &TemplateForm::fileWritten, form.get(),
+                         [this](const QString &path) { written.append(path); });
         text = form->findChild<RichTextBox *>(u"TemplateText"_s);
     }
 
@@ -61,6 +58,7 @@ protected:
 
     FakePrinters printers;
     QStringList written;
+    MacroTable macros = extractMacros({ u"Fire = SPC"_s });
     std::unique_ptr<TemplateForm> form;
     RichTextBox *text = nullptr;
 };

@@ -163,12 +163,12 @@ TEST(TitleBlock, MakesNeitherAMacroNorAHeading)
     EXPECT_EQ(table.names.first(), QStringList{ u"Gun"_s });
 }
 
-TEST(SlashWords, AreTheTenModifiersDelayAndRepeatInTheMenusOrder)
+TEST(InsertText, IsTheTenModifiersDelayAndRepeatInTheMenusOrder)
 {
     QStringList texts;
-    for (const SlashWord &word : slashWords()) {
-        texts.append(slashText(word, 75));
-        EXPECT_EQ(word.isSlash, texts.last().startsWith(u'/'));
+    for (const language::Word &word : language::insertWords) {
+        texts.append(insertText(word, 75));
+        EXPECT_EQ(word.is(language::SlashRole), texts.last().startsWith(u'/'));
     }
     EXPECT_EQ(texts.join(u' '), u"/U /M /D /I /O /P /R /T /A /H DLY(75) RPT(2)");
 }

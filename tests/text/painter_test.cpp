@@ -348,6 +348,28 @@ TEST(Painter, ALongTextIsPaintedAsAShortOneIs)
     expectAsTold(text, macroPasses(), macroFile);
 }
 
+TEST(Passes, TakeTheirWordsAndColoursFromTheTable)
+{
+    for (const auto passes : { joystickPasses(), macroPasses(), typingPasses(), remPasses() }) {
+        for (const PaintPass &pass : passes) {
+            const language::Word &row = language::rowOf(pass.word);
+            EXPECT_EQ(row.text, pass.word);
+            EXPECT_EQ(row.colour, pass.colour) << pass.word.toUtf8().data();
+            EXPECT_NE(row.colour, language::ColourClass::Plain);
+        }
+    }
+}
+
+TEST(Passes, OfTheJoystickFileLeaveNoWordWithAColourOut)
+{
+    for (const language::Word &word : language::words) {
+        const bool isPainted = std::ranges::find(joystickPasses(), word.text, &PaintPass::word)
+            != joystickPasses().end();
+        EXPECT_EQ(isPainted, word.colour != language::ColourClass::Plain)
+            << word.text.toUtf8().data();
+    }
+}
+
 TEST(Recolouring, GivesEachChangedColourItsNewOne)
 {
     const ColourScheme before{

@@ -26,10 +26,27 @@ TEST(TextLines, ALineThatDoesNotExistIsNone)
     EXPECT_TRUE(lineRange(u"one\n", 2));
 }
 
-TEST(TextLines, Code1013SpeaksOfTheMacroFile)
+TEST(NormalisedLine, HasNoBlanksAtItsStartAndNoTwoSideBySide)
 {
-    EXPECT_EQ(documentOfError(u"ERROR 1013: something"), DocumentKind::Macro);
-    EXPECT_EQ(documentOfError(u"ERROR 1012: something"), DocumentKind::Joystick);
-    EXPECT_EQ(documentOfError(u"1013"), DocumentKind::Joystick);
-    EXPECT_EQ(documentOfError(u""), DocumentKind::Joystick);
+    EXPECT_EQ(normalisedLine(u" \t USE\tMDEF \t x"), u"USE MDEF x");
+    EXPECT_EQ(normalisedLine(u"a  "), u"a ");
+    EXPECT_EQ(normalisedLine(u" \t"), u"");
+    EXPECT_EQ(normalisedLine(u""), u"");
+}
+
+TEST(BeforeRem, EndsAtRemAndABlankInAnyCase)
+{
+    EXPECT_EQ(beforeRem(u"BTN S1 a REM shoots"), u"BTN S1 a ");
+    EXPECT_EQ(beforeRem(u"rem x"), u"");
+    EXPECT_EQ(beforeRem(u"a Rem"), u"a Rem");
+    // The tools have never asked for a whole word here.
+    EXPECT_EQ(beforeRem(u"Harem of keys"), u"Ha");
+    EXPECT_EQ(remAt(u"a\tRem b"), 2);
+    EXPECT_EQ(remAt(u"a"), -1);
+}
+
+TEST(WithoutBlanksAtEnd, LeavesTabs)
+{
+    EXPECT_EQ(withoutBlanksAtEnd(u"a \t  "), u"a \t");
+    EXPECT_EQ(withoutBlanksAtEnd(u"   "), u"");
 }

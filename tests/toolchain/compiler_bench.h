@@ -78,9 +78,9 @@ private:
 
 inline constexpr MenuRow testerMenus[] = { { u"mnuApps", u"Apps" } };
 inline constexpr ActionRow testerRows[] = {
-    { u"mnuApps", u"mnuAppsKeyTester", u"Key Tester", u"", u"", u"", When::Always,
+    { u"mnuApps", u"mnuAppsKeyTester", u"Key Tester", u"", u"", u"", CommonWhen::Always,
       ActionKind::Entry },
-    { u"mnuApps", u"mnuAppsDX8_0", u"DirectX tester", u"", u"", u"", When::Always,
+    { u"mnuApps", u"mnuAppsDX8_0", u"DirectX tester", u"", u"", u"", CommonWhen::Always,
       ActionKind::Entry },
 };
 
@@ -165,7 +165,7 @@ protected:
     AfterDownload afterDownload{ context };
     FakeSaver saver{ documents, done };
     FakeScene scene{ done };
-    MenuActions actions{ dialogs, {}, testerMenus, testerRows };
+    MenuActions actions{ dialogs, {}, testerMenus, testerRows, &mainWindow };
     QString app;
     QString statusWritten = u"OKAY"_s;
     QString lineWritten = u"0"_s;

@@ -13,6 +13,10 @@ namespace zeph {
 
 namespace {
 
+using language::operator""_w;
+
+/// Where a definition ends, in the order in which the words are sought.
+constexpr QStringView keywords = u"BTN RNG ANT MDEF JSX JSY PORTB USE RATE SWAPTG THR RDDR"_w;
 constexpr QStringView portHead = u"PortB";
 constexpr qsizetype portPrefix = 4;
 
@@ -25,7 +29,7 @@ std::optional<LineRange> buttonDefinition(QStringView text, const QString &head)
         return std::nullopt;
     }
     qsizetype end = text.size();
-    for (const QStringView keyword : language::definitionKeywords()) {
+    for (const QStringView keyword : keywords.split(u' ')) {
         const qsizetype next = findText(text, keyword, start + head.size(), SearchWholeWord);
         end = next < 0 ? end : std::min(end, next);
     }

@@ -26,10 +26,7 @@ InsertForms::InsertForms(const Context &context, const Parts &parts)
     on.connectTo(u"mnuInsertTitle", [this] { mnuInsertTitle_Click(); });
     on.connectTo(u"mnuInsertHeading", [this] { mnuInsertHeading_Click(); });
     on.connectTo(u"mnuInsertRemStatement", [this] { mnuInsertRemStatement_Click(); });
-    for (int i = 0; i < int(slashWords().size()); ++i) {
-        on.connectTo(u"mnuSlashArray_"_s + QString::number(i),
-                     [this, i] { mnuSlashArray_Click(i); });
-    }
+    on.connectArray(u"mnuSlashArray"_s, [this](int i) { mnuSlashArray_Click(i); });
     on.connectTo(u"mnuSlashWindow", [this] { mnuSlashWindow_Click(); });
     on.connectTo(u"mnuInsertQuickTip", [this] { Q_EMIT helpOn(u"insert forms"_s); });
 }
@@ -130,14 +127,15 @@ void InsertForms::insertRem(const QString &text, bool addCarriageReturn)
 
 void InsertForms::mnuSlashArray_Click(int Index)
 {
-    const SlashWord &word = slashWords()[size_t(Index)];
+    const language::Word &word = language::insertWords[size_t(Index)];
     const GlobalSettings &settings = m_context.settings;
     ColouredInsert &insert = m_parts.insert;
-    insert.TextToInsert = slashText(word, settings.DefaultDLYvalue);
+    insert.TextToInsert = insertText(word, settings.DefaultDLYvalue);
     insert.AddSpaceToColouredText();
     insert.BeginColInsert();
     insert.InsertColouredString(insert.TextToInsert,
-                                word.isSlash ? settings.SlashColour : settings.RAWColour);
+                                word.is(language::SlashRole) ? settings.SlashColour
+                                                             : settings.RAWColour);
     insert.EndColInsert();
 }
 

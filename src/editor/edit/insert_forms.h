@@ -36,7 +36,7 @@ public:
     void mnuInsertTitle_Click();
     void mnuInsertHeading_Click();
     void mnuInsertRemStatement_Click();
-    /// Index of a word among slashWords().
+    /// Index of a word in insertWords.
     void mnuSlashArray_Click(int Index);
     void mnuSlashWindow_Click();
 

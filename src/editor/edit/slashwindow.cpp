@@ -34,7 +34,7 @@ void SlashWindow::makeButtons()
 {
     auto *grid = new QGridLayout(this);
     int index = 0;
-    for (const SlashWord &word : slashWords()) {
+    for (const language::Word &word : language::insertWords) {
         auto *button = new QPushButton(this);
         button->setObjectName(u"Command1_"_s + QString::number(index));
         button->setToolTip(QString::fromUtf16(word.tip));
@@ -47,9 +47,9 @@ void SlashWindow::makeButtons()
 
 void SlashWindow::applySettings()
 {
-    const auto words = slashWords();
     for (int i = 0; i < m_buttons.count(); ++i) {
-        m_buttons[i]->setText(slashText(words[size_t(i)], m_settings.DefaultDLYvalue));
+        m_buttons[i]->setText(
+            insertText(language::insertWords[size_t(i)], m_settings.DefaultDLYvalue));
     }
 }
 

@@ -13,8 +13,8 @@ namespace zeph {
 
 struct GlobalSettings;
 
-/// The floating palette of the slash modifiers, captioned with the words that it inserts. Writing
-/// them is whoever's who hears it.
+/// The floating palette of the slash modifiers, captioned with the words that it inserts.
+/// Emits chosen(); InsertForms writes the word.
 class SlashWindow : public QDialog
 {
     Q_OBJECT
@@ -25,7 +25,7 @@ public:
     void applySettings();
 
 Q_SIGNALS:
-    /// A button was pressed: its index among slashWords().
+    /// A button was pressed: its index in insertWords.
     void chosen(int index);
 
 protected:

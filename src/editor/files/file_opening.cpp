@@ -86,7 +86,7 @@ std::optional<QString> FileOpening::ask(const QString &title, const QString &fil
     const Document &other =
         m_parts.view.documents().of(macro ? DocumentKind::Joystick : DocumentKind::Macro);
     const QString name = document.name() == freshName(kind)
-        ? baseWithDot(other.name()) + (macro ? u"tmm"_s : u"tmj"_s)
+        ? baseWithDot(other.name()) + extensionOf(kind)
         : document.name();
     return m_context.dialogs.openFile(
         { title, filter, extension, m_context.paths.filesFolder(), name });

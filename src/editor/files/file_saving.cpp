@@ -97,10 +97,9 @@ void FileSaving::mnuFileSaveBoth_Click()
 
 QString FileSaving::proposedName(const Document &document)
 {
-    const bool macro = document.kind() == DocumentKind::Macro;
     const Document &other = m_view.documents().other(document);
     if (isUntitled(document.name()) && !isUntitled(other.name())) {
-        return baseWithDot(other.name()) + (macro ? u"tmm"_s : u"tmj"_s);
+        return baseWithDot(other.name()) + extensionOf(document.kind());
     }
     return document.name();
 }

@@ -4,6 +4,7 @@
 #include "editor/macros/framemacros.h"
 
 #include "editor/macros/macro_list_model.h"
+#include "platform/colours.h"
 #include "settings/global_settings.h"
 
 #include <QComboBox>
@@ -24,11 +25,6 @@ namespace {
 constexpr int stripWidth = 6;
 /// What a drag leaves of the window for the texts.
 constexpr int narrowestTexts = 200;
-
-QColor toColor(ColorRef colour)
-{
-    return QColor(redOf(colour), greenOf(colour), blueOf(colour));
-}
 
 /// Draws the ticks' boxes in a shade between the list's two colours, whatever pilots make of these:
 /// the style takes the desktop's own, which can be that of the list.

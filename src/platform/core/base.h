@@ -3,7 +3,7 @@
 
 #pragma once
 
-// What every file of Zeph leans on: the result type and the string literals.
+// What every file of Zeph uses: the result type and the string literals.
 
 #include <QString>
 

@@ -7,9 +7,9 @@
 
 namespace zeph {
 
-/// Whether a file is marked as read only. Asks the mark, not whether this user could write all the
-/// same: an administrator's rights do not undo a mark that somebody set on purpose. A missing file
-/// is not read only.
+/// Whether a file is marked as read only. The mark counts, not whether this user could write in
+/// spite of it: somebody set it on purpose, and an administrator's rights do not undo that. A
+/// missing file is not read only.
 bool isReadOnlyFile(const QString &path);
 
 } // namespace zeph

@@ -31,7 +31,7 @@ Unexpected<FileError> failure(const QString &path, std::errc code)
     return failure(path, QString::fromStdString(std::make_error_code(code).message()));
 }
 
-/// The file behind a chain of links, which need not exist; empty when the chain does not end.
+/// The target of a chain of links, which need not exist; empty when the chain does not end.
 QString behindLinks(QString path)
 {
     for (int i = 0; i < maxLinks; ++i) {
@@ -44,7 +44,7 @@ QString behindLinks(QString path)
     return {};
 }
 
-/// Brings the bytes to the disk. The reason when the disk refuses them only now.
+/// Flushes the bytes to the disk. Gives the reason when the disk refuses them only now.
 std::optional<std::errc> flushToDisk([[maybe_unused]] int handle)
 {
 #ifdef Q_OS_UNIX
@@ -61,7 +61,7 @@ std::optional<std::errc> flushToDisk([[maybe_unused]] int handle)
 Expected<QByteArray, FileError> readWholeFile(const QString &path)
 {
     if (path.isEmpty()) {
-        // What existingPath() gives for a file that is not there.
+        // existingPath() gives an empty path for a file that does not exist.
         return failure(path, std::errc::no_such_file_or_directory);
     }
     const QFileInfo info(path);

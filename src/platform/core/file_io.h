@@ -22,7 +22,7 @@ Expected<QByteArray, FileError> readWholeFile(const QString &path);
 
 /// Replaces a file's content in one step: the bytes are written beside it, flushed to the disk, and
 /// renamed over it. Whatever happens, the path holds the old or the new content whole. Keeps the
-/// permissions of the file that it replaces; follows a symbolic link to the file behind it.
+/// permissions of the file that it replaces; follows a symbolic link to its target.
 Expected<void, FileError> writeFileAtomically(const QString &path, const QByteArray &bytes);
 
 } // namespace zeph

@@ -12,8 +12,8 @@
 
 namespace zeph {
 
-/// Puts an item at place 1 of a list of at most that many: one that is the same goes out of its
-/// place, the others keep their order, and what then stands behind the limit falls off.
+/// Puts an item at the front of a list of at most so many: an item that is the same leaves its
+/// place, the others keep their order, and those after the limit are removed.
 template <class T, class Same> void putFirst(QList<T> &list, T item, qsizetype most, Same same)
 {
     const auto found =

@@ -54,14 +54,14 @@ bool canMakeFilesIn(const QString &folder)
     return probe.open();
 }
 
-/// Copies what is not there yet. The copy can be written, whatever the original allows.
+/// Copies files that do not exist yet. The copies can be written even where the originals cannot.
 void copyInto(const QString &from, const QString &to)
 {
     if (QFileInfo::exists(to)) {
         return;
     }
     QDir().mkpath(QFileInfo(to).path());
-    // Under its own name only once it is whole: a start that is cut short is made good by the next.
+    // A file gets its name when it is whole: the start after one that was cut short copies it anew.
     const QString part = to + u".part"_s;
     QFile::remove(part);
     if (QFile::copy(from, part)) {
@@ -77,7 +77,7 @@ void fillFolder(const QString &from, const QString &to)
         return;
     }
     const QDir source(from);
-    // The program itself is started from where it is installed.
+    // The program itself needs no copy: it runs from the folder where it is installed.
     const QString program = QFileInfo(QCoreApplication::applicationFilePath()).canonicalFilePath();
     QDirIterator files(from, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
     while (files.hasNext()) {

@@ -34,7 +34,7 @@ struct Paths {
 QString nativeSeparators(QString path);
 /// A folder with exactly one closing separator; empty stays empty.
 QString withClosingSeparator(QString folder);
-/// What stands before and behind the last separator ("/" or "\"). The folder keeps its separator.
+/// The parts before and after the last separator ("/" or "\"). The folder keeps its separator.
 QString folderOf(const QString &path);
 QString nameOf(const QString &path);
 

@@ -18,14 +18,14 @@ namespace {
 
 constexpr QByteArrayView byteOrderMark = "\xEF\xBB\xBF";
 
-/// Offsets into the file: [start, end) is the line, next the start of the line behind it.
+/// Offsets into the file: [start, end) is the line, next the start of the line after it.
 struct Line {
     qsizetype start = 0;
     qsizetype end = 0;
     qsizetype next = 0;
 };
 
-/// Walks the lines of a file. Ends of all three kinds part them, mixed in one file too.
+/// Walks the lines of a file. All three kinds of line ends count, also mixed in one file.
 class Lines
 {
 public:
@@ -118,19 +118,19 @@ bool isQuoted(QStringView value)
         && (value.front() == u'"' || value.front() == u'\'');
 }
 
-/// Where a key stands, or where it would go.
-struct Place {
+/// Where a key is, or where it would be added.
+struct KeyPlace {
     bool hasSection = false;
-    qsizetype sectionEnd = 0; ///< behind the section's last line that is not empty
+    qsizetype sectionEnd = 0; ///< after the section's last line that is not empty
     bool hasKey = false;
     Line line; ///< the key's
-    qsizetype valueStart = 0; ///< behind the "=" and its blanks
+    qsizetype valueStart = 0; ///< after the "=" and its blanks
     qsizetype valueEnd = 0; ///< the line's end, blanks included
 };
 
-Place placeOf(const QByteArray &file, QStringView section, QStringView key)
+KeyPlace placeOf(const QByteArray &file, QStringView section, QStringView key)
 {
-    Place place;
+    KeyPlace place;
     Lines lines(file);
     Line line;
     while (lines.next(line)) {
@@ -165,11 +165,11 @@ Place placeOf(const QByteArray &file, QStringView section, QStringView key)
     return place;
 }
 
-QString valueAt(const QByteArray &file, const Place &place)
+QString valueAt(const QByteArray &file, const KeyPlace &place)
 {
     QByteArrayView bytes =
         QByteArrayView(file).sliced(place.valueStart, place.valueEnd - place.valueStart);
-    // To the platform's calls a text ends at its first NUL.
+    // The platform's calls end a text at its first NUL.
     const qsizetype nul = bytes.indexOf('\0');
     if (nul >= 0) {
         bytes = bytes.first(nul);
@@ -188,7 +188,7 @@ QByteArray lineEndOf(const QByteArray &file)
     return file.sliced(line.end, line.next - line.end);
 }
 
-/// What can stand in one line: nothing from the first NUL or line end on.
+/// The part of a text that fits into one line: up to the first NUL or line end.
 QStringView oneLine(QStringView text)
 {
     const auto end = std::find_if(text.begin(), text.end(),
@@ -220,7 +220,7 @@ bool isSectionName(QStringView section)
 
 std::optional<QString> value(const QByteArray &file, QStringView section, QStringView key)
 {
-    const Place place = placeOf(file, withoutBlanks(section), withoutBlanks(key));
+    const KeyPlace place = placeOf(file, withoutBlanks(section), withoutBlanks(key));
     return place.hasKey ? std::optional(valueAt(file, place)) : std::nullopt;
 }
 
@@ -232,7 +232,7 @@ QByteArray withValue(const QByteArray &file, const ProfileEntry &entry)
         return file;
     }
     const QStringView text = oneLine(entry.value);
-    const Place place = placeOf(file, section, key);
+    const KeyPlace place = placeOf(file, section, key);
     QByteArray result = file;
     if (place.hasKey) {
         if (valueAt(file, place) != text) {
@@ -254,8 +254,8 @@ QByteArray withValue(const QByteArray &file, const ProfileEntry &entry)
 QByteArray withoutKeys(QByteArray file, QStringView section, const QStringList &keys)
 {
     for (const QString &key : keys) {
-        // Behind a line that goes, another of the same key would come to count.
-        for (Place place = placeOf(file, withoutBlanks(section), key); place.hasKey;
+        // Without this line a later one of the same key would count: all of them go.
+        for (KeyPlace place = placeOf(file, withoutBlanks(section), key); place.hasKey;
              place = placeOf(file, withoutBlanks(section), key)) {
             file.remove(place.line.start, place.line.next - place.line.start);
         }
@@ -285,14 +285,14 @@ qint32 integerOf(const std::optional<QString> &value, qint32 fallback)
 
 namespace {
 
-/// The file of that name as it stands on the disk, or the name itself for one that is to be made.
+/// The path under which the file really exists, or the given one when it is to be made.
 QString diskPath(const QString &path)
 {
     const QString found = existingPath(path);
     return found.isEmpty() ? nativeSeparators(path) : found;
 }
 
-/// The value of an entry that cannot be put down in the file, or no value.
+/// The first entry whose value the file's code page cannot hold, or null.
 const ProfileEntry *firstUnwritable(const QList<ProfileEntry> &entries)
 {
     const auto found = std::ranges::find_if(

@@ -54,7 +54,7 @@ public:
 
     const QString &path() const { return m_path; }
 
-    /// The whole file as it stands, for many reads at one moment. A missing file is empty.
+    /// The whole file as it is now, for many reads at one moment. A missing file is empty.
     Expected<QByteArray, FileError> bytes() const;
 
     /// The value, cut to buffer - 1 characters; the fallback when absent. A missing file is empty.

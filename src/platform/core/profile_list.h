@@ -3,7 +3,7 @@
 
 #pragma once
 
-// Lists in profile files: a count, and for each item keys with its place behind their names, as in
+// Lists in profile files: a count, and for each item keys that end with its place, as in
 // "FavName1", "FavJFPath1", "FavName2".
 
 #include "platform/core/profile_file.h"
@@ -25,11 +25,11 @@ struct ProfileListKeys {
 /// One item: its values in the order of the fields.
 using ProfileRow = QStringList;
 
-/// The list as one look at the disk finds it; an absent value is empty.
+/// Reads the list from one state of the file; an absent value is empty.
 QList<ProfileRow> readProfileList(const ProfileFile &store, const ProfileListKeys &keys);
 
-/// What has to be written for the list to stand in the store. A value that the store's code page
-/// cannot hold is emptied, so that no earlier item's value stays in its place.
+/// The entries to write so that the store holds the list. A value that the store's code page cannot
+/// hold is written empty, so that no earlier item's value stays in its place.
 QList<ProfileEntry> profileListEntries(const ProfileListKeys &keys, const QList<ProfileRow> &rows);
 
 /// Puts the list in place of the one in the store, along with more entries. Keys of items that it

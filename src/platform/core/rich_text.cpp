@@ -122,7 +122,7 @@ RichText RichText::mid(qsizetype from, qsizetype length) const
 void RichText::append(const RichText &other)
 {
     if (text.isEmpty()) {
-        // Taken whole: an empty text has no paragraph worth keeping unless the other is empty too.
+        // The other text replaces an empty one whole: that has no paragraph format worth keeping.
         if (!other.text.isEmpty() || paragraphs.empty()) {
             *this = other;
         }

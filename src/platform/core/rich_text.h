@@ -82,11 +82,11 @@ struct RichText {
                           const ParagraphFormat &paragraph = {});
 
     qsizetype paragraphCount() const { return text.count(u'\n') + 1; }
-    /// The format of a character; behind the text's end, of the last one.
+    /// The format of a character; beyond the end of the text, that of the last one.
     CharFormat formatAt(qsizetype position) const;
     /// The stretch [from, from + length), clamped to the text.
     RichText mid(qsizetype from, qsizetype length) const;
-    /// Adds a text behind this one, at the cost of the other's length. Where two paragraphs become
+    /// Adds a text at the end, at the cost of the other's length. Where two paragraphs become
     /// one, this one's format stays, unless it has no characters yet. Both values are normal.
     void append(const RichText &other);
     /// Changes the formats of a stretch through a function. A call costs the number of runs: a

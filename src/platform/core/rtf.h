@@ -23,11 +23,11 @@ struct RtfError {
 /// Reads what it understands and skips the rest; unknown words and destinations are no error.
 /// An error is given for what is no RTF at all, for unbalanced groups and for nesting beyond a
 /// fixed depth. Memory stays proportional to the input.
-/// A \par with nothing behind it ends the last paragraph and adds no empty one. Bullets are
+/// A \par with nothing after it ends the last paragraph and adds no empty one. Bullets are
 /// paragraphs' formats; the numbers of numbered lists stay text.
 Expected<RichText, RtfError> readRtf(QByteArrayView bytes);
 
-/// The whole value as RTF 1 in 7-bit ASCII; characters beyond 1252 as \uN with "?" behind.
+/// The whole value as RTF 1 in 7-bit ASCII; characters beyond 1252 as \uN and a "?".
 /// readRtf() gives the same value back, but for sizes, which RTF holds in half points.
 QByteArray writeRtf(const RichText &text);
 

@@ -13,7 +13,7 @@
 
 namespace zeph::rtf {
 
-/// The characters of the bytes 80 to FF. Unassigned bytes stand for the character of their number.
+/// The characters of the bytes 80 to FF. Unassigned bytes are the character of their number.
 using HighHalf = std::array<char16_t, 128>;
 
 /// The upper half of a code page that is built in, or null for the others: decode those whole, with

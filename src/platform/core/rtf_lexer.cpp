@@ -11,7 +11,7 @@ namespace zeph::rtf {
 
 namespace {
 
-/// Bytes that end a stretch of text: one look-up a byte is what reading a large file costs.
+/// Bytes that end a stretch of text, as a table: reading costs one look-up a byte.
 constexpr std::array<bool, 256> makeTextEnds()
 {
     std::array<bool, 256> ends{};

@@ -19,7 +19,7 @@ struct Token {
         Word, ///< \name or \nameN: text is the name
         Symbol, ///< \ and a character that is no letter: text is that character
         Byte, ///< \'hh: value is the byte
-        Text, ///< bytes that stand for themselves, without line ends and NULs
+        Text, ///< plain bytes, without line ends and NULs
     };
     Kind kind = Kind::End;
     std::string_view text; ///< into the input

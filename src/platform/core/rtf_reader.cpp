@@ -11,7 +11,7 @@ namespace rtf {
 
 namespace {
 
-// Word nests a few dozen groups; what goes beyond this was made to do harm.
+// Word nests a few dozen groups; a file that nests more than this was made to do harm.
 constexpr size_t maxDepth = 256;
 constexpr int maxIndentTwips = 31680;
 
@@ -52,7 +52,7 @@ ParagraphFormat GroupState::paragraphFormat() const
 
 Reader::Reader(QByteArrayView bytes) : m_lexer(bytes)
 {
-    // Words take about as much room as text; where they do not, the text grows.
+    // An estimate: control words take about half of a file. The text grows where they do not.
     m_result.text.reserve(bytes.size() / 2);
 }
 
@@ -119,7 +119,7 @@ void Reader::handle(const Token &token)
     m_starred = false;
 }
 
-/// Takes what stands in for a \uN off the input; gives whether that was all of the token.
+/// Skips the characters that older readers show for a \uN. True when they are the whole token.
 bool Reader::stepOverFallback(Token &token)
 {
     switch (token.kind) {
@@ -377,7 +377,7 @@ RichText Reader::finish()
 {
     flushBytes();
     if (m_endsWithParagraph) {
-        // Every writer closes the last paragraph too; behind it none begins.
+        // Every writer closes the last paragraph too; no other begins after it.
         m_result.text.chop(1);
         --m_result.characters.back().length;
     } else {

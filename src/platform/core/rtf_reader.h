@@ -36,7 +36,7 @@ struct GroupState {
     int leftTwips = 0;
     int firstTwips = 0;
     int codePage = 1252;
-    int unicodeFallback = 1; ///< characters behind \uN that stand in for it
+    int unicodeFallback = 1; ///< characters after \uN that older readers show for it
     ParagraphAlignment alignment = ParagraphAlignment::Left;
     bool bullet = false;
     Destination destination = Destination::Document;
@@ -103,8 +103,8 @@ private:
     std::vector<GroupState> m_groups;
     RichText m_result;
     QByteArray m_bytes; ///< of a code page that may need two for a character, not yet decoded
-    int m_toStepOver = 0; ///< characters that stand in for a \uN
-    bool m_starred = false; ///< behind \*
+    int m_toStepOver = 0; ///< characters left that older readers show for a \uN
+    bool m_starred = false; ///< right after \*
 
     FontTable m_fonts;
     ColourTable m_colours;
@@ -120,7 +120,7 @@ private:
     ParagraphFormat m_textParagraph; ///< at the last text of the open paragraph
     bool m_paragraphHasText = false;
     bool m_paragraphHasBullet = false; ///< its own marker has been read
-    bool m_endsWithParagraph = false; ///< nothing stands behind the last \par
+    bool m_endsWithParagraph = false; ///< nothing came after the last \par
 };
 
 struct Word {

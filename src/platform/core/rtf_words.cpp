@@ -197,7 +197,7 @@ void Reader::resetParagraph(int, const Token &)
     state().leftTwips = 0;
     state().firstTwips = 0;
     state().alignment = ParagraphAlignment::Left;
-    // Word puts the marker in front of the word that resets what is left of the last paragraph.
+    // Word writes the marker before the word that resets the formats of the last paragraph.
     state().bullet = m_paragraphHasBullet;
 }
 

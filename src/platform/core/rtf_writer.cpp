@@ -21,7 +21,7 @@ constexpr int bulletTwips = 360;
 constexpr int maxIndentTwips = 31680;
 constexpr int maxHalfPoints = 3276;
 
-/// Bytes that are put one behind the other; room is asked for once for many.
+/// Collects bytes one after the other. Reserves room for many at once.
 class Sink
 {
 public:
@@ -132,7 +132,8 @@ private:
     std::vector<ParagraphRun> m_paragraphs; ///< of the piece
     Sink m_body;
     Look m_look;
-    bool m_isWordOpen = false; ///< the last thing written is a word, which text would continue
+    bool m_isWordOpen =
+        false; ///< a control word was written last, and text right after it would lengthen it
 
     size_t m_paragraphRun = 0;
     qsizetype m_inParagraphRun = 0;

@@ -19,7 +19,7 @@ bool isStorable(const QString &text);
 /// when the store could not give it back.
 QString storableOr(const QString &typed, const QString &before);
 
-/// Tells the first character among the texts that stands in the way; empty when all are storable.
+/// Tells the user the first character among the texts that cannot be stored; empty when all can.
 QString unstorableHint(const QStringList &texts);
 
 } // namespace zeph

@@ -8,7 +8,7 @@
 namespace zeph {
 
 /// What one look at a joystick gave. Results, button bits and POV values are those of the
-/// Windows multimedia joystick services, whatever lies below.
+/// Windows multimedia joystick services on every system.
 struct JoystickReading {
     /// 0 = answered; 165 = pulled out; anything else: not there or not readable.
     quint32 result = 0;
@@ -24,11 +24,11 @@ class Joystick
 public:
     static constexpr quint32 answered = 0;
     static constexpr quint32 unplugged = 165;
-    /// No controller of that number was ever there.
+    /// The result for a number that no controller ever had.
     static constexpr quint32 badId = 2;
 
     virtual ~Joystick() = default;
-    /// Reads the controller afresh; never blocks.
+    /// Reads the controller's present state; never blocks.
     virtual JoystickReading read(int id) = 0;
 };
 

@@ -21,7 +21,7 @@ public:
     /// Whether the locks are on; false where the system does not tell.
     virtual bool numLockOn() const = 0;
     virtual bool capsLockOn() const = 0;
-    /// Lets Caps Lock go. False where the system does not let programs do that.
+    /// Turns Caps Lock off. False where the system does not let programs do that.
     virtual bool turnOffCapsLock() = 0;
     /// The native modifiers of a key event, which are all that some systems tell of the locks.
     virtual void noteNativeModifiers(quint32 modifiers) = 0;

@@ -3,7 +3,7 @@
 
 #include "platform/input/system_joystick.h"
 
-// The program's entry is its own.
+// The program has its own main(), which SDL must not replace.
 #define SDL_MAIN_HANDLED
 #include <SDL.h>
 
@@ -52,8 +52,8 @@ quint32 buttonsOf(SDL_Joystick *stick)
     return bits;
 }
 
-/// A controller's place, which it keeps while it is pulled out.
-struct Place {
+/// A controller, whose index stays its own while it is pulled out.
+struct Controller {
     SDL_JoystickGUID model;
     SDL_JoystickID instance = nobody;
     SDL_Joystick *stick = nullptr;
@@ -70,18 +70,18 @@ struct Place {
 
 void setUp()
 {
-    // Zeph's windows are not SDL's: to it they are always in the background, and how the program
-    // ends is not its business.
+    // SDL does not know Zeph's windows and takes the program to be always in the background. It
+    // must not catch the signals that end the program either.
     SDL_SetHint(SDL_HINT_JOYSTICK_ALLOW_BACKGROUND_EVENTS, "1");
     SDL_SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
-    // The raw drivers would take hold of game pads that nobody asked for.
+    // The raw drivers would open game pads for themselves, which other programs may need.
     SDL_SetHint(SDL_HINT_JOYSTICK_HIDAPI, "0");
     SDL_SetMainReady();
 }
 
 } // namespace
 
-/// The running subsystem and the places of the controllers that it has ever shown.
+/// The running subsystem and the controllers that it has ever shown.
 class SystemJoystick::Devices
 {
 public:
@@ -89,13 +89,13 @@ public:
     {
         setUp();
         m_running = SDL_InitSubSystem(SDL_INIT_JOYSTICK) == 0;
-        // The states are asked for; nobody would ever empty a queue of events.
+        // States are polled; a queue of events would never be emptied.
         SDL_JoystickEventState(SDL_IGNORE);
     }
     ~Devices()
     {
-        for (Place &place : m_places) {
-            place.close();
+        for (Controller &controller : m_controllers) {
+            controller.close();
         }
         if (m_running) {
             SDL_QuitSubSystem(SDL_INIT_JOYSTICK);
@@ -111,14 +111,14 @@ public:
         }
         SDL_JoystickUpdate();
         dropVanished();
-        if (placeNew()) {
-            // What a controller holds is known only from the update behind its opening on.
+        if (openNew()) {
+            // What a controller holds is known only from the update after its opening on.
             SDL_JoystickUpdate();
         }
-        if (id < 0 || size_t(id) >= m_places.size()) {
+        if (id < 0 || size_t(id) >= m_controllers.size()) {
             return { .result = badId };
         }
-        return readingOf(m_places[size_t(id)]);
+        return readingOf(m_controllers[size_t(id)]);
     }
 
 private:
@@ -133,58 +133,63 @@ private:
         return -1;
     }
 
-    static JoystickReading readingOf(Place &place)
+    static JoystickReading readingOf(Controller &controller)
     {
-        if (place.instance == nobody) {
+        if (controller.instance == nobody) {
             return { .result = unplugged };
         }
-        if (!place.stick) {
+        if (!controller.stick) {
             // The system may grant the access only a moment after it shows the device.
-            place.stick = SDL_JoystickOpen(indexOf(place.instance));
+            controller.stick = SDL_JoystickOpen(indexOf(controller.instance));
         }
-        if (!place.stick) {
+        if (!controller.stick) {
             return { .result = unreadable };
         }
-        return { answered, buttonsOf(place.stick), povOf(place.stick) };
+        return { answered, buttonsOf(controller.stick), povOf(controller.stick) };
     }
 
     void dropVanished()
     {
-        for (Place &place : m_places) {
-            if (place.instance != nobody && indexOf(place.instance) < 0) {
-                place.close();
+        for (Controller &controller : m_controllers) {
+            if (controller.instance != nobody && indexOf(controller.instance) < 0) {
+                controller.close();
             }
         }
     }
 
     /// Opens what was plugged in since the last reading; false when there is nothing new.
-    bool placeNew()
+    bool openNew()
     {
         bool isNew = false;
         const int count = SDL_NumJoysticks();
         for (int index = 0; index < count; ++index) {
             const SDL_JoystickID instance = SDL_JoystickGetDeviceInstanceID(index);
-            if (std::ranges::find(m_places, instance, &Place::instance) == m_places.end()) {
-                Place &place = placeFor(SDL_JoystickGetDeviceGUID(index));
-                place.instance = instance;
-                place.stick = SDL_JoystickOpen(index);
+            if (std::ranges::find(m_controllers, instance, &Controller::instance)
+                == m_controllers.end()) {
+                Controller &controller = controllerFor(SDL_JoystickGetDeviceGUID(index));
+                controller.instance = instance;
+                controller.stick = SDL_JoystickOpen(index);
                 isNew = true;
             }
         }
         return isNew;
     }
 
-    /// The place that a controller of that model has left, or a fresh one behind all others.
-    Place &placeFor(const SDL_JoystickGUID &model)
+    /// A controller of that model that is pulled out, or a fresh one after all others.
+    Controller &controllerFor(const SDL_JoystickGUID &model)
     {
-        const auto left = std::ranges::find_if(m_places, [&model](const Place &place) {
-            return place.instance == nobody && std::memcmp(&place.model, &model, sizeof model) == 0;
-        });
-        return left != m_places.end() ? *left : m_places.emplace_back(Place{ .model = model });
+        const auto left =
+            std::ranges::find_if(m_controllers, [&model](const Controller &controller) {
+                return controller.instance == nobody
+                    && std::memcmp(&controller.model, &model, sizeof model) == 0;
+            });
+        return left != m_controllers.end()
+            ? *left
+            : m_controllers.emplace_back(Controller{ .model = model });
     }
 
     bool m_running = false;
-    std::vector<Place> m_places;
+    std::vector<Controller> m_controllers;
 };
 
 SystemJoystick::SystemJoystick() = default;

@@ -63,7 +63,7 @@ bool SystemKeyboard::turnOffCapsLock()
 
 namespace {
 
-// Where the locks stand among native modifiers, by the key maps that desktops come with.
+// The bits of the locks among native modifiers, in the key maps that desktops come with.
 constexpr quint32 capsLockModifier = 1U << 1;
 constexpr quint32 numLockModifier = 1U << 4;
 

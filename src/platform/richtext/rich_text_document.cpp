@@ -3,6 +3,8 @@
 
 #include "platform/richtext/rich_text_document.h"
 
+#include "platform/colours.h"
+
 #include <QTextBlock>
 #include <QTextList>
 
@@ -16,8 +18,8 @@ namespace {
 constexpr double twipsPerPixel = 15;
 constexpr double pointsPerPixel = 0.75;
 
-/// A text that the toolkit cannot take for more blocks than its '\n' make. The characters replaced
-/// are none of any text file's; each stays one character, so that the runs fit.
+/// The text with another character for each, except '\n', at which the toolkit would end a block.
+/// No text file holds such a character. The length stays the same, so that the runs fit.
 QString insertable(const QString &text)
 {
     const auto isStray = [](QChar c) {
@@ -188,8 +190,8 @@ CharFormat commonLook(const std::vector<CharRun> &runs)
     return most == looks.end() ? CharFormat() : *most->first;
 }
 
-/// Puts a text, without the paragraphs' formats, in place of the cursor's selection; the cursor
-/// stands behind it.
+/// Replaces the cursor's selection with a text, without the paragraphs' formats; the cursor is
+/// after it then.
 void insertCharacters(QTextCursor &cursor, const RichText &text)
 {
     const int from = cursor.selectionStart();
@@ -198,7 +200,7 @@ void insertCharacters(QTextCursor &cursor, const RichText &text)
     RunPainter(*cursor.document(), { { text.text.size(), common } }, from).paint(text.characters);
 }
 
-/// The part of two texts that differs, as what both have in common before and behind it.
+/// The part of two texts that differs, as the lengths that both have in common before and after it.
 struct Difference {
     qsizetype before = 0;
     qsizetype behind = 0;
@@ -240,13 +242,12 @@ QTextCharFormat toTextFormat(const CharFormat &format)
     if (format.pointSize > 0) {
         result.setFontPointSize(format.pointSize);
     }
-    // Said also where they are off: the control's own font may be bold.
+    // Set also when they are off: the control's own font may be bold.
     result.setFontWeight(format.bold ? QFont::Bold : QFont::Normal);
     result.setFontItalic(format.italic);
     result.setFontUnderline(format.underline);
     if (format.colour) {
-        const ColorRef colour = *format.colour;
-        result.setForeground(QColor(redOf(colour), greenOf(colour), blueOf(colour)));
+        result.setForeground(toColor(*format.colour));
     }
     return result;
 }

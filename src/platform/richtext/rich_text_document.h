@@ -16,7 +16,7 @@ namespace zeph {
 /// By how much a bullet's text hangs, in device-independent pixels: a quarter of an inch.
 constexpr double bulletIndentPixels = 24;
 
-/// The toolkit's format of a character and back.
+/// A character's format as the toolkit's, and back.
 QTextCharFormat toTextFormat(const CharFormat &format);
 CharFormat fromTextFormat(const QTextCharFormat &format);
 
@@ -40,17 +40,17 @@ std::vector<CharRun> characterRunsOf(const QTextDocument &document, qsizetype fr
 /// Replaces everything in one edit block, without an entry in the toolkit's own undo, which is
 /// emptied; the document counts as not modified.
 void setRichText(QTextDocument &document, const RichText &text);
-/// Replaces the cursor's selection with rich text; the cursor stands behind it. A paragraph that
-/// had characters before or behind the cursor keeps its format for the part that they are in.
+/// Replaces the cursor's selection with rich text; the cursor is after it then. A paragraph that
+/// had characters before or after the cursor keeps its format for the part that they are in.
 void insertRichText(QTextCursor &cursor, const RichText &text);
 /// Makes a stretch of the document read as another text, looks and paragraphs included, in one edit
 /// block that touches only what differs: richTextOf() of the new stretch gives the text, if that is
 /// one that came out of such a document.
 void replaceRichText(QTextDocument &document, qsizetype from, qsizetype length,
                      const RichText &text);
-/// Lays character runs over the text as it stands, in one edit block; the text does not change.
-/// Runs are laid from a position on; what they do not reach stays as it is. Only what looks
-/// otherwise is touched, and only what they reach is read.
+/// Gives the text the looks of character runs, from a position on, in one edit block; the text does
+/// not change, and characters after the last run keep their looks. Only characters that look
+/// otherwise are touched, and only those that the runs cover are read.
 void applyCharacterRuns(QTextDocument &document, const std::vector<CharRun> &runs,
                         qsizetype from = 0);
 /// The same for a caller who knows the looks from the position on: nothing is read.
@@ -65,7 +65,7 @@ int lineOfCharacter(const QTextDocument &document, int position);
 int startOfLine(const QTextDocument &document, int line);
 int lineCount(const QTextDocument &document);
 
-/// Position behind the stretch that holds only (or, negated, none of) the characters of a set.
+/// Position after the stretch that holds only (or, negated, none of) the characters of a set.
 int spanEnd(const QTextDocument &document, int from, QStringView set, bool forward, bool negate);
 
 } // namespace zeph

@@ -15,10 +15,10 @@ namespace {
 // Twips in a device-independent pixel; indents keep fractions, so that they come back exactly.
 constexpr double twipsPerPixel = 15;
 
-/// The text with the value's line ends, of a text with the toolkit's.
+/// A text of the toolkit with '\n' in place of the toolkit's line ends.
 QString withLineEnds(QString text)
 {
-    // The borders lie far behind what nearly all of a text is made of.
+    // Nearly all characters are far below the borders' code points: one test decides.
     const auto isBorder = [](QChar c) {
         return c >= QChar(QChar::LineSeparator) && isBlockBorder(c);
     };
@@ -27,7 +27,7 @@ QString withLineEnds(QString text)
     return text;
 }
 
-/// Collects runs from formats by the toolkit's numbers of them, each looked at once.
+/// Collects runs from the toolkit's format numbers; looks up each format once.
 class RunCollector
 {
 public:
@@ -63,7 +63,7 @@ private:
 
 qsizetype lengthOf(const QTextDocument &document)
 {
-    // Behind the last paragraph the toolkit counts a separator that is no character of the text.
+    // After the last paragraph the toolkit counts a separator that is no character of the text.
     return document.characterCount() - 1;
 }
 
@@ -88,7 +88,7 @@ std::vector<CharRun> characterRuns(const QTextDocument &document, qsizetype from
             runs.add(fragment.charFormatIndex(), fragment.position(), fragment.length(),
                      [&] { return fragment.charFormat(); });
         }
-        // A line end has the format that the block behind it starts with.
+        // A line end has the format that the next block starts with.
         const QTextBlock next = block.next();
         if (next.isValid()) {
             runs.add(next.charFormatIndex(), next.position() - 1, 1,
@@ -212,7 +212,7 @@ int spanEnd(const QTextDocument &document, int from, QStringView set, bool forwa
         if (isBlockBorder(c)) {
             c = u'\n';
         }
-        // Sets name a line end as the files have it, CR and LF.
+        // In a set a line end is CR and LF, as in the files.
         const bool isInSet = set.contains(c) || (c == u'\n' && set.contains(u'\r'));
         return isInSet != negate;
     };

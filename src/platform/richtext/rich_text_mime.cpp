@@ -24,7 +24,7 @@ bool isRtf(const QString &type)
     return std::ranges::find(rtfTypes, QStringView(type)) != rtfTypes.end();
 }
 
-/// The same stretches of characters without those that no text holds.
+/// The runs of the text that is left when the characters that no text file may hold are removed.
 RichText withoutNul(const RichText &text)
 {
     if (!text.text.contains(QChar(0))) {

@@ -3,7 +3,7 @@
 
 #pragma once
 
-// Text on the clipboard and in the hand of the mouse: plain, and as RTF.
+// Text on the clipboard and in drag and drop: plain, and as RTF.
 
 #include "platform/core/rich_text.h"
 

@@ -42,7 +42,7 @@ using Writer = std::unique_ptr<archive, FreeWriter>;
 Reader newReader()
 {
     Reader reader(archive_read_new());
-    // Only with the list at the zip's end: without it links would look like files.
+    // The reader must use the list at the zip's end: without it links look like files.
     archive_read_support_format_zip_seekable(reader.get());
     return reader;
 }
@@ -71,7 +71,8 @@ QString nameOf(archive_entry *entry)
     return utf8 ? QString::fromUtf8(utf8) : QString();
 }
 
-/// The headers up to the end, or up to where the zip is damaged. Uses the reader up.
+/// The headers up to the end, or up to where the zip is damaged. The reader cannot be used after
+/// it.
 int countEntries(const Reader &reader)
 {
     int count = 0;
@@ -188,7 +189,7 @@ ZipReader::read(const std::function<bool(qint64)> &goOn)
 
 struct ZipWriter::Archive {
     std::unique_ptr<QSaveFile> file;
-    Writer writer; ///< behind the file, which it writes into until its end
+    Writer writer; ///< declared after the file, so that it can write into it until its end
 };
 
 ZipWriter::ZipWriter(std::unique_ptr<Archive> archive) : m_archive(std::move(archive)) { }

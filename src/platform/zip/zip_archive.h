@@ -15,7 +15,7 @@
 
 namespace zeph {
 
-/// One entry as the zip says it; nothing of it can be trusted.
+/// One entry as the zip describes it. None of it can be trusted.
 struct ZipEntry {
     enum Kind { File, Folder, Other }; ///< Other: a link, or something else that is no plain file
 
@@ -29,7 +29,7 @@ class ZipReader
 {
 public:
     static Expected<ZipReader, QString> open(const QString &path);
-    /// The bytes have to stay where they are while it reads.
+    /// The bytes must outlive the reader.
     static Expected<ZipReader, QString> openBytes(QByteArrayView bytes);
 
     ZipReader(ZipReader &&) noexcept;
@@ -38,12 +38,12 @@ public:
 
     /// How many entries there are, up to where the zip is damaged.
     int count() const;
-    /// The next entry; no value behind the last one. The error tells that the zip is damaged from
+    /// The next entry; no value after the last one. The error tells that the zip is damaged from
     /// here on.
     Expected<std::optional<ZipEntry>, QString> next();
-    /// The content of the entry that next() gave. After each piece the function hears how many
-    /// bytes there are so far; false stops, which is no value. The error tells why it cannot be
-    /// read; the entries behind it may still be.
+    /// The content of the entry that next() gave. After each piece the function receives the number
+    /// of bytes so far; when it returns false, the reading stops and gives no value. The error
+    /// tells why the entry cannot be read; later entries may still be readable.
     Expected<std::optional<QByteArray>, QString> read(const std::function<bool(qint64)> &goOn);
 
 private:
@@ -53,7 +53,7 @@ private:
     std::unique_ptr<Archive> m_archive;
 };
 
-/// Makes a zip. It replaces a file of its path when it is closed, whole or not at all.
+/// Makes a zip. close() puts it in place of a file of that path, whole or not at all.
 class ZipWriter
 {
 public:
@@ -61,10 +61,10 @@ public:
 
     ZipWriter(ZipWriter &&) noexcept;
     ZipWriter &operator=(ZipWriter &&) noexcept;
-    /// Not closed: nothing is left of it.
+    /// A zip that was not closed is removed.
     ~ZipWriter();
 
-    /// Adds a file under a name whose folders are parted by "/".
+    /// Adds a file under a name with "/" between its folders.
     Expected<void, QString> add(const QString &name, const QByteArray &bytes,
                                 const QDateTime &modified);
     Expected<void, QString> close();

@@ -11,9 +11,9 @@ namespace zeph {
 
 /// Packs all files of a folder (with a closing separator) and of the folders in it into a zip, by
 /// their places below it. Links are left out, and so is the zip itself, which may lie there. The
-/// function hears of each file before it is packed: its name, how many there were, how many there
-/// are; false stops. True when the zip was made; when it was not, a file of its name stays as it
-/// was.
+/// function is called before each file: its name, how many are done, how many there are; when it
+/// returns false, the packing stops. True when the zip was made; otherwise a file of its name stays
+/// as it was.
 Expected<bool, QString>
 packFolder(const QString &folder, const QString &zipPath,
            const std::function<bool(const QString &name, int done, int all)> &progress);

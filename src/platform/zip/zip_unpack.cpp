@@ -15,7 +15,7 @@ namespace zeph {
 
 namespace {
 
-/// One run over a zip.
+/// Unpacks one zip.
 class Unpacking
 {
 public:

@@ -3,8 +3,8 @@
 
 #pragma once
 
-// Unpacking what somebody else packed: nothing lands outside the folder, nothing is overwritten
-// unasked, and nothing grows without end.
+// Unpacks zips of unknown origin: no file is written outside the folder, none is overwritten
+// without a question, and limits keep a small zip from filling the disk.
 
 #include "platform/zip/zip_archive.h"
 
@@ -12,23 +12,23 @@
 
 namespace zeph {
 
-/// After how much the user is asked whether to go on, and again after as much.
+/// The user is asked whether to go on each time that so much more was unpacked.
 struct UnpackLimits {
     qint64 bytes = 100'000'000;
     qint64 entries = 2000;
 };
 
-/// No single file may be larger, whatever the user says: it is held in memory.
+/// No single file may be larger, even if the user would go on: it is held in memory.
 constexpr qint64 largestUnpackedFile = 1'000'000'000;
 
-/// What is asked meanwhile.
+/// What the unpacking asks while it runs.
 struct UnpackQuestions {
     enum class Overwrite { Yes, No, Stop };
 
     std::function<Overwrite(const QString &path)> overwrite;
     /// A limit is reached: bytes and entries so far. False stops.
     std::function<bool(qint64 bytes, qint64 entries)> goOn;
-    /// An entry comes up, so many are done of all. False stops.
+    /// The next entry, how many are done, how many there are. False stops.
     std::function<bool(const QString &name, int done, int all)> progress;
 };
 

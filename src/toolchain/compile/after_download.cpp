@@ -8,7 +8,7 @@
 #include "platform/handlers.h"
 #include "settings/global_settings.h"
 #include "text/document_text.h"
-#include "text/use_statements.h"
+#include "text/text_lines.h"
 
 #include <QCoreApplication>
 
@@ -22,24 +22,10 @@ QString rootOfCommand(const QString &command)
     return rootOf(command.startsWith(u'"') ? command.sliced(1) : command);
 }
 
-constexpr QStringView head = u"use zeph run_app";
+constexpr QStringView head = u"USE ZEPH RUN_APP"_w;
 /// The head, a blank and three characters: a shorter line names no application.
 constexpr qsizetype shortestLine = 20;
 constexpr qsizetype commandAt = head.size() + 1;
-
-QString trimmedRight(QString text)
-{
-    while (text.endsWith(u' ')) {
-        text.chop(1);
-    }
-    return text;
-}
-
-QString withoutComment(const QString &command)
-{
-    const qsizetype rem = command.indexOf(u"rem "_s, 0, Qt::CaseInsensitive);
-    return trimmedRight(rem < 0 ? command : command.first(rem));
-}
 
 WindowStyle styleOf(QChar digit)
 {
@@ -49,18 +35,19 @@ WindowStyle styleOf(QChar digit)
 
 std::optional<RunApp> runAppOf(QStringView raw)
 {
-    if (raw.size() < shortestLine || !raw.contains(u"use", Qt::CaseInsensitive)) {
+    if (raw.size() < shortestLine || !raw.contains(u"USE"_w, Qt::CaseInsensitive)) {
         return std::nullopt;
     }
     const QString line = normalisedLine(raw);
     if (line.size() < shortestLine || !line.startsWith(head, Qt::CaseInsensitive)) {
         return std::nullopt;
     }
-    RunApp app{ .command = withoutComment(line.sliced(commandAt)) };
-    const qsizetype word = app.command.indexOf(u"window_style"_s, 0, Qt::CaseInsensitive);
+    const QStringView command = QStringView(line).sliced(commandAt);
+    RunApp app{ .command = withoutBlanksAtEnd(beforeRem(command)).toString() };
+    const qsizetype word = app.command.indexOf(u"WINDOW_STYLE"_w, 0, Qt::CaseInsensitive);
     if (word >= 0) {
         app.style = styleOf(app.command.back());
-        app.command = trimmedRight(app.command.first(word));
+        app.command = withoutBlanksAtEnd(QStringView(app.command).first(word)).toString();
     }
     return app;
 }

@@ -3,6 +3,7 @@
 
 #include "toolchain/compile/compilerhelp.h"
 
+#include "language/error_codes.h"
 #include "toolchain/compile/error_codes.h"
 #include "ui_compilerhelp.h"
 
@@ -51,8 +52,8 @@ void CompilerHelp::setFontSize(int points)
 void CompilerHelp::ShowTheError(const CompilerError &error)
 {
     m_error = error;
-    m_ui->LabelFile->setText(
-        u"File: "_s + (isMacroFileError(error.text) ? error.macroName : error.joystickName));
+    const bool inMacroFile = language::documentOfError(error.text) == DocumentKind::Macro;
+    m_ui->LabelFile->setText(u"File: "_s + (inMacroFile ? error.macroName : error.joystickName));
     m_ui->LabelLine->setText(u"Line: "_s + QString::number(error.line));
     m_ui->LabelError->setText(u"Error: "_s + error.text);
     m_ui->CMD_ShowLine->setEnabled(error.line != 0);

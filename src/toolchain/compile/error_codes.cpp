@@ -3,6 +3,7 @@
 
 #include "toolchain/compile/error_codes.h"
 
+#include "language/error_codes.h"
 #include "platform/core/file_io.h"
 #include "platform/core/paths.h"
 #include "platform/core/rtf.h"
@@ -14,22 +15,22 @@ namespace zeph {
 
 namespace {
 
-constexpr qsizetype codeLength = 10;
-/// A search for the next entry's "ERROR" starts here, so that it does not find the entry's own.
-constexpr qsizetype afterOwnWord = 5;
+/// A search for the next entry starts here, so that it does not find the entry's own first word.
+constexpr qsizetype afterOwnWord = language::errorWord.size();
 
 } // namespace
 
-std::optional<ErrorEntry> findErrorEntry(QStringView text, QStringView errorText)
+std::optional<ErrorPassage> findErrorEntry(QStringView text, QStringView errorText)
 {
-    const qsizetype start = findText(text, errorText.left(codeLength), 0, SearchPlain);
+    const qsizetype start =
+        findText(text, errorText.left(language::errorHeadingLength), 0, SearchPlain);
     if (start < 0) {
         return std::nullopt;
     }
     const qsizetype after = std::min(start + afterOwnWord, text.size());
-    const qsizetype next = findText(text, u"ERROR", after, SearchMatchCase);
+    const qsizetype next = findText(text, language::errorWord, after, SearchMatchCase);
     const qsizetype lineEnd = text.indexOf(u'\n', after);
-    return ErrorEntry{
+    return ErrorPassage{
         start,
         next < 0 ? text.size() : next,
         lineEnd < 0 ? std::min(start + errorText.size(), text.size()) : lineEnd,

@@ -11,18 +11,18 @@
 namespace zeph {
 
 /// Where an error is explained; positions are 0-based.
-struct ErrorEntry {
+struct ErrorPassage {
     qsizetype entryStart = 0;
     qsizetype entryEnd = 0; ///< where the next entry starts, or the text's end
     qsizetype headingEnd = 0; ///< after the heading line's last character
 
-    friend bool operator==(const ErrorEntry &, const ErrorEntry &) = default;
+    friend bool operator==(const ErrorPassage &, const ErrorPassage &) = default;
 };
 
 /// Finds the entry of the code that an error text begins with (its first ten characters). None when
 /// the explanations lack the code. A heading without a line end after it counts as long as the
 /// error text.
-std::optional<ErrorEntry> findErrorEntry(QStringView text, QStringView errorText);
+std::optional<ErrorPassage> findErrorEntry(QStringView text, QStringView errorText);
 
 /// Reads the explanations. The error says in words which file failed and why.
 Expected<RichText, QString> readErrorCodes(const QString &path);

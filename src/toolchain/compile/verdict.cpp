@@ -113,9 +113,4 @@ CompilerError errorOf(const CompilerVerdict &verdict, const QString &joystickNam
     return { verdict.ErrorCode, verdict.LineNumber, joystickName, macroName };
 }
 
-bool isMacroFileError(QStringView errorText)
-{
-    return errorText.mid(6, 4) == u"1013";
-}
-
 } // namespace zeph

@@ -42,7 +42,4 @@ VerdictTelling tellVerdict(const CompilerVerdict &verdict, CompilerTask task, co
 /// counts as a good one.
 VerdictTelling tellGameVerdict(const CompilerVerdict &verdict, bool statusBarOnly);
 
-/// Whether the code in an error text says that the error lies in the macro file.
-bool isMacroFileError(QStringView errorText);
-
 } // namespace zeph

@@ -37,7 +37,11 @@ protected:
         dialogs.answer(u"File protected"_s, BoxButton::Ok);
     }
     /// As text from elsewhere may stand.
-    void moveLinesIn() { setParagraphFormat(*joystick().document(), { .leftIndentTwips = 300 }); }
+    void moveLinesIn()
+    {
+        const Document::Quiet quiet(editor->joystick());
+        setParagraphFormat(*joystick().document(), { .leftIndentTwips = 300 });
+    }
     TextControl &joystick() { return editor->view().control(DocumentKind::Joystick); }
     int steps() { return editor->undos().of(DocumentKind::Joystick).slots() - 1; }
 };

@@ -17,7 +17,7 @@ const QString codes = u"Codes\n"
                       u"ERROR 1003: Last"_s;
 
 /// The stretch of the sample from the first place of one text to the first of another.
-ErrorEntry stretch(QStringView start, QStringView end, QStringView heading)
+ErrorPassage stretch(QStringView start, QStringView end, QStringView heading)
 {
     const qsizetype from = codes.indexOf(start);
     const qsizetype to = end.isEmpty() ? codes.size() : codes.indexOf(end);
@@ -47,7 +47,7 @@ TEST(FindErrorEntry, TheLastEntryGoesToTheEndAndItsHeadingIsAsLongAsTheErrorText
 TEST(FindErrorEntry, AHeadingNeverGoesBeyondTheText)
 {
     EXPECT_EQ(findErrorEntry(u"ERROR 1003", u"ERROR 1003: a long error text"),
-              (ErrorEntry{ 0, 10, 10 }));
+              (ErrorPassage{ 0, 10, 10 }));
 }
 
 TEST(FindErrorEntry, OnlyTheFirstTenCharactersAreSearchedFor)
@@ -65,7 +65,7 @@ TEST(FindErrorEntry, AnUnknownOrMissingCodeIsNotFound)
 
 TEST(FindErrorEntry, AShortTextAtTheVeryEndIsInBounds)
 {
-    EXPECT_EQ(findErrorEntry(u"xyz", u"z"), (ErrorEntry{ 2, 3, 3 }));
+    EXPECT_EQ(findErrorEntry(u"xyz", u"z"), (ErrorPassage{ 2, 3, 3 }));
 }
 
 TEST(ReadErrorCodes, AMissingFileIsToldWithItsPath)

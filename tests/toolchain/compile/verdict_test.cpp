@@ -129,12 +129,3 @@ TEST(TellVerdict, AnUnknownResultIsToldEvenWithTheStatusBarAlone)
 {
     EXPECT_TRUE(compiled(verdictOf(u""_s), statusBarOnly).box);
 }
-
-TEST(MacroFileError, IsCode1013AtItsPlace)
-{
-    EXPECT_TRUE(isMacroFileError(u"ERROR 1013: Macro"));
-    EXPECT_TRUE(isMacroFileError(u"ERROR 1013"));
-    EXPECT_FALSE(isMacroFileError(u"ERROR 1014: see 1013"));
-    EXPECT_FALSE(isMacroFileError(u"1013"));
-    EXPECT_FALSE(isMacroFileError(u"ERROR 101"));
-}

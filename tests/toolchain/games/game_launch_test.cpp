@@ -51,7 +51,7 @@ protected:
     Game game;
     Game top;
     const QString save = u"save f4.tmj"_s;
-    const QString gameStarts = gameStarts;
+    const QString gameStarts = u"start falcon.exe"_s;
 };
 
 const QString tooLong = u"Now this is taking rather a long time Maverick, isn't it?!"_s;

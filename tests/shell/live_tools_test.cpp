@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Zeph authors
 // SPDX-License-Identifier: MIT
 
-#include "shell/key_tester_menu.h"
+#include "livetools/keytestform.h"
 
 #include "documents/editor_view.h"
 #include "documents/text_control.h"

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Zeph authors
 // SPDX-License-Identifier: MIT
 
-#include "shell/template_menu.h"
+#include "templates/templateform.h"
 
 #include "documents/editor_view.h"
 #include "documents/text_control.h"
@@ -11,7 +11,6 @@
 #include "platform/richtext/rich_text_box.h"
 #include "platform/tool_windows.h"
 #include "shell/mum.h"
-#include "templates/templateform.h"
 #include "tests/shell/shell_world.h"
 
 using namespace zeph;

@@ -3,21 +3,27 @@
 
 #pragma once
 
-// Which files a run starts with.
+// What a run does as it comes up: what it warns of, and which files it opens.
 
-#include "platform/core/base.h"
+#include "platform/dialogs.h"
 
 #include <QStringList>
 
 namespace zeph {
 
-class Dialogs;
 class Editor;
 class ProfileFile;
 struct GlobalSettings;
 
+/// The warning for a screen whose logical pixels per inch are not the 96 that windows are drawn
+/// for; no value when they are.
+std::optional<Box> smallFontsWarning(int logicalDpi);
+
+/// The message when no numbered store is free any more.
+Box tooManyWindowsBox();
+
 /// The file that the command line names, with its full path; empty when it names none that exists.
-/// Words that a shell has parted are also tried as one name.
+/// All words together are also tried as one name, since a shell splits a name at blanks.
 QString TestCommandLine(const QStringList &arguments);
 
 /// Opens the command line's file; else the files of the last run; else the favourite that is to be

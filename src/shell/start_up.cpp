@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Zeph authors
 // SPDX-License-Identifier: MIT
 
-#include "shell/start_files.h"
+#include "shell/start_up.h"
 
 #include "editor/editor.h"
 #include "editor/files/file_opening.h"
@@ -16,6 +16,8 @@ namespace zeph {
 
 namespace {
 
+constexpr int drawnForDpi = 96;
+
 QString existingFile(QString name)
 {
     name.remove(u'"');
@@ -26,7 +28,7 @@ QString existingFile(QString name)
 /// True when the last run left a file to open, whether or not that still exists.
 bool openRestored(Editor &editor, const GlobalSettings &settings)
 {
-    // Opening reads the settings' files anew as it goes, so the names are taken beforehand.
+    // Opening a file reads the settings again and would change these names on the way.
     const QString joystick = settings.RestoreJoyFile;
     const QString macro = settings.RestoreMacroFile;
     if (joystick.isEmpty() && macro.isEmpty()) {
@@ -47,6 +49,29 @@ void openAutoload(Editor &editor, const ProfileFile &store, Dialogs &dialogs)
 }
 
 } // namespace
+
+std::optional<Box> smallFontsWarning(int logicalDpi)
+{
+    if (logicalDpi == drawnForDpi) {
+        return std::nullopt;
+    }
+    return Box{
+        .title = u"WARNING: Small fonts not detected!"_s,
+        .text = u"WARNING: I've just had a quick check to see what your Display Font Size is set "
+                "to, and I've noticed that your settings are not the default 'Small Fonts' size. "
+                "Nothing will break, but some of my windows may look a bit odd. Please see the "
+                "help file topic: 'Small Fonts, big problems' under the Miscellaneous heading for "
+                "more information."_s,
+        .icon = BoxIcon::Exclamation,
+    };
+}
+
+Box tooManyWindowsBox()
+{
+    return { .title = u"Exiting now ..."_s,
+             .text = u"Sorry, you've got too many windows open. Far too many !!!"_s,
+             .icon = BoxIcon::Stop };
+}
 
 QString TestCommandLine(const QStringList &arguments)
 {

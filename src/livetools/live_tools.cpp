@@ -1,0 +1,42 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#include "livetools/live_tools.h"
+
+#include "livetools/keytestform.h"
+#include "platform/handlers.h"
+#include "toolchain/modes/cougar_modes.h"
+
+namespace zeph {
+
+namespace {
+
+void connectKeyTester(KeyTestForm &form, const Context &context, CougarModes &modes)
+{
+    QObject::connect(&form, &KeyTestForm::buttonsModeWanted, &modes,
+                     guarded(context.dialogs, [&modes](bool programmed) {
+                         modes.changeButtonsMode(programmed ? ButtonsRequest::Programmed
+                                                            : ButtonsRequest::Windows);
+                     }));
+    QObject::connect(&form, &KeyTestForm::emergencyOff, &modes,
+                     guarded(context.dialogs, [&modes] { modes.emergencyOff(); }));
+}
+
+} // namespace
+
+void addLiveTools(const ToolEntries &tools, const Context &context, CougarModes &modes)
+{
+    const KeyTestEntries entries{ { tools.menus.action(u"mnuMemoryClear_0"),
+                                    tools.menus.action(u"mnuMemoryClear_1") },
+                                  tools.menus.action(u"mnuAppsDX8_0") };
+    tools.add<KeyTestForm>(
+        u"mnuAppsKeyTester",
+        [context, entries, &modes](QWidget *owner) {
+            auto *form = new KeyTestForm(context, entries, owner);
+            connectKeyTester(*form, context, modes);
+            return form;
+        },
+        &KeyTestForm::Form_Load);
+}
+
+} // namespace zeph

@@ -1,0 +1,19 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "menus/tool_entries.h"
+#include "platform/context.h"
+
+namespace zeph {
+
+struct MacroTable;
+class Printers;
+
+/// Registers the Template Editor under mnuAppsTemplateEditor. The macro table must outlive the
+/// window.
+void addTemplateTools(const ToolEntries &tools, const Context &context, Printers &printers,
+                      const MacroTable &macros);
+
+} // namespace zeph
