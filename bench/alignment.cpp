@@ -15,7 +15,8 @@
 #include "platform/fakes/fake_launcher.h"
 #include "platform/fakes/scripted_dialogs.h"
 #include "platform/status_line.h"
-#include "settings/global_settings.h"
+#include "settings/colour_settings.h"
+#include "settings/settings.h"
 
 #include <benchmark/benchmark.h>
 
@@ -84,12 +85,12 @@ struct World {
         paths.iniPath = folder.filePath(u"Zeph.ini"_s);
         QDir(folder.path()).mkdir(u"Rtf"_s);
         QDir(folder.path()).mkdir(u"Files"_s);
-        settings.TextFontName = u"Arial"_s;
-        settings.TextFontSize = u"8"_s;
-        settings.BTNColour = 0xFF0000;
-        settings.SlashColour = 0x0000FF;
-        settings.RAWColour = 0x00FF00;
-        settings.RemStatements = 0x808080;
+        settings.of<ColourSettings>().TextFontName = u"Arial"_s;
+        settings.of<ColourSettings>().TextFontSize = 8;
+        settings.of<ColourSettings>().BTNColour = 0xFF0000;
+        settings.of<ColourSettings>().SlashColour = 0x0000FF;
+        settings.of<ColourSettings>().RAWColour = 0x00FF00;
+        settings.of<ColourSettings>().RemStatements = 0x808080;
         editor = std::make_unique<Editor>(
             Context{ paths, settings, status, dialogs, launcher, clock, keyboard });
         editor->resize(1200, 800);
@@ -111,7 +112,7 @@ struct World {
 
     QTemporaryDir folder;
     Paths paths;
-    GlobalSettings settings;
+    Settings settings;
     StatusLine status;
     ScriptedDialogs dialogs;
     FakeLauncher launcher;

@@ -5,6 +5,7 @@
 // platform; "shown" includes the painting of what is seen.
 
 #include "bench/editor_world.h"
+#include "editor/editor_settings.h"
 #include "editor/files/file_saving.h"
 #include "platform/core/rtf.h"
 
@@ -48,7 +49,7 @@ void OpenWithColouredCopy(benchmark::State &state)
     World world;
     world.editor->opening().OpenFavouriteFile(world.path);
     colour(*world.editor);
-    world.settings.UpdateModified = 0;
+    world.settings.of<EditorSettings>().UpdateModified = false;
     world.editor->saving().mnuFileSave_Click();
     state.counters["runs"] = double(world.editor->joystick().richText().characters.size());
     for (auto _ : state) {

@@ -14,7 +14,8 @@
 #include "platform/fakes/fake_launcher.h"
 #include "platform/fakes/scripted_dialogs.h"
 #include "platform/status_line.h"
-#include "settings/global_settings.h"
+#include "settings/colour_settings.h"
+#include "settings/settings.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -42,7 +43,7 @@ struct World {
         paths.iniPath = folder.filePath(u"Zeph.ini"_s);
         QDir(folder.path()).mkdir(u"Rtf"_s);
         QDir(folder.path()).mkdir(u"Files"_s);
-        setFirstRunColours(settings);
+        setFirstRunColours(settings.of<ColourSettings>());
         path = folder.filePath(u"Files/long.tmj"_s);
         QFile file(path);
         if (file.open(QIODevice::WriteOnly)) {
@@ -57,7 +58,7 @@ struct World {
 
     QTemporaryDir folder;
     Paths paths;
-    GlobalSettings settings;
+    Settings settings;
     StatusLine status;
     ScriptedDialogs dialogs;
     FakeLauncher launcher;

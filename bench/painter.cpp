@@ -6,7 +6,9 @@
 
 #include "text/painter.h"
 #include "bench/editor_world.h"
+#include "documents/document_settings.h"
 #include "documents/highlighting.h"
+#include "settings/colour_settings.h"
 
 #include <benchmark/benchmark.h>
 
@@ -25,9 +27,9 @@ void Computed(benchmark::State &state)
 {
     const QString text =
         QString::fromLatin1(bench::longFile(int(state.range(0)))).replace(u"\r\n"_s, u"\n"_s);
-    GlobalSettings settings;
+    ColourSettings settings;
     setFirstRunColours(settings);
-    const ColourScheme scheme = colourScheme(settings, DocumentKind::Joystick);
+    const ColourScheme scheme = settings.joystickScheme();
     size_t runs = 0;
     for (auto _ : state) {
         runs = paint(text, joystickPasses(), scheme).size();
@@ -68,7 +70,7 @@ void AppliedAgain(benchmark::State &state)
 void Keystroke(benchmark::State &state)
 {
     World world(int(state.range(0)));
-    world.settings.ColourWithTyping = qint16(state.range(1));
+    world.settings.of<DocumentSettings>().ColourWithTyping = int(state.range(1));
     world.editor->opening().OpenFavouriteFile(world.path);
     TextControl *control = &world.editor->view().control(DocumentKind::Joystick);
     control->shown().select(control->shown().length() / 2, 0);

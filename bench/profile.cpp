@@ -1,8 +1,11 @@
 // SPDX-FileCopyrightText: The Zeph authors
 // SPDX-License-Identifier: MIT
 
+#include "documents/document_settings.h"
 #include "platform/core/profile_file.h"
-#include "settings/global_settings.h"
+#include "settings/colour_settings.h"
+#include "settings/settings.h"
+#include "shell/settings/settings_moments.h"
 
 #include <benchmark/benchmark.h>
 
@@ -16,11 +19,13 @@ namespace {
 struct Store {
     QTemporaryDir folder;
     SettingsFiles files{ ProfileFile(folder.filePath(u"Zeph.ini"_s)),
-                         ProfileFile(folder.filePath(u"HOTAS.ini"_s)) };
+                         ProfileFile(folder.filePath(u"HOTAS.ini"_s)),
+                         ProfileFile(folder.filePath(u"Layouts.ini"_s)) };
 
     Store()
     {
-        const GlobalSettings settings;
+        Settings settings;
+        addAllSettings(settings);
         (void)saveGlobalSettings(settings, files);
         (void)SaveColourScheme(settings, files);
         QList<ProfileEntry> lists;
@@ -36,7 +41,8 @@ void readAllSettings(benchmark::State &state)
 {
     const Store store;
     for (auto _ : state) {
-        GlobalSettings settings;
+        Settings settings;
+        addAllSettings(settings);
         benchmark::DoNotOptimize(readGlobalSettings(settings, store.files).size());
         benchmark::DoNotOptimize(readColours(settings, store.files).size());
     }
@@ -46,9 +52,10 @@ BENCHMARK(readAllSettings)->Unit(benchmark::kMicrosecond);
 void saveAllSettings(benchmark::State &state)
 {
     const Store store;
-    GlobalSettings settings;
+    Settings settings;
+    addAllSettings(settings);
     for (auto _ : state) {
-        settings.UndoMax = qint16(settings.UndoMax ^ 1);
+        settings.of<DocumentSettings>().UndoMax = settings.of<DocumentSettings>().UndoMax ^ 1;
         benchmark::DoNotOptimize(saveGlobalSettings(settings, store.files).has_value());
     }
 }
@@ -57,7 +64,8 @@ BENCHMARK(saveAllSettings)->Unit(benchmark::kMicrosecond)->UseRealTime();
 void saveAllSettingsUnchanged(benchmark::State &state)
 {
     const Store store;
-    const GlobalSettings settings;
+    Settings settings;
+    addAllSettings(settings);
     for (auto _ : state) {
         benchmark::DoNotOptimize(saveGlobalSettings(settings, store.files).has_value());
     }

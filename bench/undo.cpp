@@ -4,6 +4,7 @@
 // The undo history in coloured files of 10,000 and 50,000 lines, shown on the offscreen platform:
 // what a keystroke costs, what a thousand steps take and hold.
 
+#include "documents/document_settings.h"
 #include "documents/editor_view.h"
 #include "documents/text_control.h"
 #include "documents/undo_histories.h"
@@ -14,7 +15,8 @@
 #include "platform/fakes/fake_launcher.h"
 #include "platform/fakes/scripted_dialogs.h"
 #include "platform/status_line.h"
-#include "settings/global_settings.h"
+#include "settings/colour_settings.h"
+#include "settings/settings.h"
 
 #include <benchmark/benchmark.h>
 
@@ -35,8 +37,8 @@ struct World {
     {
         paths.appFolder = folder.path();
         paths.hotasFolder = folder.path() + u'/';
-        settings.UndoMax = stepCount;
-        settings.TextFontName = u"Arial"_s;
+        settings.of<DocumentSettings>().UndoMax = stepCount;
+        settings.of<ColourSettings>().TextFontName = u"Arial"_s;
         editor = std::make_unique<Editor>(
             Context{ paths, settings, status, dialogs, launcher, clock, keyboard });
         editor->applySettings();
@@ -69,7 +71,7 @@ struct World {
 
     QTemporaryDir folder;
     Paths paths;
-    GlobalSettings settings;
+    Settings settings;
     StatusLine status;
     ScriptedDialogs dialogs;
     FakeLauncher launcher;
@@ -84,7 +86,7 @@ struct World {
 void Keystroke(benchmark::State &state)
 {
     World world(state.range(0));
-    world.control().select(int(world.size / 2), 0);
+    world.control().shown().select(int(world.size / 2), 0);
     for (auto _ : state) {
         QTest::keyClick(&world.control(), Qt::Key_A);
     }
@@ -94,7 +96,7 @@ void Keystroke(benchmark::State &state)
 void KeystrokeWithStep(benchmark::State &state)
 {
     World world(state.range(0));
-    world.control().select(int(world.size / 2), 0);
+    world.control().shown().select(int(world.size / 2), 0);
     for (auto _ : state) {
         QTest::keyClick(&world.control(), Qt::Key_Delete);
     }

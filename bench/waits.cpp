@@ -10,6 +10,7 @@
 #include "toolchain/handshake.h"
 #include "toolchain/modes/cougar_modes.h"
 #include "toolchain/tool_commands.h"
+#include "toolchain/toolchain_settings.h"
 
 #include <benchmark/benchmark.h>
 
@@ -69,10 +70,10 @@ private:
 void waitForSilence(benchmark::State &state, bool compiler)
 {
     bench::World world;
-    world.settings.CheckForCompletionTime = u"1000"_s;
-    world.settings.RegainControlAfter = u"4000"_s;
-    world.settings.StatusMonitoringInterval = 1;
-    world.settings.JoyTestConnect = 1;
+    world.settings.of<ToolchainSettings>().CheckForCompletionTime = 1000;
+    world.settings.of<ToolchainSettings>().RegainControlAfter = 4000;
+    world.settings.of<ToolchainSettings>().StatusMonitoringInterval = 1;
+    world.settings.of<ToolchainSettings>().JoyTestConnect = true;
     const Context context{ world.paths,    world.settings, world.status,  world.dialogs,
                            world.launcher, world.clock,    world.keyboard };
     world.editor->opening().OpenFavouriteFile(world.path);

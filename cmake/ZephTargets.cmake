@@ -63,17 +63,24 @@ function(zeph_room name)
 endfunction()
 
 # The Qt headers are most of a compile's time: one precompiled header for Core-only targets and one
-# for the others, built by the first target of each kind and used again by the rest.
+# for the others, built by the first target of each kind and used again by the rest. They hold what
+# most sources use and no more, since each compile reads the whole precompiled header.
+set(zeph_pch_core <QByteArray> <QDateTime> <QDir> <QFile> <QFileInfo> <QHash> <QList> <QObject> <QString> <QStringList>
+    <algorithm> <array> <functional> <memory> <optional> <span> <variant> <vector> <tl/expected.hpp>)
+set(zeph_pch_gui <QAction> <QCheckBox> <QComboBox> <QDialog> <QIcon> <QKeyEvent> <QLabel> <QLineEdit> <QMainWindow>
+    <QMenu> <QPainter> <QPlainTextEdit> <QPointer> <QPushButton> <QTextBlock> <QTextCursor> <QTextDocument> <QTextEdit>
+    <QTimer> <QWidget>)
+
 function(zeph_pch name gui)
     if(CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
         return()
     endif()
     if(gui)
         set(owner_property ZEPH_PCH_GUI)
-        set(headers <QtCore> <QtGui> <QtWidgets> <QtNetwork> <memory> <optional> <vector> <functional>)
+        set(headers ${zeph_pch_core} ${zeph_pch_gui})
     else()
         set(owner_property ZEPH_PCH_CORE)
-        set(headers <QtCore> <memory> <optional> <vector> <functional>)
+        set(headers ${zeph_pch_core})
     endif()
     get_property(owner GLOBAL PROPERTY ${owner_property})
     if(owner)
@@ -88,7 +95,7 @@ endfunction()
 function(zeph_test_pch owner)
     if(NOT CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
         target_precompile_headers(${owner} PRIVATE
-            <QtCore> ${ARGN} <gmock/gmock.h> <functional> <memory> <optional> <vector>)
+            ${zeph_pch_core} ${ARGN} <gmock/gmock.h>)
     endif()
 endfunction()
 

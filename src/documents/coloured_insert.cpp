@@ -4,12 +4,14 @@
 #include "documents/coloured_insert.h"
 
 #include "documents/change.h"
+#include "documents/document_look.h"
 #include "documents/documents.h"
 #include "documents/editor_view.h"
+#include "documents/statement.h"
 #include "platform/richtext/rich_text_document.h"
 #include "platform/status_line.h"
-#include "settings/global_settings.h"
-#include "text/painter.h"
+#include "settings/colour_settings.h"
+#include "settings/settings.h"
 
 #include <QTextBlock>
 
@@ -18,13 +20,6 @@ namespace zeph {
 namespace {
 
 const QString blackBlanks(5, u' ');
-
-QString withLineEnds(QString text)
-{
-    text.replace(u"\r\n"_s, u"\n"_s);
-    text.replace(u'\r', u'\n');
-    return text;
-}
 
 } // namespace
 
@@ -100,10 +95,8 @@ void ColouredInsert::MacroTransferText(const QString &text)
             whole.prepend(u' ');
         }
     }
-    RichText painted = RichText::plain(whole);
-    painted.characters = characterRuns(
-        paint(whole, typingPasses(), colourScheme(m_context.settings, into.kind())), into.plain());
-    insertRich(painted);
+    insertRich(paintedAsTyped(
+        whole, colourScheme(m_context.settings.of<ColourSettings>(), into.kind()), into.plain()));
 }
 
 bool ColouredInsert::insertRich(const RichText &text)

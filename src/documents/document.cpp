@@ -13,7 +13,7 @@ constexpr qint16 noSteps = 0;
 
 } // namespace
 
-Document::Document(DocumentKind kind, const qint16 &undoMax, QObject *parent)
+Document::Document(DocumentKind kind, const int &undoMax, QObject *parent)
     : ColouredText(parent), m_kind(kind), m_history(*this, undoMax)
 {
     connect(this, &ColouredText::changed, this, &Document::countEdit);
@@ -47,6 +47,32 @@ void Document::countEdit()
         Q_EMIT stepsChanged();
     }
     Q_EMIT edited();
+}
+
+void Document::step(void (UndoHistory::*way)())
+{
+    (m_history.*way)();
+    Q_EMIT stepsChanged();
+    Q_EMIT replaced(How::Undone);
+}
+
+void Document::tellReplaced(How how, const QByteArray &onDisk)
+{
+    m_onDisk = onDisk;
+    m_recovered = how == How::Recovered;
+    select(0, 0);
+    m_history.reset();
+    setState(how == How::Fresh ? Empty : how == How::Recovered ? Modified : Saved);
+    Q_EMIT stepsChanged();
+    Q_EMIT replaced(how);
+}
+
+void Document::tellWritten(const QByteArray &bytes, Save save)
+{
+    m_onDisk = bytes;
+    m_recovered = false;
+    setState(Saved);
+    Q_EMIT written(save);
 }
 
 } // namespace zeph

@@ -3,16 +3,16 @@
 
 #include "documents/document_look.h"
 
-#include "settings/global_settings.h"
+#include "settings/colour_settings.h"
 
 namespace zeph {
 
-CharFormat plainFormat(const GlobalSettings &settings, DocumentKind kind)
+CharFormat plainFormat(const ColourSettings &settings, DocumentKind kind)
 {
     CharFormat format;
     format.family = settings.TextFontName;
-    format.pointSize = leadingNumber(settings.TextFontSize);
-    format.bold = settings.TextFontBold != 0;
+    format.pointSize = settings.TextFontSize;
+    format.bold = settings.TextFontBold;
     format.colour = kind == DocumentKind::Joystick ? settings.JoystickTextDefaultColour
                                                    : settings.MacroTextDefaultColour;
     return format;
@@ -25,10 +25,15 @@ void takeFont(CharFormat &format, const CharFormat &font)
     format.bold = font.bold;
 }
 
-ColorRef documentBackground(const GlobalSettings &settings, DocumentKind kind)
+ColorRef documentBackground(const ColourSettings &settings, DocumentKind kind)
 {
     return kind == DocumentKind::Joystick ? settings.BackgroundColour
                                           : settings.MacroBackgroundColour;
+}
+
+ColourScheme colourScheme(const ColourSettings &settings, DocumentKind kind)
+{
+    return kind == DocumentKind::Joystick ? settings.joystickScheme() : settings.macroScheme();
 }
 
 } // namespace zeph

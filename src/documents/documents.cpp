@@ -3,20 +3,40 @@
 
 #include "documents/documents.h"
 
+#include "documents/change.h"
 #include "documents/document_look.h"
+#include "documents/document_settings.h"
 #include "documents/editor_texts.h"
+#include "documents/statement.h"
 #include "platform/dialogs.h"
-#include "settings/global_settings.h"
+#include "settings/colour_settings.h"
+#include "settings/settings.h"
+
+#include <QTextBlock>
 
 namespace zeph {
 
 Documents::Documents(const Context &context, QObject *parent)
     : QObject(parent), m_context(context),
-      m_joystick(DocumentKind::Joystick, context.settings.UndoMax),
-      m_macro(DocumentKind::Macro, context.settings.UndoMax)
+      m_joystick(DocumentKind::Joystick, context.settings.of<DocumentSettings>().UndoMax),
+      m_macro(DocumentKind::Macro, context.settings.of<DocumentSettings>().UndoMax)
 {
     renameFresh(DocumentKind::Joystick);
     renameFresh(DocumentKind::Macro);
+    forEach([this](Document &each) {
+        connect(&each, &Document::written, this, [this, &each] { markOverwritten(each); });
+    });
+}
+
+void Documents::markOverwritten(const Document &written)
+{
+    // Nobody keeps the user from saving one document over the other's file. What the other one
+    // holds is then on no disk any more.
+    Document &other = this->other(written);
+    if (other.state() == Document::Saved && other.path() == written.path()
+        && other.text() != written.text()) {
+        other.setState(Document::Modified);
+    }
 }
 
 void Documents::select(DocumentKind kind)
@@ -45,6 +65,26 @@ bool Documents::refuseProtected()
     return selected().isLocked();
 }
 
+bool Documents::insert(const Statement &statement)
+{
+    if (refuseProtected()) {
+        return false;
+    }
+    Document &into = selected();
+    RichText text =
+        richTextOf(statement, colourScheme(m_context.settings.of<ColourSettings>(), into.kind()), into.plain());
+    const int line = into.content().findBlock(into.selStart()).position();
+    if (statement.startsLine && line != into.selStart()) {
+        RichText started = RichText::plain(u"\n"_s, into.plain());
+        started.append(text);
+        text = started;
+    }
+    Change change(into);
+    into.insert(text);
+    change.commit();
+    return true;
+}
+
 void Documents::renameFresh(DocumentKind kind)
 {
     of(kind).rename(m_context.paths.filesFolder() + freshName(kind));
@@ -52,7 +92,7 @@ void Documents::renameFresh(DocumentKind kind)
 
 CharFormat Documents::plainFormat(DocumentKind kind) const
 {
-    return zeph::plainFormat(m_context.settings, kind);
+    return zeph::plainFormat(m_context.settings.of<ColourSettings>(), kind);
 }
 
 } // namespace zeph

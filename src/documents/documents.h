@@ -10,6 +10,8 @@
 
 namespace zeph {
 
+struct Statement;
+
 /// The pair of documents that is edited: there are always exactly two, and closing one means a
 /// fresh empty one. One of them is selected.
 class Documents : public QObject
@@ -43,6 +45,11 @@ public:
     /// Whether the selected text takes no changes; tells the refusal when it is the protected one.
     bool refuseProtected();
 
+    /// Writes what a tool has made into the selected document, over the selection, in its colours:
+    /// one step to undo, and the caret goes to its end. False when the text takes no changes: a
+    /// protected one is told.
+    bool insert(const Statement &statement);
+
     /// A name and a path for a document that has no file yet; its text stays.
     void renameFresh(DocumentKind kind);
     /// Font and colour of plain text that the settings say.
@@ -54,6 +61,8 @@ Q_SIGNALS:
     void protectedChanged(bool on);
 
 private:
+    void markOverwritten(const Document &written);
+
     Context m_context;
     Document m_joystick;
     Document m_macro;

@@ -4,11 +4,13 @@
 #include "documents/editor_view.h"
 
 #include "documents/document_look.h"
+#include "documents/document_settings.h"
 #include "documents/editor_texts.h"
 #include "documents/text_control.h"
 #include "platform/richtext/rich_text_document.h"
 #include "platform/status_line.h"
-#include "settings/global_settings.h"
+#include "settings/colour_settings.h"
+#include "settings/settings.h"
 
 #include "platform/icon_file.h"
 #include <QHBoxLayout>
@@ -232,13 +234,14 @@ void EditorView::UpdateSavedIcon()
 
 void EditorView::applyLook()
 {
-    const GlobalSettings &settings = m_context.settings;
-    m_documents.forEach([this, &settings](const Document &each) {
+    const auto &colours = m_context.settings.of<ColourSettings>();
+    const auto &settings = m_context.settings.of<DocumentSettings>();
+    m_documents.forEach([this, &colours, &settings](const Document &each) {
         TextControl &control = this->control(each.kind());
-        control.setLook(documentBackground(settings, each.kind()),
+        control.setLook(documentBackground(colours, each.kind()),
                         m_documents.plainFormat(each.kind()));
-        control.showLineNumbers(settings.LineNumbers == 1);
-        control.showCurrentLine(settings.CurrentLineMark == 1);
+        control.showLineNumbers(settings.LineNumbers);
+        control.showCurrentLine(settings.CurrentLineMark);
     });
 }
 

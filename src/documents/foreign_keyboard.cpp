@@ -3,8 +3,8 @@
 
 #include "documents/foreign_keyboard.h"
 
+#include "documents/document_settings.h"
 #include "platform/input/keyboard.h"
-#include "settings/global_settings.h"
 
 #include <QEvent>
 #include <QLineEdit>
@@ -13,7 +13,7 @@
 
 namespace zeph {
 
-ForeignKeyBSupport::ForeignKeyBSupport(Keyboard &keyboard, const GlobalSettings &settings,
+ForeignKeyBSupport::ForeignKeyBSupport(Keyboard &keyboard, const DocumentSettings &settings,
                                        QWidget *window)
     : QObject(window), m_keyboard(keyboard), m_settings(settings), m_layout(keyboard.layoutName())
 {
@@ -27,7 +27,7 @@ ForeignKeyBSupport::ForeignKeyBSupport(Keyboard &keyboard, const GlobalSettings 
 
 bool ForeignKeyBSupport::eventFilter(QObject *watched, QEvent *event)
 {
-    if (event->type() == QEvent::FocusIn && m_settings.ForeignLanguageKBInputFix == 1
+    if (event->type() == QEvent::FocusIn && m_settings.ForeignLanguageKBInputFix
         && m_keyboard.layoutName() != m_layout) {
         m_keyboard.loadLayout(m_layout);
     }

@@ -12,7 +12,7 @@ class QWidget;
 namespace zeph {
 
 class Keyboard;
-struct GlobalSettings;
+struct DocumentSettings;
 
 /// Keeps the keyboard layout of one window: some text controls change it by themselves on the way,
 /// and with ForeignLanguageKBInputFix on the layout that the window came up with is put back when a
@@ -22,13 +22,13 @@ class ForeignKeyBSupport : public QObject
     Q_OBJECT
 public:
     /// Watches the text boxes that the window holds now. The window owns this object.
-    ForeignKeyBSupport(Keyboard &keyboard, const GlobalSettings &settings, QWidget *window);
+    ForeignKeyBSupport(Keyboard &keyboard, const DocumentSettings &settings, QWidget *window);
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     Keyboard &m_keyboard;
-    const GlobalSettings &m_settings;
+    const DocumentSettings &m_settings;
     QString m_layout;
 };
 

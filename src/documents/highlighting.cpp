@@ -9,7 +9,8 @@
 #include "documents/editor_texts.h"
 #include "documents/editor_view.h"
 #include "platform/status_line.h"
-#include "settings/global_settings.h"
+#include "settings/colour_settings.h"
+#include "settings/settings.h"
 
 #include <QTextBlock>
 
@@ -89,8 +90,9 @@ void Highlighting::applyColour(Document &document)
             }
         }
     };
-    const auto runs = paint(document.text(), isJoystick ? joystickPasses() : macroPasses(),
-                            colourScheme(m_context.settings, document.kind()), tell);
+    const auto runs =
+        paint(document.text(), isJoystick ? joystickPasses() : macroPasses(),
+              colourScheme(m_context.settings.of<ColourSettings>(), document.kind()), tell);
     const EditorView::KeptPlace place(m_parts.view, document);
     document.setLooks(lookRuns(runs, m_documents.plainFormat(document.kind())));
     document.select(document.selStart(), 0);
@@ -165,13 +167,14 @@ void Highlighting::mnuRemoveColourSelectedText_Click()
     }
 }
 
-void Highlighting::followScheme(const GlobalSettings &before)
+void Highlighting::followScheme(const ColourSettings &before)
 {
     m_documents.forEach([this, &before](Document &each) {
         const DocumentKind kind = each.kind();
         const auto colours =
-            recolouring(colourScheme(before, kind), colourScheme(m_context.settings, kind));
-        const CharFormat font = plainFormat(m_context.settings, kind);
+            recolouring(colourScheme(before, kind),
+                        colourScheme(m_context.settings.of<ColourSettings>(), kind));
+        const CharFormat font = plainFormat(m_context.settings.of<ColourSettings>(), kind);
         CharFormat fontBefore = font;
         takeFont(fontBefore, plainFormat(before, kind));
         const bool hasNewFont = !(fontBefore == font);
@@ -238,8 +241,9 @@ RichText Highlighting::painted(const QString &text, const Painter &painter) cons
 {
     const DocumentKind kind = m_documents.selected().kind();
     RichText result = RichText::plain(text, {}, documentParagraph);
-    result.characters = characterRuns(painter.paint(text, colourScheme(m_context.settings, kind)),
-                                      m_documents.plainFormat(kind));
+    result.characters = characterRuns(
+        painter.paint(text, colourScheme(m_context.settings.of<ColourSettings>(), kind)),
+        m_documents.plainFormat(kind));
     return result;
 }
 

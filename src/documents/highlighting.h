@@ -13,6 +13,7 @@ class ColouredInsert;
 class Document;
 class Documents;
 class EditorView;
+struct ColourSettings;
 
 /// Gives the documents their colours and takes them away. Looks only: no text changes, and no
 /// saved state either. Caret and scroll stay where the user has them.
@@ -52,7 +53,7 @@ public:
     /// Gives both documents a font that is other than before, and what has a colour of the scheme
     /// before the one that took its place; other colours and looks stay. The coloured copy of a
     /// saved document follows.
-    void followScheme(const GlobalSettings &before);
+    void followScheme(const ColourSettings &before);
 
     /// Colours the lines of the selection, or the caret's line, at the cost of these lines alone.
     void BlockColour();

@@ -9,7 +9,8 @@
 #include "documents/styleeditor.h"
 #include "menus/menu_actions.h"
 #include "platform/dialogs.h"
-#include "settings/global_settings.h"
+#include "settings/colour_settings.h"
+#include "settings/settings.h"
 #include "settings/settings_files.h"
 
 #include <QAction>
@@ -81,8 +82,8 @@ void TextLooks::mnuFormatStyleEditor_Click()
         return;
     }
     m_editor = new StyleEditor(readTextStyles(ProfileFile(m_context.paths.iniPath)),
-                               m_context.settings.BackgroundColour, m_context.dialogs,
-                               m_parts.view.window());
+                               m_context.settings.of<ColourSettings>().BackgroundColour,
+                               m_context.dialogs, m_parts.view.window());
     m_editor->setAttribute(Qt::WA_DeleteOnClose);
     QObject::connect(m_editor, &QDialog::accepted, m_editor,
                      [this] { keepStyles(m_editor->styles()); });
@@ -108,19 +109,19 @@ void TextLooks::UpdateStyleCaptions()
 
 void TextLooks::mnuFormatFont_Click()
 {
-    GlobalSettings &settings = m_context.settings;
+    auto &settings = m_context.settings.of<ColourSettings>();
     CharFormat font = m_documents.plainFormat(m_documents.selected().kind());
     const auto chosen = m_context.dialogs.chooseFont(font);
     if (!chosen) {
         return;
     }
     settings.TextFontName = chosen->family;
-    settings.TextFontSize = QString::number(chosen->pointSize);
-    settings.TextFontBold = chosen->bold ? 1 : 0;
+    settings.TextFontSize = chosen->pointSize;
+    settings.TextFontBold = chosen->bold;
     const auto written =
-        saveSettings(settings, settingsFilesOf(m_context.paths),
-                     { &GlobalSettings::TextFontName, &GlobalSettings::TextFontSize,
-                       &GlobalSettings::TextFontBold });
+        saveSettings(m_context.settings, settingsFilesOf(m_context.paths),
+                     { &ColourSettings::TextFontName, &ColourSettings::TextFontSize,
+                       &ColourSettings::TextFontBold });
     if (!written) {
         tellNotKept(m_context.status, written.error());
     }

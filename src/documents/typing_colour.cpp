@@ -3,16 +3,16 @@
 
 #include "documents/typing_colour.h"
 
+#include "documents/document_settings.h"
 #include "documents/editor_view.h"
 #include "documents/highlighting.h"
-#include "settings/global_settings.h"
 
 #include <QKeyEvent>
 
 namespace zeph {
 
 TypingColour::TypingColour(EditorView &view, Highlighting &highlighting,
-                           const GlobalSettings &settings)
+                           const DocumentSettings &settings)
     : m_documents(view.documents()), m_highlighting(highlighting), m_settings(settings)
 {
     view.watch(*this);
@@ -20,7 +20,7 @@ TypingColour::TypingColour(EditorView &view, Highlighting &highlighting,
 
 bool TypingColour::eventFilter(QObject *, QEvent *event)
 {
-    if (m_settings.ColourWithTyping == 1 && endsLine(*event)) {
+    if (m_settings.ColourWithTyping && endsLine(*event)) {
         const bool isProtected =
             m_documents.isProtected() && m_documents.selected().kind() == DocumentKind::Macro;
         if (!isProtected) {

@@ -10,7 +10,7 @@ namespace zeph {
 class Documents;
 class EditorView;
 class Highlighting;
-struct GlobalSettings;
+struct DocumentSettings;
 
 /// Colours lines as they are typed, while ColourWithTyping is 1: before a blank or a line end goes
 /// in, behind Backspace and Right, and when the mouse has selected something. A protected macro
@@ -19,7 +19,7 @@ class TypingColour : public QObject
 {
     Q_OBJECT
 public:
-    TypingColour(EditorView &view, Highlighting &highlighting, const GlobalSettings &settings);
+    TypingColour(EditorView &view, Highlighting &highlighting, const DocumentSettings &settings);
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -29,7 +29,7 @@ private:
 
     Documents &m_documents;
     Highlighting &m_highlighting;
-    const GlobalSettings &m_settings;
+    const DocumentSettings &m_settings;
 };
 
 } // namespace zeph

@@ -2,13 +2,13 @@
 // SPDX-License-Identifier: MIT
 
 #include "documents/undo_histories.h"
-
+#include "documents/document_settings.h"
 #include "documents/documents.h"
 #include "documents/editor_view.h"
 #include "documents/line_blink.h"
 #include "menus/menu_actions.h"
 #include "platform/status_line.h"
-#include "settings/global_settings.h"
+#include "settings/settings.h"
 
 #include <QAction>
 
@@ -35,6 +35,16 @@ UndoHistories::UndoHistories(const Context &context, EditorView &view, MenuActio
         connect(&each, &Document::stepsChanged, this, &UndoHistories::UpdateUndoRedoMenus);
     });
     connect(&m_documents, &Documents::selectedChanged, this, &UndoHistories::UpdateUndoRedoMenus);
+    connect(&m_documents.joystick(), &Document::written, this, [this](Document::Save save) {
+        if (clearsOn(save)) {
+            DeleteUndosOnSaveJ();
+        }
+    });
+    connect(&m_documents.macro(), &Document::written, this, [this](Document::Save save) {
+        if (clearsOn(save)) {
+            DeleteUndosOnSaveM();
+        }
+    });
     actions.connectTo(u"mnuEditUndo", [this] { mnuEditUndo_Click(); });
     actions.connectTo(u"mnuEditRedo", [this] { mnuEditRedo_Click(); });
     actions.connectTo(u"mnuEditSelectLine", [this] { mnuEditSelectLine_Click(); });
@@ -48,25 +58,24 @@ UndoHistory &UndoHistories::of(DocumentKind kind)
 
 void UndoHistories::mnuEditUndo_Click()
 {
-    step(&UndoHistory::undo, m_documents.selected().history().canUndo());
+    step(&Document::undo, m_documents.selected().history().canUndo());
 }
 
 void UndoHistories::mnuEditRedo_Click()
 {
-    step(&UndoHistory::redo, m_documents.selected().history().canRedo());
+    step(&Document::redo, m_documents.selected().history().canRedo());
 }
 
-void UndoHistories::step(void (UndoHistory::*way)(), bool possible)
+void UndoHistories::step(void (Document::*way)(), bool possible)
 {
     if (m_documents.refuseProtected() || !possible) {
         return;
     }
     Document &document = m_documents.selected();
     m_blink->stop();
-    (document.history().*way)();
+    (document.*way)();
     m_context.status.setLine(document.caretLine());
-    UpdateUndoRedoMenus();
-    if (m_context.settings.HighlightLineOnUndo == 1) {
+    if (m_context.settings.of<DocumentSettings>().HighlightLineOnUndo) {
         m_blink->start(document.kind());
     }
 }
@@ -82,6 +91,11 @@ void UndoHistories::UpdateUndoRedoMenus()
     showSteps(*m_actions.action(u"mnuEditUndo"), u"Undo"_s, history.slots() - history.UndoIndex());
     showSteps(*m_actions.action(u"mnuEditRedo"), u"Redo"_s, history.UndoIndex() - 1);
     Q_EMIT menusUpdated();
+}
+
+bool UndoHistories::clearsOn(Document::Save save) const
+{
+    return save == Document::Save::Asked && m_context.settings.of<DocumentSettings>().UndoClearOnSave;
 }
 
 void UndoHistories::startOver(DocumentKind kind)

@@ -3,8 +3,7 @@
 
 #pragma once
 
-#include "documents/undo_history.h"
-#include "language/file_kinds.h"
+#include "documents/document.h"
 #include "platform/context.h"
 
 #include <QObject>
@@ -29,7 +28,7 @@ public:
     /// Selects the caret's line in the selected document.
     void mnuEditSelectLine_Click();
     void UpdateUndoRedoMenus();
-    /// A fresh history for a document that was loaded or emptied.
+    /// A fresh history for a document.
     void startOver(DocumentKind kind);
     /// When a save clears the history (UndoClearOnSave), this is what it does.
     void DeleteUndosOnSaveJ() { startOver(DocumentKind::Joystick); }
@@ -42,7 +41,8 @@ Q_SIGNALS:
     void menusUpdated();
 
 private:
-    void step(void (UndoHistory::*way)(), bool possible);
+    void step(void (Document::*way)(), bool possible);
+    bool clearsOn(Document::Save save) const;
 
     Context m_context;
     EditorView &m_view;

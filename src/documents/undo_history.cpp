@@ -7,7 +7,7 @@
 
 namespace zeph {
 
-UndoHistory::UndoHistory(ColouredText &text, const qint16 &undoMax)
+UndoHistory::UndoHistory(ColouredText &text, const int &undoMax)
     : m_text(text), m_undoMax(undoMax), m_states(text.states())
 {
     reset();

@@ -18,7 +18,7 @@ class UndoHistory
 {
 public:
     /// Text and setting outlive the history.
-    UndoHistory(ColouredText &text, const qint16 &undoMax);
+    UndoHistory(ColouredText &text, const int &undoMax);
 
     /// One slot holding the document as it stands, caret 0: after load, new and clearing.
     void reset();
@@ -56,7 +56,7 @@ private:
     void show(int index);
 
     ColouredText &m_text;
-    const qint16 &m_undoMax;
+    const int &m_undoMax;
     DocumentStates &m_states;
     std::deque<Slot> m_slots; ///< slot 1 in front
     int m_index = 1;

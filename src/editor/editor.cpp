@@ -3,7 +3,9 @@
 
 #include "editor/editor.h"
 
+#include "documents/document_settings.h"
 #include "editor/actions.h"
+#include "editor/editor_settings.h"
 
 #include "documents/coloured_copies.h"
 #include "documents/coloured_insert.h"
@@ -30,7 +32,8 @@
 #include "menus/menu_actions.h"
 #include "platform/dialogs.h"
 #include "platform/richtext/rich_text_mime.h"
-#include "settings/global_settings.h"
+#include "settings/settings.h"
+#include "settings/shared_settings.h"
 
 #include <QAction>
 #include <QApplication>
@@ -50,7 +53,8 @@ Editor::Editor(const Context &context, QWidget *parent)
       m_documents(std::make_unique<Documents>(context)),
       m_view(std::make_unique<EditorView>(context, *m_documents, this)),
       m_copies(std::make_unique<ColouredCopies>(context.paths)),
-      m_keys(std::make_unique<EditorKeys>(*m_view, *m_actions, context.settings)),
+      m_keys(
+          std::make_unique<EditorKeys>(*m_view, *m_actions, context.settings.of<SharedSettings>())),
       // After the keys: a line that blinks has to be let go before a key's entry runs.
       m_undos(std::make_unique<UndoHistories>(context, *m_view, *m_actions)),
       m_insert(std::make_unique<ColouredInsert>(context, *m_view)),
@@ -58,15 +62,15 @@ Editor::Editor(const Context &context, QWidget *parent)
           context, Highlighting::Parts{ *m_view, *m_copies, *m_insert })),
       m_looks(
           std::make_unique<TextLooks>(context, TextLooks::Parts{ *m_view, *m_actions, *m_insert })),
-      m_typingColour(std::make_unique<TypingColour>(*m_view, *m_highlighting, context.settings)),
+      m_typingColour(std::make_unique<TypingColour>(*m_view, *m_highlighting,
+                                                    context.settings.of<DocumentSettings>())),
       m_editing(std::make_unique<EditingTools>(
           context, EditingTools::Parts{ *m_view, *m_actions, *m_highlighting, *m_insert })),
-      m_useDirectives(std::make_unique<UseDirectives>(context, *m_view)),
-      m_saving(std::make_unique<FileSaving>(context, *m_view, *m_copies, *m_useDirectives)),
+      m_useDirectives(std::make_unique<UseDirectives>(context, *m_documents)),
+      m_saving(std::make_unique<FileSaving>(context, *m_view, *m_copies)),
       m_opening(std::make_unique<FileOpening>(
-          context,
-          FileOpening::Parts{ *m_view, *m_copies, *m_highlighting, *m_useDirectives, *m_saving })),
-      m_fresh(std::make_unique<FileNew>(context, *m_view, *m_opening, *m_useDirectives)),
+          context, FileOpening::Parts{ *m_view, *m_copies, *m_highlighting, *m_saving })),
+      m_fresh(std::make_unique<FileNew>(context, *m_view, *m_opening)),
       m_rightMenu(std::make_unique<RightMenu>(*m_view, *m_actions)),
       m_guards(new LossGuards{ .autoSave = { context, *m_view, *m_saving },
                                .recovery = { context, { *m_view, *m_opening } } }),
@@ -83,11 +87,9 @@ Editor::Editor(const Context &context, QWidget *parent)
     connectFiles();
     connectEditing();
     connectOptions();
-    connectUndo();
     connectLooks();
     connectPainting();
     connectMacros();
-    connectGuards();
     connect(m_keys.get(), &EditorKeys::helpOn, this, &Editor::helpOn);
     connect(m_keys.get(), &EditorKeys::emergencyOff, this, &Editor::emergencyOff);
     m_documents->forEach([this](Document &each) {
@@ -95,8 +97,7 @@ Editor::Editor(const Context &context, QWidget *parent)
     });
     connect(m_documents.get(), &Documents::selectedChanged, this, &Editor::updateConditions);
     connect(m_documents.get(), &Documents::selectedChanged, this, &Editor::updateDownloadCaption);
-    connect(m_opening.get(), &FileOpening::loaded, this, &Editor::updateDownloadCaption);
-    connect(m_fresh.get(), &FileNew::joystickReplaced, this, &Editor::updateDownloadCaption);
+    connect(&m_documents->joystick(), &Document::replaced, this, &Editor::updateDownloadCaption);
     connect(QApplication::clipboard(), &QClipboard::dataChanged, this, &Editor::updateConditions);
     updateConditions();
 }
@@ -169,8 +170,9 @@ void Editor::connectOptions()
 {
     MenuActions &on = *m_actions;
     on.connectTo(u"mnuViewTileVertically", [this] {
-        m_context.settings.TileFiles = action(u"mnuViewTileVertically")->isChecked();
-        m_view->setTiled(m_context.settings.TileFiles == 1);
+        m_context.settings.of<EditorSettings>().TileFiles =
+            action(u"mnuViewTileVertically")->isChecked();
+        m_view->setTiled(m_context.settings.of<EditorSettings>().TileFiles);
     });
     on.connectTo(u"mnuPreferencesProtectMacroFile", [this] {
         m_documents->setProtected(action(u"mnuPreferencesProtectMacroFile")->isChecked());
@@ -178,27 +180,7 @@ void Editor::connectOptions()
     });
     on.connectTo(u"mnuJoyPopUpSingleFile", [this] {
         m_opening->OpenSingleFileOnly = action(u"mnuJoyPopUpSingleFile")->isChecked();
-        m_context.settings.OpenSingleFileOnly = m_opening->OpenSingleFileOnly;
-    });
-}
-
-void Editor::connectUndo()
-{
-    UndoHistories *undos = m_undos.get();
-    connect(m_opening.get(), &FileOpening::loaded, undos, &UndoHistories::startOver);
-    connect(m_fresh.get(), &FileNew::joystickReplaced, undos,
-            [undos] { undos->startOver(DocumentKind::Joystick); });
-    connect(m_fresh.get(), &FileNew::macroReplaced, undos,
-            [undos] { undos->startOver(DocumentKind::Macro); });
-    connect(m_saving.get(), &FileSaving::written, undos, [this, undos](DocumentKind kind) {
-        if (m_context.settings.UndoClearOnSave != 1) {
-            return;
-        }
-        if (kind == DocumentKind::Joystick) {
-            undos->DeleteUndosOnSaveJ();
-        } else {
-            undos->DeleteUndosOnSaveM();
-        }
+        m_context.settings.of<EditorSettings>().OpenSingleFileOnly = m_opening->OpenSingleFileOnly;
     });
 }
 
@@ -206,11 +188,13 @@ void Editor::connectLooks()
 {
     MenuActions &on = *m_actions;
     on.connectTo(u"mnuViewLineNumbers", [this] {
-        m_context.settings.LineNumbers = action(u"mnuViewLineNumbers")->isChecked();
+        m_context.settings.of<DocumentSettings>().LineNumbers =
+            action(u"mnuViewLineNumbers")->isChecked();
         applySettings();
     });
     on.connectTo(u"mnuViewCurrentLine", [this] {
-        m_context.settings.CurrentLineMark = action(u"mnuViewCurrentLine")->isChecked();
+        m_context.settings.of<DocumentSettings>().CurrentLineMark =
+            action(u"mnuViewCurrentLine")->isChecked();
         applySettings();
     });
 }
@@ -244,27 +228,10 @@ void Editor::connectPainting()
 void Editor::connectMacros()
 {
     m_macros = std::make_unique<MacroFeatures>(
-        m_context,
-        MacroFeatures::Parts{ *m_view, *m_actions, *m_opening, *m_saving, *m_fresh, *m_insert });
+        m_context, MacroFeatures::Parts{ *m_view, *m_actions, *m_opening, *m_saving, *m_insert });
     layout()->addWidget(m_macros->list().frame());
     connect(&m_macros->menu(), &MacroListMenu::quickTipWanted, this,
             [this] { Q_EMIT helpOn(u"macro list"_s); });
-}
-
-void Editor::connectGuards()
-{
-    for (const auto replaced : { &FileNew::joystickReplaced, &FileNew::macroReplaced }) {
-        connect(m_fresh.get(), replaced, &m_guards->autoSave, &AutoSave::restart);
-        connect(m_fresh.get(), replaced, &m_guards->recovery, &Recovery::update);
-    }
-    connect(m_opening.get(), &FileOpening::loaded, &m_guards->recovery, &Recovery::update);
-    connect(m_saving.get(), &FileSaving::aboutToWrite, &m_guards->recovery, &Recovery::catchUp);
-    connect(m_saving.get(), &FileSaving::safe, &m_guards->recovery, &Recovery::update);
-    connect(m_opening.get(), &FileOpening::loaded, m_saving.get(), &FileSaving::forgetFresh);
-    connect(m_fresh.get(), &FileNew::joystickReplaced, m_saving.get(),
-            [this] { m_saving->forgetFresh(DocumentKind::Joystick); });
-    connect(m_fresh.get(), &FileNew::macroReplaced, m_saving.get(),
-            [this] { m_saving->forgetFresh(DocumentKind::Macro); });
 }
 
 void Editor::updateConditions()
@@ -272,9 +239,10 @@ void Editor::updateConditions()
     m_actions->setCondition(EditorWhen::Selection, selected().selLength() > 0);
     m_actions->setCondition(EditorWhen::PasteReady,
                             holdsText(QApplication::clipboard()->mimeData()));
-    m_actions->setCondition(EditorWhen::JoystickText,
-                            selected().kind() == DocumentKind::Joystick
-                                || m_context.settings.AlwaysShowCompileDownload == 1);
+    m_actions->setCondition(
+        EditorWhen::JoystickText,
+        selected().kind() == DocumentKind::Joystick
+            || m_context.settings.of<EditorSettings>().AlwaysShowCompileDownload);
 }
 
 void Editor::updateDownloadCaption()
@@ -319,18 +287,19 @@ QString Editor::restorableFile(DocumentKind kind)
 
 void Editor::applySettings()
 {
-    const GlobalSettings &settings = m_context.settings;
+    const auto &settings = m_context.settings.of<EditorSettings>();
+    const auto &looks = m_context.settings.of<DocumentSettings>();
     m_view->applyLook();
     m_looks->UpdateStyleCaptions();
     m_editing->applySettings();
     m_insertForms->applySettings();
-    m_view->setTiled(settings.TileFiles == 1);
-    action(u"mnuViewTileVertically")->setChecked(settings.TileFiles == 1);
+    m_view->setTiled(settings.TileFiles);
+    action(u"mnuViewTileVertically")->setChecked(settings.TileFiles);
     m_macros->applySettings();
-    m_opening->OpenSingleFileOnly = settings.OpenSingleFileOnly == 1;
+    m_opening->OpenSingleFileOnly = settings.OpenSingleFileOnly;
     action(u"mnuJoyPopUpSingleFile")->setChecked(m_opening->OpenSingleFileOnly);
-    action(u"mnuViewLineNumbers")->setChecked(settings.LineNumbers == 1);
-    action(u"mnuViewCurrentLine")->setChecked(settings.CurrentLineMark == 1);
+    action(u"mnuViewLineNumbers")->setChecked(looks.LineNumbers);
+    action(u"mnuViewCurrentLine")->setChecked(looks.CurrentLineMark);
     updateConditions();
 }
 

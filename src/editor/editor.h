@@ -95,11 +95,9 @@ private:
     void connectFiles();
     void connectEditing();
     void connectOptions();
-    void connectUndo();
     void connectLooks();
     void connectPainting();
     void connectMacros();
-    void connectGuards();
     void updateConditions();
     void updateDownloadCaption();
 

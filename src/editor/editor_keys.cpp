@@ -6,7 +6,7 @@
 #include "documents/editor_view.h"
 #include "editor/actions.h"
 #include "menus/menu_actions.h"
-#include "settings/global_settings.h"
+#include "settings/shared_settings.h"
 
 #include <QAction>
 #include <QKeyEvent>
@@ -55,7 +55,7 @@ QStringView standardEntry(const QKeyEvent &event)
 
 } // namespace
 
-EditorKeys::EditorKeys(EditorView &view, MenuActions &actions, const GlobalSettings &settings)
+EditorKeys::EditorKeys(EditorView &view, MenuActions &actions, const SharedSettings &settings)
     : m_view(view), m_actions(actions), m_settings(settings)
 {
     view.watch(*this);
@@ -134,7 +134,7 @@ bool EditorKeys::keyPressed(const QKeyEvent &event, bool macroText)
     }
     const QStringView standard = standardEntry(event);
     QString entry = standard.isEmpty() ? entryFor(event.key(), macroText) : standard.toString();
-    if (event.key() == Qt::Key_K && m_settings.DefaultToDX8KeyTester == 1) {
+    if (event.key() == Qt::Key_K && m_settings.DefaultToDX8KeyTester) {
         entry = u"mnuAppsDX8_0"_s;
     }
     // Taken even when the entry cannot be used: some desktops give these keys to the toolkit for

@@ -3,13 +3,16 @@
 
 #include "lists/favourites_menu.h"
 
+#include "documents/document_settings.h"
 #include "documents/foreign_keyboard.h"
 #include "editor/editor.h"
+#include "editor/editor_settings.h"
 #include "editor/files/file_opening.h"
 #include "lists/enterfavouritename.h"
 #include "menus/menu_actions.h"
 #include "menus/menu_array.h"
 #include "platform/dialogs.h"
+#include "settings/settings.h"
 
 #include <QAction>
 #include <QMenu>
@@ -108,7 +111,7 @@ std::optional<QString> FavouritesMenu::pathFor(const QString &path, const QStrin
 QString FavouritesMenu::askName()
 {
     EnterFavouritename window(&m_editor);
-    new ForeignKeyBSupport(m_context.keyboard, m_context.settings, &window);
+    new ForeignKeyBSupport(m_context.keyboard, m_context.settings.of<DocumentSettings>(), &window);
     return window.exec() == QDialog::Accepted ? window.name() : QString();
 }
 

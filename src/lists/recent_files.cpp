@@ -72,19 +72,22 @@ RecentFiles::RecentFiles(const Context &context, Editor &editor)
         }
         makeMenu(kind);
     }
-    connect(&editor.opening(), &FileOpening::loaded, this,
-            [this](DocumentKind kind, const QString &path) {
-                // A text that came back after a crash may have no file yet.
-                if (fileExists(path)) {
-                    update(kind, path);
-                }
-            });
+    editor.documents().forEach([this](Document &each) { follow(each); });
+}
+
+void RecentFiles::follow(Document &document)
+{
+    connect(&document, &Document::replaced, this, [this, &document](Document::How how) {
+        // A text that came back after a crash may have no file yet.
+        const bool isOpened = how == Document::How::Loaded || how == Document::How::Recovered;
+        if (isOpened && fileExists(document.path())) {
+            update(document.kind(), document.path());
+        }
+    });
     // An autosave counts as well; a text without a name of its own has nothing to be found by.
-    connect(&editor.saving(), &FileSaving::safe, this, [this](DocumentKind kind) {
-        const Document &saved =
-            kind == DocumentKind::Joystick ? m_editor.joystick() : m_editor.macro();
-        if (!isUntitled(saved.name())) {
-            update(kind, saved.path());
+    connect(&document, &Document::written, this, [this, &document] {
+        if (!isUntitled(document.name())) {
+            update(document.kind(), document.path());
         }
     });
 }

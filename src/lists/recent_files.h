@@ -15,6 +15,7 @@ class QMenu;
 
 namespace zeph {
 
+class Document;
 class Editor;
 class MenuArray;
 
@@ -30,6 +31,7 @@ public:
     const QStringList &list(DocumentKind kind) const { return m_lists[size_t(kind)]; }
 
 private:
+    void follow(Document &document);
     void makeMenu(DocumentKind kind);
     void update(DocumentKind kind, const QString &path);
     void clearAll(DocumentKind kind);

@@ -47,6 +47,6 @@ std::optional<int> clearDelayMs(int clearDelay);
 constexpr int clearDelayCount = 5;
 constexpr int clearDelayStepMs = 200;
 /// ClearDelay for "off".
-constexpr qint16 noClearDelay = -1;
+constexpr int noClearDelay = -1;
 
 } // namespace zeph

@@ -5,12 +5,16 @@
 
 #include "livetools/key_codes_file.h"
 #include "livetools/key_test_menus.h"
+#include "livetools/key_tester_settings.h"
 #include "menus/menu_actions.h"
 #include "platform/core/units.h"
 #include "platform/handlers.h"
 #include "platform/input/keyboard.h"
 #include "platform/richtext/rich_text_box.h"
+#include "settings/settings.h"
 #include "settings/settings_files.h"
+#include "toolchain/toolchain_settings.h"
+#include "toolchain/wait_state.h"
 #include "ui_keytestform.h"
 
 #include <QAction>
@@ -25,8 +29,6 @@
 namespace zeph {
 
 namespace {
-
-using G = GlobalSettings;
 
 constexpr int defaultDelayMs = 500;
 constexpr int layoutNameLength = 10;
@@ -76,7 +78,7 @@ KeyTestForm::KeyTestForm(const Context &context, const KeyTestEntries &entries, 
     m_timer1->setInterval(defaultDelayMs);
     m_timer1->setSingleShot(true);
     connect(m_timer1, &QTimer::timeout, this, [this] { m_rules.delayOver(); });
-    m_modeTimer.setInterval(checkForCompletionTimeMs(context.settings));
+    m_modeTimer.setInterval(checkForCompletionTimeMs(context.settings.of<ToolchainSettings>()));
     connect(&m_modeTimer, &QTimer::timeout, this, [this] { readMode(); });
     connect(m_ui->Label1, &QPushButton::clicked, this, [this] { ToggleMenus(); });
     connect(m_ui->LBL_ModeWarning, &QPushButton::clicked, this,
@@ -120,38 +122,42 @@ bool KeyTestForm::Form_Load()
 
 void KeyTestForm::GetKeyPosition()
 {
-    GlobalSettings &settings = m_context.settings;
+    auto &settings = m_context.settings.of<KeyTesterSettings>();
     tellProblems(
         m_context.dialogs,
-        readSettings(settings, settingsFilesOf(m_context.paths),
-                     { &G::KeyTopAtStartup, &G::KeyLeftAtStartup, &G::KeyWidthAtStartup,
-                       &G::KeyHeightAtStartup, &G::ClearDelay, &G::KeyViewAll, &G::MenuDisplay }));
-    resize(pixelsFromTwips(numberOf(settings, &G::KeyWidthAtStartup)),
-           pixelsFromTwips(numberOf(settings, &G::KeyHeightAtStartup)));
-    const QPoint corner(pixelsFromTwips(numberOf(settings, &G::KeyLeftAtStartup)),
-                        pixelsFromTwips(numberOf(settings, &G::KeyTopAtStartup)));
+        readSettings(m_context.settings, settingsFilesOf(m_context.paths),
+                     { &KeyTesterSettings::KeyTopAtStartup, &KeyTesterSettings::KeyLeftAtStartup,
+                       &KeyTesterSettings::KeyWidthAtStartup,
+                       &KeyTesterSettings::KeyHeightAtStartup, &KeyTesterSettings::ClearDelay,
+                       &KeyTesterSettings::KeyViewAll, &KeyTesterSettings::MenuDisplay }));
+    resize(pixelsFromTwips(settings.KeyWidthAtStartup),
+           pixelsFromTwips(settings.KeyHeightAtStartup));
+    const QPoint corner(pixelsFromTwips(settings.KeyLeftAtStartup),
+                        pixelsFromTwips(settings.KeyTopAtStartup));
     // The screen where the window was last time may be gone.
     if (QGuiApplication::screenAt(corner)) {
         move(corner);
     }
     setClearDelay(settings.ClearDelay);
-    showKeyEvents(settings.KeyViewAll != 0);
-    showMenus(settings.MenuDisplay != 0);
+    showKeyEvents(settings.KeyViewAll);
+    showMenus(settings.MenuDisplay);
 }
 
 void KeyTestForm::SaveKeyFormPosition()
 {
-    GlobalSettings &settings = m_context.settings;
+    auto &settings = m_context.settings.of<KeyTesterSettings>();
     if (!isMinimized() && !isMaximized()) {
-        settings.KeyTopAtStartup = QString::number(twipsFromPixels(y()));
-        settings.KeyLeftAtStartup = QString::number(twipsFromPixels(x()));
-        settings.KeyWidthAtStartup = QString::number(twipsFromPixels(width()));
-        settings.KeyHeightAtStartup = QString::number(twipsFromPixels(height()));
+        settings.KeyTopAtStartup = twipsFromPixels(y());
+        settings.KeyLeftAtStartup = twipsFromPixels(x());
+        settings.KeyWidthAtStartup = twipsFromPixels(width());
+        settings.KeyHeightAtStartup = twipsFromPixels(height());
     }
     // A store that cannot be written is not told: the window then opens as it did before.
-    (void)saveSettings(settings, settingsFilesOf(m_context.paths),
-                       { &G::KeyTopAtStartup, &G::KeyLeftAtStartup, &G::KeyWidthAtStartup,
-                         &G::KeyHeightAtStartup, &G::ClearDelay, &G::KeyViewAll, &G::MenuDisplay });
+    (void)saveSettings(m_context.settings, settingsFilesOf(m_context.paths),
+                       { &KeyTesterSettings::KeyTopAtStartup, &KeyTesterSettings::KeyLeftAtStartup,
+                         &KeyTesterSettings::KeyWidthAtStartup,
+                         &KeyTesterSettings::KeyHeightAtStartup, &KeyTesterSettings::ClearDelay,
+                         &KeyTesterSettings::KeyViewAll, &KeyTesterSettings::MenuDisplay });
 }
 
 void KeyTestForm::ClearTextBoxes()
@@ -176,12 +182,12 @@ void KeyTestForm::TurnOffCapsLOCK()
 
 void KeyTestForm::ToggleMenus()
 {
-    showMenus(m_context.settings.MenuDisplay == 0);
+    showMenus(!m_context.settings.of<KeyTesterSettings>().MenuDisplay);
 }
 
 void KeyTestForm::showMenus(bool shown)
 {
-    m_context.settings.MenuDisplay = shown ? 1 : 0;
+    m_context.settings.of<KeyTesterSettings>().MenuDisplay = shown;
     // The entries too, since assistive programs look at them and not at the bar.
     for (const QStringView name : { u"mnuEmergency", u"mnuClear", u"mnuView", u"mnuCopy" }) {
         m_menus->action(name)->setVisible(shown);
@@ -209,7 +215,7 @@ void KeyTestForm::connectEntries()
     on.connectArray(u"mnuClearDelay"_s, [this](int index) { chooseClearDelay(index); });
     on.connectTo(u"mnuClearAll", [this] { ClearTextBoxes(); });
     on.connectTo(u"mnuViewKeyEvents",
-                 [this] { showKeyEvents(m_context.settings.KeyViewAll == 0); });
+                 [this] { showKeyEvents(!m_context.settings.of<KeyTesterSettings>().KeyViewAll); });
     on.connectArray(u"mnuFontSize"_s, [this](int index) { setFontSize(index); });
     on.connectArray(u"mnuCopyList"_s, [this](int index) { copyList(index); });
     on.connectTo(u"mnuDX8KeyTester", [this] { m_entries.directXTester->trigger(); });
@@ -225,15 +231,16 @@ void KeyTestForm::mnuYankCord_Click()
 
 void KeyTestForm::chooseClearDelay(int index)
 {
-    setClearDelay(index == m_context.settings.ClearDelay ? int(noClearDelay) : index);
+    setClearDelay(index == m_context.settings.of<KeyTesterSettings>().ClearDelay ? noClearDelay
+                                                                                 : index);
 }
 
 void KeyTestForm::setClearDelay(int index)
 {
     const auto interval = clearDelayMs(index);
-    m_context.settings.ClearDelay = interval ? qint16(index) : noClearDelay;
+    m_context.settings.of<KeyTesterSettings>().ClearDelay = interval ? index : noClearDelay;
     m_timer1->setInterval(interval.value_or(defaultDelayMs));
-    m_menus->tickOnly(u"mnuClearDelay"_s, m_context.settings.ClearDelay);
+    m_menus->tickOnly(u"mnuClearDelay"_s, m_context.settings.of<KeyTesterSettings>().ClearDelay);
     if (!interval) {
         m_timer1->stop();
     }
@@ -251,7 +258,7 @@ void KeyTestForm::setFontSize(int index)
 
 void KeyTestForm::showKeyEvents(bool shown)
 {
-    m_context.settings.KeyViewAll = shown ? 1 : 0;
+    m_context.settings.of<KeyTesterSettings>().KeyViewAll = shown;
     m_ui->PaneEvents->setVisible(shown);
     m_menus->action(u"mnuViewKeyEvents")->setChecked(shown);
 }

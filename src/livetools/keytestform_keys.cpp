@@ -3,12 +3,13 @@
 
 // How keys reach the Key Tester, and what it shows for each.
 
+#include "livetools/key_tester_settings.h"
 #include "livetools/keytestform.h"
 #include "livetools/virtual_keys.h"
 #include "platform/handlers.h"
 #include "platform/input/keyboard.h"
 #include "platform/richtext/rich_text_box.h"
-#include "settings/global_settings.h"
+#include "settings/settings.h"
 #include "ui_keytestform.h"
 
 #include <QContextMenuEvent>
@@ -80,7 +81,7 @@ void KeyTestForm::Form_KeyPress(char16_t ascii)
 
 void KeyTestForm::Form_KeyUp(int keycode, int)
 {
-    if (m_context.settings.ClearDelay == noClearDelay) {
+    if (m_context.settings.of<KeyTesterSettings>().ClearDelay == noClearDelay) {
         m_timer1->stop();
     } else {
         m_timer1->start();

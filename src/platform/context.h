@@ -12,13 +12,13 @@ class Dialogs;
 class Keyboard;
 class ProcessLauncher;
 class StatusLine;
-struct GlobalSettings;
+class Settings;
 
 /// What the windows of Zeph share, owned by the Application and made there in one function. Pure
 /// code takes values instead.
 struct Context {
     Paths &paths;
-    GlobalSettings &settings;
+    Settings &settings;
     StatusLine &status;
     Dialogs &dialogs;
     ProcessLauncher &launcher;

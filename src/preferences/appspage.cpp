@@ -9,7 +9,8 @@
 #include "platform/handlers.h"
 #include "platform/system_info.h"
 #include "preferences/apps_rules.h"
-#include "settings/global_settings.h"
+#include "settings/settings.h"
+#include "settings/shared_settings.h"
 #include "text/template_files.h"
 #include "ui_appspage.h"
 
@@ -59,8 +60,8 @@ AppsPage::AppsPage(const Context &context, CustomAppsMenu &apps, QWidget *parent
     m_ui->setupUi(this);
     m_ui->ImageFilePath->setMaxLength(longestStorable);
     m_ui->TextFilePath->setMaxLength(longestStorable);
-    m_ui->ImageFilePath->setText(context.settings.ImageFilePath);
-    m_ui->TextFilePath->setText(context.settings.TextFilePath);
+    m_ui->ImageFilePath->setText(context.settings.of<SharedSettings>().ImageFilePath);
+    m_ui->TextFilePath->setText(context.settings.of<SharedSettings>().TextFilePath);
     connect(
         m_ui->CMD_BrowseImage, &QPushButton::clicked, this, guarded(context.dialogs, [this](bool) {
             browse(*m_ui->ImageFilePath,
@@ -189,7 +190,7 @@ void AppsPage::askAboutApplet(const Fields &fields)
 
 void AppsPage::collect()
 {
-    GlobalSettings &settings = m_context.settings;
+    auto &settings = m_context.settings.of<SharedSettings>();
     settings.ImageFilePath = storableOr(m_ui->ImageFilePath->text(), settings.ImageFilePath);
     settings.TextFilePath = storableOr(m_ui->TextFilePath->text(), settings.TextFilePath);
     CustomApps apps;

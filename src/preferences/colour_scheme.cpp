@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "preferences/colour_scheme.h"
+#include "settings/colour_settings.h"
 
 #include <algorithm>
 
@@ -9,32 +10,32 @@ namespace zeph {
 
 namespace {
 
-using G = GlobalSettings;
+using S = ColourSettings;
 using enum PreviewPage;
 
 constexpr ColourCategory categories[] = {
-    { u"Buttons", &G::BTNColour, u"BTN and DEF, with the name behind them", Joystick, Joystick },
-    { u"Background: Joystick", &G::BackgroundColour, u"The paper of the joystick file", Joystick,
+    { u"Buttons", &S::BTNColour, u"BTN and DEF, with the name behind them", Joystick, Joystick },
+    { u"Background: Joystick", &S::BackgroundColour, u"The paper of the joystick file", Joystick,
       Joystick },
-    { u"Rem statements", &G::RemStatements, u"Comments in both files", Joystick, Macro },
-    { u"Slash modifiers", &G::SlashColour, u"/U, /M, /I and their family, and < > around keys",
+    { u"Rem statements", &S::RemStatements, u"Comments in both files", Joystick, Macro },
+    { u"Slash modifiers", &S::SlashColour, u"/U, /M, /I and their family, and < > around keys",
       Joystick, Macro },
-    { u"DLY statements", &G::RAWColour, u"DLY, RPT, CURVE and other words for keys and axes, ( )",
+    { u"DLY statements", &S::RAWColour, u"DLY, RPT, CURVE and other words for keys and axes, ( )",
       Joystick, Macro },
-    { u"Configuration", &G::MiscellaneousColour, u"USE and all that sets the Cougar up, { }",
+    { u"Configuration", &S::MiscellaneousColour, u"USE and all that sets the Cougar up, { }",
       Joystick, Macro },
-    { u"Background: Macro", &G::MacroBackgroundColour, u"The paper of the macro file", Macro,
+    { u"Background: Macro", &S::MacroBackgroundColour, u"The paper of the macro file", Macro,
       Macro },
-    { u"Text: Joystick", &G::JoystickTextDefaultColour,
+    { u"Text: Joystick", &S::JoystickTextDefaultColour,
       u"Whatever has no colour of its own in the joystick file", Joystick, Joystick },
-    { u"Text: Macro", &G::MacroTextDefaultColour,
+    { u"Text: Macro", &S::MacroTextDefaultColour,
       u"Whatever has no colour of its own in the macro file", Macro, Macro },
-    { u"Macro List: Background", &G::MacroListBackground, u"The paper of the macro list", MacroList,
+    { u"Macro List: Background", &S::MacroListBackground, u"The paper of the macro list", MacroList,
       MacroList },
-    { u"Macro List: Text", &G::MacroListText, u"The macros in the list", MacroList, MacroList },
-    { u"Macro Headings: Background", &G::MacroHeadingsBackground, u"The field above the macro list",
+    { u"Macro List: Text", &S::MacroListText, u"The macros in the list", MacroList, MacroList },
+    { u"Macro Headings: Background", &S::MacroHeadingsBackground, u"The field above the macro list",
       MacroList, MacroList },
-    { u"Macro Headings: Text", &G::MacroHeadingsText, u"The headings above the macro list",
+    { u"Macro Headings: Text", &S::MacroHeadingsText, u"The headings above the macro list",
       MacroList, MacroList },
 };
 
@@ -82,15 +83,6 @@ std::span<const ColourCategory> colourCategories()
 PreviewPage previewPageFor(const ColourCategory &category, PreviewPage present)
 {
     return std::clamp(present, category.firstPage, category.lastPage);
-}
-
-void copyColours(GlobalSettings &to, const GlobalSettings &from)
-{
-    for (const Setting &setting : settingsTable()) {
-        if (setting.step == SettingsStep::Colours) {
-            std::visit([&to, &from](auto field) { to.*field = from.*field; }, setting.field);
-        }
-    }
 }
 
 QStringList fontChoices(const QStringList &families, const QString &present,

@@ -5,7 +5,7 @@
 
 // What a pilot chooses of colours and font, and the texts on which he sees it.
 
-#include "settings/global_settings.h"
+#include "settings/colour_settings.h"
 #include "text/macro_table.h"
 
 #include <QStringList>
@@ -20,7 +20,7 @@ enum class PreviewPage : quint8 { Joystick, Macro, MacroList };
 /// One of the colours that can be chosen.
 struct ColourCategory {
     QStringView caption;
-    ColorRef GlobalSettings::*colour;
+    ColorRef ColourSettings::*colour;
     QStringView paints; ///< what has the colour, in words
     PreviewPage firstPage; ///< the pages that show it: from this one
     PreviewPage lastPage; ///< to this one
@@ -31,9 +31,6 @@ std::span<const ColourCategory> colourCategories();
 
 /// The page to look at for a category: the present one, if the category is seen on it.
 PreviewPage previewPageFor(const ColourCategory &category, PreviewPage present);
-
-/// Copies the colours and the font, all sixteen settings, and nothing else.
-void copyColours(GlobalSettings &to, const GlobalSettings &from);
 
 /// The families to choose from, sorted without regard to case: those that are offered, and in any
 /// case the present one, so that narrowing the list chooses nothing.

@@ -11,6 +11,7 @@
 #include "platform/dialogs.h"
 #include "platform/handlers.h"
 #include "preferences/colour_scheme.h"
+#include "settings/settings.h"
 #include "text/macro_search.h"
 #include "text/text_styles.h"
 #include "ui_colourspage.h"
@@ -57,12 +58,12 @@ bool isEnter(const QEvent &event)
 } // namespace
 
 ColoursPage::ColoursPage(const Context &context, QWidget *parent)
-    : PreferencesPage(parent), m_context(context), m_scheme(context.settings),
+    : PreferencesPage(parent), m_context(context), m_scheme(context.settings.of<ColourSettings>()),
       m_ui(std::make_unique<Ui::ColoursPage>())
 {
     m_ui->setupUi(this);
-    m_scheme.MacroFrameWidth = sampleListWidth;
     addMacroList();
+    m_list->setWidth(sampleListWidth);
     AddColourTabStuff();
     connectFields();
     m_ui->List1->setCurrentRow(0);
@@ -128,11 +129,11 @@ void ColoursPage::connectFields()
         ApplyColour();
     });
     connect(m_ui->TextFontSize, &QSpinBox::valueChanged, this, [this](int points) {
-        m_scheme.TextFontSize = QString::number(points);
+        m_scheme.TextFontSize = points;
         ApplyColour();
     });
     connect(m_ui->TextFontBold, &QCheckBox::toggled, this, [this](bool bold) {
-        m_scheme.TextFontBold = bold ? 1 : 0;
+        m_scheme.TextFontBold = bold;
         ApplyColour();
     });
     connect(m_ui->CHK_FixedPitch, &QCheckBox::toggled, this, &ColoursPage::showFonts);
@@ -145,7 +146,7 @@ void ColoursPage::connectFields()
 
 void ColoursPage::collect()
 {
-    copyColours(m_context.settings, m_scheme);
+    m_context.settings.of<ColourSettings>() = m_scheme;
 }
 
 /// Puts the scheme into the fields; what they cannot show (a size beyond their range) stays in it.
@@ -153,8 +154,8 @@ void ColoursPage::showScheme()
 {
     const QSignalBlocker size(m_ui->TextFontSize);
     const QSignalBlocker bold(m_ui->TextFontBold);
-    m_ui->TextFontSize->setValue(qRound(leadingNumber(m_scheme.TextFontSize)));
-    m_ui->TextFontBold->setChecked(m_scheme.TextFontBold != 0);
+    m_ui->TextFontSize->setValue(qRound(m_scheme.TextFontSize));
+    m_ui->TextFontBold->setChecked(m_scheme.TextFontBold);
     showFonts();
     ApplyColour();
 }
@@ -209,7 +210,7 @@ void ColoursPage::ApplyColour()
 {
     ColourJoy();
     ColourMac();
-    m_list->applySettings(m_scheme);
+    m_list->setColours(m_scheme);
     showSwatches();
 }
 

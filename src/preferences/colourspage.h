@@ -5,7 +5,7 @@
 
 #include "platform/context.h"
 #include "preferences/preferences_page.h"
-#include "settings/global_settings.h"
+#include "settings/colour_settings.h"
 #include "text/painter.h"
 
 #include <memory>
@@ -54,8 +54,8 @@ private:
     void colourSample(TextControl &sample, DocumentKind kind, const Painter &painter);
 
     Context m_context;
-    /// The settings as they are to be; only its colours and font count.
-    GlobalSettings m_scheme;
+    /// The settings as they are to be.
+    ColourSettings m_scheme;
     Painter m_joystick{ joystickPasses() };
     Painter m_macro{ macroPasses() };
     std::unique_ptr<Ui::ColoursPage> m_ui;

@@ -5,8 +5,8 @@
 
 #include "platform/context.h"
 #include "platform/control_array.h"
-#include "preferences/default_options.h"
 #include "preferences/preferences_page.h"
+#include "toolchain/default_options.h"
 
 #include <memory>
 

@@ -3,6 +3,7 @@
 
 #include "preferences/favouritespage.h"
 
+#include "editor/editor_settings.h"
 #include "lists/favourites_menu.h"
 #include "platform/core/storable.h"
 #include "platform/dialogs.h"
@@ -11,7 +12,7 @@
 #include "preferences/favourites_rules.h"
 #include "preferences/list_rules.h"
 #include "preferences/namedlist.h"
-#include "settings/global_settings.h"
+#include "settings/settings.h"
 #include "ui_favouritespage.h"
 
 #include <QScopedValueRollback>
@@ -41,7 +42,7 @@ FavouritesPage::FavouritesPage(const Context &context, FavouritesMenu &favourite
     m_ui->setupUi(this);
     m_ui->layoutPage->insertWidget(0, m_list, 1);
     m_ui->FavLoadOnStart->setChecked(m_favourites.loadOnStart);
-    setRestores(context.settings.RestoreStatus != 0);
+    setRestores(context.settings.of<EditorSettings>().RestoreStatus);
     change(m_favourites, m_favourites.list.isEmpty() ? -1 : 0);
     connectFields();
     connectList();

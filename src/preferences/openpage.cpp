@@ -3,9 +3,11 @@
 
 #include "preferences/openpage.h"
 
+#include "editor/editor_settings.h"
 #include "editor/files/backup_folder.h"
 #include "platform/dialogs.h"
 #include "preferences/preferences_rules.h"
+#include "settings/settings.h"
 #include "ui_openpage.h"
 
 namespace zeph {
@@ -37,7 +39,7 @@ void OpenPage::tidyAutoSave()
     const AutoSaveFields taken =
         takenAutoSave(m_ui->AutoSaveTime->text(), m_ui->AutoSaveEnabled->isChecked());
     m_ui->AutoSaveTime->setText(QString::number(taken.AutoSaveTime));
-    m_ui->AutoSaveEnabled->setChecked(taken.AutoSaveEnabled == 1);
+    m_ui->AutoSaveEnabled->setChecked(taken.AutoSaveEnabled);
 }
 
 void OpenPage::collect()
@@ -45,8 +47,8 @@ void OpenPage::collect()
     // The field may have the focus still.
     tidyAutoSave();
     m_fields->take(m_context.settings);
-    m_context.settings.BackUpFolder =
-        checkedBackupFolder(m_context.settings.BackUpFolder, m_context.paths, m_context.dialogs);
+    m_context.settings.of<EditorSettings>().BackUpFolder = checkedBackupFolder(
+        m_context.settings.of<EditorSettings>().BackUpFolder, m_context.paths, m_context.dialogs);
 }
 
 void OpenPage::browseBackups()

@@ -3,6 +3,7 @@
 
 #include "preferences/preferences.h"
 
+#include "editor/editor_settings.h"
 #include "lists/user_lists.h"
 #include "platform/handlers.h"
 #include "platform/status_line.h"
@@ -17,8 +18,11 @@
 #include "preferences/openpage.h"
 #include "preferences/preferences_rules.h"
 #include "preferences/zephpage.h"
+#include "settings/colour_settings.h"
+#include "settings/settings.h"
 #include "settings/settings_files.h"
-#include "settings/settings_moments.h"
+#include "settings/shared_settings.h"
+#include "toolchain/toolchain_settings.h"
 #include "ui_preferences.h"
 
 #include <QProxyStyle>
@@ -51,10 +55,11 @@ QString captionOf(PreferencesTab tab)
 }
 
 /// The settings of Zeph's own tab that the global save leaves out.
-Expected<void, FileError> saveOwnOptions(const GlobalSettings &settings, const SettingsFiles &files)
+Expected<void, FileError> saveOwnOptions(Settings &settings, const SettingsFiles &files)
 {
-    using G = GlobalSettings;
-    return saveSettings(settings, files, { &G::ShowTips, &G::TileFiles, &G::NumlockDownloadMode });
+    return saveSettings(settings, files,
+                        { &SharedSettings::ShowTips, &EditorSettings::TileFiles,
+                          &ToolchainSettings::NumlockDownloadMode });
 }
 
 } // namespace
@@ -125,11 +130,12 @@ void Preferences::unload()
     if (std::exchange(m_unloaded, true)) {
         return;
     }
-    const qint16 joystick = m_context.settings.JoyIDnumber;
-    const qint16 interval = m_context.settings.StatusMonitoringInterval;
+    const int joystick = m_context.settings.of<ToolchainSettings>().JoyIDnumber;
+    const int interval = m_context.settings.of<ToolchainSettings>().StatusMonitoringInterval;
     takeFields();
-    m_hardwareHasChanged = m_context.settings.JoyIDnumber != joystick || m_defaults->haveChanged();
-    if (m_context.settings.StatusMonitoringInterval != interval) {
+    m_hardwareHasChanged = m_context.settings.of<ToolchainSettings>().JoyIDnumber != joystick
+        || m_defaults->haveChanged();
+    if (m_context.settings.of<ToolchainSettings>().StatusMonitoringInterval != interval) {
         // An interval that is too long for the timer is told, and nothing is lost by it.
         guarded(m_context.dialogs, m_host.restartDetector)();
     }
@@ -146,7 +152,7 @@ void Preferences::takeFields()
 void Preferences::save()
 {
     const SettingsFiles files = settingsFilesOf(m_context.paths);
-    const GlobalSettings &settings = m_context.settings;
+    Settings &settings = m_context.settings;
     // Each is tried, and the first that fails is told.
     Expected<void, FileError> result = SaveFilesPath(m_context.paths);
     const auto also = [&result](const Expected<void, FileError> &written) {
@@ -159,7 +165,7 @@ void Preferences::save()
     also(SaveColourScheme(settings, files));
     m_parts.lists.save();
     also(saveFilesFolder(files, m_context.paths.filesFolder()));
-    also(SaveDefaultOptions(m_defaults->options(), files.hotasIni));
+    also(SaveDefaultOptions(m_defaults->options(), files));
     if (!result) {
         tellNotKept(m_context.status, result.error());
     }

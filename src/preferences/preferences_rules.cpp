@@ -3,45 +3,41 @@
 
 #include "preferences/preferences_rules.h"
 
+#include "documents/document_settings.h"
+#include "editor/editor_settings.h"
+#include "menus/menu_settings.h"
 #include "platform/core/storable.h"
 #include "platform/core/units.h"
+#include "toolchain/toolchain_settings.h"
 
 #include <algorithm>
-#include <array>
-#include <limits>
 
 namespace zeph {
 
 namespace {
 
-constexpr qint16 largest = std::numeric_limits<qint16>::max();
+enum class Bad { NearestEnd, Default };
 
-constexpr std::array rules = {
-    NumberRule{ u"AutoSaveTime", 1, largest, 1, largest, 1 },
-    NumberRule{ u"UndoMax", 10, 30000, 10, 30000, 10 },
-    NumberRule{ u"StatusMonitoringInterval", 0, 60, 3, 3, 3 },
-    NumberRule{ u"DefaultDLYvalue", 0, largest, 0, largest, 60 },
-    NumberRule{ u"IndentSpaces", 0, 80, 0, 80, 5 },
+/// What a number field takes for a number outside of the range, and for a text without one.
+struct NumberRule {
+    SettingRef setting;
+    Bad outside = Bad::NearestEnd;
+    Bad none = Bad::Default;
 };
 
-constexpr qint16 autoSaveWithoutNumber = 10;
-
-struct Replacement {
-    QStringView key;
-    QStringView text;
+/// The fields that differ from the others.
+const NumberRule rules[] = {
+    { .setting = &EditorSettings::AutoSaveTime, .none = Bad::NearestEnd },
+    { .setting = &DocumentSettings::UndoMax, .none = Bad::NearestEnd },
+    { .setting = &ToolchainSettings::StatusMonitoringInterval, .outside = Bad::Default },
 };
 
-constexpr std::array replacements = {
-    Replacement{ u"GamesCaption", u"&Games" },
-    Replacement{ u"PilotCallsign", u"buddy" },
-    Replacement{ u"ValidUser", u"User unknown" },
-};
-
-constexpr std::array<QStringView, 15> captions = {
-    u"&Games",        u"Flight &sims", u"Flight &simulations", u"Fighter &simulations",
-    u"Fighter &sims", u"Check si&x",   u"Combat &sims",        u"Combat &simulations",
-    u"&Sims",         u"Fl&y",         u"&Shoot! Shoot!",      u"Eat thi&s!",
-    u"En&gage!",      u"&Scramble!",   u"Air&borne!",
+/// The default is one more.
+constexpr QStringView furtherCaptions[] = {
+    u"Flight &sims", u"Flight &simulations", u"Fighter &simulations", u"Fighter &sims",
+    u"Check si&x",   u"Combat &sims",        u"Combat &simulations",  u"&Sims",
+    u"Fl&y",         u"&Shoot! Shoot!",      u"Eat thi&s!",           u"En&gage!",
+    u"&Scramble!",   u"Air&borne!",
 };
 
 bool beginsWithNumber(QStringView text)
@@ -54,43 +50,40 @@ bool beginsWithNumber(QStringView text)
 
 } // namespace
 
-std::span<const NumberRule> numberRules()
+int takenNumber(QStringView text, const SettingRef &setting)
 {
-    return rules;
-}
-
-const NumberRule &numberRuleOf(QStringView key)
-{
-    return *std::ranges::find(rules, key, &NumberRule::key);
-}
-
-qint16 takenNumber(QStringView text, const NumberRule &rule)
-{
+    const auto *own = std::ranges::find(rules, setting, &NumberRule::setting);
+    const NumberRule rule = own != std::end(rules) ? *own : NumberRule{ setting };
+    const SettingRange range = setting.key().range;
+    const int missing = std::get<int>(defaultOf(setting.key()));
     if (!beginsWithNumber(text)) {
-        return rule.ifNone;
+        return rule.none == Bad::Default ? missing : int(range.nearest(0));
     }
     const double number = roundHalfEven(leadingNumber(text));
-    return number < rule.least ? rule.ifBelow : number > rule.most ? rule.ifAbove : qint16(number);
+    const double nearest = range.nearest(number);
+    return nearest != number && rule.outside == Bad::Default ? missing : int(nearest);
 }
 
 AutoSaveFields takenAutoSave(QStringView text, bool ticked)
 {
     if (text.trimmed().isEmpty()) {
-        return { autoSaveWithoutNumber, 0 };
+        return { defaultOf(&EditorSettings::AutoSaveTime), false };
     }
-    return { takenNumber(text, numberRuleOf(u"AutoSaveTime")), ticked ? qint16(1) : qint16(0) };
+    return { takenNumber(text, &EditorSettings::AutoSaveTime), ticked };
 }
 
-QString takenText(QStringView key, const QString &text, const QString &before)
+QString takenText(const SettingRef &setting, const QString &text, const QString &before)
 {
-    const QString trimmed = storableOr(text, before);
-    const auto *replacement = std::ranges::find(replacements, key, &Replacement::key);
-    return trimmed.isEmpty() && replacement != replacements.end() ? replacement->text.toString()
-                                                                  : trimmed;
+    const QString taken = storableOr(text, before);
+    return taken.isEmpty() ? std::get<QString>(defaultOf(setting.key())) : taken;
 }
 
-std::span<const QStringView> gamesCaptions()
+QStringList gamesCaptions()
 {
+    QStringList captions{ defaultOf(&MenuSettings::GamesCaption) };
+    for (const QStringView caption : furtherCaptions) {
+        captions.append(caption.toString());
+    }
     return captions;
 }
 

@@ -6,46 +6,31 @@
 // What becomes of a field of Preferences when it is taken: nothing is refused, a bad value is
 // replaced.
 
-#include "platform/core/base.h"
+#include "settings/settings.h"
 
-#include <span>
+#include <QStringList>
 
 namespace zeph {
 
-/// How a number is taken.
-struct NumberRule {
-    QStringView key;
-    qint16 least;
-    qint16 most;
-    qint16 ifBelow;
-    qint16 ifAbove;
-    qint16 ifNone; ///< for a text that no number begins
-};
+/// A field's text as a number in the setting's range; fractions are rounded, halves to even.
+int takenNumber(QStringView text, const SettingRef &setting);
 
-/// The rules of all number fields.
-std::span<const NumberRule> numberRules();
-/// The rule of a key; there must be one.
-const NumberRule &numberRuleOf(QStringView key);
-
-/// A field's text by its rule; fractions are rounded, halves to even.
-qint16 takenNumber(QStringView text, const NumberRule &rule);
-
-/// The number behind the tick of the autosave, and the tick.
+/// The period of the autosave, and its tick.
 struct AutoSaveFields {
-    qint16 AutoSaveTime;
-    qint16 AutoSaveEnabled;
+    int AutoSaveTime;
+    bool AutoSaveEnabled;
 
     friend bool operator==(const AutoSaveFields &, const AutoSaveFields &) = default;
 };
-/// An empty field gives 10 minutes and turns the autosave off.
+/// An empty field gives the default and turns the autosave off.
 AutoSaveFields takenAutoSave(QStringView text, bool ticked);
 
 /// A text without the blanks around it; what the field had before when the store cannot hold it;
-/// the key's own replacement when it is empty ("&Games", "buddy", "User unknown").
-QString takenText(QStringView key, const QString &text, const QString &before);
+/// the setting's default when it is empty ("&Games", "buddy", "User unknown").
+QString takenText(const SettingRef &setting, const QString &text, const QString &before);
 
 /// What Preferences offers for the caption of the Games menu.
-std::span<const QStringView> gamesCaptions();
+QStringList gamesCaptions();
 
 /// The command line with which the Launcher shows the Files folder.
 QString filesDirectoryCommand(const QString &windowsFolder, const QString &filesFolder);

@@ -22,27 +22,36 @@ QLineEdit *lineOf(QWidget *control)
     return list ? list->lineEdit() : qobject_cast<QLineEdit *>(control);
 }
 
-qint16 takenInteger(const PreferencesKey &key, QWidget *control)
+SettingValue taken(const PreferencesKey &key, QWidget *control, const SettingValue &before)
 {
     switch (key.kind) {
     case FieldKind::Tick:
-        return qobject_cast<QCheckBox *>(control)->isChecked() ? 1 : 0;
+        return qobject_cast<QCheckBox *>(control)->isChecked();
     case FieldKind::Choice:
-        return qint16(qobject_cast<QComboBox *>(control)->currentIndex() + key.first);
+        return qobject_cast<QComboBox *>(control)->currentIndex() + key.first;
+    case FieldKind::Number:
+        return takenNumber(lineOf(control)->text(), *key.setting);
     default:
-        return takenNumber(lineOf(control)->text(), numberRuleOf(key.key));
+        return takenText(*key.setting, lineOf(control)->text(), std::get<QString>(before));
     }
 }
 
-void showInteger(const PreferencesKey &key, QWidget *control, qint16 value)
+void showValue(const PreferencesKey &key, QWidget *control, const SettingValue &value)
 {
-    if (key.kind == FieldKind::Tick) {
-        qobject_cast<QCheckBox *>(control)->setChecked(value == 1);
-    } else if (key.kind == FieldKind::Choice) {
+    switch (key.kind) {
+    case FieldKind::Tick:
+        qobject_cast<QCheckBox *>(control)->setChecked(std::get<bool>(value));
+        break;
+    case FieldKind::Choice: {
         auto *list = qobject_cast<QComboBox *>(control);
-        list->setCurrentIndex(std::clamp(value - key.first, 0, list->count() - 1));
-    } else {
-        lineOf(control)->setText(QString::number(value));
+        list->setCurrentIndex(std::clamp(std::get<int>(value) - key.first, 0, list->count() - 1));
+        break;
+    }
+    case FieldKind::Number:
+        lineOf(control)->setText(QString::number(std::get<int>(value)));
+        break;
+    default:
+        lineOf(control)->setText(std::get<QString>(value));
     }
 }
 
@@ -51,47 +60,34 @@ void showInteger(const PreferencesKey &key, QWidget *control, qint16 value)
 SettingFields::SettingFields(const QWidget &page, PreferencesTab tab)
 {
     for (const PreferencesKey &key : preferencesKeys()) {
-        const auto setting = std::ranges::find(settingsTable(), key.key, &Setting::key);
-        if (key.tab != tab || setting == settingsTable().end()) {
+        if (key.tab != tab || !key.setting) {
             continue;
         }
         auto *control = page.findChild<QWidget *>(key.control.toString());
-        m_fields.append({ key, setting->field, control });
+        m_fields.append({ key, control });
         if (key.kind == FieldKind::Number) {
             QLineEdit *line = lineOf(control);
             QObject::connect(line, &QLineEdit::editingFinished, line, [line, &key] {
                 // An empty line may mean more to its page than a number.
                 if (!line->text().trimmed().isEmpty()) {
-                    line->setText(
-                        QString::number(takenNumber(line->text(), numberRuleOf(key.key))));
+                    line->setText(QString::number(takenNumber(line->text(), *key.setting)));
                 }
             });
         }
     }
 }
 
-void SettingFields::show(const GlobalSettings &settings) const
+void SettingFields::show(Settings &settings) const
 {
-    for (const Field &field : m_fields) {
-        if (const auto *text = std::get_if<QString GlobalSettings::*>(&field.setting)) {
-            lineOf(field.control)->setText(settings.**text);
-        } else {
-            showInteger(field.key, field.control,
-                        settings.*std::get<qint16 GlobalSettings::*>(field.setting));
-        }
+    for (const auto &[key, control] : m_fields) {
+        showValue(key, control, key.setting->value(settings));
     }
 }
 
-void SettingFields::take(GlobalSettings &settings) const
+void SettingFields::take(Settings &settings) const
 {
-    for (const Field &field : m_fields) {
-        if (const auto *text = std::get_if<QString GlobalSettings::*>(&field.setting)) {
-            settings.**text =
-                takenText(field.key.key, lineOf(field.control)->text(), settings.**text);
-        } else {
-            settings.*std::get<qint16 GlobalSettings::*>(field.setting) =
-                takenInteger(field.key, field.control);
-        }
+    for (const auto &[key, control] : m_fields) {
+        key.setting->set(settings, taken(key, control, key.setting->value(settings)));
     }
 }
 

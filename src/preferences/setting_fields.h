@@ -4,7 +4,6 @@
 #pragma once
 
 #include "preferences/preferences_keys.h"
-#include "settings/global_settings.h"
 
 #include <QList>
 
@@ -20,14 +19,13 @@ public:
     SettingFields(const QWidget &page, PreferencesTab tab);
 
     /// Number fields show what will be taken of them as soon as they are left.
-    void show(const GlobalSettings &settings) const;
+    void show(Settings &settings) const;
     /// Takes every field by its rule.
-    void take(GlobalSettings &settings) const;
+    void take(Settings &settings) const;
 
 private:
     struct Field {
         const PreferencesKey &key;
-        SettingField setting;
         QWidget *control;
     };
 

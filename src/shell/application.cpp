@@ -3,9 +3,11 @@
 
 #include "shell/application.h"
 
+#include "documents/document_settings.h"
 #include "documents/editor_view.h"
 #include "documents/foreign_keyboard.h"
 #include "editor/editor.h"
+#include "editor/editor_settings.h"
 #include "editor/files/backup_folder.h"
 #include "editor/files/file_opening.h"
 #include "editor/files/loss_guards.h"
@@ -21,18 +23,23 @@
 #include "platform/screen.h"
 #include "platform/system_info.h"
 #include "platform/tool_windows.h"
+#include "settings/colour_settings.h"
 #include "settings/custom_colours.h"
+#include "settings/settings.h"
 #include "settings/settings_files.h"
-#include "settings/settings_moments.h"
+#include "settings/shared_settings.h"
 #include "shell/first_run.h"
 #include "shell/help_menu.h"
 #include "shell/main_scene.h"
 #include "shell/mum.h"
 #include "shell/preferences_menu.h"
+#include "shell/settings/shell_settings.h"
 #include "shell/start_up.h"
 #include "templates/template_tools.h"
 #include "templates/templateform.h"
 #include "toolchain/cougar_tools.h"
+#include "toolchain/modes/profiles.h"
+#include "toolchain/toolchain_settings.h"
 #include "toolchain/tools_menu.h"
 
 #include <QAction>
@@ -54,6 +61,7 @@ QString storeOf(const QString &appFolder)
 Application::Application(const ApplicationOptions &options)
     : m_options(options), m_lock(options.appFolder)
 {
+    addAllSettings(m_settings);
     m_paths.appFolder = options.appFolder;
     m_paths.iniPath = storeOf(options.appFolder);
     m_options.dialogs.customColours = {
@@ -97,7 +105,7 @@ bool Application::start()
     m_mum = std::make_unique<Mum>(context());
     placeMum();
     m_mum->refreshToolbars();
-    if (m_settings.TurnOffFontCheck == 0) {
+    if (!m_settings.of<ShellSettings>().TurnOffFontCheck) {
         if (const auto warning = smallFontsWarning(m_options.screen.logicalDpi())) {
             m_options.dialogs.box(*warning);
         }
@@ -135,7 +143,7 @@ void Application::placeMum()
         m_mum->setWindowTitle(u"Zeph - secondary window"_s);
     }
     tellOnce(GetMumPosition(m_settings, files()));
-    m_mum->setPlace(mumPlace(m_settings));
+    m_mum->setPlace(mumPlace(m_settings.of<ShellSettings>()));
 }
 
 void Application::makeFolders() const
@@ -152,18 +160,18 @@ void Application::readSettings()
     // The save below writes these two, long before the Editor reads the colours.
     tellOnce(::zeph::readSettings(
         m_settings, files(),
-        { &GlobalSettings::JoystickTextDefaultColour, &GlobalSettings::MacroTextDefaultColour }));
-    m_settings.BackUpFolder =
-        checkedBackupFolder(m_settings.BackUpFolder, m_paths, m_options.dialogs);
-    if (m_settings.ImageFilePath.isEmpty()) {
-        m_settings.ImageFilePath = m_paths.inApp(u"Zeph.bmp");
+        { &ColourSettings::JoystickTextDefaultColour, &ColourSettings::MacroTextDefaultColour }));
+    m_settings.of<EditorSettings>().BackUpFolder = checkedBackupFolder(
+        m_settings.of<EditorSettings>().BackUpFolder, m_paths, m_options.dialogs);
+    if (m_settings.of<SharedSettings>().ImageFilePath.isEmpty()) {
+        m_settings.of<SharedSettings>().ImageFilePath = m_paths.inApp(u"Zeph.bmp");
     }
-    if (m_settings.TextFilePath.isEmpty()) {
-        m_settings.TextFilePath = m_paths.inApp(u"ReadMe.txt");
+    if (m_settings.of<SharedSettings>().TextFilePath.isEmpty()) {
+        m_settings.of<SharedSettings>().TextFilePath = m_paths.inApp(u"ReadMe.txt");
     }
     // When the store cannot be written, the run works with what it has read.
     (void)saveGlobalSettings(m_settings, files());
-    if (m_settings.FirstTimeUsed == 1) {
+    if (m_settings.of<ShellSettings>().FirstTimeUsed == 1) {
         (void)SetUpDefaultIniSettings(m_settings, files());
     }
 }
@@ -186,32 +194,32 @@ void Application::loadEditor()
     new PreferencesMenu(context(), { *m_mum, *m_editor, *m_lists, *m_tools });
     addToolWindows();
     m_printing = std::make_unique<FilePrinting>(context(), m_options.printers, *m_editor);
-    new ForeignKeyBSupport(m_options.keyboard, m_settings, m_editor);
-    QObject::connect(&m_mum->toolWindows(), &ToolWindows::loaded, m_mum.get(),
-                     [this](QWidget *window) {
-                         new ForeignKeyBSupport(m_options.keyboard, m_settings, window);
-                     });
+    new ForeignKeyBSupport(m_options.keyboard, m_settings.of<DocumentSettings>(), m_editor);
+    QObject::connect(
+        &m_mum->toolWindows(), &ToolWindows::loaded, m_mum.get(), [this](QWidget *window) {
+            new ForeignKeyBSupport(m_options.keyboard, m_settings.of<DocumentSettings>(), window);
+        });
     m_editor->actions().connectTo(u"mnuFileExit", [this] { m_mum->close(); });
     m_help->readZephInfo();
     readEditorOptions();
     if (m_options.system.isVista()) {
         hideDirectXTesters();
     }
-    openStartFiles(*m_editor, m_commandLineFile, m_settings, ProfileFile(m_paths.iniPath),
-                   m_options.dialogs);
+    openStartFiles(*m_editor, m_commandLineFile, m_settings.of<EditorSettings>(),
+                   ProfileFile(m_paths.iniPath), m_options.dialogs);
     m_editor->guards().recovery.offerLeft();
     m_editor->guards().autoSave.restart();
     m_mum->refreshToolbars();
     m_status.setLine(1);
     m_editor->view().UpdateSavedIcon();
     greet();
-    if (m_settings.FirstTimeUsed == 1) {
+    if (m_settings.of<ShellSettings>().FirstTimeUsed == 1) {
         runFirstRun(context(), { *m_help, *m_lists, *m_tools }, m_options.welcomeIntervalMs,
                     m_mum.get());
         m_editor->applySettings();
         // The first run has only now asked for the callsign.
         greet();
-    } else if (m_settings.ShowTips == 1) {
+    } else if (m_settings.of<SharedSettings>().ShowTips) {
         m_help->showTip();
     }
 }
@@ -239,9 +247,9 @@ void Application::readEditorOptions()
 {
     tellOnce(GetResetAxes(m_settings, files()));
     tellOnce(::zeph::readSettings(m_settings, files(),
-                                  { &GlobalSettings::RegainControlAfter,
-                                    &GlobalSettings::CheckForCompletionTime,
-                                    &GlobalSettings::OpenSingleFileOnly }));
+                                  { &ToolchainSettings::RegainControlAfter,
+                                    &ToolchainSettings::CheckForCompletionTime,
+                                    &EditorSettings::OpenSingleFileOnly }));
     m_editor->applySettings();
     m_tools->toolsMenu().UpdateResetAxes();
 }
@@ -264,12 +272,13 @@ void Application::hideDirectXTesters()
          { u"mnuAppsDX8Divider", u"mnuAppsDX8_0", u"mnuAppsDX8_1", u"mnuAppsDX8_2" }) {
         m_editor->action(name)->setVisible(false);
     }
-    m_settings.DefaultToDX8KeyTester = 0;
+    m_settings.of<SharedSettings>().DefaultToDX8KeyTester = false;
 }
 
 void Application::greet()
 {
-    m_status.setText(u"Ready! Welcome to Zeph, "_s + m_settings.PilotCallsign + u'!');
+    m_status.setText(u"Ready! Welcome to Zeph, "_s + m_settings.of<SharedSettings>().PilotCallsign
+                     + u'!');
 }
 
 void Application::selectFirstTab()
@@ -294,8 +303,10 @@ void Application::unloadMum()
     if (m_editor) {
         (void)saveTesterOptions(m_settings, files());
         (void)SaveIndentStuff(m_settings, files());
-        m_settings.RestoreJoyFile = m_editor->restorableFile(DocumentKind::Joystick);
-        m_settings.RestoreMacroFile = m_editor->restorableFile(DocumentKind::Macro);
+        m_settings.of<EditorSettings>().RestoreJoyFile =
+            m_editor->restorableFile(DocumentKind::Joystick);
+        m_settings.of<EditorSettings>().RestoreMacroFile =
+            m_editor->restorableFile(DocumentKind::Macro);
         (void)SaveForRestore(m_settings, files());
         m_editor->guards().recovery.finish();
     }

@@ -7,7 +7,7 @@
 #include "platform/instance_lock.h"
 #include "platform/status_line.h"
 #include "settings/further_instances.h"
-#include "settings/global_settings.h"
+#include "settings/settings.h"
 
 #include <QStringList>
 
@@ -68,7 +68,7 @@ public:
     CougarTools &tools() { return *m_tools; }
     Context context();
     const Paths &paths() const { return m_paths; }
-    GlobalSettings &settings() { return m_settings; }
+    Settings &settings() { return m_settings; }
     StatusLine &status() { return m_status; }
 
 private:
@@ -94,7 +94,7 @@ private:
     InstanceLock m_lock;
     Instance m_instance;
     Paths m_paths;
-    GlobalSettings m_settings;
+    Settings m_settings;
     SettingProblems m_told;
     StatusLine m_status;
     QString m_commandLineFile;

@@ -5,10 +5,13 @@
 
 #include "editor/actions.h"
 #include "editor/editor.h"
+#include "editor/editor_settings.h"
 #include "menus/menu_actions.h"
+#include "menus/menu_settings.h"
 #include "platform/icons.h"
 #include "platform/status_line.h"
-#include "settings/global_settings.h"
+#include "settings/settings.h"
+#include "settings/shared_settings.h"
 
 #include <QAction>
 #include <QEvent>
@@ -131,7 +134,7 @@ void CoolBar::follow(Button &button)
 
 void CoolBar::UpdateTooltips()
 {
-    const bool shown = m_context.settings.OKtoShowToolTips == 1;
+    const bool shown = m_context.settings.of<MenuSettings>().OKtoShowToolTips;
     for (const Button &button : m_buttons) {
         button.control->setToolTip(shown ? button.control->accessibleName() : QString());
     }
@@ -175,9 +178,9 @@ void CoolBar::press(const ToolButtonRow &row)
 
 ToolbarChoices CoolBar::choices() const
 {
-    return { .openBoth = m_context.settings.OpenBothOnToolbar == 1,
-             .saveBoth = m_context.settings.SaveBothOnToolbar == 1,
-             .directXKeyTester = m_context.settings.DefaultToDX8KeyTester == 1 };
+    return { .openBoth = m_context.settings.of<MenuSettings>().OpenBothOnToolbar,
+             .saveBoth = m_context.settings.of<MenuSettings>().SaveBothOnToolbar,
+             .directXKeyTester = m_context.settings.of<SharedSettings>().DefaultToDX8KeyTester };
 }
 
 QString CoolBar::hoverText(const QObject *watched) const
@@ -189,7 +192,8 @@ QString CoolBar::hoverText(const QObject *watched) const
     }
     return watched == m_shortcuts
         ? QString()
-        : toolbarGreeting(watched == m_toolbar2, m_context.settings.PilotCallsign);
+        : toolbarGreeting(watched == m_toolbar2,
+                          m_context.settings.of<SharedSettings>().PilotCallsign);
 }
 
 bool CoolBar::eventFilter(QObject *watched, QEvent *event)
@@ -200,7 +204,7 @@ bool CoolBar::eventFilter(QObject *watched, QEvent *event)
     const auto *move =
         event->type() == QEvent::MouseMove ? static_cast<QMouseEvent *>(event) : nullptr;
     const bool overButton = band && move && qobject_cast<QToolButton *>(band->childAt(move->pos()));
-    if (passes && !overButton && m_context.settings.ButtonsOnStatusBar == 1) {
+    if (passes && !overButton && m_context.settings.of<MenuSettings>().ButtonsOnStatusBar) {
         const QString hover = hoverText(watched);
         if (!hover.isEmpty()) {
             m_context.status.setText(hover);

@@ -3,19 +3,25 @@
 
 #include "shell/first_run.h"
 
+#include "documents/document_settings.h"
 #include "documents/foreign_keyboard.h"
+#include "editor/editor_settings.h"
 #include "lists/favourites_menu.h"
 #include "lists/flight_sims.h"
 #include "lists/user_lists.h"
 #include "platform/dialogs.h"
-#include "preferences/default_options.h"
 #include "preferences/preferences.h"
+#include "settings/colour_settings.h"
+#include "settings/settings.h"
 #include "settings/settings_files.h"
-#include "settings/settings_moments.h"
+#include "settings/shared_settings.h"
 #include "shell/help_menu.h"
+#include "shell/settings/settings_moments.h"
+#include "shell/settings/shell_settings.h"
 #include "shell/welcome.h"
 #include "toolchain/compile/download_menu.h"
 #include "toolchain/cougar_tools.h"
+#include "toolchain/default_options.h"
 
 namespace zeph {
 
@@ -29,18 +35,18 @@ void writeStore(const Context &context, const FirstRunParts &parts)
     const SettingsFiles files = settingsFilesOf(context.paths);
     tellProblems(context.dialogs, readColours(context.settings, files));
     // The pilot may have named another folder, whose file has options of its own.
-    const DefaultOptions options = GetDefaultOptions(files.hotasIni);
-    context.settings.DownloadMode = options.DownloadMode;
+    const DefaultOptions options = GetDefaultOptions(files);
+    context.settings.of<DefaultOptions>().DownloadMode = options.DownloadMode;
     (void)saveGlobalSettings(context.settings, files);
     (void)SaveFilesPath(context.paths);
     (void)SaveColourScheme(context.settings, files);
     parts.lists.save();
     (void)saveFilesFolder(files, context.paths.filesFolder());
-    (void)SaveDefaultOptions(options, files.hotasIni);
+    (void)SaveDefaultOptions(options, files);
     parts.tools.downloadMenu().applySettings();
 }
 
-void showByExperience(qint16 firstTimeUsed, HelpMenu &help)
+void showByExperience(int firstTimeUsed, HelpMenu &help)
 {
     switch (firstTimeUsed) {
     case 2:
@@ -59,14 +65,14 @@ void showByExperience(qint16 firstTimeUsed, HelpMenu &help)
 
 } // namespace
 
-void takeWelcomeAnswers(const WelcomeAnswers &answers, GlobalSettings &settings, Paths &paths)
+void takeWelcomeAnswers(const WelcomeAnswers &answers, Settings &settings, Paths &paths)
 {
     const QString user = composeValidUser(answers.firstName, answers.callsign, answers.lastName);
     if (!user.isEmpty()) {
-        settings.ValidUser = user;
+        settings.of<SharedSettings>().ValidUser = user;
     }
-    settings.PilotCallsign = callsignOrBuddy(answers.callsign);
-    settings.FirstTimeUsed = firstTimeUsedAfter(answers.experience);
+    settings.of<SharedSettings>().PilotCallsign = callsignOrBuddy(answers.callsign);
+    settings.of<ShellSettings>().FirstTimeUsed = firstTimeUsedAfter(answers.experience);
     paths.hotasFolder = answers.hotasFolder;
 }
 
@@ -75,12 +81,12 @@ void runFirstRun(const Context &context, const FirstRunParts &parts, int welcome
 {
     parts.lists.favourites().add(SetupFlightSimFiles(context.paths.filesFolder()));
     Welcome welcome(context.paths, context.dialogs, welcomeIntervalMs, parent);
-    new ForeignKeyBSupport(context.keyboard, context.settings, &welcome);
+    new ForeignKeyBSupport(context.keyboard, context.settings.of<DocumentSettings>(), &welcome);
     welcome.exec();
     takeWelcomeAnswers(welcome.answers(), context.settings, context.paths);
     writeStore(context, parts);
     parts.tools.profiles().CopyTMCfiles();
-    showByExperience(context.settings.FirstTimeUsed, parts.help);
+    showByExperience(context.settings.of<ShellSettings>().FirstTimeUsed, parts.help);
 }
 
 } // namespace zeph

@@ -15,7 +15,7 @@ class UserLists;
 struct WelcomeAnswers;
 
 /// Puts the pilot's answers into the settings and the paths. Without any name the stored one stays.
-void takeWelcomeAnswers(const WelcomeAnswers &answers, GlobalSettings &settings, Paths &paths);
+void takeWelcomeAnswers(const WelcomeAnswers &answers, Settings &settings, Paths &paths);
 
 /// What the first run fills and shows.
 struct FirstRunParts {

@@ -7,7 +7,9 @@
 #include "platform/core/paths.h"
 #include "platform/core/text1252.h"
 #include "platform/icons.h"
+#include "settings/settings.h"
 #include "settings/settings_files.h"
+#include "settings/shared_settings.h"
 #include "ui_frmtip.h"
 
 #include <QRandomGenerator>
@@ -25,7 +27,7 @@ qsizetype byChance(qsizetype count)
 
 } // namespace
 
-frmTip::frmTip(const Paths &paths, GlobalSettings &settings, Pick pick, QWidget *parent)
+frmTip::frmTip(const Paths &paths, Settings &settings, Pick pick, QWidget *parent)
     : QDialog(parent), m_paths(paths), m_settings(settings),
       m_pick(pick ? std::move(pick) : byChance), m_ui(std::make_unique<Ui::frmTip>())
 {
@@ -33,7 +35,7 @@ frmTip::frmTip(const Paths &paths, GlobalSettings &settings, Pick pick, QWidget 
     m_ui->frameTip->setBackgroundRole(QPalette::Base);
     m_ui->picTip->setPixmap(
         iconNamed(paths, u"zeph").pixmap(QSize(pictureSize, pictureSize), devicePixelRatioF()));
-    m_ui->chkLoadTipsAtStartup->setChecked(settings.ShowTips == 1);
+    m_ui->chkLoadTipsAtStartup->setChecked(settings.of<SharedSettings>().ShowTips);
     connect(m_ui->cmdNextTip, &QPushButton::clicked, this, [this] {
         m_tips.next();
         DisplayCurrentTip();
@@ -57,18 +59,18 @@ bool frmTip::LoadTips()
 
 void frmTip::DisplayCurrentTip()
 {
-    m_ui->lblTipText->setText(m_tips.isEmpty()
-                                  ? u"I'd love to give you a tip, "_s + m_settings.PilotCallsign
+    m_ui->lblTipText->setText(m_tips.isEmpty() ? u"I'd love to give you a tip, "_s
+                                      + m_settings.of<SharedSettings>().PilotCallsign
                                       + u", but I can't find any. They should be located here: "_s
                                       + m_paths.inApp(u"Tips.txt")
-                                  : m_tips.current());
+                                               : m_tips.current());
 }
 
 void frmTip::accept()
 {
-    m_settings.ShowTips = m_ui->chkLoadTipsAtStartup->isChecked() ? 1 : 0;
+    m_settings.of<SharedSettings>().ShowTips = m_ui->chkLoadTipsAtStartup->isChecked();
     // When the store cannot be written, the setting still holds for this run.
-    (void)saveSettings(m_settings, settingsFilesOf(m_paths), { &GlobalSettings::ShowTips });
+    (void)saveSettings(m_settings, settingsFilesOf(m_paths), { &SharedSettings::ShowTips });
     QDialog::accept();
 }
 

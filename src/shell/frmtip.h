@@ -12,7 +12,7 @@
 
 namespace zeph {
 
-struct GlobalSettings;
+class Settings;
 struct Paths;
 
 namespace Ui {
@@ -28,7 +28,7 @@ public:
     using Pick = std::function<qsizetype(qsizetype count)>;
 
     /// Loads the tips and shows one; pick chooses the first, a random one when it is not given.
-    frmTip(const Paths &paths, GlobalSettings &settings, Pick pick = {}, QWidget *parent = nullptr);
+    frmTip(const Paths &paths, Settings &settings, Pick pick = {}, QWidget *parent = nullptr);
     ~frmTip() override;
 
     /// Reads the tip file. False when there is none, or no tip in it.
@@ -39,7 +39,7 @@ public:
 
 private:
     const Paths &m_paths;
-    GlobalSettings &m_settings;
+    Settings &m_settings;
     Pick m_pick;
     TipCycle m_tips;
     std::unique_ptr<Ui::frmTip> m_ui;

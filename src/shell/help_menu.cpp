@@ -9,11 +9,12 @@
 #include "platform/handlers.h"
 #include "platform/process_launcher.h"
 #include "platform/tool_windows.h"
-#include "settings/global_settings.h"
+#include "settings/settings.h"
 #include "shell/frmabout.h"
 #include "shell/frmtip.h"
 #include "shell/helpwindow.h"
 #include "shell/informationwindow.h"
+#include "shell/settings/shell_settings.h"
 #include "shell/version_check.h"
 #include "shell/zeph_info.h"
 
@@ -90,7 +91,7 @@ void HelpMenu::mnuHelpContents_Click()
 {
     // A pilot who keeps a help file of the old form asks for it by hand.
     const QString oldHelp = existingPath(m_context.paths.inApp(u"Zeph.hlp"));
-    if (m_context.settings.UseHLPnotCHM != 0 && !oldHelp.isEmpty()) {
+    if (m_context.settings.of<ShellSettings>().UseHLPnotCHM && !oldHelp.isEmpty()) {
         if (const auto opened = m_context.launcher.openWithDesktop(oldHelp); !opened) {
             m_context.dialogs.tell(u"Can't open help"_s, opened.error(), BoxIcon::Exclamation);
         }
@@ -163,7 +164,7 @@ void HelpMenu::mnuHelpAbout_Click(int index)
 {
     if (index == 0) {
         checkVersion(m_downloader, m_context.dialogs, m_context.paths,
-                     m_context.settings.VersionURL);
+                     m_context.settings.of<ShellSettings>().VersionURL);
     } else if (index == 1) {
         showInformation(u"Vista compatibility.rtf"_s, u"Vista compatibility"_s);
     } else {

@@ -6,7 +6,8 @@
 #include "platform/core/units.h"
 #include "platform/icons.h"
 #include "platform/status_line.h"
-#include "settings/global_settings.h"
+#include "settings/settings.h"
+#include "settings/shared_settings.h"
 
 #include <QHelpEvent>
 #include <QLabel>
@@ -147,7 +148,7 @@ void MainStatusBar::mouseMoveEvent(QMouseEvent *event)
 {
     const StatusHover hover = statusBarHover(twipsFromPixels(event->pos().x()), edges(),
                                              m_context.status.modePicture() != selectorOff,
-                                             m_context.settings.PilotCallsign);
+                                             m_context.settings.of<SharedSettings>().PilotCallsign);
     if (hover.wantsModeTooltip) {
         Q_EMIT modeTooltipWanted();
     } else {

@@ -12,6 +12,7 @@
 #include "platform/tool_windows.h"
 #include "shell/cool_bar.h"
 #include "shell/main_status_bar.h"
+#include "shell/settings/shell_settings.h"
 
 #include <QCloseEvent>
 #include <QMenuBar>
@@ -23,7 +24,6 @@ namespace zeph {
 namespace {
 
 /// As large as the window is when the store names no size.
-constexpr QSize restoredTwips{ 13320, 8895 };
 
 } // namespace
 
@@ -71,7 +71,8 @@ void Mum::setPlace(const WindowPlace &place)
     if (place.state == WindowState::Maximised) {
         // The size for a later restore. The first dialogs open over this place, before the system
         // has maximised the window.
-        resize(pixelsFromTwips(restoredTwips.width()), pixelsFromTwips(restoredTwips.height()));
+        resize(pixelsFromTwips(defaultOf(&ShellSettings::MumWidthAtStartup)),
+               pixelsFromTwips(defaultOf(&ShellSettings::MumHeightAtStartup)));
         QRect restored = rect();
         restored.moveCenter(screen()->availableGeometry().center());
         move(restored.topLeft());

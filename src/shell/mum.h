@@ -4,7 +4,7 @@
 #pragma once
 
 #include "platform/context.h"
-#include "settings/settings_moments.h"
+#include "shell/settings/settings_moments.h"
 
 #include <QMainWindow>
 

@@ -14,6 +14,9 @@ class CougarTools;
 class Editor;
 class Mum;
 class UserLists;
+struct ColourSettings;
+struct EditorSettings;
+struct MenuSettings;
 
 /// Opens Preferences, and lets the running program follow what was changed there.
 class PreferencesMenu : public QObject
@@ -34,7 +37,8 @@ public:
 private:
     void open(PreferencesTab tab);
     void restartDetector();
-    void follow(const GlobalSettings &before);
+    /// Lets the program follow; both are what the settings were before.
+    void follow(const EditorSettings &editor, const ColourSettings &colours);
 
     Context m_context;
     Parts m_parts;
@@ -45,11 +49,11 @@ class TooltipSwitch : public QObject
 {
     Q_OBJECT
 public:
-    TooltipSwitch(const GlobalSettings &settings, QObject *parent);
+    TooltipSwitch(const MenuSettings &settings, QObject *parent);
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-    const GlobalSettings &m_settings;
+    const MenuSettings &m_settings;
 };
 
 } // namespace zeph

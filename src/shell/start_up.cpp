@@ -4,11 +4,11 @@
 #include "shell/start_up.h"
 
 #include "editor/editor.h"
+#include "editor/editor_settings.h"
 #include "editor/files/file_opening.h"
 #include "lists/favourites_menu.h"
 #include "menus/menu_actions.h"
 #include "platform/core/paths.h"
-#include "settings/global_settings.h"
 
 #include <QFileInfo>
 
@@ -26,7 +26,7 @@ QString existingFile(QString name)
 }
 
 /// True when the last run left a file to open, whether or not that still exists.
-bool openRestored(Editor &editor, const GlobalSettings &settings)
+bool openRestored(Editor &editor, const EditorSettings &settings)
 {
     // Opening a file reads the settings again and would change these names on the way.
     const QString joystick = settings.RestoreJoyFile;
@@ -82,12 +82,12 @@ QString TestCommandLine(const QStringList &arguments)
     return first.isEmpty() ? existingFile(arguments.join(u' ')) : first;
 }
 
-void openStartFiles(Editor &editor, const QString &commandLineFile, const GlobalSettings &settings,
+void openStartFiles(Editor &editor, const QString &commandLineFile, const EditorSettings &settings,
                     const ProfileFile &store, Dialogs &dialogs)
 {
     if (!commandLineFile.isEmpty()) {
         editor.opening().OpenPreviouslySavedFiles(commandLineFile);
-    } else if (settings.RestoreStatus != 1 || !openRestored(editor, settings)) {
+    } else if (!settings.RestoreStatus || !openRestored(editor, settings)) {
         openAutoload(editor, store, dialogs);
     }
 }

@@ -13,7 +13,7 @@ namespace zeph {
 
 class Editor;
 class ProfileFile;
-struct GlobalSettings;
+struct EditorSettings;
 
 /// The warning for a screen whose logical pixels per inch are not the 96 that windows are drawn
 /// for; no value when they are.
@@ -28,7 +28,7 @@ QString TestCommandLine(const QStringList &arguments);
 
 /// Opens the command line's file; else the files of the last run; else the favourite that is to be
 /// opened at start.
-void openStartFiles(Editor &editor, const QString &commandLineFile, const GlobalSettings &settings,
+void openStartFiles(Editor &editor, const QString &commandLineFile, const EditorSettings &settings,
                     const ProfileFile &store, Dialogs &dialogs);
 
 } // namespace zeph

@@ -6,6 +6,7 @@
 #include "platform/control_array.h"
 #include "platform/core/paths.h"
 #include "platform/dialogs.h"
+#include "settings/shared_settings.h"
 #include "ui_welcome.h"
 
 #include <QEvent>

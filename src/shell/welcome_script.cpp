@@ -43,15 +43,9 @@ QString composeValidUser(const QString &firstName, const QString &callsign, cons
     return parts.join(u' ');
 }
 
-QString callsignOrBuddy(const QString &callsign)
+int firstTimeUsedAfter(int experience)
 {
-    const QString name = callsign.trimmed();
-    return name.isEmpty() ? u"buddy"_s : name;
-}
-
-qint16 firstTimeUsedAfter(int experience)
-{
-    return qint16(experience < 0 ? 1 : experience + 2);
+    return experience < 0 ? 1 : experience + 2;
 }
 
 std::span<const WelcomeStep> welcomeScript()

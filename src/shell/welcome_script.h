@@ -25,10 +25,8 @@ struct WelcomeAnswers {
 /// First name, callsign in double quotes and last name, with single blanks between those there are.
 QString composeValidUser(const QString &firstName, const QString &callsign,
                          const QString &lastName);
-/// The callsign, or "buddy" for none.
-QString callsignOrBuddy(const QString &callsign);
 /// What FirstTimeUsed becomes by the experience option: 2 to 5, or still 1 for no answer.
-qint16 firstTimeUsedAfter(int experience);
+int firstTimeUsedAfter(int experience);
 
 /// The pages that wait for the pilot.
 enum class WelcomePage { None, Name, Hotas, Experience };

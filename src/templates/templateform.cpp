@@ -15,10 +15,13 @@
 #include "platform/richtext/rich_text_mime.h"
 #include "platform/status_line.h"
 #include "print/printpreview.h"
-#include "settings/global_settings.h"
+#include "settings/colour_settings.h"
+#include "settings/settings.h"
 #include "settings/settings_files.h"
+#include "settings/shared_settings.h"
 #include "templates/template_actions.h"
 #include "templates/template_formatting.h"
+#include "templates/template_settings.h"
 #include "text/macro_table.h"
 #include "text/painter.h"
 #include "ui_templateform.h"
@@ -338,16 +341,16 @@ void TemplateForm::mnuFileSetDefault_Click()
                                m_name + u" needs to be saved first buddy"_s);
         return;
     }
-    m_context.settings.TextFilePath = m_path;
+    m_context.settings.of<SharedSettings>().TextFilePath = m_path;
     const auto kept = saveSettings(m_context.settings, settingsFilesOf(m_context.paths),
-                                   { &GlobalSettings::TextFilePath });
+                                   { &SharedSettings::TextFilePath });
     say(kept ? m_name + u" is the default file now"_s
              : u"The settings couldn't be written: "_s + kept.error().reason);
 }
 
 void TemplateForm::mnuFileOpenDefault_Click()
 {
-    const QString path = m_context.settings.TextFilePath;
+    const QString path = m_context.settings.of<SharedSettings>().TextFilePath;
     if (path.isEmpty()) {
         m_context.dialogs.tell(u"Have a beer instead"_s,
                                u"You don't have a default template to open. You can set one here "
@@ -412,12 +415,13 @@ void TemplateForm::ColourTemplateText()
         say(u"There's no text to highlight."_s);
         return;
     }
-    const DocumentKind kind = kindOfName(m_name);
-    const auto passes = kind == DocumentKind::Macro ? macroPasses() : joystickPasses();
+    const auto &colours = m_context.settings.of<ColourSettings>();
+    const bool isMacro = kindOfName(m_name) == DocumentKind::Macro;
+    const auto passes = isMacro ? macroPasses() : joystickPasses();
+    const ColourScheme scheme = isMacro ? colours.macroScheme() : colours.joystickScheme();
     qsizetype from = 0;
     RichTextChanges changes(std::move(text));
-    for (const ColourRun &run :
-         paint(plainTextOf(*box().document()), passes, colourScheme(m_context.settings, kind))) {
+    for (const ColourRun &run : paint(plainTextOf(*box().document()), passes, scheme)) {
         changes.change(from, run.length,
                        [&run](CharFormat &format) { format.colour = run.colour; });
         from += run.length;
@@ -439,7 +443,8 @@ QString TemplateForm::TemplateRichWordOver(const QPoint &at) const
 
 bool TemplateForm::eventFilter(QObject *watched, QEvent *event)
 {
-    if (event->type() == QEvent::MouseMove && m_context.settings.MacroWithMouse == 1) {
+    if (event->type() == QEvent::MouseMove
+        && m_context.settings.of<SharedSettings>().MacroWithMouse) {
         const QString word = TemplateRichWordOver(static_cast<QMouseEvent *>(event)->pos());
         if (std::exchange(m_wordUnderMouse, word) != word && !word.isEmpty()) {
             if (const auto keys = macroKeys(m_macros, word)) {
@@ -454,17 +459,18 @@ void TemplateForm::GetTemplateEditorOptions()
 {
     // A value that cannot be read counts as none: the toolbar is shown.
     (void)readSettings(m_context.settings, settingsFilesOf(m_context.paths),
-                       { &GlobalSettings::HideAppsToolBar });
-    const bool shown = m_context.settings.HideAppsToolBar != 1;
+                       { &TemplateSettings::HideAppsToolBar });
+    const bool shown = !m_context.settings.of<TemplateSettings>().HideAppsToolBar;
     m_actions->action(u"mnuViewToolBar")->setChecked(shown);
     m_ui->Toolbar1->setVisible(shown);
 }
 
 void TemplateForm::SaveTemplateEditorOptions()
 {
-    m_context.settings.HideAppsToolBar = m_actions->action(u"mnuViewToolBar")->isChecked() ? 0 : 1;
+    m_context.settings.of<TemplateSettings>().HideAppsToolBar =
+        !m_actions->action(u"mnuViewToolBar")->isChecked();
     (void)saveSettings(m_context.settings, settingsFilesOf(m_context.paths),
-                       { &GlobalSettings::HideAppsToolBar });
+                       { &TemplateSettings::HideAppsToolBar });
 }
 
 } // namespace zeph

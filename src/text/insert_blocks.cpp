@@ -40,7 +40,7 @@ QList<QStringList> titleSections(const TitleFields &fields)
     if (!fields.game.isEmpty()) {
         file.append(titleIndent + u"    for "_s + fields.game);
     }
-    const QStringList person{ titleIndent + u"by "_s + personsNameOr(fields.person),
+    const QStringList person{ titleIndent + u"by "_s + fields.person,
                               titleIndent + u"Last modified: "_s + fields.lastModified,
                               titleIndent + u"Controllers: "_s + fields.controllers };
     QList<QStringList> sections{ file, person };

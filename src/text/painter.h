@@ -8,6 +8,7 @@
 
 #include "language/file_kinds.h"
 #include "language/words.h"
+#include "platform/core/colour_scheme.h"
 #include "platform/core/rich_text.h"
 
 #include <QHash>
@@ -26,28 +27,6 @@ struct ColourRun {
 
     friend bool operator==(const ColourRun &, const ColourRun &) = default;
 };
-
-/// The colours of a run of the painter, by class.
-struct ColourScheme {
-    ColorRef plain = 0;
-    ColorRef btn = 0;
-    ColorRef slash = 0;
-    ColorRef raw = 0;
-    ColorRef miscellaneous = 0;
-    ColorRef rem = 0;
-};
-
-/// The scheme of the settings, whatever holds them, for one of the documents.
-template <class Settings> ColourScheme colourScheme(const Settings &settings, DocumentKind kind)
-{
-    return { kind == DocumentKind::Joystick ? settings.JoystickTextDefaultColour
-                                            : settings.MacroTextDefaultColour,
-             settings.BTNColour,
-             settings.SlashColour,
-             settings.RAWColour,
-             settings.MiscellaneousColour,
-             settings.RemStatements };
-}
 
 /// What the colours of a text become when the scheme changes. A colour that serves several classes
 /// is left out when they part: which of them a word belongs to, only painting can tell.

@@ -5,9 +5,10 @@
 
 #include "platform/dialogs.h"
 #include "platform/process_launcher.h"
-#include "settings/global_settings.h"
+#include "settings/settings.h"
 #include "toolchain/formdownloadstatus.h"
 #include "toolchain/hotas_ini.h"
+#include "toolchain/toolchain_settings.h"
 
 #include <QEventLoop>
 #include <QWidget>
@@ -79,7 +80,7 @@ ExchangeEnd ToolchainHandshake::run(Channel &channel, const Clear &clear, const 
         return ExchangeEnd::NotStarted;
     }
     channel.state = {};
-    channel.timer.start(waitTimes(m_context.settings).checkForCompletion);
+    channel.timer.start(waitTimes(m_context.settings.of<ToolchainSettings>()).checkForCompletion);
     return wait(channel);
 }
 
@@ -118,9 +119,9 @@ ExchangeEnd ToolchainHandshake::wait(Channel &channel)
 void ToolchainHandshake::DownloadTimer_Timer()
 {
     const bool answered = !hotasIni().pollCompiler().isEmpty();
-    const TickActions actions =
-        tick(m_compiler.state, answered, waitTimes(m_context.settings),
-             m_context.settings.HideDownloadStatusWindow != 0, StatusWindowShown());
+    const TickActions actions = tick(
+        m_compiler.state, answered, waitTimes(m_context.settings.of<ToolchainSettings>()),
+        m_context.settings.of<ToolchainSettings>().HideDownloadStatusWindow, StatusWindowShown());
     showStatus(actions);
     finishTick(m_compiler, actions);
 }
@@ -130,7 +131,8 @@ void ToolchainHandshake::StatusModeTimer_Timer()
     const bool answered = !hotasIni().pollModeStatus().isEmpty();
     constexpr bool hideWindow = true;
     finishTick(m_mode,
-               tick(m_mode.state, answered, waitTimes(m_context.settings), hideWindow, false));
+               tick(m_mode.state, answered, waitTimes(m_context.settings.of<ToolchainSettings>()),
+                    hideWindow, false));
 }
 
 void ToolchainHandshake::finishTick(Channel &channel, const TickActions &actions)
@@ -151,7 +153,8 @@ void ToolchainHandshake::showStatus(const TickActions &actions)
         m_statusWindow->repaint();
         return;
     }
-    const int longest = wholeSeconds(waitTimes(m_context.settings).regainControlAfter);
+    const int longest =
+        wholeSeconds(waitTimes(m_context.settings.of<ToolchainSettings>()).regainControlAfter);
     m_statusWindow = new FormDownloadStatus(m_statusCaption, longest, m_mainWindow);
     connect(m_statusWindow, &QDialog::finished, this, [this, window = m_statusWindow.data()] {
         // The window is deleted a little later; by then another may have taken its place.

@@ -4,12 +4,13 @@
 #include "toolchain/tools_menu.h"
 
 #include "menus/menu_actions.h"
+#include "settings/settings.h"
 #include "settings/settings_files.h"
-#include "settings/settings_moments.h"
 #include "toolchain/external_tools.h"
 #include "toolchain/modes/formresetoptions.h"
 #include "toolchain/modes/profiles.h"
 #include "toolchain/modes/selectprofileform.h"
+#include "toolchain/toolchain_settings.h"
 
 #include <QAction>
 
@@ -69,7 +70,7 @@ void ToolsMenu::connectProfiles()
 
 void ToolsMenu::UpdateResetAxes()
 {
-    const bool used = m_context.settings.UseResetProfile == 1;
+    const bool used = m_context.settings.of<ToolchainSettings>().UseResetProfile;
     m_parts.actions.action(u"mnuResetAxes")->setChecked(used);
     m_parts.actions.action(u"mnuApplyDefaultTMC")->setEnabled(used);
 }
@@ -83,8 +84,8 @@ void ToolsMenu::saveAndUpdate()
 
 void ToolsMenu::mnuResetAxes_Click()
 {
-    m_context.settings.UseResetProfile =
-        m_parts.actions.action(u"mnuResetAxes")->isChecked() ? 1 : 0;
+    m_context.settings.of<ToolchainSettings>().UseResetProfile =
+        m_parts.actions.action(u"mnuResetAxes")->isChecked();
     saveAndUpdate();
 }
 

@@ -4,7 +4,7 @@
 #include "toolchain/wait_state.h"
 
 #include "platform/core/units.h"
-#include "settings/global_settings.h"
+#include "toolchain/toolchain_settings.h"
 
 #include <algorithm>
 #include <limits>
@@ -18,15 +18,17 @@ constexpr qint32 windowAfter = 2000;
 
 } // namespace
 
-WaitTimes waitTimes(const GlobalSettings &settings)
+qint32 checkForCompletionTimeMs(const ToolchainSettings &settings)
 {
-    WaitTimes times;
+    return qint32(roundHalfEven(settings.CheckForCompletionTime));
+}
+
+WaitTimes waitTimes(const ToolchainSettings &settings)
+{
+    const qint32 interval = checkForCompletionTimeMs(settings);
     // With an interval of 0 the time would never reach the limit.
-    if (const qint32 interval = checkForCompletionTimeMs(settings); interval > 0) {
-        times.checkForCompletion = interval;
-    }
-    times.regainControlAfter = regainControlAfterMs(settings);
-    return times;
+    return { interval > 0 ? interval : checkForCompletionTimeMs(ToolchainSettings()),
+             qint32(roundHalfEven(settings.RegainControlAfter)) };
 }
 
 TickActions tick(WaitState &state, bool statusNonEmpty, const WaitTimes &times, bool hideWindow,

@@ -9,7 +9,7 @@
 
 namespace zeph {
 
-struct GlobalSettings;
+struct ToolchainSettings;
 
 /// The values of a wait's finished variable.
 enum WaitResult : qint16 { WaitRunning = 0, WaitVerdict = 1, WaitGivenUp = 2 };
@@ -23,17 +23,18 @@ struct WaitState {
     friend bool operator==(const WaitState &, const WaitState &) = default;
 };
 
-/// What the settings say of waits, in milliseconds.
+/// How often a tool is asked, and when it is given up, in milliseconds.
 struct WaitTimes {
-    qint32 checkForCompletion = 1000;
-    qint32 regainControlAfter = 45000;
+    qint32 checkForCompletion = 0;
+    qint32 regainControlAfter = 0;
 
     friend bool operator==(const WaitTimes &, const WaitTimes &) = default;
 };
 
-/// The times of the settings. A text that is no number, and an interval below 1, give the default,
-/// since users edit these by hand.
-WaitTimes waitTimes(const GlobalSettings &settings);
+/// The times of the settings, as whole milliseconds, halves to even.
+qint32 checkForCompletionTimeMs(const ToolchainSettings &settings);
+/// The same for both times of a wait. An interval below 1 gives the default.
+WaitTimes waitTimes(const ToolchainSettings &settings);
 
 /// What the status window has to do at a tick.
 enum class StatusWindowStep { None, Show, Refresh };

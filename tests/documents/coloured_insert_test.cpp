@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The Zeph authors
 // SPDX-License-Identifier: MIT
 
+#include "settings/colour_settings.h"
 #include "tests/text/painting_fixture.h"
 
 #include <QAction>
@@ -24,8 +25,9 @@ TEST_F(ColouredInsertTest, PiecesStandInTheirColoursAndTheCaretBehindThem)
     set(J, u"ab"_s);
     caretAt(1);
     insert().BeginColInsert();
-    EXPECT_TRUE(insert().InsertColouredString(u"BTN"_s, settings.BTNColour));
-    EXPECT_TRUE(insert().InsertColouredStringNoSpace(u" x"_s, settings.RAWColour));
+    EXPECT_TRUE(insert().InsertColouredString(u"BTN"_s, settings.of<ColourSettings>().BTNColour));
+    EXPECT_TRUE(
+        insert().InsertColouredStringNoSpace(u" x"_s, settings.of<ColourSettings>().RAWColour));
     insert().EndColInsert();
     EXPECT_EQ(editor->joystickText(), u"aBTN xb");
     EXPECT_EQ(colours(J), u".bbbrr.");
@@ -35,7 +37,7 @@ TEST_F(ColouredInsertTest, PiecesStandInTheirColoursAndTheCaretBehindThem)
 TEST_F(ColouredInsertTest, TypingGoesOnInThePlainColourAndFont)
 {
     insert().BeginColInsert();
-    insert().InsertColouredString(u"BTN"_s, settings.BTNColour);
+    insert().InsertColouredString(u"BTN"_s, settings.of<ColourSettings>().BTNColour);
     insert().EndColInsert();
     QTest::keyClicks(joystick(), u"x"_s);
     EXPECT_EQ(editor->joystickText(), u"BTNx");
@@ -47,8 +49,8 @@ TEST_F(ColouredInsertTest, ASelectionIsReplacedByTheFirstPiece)
     set(J, u"one two three"_s);
     joystick()->shown().select(4, 3);
     insert().BeginColInsert();
-    insert().InsertColouredString(u"2"_s, settings.RAWColour);
-    insert().InsertColouredString(u"!"_s, settings.RAWColour);
+    insert().InsertColouredString(u"2"_s, settings.of<ColourSettings>().RAWColour);
+    insert().InsertColouredString(u"!"_s, settings.of<ColourSettings>().RAWColour);
     insert().EndColInsert();
     EXPECT_EQ(editor->joystickText(), u"one 2! three");
 }
@@ -58,9 +60,9 @@ TEST_F(ColouredInsertTest, TheWholeInsertIsOneUndoStepAndOneRedo)
     set(J, u"ab"_s);
     caretAt(2);
     insert().BeginColInsert();
-    insert().InsertColouredString(u"BTN"_s, settings.BTNColour);
+    insert().InsertColouredString(u"BTN"_s, settings.of<ColourSettings>().BTNColour);
     insert().InsertCarriageReturn();
-    insert().InsertColouredString(u"/U"_s, settings.SlashColour);
+    insert().InsertColouredString(u"/U"_s, settings.of<ColourSettings>().SlashColour);
     insert().EndColInsert();
     EXPECT_EQ(editor->joystick().state(), Document::Modified);
     EXPECT_EQ(editor->undos().of(J).slots(), 2);
@@ -77,7 +79,7 @@ TEST_F(ColouredInsertTest, AnInsertAmidAWordBeingTypedIsStillAStepOfItsOwn)
     QTest::keyClick(joystick(), Qt::Key_Left);
     const int before = editor->undos().of(J).slots();
     insert().BeginColInsert();
-    insert().InsertColouredString(u"X"_s, settings.BTNColour);
+    insert().InsertColouredString(u"X"_s, settings.of<ColourSettings>().BTNColour);
     insert().EndColInsert();
     EXPECT_EQ(editor->undos().of(J).slots(), before + 1);
     editor->undos().mnuEditUndo_Click();
@@ -87,10 +89,11 @@ TEST_F(ColouredInsertTest, AnInsertAmidAWordBeingTypedIsStillAStepOfItsOwn)
 TEST_F(ColouredInsertTest, TheStateBeforeIsStoredWithItsLooks)
 {
     set(J, u"/U"_s);
-    look(J, 0, 2, [this](CharFormat &format) { format.colour = settings.RAWColour; });
+    look(J, 0, 2,
+         [this](CharFormat &format) { format.colour = settings.of<ColourSettings>().RAWColour; });
     caretAt(2);
     insert().BeginColInsert();
-    insert().InsertColouredString(u"x"_s, settings.BTNColour);
+    insert().InsertColouredString(u"x"_s, settings.of<ColourSettings>().BTNColour);
     insert().EndColInsert();
     editor->undos().mnuEditUndo_Click();
     EXPECT_EQ(colours(J), u"rr");
@@ -110,7 +113,7 @@ TEST_F(ColouredInsertTest, BlanksAndLineEndsAreInTheDocumentsPlainColour)
 TEST_F(ColouredInsertTest, LineEndsOfFilesAreLineEnds)
 {
     insert().BeginColInsert();
-    insert().InsertColouredString(u"a\r\nb\rc"_s, settings.RAWColour);
+    insert().InsertColouredString(u"a\r\nb\rc"_s, settings.of<ColourSettings>().RAWColour);
     insert().EndColInsert();
     EXPECT_EQ(editor->joystickText(), u"a\nb\nc");
     EXPECT_EQ(status.lineText(), u"Line no: 3");
@@ -123,7 +126,7 @@ TEST_F(ColouredInsertTest, AProtectedMacroFileTakesNothing)
     protectMacro();
     dialogs.answer(u"File protected"_s, BoxButton::Ok);
     insert().BeginColInsert();
-    EXPECT_FALSE(insert().InsertColouredString(u"x"_s, settings.RAWColour));
+    EXPECT_FALSE(insert().InsertColouredString(u"x"_s, settings.of<ColourSettings>().RAWColour));
     insert().EndColInsert();
     EXPECT_EQ(editor->macroText(), u"a = b");
     EXPECT_EQ(editor->macro().state(), Document::Saved);

@@ -6,13 +6,15 @@
 #include "documents/editor_view.h"
 #include "documents/text_control.h"
 #include "editor/editor.h"
+#include "editor/editor_settings.h"
 #include "platform/clock.h"
 #include "platform/context.h"
 #include "platform/fakes/fake_keyboard.h"
 #include "platform/fakes/fake_launcher.h"
 #include "platform/fakes/scripted_dialogs.h"
 #include "platform/status_line.h"
-#include "settings/global_settings.h"
+#include "settings/colour_settings.h"
+#include "settings/settings.h"
 #include "tests/support/temp_folder.h"
 
 #include <gtest/gtest.h>
@@ -45,12 +47,12 @@ protected:
             QDir(folder.path()).mkdir(name);
         }
         // Where backups of saved files go: without a name they would go to the current folder.
-        settings.BackUpFolder = folder.path() + u"/Backup/"_s;
-        settings.TextFontName = u"Arial"_s;
-        settings.TextFontSize = u"8"_s;
-        settings.BackgroundColour = 0xFFFFFF;
-        settings.MacroBackgroundColour = 0xFFFFFF;
-        settings.UpdateModified = 1;
+        settings.of<EditorSettings>().BackUpFolder = folder.path() + u"/Backup/"_s;
+        settings.of<ColourSettings>().TextFontName = u"Arial"_s;
+        settings.of<ColourSettings>().TextFontSize = 8;
+        settings.of<ColourSettings>().BackgroundColour = 0xFFFFFF;
+        settings.of<ColourSettings>().MacroBackgroundColour = 0xFFFFFF;
+        settings.of<EditorSettings>().UpdateModified = true;
         makeEditor();
     }
     ~EditorTest() override
@@ -77,7 +79,7 @@ protected:
 
     TempFolder folder;
     Paths paths;
-    GlobalSettings settings{};
+    Settings settings;
     StatusLine status;
     ScriptedDialogs dialogs;
     FakeLauncher launcher;

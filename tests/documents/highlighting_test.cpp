@@ -1,9 +1,11 @@
 // SPDX-FileCopyrightText: The Zeph authors
 // SPDX-License-Identifier: MIT
 
+#include "documents/document_settings.h"
 #include "editor/files/file_opening.h"
 #include "platform/core/rtf.h"
 #include "platform/richtext/rich_text_document.h"
+#include "settings/colour_settings.h"
 #include "tests/text/painting_fixture.h"
 
 #include <QAction>
@@ -124,7 +126,7 @@ TEST_F(HighlightingTest, APassKeepsCaretAndScrollAndDropsTheSelection)
 
 TEST_F(HighlightingTest, APassStripsBoldItalicUnderlineAndForeignFonts)
 {
-    settings.TextFontBold = 1;
+    settings.of<ColourSettings>().TextFontBold = true;
     set(J, u"BTN S1 a"_s);
     look(J, 2, 4, [](CharFormat &format) {
         format.family = u"Courier"_s;
@@ -148,8 +150,9 @@ TEST_F(HighlightingTest, APassWritesTheColouredCopyOfAnUnsavedFileAtOnce)
     const auto copy = readRtf(folder.read(u"Rtf/Untitled.tmj"_s));
     ASSERT_TRUE(copy);
     EXPECT_EQ(copy->text, u"BTN S1 a");
-    EXPECT_EQ(copy->formatAt(0).colour, settings.BTNColour);
-    EXPECT_EQ(copy->formatAt(7).colour.value_or(0), settings.JoystickTextDefaultColour);
+    EXPECT_EQ(copy->formatAt(0).colour, settings.of<ColourSettings>().BTNColour);
+    EXPECT_EQ(copy->formatAt(7).colour.value_or(0),
+              settings.of<ColourSettings>().JoystickTextDefaultColour);
 }
 
 TEST_F(HighlightingTest, ACopyThatCannotBeWrittenIsTold)
@@ -208,7 +211,7 @@ TEST_F(HighlightingTest, RemovingColourLeavesTheFontAndTheCaret)
     set(J, u"BTN S1 a"_s);
     look(J, 0, 5, [this](CharFormat &format) {
         format.family = u"Courier"_s;
-        format.colour = settings.RAWColour;
+        format.colour = settings.of<ColourSettings>().RAWColour;
         format.bold = format.italic = format.underline = true;
     });
     joystick()->shown().select(3, 2);
@@ -357,7 +360,7 @@ TEST_F(HighlightingTest, ColouringALineOfAProtectedMacroFileIsRefused)
 TEST_F(HighlightingTest, AStatementsTextIsPaintedInTheSelectedDocumentsPlainFormat)
 {
     const RichText joystickText = highlighting().ColourType(u"BTN S1 a"_s);
-    EXPECT_EQ(joystickText.formatAt(0).colour, settings.BTNColour);
+    EXPECT_EQ(joystickText.formatAt(0).colour, settings.of<ColourSettings>().BTNColour);
     EXPECT_EQ(joystickText.formatAt(7), editor->documents().plainFormat(J));
     editor->documents().select(M);
     EXPECT_EQ(highlighting().ColourType(u"a"_s).formatAt(0), editor->documents().plainFormat(M));
@@ -368,7 +371,7 @@ TEST_F(HighlightingTest, JustRemPaintsCommentsAlone)
     const RichText text = highlighting().JustREMtocolour(u"BTN S1 Rem x"_s);
     ASSERT_EQ(text.characters.size(), 2U);
     EXPECT_EQ(text.characters[0].length, 7);
-    EXPECT_EQ(text.characters[1].format.colour, settings.RemStatements);
+    EXPECT_EQ(text.characters[1].format.colour, settings.of<ColourSettings>().RemStatements);
 }
 
 TEST_F(HighlightingTest, RefreshingTheLayoutStripsLooksAndSetsTheMargin)
@@ -442,7 +445,7 @@ class TypingColourTest : public HighlightingTest
 protected:
     void SetUp() override
     {
-        settings.ColourWithTyping = 1;
+        settings.of<DocumentSettings>().ColourWithTyping = true;
         showWindow();
     }
 };
@@ -486,7 +489,7 @@ TEST_F(TypingColourTest, TheMouseColoursWhatItHasSelected)
 
 TEST_F(TypingColourTest, NothingIsColouredWhileTheSettingIsOff)
 {
-    settings.ColourWithTyping = 0;
+    settings.of<DocumentSettings>().ColourWithTyping = false;
     QTest::keyClicks(joystick(), u"/U /M"_s);
     QTest::keyClick(joystick(), Qt::Key_Return);
     EXPECT_EQ(colours(J), u"......");

@@ -3,6 +3,7 @@
 
 #include "documents/line_margin.h"
 
+#include "documents/document_settings.h"
 #include "tests/documents/editor_fixture.h"
 
 #include <QAction>
@@ -66,8 +67,8 @@ TEST_F(LineMarginTest, BothAreShownUnlessTheSettingsSayOtherwise)
     EXPECT_TRUE(margin()->isVisible());
     EXPECT_TRUE(editor->action(u"mnuViewLineNumbers")->isChecked());
     EXPECT_TRUE(editor->action(u"mnuViewCurrentLine")->isChecked());
-    settings.LineNumbers = 0;
-    settings.CurrentLineMark = 0;
+    settings.of<DocumentSettings>().LineNumbers = false;
+    settings.of<DocumentSettings>().CurrentLineMark = false;
     editor->applySettings();
     EXPECT_FALSE(margin()->isVisible());
     EXPECT_FALSE(editor->action(u"mnuViewLineNumbers")->isChecked());
@@ -78,12 +79,12 @@ TEST_F(LineMarginTest, TheTicksShowHideAndAreKept)
 {
     editor->action(u"mnuViewLineNumbers")->trigger();
     EXPECT_FALSE(margin()->isVisible());
-    EXPECT_EQ(settings.LineNumbers, 0);
+    EXPECT_EQ(settings.of<DocumentSettings>().LineNumbers, 0);
     editor->action(u"mnuViewLineNumbers")->trigger();
     EXPECT_TRUE(margin()->isVisible());
-    EXPECT_EQ(settings.LineNumbers, 1);
+    EXPECT_EQ(settings.of<DocumentSettings>().LineNumbers, 1);
     editor->action(u"mnuViewCurrentLine")->trigger();
-    EXPECT_EQ(settings.CurrentLineMark, 0);
+    EXPECT_EQ(settings.of<DocumentSettings>().CurrentLineMark, 0);
 }
 
 TEST_F(LineMarginTest, StandsBesideTheTextAndGrowsWithTheNumbers)

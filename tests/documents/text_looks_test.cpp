@@ -3,6 +3,7 @@
 
 #include "documents/styleeditor.h"
 #include "documents/text_looks.h"
+#include "settings/colour_settings.h"
 #include "tests/text/painting_fixture.h"
 #include "text/text_styles.h"
 
@@ -158,7 +159,7 @@ TEST_F(TextLooksTest, ACancelledFontDialogChangesNothing)
     set(J, u"abc"_s);
     dialogs.answerFont(std::nullopt);
     editor->actions().trigger(u"mnuFormatFont");
-    EXPECT_EQ(settings.TextFontName, u"Arial");
+    EXPECT_EQ(settings.of<ColourSettings>().TextFontName, u"Arial");
     EXPECT_EQ(store().text(u"Colours", u"TextFontName"), QString());
 }
 

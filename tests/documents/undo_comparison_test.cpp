@@ -5,7 +5,9 @@
 // after every step of long random sequences in the real Editor.
 
 #include "documents/change.h"
+#include "documents/document_settings.h"
 #include "documents/undo_histories.h"
+#include "editor/editor_settings.h"
 #include "editor/files/file_new.h"
 #include "editor/files/file_opening.h"
 #include "editor/files/file_saving.h"
@@ -98,7 +100,7 @@ QString captionOf(QStringView word, size_t steps)
 class UndoComparison : public test::EditorTest
 {
 protected:
-    UndoComparison() { settings.UpdateModified = 0; }
+    UndoComparison() { settings.of<EditorSettings>().UpdateModified = false; }
 
     Document &document() { return editor->selected(); }
     TextControl &control() { return editor->view().control(document().kind()); }
@@ -111,7 +113,7 @@ protected:
         chance = std::make_unique<test::RichTextMaker>(seed);
         // Most texts are short; some have many chunks.
         const int most = seed % 20 == 0 ? 400 : 12;
-        settings.UndoMax = qint16(10 + chance->upTo(10));
+        settings.of<DocumentSettings>().UndoMax = int(10 + chance->upTo(10));
         for (const DocumentKind kind : { DocumentKind::Joystick, DocumentKind::Macro }) {
             editor->documents().of(kind).setState(Document::Saved);
             QByteArray bytes;
@@ -127,7 +129,7 @@ protected:
     void changed()
     {
         copies().changed(control().shown().richText(), control().shown().selStart(),
-                         settings.UndoMax);
+                         settings.of<DocumentSettings>().UndoMax);
     }
 
     void typeKey(int key)
@@ -258,11 +260,11 @@ protected:
     }
     void save()
     {
-        settings.UndoClearOnSave = qint16(chance->upTo(1));
+        settings.of<DocumentSettings>().UndoClearOnSave = int(chance->upTo(1));
         const QString before = control().shown().text();
         editor->saving().SaveText(document());
         ASSERT_EQ(control().shown().text(), before);
-        if (settings.UndoClearOnSave == 1) {
+        if (settings.of<DocumentSettings>().UndoClearOnSave) {
             copies().start(control().shown().richText());
         }
     }

@@ -5,6 +5,7 @@
 
 #include "documents/change.h"
 
+#include "documents/document_settings.h"
 #include "documents/line_blink.h"
 #include "editor/files/file_new.h"
 #include "editor/files/file_opening.h"
@@ -86,7 +87,7 @@ TEST_F(UndoTest, NothingCanBeUndoneAtStart)
 
 TEST_F(UndoTest, UndoMaxOfTenHoldsElevenStates)
 {
-    settings.UndoMax = 10;
+    settings.of<DocumentSettings>().UndoMax = 10;
     for (int word = 0; word < 30; ++word) {
         insertAsTool(QString::number(word));
     }
@@ -97,7 +98,7 @@ TEST_F(UndoTest, UndoMaxOfTenHoldsElevenStates)
 
 TEST_F(UndoTest, AFullHistoryDropsTheOldestState)
 {
-    settings.UndoMax = 10;
+    settings.of<DocumentSettings>().UndoMax = 10;
     for (int word = 0; word <= 10; ++word) {
         insertAsTool(QString::number(word));
     }
@@ -109,7 +110,7 @@ TEST_F(UndoTest, ALoweredUndoMaxKeepsWhatIsHeld)
     for (int word = 0; word < 15; ++word) {
         insertAsTool(QString::number(word));
     }
-    settings.UndoMax = 10;
+    settings.of<DocumentSettings>().UndoMax = 10;
     insertAsTool(u"more"_s);
     EXPECT_EQ(history().slots(), 16);
 }
@@ -366,7 +367,7 @@ TEST_F(UndoTest, AProtectedMacroFileIsNotUndone)
 
 TEST_F(UndoTest, ASaveWithUndoClearOnSaveDisablesUndo)
 {
-    settings.UndoClearOnSave = 1;
+    settings.of<DocumentSettings>().UndoClearOnSave = true;
     editor->opening().mnuFileJoystickLoad_Click(file(u"a.tmj"_s, "BTN"));
     keys(u"x y"_s);
     undo();
@@ -384,7 +385,7 @@ TEST_F(UndoTest, ASaveWithUndoClearOnSaveDisablesUndo)
 
 TEST_F(UndoTest, ASaveWithoutUndoClearOnSaveKeepsTheHistory)
 {
-    settings.UndoClearOnSave = 0;
+    settings.of<DocumentSettings>().UndoClearOnSave = false;
     editor->opening().mnuFileJoystickLoad_Click(file(u"a.tmj"_s, "BTN"));
     keys(u"x y"_s);
     editor->saving().mnuFileSave_Click();
@@ -393,7 +394,7 @@ TEST_F(UndoTest, ASaveWithoutUndoClearOnSaveKeepsTheHistory)
 
 TEST_F(UndoTest, ASaveClearsTheHistoryOfItsDocumentAlone)
 {
-    settings.UndoClearOnSave = 1;
+    settings.of<DocumentSettings>().UndoClearOnSave = true;
     keys(u"a b"_s);
     editor->opening().MnuFileMacroLoad_Click(file(u"a.tmm"_s, "M = x"));
     QTest::keyClicks(macro(), u"q"_s);
@@ -405,7 +406,7 @@ TEST_F(UndoTest, ASaveClearsTheHistoryOfItsDocumentAlone)
 
 TEST_F(UndoTest, AFailedSaveKeepsTheHistory)
 {
-    settings.UndoClearOnSave = 1;
+    settings.of<DocumentSettings>().UndoClearOnSave = true;
     editor->opening().mnuFileJoystickLoad_Click(file(u"a.tmj"_s, "BTN"));
     keys(u"x"_s);
     QDir(folder.file(u"Files"_s)).removeRecursively();
@@ -483,7 +484,7 @@ TEST_F(UndoTest, DeletingTheUndosFromMemoryLeavesAnEmptySlotInBothDocuments)
 
 TEST_F(UndoTest, ThousandStepsInALongFileFitIntoFiftyMegabytes)
 {
-    settings.UndoMax = 1000;
+    settings.of<DocumentSettings>().UndoMax = 1000;
     QString lines;
     for (int line = 0; line < 10000; ++line) {
         lines += u"BTN H1U /U /I Radar_Mode DLY(60) /O Missile_Mode Rem line\n"_s;
@@ -505,7 +506,7 @@ TEST_F(UndoTest, ThousandStepsInALongFileFitIntoFiftyMegabytes)
 
 TEST_F(UndoTest, TheCaretsLineBlinksWhenTheSettingSaysSo)
 {
-    settings.HighlightLineOnUndo = 1;
+    settings.of<DocumentSettings>().HighlightLineOnUndo = true;
     auto *timer = editor->undos().findChild<QTimer *>(u"TimerBlinkLine"_s);
     ASSERT_TRUE(timer);
     EXPECT_EQ(timer->interval(), 100);
@@ -545,7 +546,7 @@ TEST_F(UndoTest, NothingBlinksWithoutTheSetting)
 
 TEST_F(UndoTest, WhoTypesIntoABlinkingLineReplacesNothing)
 {
-    settings.HighlightLineOnUndo = 1;
+    settings.of<DocumentSettings>().HighlightLineOnUndo = true;
     keys(u"one two three"_s);
     undo();
     ASSERT_EQ(joystick()->textCursor().selectedText().size(), 7);
@@ -560,7 +561,7 @@ TEST_F(UndoTest, WhoTypesIntoABlinkingLineReplacesNothing)
 
 TEST_F(UndoTest, ATabChangeEndsTheBlinking)
 {
-    settings.HighlightLineOnUndo = 1;
+    settings.of<DocumentSettings>().HighlightLineOnUndo = true;
     keys(u"a b"_s);
     undo();
     editor->documents().select(DocumentKind::Macro);

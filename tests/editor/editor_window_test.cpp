@@ -4,10 +4,12 @@
 #include "documents/editor_texts.h"
 #include "editor/actions.h"
 #include "editor/editor_keys.h"
+#include "editor/editor_settings.h"
 #include "editor/files/file_opening.h"
 #include "editor/files/file_saving.h"
 #include "editor/right_menu.h"
 #include "menus/menu_actions.h"
+#include "settings/shared_settings.h"
 #include "tests/documents/editor_fixture.h"
 
 #include <QAction>
@@ -274,7 +276,7 @@ TEST_F(EditorWindowTest, CtrlKOpensTheKeyTesterThatTheUserPrefers)
     editor->action(u"mnuAppsDX8_0")->setEnabled(true);
     QTest::keyClick(joystick(), Qt::Key_K, Qt::ControlModifier);
     EXPECT_EQ(tester.count(), 1);
-    settings.DefaultToDX8KeyTester = 1;
+    settings.of<SharedSettings>().DefaultToDX8KeyTester = true;
     QTest::keyClick(joystick(), Qt::Key_K, Qt::ControlModifier);
     EXPECT_EQ(tester.count(), 1);
     EXPECT_EQ(directX.count(), 1);
@@ -421,7 +423,7 @@ TEST_F(EditorWindowTest, CompileIsOfferedOnTheJoystickTabOnlyUnlessAlwaysShown)
     EXPECT_TRUE(editor->action(u"mnuAppsCompile")->isEnabled());
     tabs()->setCurrentIndex(1);
     EXPECT_FALSE(editor->action(u"mnuAppsCompile")->isEnabled());
-    settings.AlwaysShowCompileDownload = 1;
+    settings.of<EditorSettings>().AlwaysShowCompileDownload = true;
     editor->applySettings();
     EXPECT_TRUE(editor->action(u"mnuAppsCompile")->isEnabled());
 }

@@ -3,14 +3,16 @@
 
 #include "livetools/keytestform.h"
 
+#include "livetools/key_tester_settings.h"
 #include "platform/clock.h"
 #include "platform/core/profile_file.h"
 #include "platform/fakes/fake_keyboard.h"
 #include "platform/fakes/fake_launcher.h"
 #include "platform/fakes/scripted_dialogs.h"
 #include "platform/status_line.h"
-#include "settings/global_settings.h"
+#include "settings/settings.h"
 #include "tests/support/temp_folder.h"
+#include "toolchain/toolchain_settings.h"
 
 #include <gtest/gtest.h>
 
@@ -39,7 +41,7 @@ public:
     Clock clock;
     FakeKeyboard keyboard;
     Paths paths;
-    GlobalSettings settings;
+    Settings settings;
     StatusLine status;
     QStringList asked;
     bool hasDirectX = true;
@@ -276,13 +278,13 @@ TEST_F(KeyTester, ChoosingTheTickedDelayTurnsItOff)
 {
     ASSERT_TRUE(open());
     choose(u"mnuClearDelay_4"_s);
-    EXPECT_EQ(settings.ClearDelay, 4);
+    EXPECT_EQ(settings.of<KeyTesterSettings>().ClearDelay, 4);
     EXPECT_TRUE(action(u"mnuClearDelay_4"_s)->isChecked());
     choose(u"mnuClearDelay_0"_s);
-    EXPECT_EQ(settings.ClearDelay, 0);
+    EXPECT_EQ(settings.of<KeyTesterSettings>().ClearDelay, 0);
     EXPECT_FALSE(action(u"mnuClearDelay_4"_s)->isChecked());
     choose(u"mnuClearDelay_0"_s);
-    EXPECT_EQ(settings.ClearDelay, -1);
+    EXPECT_EQ(settings.of<KeyTesterSettings>().ClearDelay, -1);
     EXPECT_FALSE(action(u"mnuClearDelay_0"_s)->isChecked());
     stroke(Qt::Key_Tab);
     EXPECT_FALSE(child<QTimer>(u"Timer1"_s)->isActive());
@@ -368,7 +370,7 @@ TEST_F(KeyTester, TheKeyEventsCanBeHidden)
     EXPECT_TRUE(child<QTextEdit>(u"RTFKeysDownText"_s)->isVisible());
     choose(u"mnuViewKeyEvents"_s);
     EXPECT_FALSE(child<QTextEdit>(u"RTFKeysDownText"_s)->isVisible());
-    EXPECT_EQ(settings.KeyViewAll, 0);
+    EXPECT_EQ(settings.of<KeyTesterSettings>().KeyViewAll, 0);
 }
 
 TEST_F(KeyTester, ItsTextHasThreeSizes)
@@ -406,7 +408,7 @@ TEST_F(KeyTester, KeepsItsPlaceAndItsChoices)
     EXPECT_EQ(stored(u"KeyViewAll"_s), u"0");
     EXPECT_EQ(stored(u"MenuDisplay"_s), u"0");
     delete form;
-    settings = GlobalSettings();
+    settings.of<KeyTesterSettings>() = KeyTesterSettings();
     ASSERT_TRUE(open());
     EXPECT_EQ(form->size(), QSize(600, 400));
     EXPECT_EQ(form->pos(), QPoint(40, 50));
@@ -420,7 +422,7 @@ TEST_F(KeyTester, TheFirstTimeEverythingIsShownAndTheDelayIsOff)
     ASSERT_TRUE(open());
     EXPECT_EQ(form->pos(), QPoint(2, 2)) << "30 twips";
     EXPECT_EQ(child<QLabel>(u"LabelEvents"_s)->text(), u"Up/Down/Keycode events");
-    EXPECT_EQ(settings.ClearDelay, -1);
+    EXPECT_EQ(settings.of<KeyTesterSettings>().ClearDelay, -1);
     EXPECT_EQ(child<QTimer>(u"Timer1"_s)->interval(), 500);
     EXPECT_TRUE(action(u"mnuClear"_s)->isVisible());
 }
@@ -482,7 +484,7 @@ TEST_F(KeyTester, AModeErrorIsAWarningAndTheTesterRuns)
 
 TEST_F(KeyTester, AModeThatIsNotProgrammedIsAWarningUntilTheToolsReportIt)
 {
-    settings.CheckForCompletionTime = u"10"_s;
+    settings.of<ToolchainSettings>().CheckForCompletionTime = 10;
     report("OKAY", 0);
     ASSERT_TRUE(open());
     auto *warning = child<QPushButton>(u"LBL_ModeWarning"_s);

@@ -5,6 +5,7 @@
 
 #include "lists/custom_apps_menu.h"
 #include "platform/system_info.h"
+#include "settings/shared_settings.h"
 #include "shell/mum.h"
 #include "tests/shell/shell_world.h"
 
@@ -50,8 +51,8 @@ public:
 
 TEST_F(AppsPageTest, ShowsAndKeepsEveryField)
 {
-    settings.ImageFilePath = u"/pictures/stick.bmp"_s;
-    settings.TextFilePath = u"/texts/readme.rtf"_s;
+    settings.of<SharedSettings>().ImageFilePath = u"/pictures/stick.bmp"_s;
+    settings.of<SharedSettings>().TextFilePath = u"/texts/readme.rtf"_s;
     make("CustomAppName3=Chat\r\nCustomAppPath3=/bin/chat -q\r\nCustomAppUse3=1\r\n");
     EXPECT_EQ(field(u"ImageFilePath"_s).text(), u"/pictures/stick.bmp");
     EXPECT_EQ(field(u"TextFilePath"_s).text(), u"/texts/readme.rtf");
@@ -67,8 +68,8 @@ TEST_F(AppsPageTest, ShowsAndKeepsEveryField)
     use(3).setChecked(false);
     page->collect();
     menu->save();
-    EXPECT_EQ(settings.ImageFilePath, u"/a.bmp");
-    EXPECT_EQ(settings.TextFilePath, u"/b.txt");
+    EXPECT_EQ(settings.of<SharedSettings>().ImageFilePath, u"/a.bmp");
+    EXPECT_EQ(settings.of<SharedSettings>().TextFilePath, u"/b.txt");
     const CustomApps stored = readCustomApps(ProfileFile(paths.iniPath));
     EXPECT_EQ(stored[2].CustomAppPath, u"/bin/chat -q");
     EXPECT_FALSE(stored[2].CustomAppUse);
@@ -78,15 +79,15 @@ TEST_F(AppsPageTest, ShowsAndKeepsEveryField)
 
 TEST_F(AppsPageTest, ALetterThatTheStoreLacksLeavesTheSettingAlone)
 {
-    settings.ImageFilePath = u"/pictures/stick.bmp"_s;
-    settings.TextFilePath = u"/texts/readme.rtf"_s;
+    settings.of<SharedSettings>().ImageFilePath = u"/pictures/stick.bmp"_s;
+    settings.of<SharedSettings>().TextFilePath = u"/texts/readme.rtf"_s;
     make("CustomAppName1=Chat\r\nCustomAppPath1=/bin/chat\r\nCustomAppUse1=1\r\n");
     field(u"ImageFilePath"_s).setText(u"/\u0416.bmp"_s);
     field(u"TextFilePath"_s).setText(u"/\u65e5.txt"_s);
     field(u"CustomAppPath_1"_s).setText(u"/bin/\u0416"_s);
     page->collect();
-    EXPECT_EQ(settings.ImageFilePath, u"/pictures/stick.bmp");
-    EXPECT_EQ(settings.TextFilePath, u"/texts/readme.rtf");
+    EXPECT_EQ(settings.of<SharedSettings>().ImageFilePath, u"/pictures/stick.bmp");
+    EXPECT_EQ(settings.of<SharedSettings>().TextFilePath, u"/texts/readme.rtf");
     EXPECT_EQ(menu->apps()[0].CustomAppPath, u"/bin/chat");
 }
 
@@ -178,7 +179,7 @@ TEST_F(AppsPageTest, BrowseFindsAnApplicationAndNamesIt)
 
 TEST_F(AppsPageTest, PicturesAndTemplatesAreSoughtWhereTheyAre)
 {
-    settings.TextFilePath = folder.write(u"texts/readme.rtf"_s, "x");
+    settings.of<SharedSettings>().TextFilePath = folder.write(u"texts/readme.rtf"_s, "x");
     make();
     dialogs.answerFile(u"/p.bmp"_s);
     press(u"CMD_BrowseImage"_s);

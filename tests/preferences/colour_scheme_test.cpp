@@ -4,6 +4,7 @@
 #include "preferences/colour_scheme.h"
 
 #include "language/checker.h"
+#include "settings/colour_settings.h"
 
 #include <gtest/gtest.h>
 
@@ -11,7 +12,7 @@ using namespace zeph;
 
 namespace {
 
-using G = GlobalSettings;
+using G = ColourSettings;
 
 struct CategoryCase {
     QStringView caption;
@@ -20,19 +21,19 @@ struct CategoryCase {
 
 /// The list as it is told, and what each of its lines is kept as.
 const CategoryCase told[] = {
-    { u"Buttons", &G::BTNColour },
-    { u"Background: Joystick", &G::BackgroundColour },
-    { u"Rem statements", &G::RemStatements },
-    { u"Slash modifiers", &G::SlashColour },
-    { u"DLY statements", &G::RAWColour },
-    { u"Configuration", &G::MiscellaneousColour },
-    { u"Background: Macro", &G::MacroBackgroundColour },
-    { u"Text: Joystick", &G::JoystickTextDefaultColour },
-    { u"Text: Macro", &G::MacroTextDefaultColour },
-    { u"Macro List: Background", &G::MacroListBackground },
-    { u"Macro List: Text", &G::MacroListText },
-    { u"Macro Headings: Background", &G::MacroHeadingsBackground },
-    { u"Macro Headings: Text", &G::MacroHeadingsText },
+    { u"Buttons", &ColourSettings::BTNColour },
+    { u"Background: Joystick", &ColourSettings::BackgroundColour },
+    { u"Rem statements", &ColourSettings::RemStatements },
+    { u"Slash modifiers", &ColourSettings::SlashColour },
+    { u"DLY statements", &ColourSettings::RAWColour },
+    { u"Configuration", &ColourSettings::MiscellaneousColour },
+    { u"Background: Macro", &ColourSettings::MacroBackgroundColour },
+    { u"Text: Joystick", &ColourSettings::JoystickTextDefaultColour },
+    { u"Text: Macro", &ColourSettings::MacroTextDefaultColour },
+    { u"Macro List: Background", &ColourSettings::MacroListBackground },
+    { u"Macro List: Text", &ColourSettings::MacroListText },
+    { u"Macro Headings: Background", &ColourSettings::MacroHeadingsBackground },
+    { u"Macro Headings: Text", &ColourSettings::MacroHeadingsText },
 };
 
 } // namespace
@@ -44,27 +45,6 @@ TEST(ColourCategories, StandInTheToldOrder)
         EXPECT_EQ(colourCategories()[i].caption, told[i].caption);
         EXPECT_EQ(colourCategories()[i].colour, told[i].colour) << i;
     }
-}
-
-TEST(ColourCategories, TheCopyTakesAllSixteenSettingsAndNoOther)
-{
-    GlobalSettings from;
-    for (const CategoryCase &category : told) {
-        from.*category.colour = 0x123456;
-    }
-    from.TextFontName = u"Courier New"_s;
-    from.TextFontSize = u"17"_s;
-    from.TextFontBold = 1;
-    from.UndoMax = 999;
-    GlobalSettings to;
-    copyColours(to, from);
-    for (const CategoryCase &category : told) {
-        EXPECT_EQ(to.*category.colour, 0x123456U) << category.caption.toString().toStdString();
-    }
-    EXPECT_EQ(to.TextFontName, u"Courier New");
-    EXPECT_EQ(to.TextFontSize, u"17");
-    EXPECT_EQ(to.TextFontBold, 1);
-    EXPECT_EQ(to.UndoMax, 20);
 }
 
 TEST(ColourCategories, ThePageStaysWhereTheCategoryIsSeenOnIt)

@@ -4,6 +4,7 @@
 #include "preferences/colourspage.h"
 
 #include "documents/text_control.h"
+#include "settings/colour_settings.h"
 #include "settings/settings_files.h"
 #include "tests/shell/shell_world.h"
 
@@ -21,7 +22,7 @@ using namespace zeph;
 
 namespace {
 
-using G = GlobalSettings;
+using G = ColourSettings;
 
 constexpr ColorRef lime = 0x00FF32;
 
@@ -31,14 +32,14 @@ class ColoursPageTest : public test::ShellWorld
 public:
     void SetUp() override
     {
-        setFirstRunColours(settings);
-        settings.BTNColour = colorRef(200, 0, 0);
-        settings.SlashColour = colorRef(0, 120, 0);
-        settings.RAWColour = colorRef(0, 0, 210);
-        settings.MiscellaneousColour = colorRef(150, 0, 150);
-        settings.RemStatements = colorRef(90, 90, 90);
-        settings.JoystickTextDefaultColour = colorRef(10, 20, 30);
-        settings.MacroTextDefaultColour = colorRef(30, 20, 10);
+        setFirstRunColours(settings.of<ColourSettings>());
+        settings.of<ColourSettings>().BTNColour = colorRef(200, 0, 0);
+        settings.of<ColourSettings>().SlashColour = colorRef(0, 120, 0);
+        settings.of<ColourSettings>().RAWColour = colorRef(0, 0, 210);
+        settings.of<ColourSettings>().MiscellaneousColour = colorRef(150, 0, 150);
+        settings.of<ColourSettings>().RemStatements = colorRef(90, 90, 90);
+        settings.of<ColourSettings>().JoystickTextDefaultColour = colorRef(10, 20, 30);
+        settings.of<ColourSettings>().MacroTextDefaultColour = colorRef(30, 20, 10);
     }
     void make()
     {
@@ -97,18 +98,18 @@ struct WordCase {
 };
 
 const WordCase words[] = {
-    { "Buttons", u"SampleJoystick", u"BTN", &G::BTNColour },
-    { "NamesOfButtons", u"SampleJoystick", u"S1", &G::BTNColour },
-    { "Flags", u"SampleJoystick", u"DEF X1", &G::BTNColour },
-    { "Comments", u"SampleJoystick", u"air to air", &G::RemStatements },
-    { "Slashes", u"SampleJoystick", u"/U", &G::SlashColour },
-    { "Delays", u"SampleJoystick", u"DLY", &G::RAWColour },
-    { "Configuration", u"SampleJoystick", u"MDEF", &G::MiscellaneousColour },
-    { "OtherText", u"SampleJoystick", u"Radar_On", &G::JoystickTextDefaultColour },
-    { "MacroComments", u"SampleMacro", u"Weapons", &G::RemStatements },
-    { "MacroSlashes", u"SampleMacro", u"/P", &G::SlashColour },
-    { "MacroDelays", u"SampleMacro", u"DLY", &G::RAWColour },
-    { "OtherMacroText", u"SampleMacro", u"Fire_Gun", &G::MacroTextDefaultColour },
+    { "Buttons", u"SampleJoystick", u"BTN", &ColourSettings::BTNColour },
+    { "NamesOfButtons", u"SampleJoystick", u"S1", &ColourSettings::BTNColour },
+    { "Flags", u"SampleJoystick", u"DEF X1", &ColourSettings::BTNColour },
+    { "Comments", u"SampleJoystick", u"air to air", &ColourSettings::RemStatements },
+    { "Slashes", u"SampleJoystick", u"/U", &ColourSettings::SlashColour },
+    { "Delays", u"SampleJoystick", u"DLY", &ColourSettings::RAWColour },
+    { "Configuration", u"SampleJoystick", u"MDEF", &ColourSettings::MiscellaneousColour },
+    { "OtherText", u"SampleJoystick", u"Radar_On", &ColourSettings::JoystickTextDefaultColour },
+    { "MacroComments", u"SampleMacro", u"Weapons", &ColourSettings::RemStatements },
+    { "MacroSlashes", u"SampleMacro", u"/P", &ColourSettings::SlashColour },
+    { "MacroDelays", u"SampleMacro", u"DLY", &ColourSettings::RAWColour },
+    { "OtherMacroText", u"SampleMacro", u"Fire_Gun", &ColourSettings::MacroTextDefaultColour },
 };
 
 class ColouredWord : public ColoursPageTest, public testing::WithParamInterface<WordCase>
@@ -122,29 +123,29 @@ TEST_P(ColouredWord, HasTheSchemesColourAndAnotherAtOnce)
     make();
     const WordCase &word = GetParam();
     const TextControl &shown = sample(word.sample.toString());
-    const ColorRef colour = settings.*word.colour;
+    const ColorRef colour = settings.of<ColourSettings>().*word.colour;
     EXPECT_EQ(colourOf(shown, word.piece.toString()),
               QColor(redOf(colour), greenOf(colour), blueOf(colour)));
 
     int row = 0;
-    const ColorRef G::*rows[] = { &G::BTNColour,
+    const ColorRef G::*rows[] = { &ColourSettings::BTNColour,
                                   nullptr,
-                                  &G::RemStatements,
-                                  &G::SlashColour,
-                                  &G::RAWColour,
-                                  &G::MiscellaneousColour,
+                                  &ColourSettings::RemStatements,
+                                  &ColourSettings::SlashColour,
+                                  &ColourSettings::RAWColour,
+                                  &ColourSettings::MiscellaneousColour,
                                   nullptr,
-                                  &G::JoystickTextDefaultColour,
-                                  &G::MacroTextDefaultColour };
+                                  &ColourSettings::JoystickTextDefaultColour,
+                                  &ColourSettings::MacroTextDefaultColour };
     while (rows[row] != word.colour) {
         ++row;
     }
     choose(row, lime);
     EXPECT_EQ(colourOf(shown, word.piece.toString()), QColor(0x32, 0xFF, 0x00));
     EXPECT_EQ(swatch(row), QColor(0x32, 0xFF, 0x00));
-    EXPECT_EQ(settings.*word.colour, colour) << "not before it is collected";
+    EXPECT_EQ(settings.of<ColourSettings>().*word.colour, colour) << "not before it is collected";
     page->collect();
-    EXPECT_EQ(settings.*word.colour, lime);
+    EXPECT_EQ(settings.of<ColourSettings>().*word.colour, lime);
 }
 
 INSTANTIATE_TEST_SUITE_P(Preferences, ColouredWord, testing::ValuesIn(words),
@@ -200,7 +201,7 @@ TEST_F(ColoursPageTest, ADoubleClickOnTheListOpensTheColourDialog)
     QTest::mouseClick(list().viewport(), Qt::LeftButton, {}, third);
     QTest::mouseDClick(list().viewport(), Qt::LeftButton, {}, third);
     page->collect();
-    EXPECT_EQ(settings.RemStatements, lime);
+    EXPECT_EQ(settings.of<ColourSettings>().RemStatements, lime);
 }
 
 TEST_F(ColoursPageTest, EnterOnTheListOpensTheColourDialogAndLeavesTheWindowOpen)
@@ -213,7 +214,7 @@ TEST_F(ColoursPageTest, EnterOnTheListOpensTheColourDialogAndLeavesTheWindowOpen
         EXPECT_TRUE(window->isVisible());
     }
     page->collect();
-    EXPECT_EQ(settings.BTNColour, lime + 1);
+    EXPECT_EQ(settings.of<ColourSettings>().BTNColour, lime + 1);
 }
 
 TEST_F(ColoursPageTest, ACancelledColourDialogChangesNothing)
@@ -222,7 +223,7 @@ TEST_F(ColoursPageTest, ACancelledColourDialogChangesNothing)
     dialogs.answerColour(std::nullopt);
     child<QPushButton>(u"CMD_ChangeColour"_s)->click();
     page->collect();
-    EXPECT_EQ(settings.BTNColour, colorRef(200, 0, 0));
+    EXPECT_EQ(settings.of<ColourSettings>().BTNColour, colorRef(200, 0, 0));
 }
 
 TEST_F(ColoursPageTest, ChoosingACategoryShowsAPageOnWhichItIsSeen)
@@ -257,15 +258,15 @@ TEST_F(ColoursPageTest, FontSizeAndBoldAreSeenAtOnceAndKept)
         EXPECT_TRUE(font.bold());
     }
     page->collect();
-    EXPECT_EQ(settings.TextFontName, name);
-    EXPECT_EQ(settings.TextFontSize, u"13");
-    EXPECT_EQ(settings.TextFontBold, 1);
+    EXPECT_EQ(settings.of<ColourSettings>().TextFontName, name);
+    EXPECT_EQ(settings.of<ColourSettings>().TextFontSize, 13);
+    EXPECT_EQ(settings.of<ColourSettings>().TextFontBold, 1);
 }
 
 TEST_F(ColoursPageTest, WhatTheFontFieldsCannotShowStaysUntouched)
 {
-    settings.TextFontName = u"Wingless Dings"_s;
-    settings.TextFontSize = u"8.25"_s;
+    settings.of<ColourSettings>().TextFontName = u"Wingless Dings"_s;
+    settings.of<ColourSettings>().TextFontSize = 8.25;
     make();
     auto *fixed = child<QCheckBox>(u"CHK_FixedPitch"_s);
     EXPECT_EQ(child<QComboBox>(u"TextFontName"_s)->currentText(), u"Wingless Dings");
@@ -273,12 +274,12 @@ TEST_F(ColoursPageTest, WhatTheFontFieldsCannotShowStaysUntouched)
     EXPECT_EQ(child<QComboBox>(u"TextFontName"_s)->currentText(), QString());
     EXPECT_EQ(child<QComboBox>(u"TextFontName"_s)->placeholderText(), u"Wingless Dings");
     page->collect();
-    EXPECT_EQ(settings.TextFontName, u"Wingless Dings");
+    EXPECT_EQ(settings.of<ColourSettings>().TextFontName, u"Wingless Dings");
     fixed->setChecked(false);
     EXPECT_EQ(child<QComboBox>(u"TextFontName"_s)->currentText(), u"Wingless Dings");
     page->collect();
-    EXPECT_EQ(settings.TextFontName, u"Wingless Dings");
-    EXPECT_EQ(settings.TextFontSize, u"8.25");
+    EXPECT_EQ(settings.of<ColourSettings>().TextFontName, u"Wingless Dings");
+    EXPECT_EQ(settings.of<ColourSettings>().TextFontSize, 8.25);
 }
 
 TEST_F(ColoursPageTest, FixedPitchFontsOnlyNarrowsTheList)
@@ -314,7 +315,7 @@ TEST_F(ColoursPageTest, TheFirstRunsColoursComeBackOnlyAfterAYes)
     dialogs.answer(title, BoxButton::No);
     child<QPushButton>(u"CMD_FirstRunColours"_s)->click();
     page->collect();
-    EXPECT_EQ(settings.BTNColour, colorRef(200, 0, 0));
+    EXPECT_EQ(settings.of<ColourSettings>().BTNColour, colorRef(200, 0, 0));
     ASSERT_EQ(dialogs.boxes().size(), 1);
     EXPECT_EQ(dialogs.boxes()[0].defaultButton, BoxButton::No);
 
@@ -324,6 +325,6 @@ TEST_F(ColoursPageTest, TheFirstRunsColoursComeBackOnlyAfterAYes)
     EXPECT_EQ(child<QSpinBox>(u"TextFontSize"_s)->value(), 8);
     EXPECT_EQ(colourOf(sample(u"SampleJoystick"_s), u"BTN"_s), QColor(0, 0, 255));
     page->collect();
-    EXPECT_EQ(settings.BTNColour, 16711680U);
-    EXPECT_EQ(settings.TextFontSize, u"8");
+    EXPECT_EQ(settings.of<ColourSettings>().BTNColour, 16711680U);
+    EXPECT_EQ(settings.of<ColourSettings>().TextFontSize, 8);
 }

@@ -3,6 +3,7 @@
 
 #include "preferences/favouritespage.h"
 
+#include "editor/editor_settings.h"
 #include "lists/favourites_menu.h"
 #include "tests/preferences/lists.h"
 
@@ -19,7 +20,7 @@ struct FavouritesPageTest : test::ListsPageTest {
     void open(const QByteArray &section, bool restores = false)
     {
         writeStore("[Favourites]\r\n" + section);
-        settings.RestoreStatus = restores ? 1 : 0;
+        settings.of<EditorSettings>().RestoreStatus = restores;
         editor = std::make_unique<Editor>(context());
         favourites = new FavouritesMenu(context(), *editor);
         page = std::make_unique<FavouritesPage>(context(), *favourites);

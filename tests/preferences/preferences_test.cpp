@@ -3,6 +3,7 @@
 
 #include "preferences/preferences.h"
 
+#include "documents/document_settings.h"
 #include "documents/editor_view.h"
 #include "documents/text_control.h"
 #include "documents/undo_histories.h"
@@ -10,9 +11,9 @@
 #include "editor/files/loss_guards.h"
 #include "platform/richtext/rich_text_document.h"
 #include "preferences/preferences_rules.h"
-#include "toolchain/cougar_tools.h"
 #include "shell/mum.h"
 #include "tests/shell/running_world.h"
+#include "toolchain/cougar_tools.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -508,6 +509,6 @@ TEST_F(PreferencesTest, ADiskThatTakesNothingIsToldOnTheStatusBar)
     });
     EXPECT_TRUE(app->status().text().startsWith(u"The settings couldn't be written: "_s))
         << app->status().text().toStdString();
-    EXPECT_EQ(app->settings().UndoClearOnSave, 1);
+    EXPECT_EQ(app->settings().of<DocumentSettings>().UndoClearOnSave, 1);
     QDir(paths.iniPath).removeRecursively();
 }

@@ -5,17 +5,22 @@
 
 #include "documents/text_control.h"
 #include "editor/editor.h"
+#include "editor/editor_settings.h"
 #include "editor/macros/macro_features.h"
 #include "menus/menu_actions.h"
 #include "platform/tool_windows.h"
+#include "settings/colour_settings.h"
+#include "settings/shared_settings.h"
 #include "shell/frmtip.h"
 #include "shell/help_menu.h"
 #include "shell/helpwindow.h"
 #include "shell/informationwindow.h"
 #include "shell/main_status_bar.h"
 #include "shell/mum.h"
+#include "shell/settings/shell_settings.h"
 #include "shell/welcome.h"
 #include "tests/shell/shell_world.h"
+#include "toolchain/toolchain_settings.h"
 
 #include <QAbstractButton>
 #include <QAction>
@@ -150,12 +155,15 @@ TEST_F(Start, AnAbsentStoreIsAFirstRunAndHoldsEveryKeyAfterIt)
     ASSERT_TRUE(start());
     EXPECT_EQ(pilot.welcomes, 1);
     int colours = 0;
-    for (const Setting &setting : settingsTable()) {
-        const bool colour = setting.step == SettingsStep::Colours;
-        colours += colour ? 1 : 0;
-        if (setting.place == SettingsPlace::Store && (setting.saved || colour)) {
-            const QString key = setting.key.toString();
-            EXPECT_NE(stored(setting.section.toString(), key), u"(absent)") << key.toStdString();
+    for (const SettingsGroup *group : app->settings().groups()) {
+        for (const SettingKey *setting : group->keys()) {
+            const bool colour = setting->step == SettingsStep::Colours;
+            colours += colour ? 1 : 0;
+            if (setting->store == SettingsStore::Zeph && (setting->isSaved() || colour)) {
+                const QString key = setting->key.toString();
+                EXPECT_NE(stored(setting->section.toString(), key), u"(absent)")
+                    << key.toStdString();
+            }
         }
     }
     EXPECT_EQ(colours, 16);
@@ -175,7 +183,7 @@ TEST_F(Start, TheTextColoursOutliveTheSaveAtTheStart)
     ASSERT_TRUE(start());
     EXPECT_EQ(stored(u"Colours"_s, u"JoystickTextDefaultColour"_s), u"255");
     EXPECT_EQ(stored(u"Colours"_s, u"MacroTextDefaultColour"_s), u"32768");
-    EXPECT_EQ(app->settings().JoystickTextDefaultColour, colorRef(255, 0, 0));
+    EXPECT_EQ(app->settings().of<ColourSettings>().JoystickTextDefaultColour, colorRef(255, 0, 0));
 }
 
 TEST_F(Start, TheColourDialogsCustomColoursAreThoseOfTheStore)
@@ -207,8 +215,8 @@ TEST_F(Start, AValueThatIsNoNumberIsToldOnceThoughItIsReadAtSeveralSteps)
     for (const QString &value : { u"=high"_s, u"=70000"_s, u"=never"_s, u"=red"_s }) {
         EXPECT_EQ(told.count(value), 1) << value.toStdString();
     }
-    EXPECT_EQ(app->settings().MumTopAtStartup, u"0");
-    EXPECT_EQ(app->settings().RegainControlAfter, u"45000");
+    EXPECT_EQ(app->settings().of<ShellSettings>().MumTopAtStartup, 0);
+    EXPECT_EQ(app->settings().of<ToolchainSettings>().RegainControlAfter, 45000);
 }
 
 TEST_F(Start, TheWelcomeKeepsItsKeyboardLayout)
@@ -550,7 +558,7 @@ TEST_F(Start, VistaHidesTheDirectXTesters)
          { u"mnuAppsDX8Divider", u"mnuAppsDX8_0", u"mnuAppsDX8_1", u"mnuAppsDX8_2" }) {
         EXPECT_FALSE(app->editor().action(name)->isVisible());
     }
-    EXPECT_EQ(app->settings().DefaultToDX8KeyTester, 0);
+    EXPECT_EQ(app->settings().of<SharedSettings>().DefaultToDX8KeyTester, 0);
 }
 
 TEST_F(Start, OtherSystemsShowTheDirectXTesters)
@@ -558,7 +566,7 @@ TEST_F(Start, OtherSystemsShowTheDirectXTesters)
     writeStore("[Miscellaneous]\r\nDefaultToDX8KeyTester=1\r\n");
     ASSERT_TRUE(start());
     EXPECT_TRUE(app->editor().action(u"mnuAppsDX8_0")->isVisible());
-    EXPECT_EQ(app->settings().DefaultToDX8KeyTester, 1);
+    EXPECT_EQ(app->settings().of<SharedSettings>().DefaultToDX8KeyTester, 1);
 }
 
 TEST_F(Start, AStoredPlaceIsTakenUpUnlessMaximised)

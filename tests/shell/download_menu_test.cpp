@@ -6,14 +6,18 @@
 #include "documents/editor_view.h"
 #include "documents/text_control.h"
 #include "editor/editor.h"
+#include "editor/editor_settings.h"
 #include "editor/right_menu.h"
 #include "menus/menu_actions.h"
 #include "platform/core/profile_file.h"
+#include "settings/shared_settings.h"
 #include "shell/help_menu.h"
 #include "shell/main_scene.h"
 #include "shell/mum.h"
 #include "tests/shell/shell_world.h"
 #include "toolchain/cougar_tools.h"
+#include "toolchain/default_options.h"
+#include "toolchain/toolchain_settings.h"
 
 #include <QAction>
 #include <QMenu>
@@ -35,9 +39,9 @@ struct DownloadMenuTest : test::ShellWorld {
 
     void SetUp() override
     {
-        settings.CheckForCompletionTime = u"1"_s;
-        settings.RunKeyTest = 1;
-        settings.DownloadMode = 1;
+        settings.of<ToolchainSettings>().CheckForCompletionTime = 1;
+        settings.of<ToolchainSettings>().RunKeyTest = true;
+        settings.of<DefaultOptions>().DownloadMode = true;
         folder.write(u"HOTASCompiler.exe"_s, "tool");
         folder.write(u"HOTASConfig.exe"_s, "tool");
         launcher.onStart = [this](const Launch &) {
@@ -98,7 +102,7 @@ struct DownloadMenuTest : test::ShellWorld {
 
 TEST_F(DownloadMenuTest, TheEntriesShowWhatTheSettingsSay)
 {
-    settings.NumlockDownloadMode = 1;
+    settings.of<ToolchainSettings>().NumlockDownloadMode = true;
     show();
     EXPECT_TRUE(entry(1)->isChecked());
     EXPECT_TRUE(entry(2)->isChecked());
@@ -110,7 +114,7 @@ TEST_F(DownloadMenuTest, TheEntriesShowWhatTheSettingsSay)
 
 TEST_F(DownloadMenuTest, WithoutProgrammedModeTheKeyTesterCannotBeChosen)
 {
-    settings.DownloadMode = 0;
+    settings.of<DefaultOptions>().DownloadMode = false;
     show();
     EXPECT_FALSE(entry(1)->isChecked());
     EXPECT_FALSE(entry(2)->isEnabled());
@@ -123,7 +127,7 @@ TEST_F(DownloadMenuTest, UntickingEntry1ClearsAndDisablesEntry2AndNoKeyTesterOpe
     entry(1)->trigger();
     EXPECT_FALSE(entry(2)->isChecked());
     EXPECT_FALSE(entry(2)->isEnabled());
-    EXPECT_EQ(settings.RunKeyTest, 0);
+    EXPECT_EQ(settings.of<ToolchainSettings>().RunKeyTest, 0);
     EXPECT_EQ(hotasIni().text(u"Defaults", u"DownloadMode", u"none"_s), u"0");
     EXPECT_EQ(testerOpened(), u"");
     EXPECT_TRUE(launcher.launches[0].arguments.startsWith(u"/ZEPH /CD "));
@@ -143,7 +147,7 @@ TEST_F(DownloadMenuTest, Entry2IsSavedAtExitOnly)
 {
     show();
     entry(2)->trigger();
-    EXPECT_EQ(settings.RunKeyTest, 0);
+    EXPECT_EQ(settings.of<ToolchainSettings>().RunKeyTest, 0);
     EXPECT_EQ(store().text(u"Miscellaneous", u"RunKeyTest", u"none"_s), u"none");
 }
 
@@ -159,7 +163,7 @@ TEST_F(DownloadMenuTest, Entries3And4AreSavedAtOnce)
 
 TEST_F(DownloadMenuTest, TheTextIsLockedDuringTheWaitAndEditableBehindIt)
 {
-    settings.RunKeyTest = 0;
+    settings.of<ToolchainSettings>().RunKeyTest = false;
     show();
     dialogs.answer(success, BoxButton::Ok);
     entry(0)->trigger();
@@ -171,7 +175,7 @@ TEST_F(DownloadMenuTest, TheTextIsLockedDuringTheWaitAndEditableBehindIt)
 
 TEST_F(DownloadMenuTest, ALockedTextRefusesWhatMenusAndToolsWouldChange)
 {
-    settings.RunKeyTest = 0;
+    settings.of<ToolchainSettings>().RunKeyTest = false;
     show();
     launcher.onStart = [this](const Launch &) {
         QTimer::singleShot(0, control(), [this] {
@@ -198,7 +202,7 @@ TEST_F(DownloadMenuTest, TheKeyTesterOpensThroughItsEntry)
 
 TEST_F(DownloadMenuTest, TheDirectXTesterOpensForThoseWhoPreferIt)
 {
-    settings.DefaultToDX8KeyTester = 1;
+    settings.of<SharedSettings>().DefaultToDX8KeyTester = true;
     show();
     EXPECT_EQ(testerOpened(), u"mnuAppsDX8_0");
 }
@@ -206,7 +210,7 @@ TEST_F(DownloadMenuTest, TheDirectXTesterOpensForThoseWhoPreferIt)
 TEST_F(DownloadMenuTest, AFailedDownloadOpensNoKeyTester)
 {
     verdict = u"ERROR"_s;
-    settings.HOTASStatusBarErrors = 1;
+    settings.of<ToolchainSettings>().HOTASStatusBarErrors = true;
     show();
     entry(0)->trigger();
     EXPECT_EQ(status.text(), u"Compiler error: ");
@@ -224,15 +228,15 @@ TEST_F(DownloadMenuTest, TheDownloadBelongsToTheJoystickTab)
     QCoreApplication::sendPostedEvents();
     QCoreApplication::processEvents();
     EXPECT_FALSE(button->isEnabled());
-    settings.AlwaysShowCompileDownload = 1;
+    settings.of<EditorSettings>().AlwaysShowCompileDownload = true;
     editor->applySettings();
     EXPECT_TRUE(entry(0)->isEnabled());
 }
 
 TEST_F(DownloadMenuTest, FromTheMacroTabItSelectsTheJoystickTabFirst)
 {
-    settings.AlwaysShowCompileDownload = 1;
-    settings.RunKeyTest = 0;
+    settings.of<EditorSettings>().AlwaysShowCompileDownload = true;
+    settings.of<ToolchainSettings>().RunKeyTest = false;
     show();
     editor->documents().select(DocumentKind::Macro);
     dialogs.answer(success, BoxButton::Ok);
@@ -242,7 +246,7 @@ TEST_F(DownloadMenuTest, FromTheMacroTabItSelectsTheJoystickTabFirst)
 
 TEST_F(DownloadMenuTest, ToolbarAndRightHandMenuDownloadToo)
 {
-    settings.RunKeyTest = 0;
+    settings.of<ToolchainSettings>().RunKeyTest = false;
     show();
     QCoreApplication::sendPostedEvents();
     dialogs.answer(success, BoxButton::Ok);

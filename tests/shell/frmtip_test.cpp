@@ -3,6 +3,7 @@
 
 #include "shell/frmtip.h"
 
+#include "settings/shared_settings.h"
 #include "tests/shell/shell_world.h"
 
 #include <QCheckBox>
@@ -55,7 +56,7 @@ TEST_F(TipWindow, OKWritesShowTips)
     EXPECT_TRUE(tick->isChecked());
     tick->setChecked(false);
     press(window, u"cmdOK"_s);
-    EXPECT_EQ(settings.ShowTips, 0);
+    EXPECT_EQ(settings.of<SharedSettings>().ShowTips, 0);
     EXPECT_EQ(ProfileFile(paths.iniPath).integer(u"FileLocations", u"ShowTips", 1), 0);
 }
 
@@ -64,7 +65,7 @@ TEST_F(TipWindow, EscapeWritesNothing)
     frmTip window(paths, settings, last);
     window.findChild<QCheckBox *>(u"chkLoadTipsAtStartup"_s)->setChecked(false);
     window.reject();
-    EXPECT_EQ(settings.ShowTips, 1);
+    EXPECT_EQ(settings.of<SharedSettings>().ShowTips, 1);
     EXPECT_FALSE(folder.exists(u"Zeph.ini"_s));
 }
 

@@ -11,6 +11,7 @@
 #include "shell/helpwindow.h"
 #include "shell/informationwindow.h"
 #include "shell/mum.h"
+#include "shell/settings/shell_settings.h"
 #include "tests/shell/shell_world.h"
 
 #include <QAction>
@@ -73,7 +74,7 @@ TEST_F(HelpEntries, HelpTopicsOpenTheContents)
 TEST_F(HelpEntries, AHelpFileOfTheOldFormOpensByItsAssociationWhenAskedTo)
 {
     const QString old = folder.write(u"Zeph.hlp"_s, "old help");
-    app->settings().UseHLPnotCHM = 1;
+    app->settings().of<ShellSettings>().UseHLPnotCHM = true;
     choose(u"mnuHelpContents"_s);
     EXPECT_EQ(launcher.opened, QStringList{ old });
     EXPECT_FALSE(windows().isOpen<HelpWindow>());

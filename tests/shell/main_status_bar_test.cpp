@@ -4,6 +4,7 @@
 #include "shell/main_status_bar.h"
 
 #include "platform/core/units.h"
+#include "settings/shared_settings.h"
 #include "tests/shell/shell_world.h"
 
 #include <QApplication>
@@ -25,7 +26,7 @@ struct StatusBarWindow : test::ShellWorld {
 
     StatusBarWindow()
     {
-        settings.PilotCallsign = u"Goose"_s;
+        settings.of<SharedSettings>().PilotCallsign = u"Goose"_s;
         bar = std::make_unique<MainStatusBar>(context(), &window);
         window.resize(barWidth, 40);
         bar->resize(barWidth, 24);

@@ -8,12 +8,16 @@
 #include "editor/actions.h"
 #include "editor/editor.h"
 #include "editor/editor_keys.h"
+#include "editor/editor_settings.h"
 #include "editor/right_menu.h"
 #include "menus/menu_actions.h"
+#include "menus/menu_settings.h"
 #include "platform/core/units.h"
 #include "platform/tool_windows.h"
+#include "settings/shared_settings.h"
 #include "shell/frmabout.h"
 #include "shell/main_status_bar.h"
+#include "shell/settings/shell_settings.h"
 #include "tests/shell/shell_world.h"
 
 #include <QAction>
@@ -38,10 +42,10 @@ struct MainWindow : test::ShellWorld {
 
     void SetUp() override
     {
-        settings.BackUpFolder = folder.path() + u"/Backup/"_s;
+        settings.of<EditorSettings>().BackUpFolder = folder.path() + u"/Backup/"_s;
         QDir(folder.path()).mkdir(u"Backup"_s);
-        settings.PilotCallsign = u"Goose"_s;
-        settings.MumWindowstate = 0;
+        settings.of<SharedSettings>().PilotCallsign = u"Goose"_s;
+        settings.of<ShellSettings>().MumWindowstate = 0;
         paths.iniPath = folder.file(u"Zeph.ini"_s);
         mum = std::make_unique<Mum>(context());
         editor = new Editor(context(), mum.get());
@@ -162,11 +166,11 @@ TEST_F(MainWindow, TooltipsFollowTheirSetting)
 {
     EXPECT_EQ(button(u"Toolbar1_6"_s)->toolTip(), u"Cut (Ctrl+X)");
     EXPECT_EQ(button(u"Shortcut_1"_s)->toolTip(), u"Graphical layout");
-    settings.OKtoShowToolTips = 0;
+    settings.of<MenuSettings>().OKtoShowToolTips = false;
     mum->UpdateTooltips();
     EXPECT_EQ(button(u"Toolbar1_6"_s)->toolTip(), QString());
     EXPECT_EQ(button(u"Shortcut_1"_s)->toolTip(), QString());
-    settings.OKtoShowToolTips = 1;
+    settings.of<MenuSettings>().OKtoShowToolTips = true;
     mum->UpdateTooltips();
     EXPECT_EQ(button(u"Toolbar1_6"_s)->toolTip(), u"Cut (Ctrl+X)");
 }
@@ -204,7 +208,7 @@ TEST_F(MainWindow, TheMouseBetweenTwoGroupsOfButtonsGreets)
 
 TEST_F(MainWindow, NothingIsDescribedWithButtonsOnStatusBarOff)
 {
-    settings.ButtonsOnStatusBar = 0;
+    settings.of<MenuSettings>().ButtonsOnStatusBar = false;
     status.setText(u"before"_s);
     QTest::mouseMove(button(u"Toolbar1_15"_s), QPoint(4, 4));
     EXPECT_EQ(status.text(), u"before");

@@ -16,7 +16,7 @@
 #include "platform/fakes/scripted_dialogs.h"
 #include "platform/status_line.h"
 #include "platform/system_info.h"
-#include "settings/global_settings.h"
+#include "settings/settings.h"
 #include "shell/application.h"
 #include "tests/support/temp_folder.h"
 
@@ -68,7 +68,7 @@ public:
     int welcomeIntervalMs = 1;
 
     Paths paths;
-    GlobalSettings settings;
+    Settings settings;
     StatusLine status;
 
     ShellWorld()

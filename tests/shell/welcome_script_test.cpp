@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The Zeph authors
 // SPDX-License-Identifier: MIT
 
+#include "settings/shared_settings.h"
 #include "shell/welcome_script.h"
 
 #include <gtest/gtest.h>

@@ -8,6 +8,7 @@
 #include "editor/edit/slashwindow.h"
 #include "editor/edit/title.h"
 #include "editor/editor.h"
+#include "editor/editor_settings.h"
 #include "editor/files/frm_createpackage.h"
 #include "editor/macros/macrorenameform.h"
 #include "lists/enterfavouritename.h"
@@ -196,8 +197,8 @@ const LintCase cases[] = {
           return std::make_unique<Title>(TitleFields());
       } },
     { "SlashWindow",
-      [](auto &w) {
-          return std::make_unique<SlashWindow>(w.settings);
+      [](test::ShellWorld &w) {
+          return std::make_unique<SlashWindow>(w.settings.of<EditorSettings>());
       } },
     { "Frm_CreatePackage",
       [](auto &w) {

@@ -9,6 +9,8 @@
 #include "platform/fakes/fake_printers.h"
 #include "platform/richtext/rich_text_box.h"
 #include "platform/richtext/rich_text_document.h"
+#include "settings/colour_settings.h"
+#include "settings/shared_settings.h"
 #include "tests/documents/editor_fixture.h"
 #include "tests/support/rich_texts.h"
 
@@ -255,7 +257,7 @@ TEST_F(TemplateTest, OnlyASavedFileBecomesTheDefault)
     const QString path = folder.write(u"Templates/A.rtf"_s, "{\\rtf1 a}");
     ASSERT_TRUE(form->OpenReadMe(path));
     press(u"mnuFileSetDefault");
-    EXPECT_EQ(settings.TextFilePath, path);
+    EXPECT_EQ(settings.of<SharedSettings>().TextFilePath, path);
     EXPECT_TRUE(folder.read(u"Zeph.ini"_s).contains("TextFilePath=" + path.toUtf8()));
     press(u"mnuFileNew");
     press(u"mnuFileOpenDefault");
@@ -266,7 +268,7 @@ TEST_F(TemplateTest, OnlyASavedFileBecomesTheDefault)
 
 TEST_F(TemplateTest, WithoutADefaultThereIsABeer)
 {
-    settings.TextFilePath.clear();
+    settings.of<SharedSettings>().TextFilePath.clear();
     dialogs.answer(u"Have a beer instead"_s, BoxButton::Ok);
     press(u"mnuFileOpenDefault");
     EXPECT_EQ(dialogs.boxes().last().text.toStdString(),
@@ -390,8 +392,8 @@ TEST_F(TemplateTest, EverySuppliedTemplateSurvivesLoadingAndSaving)
 
 TEST_F(TemplateTest, ColouringPaintsStatementsAndKeepsEverythingElse)
 {
-    settings.BTNColour = 0xB00000;
-    settings.RemStatements = 0x808080;
+    settings.of<ColourSettings>().BTNColour = 0xB00000;
+    settings.of<ColourSettings>().RemStatements = 0x808080;
     press(u"mnuViewColour");
     EXPECT_EQ(status.text().toStdString(), "There's no text to highlight.");
     write(u"BTN S1 a\nRem b"_s);

@@ -4,6 +4,7 @@
 #include "text/insert_blocks.h"
 
 #include "editor/edit/list_files.h"
+#include "settings/shared_settings.h"
 #include "tests/support/temp_folder.h"
 #include "text/date_stamp.h"
 #include "text/macro_table.h"
@@ -139,7 +140,7 @@ TEST(TitleBlock, ALongLineMovesTheClosingColumnOfAllLines)
 TEST(TitleBlock, SaysUserUnknownForNobody)
 {
     TitleFields some = fields();
-    some.person = u"  "_s;
+    some.person = personsNameOr(u"  "_s);
     EXPECT_TRUE(titleBlock(some)[5].startsWith(u"Rem    by User unknown "));
     EXPECT_EQ(personsNameOr(u" Ann "_s), u"Ann");
 }

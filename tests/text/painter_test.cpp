@@ -3,7 +3,9 @@
 
 #include "text/painter.h"
 
-#include "settings/global_settings.h"
+#include "documents/document_look.h"
+#include "settings/colour_settings.h"
+#include "settings/settings.h"
 #include "tests/text/painter_twin.h"
 
 #include <gtest/gtest.h>
@@ -213,22 +215,23 @@ TEST(Painter, RemPassesPaintCommentsAlone)
 
 TEST(Painter, TheSchemeTakesEachDocumentsOwnPlainColour)
 {
-    GlobalSettings settings;
-    settings.BTNColour = 12;
-    settings.SlashColour = 13;
-    settings.RAWColour = 14;
-    settings.MiscellaneousColour = 15;
-    settings.RemStatements = 16;
-    settings.JoystickTextDefaultColour = 10;
-    settings.MacroTextDefaultColour = 11;
-    const ColourScheme joystickScheme = colourScheme(settings, DocumentKind::Joystick);
+    Settings settings;
+    settings.of<ColourSettings>().BTNColour = 12;
+    settings.of<ColourSettings>().SlashColour = 13;
+    settings.of<ColourSettings>().RAWColour = 14;
+    settings.of<ColourSettings>().MiscellaneousColour = 15;
+    settings.of<ColourSettings>().RemStatements = 16;
+    settings.of<ColourSettings>().JoystickTextDefaultColour = 10;
+    settings.of<ColourSettings>().MacroTextDefaultColour = 11;
+    const ColourScheme joystickScheme =
+        colourScheme(settings.of<ColourSettings>(), DocumentKind::Joystick);
     EXPECT_EQ(joystickScheme.plain, 10U);
     EXPECT_EQ(joystickScheme.btn, 12U);
     EXPECT_EQ(joystickScheme.slash, 13U);
     EXPECT_EQ(joystickScheme.raw, 14U);
     EXPECT_EQ(joystickScheme.miscellaneous, 15U);
     EXPECT_EQ(joystickScheme.rem, 16U);
-    EXPECT_EQ(colourScheme(settings, DocumentKind::Macro).plain, 11U);
+    EXPECT_EQ(colourScheme(settings.of<ColourSettings>(), DocumentKind::Macro).plain, 11U);
 }
 
 TEST(Painter, RunsAsLooksKeepThePlainFormatButItsColour)

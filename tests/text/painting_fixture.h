@@ -4,10 +4,12 @@
 #pragma once
 
 #include "documents/coloured_insert.h"
+#include "documents/document_settings.h"
 #include "documents/highlighting.h"
 #include "documents/undo_histories.h"
 #include "menus/menu_actions.h"
 #include "platform/richtext/rich_text_document.h"
+#include "settings/colour_settings.h"
 #include "tests/documents/editor_fixture.h"
 
 #include <QSignalSpy>
@@ -21,14 +23,14 @@ class PaintingTest : public EditorTest
 protected:
     PaintingTest()
     {
-        settings.JoystickTextDefaultColour = 0x111111;
-        settings.MacroTextDefaultColour = 0x222222;
-        settings.BTNColour = 0xB00000;
-        settings.SlashColour = 0x0000AA;
-        settings.RAWColour = 0x00BB00;
-        settings.MiscellaneousColour = 0xCCCC00;
-        settings.RemStatements = 0x808080;
-        settings.UndoMax = 20;
+        settings.of<ColourSettings>().JoystickTextDefaultColour = 0x111111;
+        settings.of<ColourSettings>().MacroTextDefaultColour = 0x222222;
+        settings.of<ColourSettings>().BTNColour = 0xB00000;
+        settings.of<ColourSettings>().SlashColour = 0x0000AA;
+        settings.of<ColourSettings>().RAWColour = 0x00BB00;
+        settings.of<ColourSettings>().MiscellaneousColour = 0xCCCC00;
+        settings.of<ColourSettings>().RemStatements = 0x808080;
+        settings.of<DocumentSettings>().UndoMax = 20;
         makeEditor();
     }
 
@@ -56,15 +58,16 @@ protected:
     /// "." plain, b BTN and DEF, s slash, r raw, m miscellaneous, c comment, ! pure red, ? another.
     QString colours(DocumentKind kind)
     {
-        const ColorRef plain = kind == DocumentKind::Joystick ? settings.JoystickTextDefaultColour
-                                                              : settings.MacroTextDefaultColour;
+        const ColorRef plain = kind == DocumentKind::Joystick
+            ? settings.of<ColourSettings>().JoystickTextDefaultColour
+            : settings.of<ColourSettings>().MacroTextDefaultColour;
         const QHash<ColorRef, QChar> letters = {
             { plain, u'.' },
-            { settings.BTNColour, u'b' },
-            { settings.SlashColour, u's' },
-            { settings.RAWColour, u'r' },
-            { settings.MiscellaneousColour, u'm' },
-            { settings.RemStatements, u'c' },
+            { settings.of<ColourSettings>().BTNColour, u'b' },
+            { settings.of<ColourSettings>().SlashColour, u's' },
+            { settings.of<ColourSettings>().RAWColour, u'r' },
+            { settings.of<ColourSettings>().MiscellaneousColour, u'm' },
+            { settings.of<ColourSettings>().RemStatements, u'c' },
             { ColorRef(255), u'!' },
         };
         QString marks;

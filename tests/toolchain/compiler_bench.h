@@ -16,6 +16,7 @@
 #include "toolchain/modes/profiles.h"
 #include "toolchain/tool_parts.h"
 #include "toolchain/tool_scene.h"
+#include "toolchain/toolchain_settings.h"
 
 #include <QAction>
 
@@ -95,7 +96,7 @@ protected:
         folder.write(u"Profiles/Default.tmc"_s, "x");
         folder.write(u"ZephNUMLon.exe"_s, "x");
         app = folder.write(u"Tools/app.exe"_s, "x");
-        settings.ResetProfile = u"Default"_s;
+        settings.of<ToolchainSettings>().ResetProfile = u"Default"_s;
         joystick.setText(u"BTN S1 x"_s);
         joystick.rename(folder.file(u"My files/A.TMJ"_s));
         joystick.setState(Document::Saved);

@@ -5,6 +5,7 @@
 
 #include "tests/toolchain/toolchain_bench.h"
 #include "toolchain/formdownloadstatus.h"
+#include "toolchain/toolchain_settings.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
@@ -59,7 +60,7 @@ TEST_F(HandshakeTest, EmptiesTheSectionBeforeTheStart)
 
 TEST_F(HandshakeTest, TheFirstPollComesOneIntervalAfterTheStart)
 {
-    settings.CheckForCompletionTime = u"40"_s;
+    settings.of<ToolchainSettings>().CheckForCompletionTime = 40;
     QElapsedTimer sinceStart;
     launcher.onStart = [&](const Launch &) {
         writeCompiler(u"Status"_s, u"OKAY"_s);
@@ -125,7 +126,7 @@ TEST_F(HandshakeTest, ClosingTheWindowEndsItAndALaterTickBringsANewOne)
 
 TEST_F(HandshakeTest, TheSettingHidesTheWindow)
 {
-    settings.HideDownloadStatusWindow = 1;
+    settings.of<ToolchainSettings>().HideDownloadStatusWindow = true;
     answerAfter(5);
     EXPECT_EQ(run(), ExchangeEnd::Verdict);
     EXPECT_FALSE(handshake->StatusWindowShown());
@@ -148,7 +149,7 @@ TEST_F(HandshakeTest, GivesUpAtTheTickThatReaches46Seconds)
 
 TEST_F(HandshakeTest, WhatAGivenUpToolWritesLaterStaysUntilTheNextClear)
 {
-    settings.RegainControlAfter = u"0"_s;
+    settings.of<ToolchainSettings>().RegainControlAfter = 0;
     EXPECT_EQ(run(), ExchangeEnd::GivenUp);
     writeCompiler(u"Status"_s, u"OKAY"_s);
     EXPECT_EQ(compilerKey(u"Status"_s), u"OKAY");
@@ -158,7 +159,7 @@ TEST_F(HandshakeTest, WhatAGivenUpToolWritesLaterStaysUntilTheNextClear)
 
 TEST_F(HandshakeTest, AMissingHotasIniIsWaitedOutLikeASilentTool)
 {
-    settings.RegainControlAfter = u"3000"_s;
+    settings.of<ToolchainSettings>().RegainControlAfter = 3000;
     launcher.onStart = [this](const Launch &) {
         EXPECT_TRUE(QFile::remove(paths.hotasIni()));
         hasten();
@@ -213,7 +214,7 @@ TEST_F(HandshakeTest, ASecondCommandDuringAWaitRestartsTheOneSetOfVariables)
 
 TEST_F(HandshakeTest, ASecondCommandThatIsGivenUpEndsTheFirstToo)
 {
-    settings.RegainControlAfter = u"2000"_s;
+    settings.of<ToolchainSettings>().RegainControlAfter = 2000;
     ExchangeEnd second = ExchangeEnd::Verdict;
     afterTick = [&](int count) {
         if (count == 2) {

@@ -11,10 +11,12 @@
 #include "platform/fakes/fake_launcher.h"
 #include "platform/fakes/scripted_dialogs.h"
 #include "platform/status_line.h"
-#include "settings/global_settings.h"
+#include "settings/settings.h"
+#include "settings/shared_settings.h"
 #include "tests/support/temp_folder.h"
 #include "toolchain/handshake.h"
 #include "toolchain/hotas_ini.h"
+#include "toolchain/toolchain_settings.h"
 
 #include <gtest/gtest.h>
 
@@ -33,9 +35,9 @@ protected:
         paths.hotasFolder = folder.path() + u'/';
         folder.write(u"HOTASCompiler.exe"_s, "tool");
         folder.write(u"HOTASConfig.exe"_s, "tool");
-        settings.PilotCallsign = u"Maverick"_s;
-        settings.RegainControlAfter = u"45000"_s;
-        settings.CheckForCompletionTime = u"1000"_s;
+        settings.of<SharedSettings>().PilotCallsign = u"Maverick"_s;
+        settings.of<ToolchainSettings>().RegainControlAfter = 45000;
+        settings.of<ToolchainSettings>().CheckForCompletionTime = 1000;
         newHandshake();
     }
     ~ToolchainBench() override { EXPECT_EQ(dialogs.unexpected(), QStringList()); }
@@ -94,7 +96,7 @@ protected:
 
     TempFolder folder;
     Paths paths;
-    GlobalSettings settings{};
+    Settings settings;
     StatusLine status;
     ScriptedDialogs dialogs;
     FakeLauncher launcher;

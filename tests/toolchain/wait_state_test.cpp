@@ -3,7 +3,10 @@
 
 #include "toolchain/wait_state.h"
 
-#include "settings/global_settings.h"
+#include "settings/settings.h"
+#include "toolchain/toolchain_settings.h"
+
+#include "tests/support/temp_folder.h"
 
 #include <gtest/gtest.h>
 
@@ -18,12 +21,20 @@ constexpr bool visible = false;
 constexpr bool shown = true;
 constexpr bool notShown = false;
 
+const WaitTimes usual = waitTimes(ToolchainSettings());
+
+/// The times after these texts were read from a file.
 WaitTimes timesOf(const QString &interval, const QString &regain)
 {
-    GlobalSettings settings{};
-    settings.CheckForCompletionTime = interval;
-    settings.RegainControlAfter = regain;
-    return waitTimes(settings);
+    const test::TempFolder folder;
+    folder.write(
+        u"Zeph.ini"_s,
+        u"[Unsupported]\nCheckForCompletionTime=%1\nRegainControlAfter=%2\n"_s.arg(interval, regain)
+            .toLatin1());
+    const ProfileFile store(folder.file(u"Zeph.ini"_s));
+    Settings settings;
+    (void)readGroup(settings.group<ToolchainSettings>(), { store, store, store });
+    return waitTimes(settings.of<ToolchainSettings>());
 }
 
 } // namespace
@@ -31,7 +42,7 @@ WaitTimes timesOf(const QString &interval, const QString &regain)
 TEST(WaitTick, AVerdictEndsTheWaitBeforeAnyTimeIsCounted)
 {
     WaitState state{ WaitRunning, 1000 };
-    const TickActions actions = tick(state, answered, {}, visible, notShown);
+    const TickActions actions = tick(state, answered, usual, visible, notShown);
     EXPECT_EQ(actions, (TickActions{ true, StatusWindowStep::None, 0 }));
     EXPECT_EQ(state, (WaitState{ WaitVerdict, 1000 }));
 }
@@ -39,17 +50,17 @@ TEST(WaitTick, AVerdictEndsTheWaitBeforeAnyTimeIsCounted)
 TEST(WaitTick, AToolThatFinishesInOneAndAHalfSecondsShowsNoWindow)
 {
     WaitState state;
-    EXPECT_EQ(tick(state, silent, {}, visible, notShown), TickActions());
+    EXPECT_EQ(tick(state, silent, usual, visible, notShown), TickActions());
     EXPECT_EQ(state.elapsed, 1000);
-    EXPECT_EQ(tick(state, answered, {}, visible, notShown).window, StatusWindowStep::None);
+    EXPECT_EQ(tick(state, answered, usual, visible, notShown).window, StatusWindowStep::None);
 }
 
 TEST(WaitTick, TheWindowComesAtTwoSecondsAndFollowsAfterwards)
 {
     WaitState state{ WaitRunning, 1000 };
-    EXPECT_EQ(tick(state, silent, {}, visible, notShown),
+    EXPECT_EQ(tick(state, silent, usual, visible, notShown),
               (TickActions{ false, StatusWindowStep::Show, 2 }));
-    EXPECT_EQ(tick(state, silent, {}, visible, shown),
+    EXPECT_EQ(tick(state, silent, usual, visible, shown),
               (TickActions{ false, StatusWindowStep::Refresh, 3 }));
 }
 
@@ -66,16 +77,16 @@ TEST(WaitTick, TheWindowDoesNotComeBelowTwoSeconds)
 TEST(WaitTick, AHiddenWindowNeverComes)
 {
     WaitState state{ WaitRunning, 30000 };
-    EXPECT_EQ(tick(state, silent, {}, hidden, notShown), TickActions());
-    EXPECT_EQ(tick(state, silent, {}, hidden, shown), TickActions());
+    EXPECT_EQ(tick(state, silent, usual, hidden, notShown), TickActions());
+    EXPECT_EQ(tick(state, silent, usual, hidden, shown), TickActions());
     EXPECT_EQ(state.elapsed, 32000);
 }
 
 TEST(WaitTick, AWindowThatIsUpFromAnEarlierWaitFollowsFromTwoSecondsOn)
 {
     WaitState state;
-    EXPECT_EQ(tick(state, silent, {}, visible, shown).window, StatusWindowStep::None);
-    EXPECT_EQ(tick(state, silent, {}, visible, shown).window, StatusWindowStep::Refresh);
+    EXPECT_EQ(tick(state, silent, usual, visible, shown).window, StatusWindowStep::None);
+    EXPECT_EQ(tick(state, silent, usual, visible, shown).window, StatusWindowStep::Refresh);
 }
 
 TEST(WaitTick, TheFirstBarIsRoundedToWholeSecondsHalvesToEven)
@@ -91,7 +102,7 @@ TEST(WaitTick, TheFirstBarIsRoundedToWholeSecondsHalvesToEven)
 TEST(WaitTick, ALaterBarStopsAtTheLimit)
 {
     WaitState state{ WaitRunning, 45000 };
-    EXPECT_EQ(tick(state, silent, {}, visible, shown),
+    EXPECT_EQ(tick(state, silent, usual, visible, shown),
               (TickActions{ true, StatusWindowStep::Refresh, 45 }));
 }
 
@@ -103,7 +114,7 @@ TEST(WaitTick, GivesUpAtTheTickThatReaches46Seconds)
     while (state.finished == WaitRunning) {
         lastElapsed = state.elapsed;
         ++count;
-        const bool stopped = tick(state, silent, {}, visible, count > 2).stopTimer;
+        const bool stopped = tick(state, silent, usual, visible, count > 2).stopTimer;
         EXPECT_EQ(stopped, state.finished == WaitGivenUp);
     }
     EXPECT_EQ(count, 46);
@@ -114,14 +125,14 @@ TEST(WaitTick, GivesUpAtTheTickThatReaches46Seconds)
 TEST(WaitTick, AnExactLimitIsNotYetAboveIt)
 {
     WaitState state{ WaitRunning, 44000 };
-    EXPECT_FALSE(tick(state, silent, {}, visible, shown).stopTimer);
+    EXPECT_FALSE(tick(state, silent, usual, visible, shown).stopTimer);
     EXPECT_EQ(state, (WaitState{ WaitRunning, 45000 }));
 }
 
 TEST(WaitTick, AVerdictAtTheLastTickStillCounts)
 {
     WaitState state{ WaitRunning, 45000 };
-    tick(state, answered, {}, visible, shown);
+    tick(state, answered, usual, visible, shown);
     EXPECT_EQ(state.finished, WaitVerdict);
 }
 

@@ -6,9 +6,10 @@
 #include "documents/change.h"
 #include "documents/editor_view.h"
 #include "documents/highlighting.h"
+#include "editor/editor_settings.h"
 #include "menus/menu_actions.h"
 #include "platform/status_line.h"
-#include "settings/global_settings.h"
+#include "settings/settings.h"
 #include "text/alignment.h"
 #include "text/text_lines.h"
 
@@ -41,7 +42,8 @@ AlignmentOperations::AlignmentOperations(const Context &context, const Parts &pa
 
 void AlignmentOperations::applySettings()
 {
-    m_parts.actions.action(u"mnuIndentSlashes")->setChecked(m_context.settings.IndentAsWell == 1);
+    m_parts.actions.action(u"mnuIndentSlashes")
+        ->setChecked(m_context.settings.of<EditorSettings>().IndentAsWell);
 }
 
 void AlignmentOperations::mnuAlignSlash_Click()
@@ -56,8 +58,8 @@ void AlignmentOperations::mnuAlignSlash_Click()
     }
     m_context.status.setTextNow(u" Hang on - this could take time ..."_s);
     m_parts.view.documents().select(DocumentKind::Joystick);
-    const QString aligned = AlignSlashes(
-        text, { m_context.settings.IndentAsWell == 1, m_context.settings.IndentSpaces });
+    const auto &settings = m_context.settings.of<EditorSettings>();
+    const QString aligned = AlignSlashes(text, { settings.IndentAsWell, settings.IndentSpaces });
     if (aligned != text) {
         Change change(joystick);
         replaceAll(m_parts.view, joystick, aligned);
@@ -69,7 +71,8 @@ void AlignmentOperations::mnuAlignSlash_Click()
 
 void AlignmentOperations::mnuIndentSlashes_Click()
 {
-    m_context.settings.IndentAsWell = m_parts.actions.action(u"mnuIndentSlashes")->isChecked();
+    m_context.settings.of<EditorSettings>().IndentAsWell =
+        m_parts.actions.action(u"mnuIndentSlashes")->isChecked();
 }
 
 void AlignmentOperations::mnuViewrefreshIndent_Click()

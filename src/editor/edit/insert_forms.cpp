@@ -9,11 +9,15 @@
 #include "editor/edit/list_files.h"
 #include "editor/edit/singletextform.h"
 #include "editor/edit/title.h"
+#include "editor/editor_settings.h"
 #include "menus/menu_actions.h"
 #include "platform/clock.h"
 #include "platform/handlers.h"
 #include "platform/status_line.h"
+#include "settings/colour_settings.h"
+#include "settings/settings.h"
 #include "settings/settings_files.h"
+#include "settings/shared_settings.h"
 #include "text/date_stamp.h"
 #include "text/insert_blocks.h"
 
@@ -87,7 +91,8 @@ void InsertForms::mnuInsertRemStatement_Click()
     if (!canOpen()) {
         return;
     }
-    auto *form = new SingleTextForm(m_context.settings.AddCRtoREM == 1, m_parts.view.window());
+    auto *form = new SingleTextForm(m_context.settings.of<EditorSettings>().AddCRtoREM,
+                                    m_parts.view.window());
     open<SingleTextForm>(form, [this](const SingleTextForm &filled) {
         SaveCRthang(filled.addsCarriageReturn());
         insertRem(filled.text(), filled.addsCarriageReturn());
@@ -100,7 +105,8 @@ void InsertForms::insertLines(const QStringList &lines)
     insert.BeginColInsert();
     insert.CheckAtLineBeginning();
     for (const QString &line : lines) {
-        insert.InsertColouredStringNoSpace(line, m_context.settings.RemStatements);
+        insert.InsertColouredStringNoSpace(line,
+                                           m_context.settings.of<ColourSettings>().RemStatements);
         insert.InsertCarriageReturn();
     }
     insert.EndColInsert();
@@ -118,7 +124,8 @@ void InsertForms::insertRem(const QString &text, bool addCarriageReturn)
         insert.TextToInsert.prepend(u' ');
     }
     insert.BeginColInsert();
-    insert.InsertColouredString(insert.TextToInsert, m_context.settings.RemStatements);
+    insert.InsertColouredString(insert.TextToInsert,
+                                m_context.settings.of<ColourSettings>().RemStatements);
     if (addCarriageReturn) {
         insert.InsertCarriageReturn();
     }
@@ -128,21 +135,22 @@ void InsertForms::insertRem(const QString &text, bool addCarriageReturn)
 void InsertForms::mnuSlashArray_Click(int Index)
 {
     const language::Word &word = language::insertWords[size_t(Index)];
-    const GlobalSettings &settings = m_context.settings;
+    const auto &colours = m_context.settings.of<ColourSettings>();
     ColouredInsert &insert = m_parts.insert;
-    insert.TextToInsert = insertText(word, settings.DefaultDLYvalue);
+    insert.TextToInsert = insertText(word, m_context.settings.of<EditorSettings>().DefaultDLYvalue);
     insert.AddSpaceToColouredText();
     insert.BeginColInsert();
     insert.InsertColouredString(insert.TextToInsert,
-                                word.is(language::SlashRole) ? settings.SlashColour
-                                                             : settings.RAWColour);
+                                word.is(language::SlashRole) ? colours.SlashColour
+                                                             : colours.RAWColour);
     insert.EndColInsert();
 }
 
 void InsertForms::mnuSlashWindow_Click()
 {
     if (!m_slashWindow) {
-        m_slashWindow = new SlashWindow(m_context.settings, m_parts.view.window());
+        m_slashWindow =
+            new SlashWindow(m_context.settings.of<EditorSettings>(), m_parts.view.window());
         connect(m_slashWindow, &SlashWindow::chosen, this,
                 guarded(m_context.dialogs, [this](int index) {
                     mnuSlashArray_Click(index);
@@ -163,22 +171,22 @@ void InsertForms::applySettings()
 
 QString InsertForms::GetPersonsName() const
 {
-    return personsNameOr(m_context.settings.ValidUser);
+    return personsNameOr(m_context.settings.of<SharedSettings>().ValidUser);
 }
 
 void InsertForms::SaveThePersonsName(const QString &name)
 {
-    m_context.settings.ValidUser = personsNameOr(name);
-    keep({ &GlobalSettings::ValidUser });
+    m_context.settings.of<SharedSettings>().ValidUser = personsNameOr(name);
+    keep({ &SharedSettings::ValidUser });
 }
 
 void InsertForms::SaveCRthang(bool addCarriageReturn)
 {
-    m_context.settings.AddCRtoREM = addCarriageReturn;
-    keep({ &GlobalSettings::AddCRtoREM });
+    m_context.settings.of<EditorSettings>().AddCRtoREM = addCarriageReturn;
+    keep({ &EditorSettings::AddCRtoREM });
 }
 
-void InsertForms::keep(std::initializer_list<SettingField> fields)
+void InsertForms::keep(std::initializer_list<SettingRef> fields)
 {
     const auto written = saveSettings(m_context.settings, settingsFilesOf(m_context.paths), fields);
     if (!written) {

@@ -5,7 +5,7 @@
 
 #include "editor/edit/slashwindow.h"
 #include "platform/context.h"
-#include "settings/global_settings.h"
+#include "settings/settings.h"
 
 #include <QObject>
 #include <QPointer>
@@ -58,7 +58,7 @@ private:
     template <class Form> void open(Form *form, std::function<void(const Form &)> accepted);
     void insertLines(const QStringList &lines);
     void insertRem(const QString &text, bool addCarriageReturn);
-    void keep(std::initializer_list<SettingField> fields);
+    void keep(std::initializer_list<SettingRef> fields);
 
     Context m_context;
     Parts m_parts;

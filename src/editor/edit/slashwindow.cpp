@@ -3,7 +3,7 @@
 
 #include "editor/edit/slashwindow.h"
 
-#include "settings/global_settings.h"
+#include "editor/editor_settings.h"
 #include "text/insert_blocks.h"
 
 #include <QGridLayout>
@@ -17,7 +17,7 @@ constexpr int columns = 2;
 
 } // namespace
 
-SlashWindow::SlashWindow(const GlobalSettings &settings, QWidget *parent)
+SlashWindow::SlashWindow(const EditorSettings &settings, QWidget *parent)
     : QDialog(parent, Qt::Tool | Qt::WindowTitleHint | Qt::WindowCloseButtonHint),
       m_settings(settings)
 {

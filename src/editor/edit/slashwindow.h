@@ -11,7 +11,7 @@ class QPushButton;
 
 namespace zeph {
 
-struct GlobalSettings;
+struct EditorSettings;
 
 /// The floating palette of the slash modifiers, captioned with the words that it inserts.
 /// Emits chosen(); InsertForms writes the word.
@@ -19,7 +19,7 @@ class SlashWindow : public QDialog
 {
     Q_OBJECT
 public:
-    explicit SlashWindow(const GlobalSettings &settings, QWidget *parent = nullptr);
+    explicit SlashWindow(const EditorSettings &settings, QWidget *parent = nullptr);
 
     /// The delay of DLY is a setting.
     void applySettings();
@@ -34,7 +34,7 @@ protected:
 private:
     void makeButtons();
 
-    const GlobalSettings &m_settings;
+    const EditorSettings &m_settings;
     ControlArray<QPushButton> m_buttons;
 };
 

@@ -3,6 +3,7 @@
 
 #include "editor/edit/title.h"
 
+#include "settings/shared_settings.h"
 #include "ui_title.h"
 
 #include <QPushButton>

@@ -4,10 +4,11 @@
 #include "editor/files/auto_save.h"
 
 #include "documents/editor_view.h"
+#include "editor/editor_settings.h"
 #include "editor/files/file_saving.h"
 #include "platform/dialogs.h"
 #include "platform/handlers.h"
-#include "settings/global_settings.h"
+#include "settings/settings.h"
 
 #include <QScopedValueRollback>
 
@@ -21,12 +22,19 @@ AutoSave::AutoSave(const Context &context, EditorView &view, FileSaving &saving)
     m_timer.setObjectName(u"Timer1"_s);
     m_timer.setInterval(std::chrono::minutes(1));
     m_timer.callOnTimeout(this, guarded(context.dialogs, [this](auto &&...) { Timer1_Timer(); }));
+    view.documents().forEach([this](Document &each) {
+        connect(&each, &Document::replaced, this, [this](Document::How how) {
+            if (how == Document::How::Fresh) {
+                restart();
+            }
+        });
+    });
 }
 
 void AutoSave::restart()
 {
     m_counter = 0;
-    if (m_context.settings.AutoSaveEnabled == 1) {
+    if (m_context.settings.of<EditorSettings>().AutoSaveEnabled) {
         m_timer.start();
     } else {
         m_timer.stop();
@@ -35,7 +43,7 @@ void AutoSave::restart()
 
 void AutoSave::Timer1_Timer()
 {
-    if (++m_counter >= m_context.settings.AutoSaveTime) {
+    if (++m_counter >= m_context.settings.of<EditorSettings>().AutoSaveTime) {
         m_counter = 0;
         AutoSaveFile();
     }

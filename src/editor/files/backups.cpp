@@ -4,8 +4,9 @@
 #include "editor/files/backups.h"
 
 #include "documents/document.h"
+#include "editor/editor_settings.h"
 #include "platform/clock.h"
-#include "settings/global_settings.h"
+#include "settings/settings.h"
 #include "text/document_text.h"
 
 #include <QDir>
@@ -26,8 +27,8 @@ QString backupName(const QString &caption, const std::optional<QDateTime> &momen
 
 QString Backups::folder() const
 {
-    if (!m_context.settings.BackUpFolder.isEmpty()) {
-        return m_context.settings.BackUpFolder;
+    if (!m_context.settings.of<EditorSettings>().BackUpFolder.isEmpty()) {
+        return m_context.settings.of<EditorSettings>().BackUpFolder;
     }
     const QString standard = m_context.paths.defaultBackupFolder();
     QDir().mkpath(standard);
@@ -36,11 +37,11 @@ QString Backups::folder() const
 
 Expected<void, FileError> Backups::SaveJoystickBackup(const Document &document) const
 {
-    if (m_context.settings.CreateBackup != 1) {
+    if (!m_context.settings.of<EditorSettings>().CreateBackup) {
         return {};
     }
     std::optional<QDateTime> moment;
-    if (m_context.settings.BackUpDateInfo == 1) {
+    if (m_context.settings.of<EditorSettings>().BackUpDateInfo) {
         moment = m_context.clock.now();
     }
     return writeFileAtomically(folder() + backupName(document.caption(), moment),

@@ -5,14 +5,12 @@
 
 #include "documents/editor_view.h"
 #include "editor/files/file_opening.h"
-#include "editor/files/use_directives.h"
 #include "platform/status_line.h"
 
 namespace zeph {
 
-FileNew::FileNew(const Context &context, EditorView &view, FileOpening &opening,
-                 UseDirectives &directives)
-    : m_context(context), m_view(view), m_opening(opening), m_directives(directives)
+FileNew::FileNew(const Context &context, EditorView &view, FileOpening &opening)
+    : m_context(context), m_view(view), m_opening(opening)
 {
 }
 
@@ -23,20 +21,11 @@ bool FileNew::freshen(DocumentKind kind)
         return false;
     }
     Document &document = m_view.documents().of(kind);
-    document.setState(Document::Empty);
-    document.setRecovered(false);
     document.setText(QString());
     m_view.applyLook();
     m_view.documents().renameFresh(kind);
-    document.select(0, 0);
-    if (kind == DocumentKind::Joystick) {
-        m_directives.forgetFiles();
-        Q_EMIT joystickReplaced();
-    } else {
-        Q_EMIT macroReplaced();
-    }
+    document.tellReplaced(Document::How::Fresh);
     m_view.documents().select(kind);
-    m_view.UpdateSavedIcon();
     m_context.status.setLine(1);
     return true;
 }

@@ -3,24 +3,19 @@
 
 #pragma once
 
-#include "documents/document.h"
+#include "language/file_kinds.h"
 #include "platform/context.h"
-
-#include <QObject>
 
 namespace zeph {
 
 class EditorView;
 class FileOpening;
-class UseDirectives;
 
 /// Fresh documents. Closing a document is the same as starting a fresh one.
-class FileNew : public QObject
+class FileNew
 {
-    Q_OBJECT
 public:
-    FileNew(const Context &context, EditorView &view, FileOpening &opening,
-            UseDirectives &directives);
+    FileNew(const Context &context, EditorView &view, FileOpening &opening);
 
     void mnuFileNewJoystick_Click();
     void mnuFileNewMacro_Click();
@@ -33,18 +28,12 @@ public:
     /// What a new Cougar state needs: fresh names for documents that were never saved.
     void HardwareHasChanged();
 
-Q_SIGNALS:
-    /// A fresh macro document stands in place of the old one.
-    void macroReplaced();
-    void joystickReplaced();
-
 private:
     bool freshen(DocumentKind kind);
 
     Context m_context;
     EditorView &m_view;
     FileOpening &m_opening;
-    UseDirectives &m_directives;
 };
 
 } // namespace zeph

@@ -4,14 +4,15 @@
 #include "editor/files/file_opening.h"
 
 #include "documents/coloured_copies.h"
+#include "documents/document_settings.h"
 #include "documents/editor_texts.h"
 #include "documents/editor_view.h"
 #include "documents/highlighting.h"
+#include "editor/editor_settings.h"
 #include "editor/files/file_saving.h"
-#include "editor/files/use_directives.h"
 #include "platform/input/keyboard.h"
 #include "platform/status_line.h"
-#include "settings/global_settings.h"
+#include "settings/settings.h"
 #include "text/document_text.h"
 #include "text/pair_rule.h"
 
@@ -50,7 +51,7 @@ FileOpening::FileOpening(const Context &context, const Parts &parts)
 void FileOpening::restoreKeyboard()
 {
     // Some text controls change the layout by themselves when they load another character set.
-    if (m_context.settings.ForeignLanguageKBInputFix != 0
+    if (m_context.settings.of<DocumentSettings>().ForeignLanguageKBInputFix
         && m_context.keyboard.layoutName() != m_keyboardLayout) {
         m_context.keyboard.loadLayout(m_keyboardLayout);
     }
@@ -82,9 +83,7 @@ std::optional<QString> FileOpening::ask(const QString &title, const QString &fil
                                         const QString &extension, DocumentKind kind)
 {
     const Document &document = m_parts.view.documents().of(kind);
-    const bool macro = kind == DocumentKind::Macro;
-    const Document &other =
-        m_parts.view.documents().of(macro ? DocumentKind::Joystick : DocumentKind::Macro);
+    const Document &other = m_parts.view.documents().other(document);
     const QString name = document.name() == freshName(kind)
         ? baseWithDot(other.name()) + extensionOf(kind)
         : document.name();
@@ -189,9 +188,6 @@ void FileOpening::openMacroOf(const QString &joystickPath)
         view.documents().select(DocumentKind::Joystick);
         return;
     }
-    for (const DocumentKind kind : { DocumentKind::Joystick, DocumentKind::Macro }) {
-        view.documents().of(kind).select(0, 0);
-    }
     view.documents().select(DocumentKind::Joystick);
     m_context.status.setText(u"Done"_s);
     Q_EMIT pairLoaded();
@@ -247,20 +243,24 @@ bool FileOpening::load(DocumentKind kind, const QString &wantedPath)
         return false;
     }
     Document &document = m_parts.view.documents().of(kind);
-    document.rename(path);
-    show(document, *text);
-    Q_EMIT loaded(kind, path);
+    show(document, path, *text);
+    document.tellReplaced(Document::How::Loaded, *bytes);
     return true;
 }
 
-void FileOpening::show(Document &document, const QString &text)
+void FileOpening::showRecovered(DocumentKind kind, const QString &path, const QString &text)
 {
-    EditorView &view = m_parts.view;
-    if (document.kind() == DocumentKind::Macro) {
-        Q_EMIT macroReplaced();
-    }
-    const auto coloured =
-        m_parts.copies.load(document.name(), text, view.documents().plainFormat(document.kind()));
+    Document &document = m_parts.view.documents().of(kind);
+    show(document, path, text);
+    document.tellReplaced(Document::How::Recovered);
+}
+
+/// Puts a text into a document, in the colours of its copy or in fresh ones.
+void FileOpening::show(Document &document, const QString &path, const QString &text)
+{
+    document.rename(path);
+    const CharFormat plain = m_parts.view.documents().plainFormat(document.kind());
+    const auto coloured = m_parts.copies.load(document.name(), text, plain);
     restoreKeyboard();
     if (coloured) {
         document.setRichText(*coloured);
@@ -269,26 +269,7 @@ void FileOpening::show(Document &document, const QString &text)
         m_parts.highlighting.reformat(document);
         m_parts.highlighting.applyColour(document);
     }
-    view.updateCaptions();
-    document.select(0, 0);
-    view.documents().select(document.kind());
-    if (document.kind() == DocumentKind::Joystick) {
-        m_parts.directives.GetUSEZephstatements();
-    }
-    document.setState(Document::Saved);
-    document.setRecovered(false);
-    view.UpdateSavedIcon();
-    document.select(0, 0);
-}
-
-void FileOpening::showRecovered(DocumentKind kind, const QString &path, const QString &text)
-{
-    Document &document = m_parts.view.documents().of(kind);
-    document.rename(path);
-    show(document, text);
-    Q_EMIT loaded(kind, path);
-    document.setRecovered(true);
-    document.setState(Document::Modified);
+    m_parts.view.documents().select(document.kind());
 }
 
 void FileOpening::offerToReload(const QStringList &overwritten)

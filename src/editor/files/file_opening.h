@@ -14,7 +14,6 @@ class ColouredCopies;
 class EditorView;
 class FileSaving;
 class Highlighting;
-class UseDirectives;
 
 /// Opening, by dialog, by list and at start. A path given stands for the dialog's answer.
 class FileOpening : public QObject
@@ -25,7 +24,6 @@ public:
         EditorView &view;
         ColouredCopies &copies;
         Highlighting &highlighting;
-        UseDirectives &directives;
         FileSaving &saving;
     };
     FileOpening(const Context &context, const Parts &parts);
@@ -57,18 +55,14 @@ public:
     bool mayReplace(DocumentKind kind, const QString &why, DocumentKind wanted);
 
 Q_SIGNALS:
-    /// A macro document is about to be replaced.
-    void macroReplaced();
-    /// A file was read into its document.
-    void loaded(DocumentKind kind, const QString &path);
-    /// A pair stands complete.
+    /// A joystick file and its macro file have been opened together.
     void pairLoaded();
 
 private:
     bool load(DocumentKind kind, const QString &path);
     /// As load(); a failure also stands on the status line.
     bool loadOrTell(DocumentKind kind, const QString &path);
-    void show(Document &document, const QString &text);
+    void show(Document &document, const QString &path, const QString &text);
     std::optional<QString> ask(const QString &title, const QString &filter,
                                const QString &extension, DocumentKind kind);
     void openJoystickOf(const QString &macroPath);

@@ -5,14 +5,14 @@
 
 #include "documents/coloured_copies.h"
 #include "documents/editor_view.h"
-#include "editor/files/use_directives.h"
+#include "editor/editor_settings.h"
 #include "platform/clock.h"
 #include "platform/core/file_attributes.h"
 #include "platform/core/text1252.h"
 #include "platform/dialogs.h"
 #include "platform/overwrite_question.h"
 #include "platform/status_line.h"
-#include "settings/global_settings.h"
+#include "settings/settings.h"
 #include "text/date_stamp.h"
 #include "text/document_text.h"
 
@@ -32,10 +32,8 @@ constexpr SaveAsLook saveAsLooks[] = {
 
 } // namespace
 
-FileSaving::FileSaving(const Context &context, EditorView &view, ColouredCopies &copies,
-                       UseDirectives &directives)
-    : m_context(context), m_view(view), m_copies(copies), m_directives(directives),
-      m_backups(context)
+FileSaving::FileSaving(const Context &context, EditorView &view, ColouredCopies &copies)
+    : m_context(context), m_view(view), m_copies(copies), m_backups(context)
 {
 }
 
@@ -109,24 +107,10 @@ void FileSaving::SaveText(Document &document)
     if (!encodable(document, Stranger::Show)) {
         return;
     }
-    if (m_context.settings.UpdateModified == 1) {
+    if (m_context.settings.of<EditorSettings>().UpdateModified) {
         ModifyDate(document);
     }
-    std::optional<EditorView::KeptPlace> place(std::in_place, m_view, document);
-    const int anchor = document.cursor().anchor();
-    const int caret = document.cursor().position();
-    const auto status = writePlain(document);
-    if (!status) {
-        return;
-    }
-    Q_EMIT written(document.kind());
-    finish(document, *status);
-    if (document.kind() == DocumentKind::Joystick) {
-        m_directives.GetUSEZephstatements();
-    }
-    document.setCaret(anchor, caret);
-    place.reset();
-    Q_EMIT saved(document.kind(), document.path());
+    write(document, Document::Save::Asked);
 }
 
 void FileSaving::AutoSaveText(Document &document)
@@ -135,45 +119,30 @@ void FileSaving::AutoSaveText(Document &document)
         tellUnsaved(document, { document.path(), u"the file is read only."_s });
         return;
     }
-    if (!encodable(document, Stranger::TellOnly) || !keepStrangersFile(document)) {
-        return;
-    }
-    if (const auto status = writePlain(document)) {
-        finish(document, *status);
+    if (encodable(document, Stranger::TellOnly) && keepStrangersFile(document)) {
+        write(document, Document::Save::Automatic);
     }
 }
 
-/// Puts the text on the disk, and its backup beside it. The status text, or nothing when the disk
-/// refused, which was told.
-std::optional<QString> FileSaving::writePlain(Document &document)
+/// Puts the text on the disk, its backup and its coloured copy too, and tells the document, from
+/// which all others hear it. A refusal of the disk is told.
+void FileSaving::write(Document &document, Document::Save save)
 {
-    Q_EMIT aboutToWrite(document.kind());
+    document.tellAboutToBeWritten();
     const QByteArray bytes = documentBytes(document.text());
     if (const auto done = writeFileAtomically(document.path(), bytes); !done) {
         tellUnsaved(document, done.error());
-        return {};
+        return;
     }
     QString status = document.path() + u" saved successfully."_s;
     if (const auto kept = m_backups.SaveJoystickBackup(document); !kept) {
         status += u" Its backup wasn't: "_s + kept.error().reason;
     }
-    if (isUntitled(document.name())) {
-        m_ownFresh[size_t(document.kind())] = bytes;
-    }
-    tellOtherDocument(document);
-    return status;
-}
-
-void FileSaving::finish(Document &document, QString status)
-{
-    document.setState(Document::Saved);
-    document.setRecovered(false);
-    m_view.UpdateSavedIcon();
     if (const auto copied = m_copies.SaveColouredText(document); !copied) {
         status += u" Its coloured copy wasn't: "_s + copied.error().reason;
     }
     m_context.status.setText(status);
-    Q_EMIT safe(document.kind());
+    document.tellWritten(bytes, save);
 }
 
 void FileSaving::tellUnsaved(Document &document, const FileError &error)
@@ -191,7 +160,7 @@ bool FileSaving::keepStrangersFile(const Document &document)
         return true;
     }
     const auto bytes = readWholeFile(document.path());
-    if (bytes && m_ownFresh[size_t(document.kind())] == *bytes) {
+    if (bytes && !document.onDisk().isNull() && document.onDisk() == *bytes) {
         return true;
     }
     const auto aside = bytes
@@ -203,17 +172,6 @@ bool FileSaving::keepStrangersFile(const Document &document)
                                  + aside.error().path + u": "_s + aside.error().reason);
     }
     return aside.has_value();
-}
-
-void FileSaving::tellOtherDocument(const Document &saved)
-{
-    Document &other = m_view.documents().other(saved);
-    // Nobody keeps the user from saving one document over the other's file. What the other one
-    // holds is then on no disk any more.
-    if (other.state() == Document::Saved && other.path() == saved.path()
-        && other.text() != saved.text()) {
-        other.setState(Document::Modified);
-    }
 }
 
 bool FileSaving::encodable(Document &document, Stranger show)

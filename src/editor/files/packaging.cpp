@@ -4,6 +4,7 @@
 #include "editor/files/packaging.h"
 
 #include "documents/editor_view.h"
+#include "editor/editor_settings.h"
 #include "editor/files/file_opening.h"
 #include "editor/files/frm_createpackage.h"
 #include "editor/files/use_directives.h"
@@ -17,7 +18,7 @@
 #include "platform/status_line.h"
 #include "platform/zip/zip_pack.h"
 #include "platform/zip/zip_unpack.h"
-#include "settings/global_settings.h"
+#include "settings/settings.h"
 
 #include <QDir>
 
@@ -143,7 +144,7 @@ void Packaging::create()
         return;
     }
     if (fields.wantsZip) {
-        const bool made = m_context.settings.WinZipFilePath.isEmpty()
+        const bool made = m_context.settings.of<EditorSettings>().WinZipFilePath.isEmpty()
             ? makeZip(*plan)
             : startWinZip(winZipPackArguments(*plan));
         if (!made) {
@@ -205,7 +206,8 @@ bool Packaging::makeZip(const PackagePlan &plan)
 bool Packaging::startWinZip(const QString &arguments)
 {
     const auto started = m_context.launcher.start(
-        { .program = m_context.settings.WinZipFilePath, .arguments = arguments });
+        { .program = m_context.settings.of<EditorSettings>().WinZipFilePath,
+          .arguments = arguments });
     if (!started) {
         m_context.dialogs.tell(u"Can't start WinZip"_s, started.error(), BoxIcon::Exclamation);
     }
@@ -222,7 +224,7 @@ void Packaging::mnuOpenZip_Click()
         return;
     }
     m_context.status.setTextNow(u"Opening WinZip package"_s);
-    if (m_context.settings.WinZipFilePath.isEmpty()) {
+    if (m_context.settings.of<EditorSettings>().WinZipFilePath.isEmpty()) {
         unpack(*zip);
     } else {
         startWinZip(winZipOpenArguments(*zip, m_context.paths.filesFolder()));

@@ -10,7 +10,8 @@
 #include "platform/dialogs.h"
 #include "platform/handlers.h"
 #include "platform/status_line.h"
-#include "settings/global_settings.h"
+#include "settings/settings.h"
+#include "settings/shared_settings.h"
 #include "text/date_stamp.h"
 #include "text/document_text.h"
 
@@ -68,10 +69,18 @@ Recovery::Recovery(const Context &context, const Parts &parts)
     m_timer.setTimerType(Qt::PreciseTimer);
     m_timer.setInterval(intervalMs);
     m_timer.callOnTimeout(this, guarded(context.dialogs, [this](auto &&...) { update(); }));
-    for (const DocumentKind kind : bothKinds) {
-        connect(&parts.view.documents().of(kind).content(), &QTextDocument::contentsChanged, this,
-                &Recovery::touched);
-    }
+    parts.view.documents().forEach([this](Document &each) {
+        connect(&each, &Document::edited, this, &Recovery::touched);
+        connect(&each, &Document::replaced, this, [this](Document::How how) {
+            if (how == Document::How::Undone) {
+                touched();
+            } else {
+                update();
+            }
+        });
+        connect(&each, &Document::aboutToBeWritten, this, &Recovery::catchUp);
+        connect(&each, &Document::written, this, &Recovery::update);
+    });
 }
 
 void Recovery::touched()
@@ -159,7 +168,8 @@ bool Recovery::isInHand(const RecoveredText &recovered) const
 /// Shows the text if the user wants it. It is kept on disk again before the old file goes.
 bool Recovery::offer(const RecoveredText &recovered, bool &taken)
 {
-    if (m_context.dialogs.box(offerBox(recovered, m_context.settings.PilotCallsign))
+    if (m_context.dialogs.box(
+            offerBox(recovered, m_context.settings.of<SharedSettings>().PilotCallsign))
         != BoxButton::Yes) {
         return false;
     }

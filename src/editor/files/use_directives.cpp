@@ -3,19 +3,32 @@
 
 #include "editor/files/use_directives.h"
 
-#include "documents/editor_view.h"
-#include "settings/global_settings.h"
+#include "documents/documents.h"
+#include "settings/settings.h"
+#include "settings/shared_settings.h"
 
 namespace zeph {
 
-UseDirectives::UseDirectives(const Context &context, EditorView &view)
-    : m_context(context), m_view(view)
+UseDirectives::UseDirectives(const Context &context, Documents &documents)
+    : m_context(context), m_joystick(documents.joystick())
 {
+    connect(&m_joystick, &Document::replaced, this, [this](Document::How how) {
+        if (how == Document::How::Fresh) {
+            forgetFiles();
+        } else if (how != Document::How::Undone) {
+            GetUSEZephstatements();
+        }
+    });
+    connect(&m_joystick, &Document::written, this, [this](Document::Save save) {
+        if (save == Document::Save::Asked) {
+            GetUSEZephstatements();
+        }
+    });
 }
 
 void UseDirectives::GetUSEstatements()
 {
-    const QString text = m_view.documents().joystick().text();
+    const QString text = m_joystick.text();
     if (!text.isEmpty()) {
         m_statements = readUseStatements(text);
     }
@@ -29,12 +42,11 @@ void UseDirectives::GetUSEZephstatements()
     m_textFilePath = found(m_statements.ZephReadme);
     // The viewers show these next; a file that names none leaves them what they had.
     if (!m_imageFilePath.isEmpty()) {
-        m_context.settings.ImageFilePath = m_imageFilePath;
+        m_context.settings.of<SharedSettings>().ImageFilePath = m_imageFilePath;
     }
     if (!m_textFilePath.isEmpty()) {
-        m_context.settings.TextFilePath = m_textFilePath;
+        m_context.settings.of<SharedSettings>().TextFilePath = m_textFilePath;
     }
-    m_view.documents().joystick().select(0, 0);
     Q_EMIT filesChanged();
 }
 
@@ -51,7 +63,7 @@ QString UseDirectives::found(QString &name) const
     if (name.isEmpty()) {
         return {};
     }
-    QString path = existingPath(folderOf(m_view.documents().joystick().path()) + name);
+    QString path = existingPath(folderOf(m_joystick.path()) + name);
     if (path.isEmpty() || !fileExists(path)) {
         name.clear();
         return {};

@@ -10,21 +10,21 @@
 
 namespace zeph {
 
-class EditorView;
+class Document;
+class Documents;
 
 /// What the current joystick file says to Zeph itself: its picture, its readme, its profile.
 class UseDirectives : public QObject
 {
     Q_OBJECT
 public:
-    UseDirectives(const Context &context, EditorView &view);
+    UseDirectives(const Context &context, Documents &documents);
 
     /// Reads the directives of the joystick text as it stands; nothing of an empty text.
     void GetUSEstatements();
-    /// Reads them and looks for the named files in the joystick file's folder.
+    /// Reads them and looks for the named files in the joystick file's folder; done after each load
+    /// and each save that the user asked for.
     void GetUSEZephstatements();
-    /// Forgets picture and readme, for a fresh joystick file.
-    void forgetFiles();
 
     const UseStatements &statements() const { return m_statements; }
     /// Full paths; empty when the file names none, or one that does not exist.
@@ -36,10 +36,11 @@ Q_SIGNALS:
     void filesChanged();
 
 private:
+    void forgetFiles();
     QString found(QString &name) const;
 
     Context m_context;
-    EditorView &m_view;
+    Document &m_joystick;
     UseStatements m_statements;
     QString m_imageFilePath;
     QString m_textFilePath;

@@ -3,9 +3,10 @@
 
 #include "editor/macros/framemacros.h"
 
+#include "editor/editor_settings.h"
 #include "editor/macros/macro_list_model.h"
 #include "platform/colours.h"
-#include "settings/global_settings.h"
+#include "settings/colour_settings.h"
 
 #include <QComboBox>
 #include <QContextMenuEvent>
@@ -203,7 +204,7 @@ FrameMacros::FrameMacros(MacroListModel &model, QWidget *parent)
     row->setSpacing(0);
     row->addWidget(strip);
     row->addLayout(column, 1);
-    setFixedWidth(narrowest);
+    setFixedWidth(narrowest());
 }
 
 void FrameMacros::setHeadings(const QStringList &headings)
@@ -220,25 +221,34 @@ void FrameMacros::setCurrentHeading(int index)
 void FrameMacros::drag(int globalX)
 {
     const int widest = parentWidget() ? parentWidget()->width() - narrowestTexts : QWIDGETSIZE_MAX;
-    setFixedWidth(std::max(narrowest, std::min(widest, m_widthAtStart + m_dragStart - globalX)));
+    setFixedWidth(std::max(narrowest(), std::min(widest, m_widthAtStart + m_dragStart - globalX)));
 }
 
-void FrameMacros::applySettings(const GlobalSettings &settings)
+void FrameMacros::setColours(const ColourSettings &colours)
 {
     QPalette list = m_list->palette();
-    list.setColor(QPalette::Base, toColor(settings.MacroListBackground));
-    list.setColor(QPalette::Text, toColor(settings.MacroListText));
+    list.setColor(QPalette::Base, toColor(colours.MacroListBackground));
+    list.setColor(QPalette::Text, toColor(colours.MacroListText));
     m_list->setPalette(list);
 
     QPalette headings = m_headings->palette();
     for (const auto role : { QPalette::Base, QPalette::Button, QPalette::Window }) {
-        headings.setColor(role, toColor(settings.MacroHeadingsBackground));
+        headings.setColor(role, toColor(colours.MacroHeadingsBackground));
     }
     for (const auto role : { QPalette::Text, QPalette::ButtonText, QPalette::WindowText }) {
-        headings.setColor(role, toColor(settings.MacroHeadingsText));
+        headings.setColor(role, toColor(colours.MacroHeadingsText));
     }
     m_headings->setPalette(headings);
-    setFixedWidth(std::max<int>(narrowest, settings.MacroFrameWidth));
+}
+
+int FrameMacros::narrowest()
+{
+    return int(rangeOf(&EditorSettings::MacroFrameWidth).least);
+}
+
+void FrameMacros::setWidth(int width)
+{
+    setFixedWidth(std::max(narrowest(), width));
 }
 
 } // namespace zeph

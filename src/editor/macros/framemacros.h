@@ -13,7 +13,7 @@ class QComboBox;
 namespace zeph {
 
 class MacroListModel;
-struct GlobalSettings;
+struct ColourSettings;
 
 /// The list in the macro frame: says in signals what is done to its entries.
 class MacroListView : public QListView
@@ -53,7 +53,8 @@ class FrameMacros : public QFrame
 {
     Q_OBJECT
 public:
-    static constexpr int narrowest = 185;
+    /// The width in pixels below which it cannot be dragged.
+    static int narrowest();
 
     explicit FrameMacros(MacroListModel &model, QWidget *parent = nullptr);
 
@@ -64,7 +65,9 @@ public:
     void setCurrentHeading(int index);
 
     /// Colours and width.
-    void applySettings(const GlobalSettings &settings);
+    void setColours(const ColourSettings &colours);
+    /// Pixels; a width below the narrowest takes that.
+    void setWidth(int width);
 
 Q_SIGNALS:
     /// The pilot chose a heading.
@@ -78,7 +81,7 @@ private:
     QComboBox *m_headings = nullptr;
     MacroListView *m_list = nullptr;
     int m_dragStart = 0;
-    int m_widthAtStart = narrowest;
+    int m_widthAtStart = 0;
 };
 
 } // namespace zeph

@@ -4,13 +4,14 @@
 #include "editor/macros/macro_features.h"
 
 #include "documents/editor_view.h"
-#include "editor/files/file_new.h"
+#include "editor/editor_settings.h"
 #include "editor/files/file_opening.h"
-#include "editor/files/file_saving.h"
 #include "editor/macros/framemacros.h"
 #include "menus/menu_actions.h"
 #include "platform/handlers.h"
-#include "settings/global_settings.h"
+#include "settings/colour_settings.h"
+#include "settings/settings.h"
+#include "settings/shared_settings.h"
 
 #include <QAction>
 
@@ -23,14 +24,14 @@ namespace {
 /// The ticks that are settings.
 struct TickSetting {
     QStringView action;
-    qint16 GlobalSettings::*setting;
+    SettingRef setting;
 };
 
-constexpr TickSetting tickSettings[] = {
-    { u"mnuMacrosSaveOptions_0", &GlobalSettings::MacroSaveUpdateMacros },
-    { u"mnuMacrosSaveOptions_1", &GlobalSettings::MacroSaveIdentifyJF },
-    { u"mnuMacroMouseActive", &GlobalSettings::MacroWithMouse },
-    { u"MnuMacroSelectMacroShow", &GlobalSettings::MacroHighlightedInMacroFile },
+const TickSetting tickSettings[] = {
+    { u"mnuMacrosSaveOptions_0", &EditorSettings::MacroSaveUpdateMacros },
+    { u"mnuMacrosSaveOptions_1", &EditorSettings::MacroSaveIdentifyJF },
+    { u"mnuMacroMouseActive", &SharedSettings::MacroWithMouse },
+    { u"MnuMacroSelectMacroShow", &EditorSettings::MacroHighlightedInMacroFile },
 };
 
 } // namespace
@@ -49,29 +50,33 @@ MacroFeatures::MacroFeatures(const Context &context, const Parts &parts)
 
 void MacroFeatures::connectFiles()
 {
-    const auto forget = [this] {
-        m_list.ClearAllForNewMacroFile();
-    };
-    connect(&m_parts.opening, &FileOpening::macroReplaced, this, forget);
-    connect(&m_parts.fresh, &FileNew::macroReplaced, this, forget);
-    connect(&m_parts.fresh, &FileNew::joystickReplaced, this,
-            [this] { m_operations.ClearMacroTicks(); });
-    connect(&m_parts.opening, &FileOpening::loaded, this, [this](DocumentKind kind) {
-        if (kind == DocumentKind::Joystick) {
+    Documents &documents = m_parts.view.documents();
+    connect(&documents.joystick(), &Document::replaced, this, [this](Document::How how) {
+        if (how != Document::How::Undone) {
             m_operations.ClearMacroTicks();
-            return;
         }
-        m_list.GetEachLineFromMacroFile();
-        m_list.ExtractMacrosAndTitles();
-        m_list.show();
     });
-    connect(&m_parts.opening, &FileOpening::pairLoaded, this,
-            [this] { m_operations.IdentifyMacrosUsed(MacroOperations::ShowAll); });
-    connect(&m_parts.saving, &FileSaving::saved, this, [this](DocumentKind kind) {
-        if (kind == DocumentKind::Macro) {
+    connect(&documents.macro(), &Document::replaced, this, &MacroFeatures::afterMacroReplaced);
+    connect(&documents.macro(), &Document::written, this, [this](Document::Save save) {
+        if (save == Document::Save::Asked) {
             afterMacroSave();
         }
     });
+    connect(&m_parts.opening, &FileOpening::pairLoaded, this,
+            [this] { m_operations.IdentifyMacrosUsed(MacroOperations::ShowAll); });
+}
+
+void MacroFeatures::afterMacroReplaced(Document::How how)
+{
+    if (how == Document::How::Undone) {
+        return;
+    }
+    m_list.ClearAllForNewMacroFile();
+    if (how != Document::How::Fresh) {
+        m_list.GetEachLineFromMacroFile();
+        m_list.ExtractMacrosAndTitles();
+        m_list.show();
+    }
 }
 
 void MacroFeatures::afterMacroSave()
@@ -95,7 +100,7 @@ void MacroFeatures::connectMenus()
     on.connectTo(u"mnuRenameMacro", [this] { m_operations.mnuRenameMacro_Click(); });
     for (const TickSetting &tick : tickSettings) {
         on.connectTo(tick.action, [this, tick] {
-            m_context.settings.*tick.setting = m_parts.actions.action(tick.action)->isChecked();
+            tick.setting.set(m_context.settings, m_parts.actions.action(tick.action)->isChecked());
         });
     }
 }
@@ -121,9 +126,10 @@ void MacroFeatures::connectList()
 
 void MacroFeatures::applySettings()
 {
-    m_list.frame()->applySettings(m_context.settings);
+    m_list.frame()->setColours(m_context.settings.of<ColourSettings>());
+    m_list.frame()->setWidth(m_context.settings.of<EditorSettings>().MacroFrameWidth);
     for (const TickSetting &tick : tickSettings) {
-        m_parts.actions.action(tick.action)->setChecked(m_context.settings.*tick.setting == 1);
+        m_parts.actions.action(tick.action)->setChecked(tick.setting.isOn(m_context.settings));
     }
 }
 

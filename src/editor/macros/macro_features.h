@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "documents/document.h"
 #include "editor/macros/macro_list.h"
 #include "editor/macros/macro_list_menu.h"
 #include "editor/macros/macro_operations.h"
@@ -15,7 +16,6 @@ namespace zeph {
 class ColouredInsert;
 class MenuActions;
 class EditorView;
-class FileNew;
 class FileOpening;
 class FileSaving;
 
@@ -29,7 +29,6 @@ public:
         MenuActions &actions;
         FileOpening &opening;
         FileSaving &saving;
-        FileNew &fresh;
         ColouredInsert &insert;
     };
     MacroFeatures(const Context &context, const Parts &parts);
@@ -44,6 +43,7 @@ private:
     void connectFiles();
     void connectMenus();
     void connectList();
+    void afterMacroReplaced(Document::How how);
     void afterMacroSave();
 
     Context m_context;

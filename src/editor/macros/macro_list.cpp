@@ -5,6 +5,7 @@
 
 #include "documents/coloured_insert.h"
 #include "documents/editor_view.h"
+#include "editor/editor_settings.h"
 #include "editor/files/file_saving.h"
 #include "editor/macros/framemacros.h"
 #include "menus/menu_actions.h"
@@ -13,7 +14,7 @@
 #include "platform/dialogs.h"
 #include "platform/handlers.h"
 #include "platform/status_line.h"
-#include "settings/global_settings.h"
+#include "settings/settings.h"
 #include "settings/settings_files.h"
 #include "text/document_text.h"
 
@@ -232,10 +233,10 @@ void MacroList::show()
 
 void MacroList::storeWidth(int width)
 {
-    m_context.settings.MacroFrameWidth = qint16(width);
+    m_context.settings.of<EditorSettings>().MacroFrameWidth = width;
     // A store that cannot be written is nobody's failure: the width then holds for this run.
     (void)saveSettings(m_context.settings, settingsFilesOf(m_context.paths),
-                       { &GlobalSettings::MacroFrameWidth });
+                       { &EditorSettings::MacroFrameWidth });
 }
 
 } // namespace zeph

@@ -6,9 +6,10 @@
 #include "platform/core/file_io.h"
 #include "platform/dialogs.h"
 #include "platform/handlers.h"
-#include "settings/global_settings.h"
+#include "settings/settings.h"
 #include "text/document_text.h"
 #include "text/text_lines.h"
+#include "toolchain/toolchain_settings.h"
 
 #include <QCoreApplication>
 
@@ -89,7 +90,7 @@ void AfterDownload::TurnNumLockOn()
 
 void AfterDownload::GetAppsToRun(const QString &joystickText)
 {
-    if (m_context.settings.RunAppsWithDownload == 1 || joystickText.isEmpty()) {
+    if (m_context.settings.of<ToolchainSettings>().RunAppsWithDownload || joystickText.isEmpty()) {
         return;
     }
     // Nothing reads this copy. A full disk must not keep anybody from flying, so its failure is

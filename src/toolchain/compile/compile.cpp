@@ -6,12 +6,14 @@
 #include "documents/documents.h"
 #include "platform/dialogs.h"
 #include "platform/status_line.h"
-#include "settings/global_settings.h"
+#include "settings/settings.h"
+#include "settings/shared_settings.h"
 #include "toolchain/compile/verdict.h"
 #include "toolchain/document_saver.h"
 #include "toolchain/handshake.h"
 #include "toolchain/tool_commands.h"
 #include "toolchain/tool_scene.h"
+#include "toolchain/toolchain_settings.h"
 
 namespace zeph {
 
@@ -36,8 +38,8 @@ void Compile::mnuAppsCompile_Click()
     }
     const bool givenUp = end == ExchangeEnd::GivenUp;
     if (givenUp) {
-        m_context.dialogs.box(
-            compilerTimeOutBox(CompilerTask::Compile, m_context.settings.PilotCallsign));
+        m_context.dialogs.box(compilerTimeOutBox(
+            CompilerTask::Compile, m_context.settings.of<SharedSettings>().PilotCallsign));
     }
     m_context.status.setText(panelAfterCompilerWait(givenUp));
     tellOutcome(path);
@@ -58,7 +60,7 @@ bool Compile::canBegin()
             u"Compiler not found"_s,
             u"I couldn't locate the Compiler, which according to your preferences should be at: "_s
                 + compiler + u", so I cannot compile the file. Sorry "_s
-                + m_context.settings.PilotCallsign + u'!',
+                + m_context.settings.of<SharedSettings>().PilotCallsign + u'!',
             BoxIcon::Exclamation);
         return false;
     }
@@ -102,8 +104,9 @@ bool Compile::macroFileMayDiffer()
 void Compile::tellOutcome(const QString &path)
 {
     const CompilerVerdict verdict = HotasIni(m_context.paths.hotasIni()).readCompiler();
-    const VerdictTelling telling = tellVerdict(verdict, CompilerTask::Compile, path,
-                                               m_context.settings.HOTASStatusBarErrors != 0);
+    const VerdictTelling telling =
+        tellVerdict(verdict, CompilerTask::Compile, path,
+                    m_context.settings.of<ToolchainSettings>().HOTASStatusBarErrors);
     if (!telling.panel.isEmpty()) {
         m_context.status.setText(telling.panel);
     }

@@ -7,15 +7,18 @@
 #include "menus/menu_actions.h"
 #include "platform/dialogs.h"
 #include "platform/status_line.h"
-#include "settings/global_settings.h"
+#include "settings/settings.h"
+#include "settings/shared_settings.h"
 #include "toolchain/compile/after_download.h"
 #include "toolchain/compile/verdict.h"
+#include "toolchain/default_options.h"
 #include "toolchain/document_saver.h"
 #include "toolchain/handshake.h"
 #include "toolchain/modes/cougar_modes.h"
 #include "toolchain/modes/profiles.h"
 #include "toolchain/tool_commands.h"
 #include "toolchain/tool_scene.h"
+#include "toolchain/toolchain_settings.h"
 
 #include <utility>
 
@@ -61,7 +64,7 @@ void Download::DownloadTMJ()
     if (!canBegin() || !joystickFileMayGo() || !macroFileMayDiffer()) {
         return;
     }
-    const bool resetsAxes = m_context.settings.UseResetProfile == 1;
+    const bool resetsAxes = m_context.settings.of<ToolchainSettings>().UseResetProfile;
     if (resetsAxes && !m_parts.profiles.ApplyDefaultProfile()) {
         return;
     }
@@ -112,7 +115,7 @@ bool Download::macroFileMayDiffer()
 
 void Download::send()
 {
-    const bool enables = m_context.settings.DownloadMode == 1;
+    const bool enables = m_context.settings.of<DefaultOptions>().DownloadMode;
     // The user may open another file during the wait: the verdict is about this one.
     const QString path = m_parts.documents.joystick().path();
     m_context.status.setText(
@@ -132,8 +135,8 @@ void Download::send()
         m_parts.modes.showIfDetecting();
     }
     if (end == ExchangeEnd::GivenUp) {
-        m_context.dialogs.box(
-            compilerTimeOutBox(CompilerTask::Download, m_context.settings.PilotCallsign));
+        m_context.dialogs.box(compilerTimeOutBox(
+            CompilerTask::Download, m_context.settings.of<SharedSettings>().PilotCallsign));
     }
     m_context.status.setText(panelAfterCompilerWait(givenUp));
     if (end != ExchangeEnd::NotStarted) {
@@ -144,9 +147,10 @@ void Download::send()
 void Download::tellOutcome(const QString &path, TextLock &lock)
 {
     const CompilerVerdict verdict = HotasIni(m_context.paths.hotasIni()).readCompiler();
-    const VerdictTelling telling = tellVerdict(verdict, CompilerTask::Download, path,
-                                               m_context.settings.HOTASStatusBarErrors != 0);
-    if (!telling.failed && m_context.settings.NumlockDownloadMode == 1) {
+    const VerdictTelling telling =
+        tellVerdict(verdict, CompilerTask::Download, path,
+                    m_context.settings.of<ToolchainSettings>().HOTASStatusBarErrors);
+    if (!telling.failed && m_context.settings.of<ToolchainSettings>().NumlockDownloadMode) {
         m_parts.afterDownload.TurnNumLockOn();
     }
     if (!telling.panel.isEmpty()) {
@@ -166,7 +170,8 @@ void Download::succeed(TextLock &lock)
 {
     m_parts.afterDownload.GetAppsToRun(m_parts.documents.joystick().text());
     // In Windows mode the Cougar sends no keys to test.
-    if (m_context.settings.RunKeyTest == 1 && m_context.settings.DownloadMode == 1) {
+    if (m_context.settings.of<ToolchainSettings>().RunKeyTest
+        && m_context.settings.of<DefaultOptions>().DownloadMode) {
         lock.release();
         openKeyTester();
     }
@@ -176,8 +181,9 @@ void Download::succeed(TextLock &lock)
 /// Opens the Key Tester, or the tester that the user prefers.
 void Download::openKeyTester()
 {
-    m_parts.actions.trigger(m_context.settings.DefaultToDX8KeyTester == 1 ? u"mnuAppsDX8_0"
-                                                                          : u"mnuAppsKeyTester");
+    m_parts.actions.trigger(m_context.settings.of<SharedSettings>().DefaultToDX8KeyTester
+                                ? u"mnuAppsDX8_0"
+                                : u"mnuAppsKeyTester");
 }
 
 void Download::fail(const VerdictTelling &telling, const CompilerVerdict &verdict, TextLock &lock)

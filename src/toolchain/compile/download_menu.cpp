@@ -4,7 +4,10 @@
 #include "toolchain/compile/download_menu.h"
 
 #include "menus/menu_actions.h"
+#include "settings/settings.h"
 #include "settings/settings_files.h"
+#include "toolchain/default_options.h"
+#include "toolchain/toolchain_settings.h"
 
 #include <QAction>
 
@@ -16,14 +19,14 @@ enum DownloadEntry { DownloadFile, EnableAfter, RunKeyTester, NumLockOn, IgnoreR
 
 struct Tick {
     DownloadEntry entry;
-    qint16 GlobalSettings::*setting;
+    SettingRef setting;
 };
 
-constexpr Tick ticks[] = {
-    { EnableAfter, &GlobalSettings::DownloadMode },
-    { RunKeyTester, &GlobalSettings::RunKeyTest },
-    { NumLockOn, &GlobalSettings::NumlockDownloadMode },
-    { IgnoreRunApp, &GlobalSettings::RunAppsWithDownload },
+const Tick ticks[] = {
+    { EnableAfter, &DefaultOptions::DownloadMode },
+    { RunKeyTester, &ToolchainSettings::RunKeyTest },
+    { NumLockOn, &ToolchainSettings::NumlockDownloadMode },
+    { IgnoreRunApp, &ToolchainSettings::RunAppsWithDownload },
 };
 
 QString nameOf(int entry)
@@ -50,13 +53,13 @@ void DownloadMenu::DownloadArray1_Click(int index)
     }
     for (const Tick &tick : ticks) {
         if (tick.entry == index) {
-            m_context.settings.*tick.setting = m_actions.action(nameOf(index))->isChecked();
+            tick.setting.set(m_context.settings, m_actions.action(nameOf(index))->isChecked());
         }
     }
     if (index == EnableAfter) {
-        if (m_context.settings.DownloadMode == 0) {
+        if (!m_context.settings.of<DefaultOptions>().DownloadMode) {
             // In Windows mode the Cougar sends no keys to test.
-            m_context.settings.RunKeyTest = 0;
+            m_context.settings.of<ToolchainSettings>().RunKeyTest = false;
         }
         applySettings();
     }
@@ -67,18 +70,19 @@ void DownloadMenu::DownloadArray1_Click(int index)
 
 void DownloadMenu::SaveDownloadMode()
 {
-    using G = GlobalSettings;
     // A failure is not told: the ticks hold for this run all the same.
     (void)saveSettings(m_context.settings, settingsFilesOf(m_context.paths),
-                       { &G::DownloadMode, &G::NumlockDownloadMode, &G::RunAppsWithDownload });
+                       { &DefaultOptions::DownloadMode, &ToolchainSettings::NumlockDownloadMode,
+                         &ToolchainSettings::RunAppsWithDownload });
 }
 
 void DownloadMenu::applySettings()
 {
     for (const Tick &tick : ticks) {
-        m_actions.action(nameOf(tick.entry))->setChecked(m_context.settings.*tick.setting == 1);
+        m_actions.action(nameOf(tick.entry))->setChecked(tick.setting.isOn(m_context.settings));
     }
-    m_actions.action(nameOf(RunKeyTester))->setEnabled(m_context.settings.DownloadMode == 1);
+    m_actions.action(nameOf(RunKeyTester))
+        ->setEnabled(m_context.settings.of<DefaultOptions>().DownloadMode);
 }
 
 } // namespace zeph

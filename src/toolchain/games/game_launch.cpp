@@ -7,7 +7,8 @@
 #include "platform/dialogs.h"
 #include "platform/process_launcher.h"
 #include "platform/status_line.h"
-#include "settings/global_settings.h"
+#include "settings/settings.h"
+#include "settings/shared_settings.h"
 #include "toolchain/compile/after_download.h"
 #include "toolchain/compile/verdict.h"
 #include "toolchain/document_saver.h"
@@ -17,6 +18,7 @@
 #include "toolchain/modes/profiles.h"
 #include "toolchain/tool_commands.h"
 #include "toolchain/tool_scene.h"
+#include "toolchain/toolchain_settings.h"
 
 namespace zeph {
 
@@ -89,7 +91,8 @@ void GameLaunch::saveChanged()
 /// Applies the stored profile, if each download does. False when the program ends meanwhile.
 bool GameLaunch::resetAxes()
 {
-    return m_context.settings.UseResetProfile != 1 || m_parts.profiles.ApplyDefaultProfile();
+    return !m_context.settings.of<ToolchainSettings>().UseResetProfile
+        || m_parts.profiles.ApplyDefaultProfile();
 }
 
 bool GameLaunch::prepare(const Game &game)
@@ -141,7 +144,8 @@ bool GameLaunch::download(const QString &wanted)
 bool GameLaunch::goOnWithoutVerdict()
 {
     const bool goOn =
-        m_context.dialogs.box(gameTimeOutBox(m_context.settings.PilotCallsign)) == BoxButton::Yes;
+        m_context.dialogs.box(gameTimeOutBox(m_context.settings.of<SharedSettings>().PilotCallsign))
+        == BoxButton::Yes;
     m_context.status.setText(panelAfterCompilerWait(!goOn));
     if (!goOn) {
         m_parts.scene.bringMainWindowBack();
@@ -154,10 +158,10 @@ bool GameLaunch::tellVerdict(const QString &file)
     m_parts.scene.bringMainWindowBack();
     const CompilerVerdict verdict = HotasIni(m_context.paths.hotasIni()).readCompiler();
     const VerdictTelling telling =
-        tellGameVerdict(verdict, m_context.settings.HOTASStatusBarErrors != 0);
+        tellGameVerdict(verdict, m_context.settings.of<ToolchainSettings>().HOTASStatusBarErrors);
     if (!telling.failed) {
         m_context.status.setText(telling.panel);
-        if (m_context.settings.NumlockDownloadMode == 1) {
+        if (m_context.settings.of<ToolchainSettings>().NumlockDownloadMode) {
             m_parts.afterDownload.TurnNumLockOn();
         }
         return true;

@@ -3,11 +3,13 @@
 
 #include "toolchain/games/games_menu.h"
 
+#include "documents/document_settings.h"
 #include "documents/documents.h"
 #include "documents/foreign_keyboard.h"
 #include "menus/menu_actions.h"
 #include "menus/menu_array.h"
-#include "settings/global_settings.h"
+#include "menus/menu_settings.h"
+#include "settings/settings.h"
 #include "toolchain/games/entergamename.h"
 
 #include <QAction>
@@ -32,8 +34,9 @@ GamesMenu::GamesMenu(const Context &context, const ToolParts &parts)
 
 void GamesMenu::applySettings()
 {
-    const QString caption = m_context.settings.GamesCaption;
-    m_parts.actions.menu(u"mnuGames")->setTitle(caption.isEmpty() ? u"&Games"_s : caption);
+    const QString caption = m_context.settings.of<MenuSettings>().GamesCaption;
+    m_parts.actions.menu(u"mnuGames")
+        ->setTitle(caption.isEmpty() ? defaultOf(&MenuSettings::GamesCaption) : caption);
 }
 
 void GamesMenu::mnuGamesAdd_Click()
@@ -42,7 +45,7 @@ void GamesMenu::mnuGamesAdd_Click()
     EnterGameName window(m_context.paths, m_context.dialogs,
                          isUntitled(joystick.name()) ? QString() : joystick.path(),
                          &m_parts.mainWindow);
-    new ForeignKeyBSupport(m_context.keyboard, m_context.settings, &window);
+    new ForeignKeyBSupport(m_context.keyboard, m_context.settings.of<DocumentSettings>(), &window);
     if (window.exec() == QDialog::Accepted) {
         m_games.update(window.game());
     }

@@ -7,11 +7,12 @@
 #include "platform/handlers.h"
 #include "platform/input/joystick.h"
 #include "platform/status_line.h"
-#include "settings/global_settings.h"
+#include "settings/settings.h"
 #include "toolchain/handshake.h"
 #include "toolchain/hotas_ini.h"
 #include "toolchain/tool_commands.h"
 #include "toolchain/tool_messages.h"
+#include "toolchain/toolchain_settings.h"
 
 #include <QCoreApplication>
 
@@ -60,10 +61,10 @@ CougarModes::CougarModes(const Context &context, ToolchainHandshake &handshake, 
 
 void CougarModes::startOfRun()
 {
-    if (m_context.settings.SynchroniseModeOnStartup == 1) {
+    if (m_context.settings.of<ToolchainSettings>().SynchroniseModeOnStartup) {
         changeButtonsMode(ButtonsRequest::ReportOnly);
     }
-    if (m_context.settings.StatusDetectOnStartup == 1) {
+    if (m_context.settings.of<ToolchainSettings>().StatusDetectOnStartup) {
         EnableStatusTimer();
     }
 }
@@ -135,7 +136,8 @@ void CougarModes::emergencyOff()
 void CougarModes::EnableStatusTimer()
 {
     m_timer.stop();
-    const auto interval = detectorInterval(m_context.settings.StatusMonitoringInterval);
+    const auto interval =
+        detectorInterval(m_context.settings.of<ToolchainSettings>().StatusMonitoringInterval);
     if (!interval) {
         throw std::overflow_error("Overflow");
     }
@@ -160,20 +162,22 @@ void CougarModes::showIfDetecting()
 
 bool CougarModes::IsJoyConnected()
 {
-    return m_joystick.read(m_context.settings.JoyIDnumber).result == Joystick::answered;
+    return m_joystick.read(m_context.settings.of<ToolchainSettings>().JoyIDnumber).result
+        == Joystick::answered;
 }
 
 /// Whether the settings want a controller that does not answer.
 bool CougarModes::isJoystickMissed()
 {
-    return m_context.settings.JoyTestConnect == 1 && !IsJoyConnected();
+    return m_context.settings.of<ToolchainSettings>().JoyTestConnect && !IsJoyConnected();
 }
 
 void CougarModes::UpdateStatusTooltip()
 {
     const ModeReport last = report();
-    const QString text = isJoystickMissed() ? noJoystickInWords(m_context.settings.JoyIDnumber)
-                                            : reportInWords(last.Axes, last.Buttons);
+    const QString text = isJoystickMissed()
+        ? noJoystickInWords(m_context.settings.of<ToolchainSettings>().JoyIDnumber)
+        : reportInWords(last.Axes, last.Buttons);
     m_context.status.setText(text);
     setTooltip(text);
 }
@@ -206,7 +210,7 @@ bool CougarModes::change(ModeChange change)
         return true;
     }
     const bool programmed = change == ModeChange::ToProgrammed;
-    if (m_context.settings.PureWindows == 1) {
+    if (m_context.settings.of<ToolchainSettings>().PureWindows) {
         return changeWholeMode(programmed);
     }
     changeButtonsMode(programmed ? ButtonsRequest::Programmed : ButtonsRequest::Windows);

@@ -3,8 +3,9 @@
 
 #include "toolchain/modes/formresetoptions.h"
 
-#include "settings/global_settings.h"
+#include "settings/settings.h"
 #include "toolchain/modes/profiles.h"
+#include "toolchain/toolchain_settings.h"
 #include "ui_formresetoptions.h"
 
 namespace zeph {
@@ -30,16 +31,16 @@ bool FormResetOptions::UpdateProfiles()
 
 void FormResetOptions::ShowResetValues()
 {
-    const GlobalSettings &settings = m_context.settings;
-    m_ui->Profiles->select(settings.ResetProfile, settings.ResetCalibrate == 1);
+    const auto &settings = m_context.settings.of<ToolchainSettings>();
+    m_ui->Profiles->select(settings.ResetProfile, settings.ResetCalibrate);
 }
 
 void FormResetOptions::accept()
 {
-    GlobalSettings &settings = m_context.settings;
+    auto &settings = m_context.settings.of<ToolchainSettings>();
     settings.ResetProfile = m_ui->Profiles->profile();
-    settings.ResetCalibrate = m_ui->Profiles->manualCalibration() ? 1 : 0;
-    settings.UseResetProfile = 1;
+    settings.ResetCalibrate = m_ui->Profiles->manualCalibration();
+    settings.UseResetProfile = true;
     QDialog::accept();
 }
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "toolchain/modes/mode_rules.h"
+#include "toolchain/toolchain_settings.h"
 
 #include <algorithm>
 #include <array>
@@ -13,7 +14,6 @@ namespace {
 
 constexpr qint16 changeFailed = -1;
 constexpr int perSecond = 1000;
-constexpr qint16 defaultInterval = 3000;
 
 /// The halves of the sentence for one reported value.
 struct Words {
@@ -75,12 +75,11 @@ ModeChange changeAtClick(ModePicture picture, qint16 buttons)
     return ModeChange::ToWindows;
 }
 
-std::optional<qint16> detectorInterval(qint16 seconds)
+std::optional<qint16> detectorInterval(int seconds)
 {
-    if (seconds < 1) {
-        return defaultInterval;
-    }
-    const int interval = seconds * perSecond;
+    const int interval =
+        (seconds < 1 ? defaultOf(&ToolchainSettings::StatusMonitoringInterval) : seconds)
+        * perSecond;
     if (interval > std::numeric_limits<qint16>::max()) {
         return std::nullopt;
     }

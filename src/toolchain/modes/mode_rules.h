@@ -30,6 +30,6 @@ ModeChange changeAtClick(ModePicture picture, qint16 buttons);
 
 /// The detector's interval in milliseconds. None from 33 seconds on, which 16 bits cannot hold. A
 /// setting below 1 second gives the default, since the detector must neither stop nor race.
-std::optional<qint16> detectorInterval(qint16 seconds);
+std::optional<qint16> detectorInterval(int seconds);
 
 } // namespace zeph

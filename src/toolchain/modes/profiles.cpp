@@ -6,10 +6,11 @@
 #include "platform/core/file_io.h"
 #include "platform/dialogs.h"
 #include "platform/status_line.h"
-#include "settings/global_settings.h"
+#include "settings/settings.h"
 #include "toolchain/handshake.h"
 #include "toolchain/tool_commands.h"
 #include "toolchain/tool_messages.h"
+#include "toolchain/toolchain_settings.h"
 
 #include <QDir>
 
@@ -29,7 +30,7 @@ QStringList profileFiles(const QString &folder)
                                                    QDir::Name | QDir::IgnoreCase);
 }
 
-bool isManual(CalibrationRequest request, const GlobalSettings &settings)
+bool isManual(CalibrationRequest request, const ToolchainSettings &settings)
 {
     switch (request) {
     case CalibrationRequest::Auto:
@@ -39,7 +40,7 @@ bool isManual(CalibrationRequest request, const GlobalSettings &settings)
     case CalibrationRequest::Stored:
         break;
     }
-    return settings.ResetCalibrate == 1;
+    return settings.ResetCalibrate;
 }
 
 } // namespace
@@ -58,6 +59,20 @@ QStringList profileNames(const QString &folder)
     return names;
 }
 
+SettingProblems GetResetAxes(Settings &settings, const SettingsFiles &files)
+{
+    return readSettings(settings, files,
+                        { &ToolchainSettings::ResetProfile, &ToolchainSettings::ResetCalibrate,
+                          &ToolchainSettings::UseResetProfile });
+}
+
+Expected<void, FileError> SaveResetProfiles(Settings &settings, const SettingsFiles &files)
+{
+    return saveSettings(settings, files,
+                        { &ToolchainSettings::ResetProfile, &ToolchainSettings::ResetCalibrate,
+                          &ToolchainSettings::UseResetProfile });
+}
+
 Profiles::Profiles(const Context &context, ToolchainHandshake &handshake)
     : m_context(context), m_handshake(handshake)
 {
@@ -69,7 +84,7 @@ bool Profiles::ApplyDefaultProfile(const QString &name, CalibrationRequest calib
         m_context.dialogs.box(noControlPanelBox(m_context.paths));
         return true;
     }
-    const GlobalSettings &settings = m_context.settings;
+    const auto &settings = m_context.settings.of<ToolchainSettings>();
     const QString profile = name.isEmpty() ? settings.ResetProfile : name;
     if (!isThere(profile)) {
         return true;
@@ -94,7 +109,9 @@ bool Profiles::isThere(const QString &name)
     if (fileExists(profilesFolder(m_context.paths) + name + ending.toString())) {
         return true;
     }
-    const bool isStored = name.compare(m_context.settings.ResetProfile, Qt::CaseInsensitive) == 0;
+    const bool isStored =
+        name.compare(m_context.settings.of<ToolchainSettings>().ResetProfile, Qt::CaseInsensitive)
+        == 0;
     m_context.dialogs.box(missingProfileBox(name, isStored));
     return false;
 }

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "platform/context.h"
+#include "settings/settings.h"
 
 namespace zeph {
 
@@ -16,6 +17,11 @@ enum class CalibrationRequest { Stored = 0, Auto = 1, Manual = 2 };
 QString profilesFolder(const Paths &paths);
 /// The names of a folder's profiles (*.tmc), without the ending, in alphabetical order.
 QStringList profileNames(const QString &folder);
+
+/// The profile that resets the axes, its calibration and whether each download applies it: read
+/// and written by themselves, the global save leaves them alone.
+[[nodiscard]] SettingProblems GetResetAxes(Settings &settings, const SettingsFiles &files);
+Expected<void, FileError> SaveResetProfiles(Settings &settings, const SettingsFiles &files);
 
 /// Sends saved axis profiles (*.tmc) to the Cougar.
 class Profiles

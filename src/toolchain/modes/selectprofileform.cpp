@@ -3,8 +3,9 @@
 
 #include "toolchain/modes/selectprofileform.h"
 
-#include "settings/global_settings.h"
+#include "settings/settings.h"
 #include "toolchain/modes/profiles.h"
+#include "toolchain/toolchain_settings.h"
 #include "ui_selectprofileform.h"
 
 namespace zeph {
@@ -27,8 +28,8 @@ bool SelectProfileForm::UpdateProfiles()
 {
     const bool found =
         m_ui->Profiles->UpdateProfiles(profilesFolder(m_context.paths), m_context.dialogs);
-    const GlobalSettings &settings = m_context.settings;
-    m_ui->Profiles->select(settings.ResetProfile, settings.ResetCalibrate == 1);
+    const auto &settings = m_context.settings.of<ToolchainSettings>();
+    m_ui->Profiles->select(settings.ResetProfile, settings.ResetCalibrate);
     return found;
 }
 

@@ -4,7 +4,9 @@
 #include "editor/edit/alignment_operations.h"
 
 #include "documents/undo_histories.h"
+#include "editor/editor_settings.h"
 #include "platform/richtext/rich_text_document.h"
+#include "settings/colour_settings.h"
 #include "tests/documents/editor_fixture.h"
 
 #include <QAction>
@@ -21,8 +23,8 @@ class AlignmentOperationsTest : public EditorTest
 protected:
     AlignmentOperationsTest()
     {
-        settings.SlashColour = blue;
-        settings.JoystickTextDefaultColour = 0;
+        settings.of<ColourSettings>().SlashColour = blue;
+        settings.of<ColourSettings>().JoystickTextDefaultColour = 0;
     }
     void load(DocumentKind kind, const QString &text)
     {
@@ -86,15 +88,15 @@ TEST_F(AlignmentOperationsTest, TheCaretStaysInItsLine)
 
 TEST_F(AlignmentOperationsTest, TheTickIsTheSettingAndMovesStatementsIn)
 {
-    settings.IndentSpaces = 3;
-    settings.IndentAsWell = 1;
+    settings.of<EditorSettings>().IndentSpaces = 3;
+    settings.of<EditorSettings>().IndentAsWell = true;
     editor->applySettings();
     EXPECT_TRUE(editor->action(u"mnuIndentSlashes")->isChecked());
     load(DocumentKind::Joystick, u"BTN S1 a\n"_s);
     editor->action(u"mnuAlignSlash")->trigger();
     EXPECT_EQ(editor->joystickText(), u"   BTN S1 a\n");
     editor->action(u"mnuIndentSlashes")->trigger();
-    EXPECT_EQ(settings.IndentAsWell, 0);
+    EXPECT_EQ(settings.of<EditorSettings>().IndentAsWell, 0);
     editor->action(u"mnuAlignSlash")->trigger();
     EXPECT_EQ(editor->joystickText(), u"BTN S1 a\n");
 }

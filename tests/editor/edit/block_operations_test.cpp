@@ -4,6 +4,7 @@
 #include "editor/edit/block_operations.h"
 
 #include "documents/undo_histories.h"
+#include "settings/colour_settings.h"
 #include "tests/documents/editor_fixture.h"
 
 #include <QAction>
@@ -22,9 +23,9 @@ class BlockOperationsTest : public EditorTest
 protected:
     BlockOperationsTest()
     {
-        settings.BTNColour = blue;
-        settings.RemStatements = grey;
-        settings.JoystickTextDefaultColour = 0;
+        settings.of<ColourSettings>().BTNColour = blue;
+        settings.of<ColourSettings>().RemStatements = grey;
+        settings.of<ColourSettings>().JoystickTextDefaultColour = 0;
         type(DocumentKind::Joystick, u"BTN S1 a\n\nBTN S2 b\nBTN S3 c"_s);
         editor->undos().startOver(DocumentKind::Joystick);
     }

@@ -6,6 +6,7 @@
 #include "documents/undo_histories.h"
 #include "editor/edit/editing_tools.h"
 #include "platform/core/rtf.h"
+#include "settings/colour_settings.h"
 #include "tests/documents/editor_fixture.h"
 
 #include <QAction>
@@ -27,7 +28,7 @@ class ClipboardOperationsTest : public EditorTest
 protected:
     ClipboardOperationsTest()
     {
-        settings.JoystickTextDefaultColour = blue;
+        settings.of<ColourSettings>().JoystickTextDefaultColour = blue;
         QGuiApplication::clipboard()->clear();
         editor->applySettings();
         type(DocumentKind::Joystick, u"one two"_s);

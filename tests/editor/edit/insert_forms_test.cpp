@@ -3,10 +3,12 @@
 
 #include "editor/edit/insert_forms.h"
 
+#include "editor/editor_settings.h"
 #include "editor/files/file_opening.h"
 #include "editor/files/file_saving.h"
 #include "editor/macros/macro_features.h"
 #include "platform/core/profile_file.h"
+#include "settings/shared_settings.h"
 #include "tests/text/painting_fixture.h"
 
 #include <QAbstractButton>
@@ -167,13 +169,13 @@ TEST_F(InsertFormsTest, TheTickOfTheLineEndIsKept)
     fill(rem, u"RichTextBox1"_s, u"x"_s);
     press(rem, u"cmdOK"_s);
     EXPECT_EQ(editor->joystickText(), u"Rem  x");
-    EXPECT_EQ(settings.AddCRtoREM, 0);
+    EXPECT_EQ(settings.of<EditorSettings>().AddCRtoREM, 0);
     EXPECT_EQ(stored(u"Miscellaneous"_s, u"AddCRtoREM"_s), u"0");
     rem = open(u"mnuInsertRemStatement", u"SingleTextForm"_s);
     EXPECT_FALSE(rem->findChild<QAbstractButton *>(u"CheckAddCR"_s)->isChecked());
     press(rem, u"CheckAddCR"_s);
     press(rem, u"cmdCancel"_s);
-    EXPECT_EQ(settings.AddCRtoREM, 0);
+    EXPECT_EQ(settings.of<EditorSettings>().AddCRtoREM, 0);
 }
 
 TEST_F(InsertFormsTest, ACommentDoesNotStickToTheWordBeforeIt)
@@ -188,7 +190,7 @@ TEST_F(InsertFormsTest, ACommentDoesNotStickToTheWordBeforeIt)
 
 TEST_F(InsertFormsTest, TheTitlesFieldsArePreset)
 {
-    settings.ValidUser = u"Ann \"Ace\" Other"_s;
+    settings.of<SharedSettings>().ValidUser = u"Ann \"Ace\" Other"_s;
     editor->opening().OpenFavouriteFile(file(u"F-16.tmj"_s, "BTN S1 a\r\n"));
     QDialog *title = open(u"mnuInsertTitle", u"Title"_s);
     const QStringList expected{ u"F-16.tmj"_s, u""_s, u"Ann \"Ace\" Other"_s,
@@ -215,19 +217,19 @@ TEST_F(InsertFormsTest, ATitleIsWrittenAsCommentsAndTheNameKept)
     EXPECT_EQ(lines[12], u"");
     EXPECT_FALSE(colours(J).contains(u's') || colours(J).contains(u'?'));
     EXPECT_EQ(colours(J).count(u'.'), 12);
-    EXPECT_EQ(settings.ValidUser, u"Ann");
+    EXPECT_EQ(settings.of<SharedSettings>().ValidUser, u"Ann");
     EXPECT_EQ(stored(u"Miscellaneous"_s, u"ValidUser"_s), u"Ann");
     EXPECT_EQ(editor->undos().of(J).slots(), 2);
 }
 
 TEST_F(InsertFormsTest, NobodysNameIsUserUnknown)
 {
-    settings.ValidUser.clear();
+    settings.of<SharedSettings>().ValidUser.clear();
     EXPECT_EQ(editor->insertForms().GetPersonsName(), u"User unknown");
     QDialog *title = open(u"mnuInsertTitle", u"Title"_s);
     fill(title, u"Text3"_s, u" "_s);
     press(title, u"cmdOK"_s);
-    EXPECT_EQ(settings.ValidUser, u"User unknown");
+    EXPECT_EQ(settings.of<SharedSettings>().ValidUser, u"User unknown");
 }
 
 TEST_F(InsertFormsTest, ATitlesDateIsBroughtUpToDateByASave)
@@ -257,7 +259,7 @@ TEST_F(InsertFormsTest, ASlashModifierIsInsertedInItsColourApartFromWhatFollows)
 
 TEST_F(InsertFormsTest, EachEntryOfTheMenuInsertsItsWord)
 {
-    settings.DefaultDLYvalue = 80;
+    settings.of<EditorSettings>().DefaultDLYvalue = 80;
     QStringList inserted;
     for (int i = 0; i < 12; ++i) {
         set(J, u""_s);
@@ -312,7 +314,7 @@ TEST_F(InsertFormsTest, TheSlashWindowShowsTheDelayOfTheSetting)
 {
     QDialog *palette = open(u"mnuSlashWindow", u"SlashWindow"_s);
     palette->reject();
-    settings.DefaultDLYvalue = 120;
+    settings.of<EditorSettings>().DefaultDLYvalue = 120;
     palette = open(u"mnuSlashWindow", u"SlashWindow"_s);
     EXPECT_EQ(palette->findChild<QAbstractButton *>(u"Command1_10"_s)->text(), u"DLY(120)");
     press(palette, u"Command1_10"_s);
@@ -322,7 +324,7 @@ TEST_F(InsertFormsTest, TheSlashWindowShowsTheDelayOfTheSetting)
 TEST_F(InsertFormsTest, TheSlashWindowThatIsOpenFollowsTheDelay)
 {
     const QDialog *palette = open(u"mnuSlashWindow", u"SlashWindow"_s);
-    settings.DefaultDLYvalue = 75;
+    settings.of<EditorSettings>().DefaultDLYvalue = 75;
     editor->applySettings();
     EXPECT_EQ(palette->findChild<QAbstractButton *>(u"Command1_10"_s)->text(), u"DLY(75)");
 }

@@ -3,6 +3,8 @@
 
 #include "editor/files/auto_save.h"
 
+#include "documents/document_settings.h"
+#include "editor/editor_settings.h"
 #include "editor/files/file_new.h"
 #include "editor/files/file_opening.h"
 #include "editor/files/file_saving.h"
@@ -26,11 +28,11 @@ class AutoSaveTest : public EditorTest
 protected:
     AutoSaveTest()
     {
-        settings.AutoSaveEnabled = 1;
-        settings.AutoSaveTime = 5;
-        settings.CreateBackup = 0;
-        settings.BackUpFolder = folder.file(u"Backup/"_s);
-        QDir().mkpath(settings.BackUpFolder);
+        settings.of<EditorSettings>().AutoSaveEnabled = true;
+        settings.of<EditorSettings>().AutoSaveTime = 5;
+        settings.of<EditorSettings>().CreateBackup = false;
+        settings.of<EditorSettings>().BackUpFolder = folder.file(u"Backup/"_s);
+        QDir().mkpath(settings.of<EditorSettings>().BackUpFolder);
     }
     AutoSave &guard() { return editor->guards().autoSave; }
     QString open(const QString &name, const QByteArray &bytes)
@@ -39,9 +41,9 @@ protected:
         editor->opening().OpenFavouriteFile(path);
         return path;
     }
-    QStringList backups() const
+    QStringList backups()
     {
-        return QDir(settings.BackUpFolder).entryList(QDir::Files, QDir::Name);
+        return QDir(settings.of<EditorSettings>().BackUpFolder).entryList(QDir::Files, QDir::Name);
     }
 };
 
@@ -91,7 +93,7 @@ TEST_F(AutoSaveTest, BothDocumentsAreSavedWithTheirColouredCopies)
 
 TEST_F(AutoSaveTest, CaretStampAndHistoryStayAsTheyAre)
 {
-    settings.UndoClearOnSave = 1;
+    settings.of<DocumentSettings>().UndoClearOnSave = true;
     open(u"a.tmj"_s, "Rem Last modified: long ago\r\nBTN S1 a");
     type(DocumentKind::Joystick, u"x"_s);
     editor->joystick().select(5, 3);
@@ -152,7 +154,8 @@ TEST_F(AutoSaveTest, AnotherProgramsUnnamedFileMovesAmongTheBackups)
 TEST_F(AutoSaveTest, AnUnnamedFileThatCannotMoveAsideStaysAndIsTold)
 {
     file(u"Untitled.tmj"_s, "yesterday's work");
-    settings.BackUpFolder = folder.write(u"file"_s, "no folder") + u"/below/"_s;
+    settings.of<EditorSettings>().BackUpFolder =
+        folder.write(u"file"_s, "no folder") + u"/below/"_s;
     type(DocumentKind::Joystick, u"BTN S1 a"_s);
     guard().AutoSaveFile();
     EXPECT_EQ(folder.read(u"Files/Untitled.tmj"_s), "yesterday's work");
@@ -190,14 +193,14 @@ TEST_F(AutoSaveTest, ItRunsOnlyWhenWantedAndAFreshDocumentStartsTheCount)
     EXPECT_EQ(guard().counted(), 1);
     editor->fresh().mnuFileNewJoystick_Click();
     EXPECT_EQ(guard().counted(), 0);
-    settings.AutoSaveEnabled = 0;
+    settings.of<EditorSettings>().AutoSaveEnabled = false;
     editor->fresh().mnuFileNewMacro_Click();
     EXPECT_FALSE(guard().runs());
 }
 
 TEST_F(AutoSaveTest, ABackupFollowsEachSaveOfEitherDocument)
 {
-    settings.CreateBackup = 1;
+    settings.of<EditorSettings>().CreateBackup = true;
     open(u"a.tmj"_s, "BTN S1 a");
     open(u"a.TMM"_s, "m = a");
     type(DocumentKind::Joystick, u"x"_s);
@@ -214,8 +217,8 @@ TEST_F(AutoSaveTest, ABackupFollowsEachSaveOfEitherDocument)
 
 TEST_F(AutoSaveTest, AnEmptyBackupFolderMeansTheOneBesideTheProgram)
 {
-    settings.CreateBackup = 1;
-    settings.BackUpFolder.clear();
+    settings.of<EditorSettings>().CreateBackup = true;
+    settings.of<EditorSettings>().BackUpFolder.clear();
     open(u"a.tmj"_s, "BTN S1 a");
     type(DocumentKind::Joystick, u"x"_s);
     editor->saving().mnuFileSave_Click();
@@ -224,8 +227,8 @@ TEST_F(AutoSaveTest, AnEmptyBackupFolderMeansTheOneBesideTheProgram)
 
 TEST_F(AutoSaveTest, ABackupThatCannotBeWrittenIsToldAndTheSaveHolds)
 {
-    settings.CreateBackup = 1;
-    settings.BackUpFolder = folder.file(u"nowhere/"_s);
+    settings.of<EditorSettings>().CreateBackup = true;
+    settings.of<EditorSettings>().BackUpFolder = folder.file(u"nowhere/"_s);
     const QString path = open(u"a.tmj"_s, "BTN S1 a");
     type(DocumentKind::Joystick, u"x"_s);
     editor->saving().mnuFileSave_Click();

@@ -9,6 +9,7 @@
 #include "editor/files/use_directives.h"
 #include "menus/menu_actions.h"
 #include "platform/core/rtf.h"
+#include "settings/shared_settings.h"
 #include "tests/documents/editor_fixture.h"
 
 #include <QAction>
@@ -305,13 +306,13 @@ TEST_F(FileExtremesTest, AFolderOfTheJoystickFilesNameIsNoPartner)
 
 TEST_F(FileExtremesTest, TheViewersGetThePictureAndTheReadmeOfTheFile)
 {
-    settings.ImageFilePath = u"Zeph.bmp"_s;
-    settings.TextFilePath = u"ReadMe.txt"_s;
+    settings.of<SharedSettings>().ImageFilePath = u"Zeph.bmp"_s;
+    settings.of<SharedSettings>().TextFilePath = u"ReadMe.txt"_s;
     file(u"falcon.bmp"_s, "x");
     opening().mnuFileJoystickLoad_Click(
         file(u"a.tmj"_s, "USE ZEPH GRAPHIC falcon.bmp\r\nUSE ZEPH README gone.txt"));
-    EXPECT_EQ(settings.ImageFilePath, folder.file(u"Files/falcon.bmp"_s));
-    EXPECT_EQ(settings.TextFilePath, u"ReadMe.txt");
+    EXPECT_EQ(settings.of<SharedSettings>().ImageFilePath, folder.file(u"Files/falcon.bmp"_s));
+    EXPECT_EQ(settings.of<SharedSettings>().TextFilePath, u"ReadMe.txt");
 }
 
 TEST_F(FileExtremesTest, RestoredFilesOpenByTheirExtension)

@@ -3,6 +3,7 @@
 
 #include "editor/files/file_saving.h"
 
+#include "editor/editor_settings.h"
 #include "editor/files/file_new.h"
 #include "editor/files/file_opening.h"
 #include "platform/core/rtf.h"
@@ -69,7 +70,7 @@ TEST_F(FileSavingTest, TheStampIsBroughtUpToDateAndIsNoEdit)
 
 TEST_F(FileSavingTest, WithoutUpdateModifiedTheStampStays)
 {
-    settings.UpdateModified = 0;
+    settings.of<EditorSettings>().UpdateModified = false;
     open(u"a.tmj"_s, "Rem Last modified: long ago");
     saving().mnuFileSave_Click();
     EXPECT_EQ(folder.read(u"Files/a.tmj"_s), "Rem Last modified: long ago");

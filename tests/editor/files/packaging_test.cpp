@@ -3,6 +3,7 @@
 
 #include "editor/files/packaging.h"
 
+#include "editor/editor_settings.h"
 #include "editor/files/file_opening.h"
 #include "menus/menu_actions.h"
 #include "tests/documents/editor_fixture.h"
@@ -172,7 +173,7 @@ TEST_F(PackagingTest, WithoutTheTickThereIsNoZip)
 
 TEST_F(PackagingTest, TheArchiverIsToldToPackTheFolder)
 {
-    settings.WinZipFilePath = u"/opt/winzip32.exe"_s;
+    settings.of<EditorSettings>().WinZipFilePath = u"/opt/winzip32.exe"_s;
     openSetup();
     QDialog *package = open();
     field(package, 0)->setText(u"Jet"_s);
@@ -377,7 +378,7 @@ TEST_F(PackagingTest, AZipThatIsDamagedFurtherOnIsToldAndWhatCameBeforeStays)
 
 TEST_F(PackagingTest, TheArchiverIsToldToOpenTheZip)
 {
-    settings.WinZipFilePath = u"/opt/winzip32.exe"_s;
+    settings.of<EditorSettings>().WinZipFilePath = u"/opt/winzip32.exe"_s;
     openZip("whatever");
     ASSERT_EQ(launcher.launches.size(), 1);
     EXPECT_EQ(launcher.launches.first().arguments,
@@ -388,7 +389,7 @@ TEST_F(PackagingTest, TheArchiverIsToldToOpenTheZip)
 
 TEST_F(PackagingTest, AnArchiverThatDoesNotStartIsTold)
 {
-    settings.WinZipFilePath = u"/opt/winzip32.exe"_s;
+    settings.of<EditorSettings>().WinZipFilePath = u"/opt/winzip32.exe"_s;
     launcher.onStart = [](const Launch &) -> Expected<void, QString> {
         return Unexpected<QString>(u"gone"_s);
     };

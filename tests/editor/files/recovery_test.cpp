@@ -3,11 +3,13 @@
 
 #include "editor/files/recovery.h"
 
+#include "editor/editor_settings.h"
 #include "editor/files/auto_save.h"
 #include "editor/files/file_new.h"
 #include "editor/files/file_opening.h"
 #include "editor/files/file_saving.h"
 #include "editor/files/loss_guards.h"
+#include "settings/shared_settings.h"
 #include "tests/documents/editor_fixture.h"
 
 #include <QFile>
@@ -25,8 +27,8 @@ class RecoveryTest : public EditorTest
 protected:
     RecoveryTest()
     {
-        settings.PilotCallsign = u"buddy"_s;
-        settings.BackUpFolder = folder.file(u"Backup/"_s);
+        settings.of<SharedSettings>().PilotCallsign = u"buddy"_s;
+        settings.of<EditorSettings>().BackUpFolder = folder.file(u"Backup/"_s);
     }
     Recovery &recovery() { return editor->guards().recovery; }
     QString parent() const { return folder.file(u"Recovery"_s); }
@@ -177,7 +179,8 @@ TEST_F(RecoveryTest, ASecondTextOfTheKindDoesNotPushTheFirstOut)
     dialogs.answer(offerTitle, BoxButton::Yes);
     recovery().offerLeft();
     EXPECT_EQ(editor->macroText(), u"third");
-    const QStringList backups = QDir(settings.BackUpFolder).entryList(QDir::Files, QDir::Name);
+    const QStringList backups =
+        QDir(settings.of<EditorSettings>().BackUpFolder).entryList(QDir::Files, QDir::Name);
     ASSERT_EQ(backups.size(), 1);
     // Which of the two runs is the later one is the file system's word.
     const bool firstShown = editor->joystickText() == u"first"_s;
@@ -239,7 +242,7 @@ TEST_F(RecoveryTest, ASaveFindsTheRecoveryFileAsNewAsItself)
     recovery().update();
     type(DocumentKind::Joystick, u"y"_s);
     std::optional<RecoveredText> rightBehind;
-    QObject::connect(&editor->saving(), &FileSaving::written, editor.get(),
+    QObject::connect(&editor->joystick(), &Document::aboutToBeWritten, editor.get(),
                      [&] { rightBehind = kept(u"1/joystick.txt"_s); });
     editor->saving().mnuFileSave_Click();
     ASSERT_TRUE(rightBehind);
@@ -284,7 +287,7 @@ TEST_F(RecoveryTest, ATextThatAFallenRunHadTakenBackItselfIsOfferedOnce)
     dialogs.answer(offerTitle, BoxButton::Yes);
     recovery().offerLeft();
     EXPECT_EQ(editor->joystickText(), u"BTN S1 more");
-    EXPECT_TRUE(QDir(settings.BackUpFolder).entryList(QDir::Files).isEmpty());
+    EXPECT_TRUE(QDir(settings.of<EditorSettings>().BackUpFolder).entryList(QDir::Files).isEmpty());
     EXPECT_FALSE(QFile::exists(parent() + u"/7"_s));
     EXPECT_FALSE(QFile::exists(parent() + u"/8"_s));
 }

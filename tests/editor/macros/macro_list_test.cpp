@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The Zeph authors
 // SPDX-License-Identifier: MIT
 
+#include "editor/editor_settings.h"
 #include "editor/files/file_new.h"
 #include "editor/files/file_opening.h"
 #include "editor/files/file_saving.h"
@@ -8,6 +9,7 @@
 #include "editor/macros/macro_features.h"
 #include "menus/menu_actions.h"
 #include "platform/core/profile_file.h"
+#include "settings/colour_settings.h"
 #include "tests/documents/editor_fixture.h"
 
 #include <QAction>
@@ -289,7 +291,7 @@ TEST_F(MacroListTest, TheChosenMacroIsHighlightedInTheMacroTextWhereItIsSeen)
     click(u"Fire"_s);
     EXPECT_EQ(editor->macro().selLength(), 0);
     highlight->trigger();
-    EXPECT_EQ(settings.MacroHighlightedInMacroFile, 1);
+    EXPECT_EQ(settings.of<EditorSettings>().MacroHighlightedInMacroFile, 1);
     click(u"Fire"_s);
     EXPECT_EQ(macro()->textCursor().selectedText(), u"Fire = SPC");
     EXPECT_EQ(editor->macro().selStart(), editor->macroText().indexOf(u"Fire = SPC"));
@@ -349,7 +351,7 @@ TEST_F(MacroListTest, ADoubleClickReplacesTheSelection)
 
 TEST_F(MacroListTest, AnInsertedNameHasThePlainColourOfItsDocument)
 {
-    settings.JoystickTextDefaultColour = 0x112233;
+    settings.of<ColourSettings>().JoystickTextDefaultColour = 0x112233;
     editor->applySettings();
     openMacros();
     openJoystick("x");
@@ -620,7 +622,7 @@ TEST_F(MacroListTest, TheLeftEdgeDragsTheWidthWhichIsStoredAtOnce)
         return widthBefore;
     };
     EXPECT_EQ(dragBy(-65), 250);
-    EXPECT_EQ(settings.MacroFrameWidth, 250);
+    EXPECT_EQ(settings.of<EditorSettings>().MacroFrameWidth, 250);
     const ProfileFile store(paths.iniPath);
     EXPECT_EQ(store.text(u"Miscellaneous", u"MacroFrameWidth"), u"250");
     EXPECT_EQ(dragBy(300), 185);
@@ -629,11 +631,11 @@ TEST_F(MacroListTest, TheLeftEdgeDragsTheWidthWhichIsStoredAtOnce)
 
 TEST_F(MacroListTest, AWidthOfTheSettingsIsTakenOverAndNeverBelowTheNarrowest)
 {
-    settings.MacroFrameWidth = 300;
+    settings.of<EditorSettings>().MacroFrameWidth = 300;
     editor->applySettings();
     QTest::qWait(0);
     EXPECT_EQ(frame()->width(), 300);
-    settings.MacroFrameWidth = 20;
+    settings.of<EditorSettings>().MacroFrameWidth = 20;
     editor->applySettings();
     QTest::qWait(0);
     EXPECT_EQ(frame()->width(), 185);
@@ -663,10 +665,10 @@ TEST_F(MacroListTest, ALoadedMacroFileBringsAHiddenListBack)
 
 TEST_F(MacroListTest, ItsColoursComeFromTheSettings)
 {
-    settings.MacroListBackground = 0x0000FF;
-    settings.MacroListText = 0x00FF00;
-    settings.MacroHeadingsBackground = 0x800000;
-    settings.MacroHeadingsText = 0xC0FFFF;
+    settings.of<ColourSettings>().MacroListBackground = 0x0000FF;
+    settings.of<ColourSettings>().MacroListText = 0x00FF00;
+    settings.of<ColourSettings>().MacroHeadingsBackground = 0x800000;
+    settings.of<ColourSettings>().MacroHeadingsText = 0xC0FFFF;
     editor->applySettings();
     EXPECT_EQ(list()->palette().color(QPalette::Base), QColor(255, 0, 0));
     EXPECT_EQ(list()->palette().color(QPalette::Text), QColor(0, 255, 0));
@@ -694,7 +696,7 @@ TEST_F(MacroListTest, UpdatingDoesNothingForATextWithoutAMacro)
 
 TEST_F(MacroListTest, UpdatingAModifiedFileSavesItFirst)
 {
-    settings.MacroSaveIdentifyJF = 0;
+    settings.of<EditorSettings>().MacroSaveIdentifyJF = false;
     editor->applySettings();
     openMacros("Fire = SPC\r\n");
     type(DocumentKind::Macro, u"New = n\n"_s);
@@ -748,8 +750,8 @@ TEST_F(MacroListTest, ASaveLeavesTheListAloneWhereThatIsWanted)
     openMacros("Fire = SPC\r\n");
     editor->action(u"mnuMacrosSaveOptions_0")->trigger();
     editor->action(u"mnuMacrosSaveOptions_1")->trigger();
-    EXPECT_EQ(settings.MacroSaveUpdateMacros, 0);
-    EXPECT_EQ(settings.MacroSaveIdentifyJF, 0);
+    EXPECT_EQ(settings.of<EditorSettings>().MacroSaveUpdateMacros, 0);
+    EXPECT_EQ(settings.of<EditorSettings>().MacroSaveIdentifyJF, 0);
     type(DocumentKind::Macro, u"New = n\n"_s);
     editor->saving().mnuFileSave_Click();
     EXPECT_EQ(names(), QStringList{ u"Fire"_s });

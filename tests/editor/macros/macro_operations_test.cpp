@@ -3,11 +3,13 @@
 
 #include "editor/macros/macro_operations.h"
 
+#include "editor/editor_settings.h"
 #include "editor/files/file_opening.h"
 #include "editor/macros/framemacros.h"
 #include "editor/macros/macro_features.h"
 #include "editor/macros/macrorenameform.h"
 #include "menus/menu_actions.h"
+#include "settings/shared_settings.h"
 #include "tests/documents/editor_fixture.h"
 
 #include <QAction>
@@ -366,8 +368,8 @@ TEST_F(MacroOperationsTest, TheSameNameInAnyCaseIsRefusedAndTheWindowStays)
 TEST_F(MacroOperationsTest, ARenameWithAutomaticSavingSavesUpdatesAndTicks)
 {
     open("BTN S1 Fire\r\n", "Fire = SPC\r\nIdle = i\r\n");
-    settings.MacroSaveUpdateMacros = 0;
-    settings.MacroSaveIdentifyJF = 0;
+    settings.of<EditorSettings>().MacroSaveUpdateMacros = false;
+    settings.of<EditorSettings>().MacroSaveIdentifyJF = false;
     editor->applySettings();
     list().SelectedMacro = u"Fire"_s;
     answerRename([](MacroRenameForm &form) {
@@ -427,7 +429,7 @@ TEST_F(MacroOperationsTest, TheMouseShowsNothingWhenItIsNotWanted)
 {
     open("BTN S1 Fire\r\n", "Fire = SPC\r\n");
     editor->action(u"mnuMacroMouseActive")->trigger();
-    EXPECT_EQ(settings.MacroWithMouse, 0);
+    EXPECT_EQ(settings.of<SharedSettings>().MacroWithMouse, 0);
     const QString before = status.text();
     moveMouseTo(placeOf(8));
     EXPECT_EQ(status.text(), before);

@@ -4,6 +4,7 @@
 #include "toolchain/compile/after_download.h"
 
 #include "tests/toolchain/toolchain_bench.h"
+#include "toolchain/toolchain_settings.h"
 
 using namespace zeph;
 
@@ -50,7 +51,7 @@ TEST_F(AfterDownloadTest, AnApplicationStartsInTheRootOfItsDrive)
 
 TEST_F(AfterDownloadTest, WithRunAppsWithDownloadSetNothingStartsWhateverTheFileSays)
 {
-    settings.RunAppsWithDownload = 1;
+    settings.of<ToolchainSettings>().RunAppsWithDownload = true;
     after.GetAppsToRun(text());
     EXPECT_TRUE(launcher.launches.isEmpty());
     EXPECT_FALSE(folder.exists(u"Temp/Original.txt"_s));

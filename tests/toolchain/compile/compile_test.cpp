@@ -4,6 +4,7 @@
 #include "toolchain/compile/compile.h"
 
 #include "tests/toolchain/compiler_bench.h"
+#include "toolchain/toolchain_settings.h"
 
 #include <QFile>
 
@@ -187,7 +188,7 @@ TEST_F(CompileTest, AnErrorWithoutALineOpensItsHelpOnly)
 
 TEST_F(CompileTest, WithTheStatusBarAloneAFailureShowsNoWindowYetItsLine)
 {
-    settings.HOTASStatusBarErrors = 1;
+    settings.of<ToolchainSettings>().HOTASStatusBarErrors = true;
     statusWritten = u"ERROR"_s;
     lineWritten = u"5"_s;
     compile();
@@ -197,7 +198,7 @@ TEST_F(CompileTest, WithTheStatusBarAloneAFailureShowsNoWindowYetItsLine)
 
 TEST_F(CompileTest, WithTheStatusBarAloneASuccessComesWithoutABox)
 {
-    settings.HOTASStatusBarErrors = 1;
+    settings.of<ToolchainSettings>().HOTASStatusBarErrors = true;
     compile();
     EXPECT_EQ(status.text(), u"Compiled successfully. (Memory used: 4%)");
     EXPECT_TRUE(dialogs.boxes().isEmpty());
@@ -255,7 +256,7 @@ TEST_F(CompileTest, TheVerdictIsAboutTheFileThatWasCompiled)
 
 TEST_F(CompileTest, ASecondCompileDuringTheFirstTellsTheSameVerdictForBoth)
 {
-    settings.HOTASStatusBarErrors = 1;
+    settings.of<ToolchainSettings>().HOTASStatusBarErrors = true;
     const auto single = afterTick;
     afterTick = [this, single](int count) {
         if (count == 1) {

@@ -4,6 +4,8 @@
 #include "toolchain/compile/download.h"
 
 #include "tests/toolchain/compiler_bench.h"
+#include "toolchain/default_options.h"
+#include "toolchain/toolchain_settings.h"
 
 using namespace zeph;
 using zeph::test::hangOn;
@@ -24,8 +26,8 @@ class DownloadTest : public test::CompilerBench
 protected:
     DownloadTest()
     {
-        settings.DownloadMode = 1;
-        settings.RunKeyTest = 0;
+        settings.of<DefaultOptions>().DownloadMode = true;
+        settings.of<ToolchainSettings>().RunKeyTest = false;
         joystick.setText(u"BTN S1 x\nUSE ZEPH RUN_APP "_s + app);
         detectMode();
     }
@@ -117,7 +119,7 @@ TEST_F(DownloadTest, AnEmptyMacroTextWithItsChangedFlagSetGivesNoWarning)
 
 TEST_F(DownloadTest, TheStoredProfileGoesFirstWhenAxesAreReset)
 {
-    settings.UseResetProfile = 1;
+    settings.of<ToolchainSettings>().UseResetProfile = true;
     dialogs.answer(success, BoxButton::Ok);
     download();
     EXPECT_TRUE(launcher.launches[0].arguments.contains(u"/P\"Default.tmc\""));
@@ -128,7 +130,7 @@ TEST_F(DownloadTest, TheStoredProfileGoesFirstWhenAxesAreReset)
 
 TEST_F(DownloadTest, TheProgramsEndDuringTheProfileEndsTheDownload)
 {
-    settings.UseResetProfile = 1;
+    settings.of<ToolchainSettings>().UseResetProfile = true;
     QTimer::singleShot(0, &mainWindow, [this] { handshake.reset(); });
     download();
     EXPECT_EQ(done, QStringList{ configStarts });
@@ -138,7 +140,7 @@ TEST_F(DownloadTest, EnablesProgrammedModeByTheTick)
 {
     for (const auto &[ticked, name] :
          { std::pair(1, u"/ZEPH /CE \""), std::pair(0, u"/ZEPH /CD \"") }) {
-        settings.DownloadMode = qint16(ticked);
+        settings.of<DefaultOptions>().DownloadMode = int(ticked);
         dialogs.answer(success, BoxButton::Ok);
         download();
         const Launch &launch = launcher.launches[launcher.launches.size() - 2];
@@ -187,7 +189,7 @@ TEST_F(DownloadTest, SuccessIsToldWithBothTimes)
 
 TEST_F(DownloadTest, WithTheStatusBarAloneASuccessComesWithoutABox)
 {
-    settings.HOTASStatusBarErrors = 1;
+    settings.of<ToolchainSettings>().HOTASStatusBarErrors = true;
     download();
     EXPECT_EQ(status.text(), u"Compiled successfully. (Memory used: 4%)");
     EXPECT_EQ(done, (QStringList{ locks, compilerStarts, mode, appStarts, focus, unlocks }));
@@ -195,7 +197,7 @@ TEST_F(DownloadTest, WithTheStatusBarAloneASuccessComesWithoutABox)
 
 TEST_F(DownloadTest, TheNumLockHelperComesBeforeTheSuccessIsTold)
 {
-    settings.NumlockDownloadMode = 1;
+    settings.of<ToolchainSettings>().NumlockDownloadMode = true;
     const QString numLock = u"start ZephNUMLon.exe"_s;
     launcher.onStart = [&, this](const Launch &launch) {
         const auto started = start(launch);
@@ -213,7 +215,7 @@ TEST_F(DownloadTest, TheNumLockHelperComesBeforeTheSuccessIsTold)
 
 TEST_F(DownloadTest, TheKeyTesterOpensBehindTheApplicationsWithTheTextEditable)
 {
-    settings.RunKeyTest = 1;
+    settings.of<ToolchainSettings>().RunKeyTest = true;
     dialogs.answer(success, BoxButton::Ok);
     download();
     EXPECT_EQ(done,
@@ -222,8 +224,8 @@ TEST_F(DownloadTest, TheKeyTesterOpensBehindTheApplicationsWithTheTextEditable)
 
 TEST_F(DownloadTest, WithoutProgrammedModeNoKeyTesterOpensWhateverItsTick)
 {
-    settings.RunKeyTest = 1;
-    settings.DownloadMode = 0;
+    settings.of<ToolchainSettings>().RunKeyTest = true;
+    settings.of<DefaultOptions>().DownloadMode = false;
     dialogs.answer(success, BoxButton::Ok);
     download();
     EXPECT_EQ(done.count(tester), 0);
@@ -231,8 +233,8 @@ TEST_F(DownloadTest, WithoutProgrammedModeNoKeyTesterOpensWhateverItsTick)
 
 TEST_F(DownloadTest, AnErrorOpensItsHelpAndShowsItsLineInAnEditableText)
 {
-    settings.RunKeyTest = 1;
-    settings.NumlockDownloadMode = 1;
+    settings.of<ToolchainSettings>().RunKeyTest = true;
+    settings.of<ToolchainSettings>().NumlockDownloadMode = true;
     statusWritten = u"ERROR"_s;
     lineWritten = u"5"_s;
     download();
@@ -255,7 +257,7 @@ TEST_F(DownloadTest, AnErrorWithoutALineOpensItsHelpOnlyAndFreesTheText)
 
 TEST_F(DownloadTest, WithTheStatusBarAloneAFailureShowsNoWindowYetItsLine)
 {
-    settings.HOTASStatusBarErrors = 1;
+    settings.of<ToolchainSettings>().HOTASStatusBarErrors = true;
     statusWritten = u"ERROR"_s;
     lineWritten = u"5"_s;
     download();
@@ -308,7 +310,7 @@ TEST_F(DownloadTest, OverTwoSecondsTheStatusWindowShowsAndClosesAtTheEnd)
             writeVerdict();
         }
     };
-    settings.HOTASStatusBarErrors = 1;
+    settings.of<ToolchainSettings>().HOTASStatusBarErrors = true;
     bool shownAtTheMode = true;
     QObject::connect(&status, &StatusLine::modePictureChanged, &status,
                      [&] { shownAtTheMode = handshake->StatusWindowShown(); });
@@ -340,7 +342,7 @@ TEST_F(DownloadTest, TheVerdictIsAboutTheFileThatWasSent)
 
 TEST_F(DownloadTest, AFailureBehindTheWaitFreesTheText)
 {
-    settings.HOTASStatusBarErrors = 1;
+    settings.of<ToolchainSettings>().HOTASStatusBarErrors = true;
     launcher.onStart = [this](const Launch &launch) {
         if (launch.program == app) {
             throw std::runtime_error("no good");
@@ -354,7 +356,7 @@ TEST_F(DownloadTest, AFailureBehindTheWaitFreesTheText)
 
 TEST_F(DownloadTest, ASecondDownloadDuringTheFirstTellsTheSameVerdictForBoth)
 {
-    settings.HOTASStatusBarErrors = 1;
+    settings.of<ToolchainSettings>().HOTASStatusBarErrors = true;
     Download command(context, parts());
     afterTick = [&](int count) {
         if (count == 1) {
@@ -372,7 +374,7 @@ TEST_F(DownloadTest, ASecondDownloadDuringTheFirstTellsTheSameVerdictForBoth)
 
 TEST_F(DownloadTest, ASecondDownloadThatDoesNotStartLeavesTheFirstOnesTextLocked)
 {
-    settings.HOTASStatusBarErrors = 1;
+    settings.of<ToolchainSettings>().HOTASStatusBarErrors = true;
     dialogs.answer(u"Unable to run the Thrustmaster software"_s, BoxButton::Ok);
     Download command(context, parts());
     afterTick = [&](int count) {

@@ -5,6 +5,7 @@
 
 #include "tests/toolchain/compiler_bench.h"
 #include "toolchain/games/games.h"
+#include "toolchain/toolchain_settings.h"
 
 using namespace zeph;
 
@@ -146,7 +147,7 @@ TEST_F(GameLaunchTest, AnyOtherModeJustStartsTheGame)
 
 TEST_F(GameLaunchTest, TheStoredProfileGoesFirstWhenAxesAreReset)
 {
-    settings.UseResetProfile = 1;
+    settings.of<ToolchainSettings>().UseResetProfile = true;
     launch();
     EXPECT_EQ(done.mid(0, 3), QStringList({ save, configStarts, compilerStarts }));
     done.clear();
@@ -160,7 +161,7 @@ TEST_F(GameLaunchTest, TheStoredProfileGoesFirstWhenAxesAreReset)
 
 TEST_F(GameLaunchTest, NumLockIsTurnedOnAfterAGoodDownloadOnly)
 {
-    settings.NumlockDownloadMode = 1;
+    settings.of<ToolchainSettings>().NumlockDownloadMode = true;
     launch();
     EXPECT_LT(done.indexOf(u"start ZephNUMLon.exe"_s), done.indexOf(appStarts));
     EXPECT_TRUE(done.contains(u"start ZephNUMLon.exe"_s));
@@ -173,7 +174,7 @@ TEST_F(GameLaunchTest, NumLockIsTurnedOnAfterAGoodDownloadOnly)
 TEST_F(GameLaunchTest, AMissingFileEndsTheLaunch)
 {
     game.GameJF = u"/nowhere/a.tmj"_s;
-    settings.UseResetProfile = 1;
+    settings.of<ToolchainSettings>().UseResetProfile = true;
     dialogs.answer(u"Aborting game launch"_s, BoxButton::Ok);
     launch();
     EXPECT_EQ(done, QStringList{ save });
@@ -221,7 +222,7 @@ TEST_F(GameLaunchTest, AnErrorWithoutALineHighlightsNone)
 TEST_F(GameLaunchTest, WithStatusBarErrorsTheLineIsShownWithoutTheWindow)
 {
     statusWritten = u"ERROR"_s;
-    settings.HOTASStatusBarErrors = 1;
+    settings.of<ToolchainSettings>().HOTASStatusBarErrors = true;
     launch();
     EXPECT_EQ(done.last(), u"highlight 7 ERROR 1002: no such button");
     EXPECT_FALSE(done.contains(u"help ERROR 1002: no such button"_s));

@@ -5,6 +5,7 @@
 
 #include "platform/fakes/fake_joystick.h"
 #include "tests/toolchain/toolchain_bench.h"
+#include "toolchain/toolchain_settings.h"
 
 #include <QFile>
 #include <QSignalSpy>
@@ -22,7 +23,7 @@ class CougarModesTest : public test::ToolchainBench
 protected:
     CougarModesTest() : modes(context, *handshake, joystick)
     {
-        settings.StatusMonitoringInterval = 3;
+        settings.of<ToolchainSettings>().StatusMonitoringInterval = 3;
         timer = modes.findChild<QTimer *>(u"TimerStickMode"_s);
         QObject::connect(&status, &StatusLine::textChanged, &status,
                          [this](const QString &text) { panel.append(text); });
@@ -192,7 +193,7 @@ TEST_F(CougarModesTest, AWaitedRequestShowsTheReportAtItsEndWithTheSelectorOn)
 
 TEST_F(CougarModesTest, ASilentToolIsGivenUpWithAMessage)
 {
-    settings.RegainControlAfter = u"2000"_s;
+    settings.of<ToolchainSettings>().RegainControlAfter = 2000;
     dialogs.answer(timeOutTitle, BoxButton::Ok);
     EXPECT_TRUE(modes.changeWholeMode(false));
     EXPECT_EQ(modeTicks, 3);
@@ -230,7 +231,7 @@ TEST_F(CougarModesTest, Interval33OverflowsAndLeavesTheDetectorOff)
 {
     modes.EnableStatusTimer();
     ASSERT_TRUE(modes.detectorRuns());
-    settings.StatusMonitoringInterval = 33;
+    settings.of<ToolchainSettings>().StatusMonitoringInterval = 33;
     reported(0, 1);
     try {
         modes.EnableStatusTimer();
@@ -244,7 +245,7 @@ TEST_F(CougarModesTest, Interval33OverflowsAndLeavesTheDetectorOff)
 
 TEST_F(CougarModesTest, Interval32Works)
 {
-    settings.StatusMonitoringInterval = 32;
+    settings.of<ToolchainSettings>().StatusMonitoringInterval = 32;
     modes.EnableStatusTimer();
     EXPECT_TRUE(modes.detectorRuns());
     EXPECT_EQ(timer->interval(), 32000);
@@ -253,7 +254,7 @@ TEST_F(CougarModesTest, Interval32Works)
 TEST_F(CougarModesTest, ARunningDetectorTakesANewIntervalUpAtItsNextEnabling)
 {
     modes.EnableStatusTimer();
-    settings.StatusMonitoringInterval = 5;
+    settings.of<ToolchainSettings>().StatusMonitoringInterval = 5;
     modes.ShowCougarMode();
     EXPECT_EQ(timer->interval(), 3000);
     modes.EnableStatusTimer();
@@ -321,7 +322,7 @@ TEST_F(CougarModesTest, LeftClicksByPicture)
 
 TEST_F(CougarModesTest, WithPureWindowsAClickChangesTheAxesToo)
 {
-    settings.PureWindows = 1;
+    settings.of<ToolchainSettings>().PureWindows = true;
     answerModeRequests();
     showPicture(2);
     modes.panelClicked(Qt::LeftButton);
@@ -337,7 +338,7 @@ TEST_F(CougarModesTest, WithPureWindowsAClickChangesTheAxesToo)
 
 TEST_F(CougarModesTest, AClickThatTheProgramsEndOvertakesEnablesNothing)
 {
-    settings.PureWindows = 1;
+    settings.of<ToolchainSettings>().PureWindows = true;
     showPicture(2);
     afterModeTick = [this](int) {
         QTimer::singleShot(0, &mainWindow, [this] { handshake.reset(); });
@@ -380,8 +381,8 @@ TEST_F(CougarModesTest, WithoutJoyTestConnectAnUnpluggedCougarKeepsTheLastPictur
 
 TEST_F(CougarModesTest, WithJoyTestConnectAnUnpluggedCougarIsUnknownUntilItIsBack)
 {
-    settings.JoyTestConnect = 1;
-    settings.JoyIDnumber = 2;
+    settings.of<ToolchainSettings>().JoyTestConnect = true;
+    settings.of<ToolchainSettings>().JoyIDnumber = 2;
     reported(1, 1);
     modes.ShowCougarMode();
     EXPECT_EQ(status.modePicture(), 3);
@@ -446,13 +447,13 @@ TEST_F(CougarModesTest, TheStartAsksAndDetectsWhatTheSettingsWant)
     EXPECT_FALSE(modes.detectorRuns());
     EXPECT_EQ(status.modePicture(), 1);
 
-    settings.SynchroniseModeOnStartup = 1;
+    settings.of<ToolchainSettings>().SynchroniseModeOnStartup = true;
     modes.startOfRun();
     EXPECT_EQ(requests(), QStringList(u"/MODE /ZEPH /NM"_s));
     EXPECT_FALSE(modes.detectorRuns());
 
-    settings.SynchroniseModeOnStartup = 0;
-    settings.StatusDetectOnStartup = 1;
+    settings.of<ToolchainSettings>().SynchroniseModeOnStartup = false;
+    settings.of<ToolchainSettings>().StatusDetectOnStartup = true;
     reported(0, 1);
     modes.startOfRun();
     EXPECT_EQ(launcher.launches.size(), 1);

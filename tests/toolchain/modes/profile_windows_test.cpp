@@ -7,6 +7,7 @@
 
 #include "platform/control_array.h"
 #include "tests/toolchain/toolchain_bench.h"
+#include "toolchain/toolchain_settings.h"
 
 #include <QListWidget>
 #include <QPushButton>
@@ -24,9 +25,9 @@ class ProfileWindows : public test::ToolchainBench
 protected:
     ProfileWindows()
     {
-        settings.ResetProfile = u"default"_s;
-        settings.ResetCalibrate = 1;
-        settings.UseResetProfile = 0;
+        settings.of<ToolchainSettings>().ResetProfile = u"default"_s;
+        settings.of<ToolchainSettings>().ResetCalibrate = true;
+        settings.of<ToolchainSettings>().UseResetProfile = false;
     }
     void writeProfiles() const
     {
@@ -82,9 +83,9 @@ TEST_F(ProfileWindows, OkOfTheResetOptionsStoresTheChoiceAndSwitchesTheResetOn)
     option(form, 0).setChecked(true);
     button(form, u"CMD_OK"_s).click();
     EXPECT_EQ(form.result(), QDialog::Accepted);
-    EXPECT_EQ(settings.ResetProfile, u"Alpine"_s);
-    EXPECT_EQ(settings.ResetCalibrate, 0);
-    EXPECT_EQ(settings.UseResetProfile, 1);
+    EXPECT_EQ(settings.of<ToolchainSettings>().ResetProfile, u"Alpine"_s);
+    EXPECT_EQ(settings.of<ToolchainSettings>().ResetCalibrate, 0);
+    EXPECT_EQ(settings.of<ToolchainSettings>().UseResetProfile, 1);
 }
 
 TEST_F(ProfileWindows, CancelOfTheResetOptionsChangesNothing)
@@ -95,14 +96,14 @@ TEST_F(ProfileWindows, CancelOfTheResetOptionsChangesNothing)
     form.ShowResetValues();
     list(form).setCurrentRow(0);
     button(form, u"CMD_Cancel"_s).click();
-    EXPECT_EQ(settings.ResetProfile, u"default"_s);
-    EXPECT_EQ(settings.UseResetProfile, 0);
+    EXPECT_EQ(settings.of<ToolchainSettings>().ResetProfile, u"default"_s);
+    EXPECT_EQ(settings.of<ToolchainSettings>().UseResetProfile, 0);
 }
 
 TEST_F(ProfileWindows, AStoredProfileThatIsGoneLeavesNothingSelectedAndNothingToPress)
 {
     writeProfiles();
-    settings.ResetProfile = u"Gone"_s;
+    settings.of<ToolchainSettings>().ResetProfile = u"Gone"_s;
     FormResetOptions form(context);
     form.UpdateProfiles();
     form.ShowResetValues();
@@ -140,9 +141,9 @@ TEST_F(ProfileWindows, DownloadingAProfileDoesNotChangeTheStoredOne)
     EXPECT_EQ(form.result(), QDialog::Accepted);
     EXPECT_EQ(form.profile(), u"Alpine"_s);
     EXPECT_EQ(form.calibration(), CalibrationRequest::Auto);
-    EXPECT_EQ(settings.ResetProfile, u"default"_s);
-    EXPECT_EQ(settings.ResetCalibrate, 1);
-    EXPECT_EQ(settings.UseResetProfile, 0);
+    EXPECT_EQ(settings.of<ToolchainSettings>().ResetProfile, u"default"_s);
+    EXPECT_EQ(settings.of<ToolchainSettings>().ResetCalibrate, 1);
+    EXPECT_EQ(settings.of<ToolchainSettings>().UseResetProfile, 0);
 }
 
 TEST_F(ProfileWindows, ADoubleClickOnAProfileDownloadsIt)

@@ -4,6 +4,7 @@
 #include "toolchain/modes/profiles.h"
 
 #include "tests/toolchain/toolchain_bench.h"
+#include "toolchain/toolchain_settings.h"
 
 #include <QDir>
 #include <QFile>
@@ -20,7 +21,7 @@ class ProfilesTest : public test::ToolchainBench
 protected:
     ProfilesTest()
     {
-        settings.ResetProfile = u"Default"_s;
+        settings.of<ToolchainSettings>().ResetProfile = u"Default"_s;
         folder.write(u"Profiles/Default.tmc"_s, "x");
         folder.write(u"Profiles/Rudder only.tmc"_s, "x");
     }
@@ -57,17 +58,20 @@ TEST_F(ProfilesTest, AnEmptyNameMeansTheStoredProfile)
 TEST_F(ProfilesTest, TheRequestForcesTheCalibrationAndAnyOtherTakesTheStoredOne)
 {
     struct Row {
-        qint16 stored;
+        bool stored;
         CalibrationRequest request;
         QString expected;
     };
     const Row rows[] = {
-        { 0, CalibrationRequest::Stored, u"/DA"_s }, { 1, CalibrationRequest::Stored, u"/DM"_s },
-        { 1, CalibrationRequest::Auto, u"/DA"_s },   { 0, CalibrationRequest::Manual, u"/DM"_s },
-        { 0, CalibrationRequest(7), u"/DA"_s },      { 1, CalibrationRequest(7), u"/DM"_s },
+        { false, CalibrationRequest::Stored, u"/DA"_s },
+        { true, CalibrationRequest::Stored, u"/DM"_s },
+        { true, CalibrationRequest::Auto, u"/DA"_s },
+        { false, CalibrationRequest::Manual, u"/DM"_s },
+        { false, CalibrationRequest(7), u"/DA"_s },
+        { true, CalibrationRequest(7), u"/DM"_s },
     };
     for (const Row &row : rows) {
-        settings.ResetCalibrate = row.stored;
+        settings.of<ToolchainSettings>().ResetCalibrate = row.stored;
         EXPECT_TRUE(profiles().ApplyDefaultProfile({}, row.request));
         EXPECT_TRUE(launcher.launches.last().arguments.endsWith(row.expected))
             << row.stored << ' ' << int(row.request);
@@ -116,7 +120,7 @@ TEST_F(ProfilesTest, AMissingToolIsTold)
 
 TEST_F(ProfilesTest, AMissingStoredProfileIsToldWithTheWayToChooseAnother)
 {
-    settings.ResetProfile = u"Gone"_s;
+    settings.of<ToolchainSettings>().ResetProfile = u"Gone"_s;
     dialogs.answer(noProfile, BoxButton::Ok);
     // The caller goes on: only the profile's step has stopped.
     EXPECT_TRUE(profiles().ApplyDefaultProfile());

@@ -1,0 +1,96 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#include "settings/colour_settings.h"
+
+#include <array>
+
+namespace zeph {
+
+namespace {
+
+using S = ColourSettings;
+
+/// A row of the section Colours.
+template <class... Rest> constexpr SettingRow<S> colourRow(QStringView key, Rest... rest)
+{
+    SettingRow<S> result = row(u"Colours", key, rest...);
+    result.step = SettingsStep::Colours;
+    return result;
+}
+
+constexpr SettingRow<S> at(ColorRef firstRun, SettingRow<S> row)
+{
+    row.firstRun = firstRun;
+    return row;
+}
+
+// What a deleted colour key reads as; not the first run's colour, so that the loss is seen.
+constexpr ColorRef lost = 16744448;
+
+constexpr ColorRef black = 0;
+
+constexpr std::array rows = {
+    at(14285565, colourRow(u"BackgroundColour", &S::BackgroundColour, lost)),
+    at(16711680, colourRow(u"BTNColour", &S::BTNColour, lost)),
+    at(255, colourRow(u"SlashColour", &S::SlashColour, lost)),
+    at(32768, colourRow(u"RAWColour", &S::RAWColour, lost)),
+    at(12615680, colourRow(u"MiscellaneousColour", &S::MiscellaneousColour, lost)),
+    at(16645091, colourRow(u"MacroBackgroundColour", &S::MacroBackgroundColour, lost)),
+    at(8421504, colourRow(u"RemStatements", &S::RemStatements, lost)),
+    colourRow(u"JoystickTextDefaultColour", &S::JoystickTextDefaultColour, black, SavedAs{ 52 }),
+    colourRow(u"MacroTextDefaultColour", &S::MacroTextDefaultColour, black, SavedAs{ 53 }),
+    at(11779289, colourRow(u"MacroListBackground", &S::MacroListBackground, ColorRef(16777215))),
+    colourRow(u"MacroListText", &S::MacroListText, black),
+    colourRow(u"MacroHeadingsBackground", &S::MacroHeadingsBackground, ColorRef(8388608)),
+    colourRow(u"MacroHeadingsText", &S::MacroHeadingsText, ColorRef(12648447)),
+    colourRow(u"TextFontName", &S::TextFontName, u"Arial"),
+    colourRow(u"TextFontSize", &S::TextFontSize, 8.0, anyNumber),
+    colourRow(u"TextFontBold", &S::TextFontBold, false),
+};
+
+} // namespace
+
+ColourSettings::ColourSettings()
+{
+    setDefaults(*this);
+}
+
+std::span<const SettingRow<ColourSettings>> ColourSettings::rows()
+{
+    return zeph::rows;
+}
+
+ColourScheme ColourSettings::joystickScheme() const
+{
+    return { JoystickTextDefaultColour, BTNColour,    SlashColour, RAWColour,
+             MiscellaneousColour,       RemStatements };
+}
+
+ColourScheme ColourSettings::macroScheme() const
+{
+    ColourScheme scheme = joystickScheme();
+    scheme.plain = MacroTextDefaultColour;
+    return scheme;
+}
+
+void setFirstRunColours(ColourSettings &settings)
+{
+    SettingsOf<ColourSettings> group(settings);
+    for (const SettingKey &key : ColourSettings::rows()) {
+        const auto *colour = std::get_if<ColorRef>(&key.firstRun);
+        group.set(key, colour ? SettingValue(*colour) : defaultOf(key));
+    }
+}
+
+SettingProblems readColours(Settings &settings, const SettingsFiles &files)
+{
+    return readGroup(settings.group<ColourSettings>(), files);
+}
+
+Expected<void, FileError> SaveColourScheme(Settings &settings, const SettingsFiles &files)
+{
+    return saveGroup(settings.group<ColourSettings>(), files);
+}
+
+} // namespace zeph

@@ -1,0 +1,47 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "platform/core/colour_scheme.h"
+#include "settings/settings.h"
+
+namespace zeph {
+
+/// Colours and font of the texts and of the macro list.
+struct ColourSettings {
+    /// The defaults, which are not what the first run sets.
+    ColourSettings();
+
+    static std::span<const SettingRow<ColourSettings>> rows();
+
+    ColourScheme joystickScheme() const;
+    ColourScheme macroScheme() const;
+
+    ColorRef BackgroundColour;
+    ColorRef BTNColour;
+    ColorRef SlashColour;
+    ColorRef RAWColour;
+    ColorRef MiscellaneousColour;
+    ColorRef MacroBackgroundColour;
+    ColorRef RemStatements;
+    ColorRef JoystickTextDefaultColour;
+    ColorRef MacroTextDefaultColour;
+    ColorRef MacroListBackground;
+    ColorRef MacroListText;
+    ColorRef MacroHeadingsBackground;
+    ColorRef MacroHeadingsText;
+    QString TextFontName;
+    double TextFontSize; ///< points
+    bool TextFontBold;
+};
+
+/// Sets the colours and the font to those of the first run.
+void setFirstRunColours(ColourSettings &settings);
+
+/// Reads the colours and the font of the texts.
+[[nodiscard]] SettingProblems readColours(Settings &settings, const SettingsFiles &files);
+/// Writes all sixteen keys of the colours and the font.
+Expected<void, FileError> SaveColourScheme(Settings &settings, const SettingsFiles &files);
+
+} // namespace zeph

@@ -1,0 +1,35 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "settings/setting_row.h"
+
+namespace zeph {
+
+/// Compiling, downloading, the modes of the Cougar and the reset of its axes.
+struct ToolchainSettings {
+    /// The defaults.
+    ToolchainSettings();
+
+    static std::span<const SettingRow<ToolchainSettings>> rows();
+
+    bool HOTASStatusBarErrors;
+    bool HideDownloadStatusWindow;
+    bool StatusDetectOnStartup;
+    int StatusMonitoringInterval;
+    bool PureWindows;
+    bool RunAppsWithDownload;
+    bool RunKeyTest;
+    QString ResetProfile;
+    bool ResetCalibrate;
+    bool UseResetProfile;
+    int JoyIDnumber;
+    bool SynchroniseModeOnStartup;
+    bool JoyTestConnect;
+    double RegainControlAfter;
+    double CheckForCompletionTime;
+    bool NumlockDownloadMode;
+};
+
+} // namespace zeph
