@@ -3,6 +3,7 @@
 
 #include "lists/recent_files.h"
 
+#include "documents/documents.h"
 #include "editor/editor.h"
 #include "editor/files/file_opening.h"
 #include "editor/files/file_saving.h"

@@ -3,7 +3,7 @@
 
 #include "lists/user_lists.h"
 
-#include "documents/text_control.h"
+#include "documents/editor_view.h"
 #include "editor/editor.h"
 #include "editor/files/file_opening.h"
 #include "editor/files/file_saving.h"

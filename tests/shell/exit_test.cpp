@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Zeph authors
 // SPDX-License-Identifier: MIT
 
-#include "documents/text_control.h"
+#include "documents/editor_view.h"
 #include "editor/editor.h"
 #include "menus/menu_actions.h"
 #include "platform/tool_windows.h"

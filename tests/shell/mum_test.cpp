@@ -280,8 +280,7 @@ TEST_F(MainWindow, TheBarsLeftEndColoursSavesAndIdentifies)
     const int *identify = countRuns(u"mnuMacrosIdentify"_s);
     const QString path = folder.write(u"a.tmm"_s, "old");
     editor->documents().select(DocumentKind::Macro);
-    editor->macro().path() = path;
-    editor->macro().name() = u"a.tmm"_s;
+    editor->macro().rename(path);
     editor->view().control(DocumentKind::Macro).insertPlainText(u"Fire = a"_s);
     QTest::mousePress(&mum->bar(), Qt::LeftButton, {}, QPoint(5, 10));
     EXPECT_EQ(*colour, 1);

@@ -114,7 +114,7 @@ std::unique_ptr<QWidget> makeFindAndReplace(test::ShellWorld &world)
 {
     auto *editor = new Editor(world.context());
     auto window = std::make_unique<FindAndReplace>(
-        world.context(), FindAndReplace::Parts{ editor->view(), editor->undos() });
+        world.context(), FindAndReplace::Parts{ editor->view() });
     QObject::connect(window.get(), &QObject::destroyed, [editor] { delete editor; });
     return window;
 }

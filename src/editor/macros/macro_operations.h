@@ -50,7 +50,7 @@ public:
     /// Renames in both texts and tells how often.
     void ChangeMacroName(const QString &oldName, const QString &newName);
 
-    /// The word under a point of a text control's viewport; empty when there is none.
+    /// The word under a point of the joystick text's viewport; empty when there is none.
     QString RichWordOver(const QPoint &at) const;
     /// Shows the keys of the macro that the mouse touches in the joystick text.
     void mouseMoved(const QPoint &at);

@@ -420,9 +420,9 @@ TEST_F(MacroOperationsTest, NoWordLiesBehindALinesEndOrBelowTheText)
 {
     open("Fire\r\nGun", "Fire = SPC\r\nGun = g\r\n");
     const QPoint onFire = placeOf(3);
-    EXPECT_EQ(MacroOperations::RichWordOver(*joystick(), onFire), u"Fire");
-    EXPECT_EQ(MacroOperations::RichWordOver(*joystick(), onFire + QPoint(100, 0)), QString());
-    EXPECT_EQ(MacroOperations::RichWordOver(*joystick(), onFire + QPoint(0, 200)), QString());
+    EXPECT_EQ(operations().RichWordOver(onFire), u"Fire");
+    EXPECT_EQ(operations().RichWordOver(onFire + QPoint(100, 0)), QString());
+    EXPECT_EQ(operations().RichWordOver(onFire + QPoint(0, 200)), QString());
 }
 
 TEST_F(MacroOperationsTest, TheMouseShowsNothingWhenItIsNotWanted)
