@@ -6,7 +6,6 @@
 #include "documents/coloured_text.h"
 #include "documents/line_margin.h"
 #include "documents/pasted_text.h"
-#include "documents/text_accessible.h"
 #include "platform/colours.h"
 #include "platform/richtext/rich_text_document.h"
 #include "platform/richtext/rich_text_mime.h"
@@ -45,7 +44,6 @@ TextControl::TextControl(ColouredText &text, QWidget *parent)
     : QPlainTextEdit(parent), m_text(text),
       m_margin(new LineMargin(*this, [this] { return seenLines(); }))
 {
-    TextAccessible::install();
     setDocument(&text.content());
     setLineWrapMode(NoWrap);
     m_margin->hide();

@@ -11,9 +11,9 @@
 #include "editor/files/loss_guards.h"
 #include "platform/richtext/rich_text_document.h"
 #include "preferences/preferences_rules.h"
-#include "shell/cougar_tools.h"
 #include "shell/mum.h"
 #include "tests/shell/running_world.h"
+#include "toolchain/cougar_tools.h"
 
 #include <QApplication>
 #include <QCheckBox>
