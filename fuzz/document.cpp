@@ -3,9 +3,8 @@
 
 // What a document's bytes go through when a file is opened and saved.
 
-#include "text/date_stamp.h"
 #include "text/document_text.h"
-#include "text/pair_rule.h"
+#include "text/insert_blocks.h"
 #include "text/text_lines.h"
 #include "text/use_statements.h"
 

@@ -8,8 +8,8 @@
 #include "language/checker.h"
 #include "language/error_codes.h"
 #include "language/file_kinds.h"
-#include "language/forms.h"
 #include "language/macro_graph.h"
+#include "language/use_forms.h"
 #include "platform/core/paths.h"
 #include "platform/core/profile_file.h"
 
@@ -22,7 +22,7 @@ using language::operator""_w;
 namespace {
 
 constexpr QStringView compilerSection = u"Compiler";
-// Readers take values into a buffer of 500 characters.
+// Readers of HOTAS.ini use a buffer of 500 characters.
 constexpr int longestError = 400;
 
 struct Request {
@@ -75,7 +75,7 @@ Verdict failure(const OrderedError &ordered)
                    ordered.line);
 }
 
-// The name in front of "(AUTO)" or "(CUSTOM)"; ".tmc" is optional.
+// The profile in USE PROFILE, without "(AUTO)" or "(CUSTOM)", and with its ending added.
 QString profileOf(const language::FilePair &pair)
 {
     QString profile;
@@ -107,7 +107,7 @@ Verdict compile(const QString &file, bool sameName)
     if (sources->missing)
         findings.append(language::missingMacroFile(*sources->missing));
     if (!findings.isEmpty()) {
-        // The first one in the order of the files, wherever it was found.
+        // Report the first one in text order, the joystick file's before the macro file's.
         const auto first = std::min_element(findings.begin(), findings.end(),
                                             [](const auto &left, const auto &right) {
                                                 return std::pair(left.file, left.place.position)
@@ -127,7 +127,7 @@ QString seconds(qint64 milliseconds)
     return QString::number(double(milliseconds) / 1000, 'f', 2);
 }
 
-// What the Cougar remembers of a download.
+// The entries for what the Cougar remembers after a download.
 QList<ProfileEntry> memoryEntries(const Request &request, const Verdict &verdict,
                                   const Options &options)
 {

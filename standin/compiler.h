@@ -7,10 +7,10 @@
 
 namespace zeph::standin {
 
-/// Compiles a joystick file with its macro file, for as much as can be told without the hardware,
-/// and writes the verdict into HOTAS.ini of the folder: "/ZEPH", then /CO (compile), /CD (and
-/// download) or /CE (and enable the programmed mode), then the file. The verdict appears in one
-/// replacement of HOTAS.ini, so whoever sees its status sees all of it.
+/// Checks a joystick file with its macro file and writes the verdict into HOTAS.ini of the folder.
+/// The arguments are "/ZEPH", then /CO (compile), /CD (and download) or /CE (and enable the
+/// programmed mode), then the file. HOTAS.ini is replaced once, so a reader that sees the status
+/// sees the whole verdict.
 Outcome runCompiler(const QStringList &arguments, const QString &hotasFolder,
                     const Options &options);
 

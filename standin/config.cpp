@@ -32,7 +32,7 @@ constexpr Switch switches[] = {
     { u"/AU", 1, {}, Memory::Keep, u"Axes user defined." },
     { u"/EB", {}, {}, Memory::Keep, u"Buffers emptied." },
     { u"/CM", {}, {}, Memory::Clear, u"Memory cleared." },
-    // A reset is as good as plugging the stick in again: it wakes up as a plain game controller.
+    // After a reset, as after plugging in, the Cougar is a plain game controller.
     { u"/RS", 0, 0, Memory::Keep, u"Reset." },
 };
 
@@ -45,7 +45,7 @@ const Switch *switchOf(const QString &argument)
     return nullptr;
 }
 
-/// A window of the real tool, and the word that opens it.
+/// A switch of the real tool that opens one of its windows.
 struct PageSwitch {
     QStringView word;
     QStringView window;
@@ -64,7 +64,7 @@ struct Request {
     bool manualCalibration = false;
 };
 
-// The profile's name may stand right behind /P or as an argument of its own.
+// The profile's name follows /P directly or is the next argument.
 Request requestFrom(const QStringList &arguments)
 {
     Request request;
@@ -110,7 +110,7 @@ Outcome applyProfile(const Request &request, const QString &hotasFolder, const P
                                 { section, u"Calibration"_s, calibration } }));
 }
 
-/// Without a mode request the real tool opens its window, or one page of it.
+/// Names the window that the real tool would open.
 Outcome panelWindow(const QStringList &arguments, Outcome outcome)
 {
     QString window = u"main"_s;

@@ -3,7 +3,7 @@
 
 #pragma once
 
-// What both stand-in tools share: the orders that tests give them, and what they report.
+// Used by both stand-in tools: the orders that tests give them, and the outcome that they report.
 
 #include "platform/core/base.h"
 
@@ -13,18 +13,18 @@ QT_FORWARD_DECLARE_CLASS(QProcessEnvironment)
 
 namespace zeph::standin {
 
-/// A verdict that is ordered instead of found out.
+/// An error that a test orders instead of the real verdict.
 struct OrderedError {
     int code = 0;
     /// 1-based, 0 for none.
     int line = 0;
 };
 
-/// Orders from the environment, all absent in real use.
+/// Orders of tests, given by environment variables.
 struct Options {
-    /// ZEPH_STANDIN_DELAY_MS: how long to wait before the verdict.
+    /// ZEPH_STANDIN_DELAY_MS: milliseconds to wait before the verdict.
     int delayMs = 0;
-    /// ZEPH_STANDIN_SILENT=1: there is never a verdict.
+    /// ZEPH_STANDIN_SILENT=1: write no verdict.
     bool silent = false;
     /// ZEPH_STANDIN_FAIL=code:line.
     std::optional<OrderedError> fail;
@@ -35,26 +35,26 @@ struct Options {
 
 Options optionsFrom(const QProcessEnvironment &environment);
 
-/// What a run ends with.
+/// The result of a run.
 struct Outcome {
-    /// 0 or 1, for the process.
+    /// The process's exit code, 0 or 1.
     int exitCode = 0;
-    /// What was done, for standard output.
+    /// Lines for standard output that tell what was done.
     QStringList lines;
 };
 
-/// The line with which each run introduces itself.
+/// The first line that each run prints.
 QString introduction(QStringView tool);
 
 void waitFor(const Options &options);
 
-/// Runs a tool as a process: its arguments, its own folder and the environment go in, what it did
-/// is printed. Gives the exit code.
+/// Runs a tool with the process's arguments, the folder of its executable and the orders from the
+/// environment, prints the outcome and returns the exit code.
 using Tool = Outcome (*)(const QStringList &arguments, const QString &hotasFolder,
                          const Options &options);
 int runTool(int argc, char *argv[], Tool tool);
 
-/// Section of HOTAS.ini in which the stand-ins keep what a real Cougar would remember.
+/// The section of HOTAS.ini that replaces the memory of a real Cougar.
 constexpr QStringView memorySection = u"StandIn";
 constexpr QStringView modeSection = u"TMMODE";
 

@@ -3,32 +3,32 @@
 
 #pragma once
 
-// The joystick file and its macro file, found and read as the compiler finds and reads them.
+// Finds and reads the joystick file and its macro file by the compiler's rules.
 
 #include "language/model.h"
 #include "platform/core/file_io.h"
 
 namespace zeph::standin {
 
-/// A file's characters with "\n" at every line's end, whichever ends the file has.
+/// Reads a file; every kind of line end becomes "\n".
 Expected<QString, FileError> readSource(const QString &path);
 
-/// Where the macro file of that name lies, in the joystick file's own folder and in any case; the
-/// extension may be left out. Empty when it is not there.
+/// The path of the macro file in the joystick file's folder. The name may be in another case and
+/// without its extension. Empty when there is no such file.
 QString findMacroFile(const QString &joystickPath, const QString &name);
 
-/// What is compiled together.
+/// The two files that are compiled together.
 struct Sources {
     language::FilePair pair;
     /// Empty without a macro file.
     QString macroPath;
-    /// The macro file that is named and not there.
+    /// The reference to a macro file that does not exist.
     std::optional<language::MacroReference> missing;
 };
 
-/// Reads the joystick file and its macro file. Without a USE MDEF statement, or with one that names
-/// nothing, the macro file of the same name is taken, if sameName says so. Fails when
-/// the joystick file cannot be read.
+/// Reads the joystick file and its macro file. If no USE MDEF statement names a macro file,
+/// sameName decides whether the one with the joystick file's name is used. Fails when a file cannot
+/// be read.
 Expected<Sources, FileError> readSources(const QString &joystickPath, bool sameName);
 
 } // namespace zeph::standin

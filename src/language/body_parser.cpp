@@ -5,6 +5,20 @@
 
 #include "language/words.h"
 
+// A body is a list of words, and three things make it hard to read.
+//
+// Slash modifiers: each one opens a branch, the items up to the next one. m_chain holds the
+// modifiers in force; enter() replaces the one of the same level. Modifiers in a run ("/U /I") open
+// one branch together, which m_inModifiers tells.
+//
+// Brackets: each opening bracket adds an item and goes onto m_open with the chain of that moment,
+// which its closing bracket restores. Contents are the items in between, with the bracket's item as
+// their parent.
+//
+// Brackets that are keys: "CTL (" presses the key "(". While reading, an opening bracket is taken
+// for the start of a group. When no partner is found, mayBeKey() decides whether it can have been a
+// key; if so, nobody complains. Only the first complaint of a body is kept.
+
 namespace zeph::language {
 
 namespace {
@@ -131,7 +145,7 @@ void BodyParser::readWord(qsizetype from, qsizetype to)
         item.alsoKey = isKey || row.isKnown();
         return;
     }
-    // A macro's name may stand in square brackets, which are keys everywhere else.
+    // Square brackets are keys, but they may also enclose a macro's name.
     if (word.size() > 1 && word.startsWith(u'[')) {
         add(ItemKind::Key, from, from + 1);
         return readWord(from + 1, to);
@@ -167,7 +181,7 @@ void BodyParser::readSlash(qsizetype from, int modifier)
     startBranch(item);
 }
 
-// The modifier takes the place of the one of its own level; what stood further in goes with it.
+// Replaces the modifier of the same level and drops those further in, or adds the new one.
 void BodyParser::enter(int modifier, int item)
 {
     const SlashLevel level = levelOf(modifier);
@@ -232,7 +246,7 @@ int BodyParser::add(ItemKind kind, qsizetype from, qsizetype to)
     return index;
 }
 
-// The item in front of the bracket, when it is a word that takes arguments.
+// Index of the item before the bracket if it is a word that takes arguments, or -1.
 int BodyParser::callBefore(qsizetype at) const
 {
     const int index = int(m_source.items.size()) - 1;
@@ -292,14 +306,14 @@ void BodyParser::close(qsizetype at)
     m_inModifiers = false;
     if (bracket.chain.size == m_chain.size && bracket.chain.links == m_chain.links)
         return;
-    // Modifiers inside brackets end with them.
+    // Modifiers inside brackets end with the brackets.
     m_chain = bracket.chain;
     m_outFirst = bracket.outFirst;
     endBranch();
 }
 
-// Among the keys of KD and KU an opening bracket is a key, and so is a closing one that stands for
-// itself in front of the one that closes.
+// Among the keys of KD and KU an opening bracket is a key. A closing one is a key if it is a word
+// of its own and the bracket that closes the call comes next: "KD())" presses ")".
 bool BodyParser::isKeyBracket(qsizetype at) const
 {
     if (m_open.empty() || !m_open.back().keys)
@@ -322,9 +336,9 @@ bool BodyParser::isBehindModifierKey(int item) const
     return item > m_body.items.first && m_source.items[item - 1].kind == ItemKind::ModifierKey;
 }
 
-// The keyboard window writes "CTL (" and "/P ( /R a" for the key. An open bracket that found no
-// partner is taken for it where nothing can belong to a group: in front of the end, and in front of
-// a modifier that ends the branch.
+// The keyboard window writes "CTL (" and "/P ( /R a" when the key is the bracket. So an opening
+// bracket without a partner counts as a key where no group can have contents: after a modifier key,
+// at the body's end, and before a slash modifier that ends the branch.
 bool BodyParser::mayBeKey(const OpenBracket &bracket) const
 {
     if (m_holds != Holds::Keys || !standsAlone(bracket.place.position)
@@ -343,7 +357,8 @@ bool BodyParser::mayBeKey(const OpenBracket &bracket) const
     return false;
 }
 
-// A closing one without a partner is a key where no group can have gone before it.
+// A closing bracket without a partner counts as a key where no group can end: after a modifier key,
+// and as the first word of a body or branch.
 bool BodyParser::mayBeKey(qsizetype closing) const
 {
     if (m_holds != Holds::Keys || !standsAlone(closing))
@@ -360,7 +375,7 @@ bool BodyParser::isInBrackets() const
     return !m_open.empty() && !(mayBeKey(m_open.front()) && mayBeKey(m_open.back()));
 }
 
-// What stands behind another BTN is under no modifier of the one before.
+// A second BTN in the same body begins without the modifiers of the first.
 void BodyParser::leaveModifiers()
 {
     endBranch();

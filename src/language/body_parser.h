@@ -3,7 +3,7 @@
 
 #pragma once
 
-// Reads bodies: what stands behind a statement's head or a macro's "=". Fed line by line.
+// Reads bodies: what follows a statement's head or a macro's "=", given line by line.
 
 #include "language/model.h"
 #include "language/word_map.h"
@@ -15,26 +15,29 @@ namespace zeph::language {
 class BodyParser
 {
 public:
-    /// Both must outlive the parser. The macros' values are indices in MacroFile::macros.
+    /// Source and macros must outlive the parser. The macros' values are indices in
+    /// MacroFile::macros.
     BodyParser(Source &source, const WordMap &macros);
 
-    /// What a body is made of: only where keys stand, a bracket can be one.
+    /// What a body consists of. A bracket can be a key only where keys are.
     enum class Holds : quint8 { Keys, Arguments };
 
     void begin(Holds holds);
-    /// Reads the stretch of a line from position up to end, comment cut off already.
+    /// Reads a line's characters from position up to end, both counted from the file's start. The
+    /// caller has left the comment out.
     void read(qsizetype position, qsizetype end, int line);
-    /// Takes the character there as a key, whatever it is.
+    /// Reads the one character at the position as a key, even a bracket.
     void readKey(qsizetype position, int line);
     /// Whether a bracket is open that is certainly no key.
     bool isInBrackets() const;
-    /// Closes what is open and gives the body.
+    /// Ends the body and returns it; brackets still open end with it.
     Body finish();
 
 private:
     struct OpenBracket {
         char16_t closing = 0;
-        /// Its item, and the place of the bracket itself: a call's item begins at the word.
+        /// The item of the group or call. A call's item begins at its word, so the place of the
+        /// bracket is kept apart.
         int item = -1;
         Place place;
         Chain chain;
@@ -70,7 +73,7 @@ private:
     Holds m_holds = Holds::Keys;
     std::vector<OpenBracket> m_open;
     Chain m_chain;
-    /// For each link of the chain: the S3 modifier that came first at its level was /O.
+    /// For each link of the chain: whether the first S3 modifier of its level was /O.
     std::array<bool, 5> m_outFirst{};
     bool m_branchOpen = false;
     bool m_inModifiers = false;

@@ -21,7 +21,7 @@ void checkAxis(Reporter &reporter, const Argument &axis)
         reporter.report(UnknownAxis, axis.place, u"There is no axis %1"_s.arg(axis.text));
 }
 
-// A trim's sign leads for a fixed value and follows for one that is added.
+// A fixed trim has its sign before the number, one that is added has it after.
 std::optional<int> trimValue(QStringView text)
 {
     if (text.size() > 1 && (text.endsWith(u'+') || text.endsWith(u'-')))

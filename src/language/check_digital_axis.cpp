@@ -11,7 +11,7 @@ namespace {
 
 using Parts = QVarLengthArray<const Item *, 8>;
 
-// The items of a branch that stand in no bracket.
+// The items of a branch outside all brackets.
 Parts topLevel(const Source &source, const Branch &branch)
 {
     Parts parts;
@@ -24,8 +24,8 @@ Parts topLevel(const Source &source, const Branch &branch)
     return parts;
 }
 
-// Only these say under which switches an axis has which keys; behind any other modifier stand the
-// keys themselves.
+// Whether the branch holds the axis's type and bands: the dogfight switch and S3 choose between
+// definitions, while any other modifier is followed by keys.
 bool opensDefinition(const Branch &branch)
 {
     for (int at = 0; at < branch.chain.size; ++at) {
@@ -44,8 +44,8 @@ std::optional<int> number(const Source &source, const Parts &parts, int index)
     return wholeNumber(source.at(*parts[index]));
 }
 
-// Half percents round to the even neighbour, so that two borders one percent apart can print alike.
-// Halves come from counts that are multiples of eight.
+// Borders are printed as whole percents. With a count that is a multiple of eight they can be half
+// percents, which round to the even number, so that two neighbours can print alike.
 bool mayPrintAlike(int border, int count)
 {
     return border % 2 == 0 && count % 8 == 0;
@@ -103,8 +103,8 @@ bool isSingleKey(const Item &item)
         || item.kind == ItemKind::MacroUse;
 }
 
-// Three keys are up, down and centre; with a SHF or an unknown word among them it is not certain
-// how many keys there are.
+// Type, count and three keys (up, down, centre) make five parts. A SHF or an unknown word among
+// them leaves the number of keys uncertain, so nothing is reported.
 void checkCentre(Reporter &reporter, Parts parts)
 {
     const Source &source = reporter.source();

@@ -1,19 +1,19 @@
 // SPDX-FileCopyrightText: The Zeph authors
 // SPDX-License-Identifier: MIT
 
-#include "language/forms.h"
 #include "language/reporter.h"
 #include "language/scan.h"
+#include "language/use_forms.h"
 #include "language/words.h"
 
 namespace zeph::language {
 
 namespace {
 
-// With all buttons given to Windows there are more than the 28 that have a statement of their own.
+// 28 buttons have statements of their own; USE ALL_DIRECTX_BUTTONS adds four.
 constexpr int lastDirectXButton = 32;
 
-/// The body of a USE statement, read from left to right.
+/// Walks over the items of a USE statement's body.
 class UseBody
 {
 public:
@@ -22,7 +22,7 @@ public:
     {
     }
 
-    /// The next item that stands in no bracket, or null at the end.
+    /// The next item outside all brackets, or null at the end.
     const Item *next()
     {
         if (m_at >= m_end)
@@ -32,7 +32,7 @@ public:
         return &item;
     }
 
-    /// The word of an item; of a call, what stands before the bracket.
+    /// The word of an item, without the brackets of a call; empty for null.
     QStringView word(const Item *item) const
     {
         if (!item)
@@ -133,7 +133,7 @@ void checkDirectXButton(Reporter &reporter, const Item &role, QStringView word)
         reporter.report(DirectXButton, role.place, u"There is no DirectX button %1"_s.arg(*number));
 }
 
-// "NAME AS ROLE" for any control, hat or axis. What is no such statement may be anything.
+// Checks "NAME AS ROLE" for controls, hats and axes. Other statements are not known well enough.
 void checkAssignment(Reporter &reporter, UseBody body)
 {
     const Item *name = body.next();
@@ -147,7 +147,7 @@ void checkAssignment(Reporter &reporter, UseBody body)
     const bool toButton = word.startsWith(u"DX", Qt::CaseInsensitive);
     const bool needsControl = toButton || sameWord(word, u"SHIFTBTN"_w);
     const bool isAxis = row.is(AxisRole) || row.is(AxisGroupRole);
-    // A flag works like a button. Other words of the language may have roles that are not known.
+    // A flag can be used like a button. Other words of the language may take roles unknown here.
     const bool isPossible =
         row.is(ControlRole) || flagNumber(nameWord) || (!needsControl && row.isKnown());
     if (!isPossible)

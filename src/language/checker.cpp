@@ -3,9 +3,9 @@
 
 #include "language/checker.h"
 
-#include "language/forms.h"
 #include "language/reporter.h"
 #include "language/scan.h"
+#include "language/use_forms.h"
 #include "language/words.h"
 
 namespace zeph::language {
@@ -18,7 +18,7 @@ bool isFlag(QStringView word)
     return number && *number >= 1 && *number <= lastFlag;
 }
 
-// What both files' bodies can get wrong.
+// Mistakes that the bodies of either file can have.
 void checkBodies(Reporter &reporter)
 {
     const Source &source = reporter.source();
@@ -62,7 +62,7 @@ bool isDigit(QChar c)
     return c >= u'0' && c <= u'9';
 }
 
-// Whether the word is the control's name but for its number, as T11 is T1 and H5U is H1U.
+// Whether the word is the control's name with another number: T11 for T1, H5U for H1U.
 bool differsInNumber(QStringView word, QStringView control)
 {
     const auto from = std::ranges::find_if(control, isDigit);
@@ -94,7 +94,7 @@ void checkDefinition(Reporter &reporter, const Statement &statement)
     }
 }
 
-// "CURVE /I (THR, 4)": the arguments stand behind the modifiers.
+// In "CURVE /I (THR, 4)" the arguments follow the modifiers, so they are groups and no call.
 void checkCurveStatement(Reporter &reporter, const Statement &statement)
 {
     const Source &source = reporter.source();
@@ -139,7 +139,7 @@ constexpr StatementRule rules[] = {
     { StatementKind::Use, checkUse },
 };
 
-// Places on the screen need its size, unless they are percentages.
+// Positions in pixels need USE SCREEN_RESOLUTION; percentages do not.
 void checkScreen(Reporter &reporter, const JoystickFile &joystick)
 {
     for (const Statement &statement : joystick.statements) {

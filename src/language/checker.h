@@ -7,8 +7,8 @@
 
 namespace zeph::language {
 
-/// Everything that is certainly wrong, the joystick file's findings first, each file's in text
-/// order. What the tools of Zeph can write has no finding.
+/// Finds everything that is certainly wrong: the joystick file's findings first, each file's in
+/// text order. Nothing that Zeph's own tools write gives a finding.
 QList<Finding> check(const FilePair &pair);
 
 /// The finding for a macro file that is named and not there.

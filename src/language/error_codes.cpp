@@ -7,7 +7,7 @@ namespace zeph::language {
 
 namespace {
 
-// No text may hold the word of the headings in capitals: readers take it for the next entry.
+// No text here may hold errorWord: readers would take it for the next entry's heading.
 constexpr ErrorEntry table[] = {
     { UnreadableFile, u"The joystick file could not be read",
       u"The file was moved, deleted or renamed, or another program keeps it to itself.",
@@ -122,7 +122,6 @@ QString errorHeading(int code)
 
 DocumentKind documentOfError(QStringView errorText)
 {
-    // Whatever the word before the digits is.
     return errorText.left(errorHeadingLength).mid(errorWord.size() + 1)
             == QString::number(InMacroFile)
         ? DocumentKind::Macro

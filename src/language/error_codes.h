@@ -3,8 +3,8 @@
 
 #pragma once
 
-// What can be wrong with a pair of files, by number, in a pilot's words. The information file
-// "Error codes.rtf" holds the same entries.
+// The compiler's errors by number, explained to a pilot. The information file "Error codes.rtf"
+// holds the same entries.
 
 #include "language/file_kinds.h"
 
@@ -25,7 +25,7 @@ enum Code : int {
     ValueOutOfRange = 1010,
     InAfterOut = 1011,
     NoMacroFile = 1012,
-    /// Everything that is wrong in the macro file, whatever it is.
+    /// The code of every error in the macro file.
     InMacroFile = 1013,
     ThrottleRangeOrder = 1014,
     DirectXButton = 1015,
@@ -55,12 +55,12 @@ const ErrorEntry *errorEntry(int code);
 
 /// The word that starts each entry.
 constexpr QStringView errorWord = u"ERROR";
-/// "ERROR " and the four digits: the form by which an entry is found.
+/// "ERROR " and the code's four digits; readers find an entry by it.
 QString errorHeading(int code);
 constexpr qsizetype errorHeadingLength = errorWord.size() + 5;
 
-/// The document that a compiler's error text speaks of: the macro file where the code's four
-/// digits are those of InMacroFile.
+/// Which document a compiler's error text is about, by the code in it: InMacroFile means the macro
+/// file, any other text the joystick file.
 DocumentKind documentOfError(QStringView errorText);
 
 /// The whole of "Error codes.rtf" as plain text: for each entry a heading line, the cause, the cure

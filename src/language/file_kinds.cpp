@@ -11,7 +11,6 @@ namespace zeph {
 namespace {
 
 constexpr QStringView untitled = u"Untitled";
-constexpr QStringView profileExtension = u".tmc";
 
 struct ExtensionPair {
     QStringView joystick;
@@ -74,6 +73,12 @@ QString extensionOf(DocumentKind kind)
 {
     const ExtensionPair &own = extensionPairs[0];
     return (kind == DocumentKind::Joystick ? own.joystick : own.macro).toString();
+}
+
+QString fileFilter(DocumentKind kind)
+{
+    return u"%1 file (*.%2)|*.%2|All files (*.*)|*.*"_s.arg(
+        kind == DocumentKind::Joystick ? u"Joystick"_s : u"Macro"_s, extensionOf(kind));
 }
 
 QString tabCaption(const QString &name)

@@ -3,8 +3,8 @@
 
 #pragma once
 
-// Which extension means what. An extension is a name's last three characters, with or without a
-// dot.
+// Joystick files and macro files, told by their extensions. An extension is a name's last three
+// characters, with or without a dot before them.
 
 #include "platform/core/base.h"
 
@@ -26,13 +26,17 @@ QString joystickExtensionFor(QStringView macroName);
 QString baseWithDot(QStringView name);
 /// "tmj" or "tmm".
 QString extensionOf(DocumentKind kind);
+/// What a file dialog offers for a file of the kind.
+QString fileFilter(DocumentKind kind);
 /// What a tab shows: the name with its last three characters lower-cased.
 QString tabCaption(const QString &name);
-/// Names that count as never saved: the first eight characters are "Untitled".
+/// Whether a name counts as never saved: it begins with "Untitled".
 bool isUntitled(QStringView name);
 /// "Untitled.tmj" or "Untitled.tmm".
 QString freshName(DocumentKind kind);
-/// A calibration profile's name with ".tmc", which may be left out.
+/// The ending of calibration profiles' names.
+constexpr QStringView profileExtension = u".tmc";
+/// A profile's name with its ending added where it is missing.
 QString withProfileExtension(const QString &name);
 
 } // namespace zeph

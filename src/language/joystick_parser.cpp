@@ -4,8 +4,8 @@
 #include "language/joystick_parser.h"
 
 #include "language/body_parser.h"
-#include "language/forms.h"
-#include "language/lines.h"
+#include "language/scan.h"
+#include "language/use_forms.h"
 #include "language/words.h"
 
 namespace zeph::language {
@@ -17,7 +17,7 @@ struct KeywordKind {
     StatementKind kind;
 };
 
-// Every other statement keyword is an axis or one of the old ones.
+// All other statement keywords are axes or StatementKind::Legacy.
 constexpr KeywordKind kinds[] = {
     { u"BTN"_w, StatementKind::Button },      { u"DEF"_w, StatementKind::FlagDefinition },
     { u"USE"_w, StatementKind::Use },         { u"CURVE"_w, StatementKind::Curve },
@@ -71,7 +71,8 @@ private:
         m_statement.place.length = line.codeEnd - m_statement.place.position;
     }
 
-    // The keyword must be the whole word: "THR-Up" and "Use_Flaps" are macros.
+    // The end of the statement keyword that starts the line, or 0. "THR-Up" and "Use_Flaps" are
+    // macros.
     qsizetype statementKeywordEnd(const Line &line) const
     {
         const QStringView code = m_text.first(line.codeEnd);
@@ -83,7 +84,7 @@ private:
         const QStringView word = code.sliced(line.first, end - line.first);
         if (!rowOf(word).is(StatementRole))
             return 0;
-        // RATE and the axes are words of bodies too.
+        // RATE and axes also occur in bodies, so inside brackets they start no statement.
         const bool goesOn = m_open && m_body.isInBrackets() && !beginsAnywhere(word);
         return goesOn ? 0 : end;
     }
@@ -111,7 +112,7 @@ private:
             || kind == Unknown;
     }
 
-    // Gives the position at which the body begins.
+    // Begins a statement and returns the position where its body begins.
     qsizetype start(const Line &line, qsizetype keywordEnd)
     {
         const QStringView keyword = m_text.sliced(line.first, keywordEnd - line.first);
@@ -132,7 +133,7 @@ private:
         case StatementKind::FlagButton:
             return keywordEnd;
         default:
-            // CURVE, RATE and the like take arguments, so the keyword is a part of the body too.
+            // CURVE, RATE and the like take arguments, so the body begins with the keyword.
             return line.first;
         }
     }
@@ -142,7 +143,7 @@ private:
         const QStringView code = m_text.first(line.codeEnd);
         const qsizetype from = skipBlanks(code, keywordEnd);
         qsizetype to = from;
-        while (to < code.size() && isWordCharacter(code[to]) && slashAt(code, to) < 0)
+        while (to < code.size() && isBodyCharacter(code[to]) && slashAt(code, to) < 0)
             ++to;
         m_statement.subject = { from, to - from, line.number };
         m_nameIsDue = from == code.size();
@@ -191,7 +192,7 @@ private:
     BodyParser m_body;
     Statement m_statement;
     bool m_open = false;
-    /// The line ended behind BTN or DEF, so the name stands on a line below.
+    /// The line ended after BTN or DEF, so the name is on a later line.
     bool m_nameIsDue = false;
 };
 

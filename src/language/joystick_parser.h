@@ -8,8 +8,8 @@
 
 namespace zeph::language {
 
-/// Fills the file from its text. A statement runs from its keyword at a line's start to the next
-/// such keyword; lines that begin with "~" are switched off.
+/// Fills in the file's statements from its text. A statement goes from the keyword at the start of
+/// a line to the next line that starts with a keyword. Lines that begin with "~" are left out.
 void parseJoystick(JoystickFile &file, const WordMap &macros);
 
 } // namespace zeph::language

@@ -7,25 +7,25 @@
 
 namespace zeph::language {
 
-/// A macro's use that leads back to the macro it stands in, on the way over others or at once.
+/// The use of a macro in the body of one that it calls itself, directly or through others.
 struct MacroCycle {
-    /// Index of the macro in which the use stands, and the use's item.
+    /// Index of the macro whose body holds the use, and index of the use's item.
     int macro = 0;
     int item = 0;
 };
 
 struct MacroOrder {
-    /// All macros, each behind those that it uses.
+    /// Indices of all macros, each after those that it uses.
     QList<int> order;
     QList<MacroCycle> cycles;
 };
 
-/// Orders the macros by use. A word that is a macro and a key is taken for the key: a macro that
-/// is named like the key it presses is no circle.
+/// Orders the macros by use. A word that is both a macro and a key counts as the key: a macro named
+/// like the key that it presses does not call itself.
 MacroOrder orderMacros(const MacroFile &macro);
 
-/// How many bytes the pair takes in the Cougar's memory, roughly: macros are written out wherever
-/// they are used. Never more than one thousand million.
+/// Estimates the bytes that the pair takes in the Cougar's memory, where each use of a macro holds
+/// the whole macro. At most one thousand million.
 qint64 compiledSize(const FilePair &pair);
 
 /// That size as a percentage of the memory, 0 to 100.

@@ -5,11 +5,13 @@
 
 #include "language/body_parser.h"
 #include "language/joystick_parser.h"
-#include "language/lines.h"
+#include "language/words.h"
 
 namespace zeph::language {
 
 namespace {
+
+constexpr QStringView rem = u"Rem"_w;
 
 QStringView wholeLine(const MacroFile &file, const Line &line)
 {
@@ -18,23 +20,23 @@ QStringView wholeLine(const MacroFile &file, const Line &line)
 
 bool isDropped(QStringView line)
 {
-    return line.isEmpty() || sameWord(line, u"rem") || line == u"~" || line == u"//"
+    return line.isEmpty() || sameWord(line, rem) || line == u"~" || line == u"//"
         || (line.startsWith(u'~') && line.contains(u'='));
 }
 
 bool isRule(QStringView line)
 {
-    return line.startsWith(u"rem --", Qt::CaseInsensitive);
+    return line.startsWith(rem, Qt::CaseInsensitive) && line.sliced(rem.size()).startsWith(u" --");
 }
 
 bool isComment(QStringView line)
 {
-    return line.startsWith(u"rem", Qt::CaseInsensitive)
-        && (line.size() == 3 || !isNameCharacter(line[3]));
+    return line.startsWith(rem, Qt::CaseInsensitive)
+        && (line.size() == rem.size() || !isNameCharacter(line[rem.size()]));
 }
 
-// The lines that count, empty and switched-off ones left out: a heading's three lines follow one
-// another in this list.
+// All lines but the dropped ones. A heading is three neighbours in this list, even with empty lines
+// between them in the file.
 std::vector<Line> usableLines(const MacroFile &file)
 {
     std::vector<Line> lines;
@@ -51,7 +53,7 @@ void addHeading(MacroFile &file, const Line &middle)
 {
     Heading heading;
     const QStringView line = wholeLine(file, middle);
-    heading.title = line.sliced(std::min<qsizetype>(3, line.size())).trimmed().toString();
+    heading.title = line.sliced(std::min(rem.size(), line.size())).trimmed().toString();
     heading.place = { middle.first, line.size(), middle.number };
     heading.firstMacro = int(file.macros.size());
     file.headings.append(heading);
@@ -70,7 +72,7 @@ void addMacro(MacroFile &file, const Line &line)
     file.macros.append(macro);
 }
 
-// Keys in brackets may run over several lines. The first line that cannot be one of them ends it.
+// Keys in brackets may go on over several lines; a line with "=" ends them, because it is a macro.
 void readLinesInBrackets(BodyParser &parser, const MacroFile &file, const Place &macro)
 {
     const QStringView text(file.text);
@@ -124,7 +126,7 @@ void parseMacroBodies(MacroFile &file, const WordMap &macros)
         parser.begin(BodyParser::Holds::Keys);
         const qsizetype from = text.indexOf(u'=', macro.place.position) + 1;
         const qsizetype end = macro.place.end();
-        // With nothing but one bracket behind the "=", that bracket is the key.
+        // A body of one bracket alone means the key.
         const qsizetype first = skipBlanks(text.first(end), from);
         if (first + 1 == end && isBracketOrComma(text[first]))
             parser.readKey(first, macro.place.line);

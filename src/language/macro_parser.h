@@ -8,13 +8,14 @@
 
 namespace zeph::language {
 
-/// Finds the macros' names and places and the headings; the bodies stay empty.
+/// Finds the macros and headings with their names and places. The bodies stay empty.
 void findMacros(MacroFile &file);
 
-/// The macros by name. A name that occurs twice stands for its first macro. Looks into the file.
+/// The macros' indices by name; a name that occurs twice means its first macro. The map holds views
+/// of the file's names.
 WordMap macroIndex(const MacroFile &file);
 
-/// Reads the bodies of the macros that were found.
+/// Fills in the bodies of the macros that findMacros() found.
 void parseMacroBodies(MacroFile &file, const WordMap &macros);
 
 } // namespace zeph::language

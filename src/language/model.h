@@ -3,10 +3,10 @@
 
 #pragma once
 
-// The model of a pair of files: what can be understood of a joystick file and its macro file, each
-// part with its place. Any text has a model; what is not understood is kept as unknown. All lists
-// are flat and in text order, and parts point into them by index, so that a deep or broken text
-// costs no more than a plain one.
+// The model of a joystick file and its macro file: statements, macros and the words of their
+// bodies, each with its place. Any text has a model; words that are not understood are kept as
+// unknown. All lists are flat and in text order, and parts refer to each other by index, so that
+// deeply nested or broken text costs no more than plain text.
 
 #include "platform/core/base.h"
 
@@ -40,7 +40,7 @@ struct Range {
 };
 
 enum class ItemKind : quint8 {
-    /// Not understood: a key, a macro of another file or a slip.
+    /// Not understood: perhaps a macro of another file, perhaps a mistake.
     Unknown,
     /// A single character or a key's name.
     Key,
@@ -54,28 +54,28 @@ enum class ItemKind : quint8 {
     Flag,
     /// A macro of the macro file; Item::reference is its index.
     MacroUse,
-    /// A word with brackets behind it; Item::reference is its index in words.
+    /// A word with its brackets; Item::reference is the word's index in words.
     Call,
-    /// Brackets with what stands between them.
+    /// Brackets and their contents.
     Group,
     Comma,
     /// A slash modifier; Item::reference is its index in slashModifiers.
     Slash,
 };
 
-/// A word, a bracket group or a separator of a body. A group's or call's contents follow it in the
-/// list, up to endItem.
+/// A word, a bracket group or a separator of a body. The contents of a group or call are the items
+/// after it, up to endItem.
 struct Item {
     Place place;
     ItemKind kind = ItemKind::Unknown;
-    /// A macro's use whose word is also a key's name or a word of the language: which of the two
-    /// is meant is not certain.
+    /// The word of this macro use is also a key or a word of the language, so the use is not
+    /// certain.
     bool alsoKey = false;
-    /// For a Group or Call: the closing bracket was found.
+    /// For a Group or Call: whether the closing bracket was found.
     bool closed = false;
-    /// The group or call around it, or -1.
+    /// Index of the group or call around it, or -1.
     int parent = -1;
-    /// The index behind its contents; its own index + 1 without contents.
+    /// The first index after its contents; its own index + 1 without contents.
     int endItem = 0;
     int reference = -1;
 };
@@ -84,14 +84,14 @@ struct Item {
 struct Link {
     /// Index in slashModifiers.
     int modifier = -1;
-    /// Its item.
+    /// Index of its item.
     int item = -1;
 
     bool operator==(const Link &) const = default;
 };
 
-/// The modifiers in force, outermost first. A modifier replaces the one of its own level and drops
-/// what stood further in; dogfight, S3, toggle, press/release and repeat are the levels.
+/// The modifiers in force, outermost first. A modifier replaces the one of its own level and ends
+/// those of the levels further in.
 struct Chain {
     std::array<Link, 5> links;
     int size = 0;
@@ -99,16 +99,17 @@ struct Chain {
     bool holds(QStringView slashWord) const;
 };
 
-/// A stretch of a body under the same modifiers. Modifiers written in one run open one branch.
+/// Items of a body under the same modifiers. Modifiers that follow each other directly begin one
+/// branch.
 struct Branch {
-    /// From the first modifier of the run to the end of the last item.
+    /// From the first of its modifiers to the end of its last item.
     Place place;
     Chain chain;
-    /// The items behind the modifiers.
+    /// The items after the modifiers.
     Range items;
 };
 
-/// The items and branches of a statement's or macro's body in its file's lists.
+/// The body of a statement or macro: its items and branches in the file's lists.
 struct Body {
     Range items;
     Range branches;
@@ -140,18 +141,18 @@ struct Statement {
     /// From the keyword to the last character that is neither blank nor comment.
     Place place;
     Place keyword;
-    /// The control, axis or flag the statement is about; for USE the form's head words. Length 0
-    /// when it is missing.
+    /// The control, axis or flag that the statement defines; for USE the form's head words. Its
+    /// length is 0 when it is missing.
     Place subject;
-    /// For a USE statement with a tail: the rest of its line without comment and blanks.
+    /// For a USE statement of shape Tail: the rest of its line without comment and blanks.
     Place tail;
-    /// Index in useForms(), -1 for any other statement.
+    /// Index in useForms(); -1 for any other statement.
     int useForm = -1;
     Body body;
 };
 
 struct Macro {
-    /// The whole line without blanks and comment at its end.
+    /// The line from its first character that is no blank, without comment and blanks at its end.
     Place place;
     /// Everything before the first "=", tabs removed, blanks trimmed.
     QString name;
@@ -162,11 +163,12 @@ struct Macro {
 struct Heading {
     QString title;
     Place place;
-    /// Index of the first macro that stands under it, perhaps that of the next heading.
+    /// Index of the next macro in the file; a heading without macros has the one of the next
+    /// heading.
     int firstMacro = 0;
 };
 
-/// Something that is certainly wrong.
+/// A certain mistake in one of the files.
 struct Finding {
     /// A code of errorCodes().
     int code = 0;
@@ -181,12 +183,12 @@ struct StrayBracket {
     bool opening = false;
 };
 
-/// What both files have. The places look into text.
+/// What both files have. All places are places in the text.
 struct Source {
     QString text;
     QList<Item> items;
     QList<Branch> branches;
-    /// At most one a body, the first: what follows it is a consequence.
+    /// The first of each body; further ones would only follow from it.
     QList<StrayBracket> strayBrackets;
     /// Every /I that follows an /O of its own level.
     QList<Place> lateS3;
@@ -215,12 +217,14 @@ struct FilePair {
 /// The model of the two texts, whose line ends are "\n". Linear in their length; never fails.
 FilePair parsePair(const QString &joystickText, const QString &macroText);
 
-/// The joystick file's macro file as its last USE MDEF statement names it, without quotes; empty
-/// without one. The finding's place is that of the name.
+/// The name in a USE MDEF statement.
 struct MacroReference {
+    /// Without quotes; may be empty.
     QString name;
+    /// With quotes.
     Place place;
 };
+/// The macro file's name in the last USE MDEF statement; no value without such a statement.
 std::optional<MacroReference> macroReference(const JoystickFile &joystick);
 
 } // namespace zeph::language

@@ -3,7 +3,8 @@
 
 #pragma once
 
-// What the checks share: where they report, and how they read arguments.
+// What all checks use: a place to report mistakes, and the arguments of calls. Each check below
+// reports the mistakes of one kind of statement.
 
 #include "language/error_codes.h"
 #include "language/model.h"
@@ -24,7 +25,7 @@ public:
     const Source &source() const { return m_source; }
     QStringView at(const Item &item) const { return m_source.at(item); }
 
-    /// In the macro file every finding has that file's code; the message tells what it is.
+    /// Adds a finding. In the macro file its code is InMacroFile, and the message tells the rest.
     void report(Code code, const Place &place, const QString &message);
 
 private:
@@ -40,17 +41,17 @@ struct Argument {
 
 using Arguments = QVarLengthArray<Argument, 4>;
 
-/// What stands between the brackets of a call or group, split at its own commas and trimmed; at
-/// least one. The item must be one of the source's.
+/// The arguments in the brackets of a call or group: split at its own commas, without blanks around
+/// them, at least one. The item must belong to the source's list.
 Arguments argumentsOf(const Source &source, const Item &item);
 
 void checkCurve(Reporter &reporter, const Arguments &arguments);
-/// The arguments of every word with brackets.
+/// Checks the arguments of all calls.
 void checkCalls(Reporter &reporter);
-/// The bodies of digital axis statements.
+/// Checks the body of a digital axis statement.
 void checkDigitalAxis(Reporter &reporter, const Statement &statement);
 void checkUse(Reporter &reporter, const Statement &statement);
-/// Macros that lead back to themselves.
+/// Finds macros that call themselves.
 void checkMacroCycles(Reporter &reporter, const MacroFile &macro);
 
 } // namespace zeph::language

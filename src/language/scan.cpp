@@ -21,7 +21,7 @@ qsizetype nameEnd(QStringView text, qsizetype at)
 
 qsizetype wordEnd(QStringView text, qsizetype at)
 {
-    while (at < text.size() && isWordCharacter(text[at]))
+    while (at < text.size() && isBodyCharacter(text[at]))
         ++at;
     return at;
 }
@@ -64,7 +64,7 @@ std::optional<int> wholeNumber(QStringView text)
         text = text.sliced(1);
     if (text.isEmpty())
         return {};
-    // Nothing in the language comes near this, so all that is larger may be as large.
+    // No number of the language is near this, so larger ones may all count as this one.
     constexpr qint64 largest = 999'999'999;
     qint64 value = 0;
     for (const QChar c : text) {
@@ -73,6 +73,23 @@ std::optional<int> wholeNumber(QStringView text)
         value = std::min(largest, value * 10 + (c.unicode() - u'0'));
     }
     return int(negative ? -value : value);
+}
+
+bool LineReader::next(Line &line)
+{
+    if (m_at > m_text.size())
+        return false;
+    const qsizetype found = m_text.indexOf(u'\n', m_at);
+    const qsizetype lineEnd = found < 0 ? m_text.size() : found;
+    const QStringView whole = m_text.sliced(m_at, lineEnd - m_at);
+    line.number = ++m_number;
+    line.end = m_at + trimmedEnd(whole);
+    line.first = std::min(m_at + skipBlanks(whole, 0), line.end);
+    const qsizetype comment = commentStart(whole);
+    const QStringView code = comment < 0 ? whole : whole.first(comment);
+    line.codeEnd = std::max(line.first, m_at + trimmedEnd(code));
+    m_at = lineEnd + 1;
+    return true;
 }
 
 } // namespace zeph::language

@@ -3,36 +3,39 @@
 
 #pragma once
 
-// The smallest steps over a line of text. Positions are 0-based and count characters.
+// The smallest steps over a text and its lines. Positions are 0-based and count characters.
 
-#include "platform/core/base.h"
+#include "platform/core/text_search.h"
 
 namespace zeph::language {
 
-/// A blank for the language: the space, the tab and every other control character.
+/// Whether the language treats the character as a blank: the space, the no-break space, the tab and
+/// every other control character.
 inline bool isBlank(QChar c)
 {
     return c.unicode() <= u' ' || c.unicode() == 0xA0;
 }
 
-/// Letters of the whole code page, digits and "_": what the whole-word rule calls part of a word.
+/// The whole-word rule's answer, without a call for the characters that nearly all words consist
+/// of.
 inline bool isNameCharacter(QChar c)
 {
     const char16_t u = c.unicode();
     if (u < 128)
         return (u >= u'a' && u <= u'z') || (u >= u'A' && u <= u'Z') || (u >= u'0' && u <= u'9')
             || u == u'_';
-    return c.isLetterOrNumber();
+    return zeph::isWordCharacter(c);
 }
 
-/// What ends a word of a body besides a blank.
+/// Brackets and the comma end a word of a body, as blanks do.
 inline bool isBracketOrComma(QChar c)
 {
     const char16_t u = c.unicode();
     return u == u'(' || u == u')' || u == u'<' || u == u'>' || u == u'{' || u == u'}' || u == u',';
 }
 
-inline bool isWordCharacter(QChar c)
+/// Whether the character can be in a word of a body, which is often no name: "KP+".
+inline bool isBodyCharacter(QChar c)
 {
     return !isBlank(c) && !isBracketOrComma(c);
 }
@@ -41,7 +44,7 @@ inline bool isWordCharacter(QChar c)
 qsizetype skipBlanks(QStringView text, qsizetype at);
 /// The end of the run of name characters that begins at `at`.
 qsizetype nameEnd(QStringView text, qsizetype at);
-/// The end of the run of word characters that begins at `at`.
+/// The end of the run of body characters that begins at `at`.
 qsizetype wordEnd(QStringView text, qsizetype at);
 /// The text's length without the blanks at its end.
 qsizetype trimmedEnd(QStringView text);
@@ -51,8 +54,42 @@ qsizetype commentStart(QStringView line);
 
 bool sameWord(QStringView left, QStringView right);
 
-/// A whole number with an optional sign; a "%" behind it is dropped. Anything else has no value.
-/// Numbers beyond nine digits give the largest one of nine.
+/// A whole number with an optional sign; a "%" after it is ignored. Any other text has no value.
+/// Numbers of more than nine digits give the largest of nine.
 std::optional<int> wholeNumber(QStringView text);
+
+/// A line without the parts that the parsers leave out. All positions count from the text's start.
+struct Line {
+    /// The first character that is no blank.
+    qsizetype first = 0;
+    /// The end of the last character that is neither blank nor comment.
+    qsizetype codeEnd = 0;
+    /// The end of the last character that is no blank, comments included.
+    qsizetype end = 0;
+    /// 1-based.
+    int number = 1;
+
+    bool isEmpty() const { return end <= first; }
+};
+
+/// Walks over the lines of a text.
+class LineReader
+{
+public:
+    explicit LineReader(QStringView text) : m_text(text) { }
+    /// Starts with the line after that number, which ends at `end`.
+    LineReader(QStringView text, qsizetype end, int number)
+        : m_text(text), m_at(end + 1), m_number(number)
+    {
+    }
+
+    /// Reads the next line; false after the last one.
+    bool next(Line &line);
+
+private:
+    QStringView m_text;
+    qsizetype m_at = 0;
+    int m_number = 0;
+};
 
 } // namespace zeph::language

@@ -3,8 +3,8 @@
 
 #pragma once
 
-// Words to numbers, without regard to case and without a copy of any word: a file of fifty thousand
-// lines asks for every word twice.
+// A map from words in any case to numbers. It copies no word and folds no string, because the
+// parsers look up every word of a file.
 
 #include "language/scan.h"
 
@@ -12,7 +12,7 @@
 
 namespace zeph::language {
 
-/// The word's hash in lower case.
+/// The hash of a word, the same in any case.
 inline size_t foldedHash(QStringView word)
 {
     size_t hash = 1469598103934665603ULL;
@@ -26,11 +26,11 @@ inline size_t foldedHash(QStringView word)
     return hash;
 }
 
-/// Holds views: the text that they look into must outlive it.
+/// Keeps views of its words: their text must outlive the map.
 class WordMap
 {
 public:
-    /// Adds a word; the first value of a word stays.
+    /// Adds a word, unless the map has it.
     void insert(QStringView word, int value)
     {
         if ((m_count + 1) * 2 > m_slots.size())

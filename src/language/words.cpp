@@ -27,7 +27,7 @@ const Word &rowOf(QStringView word, size_t hash)
 
 const Word &rowOf(QStringView word)
 {
-    // Arguments come here whole, with all the brackets in them, however many.
+    // Callers also ask for whole arguments, which can be as long as the file: do not hash those.
     constexpr qsizetype longest =
         std::ranges::max(words, {}, [](const Word &row) { return row.text.size(); }).text.size();
     return word.size() <= longest ? rowOf(word, foldedHash(word)) : unknown;
@@ -43,7 +43,7 @@ int slashAt(QStringView line, qsizetype at)
     if (line[at] != u'/' || at + 1 >= line.size())
         return -1;
     // "/Up" and "/I2" are words of their own, "/I/U" are two modifiers.
-    if (at + 2 < line.size() && line[at + 2] != u'/' && isWordCharacter(line[at + 2]))
+    if (at + 2 < line.size() && line[at + 2] != u'/' && isBodyCharacter(line[at + 2]))
         return -1;
     const QChar letter = line[at + 1].toUpper();
     for (const Word &modifier : slashModifiers) {

@@ -3,6 +3,7 @@
 
 #include "livetools/key_names.h"
 
+#include "language/words.h"
 #include "livetools/virtual_keys.h"
 #include "platform/core/text1252.h"
 #include "platform/core/units.h"
@@ -15,10 +16,12 @@ namespace zeph {
 
 namespace {
 
-/// Where no name was looked for and found yet; no key has this code.
+using language::operator""_w;
+
+/// The code of the table's first entry; no key has it.
 constexpr int noKeyCode = 65535;
 
-/// By the shift state's bits.
+/// Indexed by the shift state.
 constexpr std::array<QStringView, 8> prefixes = {
     u"",     u"Shift ",     u"Ctrl ",     u"Shift Ctrl ",
     u"Alt ", u"Shift Alt ", u"Ctrl Alt ", u"Shift Ctrl Alt ",
@@ -46,7 +49,7 @@ QString lowerCharacter(int keycode)
 
 QString eventName(const KeyTable &table, int keycode)
 {
-    constexpr std::array<QStringView, 3> modifiers = { u"SHF", u"CTL", u"ALT" };
+    constexpr std::array<QStringView, 3> modifiers = { u"SHF"_w, u"CTL"_w, u"ALT"_w };
     if (isModifier(keycode)) {
         return modifiers[size_t(keycode - shiftKeyCode)].toString();
     }
@@ -98,7 +101,7 @@ KeyText WhichKey(const KeyTable &table, int keycode, int shift)
         return { prefix + name };
     }
     if (shift < CtrlDown) {
-        // A plain character tells itself best.
+        // The character that the key types is shown instead.
         return {};
     }
     return isModifier(keycode) ? KeyText{ {}, true } : KeyText{ prefix + lowerCharacter(keycode) };

@@ -58,10 +58,10 @@ void FavouritesPage::connectFields()
     }
     connect(m_ui->cmdBrowseFavJF, &QPushButton::clicked, this,
             guarded(m_context.dialogs,
-                    [this](bool) { browse(*m_ui->FavJFPath, u"Joystick"_s, u"tmj"_s); }));
+                    [this](bool) { browse(*m_ui->FavJFPath, DocumentKind::Joystick); }));
     connect(m_ui->cmdBrowseFavMF, &QPushButton::clicked, this,
             guarded(m_context.dialogs,
-                    [this](bool) { browse(*m_ui->FavMFPath, u"Macro"_s, u"tmm"_s); }));
+                    [this](bool) { browse(*m_ui->FavMFPath, DocumentKind::Macro); }));
     connect(m_ui->FavLoadOnStart, &QCheckBox::toggled, this, [this](bool on) {
         m_favourites.loadOnStart = on;
         m_settled.loadOnStart = on;
@@ -91,14 +91,15 @@ void FavouritesPage::connectList()
     });
 }
 
-void FavouritesPage::browse(QLineEdit &field, const QString &kind, const QString &extension)
+void FavouritesPage::browse(QLineEdit &field, DocumentKind kind)
 {
     const QString now = pathOrNone(field.text());
     const QString folder = existingPath(folderOf(now));
     if (const auto path = m_context.dialogs.openFile(
-            { u"Select the %1 file for this favourite"_s.arg(kind.toLower()),
-              u"%1 file (*.%2)|*.%2|All files (*.*)|*.*"_s.arg(kind, extension),
-              extension,
+            { u"Select the %1 file for this favourite"_s.arg(
+                  kind == DocumentKind::Joystick ? u"joystick"_s : u"macro"_s),
+              fileFilter(kind),
+              extensionOf(kind),
               now == noFavouriteFile || folder.isEmpty() ? m_context.paths.filesFolder() : folder,
               {} })) {
         field.setText(*path);

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "language/file_kinds.h"
 #include "lists/favourites.h"
 #include "platform/context.h"
 #include "preferences/preferences_page.h"
@@ -36,7 +37,7 @@ public:
 private:
     void connectFields();
     void connectList();
-    void browse(QLineEdit &field, const QString &kind, const QString &extension);
+    void browse(QLineEdit &field, DocumentKind kind);
     /// What the fields show becomes the selected favourite.
     void read();
     /// What has been typed so far is what the next keystroke is measured by.

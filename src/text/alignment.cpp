@@ -50,7 +50,8 @@ qsizetype columnOf(QStringView line, const Word &modifier)
     return line.indexOf(modifier.text) + 1;
 }
 
-/// The column of a level's first modifier, in the order of the words, that the line holds.
+/// 1-based column of the level's modifier that the line holds, 0 without one. If it holds several,
+/// the first in the order of the words counts.
 qsizetype columnOf(QStringView line, SlashLevel level)
 {
     for (const Word &modifier : slashModifiers) {
@@ -78,7 +79,8 @@ const Word *modifierAtStart(QStringView line)
     return found == slashModifiers.end() ? nullptr : &*found;
 }
 
-/// The other modifier of its level, /O for /I; /T has none but itself.
+/// The other modifier of the same level: /O for /I. /T is the only one of its level and gives
+/// itself.
 const Word &counterpartOf(const Word &modifier)
 {
     const auto found = std::ranges::find_if(slashModifiers, [&modifier](const Word &other) {
@@ -87,15 +89,16 @@ const Word &counterpartOf(const Word &modifier)
     return found == slashModifiers.end() ? modifier : *found;
 }
 
-/// Whether a modifier is aligned under one of its own kind: S3, press, release and toggle are.
+/// Whether a line that begins with the modifier is aligned under a modifier of the same level above
+/// it. Dogfight modifiers are aligned under the statement's own; repeat modifiers are not aligned.
 bool alignsUnderItsKind(const Word *modifier)
 {
     return modifier && modifier->level != SlashLevel::Dogfight
         && modifier->level != SlashLevel::Repeat;
 }
 
-/// The column of a continuation line in the document, where the reference is the last line with a
-/// slash; 0 leaves the line at the left.
+/// 1-based column for a continuation line of the document; 0 leaves it at the left. The reference
+/// is the last line before it with a slash.
 qsizetype editorColumn(QStringView line, QStringView reference, const Columns &columns)
 {
     const Word *modifier = modifierAtStart(line);
@@ -114,7 +117,7 @@ qsizetype editorColumn(QStringView line, QStringView reference, const Columns &c
     return own;
 }
 
-/// The column of a continuation line on the sheets, which look above for the counterpart alone.
+/// The same for the sheets, which look into the reference for the counterpart alone.
 qsizetype layoutColumn(QStringView line, QStringView reference, const Columns &columns)
 {
     const Word *modifier = modifierAtStart(line);
@@ -126,7 +129,7 @@ qsizetype layoutColumn(QStringView line, QStringView reference, const Columns &c
     return column > 0 ? column : columns[size_t(modifier->level)];
 }
 
-/// The columns after a head line that keeps what it does not name.
+/// The columns after a head line; a level without a modifier in it keeps its column from before.
 Columns keptColumns(const Columns &before, QStringView line)
 {
     Columns now = columnsOf(line);
@@ -145,11 +148,11 @@ void pad(QString &line, qsizetype column)
     }
 }
 
-/// What tells the aligners apart.
+/// In what the two aligners differ.
 struct Rules {
     Columns (*columnsAt)(const Columns &before, QStringView head);
     qsizetype (*columnOf)(QStringView line, QStringView reference, const Columns &columns);
-    QString indent; ///< stands before every line that is no comment and long enough
+    QString indent; ///< put before every line of three characters or more that is no comment
 };
 
 QString aligned(QStringView text, const Rules &rules)
@@ -182,8 +185,6 @@ QString aligned(QStringView text, const Rules &rules)
     return result;
 }
 
-// The digest ------------------------------------------------------------------------------------
-
 struct UseRecord {
     QStringView start;
     QStringView label;
@@ -205,8 +206,8 @@ QStringView leadingDigits(QStringView text)
     return text.first(end - text.begin());
 }
 
-/// What a USE line says of a hat, the radio switch or the mouse, as a record's line; empty when
-/// nothing.
+/// The record's line for a USE line about a hat, the radio switch or the mouse; empty for other
+/// lines.
 QString useRecord(QStringView line)
 {
     for (const UseRecord &each : useRecords) {
@@ -221,7 +222,7 @@ QString useRecord(QStringView line)
     return {};
 }
 
-/// Whether the word begins the line, with a blank and more after it.
+/// Whether the line begins with the word and goes on after a blank.
 bool begins(QStringView line, QStringView word)
 {
     return line.size() > word.size() + 1 && line[word.size()] == u' ' && beginsAnyCase(line, word);

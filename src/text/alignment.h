@@ -3,29 +3,29 @@
 
 #pragma once
 
-// Line by line over the text of a joystick file: slash modifiers stood under one another, and the
-// forms of the file that other tools read. Line ends are '\n'; every line written has one.
+// Aligns the slash modifiers of a joystick file's statements, and writes the forms of the file that
+// other tools read. Line ends are '\n'; every line of a result has one.
 
 #include "platform/core/base.h"
 
 namespace zeph {
 
-/// How far statements are moved in when they are aligned.
+/// How far aligning indents statements.
 struct IndentOptions {
     bool indent = false;
-    int spaces = 0; ///< blanks before a line, 0 to 69
+    int spaces = 0; ///< blanks before a line; AlignSlashes() limits them to 0 to 69
 };
 
-/// The text with the modifiers of each statement standing under one another. Comment lines, "~"
-/// lines and empty lines stay as they are.
+/// The text with the modifiers of each statement under one another. Comment lines, "~" lines and
+/// empty lines do not change.
 QString AlignSlashes(QStringView text, const IndentOptions &options = {});
 
-/// The normal form that the layout sheets read: aligned by rules of its own, which sheets that
-/// pilots have printed rely on, and never indented.
+/// The form that the layout sheets read: never indented, and aligned by rules of its own, because
+/// the sheets that pilots have printed look like that.
 QString AlignForLayouts(QStringView text);
 
-/// The digest that Quick View reads: a flat list of records, each opened by a line "*** ", and a
-/// line "END " behind the last.
+/// The digest that Quick View reads: a list of records, each begun by a line "*** ", and a line
+/// "END " after the last record.
 QString LeftAlignAnalyse(QStringView text);
 
 } // namespace zeph

@@ -3,7 +3,7 @@
 
 #pragma once
 
-// Whole lines commented out with Rem, and taken back. Line ends are '\n'.
+// Puts Rem before whole lines and takes it away again. Line ends are '\n'.
 
 #include "text/text_lines.h"
 
@@ -16,7 +16,7 @@ namespace zeph {
 /// that line too.
 LineRange touchedLines(QStringView text, qsizetype selStart, qsizetype selLength);
 
-/// One of the lines before and after, with its line end where it has one.
+/// What a line becomes, with its line end if it has one.
 struct LineChange {
     QString text;
     bool changed = false;

@@ -5,6 +5,8 @@
 
 #include "text/text_lines.h"
 
+#include <QLocale>
+
 #include <algorithm>
 
 namespace zeph {
@@ -12,12 +14,14 @@ namespace zeph {
 namespace {
 
 constexpr qsizetype headingIndent = 10;
+/// In any case when it is sought.
+constexpr QStringView lastModified = u"Last modified:";
 const QString emptyRem = remAndBlank.toString();
 const QString titleRule = emptyRem + QString(46, u'#');
 const QString titleIndent = emptyRem + u"   "_s;
 const QString closingRem = u"Rem"_w.toString();
 
-/// Lines of the same width in every font of fixed pitch.
+/// Tabs have another width in each program, so they become blanks.
 QString withoutTabs(QString line)
 {
     line.replace(u'\t', u' ');
@@ -33,7 +37,7 @@ QStringList commentLines(QString comments)
     return comments.trimmed().isEmpty() ? QStringList() : comments.split(u'\n');
 }
 
-/// The field lines by section, still open on the right.
+/// The lines with contents by section, without their closing Rem.
 QList<QStringList> titleSections(const TitleFields &fields)
 {
     QStringList file{ titleIndent + fields.fileName };
@@ -41,7 +45,7 @@ QList<QStringList> titleSections(const TitleFields &fields)
         file.append(titleIndent + u"    for "_s + fields.game);
     }
     const QStringList person{ titleIndent + u"by "_s + fields.person,
-                              titleIndent + u"Last modified: "_s + fields.lastModified,
+                              titleIndent + lastModified.toString() + u' ' + fields.lastModified,
                               titleIndent + u"Controllers: "_s + fields.controllers };
     QList<QStringList> sections{ file, person };
     QStringList comments = commentLines(fields.comments);
@@ -95,6 +99,36 @@ QString insertText(const language::Word &word, int delay)
     }
     constexpr int repeats = 2;
     return u"%1(%2)"_s.arg(word.text).arg(word.text == u"DLY"_w ? delay : repeats);
+}
+
+QString stampText(const QDateTime &when)
+{
+    return QLocale::c().toString(when, u"dd MMMM yyyy, h:mm ap"_s);
+}
+
+std::optional<Stamp> modifiedStamp(QStringView text, const QDateTime &when)
+{
+    const qsizetype hit = text.indexOf(lastModified, 0, Qt::CaseInsensitive);
+    if (hit < 0) {
+        return std::nullopt;
+    }
+    const qsizetype after = hit + lastModified.size();
+    qsizetype lineEnd = text.indexOf(u'\n', after);
+    if (lineEnd < 0) {
+        lineEnd = text.size();
+    }
+    if (after == lineEnd) {
+        return Stamp{ after, 0, u' ' + stampText(when) };
+    }
+    return Stamp{ after + 1, lineEnd - after - 1, stampText(when) };
+}
+
+qsizetype movedByStamp(const Stamp &stamp, qsizetype position)
+{
+    if (position >= stamp.start + stamp.length) {
+        return position > stamp.start ? position + stamp.text.size() - stamp.length : position;
+    }
+    return std::min(position, stamp.start + stamp.text.size());
 }
 
 } // namespace zeph

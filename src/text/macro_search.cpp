@@ -15,7 +15,7 @@ namespace zeph {
 
 namespace {
 
-/// Whether what stands behind a name ends it; the text's end counts as a line end.
+/// Whether a name may end at the position: the text ends there, or one of these characters follows.
 bool endsUse(QStringView text, qsizetype end)
 {
     return end >= text.size() || QStringView(u" )}>\t\n").contains(text[end]);
@@ -26,8 +26,8 @@ bool endsRenamed(QStringView text, qsizetype end)
     return end >= text.size() || QStringView(u" \t\n").contains(text[end]);
 }
 
-/// Tells whether a hit lies in a comment. Hits that follow each other in a line cost one look at
-/// the line, however long it is.
+/// Tells whether a hit is in a comment. Remembers the last line, so that many hits in a long line
+/// search it once.
 class Comments
 {
 public:
@@ -71,7 +71,7 @@ QList<qsizetype> nameHits(QStringView text, const QString &name, Passes passes)
     return hits;
 }
 
-/// The text as the search compares it.
+/// The text folded in the way in which the search compares.
 QString folded(QStringView text)
 {
     QString result = text.toString();
@@ -81,7 +81,7 @@ QString folded(QStringView text)
     return result;
 }
 
-/// Calls for each run of word characters that is as long as it can be: start and length.
+/// Calls a function with start and length of each whole word.
 template <class Call> void forEachWord(QStringView text, Call call)
 {
     qsizetype at = 0;
@@ -98,9 +98,10 @@ template <class Call> void forEachWord(QStringView text, Call call)
     }
 }
 
-/// Many names searched at once. A name with word characters in it can only stand where the text has
-/// one of the name's words whole: the whole-word rule sees to it at the name's ends, the name's own
-/// other characters within it. So one look-up for each word of the text finds all such names.
+/// Seeks many names in one walk. A name is chosen one of its words, and wherever the text has the
+/// name it has this word as a whole word: at the ends of the name by the whole-word rule, inside it
+/// because other characters of the name surround it. So looking up each word of the text finds all
+/// names that contain a word; macroUses() seeks the others.
 class NameWalk
 {
 public:
@@ -139,13 +140,13 @@ public:
 private:
     struct Wanted {
         QString name; ///< folded
-        qsizetype wordAt = -1; ///< where in it the word stands that finds it; -1: no word
+        qsizetype wordAt = -1; ///< position in the name of the word that finds it; -1 without one
         qsizetype searched = 0; ///< end of its last hit
         bool used = false;
     };
 
-    /// Of a name's words the one that the fewest names share finds it, so that families of names
-    /// ("Radar-1", "Radar-2", ...) do not all come up at each "Radar".
+    /// Chooses for each name the word that it shares with the fewest others. "Radar-1" and its like
+    /// would otherwise all be compared at each "Radar" of the text.
     void chooseWords()
     {
         QHash<QStringView, int> sharing;
@@ -170,7 +171,7 @@ private:
         }
     }
 
-    /// Whether a word goes on across a position.
+    /// Whether the position is inside a word.
     static bool isJoined(QStringView text, qsizetype at)
     {
         return at > 0 && at < text.size() && isWordCharacter(text[at - 1])

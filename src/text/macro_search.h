@@ -3,8 +3,8 @@
 
 #pragma once
 
-// Where a text names macros. Positions are 0-based; names are compared in any case and hold no line
-// end. Each rule is the tool's own: files rely on the differences.
+// Finds the names of macros in a text. Positions are 0-based; names are compared in any case and
+// hold no line end. Each function has the rule of its tool; files depend on the differences.
 
 #include "platform/core/base.h"
 
@@ -12,19 +12,17 @@
 
 namespace zeph {
 
-/// Positions at which a joystick text uses a macro, comments left out. A search goes on behind the
-/// hit before it.
+/// Positions at which a joystick text uses a macro, without those in comments. Hits do not overlap.
 QList<qsizetype> macroUses(QStringView joystickText, const QString &name);
 
-/// Whether the text uses each of the names, in their order: what macroUses() says of each, found in
-/// one walk over the text.
+/// For each name, whether macroUses() would find it; all are sought in one walk over the text.
 QList<bool> usedMacros(QStringView joystickText, const QStringList &names);
 
-/// Positions at which a rename replaces a macro's name. Narrower behind the name than a use, and
-/// comments are not left out.
+/// Positions at which a rename replaces a macro's name. Fewer characters may follow the name than
+/// in macroUses(), and names in comments count.
 QList<qsizetype> renameHits(QStringView text, const QString &name);
 
-/// The word that the character at a position belongs to; empty when it belongs to none.
+/// The word that contains the position; empty when there is no word at it.
 QString wordOver(QStringView text, qsizetype position);
 
 } // namespace zeph

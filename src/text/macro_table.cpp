@@ -115,7 +115,7 @@ QString macroCounts(const MacroTable &table)
 QString withoutRefused(QString typed)
 {
     for (QChar &each : typed) {
-        // Reading a macro's name deletes tabs, so that one could never be found by it.
+        // Reading a file deletes the tabs in names, so a name with a tab would never be found.
         if (language::forbiddenMacroNameCharacters.contains(each) || each == u'\t') {
             each = u'_';
         }

@@ -3,7 +3,7 @@
 
 #pragma once
 
-// What Zeph knows of the saved macro file: its macros and the headings that group them.
+// The macros of the saved macro file and the headings that group them.
 
 #include "platform/core/base.h"
 
@@ -12,26 +12,28 @@
 namespace zeph {
 
 struct MacroTable {
-    /// Every usable line of the macro file in order, trimmed on the left.
+    /// Every usable line of the macro file in order, without blanks at its start.
     QStringList MacroLines;
-    /// The first is always "All"; empty in a cleared table.
+    /// "All" and then the file's headings; empty when no file was read.
     QStringList MacroHeadings;
-    /// Names by heading, in file order, duplicates kept: the first list holds all macros.
+    /// The names under each heading, in file order; a name that occurs twice is there twice. The
+    /// first list holds all names.
     QList<QStringList> names;
 };
 
 /// The usable lines of a macro file's text.
 QStringList usableMacroLines(QStringView text);
-/// Headings and macros of the lines.
+/// Finds headings and macros in usable lines.
 MacroTable extractMacros(const QStringList &lines);
-/// A macro line's name: before the first "=", tabs deleted, blanks trimmed.
+/// The name in a macro's line: the text before the first "=" without tabs and without blanks around
+/// it.
 QString macroName(QStringView line);
-/// The line that shows a macro's keys, as it stands in the file; no value when none is written
-/// "name =".
+/// The first line of the file with "name =" at its start; no value when there is none, as for a
+/// macro written "name=".
 std::optional<QString> macroKeys(const MacroTable &table, const QString &name);
-/// What the table holds, for the tooltip of the status panel.
+/// The table's numbers of macros and headings in words, for the tooltip of the status panel.
 QString macroCounts(const MacroTable &table);
-/// A name as a pilot types it, with "_" in place of each character that no macro's name may hold.
+/// A typed name with "_" for each character that a macro's name may not hold.
 QString withoutRefused(QString typed);
 
 } // namespace zeph

@@ -29,7 +29,7 @@ PackageRefusal noName()
              "into. I'd be honoured, nay delighted, if you would provide this for me."_s };
 }
 
-/// A file of the package by its place in it.
+/// A file and its path inside the package.
 Expected<PackagePlan::Copy, PackageRefusal> copyOf(const PackagePlan &plan, const QString &file)
 {
     const QString from = existingPath(file);
@@ -52,7 +52,7 @@ Expected<PackagePlan::Copy, PackageRefusal> copyOf(const PackagePlan &plan, cons
     return PackagePlan::Copy{ from, to };
 }
 
-/// A path as the archiver takes it.
+/// A path in the archiver's form.
 QString word(const QString &path)
 {
     const QString native = QDir::toNativeSeparators(path);

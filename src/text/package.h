@@ -3,7 +3,7 @@
 
 #pragma once
 
-// What goes into a distribution package, and where.
+// Distribution packages: their files, and the folder and zip that they go to.
 
 #include "platform/core/base.h"
 
@@ -18,7 +18,7 @@ namespace zeph {
 enum class PackageFile { Joystick, Macro, Graphic, Readme, Profile };
 constexpr int packageFiles = 5;
 
-/// How the form asks for a file.
+/// One row of the form: how it asks for a file.
 struct PackageRow {
     const char16_t *caption; ///< with its mnemonic
     const char16_t *filter;
@@ -26,7 +26,7 @@ struct PackageRow {
 };
 std::span<const PackageRow> packageRows();
 
-/// What the form holds: full paths, empty where there is none.
+/// The form's fields: full paths, empty for a file left out.
 struct PackageFields {
     QString name = {};
     std::array<QString, packageFiles> files = {};
@@ -44,19 +44,19 @@ struct PackagePlan {
     QList<Copy> copies = {};
 };
 
-/// Why a package cannot be made, as it is told.
+/// The message that tells why a package cannot be made.
 struct PackageRefusal {
     QString title;
     QString text;
 };
 
-/// The folder in which all packages lie, with a closing separator.
+/// The folder that holds all packages, with a closing separator.
 QString distributeFolder(const QString &appFolder);
-/// Looks at the name and at the files, which have to exist.
+/// Plans a package. Refuses a bad name and files that do not exist.
 Expected<PackagePlan, PackageRefusal> planPackage(const PackageFields &fields,
                                                   const QString &appFolder);
 
-/// What the archiver is told: to pack a package, and to open a zip into a folder.
+/// The archiver's arguments for packing a package and for unpacking a zip into a folder.
 QString winZipPackArguments(const PackagePlan &plan);
 QString winZipOpenArguments(const QString &zip, const QString &filesFolder);
 

@@ -3,8 +3,8 @@
 
 #include "text/painter.h"
 
-// The order of the groups and of the words in them is the design: a later pass paints over what
-// earlier ones did. The colours are the words' own.
+// The tables of passes. Their order is told and may not change, since a later pass paints over
+// earlier ones. The colour of a pass is the colour of its word.
 
 namespace zeph {
 
@@ -13,7 +13,7 @@ namespace {
 using enum PaintPrimitive;
 using language::operator""_w;
 
-/// A pass a word, in their order, which all seek in one way.
+/// One pass for each of the words, all with the same primitive.
 struct Group {
     PaintPrimitive primitive;
     QStringView words;
@@ -41,8 +41,8 @@ constexpr QStringView axes = u"JOYX JOYY ANT RNG THR RDDR LBRK RBRK MIX MIY "
 constexpr QStringView brackets = u"( ) < > { }"_w;
 constexpr QStringView rem = u"Rem"_w;
 
-/// The joystick file's list. In a line as it is typed a word may be the last, so there its first
-/// words need no blank after them.
+/// The passes of the joystick file. While typing, a word may be the last of its line, so the
+/// primitive of the first words is a parameter: for a whole file they need a blank after them.
 Passes joystickList(PaintPrimitive first)
 {
     return passesOf({

@@ -13,12 +13,28 @@ namespace zeph {
 using language::ColourClass;
 using language::operator""_w;
 
+// The passes are defined as about 150 searches over the whole text, one after another. Painting
+// gives the same result in one walk over the text, in blocks that fit into the processor's caches:
+//
+// 1. HitFinder walks over a block and notes the hits of every pass at once. It finds them by
+// WordTable:
+//    a run of word characters is looked up by its hash, and words with other characters ("/U",
+//    "(AUTO)") by their first character.
+// 2. Canvas takes the hits of one pass after another, tests the conditions of the pass's primitive
+// and
+//    writes its colour over the block's characters.
+// 3. The block's characters become runs.
+//
+// A pass can paint beyond the end of a block (a comment, a BTN with its name), so Progress carries
+// over how far each pass has painted and from where its next hit counts.
+
 namespace {
 
 constexpr size_t asciiCount = 128;
 constexpr ColorRef pureRed = 255;
 
-/// What the walk asks of each character, looked up: nearly all of a file is ASCII.
+/// The two properties of characters that the walk needs, in a table: nearly all characters of a
+/// file are ASCII.
 struct AsciiTable {
     std::array<bool, asciiCount> isWord{};
     std::array<char16_t, asciiCount> folded{};
@@ -46,7 +62,7 @@ char16_t fold(QChar character)
     return c < asciiCount ? ascii.folded[c] : character.toCaseFolded().unicode();
 }
 
-/// Hash of a word in any case, one character after another.
+/// The hash of a word in any case, built from its folded characters.
 struct WordHash {
     quint32 value = 0;
     void add(char16_t folded) { value = value * 31 + folded; }
@@ -66,8 +82,8 @@ bool matchesCase(const PaintPass &pass)
 
 using Hits = std::vector<qsizetype>;
 
-/// The words of a table of passes, by what a walk over a text knows of a place: the hash of the
-/// word there, or its first character.
+/// The words of all passes, to be looked up by hash or by first character. A word with several
+/// passes is there once.
 class WordTable
 {
 public:
@@ -84,9 +100,9 @@ public:
         }
     }
 
-    /// Words of word characters alone.
+    /// Candidates among the words that consist of word characters.
     const Bucket &words(WordHash hash) const { return m_words[hash.value % bucketCount]; }
-    /// All others.
+    /// Candidates among all other words.
     const Bucket &others(QChar first) const { return m_others[fold(first) % asciiCount]; }
 
 private:
@@ -124,9 +140,9 @@ struct Block {
     qsizetype to = 0;
 };
 
-/// Finds the whole-word hits of the words of all passes in one walk over the text. A word that is
-/// made of word characters alone is a hit exactly where a run of them is that word; any other is
-/// tried where its first character can start it.
+/// Finds the whole-word hits of all passes in one walk over the text. A word of word characters is
+/// a hit where a whole run of word characters equals it. Any other word is compared at each place
+/// with its first character.
 class HitFinder
 {
 public:
@@ -135,8 +151,8 @@ public:
     {
     }
 
-    /// Walks on to the end of the word that stands at a place, or to the text's end, and gives the
-    /// stretch walked over. The hits are those that begin in it.
+    /// Walks on to the given position, or to the end of the word there, and returns the stretch
+    /// walked over. hits() are then those that begin in this stretch.
     Block walk(qsizetype until)
     {
         for (Hits &hits : m_hits) {
@@ -163,7 +179,7 @@ public:
         return { from, m_at };
     }
 
-    /// The hits of each pass, in the order of the text.
+    /// The start positions of each pass's hits, in text order.
     const std::vector<Hits> &hits() const { return m_hits; }
 
 private:
@@ -182,9 +198,9 @@ private:
     {
         for (const Word &word : m_words.others(m_text[start])) {
             const qsizetype end = start + word.text.size();
-            const bool joinedBehind =
+            const bool joinedAfter =
                 end < m_text.size() && isWord(word.text.back()) && isWord(m_text[end]);
-            if (end <= m_text.size() && !joinedBehind && equals(start, word.text)) {
+            if (end <= m_text.size() && !joinedAfter && equals(start, word.text)) {
                 addHits(word, start);
             }
         }
@@ -213,7 +229,7 @@ private:
     qsizetype m_at = 0;
 };
 
-/// Lays the hits of one pass after another over the text, a block of it at a time.
+/// Paints the hits of one pass after another, block by block.
 class Canvas
 {
 public:
@@ -225,7 +241,7 @@ public:
         m_runs.reserve(size_t(text.size() / charactersPerRun) + 1);
     }
 
-    /// Paints the block behind the last one, with the hits that begin in it.
+    /// Paints the next block with the hits that begin in it.
     void paint(Block block, const std::vector<Hits> &hits)
     {
         m_block = block;
@@ -239,13 +255,13 @@ public:
     std::vector<ColourRun> takeRuns() { return std::move(m_runs); }
 
 private:
-    /// About as many as a file has that is full of words; a guess alone.
+    /// An estimate for a file full of words, to reserve memory once.
     static constexpr qsizetype charactersPerRun = 4;
 
-    /// How far a pass has come.
+    /// How far a pass has got.
     struct Progress {
-        qsizetype next = 0; ///< hits before it are passed over
-        qsizetype painted = 0; ///< the end of its last stretch, which may lie in a later block
+        qsizetype next = 0; ///< earlier hits do not count
+        qsizetype painted = 0; ///< end of what it painted, possibly in a later block
     };
 
     void fill(qsizetype from, qsizetype to, ColourClass colour)
@@ -314,7 +330,7 @@ private:
         };
         switch (primitive) {
         case PaintPrimitive::BTNorDEF:
-            // The character behind the word is taken in whatever it is; the name starts behind it.
+            // The character after the word is always painted; the name starts after it.
             return endAt(wordEnd + 1, [](QChar c) { return c == u' ' || c == u'\t'; });
         case PaintPrimitive::REM:
             return endAt(wordEnd, [](QChar c) { return c == u'\n'; });
@@ -350,7 +366,7 @@ Painter::~Painter() = default;
 std::vector<ColourRun> Painter::paint(QStringView text, const ColourScheme &scheme,
                                       const std::function<void(const PaintPass &)> &begins) const
 {
-    // A block fits into the processor's nearer caches; a long text goes through them once.
+    // Hits and colours of a block of this length fit into the processor's nearer caches.
     constexpr qsizetype blockLength = 32768;
     if (begins) {
         for (const PaintPass &pass : m_passes) {

@@ -3,8 +3,7 @@
 
 #pragma once
 
-// Colouring as a pure function: a text, a table of passes and a scheme give the colour of every
-// character.
+// Colours a text: passes and a colour scheme decide the colour of every character.
 
 #include "language/file_kinds.h"
 #include "language/words.h"
@@ -20,7 +19,7 @@
 
 namespace zeph {
 
-/// A stretch of characters of one colour; the runs follow each other and cover the whole text.
+/// Characters of one colour. The runs of a text follow each other and cover it.
 struct ColourRun {
     qsizetype length = 0;
     ColorRef colour = 0;
@@ -28,24 +27,24 @@ struct ColourRun {
     friend bool operator==(const ColourRun &, const ColourRun &) = default;
 };
 
-/// What the colours of a text become when the scheme changes. A colour that serves several classes
-/// is left out when they part: which of them a word belongs to, only painting can tell.
+/// The new colour for each old one when the scheme changes. A colour of several classes that get
+/// different colours is left out, because only painting can tell which class a word belongs to.
 QHash<ColorRef, ColorRef> recolouring(const ColourScheme &before, const ColourScheme &after);
 
-/// How a pass seeks its word and what it paints of a hit. "Whole" is the whole-word rule of
+/// How a pass seeks its word and how much it paints. Whole words are those of the rule in
 /// platform/core/text_search.h.
 enum class PaintPrimitive : quint8 {
     OnlyWord, ///< whole word in exact case
-    WordCheckWhole, ///< whole word in any case, a blank behind it and no "_" before it
-    JoyWordnotBracket, ///< whole word in any case; "(" is the next character or the one after it
-    Bracket, ///< the single character, wherever it stands
-    BTNorDEF, ///< whole word (BTN in any case, another in exact case), and on to the blank or tab
-              ///< that ends the name behind it, across line ends too
-    REM ///< whole word in any case, and on to the line's end
+    WordCheckWhole, ///< whole word in any case, with a blank after it and no "_" before it
+    JoyWordnotBracket, ///< whole word in any case, with "(" as the next character or the one after
+    Bracket, ///< the single character anywhere
+    BTNorDEF, ///< whole word (BTN in any case, DEF in exact case) with the next character and the
+              ///< name after it, up to a blank or tab, even across line ends
+    REM ///< whole word in any case with the rest of its line
 };
 
-/// One search over the whole text; passes run in order, and later ones paint over earlier ones. A
-/// pass goes on behind what its last hit painted.
+/// One search over the whole text. Passes run in order, and a later one paints over earlier ones.
+/// After a hit a pass goes on at the end of what it painted.
 struct PaintPass {
     PaintPrimitive primitive;
     QStringView word;
@@ -54,21 +53,22 @@ struct PaintPass {
 
 std::span<const PaintPass> joystickPasses();
 std::span<const PaintPass> macroPasses();
-/// The passes over lines as they are typed.
+/// The passes for lines while they are typed.
 std::span<const PaintPass> typingPasses();
-/// Comments alone.
+/// The pass for comments alone.
 std::span<const PaintPass> remPasses();
 
-/// A table of passes made ready to paint many texts, however short. Outlived by the table.
+/// Paints texts with one table of passes. Keep it to paint many short texts: its constructor
+/// prepares the search. The table must outlive it.
 class Painter
 {
 public:
     explicit Painter(std::span<const PaintPass> passes);
     ~Painter();
 
-    /// Paints a text: linear in its length, exactly as the passes one after another would. No two
-    /// neighbouring runs have the same colour. What is given as begins hears of each pass, in
-    /// order, before the text is painted.
+    /// Paints a text in time linear to its length; the result is that of all passes one after
+    /// another. Neighbouring runs differ in colour. Calls begins with each pass, in order, before
+    /// it paints.
     std::vector<ColourRun> paint(QStringView text, const ColourScheme &scheme,
                                  const std::function<void(const PaintPass &)> &begins = {}) const;
 
@@ -79,12 +79,12 @@ private:
     std::unique_ptr<const Words> m_words;
 };
 
-/// Paints one text.
+/// Paints one text with a Painter of its own.
 std::vector<ColourRun> paint(QStringView text, std::span<const PaintPass> passes,
                              const ColourScheme &scheme,
                              const std::function<void(const PaintPass &)> &begins = {});
 
-/// The runs as looks: the plain format with each run's colour.
+/// The runs as looks and as character runs: the plain format with each run's colour.
 LookRuns lookRuns(const std::vector<ColourRun> &runs, const CharFormat &plain);
 std::vector<CharRun> characterRuns(const std::vector<ColourRun> &runs, const CharFormat &plain);
 

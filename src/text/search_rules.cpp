@@ -27,8 +27,8 @@ std::vector<qsizetype> hitsToReplace(QStringView text, QStringView word, QString
                                      int options)
 {
     std::vector<qsizetype> hits;
-    // Only a hit that follows the one before directly has a changed neighbour on its left: the
-    // replacement's last character, or what stands before an empty one.
+    // Only a hit directly after the one before has a changed neighbour on its left: the
+    // replacement's last character, or with an empty replacement the character before that.
     const bool asksNeighbour =
         (options & SearchWholeWord) && !word.isEmpty() && isWordCharacter(word.front());
     QChar last;

@@ -3,7 +3,7 @@
 
 #pragma once
 
-// What a press on the buttons of the find window finds. Positions are 0-based characters.
+// The searches of the find window. Positions are 0-based characters.
 
 #include "platform/core/base.h"
 
@@ -13,7 +13,7 @@
 
 namespace zeph {
 
-/// What is sought, and whether from the start ("Find first") or from the caret on ("Find next").
+/// A search from the start of the text ("Find first") or from the caret on ("Find next").
 struct SearchRequest {
     QString word;
     int options = 0; ///< of SearchOption
@@ -25,7 +25,7 @@ enum class SearchVerdict {
     NoWord, ///< nothing to search for was given
     NoText, ///< the document is empty
     NotFound, ///< not in the whole text
-    NoFurther, ///< not behind the caret
+    NoFurther, ///< not after the caret
     Hit
 };
 
@@ -38,16 +38,15 @@ struct SearchResult {
 
 SearchResult search(QStringView text, const SearchRequest &request);
 
-/// Where "Replace All" replaces: one hit after the other from the start, each sought behind the
-/// replacement of the one before, in the text as it is by then. Positions are those of the text
-/// before all replacements.
+/// The hits of "Replace All". Each hit is sought after the replacement of the one before, in the
+/// text as changed so far; the positions returned are those in the unchanged text.
 std::vector<qsizetype> hitsToReplace(QStringView text, QStringView word, QStringView replacement,
                                      int options);
 
-/// Whether a text is one that the word finds: the same, or the same but for case.
+/// Whether the text is the word itself, in exact case if the options say so.
 bool isSought(QStringView text, QStringView word, int options);
 
-/// A list of earlier texts with one more at the top, unless it is in it already.
+/// The list with the text added at the top, unless the list has it.
 QStringList withEarlier(QStringList earlier, const QString &text);
 
 } // namespace zeph

@@ -14,7 +14,7 @@ namespace zeph {
 
 namespace {
 
-/// By TemplateLeaving: how the question ends, and the refusal.
+/// For each TemplateLeaving: the end of the question, and the message when saving failed.
 struct LeavingRow {
     QStringView question;
     QStringView refusal;

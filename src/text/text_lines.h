@@ -3,7 +3,7 @@
 
 #pragma once
 
-// Lines of a text: by number, one after another, and the few steps that every line rule takes.
+// Lines of a text: by number, one after another, and the small functions that all line rules share.
 
 #include "language/words.h"
 
@@ -16,7 +16,7 @@ struct LineRange {
     qsizetype length = 0; ///< without the line end
 };
 
-/// The stretch of a 1-based line; no value when the text has no such line.
+/// The characters of a 1-based line; no value when the text has no such line.
 std::optional<LineRange> lineRange(QStringView text, int line);
 
 /// Calls a function with each line of a text, without its line end. A line end at the text's end
@@ -33,16 +33,16 @@ template <class Function> void forEachLine(QStringView text, Function function)
 /// A line without blanks at its start, with every run of blanks and tabs as one blank.
 QString normalisedLine(QStringView line);
 
-/// Without the blanks at the end. Blanks alone: the toolkit's own trimming takes tabs and the
-/// no-break blank too.
+/// The text without the blanks at its end. Tabs and no-break spaces stay, unlike with
+/// QString::trimmed().
 QStringView withoutBlanksAtEnd(QStringView text);
 
-/// Where a comment starts for the tools that read directives and macros: at the first "rem " in any
-/// case, even within a longer word. -1 without one.
+/// Where the comment of a line starts for the tools that read directives and macros: at the first
+/// "rem " in any case, even as the end of a longer word. 0-based; -1 without one.
 qsizetype remAt(QStringView line);
-/// The line up to there.
+/// The line up to its comment.
 QStringView beforeRem(QStringView line);
-/// "Rem " in the tools' own spelling.
+/// The start of a comment as the tools write it.
 inline constexpr QStringView remAndBlank = u"Rem "_w;
 
 } // namespace zeph

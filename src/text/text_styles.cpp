@@ -17,7 +17,8 @@ struct StyleDefault {
     ColorRef colour;
 };
 
-// Dark enough for the light backgrounds of the first run, and told apart by more than their hue.
+// Dark enough for the light backgrounds of the first run, and different in brightness too, for
+// pilots who cannot tell the hues apart.
 constexpr std::array<StyleDefault, 9> defaults = { {
     { u"Style 1", colorRef(160, 0, 0) },
     { u"Style 2", colorRef(0, 96, 0) },

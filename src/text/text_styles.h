@@ -26,8 +26,8 @@ constexpr int smallestStyleSize = 4;
 constexpr int largestStyleSize = 96;
 
 TextStyles defaultTextStyles();
-/// The styles of the settings store (StyleName1, StyleFontName1 ... in section Colours). What is
-/// missing or no value of its kind is the default; sizes are whole points within the limits.
+/// Reads the styles from the settings store (StyleName1, StyleFontName1 ... in section Colours). A
+/// value that is missing or unusable gets its default; sizes become whole points within the limits.
 TextStyles readTextStyles(const ProfileFile &store);
 Expected<void, FileError> writeTextStyles(const ProfileFile &store, const TextStyles &styles);
 

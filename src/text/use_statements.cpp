@@ -61,4 +61,30 @@ UseStatements readUseStatements(QStringView joystickText)
     return found;
 }
 
+std::optional<MdefReference> lastMdefReference(QStringView joystickText)
+{
+    constexpr QStringView words = u"USE MDEF"_w;
+    const qsizetype hit = joystickText.lastIndexOf(words, -1, Qt::CaseInsensitive);
+    if (hit < 0) {
+        return std::nullopt;
+    }
+    const qsizetype after = hit + words.size();
+    qsizetype lineEnd = joystickText.indexOf(u'\n', after);
+    if (lineEnd < 0) {
+        lineEnd = joystickText.size();
+    }
+    const qsizetype start = std::min(after + 1, lineEnd);
+    const QStringView line = joystickText.sliced(start, lineEnd - start);
+    return MdefReference{ line.toString(), withoutBlanksAtEnd(beforeRem(line)).toString() };
+}
+
+QString macroNameFor(const MdefReference &reference, QStringView joystickName)
+{
+    const QString extension = macroExtensionFor(joystickName);
+    if (lastThree(reference.cut) == extension) {
+        return reference.cut;
+    }
+    return reference.wholeLine + u'.' + extension;
+}
+
 } // namespace zeph

@@ -3,13 +3,14 @@
 
 #pragma once
 
-// The USE directives that Zeph itself reads from a joystick file.
+// The USE statements that Zeph itself reads from a joystick file. Which macro file belongs to it is
+// decided by the last USE MDEF.
 
 #include "platform/core/base.h"
 
 namespace zeph {
 
-/// Values as they stand in the file, trimmed; empty when the file has no such line.
+/// Values of the file without blanks around them; empty when the file has no such line.
 struct UseStatements {
     QString ZephGraphic;
     QString ZephReadme;
@@ -20,5 +21,18 @@ struct UseStatements {
 
 /// Reads all lines; the last line of a kind wins.
 UseStatements readUseStatements(QStringView joystickText);
+
+/// The macro file that the last "USE MDEF" of a text names, in any case, even in a comment.
+struct MdefReference {
+    QString wholeLine; ///< the rest of the line after the words and one character
+    QString cut; ///< the same without comment and without blanks at its end
+};
+
+std::optional<MdefReference> lastMdefReference(QStringView joystickText);
+
+/// The macro file's name for a reference in a joystick file of that name. If cut has the extension
+/// it is the name; otherwise wholeLine with the extension added, comment included: files depend on
+/// that.
+QString macroNameFor(const MdefReference &reference, QStringView joystickName);
 
 } // namespace zeph

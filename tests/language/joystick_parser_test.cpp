@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: The Zeph authors
 // SPDX-License-Identifier: MIT
 
-#include "language/forms.h"
 #include "language/model.h"
+#include "language/use_forms.h"
 
 #include <gmock/gmock.h>
 

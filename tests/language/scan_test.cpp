@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: The Zeph authors
 // SPDX-License-Identifier: MIT
 
-#include "language/lines.h"
 #include "language/scan.h"
 #include "language/words.h"
 

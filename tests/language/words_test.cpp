@@ -3,7 +3,7 @@
 
 #include "language/words.h"
 
-#include "language/forms.h"
+#include "language/use_forms.h"
 #include "language/word_map.h"
 
 #include <QSet>

@@ -18,7 +18,6 @@
 #include "settings/settings.h"
 #include "settings/settings_files.h"
 #include "settings/shared_settings.h"
-#include "text/date_stamp.h"
 #include "text/insert_blocks.h"
 
 namespace zeph {

@@ -4,6 +4,7 @@
 #include "editor/files/file_opening.h"
 
 #include "documents/coloured_copies.h"
+#include "documents/document_settings.h"
 #include "documents/editor_texts.h"
 #include "documents/editor_view.h"
 #include "documents/highlighting.h"
@@ -13,7 +14,7 @@
 #include "platform/status_line.h"
 #include "settings/settings.h"
 #include "text/document_text.h"
-#include "text/pair_rule.h"
+#include "text/use_statements.h"
 
 #include <QFileInfo>
 
@@ -50,7 +51,7 @@ FileOpening::FileOpening(const Context &context, const Parts &parts)
 void FileOpening::restoreKeyboard()
 {
     // Some text controls change the layout by themselves when they load another character set.
-    if (m_context.settings.of<EditorSettings>().ForeignLanguageKBInputFix
+    if (m_context.settings.of<DocumentSettings>().ForeignLanguageKBInputFix
         && m_context.keyboard.layoutName() != m_keyboardLayout) {
         m_context.keyboard.loadLayout(m_keyboardLayout);
     }
@@ -79,7 +80,7 @@ bool FileOpening::mayReplace(DocumentKind kind, const QString &why, DocumentKind
 }
 
 std::optional<QString> FileOpening::ask(const QString &title, const QString &filter,
-                                        const QString &extension, DocumentKind kind)
+                                        DocumentKind kind)
 {
     const Document &document = m_parts.view.documents().of(kind);
     const Document &other = m_parts.view.documents().other(document);
@@ -87,7 +88,7 @@ std::optional<QString> FileOpening::ask(const QString &title, const QString &fil
         ? baseWithDot(other.name()) + extensionOf(kind)
         : document.name();
     return m_context.dialogs.openFile(
-        { title, filter, extension, m_context.paths.filesFolder(), name });
+        { title, filter, extensionOf(kind), m_context.paths.filesFolder(), name });
 }
 
 void FileOpening::mnuFileJoystickLoad_Click(const std::optional<QString> &fileToOpen)
@@ -101,7 +102,7 @@ void FileOpening::mnuFileJoystickLoad_Click(const std::optional<QString> &fileTo
         : ask(u"Select the joystick file to open ..."_s,
               u"Joystick file (*.tmj)|*.tmj|Original TM files (*.f22,*.b50,*.adv) "
               "|*.f22;*.b50;*.adv"_s,
-              u"tmj"_s, DocumentKind::Joystick);
+              DocumentKind::Joystick);
     if (path) {
         m_context.status.setText(u"Opening joystick file"_s);
         loadOrTell(DocumentKind::Joystick, *path);
@@ -118,7 +119,7 @@ void FileOpening::MnuFileMacroLoad_Click(const std::optional<QString> &fileToOpe
                                  : ask(u"Select the macro file to open ..."_s,
                                        u"Macro file (*.tmm)|*.tmm|Original TM macro files "
                                        "(*.m22,*.m50,*.mdf) |*.m22;*.m50;*.mdf"_s,
-                                       u"tmm"_s, DocumentKind::Macro);
+                                       DocumentKind::Macro);
     if (!path) {
         return;
     }
@@ -141,7 +142,7 @@ void FileOpening::mnuFileOpen_Click(const std::optional<QString> &fileToOpen)
         : ask(u"Select the joystick file and I'll open it and its macro file"_s,
               u"Thrustmaster files |*.tmj;*.tmm|Joystick file (*.tmj)|*.tmj|Macro file "
               "(*.tmm)|*.tmm|Original TM files |*.f22;*.b50;*.adv;*.m22;*.m50;*.mdf"_s,
-              u"tmj"_s, DocumentKind::Joystick);
+              DocumentKind::Joystick);
     if (!path) {
         return;
     }

@@ -63,8 +63,7 @@ private:
     /// As load(); a failure also stands on the status line.
     bool loadOrTell(DocumentKind kind, const QString &path);
     void show(Document &document, const QString &path, const QString &text);
-    std::optional<QString> ask(const QString &title, const QString &filter,
-                               const QString &extension, DocumentKind kind);
+    std::optional<QString> ask(const QString &title, const QString &filter, DocumentKind kind);
     void openJoystickOf(const QString &macroPath);
     void openMacroOf(const QString &joystickPath);
     QString macroPathFor(const QString &joystickPath);

@@ -13,24 +13,10 @@
 #include "platform/overwrite_question.h"
 #include "platform/status_line.h"
 #include "settings/settings.h"
-#include "text/date_stamp.h"
 #include "text/document_text.h"
+#include "text/insert_blocks.h"
 
 namespace zeph {
-
-namespace {
-
-struct SaveAsLook {
-    QStringView extension;
-    QStringView filter;
-};
-
-constexpr SaveAsLook saveAsLooks[] = {
-    { u"tmj", u"Joystick file (*.tmj)|*.tmj|All files (*.*)|*.*" },
-    { u"tmm", u"Macro file (*.tmm)|*.tmm|All files (*.*)|*.*" },
-};
-
-} // namespace
 
 FileSaving::FileSaving(const Context &context, EditorView &view, ColouredCopies &copies)
     : m_context(context), m_view(view), m_copies(copies), m_backups(context)
@@ -59,9 +45,8 @@ void FileSaving::mnuFileSave_Click()
 void FileSaving::mnuFileSaveAs_Click()
 {
     Document &document = m_view.documents().selected();
-    const SaveAsLook &look = saveAsLooks[size_t(document.kind())];
     const auto chosen = m_context.dialogs.saveFile(
-        { u"Save file as ..."_s, look.filter.toString(), look.extension.toString(),
+        { u"Save file as ..."_s, fileFilter(document.kind()), extensionOf(document.kind()),
           m_context.paths.filesFolder(), proposedName(document) });
     if (!chosen) {
         return;

@@ -11,7 +11,7 @@
 #include "platform/printers.h"
 #include "print/print_pages.h"
 #include "print/printpreview.h"
-#include "text/date_stamp.h"
+#include "text/insert_blocks.h"
 
 namespace zeph {
 

@@ -12,8 +12,8 @@
 #include "platform/status_line.h"
 #include "settings/settings.h"
 #include "settings/shared_settings.h"
-#include "text/date_stamp.h"
 #include "text/document_text.h"
+#include "text/insert_blocks.h"
 
 #include <QFileInfo>
 
