@@ -3,6 +3,7 @@
 
 // What the rules make of the texts in tests/data/golden: colours, alignment, comments, inserts.
 
+#include "settings/shared_settings.h"
 #include "tests/support/golden.h"
 
 #include "text/alignment.h"
@@ -120,6 +121,8 @@ TitleFields titleFields(const QString &text)
         }
     }
     fields.comments = comments.join(u'\n');
+    // As the form gives it.
+    fields.person = personsNameOr(fields.person);
     return fields;
 }
 
