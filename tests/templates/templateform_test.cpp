@@ -15,8 +15,10 @@
 #include "tests/support/rich_texts.h"
 
 #include <QAction>
+#include <QClipboard>
 #include <QComboBox>
 #include <QFile>
+#include <QMimeData>
 #include <QStatusBar>
 #include <QToolBar>
 
