@@ -182,8 +182,7 @@ void DocumentStates::replaceAll(std::span<const qsizetype> starts, qsizetype len
     std::vector<TextEdit> edits;
     edits.reserve(starts.size());
     for (const qsizetype start : starts) {
-        edits.push_back(
-            editOf(start, length, RichText::plain(text, lookAround(start + length))));
+        edits.push_back(editOf(start, length, RichText::plain(text, lookAround(start + length))));
     }
     apply(edits);
 }
@@ -216,9 +215,8 @@ void DocumentStates::restore(const DocumentState &state)
     for (TextEdit &edit : edits) {
         edit.from += from;
     }
-    const std::vector<TextStretch> stretches =
-        otherLooksAfter(edits, ChunkReader(old, front), ChunkReader(wanted, front),
-                        { from, from + after.size() });
+    const std::vector<TextStretch> stretches = otherLooksAfter(
+        edits, ChunkReader(old, front), ChunkReader(wanted, front), { from, from + after.size() });
     std::vector<ParagraphRun> paragraphs = join(wanted, front, wanted.size() - back).paragraphs;
     if (back > 0) {
         // What is replaced ends before a line, whose paragraph the toolkit may take along.

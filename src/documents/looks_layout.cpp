@@ -176,12 +176,10 @@ LooksLayout::withComposed(const QTextBlock &block,
             result.append({ range.start, before, range.format });
         }
         if (before < range.length) {
-            result.append(
-                { range.start + before + length, range.length - before, range.format });
+            result.append({ range.start + before + length, range.length - before, range.format });
         }
     }
-    const QTextCharFormat typed =
-        toTextFormat(m_states->lookForTyping(block.position() + at));
+    const QTextCharFormat typed = toTextFormat(m_states->lookForTyping(block.position() + at));
     for (const QTextLayout::FormatRange &mark : layout.formats()) {
         if (mark.start >= at && mark.start + mark.length <= at + length) {
             result.append({ mark.start, mark.length, typed });

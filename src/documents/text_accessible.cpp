@@ -4,8 +4,8 @@
 #include "documents/text_accessible.h"
 
 #include "documents/coloured_text.h"
-#include "documents/text_control.h"
 
+#include <QPlainTextEdit>
 #include <QTextBlock>
 
 namespace zeph {
@@ -44,24 +44,11 @@ QString attributesOf(const CharFormat &look)
     return result;
 }
 
-QAccessibleInterface *make(const QString &className, QObject *object)
-{
-    auto *control = qobject_cast<TextControl *>(object);
-    const bool isItsOwn =
-        control && className == QLatin1StringView(TextControl::staticMetaObject.className());
-    return isItsOwn ? new TextAccessible(*control) : nullptr;
-}
-
 } // namespace
 
-TextAccessible::TextAccessible(TextControl &control)
-    : QAccessibleWidget(&control, QAccessible::EditableText), m_control(control)
+TextAccessible::TextAccessible(QPlainTextEdit &view, ColouredText &text)
+    : QAccessibleWidget(&view, QAccessible::EditableText), m_view(view), m_text(text)
 {
-}
-
-void TextAccessible::install()
-{
-    QAccessible::installFactory(make);
 }
 
 QAccessible::State TextAccessible::state() const
@@ -69,14 +56,14 @@ QAccessible::State TextAccessible::state() const
     QAccessible::State state = QAccessibleWidget::state();
     state.multiLine = true;
     state.selectableText = true;
-    state.editable = !m_control.isReadOnly();
-    state.readOnly = m_control.isReadOnly();
+    state.editable = !m_view.isReadOnly();
+    state.readOnly = m_view.isReadOnly();
     return state;
 }
 
 QString TextAccessible::text(QAccessible::Text kind) const
 {
-    return kind == QAccessible::Value ? m_control.shown().text() : QAccessibleWidget::text(kind);
+    return kind == QAccessible::Value ? m_text.text() : QAccessibleWidget::text(kind);
 }
 
 void *TextAccessible::interface_cast(QAccessible::InterfaceType type)
@@ -93,7 +80,7 @@ void *TextAccessible::interface_cast(QAccessible::InterfaceType type)
 
 void TextAccessible::selection(int index, int *start, int *end) const
 {
-    const QTextCursor cursor = m_control.textCursor();
+    const QTextCursor cursor = m_view.textCursor();
     const bool isIt = index == 0 && cursor.hasSelection();
     *start = isIt ? cursor.selectionStart() : 0;
     *end = isIt ? cursor.selectionEnd() : 0;
@@ -101,7 +88,7 @@ void TextAccessible::selection(int index, int *start, int *end) const
 
 int TextAccessible::selectionCount() const
 {
-    return m_control.textCursor().hasSelection() ? 1 : 0;
+    return m_view.textCursor().hasSelection() ? 1 : 0;
 }
 
 void TextAccessible::addSelection(int start, int end)
@@ -119,54 +106,53 @@ void TextAccessible::removeSelection(int index)
 void TextAccessible::setSelection(int index, int start, int end)
 {
     if (index == 0) {
-        m_control.shown().setCaret(start, end);
+        m_text.setCaret(start, end);
     }
 }
 
 int TextAccessible::cursorPosition() const
 {
-    return m_control.textCursor().position();
+    return m_view.textCursor().position();
 }
 
 void TextAccessible::setCursorPosition(int position)
 {
-    m_control.shown().setCaret(position, position);
+    m_text.setCaret(position, position);
 }
 
 QString TextAccessible::text(int start, int end) const
 {
-    return m_control.shown().richText(start, end - start).text;
+    return m_text.richText(start, end - start).text;
 }
 
 int TextAccessible::characterCount() const
 {
-    return m_control.shown().length();
+    return m_text.length();
 }
 
 QRect TextAccessible::characterRect(int offset) const
 {
-    QTextCursor cursor(m_control.document());
+    QTextCursor cursor(m_view.document());
     cursor.setPosition(qBound(0, offset, characterCount()));
-    QRect area = m_control.cursorRect(cursor);
+    QRect area = m_view.cursorRect(cursor);
     if (!cursor.atBlockEnd()) {
         cursor.movePosition(QTextCursor::NextCharacter);
-        area.setRight(std::max(area.left(), m_control.cursorRect(cursor).left() - 1));
+        area.setRight(std::max(area.left(), m_view.cursorRect(cursor).left() - 1));
     }
-    return area.translated(m_control.viewport()->mapToGlobal(QPoint()));
+    return area.translated(m_view.viewport()->mapToGlobal(QPoint()));
 }
 
 int TextAccessible::offsetAtPoint(const QPoint &point) const
 {
-    const QPoint local = m_control.viewport()->mapFromGlobal(point);
-    return m_control.viewport()->rect().contains(local)
-        ? m_control.cursorForPosition(local).position()
-        : -1;
+    const QPoint local = m_view.viewport()->mapFromGlobal(point);
+    return m_view.viewport()->rect().contains(local) ? m_view.cursorForPosition(local).position()
+                                                     : -1;
 }
 
 void TextAccessible::scrollToSubstring(int start, int)
 {
     setCursorPosition(start);
-    m_control.ensureCursorVisible();
+    m_view.ensureCursorVisible();
 }
 
 QString TextAccessible::attributes(int offset, int *start, int *end) const
@@ -175,9 +161,9 @@ QString TextAccessible::attributes(int offset, int *start, int *end) const
     if (offset < 0 || offset > characterCount()) {
         return {};
     }
-    const QTextBlock line = m_control.document()->findBlock(offset);
+    const QTextBlock line = m_view.document()->findBlock(offset);
     int from = line.position();
-    for (const CharRun &run : m_control.shown().states().looks(from, line.length())) {
+    for (const CharRun &run : m_text.states().looks(from, line.length())) {
         *start = from;
         *end = from + int(run.length);
         if (offset < *end) {
@@ -187,7 +173,7 @@ QString TextAccessible::attributes(int offset, int *start, int *end) const
     }
     // At the end of the text there is no character.
     *start = *end = offset;
-    return attributesOf(m_control.shown().typingLook());
+    return attributesOf(m_text.typingLook());
 }
 
 void TextAccessible::deleteText(int start, int end)
@@ -202,8 +188,8 @@ void TextAccessible::insertText(int offset, const QString &text)
 
 void TextAccessible::replaceText(int start, int end, const QString &text)
 {
-    if (!m_control.isReadOnly()) {
-        QTextCursor cursor(m_control.document());
+    if (!m_view.isReadOnly()) {
+        QTextCursor cursor(m_view.document());
         cursor.setPosition(qBound(0, start, characterCount()));
         cursor.setPosition(qBound(0, end, characterCount()), QTextCursor::KeepAnchor);
         cursor.insertText(text);

@@ -5,11 +5,13 @@
 
 #include <QAccessibleWidget>
 
+class QPlainTextEdit;
+
 namespace zeph {
 
-class TextControl;
+class ColouredText;
 
-/// What a screen reader is told of a text control: the text, the caret and the selection, and the
+/// What a screen reader is told of a view of a text: the text, the caret and the selection, and the
 /// colours and fonts, which the toolkit's own interface does not find in the text. Offsets are
 /// 0-based characters; attributes() gives a run within one line.
 class TextAccessible : public QAccessibleWidget,
@@ -17,9 +19,8 @@ class TextAccessible : public QAccessibleWidget,
                        public QAccessibleEditableTextInterface
 {
 public:
-    explicit TextAccessible(TextControl &control);
-    /// Has the toolkit make one of these for every text control; a second call does nothing.
-    static void install();
+    /// The view shows the text, and both live longer.
+    TextAccessible(QPlainTextEdit &view, ColouredText &text);
 
     QAccessible::State state() const override;
     QString text(QAccessible::Text kind) const override;
@@ -44,7 +45,8 @@ public:
     void replaceText(int start, int end, const QString &text) override;
 
 private:
-    TextControl &m_control;
+    QPlainTextEdit &m_view;
+    ColouredText &m_text;
 };
 
 } // namespace zeph

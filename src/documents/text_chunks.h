@@ -120,8 +120,8 @@ QString textOf(const TextChunks &chunks, qsizetype from, qsizetype to);
 std::vector<qsizetype> chunkBorders(QStringView text, int linesPerChunk);
 
 /// Gives the paragraphs of a chunk's text, which starts at a position of the edited text.
-using ParagraphReader = std::function<std::vector<ParagraphRun>(qsizetype from, QStringView text,
-                                                                bool isLast)>;
+using ParagraphReader =
+    std::function<std::vector<ParagraphRun>(qsizetype from, QStringView text, bool isLast)>;
 /// The chunks after edits, which are ascending and do not overlap; their positions are those before
 /// any of them. What no edit touches is shared.
 TextChunks edited(const TextChunks &chunks, const std::vector<TextEdit> &edits, int linesPerChunk,

@@ -33,6 +33,15 @@ bool changesText(int key)
         || key == Qt::Key_Delete;
 }
 
+/// The toolkit asks with the object's class and then with those that it is derived from.
+QAccessibleInterface *makeAccessible(const QString &className, QObject *object)
+{
+    auto *control = qobject_cast<TextControl *>(object);
+    const bool isItsOwn =
+        control && className == QLatin1StringView(TextControl::staticMetaObject.className());
+    return isItsOwn ? new TextAccessible(*control, control->shown()) : nullptr;
+}
+
 } // namespace
 
 TextControl::TextControl(QWidget *parent) : TextControl(*new ColouredText, parent)
@@ -44,6 +53,7 @@ TextControl::TextControl(ColouredText &text, QWidget *parent)
     : QPlainTextEdit(parent), m_text(text),
       m_margin(new LineMargin(*this, [this] { return seenLines(); }))
 {
+    QAccessible::installFactory(makeAccessible);
     setDocument(&text.content());
     setLineWrapMode(NoWrap);
     m_margin->hide();

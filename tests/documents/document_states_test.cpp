@@ -310,9 +310,8 @@ TEST(DocumentStates, SayWhichCharactersLookOtherwise)
         const DocumentState before = text.states->present();
         const RichText old = text.states->presentText();
         std::vector<TextStretch> told;
-        QObject::connect(
-            text.states.get(), &DocumentStates::looksChanged, text.states.get(),
-            [&told](const std::vector<TextStretch> &stretches) { told = stretches; });
+        QObject::connect(text.states.get(), &DocumentStates::looksChanged, text.states.get(),
+                         [&told](const std::vector<TextStretch> &stretches) { told = stretches; });
         const auto compare = [&](const RichText &one, const RichText &other) {
             QString expected(one.text.size(), u'.');
             QString marks = expected;
@@ -341,8 +340,7 @@ TEST(DocumentStates, LooksThatAreThereAlreadyAreNoChange)
     const DocumentState before = text.states->present();
     text.states->setCharacterRuns({ { text.size(), plain } });
     const std::vector<DocumentState> both{ before, text.states->present() };
-    EXPECT_EQ(DocumentState::bytesHeld(both),
-              DocumentState::bytesHeld(std::span(both).first(1)));
+    EXPECT_EQ(DocumentState::bytesHeld(both), DocumentState::bytesHeld(std::span(both).first(1)));
     EXPECT_EQ(looks.size(), 0);
     text.lay(3, { { 2, red } });
     EXPECT_EQ(looks.size(), 1);
@@ -471,7 +469,8 @@ TEST(DocumentStates, ManyReplacementsAreOneEditBlock)
         const QString word = chance.make(u"xy\n"_s, 5).text;
         std::vector<qsizetype> starts;
         const int length = chance.upTo(2);
-        for (int at = chance.upTo(9); at + length <= text.size(); at += length + 1 + chance.upTo(9)) {
+        for (int at = chance.upTo(9); at + length <= text.size();
+             at += length + 1 + chance.upTo(9)) {
             starts.push_back(at);
         }
         QSignalSpy changes(&text.document, &QTextDocument::contentsChange);
@@ -489,8 +488,7 @@ TEST(DocumentStates, ManyReplacementsAreOneEditBlock)
         qsizetype now = 0;
         starts.push_back(before.text.size());
         for (const qsizetype start : starts) {
-            ASSERT_EQ(text.states->looks(now, start - old),
-                      before.mid(old, start - old).characters)
+            ASSERT_EQ(text.states->looks(now, start - old), before.mid(old, start - old).characters)
                 << "round " << round;
             now += start - old + word.size();
             old = start + length;

@@ -205,13 +205,15 @@ TEST_F(LooksLayoutTest, NewLooksLayOutOnlyTheLinesThatHaveThem)
     pictureOf(looks);
     const QTextBlock third = looks.document()->findBlockByNumber(2);
     looks.states->setCharacterRuns({ { 3, bigLook }, { 1, plainLook } }, third.position());
-    looks.states->setCharacterRuns({ { 3, redLook } }, looks.document()->lastBlock().position() - 5);
+    looks.states->setCharacterRuns({ { 3, redLook } },
+                                   looks.document()->lastBlock().position() - 5);
     for (QTextBlock line = looks.document()->begin(); line.isValid(); line = line.next()) {
         EXPECT_GT(line.layout()->lineCount(), 0) << line.blockNumber();
     }
     std::vector<CharRun> runs;
     for (QTextBlock line = looks.document()->begin(); line.isValid(); line = line.next()) {
-        runs.push_back({ line.length() - 1, line.blockNumber() % 2 == 0 ? bigLook : CharFormat(redLook) });
+        runs.push_back(
+            { line.length() - 1, line.blockNumber() % 2 == 0 ? bigLook : CharFormat(redLook) });
         runs.push_back({ 1, plainLook });
     }
     const std::vector<CharRun> before = looks.states->looks(0, 100000);
@@ -243,11 +245,12 @@ TEST_F(LooksLayoutTest, GivingLooksIsNoChangeOfTheText)
 
 TEST_F(LooksLayoutTest, TheLongestLineThatShrinksLeavesTheNextLongest)
 {
-    looks.setText(RichText::plain(QString(90, u'x') + u'\n' + QString(80, u'x') + u'\n'
-                                      + QString(70, u'x'),
-                                  plainLook));
+    looks.setText(RichText::plain(
+        QString(90, u'x') + u'\n' + QString(80, u'x') + u'\n' + QString(70, u'x'), plainLook));
     pictureOf(looks);
-    const auto width = [this] { return looks.document()->documentLayout()->documentSize().width(); };
+    const auto width = [this] {
+        return looks.document()->documentLayout()->documentSize().width();
+    };
     const double longest = width();
     QTextCursor cursor(looks.document());
     cursor.setPosition(0);
@@ -275,8 +278,8 @@ TEST_F(LooksLayoutTest, ComposedTextIsShownAmongTheLooks)
         view->setTextCursor(cursor);
         QTextCharFormat underlined;
         underlined.setFontUnderline(true);
-        QInputMethodEvent event(
-            u"xyz"_s, { { QInputMethodEvent::TextFormat, 0, 3, QVariant(underlined) } });
+        QInputMethodEvent event(u"xyz"_s,
+                                { { QInputMethodEvent::TextFormat, 0, 3, QVariant(underlined) } });
         QCoreApplication::sendEvent(view, &event);
     }
     comparePictures();
