@@ -72,7 +72,8 @@ bool Documents::insert(const Statement &statement)
     }
     Document &into = selected();
     RichText text =
-        richTextOf(statement, colourScheme(m_context.settings, into.kind()), into.plain());
+        richTextOf(statement, colourScheme(m_context.settings.of<ColourSettings>(), into.kind()),
+                   into.plain());
     const int line = into.content().findBlock(into.selStart()).position();
     if (statement.startsLine && line != into.selStart()) {
         RichText started = RichText::plain(u"\n"_s, into.plain());

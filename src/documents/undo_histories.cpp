@@ -95,7 +95,8 @@ void UndoHistories::UpdateUndoRedoMenus()
 
 bool UndoHistories::clearsOn(Document::Save save) const
 {
-    return save == Document::Save::Asked && m_context.settings.UndoClearOnSave == 1;
+    return save == Document::Save::Asked
+        && m_context.settings.of<DocumentSettings>().UndoClearOnSave;
 }
 
 void UndoHistories::startOver(DocumentKind kind)
