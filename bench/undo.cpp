@@ -146,12 +146,9 @@ void ColouredAll(benchmark::State &state)
     for (auto _ : state) {
         state.PauseTiming();
         {
-            const Document::Quiet quiet(world.editor->joystick());
-            QTextCursor all(world.control().document());
-            all.select(QTextCursor::Document);
-            QTextCharFormat format;
-            format.setForeground(QColor::fromRgb(++colour % 2 == 0 ? 0xFF0000 : 0x00FF00));
-            all.mergeCharFormat(format);
+            ColouredText &text = world.control().shown();
+            const ColorRef next = ++colour % 2 == 0 ? 0x0000FF : 0x00FF00;
+            text.changeLooks(0, text.length(), [next](CharFormat &look) { look.colour = next; });
         }
         state.ResumeTiming();
         world.history().storeTop();

@@ -3,6 +3,7 @@
 
 #include "documents/coloured_text.h"
 
+#include "documents/looks_layout.h"
 #include "platform/richtext/rich_text_document.h"
 
 #include <QPlainTextDocumentLayout>
@@ -27,6 +28,7 @@ QTextDocument &prepared(QTextDocument &content)
 ColouredText::ColouredText(QObject *parent)
     : QObject(parent), m_states(prepared(m_content)), m_cursor(&m_content)
 {
+    m_content.setDocumentLayout(new LooksLayout(m_content, m_states));
     connect(&m_content, &QTextDocument::contentsChanged, this, [this] {
         if (m_quiet > 0) {
             return;
@@ -57,7 +59,7 @@ RichText ColouredText::richText() const
 
 RichText ColouredText::richText(int from, int length) const
 {
-    return richTextOf(m_content, from, length);
+    return m_states.stretch(from, length);
 }
 
 int ColouredText::length() const
@@ -73,116 +75,70 @@ void ColouredText::setText(const QString &text)
 void ColouredText::setRichText(const RichText &text)
 {
     const Quiet quiet(*this);
-    zeph::setRichText(m_content, text);
-    const bool isUniform = text.paragraphs.size() == 1 && !text.paragraphs.front().format.bullet;
-    if (isUniform && text.text == this->text()) {
-        m_states.know(text);
-    }
-    if (m_content.isEmpty()) {
-        setTypingLook(m_plain);
-    }
+    m_states.setText(text);
 }
 
 void ColouredText::replace(int start, int length, const QString &text)
 {
-    const Quiet quiet(*this);
-    QTextCursor cursor(&m_content);
-    cursor.setPosition(start);
-    cursor.setPosition(start + length, QTextCursor::KeepAnchor);
-    cursor.insertText(text);
+    const qsizetype starts[] = { start };
+    replaceAll(starts, length, text);
 }
 
 void ColouredText::replaceAll(std::span<const qsizetype> starts, qsizetype length,
                               const QString &text)
 {
     const Quiet quiet(*this);
-    QTextCursor cursor(&m_content);
-    cursor.beginEditBlock();
-    // From the end on, so that the places before stay what they are.
-    for (auto start = starts.rbegin(); start != starts.rend(); ++start) {
-        cursor.setPosition(int(*start));
-        cursor.setPosition(int(*start + length), QTextCursor::KeepAnchor);
-        cursor.insertText(text);
-    }
-    cursor.endEditBlock();
+    m_states.replaceAll(starts, length, text);
 }
 
 void ColouredText::replaceWhole(const QString &text)
 {
     const Quiet quiet(*this);
-    QTextCursor cursor(&m_content);
-    cursor.select(QTextCursor::Document);
-    cursor.insertText(text, toTextFormat(m_plain));
+    m_states.replace(0, length(), RichText::plain(text, m_plain));
 }
 
-void ColouredText::insert(RichText text)
+void ColouredText::insert(const RichText &text)
 {
     const Quiet quiet(*this);
-    text.paragraphs.clear();
-    QTextCursor cursor = m_cursor;
-    insertRichText(cursor, text);
-    setCaret(cursor.position(), cursor.position());
+    const int start = selStart();
+    m_states.replace(start, selLength(), text);
+    const int end = start + int(text.text.size());
+    setCaret(end, end);
     setTypingLook(m_plain);
 }
 
 void ColouredText::removeSelection()
 {
     const Quiet quiet(*this);
-    QTextCursor cursor = m_cursor;
-    cursor.removeSelectedText();
-    setCaret(cursor.position(), cursor.position());
+    const int start = selStart();
+    m_states.replace(start, selLength(), {});
+    setCaret(start, start);
 }
 
 void ColouredText::setPlain(const CharFormat &plain)
 {
     m_plain = plain;
-    if (m_content.isEmpty()) {
-        setTypingLook(plain);
-    }
+    m_states.setPlain(plain);
 }
 
 void ColouredText::setCharacterRuns(const std::vector<CharRun> &runs, int from)
 {
-    qsizetype length = 0;
-    for (const CharRun &run : runs) {
-        length += std::max(run.length, qsizetype(0));
-    }
-    if (from > 0 || length != this->length()) {
-        const Quiet quiet(*this);
-        applyCharacterRuns(m_content, runs, from);
-        return;
-    }
-    LookRuns looks;
-    looks.runs.reserve(runs.size());
-    QHash<CharFormat, quint32> numbers;
-    for (const CharRun &run : runs) {
-        const auto known = numbers.constFind(run.format);
-        const quint32 number = known != numbers.cend() ? *known : quint32(looks.looks.size());
-        if (known == numbers.cend()) {
-            numbers.insert(run.format, number);
-            looks.looks.push_back(run.format);
-        }
-        looks.runs.push_back({ quint32(std::max(run.length, qsizetype(0))), number });
-    }
-    setLooks(looks);
+    m_states.setCharacterRuns(runs, from);
 }
 
 void ColouredText::setLooks(const LookRuns &looks)
 {
-    const Quiet quiet(*this);
     m_states.setLooks(looks);
 }
 
 void ColouredText::changeLooks(int from, int length,
                                const std::function<void(CharFormat &)> &change)
 {
-    const bool whole = from == 0 && length == this->length();
-    std::vector<CharRun> runs =
-        whole ? richText().characters : characterRunsOf(m_content, from, length);
+    std::vector<CharRun> runs = m_states.looks(from, length);
     for (CharRun &run : runs) {
         change(run.format);
     }
-    setCharacterRuns(runs, from);
+    m_states.setCharacterRuns(runs, from);
 }
 
 void ColouredText::setMargins()
@@ -193,14 +149,13 @@ void ColouredText::setMargins()
 
 CharFormat ColouredText::typingLook() const
 {
-    return fromTextFormat(m_cursor.charFormat());
+    return m_states.lookForTyping(m_cursor.position());
 }
 
 void ColouredText::setTypingLook(const CharFormat &look)
 {
     if (!m_cursor.hasSelection()) {
-        m_cursor.setCharFormat(toTextFormat(look));
-        Q_EMIT typingLookSet(look);
+        m_states.setTyping(m_cursor.position(), look);
     }
 }
 
@@ -209,17 +164,17 @@ void ColouredText::setCaret(int anchor, int caret)
     const int last = length();
     m_cursor.setPosition(qBound(0, anchor, last));
     m_cursor.setPosition(qBound(0, caret, last), QTextCursor::KeepAnchor);
+    m_states.setTyping(m_cursor.position(), std::nullopt);
     Q_EMIT caretSet();
-    if (m_content.isEmpty()) {
-        // A caret that was moved knows nothing of the looks that typing is to have.
-        setTypingLook(m_plain);
-    }
     tellCaret();
 }
 
 void ColouredText::follow(const QTextCursor &cursor)
 {
     m_cursor = cursor;
+    if (cursor.position() != m_states.typingPlace() || cursor.hasSelection()) {
+        m_states.setTyping(cursor.position(), std::nullopt);
+    }
     tellCaret();
 }
 

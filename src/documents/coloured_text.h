@@ -46,7 +46,7 @@ public:
     void replaceWhole(const QString &text);
     /// Puts rich text in the selection's place, in the document's own margins; the caret goes to
     /// its end, and typing goes on in the plain look.
-    void insert(RichText text);
+    void insert(const RichText &text);
     void removeSelection();
 
     /// Font and colour of plain text, which typing starts with.
@@ -105,7 +105,6 @@ Q_SIGNALS:
     void selectionChanged(bool hasSelection);
     /// A call has moved the caret: views show it where it is now.
     void caretSet();
-    void typingLookSet(const CharFormat &look);
 
 private:
     void tellCaret();
@@ -115,7 +114,7 @@ private:
     int m_quiet = 0;
     CharFormat m_plain;
     QTextDocument m_content;
-    mutable DocumentStates m_states; ///< reads what has changed when it is asked
+    mutable DocumentStates m_states; ///< catches up with the text when it is asked
     QTextCursor m_cursor;
 };
 

@@ -9,7 +9,7 @@ namespace zeph {
 
 namespace {
 
-constexpr qint16 noSteps = 0;
+constexpr int noSteps = 0;
 
 } // namespace
 

@@ -19,6 +19,7 @@ constexpr std::array rows = {
     row(misc, u"UndoClearOnSave", &S::UndoClearOnSave, false, SavedAs{ 26 }),
     row(misc, u"LineNumbers", &S::LineNumbers, true, SavedAs{ 45 }),
     row(misc, u"CurrentLineMark", &S::CurrentLineMark, true, SavedAs{ 46 }),
+    row(u"Unsupported", u"ForeignLanguageKBInputFix", &S::ForeignLanguageKBInputFix, false),
     row(u"Unsupported", u"ColourWithTyping", &S::ColourWithTyping, false),
 };
 

@@ -19,6 +19,7 @@ struct DocumentSettings {
     bool UndoClearOnSave;
     bool LineNumbers;
     bool CurrentLineMark;
+    bool ForeignLanguageKBInputFix;
     bool ColourWithTyping;
 };
 

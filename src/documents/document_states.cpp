@@ -5,88 +5,16 @@
 
 #include "platform/richtext/rich_text_document.h"
 
+#include <QScopedValueRollback>
 #include <QTextCursor>
+#include <QTextDocument>
 
 #include <algorithm>
-#include <limits>
 #include <unordered_set>
 
 namespace zeph {
 
 namespace {
-
-constexpr qsizetype everything = std::numeric_limits<qsizetype>::max();
-
-/// Adds a run behind others, to the last one where it goes on in the same format.
-template <class Run, class Size> void add(std::vector<Run> &runs, Size Run::*size, const Run &run)
-{
-    if (!runs.empty() && runs.back().format == run.format) {
-        runs.back().*size += run.*size;
-    } else {
-        runs.push_back(run);
-    }
-}
-
-/// Hands out a text's runs piece by piece.
-template <class Run, class Size> class RunReader
-{
-public:
-    RunReader(const std::vector<Run> &runs, Size Run::*size) : m_runs(runs), m_size(size) { }
-
-    /// Calls a function with format and size of each piece of the next so many characters or
-    /// paragraphs.
-    template <class Function> void take(qsizetype size, Function function)
-    {
-        while (size > 0 && m_index < m_runs.size()) {
-            const Run &run = m_runs[m_index];
-            const qsizetype part = std::min(size, qsizetype(run.*m_size) - m_taken);
-            if (part > 0) {
-                function(run.format, part);
-            }
-            size -= part;
-            m_taken += part;
-            if (m_taken == qsizetype(run.*m_size)) {
-                ++m_index;
-                m_taken = 0;
-            }
-        }
-    }
-
-private:
-    const std::vector<Run> &m_runs;
-    Size Run::*m_size;
-    size_t m_index = 0;
-    qsizetype m_taken = 0;
-};
-
-bool areText(const TextChunks &chunks, QStringView text)
-{
-    for (const auto &chunk : chunks) {
-        if (!text.startsWith(chunk->text)) {
-            return false;
-        }
-        text = text.sliced(chunk->text.size());
-    }
-    return text.isEmpty();
-}
-
-std::vector<qsizetype> bordersOf(const TextChunks &chunks)
-{
-    std::vector<qsizetype> borders{ 0 };
-    for (const auto &chunk : chunks) {
-        borders.push_back(borders.back() + chunk->text.size());
-    }
-    return borders;
-}
-
-qsizetype sizeOf(const TextChunks &chunks, size_t first, size_t behind)
-{
-    qsizetype size = 0;
-    for (size_t i = first; i < behind; ++i) {
-        size += chunks[i]->text.size();
-    }
-    return size;
-}
 
 /// Without the text, which chunks may share.
 qsizetype bytesOf(const TextChunk &chunk)
@@ -94,6 +22,49 @@ qsizetype bytesOf(const TextChunk &chunk)
     return qsizetype(sizeof(TextChunk))
         + qsizetype(chunk.runs.capacity() * sizeof(TextChunk::Run)
                     + chunk.paragraphs.capacity() * sizeof(ParagraphRun));
+}
+
+/// Has the toolkit do edits, from the last one on, so that the places of the others stay. Gives the
+/// end of the last one's new text.
+int write(QTextCursor &cursor, const std::vector<TextEdit> &edits)
+{
+    QTextCursor end(cursor.document());
+    if (!edits.empty()) {
+        end.setPosition(int(edits.back().from + edits.back().length));
+    }
+    for (auto edit = edits.rbegin(); edit != edits.rend(); ++edit) {
+        cursor.setPosition(int(edit->from));
+        cursor.setPosition(int(edit->from + edit->length), QTextCursor::KeepAnchor);
+        cursor.insertText(edit->text, QTextCharFormat());
+    }
+    return end.position();
+}
+
+/// Where characters look otherwise than wanted after edits, whose own characters do not; each
+/// reader is at the start of the stretch of the wanted text.
+std::vector<TextStretch> otherLooksAfter(const std::vector<TextEdit> &edits, ChunkReader old,
+                                         ChunkReader wanted, TextStretch stretch)
+{
+    TextChunk::Runs present;
+    TextChunk::Runs runs;
+    qsizetype position = stretch.from; // in the old text
+    qsizetype grown = 0;
+    for (const TextEdit &edit : edits) {
+        old.takeRuns(edit.from - position, present);
+        wanted.takeRuns(edit.from - position, runs);
+        old.skip(edit.length);
+        ChunkReader again = wanted;
+        again.takeRuns(edit.text.size(), present);
+        wanted.takeRuns(edit.text.size(), runs);
+        position = edit.from + edit.length;
+        grown += edit.text.size() - edit.length;
+    }
+    const qsizetype rest = stretch.to - grown - position;
+    old.takeRuns(rest, present);
+    wanted.takeRuns(rest, runs);
+    std::vector<TextStretch> stretches;
+    addOtherLooks(present, runs, stretch.from, stretches);
+    return stretches;
 }
 
 } // namespace
@@ -132,147 +103,18 @@ DocumentStates::DocumentStates(QTextDocument &document, int linesPerChunk)
 {
     // Without a layout the toolkit tells nobody of changes.
     document.documentLayout();
-    m_following = QObject::connect(&document, &QTextDocument::contentsChange, &document,
-                                   [this](int position, int removed, int added) {
-                                       onContentsChange(position, removed, added);
-                                   });
-}
-
-DocumentStates::~DocumentStates()
-{
-    QObject::disconnect(m_following);
-}
-
-void DocumentStates::onContentsChange(int position, int, int added)
-{
-    // The toolkit's numbers may count the end of the last line too.
-    const qsizetype size = m_document.characterCount() - 1;
-    m_sameInFront = std::min(m_sameInFront, qsizetype(position));
-    m_sameBehind = std::clamp(size - position - added, qsizetype(0), m_sameBehind);
-    m_changed = true;
+    connect(&document, &QTextDocument::contentsChange, this, &DocumentStates::onContentsChange);
+    // An edit block without a change has a number too.
+    connect(&document, &QTextDocument::contentsChanged, this,
+            [this] { m_revision = m_document.revision(); });
+    catchUp();
     m_revision = m_document.revision();
 }
 
 DocumentState DocumentStates::present()
 {
-    if (m_document.revision() != m_revision) {
-        // Changed within an edit block that is still open: where, nobody has been told.
-        m_sameInFront = m_sameBehind = 0;
-        m_changed = true;
-    }
-    if (m_changed) {
-        readChanges();
-        settle();
-    }
+    catchUp();
     return m_known;
-}
-
-void DocumentStates::settle()
-{
-    m_changed = false;
-    m_sameInFront = m_sameBehind = everything;
-    m_revision = m_document.revision();
-}
-
-void DocumentStates::know(const RichText &text)
-{
-    const TextChunks &old = *m_known.m_chunks;
-    const bool isOldText = areText(old, text.text);
-    const std::vector<qsizetype> borders = isOldText ? bordersOf(old) : cuts(text.text);
-    RunReader characters(text.characters, &CharRun::length);
-    RunReader paragraphs(text.paragraphs, &ParagraphRun::count);
-    auto chunks = std::make_shared<TextChunks>();
-    chunks->reserve(borders.size() - 1);
-    for (size_t i = 0; i + 1 < borders.size(); ++i) {
-        const qsizetype size = borders[i + 1] - borders[i];
-        auto chunk = std::make_shared<TextChunk>();
-        chunk->text = isOldText ? old[i]->text : text.text.mid(borders[i], size);
-        characters.take(size, [&](const CharFormat &look, qsizetype part) {
-            const quint32 number = numberAsRead(look);
-            if (!chunk->runs.empty() && chunk->runs.back().look == number) {
-                chunk->runs.back().length += quint32(part);
-            } else {
-                chunk->runs.push_back({ quint32(part), number });
-            }
-        });
-        const bool last = i + 2 == borders.size();
-        paragraphs.take(chunk->text.count(u'\n') + (last ? 1 : 0),
-                        [&](const ParagraphFormat &format, qsizetype part) {
-                            chunk->paragraphs.push_back({ part, format });
-                        });
-        chunk->runs.shrink_to_fit();
-        chunk->paragraphs.shrink_to_fit();
-        if (isOldText && *chunk == *old[i]) {
-            chunks->push_back(old[i]);
-        } else {
-            chunks->push_back(std::move(chunk));
-        }
-    }
-    m_known.m_chunks = std::move(chunks);
-    settle();
-}
-
-void DocumentStates::setLooks(const LookRuns &looks)
-{
-    const DocumentState before = present();
-    std::vector<quint32> numbers;
-    for (const CharFormat &look : looks.looks) {
-        numbers.push_back(numberAsRead(look));
-    }
-    RunReader reader(looks.runs, &LookRun::length);
-    auto chunks = std::make_shared<TextChunks>();
-    chunks->reserve(before.m_chunks->size());
-    QTextCursor change(&m_document);
-    change.beginEditBlock();
-    qsizetype from = 0;
-    for (const auto &chunk : *before.m_chunks) {
-        std::vector<TextChunk::Run> wanted;
-        wanted.reserve(chunk->runs.size());
-        reader.take(chunk->text.size(), [&](quint32 look, qsizetype part) {
-            if (!wanted.empty() && wanted.back().look == numbers[look]) {
-                wanted.back().length += quint32(part);
-            } else {
-                wanted.push_back({ quint32(part), numbers[look] });
-            }
-        });
-        if (wanted == chunk->runs) {
-            chunks->push_back(chunk);
-        } else {
-            applyCharacterRuns(m_document, charRuns(wanted), charRuns(chunk->runs), from);
-            wanted.shrink_to_fit();
-            chunks->push_back(std::make_shared<TextChunk>(
-                TextChunk{ chunk->text, std::move(wanted), chunk->paragraphs }));
-        }
-        from += chunk->text.size();
-    }
-    change.endEditBlock();
-    m_known.m_chunks = std::move(chunks);
-    settle();
-}
-
-std::vector<CharRun> DocumentStates::charRuns(const std::vector<TextChunk::Run> &runs) const
-{
-    std::vector<CharRun> result;
-    result.reserve(runs.size());
-    for (const TextChunk::Run &run : runs) {
-        result.push_back({ run.length, m_looks[run.look] });
-    }
-    return result;
-}
-
-std::vector<qsizetype> DocumentStates::cuts(QStringView text) const
-{
-    std::vector<qsizetype> borders{ 0 };
-    qsizetype left = text.count(u'\n') + 1;
-    for (; left > 2 * m_linesPerChunk; left -= m_linesPerChunk) {
-        qsizetype at = borders.back();
-        for (int line = 0; line < m_linesPerChunk; ++line) {
-            at = text.indexOf(u'\n', at) + 1;
-        }
-        borders.push_back(at);
-    }
-    borders.push_back(text.size());
-    return borders;
 }
 
 DocumentState DocumentStates::empty(const ParagraphFormat &paragraph) const
@@ -284,17 +126,66 @@ DocumentState DocumentStates::empty(const ParagraphFormat &paragraph) const
     return state;
 }
 
-RichText DocumentStates::richText(const DocumentState &state) const
+TextEdit DocumentStates::editOf(qsizetype from, qsizetype length, const RichText &text)
 {
-    return join(*state.m_chunks, 0, state.m_chunks->size());
+    TextEdit edit{ from, length, insertableText(text.text), {} };
+    qsizetype left = edit.text.size();
+    for (const CharRun &run : text.characters) {
+        const qsizetype part = std::clamp(run.length, qsizetype(0), left);
+        addRun(edit.runs, { quint32(part), m_looks.numberOf(run.format) });
+        left -= part;
+    }
+    addRun(edit.runs, { quint32(left), m_looks.numberOf({}) });
+    return edit;
 }
 
-void DocumentStates::readPieces(const DocumentState &state,
-                                const std::function<void(const RichText &piece)> &read) const
+void DocumentStates::setText(const RichText &text)
 {
-    for (size_t i = 0; i < state.m_chunks->size(); ++i) {
-        read(join(*state.m_chunks, i, i + 1));
+    const TextEdit whole = editOf(0, m_size, text);
+    const bool isUniform = text.paragraphs.size() == 1 && !text.paragraphs.front().format.bullet;
+    const ParagraphReader uniform = [&text](qsizetype, QStringView lines, bool isLast) {
+        return std::vector<ParagraphRun>{ { lines.count(u'\n') + (isLast ? 1 : 0),
+                                            text.paragraphs.front().format } };
+    };
+    const QScopedValueRollback writing(m_isWriting, true);
+    QTextCursor change(&m_document);
+    change.beginEditBlock();
+    setPlainText(m_document, whole.text, text.paragraphs);
+    setChunks(edited(*m_known.m_chunks, { whole }, m_linesPerChunk,
+                     isUniform ? uniform : paragraphReader()));
+    change.endEditBlock();
+}
+
+void DocumentStates::apply(const std::vector<TextEdit> &edits)
+{
+    const QScopedValueRollback writing(m_isWriting, true);
+    QTextCursor cursor(&m_document);
+    cursor.beginEditBlock();
+    const int end = write(cursor, edits);
+    setChunks(edited(*m_known.m_chunks, edits, m_linesPerChunk, paragraphReader()));
+    if (!edits.empty()) {
+        followParagraphs(edits.front().from, end);
     }
+    cursor.endEditBlock();
+}
+
+void DocumentStates::replace(qsizetype from, qsizetype length, const RichText &text)
+{
+    catchUp();
+    apply({ editOf(from, length, text) });
+}
+
+void DocumentStates::replaceAll(std::span<const qsizetype> starts, qsizetype length,
+                                const QString &text)
+{
+    catchUp();
+    std::vector<TextEdit> edits;
+    edits.reserve(starts.size());
+    for (const qsizetype start : starts) {
+        edits.push_back(
+            editOf(start, length, RichText::plain(text, lookAround(start + length))));
+    }
+    apply(edits);
 }
 
 void DocumentStates::restore(const DocumentState &state)
@@ -302,68 +193,120 @@ void DocumentStates::restore(const DocumentState &state)
     const DocumentState now = present();
     const TextChunks &old = *now.m_chunks;
     const TextChunks &wanted = *state.m_chunks;
-    const size_t most = std::min(old.size(), wanted.size());
-    size_t front = 0;
-    while (front < most && old[front] == wanted[front]) {
-        ++front;
-    }
-    if (front == wanted.size()) {
+    const auto [oldFront, wantedFront] = std::ranges::mismatch(old, wanted);
+    if (oldFront == old.end() && wantedFront == wanted.end()) {
         return;
     }
+    const auto front = size_t(oldFront - old.begin());
+    const size_t most = std::min(old.size(), wanted.size()) - front;
     size_t back = 0;
-    while (back < most - front && old[old.size() - 1 - back] == wanted[wanted.size() - 1 - back]) {
+    while (back < most && old[old.size() - 1 - back] == wanted[wanted.size() - 1 - back]) {
         ++back;
     }
-    RichText text = join(wanted, front, wanted.size() - back);
+    const qsizetype from = sizeOf(old, 0, front);
+    const QString before = textOf(old, from, from + sizeOf(old, front, old.size() - back));
+    const QString after = textOf(wanted, from, from + sizeOf(wanted, front, wanted.size() - back));
+    const bool hasSoftEnds = lineOfCharacter(m_document, int(from + before.size()))
+            - lineOfCharacter(m_document, int(from))
+        != before.count(u'\n');
+    // A line end within a paragraph would stay one, and the paragraphs could not be told apart.
+    std::vector<TextEdit> edits = hasSoftEnds
+        ? std::vector<TextEdit>{ { 0, before.size(), after, {} } }
+        : differences(before, after);
+    for (TextEdit &edit : edits) {
+        edit.from += from;
+    }
+    const std::vector<TextStretch> stretches =
+        otherLooksAfter(edits, ChunkReader(old, front), ChunkReader(wanted, front),
+                        { from, from + after.size() });
+    std::vector<ParagraphRun> paragraphs = join(wanted, front, wanted.size() - back).paragraphs;
     if (back > 0) {
         // What is replaced ends before a line, whose paragraph the toolkit may take along.
-        const ParagraphFormat next = wanted[wanted.size() - back]->paragraphs.front().format;
-        add(text.paragraphs, &ParagraphRun::count, { 1, next });
+        addParagraphs(paragraphs, { 1, wanted[wanted.size() - back]->paragraphs.front().format });
     }
-    replaceRichText(m_document, sizeOf(old, 0, front), sizeOf(old, front, old.size() - back), text);
+    const QScopedValueRollback writing(m_isWriting, true);
+    QTextCursor cursor(&m_document);
+    cursor.beginEditBlock();
+    write(cursor, edits);
+    setParagraphRuns(m_document, from, after, paragraphs);
+    setChunks(wanted);
     m_known = state;
-    settle();
+    cursor.endEditBlock();
+    if (!stretches.empty()) {
+        Q_EMIT looksChanged(stretches);
+    }
 }
 
-RichText DocumentStates::join(const TextChunks &chunks, size_t first, size_t behind) const
+void DocumentStates::setLooks(const LookRuns &looks, qsizetype from)
 {
-    RichText result;
-    result.text.reserve(sizeOf(chunks, first, behind));
-    for (size_t i = first; i < behind; ++i) {
-        const TextChunk &chunk = *chunks[i];
-        result.text += chunk.text;
-        for (const TextChunk::Run &run : chunk.runs) {
-            add(result.characters, &CharRun::length, { run.length, m_looks[run.look] });
+    catchUp();
+    std::vector<quint32> numbers;
+    for (const CharFormat &look : looks.looks) {
+        numbers.push_back(m_looks.numberOf(look));
+    }
+    TextChunk::Runs runs;
+    runs.reserve(looks.runs.size());
+    for (const LookRun &run : looks.runs) {
+        addRun(runs, { run.length, numbers[run.format] });
+    }
+    layRuns(runs, from);
+}
+
+void DocumentStates::setCharacterRuns(const std::vector<CharRun> &looks, qsizetype from)
+{
+    catchUp();
+    TextChunk::Runs runs;
+    runs.reserve(looks.size());
+    for (const CharRun &run : looks) {
+        addRun(runs, { quint32(std::max(run.length, qsizetype(0))), m_looks.numberOf(run.format) });
+    }
+    layRuns(runs, from);
+}
+
+void DocumentStates::layRuns(const TextChunk::Runs &runs, qsizetype from)
+{
+    qsizetype to = from;
+    for (const TextChunk::Run &run : runs) {
+        to += run.length;
+    }
+    TextChunks chunks = *m_known.m_chunks;
+    RunReader wanted(runs);
+    std::vector<TextStretch> stretches;
+    qsizetype start = 0;
+    for (auto &chunk : chunks) {
+        const qsizetype size = chunk->text.size();
+        const qsizetype first = std::clamp(from - start, qsizetype(0), size);
+        const qsizetype last = std::clamp(to - start, qsizetype(0), size);
+        if (first < last) {
+            RunReader old(chunk->runs);
+            TextChunk::Runs fresh;
+            fresh.reserve(chunk->runs.size());
+            TextChunk::Runs covered;
+            old.take(first, fresh);
+            wanted.take(last - first, fresh);
+            old.take(last - first, covered);
+            old.take(size - last, fresh);
+            if (fresh != chunk->runs) {
+                addOtherLooks(chunk->runs, fresh, start, stretches);
+                fresh.shrink_to_fit();
+                chunk = std::make_shared<TextChunk>(
+                    TextChunk{ chunk->text, std::move(fresh), chunk->paragraphs });
+            }
         }
-        for (const ParagraphRun &run : chunk.paragraphs) {
-            add(result.paragraphs, &ParagraphRun::count, run);
-        }
+        start += size;
     }
-    return result;
+    if (!stretches.empty()) {
+        setChunks(std::move(chunks));
+        Q_EMIT looksChanged(stretches);
+    }
 }
 
-/// A look that was set may read otherwise: a colour loses what no screen shows.
-quint32 DocumentStates::numberAsRead(const CharFormat &look)
+void DocumentStates::setChunks(TextChunks chunks)
 {
-    const auto known = m_numbersAsRead.constFind(look);
-    if (known != m_numbersAsRead.cend()) {
-        return known.value();
-    }
-    const quint32 number = numberOf(fromTextFormat(toTextFormat(look)));
-    m_numbersAsRead.insert(look, number);
-    return number;
-}
-
-quint32 DocumentStates::numberOf(const CharFormat &look)
-{
-    const auto known = m_numbers.constFind(look);
-    if (known != m_numbers.cend()) {
-        return known.value();
-    }
-    const quint32 number = quint32(m_looks.size());
-    m_looks.push_back(look);
-    m_numbers.insert(look, number);
-    return number;
+    m_size = sizeOf(chunks, 0, chunks.size());
+    m_known.m_chunks = std::make_shared<const TextChunks>(std::move(chunks));
+    m_lastChunk = 0;
+    m_lastStart = 0;
 }
 
 } // namespace zeph

@@ -1,142 +1,216 @@
 // SPDX-FileCopyrightText: The Zeph authors
 // SPDX-License-Identifier: MIT
 
-// How the states read what has changed in the document, and only that.
+// How the states are read, and how they follow what others do to the document.
 
 #include "documents/document_states.h"
 
 #include "platform/richtext/rich_text_document.h"
 
-#include <QTextBlock>
-
-#include <algorithm>
+#include <QTextCursor>
+#include <QTextDocument>
 
 namespace zeph {
 
-void DocumentStates::readChanges()
+qsizetype DocumentStates::documentSize() const
 {
-    const TextChunks &old = *m_known.m_chunks;
-    const Stale stale = staleChunks();
-    const std::vector<qsizetype> borders = cuts(stale);
-    auto chunks = std::make_shared<TextChunks>();
-    chunks->reserve(stale.first + borders.size() + old.size() - stale.behind);
-    const auto at = [&old](size_t index) {
-        return old.begin() + qsizetype(index);
+    // The toolkit counts a separator at the end that is no character of the text.
+    return m_document.characterCount() - 1;
+}
+
+bool DocumentStates::isUpToDate() const
+{
+    return m_revision == m_document.revision() && m_size == documentSize();
+}
+
+void DocumentStates::onContentsChange(int position, int, int added)
+{
+    m_revision = m_document.revision();
+    if (m_isWriting) {
+        return;
+    }
+    // The toolkit's numbers may count the end of the last line too.
+    const qsizetype most = std::min(m_size, documentSize());
+    const qsizetype front = std::min(qsizetype(position), most);
+    follow(front, std::clamp(documentSize() - position - added, qsizetype(0), most - front));
+}
+
+void DocumentStates::catchUp()
+{
+    if (m_revision != m_document.revision()) {
+        // Changed within an edit block that is still open: where, nobody has been told.
+        follow(0, 0);
+    }
+}
+
+void DocumentStates::follow(qsizetype sameInFront, qsizetype sameAtEnd)
+{
+    const qsizetype end = documentSize() - sameAtEnd;
+    const QString before = textOf(*m_known.m_chunks, sameInFront, m_size - sameAtEnd);
+    const QString now = plainTextOf(m_document, sameInFront, end - sameInFront);
+    std::vector<TextEdit> edits = differences(before, now);
+    for (TextEdit &edit : edits) {
+        edit.from += sameInFront;
+        addRun(edit.runs, { quint32(edit.text.size()), lookOfTyped(edit) });
+    }
+    if (!edits.empty()) {
+        setChunks(edited(*m_known.m_chunks, edits, m_linesPerChunk, paragraphReader()));
+    }
+    const bool isInsertion = edits.size() == 1 && before.isEmpty();
+    if (!isInsertion) {
+        followParagraphs(sameInFront, end);
+    }
+}
+
+/// Reads the paragraphs again of the chunks that a stretch touches; the one that starts at its end
+/// is one of them, since the toolkit may give the line after removed ones their format.
+void DocumentStates::followParagraphs(qsizetype from, qsizetype to)
+{
+    const ParagraphReader read = paragraphReader();
+    TextChunks chunks = *m_known.m_chunks;
+    bool isOther = false;
+    qsizetype start = 0;
+    for (auto &chunk : chunks) {
+        const qsizetype end = start + chunk->text.size();
+        const bool isLast = &chunk == &chunks.back();
+        if (start <= to && (end > from || isLast)) {
+            std::vector<ParagraphRun> paragraphs = read(start, chunk->text, isLast);
+            if (paragraphs != chunk->paragraphs) {
+                chunk = std::make_shared<TextChunk>(
+                    TextChunk{ chunk->text, chunk->runs, std::move(paragraphs) });
+                isOther = true;
+            }
+        }
+        start = end;
+    }
+    if (isOther) {
+        setChunks(std::move(chunks));
+    }
+}
+
+ParagraphReader DocumentStates::paragraphReader() const
+{
+    return [this](qsizetype from, QStringView text, bool isLast) {
+        std::vector<ParagraphRun> runs = paragraphRunsOf(m_document, from, text);
+        if (!isLast && --runs.back().count == 0) {
+            // After its last line end a text counts the next line, which is the next chunk's.
+            runs.pop_back();
+        }
+        runs.shrink_to_fit();
+        return runs;
     };
-    chunks->assign(old.begin(), at(stale.first));
-    for (size_t i = 0; i + 1 < borders.size(); ++i) {
-        const bool last = stale.behind == old.size() && i + 2 == borders.size();
-        auto chunk = std::make_shared<TextChunk>(read(borders[i], borders[i + 1], last));
-        const size_t before = stale.first + i;
-        if (before < stale.behind && old[before]->text == chunk->text) {
-            // New looks on an old text: the text itself is shared.
-            chunk->text = old[before]->text;
-        }
-        if (before < stale.behind && *old[before] == *chunk) {
-            chunks->push_back(old[before]);
-        } else {
-            chunks->push_back(std::move(chunk));
-        }
-    }
-    chunks->insert(chunks->end(), at(stale.behind), old.end());
-    m_known.m_chunks = std::move(chunks);
 }
 
-DocumentStates::Stale DocumentStates::staleChunks() const
+void DocumentStates::setTyping(qsizetype place, std::optional<CharFormat> look)
 {
-    const TextChunks &old = *m_known.m_chunks;
-    const qsizetype size = m_document.characterCount() - 1;
-    Stale stale{ 0, old.size(), 0, size };
-    // The last chunk has no line end that would part it from what is added behind it.
-    while (stale.first + 1 < old.size()) {
-        const qsizetype end = stale.from + old[stale.first]->text.size();
-        if (end > m_sameInFront) {
-            break;
+    m_typingPlace = place;
+    m_chosenLook = std::move(look);
+}
+
+CharFormat DocumentStates::lookForTyping(qsizetype position)
+{
+    catchUp();
+    return position == m_typingPlace && m_chosenLook ? *m_chosenLook : lookAround(position);
+}
+
+quint32 DocumentStates::lookOfTyped(const TextEdit &edit)
+{
+    const qsizetype end = edit.from + edit.length;
+    const bool isAtCaret = edit.from <= m_typingPlace && m_typingPlace <= end;
+    return m_looks.numberOf(m_chosenLook.value_or(lookAround(isAtCaret ? m_typingPlace : end)));
+}
+
+CharFormat DocumentStates::lookAround(qsizetype position) const
+{
+    if (m_size == 0) {
+        return m_plain;
+    }
+    position = std::clamp(position, qsizetype(0), m_size);
+    const qsizetype before = std::max(position - 1, qsizetype(0));
+    const QString around = textOf(*m_known.m_chunks, before, std::min(position + 1, m_size));
+    const bool isLineStart = position == 0 || around.front() == u'\n';
+    const bool isLineEnd = position == m_size || around.back() == u'\n';
+    const qsizetype like = isLineStart && !isLineEnd ? position : before;
+    return m_looks.look(runs(like, 1).front().look);
+}
+
+TextChunk::Runs DocumentStates::runs(qsizetype from, qsizetype length) const
+{
+    const TextChunks &chunks = *m_known.m_chunks;
+    if (from < m_lastStart) {
+        m_lastChunk = 0;
+        m_lastStart = 0;
+    }
+    while (m_lastChunk + 1 < chunks.size()
+           && m_lastStart + chunks[m_lastChunk]->text.size() <= from) {
+        m_lastStart += chunks[m_lastChunk++]->text.size();
+    }
+    ChunkReader reader(chunks, m_lastChunk);
+    reader.skip(from - m_lastStart);
+    TextChunk::Runs runs;
+    reader.takeRuns(length, runs);
+    return runs;
+}
+
+std::vector<CharRun> DocumentStates::charRuns(const TextChunk::Runs &runs) const
+{
+    std::vector<CharRun> result;
+    result.reserve(runs.size());
+    for (const TextChunk::Run &run : runs) {
+        result.push_back({ run.length, look(run.look) });
+    }
+    return result;
+}
+
+std::vector<CharRun> DocumentStates::looks(qsizetype from, qsizetype length)
+{
+    catchUp();
+    const qsizetype first = std::clamp(from, qsizetype(0), m_size);
+    return charRuns(runs(first, std::clamp(length, qsizetype(0), m_size - first)));
+}
+
+RichText DocumentStates::stretch(qsizetype from, qsizetype length)
+{
+    catchUp();
+    const qsizetype first = std::clamp(from, qsizetype(0), m_size);
+    const qsizetype to = first + std::clamp(length, qsizetype(0), m_size - first);
+    RichText result;
+    result.text = textOf(*m_known.m_chunks, first, to);
+    result.characters = charRuns(runs(first, to - first));
+    result.paragraphs = paragraphRunsOf(m_document, first, result.text);
+    return result;
+}
+
+RichText DocumentStates::richText(const DocumentState &state) const
+{
+    return join(*state.m_chunks, 0, state.m_chunks->size());
+}
+
+void DocumentStates::readPieces(const DocumentState &state,
+                                const std::function<void(const RichText &piece)> &read) const
+{
+    for (size_t i = 0; i < state.m_chunks->size(); ++i) {
+        read(join(*state.m_chunks, i, i + 1));
+    }
+}
+
+RichText DocumentStates::join(const TextChunks &chunks, size_t first, size_t end) const
+{
+    RichText result;
+    result.text.reserve(sizeOf(chunks, first, end));
+    TextChunk::Runs runs;
+    for (size_t i = first; i < end; ++i) {
+        const TextChunk &chunk = *chunks[i];
+        result.text += chunk.text;
+        for (const TextChunk::Run &run : chunk.runs) {
+            addRun(runs, run);
         }
-        stale.from = end;
-        ++stale.first;
-    }
-    while (stale.behind > stale.first) {
-        const qsizetype start = stale.to - old[stale.behind - 1]->text.size();
-        // Without the line end before it a chunk's first line is another's last.
-        if (size - start >= m_sameBehind) {
-            break;
-        }
-        stale.to = start;
-        --stale.behind;
-    }
-    takeNeighbours(stale);
-    return stale;
-}
-
-void DocumentStates::takeNeighbours(Stale &stale) const
-{
-    const TextChunks &old = *m_known.m_chunks;
-    const int least = m_linesPerChunk / 4;
-    while (lineCountOf(stale) < least && stale.first > 0) {
-        stale.from -= old[--stale.first]->text.size();
-    }
-    while (lineCountOf(stale) < least && stale.behind < old.size()) {
-        stale.to += old[stale.behind++]->text.size();
-    }
-}
-
-int DocumentStates::lineCountOf(const Stale &stale) const
-{
-    const bool toTheEnd = stale.behind == m_known.m_chunks->size();
-    return lineOfCharacter(m_document, int(stale.to)) + (toTheEnd ? 1 : 0)
-        - lineOfCharacter(m_document, int(stale.from));
-}
-
-std::vector<qsizetype> DocumentStates::cuts(const Stale &stale) const
-{
-    const TextChunks &old = *m_known.m_chunks;
-    std::vector<qsizetype> borders{ stale.from };
-    const auto isLineStart = [this](qsizetype position) {
-        return m_document.findBlock(int(position)).position() == position;
-    };
-    // Where only looks have changed the chunks stay as they were cut, so that they share the text.
-    for (size_t i = stale.first; i < stale.behind; ++i) {
-        borders.push_back(borders.back() + old[i]->text.size());
-    }
-    if (borders.size() > 1 && borders.back() == stale.to
-        && std::all_of(borders.begin(), borders.end() - 1, isLineStart)
-        && lineCountOf(stale) <= 2 * m_linesPerChunk * int(borders.size() - 1)) {
-        return borders;
-    }
-    borders.resize(1);
-    int left = lineCountOf(stale);
-    int line = lineOfCharacter(m_document, int(stale.from));
-    for (; left > 2 * m_linesPerChunk; left -= m_linesPerChunk) {
-        line += m_linesPerChunk;
-        borders.push_back(startOfLine(m_document, line));
-    }
-    if (left > 0) {
-        borders.push_back(stale.to);
-    }
-    return borders;
-}
-
-TextChunk DocumentStates::read(qsizetype from, qsizetype to, bool last)
-{
-    RichText stretch = richTextOf(m_document, from, to - from);
-    if (!last) {
-        // Behind its line end a stretch counts the next line, which belongs to the next chunk.
-        ParagraphRun &next = stretch.paragraphs.back();
-        if (--next.count == 0) {
-            stretch.paragraphs.pop_back();
+        for (const ParagraphRun &run : chunk.paragraphs) {
+            addParagraphs(result.paragraphs, run);
         }
     }
-    TextChunk chunk;
-    chunk.text = std::move(stretch.text);
-    chunk.text.squeeze();
-    chunk.paragraphs = std::move(stretch.paragraphs);
-    chunk.paragraphs.shrink_to_fit();
-    chunk.runs.reserve(stretch.characters.size());
-    for (const CharRun &run : stretch.characters) {
-        chunk.runs.push_back({ quint32(run.length), numberOf(run.format) });
-    }
-    return chunk;
+    result.characters = charRuns(runs);
+    return result;
 }
 
 } // namespace zeph

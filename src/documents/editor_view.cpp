@@ -6,6 +6,7 @@
 #include "documents/document_look.h"
 #include "documents/document_settings.h"
 #include "documents/editor_texts.h"
+#include "documents/text_accessible.h"
 #include "documents/text_control.h"
 #include "platform/richtext/rich_text_document.h"
 #include "platform/status_line.h"
@@ -22,6 +23,7 @@ namespace zeph {
 EditorView::EditorView(const Context &context, Documents &documents, QWidget *parent)
     : QWidget(parent), m_context(context), m_documents(documents)
 {
+    TextAccessible::install();
     m_tabs = new QTabBar;
     m_tabs->setObjectName(u"TabStrip1"_s);
     m_tabs->setExpanding(false);

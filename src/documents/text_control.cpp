@@ -54,8 +54,6 @@ TextControl::TextControl(ColouredText &text, QWidget *parent)
     connect(this, &TextControl::selectionChanged, this, &TextControl::tellCaret);
     connect(&m_text, &ColouredText::caretSet, this, &TextControl::showCaret);
     connect(&m_text, &ColouredText::lockedChanged, this, &TextControl::setLocked);
-    connect(&m_text, &ColouredText::typingLookSet, this,
-            [this](const CharFormat &look) { setCurrentCharFormat(toTextFormat(look)); });
 }
 
 void TextControl::setLook(ColorRef background, const CharFormat &plain)
@@ -254,9 +252,12 @@ bool TextControl::canInsertFromMimeData(const QMimeData *source) const
 
 void TextControl::insertFromMimeData(const QMimeData *source)
 {
-    QTextCursor cursor = textCursor();
-    insertRichText(cursor, pastedText(*source, m_text.plain()));
-    setTextCursor(cursor);
+    const QTextCursor selection = textCursor();
+    const RichText pasted = pastedText(*source, m_text.plain());
+    const int start = selection.selectionStart();
+    m_text.states().replace(start, selection.selectionEnd() - start, pasted);
+    const int end = start + int(pasted.text.size());
+    m_text.setCaret(end, end);
     m_text.setTypingLook(m_text.plain());
     ensureCursorVisible();
 }

@@ -33,6 +33,7 @@
 #include "platform/dialogs.h"
 #include "platform/richtext/rich_text_mime.h"
 #include "settings/settings.h"
+#include "settings/shared_settings.h"
 
 #include <QAction>
 #include <QApplication>
@@ -53,7 +54,7 @@ Editor::Editor(const Context &context, QWidget *parent)
       m_view(std::make_unique<EditorView>(context, *m_documents, this)),
       m_copies(std::make_unique<ColouredCopies>(context.paths)),
       m_keys(
-          std::make_unique<EditorKeys>(*m_view, *m_actions, context.settings.of<EditorSettings>())),
+          std::make_unique<EditorKeys>(*m_view, *m_actions, context.settings.of<SharedSettings>())),
       // After the keys: a line that blinks has to be let go before a key's entry runs.
       m_undos(std::make_unique<UndoHistories>(context, *m_view, *m_actions)),
       m_insert(std::make_unique<ColouredInsert>(context, *m_view)),

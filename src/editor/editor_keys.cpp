@@ -5,8 +5,8 @@
 
 #include "documents/editor_view.h"
 #include "editor/actions.h"
-#include "editor/editor_settings.h"
 #include "menus/menu_actions.h"
+#include "settings/shared_settings.h"
 
 #include <QAction>
 #include <QKeyEvent>
@@ -55,7 +55,7 @@ QStringView standardEntry(const QKeyEvent &event)
 
 } // namespace
 
-EditorKeys::EditorKeys(EditorView &view, MenuActions &actions, const EditorSettings &settings)
+EditorKeys::EditorKeys(EditorView &view, MenuActions &actions, const SharedSettings &settings)
     : m_view(view), m_actions(actions), m_settings(settings)
 {
     view.watch(*this);

@@ -11,7 +11,7 @@ namespace zeph {
 
 class MenuActions;
 class EditorView;
-struct EditorSettings;
+struct SharedSettings;
 
 /// What the keys do in the two texts beyond typing. With Ctrl alone held a key runs its menu entry,
 /// which may differ between the texts, and is swallowed.
@@ -19,7 +19,7 @@ class EditorKeys : public QObject
 {
     Q_OBJECT
 public:
-    EditorKeys(EditorView &view, MenuActions &actions, const EditorSettings &settings);
+    EditorKeys(EditorView &view, MenuActions &actions, const SharedSettings &settings);
 
     /// Object name of the entry that Ctrl and a key runs in one of the texts; empty when there is
     /// none.
@@ -43,7 +43,7 @@ private:
 
     EditorView &m_view;
     MenuActions &m_actions;
-    const EditorSettings &m_settings;
+    const SharedSettings &m_settings;
 };
 
 } // namespace zeph

@@ -29,7 +29,6 @@ constexpr std::array rows = {
     row(misc, u"CreateBackup", &S::CreateBackup, true, SavedAs{ 17 }),
     row(misc, u"AddCRtoREM", &S::AddCRtoREM, true, SavedAs{ 21 }),
     row(misc, u"MacroFrameWidth", &S::MacroFrameWidth, 185, { 185, 32767 }, SavedAs{ 23 }),
-    row(misc, u"DefaultToDX8KeyTester", &S::DefaultToDX8KeyTester, false, SavedAs{ 35 }),
     row(misc, u"OpenSingleFileOnly", &S::OpenSingleFileOnly, false, SavedAs{ 36 }),
     row(misc, u"IndentSpaces", &S::IndentSpaces, 5, { 0, 80 }, SavedAs{ 39 }),
     row(misc, u"IndentAsWell", &S::IndentAsWell, false, SavedAs{ 40 }),
@@ -38,7 +37,6 @@ constexpr std::array rows = {
     row(misc, u"MacroHighlightedInMacroFile", &S::MacroHighlightedInMacroFile, false,
         SavedAs{ 44 }),
     row(u"Composer", u"DefaultDLYvalue", &S::DefaultDLYvalue, 60, { 0, 32767 }, SavedAs{ 50 }),
-    row(u"Unsupported", u"ForeignLanguageKBInputFix", &S::ForeignLanguageKBInputFix, false),
 };
 
 } // namespace

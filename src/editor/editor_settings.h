@@ -28,7 +28,6 @@ struct EditorSettings {
     bool CreateBackup;
     bool AddCRtoREM;
     int MacroFrameWidth;
-    bool DefaultToDX8KeyTester;
     bool OpenSingleFileOnly;
     int IndentSpaces;
     bool IndentAsWell;
@@ -36,7 +35,6 @@ struct EditorSettings {
     bool MacroSaveIdentifyJF;
     bool MacroHighlightedInMacroFile;
     int DefaultDLYvalue;
-    bool ForeignLanguageKBInputFix;
 };
 
 } // namespace zeph

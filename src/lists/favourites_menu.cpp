@@ -3,10 +3,11 @@
 
 #include "lists/favourites_menu.h"
 
+#include "documents/document_settings.h"
+#include "documents/foreign_keyboard.h"
 #include "editor/editor.h"
 #include "editor/editor_settings.h"
 #include "editor/files/file_opening.h"
-#include "editor/files/foreign_keyboard.h"
 #include "lists/enterfavouritename.h"
 #include "menus/menu_actions.h"
 #include "menus/menu_array.h"
@@ -110,7 +111,7 @@ std::optional<QString> FavouritesMenu::pathFor(const QString &path, const QStrin
 QString FavouritesMenu::askName()
 {
     EnterFavouritename window(&m_editor);
-    new ForeignKeyBSupport(m_context.keyboard, m_context.settings.of<EditorSettings>(), &window);
+    new ForeignKeyBSupport(m_context.keyboard, m_context.settings.of<DocumentSettings>(), &window);
     return window.exec() == QDialog::Accepted ? window.name() : QString();
 }
 

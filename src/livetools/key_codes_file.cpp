@@ -13,7 +13,7 @@ namespace {
 
 constexpr QStringView keyCodesFile = u"KeyCodes.txt";
 
-/// Copies the file from among the information files. Whether it is there now.
+/// Copies the file from the Info folder. Whether it is there now.
 bool restoreKeyCodes(const Context &context, const QString &path)
 {
     context.dialogs.tell(
@@ -24,7 +24,7 @@ bool restoreKeyCodes(const Context &context, const QString &path)
         BoxIcon::Exclamation);
     const QString copy = existingPath(context.paths.infoFolder() + keyCodesFile.toString());
     if (const auto bytes = readWholeFile(copy)) {
-        // Whether it is there now is looked up below, whatever went wrong here.
+        // A failure shows below, where the file is looked for.
         (void)writeFileAtomically(path, *bytes);
     }
     if (fileExists(path)) {

@@ -10,8 +10,8 @@
 
 namespace zeph {
 
-/// Reads KeyCodes.txt beside the program, restored from its copy among the information files if
-/// need be; both are told. No value when there is none, which is told too.
+/// Reads KeyCodes.txt in the program's folder. A missing file is first restored from its copy in
+/// the Info folder, which is told. No value, also told, when that fails or the file cannot be read.
 std::optional<KeyTable> readKeyCodes(const Context &context);
 
 } // namespace zeph

@@ -18,10 +18,10 @@ namespace {
 
 using language::operator""_w;
 
-/// Where no name was looked for and found yet; no key has this code.
+/// The code of the table's first entry; no key has it.
 constexpr int noKeyCode = 65535;
 
-/// By the shift state's bits.
+/// Indexed by the shift state.
 constexpr std::array<QStringView, 8> prefixes = {
     u"",     u"Shift ",     u"Ctrl ",     u"Shift Ctrl ",
     u"Alt ", u"Shift Alt ", u"Ctrl Alt ", u"Shift Ctrl Alt ",
@@ -101,7 +101,7 @@ KeyText WhichKey(const KeyTable &table, int keycode, int shift)
         return { prefix + name };
     }
     if (shift < CtrlDown) {
-        // A plain character tells itself best.
+        // The character that the key types is shown instead.
         return {};
     }
     return isModifier(keycode) ? KeyText{ {}, true } : KeyText{ prefix + lowerCharacter(keycode) };

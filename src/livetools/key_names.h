@@ -3,8 +3,7 @@
 
 #pragma once
 
-// What keys are called: the key table, the names with their modifiers, and the lines that tell of
-// a key going down or up.
+// The names of keys: the key table, names with their modifiers, and the lines of the event list.
 
 #include "platform/core/base.h"
 
@@ -14,7 +13,7 @@ namespace zeph {
 
 /// One entry of the key table.
 struct KeyName {
-    qint16 code = 0; ///< the virtual key; 16 bits signed, as the file is read
+    qint16 code = 0; ///< the virtual key, as signed 16 bits
     QString name;
 
     friend bool operator==(const KeyName &, const KeyName &) = default;
@@ -22,15 +21,15 @@ struct KeyName {
 
 using KeyTable = QList<KeyName>;
 
-/// The table that the lines "<code>,<name>" of KeyCodes.txt make, behind an entry 0 that no key
-/// has. A line without a comma, or whose code does not fit 16 bits, is skipped.
+/// Makes the table from the lines "<code>,<name>" of KeyCodes.txt. Its first entry has a code that
+/// no key has. A line without a comma, or whose code does not fit 16 bits, is skipped.
 KeyTable keyTableFrom(QStringView file);
-/// The name of a code: the last entry with it gives the name; empty when there is none.
+/// The name of a code, from the last entry that has it; empty when there is none.
 QString nameOf(const KeyTable &table, int keycode);
 
 /// What WhichKey() found.
 struct KeyText {
-    QString text; ///< empty when the key is shown by the character that it types, or not at all
+    QString text; ///< empty when the typed character is shown instead, or nothing
     bool suppressesPress = false; ///< the character that comes with the key is not shown
 
     friend bool operator==(const KeyText &, const KeyText &) = default;
@@ -39,8 +38,8 @@ struct KeyText {
 KeyText WhichKey(const KeyTable &table, int keycode, int shift);
 
 enum class KeyDirection { Down, Up };
-/// "Down: " or "Up: " and what the event list calls the key; a code that is not in the table stands
-/// as its number. Without a line end.
+/// The event list's line for a key: "Down: " or "Up: " and its name, or its code when the table has
+/// none. Without a line end.
 QString eventLine(const KeyTable &table, KeyDirection direction, int keycode);
 
 } // namespace zeph

@@ -3,23 +3,23 @@
 
 #pragma once
 
-// What the Key Tester does with each key, apart from the window that shows it.
+// What the Key Tester shows for each key, apart from its window.
 
 #include "livetools/key_names.h"
 
 namespace zeph {
 
-/// What a key going down asks of the window, in this order.
+/// What the window does when a key goes down; the members are in the order of doing.
 struct KeyDownEffect {
-    bool emergency = false; ///< the way out; nothing else of this counts then
+    bool emergency = false; ///< Shift+Break: the window closes, and the rest does not count
     bool clearsLists = false;
     bool turnsOffCapsLock = false;
     QString eventText; ///< for the list of events, line end included
     QString keyText; ///< for the list of keys, line end included; may be empty
 };
 
-/// Follows the keys with the flags that join one to the next. Key codes are virtual keys, shift
-/// states bits of ShiftBit.
+/// Decides what is shown for each key; what came before a key has a say in it. Key codes are
+/// virtual keys, shift states bits of ShiftBit.
 class KeyTestRules
 {
 public:
@@ -30,7 +30,7 @@ public:
     QString keyPress(char16_t character);
     /// The line for the list of events.
     QString keyUp(int keycode);
-    /// The clear delay has run out: the next key down starts with empty lists.
+    /// The clear delay has run out: the next key that goes down clears the lists.
     void delayOver() { m_clearOnNextDown = true; }
 
 private:
@@ -40,10 +40,10 @@ private:
     bool m_firstKey = true;
 };
 
-/// The interval in milliseconds that a ClearDelay stands for, or none when the delay is off: -1, or
-/// anything that is not an entry of the Clear menu.
+/// The interval in milliseconds that a ClearDelay means. None for -1 and for every other number
+/// that is no entry of the Clear menu: the lists are then never cleared by themselves.
 std::optional<int> clearDelayMs(int clearDelay);
-/// The Clear menu's intervals, by their index.
+/// The Clear menu has so many intervals; entry i means (i + 1) steps.
 constexpr int clearDelayCount = 5;
 constexpr int clearDelayStepMs = 200;
 /// ClearDelay for "off".

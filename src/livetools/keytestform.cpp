@@ -32,7 +32,7 @@ namespace {
 
 constexpr int defaultDelayMs = 500;
 constexpr int layoutNameLength = 10;
-/// A Cougar that sends without end must not fill the memory.
+/// In lines. A Cougar that sends without end must not fill the memory.
 constexpr int longestList = 10000;
 
 constexpr std::array fontPoints = { 8, 10, 14 };
@@ -85,7 +85,8 @@ KeyTestForm::KeyTestForm(const Context &context, const KeyTestEntries &entries, 
             guarded(context.dialogs, [this](bool) { LBL_ModeWarning_Click(); }));
     paint(m_ui->LBL_ModeWarning, QPalette::Button, QPalette::ButtonText, warning);
     m_ui->LBL_ModeWarning->hide();
-    // Before all others: menu bars and shortcuts look at a key before the window that has it.
+    // Menu bars and shortcuts see a key before the window that has the focus; a filter of the
+    // application sees it first of all.
     QCoreApplication::instance()->installEventFilter(this);
 }
 
@@ -133,7 +134,7 @@ void KeyTestForm::GetKeyPosition()
            pixelsFromTwips(settings.KeyHeightAtStartup));
     const QPoint corner(pixelsFromTwips(settings.KeyLeftAtStartup),
                         pixelsFromTwips(settings.KeyTopAtStartup));
-    // A screen that was there last time may be gone.
+    // The screen where the window was last time may be gone.
     if (QGuiApplication::screenAt(corner)) {
         move(corner);
     }
@@ -151,7 +152,7 @@ void KeyTestForm::SaveKeyFormPosition()
         settings.KeyWidthAtStartup = twipsFromPixels(width());
         settings.KeyHeightAtStartup = twipsFromPixels(height());
     }
-    // A store that cannot be written makes no fuss.
+    // A store that cannot be written is not told: the window then opens as it did before.
     (void)saveSettings(m_context.settings, settingsFilesOf(m_context.paths),
                        { &KeyTesterSettings::KeyTopAtStartup, &KeyTesterSettings::KeyLeftAtStartup,
                          &KeyTesterSettings::KeyWidthAtStartup,
@@ -187,7 +188,7 @@ void KeyTestForm::ToggleMenus()
 void KeyTestForm::showMenus(bool shown)
 {
     m_context.settings.of<KeyTesterSettings>().MenuDisplay = shown;
-    // Not the bar alone: its entries are what tests and assistive programs look at.
+    // The entries too, since assistive programs look at them and not at the bar.
     for (const QStringView name : { u"mnuEmergency", u"mnuClear", u"mnuView", u"mnuCopy" }) {
         m_menus->action(name)->setVisible(shown);
     }
@@ -283,8 +284,8 @@ void KeyTestForm::readMode()
     const bool good = m_mode.Status != u"ERROR" && m_mode.Buttons == programmedMode;
     m_ui->LBL_ModeWarning->setVisible(!good);
     if (good) {
-        // The request is not waited for, so the tools' answer may come only now. A later change of
-        // mode is the pilot's own and no error.
+        // Form_Load() does not wait for the tools' answer, so it is polled until it is good. What
+        // changes the mode afterwards is the pilot's own doing.
         m_modeTimer.stop();
     }
 }

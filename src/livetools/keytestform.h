@@ -34,7 +34,7 @@ struct KeyTestEntries {
 };
 
 /// Shows what the Cougar really sends: each key that goes down and up, and the text that results.
-/// While the window is in front every key is shown and none does anything else.
+/// While the window is in front, every key is shown and does nothing else.
 class KeyTestForm : public QWidget
 {
     Q_OBJECT
@@ -42,15 +42,15 @@ public:
     KeyTestForm(const Context &context, const KeyTestEntries &entries, QWidget *parent = nullptr);
     ~KeyTestForm() override;
 
-    /// Reads what the window needs and asks for the Cougar's programmed mode. False when the
-    /// window has to go again: without a key table, or closed while events ran (it may then be
-    /// gone for good).
+    /// Reads what the window needs and puts the Cougar into programmed mode. False when there is no
+    /// key table, or when the window was closed meanwhile, and maybe deleted: the caller must not
+    /// show it.
     bool Form_Load();
 
     void GetKeyPosition();
     void SaveKeyFormPosition();
     void ClearTextBoxes();
-    /// Reads KeyCodes.txt, restored from its copy if need be. False when there is none.
+    /// Reads KeyCodes.txt. False, which is told, when there is none.
     bool GetMappedCharacters();
     void TurnOffCapsLOCK();
     void ToggleMenus();

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Zeph authors
 // SPDX-License-Identifier: MIT
 
-// The keys of the Key Tester: how they reach it, and what it shows of them.
+// How keys reach the Key Tester, and what it shows for each.
 
 #include "livetools/key_tester_settings.h"
 #include "livetools/keytestform.h"
@@ -46,7 +46,7 @@ int keyCodeOf(const KeyStroke &stroke)
 #endif
 }
 
-/// What a key types. Alt with a letter types nothing, as it is a command everywhere.
+/// What a key types. Alt with a letter is a command everywhere and types nothing.
 QString typedText(const QKeyEvent &event)
 {
     const auto commands = event.modifiers() & (Qt::AltModifier | Qt::ControlModifier);
@@ -137,11 +137,11 @@ void KeyTestForm::keyPressed(const QKeyEvent &event)
 void KeyTestForm::keyReleased(const QKeyEvent &event)
 {
     m_context.keyboard.noteNativeModifiers(event.nativeModifiers());
-    // Some systems tell a key that is held as one that is let go again and again.
+    // Some systems report a key that is held down as released and pressed again and again.
     if (!event.isAutoRepeat()) {
         const KeyStroke stroke = strokeOf(event);
         Form_KeyUp(keyCodeOf(stroke), shiftStateOf(stroke));
-        // AltGr, which counts for two, is let go as one.
+        // AltGr counts as Ctrl and Alt, but there is only one release.
         lightModifiers(~shiftStateOf(stroke), false);
     }
 }
@@ -150,7 +150,7 @@ bool KeyTestForm::eventFilter(QObject *watched, QEvent *event)
 {
     const auto type = event->type();
     if (type == QEvent::Resize && watched == m_ui->LabelEvents) {
-        // Its own size, which comes after the window's.
+        // The label gets its size after the window, and its heading depends on it.
         ResizeStuff();
         return false;
     }
@@ -179,7 +179,7 @@ void KeyTestForm::changeEvent(QEvent *event)
 {
     QWidget::changeEvent(event);
     if (event->type() == QEvent::ActivationChange) {
-        // Keys let go elsewhere are not told here.
+        // The window is not told of keys that are released while another one is active.
         lightModifiers(ShiftDown | CtrlDown | AltDown, false);
         showNumLock();
     }

@@ -5,7 +5,7 @@
 
 #include "livetools/keytestform.h"
 #include "platform/handlers.h"
-#include "toolchain/cougar_modes.h"
+#include "toolchain/modes/cougar_modes.h"
 
 namespace zeph {
 

@@ -16,7 +16,8 @@ struct KeyRow {
     int code;
 };
 
-// Wherever they stand. On the number pad with Num Lock off, Windows too tells the cursor keys.
+// The same wherever they are on the keyboard: Windows too makes no difference between a cursor key
+// and the number pad's with Num Lock off.
 constexpr std::array namedKeys = {
     KeyRow{ Qt::Key_Cancel, 3 },
     KeyRow{ Qt::Key_Backspace, 8 },
@@ -87,7 +88,7 @@ constexpr std::array namedKeys = {
     KeyRow{ Qt::Key_Zoom, 251 },
 };
 
-// The number pad's own keys, with Num Lock on for the digits and the point.
+// The number pad; the digits and the point only with Num Lock on.
 constexpr std::array padKeys = {
     KeyRow{ Qt::Key_Asterisk, 106 }, KeyRow{ Qt::Key_Plus, 107 },  KeyRow{ Qt::Key_Minus, 109 },
     KeyRow{ Qt::Key_Period, 110 },   KeyRow{ Qt::Key_Comma, 110 }, KeyRow{ Qt::Key_Slash, 111 },
@@ -97,7 +98,7 @@ constexpr int firstPadDigit = 96;
 constexpr int firstFunctionKey = 112;
 constexpr int lastFunctionKey = 24;
 
-// The keys that carry digits and signs, by their place: what stands there on a US keyboard.
+// The keys with digits and signs by their place: the virtual key that a US keyboard has there.
 struct PlaceRow {
     quint32 first; ///< the place of the first of them
     QStringView codes; ///< virtual keys, from left to right
@@ -110,7 +111,7 @@ constexpr std::array places = {
     PlaceRow{ 94, u"\u00E2" }, // the key between Shift and Z that US keyboards lack
 };
 
-// Where the place is not known, by what a US keyboard has on the key, with Shift or without.
+// For a place that is not known: the key that has the sign on a US keyboard, with or without Shift.
 struct SignRow {
     QStringView signs;
     int code;

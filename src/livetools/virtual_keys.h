@@ -3,8 +3,8 @@
 
 #pragma once
 
-// Key codes are those of Windows' virtual keys on every system: joystick files are written, and
-// their effects talked about, in terms of them.
+// Key codes are those of Windows' virtual keys on every system, since joystick files, and the
+// people who write them, use these.
 
 #include "platform/core/base.h"
 
@@ -16,7 +16,7 @@ namespace zeph {
 struct KeyStroke {
     Qt::Key key = Qt::Key_unknown;
     Qt::KeyboardModifiers modifiers = {};
-    /// The key's place on the keyboard, as X servers and Wayland count; 0 where it is not known.
+    /// The key's place on the keyboard, as X servers and Wayland count; 0 when it is not known.
     quint32 scanCode = 0;
     /// The system's own code: a key symbol, or on Windows the virtual key itself.
     quint32 nativeCode = 0;
@@ -30,14 +30,14 @@ constexpr int ctrlKeyCode = 17;
 constexpr int altKeyCode = 18;
 constexpr int pauseKeyCode = 19;
 constexpr int capsLockKeyCode = 20;
-/// What a key that has no virtual key is told as.
+/// The code for a key that is no virtual key.
 constexpr int unknownKeyCode = 255;
 
-/// The virtual key of a stroke: by its place for the keys that carry digits and signs, so that it
-/// does not change with Shift or the layout; by its letter for letters; by table for all else. The
-/// left and the right Shift, Ctrl and Alt are one key each.
+/// The virtual key of a stroke. Keys with digits and signs are recognised by their place, so that
+/// neither Shift nor the layout matters; letters by the letter; all others by a table. The left and
+/// the right Shift, Ctrl and Alt are the same key.
 int virtualKeyOf(const KeyStroke &stroke);
-/// Where the system's own code is the virtual key.
+/// The same for systems whose own code is the virtual key.
 int virtualKeyOfNative(quint32 nativeCode);
 
 /// The shift state of a stroke, from ShiftBit. AltGr counts as Ctrl and Alt, as on Windows.

@@ -5,7 +5,7 @@
 
 // What editing does to the games. Places are 0-based.
 
-#include "toolchain/games.h"
+#include "toolchain/games/games.h"
 
 namespace zeph {
 

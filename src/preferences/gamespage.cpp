@@ -6,7 +6,7 @@
 #include "preferences/games_rules.h"
 #include "preferences/list_rules.h"
 #include "preferences/namedlist.h"
-#include "toolchain/gamefields.h"
+#include "toolchain/games/gamefields.h"
 #include "ui_gamespage.h"
 
 namespace zeph {

@@ -5,7 +5,7 @@
 
 #include "platform/context.h"
 #include "preferences/preferences_page.h"
-#include "toolchain/games.h"
+#include "toolchain/games/games.h"
 
 #include <memory>
 

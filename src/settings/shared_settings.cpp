@@ -17,6 +17,7 @@ constexpr std::array rows = {
     row(u"FileLocations", u"ShowTips", &S::ShowTips, true),
     row(misc, u"ValidUser", &S::ValidUser, u"User unknown", SavedAs{ 28 }),
     row(misc, u"PilotCallsign", &S::PilotCallsign, u"buddy", SavedAs{ 29 }),
+    row(misc, u"DefaultToDX8KeyTester", &S::DefaultToDX8KeyTester, false, SavedAs{ 35 }),
     row(misc, u"MacroWithMouse", &S::MacroWithMouse, true, SavedAs{ 43 }),
     row(u"Apps", u"ImageFilePath", &S::ImageFilePath, u"", SavedAs{ 47 }),
     row(u"Apps", u"TextFilePath", &S::TextFilePath, u"", SavedAs{ 48 }),

@@ -17,6 +17,7 @@ struct SharedSettings {
     bool ShowTips;
     QString ValidUser;
     QString PilotCallsign;
+    bool DefaultToDX8KeyTester;
     bool MacroWithMouse;
     QString ImageFilePath;
     QString TextFilePath;

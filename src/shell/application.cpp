@@ -3,12 +3,13 @@
 
 #include "shell/application.h"
 
+#include "documents/document_settings.h"
 #include "documents/editor_view.h"
+#include "documents/foreign_keyboard.h"
 #include "editor/editor.h"
 #include "editor/editor_settings.h"
 #include "editor/files/backup_folder.h"
 #include "editor/files/file_opening.h"
-#include "editor/files/foreign_keyboard.h"
 #include "editor/files/loss_guards.h"
 #include "editor/files/printing.h"
 #include "editor/files/use_directives.h"
@@ -27,20 +28,19 @@
 #include "settings/settings.h"
 #include "settings/settings_files.h"
 #include "settings/shared_settings.h"
-#include "shell/cougar_tools.h"
 #include "shell/first_run.h"
 #include "shell/help_menu.h"
+#include "shell/main_scene.h"
 #include "shell/mum.h"
 #include "shell/preferences_menu.h"
 #include "shell/settings/shell_settings.h"
-#include "shell/start_checks.h"
-#include "shell/start_files.h"
 #include "shell/start_up.h"
-#include "shell/template_menu.h"
-#include "shell/tools_menu.h"
 #include "templates/template_tools.h"
 #include "templates/templateform.h"
+#include "toolchain/cougar_tools.h"
+#include "toolchain/modes/profiles.h"
 #include "toolchain/toolchain_settings.h"
+#include "toolchain/tools_menu.h"
 
 #include <QAction>
 #include <QApplication>
@@ -190,14 +190,14 @@ void Application::loadEditor()
     m_mum->attachEditor(m_editor);
     m_help = new HelpMenu(context(), m_options.downloader, m_mum->toolWindows(), *m_editor);
     m_lists = new UserLists(context(), *m_editor);
-    m_tools->attach(context(), *m_mum, *m_editor, *m_help);
+    new MainScene(context(), { *m_mum, *m_editor, *m_help, *m_tools });
     new PreferencesMenu(context(), { *m_mum, *m_editor, *m_lists, *m_tools });
     addToolWindows();
     m_printing = std::make_unique<FilePrinting>(context(), m_options.printers, *m_editor);
-    new ForeignKeyBSupport(m_options.keyboard, m_settings.of<EditorSettings>(), m_editor);
+    new ForeignKeyBSupport(m_options.keyboard, m_settings.of<DocumentSettings>(), m_editor);
     QObject::connect(
         &m_mum->toolWindows(), &ToolWindows::loaded, m_mum.get(), [this](QWidget *window) {
-            new ForeignKeyBSupport(m_options.keyboard, m_settings.of<EditorSettings>(), window);
+            new ForeignKeyBSupport(m_options.keyboard, m_settings.of<DocumentSettings>(), window);
         });
     m_editor->actions().connectTo(u"mnuFileExit", [this] { m_mum->close(); });
     m_help->readZephInfo();
@@ -272,7 +272,7 @@ void Application::hideDirectXTesters()
          { u"mnuAppsDX8Divider", u"mnuAppsDX8_0", u"mnuAppsDX8_1", u"mnuAppsDX8_2" }) {
         m_editor->action(name)->setVisible(false);
     }
-    m_settings.of<EditorSettings>().DefaultToDX8KeyTester = false;
+    m_settings.of<SharedSettings>().DefaultToDX8KeyTester = false;
 }
 
 void Application::greet()

@@ -180,7 +180,7 @@ ToolbarChoices CoolBar::choices() const
 {
     return { .openBoth = m_context.settings.of<MenuSettings>().OpenBothOnToolbar,
              .saveBoth = m_context.settings.of<MenuSettings>().SaveBothOnToolbar,
-             .directXKeyTester = m_context.settings.of<EditorSettings>().DefaultToDX8KeyTester };
+             .directXKeyTester = m_context.settings.of<SharedSettings>().DefaultToDX8KeyTester };
 }
 
 QString CoolBar::hoverText(const QObject *watched) const

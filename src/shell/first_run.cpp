@@ -3,8 +3,9 @@
 
 #include "shell/first_run.h"
 
+#include "documents/document_settings.h"
+#include "documents/foreign_keyboard.h"
 #include "editor/editor_settings.h"
-#include "editor/files/foreign_keyboard.h"
 #include "lists/favourites_menu.h"
 #include "lists/flight_sims.h"
 #include "lists/user_lists.h"
@@ -14,12 +15,12 @@
 #include "settings/settings.h"
 #include "settings/settings_files.h"
 #include "settings/shared_settings.h"
-#include "shell/cougar_tools.h"
-#include "shell/download_menu.h"
 #include "shell/help_menu.h"
 #include "shell/settings/settings_moments.h"
 #include "shell/settings/shell_settings.h"
 #include "shell/welcome.h"
+#include "toolchain/compile/download_menu.h"
+#include "toolchain/cougar_tools.h"
 #include "toolchain/default_options.h"
 
 namespace zeph {
@@ -80,7 +81,7 @@ void runFirstRun(const Context &context, const FirstRunParts &parts, int welcome
 {
     parts.lists.favourites().add(SetupFlightSimFiles(context.paths.filesFolder()));
     Welcome welcome(context.paths, context.dialogs, welcomeIntervalMs, parent);
-    new ForeignKeyBSupport(context.keyboard, context.settings.of<EditorSettings>(), &welcome);
+    new ForeignKeyBSupport(context.keyboard, context.settings.of<DocumentSettings>(), &welcome);
     welcome.exec();
     takeWelcomeAnswers(welcome.answers(), context.settings, context.paths);
     writeStore(context, parts);

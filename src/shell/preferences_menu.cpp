@@ -3,12 +3,13 @@
 
 #include "shell/preferences_menu.h"
 
+#include "documents/document_settings.h"
+#include "documents/foreign_keyboard.h"
 #include "documents/highlighting.h"
 #include "documents/undo_histories.h"
 #include "editor/editor.h"
 #include "editor/editor_settings.h"
 #include "editor/files/file_new.h"
-#include "editor/files/foreign_keyboard.h"
 #include "editor/files/loss_guards.h"
 #include "lists/user_lists.h"
 #include "menus/menu_actions.h"
@@ -16,11 +17,11 @@
 #include "preferences/preferences.h"
 #include "settings/colour_settings.h"
 #include "settings/settings.h"
-#include "shell/cougar_tools.h"
-#include "shell/download_menu.h"
-#include "shell/games_menu.h"
 #include "shell/mum.h"
-#include "shell/tools_menu.h"
+#include "toolchain/compile/download_menu.h"
+#include "toolchain/cougar_tools.h"
+#include "toolchain/games/games_menu.h"
+#include "toolchain/tools_menu.h"
 
 #include <QApplication>
 #include <QEvent>
@@ -46,7 +47,7 @@ void PreferencesMenu::open(PreferencesTab tab)
                              restartDetector();
                          } },
                        &m_parts.mum);
-    new ForeignKeyBSupport(m_context.keyboard, m_context.settings.of<EditorSettings>(), &window);
+    new ForeignKeyBSupport(m_context.keyboard, m_context.settings.of<DocumentSettings>(), &window);
     window.showTab(tab);
     window.exec();
     // The program may have been told to end meanwhile, which closes no window.

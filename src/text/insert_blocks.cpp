@@ -92,12 +92,6 @@ QStringList titleBlock(const TitleFields &fields)
     return block;
 }
 
-QString personsNameOr(const QString &name)
-{
-    const QString trimmed = name.trimmed();
-    return trimmed.isEmpty() ? u"User unknown"_s : trimmed;
-}
-
 QString insertText(const language::Word &word, int delay)
 {
     if (word.is(language::SlashRole)) {

@@ -34,9 +34,6 @@ struct TitleFields {
 /// end of the rules above and below, or farther right when a line is longer.
 QStringList titleBlock(const TitleFields &fields);
 
-/// The name without blanks around it, or "User unknown" for an empty one.
-QString personsNameOr(const QString &name);
-
 /// The text that the Insert menu and the slash palette insert for one of insertWords. The delay is
 /// the number of milliseconds that DLY is written with.
 QString insertText(const language::Word &word, int delay);

@@ -5,9 +5,9 @@
 
 #include "platform/dialogs.h"
 #include "platform/status_line.h"
-#include "toolchain/cougar_modes.h"
-#include "toolchain/missing_tools.h"
+#include "toolchain/modes/cougar_modes.h"
 #include "toolchain/tool_commands.h"
+#include "toolchain/tool_messages.h"
 
 namespace zeph {
 
@@ -21,7 +21,7 @@ constexpr QStringView readyPanel = u" Ready";
 struct DiagRow {
     QStringView program;
     QStringView arguments;
-    QStringView note; ///< stands behind the program's name when it is missing
+    QStringView note; ///< follows the program's name in the box that tells that it is missing
 };
 
 /// By the index of MnuDiagArray.
@@ -31,13 +31,13 @@ constexpr DiagRow diagRows[] = {
     { u"MultiDevices.exe", {}, {} },   { u"CougarBState.exe", {}, u", the Logical Flag viewer" },
 };
 
-/// A request to the Cougar itself, and panel 1 while it is made.
+/// A request to the Cougar itself, and what panel 1 shows while it is made.
 struct MemoryRow {
     ConfigCommand command;
     QStringView panel;
 };
 
-/// By the index of mnuMemoryClear, as far as these are such requests.
+/// By the index of mnuMemoryClear; the two indices after these are no requests to the Cougar.
 constexpr MemoryRow memoryRows[] = {
     { ConfigCommand::EmptyBuffers, u" Emptying the buffers .. please wait ..." },
     { ConfigCommand::ClearMemory, u" Clearing the memory .. please wait ..." },
@@ -78,7 +78,7 @@ std::span<const Companion> companionTable()
     return companions;
 }
 
-/// Whether it started; a failure is told.
+/// Starts a program. False, which is told, when it could not be started.
 bool ExternalTools::start(const Launch &launch)
 {
     const auto started = m_context.launcher.start(launch);
@@ -140,7 +140,7 @@ void ExternalTools::mnuFlashUpgrade_Click()
 {
     const Launch launch = toolLaunch(m_context.paths, updateProgram);
     if (!fileExists(launch.program)) {
-        // The words say the reverse of what happened; they have always been these.
+        // "Could" should be "couldn't", but these are the words that pilots know.
         m_context.dialogs.tell(u"There's a problem ... "_s,
                                u"I could locate "_s + launch.program + u'.', BoxIcon::Stop);
         return;

@@ -3,7 +3,7 @@
 
 #pragma once
 
-// The programs around the Cougar that Zeph only starts. None is waited for.
+// The programs around the Cougar that Zeph starts without waiting for them.
 
 #include "platform/context.h"
 
@@ -14,7 +14,7 @@ namespace zeph {
 class CougarModes;
 struct Launch;
 
-/// A program that belongs to Zeph and lies beside it, and the menu entry that starts it.
+/// A program that comes with Zeph and is in the same folder, and the menu entry that starts it.
 struct Companion {
     QStringView action;
     QStringView program;
@@ -30,18 +30,18 @@ public:
     {
     }
 
-    /// The control panel, its pages, and the viewers; the index is the menu's, 0 to 5.
+    /// Starts the control panel, one of its pages, or a viewer, by the menu's index (0 to 5).
     void MnuDiagArray_Click(int index);
-    /// 0 empty the buffers, 1 clear the memory, 2 reset after a question, 3 HOTAS Cleanse, 4 have
-    /// the mode reported.
+    /// By index: 0 empties the buffers, 1 clears the memory, 2 resets the Cougar after a question,
+    /// 3 starts HOTAS Cleanse, 4 has the mode reported.
     void mnuMemoryClear_Click(int index);
-    /// The update of the firmware.
+    /// Starts the update of the firmware.
     void mnuFlashUpgrade_Click();
     /// Asks for the installer of a new handle and starts it.
     void mnuHandleInstall_Click();
-    /// Windows' own game controllers, 0 and 1.
+    /// Opens one of the two pages (0 and 1) of Windows' own game controllers.
     void mnuFlashArray_Click(int index);
-    /// Starts a companion; a missing one is told with its path.
+    /// Starts a companion program; a missing one is told with its path.
     void startCompanion(QStringView program);
 
 private:

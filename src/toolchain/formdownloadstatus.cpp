@@ -14,10 +14,10 @@ FormDownloadStatus::FormDownloadStatus(const QString &caption, int longestSecond
 {
     m_ui->setupUi(this);
     setAttribute(Qt::WA_DeleteOnClose);
-    // It comes by itself, maybe while the user types elsewhere.
+    // It appears by itself, maybe while the user types elsewhere: it must not take the keyboard.
     setAttribute(Qt::WA_ShowWithoutActivating);
     m_ui->LabelStatus->setText(caption);
-    // A bar from 0 to 0 would run for ever.
+    // The toolkit shows a bar from 0 to 0 as one without an end.
     m_ui->ProgressBar->setRange(0, std::max(1, longestSeconds));
 }
 

@@ -15,17 +15,17 @@ namespace Ui {
 class FormDownloadStatus;
 }
 
-/// Tells that a compile or a download is still going on. Stays up beside the other windows and
+/// Tells that a compile or a download is still going on. Does not block the other windows, and
 /// deletes itself when it is closed.
 class FormDownloadStatus : public QDialog
 {
     Q_OBJECT
 public:
-    /// The caption says what is going on; longestSeconds is where the bar is full.
+    /// The caption says what is going on; the bar is full at longestSeconds.
     FormDownloadStatus(const QString &caption, int longestSeconds, QWidget *parent = nullptr);
     ~FormDownloadStatus() override;
 
-    /// Seconds waited so far; more than the bar holds fill it.
+    /// Shows the seconds waited so far; a number beyond the bar's end fills it.
     void setSeconds(int seconds);
 
 private:

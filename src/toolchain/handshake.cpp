@@ -17,7 +17,7 @@ namespace zeph {
 
 namespace {
 
-/// The exit code of a loop whose wait has lost its ground; 0 is a wait's own end.
+/// The exit code of an event loop whose handshake was destroyed; 0 is the ordinary end.
 constexpr int abandoned = 1;
 
 Expected<void, QString> inWords(const Expected<void, FileError> &result)
@@ -48,7 +48,7 @@ ToolchainHandshake::~ToolchainHandshake()
 
 HotasIni ToolchainHandshake::hotasIni() const
 {
-    // The folder of the tools can be changed while Zeph runs.
+    // Made anew each time, since the folder of the tools can be changed while Zeph runs.
     return HotasIni(m_context.paths.hotasIni());
 }
 
@@ -72,7 +72,7 @@ ExchangeEnd ToolchainHandshake::runUnreportedRequest(const Launch &launch)
 
 ExchangeEnd ToolchainHandshake::run(Channel &channel, const Clear &clear, const Launch &launch)
 {
-    // With an old status left in place the first poll would take it for the new verdict.
+    // The first poll would take an old status for the new verdict.
     if (!succeeded(clear())) {
         return ExchangeEnd::NotStarted;
     }
@@ -84,7 +84,7 @@ ExchangeEnd ToolchainHandshake::run(Channel &channel, const Clear &clear, const 
     return wait(channel);
 }
 
-/// Whether there is no failure; one is told.
+/// Whether the step succeeded; a failure is told.
 bool ToolchainHandshake::succeeded(const Expected<void, QString> &result)
 {
     if (!result) {
@@ -100,9 +100,9 @@ ExchangeEnd ToolchainHandshake::wait(Channel &channel)
     QEventLoop loop;
     connect(this, &ToolchainHandshake::waitEnded, &loop, &QEventLoop::quit);
     connect(this, &QObject::destroyed, &loop, [&loop] { loop.exit(abandoned); });
-    // An exchange that began inside this one may have set the variables anew before its own loop
-    // gave the control back, so they are looked at after every wake-up. When the program ends,
-    // running the loop again fails, and that is the end of the wait.
+    // An exchange that began inside this one may have restarted the wait before this loop got the
+    // control back, so the variables are read after every wake-up. When the program ends, exec()
+    // returns at once with an error code, which ends the wait.
     while (channel.state.finished == WaitRunning) {
         const int code = loop.exec();
         if (!alive) {
@@ -157,7 +157,7 @@ void ToolchainHandshake::showStatus(const TickActions &actions)
         wholeSeconds(waitTimes(m_context.settings.of<ToolchainSettings>()).regainControlAfter);
     m_statusWindow = new FormDownloadStatus(m_statusCaption, longest, m_mainWindow);
     connect(m_statusWindow, &QDialog::finished, this, [this, window = m_statusWindow.data()] {
-        // The window itself goes a little later, and another may have taken its place by then.
+        // The window is deleted a little later; by then another may have taken its place.
         if (m_statusWindow == window) {
             m_statusWindow.clear();
         }
@@ -172,7 +172,7 @@ void ToolchainHandshake::closeStatusWindow()
         m_statusWindow.clear();
         window->disconnect(this);
         window->close();
-        // A window that its owner hid does not delete itself when it is closed.
+        // Closing a window that was hidden with its owner does not delete it.
         window->deleteLater();
     }
 }

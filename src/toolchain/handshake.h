@@ -23,16 +23,18 @@ struct Launch;
 /// How an exchange with a tool ended.
 enum class ExchangeEnd {
     Verdict, ///< the tool wrote its status
-    GivenUp, ///< it was waited for too long; it runs on
+    GivenUp, ///< the wait took too long; the tool runs on
     NotStarted, ///< it could not be started, which was told
     Abandoned ///< Zeph is ending: the caller returns at once and touches nothing any more
 };
 
 /// The exchanges with the Cougar's tools: a tool is started, then its section of HOTAS.ini is
-/// polled until a status stands there. The waits are nested event loops, so the interface stays
-/// alive in them, and a command may start during another's wait. There is one set of variables for
-/// the compiler and one for mode requests: a second exchange restarts the first one's wait, and its
-/// end is the end of both. A wait ends with the destruction of this object and with the program.
+/// polled until the tool has written a status there.
+///
+/// The waits are nested event loops, so that the interface stays alive, and a command may start
+/// during another's wait. There is one set of variables for the compiler and one for mode requests:
+/// a second exchange restarts the first one's wait, and both end together. A wait also ends when
+/// this object is destroyed, or when the program ends.
 class ToolchainHandshake : public QObject
 {
     Q_OBJECT
@@ -59,11 +61,12 @@ public:
     const QString &StatusCaption() const { return m_statusCaption; }
     void setStatusCaption(const QString &caption) { m_statusCaption = caption; }
     bool StatusWindowShown() const { return !m_statusWindow.isNull(); }
-    /// Closes the status window if it is up: a compile leaves it on the screen, a download not.
+    /// Closes the status window if it is up. A download does so at its end; a compile leaves the
+    /// window to the user.
     void closeStatusWindow();
 
 Q_SIGNALS:
-    /// A wait got its end; whoever waits looks at the variables.
+    /// The variables of a channel say that its wait is over; every wait looks at its own.
     void waitEnded();
 
 private:

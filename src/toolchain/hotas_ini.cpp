@@ -14,7 +14,7 @@ constexpr QStringView modeSection = u"TMMODE";
 constexpr QStringView statusKey = u"Status";
 constexpr qint16 unknownMode = std::numeric_limits<qint16>::max();
 
-/// A key of the compiler's section and what it is emptied to, in the order of writing.
+/// A key of the compiler's section and its value when empty; rows are in the order of writing.
 struct ClearedKey {
     QStringView key;
     QStringView value;
@@ -25,7 +25,7 @@ constexpr ClearedKey clearedKeys[] = {
     { u"ErrorCode", u"" }, { u"CompileTime", u"" }, { u"DownloadTime", u"" },
 };
 
-/// Other programs write these numbers, so none is trusted to fit.
+/// The number as 16 bits, or the other value when it does not fit: other programs write the file.
 qint16 narrowed(qint32 number, qint16 whenTooLarge)
 {
     const bool fits = number >= std::numeric_limits<qint16>::min()

@@ -3,8 +3,8 @@
 
 #pragma once
 
-// HOTAS.ini, the file through which the Cougar's tools and Zeph talk. The tools own it: only the
-// keys named here are ever written, all else in it survives.
+// HOTAS.ini, the file through which the Cougar's tools and Zeph talk. The tools own it: Zeph writes
+// only the keys named here and leaves everything else as it is.
 
 #include "platform/core/profile_file.h"
 
@@ -38,8 +38,8 @@ public:
     /// The file's full path.
     explicit HotasIni(const QString &path);
 
-    /// Empties the seven keys of the compiler in one replacement of the file, so that a verdict of
-    /// an earlier run cannot be taken for the next one's.
+    /// Empties the seven keys of the compiler, so that an earlier verdict cannot be taken for the
+    /// next one. The file is replaced once.
     Expected<void, FileError> clearCompiler() const;
     /// A number that does not fit 16 bits reads as 0.
     CompilerVerdict readCompiler() const;
@@ -48,7 +48,8 @@ public:
 
     Expected<void, FileError> clearModeStatus() const;
     QString pollModeStatus() const;
-    /// Puts "OKAY" where a finished request would, for requests that the tool does not report.
+    /// Writes the status "OKAY", as the tool does after a request, for those that it does not
+    /// report.
     Expected<void, FileError> markModeStatus() const;
     /// A missing Status reads as "ERROR"; a number that does not fit 16 bits as an unknown mode.
     ModeReport readMode() const;

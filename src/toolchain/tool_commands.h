@@ -3,7 +3,7 @@
 
 #pragma once
 
-// The command lines of the Cougar's two tools.
+// How the Cougar's tools are started: program, arguments, folder and window, as values.
 
 #include "platform/core/paths.h"
 #include "platform/process_launcher.h"
@@ -27,15 +27,16 @@ enum class ConfigCommand {
     ResetCougar
 };
 
-/// The compiler with the quoted file behind its switches, in the tools' folder, in front.
+/// Starts the compiler on a file. This and all others start in the tools' folder, with a normal
+/// window that takes the focus.
 Launch compilerLaunch(const Paths &paths, CompilerCommand command, const QString &file);
-/// The configuration tool with the switches of a request, in the tools' folder, in front.
+/// Starts the configuration tool with the switches of a request.
 Launch configLaunch(const Paths &paths, ConfigCommand command);
 
-/// The configuration tool told to send a profile, a name without ".tmc", to the Cougar.
+/// Starts the configuration tool so that it sends a profile, a name without ".tmc", to the Cougar.
 Launch profileLaunch(const Paths &paths, const QString &profile, bool manualCalibration);
 
-/// Any program of the tools' folder, in front.
+/// Starts any program of the tools' folder.
 Launch toolLaunch(const Paths &paths, QStringView program, QStringView arguments = {});
 
 } // namespace zeph

@@ -13,7 +13,7 @@ namespace zeph {
 
 namespace {
 
-/// A tool that answers sooner than this should not make a window flash up.
+/// Milliseconds; a window that appeared sooner would only flash when the tool answers in time.
 constexpr qint32 windowAfter = 2000;
 
 } // namespace
@@ -26,7 +26,7 @@ qint32 checkForCompletionTimeMs(const ToolchainSettings &settings)
 WaitTimes waitTimes(const ToolchainSettings &settings)
 {
     const qint32 interval = checkForCompletionTimeMs(settings);
-    // An interval of nothing would never reach the limit, and so never give control back.
+    // With an interval of 0 the time would never reach the limit.
     return { interval > 0 ? interval : checkForCompletionTimeMs(ToolchainSettings()),
              qint32(roundHalfEven(settings.RegainControlAfter)) };
 }

@@ -3,7 +3,7 @@
 
 #pragma once
 
-// How long a tool is waited for, as numbers: one tick of the poll at a time.
+// How long Zeph waits for a tool: what each tick of the poll's timer counts and decides.
 
 #include "platform/core/base.h"
 
@@ -11,7 +11,7 @@ namespace zeph {
 
 struct ToolchainSettings;
 
-/// How a wait stands: the values that its finished variable takes.
+/// The values of a wait's finished variable.
 enum WaitResult : qint16 { WaitRunning = 0, WaitVerdict = 1, WaitGivenUp = 2 };
 
 /// The variables of one wait. There is one set for the compiler and one for mode requests, however
@@ -33,7 +33,7 @@ struct WaitTimes {
 
 /// The times of the settings, as whole milliseconds, halves to even.
 qint32 checkForCompletionTimeMs(const ToolchainSettings &settings);
-/// An interval below 1 gives the default.
+/// The same for both times of a wait. An interval below 1 gives the default.
 WaitTimes waitTimes(const ToolchainSettings &settings);
 
 /// What the status window has to do at a tick.
@@ -47,13 +47,13 @@ struct TickActions {
     friend bool operator==(const TickActions &, const TickActions &) = default;
 };
 
-/// One tick of a wait's timer. A verdict ends the wait before any time is counted; without one the
-/// interval is added, the status window follows once two seconds are reached (unless it is hidden),
-/// and above the limit the wait is given up.
+/// One tick of a wait's timer. If the tool has answered, the wait ends and no time is counted.
+/// Otherwise the interval is added to the time elapsed; from two seconds on the status window is
+/// shown, unless it is hidden; above the limit the wait is given up.
 TickActions tick(WaitState &state, bool statusNonEmpty, const WaitTimes &times, bool hideWindow,
                  bool windowShown);
 
-/// Milliseconds as whole seconds, to nearest, halves to even.
+/// Milliseconds rounded to whole seconds, halves to the even one.
 int wholeSeconds(qint32 milliseconds);
 
 } // namespace zeph

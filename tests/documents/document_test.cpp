@@ -24,7 +24,7 @@ protected:
     }
 
     CharFormat plain{ .family = u"Arial"_s, .pointSize = 8, .colour = ColorRef(0) };
-    qint16 undoMax = 10;
+    int undoMax = 10;
     Document document{ DocumentKind::Joystick, undoMax };
 };
 

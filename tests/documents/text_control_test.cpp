@@ -9,6 +9,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QAccessible>
 #include <QClipboard>
 #include <QDropEvent>
 #include <QGuiApplication>
@@ -142,27 +143,127 @@ TEST_F(TextControlTest, OddCharactersAreCharactersOfOneLine)
     EXPECT_EQ(control.shown().richText().text, odd);
 }
 
-// Reading costs only what has changed; what it gives must be what the document holds.
-TEST_F(TextControlTest, ItsRichTextIsTheDocumentsWhateverSetIt)
+// What it gives must be what was set and laid, in the toolkit's text.
+TEST_F(TextControlTest, ItsRichTextIsWhatWasMadeOfIt)
 {
+    ColouredText &text = control.shown();
     for (int round = 0; round < 200; ++round) {
         test::RichTextMaker chance{ quint32(round) };
-        control.shown().setRichText(chance.make(u"ab \n\r\u2028"_s, 80));
-        ASSERT_EQ(control.shown().richText(), richTextOf(*control.document())) << "round " << round;
+        RichText expected = chance.make(u"ab \n"_s, 80);
+        const auto compare = [&] {
+            expected.normalise();
+            expected.paragraphs = richTextOf(*control.document()).paragraphs;
+            ASSERT_EQ(plainTextOf(*control.document()), expected.text) << "round " << round;
+            ASSERT_EQ(text.richText(), expected) << "round " << round;
+        };
+        text.setRichText(expected);
+        compare();
         // A colour of which only the lower bytes are one.
         CharFormat odd;
         odd.colour = 0xFF000012;
-        control.shown().setCharacterRuns({ { control.shown().length(), odd } });
-        ASSERT_EQ(control.shown().richText(), richTextOf(*control.document())) << "round " << round;
-        const int from = chance.upTo(control.shown().length());
-        control.shown().setCharacterRuns(
-            { { chance.upTo(control.shown().length() - from), chance.characterFormat() } }, from);
-        ASSERT_EQ(control.shown().richText(), richTextOf(*control.document())) << "round " << round;
-        control.shown().changeLooks(0, control.shown().length(),
-                                    [](CharFormat &look) { look.bold = !look.bold; });
-        control.shown().replace(from, 0, u"x\ny"_s);
-        ASSERT_EQ(control.shown().richText(), richTextOf(*control.document())) << "round " << round;
+        text.setCharacterRuns({ { text.length(), odd } });
+        odd.colour = 0x12;
+        expected.change(0, text.length(), [&odd](CharFormat &look) { look = odd; });
+        compare();
+        const int from = chance.upTo(text.length());
+        const int length = chance.upTo(text.length() - from);
+        const CharFormat laid = fromTextFormat(toTextFormat(chance.characterFormat()));
+        text.setCharacterRuns({ { length, laid } }, from);
+        expected.change(from, length, [&laid](CharFormat &look) { look = laid; });
+        compare();
+        const auto turn = [](CharFormat &look) {
+            look.bold = !look.bold;
+        };
+        text.changeLooks(0, text.length(), turn);
+        expected.change(0, text.length(), turn);
+        compare();
+        text.replace(from, 0, u"x\ny"_s);
+        EXPECT_EQ(text.text(), QString(expected.text).insert(from, u"x\ny"_s));
     }
+}
+
+TEST_F(TextControlTest, ATextThatNoLineHoldsIsReplaced)
+{
+    control.shown().setText(u"a\rb\u2028c\nd"_s);
+    EXPECT_EQ(control.shown().text(), u"a\uFFFDb\uFFFDc\nd");
+    EXPECT_EQ(control.shown().richText().text, control.shown().text());
+}
+
+TEST_F(TextControlTest, WhatIsDraggedElsewhereKeepsItsLooksAndThoseBetween)
+{
+    CharFormat plain{ u"Arial"_s, 8, false, false, false, 0 };
+    CharFormat red = plain;
+    red.colour = 0xFF;
+    ColouredText &text = control.shown();
+    text.setPlain(plain);
+    text.setText(u"one two three four"_s);
+    text.setCharacterRuns({ { 3, red } }, 4);
+    text.setCharacterRuns({ { 5, red } }, 8);
+    text.select(14, 4);
+    // The text is taken from its end and let go at the start, as one change.
+    QMimeData data;
+    data.setText(u"four"_s);
+    const QPoint at(2, 8);
+    QDragEnterEvent enter(at, Qt::MoveAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(control.viewport(), &enter);
+    QDropEvent event(at, Qt::MoveAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(control.viewport(), &event);
+    const std::vector<CharRun> looks = text.richText().characters;
+    ASSERT_GE(looks.size(), 4u);
+    EXPECT_TRUE(text.text().startsWith(u"fourone two three"));
+    EXPECT_EQ(looks[1], (CharRun{ 3, red }));
+    EXPECT_EQ(looks[3], (CharRun{ 5, red }));
+}
+
+TEST_F(TextControlTest, AScreenReaderIsToldTheColours)
+{
+    ColouredText &text = control.shown();
+    text.setPlain({ u"Arial"_s, 8, false, false, false, 0 });
+    text.setText(u"Rem x\nBTN S1"_s);
+    text.setCharacterRuns({ { 3, { u"Arial"_s, 8, true, true, true, 0x0000FF } } }, 6);
+    QAccessibleInterface *told = QAccessible::queryAccessibleInterface(&control);
+    ASSERT_TRUE(told && told->textInterface() && told->editableTextInterface());
+    EXPECT_EQ(told->role(), QAccessible::EditableText);
+    EXPECT_EQ(told->text(QAccessible::Value), u"Rem x\nBTN S1");
+    int start = -1;
+    int end = -1;
+    const QString look = told->textInterface()->attributes(7, &start, &end);
+    EXPECT_EQ(start, 6);
+    EXPECT_EQ(end, 9);
+    for (const QString &wanted :
+         { u"color:rgb(255,0,0);"_s, u"font-weight:bold;"_s, u"font-style:italic;"_s,
+           u"text-underline-style:solid;"_s, u"font-family:\"Arial\";"_s, u"font-size:8pt;"_s }) {
+        EXPECT_TRUE(look.contains(wanted)) << wanted.toStdString();
+    }
+    EXPECT_TRUE(told->textInterface()->attributes(0, &start, &end).contains(u"color:rgb(0,0,0);"));
+    EXPECT_TRUE(told->textInterface()->attributes(12, &start, &end).contains(u"rgb(0,0,0)"));
+    EXPECT_EQ(told->textInterface()->attributes(13, &start, &end), QString());
+}
+
+TEST_F(TextControlTest, AScreenReaderReadsAndWritesTheText)
+{
+    ColouredText &text = control.shown();
+    text.setText(u"one\ntwo"_s);
+    QAccessibleInterface *told = QAccessible::queryAccessibleInterface(&control);
+    QAccessibleTextInterface &reader = *told->textInterface();
+    EXPECT_EQ(reader.characterCount(), 7);
+    EXPECT_EQ(reader.text(2, 5), u"e\nt");
+    reader.setSelection(0, 1, 3);
+    int start = -1;
+    int end = -1;
+    reader.selection(0, &start, &end);
+    EXPECT_EQ(start, 1);
+    EXPECT_EQ(end, 3);
+    EXPECT_EQ(text.selLength(), 2);
+    reader.removeSelection(0);
+    EXPECT_EQ(reader.selectionCount(), 0);
+    EXPECT_EQ(reader.offsetAtPoint(reader.characterRect(5).center()), 5);
+    told->editableTextInterface()->replaceText(0, 3, u"1"_s);
+    EXPECT_EQ(text.text(), u"1\ntwo");
+    text.setLocked(true);
+    EXPECT_TRUE(told->state().readOnly);
+    told->editableTextInterface()->deleteText(0, 3);
+    EXPECT_EQ(text.text(), u"1\ntwo");
 }
 
 TEST_F(TextControlTest, EveryTextHasTheMargin)

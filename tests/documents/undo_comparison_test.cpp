@@ -210,11 +210,9 @@ protected:
         history().storeTop();
         copies().slotsHeld[0] = { control().shown().richText(), control().shown().selStart() };
         Change change(document());
-        QTextCursor cursor = control().textCursor();
         for (int pieces = 1 + chance->upTo(2); pieces > 0; --pieces) {
-            insertRichText(cursor, piece());
+            document().insert(piece());
         }
-        control().setTextCursor(cursor);
         if (!change.commit()) {
             return;
         }

@@ -9,6 +9,7 @@
 #include "editor/files/file_saving.h"
 #include "editor/right_menu.h"
 #include "menus/menu_actions.h"
+#include "settings/shared_settings.h"
 #include "tests/documents/editor_fixture.h"
 
 #include <QAction>
@@ -275,7 +276,7 @@ TEST_F(EditorWindowTest, CtrlKOpensTheKeyTesterThatTheUserPrefers)
     editor->action(u"mnuAppsDX8_0")->setEnabled(true);
     QTest::keyClick(joystick(), Qt::Key_K, Qt::ControlModifier);
     EXPECT_EQ(tester.count(), 1);
-    settings.of<EditorSettings>().DefaultToDX8KeyTester = true;
+    settings.of<SharedSettings>().DefaultToDX8KeyTester = true;
     QTest::keyClick(joystick(), Qt::Key_K, Qt::ControlModifier);
     EXPECT_EQ(tester.count(), 1);
     EXPECT_EQ(directX.count(), 1);

@@ -4,7 +4,7 @@
 #include "preferences/gamespage.h"
 
 #include "tests/preferences/lists.h"
-#include "toolchain/games.h"
+#include "toolchain/games/games.h"
 
 #include <QLabel>
 

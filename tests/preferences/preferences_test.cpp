@@ -11,9 +11,9 @@
 #include "editor/files/loss_guards.h"
 #include "platform/richtext/rich_text_document.h"
 #include "preferences/preferences_rules.h"
-#include "shell/cougar_tools.h"
 #include "shell/mum.h"
 #include "tests/shell/running_world.h"
+#include "toolchain/cougar_tools.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -447,7 +447,7 @@ TEST_F(PreferencesTest, TheTextsFollowANewFontAndANewColourAndStayAsTheyWereOthe
         window.findChild<QPushButton *>(u"CMD_ChangeColour"_s)->click();
         tick(window, u"TextFontBold"_s).setChecked(true);
     });
-    const RichText shown = richTextOf(*control.document(), 0, control.shown().length());
+    const RichText shown = control.shown().richText();
     EXPECT_EQ(shown.characters.front().format.colour, ColorRef(0x123456));
     EXPECT_TRUE(shown.characters.front().format.underline);
     EXPECT_TRUE(shown.characters.front().format.bold);

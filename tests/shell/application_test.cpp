@@ -10,6 +10,7 @@
 #include "menus/menu_actions.h"
 #include "platform/tool_windows.h"
 #include "settings/colour_settings.h"
+#include "settings/shared_settings.h"
 #include "shell/frmtip.h"
 #include "shell/help_menu.h"
 #include "shell/helpwindow.h"
@@ -557,7 +558,7 @@ TEST_F(Start, VistaHidesTheDirectXTesters)
          { u"mnuAppsDX8Divider", u"mnuAppsDX8_0", u"mnuAppsDX8_1", u"mnuAppsDX8_2" }) {
         EXPECT_FALSE(app->editor().action(name)->isVisible());
     }
-    EXPECT_EQ(app->settings().of<EditorSettings>().DefaultToDX8KeyTester, 0);
+    EXPECT_EQ(app->settings().of<SharedSettings>().DefaultToDX8KeyTester, 0);
 }
 
 TEST_F(Start, OtherSystemsShowTheDirectXTesters)
@@ -565,7 +566,7 @@ TEST_F(Start, OtherSystemsShowTheDirectXTesters)
     writeStore("[Miscellaneous]\r\nDefaultToDX8KeyTester=1\r\n");
     ASSERT_TRUE(start());
     EXPECT_TRUE(app->editor().action(u"mnuAppsDX8_0")->isVisible());
-    EXPECT_EQ(app->settings().of<EditorSettings>().DefaultToDX8KeyTester, 1);
+    EXPECT_EQ(app->settings().of<SharedSettings>().DefaultToDX8KeyTester, 1);
 }
 
 TEST_F(Start, AStoredPlaceIsTakenUpUnlessMaximised)

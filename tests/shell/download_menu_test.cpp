@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Zeph authors
 // SPDX-License-Identifier: MIT
 
-#include "shell/download_menu.h"
+#include "toolchain/compile/download_menu.h"
 
 #include "documents/editor_view.h"
 #include "documents/text_control.h"
@@ -10,10 +10,12 @@
 #include "editor/right_menu.h"
 #include "menus/menu_actions.h"
 #include "platform/core/profile_file.h"
-#include "shell/cougar_tools.h"
+#include "settings/shared_settings.h"
 #include "shell/help_menu.h"
+#include "shell/main_scene.h"
 #include "shell/mum.h"
 #include "tests/shell/shell_world.h"
+#include "toolchain/cougar_tools.h"
 #include "toolchain/default_options.h"
 #include "toolchain/toolchain_settings.h"
 
@@ -60,7 +62,7 @@ struct DownloadMenuTest : test::ShellWorld {
         mum->attachEditor(editor);
         auto *help = new HelpMenu(context(), downloader, mum->toolWindows(), *editor);
         tools = new CougarTools(context(), joystick, *mum);
-        tools->attach(context(), *mum, *editor, *help);
+        new MainScene(context(), { *mum, *editor, *help, *tools });
         mum->show();
         control()->shown().setText(u"BTN S1 a"_s);
         editor->joystick().rename(folder.write(u"Files/a.tmj"_s, "BTN S1 a"));
@@ -200,7 +202,7 @@ TEST_F(DownloadMenuTest, TheKeyTesterOpensThroughItsEntry)
 
 TEST_F(DownloadMenuTest, TheDirectXTesterOpensForThoseWhoPreferIt)
 {
-    settings.of<EditorSettings>().DefaultToDX8KeyTester = true;
+    settings.of<SharedSettings>().DefaultToDX8KeyTester = true;
     show();
     EXPECT_EQ(testerOpened(), u"mnuAppsDX8_0");
 }

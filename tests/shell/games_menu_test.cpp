@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Zeph authors
 // SPDX-License-Identifier: MIT
 
-#include "shell/games_menu.h"
+#include "toolchain/games/games_menu.h"
 
 #include "documents/editor_view.h"
 #include "documents/text_control.h"

@@ -1,15 +1,15 @@
 // SPDX-FileCopyrightText: The Zeph authors
 // SPDX-License-Identifier: MIT
 
-#include "shell/tools_menu.h"
+#include "toolchain/tools_menu.h"
 
 #include "editor/editor.h"
 #include "menus/menu_actions.h"
 #include "platform/core/profile_file.h"
 #include "shell/mum.h"
 #include "tests/shell/shell_world.h"
-#include "toolchain/formresetoptions.h"
-#include "toolchain/selectprofileform.h"
+#include "toolchain/modes/formresetoptions.h"
+#include "toolchain/modes/selectprofileform.h"
 
 #include <QAction>
 #include <QApplication>

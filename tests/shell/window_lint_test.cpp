@@ -25,10 +25,10 @@
 #include "templates/templateform.h"
 #include "tests/shell/shell_world.h"
 #include "text/macro_table.h"
-#include "toolchain/entergamename.h"
-#include "toolchain/formresetoptions.h"
-#include "toolchain/games.h"
-#include "toolchain/selectprofileform.h"
+#include "toolchain/games/entergamename.h"
+#include "toolchain/games/games.h"
+#include "toolchain/modes/formresetoptions.h"
+#include "toolchain/modes/selectprofileform.h"
 
 #include <QAbstractButton>
 #include <QAbstractItemView>

@@ -71,7 +71,7 @@ protected:
             { ColorRef(255), u'!' },
         };
         QString marks;
-        for (const CharRun &run : characterRunsOf(*control(kind)->document())) {
+        for (const CharRun &run : control(kind)->shown().richText().characters) {
             const QChar letter =
                 run.format.colour ? letters.value(*run.format.colour, u'?') : QChar(u'?');
             marks += QString(run.length, letter);
@@ -83,7 +83,7 @@ protected:
     QString flagged(DocumentKind kind, bool CharFormat::*flag)
     {
         QString marks;
-        for (const CharRun &run : characterRunsOf(*control(kind)->document())) {
+        for (const CharRun &run : control(kind)->shown().richText().characters) {
             marks += QString(run.length, run.format.*flag ? u'x' : u'.');
         }
         return marks;

@@ -5,7 +5,7 @@
 
 #include "platform/fakes/fake_joystick.h"
 #include "tests/toolchain/toolchain_bench.h"
-#include "toolchain/cougar_modes.h"
+#include "toolchain/modes/cougar_modes.h"
 
 #include <QFile>
 

@@ -4,6 +4,7 @@
 #include "editor/files/file_opening.h"
 
 #include "documents/coloured_copies.h"
+#include "documents/document_settings.h"
 #include "documents/editor_texts.h"
 #include "documents/editor_view.h"
 #include "documents/highlighting.h"
@@ -50,7 +51,7 @@ FileOpening::FileOpening(const Context &context, const Parts &parts)
 void FileOpening::restoreKeyboard()
 {
     // Some text controls change the layout by themselves when they load another character set.
-    if (m_context.settings.of<EditorSettings>().ForeignLanguageKBInputFix
+    if (m_context.settings.of<DocumentSettings>().ForeignLanguageKBInputFix
         && m_context.keyboard.layoutName() != m_keyboardLayout) {
         m_context.keyboard.loadLayout(m_keyboardLayout);
     }

@@ -18,21 +18,6 @@ namespace {
 constexpr double twipsPerPixel = 15;
 constexpr double pointsPerPixel = 0.75;
 
-/// The text with another character for each, except '\n', at which the toolkit would end a block.
-/// No text file holds such a character. The length stays the same, so that the runs fit.
-QString insertable(const QString &text)
-{
-    const auto isStray = [](QChar c) {
-        return c == u'\r' || isBlockBorder(c);
-    };
-    if (std::none_of(text.begin(), text.end(), isStray)) {
-        return text;
-    }
-    QString clean = text;
-    std::replace_if(clean.begin(), clean.end(), isStray, QChar(QChar::ReplacementCharacter));
-    return clean;
-}
-
 /// The toolkit's formats of the few looks that many runs share.
 class FormatCache
 {
@@ -196,42 +181,48 @@ void insertCharacters(QTextCursor &cursor, const RichText &text)
 {
     const int from = cursor.selectionStart();
     const CharFormat common = commonLook(text.characters);
-    cursor.insertText(insertable(text.text), toTextFormat(common));
+    cursor.insertText(insertableText(text.text), toTextFormat(common));
     RunPainter(*cursor.document(), { { text.text.size(), common } }, from).paint(text.characters);
 }
 
-/// The part of two texts that differs, as the lengths that both have in common before and after it.
-struct Difference {
-    qsizetype before = 0;
-    qsizetype behind = 0;
-
-    Difference(QStringView one, QStringView other)
-    {
-        const qsizetype most = std::min(one.size(), other.size());
-        while (before < most && one[before] == other[before]) {
-            ++before;
-        }
-        while (behind < most - before
-               && one[one.size() - 1 - behind] == other[other.size() - 1 - behind]) {
-            ++behind;
-        }
-    }
-};
-
-/// Gives paragraphs their formats where they have others, from the one that holds a position on.
-void repairParagraphs(QTextDocument &document, qsizetype from, qsizetype length,
-                      const std::vector<ParagraphRun> &wanted)
+/// Puts what a function inserts in place of everything.
+template <class Insert>
+void fill(QTextDocument &document, const std::vector<ParagraphRun> &paragraphs, Insert insert)
 {
-    const RichText present = richTextOf(document, from, length);
-    if (present.paragraphs == wanted) {
-        return;
+    const bool hadUndo = document.isUndoRedoEnabled();
+    document.setUndoRedoEnabled(false);
+    QTextCursor cursor(&document);
+    cursor.beginEditBlock();
+    document.clear();
+    const bool isUniform =
+        paragraphs.empty() || (paragraphs.size() == 1 && !paragraphs.front().format.bullet);
+    if (isUniform && !paragraphs.empty()) {
+        // Each paragraph takes over the format of the one before it.
+        cursor.setBlockFormat(toBlockFormat(paragraphs.front().format));
     }
-    const int first = document.findBlock(int(from)).blockNumber();
-    const int last = document.findBlock(int(from + length)).blockNumber();
-    applyParagraphRuns(QTextCursor(&document), wanted, first, first, last);
+    insert(cursor);
+    if (!isUniform) {
+        applyParagraphRuns(cursor, paragraphs, 0, 0, document.blockCount() - 1);
+    }
+    cursor.endEditBlock();
+    document.setUndoRedoEnabled(hadUndo);
+    document.setModified(false);
 }
 
 } // namespace
+
+QString insertableText(const QString &text)
+{
+    const auto isStray = [](QChar c) {
+        return c == u'\r' || isBlockBorder(c);
+    };
+    if (std::none_of(text.begin(), text.end(), isStray)) {
+        return text;
+    }
+    QString clean = text;
+    std::replace_if(clean.begin(), clean.end(), isStray, QChar(QChar::ReplacementCharacter));
+    return clean;
+}
 
 QTextCharFormat toTextFormat(const CharFormat &format)
 {
@@ -274,24 +265,16 @@ CharFormat fromTextFormat(const QTextCharFormat &format)
 
 void setRichText(QTextDocument &document, const RichText &text)
 {
-    const bool hadUndo = document.isUndoRedoEnabled();
-    document.setUndoRedoEnabled(false);
-    QTextCursor cursor(&document);
-    cursor.beginEditBlock();
-    document.clear();
-    const bool isUniform = text.paragraphs.empty()
-        || (text.paragraphs.size() == 1 && !text.paragraphs.front().format.bullet);
-    if (isUniform && !text.paragraphs.empty()) {
-        // Each paragraph takes over the format of the one before it.
-        cursor.setBlockFormat(toBlockFormat(text.paragraphs.front().format));
-    }
-    insertCharacters(cursor, text);
-    if (!isUniform) {
-        applyParagraphRuns(cursor, text.paragraphs, 0, 0, document.blockCount() - 1);
-    }
-    cursor.endEditBlock();
-    document.setUndoRedoEnabled(hadUndo);
-    document.setModified(false);
+    fill(document, text.paragraphs,
+         [&text](QTextCursor &cursor) { insertCharacters(cursor, text); });
+}
+
+void setPlainText(QTextDocument &document, const QString &text,
+                  const std::vector<ParagraphRun> &paragraphs)
+{
+    fill(document, paragraphs, [&text](QTextCursor &cursor) {
+        cursor.insertText(insertableText(text), QTextCharFormat());
+    });
 }
 
 void insertRichText(QTextCursor &cursor, const RichText &text)
@@ -311,30 +294,14 @@ void insertRichText(QTextCursor &cursor, const RichText &text)
     cursor.endEditBlock();
 }
 
-void replaceRichText(QTextDocument &document, qsizetype from, qsizetype length,
-                     const RichText &text)
+void setParagraphRuns(QTextDocument &document, qsizetype from, QStringView text,
+                      const std::vector<ParagraphRun> &wanted)
 {
-    const RichText present = richTextOf(document, from, length);
-    const int lines = lineOfCharacter(document, int(from + present.text.size()))
-        - lineOfCharacter(document, int(from));
-    Difference same(present.text, text.text);
-    if (lines != present.text.count(u'\n')) {
-        // A line end within a paragraph would stay one, and the paragraphs could not be told apart.
-        same.before = same.behind = 0;
+    if (paragraphRunsOf(document, from, text) != wanted) {
+        const int first = document.findBlock(int(from)).blockNumber();
+        const int last = document.findBlock(int(from + text.size())).blockNumber();
+        applyParagraphRuns(QTextCursor(&document), wanted, first, first, last);
     }
-    QTextCursor cursor(&document);
-    cursor.beginEditBlock();
-    cursor.setPosition(int(from + same.before));
-    cursor.setPosition(int(from + present.text.size() - same.behind), QTextCursor::KeepAnchor);
-    const qsizetype fresh = text.text.size() - same.before - same.behind;
-    if (cursor.hasSelection() || fresh > 0) {
-        const CharFormat format = text.formatAt(same.before);
-        cursor.insertText(insertable(text.text.mid(same.before, fresh)), toTextFormat(format));
-    }
-    const RichText changed = richTextOf(document, from, text.text.size());
-    RunPainter(document, changed.characters, from).paint(text.characters);
-    repairParagraphs(document, from, text.text.size(), text.paragraphs);
-    cursor.endEditBlock();
 }
 
 void applyCharacterRuns(QTextDocument &document, const std::vector<CharRun> &runs, qsizetype from)
@@ -344,12 +311,6 @@ void applyCharacterRuns(QTextDocument &document, const std::vector<CharRun> &run
         length += std::max(run.length, qsizetype(0));
     }
     RunPainter(document, characterRunsOf(document, from, length), from).paint(runs);
-}
-
-void applyCharacterRuns(QTextDocument &document, const std::vector<CharRun> &runs,
-                        std::vector<CharRun> present, qsizetype from)
-{
-    RunPainter(document, std::move(present), from).paint(runs);
 }
 
 void setParagraphFormat(QTextDocument &document, const ParagraphFormat &format)

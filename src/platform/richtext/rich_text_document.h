@@ -27,6 +27,8 @@ bool isBlockBorder(QChar character);
 /// The document's characters, line ends as '\n'. Unlike the toolkit's own reading it keeps
 /// no-break spaces, which are letters of a file's code page like any other.
 QString plainTextOf(const QTextDocument &document);
+/// A stretch of them, clamped to the document.
+QString plainTextOf(const QTextDocument &document, qsizetype from, qsizetype length);
 
 /// The document's text and looks as a value, whole or a stretch of it.
 RichText richTextOf(const QTextDocument &document);
@@ -37,25 +39,32 @@ std::vector<CharRun> characterRunsOf(const QTextDocument &document);
 std::vector<CharRun> characterRunsOf(const QTextDocument &document, qsizetype from,
                                      qsizetype length);
 
+/// The paragraphs that a text has which starts at a position of the document; a line end within a
+/// paragraph makes one more.
+std::vector<ParagraphRun> paragraphRunsOf(const QTextDocument &document, qsizetype from,
+                                          QStringView text);
+
+/// The text with another character for each, except '\n', at which the toolkit would end a block.
+/// No text file holds such a character. The length stays the same, so that the runs fit.
+QString insertableText(const QString &text);
+
 /// Replaces everything in one edit block, without an entry in the toolkit's own undo, which is
 /// emptied; the document counts as not modified.
 void setRichText(QTextDocument &document, const RichText &text);
+/// The same without looks of characters.
+void setPlainText(QTextDocument &document, const QString &text,
+                  const std::vector<ParagraphRun> &paragraphs);
+/// Gives the paragraphs of a stretch their formats where they have others.
+void setParagraphRuns(QTextDocument &document, qsizetype from, QStringView text,
+                      const std::vector<ParagraphRun> &wanted);
 /// Replaces the cursor's selection with rich text; the cursor is after it then. A paragraph that
 /// had characters before or after the cursor keeps its format for the part that they are in.
 void insertRichText(QTextCursor &cursor, const RichText &text);
-/// Makes a stretch of the document read as another text, looks and paragraphs included, in one edit
-/// block that touches only what differs: richTextOf() of the new stretch gives the text, if that is
-/// one that came out of such a document.
-void replaceRichText(QTextDocument &document, qsizetype from, qsizetype length,
-                     const RichText &text);
 /// Gives the text the looks of character runs, from a position on, in one edit block; the text does
 /// not change, and characters after the last run keep their looks. Only characters that look
 /// otherwise are touched, and only those that the runs cover are read.
 void applyCharacterRuns(QTextDocument &document, const std::vector<CharRun> &runs,
                         qsizetype from = 0);
-/// The same for a caller who knows the looks from the position on: nothing is read.
-void applyCharacterRuns(QTextDocument &document, const std::vector<CharRun> &runs,
-                        std::vector<CharRun> present, qsizetype from);
 /// Gives all paragraphs one format; nothing is touched when they have it.
 void setParagraphFormat(QTextDocument &document, const ParagraphFormat &format);
 

@@ -113,40 +113,12 @@ ParagraphFormat paragraphFormatOf(const QTextBlock &block)
     return result;
 }
 
-/// Paragraphs of the stretch that text is; a soft line end within a block makes one more.
-std::vector<ParagraphRun> paragraphRuns(const QTextDocument &document, QStringView text, int from)
-{
-    std::vector<ParagraphRun> runs;
-    const qsizetype total = text.count(u'\n') + 1;
-    const QTextBlock last = document.findBlock(from + int(text.size()));
-    const QTextBlock first = document.findBlock(from);
-    const bool hasSoftEnds = last.blockNumber() - first.blockNumber() + 1 != total;
-    for (QTextBlock block = first; block.isValid(); block = block.next()) {
-        qsizetype count = 1;
-        if (hasSoftEnds) {
-            const qsizetype start = std::max(block.position() - from, 0);
-            const qsizetype end = block.position() + block.length() - 1 - from;
-            count += text.mid(start, end - start).left(text.size() - start).count(u'\n');
-        }
-        const ParagraphFormat format = paragraphFormatOf(block);
-        if (!runs.empty() && runs.back().format == format) {
-            runs.back().count += count;
-        } else {
-            runs.push_back({ count, format });
-        }
-        if (block == last) {
-            break;
-        }
-    }
-    return runs;
-}
-
 RichText stretchOf(const QTextDocument &document, QString text, qsizetype from)
 {
     RichText result;
     result.text = std::move(text);
     result.characters = characterRuns(document, from, from + result.text.size());
-    result.paragraphs = paragraphRuns(document, result.text, int(from));
+    result.paragraphs = paragraphRunsOf(document, from, result.text);
     return result;
 }
 
@@ -163,6 +135,49 @@ QString plainTextOf(const QTextDocument &document)
     return withLineEnds(document.toRawText());
 }
 
+QString plainTextOf(const QTextDocument &document, qsizetype from, qsizetype length)
+{
+    const Stretch stretch(document, from, length);
+    if (stretch.from == 0 && stretch.to == lengthOf(document)) {
+        return plainTextOf(document);
+    }
+    QTextCursor cursor(const_cast<QTextDocument *>(&document));
+    cursor.setPosition(int(stretch.from));
+    cursor.setPosition(int(stretch.to), QTextCursor::KeepAnchor);
+    return withLineEnds(cursor.selectedText());
+}
+
+std::vector<ParagraphRun> paragraphRunsOf(const QTextDocument &document, qsizetype from,
+                                          QStringView text)
+{
+    std::vector<ParagraphRun> runs;
+    const qsizetype total = text.count(u'\n') + 1;
+    const QTextBlock last = document.findBlock(int(from + text.size()));
+    const QTextBlock first = document.findBlock(int(from));
+    const bool hasSoftEnds = last.blockNumber() - first.blockNumber() + 1 != total;
+    int formatIndex = -1;
+    for (QTextBlock block = first; block.isValid(); block = block.next()) {
+        qsizetype count = 1;
+        if (hasSoftEnds) {
+            const qsizetype start = std::max(block.position() - from, qsizetype(0));
+            const qsizetype end = block.position() + block.length() - 1 - from;
+            count += text.mid(start, end - start).left(text.size() - start).count(u'\n');
+        }
+        if (runs.empty() || block.blockFormatIndex() != formatIndex) {
+            formatIndex = block.blockFormatIndex();
+            const ParagraphFormat format = paragraphFormatOf(block);
+            if (runs.empty() || runs.back().format != format) {
+                runs.push_back({ 0, format });
+            }
+        }
+        runs.back().count += count;
+        if (block == last) {
+            break;
+        }
+    }
+    return runs;
+}
+
 RichText richTextOf(const QTextDocument &document)
 {
     return stretchOf(document, plainTextOf(document), 0);
@@ -171,10 +186,7 @@ RichText richTextOf(const QTextDocument &document)
 RichText richTextOf(const QTextDocument &document, qsizetype from, qsizetype length)
 {
     const Stretch stretch(document, from, length);
-    QTextCursor cursor(const_cast<QTextDocument *>(&document));
-    cursor.setPosition(int(stretch.from));
-    cursor.setPosition(int(stretch.to), QTextCursor::KeepAnchor);
-    return stretchOf(document, withLineEnds(cursor.selectedText()), stretch.from);
+    return stretchOf(document, plainTextOf(document, from, length), stretch.from);
 }
 
 std::vector<CharRun> characterRunsOf(const QTextDocument &document)

@@ -62,10 +62,10 @@ SettingProblems GetMumPosition(Settings &settings, const SettingsFiles &files)
     return readSettings(settings, files,
                         { &ShellSettings::MumTopAtStartup, &ShellSettings::MumLeftAtStartup,
                           &ShellSettings::MumWidthAtStartup, &ShellSettings::MumHeightAtStartup,
-                          &ShellSettings::MumWindowstate, &EditorSettings::DefaultToDX8KeyTester,
+                          &ShellSettings::MumWindowstate, &SharedSettings::DefaultToDX8KeyTester,
                           &ShellSettings::TurnOffFontCheck,
                           &ToolchainSettings::SynchroniseModeOnStartup,
-                          &EditorSettings::ForeignLanguageKBInputFix });
+                          &DocumentSettings::ForeignLanguageKBInputFix });
 }
 
 WindowPlace mumPlace(const ShellSettings &settings)
@@ -105,7 +105,7 @@ Expected<void, FileError> SaveMumPosition(Settings &settings, const SettingsFile
 Expected<void, FileError> saveTesterOptions(Settings &settings, const SettingsFiles &files)
 {
     return saveSettings(settings, files,
-                        { &EditorSettings::DefaultToDX8KeyTester,
+                        { &SharedSettings::DefaultToDX8KeyTester,
                           &EditorSettings::OpenSingleFileOnly, &ToolchainSettings::RunKeyTest });
 }
 
@@ -117,20 +117,6 @@ Expected<void, FileError> SaveIndentStuff(Settings &settings, const SettingsFile
                           &EditorSettings::MacroSaveUpdateMacros,
                           &EditorSettings::MacroSaveIdentifyJF, &SharedSettings::MacroWithMouse,
                           &EditorSettings::MacroHighlightedInMacroFile });
-}
-
-SettingProblems GetResetAxes(Settings &settings, const SettingsFiles &files)
-{
-    return readSettings(settings, files,
-                        { &ToolchainSettings::ResetProfile, &ToolchainSettings::ResetCalibrate,
-                          &ToolchainSettings::UseResetProfile });
-}
-
-Expected<void, FileError> SaveResetProfiles(Settings &settings, const SettingsFiles &files)
-{
-    return saveSettings(settings, files,
-                        { &ToolchainSettings::ResetProfile, &ToolchainSettings::ResetCalibrate,
-                          &ToolchainSettings::UseResetProfile });
 }
 
 Expected<void, FileError> SaveForRestore(Settings &settings, const SettingsFiles &files)

@@ -55,10 +55,6 @@ Expected<void, FileError> SaveMumPosition(Settings &settings, const SettingsFile
 /// macro options and TileFiles.
 Expected<void, FileError> saveTesterOptions(Settings &settings, const SettingsFiles &files);
 Expected<void, FileError> SaveIndentStuff(Settings &settings, const SettingsFiles &files);
-/// The profile that resets the axes, its calibration and whether each download applies it: read
-/// and written by themselves, the global save leaves them alone.
-[[nodiscard]] SettingProblems GetResetAxes(Settings &settings, const SettingsFiles &files);
-Expected<void, FileError> SaveResetProfiles(Settings &settings, const SettingsFiles &files);
 /// Writes the files to open again at the next start. A file that does not exist, or whose name the
 /// store cannot hold, is emptied first, in the settings too.
 Expected<void, FileError> SaveForRestore(Settings &settings, const SettingsFiles &files);

@@ -125,10 +125,10 @@ TEST_F(AlignmentOperationsTest, RefreshingTheIndentKeepsColoursCaretAndState)
     moveLinesIn();
     joystick().shown().changeLooks(0, 3, [](CharFormat &format) { format.colour = blue; });
     editor->joystick().setState(Document::Saved);
-    const std::vector<CharRun> looks = characterRunsOf(*joystick().document());
+    const std::vector<CharRun> looks = joystick().shown().richText().characters;
     joystick().shown().select(5, 2);
     editor->action(u"mnuViewrefreshIndent")->trigger();
-    EXPECT_EQ(characterRunsOf(*joystick().document()), looks);
+    EXPECT_EQ(joystick().shown().richText().characters, looks);
     const RichText after = joystick().shown().richText();
     ASSERT_EQ(after.paragraphs.size(), 1U);
     EXPECT_EQ(after.paragraphs.front().format.leftIndentTwips, 20);

@@ -1,8 +1,9 @@
 // SPDX-FileCopyrightText: The Zeph authors
 // SPDX-License-Identifier: MIT
 
-#include "editor/files/foreign_keyboard.h"
+#include "documents/foreign_keyboard.h"
 
+#include "documents/document_settings.h"
 #include "editor/editor_settings.h"
 #include "tests/shell/shell_world.h"
 
@@ -23,7 +24,7 @@ struct KeyboardFix : test::ShellWorld {
     KeyboardFix()
     {
         keyboard.layout = u"0000040C"_s;
-        new ForeignKeyBSupport(keyboard, settings.of<EditorSettings>(), &window);
+        new ForeignKeyBSupport(keyboard, settings.of<DocumentSettings>(), &window);
         keyboard.layout = u"00000409"_s;
     }
     static void focus(QWidget &widget)
@@ -37,7 +38,7 @@ struct KeyboardFix : test::ShellWorld {
 
 TEST_F(KeyboardFix, PutsTheRememberedLayoutBackWhenATextBoxGetsTheFocus)
 {
-    settings.of<EditorSettings>().ForeignLanguageKBInputFix = true;
+    settings.of<DocumentSettings>().ForeignLanguageKBInputFix = true;
     focus(box);
     EXPECT_EQ(keyboard.loaded, QStringList{ u"0000040C"_s });
     focus(box);
@@ -52,7 +53,7 @@ TEST_F(KeyboardFix, DoesNothingWithTheSettingOff)
 
 TEST_F(KeyboardFix, LeavesOtherControlsAlone)
 {
-    settings.of<EditorSettings>().ForeignLanguageKBInputFix = true;
+    settings.of<DocumentSettings>().ForeignLanguageKBInputFix = true;
     focus(button);
     EXPECT_TRUE(keyboard.loaded.isEmpty());
 }

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The Zeph authors
 // SPDX-License-Identifier: MIT
 
+#include "documents/change.h"
 #include "editor/files/recovery.h"
 
 #include "editor/editor_settings.h"
@@ -41,6 +42,13 @@ protected:
     std::optional<RecoveredText> kept(const QString &name)
     {
         return readRecovery(folder.read(u"Recovery/"_s + name));
+    }
+    /// An edit of the joystick text, as a tool makes it.
+    void rewrite(int start, int length, const QString &text)
+    {
+        Change change(editor->joystick());
+        editor->joystick().replace(start, length, text);
+        change.commit();
     }
     /// What a run leaves that was killed.
     QString leave(DocumentKind kind, const QString &path, const QString &text, int number = 7)
@@ -83,7 +91,7 @@ TEST_F(RecoveryTest, UnsavedTextsAreOnTheDiskAndSavedOnesAreNot)
     EXPECT_EQ(kept(u"1/joystick.txt"_s),
               (RecoveredText{ DocumentKind::Joystick, path, clock.now(), u"\u03A9xBTN S1 a"_s }));
     EXPECT_FALSE(QFile::exists(parent() + u"/1/macro.txt"_s));
-    editor->joystick().replace(0, 1, u""_s);
+    rewrite(0, 1, u""_s);
     editor->saving().mnuFileSave_Click();
     EXPECT_FALSE(QFile::exists(parent() + u"/1/joystick.txt"_s));
 }
@@ -261,7 +269,7 @@ TEST_F(RecoveryTest, ATextThatCameBackIsNotAutosavedBeforeTheUserSavesIt)
     EXPECT_EQ(editor->joystick().state(), Document::Modified);
     editor->saving().mnuFileSave_Click();
     EXPECT_EQ(folder.read(u"Files/a.tmj"_s), "BTN S1 a lot more");
-    editor->joystick().replace(0, 3, u"Rem"_s);
+    rewrite(0, 3, u"Rem"_s);
     autoSave.AutoSaveFile();
     EXPECT_EQ(folder.read(u"Files/a.tmj"_s), "Rem S1 a lot more");
 }

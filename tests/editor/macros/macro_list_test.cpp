@@ -356,9 +356,9 @@ TEST_F(MacroListTest, AnInsertedNameHasThePlainColourOfItsDocument)
     openMacros();
     openJoystick("x");
     joystick()->shown().select(1, 0);
-    QTextCharFormat red;
-    red.setForeground(Qt::red);
-    joystick()->setCurrentCharFormat(red);
+    CharFormat red;
+    red.colour = 0x0000FF;
+    joystick()->shown().setTypingLook(red);
     doubleClick(u"Fire"_s);
     EXPECT_EQ(joystick()->shown().richText().formatAt(3).colour, 0x112233U);
 }

@@ -252,12 +252,7 @@ TEST_F(MacroOperationsTest, ARenameReplacesInBothTextsAndCountsEach)
 TEST_F(MacroOperationsTest, ARenamedWordKeepsItsColour)
 {
     open("BTN S1 Fire x\r\n", "Fire = SPC\r\n");
-    QTextCursor cursor(joystick()->document());
-    cursor.setPosition(7);
-    cursor.setPosition(11, QTextCursor::KeepAnchor);
-    QTextCharFormat green;
-    green.setForeground(QColor(0, 255, 0));
-    cursor.mergeCharFormat(green);
+    joystick()->shown().changeLooks(7, 4, [](CharFormat &look) { look.colour = 0x00FF00; });
     dialogs.answer(renamedTitle, BoxButton::Ok);
     operations().ChangeMacroName(u"Fire"_s, u"Go"_s);
     ASSERT_EQ(editor->joystickText(), u"BTN S1 Go x\n");

@@ -362,58 +362,45 @@ TEST_P(RichTextDocument, SpanRunsOverOrUpToASet)
     EXPECT_EQ(spanEnd(*doc, -4, u"x", false, true), 0);
 }
 
-TEST_P(RichTextDocument, AReplacedStretchReadsAsTheOtherTextDoes)
+TEST_P(RichTextDocument, AStretchOfTextIsThatOfTheWhole)
 {
     test::RichTextMaker maker(4711);
-    const auto doc = document();
-    const QString alphabet = u"ab\n\n\u00a0\t"_s;
-    for (int round = 0; round < 2000; ++round) {
-        const RichText old = maker.make(alphabet, 30);
-        setRichText(*doc, old);
-        const int from = maker.upTo(int(old.text.size()));
-        const int length = maker.upTo(int(old.text.size()) - from);
-        // Half of the new texts differ in little or in looks alone.
-        RichText fresh = maker.make(alphabet, 30);
-        if (maker.upTo(1) == 0) {
-            fresh = old.mid(from, length);
-            fresh.change(maker.upTo(10), maker.upTo(5),
-                         [](CharFormat &format) { format.colour = 0x123456; });
+    for (int round = 0; round < 300; ++round) {
+        const RichText text = maker.make(u"ab\n\u00a0\t"_s, 30);
+        const auto doc = document();
+        setRichText(*doc, text);
+        const int from = maker.upTo(int(text.text.size()));
+        const int length = maker.upTo(40);
+        ASSERT_EQ(plainTextOf(*doc, from, length), text.text.mid(from, length));
+    }
+    EXPECT_EQ(plainTextOf(*document(u"abc"_s), -4, 2), u"ab");
+}
+
+TEST_P(RichTextDocument, PlainTextHasItsParagraphsAndNoLooks)
+{
+    test::RichTextMaker maker(4712);
+    for (int round = 0; round < 300; ++round) {
+        const RichText text = maker.make(u"ab\n"_s, 30);
+        const auto doc = document();
+        setPlainText(*doc, text.text, text.paragraphs);
+        ASSERT_EQ(plainTextOf(*doc), text.text);
+        ASSERT_EQ(paragraphRunsOf(*doc, 0, text.text), text.paragraphs);
+        for (const QTextFormat &format : doc->allFormats()) {
+            ASSERT_TRUE(!format.isCharFormat() || format.properties().isEmpty());
         }
-        replaceRichText(*doc, from, length, fresh);
-        ASSERT_EQ(richTextOf(*doc, from, fresh.text.size()), fresh) << "round " << round;
-        ASSERT_EQ(plainTextOf(*doc),
-                  old.text.left(from) + fresh.text + old.text.mid(from + length));
-        // Whole characters before and behind keep their looks.
-        ASSERT_EQ(richTextOf(*doc).mid(0, from).characters, old.mid(0, from).characters);
-        ASSERT_EQ(richTextOf(*doc).mid(from + fresh.text.size(), 100).characters,
-                  old.mid(from + length, 100).characters);
+        const RichText other = maker.make(u"a\n"_s, 30);
+        if (other.paragraphCount() == text.paragraphCount()) {
+            setParagraphRuns(*doc, 0, text.text, other.paragraphs);
+            ASSERT_EQ(paragraphRunsOf(*doc, 0, text.text), other.paragraphs);
+        }
     }
 }
 
-TEST_P(RichTextDocument, ALineEndWithinAParagraphBecomesAWholeOneWhenReplaced)
+TEST_P(RichTextDocument, ALineEndWithinAParagraphCountsAsOneMore)
 {
     const auto doc = document();
     QTextCursor(doc.get()).insertText(u"ab\u2028cd\nef"_s);
-    const RichText wanted{ u"ab\ncd\neg"_s, { { 8, bold } }, { { 1, centred }, { 2, indented } } };
-    replaceRichText(*doc, 0, 8, wanted);
-    EXPECT_EQ(richTextOf(*doc), wanted);
-    EXPECT_EQ(doc->blockCount(), 3);
-}
-
-TEST_P(RichTextDocument, ReplacingTouchesOnlyWhatDiffers)
-{
-    const auto doc = document(u"one\ntwo\nthree"_s);
-    // Without a layout the toolkit tells nobody of changes.
-    ASSERT_TRUE(doc->documentLayout());
-    const QTextBlock last = doc->lastBlock();
-    RichText fresh = richTextOf(*doc, 0, 8);
-    fresh.text[4] = u'T';
-    QSignalSpy changes(doc.get(), &QTextDocument::contentsChange);
-    replaceRichText(*doc, 0, 8, fresh);
-    ASSERT_EQ(changes.size(), 1);
-    EXPECT_EQ(changes[0][0].toInt(), 4);
-    EXPECT_LE(changes[0][2].toInt(), 2);
-    EXPECT_EQ(last.text(), u"three");
-    replaceRichText(*doc, 0, 8, fresh);
-    EXPECT_EQ(changes.size(), 1);
+    EXPECT_EQ(paragraphRunsOf(*doc, 0, u"ab\ncd\nef"), (std::vector<ParagraphRun>{ { 3, {} } }));
+    EXPECT_EQ(paragraphRunsOf(*doc, 4, u"d\nef"), (std::vector<ParagraphRun>{ { 2, {} } }));
+    EXPECT_EQ(insertableText(u"ab\u2028cd\r\nef"_s), u"ab\uFFFDcd\uFFFD\nef");
 }

@@ -9,6 +9,7 @@
 #include "settings/shared_settings.h"
 #include "shell/settings/shell_settings.h"
 #include "tests/settings/store.h"
+#include "toolchain/modes/profiles.h"
 #include "toolchain/toolchain_settings.h"
 
 #include <gtest/gtest.h>
@@ -100,10 +101,10 @@ TEST(GetMumPosition, ReadsThePlaceTheTesterAndThreeUnsupportedKeysOnly)
     EXPECT_TRUE(GetMumPosition(settings, store.files).isEmpty());
     EXPECT_EQ(mumPlace(settings.of<ShellSettings>()),
               (WindowPlace{ 300, 150, 9000.5, 6000, WindowState::Normal }));
-    EXPECT_EQ(settings.of<EditorSettings>().DefaultToDX8KeyTester, 1);
+    EXPECT_EQ(settings.of<SharedSettings>().DefaultToDX8KeyTester, 1);
     EXPECT_EQ(settings.of<ShellSettings>().TurnOffFontCheck, 1);
     EXPECT_EQ(settings.of<ToolchainSettings>().SynchroniseModeOnStartup, 1);
-    EXPECT_EQ(settings.of<EditorSettings>().ForeignLanguageKBInputFix, 1);
+    EXPECT_EQ(settings.of<DocumentSettings>().ForeignLanguageKBInputFix, 1);
     EXPECT_EQ(settings.of<DocumentSettings>().UndoMax, 20);
     EXPECT_EQ(settings.of<ShellSettings>().UseHLPnotCHM, 0);
 }

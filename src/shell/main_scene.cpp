@@ -1,0 +1,111 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#include "shell/main_scene.h"
+
+#include "documents/editor_view.h"
+#include "editor/editor.h"
+#include "editor/files/file_opening.h"
+#include "editor/files/file_saving.h"
+#include "platform/handlers.h"
+#include "platform/tool_windows.h"
+#include "shell/help_menu.h"
+#include "shell/main_status_bar.h"
+#include "shell/mum.h"
+#include "toolchain/compile/compile.h"
+#include "toolchain/compile/compilerhelp.h"
+#include "toolchain/cougar_tools.h"
+
+namespace zeph {
+
+namespace {
+
+/// The help topic on compiler errors.
+constexpr int errorsTopic = 410;
+
+} // namespace
+
+MainScene::MainScene(const Context &context, const Parts &parts)
+    : QObject(&parts.editor), m_context(context), m_parts(parts)
+{
+    CougarTools &tools = parts.tools;
+    tools.attach(parts.editor.actions(), parts.editor.documents(), *this, *this);
+    connectStatusBar();
+    connect(&parts.mum, &Mum::compileWanted, &tools,
+            guarded(context.dialogs, [&tools] { tools.compile().mnuAppsCompile_Click(); }));
+    connect(&parts.editor, &Editor::emergencyOff, &tools,
+            guarded(context.dialogs, [&tools] { tools.modes().emergencyOff(); }));
+}
+
+void MainScene::connectStatusBar()
+{
+    CougarModes &modes = m_parts.tools.modes();
+    MainStatusBar &bar = m_parts.mum.bar();
+    bar.setModeTooltip(modes.tooltip());
+    connect(&modes, &CougarModes::tooltipChanged, &bar, &MainStatusBar::setModeTooltip);
+    connect(&bar, &MainStatusBar::modeTooltipWanted, &modes,
+            guarded(m_context.dialogs, [&modes] { modes.UpdateStatusTooltip(); }));
+    connect(&bar, &MainStatusBar::modePanelClicked, &modes,
+            guarded(m_context.dialogs,
+                    [&modes](Qt::MouseButton button) { modes.panelClicked(button); }));
+}
+
+void MainScene::saveSelected()
+{
+    m_parts.editor.saving().mnuFileSave_Click();
+}
+
+void MainScene::minimiseToolWindows()
+{
+    ToolWindows &windows = m_parts.mum.toolWindows();
+    windows.unload<CompilerHelp>();
+    windows.minimiseForCompiler();
+}
+
+void MainScene::showCompilerHelp(const CompilerError &error)
+{
+    ToolWindows &windows = m_parts.mum.toolWindows();
+    auto *help =
+        windows.load<CompilerHelp>([this](QWidget *owner) { return makeCompilerHelp(owner); });
+    help->ShowTheError(error);
+    ToolWindows::raise(*help);
+}
+
+CompilerHelp *MainScene::makeCompilerHelp(QWidget *owner)
+{
+    auto *help = new CompilerHelp(m_context.paths.infoFolder() + u"Error codes.rtf"_s, owner);
+    connect(help, &CompilerHelp::highlightRequested, this,
+            guarded(m_context.dialogs,
+                    [this](int line, const QString &text) { HighlightErrorLine(line, text); }));
+    connect(help, &CompilerHelp::helpRequested, this,
+            guarded(m_context.dialogs, [this] { m_parts.help.showTopic(errorsTopic); }));
+    return help;
+}
+
+void MainScene::HighlightErrorLine(int line, const QString &errorText)
+{
+    m_parts.editor.HighlightErrorLine(line, errorText);
+}
+
+void MainScene::ResetFocusToEditor()
+{
+    m_parts.editor.ResetFocusToEditor();
+}
+
+void MainScene::OpenPreviouslySavedFiles(const QString &path)
+{
+    m_parts.editor.opening().OpenPreviouslySavedFiles(path);
+}
+
+void MainScene::bringMainWindowBack()
+{
+    ToolWindows::raise(m_parts.mum);
+    ResetFocusToEditor();
+}
+
+void MainScene::minimiseMainWindow()
+{
+    m_parts.mum.showMinimized();
+}
+
+} // namespace zeph

@@ -1,0 +1,109 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#include "toolchain/compile/after_download.h"
+
+#include "platform/core/file_io.h"
+#include "platform/dialogs.h"
+#include "platform/handlers.h"
+#include "settings/settings.h"
+#include "text/document_text.h"
+#include "text/text_lines.h"
+#include "toolchain/toolchain_settings.h"
+
+#include <QCoreApplication>
+
+namespace zeph {
+
+namespace {
+
+/// The folder in which a command starts: the root of the drive that its path begins with.
+QString rootOfCommand(const QString &command)
+{
+    return rootOf(command.startsWith(u'"') ? command.sliced(1) : command);
+}
+
+constexpr QStringView head = u"USE ZEPH RUN_APP"_w;
+/// The head, a blank and three characters: a shorter line names no application.
+constexpr qsizetype shortestLine = 20;
+constexpr qsizetype commandAt = head.size() + 1;
+
+WindowStyle styleOf(QChar digit)
+{
+    return digit >= u'0' && digit <= u'4' ? WindowStyle(digit.digitValue())
+                                          : WindowStyle::MinimisedNoFocus;
+}
+
+std::optional<RunApp> runAppOf(QStringView raw)
+{
+    if (raw.size() < shortestLine || !raw.contains(u"USE"_w, Qt::CaseInsensitive)) {
+        return std::nullopt;
+    }
+    const QString line = normalisedLine(raw);
+    if (line.size() < shortestLine || !line.startsWith(head, Qt::CaseInsensitive)) {
+        return std::nullopt;
+    }
+    const QStringView command = QStringView(line).sliced(commandAt);
+    RunApp app{ .command = withoutBlanksAtEnd(beforeRem(command)).toString() };
+    const qsizetype word = app.command.indexOf(u"WINDOW_STYLE"_w, 0, Qt::CaseInsensitive);
+    if (word >= 0) {
+        app.style = styleOf(app.command.back());
+        app.command = withoutBlanksAtEnd(QStringView(app.command).first(word)).toString();
+    }
+    return app;
+}
+
+} // namespace
+
+QList<RunApp> runAppLines(QStringView joystickText)
+{
+    QList<RunApp> apps;
+    for (const QStringView line : joystickText.split(u'\n')) {
+        if (const auto app = runAppOf(line)) {
+            apps.append(*app);
+        }
+    }
+    return apps;
+}
+
+bool AfterDownload::started(const Launch &launch)
+{
+    const auto result = m_context.launcher.start(launch);
+    if (!result) {
+        tellEscaped(m_context.dialogs, result.error());
+    }
+    return result.has_value();
+}
+
+void AfterDownload::TurnNumLockOn()
+{
+    const QString helper = m_context.paths.inApp(u"ZephNUMLon.exe");
+    if (!fileExists(helper)) {
+        m_context.dialogs.tell(u"Where is it?"_s,
+                               u"I couldn't find ZephNUMLon.exe - it should be in the same "
+                               u"directory as Zeph.exe. What have you done with it? "_s,
+                               BoxIcon::Exclamation);
+        return;
+    }
+    started({ helper, {}, m_context.paths.appFolder, WindowStyle::NormalFocus });
+}
+
+void AfterDownload::GetAppsToRun(const QString &joystickText)
+{
+    if (m_context.settings.of<ToolchainSettings>().RunAppsWithDownload || joystickText.isEmpty()) {
+        return;
+    }
+    // Nothing reads this copy. A full disk must not keep anybody from flying, so its failure is
+    // not told.
+    (void)writeFileAtomically(m_context.paths.tempFolder() + u"Original.txt"_s,
+                              documentBytes(joystickText));
+    for (const RunApp &app : runAppLines(joystickText)) {
+        if (!started(launchFromCommand(app.command, rootOfCommand(app.command), app.style))) {
+            return;
+        }
+        // Lets the windows be drawn; what the user does meanwhile has to wait for the last start.
+        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    }
+}
+
+} // namespace zeph

@@ -1,0 +1,31 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "platform/context.h"
+#include "toolchain/tool_parts.h"
+
+namespace zeph {
+
+/// Checks the joystick file on the disk with the compiler, without sending it to the Cougar.
+class Compile
+{
+public:
+    Compile(const Context &context, const ToolParts &parts);
+
+    /// The whole of a compile: saves the file, runs the compiler, waits for it and tells its
+    /// verdict.
+    void mnuAppsCompile_Click();
+
+private:
+    bool canBegin();
+    bool saveJoystick();
+    bool macroFileMayDiffer();
+    void tellOutcome(const QString &path);
+
+    Context m_context;
+    ToolParts m_parts;
+};
+
+} // namespace zeph

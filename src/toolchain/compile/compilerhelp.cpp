@@ -1,0 +1,73 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#include "toolchain/compile/compilerhelp.h"
+
+#include "language/error_codes.h"
+#include "toolchain/compile/error_codes.h"
+#include "ui_compilerhelp.h"
+
+#include <QSignalBlocker>
+#include <QTextCursor>
+
+namespace zeph {
+
+CompilerHelp::CompilerHelp(const QString &errorCodesPath, QWidget *parent)
+    : QDialog(parent), m_ui(std::make_unique<Ui::CompilerHelp>())
+{
+    m_ui->setupUi(this);
+    connect(m_ui->FontSize, &QSpinBox::valueChanged, this, &CompilerHelp::setFontSize);
+    connect(m_ui->CMD_ShowLine, &QPushButton::clicked, this,
+            [this] { Q_EMIT highlightRequested(m_error.line, m_error.text); });
+    connect(m_ui->CMD_Help, &QPushButton::clicked, this, &CompilerHelp::helpRequested);
+    connect(m_ui->CMD_Close, &QPushButton::clicked, this, &QWidget::close);
+    load(errorCodesPath);
+}
+
+CompilerHelp::~CompilerHelp() = default;
+
+void CompilerHelp::load(const QString &path)
+{
+    m_ui->RichTextCodes->clear();
+    const auto codes = readErrorCodes(path);
+    m_ui->RichTextCodes->setRichText(
+        codes ? *codes
+              : RichText::plain(u"The explanations could not be read.\n\n"_s + codes.error()));
+    const double size = codes ? codes->formatAt(0).pointSize : 0;
+    const QSignalBlocker quiet(m_ui->FontSize);
+    m_ui->FontSize->setValue(qRound(size > 0 ? size : m_ui->RichTextCodes->font().pointSizeF()));
+}
+
+void CompilerHelp::setFontSize(int points)
+{
+    QTextCursor all(m_ui->RichTextCodes->document());
+    all.select(QTextCursor::Document);
+    QTextCharFormat size;
+    size.setFontPointSize(points);
+    all.mergeCharFormat(size);
+    // The new size of the lines above the entry has moved it.
+    m_ui->RichTextCodes->scrollTo(m_ui->RichTextCodes->selStart());
+}
+
+void CompilerHelp::ShowTheError(const CompilerError &error)
+{
+    m_error = error;
+    const bool inMacroFile = language::documentOfError(error.text) == DocumentKind::Macro;
+    m_ui->LabelFile->setText(u"File: "_s + (inMacroFile ? error.macroName : error.joystickName));
+    m_ui->LabelLine->setText(u"Line: "_s + QString::number(error.line));
+    m_ui->LabelError->setText(u"Error: "_s + error.text);
+    m_ui->CMD_ShowLine->setEnabled(error.line != 0);
+
+    auto *codes = m_ui->RichTextCodes;
+    const auto entry = findErrorEntry(codes->toPlainText(), error.text);
+    if (!entry) {
+        codes->select(0, 0);
+        codes->scrollTo(0);
+        return;
+    }
+    codes->select(int(entry->entryStart), int(entry->entryEnd - entry->entryStart));
+    codes->scrollTo(int(entry->entryStart));
+    codes->select(int(entry->entryStart), int(entry->headingEnd - entry->entryStart));
+}
+
+} // namespace zeph

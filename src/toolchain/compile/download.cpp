@@ -1,0 +1,205 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#include "toolchain/compile/download.h"
+
+#include "documents/documents.h"
+#include "menus/menu_actions.h"
+#include "platform/dialogs.h"
+#include "platform/status_line.h"
+#include "settings/settings.h"
+#include "settings/shared_settings.h"
+#include "toolchain/compile/after_download.h"
+#include "toolchain/compile/verdict.h"
+#include "toolchain/default_options.h"
+#include "toolchain/document_saver.h"
+#include "toolchain/handshake.h"
+#include "toolchain/modes/cougar_modes.h"
+#include "toolchain/modes/profiles.h"
+#include "toolchain/tool_commands.h"
+#include "toolchain/tool_scene.h"
+#include "toolchain/toolchain_settings.h"
+
+#include <utility>
+
+namespace zeph {
+
+/// Keeps the joystick text read-only until it is released, at the latest when it goes out of scope:
+/// however a download ends, the pilot can type again afterwards.
+class Download::TextLock
+{
+public:
+    explicit TextLock(Download &download) : m_download(&download)
+    {
+        if (download.m_locks++ == 0) {
+            download.m_parts.documents.joystick().setLocked(true);
+        }
+    }
+    ~TextLock() { release(); }
+    TextLock(const TextLock &) = delete;
+    TextLock &operator=(const TextLock &) = delete;
+
+    void release()
+    {
+        Download *download = std::exchange(m_download, nullptr);
+        if (download && --download->m_locks == 0) {
+            download->m_parts.documents.joystick().setLocked(false);
+        }
+    }
+    /// The program ends: there is no text to release any more.
+    void forget() { m_download = nullptr; }
+
+private:
+    Download *m_download;
+};
+
+Download::Download(const Context &context, const ToolParts &parts)
+    : m_context(context), m_parts(parts)
+{
+}
+
+void Download::DownloadTMJ()
+{
+    m_parts.documents.select(DocumentKind::Joystick);
+    if (!canBegin() || !joystickFileMayGo() || !macroFileMayDiffer()) {
+        return;
+    }
+    const bool resetsAxes = m_context.settings.of<ToolchainSettings>().UseResetProfile;
+    if (resetsAxes && !m_parts.profiles.ApplyDefaultProfile()) {
+        return;
+    }
+    send();
+}
+
+bool Download::canBegin()
+{
+    if (m_parts.documents.joystick().length() > 0) {
+        return true;
+    }
+    m_context.dialogs.tell(
+        u"Nothing to transfer ..."_s,
+        u"The Joystick file is empty, so there's not much point in me sending that off to your "
+        u"joystick. Load up a joystick file, or create one, or just put your feet up and watch "
+        u"TV."_s);
+    return false;
+}
+
+/// Saves a changed file. When it could not be saved, the user may still send the old one.
+bool Download::joystickFileMayGo()
+{
+    const Document &joystick = m_parts.documents.joystick();
+    if (!joystick.isModified()) {
+        return true;
+    }
+    m_parts.saver.saveSelected();
+    return !joystick.isModified()
+        || m_context.dialogs.ask(
+            u"Hang on a minute ..."_s,
+            u"The joystick file isn't saved, so you won't be sending the currently edited file to "
+            u"your Thrustmaster hardware. Do you want to continue anyway?"_s);
+}
+
+bool Download::macroFileMayDiffer()
+{
+    const Document &macro = m_parts.documents.macro();
+    if (!macro.isModified() || macro.length() == 0) {
+        return true;
+    }
+    return m_context.dialogs.ask(
+        u"Hang on a minute ..."_s,
+        u"The macro file isn't saved, so when I download the joystick file, there's a danger that "
+        u"the download might fail or not give the correct response. This will be because the "
+        u"compiler is using the macros from the saved file, not the one currently open. Do you "
+        u"want to continue anyway?"_s);
+}
+
+void Download::send()
+{
+    const bool enables = m_context.settings.of<DefaultOptions>().DownloadMode;
+    // The user may open another file during the wait: the verdict is about this one.
+    const QString path = m_parts.documents.joystick().path();
+    m_context.status.setText(
+        u" Waiting for compiler to download your file. Please be patient ...."_s);
+    m_parts.handshake.setStatusCaption(u"Downloading "_s + m_parts.documents.joystick().caption());
+    TextLock lock(*this);
+    const ExchangeEnd end = m_parts.handshake.runCompiler(compilerLaunch(
+        m_context.paths, enables ? CompilerCommand::DownloadAndEnable : CompilerCommand::Download,
+        path));
+    if (end == ExchangeEnd::Abandoned) {
+        lock.forget();
+        return;
+    }
+    const bool givenUp = end != ExchangeEnd::Verdict;
+    if (end != ExchangeEnd::NotStarted) {
+        m_parts.handshake.closeStatusWindow();
+        m_parts.modes.showIfDetecting();
+    }
+    if (end == ExchangeEnd::GivenUp) {
+        m_context.dialogs.box(compilerTimeOutBox(
+            CompilerTask::Download, m_context.settings.of<SharedSettings>().PilotCallsign));
+    }
+    m_context.status.setText(panelAfterCompilerWait(givenUp));
+    if (end != ExchangeEnd::NotStarted) {
+        tellOutcome(path, lock);
+    }
+}
+
+void Download::tellOutcome(const QString &path, TextLock &lock)
+{
+    const CompilerVerdict verdict = HotasIni(m_context.paths.hotasIni()).readCompiler();
+    const VerdictTelling telling =
+        tellVerdict(verdict, CompilerTask::Download, path,
+                    m_context.settings.of<ToolchainSettings>().HOTASStatusBarErrors);
+    if (!telling.failed && m_context.settings.of<ToolchainSettings>().NumlockDownloadMode) {
+        m_parts.afterDownload.TurnNumLockOn();
+    }
+    if (!telling.panel.isEmpty()) {
+        m_context.status.setText(telling.panel);
+    }
+    if (telling.box) {
+        m_context.dialogs.box(*telling.box);
+    }
+    if (telling.failed) {
+        fail(telling, verdict, lock);
+    } else {
+        succeed(lock);
+    }
+}
+
+void Download::succeed(TextLock &lock)
+{
+    m_parts.afterDownload.GetAppsToRun(m_parts.documents.joystick().text());
+    // In Windows mode the Cougar sends no keys to test.
+    if (m_context.settings.of<ToolchainSettings>().RunKeyTest
+        && m_context.settings.of<DefaultOptions>().DownloadMode) {
+        lock.release();
+        openKeyTester();
+    }
+    m_parts.scene.ResetFocusToEditor();
+}
+
+/// Opens the Key Tester, or the tester that the user prefers.
+void Download::openKeyTester()
+{
+    m_parts.actions.trigger(m_context.settings.of<SharedSettings>().DefaultToDX8KeyTester
+                                ? u"mnuAppsDX8_0"
+                                : u"mnuAppsKeyTester");
+}
+
+void Download::fail(const VerdictTelling &telling, const CompilerVerdict &verdict, TextLock &lock)
+{
+    if (telling.showHelp) {
+        m_parts.scene.showCompilerHelp(errorOf(verdict, m_parts.documents.joystick().caption(),
+                                               m_parts.documents.macro().caption()));
+    }
+    lock.release();
+    if (telling.highlightLine != 0) {
+        m_parts.scene.HighlightErrorLine(telling.highlightLine, verdict.ErrorCode);
+    }
+    if (verdict.Status.isEmpty()) {
+        m_parts.documents.select(DocumentKind::Joystick);
+        m_parts.scene.ResetFocusToEditor();
+    }
+}
+
+} // namespace zeph
