@@ -3,6 +3,8 @@
 
 #include "documents/text_control.h"
 
+#include "documents/text_accessible.h"
+
 #include "documents/coloured_text.h"
 #include "documents/line_margin.h"
 #include "documents/pasted_text.h"

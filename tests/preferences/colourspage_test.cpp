@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The Zeph authors
 // SPDX-License-Identifier: MIT
 
+#include "platform/colours.h"
 #include "preferences/colourspage.h"
 
 #include "documents/text_control.h"
@@ -69,8 +70,8 @@ public:
     {
         QTextCursor cursor = control.document()->find(piece, 0, QTextDocument::FindCaseSensitively);
         EXPECT_FALSE(cursor.isNull()) << piece.toStdString();
-        cursor.setPosition(cursor.selectionStart() + 1);
-        return cursor.charFormat().foreground().color();
+        return toColor(
+            control.shown().richText(cursor.selectionStart(), 1).formatAt(0).colour.value_or(0));
     }
     /// The colour in the middle of a category's swatch.
     QColor swatch(int row) const
@@ -252,10 +253,10 @@ TEST_F(ColoursPageTest, FontSizeAndBoldAreSeenAtOnceAndKept)
     child<QSpinBox>(u"TextFontSize"_s)->setValue(13);
     child<QCheckBox>(u"TextFontBold"_s)->setChecked(true);
     for (const QString &each : { u"SampleJoystick"_s, u"SampleMacro"_s }) {
-        const QFont font = QTextCursor(sample(each).document()).charFormat().font();
-        EXPECT_EQ(font.family(), name);
-        EXPECT_EQ(font.pointSizeF(), 13);
-        EXPECT_TRUE(font.bold());
+        const CharFormat look = sample(each).shown().richText(0, 1).formatAt(0);
+        EXPECT_EQ(look.family, name);
+        EXPECT_EQ(look.pointSize, 13);
+        EXPECT_TRUE(look.bold);
     }
     page->collect();
     EXPECT_EQ(settings.of<ColourSettings>().TextFontName, name);
