@@ -8,8 +8,8 @@
 #include "bench/editor_world.h"
 #include "platform/fakes/fake_joystick.h"
 #include "toolchain/handshake.h"
+#include "toolchain/hotas_ini.h"
 #include "toolchain/modes/cougar_modes.h"
-#include "toolchain/tool_commands.h"
 #include "toolchain/toolchain_settings.h"
 
 #include <benchmark/benchmark.h>

@@ -5,7 +5,7 @@
 // chooses how far statements are moved in.
 
 #include "text/alignment.h"
-#include "text/block_comments.h"
+#include "text/text_lines.h"
 
 #include <QStringList>
 

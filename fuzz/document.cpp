@@ -3,7 +3,6 @@
 
 // What a document's bytes go through when a file is opened and saved.
 
-#include "text/document_text.h"
 #include "text/insert_blocks.h"
 #include "text/text_lines.h"
 #include "text/use_statements.h"

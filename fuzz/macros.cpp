@@ -3,9 +3,9 @@
 
 // A macro file and, behind the first line that holds "====", the joystick file that uses it.
 
-#include "text/document_text.h"
 #include "text/macro_search.h"
 #include "text/macro_table.h"
+#include "text/text_lines.h"
 
 #include <cstdlib>
 

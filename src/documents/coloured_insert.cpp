@@ -3,11 +3,10 @@
 
 #include "documents/coloured_insert.h"
 
-#include "documents/change.h"
-#include "documents/document_look.h"
+#include "documents/document.h"
 #include "documents/documents.h"
+#include "documents/editor_texts.h"
 #include "documents/editor_view.h"
-#include "documents/statement.h"
 #include "platform/richtext/rich_text_document.h"
 #include "platform/status_line.h"
 #include "settings/colour_settings.h"

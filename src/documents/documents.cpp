@@ -3,12 +3,11 @@
 
 #include "documents/documents.h"
 
-#include "documents/change.h"
-#include "documents/document_look.h"
+#include "documents/document.h"
 #include "documents/document_settings.h"
 #include "documents/editor_texts.h"
-#include "documents/statement.h"
 #include "platform/dialogs.h"
+#include "platform/richtext/rich_text_box.h"
 #include "settings/colour_settings.h"
 #include "settings/settings.h"
 
@@ -94,6 +93,55 @@ void Documents::renameFresh(DocumentKind kind)
 CharFormat Documents::plainFormat(DocumentKind kind) const
 {
     return zeph::plainFormat(m_context.settings.of<ColourSettings>(), kind);
+}
+
+QString Statement::text() const
+{
+    QString all;
+    for (const Piece &piece : pieces) {
+        all += piece.text;
+    }
+    return all;
+}
+
+RichText paintedAsTyped(const QString &text, const ColourScheme &scheme, const CharFormat &plain)
+{
+    RichText painted = RichText::plain(text);
+    painted.characters = characterRuns(paint(text, typingPasses(), scheme), plain);
+    return painted;
+}
+
+RichText richTextOf(const Statement &statement, const ColourScheme &scheme, const CharFormat &plain)
+{
+    RichText all;
+    for (const Statement::Piece &piece : statement.pieces) {
+        const QString text = withLineEnds(piece.text);
+        if (!piece.colour) {
+            all.append(paintedAsTyped(text, scheme, plain));
+            continue;
+        }
+        CharFormat format = plain;
+        format.colour = piece.colour;
+        all.append(RichText::plain(text, format));
+    }
+    return all;
+}
+
+void colourBox(RichTextBox &box, const ColourScheme &scheme, const CharFormat &plain)
+{
+    RichText text = box.richText();
+    text.characters = paintedAsTyped(text.text, scheme, plain).characters;
+    const int start = box.selStart();
+    const int length = box.selLength();
+    box.setRichText(text);
+    box.select(start, length);
+}
+
+QString withLineEnds(QString text)
+{
+    text.replace(u"\r\n"_s, u"\n"_s);
+    text.replace(u'\r', u'\n');
+    return text;
 }
 
 } // namespace zeph

@@ -3,6 +3,8 @@
 
 #include "documents/editor_texts.h"
 
+#include "settings/colour_settings.h"
+
 namespace zeph {
 
 Box saveQuestion(const Document &document, const QString &why)
@@ -66,6 +68,35 @@ QString savedTooltip(const Document &document)
     default:
         return document.name() + u" has been modified and isn't saved"_s;
     }
+}
+
+CharFormat plainFormat(const ColourSettings &settings, DocumentKind kind)
+{
+    CharFormat format;
+    format.family = settings.TextFontName;
+    format.pointSize = settings.TextFontSize;
+    format.bold = settings.TextFontBold;
+    format.colour = kind == DocumentKind::Joystick ? settings.JoystickTextDefaultColour
+                                                   : settings.MacroTextDefaultColour;
+    return format;
+}
+
+void takeFont(CharFormat &format, const CharFormat &font)
+{
+    format.family = font.family;
+    format.pointSize = font.pointSize;
+    format.bold = font.bold;
+}
+
+ColorRef documentBackground(const ColourSettings &settings, DocumentKind kind)
+{
+    return kind == DocumentKind::Joystick ? settings.BackgroundColour
+                                          : settings.MacroBackgroundColour;
+}
+
+ColourScheme colourScheme(const ColourSettings &settings, DocumentKind kind)
+{
+    return kind == DocumentKind::Joystick ? settings.joystickScheme() : settings.macroScheme();
 }
 
 } // namespace zeph

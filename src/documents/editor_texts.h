@@ -6,6 +6,9 @@
 // The Editor's own words that more than one place says.
 
 #include "documents/document.h"
+#include "language/file_kinds.h"
+#include "platform/core/colour_scheme.h"
+#include "platform/core/rich_text.h"
 #include "platform/dialogs.h"
 
 namespace zeph {
@@ -28,5 +31,18 @@ QString tabStatus(const QString &current, const QString &caption, bool isProtect
 
 /// Tooltip of the saved state's picture.
 QString savedTooltip(const Document &document);
+
+// How the settings want a document to look.
+
+struct ColourSettings;
+
+/// Font and colour of a document's plain text.
+CharFormat plainFormat(const ColourSettings &settings, DocumentKind kind);
+/// Gives a format the font of another: family, size and weight.
+void takeFont(CharFormat &format, const CharFormat &font);
+/// Background of a document's control.
+ColorRef documentBackground(const ColourSettings &settings, DocumentKind kind);
+/// The painter's colours for one of the documents.
+ColourScheme colourScheme(const ColourSettings &settings, DocumentKind kind);
 
 } // namespace zeph

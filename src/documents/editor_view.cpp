@@ -3,7 +3,6 @@
 
 #include "documents/editor_view.h"
 
-#include "documents/document_look.h"
 #include "documents/document_settings.h"
 #include "documents/editor_texts.h"
 #include "documents/text_control.h"

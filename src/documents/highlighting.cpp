@@ -5,7 +5,6 @@
 
 #include "documents/coloured_copies.h"
 #include "documents/coloured_insert.h"
-#include "documents/document_look.h"
 #include "documents/editor_texts.h"
 #include "documents/editor_view.h"
 #include "platform/status_line.h"

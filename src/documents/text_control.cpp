@@ -7,7 +7,6 @@
 
 #include "documents/coloured_text.h"
 #include "documents/line_margin.h"
-#include "documents/pasted_text.h"
 #include "platform/colours.h"
 #include "platform/richtext/rich_text_document.h"
 #include "platform/richtext/rich_text_mime.h"

@@ -4,8 +4,10 @@
 #include "documents/text_looks.h"
 
 #include "documents/coloured_insert.h"
-#include "documents/document_look.h"
+#include "documents/document_settings.h"
+#include "documents/editor_texts.h"
 #include "documents/editor_view.h"
+#include "documents/highlighting.h"
 #include "documents/styleeditor.h"
 #include "menus/menu_actions.h"
 #include "platform/dialogs.h"
@@ -15,6 +17,7 @@
 
 #include <QAction>
 
+#include <QKeyEvent>
 #include <algorithm>
 
 namespace zeph {
@@ -135,6 +138,42 @@ void TextLooks::DoTheFonts()
         each.changeLooks(0, each.length(),
                          [&each](CharFormat &format) { takeFont(format, each.plain()); });
     });
+}
+
+TypingColour::TypingColour(EditorView &view, Highlighting &highlighting,
+                           const DocumentSettings &settings)
+    : m_documents(view.documents()), m_highlighting(highlighting), m_settings(settings)
+{
+    view.watch(*this);
+}
+
+bool TypingColour::eventFilter(QObject *, QEvent *event)
+{
+    if (m_settings.ColourWithTyping && endsLine(*event)) {
+        const bool isProtected =
+            m_documents.isProtected() && m_documents.selected().kind() == DocumentKind::Macro;
+        if (!isProtected) {
+            m_highlighting.BlockColour();
+        }
+    }
+    return false;
+}
+
+bool TypingColour::endsLine(const QEvent &event) const
+{
+    const auto keyOf = [&event] {
+        return static_cast<const QKeyEvent &>(event).key();
+    };
+    switch (event.type()) {
+    case QEvent::KeyPress:
+        return keyOf() == Qt::Key_Space || keyOf() == Qt::Key_Return || keyOf() == Qt::Key_Enter;
+    case QEvent::KeyRelease:
+        return keyOf() == Qt::Key_Backspace || keyOf() == Qt::Key_Right;
+    case QEvent::MouseButtonRelease:
+        return m_documents.selected().selLength() > 0;
+    default:
+        return false;
+    }
 }
 
 } // namespace zeph

@@ -8,6 +8,7 @@
 #include "platform/core/profile_file.h"
 
 #include <functional>
+#include <span>
 
 namespace zeph {
 
@@ -53,5 +54,19 @@ std::optional<Favourite> autoloadFavourite(const Favourites &favourites);
 /// opened, which the given function tells of each.
 bool openFavourite(const Favourite &favourite, Dialogs &dialogs,
                    const std::function<bool(const QString &path)> &open);
+
+// The flight simulators whose files Zeph knows by name.
+
+struct FlightSim {
+    QStringView name;
+    QStringView joystickFile;
+    QStringView macroFile;
+};
+
+/// In the order in which they become favourites: the last one comes out on top.
+std::span<const FlightSim> flightSimTable();
+
+/// The favourites of those whose joystick file lies in the folder, in the table's order.
+QList<Favourite> SetupFlightSimFiles(const QString &filesFolder);
 
 } // namespace zeph

@@ -8,11 +8,11 @@
 #include "editor/editor.h"
 #include "editor/editor_settings.h"
 #include "editor/files/file_opening.h"
-#include "lists/enterfavouritename.h"
 #include "menus/menu_actions.h"
-#include "menus/menu_array.h"
+#include "platform/core/text1252.h"
 #include "platform/dialogs.h"
 #include "settings/settings.h"
+#include "ui_enterfavouritename.h"
 
 #include <QAction>
 #include <QMenu>
@@ -124,6 +124,24 @@ void FavouritesMenu::changed()
     m_menu->setCaptions(names);
     m_editor.action(u"mnuSortFavourites")->setVisible(!names.isEmpty());
     m_editor.action(u"mnuFavouritesDivider")->setVisible(!names.isEmpty());
+}
+
+EnterFavouritename::EnterFavouritename(QWidget *parent)
+    : QDialog(parent), m_ui(std::make_unique<Ui::EnterFavouritename>())
+{
+    m_ui->setupUi(this);
+    // What the store cannot hold would come back without its name.
+    connect(m_ui->TextFavouriteName, &QLineEdit::textChanged, this,
+            [this](const QString &text) { m_ui->cmdOK->setEnabled(firstNot1252(text) < 0); });
+    connect(m_ui->cmdOK, &QPushButton::clicked, this, &EnterFavouritename::accept);
+    connect(m_ui->cmdCancel, &QPushButton::clicked, this, &EnterFavouritename::reject);
+}
+
+EnterFavouritename::~EnterFavouritename() = default;
+
+QString EnterFavouritename::name() const
+{
+    return m_ui->TextFavouriteName->text().trimmed();
 }
 
 } // namespace zeph

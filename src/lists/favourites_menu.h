@@ -5,8 +5,11 @@
 
 #include "lists/favourites.h"
 #include "platform/context.h"
+#include "platform/core/base.h"
 
+#include <QDialog>
 #include <QObject>
+#include <memory>
 
 namespace zeph {
 
@@ -44,6 +47,24 @@ private:
     ProfileFile m_store;
     Favourites m_favourites;
     MenuArray *m_menu;
+};
+
+namespace Ui {
+class EnterFavouritename;
+}
+
+/// Asks for a favourite's name. An empty name means the same as Cancel.
+class EnterFavouritename : public QDialog
+{
+    Q_OBJECT
+public:
+    explicit EnterFavouritename(QWidget *parent = nullptr);
+    ~EnterFavouritename() override;
+
+    QString name() const;
+
+private:
+    std::unique_ptr<Ui::EnterFavouritename> m_ui;
 };
 
 } // namespace zeph

@@ -3,9 +3,14 @@
 
 #pragma once
 
+#include "language/file_kinds.h"
 #include "platform/context.h"
+#include "platform/core/profile_file.h"
 
 #include <QObject>
+#include <array>
+
+class QMenu;
 
 namespace zeph {
 
@@ -33,6 +38,36 @@ private:
     RecentFiles *m_recent;
     FavouritesMenu *m_favourites;
     CustomAppsMenu *m_customApps;
+};
+
+class Document;
+class Editor;
+class MenuArray;
+
+/// The joystick files and the macro files that were opened or saved before, most recently used
+/// first, at most 30 each, with the File menu's entries for them.
+class RecentFiles : public QObject
+{
+    Q_OBJECT
+public:
+    /// Reads both lists.
+    RecentFiles(const Context &context, Editor &editor);
+
+    const QStringList &list(DocumentKind kind) const { return m_lists[size_t(kind)]; }
+
+private:
+    void follow(Document &document);
+    void makeMenu(DocumentKind kind);
+    void update(DocumentKind kind, const QString &path);
+    void clearAll(DocumentKind kind);
+    void open(DocumentKind kind, int place);
+    void showMenu(DocumentKind kind);
+
+    Context m_context;
+    Editor &m_editor;
+    ProfileFile m_store;
+    std::array<QStringList, 2> m_lists;
+    std::array<MenuArray *, 2> m_menus{};
 };
 
 } // namespace zeph

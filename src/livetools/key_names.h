@@ -5,9 +5,11 @@
 
 // The names of keys: the key table, names with their modifiers, and the lines of the event list.
 
+#include "platform/context.h"
 #include "platform/core/base.h"
 
 #include <QList>
+#include <optional>
 
 namespace zeph {
 
@@ -41,5 +43,9 @@ enum class KeyDirection { Down, Up };
 /// The event list's line for a key: "Down: " or "Up: " and its name, or its code when the table has
 /// none. Without a line end.
 QString eventLine(const KeyTable &table, KeyDirection direction, int keycode);
+
+/// Reads KeyCodes.txt in the program's folder. A missing file is first restored from its copy in
+/// the Info folder, which is told. No value, also told, when that fails or the file cannot be read.
+std::optional<KeyTable> readKeyCodes(const Context &context);
 
 } // namespace zeph

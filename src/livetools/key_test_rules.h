@@ -6,6 +6,7 @@
 // What the Key Tester shows for each key, apart from its window.
 
 #include "livetools/key_names.h"
+#include "menus/action_row.h"
 
 namespace zeph {
 
@@ -48,5 +49,10 @@ constexpr int clearDelayCount = 5;
 constexpr int clearDelayStepMs = 200;
 /// ClearDelay for "off".
 constexpr int noClearDelay = -1;
+
+/// The Key Tester's menus. They are for the mouse alone: the window shows every key that reaches
+/// it.
+std::span<const MenuRow> keyTestMenus();
+std::span<const ActionRow> keyTestActions();
 
 } // namespace zeph

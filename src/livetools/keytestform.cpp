@@ -3,18 +3,18 @@
 
 #include "livetools/keytestform.h"
 
-#include "livetools/key_codes_file.h"
-#include "livetools/key_test_menus.h"
+#include "livetools/key_names.h"
+#include "livetools/key_test_rules.h"
 #include "livetools/key_tester_settings.h"
 #include "menus/menu_actions.h"
 #include "platform/core/units.h"
-#include "platform/handlers.h"
+#include "platform/dialogs.h"
 #include "platform/input/keyboard.h"
 #include "platform/richtext/rich_text_box.h"
 #include "settings/settings.h"
 #include "settings/settings_files.h"
+#include "toolchain/handshake.h"
 #include "toolchain/toolchain_settings.h"
-#include "toolchain/wait_state.h"
 #include "ui_keytestform.h"
 
 #include <QAction>

@@ -6,7 +6,7 @@
 #include "livetools/key_tester_settings.h"
 #include "livetools/keytestform.h"
 #include "livetools/virtual_keys.h"
-#include "platform/handlers.h"
+#include "platform/dialogs.h"
 #include "platform/input/keyboard.h"
 #include "platform/richtext/rich_text_box.h"
 #include "settings/settings.h"

@@ -4,7 +4,7 @@
 #include "livetools/live_tools.h"
 
 #include "livetools/keytestform.h"
-#include "platform/handlers.h"
+#include "platform/dialogs.h"
 #include "toolchain/modes/cougar_modes.h"
 
 namespace zeph {

@@ -6,13 +6,17 @@
 // Everything that asks or tells in a box of its own goes through here, so that tests can answer.
 
 #include "platform/core/base.h"
+#include "platform/core/file_io.h"
 #include "platform/core/rich_text.h"
 
 #include <QList>
 #include <QStringList>
 
+#include <QApplication>
 #include <array>
+#include <exception>
 #include <functional>
+#include <utility>
 
 namespace zeph {
 
@@ -70,6 +74,67 @@ public:
     bool ask(const QString &title, const QString &text, BoxIcon icon = BoxIcon::Exclamation);
 
     CustomColourStore customColours;
+};
+
+class Dialogs;
+
+/// The title of the boxes about files that may not be written.
+inline constexpr QStringView readOnlyTitle = u"Can't save Read Only file";
+
+/// Whether a file may be written to that path: where one stands already the user is asked, and one
+/// that is marked as read only is refused with a box.
+bool mayOverwrite(Dialogs &dialogs, const QString &path);
+
+/// Tells that a save failed, and why.
+void tellNotSaved(Dialogs &dialogs, const FileError &error);
+
+/// Tells what escaped a handler. The only box for failures that nobody expected.
+void tellEscaped(Dialogs &dialogs, const QString &reason);
+
+/// Wraps a slot that can fail: nothing that it throws reaches the event loop.
+template <class Slot> auto guarded(Dialogs &dialogs, Slot slot)
+{
+    return [&dialogs, slot = std::move(slot)](auto &&...arguments) mutable {
+        try {
+            slot(std::forward<decltype(arguments)>(arguments)...);
+        } catch (const std::exception &error) {
+            tellEscaped(dialogs, QString::fromLocal8Bit(error.what()));
+        } catch (...) {
+            tellEscaped(dialogs, u"Unknown failure"_s);
+        }
+    };
+}
+
+class Dialogs;
+
+/// Keeps what escapes a handler from the event loop: tells it to the user and runs the last
+/// resort.
+class FallGuard
+{
+public:
+    /// Shows a failure; when null, nothing is shown.
+    Dialogs *dialogs = nullptr;
+    /// Runs after the message. Its own failure does not run it again.
+    std::function<void()> lastResort;
+
+    /// Runs the handler. Gives its result, or true when it failed.
+    bool run(const std::function<bool()> &handler);
+
+private:
+    void fall(const QString &reason);
+
+    bool m_falling = false;
+};
+
+/// The toolkit's application, which lets no failure of a handler end the program.
+class SafeApplication : public QApplication
+{
+public:
+    SafeApplication(int &argc, char **argv);
+
+    FallGuard guard;
+
+    bool notify(QObject *receiver, QEvent *event) override;
 };
 
 } // namespace zeph

@@ -6,7 +6,10 @@
 #include "platform/core/paths.h"
 
 #include <QDir>
+#include <QGuiApplication>
 #include <QOperatingSystemVersion>
+#include <QScreen>
+#include <cmath>
 
 namespace zeph {
 
@@ -27,6 +30,24 @@ QString windowsFolder()
     const QString ofWine = prefix + u"/drive_c/windows"_s;
     return folderExists(ofWine) ? ofWine : usual;
 #endif
+}
+
+namespace {
+
+constexpr int expectedDpi = 96;
+
+} // namespace
+
+int PrimaryScreen::logicalDpi() const
+{
+    const QScreen *screen = QGuiApplication::primaryScreen();
+    return screen ? int(std::lround(screen->logicalDotsPerInch())) : expectedDpi;
+}
+
+QSize PrimaryScreen::size() const
+{
+    const QScreen *screen = QGuiApplication::primaryScreen();
+    return screen ? screen->size() : QSize();
 }
 
 } // namespace zeph

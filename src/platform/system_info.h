@@ -4,6 +4,7 @@
 #pragma once
 
 #include "platform/core/base.h"
+#include <QSize>
 
 namespace zeph {
 
@@ -19,5 +20,24 @@ public:
 /// The folder of Windows, without a closing separator: on Windows the system's own, elsewhere that
 /// of the pilot's wine, and without wine the usual C:\Windows.
 QString windowsFolder();
+
+/// What the shell asks of the screen.
+class Screen
+{
+public:
+    virtual ~Screen() = default;
+    /// Logical pixels per inch; 96 is what windows are drawn for.
+    virtual int logicalDpi() const = 0;
+    /// Size of the first screen in device-independent pixels.
+    virtual QSize size() const = 0;
+};
+
+/// The real screen, by way of the toolkit.
+class PrimaryScreen : public Screen
+{
+public:
+    int logicalDpi() const override;
+    QSize size() const override;
+};
 
 } // namespace zeph

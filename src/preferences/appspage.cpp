@@ -3,12 +3,11 @@
 
 #include "preferences/appspage.h"
 
-#include "lists/custom_apps_menu.h"
-#include "platform/core/storable.h"
+#include "lists/custom_apps.h"
+#include "platform/core/profile_list.h"
 #include "platform/dialogs.h"
-#include "platform/handlers.h"
 #include "platform/system_info.h"
-#include "preferences/apps_rules.h"
+#include "preferences/list_rules.h"
 #include "settings/settings.h"
 #include "settings/shared_settings.h"
 #include "text/template_files.h"

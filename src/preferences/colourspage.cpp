@@ -4,12 +4,11 @@
 #include "preferences/colourspage.h"
 
 #include "documents/coloured_text.h"
-#include "documents/document_look.h"
+#include "documents/editor_texts.h"
 #include "editor/macros/framemacros.h"
 #include "editor/macros/macro_list_model.h"
 #include "platform/colours.h"
 #include "platform/dialogs.h"
-#include "platform/handlers.h"
 #include "preferences/colour_scheme.h"
 #include "settings/settings.h"
 #include "text/macro_search.h"

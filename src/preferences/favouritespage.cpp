@@ -5,11 +5,9 @@
 
 #include "editor/editor_settings.h"
 #include "lists/favourites_menu.h"
-#include "platform/core/storable.h"
+#include "platform/core/profile_list.h"
 #include "platform/dialogs.h"
 #include "platform/field_text.h"
-#include "platform/handlers.h"
-#include "preferences/favourites_rules.h"
 #include "preferences/list_rules.h"
 #include "preferences/namedlist.h"
 #include "settings/settings.h"

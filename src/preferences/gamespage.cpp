@@ -3,7 +3,6 @@
 
 #include "preferences/gamespage.h"
 
-#include "preferences/games_rules.h"
 #include "preferences/list_rules.h"
 #include "preferences/namedlist.h"
 #include "toolchain/games/gamefields.h"

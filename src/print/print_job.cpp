@@ -5,7 +5,6 @@
 
 #include "platform/core/file_io.h"
 #include "platform/dialogs.h"
-#include "platform/overwrite_question.h"
 #include "platform/printers.h"
 #include "platform/status_line.h"
 #include "print/print_pages.h"

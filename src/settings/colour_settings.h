@@ -4,6 +4,8 @@
 #pragma once
 
 #include "platform/core/colour_scheme.h"
+#include "platform/core/profile_file.h"
+#include "platform/dialogs.h"
 #include "settings/settings.h"
 
 namespace zeph {
@@ -43,5 +45,12 @@ void setFirstRunColours(ColourSettings &settings);
 [[nodiscard]] SettingProblems readColours(Settings &settings, const SettingsFiles &files);
 /// Writes all sixteen keys of the colours and the font.
 Expected<void, FileError> SaveColourScheme(Settings &settings, const SettingsFiles &files);
+
+// The pilot's own colours in the colour dialog.
+
+/// The sixteen custom colours of the settings store (CustomColour1 to CustomColour16 in section
+/// Colours); white where there is none.
+CustomColours GetCustomColour(const ProfileFile &store);
+Expected<void, FileError> keepCustomColours(const ProfileFile &store, const CustomColours &colours);
 
 } // namespace zeph

@@ -3,7 +3,7 @@
 
 #include "settings/settings.h"
 
-#include "platform/handlers.h"
+#include "platform/dialogs.h"
 #include "platform/status_line.h"
 
 #include <QStringList>

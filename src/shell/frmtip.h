@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "shell/tips.h"
+#include "shell/help_set.h"
 
 #include <QDialog>
 

@@ -6,17 +6,16 @@
 #include "editor/editor.h"
 #include "menus/menu_actions.h"
 #include "platform/dialogs.h"
-#include "platform/handlers.h"
 #include "platform/process_launcher.h"
 #include "platform/tool_windows.h"
 #include "settings/settings.h"
 #include "shell/frmabout.h"
 #include "shell/frmtip.h"
+#include "shell/help_set.h"
 #include "shell/helpwindow.h"
 #include "shell/informationwindow.h"
 #include "shell/settings/shell_settings.h"
 #include "shell/version_check.h"
-#include "shell/zeph_info.h"
 
 #include <QAction>
 #include <QMenu>

@@ -6,6 +6,7 @@
 // The help folder's two lists: which page a topic number means, and which place a keyword.
 
 #include "platform/core/base.h"
+#include "platform/core/paths.h"
 
 #include <QList>
 #include <QStringList>
@@ -50,5 +51,43 @@ private:
     QList<HelpTopic> m_topics;
     QList<HelpKeyword> m_keywords;
 };
+
+/// The tips of a tip file: one a line. Blank lines are no tips.
+QStringList parseTips(QStringView file);
+
+/// Walks a list of tips; after the last comes the first.
+class TipCycle
+{
+public:
+    TipCycle() = default;
+    /// Starts at a tip (0-based; a place beyond the end counts on from the first).
+    TipCycle(QStringList tips, qsizetype first);
+
+    bool isEmpty() const { return m_tips.isEmpty(); }
+    /// The present tip; empty when there are none.
+    QString current() const;
+    /// Moves on to the next tip; after the last comes the first.
+    void next();
+
+private:
+    QStringList m_tips;
+    qsizetype m_index = 0;
+};
+
+// ZephInfo.ini of the Info folder: what the Help menu offers beyond its own entries.
+
+struct InfoEntry {
+    QString caption;
+    /// Full path of the entry's file, which need not exist.
+    QString path;
+};
+
+struct ZephInfo {
+    QList<InfoEntry> onlineHelp; ///< the How do I entries, texts of the Info folder
+    QList<InfoEntry> manuals;
+};
+
+/// No value when the file is missing. A numbered entry without a caption is left out.
+std::optional<ZephInfo> readZephInfo(const Paths &paths);
 
 } // namespace zeph

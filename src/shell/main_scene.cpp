@@ -7,7 +7,7 @@
 #include "editor/editor.h"
 #include "editor/files/file_opening.h"
 #include "editor/files/file_saving.h"
-#include "platform/handlers.h"
+#include "platform/dialogs.h"
 #include "platform/tool_windows.h"
 #include "shell/help_menu.h"
 #include "shell/main_status_bar.h"

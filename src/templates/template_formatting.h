@@ -4,7 +4,7 @@
 #pragma once
 
 #include "platform/context.h"
-#include "templates/template_look.h"
+#include "platform/core/rich_text.h"
 
 #include <QObject>
 
@@ -16,6 +16,25 @@ class QToolBar;
 class QToolButton;
 
 namespace zeph {
+
+/// What all of a selection has in common; no value where it is mixed.
+struct CommonLook {
+    std::optional<QString> family;
+    std::optional<double> pointSize;
+    std::optional<ColorRef> colour;
+    bool bold = false; ///< these hold only where all of it has them
+    bool italic = false;
+    bool underline = false;
+    bool bullets = false;
+    std::optional<ParagraphAlignment> alignment;
+
+    friend bool operator==(const CommonLook &, const CommonLook &) = default;
+};
+
+/// Of a text that is not empty.
+CommonLook commonLook(const RichText &selection);
+/// Of a place without characters: what is typed next.
+CommonLook commonLook(const CharFormat &format, const ParagraphFormat &paragraph);
 
 class MenuActions;
 class RichTextBox;

@@ -5,10 +5,8 @@
 
 #include "language/file_kinds.h"
 #include "menus/menu_actions.h"
-#include "platform/core/file_attributes.h"
 #include "platform/core/file_io.h"
 #include "platform/dialogs.h"
-#include "platform/overwrite_question.h"
 #include "platform/printers.h"
 #include "platform/richtext/rich_text_box.h"
 #include "platform/richtext/rich_text_document.h"

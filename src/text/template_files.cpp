@@ -5,8 +5,8 @@
 
 #include "platform/core/rtf.h"
 #include "platform/core/text1252.h"
-#include "text/document_text.h"
 #include "text/macro_search.h"
+#include "text/text_lines.h"
 
 #include <array>
 

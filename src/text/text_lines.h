@@ -6,6 +6,9 @@
 // Lines of a text: by number, one after another, and the small functions that all line rules share.
 
 #include "language/words.h"
+#include "platform/core/base.h"
+#include <QByteArray>
+#include <vector>
 
 namespace zeph {
 
@@ -44,5 +47,37 @@ qsizetype remAt(QStringView line);
 QStringView beforeRem(QStringView line);
 /// The start of a comment as the tools write it.
 inline constexpr QStringView remAndBlank = u"Rem "_w;
+
+// Puts Rem before whole lines and takes it away again. Line ends are '\n'.
+
+/// The whole lines that a selection touches (0-based characters), from the first one's start to
+/// the last one's end, without its line end. A selection that ends at a line's very start touches
+/// that line too.
+LineRange touchedLines(QStringView text, qsizetype selStart, qsizetype selLength);
+
+/// What a line becomes, with its line end if it has one.
+struct LineChange {
+    QString text;
+    bool changed = false;
+};
+
+/// Puts "Rem " before a line; a line without characters stays.
+LineChange commentedOut(QStringView line);
+/// Takes "rem " in any case away from a line's start; another line stays.
+LineChange commentedIn(QStringView line);
+
+/// Changes the lines one by one, in their order.
+std::vector<LineChange> changeLines(QStringView lines, LineChange (*change)(QStringView line));
+
+// A document as bytes on the disk and as text in memory, where a line end is the one character
+// '\n'.
+
+/// The text of a file's bytes: CR LF, a single CR and a single LF each end a line, every other byte
+/// is one character. Bytes with a NUL are no text; the error is the 0-based offset of the first
+/// NUL.
+Expected<QString, qsizetype> documentText(const QByteArray &bytes);
+
+/// The bytes of a text, with CR LF for each line end and nothing added at the end.
+QByteArray documentBytes(QStringView text);
 
 } // namespace zeph

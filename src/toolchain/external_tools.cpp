@@ -5,8 +5,8 @@
 
 #include "platform/dialogs.h"
 #include "platform/status_line.h"
+#include "toolchain/hotas_ini.h"
 #include "toolchain/modes/cougar_modes.h"
-#include "toolchain/tool_commands.h"
 #include "toolchain/tool_messages.h"
 
 namespace zeph {

@@ -6,7 +6,9 @@
 // HOTAS.ini, the file through which the Cougar's tools and Zeph talk. The tools own it: Zeph writes
 // only the keys named here and leaves everything else as it is.
 
+#include "platform/core/paths.h"
 #include "platform/core/profile_file.h"
+#include "platform/process_launcher.h"
 
 namespace zeph {
 
@@ -57,5 +59,36 @@ public:
 private:
     ProfileFile m_file;
 };
+
+// How the Cougar's tools are started: program, arguments, folder and window, as values.
+
+/// What the compiler is asked to do with a joystick file.
+enum class CompilerCommand { Compile, Download, DownloadAndEnable };
+
+/// What the Cougar itself is asked to do.
+enum class ConfigCommand {
+    ButtonsWindows,
+    ButtonsProgrammed,
+    ReportMode, ///< changes nothing
+    AxesWindows,
+    AxesUserDefined,
+    AllProgrammed,
+    PureWindows,
+    EmptyBuffers,
+    ClearMemory,
+    ResetCougar
+};
+
+/// Starts the compiler on a file. This and all others start in the tools' folder, with a normal
+/// window that takes the focus.
+Launch compilerLaunch(const Paths &paths, CompilerCommand command, const QString &file);
+/// Starts the configuration tool with the switches of a request.
+Launch configLaunch(const Paths &paths, ConfigCommand command);
+
+/// Starts the configuration tool so that it sends a profile, a name without ".tmc", to the Cougar.
+Launch profileLaunch(const Paths &paths, const QString &profile, bool manualCalibration);
+
+/// Starts any program of the tools' folder.
+Launch toolLaunch(const Paths &paths, QStringView program, QStringView arguments = {});
 
 } // namespace zeph

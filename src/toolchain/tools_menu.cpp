@@ -7,9 +7,8 @@
 #include "settings/settings.h"
 #include "settings/settings_files.h"
 #include "toolchain/external_tools.h"
-#include "toolchain/modes/formresetoptions.h"
+#include "toolchain/modes/profilechooser.h"
 #include "toolchain/modes/profiles.h"
-#include "toolchain/modes/selectprofileform.h"
 #include "toolchain/toolchain_settings.h"
 
 #include <QAction>

@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: The Zeph authors
 // SPDX-License-Identifier: MIT
 
-#include "documents/change.h"
-#include "documents/document_look.h"
-#include "documents/statement.h"
+#include "documents/document.h"
+#include "documents/documents.h"
+#include "documents/editor_texts.h"
 #include "platform/richtext/rich_text_box.h"
 #include "settings/colour_settings.h"
 #include "tests/text/painting_fixture.h"

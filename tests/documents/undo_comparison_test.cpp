@@ -4,7 +4,7 @@
 // The history against a plain one that keeps whole copies: same texts, looks, carets and captions
 // after every step of long random sequences in the real Editor.
 
-#include "documents/change.h"
+#include "documents/document.h"
 #include "documents/document_settings.h"
 #include "documents/undo_histories.h"
 #include "editor/editor_settings.h"

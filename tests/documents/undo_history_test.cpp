@@ -3,7 +3,7 @@
 
 #include "documents/undo_histories.h"
 
-#include "documents/change.h"
+#include "documents/document.h"
 
 #include "documents/document_settings.h"
 #include "documents/line_blink.h"

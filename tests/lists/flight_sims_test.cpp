@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Zeph authors
 // SPDX-License-Identifier: MIT
 
-#include "lists/flight_sims.h"
+#include "lists/favourites.h"
 
 #include "tests/support/temp_folder.h"
 

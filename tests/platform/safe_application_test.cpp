@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Zeph authors
 // SPDX-License-Identifier: MIT
 
-#include "platform/safe_application.h"
+#include "platform/dialogs.h"
 
 #include "platform/fakes/scripted_dialogs.h"
 

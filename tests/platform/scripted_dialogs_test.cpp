@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: The Zeph authors
 // SPDX-License-Identifier: MIT
 
+#include "platform/dialogs.h"
 #include "platform/fakes/scripted_dialogs.h"
-#include "platform/handlers.h"
 
 #include <gtest/gtest.h>
 

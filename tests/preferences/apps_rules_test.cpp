@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Zeph authors
 // SPDX-License-Identifier: MIT
 
-#include "preferences/apps_rules.h"
+#include "preferences/list_rules.h"
 
 #include <gtest/gtest.h>
 

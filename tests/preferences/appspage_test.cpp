@@ -3,7 +3,7 @@
 
 #include "preferences/appspage.h"
 
-#include "lists/custom_apps_menu.h"
+#include "lists/custom_apps.h"
 #include "platform/system_info.h"
 #include "settings/shared_settings.h"
 #include "shell/mum.h"

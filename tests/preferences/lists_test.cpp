@@ -1,8 +1,6 @@
 // SPDX-FileCopyrightText: The Zeph authors
 // SPDX-License-Identifier: MIT
 
-#include "preferences/favourites_rules.h"
-#include "preferences/games_rules.h"
 #include "preferences/list_rules.h"
 
 #include <gtest/gtest.h>

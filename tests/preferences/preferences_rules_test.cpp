@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Zeph authors
 // SPDX-License-Identifier: MIT
 
-#include "preferences/preferences_rules.h"
+#include "preferences/setting_fields.h"
 
 #include "documents/document_settings.h"
 #include "editor/editor_settings.h"

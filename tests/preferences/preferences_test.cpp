@@ -10,7 +10,7 @@
 #include "editor/files/file_opening.h"
 #include "editor/files/loss_guards.h"
 #include "platform/richtext/rich_text_document.h"
-#include "preferences/preferences_rules.h"
+#include "preferences/setting_fields.h"
 #include "shell/mum.h"
 #include "tests/shell/running_world.h"
 #include "toolchain/cougar_tools.h"

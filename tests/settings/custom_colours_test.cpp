@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Zeph authors
 // SPDX-License-Identifier: MIT
 
-#include "settings/custom_colours.h"
+#include "settings/colour_settings.h"
 
 #include "tests/support/temp_folder.h"
 

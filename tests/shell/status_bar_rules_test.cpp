@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Zeph authors
 // SPDX-License-Identifier: MIT
 
-#include "shell/status_bar_rules.h"
+#include "shell/main_status_bar.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Zeph authors
 // SPDX-License-Identifier: MIT
 
-#include "shell/tips.h"
+#include "shell/help_set.h"
 
 #include <gtest/gtest.h>
 

@@ -8,8 +8,7 @@
 #include "platform/core/profile_file.h"
 #include "shell/mum.h"
 #include "tests/shell/shell_world.h"
-#include "toolchain/modes/formresetoptions.h"
-#include "toolchain/modes/selectprofileform.h"
+#include "toolchain/modes/profilechooser.h"
 
 #include <QAction>
 #include <QApplication>

@@ -3,15 +3,12 @@
 
 #include "documents/styleeditor.h"
 #include "editor/edit/findandreplace.h"
-#include "editor/edit/heading.h"
-#include "editor/edit/singletextform.h"
-#include "editor/edit/slashwindow.h"
-#include "editor/edit/title.h"
+#include "editor/edit/insert_windows.h"
 #include "editor/editor.h"
 #include "editor/editor_settings.h"
 #include "editor/files/frm_createpackage.h"
 #include "editor/macros/macrorenameform.h"
-#include "lists/enterfavouritename.h"
+#include "lists/favourites_menu.h"
 #include "lists/user_lists.h"
 #include "livetools/keytestform.h"
 #include "preferences/preferences.h"
@@ -25,10 +22,9 @@
 #include "templates/templateform.h"
 #include "tests/shell/shell_world.h"
 #include "text/macro_table.h"
-#include "toolchain/games/entergamename.h"
+#include "toolchain/games/gamefields.h"
 #include "toolchain/games/games.h"
-#include "toolchain/modes/formresetoptions.h"
-#include "toolchain/modes/selectprofileform.h"
+#include "toolchain/modes/profilechooser.h"
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
@@ -113,8 +109,8 @@ std::unique_ptr<QWidget> makeMum(test::ShellWorld &world)
 std::unique_ptr<QWidget> makeFindAndReplace(test::ShellWorld &world)
 {
     auto *editor = new Editor(world.context());
-    auto window = std::make_unique<FindAndReplace>(
-        world.context(), FindAndReplace::Parts{ editor->view() });
+    auto window =
+        std::make_unique<FindAndReplace>(world.context(), FindAndReplace::Parts{ editor->view() });
     QObject::connect(window.get(), &QObject::destroyed, [editor] { delete editor; });
     return window;
 }

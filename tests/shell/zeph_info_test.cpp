@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Zeph authors
 // SPDX-License-Identifier: MIT
 
-#include "shell/zeph_info.h"
+#include "shell/help_set.h"
 
 #include "tests/support/temp_folder.h"
 

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Zeph authors
 // SPDX-License-Identifier: MIT
 
-#include "text/block_comments.h"
+#include "text/text_lines.h"
 
 #include <gtest/gtest.h>
 

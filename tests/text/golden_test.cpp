@@ -7,10 +7,9 @@
 #include "tests/support/golden.h"
 
 #include "text/alignment.h"
-#include "text/block_comments.h"
-#include "text/document_text.h"
 #include "text/insert_blocks.h"
 #include "text/painter.h"
+#include "text/text_lines.h"
 
 #include <gtest/gtest.h>
 

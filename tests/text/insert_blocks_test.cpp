@@ -3,7 +3,7 @@
 
 #include "text/insert_blocks.h"
 
-#include "editor/edit/list_files.h"
+#include "editor/edit/insert_forms.h"
 #include "settings/shared_settings.h"
 #include "tests/support/temp_folder.h"
 #include "text/macro_table.h"

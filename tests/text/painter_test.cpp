@@ -3,7 +3,7 @@
 
 #include "text/painter.h"
 
-#include "documents/document_look.h"
+#include "documents/editor_texts.h"
 #include "settings/colour_settings.h"
 #include "settings/settings.h"
 #include "tests/text/painter_twin.h"

@@ -4,7 +4,7 @@
 #include "text/template_files.h"
 
 #include "templates/template_actions.h"
-#include "templates/template_look.h"
+#include "templates/template_formatting.h"
 #include "tests/support/rich_texts.h"
 
 #include <gtest/gtest.h>

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Zeph authors
 // SPDX-License-Identifier: MIT
 
-#include "toolchain/tool_commands.h"
+#include "toolchain/hotas_ini.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Zeph authors
 // SPDX-License-Identifier: MIT
 
-#include "toolchain/wait_state.h"
+#include "toolchain/handshake.h"
 
 #include "settings/settings.h"
 #include "toolchain/toolchain_settings.h"

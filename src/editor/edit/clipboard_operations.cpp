@@ -3,10 +3,9 @@
 
 #include "editor/edit/clipboard_operations.h"
 
-#include "documents/change.h"
 #include "documents/coloured_insert.h"
+#include "documents/document.h"
 #include "documents/editor_view.h"
-#include "documents/pasted_text.h"
 #include "menus/menu_actions.h"
 #include "platform/richtext/rich_text_mime.h"
 

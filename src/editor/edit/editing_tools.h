@@ -4,7 +4,6 @@
 #pragma once
 
 #include "editor/edit/alignment_operations.h"
-#include "editor/edit/block_operations.h"
 #include "editor/edit/clipboard_operations.h"
 #include "editor/edit/findandreplace.h"
 

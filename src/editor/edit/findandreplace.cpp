@@ -3,13 +3,13 @@
 
 #include "editor/edit/findandreplace.h"
 
-#include "documents/change.h"
+#include "documents/document.h"
 #include "documents/editor_texts.h"
 #include "documents/editor_view.h"
-#include "documents/line_showing.h"
+#include "documents/line_blink.h"
 #include "platform/core/text_search.h"
 #include "platform/core/units.h"
-#include "platform/handlers.h"
+#include "platform/dialogs.h"
 #include "platform/status_line.h"
 #include "text/search_rules.h"
 #include "ui_findandreplace.h"

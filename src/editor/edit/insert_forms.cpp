@@ -5,14 +5,14 @@
 
 #include "documents/coloured_insert.h"
 #include "documents/editor_view.h"
-#include "editor/edit/heading.h"
-#include "editor/edit/list_files.h"
-#include "editor/edit/singletextform.h"
-#include "editor/edit/title.h"
+#include "editor/edit/insert_windows.h"
 #include "editor/editor_settings.h"
 #include "menus/menu_actions.h"
 #include "platform/clock.h"
-#include "platform/handlers.h"
+#include "platform/core/file_io.h"
+#include "platform/core/paths.h"
+#include "platform/core/text1252.h"
+#include "platform/dialogs.h"
 #include "platform/status_line.h"
 #include "settings/colour_settings.h"
 #include "settings/settings.h"
@@ -192,6 +192,24 @@ void InsertForms::keep(std::initializer_list<SettingRef> fields)
         m_context.status.setText(u"The settings couldn't be written: "_s + written.error().path
                                  + u": "_s + written.error().reason);
     }
+}
+
+QStringList linesOfListFile(const QString &path)
+{
+    const auto bytes = readWholeFile(existingPath(path));
+    if (!bytes) {
+        return {};
+    }
+    QString text = fromText1252(*bytes);
+    text.replace(u'\r', u'\n');
+    QStringList lines;
+    for (const QString &line : text.split(u'\n')) {
+        const QString trimmed = line.trimmed();
+        if (!trimmed.isEmpty()) {
+            lines.append(trimmed);
+        }
+    }
+    return lines;
 }
 
 } // namespace zeph

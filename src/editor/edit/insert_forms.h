@@ -3,13 +3,15 @@
 
 #pragma once
 
-#include "editor/edit/slashwindow.h"
+#include "editor/edit/insert_windows.h"
 #include "platform/context.h"
+#include "platform/core/base.h"
 #include "settings/settings.h"
 
 #include <QObject>
 #include <QPointer>
 
+#include <QStringList>
 #include <functional>
 #include <initializer_list>
 
@@ -66,5 +68,9 @@ private:
     /// Made at the first use, since it belongs to the main window, which the Editor joins late.
     QPointer<SlashWindow> m_slashWindow;
 };
+
+/// The lines of a list that pilots may edit, trimmed, empty ones left out. A list that is missing
+/// or cannot be read is empty.
+QStringList linesOfListFile(const QString &path);
 
 } // namespace zeph

@@ -7,7 +7,6 @@
 #include "editor/editor_settings.h"
 #include "editor/files/file_saving.h"
 #include "platform/dialogs.h"
-#include "platform/handlers.h"
 #include "settings/settings.h"
 
 #include <QScopedValueRollback>

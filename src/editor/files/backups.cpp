@@ -6,11 +6,14 @@
 #include "documents/document.h"
 #include "editor/editor_settings.h"
 #include "platform/clock.h"
+#include "platform/core/paths.h"
+#include "platform/dialogs.h"
 #include "settings/settings.h"
-#include "text/document_text.h"
+#include "text/text_lines.h"
 
 #include <QDir>
 #include <QLocale>
+#include <filesystem>
 
 namespace zeph {
 
@@ -62,6 +65,40 @@ Expected<QString, FileError> Backups::keepAside(const QString &caption, const QB
         return Unexpected<FileError>(written.error());
     }
     return path;
+}
+
+namespace {
+
+std::error_code makeFolder(const QString &folder)
+{
+    std::error_code error;
+    if (!folderExists(folder)) {
+        std::filesystem::create_directories(
+            std::filesystem::path(withClosingSeparator(folder).chopped(1).toStdU16String()), error);
+    }
+    return error;
+}
+
+} // namespace
+
+QString checkedBackupFolder(const QString &wanted, const Paths &paths, Dialogs &dialogs)
+{
+    const QString standard = paths.defaultBackupFolder();
+    const QString folder =
+        wanted.isEmpty() ? standard : withClosingSeparator(nativeSeparators(wanted));
+    const std::error_code error = makeFolder(folder);
+    if (!error) {
+        return folder;
+    }
+    dialogs.tell(u"Backup folder location error"_s,
+                 u"There's a problem with your backup folder. Either it doesn't exist or I can't "
+                 "create it. Please edit your preferences. In the meantime I will change it to the "
+                 "default location.\n\nError reported from Windows: Error number = "_s
+                     + QString::number(error.value()) + u"\n Description = "_s
+                     + QString::fromLocal8Bit(error.message()),
+                 BoxIcon::Exclamation);
+    makeFolder(standard);
+    return standard;
 }
 
 } // namespace zeph

@@ -5,6 +5,7 @@
 
 #include "documents/document.h"
 #include "platform/context.h"
+#include "platform/core/base.h"
 #include "platform/core/file_io.h"
 
 #include <QDateTime>
@@ -35,5 +36,13 @@ private:
 
     Context m_context;
 };
+
+class Dialogs;
+struct Paths;
+
+/// The backup folder to use, with a closing separator: the wanted one, made with its parents when
+/// it is absent, or the default one for an empty name. One that cannot be made is told, and the
+/// default one takes its place.
+QString checkedBackupFolder(const QString &wanted, const Paths &paths, Dialogs &dialogs);
 
 } // namespace zeph

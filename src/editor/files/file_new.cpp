@@ -3,8 +3,10 @@
 
 #include "editor/files/file_new.h"
 
+#include "documents/editor_texts.h"
 #include "documents/editor_view.h"
 #include "editor/files/file_opening.h"
+#include "editor/files/file_saving.h"
 #include "platform/status_line.h"
 
 namespace zeph {
@@ -79,6 +81,39 @@ void FileNew::HardwareHasChanged()
 {
     rewriteUntitled();
     m_view.updateCaptions();
+}
+
+namespace {
+
+bool askFor(Document &document, EditorView &view, FileSaving &saving, Dialogs &dialogs)
+{
+    if (!document.isModified()) {
+        return true;
+    }
+    const QString why = u" has changed and isn't saved. Do you want to save it before exiting?"_s;
+    switch (dialogs.box(saveQuestion(document, why))) {
+    case BoxButton::Yes:
+        view.documents().select(document.kind());
+        saving.mnuFileSave_Click();
+        if (document.isModified()) {
+            dialogs.tell(u"Ooops!"_s, document.name() + u" wasn't saved. Exit program aborted."_s,
+                         BoxIcon::Exclamation);
+            return false;
+        }
+        return true;
+    case BoxButton::No:
+        return true;
+    default:
+        return false;
+    }
+}
+
+} // namespace
+
+bool askBeforeExit(EditorView &view, FileSaving &saving, Dialogs &dialogs)
+{
+    return askFor(view.documents().macro(), view, saving, dialogs)
+        && askFor(view.documents().joystick(), view, saving, dialogs);
 }
 
 } // namespace zeph

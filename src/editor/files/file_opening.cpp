@@ -13,7 +13,7 @@
 #include "platform/input/keyboard.h"
 #include "platform/status_line.h"
 #include "settings/settings.h"
-#include "text/document_text.h"
+#include "text/text_lines.h"
 #include "text/use_statements.h"
 
 #include <QFileInfo>

@@ -7,14 +7,13 @@
 #include "documents/editor_view.h"
 #include "editor/editor_settings.h"
 #include "platform/clock.h"
-#include "platform/core/file_attributes.h"
+#include "platform/core/file_io.h"
 #include "platform/core/text1252.h"
 #include "platform/dialogs.h"
-#include "platform/overwrite_question.h"
 #include "platform/status_line.h"
 #include "settings/settings.h"
-#include "text/document_text.h"
 #include "text/insert_blocks.h"
+#include "text/text_lines.h"
 
 namespace zeph {
 

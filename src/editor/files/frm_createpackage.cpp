@@ -4,7 +4,6 @@
 #include "editor/files/frm_createpackage.h"
 
 #include "platform/dialogs.h"
-#include "platform/handlers.h"
 #include "ui_frm_createpackage.h"
 
 namespace zeph {

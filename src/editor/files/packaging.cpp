@@ -12,11 +12,9 @@
 #include "menus/menu_actions.h"
 #include "platform/core/file_io.h"
 #include "platform/dialogs.h"
-#include "platform/handlers.h"
 #include "platform/long_progress.h"
 #include "platform/process_launcher.h"
 #include "platform/status_line.h"
-#include "platform/zip/zip_pack.h"
 #include "platform/zip/zip_unpack.h"
 #include "settings/settings.h"
 

@@ -8,12 +8,11 @@
 #include "platform/clock.h"
 #include "platform/core/text1252.h"
 #include "platform/dialogs.h"
-#include "platform/handlers.h"
 #include "platform/status_line.h"
 #include "settings/settings.h"
 #include "settings/shared_settings.h"
-#include "text/document_text.h"
 #include "text/insert_blocks.h"
+#include "text/text_lines.h"
 
 #include <QFileInfo>
 

@@ -8,7 +8,7 @@
 #include "editor/files/file_opening.h"
 #include "editor/macros/framemacros.h"
 #include "menus/menu_actions.h"
-#include "platform/handlers.h"
+#include "platform/dialogs.h"
 #include "settings/colour_settings.h"
 #include "settings/settings.h"
 #include "settings/shared_settings.h"

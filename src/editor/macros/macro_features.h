@@ -5,7 +5,6 @@
 
 #include "documents/document.h"
 #include "editor/macros/macro_list.h"
-#include "editor/macros/macro_list_menu.h"
 #include "editor/macros/macro_operations.h"
 #include "platform/context.h"
 

@@ -11,6 +11,8 @@
 
 #include <memory>
 
+class QMenu;
+
 namespace zeph {
 
 class ColouredInsert;
@@ -96,6 +98,29 @@ private:
     MacroTable m_table;
     qsizetype m_heading = 0;
     QString m_listSelection;
+};
+
+class MenuActions;
+class MacroList;
+
+/// The pop-up menu of the macro list.
+class MacroListMenu : public QObject
+{
+    Q_OBJECT
+public:
+    MacroListMenu(const Context &context, MacroList &list, MenuActions &actions);
+
+    /// The menu mnuRHList for the selected macro.
+    std::unique_ptr<QMenu> build();
+
+Q_SIGNALS:
+    /// The pilot wants to read about the list.
+    void quickTipWanted();
+
+private:
+    Context m_context;
+    MacroList &m_list;
+    MenuActions &m_actions;
 };
 
 } // namespace zeph

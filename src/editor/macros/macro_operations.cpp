@@ -3,7 +3,7 @@
 
 #include "editor/macros/macro_operations.h"
 
-#include "documents/change.h"
+#include "documents/document.h"
 #include "documents/editor_texts.h"
 #include "documents/editor_view.h"
 #include "editor/files/file_saving.h"

@@ -3,8 +3,6 @@
 
 #include "platform/core/file_io.h"
 
-#include "platform/core/file_attributes.h"
-
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
@@ -112,6 +110,14 @@ Expected<void, FileError> writeFileAtomically(const QString &path, const QByteAr
         return failure(path, file.errorString());
     }
     return {};
+}
+
+bool isReadOnlyFile(const QString &path)
+{
+    constexpr QFile::Permissions anyWrite =
+        QFile::WriteOwner | QFile::WriteGroup | QFile::WriteOther;
+    const QFileInfo info(path);
+    return info.exists() && (!(info.permissions() & anyWrite) || !info.isWritable());
 }
 
 } // namespace zeph

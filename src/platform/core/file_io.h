@@ -25,4 +25,9 @@ Expected<QByteArray, FileError> readWholeFile(const QString &path);
 /// permissions of the file that it replaces; follows a symbolic link to its target.
 Expected<void, FileError> writeFileAtomically(const QString &path, const QByteArray &bytes);
 
+/// Whether a file is marked as read only. The mark counts, not whether this user could write in
+/// spite of it: somebody set it on purpose, and an administrator's rights do not undo that. A
+/// missing file is not read only.
+bool isReadOnlyFile(const QString &path);
+
 } // namespace zeph

@@ -38,4 +38,17 @@ Expected<void, FileError> writeProfileList(const ProfileFile &store, const Profi
                                            const QList<ProfileRow> &rows,
                                            const QList<ProfileEntry> &more = {});
 
+// Texts that a profile file can hold: no longer than the reads' buffer, in the file's code page.
+
+constexpr int longestStorable = profileTextBuffer - 1;
+
+bool isStorable(const QString &text);
+
+/// What stays of a field: what was typed, without the blanks around it, or what was there before
+/// when the store could not give it back.
+QString storableOr(const QString &typed, const QString &before);
+
+/// Tells the user the first character among the texts that cannot be stored; empty when all can.
+QString unstorableHint(const QStringList &texts);
+
 } // namespace zeph

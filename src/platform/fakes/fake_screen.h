@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "platform/screen.h"
+#include "platform/system_info.h"
 
 namespace zeph {
 

@@ -11,6 +11,8 @@
 
 #include <optional>
 
+class QMimeData;
+
 namespace zeph {
 
 /// A text offered twice: as plain text, and as RTF, which is written only when somebody asks.
@@ -35,5 +37,11 @@ bool holdsText(const QMimeData *data);
 QString plainTextOf(const QMimeData &data);
 /// The rich text; no value when there is none, or none that can be read.
 std::optional<RichText> richTextOf(const QMimeData &data);
+
+/// What a document takes of the clipboard: rich text in the document's font, size and weight, with
+/// its own colours; plain text in the plain format.
+RichText pastedText(const QMimeData &data, const CharFormat &plain);
+/// The clipboard's plain text in the plain format.
+RichText pastedSimpleText(const QMimeData &data, const CharFormat &plain);
 
 } // namespace zeph

@@ -6,9 +6,11 @@
 // Unpacks zips of unknown origin: no file is written outside the folder, none is overwritten
 // without a question, and limits keep a small zip from filling the disk.
 
+#include "platform/core/base.h"
 #include "platform/zip/zip_archive.h"
 
 #include <QStringList>
+#include <functional>
 
 namespace zeph {
 
@@ -43,5 +45,14 @@ struct UnpackReport {
 /// Unpacks below the folder, which ends in a separator and exists.
 UnpackReport unpackZip(ZipReader &zip, const QString &folder, const UnpackQuestions &questions,
                        const UnpackLimits &limits = {});
+
+/// Packs all files of a folder (with a closing separator) and of the folders in it into a zip, by
+/// their places below it. Links are left out, and so is the zip itself, which may lie there. The
+/// function is called before each file: its name, how many are done, how many there are; when it
+/// returns false, the packing stops. True when the zip was made; otherwise a file of its name stays
+/// as it was.
+Expected<bool, QString>
+packFolder(const QString &folder, const QString &zipPath,
+           const std::function<bool(const QString &name, int done, int all)> &progress);
 
 } // namespace zeph

@@ -5,9 +5,7 @@
 
 #include "platform/core/file_io.h"
 #include "platform/dialogs.h"
-#include "platform/handlers.h"
 #include "settings/settings.h"
-#include "text/document_text.h"
 #include "text/text_lines.h"
 #include "toolchain/toolchain_settings.h"
 

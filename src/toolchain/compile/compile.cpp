@@ -11,7 +11,7 @@
 #include "toolchain/compile/verdict.h"
 #include "toolchain/document_saver.h"
 #include "toolchain/handshake.h"
-#include "toolchain/tool_commands.h"
+#include "toolchain/hotas_ini.h"
 #include "toolchain/tool_scene.h"
 #include "toolchain/toolchain_settings.h"
 

@@ -14,9 +14,9 @@
 #include "toolchain/document_saver.h"
 #include "toolchain/games/games.h"
 #include "toolchain/handshake.h"
+#include "toolchain/hotas_ini.h"
 #include "toolchain/modes/cougar_modes.h"
 #include "toolchain/modes/profiles.h"
-#include "toolchain/tool_commands.h"
 #include "toolchain/tool_scene.h"
 #include "toolchain/toolchain_settings.h"
 

@@ -8,6 +8,7 @@
 
 #include <QWidget>
 
+#include <QDialog>
 #include <memory>
 
 class QLineEdit;
@@ -59,6 +60,32 @@ private:
     qint16 m_mode = 0;
     bool m_isShowing = false;
     std::unique_ptr<Ui::GameFields> m_ui;
+};
+
+class Dialogs;
+class GameFields;
+
+namespace Ui {
+class EnterGameName;
+}
+
+/// Asks for a game and what the Cougar needs for it. The list of games is left to the caller.
+class EnterGameName : public QDialog
+{
+    Q_OBJECT
+public:
+    /// Suggests a joystick file; if its path is empty, Windows mode.
+    EnterGameName(const Paths &paths, Dialogs &dialogs, const QString &joystickFile,
+                  QWidget *parent = nullptr);
+    ~EnterGameName() override;
+
+    Game game() const;
+
+private:
+    void update();
+
+    std::unique_ptr<Ui::EnterGameName> m_ui;
+    GameFields *m_fields;
 };
 
 } // namespace zeph

@@ -7,10 +7,9 @@
 #include "documents/documents.h"
 #include "documents/foreign_keyboard.h"
 #include "menus/menu_actions.h"
-#include "menus/menu_array.h"
 #include "menus/menu_settings.h"
 #include "settings/settings.h"
-#include "toolchain/games/entergamename.h"
+#include "toolchain/games/gamefields.h"
 
 #include <QAction>
 #include <QMenu>

@@ -4,13 +4,11 @@
 #include "toolchain/modes/cougar_modes.h"
 
 #include "platform/dialogs.h"
-#include "platform/handlers.h"
 #include "platform/input/joystick.h"
 #include "platform/status_line.h"
 #include "settings/settings.h"
 #include "toolchain/handshake.h"
 #include "toolchain/hotas_ini.h"
-#include "toolchain/tool_commands.h"
 #include "toolchain/tool_messages.h"
 #include "toolchain/toolchain_settings.h"
 

@@ -9,7 +9,7 @@
 #include "platform/status_line.h"
 #include "settings/settings.h"
 #include "toolchain/handshake.h"
-#include "toolchain/tool_commands.h"
+#include "toolchain/hotas_ini.h"
 #include "toolchain/tool_messages.h"
 #include "toolchain/toolchain_settings.h"
 

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Zeph authors
 // SPDX-License-Identifier: MIT
 
-#include "editor/edit/block_operations.h"
+#include "editor/edit/alignment_operations.h"
 
 #include "documents/undo_histories.h"
 #include "settings/colour_settings.h"

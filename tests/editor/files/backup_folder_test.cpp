@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Zeph authors
 // SPDX-License-Identifier: MIT
 
-#include "editor/files/backup_folder.h"
+#include "editor/files/backups.h"
 
 #include "tests/shell/shell_world.h"
 

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Zeph authors
 // SPDX-License-Identifier: MIT
 
-#include "documents/change.h"
+#include "documents/document.h"
 #include "editor/files/recovery.h"
 
 #include "editor/editor_settings.h"

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Zeph authors
 // SPDX-License-Identifier: MIT
 
-#include "platform/core/storable.h"
+#include "platform/core/profile_list.h"
 
 #include <gtest/gtest.h>
 

@@ -3,7 +3,6 @@
 
 #include "platform/zip/zip_archive.h"
 
-#include "platform/zip/zip_pack.h"
 #include "platform/zip/zip_unpack.h"
 #include "tests/support/temp_folder.h"
 #include "tests/support/zips.h"

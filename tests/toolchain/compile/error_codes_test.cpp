@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Zeph authors
 // SPDX-License-Identifier: MIT
 
-#include "toolchain/compile/error_codes.h"
+#include "toolchain/compile/compilerhelp.h"
 
 #include "tests/support/temp_folder.h"
 

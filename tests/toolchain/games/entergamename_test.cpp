@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Zeph authors
 // SPDX-License-Identifier: MIT
 
-#include "toolchain/games/entergamename.h"
+#include "toolchain/games/gamefields.h"
 
 #include "platform/fakes/scripted_dialogs.h"
 

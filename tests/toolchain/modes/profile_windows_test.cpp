@@ -1,9 +1,8 @@
 // SPDX-FileCopyrightText: The Zeph authors
 // SPDX-License-Identifier: MIT
 
-#include "toolchain/modes/formresetoptions.h"
+#include "toolchain/modes/profilechooser.h"
 #include "toolchain/modes/profiles.h"
-#include "toolchain/modes/selectprofileform.h"
 
 #include "platform/control_array.h"
 #include "tests/toolchain/toolchain_bench.h"

@@ -1,0 +1,138 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "platform/context.h"
+#include "platform/control_array.h"
+#include "preferences/preferences_page.h"
+#include "preferences/setting_fields.h"
+#include "toolchain/default_options.h"
+
+#include <memory>
+
+class QCheckBox;
+
+namespace zeph {
+
+namespace Ui {
+class OpenPage;
+}
+
+/// "Open/Save/Undo": opening, saving, autosave, backups and undo.
+class OpenPage : public PreferencesPage
+{
+    Q_OBJECT
+public:
+    OpenPage(const Context &context, QWidget *parent);
+    ~OpenPage() override;
+
+    void collect() override;
+    bool restores() const;
+
+Q_SIGNALS:
+    /// The tick of RestoreStatus flipped.
+    void restoresChanged(bool restores);
+    /// The pilot wants the undo memory emptied now.
+    void deleteUndosWanted();
+
+private:
+    void tidyAutoSave();
+    void browseBackups();
+
+    Context m_context;
+    std::unique_ptr<Ui::OpenPage> m_ui;
+    std::unique_ptr<SettingFields> m_fields;
+};
+
+namespace Ui {
+class FilesPage;
+}
+
+/// "File locations". The HOTAS folder holds from the moment that it is chosen, and for this run.
+class FilesPage : public PreferencesPage
+{
+    Q_OBJECT
+public:
+    FilesPage(const Context &context, QWidget *parent);
+    ~FilesPage() override;
+
+    void collect() override;
+
+private:
+    void browseHotas();
+    void browseWinZip();
+
+    Context m_context;
+    std::unique_ptr<Ui::FilesPage> m_ui;
+    std::unique_ptr<SettingFields> m_fields;
+};
+
+namespace Ui {
+class MiscPage;
+}
+
+/// "Misc.": what Zeph says where, the Games menu's caption, the DLY button, the mode detector.
+class MiscPage : public PreferencesPage
+{
+    Q_OBJECT
+public:
+    MiscPage(const Context &context, QWidget *parent);
+    ~MiscPage() override;
+
+    void collect() override;
+
+private:
+    Context m_context;
+    std::unique_ptr<Ui::MiscPage> m_ui;
+    std::unique_ptr<SettingFields> m_fields;
+};
+
+namespace Ui {
+class ZephPage;
+}
+
+/// "Zeph": the pilot's names, and options that stand on menus and in other windows, gathered.
+class ZephPage : public PreferencesPage
+{
+    Q_OBJECT
+public:
+    ZephPage(const Context &context, QWidget *parent);
+    ~ZephPage() override;
+
+    void collect() override;
+
+private:
+    Context m_context;
+    std::unique_ptr<Ui::ZephPage> m_ui;
+    std::unique_ptr<SettingFields> m_fields;
+};
+
+namespace Ui {
+class DefaultsPage;
+}
+
+/// "Default options": what the compiler does unless a file says otherwise, read anew from the
+/// toolchain's file.
+class DefaultsPage : public PreferencesPage
+{
+    Q_OBJECT
+public:
+    DefaultsPage(const Context &context, QWidget *parent);
+    ~DefaultsPage() override;
+
+    void collect() override;
+    /// As they were taken.
+    const DefaultOptions &options() const { return m_options; }
+    /// Whether they were taken as other than they had been read.
+    bool haveChanged() const { return !(m_options == m_read); }
+
+private:
+    Context m_context;
+    DefaultOptions m_read;
+    DefaultOptions m_options;
+    std::unique_ptr<Ui::DefaultsPage> m_ui;
+    ControlArray<QCheckBox> m_ticks;
+};
+
+} // namespace zeph
