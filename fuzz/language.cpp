@@ -47,7 +47,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     const FilePair pair = parsePair(joystick, macro);
     walk(pair.joystick);
     walk(pair.macro);
-    for (const Statement &statement : pair.joystick.statements) {
+    for (const JoystickStatement &statement : pair.joystick.statements) {
         require(!pair.joystick.at(statement.place).isEmpty());
         require(statement.body.items.end <= pair.joystick.items.size());
         pair.joystick.at(statement.subject);

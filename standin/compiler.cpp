@@ -25,7 +25,7 @@ constexpr QStringView compilerSection = u"Compiler";
 // Readers of HOTAS.ini use a buffer of 500 characters.
 constexpr int longestError = 400;
 
-struct Request {
+struct CompileRequest {
     QString file;
     bool download = false;
     bool enable = false;
@@ -41,9 +41,9 @@ struct Verdict {
     QString profile;
 };
 
-Request requestFrom(const QStringList &arguments)
+CompileRequest requestFrom(const QStringList &arguments)
 {
-    Request request;
+    CompileRequest request;
     bool known = false;
     for (const QString &argument : arguments) {
         const QString upper = argument.toUpper();
@@ -79,7 +79,7 @@ Verdict failure(const OrderedError &ordered)
 QString profileOf(const language::FilePair &pair)
 {
     QString profile;
-    for (const language::Statement &statement : pair.joystick.statements) {
+    for (const language::JoystickStatement &statement : pair.joystick.statements) {
         const bool isProfile = statement.useForm >= 0
             && language::useForms()[size_t(statement.useForm)].head == u"PROFILE"_w;
         if (!isProfile)
@@ -128,7 +128,7 @@ QString seconds(qint64 milliseconds)
 }
 
 // The entries for what the Cougar remembers after a download.
-QList<ProfileEntry> memoryEntries(const Request &request, const Verdict &verdict,
+QList<ProfileEntry> memoryEntries(const CompileRequest &request, const Verdict &verdict,
                                   const Options &options)
 {
     QList<ProfileEntry> entries{ { memorySection.toString(), u"LoadedFile"_s, request.file } };
@@ -140,7 +140,7 @@ QList<ProfileEntry> memoryEntries(const Request &request, const Verdict &verdict
     return entries;
 }
 
-QList<ProfileEntry> verdictEntries(const Request &request, const Verdict &verdict,
+QList<ProfileEntry> verdictEntries(const CompileRequest &request, const Verdict &verdict,
                                    const QString &compileTime, const QString &downloadTime)
 {
     const QString section = compilerSection.toString();
@@ -155,7 +155,7 @@ QList<ProfileEntry> verdictEntries(const Request &request, const Verdict &verdic
     };
 }
 
-QString told(const Request &request, const Verdict &verdict)
+QString told(const CompileRequest &request, const Verdict &verdict)
 {
     if (!verdict.ok)
         return u"%1 (line %2)"_s.arg(verdict.error).arg(verdict.line);
@@ -171,7 +171,7 @@ Outcome runCompiler(const QStringList &arguments, const QString &hotasFolder,
                     const Options &options)
 {
     Outcome outcome{ 1, { introduction(u"HOTASCompiler") } };
-    const Request request = requestFrom(arguments);
+    const CompileRequest request = requestFrom(arguments);
     const QString found = existingPath(hotasFolder + u"HOTAS.ini"_s);
     const ProfileFile ini(found.isEmpty() ? hotasFolder + u"HOTAS.ini"_s : found);
     const bool sameName = ini.integer(u"Defaults", u"MDEFrequired", 1) != 0;

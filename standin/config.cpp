@@ -56,7 +56,7 @@ constexpr PageSwitch pages[] = {
     { u"/CURVES", u"response curves, trim and deadzones" },
 };
 
-struct Request {
+struct ModeRequest {
     QList<const Switch *> changes;
     bool isMode = false;
     bool isProfile = false;
@@ -65,9 +65,9 @@ struct Request {
 };
 
 // The profile's name follows /P directly or is the next argument.
-Request requestFrom(const QStringList &arguments)
+ModeRequest requestFrom(const QStringList &arguments)
 {
-    Request request;
+    ModeRequest request;
     for (const QString &argument : arguments) {
         const QString upper = argument.toUpper();
         if (upper == u"/MODE") {
@@ -94,7 +94,7 @@ Outcome finished(Outcome outcome, const Expected<void, FileError> &written)
     return outcome;
 }
 
-Outcome applyProfile(const Request &request, const QString &hotasFolder, const ProfileFile &ini,
+Outcome applyProfile(const ModeRequest &request, const QString &hotasFolder, const ProfileFile &ini,
                      Outcome outcome)
 {
     const QString path = hotasFolder + u"Profiles/"_s + nativeSeparators(request.profile);
@@ -131,7 +131,7 @@ Outcome panelWindow(const QStringList &arguments, Outcome outcome)
     return outcome;
 }
 
-Outcome changeModes(const Request &request, const ProfileFile &ini, const Options &options,
+Outcome changeModes(const ModeRequest &request, const ProfileFile &ini, const Options &options,
                     Outcome outcome)
 {
     qint32 axes = ini.integer(modeSection, u"Axes", 0);
@@ -156,7 +156,7 @@ Outcome changeModes(const Request &request, const ProfileFile &ini, const Option
 Outcome runConfig(const QStringList &arguments, const QString &hotasFolder, const Options &options)
 {
     Outcome outcome{ 1, { introduction(u"HOTASConfig") } };
-    const Request request = requestFrom(arguments);
+    const ModeRequest request = requestFrom(arguments);
     if (!request.isMode) {
         return panelWindow(arguments, outcome);
     }

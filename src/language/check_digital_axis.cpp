@@ -121,7 +121,7 @@ void checkCentre(Reporter &reporter, Parts parts)
 
 } // namespace
 
-void checkDigitalAxis(Reporter &reporter, const Statement &statement)
+void checkDigitalAxis(Reporter &reporter, const JoystickStatement &statement)
 {
     const Source &source = reporter.source();
     for (int index = statement.body.branches.first; index < statement.body.branches.end; ++index) {

@@ -17,7 +17,7 @@ constexpr int lastDirectXButton = 32;
 class UseBody
 {
 public:
-    UseBody(const Source &source, const Statement &statement)
+    UseBody(const Source &source, const JoystickStatement &statement)
         : m_source(source), m_at(statement.body.items.first), m_end(statement.body.items.end)
     {
     }
@@ -57,7 +57,7 @@ void checkMouseType(Reporter &reporter, UseBody body)
         reporter.report(UnknownMouseType, type->place, u"There is no mouse type %1"_s.arg(word));
 }
 
-void checkHatRole(Reporter &reporter, const Statement &statement, UseBody body)
+void checkHatRole(Reporter &reporter, const JoystickStatement &statement, UseBody body)
 {
     const Item *role = body.next();
     if (!role || !rowOf(body.word(role)).is(HatUseRole)) {
@@ -74,7 +74,7 @@ void checkHatRole(Reporter &reporter, const Statement &statement, UseBody body)
                         u"The mouse rate %1 lies outside 1 to %2"_s.arg(*rate).arg(lastMouseRate));
 }
 
-void checkAxesConfiguration(Reporter &reporter, const Statement &statement, UseBody body)
+void checkAxesConfiguration(Reporter &reporter, const JoystickStatement &statement, UseBody body)
 {
     std::array<bool, lastDirectXAxis + 1> used{};
     bool understood = true;
@@ -160,7 +160,7 @@ void checkAssignment(Reporter &reporter, UseBody body)
 
 } // namespace
 
-void checkUse(Reporter &reporter, const Statement &statement)
+void checkUse(Reporter &reporter, const JoystickStatement &statement)
 {
     const UseBody body(reporter.source(), statement);
     if (statement.useForm < 0)

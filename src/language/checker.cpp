@@ -37,7 +37,7 @@ void checkBodies(Reporter &reporter)
     checkCalls(reporter);
 }
 
-void checkButton(Reporter &reporter, const Statement &statement)
+void checkButton(Reporter &reporter, const JoystickStatement &statement)
 {
     const QStringView name = reporter.source().at(statement.subject);
     const Word &row = rowOf(name);
@@ -48,7 +48,7 @@ void checkButton(Reporter &reporter, const Statement &statement)
         reporter.report(UnknownControl, statement.subject, u"There is no control %1"_s.arg(name));
 }
 
-void checkFlagSubject(Reporter &reporter, const Statement &statement)
+void checkFlagSubject(Reporter &reporter, const JoystickStatement &statement)
 {
     const QStringView name = reporter.source().at(statement.subject);
     if (name.isEmpty())
@@ -82,7 +82,7 @@ bool looksLikeControl(QStringView word)
     });
 }
 
-void checkDefinition(Reporter &reporter, const Statement &statement)
+void checkDefinition(Reporter &reporter, const JoystickStatement &statement)
 {
     checkFlagSubject(reporter, statement);
     const Source &source = reporter.source();
@@ -95,7 +95,7 @@ void checkDefinition(Reporter &reporter, const Statement &statement)
 }
 
 // In "CURVE /I (THR, 4)" the arguments follow the modifiers, so they are groups and no call.
-void checkCurveStatement(Reporter &reporter, const Statement &statement)
+void checkCurveStatement(Reporter &reporter, const JoystickStatement &statement)
 {
     const Source &source = reporter.source();
     for (int index = statement.body.items.first; index < statement.body.items.end; ++index) {
@@ -105,7 +105,7 @@ void checkCurveStatement(Reporter &reporter, const Statement &statement)
     }
 }
 
-void checkDisable(Reporter &reporter, const Statement &statement)
+void checkDisable(Reporter &reporter, const JoystickStatement &statement)
 {
     const Source &source = reporter.source();
     const int index = statement.body.items.first + 1;
@@ -122,7 +122,7 @@ void checkDisable(Reporter &reporter, const Statement &statement)
         reporter.report(UnknownAxis, item.place, u"There is no axis %1"_s.arg(name));
 }
 
-using StatementCheck = void (*)(Reporter &, const Statement &);
+using StatementCheck = void (*)(Reporter &, const JoystickStatement &);
 
 struct StatementRule {
     StatementKind kind;
@@ -142,7 +142,7 @@ constexpr StatementRule rules[] = {
 // Positions in pixels need USE SCREEN_RESOLUTION; percentages do not.
 void checkScreen(Reporter &reporter, const JoystickFile &joystick)
 {
-    for (const Statement &statement : joystick.statements) {
+    for (const JoystickStatement &statement : joystick.statements) {
         if (statement.useForm >= 0
             && useForms()[size_t(statement.useForm)].head == u"SCREEN_RESOLUTION"_w)
             return;
@@ -165,7 +165,7 @@ QList<Finding> check(const FilePair &pair)
     QList<Finding> findings;
     Reporter joystick(pair.joystick, File::Joystick, findings);
     checkBodies(joystick);
-    for (const Statement &statement : pair.joystick.statements) {
+    for (const JoystickStatement &statement : pair.joystick.statements) {
         for (const StatementRule &rule : rules) {
             if (rule.kind == statement.kind)
                 rule.check(joystick, statement);

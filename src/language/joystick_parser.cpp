@@ -190,7 +190,7 @@ private:
     JoystickFile &m_file;
     QStringView m_text;
     BodyParser m_body;
-    Statement m_statement;
+    JoystickStatement m_statement;
     bool m_open = false;
     /// The line ended after BTN or DEF, so the name is on a later line.
     bool m_nameIsDue = false;

@@ -106,7 +106,7 @@ qint64 compiledSize(const FilePair &pair)
     for (const int index : orderMacros(pair.macro).order)
         macroSizes[size_t(index)] = bodySize(pair.macro, pair.macro.macros[index].body, macroSizes);
     qint64 size = 0;
-    for (const Statement &statement : pair.joystick.statements) {
+    for (const JoystickStatement &statement : pair.joystick.statements) {
         size += statementBytes + bodySize(pair.joystick, statement.body, macroSizes);
         size = std::min(size, largestSize);
     }

@@ -51,7 +51,7 @@ std::vector<Line> usableLines(const MacroFile &file)
 
 void addHeading(MacroFile &file, const Line &middle)
 {
-    Heading heading;
+    MacroHeading heading;
     const QStringView line = wholeLine(file, middle);
     heading.title = line.sliced(std::min(rem.size(), line.size())).trimmed().toString();
     heading.place = { middle.first, line.size(), middle.number };

@@ -136,7 +136,7 @@ enum class StatementKind : quint8 {
     Unknown,
 };
 
-struct Statement {
+struct JoystickStatement {
     StatementKind kind = StatementKind::Unknown;
     /// From the keyword to the last character that is neither blank nor comment.
     Place place;
@@ -160,7 +160,7 @@ struct Macro {
     Body body;
 };
 
-struct Heading {
+struct MacroHeading {
     QString title;
     Place place;
     /// Index of the next macro in the file; a heading without macros has the one of the next
@@ -201,12 +201,12 @@ struct Source {
 };
 
 struct JoystickFile : Source {
-    QList<Statement> statements;
+    QList<JoystickStatement> statements;
 };
 
 struct MacroFile : Source {
     QList<Macro> macros;
-    QList<Heading> headings;
+    QList<MacroHeading> headings;
 };
 
 struct FilePair {

@@ -49,8 +49,8 @@ void checkCurve(Reporter &reporter, const Arguments &arguments);
 /// Checks the arguments of all calls.
 void checkCalls(Reporter &reporter);
 /// Checks the body of a digital axis statement.
-void checkDigitalAxis(Reporter &reporter, const Statement &statement);
-void checkUse(Reporter &reporter, const Statement &statement);
+void checkDigitalAxis(Reporter &reporter, const JoystickStatement &statement);
+void checkUse(Reporter &reporter, const JoystickStatement &statement);
 /// Finds macros that call themselves.
 void checkMacroCycles(Reporter &reporter, const MacroFile &macro);
 

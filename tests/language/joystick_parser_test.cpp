@@ -20,12 +20,12 @@ JoystickFile parsed(const QString &text, const QString &macros = {})
 std::vector<std::string> statementTexts(const JoystickFile &file)
 {
     std::vector<std::string> texts;
-    for (const Statement &statement : file.statements)
+    for (const JoystickStatement &statement : file.statements)
         texts.push_back(file.at(statement.place).toString().toStdString());
     return texts;
 }
 
-std::vector<std::string> itemTexts(const JoystickFile &file, const Statement &statement)
+std::vector<std::string> itemTexts(const JoystickFile &file, const JoystickStatement &statement)
 {
     std::vector<std::string> texts;
     for (int i = statement.body.items.first; i < statement.body.items.end; ++i)
@@ -36,7 +36,7 @@ std::vector<std::string> itemTexts(const JoystickFile &file, const Statement &st
 std::vector<StatementKind> kinds(const JoystickFile &file)
 {
     std::vector<StatementKind> result;
-    for (const Statement &statement : file.statements)
+    for (const JoystickStatement &statement : file.statements)
         result.push_back(statement.kind);
     return result;
 }

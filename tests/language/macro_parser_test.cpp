@@ -29,7 +29,7 @@ std::vector<std::string> names(const MacroFile &file)
 std::vector<std::string> titles(const MacroFile &file)
 {
     std::vector<std::string> result;
-    for (const Heading &heading : file.headings)
+    for (const MacroHeading &heading : file.headings)
         result.push_back(heading.title.toStdString());
     return result;
 }

@@ -34,7 +34,7 @@ void expectSound(const FilePair &pair)
 {
     expectSound(pair.joystick);
     expectSound(pair.macro);
-    for (const Statement &statement : pair.joystick.statements) {
+    for (const JoystickStatement &statement : pair.joystick.statements) {
         const QStringView before = QStringView(pair.joystick.text).first(statement.place.position);
         ASSERT_EQ(statement.place.line, before.count(u'\n') + 1);
         ASSERT_GT(statement.place.length, 0);

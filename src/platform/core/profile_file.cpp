@@ -19,7 +19,7 @@ namespace {
 constexpr QByteArrayView byteOrderMark = "\xEF\xBB\xBF";
 
 /// Offsets into the file: [start, end) is the line, next the start of the line after it.
-struct Line {
+struct ProfileLine {
     qsizetype start = 0;
     qsizetype end = 0;
     qsizetype next = 0;
@@ -34,7 +34,7 @@ public:
     {
     }
 
-    bool next(Line &line)
+    bool next(ProfileLine &line)
     {
         if (m_next >= m_file.size()) {
             return false;
@@ -123,7 +123,7 @@ struct KeyPlace {
     bool hasSection = false;
     qsizetype sectionEnd = 0; ///< after the section's last line that is not empty
     bool hasKey = false;
-    Line line; ///< the key's
+    ProfileLine line; ///< the key's
     qsizetype valueStart = 0; ///< after the "=" and its blanks
     qsizetype valueEnd = 0; ///< the line's end, blanks included
 };
@@ -132,7 +132,7 @@ KeyPlace placeOf(const QByteArray &file, QStringView section, QStringView key)
 {
     KeyPlace place;
     Lines lines(file);
-    Line line;
+    ProfileLine line;
     while (lines.next(line)) {
         const QByteArrayView bytes = QByteArrayView(file).sliced(line.start, line.end - line.start);
         if (const auto name = sectionOf(bytes)) {
@@ -181,7 +181,7 @@ QString valueAt(const QByteArray &file, const KeyPlace &place)
 QByteArray lineEndOf(const QByteArray &file)
 {
     Lines lines(file);
-    Line line;
+    ProfileLine line;
     if (!lines.next(line) || line.next == line.end) {
         return "\r\n";
     }
