@@ -25,6 +25,12 @@ Expected<QByteArray, FileError> readWholeFile(const QString &path);
 /// permissions of the file that it replaces; follows a symbolic link to its target.
 Expected<void, FileError> writeFileAtomically(const QString &path, const QByteArray &bytes);
 
+/// As writeFileAtomically(), but only when the file still holds what it held, for files that other
+/// programs change too. A missing file holds nothing. False, and nothing changed, when it holds
+/// something else by now.
+Expected<bool, FileError> replaceFile(const QString &path, const QByteArray &held,
+                                      const QByteArray &bytes);
+
 /// Whether a file is marked as read only. The mark counts, not whether this user could write in
 /// spite of it: somebody set it on purpose, and an administrator's rights do not undo that. A
 /// missing file is not read only.
