@@ -44,8 +44,11 @@ public:
     /// Guards the macro text against the user.
     void setProtected(bool on);
     bool isProtected() const { return m_protected; }
-    /// Whether the selected text takes no changes; tells the refusal when it is the protected one.
+    /// Whether the selected text takes no changes, which is told.
     bool refuseProtected();
+    /// Whether the text is on its way to the Cougar and must neither change nor be replaced
+    /// meanwhile, which the status line tells.
+    bool refuseSent(DocumentKind kind);
 
     /// Writes what a tool has made into the selected document, over the selection, in its colours:
     /// one step to undo, and the caret goes to its end. False when the text takes no changes: a

@@ -3,11 +3,14 @@
 
 #include "shell/main_scene.h"
 
+#include "documents/documents.h"
 #include "documents/editor_view.h"
 #include "editor/editor.h"
 #include "editor/files/file_opening.h"
 #include "editor/files/file_saving.h"
+#include "language/error_codes.h"
 #include "platform/dialogs.h"
+#include "platform/status_line.h"
 #include "platform/tool_windows.h"
 #include "shell/help_menu.h"
 #include "shell/main_status_bar.h"
@@ -16,12 +19,20 @@
 #include "toolchain/compile/compilerhelp.h"
 #include "toolchain/cougar_tools.h"
 
+#include <QFileInfo>
+
 namespace zeph {
 
 namespace {
 
 /// The help topic on compiler errors.
 constexpr int errorsTopic = 410;
+
+bool isSameFile(const QString &one, const QString &other)
+{
+    const QString found = QFileInfo(one).canonicalFilePath();
+    return one == other || (!found.isEmpty() && found == QFileInfo(other).canonicalFilePath());
+}
 
 } // namespace
 
@@ -76,15 +87,23 @@ CompilerHelp *MainScene::makeCompilerHelp(QWidget *owner)
     auto *help = new CompilerHelp(m_context.paths.infoFolder() + u"Error codes.rtf"_s, owner);
     connect(help, &CompilerHelp::highlightRequested, this,
             guarded(m_context.dialogs,
-                    [this](int line, const QString &text) { HighlightErrorLine(line, text); }));
+                    [this](const CompilerError &error) { HighlightErrorLine(error); }));
     connect(help, &CompilerHelp::helpRequested, this,
             guarded(m_context.dialogs, [this] { m_parts.help.showTopic(errorsTopic); }));
     return help;
 }
 
-void MainScene::HighlightErrorLine(int line, const QString &errorText)
+void MainScene::HighlightErrorLine(const CompilerError &error)
 {
-    m_parts.editor.HighlightErrorLine(line, errorText);
+    const Document &document = m_parts.editor.documents().of(language::documentOfError(error.text));
+    if (isSameFile(document.path(), error.file().path)) {
+        m_parts.editor.HighlightErrorLine(error.line, error.text);
+        return;
+    }
+    const QString note = u" (in %1, which isn't open any more)"_s.arg(error.file().name);
+    if (!m_context.status.text().endsWith(note)) {
+        m_context.status.setText(m_context.status.text() + note);
+    }
 }
 
 void MainScene::ResetFocusToEditor()

@@ -38,9 +38,10 @@ public:
         m_done += u"help "_s + error.text;
         shown = error;
     }
-    void HighlightErrorLine(int line, const QString &errorText) override
+    void HighlightErrorLine(const CompilerError &error) override
     {
-        m_done += u"highlight %1 %2"_s.arg(line).arg(errorText);
+        m_done += u"highlight %1 %2"_s.arg(error.line).arg(error.text);
+        shown = error;
     }
     void ResetFocusToEditor() override { m_done += u"focus"_s; }
     void OpenPreviouslySavedFiles(const QString &path) override

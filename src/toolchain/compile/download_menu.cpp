@@ -4,6 +4,7 @@
 #include "toolchain/compile/download_menu.h"
 
 #include "menus/menu_actions.h"
+#include "platform/status_line.h"
 #include "settings/settings.h"
 #include "settings/settings_files.h"
 #include "toolchain/default_options.h"
@@ -70,10 +71,15 @@ void DownloadMenu::DownloadArray1_Click(int index)
 
 void DownloadMenu::SaveDownloadMode()
 {
-    // A failure is not told: the ticks hold for this run all the same.
-    (void)saveSettings(m_context.settings, settingsFilesOf(m_context.paths),
-                       { &DefaultOptions::DownloadMode, &ToolchainSettings::NumlockDownloadMode,
-                         &ToolchainSettings::RunAppsWithDownload });
+    const auto saved =
+        saveSettings(m_context.settings, settingsFilesOf(m_context.paths),
+                     { &DefaultOptions::DownloadMode, &ToolchainSettings::NumlockDownloadMode,
+                       &ToolchainSettings::RunAppsWithDownload });
+    if (!saved) {
+        // No box: the ticks hold for this run all the same.
+        m_context.status.setText(u" Your choice holds until I end, but I couldn't keep it. "_s
+                                 + saved.error().path + u": "_s + saved.error().reason);
+    }
 }
 
 void DownloadMenu::applySettings()
