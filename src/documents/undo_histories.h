@@ -31,7 +31,7 @@ public:
     void UpdateUndoRedoMenus();
     /// Starts a document's history over with its present text.
     void startOver(DocumentKind kind);
-    /// Start a document's history over, as a save does while UndoClearOnSave is on.
+    /// Starts the history over, as a save does while UndoClearOnSave is on.
     void DeleteUndosOnSaveJ() { startOver(DocumentKind::Joystick); }
     void DeleteUndosOnSaveM() { startOver(DocumentKind::Macro); }
     /// Forgets the steps of both documents, to give their memory back.
