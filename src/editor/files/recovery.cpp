@@ -24,7 +24,8 @@ namespace {
 
 constexpr DocumentKind bothKinds[] = { DocumentKind::Joystick, DocumentKind::Macro };
 
-/// The bytes of a text for the backup folder, in the encoding of its own file if that can hold it.
+/// The bytes of a text for the backup folder: Windows-1252 as in its own file or, if that lacks one
+/// of its characters, UTF-8.
 QByteArray bytesOf(const QString &text)
 {
     return firstNot1252(text) < 0 ? documentBytes(text) : text.toUtf8();
