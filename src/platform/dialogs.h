@@ -30,6 +30,10 @@ struct Box {
     BoxIcon icon = BoxIcon::None;
     QList<BoxButton> buttons = { BoxButton::Ok };
     BoxButton defaultButton = BoxButton::Ok;
+    /// The caption of a tick below the text; without one there is no tick.
+    QString tick = {};
+    /// Receives the tick's state when the box closes.
+    std::function<void(bool)> ticked = {};
 };
 
 /// An open or save dialog. The filter has the form "Caption|*.a;*.b|Caption|*.c".

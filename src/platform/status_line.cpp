@@ -53,4 +53,12 @@ void StatusLine::setModePicture(int picture)
     }
 }
 
+void StatusLine::setStandIns(bool inUse)
+{
+    if (m_standIns != inUse) {
+        m_standIns = inUse;
+        Q_EMIT standInsChanged(inUse);
+    }
+}
+
 } // namespace zeph

@@ -40,6 +40,10 @@ public:
     int modePicture() const { return m_modePicture; }
     void setModePicture(int picture);
 
+    /// Whether the tools in use are the stand-ins, so that nothing reaches a Cougar.
+    bool standIns() const { return m_standIns; }
+    void setStandIns(bool inUse);
+
 Q_SIGNALS:
     void textChanged(const QString &text);
     /// The message line is to be on the screen before this returns.
@@ -48,6 +52,7 @@ Q_SIGNALS:
     void lineTextChanged(const QString &text);
     void savedChanged(int picture, const QString &tooltip);
     void modePictureChanged(int picture);
+    void standInsChanged(bool inUse);
 
 private:
     QString m_text;
@@ -56,6 +61,7 @@ private:
     int m_savedPicture = 1;
     QString m_savedTooltip;
     int m_modePicture = 1;
+    bool m_standIns = false;
 };
 
 } // namespace zeph

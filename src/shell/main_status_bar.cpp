@@ -68,9 +68,13 @@ MainStatusBar::MainStatusBar(const Context &context, QWidget *parent)
     m_message->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     m_message->setAttribute(Qt::WA_TransparentForMouseEvents);
     addWidget(m_message, 1);
-    m_mode = makePanel(2, u"Cougar mode"_s);
-    m_line = makePanel(3, {});
-    m_saved = makePanel(4, u"Saved state"_s);
+    m_standIns = makePanel(u"Panel_StandIns"_s, {});
+    m_standIns->setText(u"Stand-in tools"_s);
+    m_standIns->setToolTip(u"The tools in use are the stand-ins that come with Zeph: they check "
+                           "files, and nothing reaches a stick."_s);
+    m_mode = makePanel(u"Panel_2"_s, u"Cougar mode"_s);
+    m_line = makePanel(u"Panel_3"_s, {});
+    m_saved = makePanel(u"Panel_4"_s, u"Saved state"_s);
     m_line->setMinimumWidth(fontMetrics().horizontalAdvance(u"Line no: 99999"_s));
 
     const StatusLine &status = context.status;
@@ -83,6 +87,8 @@ MainStatusBar::MainStatusBar(const Context &context, QWidget *parent)
     connect(&status, &StatusLine::lineTextChanged, m_line, &QLabel::setText);
     connect(&status, &StatusLine::modePictureChanged, this, &MainStatusBar::showMode);
     connect(&status, &StatusLine::savedChanged, this, &MainStatusBar::showSaved);
+    connect(&status, &StatusLine::standInsChanged, m_standIns, &QLabel::setVisible);
+    m_standIns->setVisible(status.standIns());
     m_message->setText(status.text());
     m_message->setToolTip(status.textTooltip());
     m_line->setText(status.lineText());
@@ -91,10 +97,10 @@ MainStatusBar::MainStatusBar(const Context &context, QWidget *parent)
     showSaved(status.savedPicture(), status.savedTooltip());
 }
 
-QLabel *MainStatusBar::makePanel(int number, const QString &accessibleName)
+QLabel *MainStatusBar::makePanel(const QString &name, const QString &accessibleName)
 {
     auto *panel = new QLabel(this);
-    panel->setObjectName(u"Panel_"_s + QString::number(number));
+    panel->setObjectName(name);
     panel->setAccessibleName(accessibleName);
     // The bar itself sees the mouse, so that one rule decides by the distance from its left end.
     panel->setAttribute(Qt::WA_TransparentForMouseEvents);
@@ -134,8 +140,8 @@ bool MainStatusBar::event(QEvent *event)
 {
     if (event->type() == QEvent::ToolTip) {
         const auto *help = static_cast<QHelpEvent *>(event);
-        for (const QLabel *panel : { m_message, m_mode, m_saved }) {
-            if (panel->geometry().contains(help->pos())) {
+        for (const QLabel *panel : { m_message, m_standIns, m_mode, m_saved }) {
+            if (panel->isVisible() && panel->geometry().contains(help->pos())) {
                 QToolTip::showText(help->globalPos(), panel->toolTip(), this);
                 return true;
             }

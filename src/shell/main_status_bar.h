@@ -64,12 +64,13 @@ protected:
     void mouseReleaseEvent(QMouseEvent *event) override;
 
 private:
-    QLabel *makePanel(int number, const QString &accessibleName);
+    QLabel *makePanel(const QString &name, const QString &accessibleName);
     void showMode(int picture);
     void showSaved(int picture, const QString &tooltip);
 
     Context m_context;
     QLabel *m_message;
+    QLabel *m_standIns;
     QLabel *m_mode;
     QLabel *m_line;
     QLabel *m_saved;

@@ -63,6 +63,10 @@ void Download::download()
     if (!canBegin() || !joystickFileMayGo() || !macroFileMayDiffer()) {
         return;
     }
+    if (m_parts.documents.joystick().path().contains(u'"')) {
+        m_context.dialogs.box(quoteInNameBox(m_parts.documents.joystick().path()));
+        return;
+    }
     const bool resetsAxes = m_context.settings.of<ToolchainSettings>().UseResetProfile;
     if (resetsAxes && !m_parts.profiles.ApplyDefaultProfile()) {
         return;
@@ -166,6 +170,7 @@ void Download::tellOutcome(const SentFiles &sent, TextLock &lock)
 
 void Download::succeed(TextLock &lock)
 {
+    m_parts.afterDownload.tellStandIn();
     m_parts.afterDownload.GetAppsToRun(m_parts.documents.joystick().text());
     // In Windows mode the Cougar sends no keys to test.
     if (m_context.settings.of<ToolchainSettings>().RunKeyTest
@@ -179,9 +184,12 @@ void Download::succeed(TextLock &lock)
 /// Opens the Key Tester, or the tester that the user prefers.
 void Download::openKeyTester()
 {
-    m_parts.actions.trigger(m_context.settings.of<SharedSettings>().DefaultToDX8KeyTester
-                                ? u"mnuAppsDX8_0"
-                                : u"mnuAppsKeyTester");
+    const QStringView tester = m_context.settings.of<SharedSettings>().DefaultToDX8KeyTester
+        ? u"mnuAppsDX8_0"
+        : u"mnuAppsKeyTester";
+    if (!m_parts.actions.trigger(tester)) {
+        m_context.status.setText(u' ' + m_parts.actions.lackOf(tester));
+    }
 }
 
 void Download::fail(const VerdictTelling &telling, const CompilerVerdict &verdict,

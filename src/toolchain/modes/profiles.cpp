@@ -103,10 +103,14 @@ bool Profiles::ApplyDefaultProfile(const QString &name, CalibrationRequest calib
     return true;
 }
 
-/// Whether the profile is in the tools' folder; a missing one is told.
+/// Whether the profile is in the tools' folder and can be named to a tool; if not, it is told.
 bool Profiles::isThere(const QString &name)
 {
     if (fileExists(profilesFolder(m_context.paths) + name + profileExtension.toString())) {
+        if (name.contains(u'"')) {
+            m_context.dialogs.box(quoteInNameBox(name));
+            return false;
+        }
         return true;
     }
     const bool isStored =
