@@ -30,6 +30,7 @@ struct Box {
     BoxIcon icon = BoxIcon::None;
     QList<BoxButton> buttons = { BoxButton::Ok };
     BoxButton defaultButton = BoxButton::Ok;
+    QStringList captions = {}; ///< of the buttons, in their order; empty for the usual ones
 };
 
 /// An open or save dialog. The filter has the form "Caption|*.a;*.b|Caption|*.c".

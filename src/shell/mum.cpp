@@ -10,6 +10,7 @@
 #include "platform/icons.h"
 #include "platform/status_line.h"
 #include "platform/tool_windows.h"
+#include "platform/window_places.h"
 #include "shell/cool_bar.h"
 #include "shell/main_status_bar.h"
 #include "shell/settings/shell_settings.h"
@@ -20,12 +21,6 @@
 #include <QStatusTipEvent>
 
 namespace zeph {
-
-namespace {
-
-/// As large as the window is when the store names no size.
-
-} // namespace
 
 Mum::Mum(const Context &context)
     : m_context(context), m_toolWindows(new ToolWindows(this)),
@@ -59,28 +54,37 @@ WindowPlace Mum::place() const
     const auto state = isMinimized() ? WindowState::Minimised
         : isMaximized()              ? WindowState::Maximised
                                      : WindowState::Normal;
-    return { .left = double(twipsFromPixels(x())),
-             .top = double(twipsFromPixels(y())),
-             .width = double(twipsFromPixels(width())),
-             .height = double(twipsFromPixels(height())),
+    const QRect place = normalPlace(*this);
+    return { .left = double(twipsFromPixels(place.x())),
+             .top = double(twipsFromPixels(place.y())),
+             .width = double(twipsFromPixels(place.width())),
+             .height = double(twipsFromPixels(place.height())),
              .state = state };
 }
 
 void Mum::setPlace(const WindowPlace &place)
 {
-    if (place.state == WindowState::Maximised) {
-        // The size for a later restore. The first dialogs open over this place, before the system
-        // has maximised the window.
-        resize(pixelsFromTwips(defaultOf(&ShellSettings::MumWidthAtStartup)),
-               pixelsFromTwips(defaultOf(&ShellSettings::MumHeightAtStartup)));
-        QRect restored = rect();
-        restored.moveCenter(screen()->availableGeometry().center());
-        move(restored.topLeft());
-        setWindowState(windowState() | Qt::WindowMaximized);
+    const QRect wanted(pixelsFromTwips(place.left), pixelsFromTwips(place.top),
+                       pixelsFromTwips(place.width), pixelsFromTwips(place.height));
+    if (place.state != WindowState::Maximised) {
+        restorePlace(*this, wanted);
         return;
     }
-    resize(pixelsFromTwips(place.width), pixelsFromTwips(place.height));
-    move(pixelsFromTwips(place.left), pixelsFromTwips(place.top));
+    const QRect usual(0, 0, pixelsFromTwips(defaultOf(&ShellSettings::MumWidthAtStartup)),
+                      pixelsFromTwips(defaultOf(&ShellSettings::MumHeightAtStartup)));
+    const QRect available = screen()->availableGeometry();
+    // A maximised window's own size, which older stores hold, is none to go back to.
+    const bool coversScreen =
+        wanted.width() >= available.width() && wanted.height() >= available.height();
+    if (wanted.isEmpty() || wanted == usual || coversScreen) {
+        // The first dialogs open over this place, before the system has maximised the window.
+        QRect centred = usual;
+        centred.moveCenter(available.center());
+        setGeometry(centred);
+    } else {
+        restorePlace(*this, wanted);
+    }
+    setWindowState(windowState() | Qt::WindowMaximized);
 }
 
 void Mum::UpdateTooltips()

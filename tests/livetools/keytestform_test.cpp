@@ -24,6 +24,7 @@
 #include <QMenuBar>
 #include <QPointer>
 #include <QPushButton>
+#include <QScreen>
 #include <QTest>
 #include <QTextEdit>
 #include <QTimer>
@@ -48,6 +49,7 @@ public:
     QAction emptyBuffers;
     QAction clearMemory;
     QAction directX;
+    QWidget *owner = nullptr;
     QPointer<KeyTestForm> form;
 
     void SetUp() override
@@ -84,7 +86,7 @@ public:
     {
         directX.setVisible(hasDirectX);
         form = new KeyTestForm({ paths, settings, status, dialogs, launcher, clock, keyboard },
-                               KeyTestEntries{ { &emptyBuffers, &clearMemory }, &directX });
+                               KeyTestEntries{ { &emptyBuffers, &clearMemory }, &directX }, owner);
         QObject::connect(form, &KeyTestForm::buttonsModeWanted, form, [this](bool programmed) {
             asked.append(programmed ? u"programmed"_s : u"windows"_s);
         });
@@ -177,6 +179,27 @@ TEST_F(KeyTester, AltAloneShowsItsEventAndNoMenuOpens)
     EXPECT_NE(colourOf(u"LabelALT"_s), orange);
     EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
     EXPECT_EQ(child<QMenuBar>(u"KeyTestMenus"_s)->activeAction(), nullptr);
+    EXPECT_EQ(keys(), QString());
+}
+
+TEST_F(KeyTester, AltAfterShiftIsAltThoughTheSystemCallsItMeta)
+{
+    ASSERT_TRUE(open());
+    // As an X server reports it: the state before each stroke, the place of the key and its symbol.
+    const auto send = [this](QEvent::Type type, Qt::Key key, Qt::KeyboardModifiers before,
+                             quint32 place, quint32 symbol) {
+        QKeyEvent event(type, key, before, place, symbol, 0);
+        QCoreApplication::sendEvent(form, &event);
+    };
+    constexpr quint32 meta = 0xFFE7;
+    send(QEvent::KeyPress, Qt::Key_Shift, {}, 50, 0xFFE1);
+    send(QEvent::KeyPress, Qt::Key_Meta, Qt::ShiftModifier, 64, meta);
+    EXPECT_EQ(colourOf(u"LabelALT"_s), orange);
+    EXPECT_EQ(colourOf(u"LabelSHIFT"_s), orange);
+    send(QEvent::KeyRelease, Qt::Key_Meta, Qt::ShiftModifier | Qt::AltModifier, 64, meta);
+    EXPECT_NE(colourOf(u"LabelALT"_s), orange);
+    send(QEvent::KeyRelease, Qt::Key_Shift, Qt::ShiftModifier, 50, 0xFFE1);
+    EXPECT_EQ(events(), u"Down: SHF\nDown: ALT\nUp: ALT\nUp: SHF\n");
     EXPECT_EQ(keys(), QString());
 }
 
@@ -425,6 +448,39 @@ TEST_F(KeyTester, TheFirstTimeEverythingIsShownAndTheDelayIsOff)
     EXPECT_EQ(settings.of<KeyTesterSettings>().ClearDelay, -1);
     EXPECT_EQ(child<QTimer>(u"Timer1"_s)->interval(), 500);
     EXPECT_TRUE(action(u"mnuClear"_s)->isVisible());
+}
+
+TEST_F(KeyTester, TheFirstTimeItOpensBesideTheMainWindow)
+{
+    QWidget main;
+    main.setGeometry(0, 0, 200, 300);
+    owner = &main;
+    ASSERT_TRUE(open());
+    EXPECT_GE(form->pos().x(), 200);
+    EXPECT_EQ(form->size(), QSize(550, 350)) << "8250 and 5250 twips";
+    delete form;
+}
+
+TEST_F(KeyTester, APlaceOnAScreenThatIsGoneIsBroughtBack)
+{
+    folder.write(u"Zeph.ini"_s,
+                 "[Key Tester]\r\nKeyLeftAtStartup=150000\r\nKeyTopAtStartup=-150000\r\n"
+                 "KeyWidthAtStartup=6000\r\nKeyHeightAtStartup=4500\r\n");
+    ASSERT_TRUE(open());
+    EXPECT_TRUE(form->screen()->availableGeometry().contains(form->geometry()));
+    EXPECT_EQ(form->size(), QSize(400, 300));
+}
+
+TEST_F(KeyTester, ClosedMaximisedItRemembersThePlaceBefore)
+{
+    ASSERT_TRUE(open());
+    form->resize(600, 400);
+    form->move(40, 50);
+    form->showMaximized();
+    QCoreApplication::processEvents();
+    form->close();
+    EXPECT_EQ(stored(u"KeyWidthAtStartup"_s), u"9000");
+    EXPECT_EQ(stored(u"KeyHeightAtStartup"_s), u"6000");
 }
 
 TEST_F(KeyTester, AMissingTableIsRestoredFromItsCopy)

@@ -26,6 +26,7 @@
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
+#include <QScreen>
 #include <QSignalSpy>
 #include <QStatusTipEvent>
 #include <QTest>
@@ -311,12 +312,12 @@ TEST_F(MainWindow, TakesItsToolWindowsAlongWhenMinimised)
 
 TEST_F(MainWindow, ItsPlaceIsInTwips)
 {
-    mum->setPlace({ .left = 300, .top = 450, .width = 12750, .height = 9000 });
+    mum->setPlace({ .left = 300, .top = 450, .width = 10500, .height = 9000 });
     EXPECT_EQ(mum->pos(), QPoint(20, 30));
-    EXPECT_EQ(mum->size(), QSize(850, 600));
+    EXPECT_EQ(mum->size(), QSize(700, 600));
     const WindowPlace place = mum->place();
     EXPECT_EQ(place.left, 300);
-    EXPECT_EQ(place.width, 12750);
+    EXPECT_EQ(place.width, 10500);
     EXPECT_EQ(place.state, WindowState::Normal);
 }
 
@@ -327,6 +328,41 @@ TEST_F(MainWindow, AMaximisedWindowIsRestoredToItsUsualSize)
     mum->showNormal();
     settle();
     EXPECT_EQ(mum->size(), QSize(888, 593));
+}
+
+TEST_F(MainWindow, GoesBackFromMaximisedToTheSizeBefore)
+{
+    mum->setPlace({ .left = 300, .top = 450, .width = 10500, .height = 9000 });
+    mum->showMaximized();
+    settle();
+    const WindowPlace place = mum->place();
+    EXPECT_EQ(place.state, WindowState::Maximised);
+    EXPECT_EQ(place.width, 10500);
+    EXPECT_EQ(place.height, 9000);
+    mum->showNormal();
+    settle();
+    // As in the next run, which starts maximised.
+    mum->setPlace(place);
+    EXPECT_TRUE(mum->isMaximized());
+    mum->showNormal();
+    settle();
+    EXPECT_EQ(mum->size(), QSize(700, 600));
+    EXPECT_EQ(mum->pos(), QPoint(20, 30));
+}
+
+TEST_F(MainWindow, AMaximisedSizeFromAnOlderStoreIsNoSizeToGoBackTo)
+{
+    mum->setPlace({ .width = 150000, .height = 150000, .state = WindowState::Maximised });
+    mum->showNormal();
+    settle();
+    EXPECT_EQ(mum->size(), QSize(888, 593));
+}
+
+TEST_F(MainWindow, APlaceOnAScreenThatIsGoneIsBroughtBack)
+{
+    mum->setPlace({ .left = 150000, .top = 150000, .width = 10500, .height = 9000 });
+    EXPECT_TRUE(mum->screen()->availableGeometry().contains(mum->geometry()));
+    EXPECT_EQ(mum->size(), QSize(700, 600));
 }
 
 TEST_F(MainWindow, StaysOpenWhenTheQuestionSaysSo)
