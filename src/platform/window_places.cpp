@@ -45,9 +45,13 @@ int held(int from, int length, int start, int room)
 
 QRect heldTo(const QRect &screen, const QRect &place)
 {
-    const QSize size = place.size().boundedTo(screen.size() - frameRoom);
-    return { QPoint(held(place.x(), size.width(), screen.x(), screen.width()),
-                    held(place.y(), size.height(), screen.y(), screen.height())),
+    if (screen.contains(place)) {
+        return place;
+    }
+    const QSize room = screen.size() - frameRoom;
+    const QSize size = place.size().boundedTo(room);
+    return { QPoint(held(place.x(), size.width(), screen.x(), room.width()),
+                    held(place.y(), size.height(), screen.y(), room.height())),
              size };
 }
 
@@ -90,7 +94,8 @@ QRect normalPlace(const QWidget &window)
 
 void restorePlace(QWidget &window, const QRect &place)
 {
-    const QSize size = place.size().isEmpty() ? window.size() : place.size();
+    const QSize wanted = place.size().isEmpty() ? window.size() : place.size();
+    const QSize size = wanted.expandedTo(window.minimumSizeHint());
     const QRect held = heldToScreens({ place.topLeft(), size }, screensNow());
     window.resize(held.size());
     window.move(held.topLeft());
