@@ -32,6 +32,8 @@ public:
     /// Ticks exactly these names.
     void setTicked(const QStringList &names);
     bool isTicked(const QString &name) const;
+    /// All names with a tick, lower-cased.
+    QStringList tickedNames() const { return m_ticked.values(); }
 
     int rowCount(const QModelIndex &parent = {}) const override;
     QVariant data(const QModelIndex &index, int role) const override;
