@@ -109,7 +109,7 @@ protected:
     QTimer *modeTimer = nullptr;
     int ticks = 0;
     int modeTicks = 0;
-    /// Called behind each tick with the number of ticks so far: where a tool writes its status.
+    /// Called after each tick with the number of ticks so far: where a tool writes its status.
     std::function<void(int)> afterTick;
     std::function<void(int)> afterModeTick;
 };

@@ -63,7 +63,7 @@ void MacroRenameForm::GetAllMacros(const Names &names)
     if (names.chosen.isEmpty()) {
         return;
     }
-    // Names are the same in any case.
+    // Macro names do not depend on case.
     const auto chosen = m_ui->List1->findItems(names.chosen, Qt::MatchFixedString);
     if (!chosen.isEmpty()) {
         m_ui->List1->setCurrentItem(chosen.first());
