@@ -131,10 +131,20 @@ void Highlighting::mnuViewColourMacro_Click()
 
 void Highlighting::mnuViewApplyColourBothFiles_Click()
 {
-    ApplyColourHighlighting();
+    const EditorView::KeptTab tab(m_parts.view);
+    applyColourInPlace(m_documents.joystick());
     if (!m_documents.isProtected()) {
-        ApplyMacroColourHighlighting();
+        applyColourInPlace(m_documents.macro());
     }
+}
+
+void Highlighting::applyColourInPlace(Document &document)
+{
+    const EditorView::KeptPlace place(m_parts.view, document);
+    const int anchor = document.cursor().anchor();
+    const int caret = document.cursor().position();
+    applyColour(document);
+    document.setCaret(anchor, caret);
 }
 
 void Highlighting::removeColour(Document &document, int from, int length)

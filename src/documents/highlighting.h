@@ -69,6 +69,8 @@ public:
     RichText JustREMtocolour(const QString &text) const;
 
 private:
+    /// Paints a document; its caret, its selection and what is seen of it stay.
+    void applyColourInPlace(Document &document);
     void removeColour(Document &document, int from, int length);
     void paintStretch(Document &document, int from, int to);
     RichText painted(const QString &text, const Painter &painter) const;

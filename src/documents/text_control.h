@@ -46,6 +46,9 @@ public:
     void showLineNumbers(bool shown);
     /// A mark under the caret's line, over the whole width.
     void showCurrentLine(bool shown);
+    /// Marks each place where the text has a word (options are those of SearchOption); an empty
+    /// word marks none. A word with a line end in it is not marked.
+    void markWord(const QString &word, int options);
     QList<SeenLine> seenLines() const;
 
 Q_SIGNALS:
@@ -71,6 +74,8 @@ private:
     void updateMargin(const QRect &changed, int scrolled);
     void moveMark();
     void updateLine(int line);
+    void paintWords(QPainter &painter) const;
+    void paintWordsOf(QPainter &painter, const QTextBlock &line) const;
     /// The part of the viewport, over its whole width, that a line takes.
     QRectF lineArea(const QTextBlock &line) const;
 
@@ -79,6 +84,8 @@ private:
     bool m_marks = false; ///< the view's selection is that of mark(), not the text's
     bool m_marksLine = false;
     int m_markedLine = 1;
+    QString m_markedWord;
+    int m_wordOptions = 0;
 };
 
 } // namespace zeph

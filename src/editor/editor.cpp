@@ -26,6 +26,7 @@
 #include "editor/macros/framemacros.h"
 #include "editor/macros/macro_features.h"
 #include "editor/right_menu.h"
+#include "editor/view_entries.h"
 #include "language/error_codes.h"
 #include "menus/menu_actions.h"
 #include "platform/dialogs.h"
@@ -229,6 +230,8 @@ void Editor::connectMacros()
     m_macros = std::make_unique<MacroFeatures>(
         m_context, MacroFeatures::Parts{ *m_view, *m_actions, *m_opening, *m_saving, *m_insert });
     layout()->addWidget(m_macros->list().frame());
+    m_viewEntries =
+        std::make_unique<ViewEntries>(ViewEntries::Parts{ *m_view, *m_actions, m_macros->list() });
     connect(&m_macros->menu(), &MacroListMenu::quickTipWanted, this,
             [this] { Q_EMIT helpOn(u"macro list"_s); });
 }

@@ -34,6 +34,7 @@ class TextLooks;
 class TypingColour;
 class UndoHistories;
 class UseDirectives;
+class ViewEntries;
 
 /// The permanent child of the main window, with the two documents and all working menus. It is only
 /// a frame: each feature is an object of its own, which this class creates and hands out.
@@ -118,6 +119,7 @@ private:
     std::unique_ptr<FileNew> m_fresh;
     std::unique_ptr<RightMenu> m_rightMenu;
     std::unique_ptr<MacroFeatures> m_macros;
+    std::unique_ptr<ViewEntries> m_viewEntries;
     std::unique_ptr<LossGuards> m_guards;
     std::unique_ptr<InsertForms> m_insertForms;
     std::unique_ptr<Packaging> m_packaging;

@@ -192,6 +192,29 @@ TEST_F(HighlightingTest, BothFilesAreColouredJoystickFirst)
     EXPECT_EQ(colours(M), u"....ss");
 }
 
+TEST_F(HighlightingTest, ColouringBothLeavesTabSelectionCaretAndFocusWhereTheyWere)
+{
+    set(J, u"BTN S1"_s);
+    set(M, u"a = /U"_s);
+    editor->joystick().setCaret(5, 1);
+    editor->macro().setCaret(2, 4);
+    editor->show();
+    for (const DocumentKind kind : { J, M }) {
+        editor->documents().select(kind);
+        QWidget *list = editor->findChild<QWidget *>(u"List1"_s);
+        list->setFocus();
+        ASSERT_EQ(editor->window()->focusWidget(), list);
+        editor->actions().trigger(u"mnuViewApplyColourBothFiles");
+        EXPECT_EQ(editor->selected().kind(), kind);
+        EXPECT_EQ(editor->window()->focusWidget(), list);
+        EXPECT_EQ(editor->joystick().cursor().anchor(), 5);
+        EXPECT_EQ(editor->joystick().cursor().position(), 1);
+        EXPECT_EQ(editor->macro().cursor().anchor(), 2);
+        EXPECT_EQ(editor->macro().cursor().position(), 4);
+        EXPECT_EQ(status.text(), u"Done");
+    }
+}
+
 TEST_F(HighlightingTest, AProtectedMacroFileIsLeftOutOfBothAndRefusedAlone)
 {
     set(J, u"BTN S1"_s);

@@ -468,7 +468,7 @@ TEST_F(Start, AFurtherInstanceShowsSoAndWorksOnItsOwnStore)
     const InstanceLock first(folder.path());
     ASSERT_TRUE(first.isFirst());
     ASSERT_TRUE(start());
-    EXPECT_EQ(title(), u"Zeph - secondary window");
+    EXPECT_EQ(title(), u"Untitled.tmj[*] - Zeph - secondary window");
     EXPECT_TRUE(folder.exists(u"Zeph.2"_s));
     app->mum().close();
     EXPECT_FALSE(folder.exists(u"Zeph.2"_s));
@@ -479,7 +479,7 @@ TEST_F(Start, TheFirstInstanceClearsWhatCrashedOnesLeft)
     writeStore();
     folder.write(u"Zeph.2"_s, "left behind");
     ASSERT_TRUE(start());
-    EXPECT_EQ(title(), u"Zeph");
+    EXPECT_EQ(title(), u"Untitled.tmj[*] - Zeph");
     EXPECT_FALSE(folder.exists(u"Zeph.2"_s));
 }
 

@@ -379,3 +379,24 @@ TEST_F(MainWindow, StaysOpenWhenTheQuestionSaysSo)
     EXPECT_TRUE(mum->close());
     EXPECT_EQ(unloads, 1);
 }
+
+TEST_F(MainWindow, TheTitleNamesTheSelectedFileAndMarksItsChanges)
+{
+    EXPECT_EQ(mum->windowTitle(), u"Untitled.tmj[*] - Zeph");
+    EXPECT_FALSE(mum->isWindowModified());
+    editor->joystick().rename(folder.path() + u"/a.tmj"_s);
+    EXPECT_EQ(mum->windowTitle(), u"a.tmj[*] - Zeph");
+    editor->joystick().setState(Document::Modified);
+    EXPECT_TRUE(mum->isWindowModified());
+    editor->documents().select(DocumentKind::Macro);
+    EXPECT_EQ(mum->windowTitle(), u"Untitled.tmm[*] - Zeph");
+    EXPECT_FALSE(mum->isWindowModified());
+    mum->setFurther();
+    EXPECT_EQ(mum->windowTitle(), u"Untitled.tmm[*] - Zeph - secondary window");
+}
+
+TEST(MumTitle, ANameThatHoldsTheToolkitsMarkKeepsIt)
+{
+    EXPECT_EQ(mumTitle(u"a[*].tmj"_s, false), u"a[*][*].tmj[*] - Zeph");
+    EXPECT_EQ(mumTitle(QString(), true), u"Zeph - secondary window");
+}

@@ -105,7 +105,9 @@ void FileOpening::mnuFileJoystickLoad_Click(const std::optional<QString> &fileTo
               DocumentKind::Joystick);
     if (path) {
         m_context.status.setText(u"Opening joystick file"_s);
-        loadOrTell(DocumentKind::Joystick, *path);
+        if (loadOrTell(DocumentKind::Joystick, *path)) {
+            m_context.status.setText(u"Finished"_s);
+        }
     }
 }
 
