@@ -92,6 +92,20 @@ struct World : test::EditorWorld {
     QString text;
 };
 
+/// The undo of an entry run on the file as it was opened.
+void undoEntry(benchmark::State &state, World &world, QStringView entry)
+{
+    for (auto _ : state) {
+        state.PauseTiming();
+        world.reset();
+        world.editor->view().control(DocumentKind::Joystick).selectAll();
+        world.trigger(entry);
+        state.ResumeTiming();
+        world.editor->undos().mnuEditUndo_Click();
+        world.editor->repaint();
+    }
+}
+
 /// Runs an entry on the file as it was opened, each time anew.
 void runEntry(benchmark::State &state, World &world, QStringView entry)
 {
@@ -127,7 +141,20 @@ void CommentIn(benchmark::State &state)
     runEntry(state, world, u"mnuBlockRemoveREM");
 }
 
-void ReplaceAll(benchmark::State &state)
+void UndoOfAlignment(benchmark::State &state)
+{
+    World world(int(state.range(0)));
+    undoEntry(state, world, u"mnuAlignSlash");
+}
+
+void UndoOfCommentOut(benchmark::State &state)
+{
+    World world(int(state.range(0)));
+    undoEntry(state, world, u"mnuBlockREM");
+}
+
+/// Replace All of as many hits as there are lines, or its undo.
+void replaceAll(benchmark::State &state, bool undo)
 {
     World world(int(state.range(0)));
     world.trigger(u"mnuEditReplace");
@@ -141,10 +168,28 @@ void ReplaceAll(benchmark::State &state)
         state.PauseTiming();
         world.reset();
         button(u"Command3"_s)->click();
-        state.ResumeTiming();
-        button(u"Command6"_s)->click();
+        if (undo) {
+            button(u"Command6"_s)->click();
+            state.ResumeTiming();
+            world.editor->undos().mnuEditUndo_Click();
+            world.editor->repaint();
+        } else {
+            state.ResumeTiming();
+            button(u"Command6"_s)->click();
+        }
     }
-    state.counters["hits"] = double(world.editor->joystickText().count(u"Launcher"_s));
+    const QString counted = undo ? u"Radar"_s : u"Launcher"_s;
+    state.counters["hits"] = double(world.editor->joystickText().count(counted));
+}
+
+void ReplaceAll(benchmark::State &state)
+{
+    replaceAll(state, false);
+}
+
+void UndoOfReplaceAll(benchmark::State &state)
+{
+    replaceAll(state, true);
 }
 
 BENCHMARK(Align)->Arg(10000)->Arg(50000)->Unit(benchmark::kMillisecond)->Complexity();
@@ -154,6 +199,9 @@ BENCHMARK(AlignInTheEditor)->Arg(10000)->Arg(50000)->Unit(benchmark::kMillisecon
 BENCHMARK(CommentOut)->Arg(10000)->Arg(50000)->Unit(benchmark::kMillisecond);
 BENCHMARK(CommentIn)->Arg(10000)->Arg(50000)->Unit(benchmark::kMillisecond);
 BENCHMARK(ReplaceAll)->Arg(10000)->Arg(50000)->Unit(benchmark::kMillisecond);
+BENCHMARK(UndoOfAlignment)->Arg(10000)->Arg(50000)->Unit(benchmark::kMillisecond);
+BENCHMARK(UndoOfCommentOut)->Arg(10000)->Arg(50000)->Unit(benchmark::kMillisecond);
+BENCHMARK(UndoOfReplaceAll)->Arg(10000)->Arg(50000)->Unit(benchmark::kMillisecond);
 
 } // namespace
 

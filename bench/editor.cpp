@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: The Zeph authors
 // SPDX-License-Identifier: MIT
 
-// Opening and saving a file of 10,000 lines through the real Editor window, shown on the offscreen
-// platform; "shown" includes the painting of what is seen.
+// Opening and saving a file of 10,000 and 50,000 lines through the real Editor window, shown on the
+// offscreen platform; "shown" includes the painting of what is seen.
 
 #include "bench/editor_world.h"
 #include "editor/editor_settings.h"
@@ -33,7 +33,7 @@ void colour(Editor &editor)
 
 void OpenWithoutColouredCopy(benchmark::State &state)
 {
-    World world;
+    World world(int(state.range(0)));
     for (auto _ : state) {
         state.PauseTiming();
         QFile::remove(world.paths.rtfFolder() + u"long.tmj"_s);
@@ -46,7 +46,7 @@ void OpenWithoutColouredCopy(benchmark::State &state)
 
 void OpenWithColouredCopy(benchmark::State &state)
 {
-    World world;
+    World world(int(state.range(0)));
     world.editor->opening().OpenFavouriteFile(world.path);
     colour(*world.editor);
     world.settings.of<EditorSettings>().UpdateModified = false;
@@ -61,7 +61,7 @@ void OpenWithColouredCopy(benchmark::State &state)
 
 void Save(benchmark::State &state)
 {
-    World world;
+    World world(int(state.range(0)));
     world.editor->opening().OpenFavouriteFile(world.path);
     colour(*world.editor);
     for (auto _ : state) {
@@ -71,7 +71,7 @@ void Save(benchmark::State &state)
 
 void Keystroke(benchmark::State &state)
 {
-    World world;
+    World world(int(state.range(0)));
     world.editor->opening().OpenFavouriteFile(world.path);
     colour(*world.editor);
     TextControl *control = &world.editor->view().control(DocumentKind::Joystick);
@@ -81,10 +81,10 @@ void Keystroke(benchmark::State &state)
     }
 }
 
-BENCHMARK(OpenWithoutColouredCopy)->Unit(benchmark::kMillisecond);
-BENCHMARK(OpenWithColouredCopy)->Unit(benchmark::kMillisecond);
-BENCHMARK(Save)->Unit(benchmark::kMillisecond);
-BENCHMARK(Keystroke)->Unit(benchmark::kMicrosecond);
+BENCHMARK(OpenWithoutColouredCopy)->Arg(10000)->Arg(50000)->Unit(benchmark::kMillisecond);
+BENCHMARK(OpenWithColouredCopy)->Arg(10000)->Arg(50000)->Unit(benchmark::kMillisecond);
+BENCHMARK(Save)->Arg(10000)->Arg(50000)->Unit(benchmark::kMillisecond);
+BENCHMARK(Keystroke)->Arg(10000)->Arg(50000)->Unit(benchmark::kMicrosecond);
 
 } // namespace
 

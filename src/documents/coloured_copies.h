@@ -23,7 +23,7 @@ public:
     /// font becomes the given one throughout, while colours, italics and underlines stay.
     std::optional<RichText> load(const QString &name, const QString &plainText,
                                  const CharFormat &font) const;
-    /// Writes the copy of a document as it stands.
+    /// Writes the copy of a document as it is now.
     Expected<void, FileError> SaveColouredText(Document &document) const;
 
 private:

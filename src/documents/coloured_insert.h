@@ -14,8 +14,8 @@ class Change;
 class Document;
 class EditorView;
 
-/// The one way in which a tool writes into the selected document: begin, any number of pieces in
-/// their colours, end. The whole insert is one undo step.
+/// Writes into the selected document in pieces: begin, any number of pieces in their colours, end.
+/// The whole insert is one undo step.
 class ColouredInsert
 {
 public:
@@ -29,15 +29,17 @@ public:
     /// goes on in the plain colour. A line end may be CR LF. A protected macro file is refused with
     /// the box. False when refused.
     bool InsertColouredString(const QString &text, ColorRef colour);
+    /// Does what InsertColouredString does.
     bool InsertColouredStringNoSpace(const QString &text, ColorRef colour);
+    /// Inserts five blanks in the plain colour.
     void InsertBlackBlanks();
     void InsertCarriageReturn();
-    /// Appends a blank to TextToInsert if the character at the caret is neither a blank nor absent.
+    /// Appends a blank to TextToInsert, unless a blank or the end of the text is at the caret.
     void AddSpaceToColouredText();
     /// Starts a line if the caret is not at the start of one.
     void CheckAtLineBeginning();
-    /// Paints a piece of statement text as typing does, and inserts it, with a blank before it
-    /// where it would stick to what stands there. An empty text does nothing.
+    /// Inserts a piece of statement text, painted as typing paints it. A blank goes before it
+    /// unless the caret is after a blank or at a line's start. An empty text does nothing.
     void MacroTransferText(const QString &text);
     /// Inserts rich text over the selection, as InsertColouredString does. Margins are the
     /// document's own. False when refused.

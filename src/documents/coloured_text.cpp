@@ -34,7 +34,7 @@ ColouredText::ColouredText(QObject *parent)
             return;
         }
         if (length() == 0) {
-            // What goes into the emptied text has the margin, whatever was there before.
+            // An emptied text would keep the paragraph format of its last line.
             setMargins();
         }
         Q_EMIT changed();

@@ -14,11 +14,11 @@ namespace zeph {
 /// The small margin that every document has.
 constexpr ParagraphFormat documentParagraph = { .leftIndentTwips = 20 };
 
-/// A text of lines with its looks, and the place where the user is in it, with or without a view.
-/// Owns the toolkit's text; positions are 0-based characters.
+/// A text of lines with its looks and the user's caret, with or without a view. Owns the toolkit's
+/// text; positions are 0-based characters.
 ///
-/// The operations here change text and looks and count as no edit. What a view or anybody else does
-/// to content() is told as changed(), unless a Quiet lives.
+/// The operations of this class change text and looks without counting as edits. What a view, or
+/// any other code, does to content() is told by changed(), unless a Quiet exists.
 class ColouredText : public QObject
 {
     Q_OBJECT
@@ -32,31 +32,33 @@ public:
     /// The text, every character as it is (the toolkit's own call changes some blanks).
     QString text() const;
     RichText richText() const;
-    /// A stretch of it.
+    /// A stretch of the text, clamped to it.
     RichText richText(int from, int length) const;
     /// Number of characters.
     int length() const;
     void setText(const QString &text);
     void setRichText(const RichText &text);
-    /// Replaces a stretch, in the format that stands there; caret and selection move along.
+    /// Replaces a stretch; the new text looks as if it were typed at its end. Caret and selection
+    /// move along.
     void replace(int start, int length, const QString &text);
-    /// Replaces stretches of one length, at ascending places that do not overlap, as one edit.
+    /// Replaces several stretches of one length, at ascending places that do not overlap, as one
+    /// edit.
     void replaceAll(std::span<const qsizetype> starts, qsizetype length, const QString &text);
-    /// Puts a text in the place of the whole one, in the plain look.
+    /// Replaces the whole text, in the plain look.
     void replaceWhole(const QString &text);
-    /// Puts rich text in the selection's place, in the document's own margins; the caret goes to
-    /// its end, and typing goes on in the plain look.
+    /// Replaces the selection by rich text, in the document's own margins; the caret goes to its
+    /// end, and typing goes on in the plain look.
     void insert(const RichText &text);
     void removeSelection();
 
-    /// Font and colour of plain text, which typing starts with.
+    /// Font and colour of plain text, with which typing into an empty text begins.
     const CharFormat &plain() const { return m_plain; }
     void setPlain(const CharFormat &plain);
-    /// Lays looks over the characters from a position on.
+    /// Gives the characters from a position on these looks.
     void setCharacterRuns(const std::vector<CharRun> &runs, int from = 0);
-    /// The same over the whole text.
+    /// The same for the whole text.
     void setLooks(const LookRuns &looks);
-    /// Changes the looks of a stretch through a function.
+    /// Calls a function with each look in a stretch, which it may change.
     void changeLooks(int from, int length, const std::function<void(CharFormat &)> &change);
     /// Gives all lines the document's margin.
     void setMargins();
@@ -64,23 +66,24 @@ public:
     CharFormat typingLook() const;
     void setTypingLook(const CharFormat &look);
 
-    /// Caret and selection, which views follow. A caret without a selection stands at selStart().
+    /// Caret and selection, which views follow. A caret without a selection is at selStart().
     const QTextCursor &cursor() const { return m_cursor; }
     int selStart() const { return m_cursor.selectionStart(); }
     int selLength() const { return m_cursor.selectionEnd() - m_cursor.selectionStart(); }
     /// 1-based line of the caret.
     int caretLine() const { return m_cursor.blockNumber() + 1; }
     void select(int start, int length) { setCaret(start, start + length); }
-    /// The same with a direction: the caret is at the selection's end that moves.
+    /// Selects with a direction: the caret is the end of the selection that moves, the anchor the
+    /// other.
     void setCaret(int anchor, int caret);
-    /// The user has moved the caret in a view.
+    /// Takes over the caret that the user has moved in a view.
     void follow(const QTextCursor &cursor);
 
     /// A locked text takes no changes from the user.
     bool isLocked() const { return m_locked; }
     void setLocked(bool locked);
 
-    /// While one lives, changes of content() count as nothing.
+    /// While one exists, changes of content() are not told.
     class Quiet
     {
     public:
@@ -103,7 +106,7 @@ Q_SIGNALS:
     void caretMoved();
     /// There is a selection now where there was none, or the other way round.
     void selectionChanged(bool hasSelection);
-    /// A call has moved the caret: views show it where it is now.
+    /// A call, not a view, has set the caret: views have to show it there.
     void caretSet();
 
 private:
@@ -111,7 +114,7 @@ private:
 
     bool m_locked = false;
     bool m_hadSelection = false;
-    int m_quiet = 0;
+    int m_quiet = 0; ///< number of Quiets that exist
     CharFormat m_plain;
     QTextDocument m_content;
     mutable DocumentStates m_states; ///< catches up with the text when it is asked

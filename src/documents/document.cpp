@@ -80,7 +80,8 @@ Change::Change(Document &document)
       m_anchor(document.cursor().anchor()), m_caret(document.cursor().position())
 {
     if (!document.history().canRedo()) {
-        // Colours may have come since the last step; a state that was undone is no newest one.
+        // The newest state gets the colours that have come since it was stored. After an undo the
+        // document shows an older one, which must not take its place.
         document.history().storeTop();
     }
     m_quiet.emplace(document);

@@ -12,28 +12,28 @@ namespace zeph {
 /// One of the edited texts with all that belongs to it: its file's path and name, whether it is
 /// saved, and what can be undone.
 ///
-/// What a view does to the text counts as typing: the document becomes modified and its history
-/// takes it in. The text operations count as nothing; a Change around them makes them one step to
-/// undo.
+/// What a view does to the text counts as typing: the document becomes modified, and its history
+/// takes it in. The text operations do not count as edits; a Change around them makes them one step
+/// to undo.
 class Document : public ColouredText
 {
     Q_OBJECT
 public:
     enum State : qint16 { Empty = -1, Saved = 0, Modified = 1 };
-    /// How another text has taken the place of the one before.
+    /// How the document got another text.
     enum class How {
         Loaded, ///< from its file
         Recovered, ///< after a crash; its file does not hold it
         Fresh, ///< empty, without a file
         Undone, ///< by undo or redo
     };
-    /// Who wants a save.
+    /// Whether the user asked for a save.
     enum class Save { Asked, Automatic };
 
-    /// The greatest number of steps to undo is read whenever one is added, and outlives the
-    /// document.
+    /// undoMax, the greatest number of steps to undo, is read whenever a step is added. It must
+    /// outlive the document.
     explicit Document(DocumentKind kind, const int &undoMax, QObject *parent = nullptr);
-    /// A document that nobody edits: it has no steps to undo.
+    /// A document that nobody edits, without steps to undo.
     explicit Document(DocumentKind kind = DocumentKind::Joystick);
     ~Document() override;
 
@@ -47,32 +47,31 @@ public:
     qint16 state() const { return m_state; }
     void setState(qint16 state);
     bool isModified() const { return m_state == Modified; }
-    /// The text came back after a crash, and the user has not saved it yet: until then nothing but
-    /// the user changes the file.
+    /// Whether the text came back after a crash and the user has not saved it yet. Until then only
+    /// the user's own save may change the file.
     bool isRecovered() const { return m_recovered; }
 
-    /// The bytes that the document's file holds of it by the last load or save; null when there was
-    /// none.
+    /// The bytes that the last load read from the file or the last save wrote; null without either.
     const QByteArray &onDisk() const { return m_onDisk; }
 
     UndoHistory &history() { return m_history; }
     void undo() { step(&UndoHistory::undo); }
     void redo() { step(&UndoHistory::redo); }
 
-    /// For whoever has set a text that takes the place of the one before: the history starts over,
-    /// the caret goes to the start, and the state becomes what the way says.
+    /// To be called after another text has been set: the history starts over, the caret goes to the
+    /// start, and the state becomes Empty (Fresh), Modified (Recovered) or Saved.
     void tellReplaced(How how, const QByteArray &onDisk = {});
-    /// For whoever is about to write the document's file: what the text is now will be written.
+    /// To be called before the text is written to the document's file as it is now.
     void tellAboutToBeWritten() { Q_EMIT aboutToBeWritten(); }
-    /// For whoever has written the document's file.
+    /// To be called after these bytes have been written to the document's file.
     void tellWritten(const QByteArray &bytes, Save save);
 
 Q_SIGNALS:
-    /// Another text has taken the document's place; all that belongs to it is set.
+    /// The document has another text; its path, state and history belong to that already.
     void replaced(zeph::Document::How how);
-    /// The user has typed, or a Change has been committed. State and history know it.
+    /// The user has typed, or a Change has been committed; state and history are up to date.
     void edited();
-    /// The text will go to the disk as it is now.
+    /// The text is about to go to the disk as it is now.
     void aboutToBeWritten();
     /// The disk holds what the document shows.
     void written(zeph::Document::Save save);
@@ -84,7 +83,7 @@ Q_SIGNALS:
 private:
     friend class Change;
 
-    /// A change took place that counts.
+    /// Takes an edit into state and history, and tells of it.
     void countEdit();
     void step(void (UndoHistory::*way)());
 
@@ -97,9 +96,9 @@ private:
     UndoHistory m_history;
 };
 
-/// A change of the program's own to a document: begun by the constructor, made of any number of the
-/// document's text operations, and one step to undo when it is committed. A change that is thrown
-/// away without commit() leaves text, looks and caret as they were before it.
+/// A change that the program makes to a document: begun by the constructor, made of any number of
+/// the document's text operations, and one step to undo when it is committed. Without commit() the
+/// destructor brings text, looks and caret back to what they were before.
 class Change
 {
 public:
@@ -109,7 +108,8 @@ public:
     Change &operator=(const Change &) = delete;
 
     Document &document() { return m_document; }
-    /// Makes the step; the document is modified then. False when nothing is different: no step.
+    /// Makes the change one step to undo, and the document modified. False, without a step, when
+    /// nothing differs or the change is committed already.
     bool commit();
 
 private:

@@ -16,7 +16,7 @@ namespace zeph {
 
 namespace {
 
-/// Without the text, which chunks may share.
+/// The text is left out, since chunks may share it.
 qsizetype bytesOf(const TextChunk &chunk)
 {
     return qsizetype(sizeof(TextChunk))
@@ -24,8 +24,8 @@ qsizetype bytesOf(const TextChunk &chunk)
                     + chunk.paragraphs.capacity() * sizeof(ParagraphRun));
 }
 
-/// Has the toolkit do edits, from the last one on, so that the places of the others stay. Gives the
-/// end of the last one's new text.
+/// Writes edits into the toolkit's document, the last one first, so that the positions of the
+/// others stay valid. Gives the end of the last edit's new text.
 int write(QTextCursor &cursor, const std::vector<TextEdit> &edits)
 {
     QTextCursor end(cursor.document());
@@ -40,8 +40,9 @@ int write(QTextCursor &cursor, const std::vector<TextEdit> &edits)
     return end.position();
 }
 
-/// Where characters look otherwise than wanted after edits, whose own characters do not; each
-/// reader is at the start of the stretch of the wanted text.
+/// The stretches of the wanted text whose looks are wrong after the edits have made it of the old
+/// one. Characters that an edit puts in count as right, since their lines are laid out anew anyway.
+/// Both readers are at the start of the stretch, which is one of the wanted text.
 std::vector<TextStretch> otherLooksAfter(const std::vector<TextEdit> &edits, ChunkReader old,
                                          ChunkReader wanted, TextStretch stretch)
 {
@@ -101,10 +102,10 @@ bool operator==(const DocumentState &one, const DocumentState &other)
 DocumentStates::DocumentStates(QTextDocument &document, int linesPerChunk)
     : m_document(document), m_linesPerChunk(linesPerChunk), m_known(empty())
 {
-    // Without a layout the toolkit tells nobody of changes.
+    // Without a layout the toolkit reports no changes.
     document.documentLayout();
     connect(&document, &QTextDocument::contentsChange, this, &DocumentStates::onContentsChange);
-    // An edit block without a change has a number too.
+    // An edit block that changes nothing raises the revision too.
     connect(&document, &QTextDocument::contentsChanged, this,
             [this] { m_revision = m_document.revision(); });
     catchUp();
@@ -208,7 +209,8 @@ void DocumentStates::restore(const DocumentState &state)
     const bool hasSoftEnds = lineOfCharacter(m_document, int(from + before.size()))
             - lineOfCharacter(m_document, int(from))
         != before.count(u'\n');
-    // A line end within a paragraph would stay one, and the paragraphs could not be told apart.
+    // Some line ends lie within a paragraph. Small edits would leave them there, and their lines
+    // could not get formats of their own: the whole stretch is replaced.
     std::vector<TextEdit> edits = hasSoftEnds
         ? std::vector<TextEdit>{ { 0, before.size(), after, {} } }
         : differences(before, after);
@@ -219,7 +221,8 @@ void DocumentStates::restore(const DocumentState &state)
         edits, ChunkReader(old, front), ChunkReader(wanted, front), { from, from + after.size() });
     std::vector<ParagraphRun> paragraphs = join(wanted, front, wanted.size() - back).paragraphs;
     if (back > 0) {
-        // What is replaced ends before a line, whose paragraph the toolkit may take along.
+        // The toolkit may give the line after a replaced stretch another format: it gets its own
+        // again.
         addParagraphs(paragraphs, { 1, wanted[wanted.size() - back]->paragraphs.front().format });
     }
     const QScopedValueRollback writing(m_isWriting, true);
@@ -277,18 +280,18 @@ void DocumentStates::layRuns(const TextChunk::Runs &runs, qsizetype from)
         const qsizetype last = std::clamp(to - start, qsizetype(0), size);
         if (first < last) {
             RunReader old(chunk->runs);
-            TextChunk::Runs fresh;
-            fresh.reserve(chunk->runs.size());
+            TextChunk::Runs laid;
+            laid.reserve(chunk->runs.size());
             TextChunk::Runs covered;
-            old.take(first, fresh);
-            wanted.take(last - first, fresh);
+            old.take(first, laid);
+            wanted.take(last - first, laid);
             old.take(last - first, covered);
-            old.take(size - last, fresh);
-            if (fresh != chunk->runs) {
-                addOtherLooks(chunk->runs, fresh, start, stretches);
-                fresh.shrink_to_fit();
+            old.take(size - last, laid);
+            if (laid != chunk->runs) {
+                addOtherLooks(chunk->runs, laid, start, stretches);
+                laid.shrink_to_fit();
                 chunk = std::make_shared<TextChunk>(
-                    TextChunk{ chunk->text, std::move(fresh), chunk->paragraphs });
+                    TextChunk{ chunk->text, std::move(laid), chunk->paragraphs });
             }
         }
         start += size;

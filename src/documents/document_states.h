@@ -3,9 +3,18 @@
 
 #pragma once
 
-// What a document holds now and held before, kept so that states share all that they have in
-// common. The toolkit's document has the text and the paragraphs; the looks of characters are here
-// alone. So a text with a hundred thousand runs costs the toolkit what a plain one costs.
+// A document's present text and earlier ones, with the looks of their characters (font and
+// colours).
+//
+// The toolkit's document has only the text and its paragraphs; the looks are here alone, so that a
+// text with a hundred thousand runs costs the toolkit what a plain one costs. A state is a list of
+// text chunks (text_chunks.h). Two states share every chunk that is the same in both, so that an
+// undo step costs no more than what it changed.
+//
+// DocumentStates keeps one state, m_known, equal to the document. Changes that are made through it
+// alter document and state together. Changes that anybody else makes, a keystroke above all, are
+// followed: the toolkit reports roughly where the text changed, follow() compares that part with
+// m_known and makes edits of the difference.
 
 #include "documents/text_chunks.h"
 
@@ -17,12 +26,11 @@ class QTextDocument;
 
 namespace zeph {
 
-/// One state: a handle, cheap to keep and to copy. Has a meaning only to the DocumentStates that
-/// gave it.
+/// One state: a handle, cheap to keep and to copy. Only the DocumentStates that gave it can use it.
 class DocumentState
 {
 public:
-    /// Bytes that states hold together; what they share counts once.
+    /// Bytes that these states take together; what they share counts once.
     static qsizetype bytesHeld(std::span<const DocumentState> states);
     /// Whether two states of one document hold the same text in the same looks.
     friend bool operator==(const DocumentState &one, const DocumentState &other);
@@ -33,10 +41,9 @@ private:
     std::shared_ptr<const TextChunks> m_chunks;
 };
 
-/// Holds the looks of a document, takes its states and brings them back. Follows what others do to
-/// the document's text; characters that they put in take the look for typing. A state costs only
-/// the chunks that changed since the one before. The document lives longer. Positions are 0-based
-/// characters; line ends are '\n'.
+/// Holds the looks of a document, gives its present state and brings back earlier ones. Follows
+/// what others do to the document's text; characters that they put in get the look for typing. The
+/// document must outlive this object. Positions are 0-based characters; line ends are '\n'.
 class DocumentStates : public QObject
 {
     Q_OBJECT
@@ -46,57 +53,60 @@ public:
     /// The document as it is.
     DocumentState present();
     RichText presentText() { return richText(present()); }
-    /// A stretch of it, clamped to the text.
+    /// A stretch of the present text, clamped to it.
     RichText stretch(qsizetype from, qsizetype length);
-    /// The looks of a stretch alone.
+    /// The looks of a stretch without its text, clamped likewise.
     std::vector<CharRun> looks(qsizetype from, qsizetype length);
-    /// An empty text.
+    /// The state of an empty text.
     DocumentState empty(const ParagraphFormat &paragraph = {}) const;
     RichText richText(const DocumentState &state) const;
-    /// The same text in pieces one after the other, each of whole lines: for what passes over a
-    /// long text once.
+    /// Calls a function with the state's text in pieces, one after the other, each of whole lines:
+    /// for a long text that is read once, without a copy of the whole.
     void readPieces(const DocumentState &state,
                     const std::function<void(const RichText &piece)> &read) const;
 
-    /// Each of these is one edit block of the document.
-    ///
-    /// Puts another text in the place of the whole one; characters that no document can hold become
+    // Each of the changes of text below is one edit block of the document.
+
+    /// Replaces the whole text; characters that the toolkit's document cannot hold become
     /// replacement characters.
     void setText(const RichText &text);
-    /// Puts characters in the place of a stretch; their paragraphs go on as the one they are put
-    /// into.
+    /// Replaces a stretch. New lines take the format of the paragraph that they are put into, not
+    /// the one that the text says.
     void replace(qsizetype from, qsizetype length, const RichText &text);
-    /// The same with stretches of one length, at ascending places that do not overlap; each text
-    /// looks as if it were typed at the end of the stretch that it replaces.
+    /// Replaces several stretches of one length, at ascending places that do not overlap, by the
+    /// same text. It looks as if it were typed at the end of each stretch.
     void replaceAll(std::span<const qsizetype> starts, qsizetype length, const QString &text);
-    /// Makes the document what it was, text and looks; only what differs is touched.
+    /// Brings text and looks back to what they were; only what differs is touched.
     void restore(const DocumentState &state);
-    /// Lays looks over the characters from a position on. The document itself does not change.
+    /// Gives the characters from a position on these looks. The toolkit's document does not change.
     void setLooks(const LookRuns &looks, qsizetype from = 0);
     void setCharacterRuns(const std::vector<CharRun> &runs, qsizetype from = 0);
 
-    /// How the next character that is typed at a position looks: as was chosen there, else like the
-    /// one before it, or at a line's start like the one after it.
+    /// How the next character that is typed at a position will look: as was chosen there, else like
+    /// the character before it, or at a line's start like the one after it.
     CharFormat lookForTyping(qsizetype position);
-    /// Where the user types, and the look chosen there, if one is.
+    /// Tells where the user types, and the look that the user has chosen for it, if any.
     void setTyping(qsizetype place, std::optional<CharFormat> look);
     qsizetype typingPlace() const { return m_typingPlace; }
     /// The look of what is typed into an empty text.
     void setPlain(const CharFormat &plain) { m_plain = plain; }
 
-    /// False while the document is being changed: its lines cannot be told looks then.
+    /// Whether the looks fit the document's text; false while the document is being changed.
     bool isUpToDate() const;
-    /// The runs of a stretch of an up-to-date document, and the look that a run's number means.
+    /// The runs of a stretch, which must lie in the text. Call only when isUpToDate().
     TextChunk::Runs runs(qsizetype from, qsizetype length) const;
+    /// The look that a run's number means.
     const CharFormat &look(quint32 number) const { return m_looks.look(number); }
 
 Q_SIGNALS:
-    /// Characters look otherwise than before, in ascending stretches; their text is the same.
+    /// The looks in these stretches, which ascend, have changed; their text is the same.
     void looksChanged(const std::vector<zeph::TextStretch> &stretches);
 
 private:
     void onContentsChange(int position, int removed, int added);
+    /// Follows what the toolkit has not reported yet.
     void catchUp();
+    /// Takes over what others changed; so many characters at the start and the end are the same.
     void follow(qsizetype sameInFront, qsizetype sameAtEnd);
     void followParagraphs(qsizetype from, qsizetype to);
     quint32 lookOfTyped(const TextEdit &edit);
@@ -113,14 +123,14 @@ private:
     QTextDocument &m_document;
     int m_linesPerChunk;
     LookTable m_looks;
-    DocumentState m_known;
-    qsizetype m_size = 0; ///< characters of the known state
-    bool m_isWriting = false; ///< changes come from here, and the known state has them
-    int m_revision = -1; ///< the toolkit's number of the last change that was told
+    DocumentState m_known; ///< the document as it was when last followed
+    qsizetype m_size = 0; ///< characters of m_known
+    bool m_isWriting = false; ///< this object changes the document, and m_known itself
+    int m_revision = -1; ///< the document's, when m_known was last made equal to it
     CharFormat m_plain;
     qsizetype m_typingPlace = 0;
     std::optional<CharFormat> m_chosenLook;
-    mutable size_t m_lastChunk = 0; ///< where runs() found its stretch, and its start
+    mutable size_t m_lastChunk = 0; ///< where runs() begins to search, and its start
     mutable qsizetype m_lastStart = 0;
 };
 

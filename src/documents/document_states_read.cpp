@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Zeph authors
 // SPDX-License-Identifier: MIT
 
-// How the states are read, and how they follow what others do to the document.
+// Reading states, and following what others do to the document.
 
 #include "documents/document_states.h"
 
@@ -14,7 +14,7 @@ namespace zeph {
 
 qsizetype DocumentStates::documentSize() const
 {
-    // The toolkit counts a separator at the end that is no character of the text.
+    // The toolkit counts a separator at the end, which is no character of the text.
     return m_document.characterCount() - 1;
 }
 
@@ -29,7 +29,7 @@ void DocumentStates::onContentsChange(int position, int, int added)
     if (m_isWriting) {
         return;
     }
-    // The toolkit's numbers may count the end of the last line too.
+    // The toolkit's numbers may count that separator too.
     const qsizetype most = std::min(m_size, documentSize());
     const qsizetype front = std::min(qsizetype(position), most);
     follow(front, std::clamp(documentSize() - position - added, qsizetype(0), most - front));
@@ -38,7 +38,8 @@ void DocumentStates::onContentsChange(int position, int, int added)
 void DocumentStates::catchUp()
 {
     if (m_revision != m_document.revision()) {
-        // Changed within an edit block that is still open: where, nobody has been told.
+        // An edit block is still open, and the toolkit reports only at its end where it changed the
+        // text.
         follow(0, 0);
     }
 }
@@ -62,8 +63,8 @@ void DocumentStates::follow(qsizetype sameInFront, qsizetype sameAtEnd)
     }
 }
 
-/// Reads the paragraphs again of the chunks that a stretch touches; the one that starts at its end
-/// is one of them, since the toolkit may give the line after removed ones their format.
+/// Reads the paragraphs of the chunks that a stretch touches again, and of the chunk that starts at
+/// its end: the toolkit may give the line after removed ones their format.
 void DocumentStates::followParagraphs(qsizetype from, qsizetype to)
 {
     const ParagraphReader read = paragraphReader();
@@ -93,7 +94,7 @@ ParagraphReader DocumentStates::paragraphReader() const
     return [this](qsizetype from, QStringView text, bool isLast) {
         std::vector<ParagraphRun> runs = paragraphRunsOf(m_document, from, text);
         if (!isLast && --runs.back().count == 0) {
-            // After its last line end a text counts the next line, which is the next chunk's.
+            // The line after the last line end is counted too, but belongs to the next chunk.
             runs.pop_back();
         }
         runs.shrink_to_fit();

@@ -29,8 +29,8 @@ Documents::Documents(const Context &context, QObject *parent)
 
 void Documents::markOverwritten(const Document &written)
 {
-    // Nobody keeps the user from saving one document over the other's file. What the other one
-    // holds is then on no disk any more.
+    // The user may save one document over the other's file. The other's text is then on the disk no
+    // longer.
     Document &other = this->other(written);
     if (other.state() == Document::Saved && other.path() == written.path()
         && other.text() != written.text()) {

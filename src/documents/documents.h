@@ -14,8 +14,8 @@ namespace zeph {
 
 struct Statement;
 
-/// The pair of documents that is edited: there are always exactly two, and closing one means a
-/// fresh empty one. One of them is selected.
+/// The two documents that are edited. There are always exactly two: closing one puts a new, empty
+/// one in its place. One of them is selected.
 class Documents : public QObject
 {
     Q_OBJECT
@@ -26,7 +26,7 @@ public:
     Document &joystick() { return m_joystick; }
     Document &macro() { return m_macro; }
     Document &selected() { return of(m_selected); }
-    /// The one that is not given.
+    /// The other one of the pair.
     Document &other(const Document &document)
     {
         return document.kind() == DocumentKind::Macro ? m_joystick : m_macro;
@@ -41,20 +41,20 @@ public:
     /// Selects a document, as a click on its tab does.
     void select(DocumentKind kind);
 
-    /// Guards the macro text against the user.
+    /// Locks the macro text against changes by the user, or unlocks it.
     void setProtected(bool on);
     bool isProtected() const { return m_protected; }
-    /// Whether the selected text takes no changes; tells the refusal when it is the protected one.
+    /// Whether the selected text takes no changes. The user is told when it is the protected one.
     bool refuseProtected();
 
-    /// Writes what a tool has made into the selected document, over the selection, in its colours:
-    /// one step to undo, and the caret goes to its end. False when the text takes no changes: a
-    /// protected one is told.
+    /// Writes what a tool has made over the selection of the selected document, in its colours, as
+    /// one step to undo; the caret goes to its end. False when the text takes no changes, as
+    /// refuseProtected() says.
     bool insert(const Statement &statement);
 
-    /// A name and a path for a document that has no file yet; its text stays.
+    /// Gives a document the name and the path of one that has no file yet; its text stays.
     void renameFresh(DocumentKind kind);
-    /// Font and colour of plain text that the settings say.
+    /// Font and colour of plain text, from the settings.
     CharFormat plainFormat(DocumentKind kind) const;
 
 Q_SIGNALS:
@@ -72,7 +72,7 @@ private:
     bool m_protected = false;
 };
 
-// What a generator gives: a statement to write into a document, or a refusal to show. Plain values.
+// What a generator gives: a statement to write into a document, or a refusal to show.
 
 class RichTextBox;
 
@@ -85,29 +85,30 @@ struct Statement {
     };
 
     QList<Piece> pieces;
-    /// It begins a line of its own, unless the caret is at the start of one.
+    /// Whether it has to start a line: a line end goes before it, unless the caret is at a line's
+    /// start.
     bool startsLine = false;
 
     QString text() const;
 };
 
-/// Why a tool makes no statement: what its box says.
+/// Why a tool makes no statement: what the box says.
 struct Refusal {
     QString title;
     QString text;
     BoxIcon icon = BoxIcon::Exclamation;
 };
 
-/// A text in the colours that typing gives it; characters without a colour look plain. Lines end
-/// in '\n'.
+/// A text in the colours that typing gives it; characters that no pass colours look plain. Lines
+/// end in '\n'.
 RichText paintedAsTyped(const QString &text, const ColourScheme &scheme, const CharFormat &plain);
 /// A statement's text in its colours.
 RichText richTextOf(const Statement &statement, const ColourScheme &scheme,
                     const CharFormat &plain);
-/// Paints a box's text as typing is painted. Its paragraphs, caret and selection stay.
+/// Paints a box's text as typing paints it. Paragraphs and selection stay.
 void colourBox(RichTextBox &box, const ColourScheme &scheme, const CharFormat &plain);
 
-/// A text whose line ends are CR LF or CR, with '\n' for each.
+/// The text with each line end, CR LF or CR, made '\n'.
 QString withLineEnds(QString text);
 
 } // namespace zeph

@@ -3,7 +3,7 @@
 
 #pragma once
 
-// The Editor's own words that more than one place says.
+// Texts of the Editor that several places show.
 
 #include "documents/document.h"
 #include "language/file_kinds.h"
@@ -16,23 +16,24 @@ namespace zeph {
 /// The Yes, No and Cancel box before an unsaved document is replaced or the program ends.
 Box saveQuestion(const Document &document, const QString &why);
 
-/// The box that a save which the user perhaps cancelled by accident ends in.
+/// Tells that a new file of the wanted kind is not begun, since the document was not saved: the
+/// user may have cancelled that by accident.
 Box wontContinueBox(const Document &document, DocumentKind wanted);
 
-/// The question whether to open a document again whose file was overwritten on disk.
+/// Asks whether to open a document again after its file was overwritten on disk.
 Box reloadBox(const Document &document);
 
 /// The refusal of every operation that would change a protected macro file.
 Box fileProtectedBox();
 
-/// What panel 1 becomes when a tab is selected: a compiler's result, a macro's keys and the same
-/// text stay.
+/// The text of panel 1 after a tab is selected. A compiler's result ("Compile...") and a macro's
+/// keys (with "=") stay there.
 QString tabStatus(const QString &current, const QString &caption, bool isProtected = false);
 
-/// Tooltip of the saved state's picture.
+/// Tooltip of the picture that shows whether a document is saved.
 QString savedTooltip(const Document &document);
 
-// How the settings want a document to look.
+// What the settings say of the documents' looks.
 
 struct ColourSettings;
 

@@ -144,7 +144,7 @@ int EditorView::characterAt(DocumentKind kind, const QPoint &at) const
     if (at.y() < place.top() || at.y() > place.bottom()) {
         return -1;
     }
-    // The place nearest to the point may be the one after the character that the point is on.
+    // The position nearest to the point may be the one after the character under it.
     if (at.x() >= place.left()) {
         return nearest.position();
     }
@@ -171,7 +171,7 @@ void EditorView::watch(QObject &filter)
 {
     for (TextControl *control : m_controls) {
         control->installEventFilter(&filter);
-        // The mouse speaks to the viewport.
+        // Mouse events go to the viewport.
         control->viewport()->installEventFilter(&filter);
     }
 }
@@ -200,7 +200,7 @@ void EditorView::ShowBothFiles()
 
 void EditorView::PositionControls()
 {
-    // Shown first: the focus never falls to another window's control in between.
+    // Shown before the other is hidden, so that the focus does not leave the texts in between.
     TextControl &selected = selectedControl();
     selected.show();
     for (TextControl *control : m_controls) {

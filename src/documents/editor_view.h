@@ -15,12 +15,12 @@ class QTabBar;
 
 namespace zeph {
 
-/// The room of the Editor window that shows the documents: the tab strip and two controls.
+/// The part of the Editor window that shows the documents: the tab strip and two controls.
 class EditorView : public QWidget
 {
     Q_OBJECT
 public:
-    /// The documents outlive the view.
+    /// The documents must outlive the view.
     EditorView(const Context &context, Documents &documents, QWidget *parent = nullptr);
 
     Documents &documents() { return m_documents; }
@@ -29,8 +29,8 @@ public:
 
     /// Gives the keyboard to the selected document's control.
     void ResetFocusToEditor();
-    /// What the user sees of a document when this is made is what he sees again when it goes,
-    /// however the caret moves meanwhile.
+    /// Keeps what is seen of a document: the destructor scrolls back to where the view was at the
+    /// constructor, however the caret has moved meanwhile.
     class KeptPlace
     {
     public:
@@ -43,7 +43,7 @@ public:
         TextControl &m_control;
         TextControl::Scroll m_scroll;
     };
-    /// The same for a text that is changed line by line: it is seen from its left edge then.
+    /// Like KeptPlace, but the view goes to the left edge, where changes of whole lines are seen.
     class KeptLine
     {
     public:
@@ -56,17 +56,18 @@ public:
         TextControl &m_control;
         int m_down;
     };
-    /// Scrolls so that a document's caret is in the middle.
+    /// Scrolls a document's caret to the middle of its view.
     void centreCaret(DocumentKind kind);
-    /// Lets an event filter see what comes to the controls and to their viewports.
+    /// Installs an event filter on the controls and their viewports.
     void watch(QObject &filter);
-    /// Lets an event filter see the mouse over a text, pressed or not: in its viewport's pixels.
+    /// Installs an event filter on a text's viewport, which gets mouse moves without a button too.
     void watchMouse(DocumentKind kind, QObject &filter);
-    /// Whose control an event filter has been shown; nothing for other objects, viewports too.
+    /// The document whose control an event filter watched; none for other objects, viewports too.
     std::optional<DocumentKind> kindOf(const QObject *watched) const;
-    /// The character under a point of a text's viewport; -1 above and below the text.
+    /// The 0-based character under a point of a text's viewport; -1 above, below and left of the
+    /// text.
     int characterAt(DocumentKind kind, const QPoint &at) const;
-    /// Where on the screen a pop-up at the selected document's caret belongs.
+    /// The point of the screen for a pop-up below the selected document's caret.
     QPoint belowCaret() const;
 
     /// Distance of the selected control's tab stops, in device-independent pixels.
@@ -75,17 +76,19 @@ public:
     /// Puts the selection on the clipboard.
     void copy();
 
-    /// Shows both texts side by side, or the selected one over the whole space.
+    /// Shows both texts side by side, or the selected one alone.
     void setTiled(bool tiled);
     bool isTiled() const { return m_tiled; }
+    /// Shows both controls, whatever setTiled() said last.
     void ShowBothFiles();
+    /// Shows the selected document's control alone.
     void PositionControls();
 
     /// Shows the documents' names on the tabs.
     void updateCaptions();
     /// Shows the selected document's state on the status bar.
     void UpdateSavedIcon();
-    /// Colours and fonts from the settings, for text to come; text that is there keeps its looks.
+    /// Takes background, font and colours from the settings. Text that is there keeps its looks.
     void applyLook();
 
 Q_SIGNALS:

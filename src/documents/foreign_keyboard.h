@@ -14,14 +14,14 @@ namespace zeph {
 class Keyboard;
 struct DocumentSettings;
 
-/// Keeps the keyboard layout of one window: some text controls change it by themselves on the way,
-/// and with ForeignLanguageKBInputFix on the layout that the window came up with is put back when a
-/// text box of it gets the focus.
+/// Keeps the keyboard layout of one window, since some text controls change it by themselves. While
+/// ForeignLanguageKBInputFix is on, a text box of the window that gets the focus brings back the
+/// layout that was set when this object was made.
 class ForeignKeyBSupport : public QObject
 {
     Q_OBJECT
 public:
-    /// Watches the text boxes that the window holds now. The window owns this object.
+    /// Watches the text boxes that the window has now. The window owns this object.
     ForeignKeyBSupport(Keyboard &keyboard, const DocumentSettings &settings, QWidget *window);
 
     bool eventFilter(QObject *watched, QEvent *event) override;

@@ -19,7 +19,7 @@ namespace {
 
 using language::operator""_w;
 
-/// What the status line says from the pass of a word on.
+/// What the status line says when the pass of a word begins.
 struct PassStatus {
     QStringView word;
     QStringView text;
@@ -72,7 +72,8 @@ void Highlighting::applyColour(Document &document)
         return;
     }
     const bool isJoystick = document.kind() == DocumentKind::Joystick;
-    // Colours go before colours come; one set of looks serves both.
+    // Old colours are not removed in a step of their own, since the new looks replace them; the
+    // status line tells of both all the same.
     status.setTextNow(u"Removing colour highlighting from "_s + document.caption()
                       + u". Please wait ..."_s);
     status.setText(u"Done"_s);
@@ -192,7 +193,7 @@ void Highlighting::followScheme(const ColourSettings &before)
             each.history().storeTop();
         }
         if (each.state() == Document::Saved) {
-            // A copy that cannot be written is only a cache that lags behind.
+            // The copy is only a cache: nothing is lost when it cannot be written.
             (void)m_parts.copies.SaveColouredText(each);
         }
     });

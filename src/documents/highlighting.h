@@ -15,8 +15,8 @@ class Documents;
 class EditorView;
 struct ColourSettings;
 
-/// Gives the documents their colours and takes them away. Looks only: no text changes, and no
-/// saved state either. Caret and scroll stay where the user has them.
+/// Gives the documents their colours and takes them away. Only looks change: neither the text nor
+/// the saved state. Caret and scroll stay where the user has them.
 class Highlighting
 {
 public:
@@ -27,10 +27,10 @@ public:
     };
     Highlighting(const Context &context, const Parts &parts);
 
-    /// Sets font, size, plain colour and margin over the whole document, without bold, italic,
-    /// underline and colours. An empty document stays as it is.
+    /// Gives the whole document the plain font, size, colour and margin; bold, italic, underline
+    /// and colours go. An empty document stays as it is.
     void reformat(Document &document);
-    /// The same on the selected document, its looks stored in the top undo slot. Refused on a
+    /// The same for the selected document, whose looks go into the top undo slot. Refused on a
     /// protected macro file.
     void mnuViewReformat_Click();
 
@@ -50,12 +50,13 @@ public:
     /// Refused on a protected macro file.
     void mnuRemoveColourSelectedText_Click();
 
-    /// Gives both documents a font that is other than before, and what has a colour of the scheme
-    /// before the one that took its place; other colours and looks stay. The coloured copy of a
-    /// saved document follows.
+    /// Takes changed colours and a changed font over into both documents: text in a colour of the
+    /// scheme before gets the one that replaced it, all other colours and looks stay. The coloured
+    /// copy of a saved document is written anew.
     void followScheme(const ColourSettings &before);
 
-    /// Colours the lines of the selection, or the caret's line, at the cost of these lines alone.
+    /// Colours the lines of the selection, or the caret's line, without a look at the rest of the
+    /// text.
     void BlockColour();
     /// Colours the caret's line; with flag 1 as an undo step of its own.
     void TestColour(int flag);
@@ -64,7 +65,7 @@ public:
 
     /// A piece of text in the selected document's font, painted as typing paints it.
     RichText ColourType(const QString &text) const;
-    /// The same with its comments alone painted.
+    /// The same, but only comments are painted.
     RichText JustREMtocolour(const QString &text) const;
 
 private:

@@ -14,10 +14,10 @@ namespace zeph {
 class Document;
 class EditorView;
 
-/// Selects the caret's line, its line end left out.
+/// Selects the caret's line without its line end.
 void SelectLine(Document &document);
 
-/// Shows where undo and redo have led: the caret's line is selected and let go again, twice.
+/// Shows where undo and redo have led: the caret's line is shown selected, twice, for a moment.
 class LineBlink : public QObject
 {
     Q_OBJECT
@@ -30,7 +30,7 @@ public:
     void stop();
 
 protected:
-    /// A key or a click finds the caret where it belongs: typing must not replace the line.
+    /// Ends the blinking before a key or a click takes effect: typing must not replace the line.
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
@@ -47,12 +47,12 @@ private:
 class Document;
 class EditorView;
 
-/// What the caret does at a line that is shown: a line to look at is selected; one to write in is
-/// not, since the first key would replace it.
+/// How a line is shown: one to look at is selected; one to write in is not, since the first key
+/// would replace it.
 enum class LineCaret { SelectsLine, AtStart };
 
-/// Brings a document to the front with the caret at one of its lines (1-based). A line that the
-/// document does not have is told; false then.
+/// Brings a document to the front with the caret at one of its lines (1-based). False, after a box,
+/// when the document does not have that line.
 bool showLine(const Context &context, EditorView &view, Document &document, int line,
               LineCaret caret);
 

@@ -58,11 +58,12 @@ MarginColours marginColours(const QColor &textBackground)
     colours.mark = mix(textBackground, ink, dark ? 0.10 : 0.06);
     colours.background = mix(textBackground, ink, 0.05);
     if (contrast(colours.background, ink) < readable) {
-        // A middling background has no room on the ink's side.
+        // Nearer to the ink, a background of medium brightness leaves it unreadable: go away from
+        // it.
         colours.background = mix(textBackground, dark ? black : white, 0.05);
     }
     colours.current = ink;
-    // As quiet as it can be, and still readable.
+    // The faintest colour that can still be read.
     for (int percent = 50; percent <= 100; percent += 5) {
         colours.number = mix(colours.background, ink, percent / 100.0);
         if (contrast(colours.background, colours.number) >= readable) {

@@ -13,7 +13,7 @@ class QPlainTextEdit;
 
 namespace zeph {
 
-/// A line that is seen: its 1-based number and where it stands in the viewport.
+/// A line that is seen: its 1-based number and its place in the viewport, in pixels.
 struct SeenLine {
     int number = 0;
     double top = 0;
@@ -21,7 +21,7 @@ struct SeenLine {
     double baseline = 0;
 };
 
-/// What stands beside and behind the text, in colours that fit its background.
+/// The colours of the margin and of the mark on the caret's line.
 struct MarginColours {
     QColor background;
     QColor number;
@@ -31,7 +31,8 @@ struct MarginColours {
     QColor mark;
 };
 
-/// Margin, numbers that can be read on it, and a mark that leaves the text readable.
+/// Colours that fit a text's background: numbers that can be read on the margin, and a mark that
+/// leaves the text readable.
 MarginColours marginColours(const QColor &textBackground);
 /// How well one colour is read on another: 1 not at all, 21 best.
 double contrast(const QColor &one, const QColor &other);
@@ -43,10 +44,10 @@ class LineMargin : public QWidget
 public:
     using SeenLines = std::function<QList<SeenLine>()>;
 
-    /// The function tells which lines are seen when the margin is painted.
+    /// The function gives the lines to number; it is called whenever the margin is painted.
     LineMargin(QPlainTextEdit &text, SeenLines seenLines);
 
-    /// Room for the number of the last line.
+    /// The width in pixels that the number of the last line needs.
     int wantedWidth() const;
 
 protected:

@@ -15,7 +15,8 @@
 
 namespace zeph {
 
-/// How many laid out lines have which width. Lives as long as any line that is counted in it.
+/// How many lines of each width there are, so that the longest one is known without a pass over all
+/// lines. Every line holds it, since lines may outlive the layout.
 class LineWidths
 {
 public:
@@ -33,7 +34,7 @@ private:
     std::map<double, int> m_counts;
 };
 
-/// What the layout knows of a line that has been laid out; the toolkit deletes it with the line.
+/// What the layout keeps of a line that has been laid out; the toolkit deletes it with the line.
 class LooksLayout::Line : public QTextBlockUserData
 {
 public:
@@ -54,7 +55,7 @@ public:
         }
     }
 
-    bool hasLooks = false; ///< told since they last changed
+    bool hasLooks = false; ///< its formats are its present looks
 
 private:
     std::shared_ptr<LineWidths> m_widths;
@@ -78,7 +79,7 @@ QSizeF LooksLayout::documentSize() const
 QRectF LooksLayout::blockBoundingRect(const QTextBlock &block) const
 {
     if (block.isValid() && !isLaidOut(block)) {
-        // The toolkit's layouts do the same: a line is laid out when somebody asks for it.
+        // The toolkit's own layouts do the same within this const function.
         const_cast<LooksLayout *>(this)->layOut(block);
     }
     return QPlainTextDocumentLayout::blockBoundingRect(block);
@@ -100,7 +101,7 @@ LooksLayout::Line &LooksLayout::lineOf(const QTextBlock &block,
     return static_cast<Line &>(*owner.userData());
 }
 
-/// The same geometry as the toolkit's layout of plain text.
+/// Gives the line the same geometry as the toolkit's layout of plain text would.
 void LooksLayout::layOut(const QTextBlock &block)
 {
     Line &line = lineOf(block, m_widths);
@@ -133,10 +134,11 @@ void LooksLayout::layOut(const QTextBlock &block)
 
 void LooksLayout::giveLooks(const QTextBlock &block, Line &line)
 {
-    // Marked first: the toolkit may ask for the line again before this returns.
+    // Set first, since the toolkit may ask for the line again before this returns.
     line.hasLooks = true;
     if (!m_states || !m_states->isUpToDate()) {
-        // While the text is being changed the line is laid out as it was; the change asks again.
+        // While the text is being changed its looks are not known: the line keeps those it has, and
+        // is laid out again after the change.
         line.hasLooks = !m_states;
         return;
     }
@@ -144,7 +146,8 @@ void LooksLayout::giveLooks(const QTextBlock &block, Line &line)
     if (formats != block.layout()->formats()) {
         const QScopedValueRollback giving(m_isGivingLooks, true);
         block.layout()->setFormats(formats);
-        // The toolkit has noted a change of the text, which would be told with the next true one.
+        // setFormats() counts as a change of the text, which the toolkit would report together with
+        // the next true one. It is reported now, while documentChanged() ignores it.
         document()->markContentsDirty(block.position(), block.length());
     }
 }
@@ -160,8 +163,8 @@ QList<QTextLayout::FormatRange> LooksLayout::formatsOf(const QTextBlock &block)
     return block.layout()->preeditAreaText().isEmpty() ? formats : withComposed(block, formats);
 }
 
-/// Makes room in a line's formats for what an input method composes in it; it keeps the input
-/// method's marks, in the look that it will be typed in.
+/// Makes room in a line's formats for the text that an input method is composing there. That text
+/// keeps the marks of the input method, in the look in which it will be typed.
 QList<QTextLayout::FormatRange>
 LooksLayout::withComposed(const QTextBlock &block,
                           const QList<QTextLayout::FormatRange> &formats) const
@@ -214,7 +217,7 @@ void LooksLayout::forget(const QTextBlock &first, const QTextBlock &last)
     }
 }
 
-/// Lays one line out anew and has as little painted again as that allows.
+/// Lays one line out anew. Only this line is painted again, unless its height has changed.
 void LooksLayout::layOutAgain(const QTextBlock &block)
 {
     const double before = QPlainTextDocumentLayout::blockBoundingRect(block).height();
@@ -259,7 +262,7 @@ void LooksLayout::onLooksChanged(const std::vector<TextStretch> &stretches)
     }
     for (const TextStretch &stretch : stretches) {
         if (stretch.to <= block.position()) {
-            continue; // its line is done
+            continue; // its lines are forgotten already
         }
         if (stretch.from >= block.position()) {
             block = document()->findBlock(int(stretch.from));

@@ -14,9 +14,15 @@ namespace zeph {
 class DocumentStates;
 class LineWidths;
 
-/// Lays out a document whose looks its DocumentStates hold. A line is told its looks when it is
-/// first laid out, which is when it is first seen; looks that change cost only the lines that look
-/// otherwise, and those only when they are seen again. Belongs to the document.
+/// Lays out a document whose looks are held by its DocumentStates; the document owns the layout.
+///
+/// A line gets its looks, as formats of its QTextLayout, when it is laid out, and it is laid out
+/// when it is first asked for, which is when it is first seen. So opening and recolouring a file
+/// cost what is seen of it, not what there is.
+///
+/// When text or looks change, the lines concerned are forgotten and laid out when they are next
+/// asked for. A change within one line that is laid out already, such as typing, is followed at
+/// once, so that only this line is painted again.
 class LooksLayout : public QPlainTextDocumentLayout
 {
     Q_OBJECT
@@ -24,9 +30,9 @@ public:
     LooksLayout(QTextDocument &document, DocumentStates &states);
     ~LooksLayout() override;
 
-    /// The width of the longest line that has been laid out, and the number of lines.
+    /// The width of the longest line that has been laid out, and the number of lines (not pixels).
     QSizeF documentSize() const override;
-    /// Lays the line out if it is not.
+    /// Lays the line out first, if that has not been done.
     QRectF blockBoundingRect(const QTextBlock &block) const override;
 
 protected:
@@ -49,10 +55,10 @@ private:
     void tellSize();
 
     QPointer<DocumentStates> m_states;
-    std::vector<QTextCharFormat> m_formats; ///< by the looks' numbers
+    std::vector<QTextCharFormat> m_formats; ///< made of the looks, by their numbers
     std::shared_ptr<LineWidths> m_widths;
     int m_blockCount = 0;
-    int m_lineCount = 0; ///< as last told
+    int m_lineCount = 0; ///< in the size that was last told
     bool m_isGivingLooks = false;
     bool m_isTellingSize = false;
 };

@@ -95,7 +95,8 @@ void StyleEditor::read()
     CharFormat &format = current().format;
     current().name = m_ui->TextName->text();
     if (sender() == m_ui->ComboFont) {
-        // Only when chosen: the box shows another family where the style's own is not installed.
+        // Taken only when the user chose it: the box shows another family where the style's own is
+        // not installed.
         format.family = m_ui->ComboFont->currentFont().family();
     }
     format.pointSize = m_ui->SpinSize->value();

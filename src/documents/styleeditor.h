@@ -17,8 +17,8 @@ namespace Ui {
 class StyleEditor;
 }
 
-/// Shows and changes the nine styles, with a preview on the texts' background. Whoever opens it
-/// takes the styles when it is accepted.
+/// Shows and changes the nine styles, with a preview on the texts' background. The caller takes
+/// styles() when the dialog is accepted.
 class StyleEditor : public QDialog
 {
     Q_OBJECT
@@ -27,7 +27,7 @@ public:
                 QWidget *parent = nullptr);
     ~StyleEditor() override;
 
-    /// As the fields stand; a style without a name has its first one again.
+    /// The styles as the fields say now; a style without a name gets its default one.
     TextStyles styles() const;
 
 private:

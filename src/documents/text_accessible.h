@@ -19,7 +19,7 @@ class TextAccessible : public QAccessibleWidget,
                        public QAccessibleEditableTextInterface
 {
 public:
-    /// The view shows the text, and both live longer.
+    /// The view shows the text; both must outlive this object.
     TextAccessible(QPlainTextEdit &view, ColouredText &text);
 
     QAccessible::State state() const override;

@@ -48,7 +48,7 @@ ChunkReader::ChunkReader(const TextChunks &chunks, size_t chunk) : m_chunks(&chu
     enter();
 }
 
-/// Leaves chunks that are read to their end.
+/// Goes to the next chunk when one is read to its end; empty ones are passed over.
 void ChunkReader::enter()
 {
     while (m_chunk < m_chunks->size() && m_at == (*m_chunks)[m_chunk]->text.size()) {
@@ -127,7 +127,7 @@ void addOtherLooks(const TextChunk::Runs &one, const TextChunk::Runs &other, qsi
 {
     auto left = one.begin();
     auto right = other.begin();
-    // Where the two runs start that hold the position.
+    // The starts of the two runs that hold the position.
     qsizetype leftStart = position;
     qsizetype rightStart = position;
     while (left != one.end() && right != other.end()) {
@@ -194,8 +194,9 @@ std::vector<qsizetype> chunkBorders(QStringView text, int linesPerChunk)
 
 namespace {
 
-/// Makes the chunks after edits, region by region; a region is the old chunks that one edit, or
-/// several that meet, change.
+/// Applies edits region by region. A region is made of the neighbouring old chunks that an edit
+/// touches; edits that meet in a chunk have one region. Its text and runs are put together, edited
+/// and cut into new chunks.
 class ChunkEditor
 {
 public:
@@ -226,7 +227,7 @@ public:
 private:
     bool isAtEnd() const { return m_next == m_old.size(); }
 
-    /// Keeps the chunks before the one that holds a position.
+    /// Takes over the chunks before the one that holds a position.
     void keepUntil(qsizetype position)
     {
         while (m_next + 1 < m_old.size() && m_end + m_old[m_next]->text.size() <= position) {
@@ -239,7 +240,7 @@ private:
         m_position = m_end;
     }
 
-    /// Makes one more old chunk part of the region.
+    /// Adds the next old chunk to the region.
     void takeChunk() { m_end += m_old[m_next++]->text.size(); }
 
     void apply(const TextEdit &edit)
@@ -262,7 +263,9 @@ private:
         m_position = position;
     }
 
-    /// Whether no edit is left for the region, and it ends with a line and is no crumb.
+    /// Whether the region can be cut: no further edit falls into it, it ends at the end of a line,
+    /// and it is not so short that the next chunk should be joined to it. Copies what is left of
+    /// its old text.
     template <class Edit> bool isRegionWhole(Edit edit, Edit end)
     {
         if (edit != end && (edit->from < m_end || isAtEnd())) {
@@ -305,16 +308,17 @@ private:
     const ParagraphReader &m_paragraphs;
     ChunkReader m_reader;
     TextChunks m_chunks;
-    size_t m_next = 0; ///< old chunk after the region
+    size_t m_next = 0; ///< the old chunk after the region
     qsizetype m_end = 0; ///< of the region, in the old text
-    qsizetype m_position = 0; ///< in the old text, of what is to be copied next
+    qsizetype m_position = 0; ///< in the old text, up to which it is copied
     qsizetype m_newStart = 0; ///< of the region, in the new text
     QString m_text; ///< of the region, with its runs
     TextChunk::Runs m_runs;
 };
 
-/// What two texts have in common at their start and end. The toolkit may count a line end too much
-/// before what was put in, and after what was taken out.
+/// How many characters two texts have in common at their start and end. The toolkit may report one
+/// line end more than has changed, before inserted text and after removed text. So the start is
+/// counted first after an insertion, and the end first after a removal.
 struct CommonEnds {
     qsizetype front = 0;
     qsizetype back = 0;
@@ -353,9 +357,10 @@ void addDifference(QStringView before, QStringView now, qsizetype from,
 {
     const CommonEnds same(before, now);
     const qsizetype length = before.size() - same.front - same.back;
-    const qsizetype fresh = now.size() - same.front - same.back;
-    if (length > 0 || fresh > 0) {
-        edits.push_back({ from + same.front, length, now.mid(same.front, fresh).toString(), {} });
+    const qsizetype inserted = now.size() - same.front - same.back;
+    if (length > 0 || inserted > 0) {
+        edits.push_back(
+            { from + same.front, length, now.mid(same.front, inserted).toString(), {} });
     }
 }
 

@@ -3,8 +3,12 @@
 
 #pragma once
 
-// A long text with its looks, cut into chunks of whole lines, so that two versions of it share what
-// they have in common. Positions are 0-based characters.
+// A long text with its looks, cut into chunks of some dozens of whole lines. Chunks never change:
+// an edit makes a new list of chunks, in which only those that it touches are new. So two versions
+// of a text share what they have in common, and a version costs what it changed.
+//
+// The looks of a text are few and repeat often. A LookTable numbers them, and the runs of a chunk,
+// which cover its text without a gap, hold the numbers. Positions are 0-based characters.
 
 #include "platform/core/rich_text.h"
 
@@ -24,7 +28,7 @@ struct TextChunk {
     };
     using Runs = std::vector<Run>;
 
-    /// With line ends; only a text's last chunk has none at the end of its last line.
+    /// Each line with its line end; only the last line of a text has none.
     QString text;
     Runs runs;
     std::vector<ParagraphRun> paragraphs;
@@ -42,7 +46,7 @@ struct TextStretch {
     friend bool operator==(const TextStretch &, const TextStretch &) = default;
 };
 
-/// A stretch that gives way to other characters, whose looks the runs cover.
+/// Replaces a stretch by a text, whose looks the runs give.
 struct TextEdit {
     qsizetype from = 0;
     qsizetype length = 0;
@@ -54,7 +58,7 @@ struct TextEdit {
 class LookTable
 {
 public:
-    /// The number of a look as the screen shows it: a colour loses what no screen shows.
+    /// The number of a look. Looks that the screen shows alike have the same one.
     quint32 numberOf(const CharFormat &look);
     const CharFormat &look(quint32 number) const { return m_looks[number]; }
 
@@ -63,12 +67,12 @@ private:
     QHash<CharFormat, quint32> m_numbers;
 };
 
-/// Adds a run, to the last one where it goes on in the same look.
+/// Appends a run, or lengthens the last one when that has the same look.
 void addRun(TextChunk::Runs &runs, const TextChunk::Run &run);
-/// Adds paragraphs, to the last ones where they have the same format.
+/// Appends paragraphs, or adds them to the last run when that has the same format.
 void addParagraphs(std::vector<ParagraphRun> &runs, const ParagraphRun &run);
 
-/// Hands out the text and the runs of chunks from the start of one of them on.
+/// Reads the text and the runs of chunks one after the other, from the start of one of them.
 class ChunkReader
 {
 public:
@@ -76,11 +80,11 @@ public:
 
     /// What is left of the run at the position; its length is 0 at the text's end.
     TextChunk::Run next() const;
-    /// Goes on by so many characters, which may be many runs.
+    /// Goes on by a number of characters, across runs and chunks.
     void skip(qsizetype length);
-    /// Adds the runs of the next so many characters to others.
+    /// Goes on by a number of characters and appends their runs.
     void takeRuns(qsizetype length, TextChunk::Runs &runs);
-    /// The same with the characters themselves.
+    /// The same, and appends the characters too.
     void take(qsizetype length, QString &text, TextChunk::Runs &runs);
 
 private:
@@ -90,16 +94,16 @@ private:
     size_t m_chunk;
     qsizetype m_at = 0; ///< in the chunk's text
     size_t m_run = 0;
-    quint32 m_taken = 0; ///< of the run
+    quint32 m_taken = 0; ///< characters read of the run
 };
 
-/// Hands out runs piece by piece.
+/// Reads runs piece by piece.
 class RunReader
 {
 public:
     explicit RunReader(const TextChunk::Runs &runs) : m_runs(runs) { }
 
-    /// Adds the runs of the next so many characters to others.
+    /// Goes on by a number of characters and appends their runs.
     void take(qsizetype length, TextChunk::Runs &runs);
 
 private:
@@ -108,27 +112,31 @@ private:
     quint32 m_taken = 0;
 };
 
-/// Adds the stretches in which characters look otherwise in one text than in the other, which are
-/// as long as each other and start at a position.
+/// Compares the looks of two texts of equal length, which start at a position, and appends the
+/// stretches in which they differ.
 void addOtherLooks(const TextChunk::Runs &one, const TextChunk::Runs &other, qsizetype position,
                    std::vector<TextStretch> &stretches);
 
+/// Characters in the chunks [first, end).
 qsizetype sizeOf(const TextChunks &chunks, size_t first, size_t end);
+/// The characters [from, to).
 QString textOf(const TextChunks &chunks, qsizetype from, qsizetype to);
 
-/// The positions that part a text into chunks, its start and end among them.
+/// The positions at which a text is cut into chunks, its start and end included. The last chunk may
+/// be up to twice as long as the others.
 std::vector<qsizetype> chunkBorders(QStringView text, int linesPerChunk);
 
-/// Gives the paragraphs of a chunk's text, which starts at a position of the edited text.
+/// Gives the paragraphs of a chunk's text, which starts at a position of the edited text; isLast
+/// says that it is the text's last chunk.
 using ParagraphReader =
     std::function<std::vector<ParagraphRun>(qsizetype from, QStringView text, bool isLast)>;
-/// The chunks after edits, which are ascending and do not overlap; their positions are those before
-/// any of them. What no edit touches is shared.
+/// Applies edits. They ascend and do not overlap, and their positions are those before any of them.
+/// The new list shares the chunks that no edit touches.
 TextChunks edited(const TextChunks &chunks, const std::vector<TextEdit> &edits, int linesPerChunk,
                   const ParagraphReader &paragraphs);
 
-/// Edits, without runs, that make one text the other: as small as their common start and end allow,
-/// line by line where both have as many lines.
+/// Edits, without runs, that make one text of the other: as small as their common start and end
+/// allow, and line by line where both have as many lines.
 std::vector<TextEdit> differences(QStringView before, QStringView now);
 
 } // namespace zeph

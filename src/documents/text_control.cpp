@@ -19,7 +19,7 @@ namespace zeph {
 
 namespace {
 
-/// Whether a key press puts characters into a text, which commands do not.
+/// Whether a key press puts characters into a text; keys of commands do not.
 bool types(const QKeyEvent &event)
 {
     const auto held = event.modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier);
@@ -34,7 +34,8 @@ bool changesText(int key)
         || key == Qt::Key_Delete;
 }
 
-/// The toolkit asks with the object's class and then with those that it is derived from.
+/// The toolkit calls this with the name of the object's class, then with those of its base classes;
+/// only TextControl's own is answered.
 QAccessibleInterface *makeAccessible(const QString &className, QObject *object)
 {
     auto *control = qobject_cast<TextControl *>(object);
@@ -117,7 +118,7 @@ void TextControl::setLocked(bool on)
 {
     setReadOnly(on);
     if (on) {
-        // The toolkit's read-only text has no caret of its own accord.
+        // Without these flags the toolkit's read-only text shows no caret.
         setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     }
 }
@@ -226,7 +227,7 @@ void TextControl::tellKey(const QKeyEvent &event)
 
 void TextControl::inputMethodEvent(QInputMethodEvent *event)
 {
-    // What is composed of several keys comes without a key press.
+    // A character that is composed of several keys comes without a key press.
     if (!isReadOnly() && !event->commitString().isEmpty()) {
         Q_EMIT m_text.keyComing(event->commitString() == u" " ? Qt::Key_Space : Qt::Key_unknown);
     }
@@ -239,8 +240,8 @@ void TextControl::keyPressEvent(QKeyEvent *event)
     const auto held = event->modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier);
     const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     if (enter && held == Qt::NoModifier && !isReadOnly()) {
-        // The toolkit would make a line within a paragraph with Shift, which files do not know, and
-        // two changes of one key on an empty line.
+        // With Shift the toolkit would break the line within a paragraph, which files do not know,
+        // and on an empty line it would make two changes of one key.
         QTextCursor cursor = textCursor();
         cursor.insertBlock();
         setTextCursor(cursor);

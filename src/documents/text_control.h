@@ -20,7 +20,7 @@ class TextControl : public QPlainTextEdit
 {
     Q_OBJECT
 public:
-    /// The text outlives the view.
+    /// The text must outlive the view.
     explicit TextControl(ColouredText &text, QWidget *parent = nullptr);
     /// A view of a text of its own.
     explicit TextControl(QWidget *parent = nullptr);
@@ -29,12 +29,12 @@ public:
 
     /// Background of the whole control, and what plain text looks like.
     void setLook(ColorRef background, const CharFormat &plain);
-    /// Selects a stretch for the eye alone: the text's own caret stays where it is.
+    /// Shows a stretch as selected; the text's own caret and selection stay where they are.
     void mark(int start, int length);
-    /// Ends what mark() has shown.
+    /// Shows the text's own caret and selection again after mark().
     void showCaret();
 
-    /// Where the scroll bars are.
+    /// Values of the two scroll bars.
     struct Scroll {
         int across = 0;
         int down = 0;
@@ -63,7 +63,7 @@ protected:
     void insertFromMimeData(const QMimeData *source) override;
 
 private:
-    /// Guards the text against the user; the caret still moves and text can still be selected.
+    /// Locks the text against the user's changes; the caret still moves and text can be selected.
     void setLocked(bool on);
     void tellCaret();
     void tellKey(const QKeyEvent &event);
@@ -71,12 +71,12 @@ private:
     void updateMargin(const QRect &changed, int scrolled);
     void moveMark();
     void updateLine(int line);
-    /// The stretch of the viewport, over its whole width, in which a line stands.
+    /// The part of the viewport, over its whole width, that a line takes.
     QRectF lineArea(const QTextBlock &line) const;
 
     ColouredText &m_text;
     LineMargin *m_margin;
-    bool m_marks = false; ///< the selection is for the eye alone
+    bool m_marks = false; ///< the view's selection is that of mark(), not the text's
     bool m_marksLine = false;
     int m_markedLine = 1;
 };

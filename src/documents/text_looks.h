@@ -32,17 +32,17 @@ public:
     ~TextLooks();
 
     /// Bold (0), italic (1) or underline (2): off when all of the selection has it, on otherwise.
-    /// Without a selection it holds for what is typed next. Refused on a protected macro file, as
-    /// are styles; a change of a selection is one undo step.
+    /// Without a selection it holds for what is typed next. A change of a selection is one undo
+    /// step. Refused on a protected macro file, as styles are.
     void mnuFormatArray1_Click(int Index);
     /// Gives the selection one of the styles, 0 to 8.
     void mnuStyleArray_Click(int Index);
-    /// Shows the style editor, which keeps what its OK confirms.
+    /// Opens the style editor; its OK keeps the styles.
     void mnuFormatStyleEditor_Click();
     /// Writes the styles' names into the menu entries.
     void UpdateStyleCaptions();
 
-    /// Asks for the font of both texts, keeps it in the settings and sets it.
+    /// Asks for a font, keeps it in the settings and gives it to both texts.
     void mnuFormatFont_Click();
     /// Gives both texts the font of the settings; colours, italic and underline stay.
     void DoTheFonts();
@@ -62,9 +62,9 @@ class EditorView;
 class Highlighting;
 struct DocumentSettings;
 
-/// Colours lines as they are typed, while ColourWithTyping is 1: before a blank or a line end goes
-/// in, behind Backspace and Right, and when the mouse has selected something. A protected macro
-/// text, into which nothing is typed, stays as it is.
+/// Colours lines as they are typed, while ColourWithTyping is on: before a blank or a line end goes
+/// in, after Backspace and Right, and after the mouse has selected something. A protected macro
+/// text stays as it is.
 class TypingColour : public QObject
 {
     Q_OBJECT

@@ -27,17 +27,18 @@ public:
     void mnuEditRedo_Click();
     /// Selects the caret's line in the selected document.
     void mnuEditSelectLine_Click();
+    /// Shows the selected document's steps on the entries.
     void UpdateUndoRedoMenus();
-    /// A fresh history for a document.
+    /// Starts a document's history over with its present text.
     void startOver(DocumentKind kind);
-    /// When a save clears the history (UndoClearOnSave), this is what it does.
+    /// Starts the history over, as a save does while UndoClearOnSave is on.
     void DeleteUndosOnSaveJ() { startOver(DocumentKind::Joystick); }
     void DeleteUndosOnSaveM() { startOver(DocumentKind::Macro); }
-    /// Both documents, with an empty slot.
+    /// Forgets the steps of both documents, to give their memory back.
     void DeleteUndosFromMemory();
 
 Q_SIGNALS:
-    /// Captions and tooltips of undo and redo changed: the toolbar follows.
+    /// Captions and tooltips of undo and redo have changed; the toolbar follows.
     void menusUpdated();
 
 private:

@@ -3,7 +3,8 @@
 
 #pragma once
 
-// The undo history of a document: whole states in observable behaviour, shared structure in memory.
+// The undo history of a document. Each slot holds a whole state; in memory, states share what they
+// have in common.
 
 #include "documents/document_states.h"
 
@@ -17,19 +18,20 @@ class ColouredText;
 class UndoHistory
 {
 public:
-    /// Text and setting outlive the history.
+    /// The text and undoMax must outlive the history.
     UndoHistory(ColouredText &text, const int &undoMax);
 
-    /// One slot holding the document as it stands, caret 0: after load, new and clearing.
+    /// Starts over with one slot, which holds the document as it is now and the caret at 0.
     void reset();
-    /// One slot holding nothing: all memory is given back.
+    /// Starts over with one slot, which holds an empty text: gives the memory of all states back.
     void forget();
-    /// A real change took place: overwrites slot 1, or pushes a new one when UndoStepNext is 1.
+    /// Takes an edit of the text in: overwrites slot 1, or pushes a new one when UndoStepNext is 1.
     /// True when a slot was pushed.
     bool textChanged();
-    /// Puts the document as it stands, and its caret, into slot 1, without making a step.
+    /// Puts the document as it is now, and its caret, into slot 1, without making a step.
     void storeTop();
-    /// The word rules, before the change that a key brings: Qt::Key values.
+    /// To be called before the change that a key (Qt::Key) brings: decides by the rules of words
+    /// whether the change is a step of its own.
     void keyPressed(int key);
     /// Shows the next older (newer) state in the document.
     void undo();
@@ -39,7 +41,7 @@ public:
     int UndoIndex() const { return m_index; }
     bool canUndo() const { return slots() != UndoIndex(); }
     bool canRedo() const { return UndoIndex() != 1; }
-    /// Bytes that all slots hold together.
+    /// Bytes that all slots take together.
     qsizetype bytesHeld() const;
 
     /// 1: the next change pushes a slot. 0: it overwrites slot 1.
@@ -58,7 +60,7 @@ private:
     ColouredText &m_text;
     const int &m_undoMax;
     DocumentStates &m_states;
-    std::deque<Slot> m_slots; ///< slot 1 in front
+    std::deque<Slot> m_slots; ///< slot 1 comes first
     int m_index = 1;
     bool m_lastKeyWasSpace = false;
     bool m_lastKeyWasEnter = false;

@@ -12,7 +12,7 @@ namespace zeph {
 
 /// Colours and font of the texts and of the macro list.
 struct ColourSettings {
-    /// The defaults, which are not what the first run sets.
+    /// The defaults; the first run sets other colours (setFirstRunColours).
     ColourSettings();
 
     static std::span<const SettingRow<ColourSettings>> rows();
@@ -43,14 +43,15 @@ void setFirstRunColours(ColourSettings &settings);
 
 /// Reads the colours and the font of the texts.
 [[nodiscard]] SettingProblems readColours(Settings &settings, const SettingsFiles &files);
-/// Writes all sixteen keys of the colours and the font.
+/// Writes all keys of the colours and the font.
 Expected<void, FileError> SaveColourScheme(Settings &settings, const SettingsFiles &files);
 
-// The pilot's own colours in the colour dialog.
+// The colours that the pilot has made in the colour dialog.
 
 /// The sixteen custom colours of the settings store (CustomColour1 to CustomColour16 in section
 /// Colours); white where there is none.
 CustomColours GetCustomColour(const ProfileFile &store);
+/// Writes all sixteen.
 Expected<void, FileError> keepCustomColours(const ProfileFile &store, const CustomColours &colours);
 
 } // namespace zeph

@@ -31,7 +31,8 @@ QString copyPath(const QString &appFolder, int number)
     return withClosingSeparator(appFolder) + u"Zeph."_s + QString::number(number);
 }
 
-/// Makes the copy. False when another instance that starts at the same moment was faster.
+/// Makes the copy, if the folder can be written. False when another instance, started at the same
+/// moment, has just taken this name.
 bool makeCopy(const QString &path, const QByteArray &store)
 {
     QFile copy(path);
@@ -39,7 +40,7 @@ bool makeCopy(const QString &path, const QByteArray &store)
         return !copy.exists();
     }
     if (copy.write(store) != store.size() || !copy.flush()) {
-        // Half a store would be worse than none, which reads as all defaults.
+        // Half a store would be worse than none: without one all settings have their defaults.
         copy.remove();
     }
     return true;
@@ -72,7 +73,7 @@ void deleteInstanceStore(const Instance &instance)
     if (!instance.isFurther()) {
         return;
     }
-    // Another program may hold the file for a moment, a virus scanner for one.
+    // Another program, such as a virus scanner, may hold the file for a moment.
     for (int i = 0; i < deleteTries && QFile::exists(instance.iniPath); ++i) {
         if (!QFile::remove(instance.iniPath)) {
             QThread::msleep(deletePauseMs);

@@ -3,7 +3,8 @@
 
 #pragma once
 
-// Further instances of the program from one folder: each works on a numbered copy of the store.
+// Several instances of the program in one folder: each but the first works on a numbered copy of
+// the store, Zeph.ini.
 
 #include "platform/core/base.h"
 
@@ -18,10 +19,11 @@ struct Instance {
     bool isTooMany() const { return number >= 1000; }
 };
 
-/// Takes the first free number for a further instance and makes its copy of the store.
+/// Takes the first free number for a further instance and makes its copy of the store. When the
+/// copy cannot be written, the instance works with the defaults.
 Instance MoreThan1open(const QString &appFolder);
 
-/// Deletes the copies that crashed instances left behind, and gives the first instance.
+/// Deletes the copies that crashed instances have left, and gives the first instance.
 Instance GetRidOfPreviousIniFiles(const QString &appFolder);
 
 /// Deletes a further instance's copy at its end; the first instance's store stays.

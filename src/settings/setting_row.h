@@ -59,7 +59,7 @@ struct SavedAs {
     int place = 0;
 };
 
-/// All that a row says but for the member.
+/// All that a row says except the member.
 struct SettingKey {
     SettingsStore store = SettingsStore::Zeph;
     QStringView section = {};
@@ -73,7 +73,7 @@ struct SettingKey {
     std::variant<std::monostate, ColorRef> firstRun = {};
 
     bool isSaved() const { return saved.place > 0; }
-    /// The size of the read's buffer, in characters with the closing NUL.
+    /// How many characters of a value are read, counting a closing NUL; the rest is cut off.
     int buffer() const
     {
         return step == SettingsStep::Colours ? profileColourBuffer : profileTextBuffer;
@@ -125,7 +125,7 @@ constexpr SettingRow<Struct> row(QStringView section, QStringView key, ColorRef 
     return { { .section = section, .key = key, .missing = missing, .saved = saved }, member };
 }
 
-/// The row, for another file than Zeph.ini.
+/// The same row, for a setting that another file than Zeph.ini holds.
 template <class Struct> constexpr SettingRow<Struct> in(SettingsStore store, SettingRow<Struct> row)
 {
     row.store = store;
@@ -153,13 +153,13 @@ template <class Struct, class Value> Value defaultOf(Value Struct::*member)
     return std::get<Value>(defaultOf(static_cast<const SettingKey &>(rowOf(member))));
 }
 
-/// The values of one struct by their rows, whichever struct it is.
+/// Reads and sets the members of any room's struct by their keys.
 class SettingsGroup
 {
 public:
     virtual ~SettingsGroup() = default;
 
-    /// In the order of the rows.
+    /// All keys, in the order of the rows.
     virtual QList<const SettingKey *> keys() const = 0;
     /// The key must be one of keys().
     virtual SettingValue value(const SettingKey &key) const = 0;
@@ -168,7 +168,7 @@ public:
     void setDefaults();
 };
 
-/// The group of a struct that lives at least as long.
+/// The group of one struct, which must outlive it.
 template <class Struct> class SettingsOf final : public SettingsGroup
 {
 public:

@@ -15,7 +15,7 @@ namespace zeph {
 
 namespace {
 
-/// A setting with the struct in which its value is.
+/// A setting, and the group that holds its value.
 struct Place {
     SettingsGroup *group;
     const SettingKey *key;
@@ -23,7 +23,7 @@ struct Place {
 
 constexpr std::array stores = { SettingsStore::Zeph, SettingsStore::Hotas, SettingsStore::Layouts };
 
-/// The whole text as a number within 32 bits. Files from other countries have a decimal comma.
+/// The whole text as a number within 32 bits. Files from some countries have a decimal comma.
 std::optional<double> wholeNumber(QString text)
 {
     bool good = false;
@@ -39,7 +39,7 @@ std::optional<qint32> shortInteger(const QString &text, qint32 missing)
     return anyInteger.nearest(number) == number ? std::optional(number) : std::nullopt;
 }
 
-/// Makes a value of a text by the type of the default. No value when the text is none.
+/// Reads a text as a value of the default's type; no value when that is impossible.
 struct ValueReader {
     const SettingKey &key;
     const QString &text;
@@ -71,7 +71,7 @@ struct ValueWriter {
     QString operator()(const QString &text) const { return text; }
     QString operator()(bool flag) const { return flag ? u"1"_s : u"0"_s; }
     QString operator()(int number) const { return QString::number(number); }
-    /// Plain decimals, with as many digits as are needed.
+    /// Without an exponent, with as many digits as are needed.
     QString operator()(double number) const
     {
         return QString::number(number, 'f', QLocale::FloatingPointShortest);

@@ -3,8 +3,8 @@
 
 #pragma once
 
-// The settings of a run: the structs of all rooms, and their way from and to the files. How a room
-// tells its settings is in setting_row.h.
+// The settings of a run: the structs of all rooms, and how they are read from the files and written
+// to them. How a room declares its settings is said in setting_row.h.
 
 #include "settings/setting_row.h"
 #include "settings/settings_files.h"
@@ -24,8 +24,10 @@ class StatusLine;
 class Settings
 {
 public:
+    /// The values of one room.
     template <class Struct> Struct &of() { return owned<Struct>().values; }
 
+    /// The same values by their keys.
     template <class Struct> SettingsGroup &group() { return owned<Struct>().view; }
 
     /// All groups that have been asked for, in that order.
@@ -89,7 +91,7 @@ private:
     SettingsGroup &(*m_group)(Settings &);
 };
 
-/// A value that could not be taken over; the setting has its default instead.
+/// A value in a file that could not be read; the setting has its default instead.
 struct SettingProblem {
     QString file;
     QString section;
@@ -102,7 +104,7 @@ using SettingProblems = QList<SettingProblem>;
 
 /// Reads every setting of the step Global. Numbers outside of their range take its nearest end.
 [[nodiscard]] SettingProblems readGlobalSettings(Settings &settings, const SettingsFiles &files);
-/// Reads single settings anew.
+/// Reads single settings again.
 [[nodiscard]] SettingProblems readSettings(Settings &settings, const SettingsFiles &files,
                                            std::initializer_list<SettingRef> wanted);
 /// Reads all settings of a group.
@@ -120,7 +122,7 @@ Expected<void, FileError> saveGroup(SettingsGroup &group, const SettingsFiles &f
 /// Tells all problems in one box; no box when there are none.
 void tellProblems(Dialogs &dialogs, const SettingProblems &problems);
 
-/// Tells in panel 1 that settings are not on the disk.
+/// Tells in panel 1 that settings could not be written.
 void tellNotKept(StatusLine &status, const FileError &error);
 
 } // namespace zeph

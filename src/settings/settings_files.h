@@ -35,7 +35,7 @@ inline SettingsFiles settingsFilesOf(const Paths &paths)
              ProfileFile(paths.inApp(u"Layouts.ini")) };
 }
 
-/// Writes where the user's files lie into the file that the toolchain reads.
+/// Writes the folder of the user's files into HOTAS.ini, where the toolchain reads it.
 inline Expected<void, FileError> saveFilesFolder(const SettingsFiles &files, const QString &folder)
 {
     return files.hotasIni.write({ u"Files"_s, u"Files"_s, folder });

@@ -7,7 +7,7 @@
 
 namespace zeph {
 
-/// What rooms that do not know each other share.
+/// Settings that several rooms use which do not include each other.
 struct SharedSettings {
     /// The defaults.
     SharedSettings();
@@ -23,10 +23,11 @@ struct SharedSettings {
     QString TextFilePath;
 };
 
-/// The name of whoever writes files, without the blanks around it: the given one, or what stands
-/// for nobody.
+/// The author's name for files: the given one without the blanks around it, or the default of
+/// ValidUser when it is empty.
 QString personsNameOr(const QString &name);
-/// How the pilot is addressed: by the callsign, or as everybody is for an empty one.
+/// The name by which the pilot is addressed: the callsign without the blanks around it, or the
+/// default of PilotCallsign when it is empty.
 QString callsignOrBuddy(const QString &callsign);
 
 } // namespace zeph

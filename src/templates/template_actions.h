@@ -3,7 +3,7 @@
 
 #pragma once
 
-// The menus of the Template Editor, which mirror the main window's where they do the same.
+// The menus of the Template Editor. Entries that the main window has too look the same here.
 
 #include "menus/action_row.h"
 

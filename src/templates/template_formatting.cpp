@@ -39,7 +39,8 @@ constexpr std::array sizes = { 8, 9, 10, 11, 12, 14, 16, 18, 20, 24, 28, 36, 48,
 constexpr int swatchSize = 16;
 constexpr int fontsWidth = 170;
 
-// Empty names part the buttons; "fonts" stands for the two boxes and "colour" for the swatch.
+// An empty name is a separator, "fonts" means the two boxes for font and size, and "colour" the
+// swatch.
 constexpr std::array<QStringView, 24> toolbar = {
     u"mnuFileNew",
     u"mnuFileOpen",
@@ -278,7 +279,8 @@ void TemplateFormatting::UpdateToolbarButtonStates()
 
 void TemplateFormatting::UpdateComboFonts(const CommonLook &look)
 {
-    // Only shown: the box's own choice of a family that is installed is nobody's wish.
+    // Silent, since the box may choose another family when this one is not installed, and the text
+    // must not take that.
     const QSignalBlocker silence(m_fonts);
     const QString family = !look.family ? QString()
         : look.family->isEmpty()        ? m_plain.family
@@ -334,7 +336,7 @@ void TemplateFormatting::updateColour(const CommonLook &look)
 
 namespace {
 
-/// Forgets a value that another one contradicts.
+/// Clears a value unless another one is the same.
 template <class T> void keepIfSame(std::optional<T> &common, const std::optional<T> &other)
 {
     if (common != other) {

@@ -22,7 +22,7 @@ struct CommonLook {
     std::optional<QString> family;
     std::optional<double> pointSize;
     std::optional<ColorRef> colour;
-    bool bold = false; ///< these hold only where all of it has them
+    bool bold = false; ///< this and the flags below: true when all of it is so
     bool italic = false;
     bool underline = false;
     bool bullets = false;
@@ -31,16 +31,16 @@ struct CommonLook {
     friend bool operator==(const CommonLook &, const CommonLook &) = default;
 };
 
-/// Of a text that is not empty.
+/// The look of a text that is not empty.
 CommonLook commonLook(const RichText &selection);
-/// Of a place without characters: what is typed next.
+/// The look of an empty selection, which is that of the text typed next.
 CommonLook commonLook(const CharFormat &format, const ParagraphFormat &paragraph);
 
 class MenuActions;
 class RichTextBox;
 
-/// The looks of the Template Editor's text: menu entries and toolbar give them to the selection and
-/// show what the selection has. Fills the toolbar.
+/// Formats the text of the Template Editor: menu entries and toolbar change the selection's looks
+/// and show them. Fills the toolbar.
 class TemplateFormatting : public QObject
 {
     Q_OBJECT
@@ -50,23 +50,23 @@ public:
         MenuActions &actions;
         QToolBar &toolbar;
     };
-    /// Characters without a font are shown in the plain format's.
+    /// Characters without a font count as having that of the plain format.
     TemplateFormatting(const Context &context, const Parts &parts, CharFormat plain);
 
     /// Bold (0), italic (1) or underline (2): off when all of the selection has it, else on.
     void mnuFormatArray1_Click(int Index);
-    /// A bullet before each paragraph of the selection; off when all have one.
+    /// Puts a bullet before each paragraph of the selection; takes them away when all have one.
     void mnuFormatBullets_Click();
-    /// Left (0), centre (1), right (2).
+    /// Aligns the selected paragraphs: left (0), centre (1), right (2).
     void mnuFormatAlign_Click(int Index);
-    /// One of the nine styles, 0 to 8.
+    /// Gives the selection one of the nine styles, 0 to 8.
     void mnuStyleArray_Click(int Index);
     /// Writes the styles' names into the menu entries.
     void UpdateStyleCaptions();
     void mnuFormatFont_Click();
     void mnuFormatColour_Click();
 
-    /// Shows on the toolbar and in the menu what the selection has.
+    /// Shows the looks of the selection on the toolbar and in the menu.
     void UpdateToolbarButtonStates();
 
 private:

@@ -7,7 +7,7 @@
 
 namespace zeph {
 
-/// The Template Editor.
+/// What the Template Editor keeps.
 struct TemplateSettings {
     /// The defaults.
     TemplateSettings();

@@ -11,8 +11,8 @@ namespace zeph {
 struct MacroTable;
 class Printers;
 
-/// Registers the Template Editor under mnuAppsTemplateEditor. The macro table must outlive the
-/// window.
+/// Registers the Template Editor as the window of mnuAppsTemplateEditor. Printers and macro table
+/// must outlive the window.
 void addTemplateTools(const ToolEntries &tools, const Context &context, Printers &printers,
                       const MacroTable &macros);
 

@@ -42,8 +42,8 @@ constexpr int helpTopic = 290;
 
 QPalette paperPalette(QPalette palette)
 {
-    // A word processor's text is black on white paper whatever the desktop looks like: what is
-    // written here is read elsewhere.
+    // The text is black on white whatever the desktop looks like, since it is read and printed
+    // elsewhere.
     palette.setColor(QPalette::Base, Qt::white);
     palette.setColor(QPalette::Text, Qt::black);
     return palette;
@@ -74,7 +74,7 @@ TemplateForm::TemplateForm(const Context &context, Printers &printers, const Mac
     connectEdit();
     GetTemplateEditorOptions();
     showFile(templatesFolder() + untitledTemplate.toString(), {});
-    // Nobody has chosen a file yet.
+    // showFile() puts a file's name into the title, but nobody has chosen a file yet.
     setWindowTitle(caption);
     updateConditions();
     box().setFocus();
@@ -131,7 +131,7 @@ void TemplateForm::connectEdit()
     connect(&box(), &RichTextBox::undoAvailable, on.action(u"mnuEditUndo"), &QAction::setEnabled);
     connect(&box(), &RichTextBox::redoAvailable, on.action(u"mnuEditRedo"), &QAction::setEnabled);
     connect(&box(), &RichTextBox::selectionChanged, this, &TemplateForm::updateConditions);
-    // An answer about leaving the text says nothing about what is written later.
+    // The answer to the question before closing does not cover what is written later.
     connect(&box(), &RichTextBox::textChanged, this, [this] { m_isLeft = false; });
     connect(&box(), &RichTextBox::customContextMenuRequested, this, &TemplateForm::showMenu);
     connect(QApplication::clipboard(), &QClipboard::dataChanged, this,
@@ -455,7 +455,7 @@ bool TemplateForm::eventFilter(QObject *watched, QEvent *event)
 
 void TemplateForm::GetTemplateEditorOptions()
 {
-    // A value that cannot be read counts as none: the toolbar is shown.
+    // The problems are not told: with a value that cannot be read the toolbar is shown.
     (void)readSettings(m_context.settings, settingsFilesOf(m_context.paths),
                        { &TemplateSettings::HideAppsToolBar });
     const bool shown = !m_context.settings.of<TemplateSettings>().HideAppsToolBar;

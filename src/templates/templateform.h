@@ -30,14 +30,15 @@ class TemplateForm : public QMainWindow, public AsksBeforeClosing
 {
     Q_OBJECT
 public:
-    /// Tells the keys of the macros under the mouse; the table must outlive this. Whoever has the
-    /// Composer enables the entry mnuComposerPlugin and gives it its work.
+    /// The macro table gives the keys that are told for a macro under the mouse; it must outlive
+    /// the window. The owner of the Composer connects and enables the entry mnuComposerPlugin.
     TemplateForm(const Context &context, Printers &printers, const MacroTable &macros,
                  QWidget *parent = nullptr);
     ~TemplateForm() override;
 
-    /// Opens a readme, after the question about unsaved changes. False when it was not opened.
+    /// Opens a file, after the question about unsaved changes. False when it was not opened.
     bool OpenReadMe(const QString &path);
+    /// Asks about unsaved changes; the answer holds until the text is changed.
     bool mayClose() override;
     bool HasTemplateTextChanged() const;
 
@@ -50,11 +51,12 @@ public:
     void mnuEditIniFile_Click();
     void mnuFilePrint_Click();
     void mnuFilePrintSelection_Click();
-    /// Colours the text as the statements of a file; nothing but colours changes.
+    /// Colours the text as the statements of a joystick or macro file; nothing but colours changes.
     void ColourTemplateText();
     /// The word under a point of the text's viewport; empty when there is none.
     QString TemplateRichWordOver(const QPoint &at) const;
 
+    /// Reads whether the toolbar is shown, and shows it.
     void GetTemplateEditorOptions();
     void SaveTemplateEditorOptions();
 
@@ -62,9 +64,9 @@ public:
     const QString &path() const { return m_path; }
 
 Q_SIGNALS:
-    /// The help page of that number was asked for.
+    /// The user wants the help page of that number.
     void helpWanted(int topic);
-    /// A file was written, which another window may have open too.
+    /// A file was written; another window may have it open too.
     void fileWritten(const QString &path);
 
 protected:
@@ -76,6 +78,7 @@ private:
     void connectEdit();
     void updateConditions();
     void showMenu(const QPoint &at);
+    /// Asks about unsaved changes; false when the text has to stay.
     bool mayLeave(TemplateLeaving leaving);
     bool load(const QString &path);
     bool writeTo(const QString &path);
