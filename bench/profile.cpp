@@ -15,7 +15,7 @@ using namespace zeph;
 
 namespace {
 
-/// A store as it is after some years: every key, and lists of files behind them.
+/// A settings store after some years of use: every key, then lists of files.
 struct Store {
     QTemporaryDir folder;
     SettingsFiles files{ ProfileFile(folder.filePath(u"Zeph.ini"_s)),

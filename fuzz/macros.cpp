@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Zeph authors
 // SPDX-License-Identifier: MIT
 
-// A macro file and, behind the first line that holds "====", the joystick file that uses it.
+// A macro file and, after the first line that holds "====", the joystick file that uses it.
 
 #include "text/macro_search.h"
 #include "text/macro_table.h"

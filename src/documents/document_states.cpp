@@ -282,11 +282,13 @@ void DocumentStates::layRuns(const TextChunk::Runs &runs, qsizetype from)
             RunReader old(chunk->runs);
             TextChunk::Runs laid;
             laid.reserve(chunk->runs.size());
-            TextChunk::Runs covered;
             old.take(first, laid);
             wanted.take(last - first, laid);
-            old.take(last - first, covered);
-            old.take(size - last, laid);
+            if (last < size) {
+                TextChunk::Runs covered;
+                old.take(last - first, covered);
+                old.take(size - last, laid);
+            }
             if (laid != chunk->runs) {
                 addOtherLooks(chunk->runs, laid, start, stretches);
                 laid.shrink_to_fit();

@@ -197,6 +197,10 @@ void DocumentStates::readPieces(const DocumentState &state,
 
 RichText DocumentStates::join(const TextChunks &chunks, size_t first, size_t end) const
 {
+    if (first + 1 == end) {
+        const TextChunk &chunk = *chunks[first];
+        return { chunk.text, charRuns(chunk.runs), chunk.paragraphs };
+    }
     RichText result;
     result.text.reserve(sizeOf(chunks, first, end));
     TextChunk::Runs runs;

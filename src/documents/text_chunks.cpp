@@ -25,15 +25,6 @@ quint32 LookTable::numberOf(const CharFormat &look)
     return number;
 }
 
-void addRun(TextChunk::Runs &runs, const TextChunk::Run &run)
-{
-    if (!runs.empty() && runs.back().look == run.look) {
-        runs.back().length += run.length;
-    } else if (run.length > 0) {
-        runs.push_back(run);
-    }
-}
-
 void addParagraphs(std::vector<ParagraphRun> &runs, const ParagraphRun &run)
 {
     if (!runs.empty() && runs.back().format == run.format) {

@@ -68,7 +68,15 @@ private:
 };
 
 /// Appends a run, or lengthens the last one when that has the same look.
-void addRun(TextChunk::Runs &runs, const TextChunk::Run &run);
+inline void addRun(TextChunk::Runs &runs, const TextChunk::Run &run)
+{
+    if (!runs.empty() && runs.back().look == run.look) {
+        runs.back().length += run.length;
+    } else if (run.length > 0) {
+        runs.push_back(run);
+    }
+}
+
 /// Appends paragraphs, or adds them to the last run when that has the same format.
 void addParagraphs(std::vector<ParagraphRun> &runs, const ParagraphRun &run);
 

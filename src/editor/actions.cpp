@@ -24,7 +24,7 @@ constexpr std::array menus = {
     MenuRow{ u"mnuHelp", u"&Help" },
 };
 
-/// The entry of one of the words that the menu inserts.
+/// The entry for a word of insertWords.
 constexpr ActionRow insertEntry(const char16_t *name, size_t word)
 {
     return {
@@ -174,7 +174,7 @@ constexpr std::array actions = {
     ActionRow{u"mnuDownload", u"mnuDownloadProfile", u"Download a profile (*.tmc)", u"", u"", u"", Always, Entry},
 
     ActionRow{u"mnuCougar", u"mnuButtonsMode", u"&Buttons", u"", u"", u"", Always, Submenu},
-    // The key works in the texts at key level; here it only stands as a reminder.
+    // EditorKeys handles this key; the caption only mentions it.
     ActionRow{u"mnuButtonsMode", u"mnuButtonsModeArray_0", u"&Windows (DirectX) mode\tShift+Break", u"", u"The Cougar's buttons act as those of a plain game controller", u"mode-windows", Always, Entry},
     ActionRow{u"mnuButtonsMode", u"mnuButtonsModeArray_1", u"&Programmed mode", u"", u"The Cougar's buttons do what the downloaded joystick file says", u"mode-programmed", Always, Entry},
     ActionRow{u"mnuCougar", u"mnuAxesMode", u"&Axes", u"", u"", u"", Always, Submenu},

@@ -3,7 +3,7 @@
 
 #pragma once
 
-// Every menu entry of the Editor in one table. The menus, the toolbars, the keys in the texts and
+// One table of all menu entries of the Editor. The menus, the toolbars, the keys in the texts and
 // the tests of what is enabled are derived from it.
 
 #include "menus/action_row.h"
@@ -12,7 +12,7 @@
 
 namespace zeph {
 
-/// The Editor's own conditions of menu entries.
+/// The conditions of the Editor under which a menu entry is enabled.
 enum class EditorWhen {
     Later, ///< never: its tool does not exist yet
     Selection, ///< text is selected in the selected document
@@ -24,7 +24,7 @@ enum class EditorWhen {
 std::span<const MenuRow> menuBarTable();
 std::span<const ActionRow> actionTable();
 
-/// One row of the pop-up menu of the right mouse button.
+/// One row of the context menu of the texts.
 struct RightMenuRow {
     enum Shown {
         Both,
@@ -37,7 +37,7 @@ struct RightMenuRow {
 
     const char16_t *name; ///< object name
     const char16_t *caption; ///< empty: the target's caption
-    /// The entry of the menus that it runs and takes picture, tick and state from.
+    /// The object name of the menu entry that it runs; picture, tick and state are that entry's.
     const char16_t *target;
     Shown shown;
 };

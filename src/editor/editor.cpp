@@ -53,7 +53,8 @@ Editor::Editor(const Context &context, QWidget *parent)
       m_copies(std::make_unique<ColouredCopies>(context.paths)),
       m_keys(
           std::make_unique<EditorKeys>(*m_view, *m_actions, context.settings.of<SharedSettings>())),
-      // After the keys: a line that blinks has to be let go before a key's entry runs.
+      // Must come after the keys: event filters run last-installed first, and a blinking line has
+      // to be released before a key runs its entry.
       m_undos(std::make_unique<UndoHistories>(context, *m_view, *m_actions)),
       m_insert(std::make_unique<ColouredInsert>(context, *m_view)),
       m_highlighting(std::make_unique<Highlighting>(
@@ -245,7 +246,7 @@ void Editor::updateConditions()
 
 void Editor::updateDownloadCaption()
 {
-    // Only a file of the Cougar's own kind goes to it; the others keep the plain words.
+    // Only a .tmj file can be downloaded, so other names are not shown.
     const bool named = lastThree(joystick().name()) == extensionOf(DocumentKind::Joystick);
     QString caption = named ? joystick().caption() : u"joystick file"_s;
     caption.replace(u'&', u"&&"_s);

@@ -35,8 +35,8 @@ class TypingColour;
 class UndoHistories;
 class UseDirectives;
 
-/// The permanent child of the main window: the two documents and all working menus. Only a
-/// frame: each feature is an object of its own, which this class makes and hands out.
+/// The permanent child of the main window, with the two documents and all working menus. It is only
+/// a frame: each feature is an object of its own, which this class creates and hands out.
 class Editor : public QWidget
 {
     Q_OBJECT
@@ -44,11 +44,10 @@ public:
     explicit Editor(const Context &context, QWidget *parent = nullptr);
     ~Editor() override;
 
-    /// The menu entries by object name; the higher rooms connect what they build.
+    /// The menu entries by object name. The rooms above connect the entries that they implement.
     MenuActions &actions() { return *m_actions; }
     QAction *action(QStringView name) const;
 
-    /// The two documents, which every tool may read.
     Document &joystick();
     Document &macro();
     Document &selected();
@@ -71,24 +70,24 @@ public:
     LossGuards &guards() { return *m_guards; }
     InsertForms &insertForms() { return *m_insertForms; }
 
-    /// Gives the focus back to the selected document.
+    /// Moves the focus to the selected document.
     void ResetFocusToEditor();
-    /// Shows a line that the compiler complained of; the error text's code decides the document.
-    /// The line is 1-based; a missing one is told.
+    /// Selects the line that the compiler complained of (1-based) in the document that the error's
+    /// code belongs to. Tells when there is no such line.
     void HighlightErrorLine(int line, const QString &compileErrorText);
 
-    /// The questions about unsaved files, macro file first. False stops the exit.
+    /// Asks about unsaved files, the macro file first. False: the program must not exit.
     bool queryUnload();
-    /// The path that the next run opens again; empty for a file that was never saved.
+    /// The path for the next run to reopen; empty for a document that was never saved.
     QString restorableFile(DocumentKind kind);
 
-    /// Shows what the settings say: colours, fonts, ticks, tiling.
+    /// Applies changed settings: colours, fonts, ticks, tiling.
     void applySettings();
 
 Q_SIGNALS:
-    /// F1 on a selected word.
+    /// F1 was pressed on a selected word.
     void helpOn(const QString &word);
-    /// Shift+Break.
+    /// Shift+Break was pressed.
     void emergencyOff();
 
 private:

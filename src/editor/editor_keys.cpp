@@ -19,8 +19,8 @@ namespace zeph {
 
 namespace {
 
-/// What Ctrl and a key runs in the macro text, for the keys that do not run the entry with that
-/// shortcut there. New, open and print have no row: pilots rely on these keys for the joystick file
+/// The exceptions of the macro text: what Ctrl and a key runs there instead of the entry with that
+/// shortcut. New, open and print have no row, since pilots rely on these keys for the joystick file
 /// in both texts.
 struct MacroKey {
     int key;
@@ -39,7 +39,7 @@ struct StandardKey {
     QStringView entry;
 };
 
-// The clipboard's other keys (Shift+Insert and its like), which the toolkit would serve itself.
+// Shift+Insert and the like, which the toolkit would otherwise handle without our menu entries.
 constexpr std::array standardKeys = {
     StandardKey{ QKeySequence::Cut, u"mnuEditCut" },
     StandardKey{ QKeySequence::Copy, u"mnuEditCopy" },
@@ -59,7 +59,7 @@ EditorKeys::EditorKeys(EditorView &view, MenuActions &actions, const SharedSetti
     : m_view(view), m_actions(actions), m_settings(settings)
 {
     view.watch(*this);
-    // A key that no control has a use for comes up to the Editor as a whole.
+    // Keys that no control handles reach the Editor widget.
     if (QWidget *editor = view.parentWidget()) {
         editor->installEventFilter(this);
     }
@@ -84,7 +84,7 @@ bool EditorKeys::eventFilter(QObject *watched, QEvent *event)
     }
     const bool macroText = *kind == DocumentKind::Macro;
     if (event->type() == QEvent::ShortcutOverride) {
-        // The text has the first word on its keys; menu shortcuts serve the rest of the window.
+        // In the texts our key table comes first; menu shortcuts serve the rest of the window.
         if (handles(*static_cast<QKeyEvent *>(event), macroText)) {
             event->accept();
             return true;
@@ -100,7 +100,7 @@ bool EditorKeys::emergencyPressed(const QKeyEvent &event)
     if (event.key() != Qt::Key_Pause || !event.modifiers().testFlag(Qt::ShiftModifier)) {
         return false;
     }
-    // Held down it repeats itself; one request is enough.
+    // A key held down repeats; one request is enough.
     if (!event.isAutoRepeat()) {
         Q_EMIT emergencyOff();
     }
@@ -137,8 +137,8 @@ bool EditorKeys::keyPressed(const QKeyEvent &event, bool macroText)
     if (event.key() == Qt::Key_K && m_settings.DefaultToDX8KeyTester) {
         entry = u"mnuAppsDX8_0"_s;
     }
-    // Taken even when the entry cannot be used: some desktops give these keys to the toolkit for
-    // deleting lines.
+    // Consumed even when the entry is disabled: on some desktops the toolkit would delete lines
+    // with these keys.
     m_actions.trigger(entry);
     return true;
 }

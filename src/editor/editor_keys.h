@@ -13,22 +13,22 @@ class MenuActions;
 class EditorView;
 struct SharedSettings;
 
-/// What the keys do in the two texts beyond typing. With Ctrl alone held a key runs its menu entry,
-/// which may differ between the texts, and is swallowed.
+/// The keys of the two texts other than typing. A key with Ctrl alone runs its menu entry, which
+/// may differ between the texts, and never reaches the text.
 class EditorKeys : public QObject
 {
     Q_OBJECT
 public:
     EditorKeys(EditorView &view, MenuActions &actions, const SharedSettings &settings);
 
-    /// Object name of the entry that Ctrl and a key runs in one of the texts; empty when there is
-    /// none.
+    /// The object name of the menu entry that Ctrl and this key runs; empty when there is none.
     static QString entryFor(int key, bool macroText);
 
 Q_SIGNALS:
-    /// F1 on a selection: the selected text, trimmed.
+    /// F1 was pressed on a selection; the selected text, trimmed.
     void helpOn(const QString &word);
-    /// Shift+Break, anywhere in the Editor: the Cougar's buttons must stop typing at once.
+    /// Shift+Break was pressed anywhere in the Editor: the Cougar's buttons must stop typing at
+    /// once.
     void emergencyOff();
 
 protected:

@@ -7,9 +7,9 @@
 
 namespace zeph {
 
-/// Files, macros and editing tools of the Editor.
+/// The settings of files, macros and editing tools.
 struct EditorSettings {
-    /// The defaults.
+    /// Starts with the defaults.
     EditorSettings();
 
     static std::span<const SettingRow<EditorSettings>> rows();

@@ -53,7 +53,8 @@ std::unique_ptr<QMenu> RightMenu::build() const
         entry->setChecked(target->isChecked());
         connect(entry, &QAction::triggered, target, &QAction::trigger);
     }
-    // The toolkit leaves what a pop-up tells with the pop-up; the status bar is the window's.
+    // The toolkit sends status tips of a pop-up to the pop-up itself, but the status bar belongs to
+    // the window.
     connect(menu.get(), &QMenu::hovered, this,
             [this](const QAction *entry) { showStatusTip(entry->statusTip()); });
     connect(menu.get(), &QMenu::aboutToHide, this, [this] { showStatusTip({}); });

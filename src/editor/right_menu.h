@@ -14,14 +14,14 @@ namespace zeph {
 class MenuActions;
 class EditorView;
 
-/// The pop-up menu of the right mouse button, built at each press from what can be done then.
+/// The context menu of the texts, built anew at each click from what can be done at that moment.
 class RightMenu : public QObject
 {
     Q_OBJECT
 public:
     RightMenu(EditorView &view, MenuActions &actions);
 
-    /// The menu mnuRHMouse for the selected document as it stands.
+    /// Builds the menu mnuRHMouse for the selected document in its present state.
     std::unique_ptr<QMenu> build() const;
 
 private:

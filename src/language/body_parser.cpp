@@ -287,7 +287,7 @@ void BodyParser::close(qsizetype at)
 {
     const char16_t closing = m_text[at].unicode();
     while (!m_open.empty() && m_open.back().closing != closing && m_holds == Holds::Keys
-           && standsAlone(m_open.back().place.position) && isBehindModifierKey(m_open.back().item))
+           && standsAlone(m_open.back().place.position) && isAfterModifierKey(m_open.back().item))
         m_open.pop_back();
     if (m_open.empty() || m_open.back().closing != closing) {
         if (mayBeKey(at)) {
@@ -331,7 +331,7 @@ bool BodyParser::standsAlone(qsizetype at) const
         && (at + 1 == m_text.size() || isBlank(m_text[at + 1]));
 }
 
-bool BodyParser::isBehindModifierKey(int item) const
+bool BodyParser::isAfterModifierKey(int item) const
 {
     return item > m_body.items.first && m_source.items[item - 1].kind == ItemKind::ModifierKey;
 }
@@ -345,13 +345,13 @@ bool BodyParser::mayBeKey(const OpenBracket &bracket) const
         || m_source.items[bracket.item].kind != ItemKind::Group)
         return false;
     const int next = bracket.item + 1;
-    if (isBehindModifierKey(bracket.item) || next == m_source.items.size())
+    if (isAfterModifierKey(bracket.item) || next == m_source.items.size())
         return true;
-    const Item &behind = m_source.items[next];
-    if (behind.kind != ItemKind::Slash)
+    const Item &following = m_source.items[next];
+    if (following.kind != ItemKind::Slash)
         return false;
     for (int at = 0; at < bracket.chain.size; ++at) {
-        if (levelOf(bracket.chain.links[size_t(at)].modifier) == levelOf(behind.reference))
+        if (levelOf(bracket.chain.links[size_t(at)].modifier) == levelOf(following.reference))
             return true;
     }
     return false;
@@ -364,7 +364,7 @@ bool BodyParser::mayBeKey(qsizetype closing) const
     if (m_holds != Holds::Keys || !standsAlone(closing))
         return false;
     const int item = int(m_source.items.size());
-    if (isBehindModifierKey(item))
+    if (isAfterModifierKey(item))
         return true;
     return m_open.empty()
         && (item == m_body.items.first || m_source.items[item - 1].kind == ItemKind::Slash);

@@ -51,7 +51,7 @@ private:
     void close(qsizetype at);
     bool isKeyBracket(qsizetype at) const;
     bool standsAlone(qsizetype at) const;
-    bool isBehindModifierKey(int item) const;
+    bool isAfterModifierKey(int item) const;
     bool mayBeKey(const OpenBracket &bracket) const;
     bool mayBeKey(qsizetype closing) const;
     int callBefore(qsizetype at) const;

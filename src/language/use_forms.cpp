@@ -66,10 +66,10 @@ std::span<const UseForm> useForms()
     return useTable;
 }
 
-int useFormOf(QStringView behindUse)
+int useFormOf(QStringView afterUse)
 {
     for (int index = 0; index < int(std::size(useTable)); ++index) {
-        if (startsWithHead(behindUse, useTable[index].head))
+        if (startsWithHead(afterUse, useTable[index].head))
             return index;
     }
     return -1;

@@ -36,6 +36,6 @@ struct UseForm {
 std::span<const UseForm> useForms();
 
 /// Index in useForms() of the form whose head words come first in the text after USE, or -1.
-int useFormOf(QStringView behindUse);
+int useFormOf(QStringView afterUse);
 
 } // namespace zeph::language

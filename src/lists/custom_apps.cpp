@@ -21,7 +21,7 @@ namespace {
 
 constexpr QStringView section = u"Apps";
 constexpr int pictureSize = 20;
-/// Bitmaps know no transparency: this colour stands for it.
+/// Bitmap files have no transparency; pixels of this colour are shown as transparent.
 constexpr QRgb maskColour = qRgb(192, 192, 192);
 
 QString keyOf(QStringView field, size_t index)
@@ -97,7 +97,8 @@ QIcon loadCustomAppPicture(const QString &file)
     if (path.isEmpty()) {
         return {};
     }
-    // Not read as a pixmap: the toolkit would give out the last one that it knows by that name.
+    // Loaded as an image, since loading a pixmap may return an outdated one from the toolkit's
+    // cache.
     QPixmap picture = QPixmap::fromImage(QImage(path));
     if (picture.isNull()) {
         return {};
@@ -133,7 +134,7 @@ void CustomAppsMenu::set(const CustomApps &apps)
         const size_t index = size_t(place - 1);
         const QString picture = existingPath(customAppPicture(m_context.paths, place));
         if (apps[index].CustomAppPath != m_apps[index].CustomAppPath && !picture.isEmpty()) {
-            // Another program has another picture, or none.
+            // The picture is the old program's.
             QFile::remove(picture);
         }
         m_apps[index] = apps[index];
@@ -143,7 +144,7 @@ void CustomAppsMenu::set(const CustomApps &apps)
 
 void CustomAppsMenu::save()
 {
-    // A store that cannot be written makes no fuss, as everywhere in the store.
+    // As everywhere, a settings store that cannot be written is not told.
     (void)writeCustomApps(ProfileFile(m_context.paths.iniPath), m_apps);
 }
 

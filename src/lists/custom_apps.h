@@ -3,7 +3,7 @@
 
 #pragma once
 
-// The four custom applications: programs of the user's on the Apps menu and its toolbar.
+// The four custom applications: programs that the user has put on the Apps menu and its toolbar.
 
 #include "platform/context.h"
 #include "platform/core/paths.h"
@@ -19,40 +19,40 @@ namespace zeph {
 
 struct CustomApp {
     QString CustomAppName;
-    QString CustomAppPath; ///< with any switches behind it
+    QString CustomAppPath; ///< followed by any switches
     bool CustomAppUse = false; ///< whether it is shown
 };
 
-/// By place, which counts from 1 where it is told to the user or stands in a name.
+/// The index is 0-based; the numbers in keys, names and captions count from 1.
 using CustomApps = std::array<CustomApp, 4>;
 
 CustomApps readCustomApps(const ProfileFile &store);
 Expected<void, FileError> writeCustomApps(const ProfileFile &store, const CustomApps &apps);
 
-/// How an application starts: in front, in the root of its drive.
+/// The launch of an application: in the foreground, with the root of its drive as working folder.
 Launch customAppLaunch(const CustomApp &app);
 
-/// The file of an application's picture, place by place (1-based).
+/// The path of the picture of the application at a place (1-based).
 QString customAppPicture(const Paths &paths, int place);
-/// Makes that file from the icon that the system shows for the application. False, and no file
-/// changed, when the system has none.
+/// Writes that file from the icon that the system shows for the application. False, and nothing
+/// written, when the system has no icon or the disk refuses.
 bool makeCustomAppPicture(const CustomApp &app, const QString &file);
-/// The picture; empty when there is no such file.
+/// Reads that file; an empty icon when it does not exist.
 QIcon loadCustomAppPicture(const QString &file);
 
 class Editor;
 
-/// The custom applications on the Apps menu; the toolbar's buttons follow its entries.
+/// The custom applications on the Apps menu; the buttons of the toolbar follow the menu entries.
 class CustomAppsMenu : public QObject
 {
     Q_OBJECT
 public:
-    /// Reads the applications.
+    /// Reads the applications from the settings store and shows them.
     CustomAppsMenu(const Context &context, Editor &editor);
 
     const CustomApps &apps() const { return m_apps; }
-    /// Takes other applications and shows them on the menu and the toolbar, with pictures of their
-    /// own; save() keeps them.
+    /// Replaces the applications and shows them on the menu and the toolbar. Does not store them:
+    /// that is save().
     void set(const CustomApps &apps);
     void save();
 
@@ -63,7 +63,7 @@ private:
     Context m_context;
     Editor &m_editor;
     CustomApps m_apps;
-    /// How an entry looks whose application has no name or no picture.
+    /// The looks of an entry whose application has no name or no picture.
     std::array<QString, std::tuple_size_v<CustomApps>> m_plainCaptions;
     QIcon m_plainPicture;
 };

@@ -3,7 +3,7 @@
 
 #pragma once
 
-// Favourites: pairs of files under a name of the user's.
+// Favourites: pairs of files under a name that the user gave.
 
 #include "platform/core/profile_file.h"
 
@@ -14,7 +14,7 @@ namespace zeph {
 
 class Dialogs;
 
-/// A path of "None" stands for no file of that kind.
+/// A path is "None" when there is no file of that kind.
 struct Favourite {
     QString name;
     QString joystickPath;
@@ -23,9 +23,9 @@ struct Favourite {
     friend bool operator==(const Favourite &, const Favourite &) = default;
 };
 
-/// The path that stands for no file.
 constexpr QStringView noFavouriteFile = u"None";
-/// A path as a favourite holds it: an empty one, and the word itself in any case, is "None".
+/// The form in which a favourite holds a path: "None" for an empty one and for that word in any
+/// case.
 QString pathOrNone(const QString &path);
 
 constexpr qint32 mostFavourites = 50;
@@ -33,7 +33,7 @@ constexpr qint32 mostFavourites = 50;
 struct Favourites {
     /// Most recently added first; at most mostFavourites.
     QList<Favourite> list;
-    /// Whether one of them is opened at start, and which.
+    /// Whether a favourite is opened at the start, and the name of that favourite.
     bool loadOnStart = false;
     QString nameToLoad;
 
@@ -43,19 +43,20 @@ struct Favourites {
 Favourites readFavourites(const ProfileFile &store);
 Expected<void, FileError> writeFavourites(const ProfileFile &store, const Favourites &favourites);
 
-/// Puts a favourite at place 1; one of that name is replaced, a 51st pushes the last one out.
+/// Puts a favourite in front. It replaces one of the same name; in a full list the last one is
+/// dropped.
 void updateFavourites(Favourites &favourites, const Favourite &favourite);
 void SortFavourites(Favourites &favourites);
 
-/// The favourite to open at start; no value when none is wanted, or it is gone.
+/// The favourite to open at the start; no value when none is wanted or it no longer exists.
 std::optional<Favourite> autoloadFavourite(const Favourites &favourites);
 
-/// Opens the favourite's files, the macro file first; a missing one is told. True when both were
-/// opened, which the given function tells of each.
+/// Opens the favourite's files, the macro file first, and tells of a missing one. `open` opens one
+/// file and returns whether it did. True when both were opened.
 bool openFavourite(const Favourite &favourite, Dialogs &dialogs,
                    const std::function<bool(const QString &path)> &open);
 
-// The flight simulators whose files Zeph knows by name.
+// The flight simulators for which Zeph knows the names of their files.
 
 struct FlightSim {
     QStringView name;
@@ -63,10 +64,10 @@ struct FlightSim {
     QStringView macroFile;
 };
 
-/// In the order in which they become favourites: the last one comes out on top.
+/// In the order in which they become favourites, so that the last row is on top of the list.
 std::span<const FlightSim> flightSimTable();
 
-/// The favourites of those whose joystick file lies in the folder, in the table's order.
+/// A favourite for each simulator whose joystick file is in the folder, in the table's order.
 QList<Favourite> SetupFlightSimFiles(const QString &filesFolder);
 
 } // namespace zeph

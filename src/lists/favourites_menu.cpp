@@ -25,7 +25,7 @@ void openFavouriteInEditor(const Favourite &favourite, Editor &editor, Dialogs &
         editor.opening().OpenFavouriteFile(path);
         const Document &document =
             kindOfName(path) == DocumentKind::Macro ? editor.macro() : editor.joystick();
-        // The user may have kept an unsaved text instead.
+        // The user may have declined to replace an unsaved text.
         return document.path() == path && !document.isModified();
     });
     if (both) {
@@ -66,13 +66,13 @@ void FavouritesMenu::set(const Favourites &favourites)
 
 void FavouritesMenu::save()
 {
-    // A store that cannot be written makes no fuss: the list then lasts as long as the run.
+    // A failed write is not told: the list is right for this run at least.
     (void)writeFavourites(m_store, m_favourites);
 }
 
 void FavouritesMenu::mnuFavArray_Click(int place)
 {
-    // By value: opening a file may bring questions, and with them time for the list to change.
+    // A copy: opening a file may ask questions, and the list may change meanwhile.
     const Favourite favourite = m_favourites.list.value(place - 1);
     openFavouriteInEditor(favourite, m_editor, m_context.dialogs);
 }
@@ -130,7 +130,7 @@ EnterFavouritename::EnterFavouritename(QWidget *parent)
     : QDialog(parent), m_ui(std::make_unique<Ui::EnterFavouritename>())
 {
     m_ui->setupUi(this);
-    // What the store cannot hold would come back without its name.
+    // A name that the store cannot hold would be lost at the next start.
     connect(m_ui->TextFavouriteName, &QLineEdit::textChanged, this,
             [this](const QString &text) { m_ui->cmdOK->setEnabled(firstNot1252(text) < 0); });
     connect(m_ui->cmdOK, &QPushButton::clicked, this, &EnterFavouritename::accept);

@@ -16,21 +16,21 @@ namespace zeph {
 class Editor;
 class MenuArray;
 
-/// Opens a favourite's files in the Editor, and ticks the macros used when both are there.
+/// Opens a favourite's files in the Editor and, if both were opened, ticks the macros used.
 void openFavouriteInEditor(const Favourite &favourite, Editor &editor, Dialogs &dialogs);
 
-/// The favourites and their menu.
+/// Owns the favourites and shows them on their menu.
 class FavouritesMenu : public QObject
 {
     Q_OBJECT
 public:
-    /// Reads the favourites.
+    /// Reads the favourites from the settings store and shows them.
     FavouritesMenu(const Context &context, Editor &editor);
 
     const Favourites &favourites() const { return m_favourites; }
-    /// Puts favourites on the menu, one after the other, each to the front.
+    /// Adds favourites one after the other, each in front of the list.
     void add(const QList<Favourite> &favourites);
-    /// Takes the favourites as they now are; saving them is a step of its own.
+    /// Replaces the favourites. Does not store them: that is save().
     void set(const Favourites &favourites);
     void save();
 
@@ -38,7 +38,8 @@ private:
     void mnuFavouritesAddCurrent_Click();
     void mnuFavArray_Click(int place);
     void changed();
-    /// The path that a favourite gets for a document; no value when the user wants to save first.
+    /// The path for a document of a new favourite; no value when the user wants to save the file
+    /// first.
     std::optional<QString> pathFor(const QString &path, const QString &kind, const QString &other);
     QString askName();
 

@@ -92,13 +92,13 @@ RecentFiles::RecentFiles(const Context &context, Editor &editor)
 void RecentFiles::follow(Document &document)
 {
     connect(&document, &Document::replaced, this, [this, &document](Document::How how) {
-        // A text that came back after a crash may have no file yet.
+        // A text recovered after a crash may have no file yet.
         const bool isOpened = how == Document::How::Loaded || how == Document::How::Recovered;
         if (isOpened && fileExists(document.path())) {
             update(document.kind(), document.path());
         }
     });
-    // An autosave counts as well; a text without a name of its own has nothing to be found by.
+    // Autosaves count too, but an untitled text has no name to find it by.
     connect(&document, &Document::written, this, [this, &document] {
         if (!isUntitled(document.name())) {
             update(document.kind(), document.path());
@@ -121,7 +121,7 @@ void RecentFiles::update(DocumentKind kind, const QString &path)
 {
     QStringList &list = m_lists[size_t(kind)];
     putFirst(list, path, mostFiles, std::equal_to<QString>());
-    // Losing these on a store that cannot be written is no harm worth a message.
+    // A failed write is not told: losing these lists does little harm.
     (void)m_store.write(profileListEntries(tableOf(kind).keys, rowsOf(list)));
     showMenu(kind);
 }

@@ -31,7 +31,7 @@ public:
     FavouritesMenu &favourites() { return *m_favourites; }
     CustomAppsMenu &customApps() { return *m_customApps; }
 
-    /// Writes the custom applications and the favourites, whether or not they changed.
+    /// Writes the custom applications and the favourites, even if unchanged.
     void save();
 
 private:
@@ -44,13 +44,13 @@ class Document;
 class Editor;
 class MenuArray;
 
-/// The joystick files and the macro files that were opened or saved before, most recently used
-/// first, at most 30 each, with the File menu's entries for them.
+/// The joystick files and macro files opened or saved before: most recently used first, at most 30
+/// each, with their entries in the File menu.
 class RecentFiles : public QObject
 {
     Q_OBJECT
 public:
-    /// Reads both lists.
+    /// Reads both lists from the settings store and shows them.
     RecentFiles(const Context &context, Editor &editor);
 
     const QStringList &list(DocumentKind kind) const { return m_lists[size_t(kind)]; }

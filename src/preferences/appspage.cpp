@@ -20,7 +20,8 @@ namespace zeph {
 
 namespace {
 
-/// Captions of one application's fields; the keys differ, so that each field has its own.
+/// The captions of an application's fields. Each application has its own, since access keys must
+/// differ.
 struct Captions {
     QStringView name;
     QStringView path;
@@ -40,7 +41,7 @@ constexpr QStringView applicationFilter =
 constexpr QStringView pictureFilter =
     u"Image files (*.bmp,*.jpg,*.gif)|*.bmp;*.jpg;*.gif|All files (*.*)|*.*";
 
-constexpr int rowsOfAnApp = 3; ///< name, path, and room to the next
+constexpr int rowsOfAnApp = 3; ///< name, path and a gap
 constexpr int roomBetweenApps = 12;
 
 QLabel *captionFor(QStringView caption, QWidget *field)
@@ -92,7 +93,7 @@ void AppsPage::addFields(size_t index)
     fields.path = new QLineEdit(app.CustomAppPath);
     fields.path->setObjectName(u"CustomAppPath_"_s + place);
     fields.path->setMaxLength(longestStorable);
-    fields.path->setToolTip(u"The program to start, with any switches behind it. Mine's a beer."_s);
+    fields.path->setToolTip(u"The program to start, followed by any switches. Mine's a beer."_s);
     fields.use = new QCheckBox(captions[index].use.toString());
     fields.use->setObjectName(u"CustomAppUse_"_s + place);
     fields.use->setToolTip(u"Gives it a place on the Apps menu and a button on the toolbar. It "
@@ -168,7 +169,7 @@ void AppsPage::askIfTyped(const Fields &fields)
 
 void AppsPage::askAboutApplet(const Fields &fields)
 {
-    // A path is asked about once, until it is typed anew.
+    // The question comes once for each typed path.
     fields.path->setModified(false);
     if (!fields.use->isChecked()) {
         return;
@@ -195,7 +196,7 @@ void AppsPage::collect()
     CustomApps apps;
     for (size_t index = 0; index < apps.size(); ++index) {
         const Fields &fields = m_fields[index];
-        // The field may have the focus still.
+        // A field that still has the focus has not asked yet.
         askIfTyped(fields);
         apps[index] = { fields.name->text(), fields.path->text(), fields.use->isChecked() };
     }

@@ -22,7 +22,7 @@ namespace Ui {
 class AppsPage;
 }
 
-/// The files that the Image Viewer and the Template Editor start with, and the pilot's own four
+/// The files that the Image Viewer and the Template Editor open first, and the four custom
 /// applications.
 class AppsPage : public PreferencesPage
 {

@@ -14,7 +14,7 @@ using S = ColourSettings;
 using enum PreviewPage;
 
 constexpr ColourCategory categories[] = {
-    { u"Buttons", &S::BTNColour, u"BTN and DEF, with the name behind them", Joystick, Joystick },
+    { u"Buttons", &S::BTNColour, u"BTN and DEF, with the name after them", Joystick, Joystick },
     { u"Background: Joystick", &S::BackgroundColour, u"The paper of the joystick file", Joystick,
       Joystick },
     { u"Rem statements", &S::RemStatements, u"Comments in both files", Joystick, Macro },

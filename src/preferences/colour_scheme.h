@@ -3,7 +3,7 @@
 
 #pragma once
 
-// What a pilot chooses of colours and font, and the texts on which he sees it.
+// The colours and the font that pilots can choose, and the sample texts that show them.
 
 #include "settings/colour_settings.h"
 #include "text/macro_table.h"
@@ -14,14 +14,14 @@
 
 namespace zeph {
 
-/// The pages of the previews.
+/// The pages of the preview.
 enum class PreviewPage : quint8 { Joystick, Macro, MacroList };
 
 /// One of the colours that can be chosen.
 struct ColourCategory {
     QStringView caption;
     ColorRef ColourSettings::*colour;
-    QStringView paints; ///< what has the colour, in words
+    QStringView paints; ///< what is shown in it, for the user
     PreviewPage firstPage; ///< the pages that show it: from this one
     PreviewPage lastPage; ///< to this one
 };
@@ -29,18 +29,18 @@ struct ColourCategory {
 /// The categories, in the order of their list.
 std::span<const ColourCategory> colourCategories();
 
-/// The page to look at for a category: the present one, if the category is seen on it.
+/// The page to show for a category: the present one if the category is visible there.
 PreviewPage previewPageFor(const ColourCategory &category, PreviewPage present);
 
-/// The families to choose from, sorted without regard to case: those that are offered, and in any
-/// case the present one, so that narrowing the list chooses nothing.
+/// The font families to choose from, sorted without regard to case: those for which isOffered() is
+/// true and always the present one, so that filtering the list changes no setting.
 QStringList fontChoices(const QStringList &families, const QString &present,
                         const std::function<bool(const QString &)> &isOffered);
 
-/// A pair of files in which each category can be seen; line ends are '\n'.
+/// A pair of sample files in which each category is visible; line ends are '\n'.
 QString sampleJoystickText();
 QString sampleMacroText();
-/// What the macro list shows of that macro file.
+/// The macro list of that macro file.
 MacroTable sampleMacros();
 
 } // namespace zeph

@@ -29,7 +29,8 @@ constexpr QSize swatchSize(26, 14);
 constexpr int sampleListWidth = 230;
 const QColor swatchFrame(128, 128, 128);
 
-/// The colour in a thin frame that is seen on light and dark lists, the same when it is selected.
+/// A square of the colour in a thin frame, visible on light and dark lists and the same when
+/// selected.
 QIcon swatchOf(ColorRef colour, qreal scale)
 {
     QPixmap swatch(swatchSize * scale);
@@ -79,7 +80,7 @@ void ColoursPage::addMacroList()
     m_list->list().setToolTip(u"Your colours on a macro list"_s);
     m_list->list().setDragDropMode(QAbstractItemView::NoDragDrop);
     m_list->headings().setObjectName(u"SampleHeadings"_s);
-    // Its width is dragged in the Editor, not here.
+    // The width of the macro list is changed in the Editor only.
     m_list->findChild<QWidget *>(u"MacroEdge"_s)->hide();
     m_ui->layoutMacroList->insertWidget(0, m_list);
     connect(&m_list->headings(), &QComboBox::currentIndexChanged, m_macros,
@@ -148,7 +149,8 @@ void ColoursPage::collect()
     m_context.settings.of<ColourSettings>() = m_scheme;
 }
 
-/// Puts the scheme into the fields; what they cannot show (a size beyond their range) stays in it.
+/// Shows the scheme in the fields. A value that a field cannot show, such as a size outside its
+/// range, stays in the scheme.
 void ColoursPage::showScheme()
 {
     const QSignalBlocker size(m_ui->TextFontSize);
@@ -170,7 +172,7 @@ void ColoursPage::showFonts()
                         return !QFontDatabase::isPrivateFamily(name)
                             && (!fixedOnly || QFontDatabase::isFixedPitch(name));
                     }));
-    // Shown while it is not among those that are fixed.
+    // The chosen font may not be in the list of fixed-pitch ones.
     m_ui->TextFontName->setPlaceholderText(m_scheme.TextFontName);
     m_ui->TextFontName->setCurrentIndex(
         m_ui->TextFontName->findText(m_scheme.TextFontName, Qt::MatchFixedString));
@@ -249,7 +251,7 @@ void ColoursPage::returnToFirstRun()
 
 bool ColoursPage::eventFilter(QObject *watched, QEvent *event)
 {
-    // The list would hand the key on to the window's OK.
+    // The list would pass the key on, and the window would close with OK.
     if (watched == m_ui->List1 && isEnter(*event)) {
         m_ui->CMD_ChangeColour->click();
         return true;

@@ -20,8 +20,8 @@ namespace Ui {
 class ColoursPage;
 }
 
-/// The colours and the font of the texts and of the macro list, each with samples that show at once
-/// what is chosen. The settings get it when it is collected.
+/// The colours and the font of the texts and of the macro list, each with samples that show a
+/// choice at once. The settings change only in collect().
 class ColoursPage : public PreferencesPage
 {
     Q_OBJECT
@@ -31,9 +31,9 @@ public:
 
     void collect() override;
 
-    /// Fills list, font fields and samples.
+    /// Fills the list, the font fields and the samples.
     void AddColourTabStuff();
-    /// Colours the sample of the joystick file, or of the macro file, with the chosen scheme.
+    /// Colours the sample joystick file, or macro file, with the chosen scheme.
     void ColourJoy();
     void ColourMac();
     /// Colours everything that shows the scheme: both samples, the macro list and the swatches.
@@ -54,7 +54,7 @@ private:
     void colourSample(TextControl &sample, DocumentKind kind, const Painter &painter);
 
     Context m_context;
-    /// The settings as they are to be.
+    /// The scheme as chosen so far.
     ColourSettings m_scheme;
     Painter m_joystick{ joystickPasses() };
     Painter m_macro{ macroPasses() };

@@ -73,7 +73,7 @@ void FavouritesPage::connectList()
     connect(m_list, &NamedList::chosen, this, &FavouritesPage::settle);
     connect(m_list, &NamedList::addAsked, this, [this] {
         change(withNewFavourite(m_favourites, typed()), 0);
-        // What it is called comes first.
+        // A new favourite needs a name first.
         m_ui->FavName->setFocus();
         m_ui->FavName->selectAll();
     });

@@ -21,8 +21,8 @@ namespace Ui {
 class FavouritesPage;
 }
 
-/// The favourites: a copy of them, which the fields change at every keystroke and which becomes
-/// the menu's when the window closes.
+/// Edits a copy of the favourites at every keystroke; the copy goes to the menu when the window
+/// closes.
 class FavouritesPage : public PreferencesPage
 {
     Q_OBJECT
@@ -31,16 +31,16 @@ public:
     ~FavouritesPage() override;
 
     void collect() override;
-    /// Whether the files of the last run are opened again, which makes autoloading idle.
+    /// Tells whether the files of the last run are reopened, in which case autoload does nothing.
     void setRestores(bool restores);
 
 private:
     void connectFields();
     void connectList();
     void browse(QLineEdit &field, DocumentKind kind);
-    /// What the fields show becomes the selected favourite.
+    /// Takes the fields over into the selected favourite.
     void read();
-    /// What has been typed so far is what the next keystroke is measured by.
+    /// Makes the present list the starting point of further typing.
     void settle();
     void change(const Favourites &favourites, qsizetype row);
     void UpdateFavouritesControls();
@@ -51,7 +51,7 @@ private:
     const Context m_context;
     FavouritesMenu &m_menu;
     Favourites m_favourites;
-    /// As they were before the field that is being typed into was touched.
+    /// The list before the typing in the present field.
     Favourites m_settled;
     bool m_isShowing = false;
     std::unique_ptr<Ui::FavouritesPage> m_ui;

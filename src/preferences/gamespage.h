@@ -18,8 +18,8 @@ namespace Ui {
 class GamesPage;
 }
 
-/// The games: a copy of them, which the fields change at every keystroke and which goes into the
-/// store when the window closes.
+/// Edits a copy of the games at every keystroke; the copy goes into the settings store when the
+/// window closes.
 class GamesPage : public PreferencesPage
 {
     Q_OBJECT
@@ -31,9 +31,9 @@ public:
 
 private:
     void connectList();
-    /// What the fields show becomes the selected game.
+    /// Takes the fields over into the selected game.
     void read();
-    /// What has been typed so far is what the next keystroke is measured by.
+    /// Makes the present list the starting point of further typing.
     void settle();
     void change(const QList<Game> &games, qsizetype row);
     void UpdateGamesControls();
@@ -42,7 +42,7 @@ private:
     Games &m_store;
     const QString m_filesFolder;
     QList<Game> m_games;
-    /// As they were before the field that is being typed into was touched.
+    /// The list before the typing in the present field.
     QList<Game> m_settled;
     std::unique_ptr<Ui::GamesPage> m_ui;
     NamedList *m_list;

@@ -129,7 +129,7 @@ QList<Game> withNewGame(QList<Game> before, const QString &filesFolder)
 
 namespace {
 
-/// Files that need a program of Windows in front of them.
+/// Files that only a program of Windows can open.
 struct Applet {
     QStringView ending;
     QStringView program;
@@ -143,7 +143,7 @@ constexpr Applet applets[] = {
 
 constexpr QStringView quotes = u"\"";
 
-/// The end of a path, without the quote that closes it.
+/// The path without blanks and quotes at its end.
 QString unclosed(const QString &path)
 {
     QString end = path.trimmed();
@@ -158,7 +158,7 @@ QString unclosed(const QString &path)
 std::optional<AppletQuestion> appletQuestion(const QString &path, const QString &windowsFolder)
 {
     for (const Applet &applet : applets) {
-        // Without the separator: pilots type the program's name alone too.
+        // The program may be named without its folder, hence without the separator.
         if (!unclosed(path).endsWith(applet.ending, Qt::CaseInsensitive)
             || path.contains(applet.program.sliced(1), Qt::CaseInsensitive)) {
             continue;

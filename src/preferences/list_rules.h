@@ -3,7 +3,7 @@
 
 #pragma once
 
-// What holds for every list of named things that Preferences edits. Places are 0-based.
+// The rules of every list of named things in Preferences. Places are 0-based.
 
 #include "lists/custom_apps.h"
 #include "lists/favourites.h"
@@ -14,55 +14,59 @@
 
 namespace zeph {
 
-/// The name itself, or with the first free number behind it, as in "Falcon (2)".
+/// The wanted name or, if it is taken, with the first free number after it, as in "Falcon (2)".
 QString uniqueName(const QString &wanted, const QStringList &taken);
 
-/// The name that the entry at a place has while a name is typed for it: the typed one, with a
-/// number when another entry has it already, and its own when nothing remains or the store cannot
-/// hold what does. Its own stays even where a store of somebody's making has it twice.
+/// The name of the entry at a place while one is typed for it: the typed one, numbered if another
+/// entry has it. The old name stays when nothing is left of the typed one or the store cannot hold
+/// it, even if the store already has the old name twice.
 QString nameWhileTyping(const QString &typed, QStringList names, qsizetype place);
 
-/// Which entry is selected when the one at a place went; -1 when none is left.
+/// The entry to select after the one at a place was removed; `left` is how many remain. -1 when
+/// none is left.
 qsizetype placeAfterRemoval(qsizetype place, qsizetype left);
 
-// What editing does to the favourites. Places are 0-based.
+// The rules for editing favourites. Places are 0-based.
 
 QStringList namesOf(const QList<Favourite> &list);
 
-/// The place of the favourite that is the default for autoload; -1 when there is none.
+/// The place of the favourite to autoload; -1 when there is none.
 qsizetype defaultPlace(const Favourites &favourites);
 
-/// The favourites with one of them as its fields stand. What it was before is needed for every
-/// keystroke: a default for autoload stays it under each name, and a name is never two entries'.
+/// The favourites with the fields taken over into the one at a place. Pass the list from before the
+/// typing for every keystroke: only so does the favourite to autoload keep that role under each
+/// typed name, and no name is ever given to two.
 Favourites editedFavourites(Favourites before, qsizetype place, const Favourite &typed);
 
-/// A new one on top, made from what the fields show; empty fields give one with a name to change.
-/// Nothing happens when the list is full, so that none falls off.
+/// The favourites with a new one in front, taken from the fields; without a name in them it is
+/// called "New favourite". A full list stays as it is, so that no favourite is lost.
 Favourites withNewFavourite(Favourites before, const Favourite &fields);
 
-/// Without the one at that place; with the default for autoload, autoloading goes too.
+/// The favourites without the one at that place; removing the one to autoload switches autoload
+/// off.
 Favourites withoutFavourite(Favourites before, qsizetype place);
 
 Favourites withDefault(Favourites before, qsizetype place);
 
-/// What the autoload tick says: files that are opened again make it idle.
+/// The caption of the autoload tick; `restores` says that the files of the last run are reopened,
+/// in which case autoload does nothing.
 QString autoloadCaption(bool restores);
 
-// What editing does to the games. Places are 0-based.
+// The rules for editing games. Places are 0-based.
 
 QStringList namesOf(const QList<Game> &games);
 
-/// The games with one of them as its fields stand. What it was before is needed for every
-/// keystroke, since a name is never two games' and never empty.
+/// The games with the fields taken over into the one at a place. Pass the list from before the
+/// typing for every keystroke; a name is never empty and never given to two games.
 QList<Game> editedGames(QList<Game> before, qsizetype place, const Game &typed);
 
-/// A new one on top, with a name to change. Nothing happens when the list is full, so that none
-/// falls off.
+/// The games with a new one in front, called "New game". A full list stays as it is, so that no
+/// game is lost.
 QList<Game> withNewGame(QList<Game> before, const QString &filesFolder);
 
-// The rules of the custom applications' fields.
+// The rules for the fields of the custom applications.
 
-/// What is asked about a path that no system starts by itself; Yes puts newPath into the field.
+/// The question about a path that no system starts by itself; on Yes newPath replaces the path.
 struct AppletQuestion {
     QString title;
     QString text;
@@ -71,16 +75,17 @@ struct AppletQuestion {
     friend bool operator==(const AppletQuestion &, const AppletQuestion &) = default;
 };
 
-/// The question about a control panel applet or a help file: a path that ends in "cpl" or "hlp", in
-/// any case. None for other paths, and none when the program that it needs stands in it.
+/// The question about a control panel applet or a help file, which is a path that ends in "cpl" or
+/// "hlp" in any case. No value for other paths, and none when the path already names the program
+/// that opens it.
 std::optional<AppletQuestion> appletQuestion(const QString &path, const QString &windowsFolder);
 
 /// Whether an application with this path can be shown.
 bool canBeUsed(const QString &path);
-/// The applications as they are kept: without blanks around the fields, as before where the store
-/// could not give a text back, and without a tick where there is no path.
+/// The applications to store: with trimmed fields, without a tick where there is no path, and with
+/// the text of `before` for each text that the store cannot hold.
 CustomApps settledApps(CustomApps apps, const CustomApps &before);
-/// A name for a program that has none: its file's, without folder and extension.
+/// The name for a program that the user has not named: its file name without folder and extension.
 QString appNameFor(const QString &path);
 
 } // namespace zeph

@@ -12,7 +12,7 @@ namespace zeph {
 
 namespace {
 
-/// A list that nobody needs to scroll for its first entries.
+/// The list is high enough for this many entries.
 constexpr int fewestRows = 4;
 
 void dress(QPushButton &button, const NamedListTexts::Control &texts)

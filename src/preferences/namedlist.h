@@ -15,21 +15,21 @@ namespace Ui {
 class NamedList;
 }
 
-/// What a list of named things says, and what its controls are called.
+/// The texts of a list of named things, and the names of its controls.
 struct NamedListTexts {
     struct Control {
         QStringView name;
         QStringView caption;
         QStringView tip;
     };
-    Control list; ///< the caption is that of the label before it
+    Control list; ///< its label has the caption
     Control add;
     Control remove;
     Control sort;
 };
 
-/// A list of things that the user has named, with its buttons; the Delete key removes too. It shows
-/// names and tells what is wanted: the things themselves are its owner's. Rows are 0-based.
+/// A list of names with its buttons; the Delete key removes too. It only shows names and emits what
+/// is wanted; its owner holds the named things. Rows are 0-based.
 class NamedList : public QWidget
 {
     Q_OBJECT
@@ -37,12 +37,12 @@ public:
     NamedList(const NamedListTexts &texts, QWidget *parent = nullptr);
     ~NamedList() override;
 
-    /// Shows these names with one of them selected; -1 for none.
+    /// Shows these names and selects a row; -1 for none.
     void setNames(const QStringList &names, qsizetype row);
     void setName(qsizetype row, const QString &name);
-    /// Makes one row stand out, with a tip that says why; -1 for none.
+    /// Highlights one row, with a tip that says why; -1 for none.
     void setMarked(qsizetype row, const QString &tip);
-    /// Whether there is room for one more.
+    /// Enables adding only while there is room for one more.
     void setRoom(bool room);
     /// The selected row; -1 when there is none.
     qsizetype row() const;

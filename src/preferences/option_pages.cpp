@@ -51,7 +51,7 @@ void OpenPage::tidyAutoSave()
 
 void OpenPage::collect()
 {
-    // The field may have the focus still.
+    // A field that still has the focus has not been tidied yet.
     tidyAutoSave();
     m_fields->take(m_context.settings);
     m_context.settings.of<EditorSettings>().BackUpFolder = checkedBackupFolder(
@@ -91,7 +91,7 @@ void FilesPage::browseHotas()
     const auto folder = m_context.dialogs.chooseFolder(u"Locate the HOTAS directory"_s,
                                                        m_context.paths.hotasFolder);
     if (folder) {
-        // The compiler's path follows by itself.
+        // The compiler's path is derived from this one.
         m_context.paths.hotasFolder = withClosingSeparator(nativeSeparators(*folder));
         m_ui->HotasFolder->setText(m_context.paths.hotasFolder);
     }
@@ -115,7 +115,7 @@ MiscPage::MiscPage(const Context &context, QWidget *parent)
     m_ui->GamesCaption->addItems(gamesCaptions());
     m_ui->GamesCaption->lineEdit()->setObjectName(u"GamesCaptionText"_s);
     m_ui->GamesCaption->lineEdit()->setAccessibleName(m_ui->GamesCaption->accessibleName());
-    // Pilots count from 1, the setting from 0.
+    // The list counts joysticks from 1, the setting from 0.
     const SettingRange joysticks = rangeOf(&ToolchainSettings::JoyIDnumber);
     for (int number = int(joysticks.least); number <= int(joysticks.most); ++number) {
         m_ui->JoyIDnumber->addItem(QString::number(number + 1));
@@ -148,7 +148,7 @@ void ZephPage::collect()
 
 namespace {
 
-/// The flags, in the order of the ticks CHK_Default_0 to CHK_Default_7.
+/// In the order of the ticks CHK_Default_0 to CHK_Default_7.
 constexpr bool DefaultOptions::*flags[] = {
     &DefaultOptions::POVUD,        &DefaultOptions::MicrostickMouse, &DefaultOptions::MicrostickUD,
     &DefaultOptions::TG1enabled,   &DefaultOptions::S2enabled,       &DefaultOptions::RCSType,

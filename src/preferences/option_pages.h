@@ -31,9 +31,9 @@ public:
     bool restores() const;
 
 Q_SIGNALS:
-    /// The tick of RestoreStatus flipped.
+    /// The tick RestoreStatus was changed.
     void restoresChanged(bool restores);
-    /// The pilot wants the undo memory emptied now.
+    /// The user wants to empty the undo memory now.
     void deleteUndosWanted();
 
 private:
@@ -49,7 +49,7 @@ namespace Ui {
 class FilesPage;
 }
 
-/// "File locations". The HOTAS folder holds from the moment that it is chosen, and for this run.
+/// "File locations". A chosen HOTAS folder is used at once, for this run only.
 class FilesPage : public PreferencesPage
 {
     Q_OBJECT
@@ -72,7 +72,7 @@ namespace Ui {
 class MiscPage;
 }
 
-/// "Misc.": what Zeph says where, the Games menu's caption, the DLY button, the mode detector.
+/// "Misc.": what is shown where, the caption of the Games menu, the DLY button, the mode detector.
 class MiscPage : public PreferencesPage
 {
     Q_OBJECT
@@ -92,7 +92,7 @@ namespace Ui {
 class ZephPage;
 }
 
-/// "Zeph": the pilot's names, and options that stand on menus and in other windows, gathered.
+/// "Zeph": the pilot's names, and options that are also on menus and in other windows.
 class ZephPage : public PreferencesPage
 {
     Q_OBJECT
@@ -112,8 +112,8 @@ namespace Ui {
 class DefaultsPage;
 }
 
-/// "Default options": what the compiler does unless a file says otherwise, read anew from the
-/// toolchain's file.
+/// "Default options": what the compiler does unless a file says otherwise. Read from the
+/// toolchain's own file each time.
 class DefaultsPage : public PreferencesPage
 {
     Q_OBJECT
@@ -122,9 +122,9 @@ public:
     ~DefaultsPage() override;
 
     void collect() override;
-    /// As they were taken.
+    /// The options that collect() took.
     const DefaultOptions &options() const { return m_options; }
-    /// Whether they were taken as other than they had been read.
+    /// Whether the taken options differ from those that were read.
     bool haveChanged() const { return !(m_options == m_read); }
 
 private:

@@ -28,7 +28,7 @@ namespace zeph {
 
 namespace {
 
-/// Tabs close enough together that all nine of them are in view.
+/// Narrow tabs, so that all nine are visible.
 class CloseTabs : public QProxyStyle
 {
 public:
@@ -50,7 +50,7 @@ QString captionOf(PreferencesTab tab)
     return captions[size_t(tab)].toString();
 }
 
-/// The settings of Zeph's own tab that the global save leaves out.
+/// Saves the settings of the tab "Zeph" that saveGlobalSettings() leaves out.
 Expected<void, FileError> saveOwnOptions(Settings &settings, const SettingsFiles &files)
 {
     return saveSettings(settings, files,
@@ -132,7 +132,7 @@ void Preferences::unload()
     m_hardwareHasChanged = m_context.settings.of<ToolchainSettings>().JoyIDnumber != joystick
         || m_defaults->haveChanged();
     if (m_context.settings.of<ToolchainSettings>().StatusMonitoringInterval != interval) {
-        // An interval that is too long for the timer is told, and nothing is lost by it.
+        // Guarded, since the settings have to be saved even when the timer refuses the interval.
         guarded(m_context.dialogs, m_host.restartDetector)();
     }
     save();
@@ -149,7 +149,7 @@ void Preferences::save()
 {
     const SettingsFiles files = settingsFilesOf(m_context.paths);
     Settings &settings = m_context.settings;
-    // Each is tried, and the first that fails is told.
+    // All parts are saved even if one fails; the first failure is told.
     Expected<void, FileError> result = SaveFilesPath(m_context.paths);
     const auto also = [&result](const Expected<void, FileError> &written) {
         if (result && !written) {

@@ -24,15 +24,14 @@ namespace Ui {
 class Preferences;
 }
 
-/// What Preferences does outside of its fields.
+/// What Preferences calls outside of its fields.
 struct PreferencesHost {
     std::function<void()> DeleteUndosFromMemory;
-    /// The detector's interval changed.
+    /// Called when the detector's interval was changed.
     std::function<void()> restartDetector;
 };
 
-/// All settings in tabs. There is no way to leave it without saving: each field is read back when
-/// the window unloads, however it was closed.
+/// All settings, in tabs. It always saves: however the window is closed, each field is taken.
 class Preferences : public QDialog
 {
     Q_OBJECT
@@ -46,9 +45,9 @@ public:
     ~Preferences() override;
 
     void showTab(PreferencesTab tab);
-    /// Takes every field and saves, once; closing the window does it too.
+    /// Takes every field and saves. Done once; closing the window calls it too.
     void unload();
-    /// After unload(): whether an option of the Cougar's is other than before.
+    /// Whether unload() changed an option of the Cougar.
     bool hardwareHasChanged() const { return m_hardwareHasChanged; }
 
     void done(int result) override;
@@ -70,7 +69,7 @@ private:
     bool m_hardwareHasChanged = false;
 };
 
-/// Writes the ready command line with which the Launcher shows the Files folder.
+/// Stores the command line with which the Launcher shows the Files folder.
 Expected<void, FileError> SaveFilesPath(const Paths &paths);
 
 } // namespace zeph

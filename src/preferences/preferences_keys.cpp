@@ -30,7 +30,7 @@ FieldKind usualKind(const SettingKey &key)
     }
 }
 
-/// A field that has the name of its key.
+/// The field has the name of its key.
 PreferencesKey field(PreferencesTab tab, const SettingRef &setting, FieldKind kind)
 {
     const SettingKey &key = setting.key();
@@ -99,7 +99,7 @@ const PreferencesKey table[] = {
     ofList(PreferencesTab::Apps, u"Apps", u"CustomAppPath4", Text, u"CustomAppPath_4"),
     ofList(PreferencesTab::Apps, u"Apps", u"CustomAppUse4", Tick, u"CustomAppUse_4"),
 
-    // The first entry stands for all of a list.
+    // One row a field: the first entry's key represents those of all entries.
     ofList(Favourites, u"Favourites", u"FavName1", Text, u"FavName"),
     ofList(Favourites, u"Favourites", u"FavJFPath1", Text, u"FavJFPath"),
     ofList(Favourites, u"Favourites", u"FavMFPath1", Text, u"FavMFPath"),

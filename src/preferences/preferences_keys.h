@@ -3,14 +3,14 @@
 
 #pragma once
 
-// Which settings Preferences edits, and through which field of which tab: one table, for the window
-// and for the tests that walk through it.
+// The settings that Preferences edits, each with its tab and field. The window and the tests are
+// driven by this table.
 
 #include "settings/settings.h"
 
 namespace zeph {
 
-/// The tabs in their order.
+/// The tabs, from left to right.
 enum class PreferencesTab {
     FileLocations,
     ColoursFonts,
@@ -25,11 +25,11 @@ enum class PreferencesTab {
 
 enum class FieldKind {
     Tick, ///< 0 or 1
-    Number, ///< a line of text, taken by the key's number rule
+    Number, ///< a line of text, read with takenNumber()
     Text, ///< a line of text
     Choice, ///< an entry of a list, stored by its place
     Entry, ///< an entry of a list, stored by its text
-    Amount, ///< a number that can only be in range
+    Amount, ///< a spin box, which keeps to the range
     Colour, ///< a line of the list of colours, changed in the colour dialog
     MakeDefault ///< a button that takes the selected favourite's name
 };
@@ -41,11 +41,11 @@ struct PreferencesKey {
     FieldKind kind;
     QStringView control; ///< object name of the field
     int first = 0; ///< what a choice's first entry is stored as; a colour's line in its list
-    /// The setting, where the key is one; the others belong to the user's lists.
+    /// The setting; no value for keys of the user's lists.
     std::optional<SettingRef> setting = {};
 };
 
-/// Keys of the section Defaults are in HOTAS.ini, all others in the settings store.
+/// Keys of the section Defaults belong to HOTAS.ini, all others to the settings store.
 std::span<const PreferencesKey> preferencesKeys();
 
 } // namespace zeph

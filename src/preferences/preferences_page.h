@@ -7,16 +7,16 @@
 
 namespace zeph {
 
-/// One tab of Preferences. It shows the settings when it is made; nothing of them changes while the
-/// window is open, but for the lists whose own windows and menus act at once too.
+/// One tab of Preferences. It shows the settings when it is created. They change when the window
+/// closes, except for lists that other windows and menus show at once.
 class PreferencesPage : public QWidget
 {
     Q_OBJECT
 public:
     using QWidget::QWidget;
 
-    /// Takes every field back into the settings or lists that it showed, by the fields' rules. It
-    /// is called once, when the window closes, and refuses nothing: a bad value is replaced.
+    /// Writes every field into its setting or list. Called once, when the window closes. Refuses
+    /// nothing: a bad value is replaced.
     virtual void collect() = 0;
 };
 

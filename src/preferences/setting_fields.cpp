@@ -20,7 +20,7 @@ namespace zeph {
 
 namespace {
 
-/// The line in which a text field or a list with free entry is edited.
+/// The line edit of a text field or of an editable list.
 QLineEdit *lineOf(QWidget *control)
 {
     auto *list = qobject_cast<QComboBox *>(control);
@@ -73,7 +73,7 @@ SettingFields::SettingFields(const QWidget &page, PreferencesTab tab)
         if (key.kind == FieldKind::Number) {
             QLineEdit *line = lineOf(control);
             QObject::connect(line, &QLineEdit::editingFinished, line, [line, &key] {
-                // An empty line may mean more to its page than a number.
+                // An empty field has a meaning of its own on some pages.
                 if (!line->text().trimmed().isEmpty()) {
                     line->setText(QString::number(takenNumber(line->text(), *key.setting)));
                 }
@@ -100,21 +100,21 @@ namespace {
 
 enum class Bad { NearestEnd, Default };
 
-/// What a number field takes for a number outside of the range, and for a text without one.
+/// What replaces a number outside of the range, and a text without a number.
 struct NumberRule {
     SettingRef setting;
     Bad outside = Bad::NearestEnd;
     Bad none = Bad::Default;
 };
 
-/// The fields that differ from the others.
+/// The settings whose rule differs from the usual one.
 const NumberRule rules[] = {
     { .setting = &EditorSettings::AutoSaveTime, .none = Bad::NearestEnd },
     { .setting = &DocumentSettings::UndoMax, .none = Bad::NearestEnd },
     { .setting = &ToolchainSettings::StatusMonitoringInterval, .outside = Bad::Default },
 };
 
-/// The default is one more.
+/// Offered after the default caption.
 constexpr QStringView furtherCaptions[] = {
     u"Flight &sims", u"Flight &simulations", u"Fighter &simulations", u"Fighter &sims",
     u"Check si&x",   u"Combat &sims",        u"Combat &simulations",  u"&Sims",

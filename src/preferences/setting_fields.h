@@ -13,16 +13,17 @@ class QWidget;
 
 namespace zeph {
 
-/// The fields of a page that each edit one setting, found by the names that the table of keys has
-/// for them. The page must hold all fields of its tab.
+/// The fields of a page that edit one setting each, found by the control names in
+/// preferencesKeys(). The page must have all fields of its tab. A number field that is left shows
+/// the number that take() would read from it.
 class SettingFields
 {
 public:
     SettingFields(const QWidget &page, PreferencesTab tab);
 
-    /// Number fields show what will be taken of them as soon as they are left.
+    /// Shows the settings in the fields.
     void show(Settings &settings) const;
-    /// Takes every field by its rule.
+    /// Writes each field into its setting; a bad value is replaced.
     void take(Settings &settings) const;
 
 private:
@@ -34,27 +35,27 @@ private:
     QList<Field> m_fields;
 };
 
-// What becomes of a field of Preferences when it is taken: nothing is refused, a bad value is
-// replaced.
+// How the text of a field becomes a value: nothing is refused, a bad value is replaced.
 
-/// A field's text as a number in the setting's range; fractions are rounded, halves to even.
+/// The number in a field's text, brought into the setting's range; fractions are rounded, halves to
+/// even.
 int takenNumber(QStringView text, const SettingRef &setting);
 
-/// The period of the autosave, and its tick.
+/// The autosave's period in minutes and its tick.
 struct AutoSaveFields {
     int AutoSaveTime;
     bool AutoSaveEnabled;
 
     friend bool operator==(const AutoSaveFields &, const AutoSaveFields &) = default;
 };
-/// An empty field gives the default and turns the autosave off.
+/// An empty text gives the default period and switches the autosave off.
 AutoSaveFields takenAutoSave(QStringView text, bool ticked);
 
-/// A text without the blanks around it; what the field had before when the store cannot hold it;
-/// the setting's default when it is empty ("&Games", "buddy", "User unknown").
+/// The trimmed text; `before` when the store cannot hold it; the setting's default when it is empty
+/// ("&Games", "buddy", "User unknown").
 QString takenText(const SettingRef &setting, const QString &text, const QString &before);
 
-/// What Preferences offers for the caption of the Games menu.
+/// The captions that Preferences offers for the Games menu.
 QStringList gamesCaptions();
 
 /// The command line with which the Launcher shows the Files folder.

@@ -32,22 +32,22 @@ std::vector<qsizetype> hitsToReplace(QStringView text, QStringView word, QString
     const bool asksNeighbour =
         (options & SearchWholeWord) && !word.isEmpty() && isWordCharacter(word.front());
     QChar last;
-    qsizetype behind = 0;
+    qsizetype lastHitEnd = 0;
     qsizetype at = findText(text, word, 0, options);
     while (at >= 0) {
-        const bool touches = at == behind && !hits.empty();
+        const bool touches = at == lastHitEnd && !hits.empty();
         if (touches && asksNeighbour && !last.isNull() && isWordCharacter(last)) {
             at = findText(text, word, at + 1, options);
             continue;
         }
         if (!replacement.isEmpty()) {
             last = replacement.back();
-        } else if (at > behind) {
+        } else if (at > lastHitEnd) {
             last = text[at - 1];
         }
         hits.push_back(at);
-        behind = at + word.size();
-        at = findText(text, word, behind, options);
+        lastHitEnd = at + word.size();
+        at = findText(text, word, lastHitEnd, options);
     }
     return hits;
 }

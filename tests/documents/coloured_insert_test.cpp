@@ -20,7 +20,7 @@ protected:
 
 } // namespace
 
-TEST_F(ColouredInsertTest, PiecesStandInTheirColoursAndTheCaretBehindThem)
+TEST_F(ColouredInsertTest, PiecesStandInTheirColoursAndTheCaretAfterThem)
 {
     set(J, u"ab"_s);
     caretAt(1);

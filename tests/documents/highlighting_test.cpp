@@ -464,7 +464,7 @@ TEST_F(TypingColourTest, BlankAndEnterColourTheLineBeforeThem)
     EXPECT_EQ(editor->joystickText(), u"/U /M\n");
 }
 
-TEST_F(TypingColourTest, BackspaceAndRightColourTheLineBehindThem)
+TEST_F(TypingColourTest, BackspaceAndRightColourTheLineAfterThem)
 {
     set(J, u"/UX"_s);
     joystick()->shown().select(3, 0);

@@ -69,7 +69,7 @@ TEST(Branches, RepeatStandsInnermost)
                 ElementsAre("/I/H: MOUSE_RB", "/O/H: MOUSE_LB"));
 }
 
-TEST(Branches, AModifierWithNothingBehindItIsAnEmptyBranch)
+TEST(Branches, AModifierWithNothingAfterItIsAnEmptyBranch)
 {
     EXPECT_THAT(branches(u"BTN S1 /U"_s), ElementsAre("/U:"));
 }

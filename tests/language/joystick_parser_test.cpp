@@ -149,7 +149,7 @@ TEST(Bodies, WordsHaveTheirKinds)
         ElementsAre(Key, ModifierKey, Number, Key, Null, MacroUse, Unknown, Flag, Word, Word));
 }
 
-TEST(Bodies, AWordWithBracketsBehindItIsACallWithOrWithoutABlank)
+TEST(Bodies, AWordWithBracketsAfterItIsACallWithOrWithoutABlank)
 {
     const JoystickFile file = parsed(u"BTN S1 DLY(60) KD (a b) x (c) RPT\n(2)"_s);
     std::vector<std::string> calls;

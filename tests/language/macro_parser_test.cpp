@@ -138,7 +138,7 @@ TEST(MacroReferences, OfTwoMacrosOfOneNameTheFirstIsMeant)
     EXPECT_EQ(pair.joystick.items[0].reference, 0);
 }
 
-TEST(MacroOrder, PutsEachMacroBehindThoseThatItUses)
+TEST(MacroOrder, PutsEachMacroAfterThoseThatItUses)
 {
     const MacroFile file = parsedMacros(u"All = Left2 Right2\nLeft2 = q\nRight2 = Left2 w"_s);
     const MacroOrder order = orderMacros(file);

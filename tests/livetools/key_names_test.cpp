@@ -76,7 +76,7 @@ TEST(WhichKey, PutsThePrefixOfTheShiftStateBeforeTheName)
     }
 }
 
-TEST(WhichKey, WithoutANameTheCharacterStandsBehindCtrlAndAlt)
+TEST(WhichKey, WithoutANameTheCharacterStandsAfterCtrlAndAlt)
 {
     const NamingCase cases[] = {
         { 86, 0, nothing }, // the character that is typed tells itself

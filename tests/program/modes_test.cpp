@@ -32,7 +32,7 @@ TEST(ProgramModes, MenusAndTypingInTheMacroFileGoOnDuringAModeWait)
         u"Zeph.ini"_s,
         program.read(u"Zeph.ini"_s).replace("RegainControlAfter=900", "RegainControlAfter=20000"));
     program.setEnvironment(u"ZEPH_STANDIN_DELAY_MS"_s, u"1500"_s);
-    // Going to the macro file puts its name on the panel: " Ready" behind that can only come from a
+    // Going to the macro file puts its name on the panel: " Ready" after that can only come from a
     // wait that was still going on.
     program.run({ u"text MacroText ="_s, u"trigger mnuViewTileVertically"_s,
                   u"trigger mnuAxesModeArray_0"_s, u"text Panel_1  Changing axis mode"_s,

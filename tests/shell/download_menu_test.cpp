@@ -156,7 +156,7 @@ TEST_F(DownloadMenuTest, Entries3And4AreSavedAtOnce)
     EXPECT_EQ(hotasIni().text(u"Defaults", u"DownloadMode", u"none"_s), u"1");
 }
 
-TEST_F(DownloadMenuTest, TheTextIsLockedDuringTheWaitAndEditableBehindIt)
+TEST_F(DownloadMenuTest, TheTextIsLockedDuringTheWaitAndEditableAfterIt)
 {
     settings.of<ToolchainSettings>().RunKeyTest = false;
     show();

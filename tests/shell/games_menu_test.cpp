@@ -54,7 +54,7 @@ TEST_F(GamesMenuTest, WithoutGamesTheDividerAndTheSortEntryAreHidden)
     EXPECT_EQ(shown(), QStringList({ u"mnuGamesAdd"_s, u"mnuGamesEdit"_s }));
 }
 
-TEST_F(GamesMenuTest, GamesStandBehindAddAndBeforeSortAndEdit)
+TEST_F(GamesMenuTest, GamesStandAfterAddAndBeforeSortAndEdit)
 {
     start(twoGames);
     EXPECT_EQ(shown(),

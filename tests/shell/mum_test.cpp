@@ -98,7 +98,7 @@ TEST_F(MainWindow, HasTwoMovableBandsWithSeparatorsInTheGaps)
     for (const QAction *action : mum->findChild<QToolBar *>(u"Toolbar1"_s)->actions()) {
         separators += action->isSeparator() ? 1 : 0;
     }
-    // Behind 4, 8, 11, 15, 17, 22, 25, 29 and 32.
+    // After buttons 4, 8, 11, 15, 17, 22, 25, 29 and 32.
     EXPECT_EQ(separators, 9);
 }
 

@@ -96,7 +96,7 @@ TEST_F(Compiler, HasAVerdictOnWhateverBytesTheFilesHold)
     }
 }
 
-TEST_F(Compiler, TellsALineBehindAHugeOne)
+TEST_F(Compiler, TellsALineAfterAHugeOne)
 {
     run(u"/CO"_s,
         folder.write(u"a.tmj"_s, "BTN S1 " + QByteArray("a ").repeated(500'000) + "\r\nBTN S9"));

@@ -126,7 +126,7 @@ TEST(AlignSlashes, AnAlignedFileStaysAsItIs)
     }
 }
 
-TEST(AlignSlashes, ASlashInACommentBehindAStatementMakesTheReference)
+TEST(AlignSlashes, ASlashInACommentAfterAStatementMakesTheReference)
 {
     EXPECT_EQ(AlignSlashes(u"BTN S1 /I a\n b Rem see /O there\n/O c\n"),
               lines({ u"BTN S1 /I a"_s, u"b Rem see /O there"_s, u"          /O c"_s }));

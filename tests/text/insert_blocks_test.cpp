@@ -193,7 +193,7 @@ TEST(DateStamp, IsEnglishWithoutLeadingZeroInTheHourWhateverTheLocale)
     QLocale::setDefault(QLocale::c());
 }
 
-TEST(DateStamp, ReplacesWhatStandsBehindTheBlankToTheLinesEnd)
+TEST(DateStamp, ReplacesWhatStandsAfterTheBlankToTheLinesEnd)
 {
     EXPECT_EQ(stamped(u"Rem LAST Modified: yesterday\nBTN S1 a"_s, morning),
               u"Rem LAST Modified: 05 March 2024, 9:07 am\nBTN S1 a");
@@ -216,7 +216,7 @@ TEST(DateStamp, AnEmptyStampGetsItsBlank)
               u"Last modified: 05 March 2024, 9:07 am\nx");
 }
 
-TEST(DateStamp, PositionsMoveWithTheTextBehindTheStamp)
+TEST(DateStamp, PositionsMoveWithTheTextAfterTheStamp)
 {
     const Stamp stamp{ 10, 2, u"abcde"_s };
     EXPECT_EQ(movedByStamp(stamp, 3), 3);

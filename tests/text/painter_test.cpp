@@ -82,7 +82,7 @@ TEST(Painter, ANameRunsAcrossALineEndToTheNextBlankOrTab)
     EXPECT_EQ(joystick(u"BTN\nS1 a"), u"bbbbbb..");
 }
 
-TEST(Painter, ASecondBlankBehindBtnLeavesTheNamePlain)
+TEST(Painter, ASecondBlankAfterBtnLeavesTheNamePlain)
 {
     EXPECT_EQ(joystick(u"BTN  S1 a"), u"bbbb.....");
 }
@@ -100,7 +100,7 @@ TEST(Painter, BtnAtTheVeryEndIsPainted)
     EXPECT_EQ(joystick(u"a BTN "), u"..bbbb");
 }
 
-TEST(Painter, SlashWordsNeedTheirCaseAndNothingBehind)
+TEST(Painter, SlashWordsNeedTheirCaseAndNothingAfter)
 {
     EXPECT_EQ(joystick(u"/U /I/O /u /Up"), u"ss.ssss.......");
     EXPECT_EQ(joystick(u"a/U"), u".ss");
@@ -118,7 +118,7 @@ TEST(Painter, ALetterOfTheCodePageJoinsAWord)
     EXPECT_EQ(joystick(u"\u00DCJOYX JOYX\u00E9 JOYX"), u"............mmmm");
 }
 
-TEST(Painter, UseNeedsABlankBehindItInTheFullPass)
+TEST(Painter, UseNeedsABlankAfterItInTheFullPass)
 {
     EXPECT_EQ(joystick(u"USE a"), u"mmm..");
     EXPECT_EQ(joystick(u"a USE a"), u"..mmm..");
@@ -161,9 +161,9 @@ TEST(Painter, ALaterPassPaintsOverAnEarlierOne)
     // CURVE is raw either way; MOUSE and SHIFTBTN stand in two lists.
     EXPECT_EQ(joystick(u"CURVE (1)"), u"rrrrr.r.r");
     EXPECT_EQ(joystick(u"MOUSE mouse( shiftbtn SHIFTBTN"), u"mmmmm.mmmmmr..........mmmmmmmm");
-    // The name behind BTN is first the button's, then the axis's.
+    // The name after BTN is first the button's, then the axis's.
     EXPECT_EQ(joystick(u"BTN JOYX a"), u"bbbbmmmm..");
-    // DEF comes behind the brackets, BTN before them.
+    // DEF is painted after the brackets, BTN before them.
     EXPECT_EQ(joystick(u"DEF X(1) a"), u"bbbbbbbb..");
     EXPECT_EQ(joystick(u"BTN X(1) a"), u"bbbbbrbr..");
 }

@@ -134,8 +134,8 @@ private:
     {
         for (qsizetype hit = findText(m_text, word, 0, 2); hit != -1;
              hit = findText(m_text, word, hit + word.size(), 2)) {
-            const bool blankBehind = at(hit + word.size()) == u" ";
-            if (hit == 0 ? blankBehind : blankBehind && at(hit - 1) != u"_") {
+            const bool blankAfter = at(hit + word.size()) == u" ";
+            if (hit == 0 ? blankAfter : blankAfter && at(hit - 1) != u"_") {
                 set(hit, hit + word.size(), colour);
             }
         }

@@ -76,7 +76,7 @@ TEST(SearchRules, AReplacementThatHoldsTheWordIsNotSearchedAgain)
 
 TEST(SearchRules, AReplacementCanBeTheNeighbourOfTheNextHit)
 {
-    // Behind "y" the second "x-" is no word of its own any more.
+    // After "y" the second "x-" is no word of its own any more.
     EXPECT_EQ(replacedAtOnce(u"x-x-"_s, u"x-"_s, u"y"_s, SearchWholeWord), u"yx-");
     EXPECT_EQ(replacedAtOnce(u"x-x-"_s, u"x-"_s, u"y "_s, SearchWholeWord), u"y y ");
     EXPECT_EQ(replacedAtOnce(u"bx-x-"_s, u"x-"_s, u""_s, 0), u"b");

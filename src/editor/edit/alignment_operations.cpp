@@ -21,7 +21,7 @@ namespace zeph {
 
 namespace {
 
-/// Puts a text in place of the whole one. Caret and view stay with the line that they were at.
+/// Replaces the whole text. Caret and view stay at the line where they were.
 void replaceAll(EditorView &view, Document &document, const QString &text)
 {
     const int line = document.caretLine();
@@ -163,12 +163,12 @@ void BlockOperations::BlockRemoveREM()
         return;
     }
     const Document &document = m_parts.view.documents().selected();
-    constexpr qsizetype taken = 4; // "rem " and its blank
+    constexpr qsizetype taken = 4; // "rem" and its blank
     RichText text;
     qsizetype at = range.start;
     for (const LineChange &line : all) {
         const qsizetype length = line.text.size() + (line.changed ? taken : 0);
-        // What stays keeps the looks that it has; what is live again is painted as it is typed.
+        // Unchanged lines keep their looks; lines commented in are coloured as if they were typed.
         text.append(line.changed ? m_parts.highlighting.ColourType(line.text)
                                  : document.richText(int(at), int(length)));
         at += length;

@@ -13,7 +13,7 @@ class MenuActions;
 class EditorView;
 class Highlighting;
 
-/// The entries of the View menu that set a text's lines afresh.
+/// The entries of the View menu that change the layout of lines.
 class AlignmentOperations
 {
 public:
@@ -26,13 +26,14 @@ public:
 
     /// Aligns the joystick file and colours it. Refused while a protected macro file is selected.
     void mnuAlignSlash_Click();
-    /// Keeps in the settings whether statements are moved in when they are aligned.
+    /// Puts the tick of the menu entry, whether aligning also indents statements, into the
+    /// settings.
     void mnuIndentSlashes_Click();
-    /// Sets the margin of the selected document, whose colours and state stay. Refused on a
-    /// protected macro file.
+    /// Sets the margin of the selected document; its colours and its state do not change. Refused
+    /// on a protected macro file.
     void mnuViewrefreshIndent_Click();
 
-    /// Shows the settings' tick.
+    /// Shows the tick that the settings have.
     void applySettings();
 
 private:
@@ -45,8 +46,8 @@ class MenuActions;
 class EditorView;
 class Highlighting;
 
-/// Comments the lines that the selection touches out and in again: one undo step each. Refused on
-/// a protected macro file. The caret ends at the start of the first line.
+/// Comments the selected lines out or in again, as one undo step each. A partly selected line
+/// counts. Refused on a protected macro file. The caret ends at the start of the first line.
 class BlockOperations
 {
 public:

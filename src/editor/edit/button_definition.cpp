@@ -15,7 +15,7 @@ namespace {
 
 using language::operator""_w;
 
-/// Where a definition ends, in the order in which the words are sought.
+/// The words that end a definition, in the order in which they are searched for.
 constexpr QStringView keywords = u"BTN RNG ANT MDEF JSX JSY PORTB USE RATE SWAPTG THR RDDR"_w;
 constexpr QStringView portHead = u"PortB";
 constexpr qsizetype portPrefix = 4;

@@ -3,7 +3,7 @@
 
 #pragma once
 
-// Where a control's definition stands in the joystick text.
+// Finds the definition of a control in the joystick text.
 
 #include "text/text_lines.h"
 
@@ -11,14 +11,14 @@ namespace zeph {
 
 class EditorView;
 
-/// The definition of a statement's head ("BTN S1"): from the head's first place (whole word, in any
-/// case) to the next of the twelve keywords that can follow it, or to the text's end. A head that
-/// begins "PortB" is written behind a prefix of four characters, which is taken in. No value when
-/// the head is nowhere.
+/// The definition of a statement's head ("BTN S1"): from the first place of the head (whole word,
+/// in any case) to the next of the twelve keywords that can follow it, or to the end of the text.
+/// Before a head that begins with "PortB" is a prefix of four characters, which belongs to the
+/// definition. No value when the text has no such head.
 std::optional<LineRange> buttonDefinition(QStringView text, const QString &head);
 
-/// Brings the joystick text to the front with the head's whole definition selected. False, and the
-/// selection as it was, when there is none; in an empty text nothing happens at all.
+/// Shows the joystick text with the head's whole definition selected. False when there is none: the
+/// selection stays as it was and, in an empty text, nothing else happens either.
 bool ExtractButtonDefinition(EditorView &view, const QString &head);
 
 } // namespace zeph

@@ -13,8 +13,8 @@ class ColouredInsert;
 class MenuActions;
 class EditorView;
 
-/// Copy, cut, paste and delete on the selected document. All that change it are one undo step each
-/// and refused on a protected macro file.
+/// Copy, cut, paste and delete in the selected document. Those that change it are one undo step
+/// each and refused on a protected macro file.
 class ClipboardOperations
 {
 public:
@@ -25,11 +25,12 @@ public:
     };
     explicit ClipboardOperations(const Parts &parts);
 
-    /// Puts the selection on the clipboard as plain text and as rich text; nothing without one.
+    /// Copies the selection as plain text and as rich text; without a selection the clipboard stays
+    /// as it is.
     void mnuEditCopy_Click();
     void mnuEditCut_Click();
     void mnuEditDelete_Click();
-    /// Rich text keeps its colours and takes the document's font.
+    /// Pastes rich text with its colours, in the document's font.
     void mnuEditPaste_Click();
     void mnuPasteSimple_Click();
 

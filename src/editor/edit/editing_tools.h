@@ -12,8 +12,8 @@
 
 namespace zeph {
 
-/// The tools of the Edit and View menus that work on a text as it stands: clipboard, comments of
-/// many lines, alignment, find and replace.
+/// The tools of the Edit and View menus for existing text: clipboard, commenting lines, alignment,
+/// find and replace.
 class EditingTools : public QObject
 {
     Q_OBJECT
@@ -35,7 +35,7 @@ public:
     void mnuEditReplace_Click();
     void mnuEditGoto_Click();
 
-    /// Shows what the settings say.
+    /// Applies changed settings.
     void applySettings();
 
 Q_SIGNALS:
@@ -49,7 +49,8 @@ private:
     ClipboardOperations m_clipboard;
     BlockOperations m_blocks;
     AlignmentOperations m_alignment;
-    /// Made at the first use, since it belongs to the main window, which the Editor joins late.
+    /// Created at the first use: its parent is the main window, which the Editor joins only after
+    /// its construction.
     QPointer<FindAndReplace> m_find;
 };
 

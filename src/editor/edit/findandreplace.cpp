@@ -20,7 +20,7 @@ namespace zeph {
 
 namespace {
 
-/// Adds to a box's list what it was used with; what is written in it stays.
+/// Adds the box's present text to its list; the text itself stays.
 void remember(QComboBox &box)
 {
     const QString text = box.currentText();
@@ -39,9 +39,9 @@ void remember(QComboBox &box)
 
 void prepareBox(QComboBox &box, const QString &name)
 {
-    // What is typed is sought as it is, not as an earlier text that begins alike.
+    // The completer would search for an earlier text that begins alike instead of the typed one.
     box.setCompleter(nullptr);
-    // The toolkit makes the box's field itself, and gives it no name.
+    // The toolkit creates the inner field without a name.
     box.lineEdit()->setObjectName(box.objectName() + u"Edit"_s);
     box.lineEdit()->setAccessibleName(name);
 }
@@ -120,7 +120,7 @@ void FindAndReplace::showTab(Tab tab)
     QWidget *const fields[] = { m_ui->ComboTextFind, m_ui->ComboTextReplaceFind, m_ui->LineToFind };
     m_ui->SSTab1->setCurrentIndex(int(tab));
     showDefault(tab);
-    // Both pages: the other one is a click on its tab away.
+    // The user may switch to the other page, so both are preset.
     preset(m_findPage);
     preset(m_replacePage);
     show();
@@ -145,7 +145,8 @@ void FindAndReplace::preset(Page &page)
             page.what->setEditText(LastFindText);
         }
     } else if (!isSought(selection, present, optionsOf(page))) {
-        // A hit that is still selected goes on as it was sought.
+        // A selection that is just the last hit, perhaps in other letter case, does not replace the
+        // search text.
         page.what->setEditText(selection);
     }
 }
@@ -294,9 +295,9 @@ void FindAndReplace::ReplaceAll()
         Change change(document);
         document.replaceAll(hits, word.size(), replacement);
         const qsizetype growth = replacement.size() - word.size();
-        const qsizetype behind =
+        const qsizetype afterLast =
             hits.back() + growth * qsizetype(hits.size() - 1) + replacement.size();
-        document.select(int(behind), 0);
+        document.select(int(afterLast), 0);
         change.commit();
     }
     setFirst(m_replacePage, true);
@@ -307,7 +308,7 @@ void FindAndReplace::ReplaceAll()
 
 void FindAndReplace::goToLine()
 {
-    // A number beyond all files is a line that no file has.
+    // Keeps the number within int; no file has so many lines.
     const double line = qBound(0.0, leadingNumber(m_ui->LineToFind->text()), 1e9);
     if (showLine(m_context, m_parts.view, m_parts.view.documents().selected(), int(line),
                  LineCaret::AtStart)) {

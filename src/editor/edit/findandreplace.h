@@ -24,8 +24,8 @@ namespace Ui {
 class FindAndReplace;
 }
 
-/// Finds and replaces in either document, and goes to lines. Stands beside the texts and stays
-/// above the main window.
+/// Finds and replaces in either document and goes to lines. The window does not block the texts and
+/// stays above the main window.
 class FindAndReplace : public QDialog
 {
     Q_OBJECT
@@ -38,20 +38,20 @@ public:
     FindAndReplace(const Context &context, const Parts &parts, QWidget *parent = nullptr);
     ~FindAndReplace() override;
 
-    /// Comes to the front with a tab, for the selected document and with its selection as the text
-    /// to search for.
+    /// Brings the window to the front on a tab, set to the selected document, with its selection as
+    /// the text to search for.
     void showTab(Tab tab);
 
-    /// Bits of SearchOption of the last search, and what it sought.
+    /// The SearchOption bits and the text of the last search.
     qint16 SearchOptions = 0;
     QString LastFindText;
 
 Q_SIGNALS:
-    /// Help is wanted.
+    /// The help about this word is wanted.
     void helpOn(const QString &word);
 
 private:
-    /// The controls that the first two tabs both have.
+    /// The controls that both of the first two tabs have.
     struct Page {
         QComboBox *what = nullptr;
         QCheckBox *matchCase = nullptr;
@@ -67,7 +67,7 @@ private:
     void showDefault(Tab tab);
     void preset(Page &page);
     void setFirst(Page &page, bool first);
-    /// The conditions of the search are others: it begins anew.
+    /// Makes the next search begin at the start, because text or options changed.
     void startOver(Page &page);
     void enableReplacing(bool on);
     int optionsOf(const Page &page) const;

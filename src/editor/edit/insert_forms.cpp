@@ -119,7 +119,7 @@ void InsertForms::insertRem(const QString &text, bool addCarriageReturn)
     ColouredInsert &insert = m_parts.insert;
     insert.TextToInsert = remStatement(text);
     if (!before.isSpace()) {
-        // Rem is a comment only as a word of its own.
+        // Rem starts a comment only if it is a word of its own.
         insert.TextToInsert.prepend(u' ');
     }
     insert.BeginColInsert();
@@ -153,7 +153,7 @@ void InsertForms::mnuSlashWindow_Click()
         connect(m_slashWindow, &SlashWindow::chosen, this,
                 guarded(m_context.dialogs, [this](int index) {
                     mnuSlashArray_Click(index);
-                    // The next thing that a pilot does is to type.
+                    // The palette took the focus, but the pilot goes on typing in the text.
                     m_parts.view.window()->activateWindow();
                 }));
     }

@@ -21,7 +21,7 @@ class ColouredInsert;
 class MenuActions;
 class EditorView;
 
-/// The Insert menu: titles, headings and comments through forms, slash modifiers at once or from a
+/// The Insert menu: titles, headings and comments through forms, slash modifiers directly or from a
 /// palette.
 class InsertForms : public QObject
 {
@@ -38,25 +38,25 @@ public:
     void mnuInsertTitle_Click();
     void mnuInsertHeading_Click();
     void mnuInsertRemStatement_Click();
-    /// Index of a word in insertWords.
+    /// Inserts a slash modifier; Index is its place in insertWords.
     void mnuSlashArray_Click(int Index);
     void mnuSlashWindow_Click();
 
-    /// Who writes titles, "User unknown" when nobody has said so.
+    /// The name for titles; "User unknown" until the user has given one.
     QString GetPersonsName() const;
     void SaveThePersonsName(const QString &name);
-    /// Keeps whether a line end follows an inserted comment.
+    /// Stores in the settings whether a line end follows an inserted comment.
     void SaveCRthang(bool addCarriageReturn);
-    /// The floating palette may be open while its delay is changed.
+    /// Applies changed settings to the palette, if it is open: one button shows the delay of DLY.
     void applySettings();
 
 Q_SIGNALS:
     void helpOn(const QString &word);
 
 private:
-    /// Not while another form is open, nor over a protected text, which is told.
+    /// False while another form is open, and for a protected document, which is told.
     bool canOpen();
-    /// Shows a form until it is left; what is accepted is written by the function.
+    /// Shows a form; calls the function with it when it is accepted.
     template <class Form> void open(Form *form, std::function<void(const Form &)> accepted);
     void insertLines(const QStringList &lines);
     void insertRem(const QString &text, bool addCarriageReturn);
@@ -65,12 +65,13 @@ private:
     Context m_context;
     Parts m_parts;
     QPointer<QDialog> m_form;
-    /// Made at the first use, since it belongs to the main window, which the Editor joins late.
+    /// Created at the first use: its parent is the main window, which the Editor joins only after
+    /// its construction.
     QPointer<SlashWindow> m_slashWindow;
 };
 
-/// The lines of a list that pilots may edit, trimmed, empty ones left out. A list that is missing
-/// or cannot be read is empty.
+/// Returns the lines of a list file that pilots may edit, trimmed and without empty ones; no lines
+/// when it is missing or cannot be read.
 QStringList linesOfListFile(const QString &path);
 
 } // namespace zeph

@@ -46,9 +46,9 @@ Heading::Heading(const QStringList &headings, QWidget *parent)
     : QDialog(parent), m_ui(std::make_unique<Ui::Heading>())
 {
     m_ui->setupUi(this);
-    // A heading is what was typed, not an entry of the list that begins alike.
+    // The completer would turn a typed heading into a list entry that begins alike.
     m_ui->Combo1->setCompleter(nullptr);
-    // The toolkit makes the box's field itself, and gives it no name.
+    // The toolkit creates the inner field without a name.
     m_ui->Combo1->lineEdit()->setObjectName(u"Combo1Edit"_s);
     m_ui->Combo1->lineEdit()->setAccessibleName(m_ui->Combo1->accessibleName());
     m_ui->Combo1->addItems(headings);

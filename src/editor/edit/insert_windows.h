@@ -20,7 +20,7 @@ namespace Ui {
 class Title;
 }
 
-/// Asks for what a file's title tells. Writing it is the caller's.
+/// Asks for the entries of a file's title. The caller writes it into the text.
 class Title : public QDialog
 {
     Q_OBJECT
@@ -38,7 +38,7 @@ namespace Ui {
 class Heading;
 }
 
-/// Asks for the text of a heading, which may be one of a list. Writing it is the caller's.
+/// Asks for the text of a heading, typed or chosen from a list. The caller writes it into the text.
 class Heading : public QDialog
 {
     Q_OBJECT
@@ -58,7 +58,7 @@ namespace Ui {
 class SingleTextForm;
 }
 
-/// Asks for the text of a comment. Writing it is the caller's.
+/// Asks for the text of a comment. The caller writes it into the text.
 class SingleTextForm : public QDialog
 {
     Q_OBJECT
@@ -76,19 +76,19 @@ private:
 
 struct EditorSettings;
 
-/// The floating palette of the slash modifiers, captioned with the words that it inserts.
-/// Emits chosen(); InsertForms writes the word.
+/// The floating palette of the slash modifiers; the captions are the words that it inserts. Emits
+/// chosen(); InsertForms writes the word.
 class SlashWindow : public QDialog
 {
     Q_OBJECT
 public:
     explicit SlashWindow(const EditorSettings &settings, QWidget *parent = nullptr);
 
-    /// The delay of DLY is a setting.
+    /// Updates the button that shows the delay of DLY.
     void applySettings();
 
 Q_SIGNALS:
-    /// A button was pressed: its index in insertWords.
+    /// A button was pressed; its index in insertWords.
     void chosen(int index);
 
 protected:

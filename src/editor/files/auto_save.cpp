@@ -51,7 +51,7 @@ void AutoSave::Timer1_Timer()
 void AutoSave::AutoSaveFile()
 {
     if (m_saves) {
-        // A box of the last round still stands on the screen.
+        // The last autosave is still asking something in a box.
         return;
     }
     const QScopedValueRollback<bool> saves(m_saves, true);

@@ -12,28 +12,28 @@ namespace zeph {
 class EditorView;
 class FileSaving;
 
-/// Saves what is modified every few minutes, if the user wants that, and once more when the
-/// program falls over.
+/// Saves modified documents every few minutes, if the user wants that, and saves both when the
+/// program is about to crash.
 class AutoSave : public QObject
 {
     Q_OBJECT
 public:
     AutoSave(const Context &context, EditorView &view, FileSaving &saving);
 
-    /// Counts from nothing, and runs or stands still as the settings say: at the start, after a
-    /// change of the settings, and for a fresh document.
+    /// Sets the count to 0 and starts or stops the timer as the settings say. Called at the start,
+    /// after a change of the settings, and for a fresh document.
     void restart();
     bool runs() const { return m_timer.isActive(); }
     /// Minutes since the last autosave.
     int counted() const { return m_counter; }
 
-    /// A minute has gone.
+    /// Called once a minute; saves when the period of the settings is over.
     void Timer1_Timer();
-    /// Saves each modified document where it belongs, or under its fresh name. A text that came
-    /// back after a crash waits for the user's own save: the offer promised that nothing on the
-    /// disk changes before.
+    /// Saves each modified document to its own path, or under its fresh name when it has none.
+    /// Skips a text recovered after a crash until the user has saved it: Recovery promised not to
+    /// touch the disk before.
     void AutoSaveFile();
-    /// The last resort after a failure that nobody caught: saves both documents as the user would.
+    /// Saves both documents as the user would. Called after a failure that nobody caught.
     void EmergencySaveFiles();
 
 private:

@@ -12,26 +12,25 @@
 
 namespace zeph {
 
-/// A backup's name for a tab's caption: the caption itself or, with a moment, the caption with
-/// that moment before its extension, as in "Flight Mar 05 2024, 09-07am.tmj". English, whatever the
-/// system speaks.
+/// The file name of a backup: the tab's caption, with the moment, if given, before its extension,
+/// as in "Flight Mar 05 2024, 09-07am.tmj". The month is English in every locale.
 QString backupName(const QString &caption, const std::optional<QDateTime> &moment = {});
 
-/// The copies that go into the backup folder.
+/// Writes copies into the backup folder.
 class Backups
 {
 public:
     explicit Backups(const Context &context) : m_context(context) { }
 
-    /// Writes the document's plain text, beside its save, if the user wants backups.
+    /// Writes the document's plain text if the settings ask for backups. Called at each save.
     Expected<void, FileError> SaveJoystickBackup(const Document &document) const;
-    /// Puts bytes that would be lost otherwise into the folder under a dated name, whatever the
-    /// user wants. The path that they stand at now; a name that is taken gets a number.
+    /// Writes bytes that would be lost otherwise under a dated name, even when the settings ask for
+    /// no backups. Returns the path; adds a number to a name that is taken.
     Expected<QString, FileError> keepAside(const QString &caption, const QByteArray &bytes,
                                            const QDateTime &moment) const;
 
 private:
-    /// With its closing separator; an empty setting means the one beside the program.
+    /// Ends with a separator. An empty setting means the default folder beside the program.
     QString folder() const;
 
     Context m_context;
@@ -40,9 +39,9 @@ private:
 class Dialogs;
 struct Paths;
 
-/// The backup folder to use, with a closing separator: the wanted one, made with its parents when
-/// it is absent, or the default one for an empty name. One that cannot be made is told, and the
-/// default one takes its place.
+/// Returns the backup folder to use, with a closing separator: the wanted one, created with its
+/// parents if missing, or the default one for an empty name. If it cannot be created, tells the
+/// user and returns the default one.
 QString checkedBackupFolder(const QString &wanted, const Paths &paths, Dialogs &dialogs);
 
 } // namespace zeph

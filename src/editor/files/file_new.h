@@ -11,7 +11,7 @@ namespace zeph {
 class EditorView;
 class FileOpening;
 
-/// Fresh documents. Closing a document is the same as starting a fresh one.
+/// Starts fresh documents. Closing a document is the same as starting a fresh one.
 class FileNew
 {
 public:
@@ -23,9 +23,9 @@ public:
     void mnuFileClose_Click();
     void mnuFileCloseBoth_Click();
 
-    /// Names that begin "Untitled" become the fresh names again.
+    /// Gives documents whose name begins with "Untitled" their fresh names again.
     void rewriteUntitled();
-    /// What a new Cougar state needs: fresh names for documents that were never saved.
+    /// Updates the names of documents that were never saved after the Cougar's state changed.
     void HardwareHasChanged();
 
 private:
@@ -40,8 +40,8 @@ class Dialogs;
 class EditorView;
 class FileSaving;
 
-/// Asks about unsaved files, the macro file first, and saves on Yes. False when the exit has to
-/// stop.
+/// Asks about unsaved files, the macro file first, and saves on Yes. False: the program must not
+/// exit.
 bool askBeforeExit(EditorView &view, FileSaving &saving, Dialogs &dialogs);
 
 } // namespace zeph

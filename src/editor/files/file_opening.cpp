@@ -131,7 +131,7 @@ void FileOpening::MnuFileMacroLoad_Click(const std::optional<QString> &fileToOpe
 
 void FileOpening::mnuFileOpen_Click(const std::optional<QString> &fileToOpen)
 {
-    // The macro file's wording of the refusal serves both documents here.
+    // Both refusals name the macro file here.
     if (!mayReplace(DocumentKind::Joystick, beforeJoystick, DocumentKind::Macro)
         || !mayReplace(DocumentKind::Macro, beforeMacro, DocumentKind::Macro)) {
         return;
@@ -210,7 +210,7 @@ QString FileOpening::macroPathFor(const QString &joystickPath)
 
 bool FileOpening::loadOrTell(DocumentKind kind, const QString &path)
 {
-    // The dialog goes and the status shows before the long work.
+    // Repaints before the long work, so that the dialog is gone and the status shows.
     m_context.status.setTextNow(m_context.status.text());
     const bool done = load(kind, path);
     if (!done) {
@@ -255,7 +255,7 @@ void FileOpening::showRecovered(DocumentKind kind, const QString &path, const QS
     document.tellReplaced(Document::How::Recovered);
 }
 
-/// Puts a text into a document, in the colours of its copy or in fresh ones.
+/// Shows a text in the colours of its coloured copy or, without a fitting copy, coloured anew.
 void FileOpening::show(Document &document, const QString &path, const QString &text)
 {
     document.rename(path);

@@ -15,7 +15,8 @@ class EditorView;
 class FileSaving;
 class Highlighting;
 
-/// Opening, by dialog, by list and at start. A path given stands for the dialog's answer.
+/// Opens files: from the dialog, from the lists and at the start. Where a path is given, no dialog
+/// is shown.
 class FileOpening : public QObject
 {
     Q_OBJECT
@@ -33,25 +34,27 @@ public:
     /// Opens a joystick file and the macro file that belongs to it, or the other way round.
     void mnuFileOpen_Click(const std::optional<QString> &fileToOpen = {});
 
-    /// Opens a file of the recent lists or the command line: alone when the user wants single
-    /// files.
+    /// Opens a file of the recent lists or the command line, without its partner if the user wants
+    /// single files.
     void OpenPreviouslySavedFiles(const QString &fileToOpen);
-    /// Opens just that one file, as a macro file by its extension.
+    /// Opens that one file, into the document that its extension belongs to.
     void OpenFavouriteFile(const QString &fileToOpen);
     /// Opens each of the files of the last run that still exists. True when any was opened.
     bool OpenRestoredStatus(const QString &joystickFile, const QString &macroFile);
 
-    /// Shows a text that never came to its file as that file's, modified.
+    /// Shows a recovered text as the text of the file at this path, in the state modified.
     void showRecovered(DocumentKind kind, const QString &path, const QString &text);
 
-    /// Offers to open those of the documents again whose files are among these, which were just
-    /// overwritten. A document that stays as it is counts as modified.
+    /// Offers to reload each document whose file is among these just overwritten ones. A document
+    /// that is not reloaded counts as modified.
     void offerToReload(const QStringList &overwritten);
 
-    /// Whether a file from a list opens without its partner.
+    /// Whether a file from a list is opened without its partner.
     bool OpenSingleFileOnly = false;
 
-    /// Asks about unsaved changes before a document is replaced. False: nothing may be replaced.
+    /// Asks about unsaved changes before a document is replaced, and saves on Yes. `why` ends the
+    /// question; `wanted` is the kind of file that would be opened, for the box after a failed
+    /// save. False: the document must not be replaced.
     bool mayReplace(DocumentKind kind, const QString &why, DocumentKind wanted);
 
 Q_SIGNALS:
@@ -60,7 +63,7 @@ Q_SIGNALS:
 
 private:
     bool load(DocumentKind kind, const QString &path);
-    /// As load(); a failure also stands on the status line.
+    /// As load(); a failure is also shown on the status line.
     bool loadOrTell(DocumentKind kind, const QString &path);
     void show(Document &document, const QString &path, const QString &text);
     std::optional<QString> ask(const QString &title, const QString &filter, DocumentKind kind);

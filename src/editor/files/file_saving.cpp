@@ -50,8 +50,8 @@ void FileSaving::mnuFileSaveAs_Click()
     if (!chosen) {
         return;
     }
-    // A file whose name differs in nothing but case is the one that is overwritten: the tools that
-    // read it would never tell the two apart.
+    // A file whose name differs only in case is overwritten instead of making a second one: the
+    // tools that read them cannot tell the two apart.
     const QString existing = existingPath(*chosen);
     const QString path = existing.isEmpty() ? *chosen : existing;
     if (!mayOverwrite(m_context.dialogs, path)) {
@@ -108,8 +108,8 @@ void FileSaving::AutoSaveText(Document &document)
     }
 }
 
-/// Puts the text on the disk, its backup and its coloured copy too, and tells the document, from
-/// which all others hear it. A refusal of the disk is told.
+/// Writes the text, its backup and its coloured copy, then emits the document's signal for it. A
+/// failure to write the text is told in a box, the others on the status line.
 void FileSaving::write(Document &document, Document::Save save)
 {
     document.tellAboutToBeWritten();
@@ -135,9 +135,9 @@ void FileSaving::tellUnsaved(Document &document, const FileError &error)
     tellNotSaved(m_context.dialogs, error);
 }
 
-/// A text without a name is saved under its fresh name, where the last run's may stand still, or
-/// that of a document which made room for this one: nobody was asked about those, so they move
-/// among the backups. False when they cannot, which is told.
+/// An unnamed text is saved under its fresh name, where an unnamed text of an earlier run, or of a
+/// document closed in this run, may still be. Nobody was asked about overwriting that one, so it is
+/// moved to the backups. False, and told, when it cannot be moved.
 bool FileSaving::keepStrangersFile(const Document &document)
 {
     if (!isUntitled(document.name()) || !fileExists(document.path())) {
@@ -166,7 +166,7 @@ bool FileSaving::encodable(Document &document, Stranger show)
         return true;
     }
     const qsizetype line = QStringView(text).left(stranger).count(u'\n') + 1;
-    // Beyond the first plane a character is two units, which only together can be shown.
+    // A character above U+FFFF is two units, which are readable only together.
     const qsizetype units = text[stranger].isHighSurrogate() && stranger + 1 < text.size() ? 2 : 1;
     document.setState(Document::Modified);
     m_context.dialogs.tell(

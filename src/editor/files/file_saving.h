@@ -12,24 +12,25 @@ namespace zeph {
 class ColouredCopies;
 class EditorView;
 
-/// Saving, in all its forms. After any of these a document's state tells whether the save took
-/// place: it stays modified when the user cancelled or the disk refused.
+/// Saves documents. After each operation the document's state tells whether it was saved: it stays
+/// modified when the user cancelled or the disk refused.
 class FileSaving
 {
 public:
     FileSaving(const Context &context, EditorView &view, ColouredCopies &copies);
 
-    /// Saves the selected document, by Save As where it has no name or cannot be written.
+    /// Saves the selected document; runs Save As when it has no name or its file is read only.
     void mnuFileSave_Click();
     void mnuFileSaveAs_Click();
     void mnuFileSaveBoth_Click();
 
-    /// Writes one document to its path, stamp and coloured copy included.
+    /// Writes one document to its path, with an updated stamp if the settings ask for it, a backup
+    /// and the coloured copy.
     void SaveText(Document &document);
-    /// Writes one document to its path without anything that would disturb the pilot: no stamp,
-    /// and caret, undo history and lists stay as they are.
+    /// Writes one document to its path without disturbing the pilot: the stamp, the caret, the undo
+    /// history and the lists stay as they are.
     void AutoSaveText(Document &document);
-    /// Brings the "last modified:" line of a document up to date.
+    /// Puts the present time into the document's "last modified:" line, if it has one.
     void ModifyDate(Document &document);
 
 private:

@@ -19,7 +19,7 @@ namespace Ui {
 class Frm_CreatePackage;
 }
 
-/// Asks for a package's name and files. Making it is whoever's who hears that it is wanted.
+/// Asks for a package's name and files and emits createWanted(); Packaging makes the package.
 class Frm_CreatePackage : public QDialog
 {
     Q_OBJECT
@@ -29,7 +29,7 @@ public:
     ~Frm_CreatePackage() override;
 
     PackageFields fields() const;
-    /// A line of advice below the fields; an empty one takes no room.
+    /// Shows a line of advice below the fields; hides the line when it is empty.
     void showHint(const QString &hint);
     void focusName();
 

@@ -8,7 +8,7 @@
 
 namespace zeph {
 
-/// What stands between the pilot and lost work.
+/// The objects that save the pilot from losing work.
 struct LossGuards {
     AutoSave autoSave;
     Recovery recovery;

@@ -24,7 +24,7 @@ namespace zeph {
 
 namespace {
 
-/// Lines of a box; the rest is counted.
+/// How many names a box lists; the others are only counted.
 constexpr qsizetype mostLines = 15;
 
 QString shortList(const QStringList &lines)
@@ -84,7 +84,7 @@ PackageFields Packaging::preset()
     };
     const Document &joystick = m_parts.view.documents().joystick();
     const Document &macro = m_parts.view.documents().macro();
-    // A file that was never saved is no file yet.
+    // A document that was never saved has no file to pack.
     set(PackageFile::Joystick, isUntitled(joystick.name()) ? QString() : joystick.path());
     set(PackageFile::Macro, isUntitled(macro.name()) ? QString() : macro.path());
     if (joystick.text().isEmpty()) {

@@ -18,7 +18,7 @@ class Frm_CreatePackage;
 class UseDirectives;
 struct UnpackReport;
 
-/// Packing the files of a setup for other pilots, and unpacking theirs.
+/// Packs the files of a setup for other pilots, and unpacks their packages.
 class Packaging : public QObject
 {
     Q_OBJECT

@@ -12,16 +12,16 @@ namespace zeph {
 class Editor;
 class Printers;
 
-/// The File menu's printing: either file, the selection, the preview, the setup and PDF files.
+/// The printing entries of the File menu: either file, the selection, preview, printer setup and
+/// PDF.
 class FilePrinting
 {
 public:
-    /// Connects the menu entries.
     FilePrinting(const Context &context, Printers &printers, Editor &editor);
 
     void mnuFilePrintJoystick_Click();
     void mnuFilePrintMacro_Click();
-    /// Prints the selected tab's file, with the questions.
+    /// Prints the selected tab's file after the usual questions.
     void PrintCurrent();
     /// Prints the selection, or everything where nothing is selected.
     void PrintAlternativeMethod();

@@ -24,8 +24,8 @@ namespace {
 
 constexpr DocumentKind bothKinds[] = { DocumentKind::Joystick, DocumentKind::Macro };
 
-/// The bytes under which a text goes among the backups: its own kind of file where that can hold
-/// it.
+/// The bytes of a text for the backup folder: Windows-1252 as in its own file or, if that lacks one
+/// of its characters, UTF-8.
 QByteArray bytesOf(const QString &text)
 {
     return firstNot1252(text) < 0 ? documentBytes(text) : text.toUtf8();
@@ -64,7 +64,8 @@ Recovery::Recovery(const Context &context, const Parts &parts)
 {
     m_timer.setObjectName(u"RecoveryTimer"_s);
     m_timer.setSingleShot(true);
-    // A coarse timer may come some hundred milliseconds late, and with them go as many letters.
+    // A coarse timer may fire some hundred milliseconds late, and the letters typed meanwhile would
+    // be lost.
     m_timer.setTimerType(Qt::PreciseTimer);
     m_timer.setInterval(intervalMs);
     m_timer.callOnTimeout(this, guarded(context.dialogs, [this](auto &&...) { update(); }));
@@ -84,7 +85,8 @@ Recovery::Recovery(const Context &context, const Parts &parts)
 
 void Recovery::touched()
 {
-    // Not started afresh by each key: who types without a pause is kept too.
+    // A key does not restart the timer, so that the text of somebody who types without a pause is
+    // kept too.
     if (!m_timer.isActive()) {
         m_timer.start();
     }
@@ -116,7 +118,8 @@ void Recovery::keep(DocumentKind kind)
         kept = text.isNull() ? u""_s : text;
         return;
     }
-    // The disk may have room again by then, and the pilot may not touch another key.
+    // Tries again later: the disk may have room by then, and the pilot may not press another key to
+    // trigger it.
     m_timer.start();
     if (!std::exchange(m_failureTold, true)) {
         m_context.status.setText(written.error().path + u" wasn't written, so better save often: "_s
@@ -146,7 +149,7 @@ void Recovery::offerLeft()
     for (LeftRecovery &left : leftRecoveries(m_context.paths.inApp(u"Recovery"))) {
         for (const LeftRecovery::File &file : left.files()) {
             bool &isTaken = taken[size_t(file.recovered.kind)];
-            // A second text of the kind has no room in the Editor any more.
+            // The Editor has room for one text of each kind only; a second one goes to the backups.
             if (isOnDisk(file.recovered) || isInHand(file.recovered)
                 || (!isTaken && offer(file.recovered, isTaken)) || keepAside(file.recovered)) {
                 left.remove(file);
@@ -156,7 +159,8 @@ void Recovery::offerLeft()
     }
 }
 
-/// A run that fell over while it took a text back has left it twice.
+/// Whether the Editor already shows this text. A run that crashed while it recovered a text has
+/// left it twice.
 bool Recovery::isInHand(const RecoveredText &recovered) const
 {
     const QString &kept = m_kept[size_t(recovered.kind)];
@@ -164,7 +168,8 @@ bool Recovery::isInHand(const RecoveredText &recovered) const
         && m_parts.view.documents().of(recovered.kind).path() == recovered.path;
 }
 
-/// Shows the text if the user wants it. It is kept on disk again before the old file goes.
+/// Shows the text if the user wants it. True when it is safely kept again, so that the old file may
+/// go.
 bool Recovery::offer(const RecoveredText &recovered, bool &taken)
 {
     if (m_context.dialogs.box(

@@ -16,8 +16,8 @@ namespace zeph {
 class EditorView;
 class FileOpening;
 
-/// Keeps the unsaved texts on the disk while they are unsaved, never more than a few seconds
-/// behind, and offers what a run left that came to no good end. Overwrites no file of the user's.
+/// Keeps copies of unsaved texts on the disk, at most a few seconds old, and offers those that a
+/// crashed run left. Never overwrites a file of the user's.
 class Recovery : public QObject
 {
     Q_OBJECT
@@ -28,15 +28,16 @@ public:
     };
     Recovery(const Context &context, const Parts &parts);
 
-    /// At the start: asks about each text that an earlier run left. One that the user does not
-    /// want goes into the backup folder.
+    /// Called at the start. Offers each text that an earlier run left; moves the ones that the user
+    /// declines into the backup folder.
     void offerLeft();
-    /// Brings the files in line with the documents at once: modified texts are there, others not.
+    /// Makes the kept files match the documents: a file for each modified text, none for the
+    /// others.
     void update();
-    /// A save is about to write: what is kept already has to be no older than what it writes, since
-    /// a program that falls over right behind it would offer an older text than the file's.
+    /// Called before a save writes. Updates the kept files first: if the program crashed right
+    /// after the save, an outdated one would be offered in place of the newer saved file.
     void catchUp();
-    /// The run ends in good order.
+    /// Removes the kept files. Called when the program ends normally.
     void finish();
 
     static constexpr int intervalMs = 5000;
@@ -53,7 +54,7 @@ private:
     RecoveryFolder m_folder;
     Backups m_backups;
     QTimer m_timer;
-    /// The texts that stand in the files; null where there is none.
+    /// The texts in the kept files; null where there is no file.
     std::array<QString, 2> m_kept;
     bool m_failureTold = false;
 };

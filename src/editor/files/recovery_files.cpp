@@ -20,7 +20,7 @@ constexpr QByteArrayView writtenKey = "Written=";
 constexpr QByteArrayView lengthKey = "Length=";
 constexpr QByteArrayView kindNames[] = { "Joystick", "Macro" };
 constexpr QStringView fileNames[] = { u"joystick.txt", u"macro.txt" };
-/// More runs at once than anybody starts.
+/// More than anybody runs at once; bounds the search for a free number.
 constexpr int mostFolders = 1000;
 
 QByteArray keyLine(QByteArrayView key, const QByteArray &value)
@@ -28,7 +28,7 @@ QByteArray keyLine(QByteArrayView key, const QByteArray &value)
     return key.toByteArray() + value + '\n';
 }
 
-/// Takes the value of the next line off the front; no value when the line has another key.
+/// Removes the next line and returns its value; no value when the line has another key.
 std::optional<QByteArray> takeValue(QByteArrayView &bytes, QByteArrayView key)
 {
     const qsizetype end = bytes.indexOf('\n');
@@ -48,7 +48,7 @@ QString fileIn(const QString &folder, DocumentKind kind)
 void removeFolder(const QString &folder)
 {
     QDir().rmdir(folder);
-    // The parent goes with the last of them; it stays while another run has its folder there.
+    // Fails, as it should, while another run still has its folder in the parent.
     QDir().rmdir(QFileInfo(folder).path());
 }
 
@@ -94,11 +94,11 @@ Expected<void, FileError> RecoveryFolder::claim()
     QDir().mkpath(m_parent);
     for (int number = 1; number <= mostFolders; ++number) {
         const QString folder = m_parent + QString::number(number);
-        // Only who makes a folder owns it: one that is there may hold what another run left.
+        // A folder that exists already may hold what another run left.
         if (QDir().mkdir(folder)) {
             m_lock = std::make_unique<InstanceLock>(folder);
             if (!m_lock->isFirst()) {
-                // A program that starts right now takes the bare folder for one that a crash left.
+                // Another program, just starting, took the empty folder for one that a crash left.
                 continue;
             }
             m_folder = folder;
@@ -160,8 +160,8 @@ void LeftRecovery::remove(const File &file)
 void LeftRecovery::finish()
 {
     m_lock.reset();
-    // A write that never came to its end leaves its part beside the file, and it alone would keep
-    // the folder for ever.
+    // An interrupted write leaves a partial file beside the target, which would keep the folder
+    // from ever being empty.
     QDir folder(m_folder);
     for (const QStringView name : fileNames) {
         for (const QString &part : folder.entryList({ name.toString() + u".*"_s }, QDir::Files)) {

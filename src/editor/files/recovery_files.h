@@ -3,7 +3,7 @@
 
 #pragma once
 
-// What a run keeps of its unsaved texts on the disk, in case that it never comes to saving them.
+// The files in which a run keeps its unsaved texts, in case it crashes before they are saved.
 
 #include "language/file_kinds.h"
 #include "platform/core/file_io.h"
@@ -26,23 +26,23 @@ struct RecoveredText {
     friend bool operator==(const RecoveredText &, const RecoveredText &) = default;
 };
 
-/// The bytes of a recovery file: a few lines that name the document, an empty line, and the text in
-/// UTF-8, since it may hold what a document's own file cannot.
+/// Returns the contents of a recovery file: a few lines that name the document, an empty line, and
+/// the text. The text is UTF-8, since it may hold characters that Windows-1252 lacks.
 QByteArray recoveryBytes(const RecoveredText &recovered);
-/// The way back; no value for bytes that are no whole recovery file.
+/// Parses such contents; no value when they are incomplete or something else.
 std::optional<RecoveredText> readRecovery(const QByteArray &bytes);
 
-/// The recovery files of this run, in a folder of its own below the given one, which it holds
-/// locked while it lives.
+/// The recovery files of this run, in a folder of its own below the given one. The object holds a
+/// lock on that folder while it lives.
 class RecoveryFolder
 {
 public:
-    /// Nothing is made before the first write.
+    /// Creates nothing on the disk until the first write.
     explicit RecoveryFolder(const QString &parent);
 
     Expected<void, FileError> write(const RecoveredText &recovered);
     void remove(DocumentKind kind);
-    /// The run ends in good order: its folder goes, and what it still holds.
+    /// Removes the folder with its files. Called when the program ends normally.
     void finish();
 
 private:
@@ -53,8 +53,8 @@ private:
     std::unique_ptr<InstanceLock> m_lock;
 };
 
-/// A folder that a run left which did not end in good order. It is held locked meanwhile, so that
-/// only one program offers it.
+/// The folder that a crashed run left. The object holds a lock on it, so that only one program
+/// offers its texts.
 class LeftRecovery
 {
 public:
@@ -68,7 +68,7 @@ public:
     };
     const QList<File> &files() const { return m_files; }
     void remove(const File &file);
-    /// Takes the folder away if nothing is in it any more.
+    /// Removes the folder if it is empty.
     void finish();
 
 private:
@@ -77,7 +77,7 @@ private:
     QList<File> m_files;
 };
 
-/// What runs that ended badly left below the folder, the latest first.
+/// Returns what crashed runs left below the folder, the latest first.
 std::vector<LeftRecovery> leftRecoveries(const QString &parent);
 
 } // namespace zeph

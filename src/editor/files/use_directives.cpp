@@ -40,7 +40,8 @@ void UseDirectives::GetUSEZephstatements()
     GetUSEstatements();
     m_imageFilePath = found(m_statements.ZephGraphic);
     m_textFilePath = found(m_statements.ZephReadme);
-    // The viewers show these next; a file that names none leaves them what they had.
+    // The viewers open these at their next use. A joystick file that names none does not change
+    // them.
     if (!m_imageFilePath.isEmpty()) {
         m_context.settings.of<SharedSettings>().ImageFilePath = m_imageFilePath;
     }

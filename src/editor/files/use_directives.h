@@ -13,26 +13,26 @@ namespace zeph {
 class Document;
 class Documents;
 
-/// What the current joystick file says to Zeph itself: its picture, its readme, its profile.
+/// What the joystick file's USE lines tell Zeph: picture, readme and profile.
 class UseDirectives : public QObject
 {
     Q_OBJECT
 public:
     UseDirectives(const Context &context, Documents &documents);
 
-    /// Reads the directives of the joystick text as it stands; nothing of an empty text.
+    /// Reads the directives of the joystick text as it is now. An empty text changes nothing.
     void GetUSEstatements();
-    /// Reads them and looks for the named files in the joystick file's folder; done after each load
-    /// and each save that the user asked for.
+    /// Reads them and finds the named files in the joystick file's folder. Called after each load
+    /// and after each save that the user asked for.
     void GetUSEZephstatements();
 
     const UseStatements &statements() const { return m_statements; }
-    /// Full paths; empty when the file names none, or one that does not exist.
+    /// Full paths; empty when the joystick file names none or the named one does not exist.
     const QString &imageFilePath() const { return m_imageFilePath; }
     const QString &textFilePath() const { return m_textFilePath; }
 
 Q_SIGNALS:
-    /// The picture or the readme is another one now, or gone.
+    /// The picture or the readme may have changed or gone.
     void filesChanged();
 
 private:

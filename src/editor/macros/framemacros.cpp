@@ -24,11 +24,11 @@ namespace zeph {
 namespace {
 
 constexpr int stripWidth = 6;
-/// What a drag leaves of the window for the texts.
+/// The width in pixels that dragging always leaves to the texts.
 constexpr int narrowestTexts = 200;
 
-/// Draws the ticks' boxes in a shade between the list's two colours, whatever pilots make of these:
-/// the style takes the desktop's own, which can be that of the list.
+/// Draws the tick boxes in a shade between the list's two colours. The style would take a colour of
+/// the desktop, which may be the background that the pilot chose for the list.
 class TickDelegate : public QStyledItemDelegate
 {
 public:
@@ -55,7 +55,7 @@ private:
     static constexpr int roomBetweenBoxes = 3;
 };
 
-/// The strip beside the list at which the frame's left edge is taken.
+/// The strip that is dragged to change the frame's width.
 class EdgeStrip : public QWidget
 {
 public:
@@ -144,7 +144,7 @@ void MacroListView::keyPressEvent(QKeyEvent *event)
 void MacroListView::keyReleaseEvent(QKeyEvent *event)
 {
     QListView::keyReleaseEvent(event);
-    // Only keys that went down here: Shift+Tab arrives in the list and is let go in it.
+    // A key pressed elsewhere does not count: Shift+Tab moves the focus here and is released here.
     if (event->modifiers().testFlag(Qt::ShiftModifier) && event->key() == m_pressedKey
         && event->key() != Qt::Key_Shift && !event->isAutoRepeat()) {
         Q_EMIT findWanted();
@@ -186,7 +186,7 @@ FrameMacros::FrameMacros(MacroListModel &model, QWidget *parent)
     m_headings->setObjectName(u"Combo1"_s);
     m_headings->setToolTip(u"Macro headings"_s);
     m_headings->setAccessibleName(u"Macro headings"_s);
-    // A long heading is cut, it does not make the frame wider than it was dragged.
+    // A long heading is cut off rather than making the frame wider than it was dragged.
     m_headings->setMinimumContentsLength(1);
     m_headings->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     m_list->setObjectName(u"List1"_s);

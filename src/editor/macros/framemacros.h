@@ -15,7 +15,8 @@ namespace zeph {
 class MacroListModel;
 struct ColourSettings;
 
-/// The list in the macro frame: says in signals what is done to its entries.
+/// The list in the macro frame. It emits what the user does with its entries and changes nothing
+/// itself.
 class MacroListView : public QListView
 {
     Q_OBJECT
@@ -28,9 +29,9 @@ public:
     bool selectFirst();
 
 Q_SIGNALS:
-    /// An entry was pressed, or reached by keys.
+    /// An entry was clicked or reached by keys.
     void chosen(const QString &name);
-    /// An entry was pressed with Shift held, or a key let go with Shift held.
+    /// An entry was clicked, or a key released, while Shift was held.
     void findWanted();
     void insertWanted(const QString &name);
     void popUpWanted(const QPoint &globalPosition);
@@ -48,31 +49,30 @@ private:
     int m_pressedKey = 0;
 };
 
-/// The frame right of the texts: headings, macros and the strip at which its width is dragged.
+/// The frame on the right of the texts: headings, macros and a strip by which its width is dragged.
 class FrameMacros : public QFrame
 {
     Q_OBJECT
 public:
-    /// The width in pixels below which it cannot be dragged.
+    /// The least width in pixels that dragging can give it.
     static int narrowest();
 
     explicit FrameMacros(MacroListModel &model, QWidget *parent = nullptr);
 
     MacroListView &list() { return *m_list; }
     QComboBox &headings() { return *m_headings; }
-    /// Fills the headings and shows the first, without a word to anybody.
+    /// Fills the headings and shows the first, without emitting headingChosen().
     void setHeadings(const QStringList &headings);
     void setCurrentHeading(int index);
 
-    /// Colours and width.
     void setColours(const ColourSettings &colours);
-    /// Pixels; a width below the narrowest takes that.
+    /// In pixels; a smaller width than narrowest() is raised to that.
     void setWidth(int width);
 
 Q_SIGNALS:
     /// The pilot chose a heading.
     void headingChosen(const QString &heading);
-    /// The left edge was dragged and let go: the new width in pixels.
+    /// The left edge was dragged and released; the new width in pixels.
     void widthChosen(int width);
 
 private:

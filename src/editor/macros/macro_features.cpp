@@ -21,7 +21,7 @@ namespace zeph {
 
 namespace {
 
-/// The ticks that are settings.
+/// The menu entries whose ticks are settings.
 struct TickSetting {
     QStringView action;
     SettingRef setting;
@@ -114,7 +114,7 @@ void MacroFeatures::connectList()
     connect(&m_list, &MacroList::findWanted, this,
             guarded(m_context.dialogs, [this] { m_operations.FindMacroInJF(); }));
     connect(&m_list, &MacroList::dragStarted, this, [this] { m_dragStarted = true; });
-    // Where a drag ends is seen by the change that it makes.
+    // No signal tells where a drag ended; the first change to a text afterwards is the drop.
     m_parts.view.documents().forEach([this](Document &each) {
         connect(&each, &Document::edited, this, [this] {
             if (std::exchange(m_dragStarted, false)) {

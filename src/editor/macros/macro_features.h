@@ -18,7 +18,7 @@ class EditorView;
 class FileOpening;
 class FileSaving;
 
-/// Everything that has to do with macros, tied to the files' comings and goings and to the menus.
+/// Connects everything about macros with the loading and saving of files and with the menus.
 class MacroFeatures : public QObject
 {
     Q_OBJECT

@@ -234,7 +234,7 @@ void MacroList::show()
 void MacroList::storeWidth(int width)
 {
     m_context.settings.of<EditorSettings>().MacroFrameWidth = width;
-    // A store that cannot be written is nobody's failure: the width then holds for this run.
+    // A failed write is not told: the width is right for this run at least.
     (void)saveSettings(m_context.settings, settingsFilesOf(m_context.paths),
                        { &EditorSettings::MacroFrameWidth });
 }

@@ -21,8 +21,8 @@ class EditorView;
 class FileSaving;
 class FrameMacros;
 
-/// The macro list: read from the macro file as saved on disk, never from the text, so that it may
-/// lag behind until the file is saved or the list updated.
+/// The macro list. It is read from the macro file as saved on disk, never from the text, so it may
+/// be out of date until the file is saved or the list updated.
 class MacroList : public QObject
 {
     Q_OBJECT
@@ -36,45 +36,46 @@ public:
     MacroList(const Context &context, const Parts &parts);
     ~MacroList() override;
 
-    /// The frame that shows the list; whoever lays out the window takes it as a child.
+    /// The frame that shows the list; the window's layout reparents it.
     FrameMacros *frame() { return m_frame.get(); }
     MacroListModel &model() { return m_model; }
     const MacroTable &table() const { return m_table; }
 
-    /// Empties the list, before a macro file is read and for a fresh one.
+    /// Empties the list. Called before a macro file is read and for a fresh one.
     void ClearAllForNewMacroFile();
-    /// Reads the usable lines of the saved macro file; a missing file leaves them as they are.
+    /// Reads the usable lines of the saved macro file; if it is missing the lines stay as they are.
     void GetEachLineFromMacroFile();
     /// Fills headings and list from the lines and shows all macros.
     void ExtractMacrosAndTitles();
     /// Shows the macros under a heading and selects the first of them.
     void Combo1_Click(const QString &heading);
-    /// Shows the macros under a heading, 0 for all, without a word and selecting none.
+    /// Shows the macros under a heading, 0 for all. Selects none of them and emits nothing.
     void showHeading(qsizetype heading);
     qsizetype shownHeading() const { return m_heading; }
 
-    /// Shows the selected macro's line on the status panel, and in the macro text where that is
-    /// wanted. Without such a line the panel keeps its text.
+    /// Shows the selected macro's line on the status panel and, if the settings ask for it, in the
+    /// macro text. Without such a line the panel keeps its text.
     void ShowMacroKeys();
     /// Inserts the selected macro's name at the caret of the selected text.
     void List1_DblClick();
     /// Shows the selected macro in the macro text.
     void mnuRHListEdit_Click();
-    /// Rebuilds the list from disk; asks for a save first where the text has changed.
+    /// Rebuilds the list from disk; offers to save the macro file first if it is modified.
     void mnuEditUpdateMacros_Click();
     void mnuViewMacros_Click();
-    /// Shows a hidden list.
+    /// Shows the frame if it is hidden.
     void show();
 
-    /// The macro that the operations work on: last chosen in the list or touched by the mouse.
+    /// The macro that the operations work on: the last one chosen in the list or pointed at in the
+    /// joystick text.
     QString SelectedMacro;
-    /// Whether no macro file was analysed since the list was cleared.
+    /// Whether no macro file was read since the list was cleared.
     bool MacroListIsEmpty = true;
 
 Q_SIGNALS:
     /// An entry was chosen by mouse or keys.
     void macroChosen(const QString &name);
-    /// Another entry than before was chosen.
+    /// The chosen entry differs from the one before.
     void listSelectionChanged();
     void findWanted();
     void popUpWanted(const QPoint &globalPosition);
@@ -94,7 +95,7 @@ private:
     Context m_context;
     Parts m_parts;
     MacroListModel m_model;
-    std::unique_ptr<FrameMacros> m_frame; ///< stands in the window, which goes after it
+    std::unique_ptr<FrameMacros> m_frame; ///< ours to delete: the window is deleted after it
     MacroTable m_table;
     qsizetype m_heading = 0;
     QString m_listSelection;
@@ -110,11 +111,11 @@ class MacroListMenu : public QObject
 public:
     MacroListMenu(const Context &context, MacroList &list, MenuActions &actions);
 
-    /// The menu mnuRHList for the selected macro.
+    /// Builds the menu mnuRHList for the selected macro.
     std::unique_ptr<QMenu> build();
 
 Q_SIGNALS:
-    /// The pilot wants to read about the list.
+    /// The help about the list is wanted.
     void quickTipWanted();
 
 private:

@@ -11,25 +11,26 @@
 
 namespace zeph {
 
-/// The macros under the heading that is shown, each with its tick. Ticks belong to names, so that
-/// an entry has the same one under every heading; pilots cannot set them.
+/// The macros under the shown heading, each with its tick. A tick belongs to a name, so an entry
+/// has the same one under every heading. Only the program sets ticks.
 class MacroListModel : public QAbstractListModel
 {
     Q_OBJECT
 public:
     using QAbstractListModel::QAbstractListModel;
 
-    /// Names by heading, the first list holding all. No entry is ticked and no heading shown.
+    /// Replaces the names, listed by heading; the first list holds all. Clears the ticks and shows
+    /// all.
     void setNames(const QList<QStringList> &names);
-    /// Shows the macros under a heading, 0 for all; one that there is not shows none.
+    /// Shows the macros under a heading, 0 for all; an unknown heading shows none.
     void showHeading(qsizetype heading);
     const QStringList &allNames() const;
     QString nameAt(const QModelIndex &index) const;
 
     void clearTicks();
-    /// Ticks or unticks every entry of that name, in any case.
+    /// Ticks or unticks a name, in any case of its letters.
     void setTick(const QString &name, bool ticked);
-    /// Ticks exactly these names.
+    /// Ticks these names and no others.
     void setTicked(const QStringList &names);
     bool isTicked(const QString &name) const;
 

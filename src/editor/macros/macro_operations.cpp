@@ -145,7 +145,7 @@ QString MacroOperations::RichWordOver(const QPoint &at) const
     if (position < 0) {
         return {};
     }
-    // A word ends at its line's end, so its line is enough.
+    // A word never crosses a line end, so its line is enough to search.
     const QTextBlock line = m_parts.view.documents().joystick().content().findBlock(position);
     return wordOver(line.text(), position - line.position());
 }
@@ -162,8 +162,8 @@ void MacroOperations::mouseMoved(const QPoint &at)
     }
     m_wordUnderMouse = word;
     if (!word.isEmpty()) {
-        // A blank under the mouse leaves the macro that was chosen in the list: the way to the
-        // menus crosses the text.
+        // A blank does not change the selected macro: on its way to the menus the mouse crosses the
+        // text.
         m_parts.list.SelectedMacro = word;
         m_parts.list.ShowMacroKeys();
     }

@@ -18,8 +18,8 @@ class EditorView;
 class FileSaving;
 class MacroList;
 
-/// What ties the macro list to the two texts: which macros are used and where, a rename in both
-/// files, the macro under the mouse.
+/// What connects the macro list with the two texts: which macros are used and where, renaming in
+/// both files, and the macro under the mouse.
 class MacroOperations : public QObject
 {
     Q_OBJECT
@@ -30,29 +30,29 @@ public:
         FileSaving &saving;
         MacroList &list;
     };
-    /// Which heading is shown after the macros used were identified.
+    /// Which heading is shown after IdentifyMacrosUsed().
     enum Mode : qint16 { ShowAll = 1, KeepHeading = 2 };
 
     MacroOperations(const Context &context, const Parts &parts);
 
     void ClearMacroTicks();
-    /// Brings the selected macro's tick up to date.
+    /// Updates the selected macro's tick.
     void TickMacroList();
-    /// Ticks every macro that the joystick text uses; nothing happens while a text is empty.
+    /// Ticks every macro that the joystick text uses. Does nothing while either text is empty.
     void IdentifyMacrosUsed(Mode mode);
 
-    /// Selects the selected macro's next use in the joystick text, behind the last one the first
-    /// again.
+    /// Selects the next use of the selected macro in the joystick text; after the last one it
+    /// starts over at the first.
     void FindMacroInJF();
 
     /// Asks for a macro and its new name, and renames it.
     void mnuRenameMacro_Click();
-    /// Renames in both texts and tells how often.
+    /// Renames in both texts and tells how many replacements were made.
     void ChangeMacroName(const QString &oldName, const QString &newName);
 
-    /// The word under a point of the joystick text's viewport; empty when there is none.
+    /// The word at a point of the joystick text's viewport; empty when there is none.
     QString RichWordOver(const QPoint &at) const;
-    /// Shows the keys of the macro that the mouse touches in the joystick text.
+    /// Shows the keys of the macro at this point of the joystick text's viewport.
     void mouseMoved(const QPoint &at);
 
 protected:

@@ -32,7 +32,7 @@ MacroRenameForm::~MacroRenameForm() = default;
 void MacroRenameForm::GetAllMacros(const QStringList &macros, const QString &selected)
 {
     m_ui->List1->addItems(macros);
-    // Names are the same in any case.
+    // Macro names do not depend on case.
     const auto chosen = m_ui->List1->findItems(selected, Qt::MatchFixedString);
     if (!chosen.isEmpty()) {
         m_ui->List1->setCurrentItem(chosen.first());

@@ -17,7 +17,7 @@ namespace Ui {
 class MacroRenameForm;
 }
 
-/// Asks which macro gets which new name. Only says what was asked for; the rename is the caller's.
+/// Asks which macro to rename, and its new name. The caller does the renaming.
 class MacroRenameForm : public QDialog
 {
     Q_OBJECT
@@ -28,10 +28,10 @@ public:
 
     QString oldName() const;
     QString newName() const;
-    /// Whether both files are saved, the list updated and the macros used identified afterwards.
+    /// Whether to save both files, update the list and identify the macros used after the renaming.
     bool wantsAutoSave() const;
 
-    /// Refuses a name that is no new one.
+    /// Refuses a new name that equals the old one, in any case of its letters.
     void accept() override;
 
 private:

@@ -30,7 +30,7 @@ Unexpected<FileError> failure(const QString &path, std::errc code)
 }
 
 /// The target of a chain of links, which need not exist; empty when the chain does not end.
-QString behindLinks(QString path)
+QString targetOfLinks(QString path)
 {
     for (int i = 0; i < maxLinks; ++i) {
         const QFileInfo info(path);
@@ -85,7 +85,7 @@ Expected<void, FileError> writeFileAtomically(const QString &path, const QByteAr
     if (path.isEmpty()) {
         return failure(path, std::errc::no_such_file_or_directory);
     }
-    const QString target = behindLinks(path);
+    const QString target = targetOfLinks(path);
     if (target.isEmpty()) {
         return failure(path, std::errc::too_many_symbolic_link_levels);
     }

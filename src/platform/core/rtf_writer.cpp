@@ -20,6 +20,7 @@ namespace {
 constexpr int bulletTwips = 360;
 constexpr int maxIndentTwips = 31680;
 constexpr int maxHalfPoints = 3276;
+constexpr size_t fewColours = 16;
 
 /// Collects bytes one after the other. Reserves room for many at once.
 class Sink
@@ -108,6 +109,12 @@ struct Look {
     bool underline = false;
 };
 
+/// 0 for a size that is none.
+int halfPointsOf(double pointSize)
+{
+    return pointSize > 0 ? int(std::lround(std::min(pointSize * 2, double(maxHalfPoints)))) : 0;
+}
+
 } // namespace
 
 class RtfWriter::Body
@@ -146,6 +153,8 @@ private:
     std::vector<ColorRef> m_colourTable;
     QString m_lastFamily;
     int m_lastFont = 0;
+    double m_lastPointSize = 0;
+    int m_lastHalfPoints = 0;
 };
 
 void RtfWriter::Body::add(const RichText &piece)
@@ -301,9 +310,11 @@ Look RtfWriter::Body::lookOf(const CharFormat &format)
 {
     Look look;
     look.font = fontOf(format.family);
-    if (format.pointSize > 0) {
-        look.halfPoints = int(std::lround(std::min(format.pointSize * 2, double(maxHalfPoints))));
+    if (format.pointSize != m_lastPointSize) {
+        m_lastPointSize = format.pointSize;
+        m_lastHalfPoints = halfPointsOf(format.pointSize);
     }
+    look.halfPoints = m_lastHalfPoints;
     look.colour = colourOf(format.colour);
     look.bold = format.bold;
     look.italic = format.italic;
@@ -332,6 +343,13 @@ int RtfWriter::Body::colourOf(std::optional<ColorRef> colour)
         return 0;
     }
     const ColorRef key = *colour & 0xFFFFFF;
+    // A file has tens of thousands of runs in a handful of colours: those found first need no hash.
+    const size_t few = std::min(m_colourTable.size(), fewColours);
+    for (size_t i = 0; i < few; ++i) {
+        if (m_colourTable[i] == key) {
+            return int(i + 1);
+        }
+    }
     int &number = m_colours[key];
     if (number == 0) {
         m_colourTable.push_back(key);

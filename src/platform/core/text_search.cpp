@@ -16,9 +16,9 @@ bool isWholeWord(QStringView text, QStringView word, qsizetype at)
     const qsizetype end = at + word.size();
     const bool joinedBefore =
         at > 0 && isWordCharacter(word.front()) && isWordCharacter(text[at - 1]);
-    const bool joinedBehind =
+    const bool joinedAfter =
         end < text.size() && isWordCharacter(word.back()) && isWordCharacter(text[end]);
-    return !joinedBefore && !joinedBehind;
+    return !joinedBefore && !joinedAfter;
 }
 
 } // namespace

@@ -23,10 +23,10 @@ constexpr QStringView sample = u"eg";
 constexpr QStringView wholeSample = u"eg C:\\Games\\Falcon4";
 
 const QString commandHelp =
-    u"This is what I run to start your game: the full path of its program, and behind it, after a "
+    u"This is what I run to start your game: the full path of its program and, after a "
     "blank, any switches that the game understands, as in\n\nC:\\Games\\Falcon4\\falcon4.exe "
     "-g4\n\n"
-    "The Browse button finds the program for you; type the switches behind it. If the path has "
+    "The Browse button finds the program for you; type the switches after it. If the path has "
     "blanks in it, you may put it in double quotes.\n\nIt can be a web address too: anything that "
     "begins with www. or http opens in your browser."_s;
 

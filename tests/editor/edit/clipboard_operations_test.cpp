@@ -101,7 +101,7 @@ TEST_F(ClipboardOperationsTest, PastedRichTextTakesTheFontAndKeepsItsColours)
     EXPECT_EQ(editor->joystickText(), u"one two");
 }
 
-TEST_F(ClipboardOperationsTest, TypingBehindPastedTextIsPlain)
+TEST_F(ClipboardOperationsTest, TypingAfterPastedTextIsPlain)
 {
     offerRichText();
     trigger(u"mnuEditPaste"_s);

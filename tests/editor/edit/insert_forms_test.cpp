@@ -149,7 +149,7 @@ TEST_F(InsertFormsTest, AProtectedMacroFileRefusesEachFormBeforeItOpens)
     EXPECT_EQ(editor->macro().state(), Document::Saved);
 }
 
-TEST_F(InsertFormsTest, ACommentStandsAtTheCaretAndALineEndBehindItWhenWanted)
+TEST_F(InsertFormsTest, ACommentStandsAtTheCaretAndALineEndAfterItWhenWanted)
 {
     set(J, u"BTN S1 Gun \nBTN S2"_s);
     caretAt(J, 11);

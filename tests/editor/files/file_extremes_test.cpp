@@ -111,7 +111,7 @@ TEST_F(FileExtremesTest, AnUnchangedFileIsOpenedWithoutColouringItAgain)
     const QByteArray copy = writeRtf(RichText::plain(u"BTN\n"_s, format)) + "\n";
     folder.write(u"Rtf/a.tmj"_s, copy);
     opening().mnuFileJoystickLoad_Click(file(u"a.tmj"_s, "BTN\r\n"));
-    // A colouring pass writes the copy anew, and never with a line end behind it.
+    // A colouring pass writes the copy anew, never with a line end at its end.
     EXPECT_EQ(folder.read(u"Rtf/a.tmj"_s), copy);
 }
 

@@ -189,7 +189,7 @@ TEST_F(PrintingTest, NoPrintsNothing)
               "joystick file?");
 }
 
-TEST_F(PrintingTest, AFileIsPrintedBehindItsPathAndTheDate)
+TEST_F(PrintingTest, AFileIsPrintedAfterItsPathAndTheDate)
 {
     set(M, u"Fire = SPC\nGear = g"_s);
     answerPrint(u"Untitled.tmm"_s);
@@ -272,7 +272,7 @@ TEST_F(PrintingTest, APdfNeedsNoPrinterAndHoldsALongFileWholeInItsColours)
     EXPECT_TRUE(editor->actions().trigger(u"mnuFileExportPDF"));
     EXPECT_EQ(status.text().toStdString(), (exported + u" saved successfully."_s).toStdString());
 
-    // Complete and in order, behind the header.
+    // Complete and in order, after the header.
     const QList<PrintedWord> printed = printedWords(exported);
     const QString text = joystick()->shown().text();
     const QStringList wanted = wordsOf(text);

@@ -249,12 +249,12 @@ TEST_F(RecoveryTest, ASaveFindsTheRecoveryFileAsNewAsItself)
     type(DocumentKind::Joystick, u"x"_s);
     recovery().update();
     type(DocumentKind::Joystick, u"y"_s);
-    std::optional<RecoveredText> rightBehind;
+    std::optional<RecoveredText> rightAfter;
     QObject::connect(&editor->joystick(), &Document::aboutToBeWritten, editor.get(),
-                     [&] { rightBehind = kept(u"1/joystick.txt"_s); });
+                     [&] { rightAfter = kept(u"1/joystick.txt"_s); });
     editor->saving().mnuFileSave_Click();
-    ASSERT_TRUE(rightBehind);
-    EXPECT_EQ(rightBehind->text, editor->joystickText());
+    ASSERT_TRUE(rightAfter);
+    EXPECT_EQ(rightAfter->text, editor->joystickText());
 }
 
 TEST_F(RecoveryTest, ATextThatCameBackIsNotAutosavedBeforeTheUserSavesIt)

@@ -305,7 +305,7 @@ TEST_F(MacroListTest, TheChosenMacroIsHighlightedInTheMacroTextWhereItIsSeen)
     EXPECT_EQ(macro()->textCursor().selectedText(), u"Early = e");
 }
 
-TEST_F(MacroListTest, ADoubleClickAtTheStartPutsABlankBehind)
+TEST_F(MacroListTest, ADoubleClickAtTheStartPutsABlankAfter)
 {
     openMacros();
     openJoystick("");
@@ -316,7 +316,7 @@ TEST_F(MacroListTest, ADoubleClickAtTheStartPutsABlankBehind)
     EXPECT_TRUE(editor->joystick().isModified());
 }
 
-TEST_F(MacroListTest, ADoubleClickBehindABlankPutsABlankBehind)
+TEST_F(MacroListTest, ADoubleClickAfterABlankPutsABlankAfter)
 {
     openMacros();
     openJoystick("BTN S1 /U");
@@ -326,7 +326,7 @@ TEST_F(MacroListTest, ADoubleClickBehindABlankPutsABlankBehind)
     EXPECT_EQ(joystick()->shown().selStart(), 12);
 }
 
-TEST_F(MacroListTest, ADoubleClickBehindAnythingElsePutsBlanksAround)
+TEST_F(MacroListTest, ADoubleClickAfterAnythingElsePutsBlanksAround)
 {
     openMacros();
     openJoystick("BTN S1\r\n");
@@ -448,7 +448,7 @@ TEST_F(MacroListTest, ADropAtTheStartPutsBlanksAround)
     EXPECT_EQ(editor->joystickText(), u" Fire BTN S1\n");
 }
 
-TEST_F(MacroListTest, ADropBehindABlankPutsBlanksAroundToo)
+TEST_F(MacroListTest, ADropAfterABlankPutsBlanksAroundToo)
 {
     openMacros();
     openJoystick("BTN S1 /U\r\n");

@@ -411,7 +411,7 @@ TEST_F(MacroOperationsTest, TheMouseOverAMacroShowsItsKeys)
     EXPECT_EQ(list().SelectedMacro, u"Gun_2");
 }
 
-TEST_F(MacroOperationsTest, NoWordLiesBehindALinesEndOrBelowTheText)
+TEST_F(MacroOperationsTest, NoWordLiesAfterALinesEndOrBelowTheText)
 {
     open("Fire\r\nGun", "Fire = SPC\r\nGun = g\r\n");
     const QPoint onFire = placeOf(3);

@@ -28,7 +28,7 @@ const Step steps[] = {
     { "intoAnEmptyList", {}, "a1", { "a1" } },
     { "aNewOneGoesToTheFront", { "a1" }, "b1", { "b1", "a1" } },
     { "oneThatIsThereMovesUpAndIsReplaced", { "a1", "b1", "c1" }, "c2", { "c2", "a1", "b1" } },
-    { "oneInTheMiddleLeavesTheOneBehindItInPlace",
+    { "oneInTheMiddleLeavesTheOneAfterItInPlace",
       { "a1", "b1", "c1" },
       "b2",
       { "b2", "a1", "c1" } },

@@ -40,7 +40,7 @@ TEST(RichTextFormatAt, GivesTheRunOfTheCharacter)
     EXPECT_EQ(sample().formatAt(6), CharFormat());
 }
 
-TEST(RichTextFormatAt, GivesTheLastFormatBehindTheEnd)
+TEST(RichTextFormatAt, GivesTheLastFormatAfterTheEnd)
 {
     EXPECT_EQ(RichText::plain(u"a"_s, bold).formatAt(1), bold);
     EXPECT_EQ(RichText::plain({}).formatAt(0), CharFormat());

@@ -255,7 +255,7 @@ TEST(RtfReader, FinalLineIsNoFinalPar)
     EXPECT_EQ(textOf("{\\rtf1 a\\line}"), u"a\n"_s);
 }
 
-TEST(RtfReader, WordsBehindTheFinalParMakeNoParagraph)
+TEST(RtfReader, WordsAfterTheFinalParMakeNoParagraph)
 {
     EXPECT_EQ(textOf("{\\rtf1 {a\\par\\pard\\b }{\\*\\themedata 00}}"), u"a"_s);
 }
@@ -265,7 +265,7 @@ TEST(RtfReader, SourceLineEndsAreIgnored)
     EXPECT_EQ(textOf("{\\rtf1\r\na\r\nb\n c\\b\r\n d}"), u"ab c d"_s);
 }
 
-TEST(RtfReader, OneBlankBehindAWordBelongsToIt)
+TEST(RtfReader, OneBlankAfterAWordBelongsToIt)
 {
     EXPECT_EQ(textOf("{\\rtf1 a\\b  b\\b0c\\i-1 d}"), u"a bcd"_s);
 }
@@ -332,7 +332,7 @@ TEST(RtfReader, GroupEndsTheFallback)
     EXPECT_EQ(textOf("{\\rtf1\\uc9 {\\u960 ?}ab}"), u"\u03c0ab"_s);
 }
 
-TEST(RtfReader, TextBehindTheLastBraceIsIgnored)
+TEST(RtfReader, TextAfterTheLastBraceIsIgnored)
 {
     EXPECT_EQ(textOf("{\\rtf1 a}\r\nwhatever {"), u"a"_s);
 }

@@ -112,7 +112,7 @@ TEST(RtfIdentity, EveryUnitOfUtf16ComesBack)
     EXPECT_TRUE(writtenAndRead(RichText::plain(text)).text == text);
 }
 
-TEST(RtfIdentity, DigitsAndBlanksBehindWordsStayText)
+TEST(RtfIdentity, DigitsAndBlanksAfterWordsStayText)
 {
     expectSurvives(u"\t1\t-2\t \t  x\t*"_s);
     CharFormat bold;

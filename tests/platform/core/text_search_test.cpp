@@ -16,7 +16,7 @@ constexpr int matchCase = SearchMatchCase;
 
 } // namespace
 
-TEST(FindText, FindsAtOrBehindTheStart)
+TEST(FindText, FindsAtOrAfterTheStart)
 {
     EXPECT_EQ(findText(u"one two one", u"one", 0, SearchPlain), 0);
     EXPECT_EQ(findText(u"one two one", u"one", 1, SearchPlain), 8);

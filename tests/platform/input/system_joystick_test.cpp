@@ -17,7 +17,7 @@ namespace {
 constexpr Uint16 cougar = 0x0400;
 constexpr Uint16 otherModel = 0x0401;
 
-/// A machine whose first real reading has been taken, so that virtual sticks come behind the real
+/// A machine whose first real reading has been taken, so that virtual sticks come after the real
 /// ones that may be plugged in.
 class SystemJoystickTest : public testing::Test
 {

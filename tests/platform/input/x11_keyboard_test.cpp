@@ -7,7 +7,7 @@
 
 using namespace zeph;
 
-TEST(LayoutNames, AVariantStandsInBracketsBehindItsLayout)
+TEST(LayoutNames, AVariantStandsInBracketsAfterItsLayout)
 {
     EXPECT_EQ(layoutNames(u"us,de,gb", u",nodeadkeys,"),
               (QStringList{ u"us"_s, u"de(nodeadkeys)"_s, u"gb"_s }));

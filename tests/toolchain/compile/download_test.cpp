@@ -213,7 +213,7 @@ TEST_F(DownloadTest, TheNumLockHelperComesBeforeTheSuccessIsTold)
               (QStringList{ locks, compilerStarts, mode, numLock, appStarts, focus, unlocks }));
 }
 
-TEST_F(DownloadTest, TheKeyTesterOpensBehindTheApplicationsWithTheTextEditable)
+TEST_F(DownloadTest, TheKeyTesterOpensAfterTheApplicationsWithTheTextEditable)
 {
     settings.of<ToolchainSettings>().RunKeyTest = true;
     dialogs.answer(success, BoxButton::Ok);
@@ -340,7 +340,7 @@ TEST_F(DownloadTest, TheVerdictIsAboutTheFileThatWasSent)
     EXPECT_TRUE(dialogs.boxes()[0].text.startsWith(sent));
 }
 
-TEST_F(DownloadTest, AFailureBehindTheWaitFreesTheText)
+TEST_F(DownloadTest, AFailureAfterTheWaitFreesTheText)
 {
     settings.of<ToolchainSettings>().HOTASStatusBarErrors = true;
     launcher.onStart = [this](const Launch &launch) {

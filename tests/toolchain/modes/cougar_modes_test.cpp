@@ -240,7 +240,7 @@ TEST_F(CougarModesTest, Interval33OverflowsAndLeavesTheDetectorOff)
         EXPECT_STREQ(error.what(), "Overflow");
     }
     EXPECT_FALSE(modes.detectorRuns());
-    EXPECT_EQ(status.modePicture(), 2) << "nothing behind the interval takes place";
+    EXPECT_EQ(status.modePicture(), 2) << "nothing happens after the refused interval";
 }
 
 TEST_F(CougarModesTest, Interval32Works)

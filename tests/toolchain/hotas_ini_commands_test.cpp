@@ -18,7 +18,7 @@ Paths toolsIn(const QString &folder)
 
 } // namespace
 
-TEST(CompilerLaunch, QuotesTheFileBehindTheSwitches)
+TEST(CompilerLaunch, QuotesTheFileAfterTheSwitches)
 {
     const Paths paths = toolsIn(u"/opt/Cougar tools/"_s);
     const Launch launch =
@@ -65,7 +65,7 @@ TEST(ConfigLaunch, HasTheSwitchesOfEachRequest)
     }
 }
 
-TEST(ProfileLaunch, QuotesTheProfilesFileBehindItsSwitch)
+TEST(ProfileLaunch, QuotesTheProfilesFileAfterItsSwitch)
 {
     const Paths paths = toolsIn(u"/t/"_s);
     const Launch launch = profileLaunch(paths, u"My stick"_s, false);

@@ -51,14 +51,14 @@ TEST(ListRules, ANameIsNeverEmptyNeverTwiceAndAlwaysStorable)
     }
 }
 
-TEST(ListRules, ANumberBehindTheLongestNameKeepsItStorable)
+TEST(ListRules, ANumberAfterTheLongestNameKeepsItStorable)
 {
     const QString longest(499, u'x');
     const QString name = uniqueName(longest, { longest });
     EXPECT_EQ(name, QString(495, u'x') + u" (2)"_s);
 }
 
-TEST(ListRules, AfterARemovalTheNextOneIsSelectedAndBehindTheLastTheLast)
+TEST(ListRules, AfterARemovalTheNextOneIsSelectedAndAfterTheLastTheLast)
 {
     EXPECT_EQ(placeAfterRemoval(0, 2), 0);
     EXPECT_EQ(placeAfterRemoval(1, 2), 1);
