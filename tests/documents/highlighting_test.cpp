@@ -6,7 +6,7 @@
 #include "platform/core/rtf.h"
 #include "platform/richtext/rich_text_document.h"
 #include "settings/colour_settings.h"
-#include "tests/text/painting_fixture.h"
+#include "tests/support/painting_fixture.h"
 
 #include <QAction>
 #include <QScrollBar>

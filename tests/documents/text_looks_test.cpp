@@ -4,7 +4,7 @@
 #include "documents/styleeditor.h"
 #include "documents/text_looks.h"
 #include "settings/colour_settings.h"
-#include "tests/text/painting_fixture.h"
+#include "tests/support/painting_fixture.h"
 #include "text/text_styles.h"
 
 #include <QAction>

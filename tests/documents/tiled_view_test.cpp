@@ -6,7 +6,7 @@
 #include "documents/editor_texts.h"
 #include "editor/files/file_opening.h"
 #include "editor/files/file_saving.h"
-#include "tests/documents/editor_fixture.h"
+#include "tests/support/editor_fixture.h"
 
 #include <QAction>
 #include <QScrollBar>

@@ -12,7 +12,7 @@
 #include "platform/richtext/rich_text_document.h"
 #include "preferences/setting_fields.h"
 #include "shell/mum.h"
-#include "tests/shell/running_world.h"
+#include "tests/support/shell_world.h"
 #include "toolchain/cougar_tools.h"
 
 #include <QApplication>

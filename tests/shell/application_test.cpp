@@ -19,7 +19,7 @@
 #include "shell/mum.h"
 #include "shell/settings/shell_settings.h"
 #include "shell/welcome.h"
-#include "tests/shell/shell_world.h"
+#include "tests/support/shell_world.h"
 #include "toolchain/toolchain_settings.h"
 
 #include <QAbstractButton>
@@ -103,12 +103,6 @@ struct Start : test::ShellWorld {
         return ProfileFile(paths.iniPath).text(section, key, u"(absent)"_s);
     }
     QString title() const { return app->mum().windowTitle(); }
-
-    void TearDown() override
-    {
-        app.reset();
-        ShellWorld::TearDown();
-    }
 };
 
 const QByteArray favourite = "[Favourites]\r\nFavArrayNum=1\r\nFavLoadOnStart=1\r\n"

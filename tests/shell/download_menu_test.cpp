@@ -14,7 +14,7 @@
 #include "shell/help_menu.h"
 #include "shell/main_scene.h"
 #include "shell/mum.h"
-#include "tests/shell/shell_world.h"
+#include "tests/support/shell_world.h"
 #include "toolchain/cougar_tools.h"
 #include "toolchain/default_options.h"
 #include "toolchain/toolchain_settings.h"
@@ -49,11 +49,6 @@ struct DownloadMenuTest : test::ShellWorld {
             EXPECT_TRUE(hotasIni().write({ u"Compiler"_s, u"Status"_s, verdict }));
             return Expected<void, QString>();
         };
-    }
-    void TearDown() override
-    {
-        mum.reset();
-        ShellWorld::TearDown();
     }
     void show()
     {

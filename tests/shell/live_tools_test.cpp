@@ -9,7 +9,7 @@
 #include "menus/menu_actions.h"
 #include "platform/tool_windows.h"
 #include "shell/mum.h"
-#include "tests/shell/shell_world.h"
+#include "tests/support/shell_world.h"
 
 #include <QAction>
 #include <QTest>
@@ -27,11 +27,6 @@ struct KeyTesterMenuTest : test::ShellWorld {
         installData(u"KeyCodes.txt"_s);
         run = application();
         ASSERT_TRUE(run->start());
-    }
-    void TearDown() override
-    {
-        run.reset();
-        ShellWorld::TearDown();
     }
     KeyTestForm *tester() const { return run->mum().toolWindows().get<KeyTestForm>(); }
 };

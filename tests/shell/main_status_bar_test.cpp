@@ -5,7 +5,7 @@
 
 #include "platform/core/units.h"
 #include "settings/shared_settings.h"
-#include "tests/shell/shell_world.h"
+#include "tests/support/shell_world.h"
 
 #include <QApplication>
 #include <QHelpEvent>

@@ -18,7 +18,7 @@
 #include "shell/frmabout.h"
 #include "shell/main_status_bar.h"
 #include "shell/settings/shell_settings.h"
-#include "tests/shell/shell_world.h"
+#include "tests/support/shell_world.h"
 
 #include <QAction>
 #include <QApplication>
@@ -53,11 +53,6 @@ struct MainWindow : test::ShellWorld {
         mum->attachEditor(editor);
         mum->resize(1000, 700);
         mum->show();
-    }
-    void TearDown() override
-    {
-        mum.reset();
-        ShellWorld::TearDown();
     }
     QToolButton *button(const QString &name) const { return mum->findChild<QToolButton *>(name); }
     void settle() const

@@ -11,7 +11,7 @@
 #include "platform/richtext/rich_text_box.h"
 #include "platform/tool_windows.h"
 #include "shell/mum.h"
-#include "tests/shell/shell_world.h"
+#include "tests/support/shell_world.h"
 
 using namespace zeph;
 
@@ -25,11 +25,6 @@ struct TemplateMenuTest : test::ShellWorld {
         writeStore();
         run = application();
         ASSERT_TRUE(run->start());
-    }
-    void TearDown() override
-    {
-        run.reset();
-        ShellWorld::TearDown();
     }
     TemplateForm *form() const { return run->mum().toolWindows().get<TemplateForm>(); }
     static RichTextBox &textOf(TemplateForm &form)

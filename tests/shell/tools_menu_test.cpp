@@ -7,7 +7,7 @@
 #include "menus/menu_actions.h"
 #include "platform/core/profile_file.h"
 #include "shell/mum.h"
-#include "tests/shell/shell_world.h"
+#include "tests/support/shell_world.h"
 #include "toolchain/modes/profilechooser.h"
 
 #include <QAction>
@@ -22,7 +22,7 @@ using namespace zeph;
 namespace {
 
 /// The running application with the tools beside it and two profiles.
-class ToolsMenuTest : public test::ShellWorld
+class ToolsMenuTest : public test::RunningWorld
 {
 protected:
     void begin(const QByteArray &store = {})
@@ -30,9 +30,7 @@ protected:
         folder.write(u"HOTASConfig.exe"_s, "tool");
         folder.write(u"Profiles/Default.tmc"_s, "x");
         folder.write(u"Profiles/Alpine.tmc"_s, "x");
-        writeStore(store + "[Unsupported]\r\nCheckForCompletionTime=1\r\n");
-        app = application();
-        ASSERT_TRUE(app->start());
+        start(store + "[Unsupported]\r\nCheckForCompletionTime=1\r\n");
     }
 
     QAction &action(QStringView name) const { return *app->editor().action(name); }
@@ -72,8 +70,6 @@ protected:
             ->setChecked(true);
         form.findChild<QPushButton *>(button)->click();
     }
-
-    std::unique_ptr<Application> app;
 };
 
 } // namespace

@@ -20,7 +20,7 @@
 #include "shell/mum.h"
 #include "shell/welcome.h"
 #include "templates/templateform.h"
-#include "tests/shell/shell_world.h"
+#include "tests/support/shell_world.h"
 #include "text/macro_table.h"
 #include "toolchain/games/gamefields.h"
 #include "toolchain/games/games.h"
@@ -223,11 +223,6 @@ public:
             installData(QString::fromUtf16(picture));
         }
         window = GetParam().make(*this);
-    }
-    void TearDown() override
-    {
-        window.reset();
-        ShellWorld::TearDown();
     }
     QList<QWidget *> controls() const
     {

@@ -7,7 +7,7 @@
 #include "editor/editor_settings.h"
 #include "platform/richtext/rich_text_document.h"
 #include "settings/colour_settings.h"
-#include "tests/documents/editor_fixture.h"
+#include "tests/support/editor_fixture.h"
 
 #include <QAction>
 #include <QTest>

@@ -9,7 +9,7 @@
 #include "editor/macros/macro_features.h"
 #include "platform/core/profile_file.h"
 #include "settings/shared_settings.h"
-#include "tests/text/painting_fixture.h"
+#include "tests/support/painting_fixture.h"
 
 #include <QAbstractButton>
 #include <QAction>

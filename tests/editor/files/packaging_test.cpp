@@ -6,7 +6,7 @@
 #include "editor/editor_settings.h"
 #include "editor/files/file_opening.h"
 #include "menus/menu_actions.h"
-#include "tests/documents/editor_fixture.h"
+#include "tests/support/editor_fixture.h"
 #include "tests/support/zips.h"
 #include "text/package.h"
 

@@ -8,7 +8,7 @@
 #include "platform/fakes/fake_printers.h"
 #include "print/print_pages.h"
 #include "print/printpreview.h"
-#include "tests/text/painting_fixture.h"
+#include "tests/support/painting_fixture.h"
 
 #include <QImage>
 #include <QProcess>

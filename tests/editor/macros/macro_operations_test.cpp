@@ -10,7 +10,7 @@
 #include "editor/macros/macrorenameform.h"
 #include "menus/menu_actions.h"
 #include "settings/shared_settings.h"
-#include "tests/documents/editor_fixture.h"
+#include "tests/support/editor_fixture.h"
 
 #include <QAction>
 #include <QCheckBox>

@@ -3,7 +3,7 @@
 
 #include "toolchain/compile/after_download.h"
 
-#include "tests/toolchain/toolchain_bench.h"
+#include "tests/support/toolchain_bench.h"
 #include "toolchain/toolchain_settings.h"
 
 using namespace zeph;

@@ -4,7 +4,7 @@
 #include "toolchain/modes/cougar_modes.h"
 
 #include "platform/fakes/fake_joystick.h"
-#include "tests/toolchain/toolchain_bench.h"
+#include "tests/support/toolchain_bench.h"
 #include "toolchain/toolchain_settings.h"
 
 #include <QFile>
