@@ -4,7 +4,7 @@
 #include "editor/view_entries.h"
 
 #include "editor/files/file_opening.h"
-#include "tests/documents/editor_fixture.h"
+#include "tests/support/editor_fixture.h"
 
 #include <QAction>
 #include <QTabBar>
