@@ -7,6 +7,7 @@
 #include "documents/coloured_insert.h"
 #include "documents/editor_texts.h"
 #include "documents/editor_view.h"
+#include "menus/menu_actions.h"
 #include "platform/status_line.h"
 #include "settings/colour_settings.h"
 #include "settings/settings.h"
@@ -41,6 +42,20 @@ constexpr PassStatus macroSteps[] = {
 Highlighting::Highlighting(const Context &context, const Parts &parts)
     : m_context(context), m_parts(parts), m_documents(parts.view.documents())
 {
+    connectMenus();
+}
+
+void Highlighting::connectMenus()
+{
+    MenuActions &on = m_parts.actions;
+    on.connectTo(u"mnuViewColourJoystick", [this] { mnuViewColourJoystick_Click(); });
+    on.connectTo(u"mnuViewColourMacro", [this] { mnuViewColourMacro_Click(); });
+    on.connectTo(u"mnuViewApplyColourBothFiles", [this] { mnuViewApplyColourBothFiles_Click(); });
+    on.connectTo(u"mnuViewHighlightLine", [this] { mnuViewHighlightLine_Click(); });
+    on.connectTo(u"mnuRemoveColourJoystick", [this] { mnuRemoveColourJoystick_Click(); });
+    on.connectTo(u"mnuRemoveColourMacro", [this] { mnuRemoveColourMacro_Click(); });
+    on.connectTo(u"mnuRemoveColourSelectedText", [this] { mnuRemoveColourSelectedText_Click(); });
+    on.connectTo(u"mnuViewReformat", [this] { mnuViewReformat_Click(); });
 }
 
 void Highlighting::reformat(Document &document)

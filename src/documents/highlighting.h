@@ -13,6 +13,7 @@ class ColouredInsert;
 class Document;
 class Documents;
 class EditorView;
+class MenuActions;
 struct ColourSettings;
 
 /// Gives the documents their colours and takes them away. Only looks change: neither the text nor
@@ -22,6 +23,7 @@ class Highlighting
 public:
     struct Parts {
         EditorView &view;
+        MenuActions &actions;
         ColouredCopies &copies;
         ColouredInsert &insert;
     };
@@ -69,6 +71,7 @@ public:
     RichText JustREMtocolour(const QString &text) const;
 
 private:
+    void connectMenus();
     void removeColour(Document &document, int from, int length);
     void paintStretch(Document &document, int from, int to);
     RichText painted(const QString &text, const Painter &painter) const;

@@ -7,6 +7,7 @@
 #include "documents/text_control.h"
 #include "editor/editor.h"
 #include "editor/editor_settings.h"
+#include "editor/files/file_opening.h"
 #include "editor/right_menu.h"
 #include "menus/menu_actions.h"
 #include "platform/core/profile_file.h"
@@ -110,6 +111,16 @@ TEST_F(DownloadMenuTest, TheEntriesShowWhatTheSettingsSay)
     EXPECT_TRUE(entry(3)->isChecked());
     EXPECT_FALSE(entry(4)->isChecked());
     EXPECT_EQ(entry(0)->shortcut(), QKeySequence(Qt::Key_F12));
+}
+
+TEST_F(DownloadMenuTest, TheFirstEntryNamesTheJoystickFileOfTheCougarsOwnKind)
+{
+    show();
+    editor->opening().OpenFavouriteFile(folder.write(u"Files/FALCON.TMJ"_s, "BTN"));
+    editor->documents().select(DocumentKind::Macro);
+    EXPECT_EQ(entry(0)->text(), u"&Download FALCON.tmj");
+    editor->opening().OpenFavouriteFile(folder.write(u"Files/old.f22"_s, "BTN"));
+    EXPECT_EQ(entry(0)->text(), u"&Download joystick file");
 }
 
 TEST_F(DownloadMenuTest, WithoutProgrammedModeTheKeyTesterCannotBeChosen)

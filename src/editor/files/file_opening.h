@@ -14,6 +14,7 @@ class ColouredCopies;
 class EditorView;
 class FileSaving;
 class Highlighting;
+class MenuActions;
 
 /// Opening, by dialog, by list and at start. A path given stands for the dialog's answer.
 class FileOpening : public QObject
@@ -22,6 +23,7 @@ class FileOpening : public QObject
 public:
     struct Parts {
         EditorView &view;
+        MenuActions &actions;
         ColouredCopies &copies;
         Highlighting &highlighting;
         FileSaving &saving;
@@ -59,6 +61,7 @@ Q_SIGNALS:
     void pairLoaded();
 
 private:
+    void connectMenus();
     bool load(DocumentKind kind, const QString &path);
     /// As load(); a failure also stands on the status line.
     bool loadOrTell(DocumentKind kind, const QString &path);

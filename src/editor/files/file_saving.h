@@ -11,13 +11,15 @@ namespace zeph {
 
 class ColouredCopies;
 class EditorView;
+class MenuActions;
 
 /// Saving, in all its forms. After any of these a document's state tells whether the save took
 /// place: it stays modified when the user cancelled or the disk refused.
 class FileSaving
 {
 public:
-    FileSaving(const Context &context, EditorView &view, ColouredCopies &copies);
+    FileSaving(const Context &context, EditorView &view, MenuActions &actions,
+               ColouredCopies &copies);
 
     /// Saves the selected document, by Save As where it has no name or cannot be written.
     void mnuFileSave_Click();
