@@ -23,7 +23,7 @@ constexpr ErrorEntry table[] = {
       u"Use JOYX, JOYY, THR, RDDR, LBRK, RBRK, MIX, MIY, ANT or RNG, or one of the pairs JOYSTICK, "
       u"ROTARIES, TOEBRAKES and MICROSTICK." },
     { UnknownFlag, u"Logical flags run from X1 to X48",
-      u"A logical flag with another number is used, or DEF stands without a flag behind it.",
+      u"A logical flag with another number is used, or DEF has no flag after it.",
       u"Choose a free flag from X1 to X48. The logical flags window of the Composer shows which "
       u"ones are free." },
     { StrayBracketCode, u"A bracket has no partner",
@@ -32,7 +32,7 @@ constexpr ErrorEntry table[] = {
       u"Look at the line and count the brackets. Each one needs its own partner within the "
       u"same statement, and pairs may not cross." },
     { UnknownAxisType, u"Digital axis statements have the types 1 to 6",
-      u"The number behind the axis tells how it makes keys, and this number is none of the six.",
+      u"The number after the axis tells how it makes keys, and this number is none of the six.",
       u"Let the Digital axis page of the Composer write the statement, or correct the number." },
     { BandCount, u"The number of bands and their borders do not agree",
       u"A digital axis of type 5 or 6 tells the number of its bands, 1 to 50, and then, in "
@@ -128,12 +128,18 @@ DocumentKind documentOfError(QStringView errorText)
         : DocumentKind::Joystick;
 }
 
-QString errorCodesText()
+RichText errorCodesText()
 {
-    QString text;
+    CharFormat plain;
+    plain.family = u"Arial"_s;
+    plain.pointSize = 10;
+    CharFormat heading = plain;
+    heading.bold = true;
+    RichText text;
     for (const ErrorEntry &entry : table) {
-        text += u"%1: %2\n%3\n%4\n\n"_s.arg(errorHeading(entry.code), entry.title, entry.cause,
-                                            entry.cure);
+        text.append(
+            RichText::plain(u"%1: %2"_s.arg(errorHeading(entry.code), entry.title), heading));
+        text.append(RichText::plain(u"\n%1\n%2\n\n"_s.arg(entry.cause, entry.cure), plain));
     }
     return text;
 }
