@@ -8,6 +8,7 @@
 #include "editor/files/file_opening.h"
 #include "editor/files/file_saving.h"
 #include "platform/dialogs.h"
+#include "platform/status_line.h"
 #include "platform/tool_windows.h"
 #include "shell/help_menu.h"
 #include "shell/main_status_bar.h"
@@ -41,8 +42,8 @@ void MainScene::connectStatusBar()
 {
     CougarModes &modes = m_parts.tools.modes();
     MainStatusBar &bar = m_parts.mum.bar();
-    bar.setModeTooltip(modes.tooltip());
-    connect(&modes, &CougarModes::tooltipChanged, &bar, &MainStatusBar::setModeTooltip);
+    m_context.status.setModeTooltip(modes.tooltip());
+    connect(&modes, &CougarModes::tooltipChanged, &m_context.status, &StatusLine::setModeTooltip);
     connect(&bar, &MainStatusBar::modeTooltipWanted, &modes,
             guarded(m_context.dialogs, [&modes] { modes.UpdateStatusTooltip(); }));
     connect(&bar, &MainStatusBar::modePanelClicked, &modes,
