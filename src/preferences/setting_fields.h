@@ -13,8 +13,7 @@ class QWidget;
 
 namespace zeph {
 
-/// The fields of a page that each edit one setting, found by the names that the table of keys has
-/// for them. The page must hold all fields of its tab.
+/// The fields of a page that each edit one setting: those that fieldsOf() finds by their names.
 class SettingFields
 {
 public:
@@ -27,7 +26,7 @@ public:
 
 private:
     struct Field {
-        const PreferencesKey &key;
+        PreferencesKey key;
         QWidget *control;
     };
 
