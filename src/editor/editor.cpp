@@ -11,7 +11,7 @@
 #include "documents/coloured_insert.h"
 #include "documents/editor_view.h"
 #include "documents/highlighting.h"
-#include "documents/line_blink.h"
+#include "documents/show_line.h"
 #include "documents/text_looks.h"
 #include "documents/undo_histories.h"
 #include "editor/edit/editing_tools.h"

@@ -139,7 +139,7 @@ bool EditorKeys::keyPressed(const QKeyEvent &event, bool macroText)
     }
     // Taken even when the entry cannot be used: some desktops give these keys to the toolkit for
     // deleting lines.
-    m_actions.trigger(entry);
+    m_actions.action(entry)->trigger();
     return true;
 }
 
@@ -159,7 +159,7 @@ void EditorKeys::help()
     const Document &document = m_view.documents().selected();
     const QString word = document.text().mid(document.selStart(), document.selLength()).trimmed();
     if (word.isEmpty()) {
-        m_actions.trigger(u"mnuHelpContents");
+        m_actions.action(u"mnuHelpContents")->trigger();
     } else {
         Q_EMIT helpOn(word);
     }

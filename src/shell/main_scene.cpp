@@ -31,6 +31,7 @@ MainScene::MainScene(const Context &context, const Parts &parts)
 {
     CougarTools &tools = parts.tools;
     tools.attach(parts.editor.actions(), parts.editor.documents(), *this, *this);
+    addCompilerHelp(parts.mum.toolWindows(), context, *this);
     connectStatusBar();
     connect(&parts.mum, &Mum::compileWanted, &tools,
             guarded(context.dialogs, [&tools] { tools.compile().mnuAppsCompile_Click(); }));
@@ -66,21 +67,14 @@ void MainScene::minimiseToolWindows()
 void MainScene::showCompilerHelp(const CompilerError &error)
 {
     ToolWindows &windows = m_parts.mum.toolWindows();
-    auto *help =
-        windows.load<CompilerHelp>([this](QWidget *owner) { return makeCompilerHelp(owner); });
+    auto *help = windows.load<CompilerHelp>();
     help->ShowTheError(error);
     ToolWindows::raise(*help);
 }
 
-CompilerHelp *MainScene::makeCompilerHelp(QWidget *owner)
+void MainScene::showHelpOnErrors()
 {
-    auto *help = new CompilerHelp(m_context.paths.infoFolder() + u"Error codes.rtf"_s, owner);
-    connect(help, &CompilerHelp::highlightRequested, this,
-            guarded(m_context.dialogs,
-                    [this](int line, const QString &text) { HighlightErrorLine(line, text); }));
-    connect(help, &CompilerHelp::helpRequested, this,
-            guarded(m_context.dialogs, [this] { m_parts.help.showTopic(errorsTopic); }));
-    return help;
+    m_parts.help.showTopic(errorsTopic);
 }
 
 void MainScene::HighlightErrorLine(int line, const QString &errorText)

@@ -191,9 +191,9 @@ TEST_F(DownloadMenuTest, ALockedTextRefusesWhatMenusAndToolsWouldChange)
     launcher.onStart = [this](const Launch &) {
         QTimer::singleShot(0, control(), [this] {
             control()->selectAll();
-            editor->actions().trigger(u"mnuEditCut");
-            editor->actions().trigger(u"mnuEditPaste");
-            editor->actions().trigger(u"mnuBlockREM");
+            editor->actions().action(u"mnuEditCut")->trigger();
+            editor->actions().action(u"mnuEditPaste")->trigger();
+            editor->actions().action(u"mnuBlockREM")->trigger();
             EXPECT_EQ(control()->shown().text(), u"BTN S1 a");
             EXPECT_TRUE(hotasIni().write({ u"Compiler"_s, u"Status"_s, verdict }));
         });

@@ -82,7 +82,11 @@ protected:
         }
         return sent;
     }
-    void press(QStringView entry) const { ASSERT_TRUE(app->editor().actions().trigger(entry)); }
+    void press(QStringView entry) const
+    {
+        ASSERT_TRUE(app->editor().actions().action(entry)->isEnabled());
+        app->editor().actions().action(entry)->trigger();
+    }
 
     std::unique_ptr<Application> app;
     MainStatusBar *bar = nullptr;
