@@ -41,7 +41,6 @@ private:
 };
 
 class Document;
-class Editor;
 class MenuArray;
 
 /// The joystick files and the macro files that were opened or saved before, most recently used

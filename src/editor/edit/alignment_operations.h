@@ -41,9 +41,6 @@ private:
 };
 
 class ColouredInsert;
-class MenuActions;
-class EditorView;
-class Highlighting;
 
 /// Comments the lines that the selection touches out and in again: one undo step each. Refused on
 /// a protected macro file. The caret ends at the start of the first line.

@@ -100,7 +100,6 @@ private:
     QString m_listSelection;
 };
 
-class MenuActions;
 class MacroList;
 
 /// The pop-up menu of the macro list.

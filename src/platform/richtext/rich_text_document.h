@@ -51,7 +51,7 @@ QString insertableText(const QString &text);
 /// Replaces everything in one edit block, without an entry in the toolkit's own undo, which is
 /// emptied; the document counts as not modified.
 void setRichText(QTextDocument &document, const RichText &text);
-/// The same without looks of characters.
+/// Does the same without looks of characters.
 void setPlainText(QTextDocument &document, const QString &text,
                   const std::vector<ParagraphRun> &paragraphs);
 /// Gives the paragraphs of a stretch their formats where they have others.
