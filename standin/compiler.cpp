@@ -173,7 +173,8 @@ Outcome runCompiler(const QStringList &arguments, const QString &hotasFolder,
     Outcome outcome{ 1, { introduction(u"HOTASCompiler") } };
     const CompileRequest request = requestFrom(arguments);
     const QString found = existingPath(hotasFolder + u"HOTAS.ini"_s);
-    const ProfileFile ini(found.isEmpty() ? hotasFolder + u"HOTAS.ini"_s : found);
+    const ProfileFile ini(found.isEmpty() ? hotasFolder + u"HOTAS.ini"_s : found,
+                          ProfileUse::Shared);
     const bool sameName = ini.integer(u"Defaults", u"MDEFrequired", 1) != 0;
 
     QElapsedTimer timer;

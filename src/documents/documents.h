@@ -47,6 +47,9 @@ public:
     /// Tells the user when the selected text is the protected one. True when it takes no changes,
     /// for that reason or because it is locked.
     bool refuseProtected();
+    /// Whether the text is on its way to the Cougar and must neither change nor be replaced
+    /// meanwhile, which the status line tells.
+    bool refuseSent(DocumentKind kind);
 
     /// Writes what a tool has made over the selection of the selected document, in its colours, as
     /// one step to undo; the caret goes to its end. False when the text takes no changes, as

@@ -124,12 +124,17 @@ bool EditorKeys::keyPressed(const QKeyEvent &event, bool macroText)
     if (!handles(event, macroText)) {
         return false;
     }
+    const bool heldDown = event.isAutoRepeat();
     if (event.key() == Qt::Key_Escape) {
-        popUpInsertMenu();
+        if (!heldDown) {
+            popUpInsertMenu();
+        }
         return true;
     }
     if (event.key() == Qt::Key_F1) {
-        help();
+        if (!heldDown) {
+            help();
+        }
         return true;
     }
     const QStringView standard = standardEntry(event);
@@ -139,7 +144,9 @@ bool EditorKeys::keyPressed(const QKeyEvent &event, bool macroText)
     }
     // Taken even when the entry cannot be used: some desktops give these keys to the toolkit for
     // deleting lines.
-    m_actions.action(entry)->trigger();
+    if (QAction *action = m_actions.action(entry); !heldDown || action->autoRepeat()) {
+        action->trigger();
+    }
     return true;
 }
 

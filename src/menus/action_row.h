@@ -36,6 +36,7 @@ private:
 
 enum class ActionKind {
     Entry,
+    Repeats, ///< an entry whose key may be held down
     Tick, ///< an entry that is on or off
     Separator,
     Submenu

@@ -75,6 +75,7 @@ QAction *MenuActions::make(const ActionRow &row)
     }
     action->setShortcut(QKeySequence(text(row.shortcut)));
     action->setCheckable(row.kind == ActionKind::Tick);
+    action->setAutoRepeat(row.kind == ActionKind::Repeats);
     return action;
 }
 

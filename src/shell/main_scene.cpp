@@ -3,10 +3,12 @@
 
 #include "shell/main_scene.h"
 
+#include "documents/documents.h"
 #include "documents/editor_view.h"
 #include "editor/editor.h"
 #include "editor/files/file_opening.h"
 #include "editor/files/file_saving.h"
+#include "language/error_codes.h"
 #include "platform/dialogs.h"
 #include "platform/status_line.h"
 #include "platform/tool_windows.h"
@@ -17,12 +19,20 @@
 #include "toolchain/compile/compilerhelp.h"
 #include "toolchain/cougar_tools.h"
 
+#include <QFileInfo>
+
 namespace zeph {
 
 namespace {
 
 /// The help topic on compiler errors.
 constexpr int errorsTopic = 410;
+
+bool isSameFile(const QString &one, const QString &other)
+{
+    const QString found = QFileInfo(one).canonicalFilePath();
+    return one == other || (!found.isEmpty() && found == QFileInfo(other).canonicalFilePath());
+}
 
 } // namespace
 
@@ -77,9 +87,17 @@ void MainScene::showHelpOnErrors()
     m_parts.help.showTopic(errorsTopic);
 }
 
-void MainScene::HighlightErrorLine(int line, const QString &errorText)
+void MainScene::HighlightErrorLine(const CompilerError &error)
 {
-    m_parts.editor.HighlightErrorLine(line, errorText);
+    const Document &document = m_parts.editor.documents().of(language::documentOfError(error.text));
+    if (isSameFile(document.path(), error.file().path)) {
+        m_parts.editor.HighlightErrorLine(error.line, error.text);
+        return;
+    }
+    const QString note = u" (in %1, which isn't open any more)"_s.arg(error.file().name);
+    if (!m_context.status.text().endsWith(note)) {
+        m_context.status.setText(m_context.status.text() + note);
+    }
 }
 
 void MainScene::ResetFocusToEditor()

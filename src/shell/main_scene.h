@@ -35,7 +35,7 @@ public:
     void minimiseToolWindows() override;
     void showCompilerHelp(const CompilerError &error) override;
     void showHelpOnErrors() override;
-    void HighlightErrorLine(int line, const QString &errorText) override;
+    void HighlightErrorLine(const CompilerError &error) override;
     void ResetFocusToEditor() override;
     void OpenPreviouslySavedFiles(const QString &path) override;
     void bringMainWindowBack() override;

@@ -204,7 +204,7 @@ TEST_F(HighlightingTest, ColouringBothLeavesTabSelectionCaretAndFocusWhereTheyWe
         QWidget *list = editor->findChild<QWidget *>(u"List1"_s);
         list->setFocus();
         ASSERT_EQ(editor->window()->focusWidget(), list);
-        editor->actions().trigger(u"mnuViewApplyColourBothFiles");
+        editor->action(u"mnuViewApplyColourBothFiles")->trigger();
         EXPECT_EQ(editor->selected().kind(), kind);
         EXPECT_EQ(editor->window()->focusWidget(), list);
         EXPECT_EQ(editor->joystick().cursor().anchor(), 5);

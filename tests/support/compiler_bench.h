@@ -37,9 +37,10 @@ public:
         shown = error;
     }
     void showHelpOnErrors() override { m_done += u"help on errors"_s; }
-    void HighlightErrorLine(int line, const QString &errorText) override
+    void HighlightErrorLine(const CompilerError &error) override
     {
-        m_done += u"highlight %1 %2"_s.arg(line).arg(errorText);
+        m_done += u"highlight %1 %2"_s.arg(error.line).arg(error.text);
+        shown = error;
     }
     void ResetFocusToEditor() override { m_done += u"focus"_s; }
     void OpenPreviouslySavedFiles(const QString &path) override

@@ -37,7 +37,8 @@ void AlignmentOperations::applySettings()
 
 void AlignmentOperations::mnuAlignSlash_Click()
 {
-    if (m_parts.view.documents().refuseProtected()) {
+    if (m_parts.view.documents().refuseProtected()
+        || m_parts.view.documents().refuseSent(DocumentKind::Joystick)) {
         return;
     }
     Document &joystick = m_parts.view.documents().joystick();

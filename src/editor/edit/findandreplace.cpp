@@ -262,7 +262,7 @@ Document &FindAndReplace::documentOf(const Page &page) const
 bool FindAndReplace::refuses(const Document &document)
 {
     if (document.kind() != DocumentKind::Macro || !m_parts.view.documents().isProtected()) {
-        return false;
+        return m_parts.view.documents().refuseSent(document.kind());
     }
     m_context.dialogs.box(fileProtectedBox());
     return true;

@@ -68,6 +68,9 @@ void FileNew::mnuFileNewMacro_Click()
 
 void FileNew::mnuFileNewBoth_Click()
 {
+    if (m_view.documents().refuseSent(DocumentKind::Joystick)) {
+        return;
+    }
     mnuFileNewJoystick_Click();
     mnuFileNewMacro_Click();
     m_context.status.setText(u"Done .... now what?"_s);

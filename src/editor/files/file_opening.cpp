@@ -74,6 +74,9 @@ void FileOpening::restoreKeyboard()
 
 bool FileOpening::mayReplace(DocumentKind kind, const QString &why, DocumentKind wanted)
 {
+    if (m_parts.view.documents().refuseSent(kind)) {
+        return false;
+    }
     Document &document = m_parts.view.documents().of(kind);
     if (!document.isModified()) {
         return true;
@@ -298,7 +301,8 @@ void FileOpening::offerToReload(const QStringList &overwritten)
         if (isUntitled(document.name()) || !isAmong(overwritten, document)) {
             continue;
         }
-        if (m_context.dialogs.box(reloadBox(document)) != BoxButton::Yes
+        if (view.documents().refuseSent(kind)
+            || m_context.dialogs.box(reloadBox(document)) != BoxButton::Yes
             || !loadOrTell(kind, document.path())) {
             document.setState(Document::Modified);
         }

@@ -122,6 +122,9 @@ void MacroOperations::ChangeMacroName(const QString &oldName, const QString &new
         m_context.dialogs.box(fileProtectedBox());
         return;
     }
+    if (m_parts.view.documents().refuseSent(DocumentKind::Joystick)) {
+        return;
+    }
     const int inJoystick = renameIn(DocumentKind::Joystick, oldName, newName);
     const int inMacro = renameIn(DocumentKind::Macro, oldName, newName);
     if (inMacro > 0) {

@@ -8,6 +8,8 @@
 
 namespace zeph {
 
+struct SentFiles;
+
 /// Checks the joystick file on the disk with the compiler, without sending it to the Cougar.
 class Compile
 {
@@ -21,7 +23,8 @@ private:
     bool canBegin();
     bool saveJoystick();
     bool macroFileMayDiffer();
-    void tellOutcome(const QString &path);
+    void compile();
+    void tellOutcome(const SentFiles &sent);
 
     Context m_context;
     ToolParts m_parts;

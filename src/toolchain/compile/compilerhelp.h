@@ -31,8 +31,8 @@ public:
     void ShowTheError(const CompilerError &error);
 
 Q_SIGNALS:
-    /// The user wants to see the line in the document.
-    void highlightRequested(int line, const QString &errorText);
+    /// The user wants to see the error's line in the document.
+    void highlightRequested(const zeph::CompilerError &error);
     /// The user wants the help topic on errors.
     void helpRequested();
 

@@ -5,6 +5,7 @@
 
 #include "documents/documents.h"
 #include "menus/menu_actions.h"
+#include "platform/status_line.h"
 #include "settings/settings.h"
 #include "settings/settings_files.h"
 #include "toolchain/default_options.h"
@@ -82,10 +83,15 @@ void DownloadMenu::DownloadArray1_Click(int index)
 
 void DownloadMenu::SaveDownloadMode()
 {
-    // A failure is not told: the ticks hold for this run all the same.
-    (void)saveSettings(m_context.settings, settingsFilesOf(m_context.paths),
-                       { &DefaultOptions::DownloadMode, &ToolchainSettings::NumlockDownloadMode,
-                         &ToolchainSettings::RunAppsWithDownload });
+    const auto saved =
+        saveSettings(m_context.settings, settingsFilesOf(m_context.paths),
+                     { &DefaultOptions::DownloadMode, &ToolchainSettings::NumlockDownloadMode,
+                       &ToolchainSettings::RunAppsWithDownload });
+    if (!saved) {
+        // No box: the ticks hold for this run all the same.
+        m_context.status.setText(u" Your choice holds until I end, but I couldn't keep it. "_s
+                                 + saved.error().path + u": "_s + saved.error().reason);
+    }
 }
 
 void DownloadMenu::applySettings()

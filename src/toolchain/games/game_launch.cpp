@@ -4,6 +4,7 @@
 #include "toolchain/games/game_launch.h"
 
 #include "documents/documents.h"
+#include "language/file_kinds.h"
 #include "platform/dialogs.h"
 #include "platform/process_launcher.h"
 #include "platform/status_line.h"
@@ -63,6 +64,12 @@ void GameLaunch::mnuGameArray_Click(int index)
 {
     // A launched game moves to the top of the list, so it is copied out before anything runs.
     const Game game = m_games.list().value(index - 1);
+    m_parts.handshake.commands().run(u"the launch of "_s + game.GameName,
+                                     [this, game] { launch(game); });
+}
+
+void GameLaunch::launch(const Game &game)
+{
     saveChanged();
     m_games.update(game);
     if (!prepare(game)) {
@@ -172,12 +179,14 @@ bool GameLaunch::tellVerdict(const QString &file)
     }
     m_parts.documents.select(DocumentKind::Joystick);
     m_context.status.setText(telling.panel);
+    SentFiles sent = sentFiles(m_parts.documents);
+    // The user may have kept the files that are open.
+    sent.joystick = { file, tabCaption(nameOf(file)) };
     if (telling.showHelp) {
-        m_parts.scene.showCompilerHelp(
-            errorOf(verdict, joystick.caption(), m_parts.documents.macro().caption()));
+        m_parts.scene.showCompilerHelp(errorOf(verdict, sent));
     }
     if (telling.highlightLine != 0) {
-        m_parts.scene.HighlightErrorLine(telling.highlightLine, verdict.ErrorCode);
+        m_parts.scene.HighlightErrorLine(errorOf(verdict, sent));
     }
     return false;
 }
