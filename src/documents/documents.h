@@ -44,7 +44,8 @@ public:
     /// Locks the macro text against changes by the user, or unlocks it.
     void setProtected(bool on);
     bool isProtected() const { return m_protected; }
-    /// Whether the selected text takes no changes. The user is told when it is the protected one.
+    /// Tells the user when the selected text is the protected one. True when it takes no changes,
+    /// for that reason or because it is locked.
     bool refuseProtected();
 
     /// Writes what a tool has made over the selection of the selected document, in its colours, as

@@ -14,6 +14,7 @@
 #include "platform/icon_file.h"
 #include <QHBoxLayout>
 #include <QPainter>
+#include <QSignalBlocker>
 #include <QTabBar>
 #include <QVBoxLayout>
 
@@ -114,7 +115,11 @@ void EditorView::connectDocument(Document &document)
 void EditorView::showSelected()
 {
     const Document &now = m_documents.selected();
+    const QSignalBlocker isSelectedAlready(m_tabs);
     m_tabs->setCurrentIndex(int(now.kind()));
+    // Before the other text is hidden: the toolkit would look for the next place of the focus.
+    selectedControl().show();
+    ResetFocusToEditor();
     if (m_tiled) {
         ShowBothFiles();
     } else {
@@ -123,7 +128,6 @@ void EditorView::showSelected()
     const bool isProtected = now.kind() == DocumentKind::Macro && m_documents.isProtected();
     m_context.status.setText(tabStatus(m_context.status.text(), now.caption(), isProtected));
     UpdateSavedIcon();
-    ResetFocusToEditor();
     m_context.status.setLine(now.caretLine());
 }
 
@@ -220,7 +224,7 @@ void EditorView::watch(QObject &filter)
 
 void EditorView::ResetFocusToEditor()
 {
-    selectedControl().setFocus();
+    selectedControl().takeFocus();
 }
 
 void EditorView::setTiled(bool tiled)

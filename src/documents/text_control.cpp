@@ -13,6 +13,7 @@
 #include "platform/richtext/rich_text_mime.h"
 
 #include <QPainter>
+#include <QScopedValueRollback>
 #include <QScrollBar>
 #include <QTextBlock>
 
@@ -84,7 +85,7 @@ void TextControl::setLook(ColorRef background, const CharFormat &plain)
 
 void TextControl::tellCaret()
 {
-    if (!m_marks) {
+    if (!m_marks && !m_shows) {
         m_text.follow(textCursor());
     }
 }
@@ -101,6 +102,7 @@ void TextControl::mark(int start, int length)
 void TextControl::showCaret()
 {
     m_marks = false;
+    const QScopedValueRollback shows(m_shows, true);
     setTextCursor(m_text.cursor());
 }
 
@@ -124,10 +126,18 @@ void TextControl::setLocked(bool on)
     }
 }
 
+void TextControl::takeFocus()
+{
+    const QScopedValueRollback takes(m_takesFocus, true);
+    setFocus();
+}
+
 void TextControl::focusInEvent(QFocusEvent *event)
 {
     QPlainTextEdit::focusInEvent(event);
-    Q_EMIT focused();
+    if (!m_takesFocus) {
+        Q_EMIT focused();
+    }
 }
 
 void TextControl::showLineNumbers(bool shown)
@@ -315,7 +325,8 @@ void TextControl::insertFromMimeData(const QMimeData *source)
     const QTextCursor selection = textCursor();
     const RichText pasted = pastedText(*source, m_text.plain());
     const int start = selection.selectionStart();
-    m_text.states().replace(start, selection.selectionEnd() - start, pasted);
+    m_text.states().replace(start, selection.selectionEnd() - start, pasted,
+                            DocumentStates::By::User);
     const int end = start + int(pasted.text.size());
     m_text.setCaret(end, end);
     m_text.setTypingLook(m_text.plain());

@@ -21,6 +21,7 @@ class EditingTools;
 class MenuActions;
 class EditorKeys;
 class EditorView;
+class EntryConditions;
 class FileNew;
 class FileOpening;
 class FileSaving;
@@ -86,20 +87,16 @@ public:
     void applySettings();
 
 Q_SIGNALS:
-    /// F1 was pressed on a selected word.
+    /// Help on a word is wanted: by F1 on a selected word, or by a quick tip.
     void helpOn(const QString &word);
     /// Shift+Break was pressed.
     void emergencyOff();
 
 private:
-    void connectFiles();
     void connectEditing();
     void connectOptions();
     void connectLooks();
-    void connectPainting();
     void connectMacros();
-    void updateConditions();
-    void updateDownloadCaption();
 
     Context m_context;
     std::unique_ptr<MenuActions> m_actions;
@@ -114,6 +111,7 @@ private:
     std::unique_ptr<TypingColour> m_typingColour;
     std::unique_ptr<EditingTools> m_editing;
     std::unique_ptr<UseDirectives> m_useDirectives;
+    std::unique_ptr<EntryConditions> m_conditions;
     std::unique_ptr<FileSaving> m_saving;
     std::unique_ptr<FileOpening> m_opening;
     std::unique_ptr<FileNew> m_fresh;

@@ -137,9 +137,9 @@ bool EditorKeys::keyPressed(const QKeyEvent &event, bool macroText)
     if (event.key() == Qt::Key_K && m_settings.DefaultToDX8KeyTester) {
         entry = u"mnuAppsDX8_0"_s;
     }
-    // Consumed even when the entry is disabled: on some desktops the toolkit would delete lines
-    // with these keys.
-    m_actions.trigger(entry);
+    // Taken even when the entry cannot be used: some desktops give these keys to the toolkit for
+    // deleting lines.
+    m_actions.action(entry)->trigger();
     return true;
 }
 
@@ -159,7 +159,7 @@ void EditorKeys::help()
     const Document &document = m_view.documents().selected();
     const QString word = document.text().mid(document.selStart(), document.selLength()).trimmed();
     if (word.isEmpty()) {
-        m_actions.trigger(u"mnuHelpContents");
+        m_actions.action(u"mnuHelpContents")->trigger();
     } else {
         Q_EMIT helpOn(word);
     }

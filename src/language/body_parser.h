@@ -41,7 +41,7 @@ private:
         int item = -1;
         Place place;
         Chain chain;
-        std::array<bool, 5> outFirst{};
+        std::array<bool, slashLevels> outFirst{};
         bool keys = false;
     };
 
@@ -74,7 +74,7 @@ private:
     std::vector<OpenBracket> m_open;
     Chain m_chain;
     /// For each link of the chain: whether the first S3 modifier of its level was /O.
-    std::array<bool, 5> m_outFirst{};
+    std::array<bool, slashLevels> m_outFirst{};
     bool m_branchOpen = false;
     bool m_inModifiers = false;
     bool m_complained = false;

@@ -128,12 +128,18 @@ DocumentKind documentOfError(QStringView errorText)
         : DocumentKind::Joystick;
 }
 
-QString errorCodesText()
+RichText errorCodesText()
 {
-    QString text;
+    CharFormat plain;
+    plain.family = u"Arial"_s;
+    plain.pointSize = 10;
+    CharFormat heading = plain;
+    heading.bold = true;
+    RichText text;
     for (const ErrorEntry &entry : table) {
-        text += u"%1: %2\n%3\n%4\n\n"_s.arg(errorHeading(entry.code), entry.title, entry.cause,
-                                            entry.cure);
+        text.append(
+            RichText::plain(u"%1: %2"_s.arg(errorHeading(entry.code), entry.title), heading));
+        text.append(RichText::plain(u"\n%1\n%2\n\n"_s.arg(entry.cause, entry.cure), plain));
     }
     return text;
 }

@@ -49,6 +49,8 @@ enum class ColourClass : quint8 { Plain, Btn, Slash, Raw, Miscellaneous, Rem, Pu
 
 /// The levels of slash modifiers, outermost first. A toggle may hold a press and a release.
 enum class SlashLevel : quint8 { None, Dogfight, S3, Toggle, Action, Repeat };
+/// The number of levels, None apart.
+constexpr size_t slashLevels = size_t(SlashLevel::Repeat);
 
 /// The arguments in the brackets after a word, separated by commas.
 enum class CallShape : quint8 {

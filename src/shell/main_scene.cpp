@@ -8,6 +8,7 @@
 #include "editor/files/file_opening.h"
 #include "editor/files/file_saving.h"
 #include "platform/dialogs.h"
+#include "platform/status_line.h"
 #include "platform/tool_windows.h"
 #include "shell/help_menu.h"
 #include "shell/main_status_bar.h"
@@ -30,6 +31,7 @@ MainScene::MainScene(const Context &context, const Parts &parts)
 {
     CougarTools &tools = parts.tools;
     tools.attach(parts.editor.actions(), parts.editor.documents(), *this, *this);
+    addCompilerHelp(parts.mum.toolWindows(), context, *this);
     connectStatusBar();
     connect(&parts.mum, &Mum::compileWanted, &tools,
             guarded(context.dialogs, [&tools] { tools.compile().mnuAppsCompile_Click(); }));
@@ -41,8 +43,8 @@ void MainScene::connectStatusBar()
 {
     CougarModes &modes = m_parts.tools.modes();
     MainStatusBar &bar = m_parts.mum.bar();
-    bar.setModeTooltip(modes.tooltip());
-    connect(&modes, &CougarModes::tooltipChanged, &bar, &MainStatusBar::setModeTooltip);
+    m_context.status.setModeTooltip(modes.tooltip());
+    connect(&modes, &CougarModes::tooltipChanged, &m_context.status, &StatusLine::setModeTooltip);
     connect(&bar, &MainStatusBar::modeTooltipWanted, &modes,
             guarded(m_context.dialogs, [&modes] { modes.UpdateStatusTooltip(); }));
     connect(&bar, &MainStatusBar::modePanelClicked, &modes,
@@ -65,21 +67,14 @@ void MainScene::minimiseToolWindows()
 void MainScene::showCompilerHelp(const CompilerError &error)
 {
     ToolWindows &windows = m_parts.mum.toolWindows();
-    auto *help =
-        windows.load<CompilerHelp>([this](QWidget *owner) { return makeCompilerHelp(owner); });
+    auto *help = windows.load<CompilerHelp>();
     help->ShowTheError(error);
     ToolWindows::raise(*help);
 }
 
-CompilerHelp *MainScene::makeCompilerHelp(QWidget *owner)
+void MainScene::showHelpOnErrors()
 {
-    auto *help = new CompilerHelp(m_context.paths.infoFolder() + u"Error codes.rtf"_s, owner);
-    connect(help, &CompilerHelp::highlightRequested, this,
-            guarded(m_context.dialogs,
-                    [this](int line, const QString &text) { HighlightErrorLine(line, text); }));
-    connect(help, &CompilerHelp::helpRequested, this,
-            guarded(m_context.dialogs, [this] { m_parts.help.showTopic(errorsTopic); }));
-    return help;
+    m_parts.help.showTopic(errorsTopic);
 }
 
 void MainScene::HighlightErrorLine(int line, const QString &errorText)

@@ -15,6 +15,7 @@
 #include "shell/main_status_bar.h"
 #include "shell/settings/shell_settings.h"
 
+#include <QAction>
 #include <QCloseEvent>
 #include <QMenuBar>
 #include <QScreen>
@@ -140,10 +141,12 @@ void Mum::pressAtEnd(int press)
         return;
     }
     MenuActions &actions = m_editor->actions();
-    actions.trigger(m_editor->selected().kind() == DocumentKind::Joystick ? u"mnuViewColourJoystick"
-                                                                          : u"mnuViewColourMacro");
-    actions.trigger(u"mnuFileSave");
-    actions.trigger(u"mnuMacrosIdentify");
+    actions
+        .action(m_editor->selected().kind() == DocumentKind::Joystick ? u"mnuViewColourJoystick"
+                                                                      : u"mnuViewColourMacro")
+        ->trigger();
+    actions.action(u"mnuFileSave")->trigger();
+    actions.action(u"mnuMacrosIdentify")->trigger();
 }
 
 void Mum::showStatusTip(const QString &tip)

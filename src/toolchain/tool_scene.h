@@ -20,6 +20,8 @@ public:
     virtual void minimiseToolWindows() = 0;
     /// Opens CompilerHelp without blocking, and explains the error in it.
     virtual void showCompilerHelp(const CompilerError &error) = 0;
+    /// Opens the help topic on the compiler's errors.
+    virtual void showHelpOnErrors() = 0;
     /// Selects the line (1-based) of an error; the error text's code decides the document. A line
     /// that does not exist is told.
     virtual void HighlightErrorLine(int line, const QString &errorText) = 0;

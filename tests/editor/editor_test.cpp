@@ -428,15 +428,6 @@ TEST_F(EditorWindowTest, CompileIsOfferedOnTheJoystickTabOnlyUnlessAlwaysShown)
     EXPECT_TRUE(editor->action(u"mnuAppsCompile")->isEnabled());
 }
 
-TEST_F(EditorWindowTest, TheDownloadEntryNamesTheJoystickFileOfTheCougarsOwnKind)
-{
-    editor->opening().OpenFavouriteFile(file(u"FALCON.TMJ"_s, "BTN"));
-    tabs()->setCurrentIndex(1);
-    EXPECT_EQ(editor->action(u"DownloadArray1_0")->text(), u"&Download FALCON.tmj");
-    editor->opening().OpenFavouriteFile(file(u"old.f22"_s, "BTN"));
-    EXPECT_EQ(editor->action(u"DownloadArray1_0")->text(), u"&Download joystick file");
-}
-
 TEST_F(EditorWindowTest, AnErrorLineOfTheJoystickFileIsSelected)
 {
     type(DocumentKind::Joystick, u"one\ntwo\nthree"_s);

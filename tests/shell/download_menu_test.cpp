@@ -7,6 +7,7 @@
 #include "documents/text_control.h"
 #include "editor/editor.h"
 #include "editor/editor_settings.h"
+#include "editor/files/file_opening.h"
 #include "editor/right_menu.h"
 #include "menus/menu_actions.h"
 #include "platform/core/profile_file.h"
@@ -107,6 +108,16 @@ TEST_F(DownloadMenuTest, TheEntriesShowWhatTheSettingsSay)
     EXPECT_EQ(entry(0)->shortcut(), QKeySequence(Qt::Key_F12));
 }
 
+TEST_F(DownloadMenuTest, TheFirstEntryNamesTheJoystickFileOfTheCougarsOwnKind)
+{
+    show();
+    editor->opening().OpenFavouriteFile(folder.write(u"Files/FALCON.TMJ"_s, "BTN"));
+    editor->documents().select(DocumentKind::Macro);
+    EXPECT_EQ(entry(0)->text(), u"&Download FALCON.tmj");
+    editor->opening().OpenFavouriteFile(folder.write(u"Files/old.f22"_s, "BTN"));
+    EXPECT_EQ(entry(0)->text(), u"&Download joystick file");
+}
+
 TEST_F(DownloadMenuTest, WithoutProgrammedModeTheKeyTesterCannotBeChosen)
 {
     settings.of<DefaultOptions>().DownloadMode = false;
@@ -175,9 +186,9 @@ TEST_F(DownloadMenuTest, ALockedTextRefusesWhatMenusAndToolsWouldChange)
     launcher.onStart = [this](const Launch &) {
         QTimer::singleShot(0, control(), [this] {
             control()->selectAll();
-            editor->actions().trigger(u"mnuEditCut");
-            editor->actions().trigger(u"mnuEditPaste");
-            editor->actions().trigger(u"mnuBlockREM");
+            editor->actions().action(u"mnuEditCut")->trigger();
+            editor->actions().action(u"mnuEditPaste")->trigger();
+            editor->actions().action(u"mnuBlockREM")->trigger();
             EXPECT_EQ(control()->shown().text(), u"BTN S1 a");
             EXPECT_TRUE(hotasIni().write({ u"Compiler"_s, u"Status"_s, verdict }));
         });

@@ -66,7 +66,7 @@ TEST_F(Exit, AFileThatIsGoneIsNotRestored)
 
 TEST_F(Exit, TheMenusItemClosesTheMainWindow)
 {
-    app->editor().actions().trigger(u"mnuFileExit");
+    app->editor().actions().action(u"mnuFileExit")->trigger();
     EXPECT_FALSE(app->mum().isVisible());
 }
 

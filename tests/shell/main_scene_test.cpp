@@ -75,7 +75,11 @@ protected:
         }
         return sent;
     }
-    void press(QStringView entry) const { ASSERT_TRUE(app->editor().actions().trigger(entry)); }
+    void press(QStringView entry) const
+    {
+        ASSERT_TRUE(app->editor().actions().action(entry)->isEnabled());
+        app->editor().actions().action(entry)->trigger();
+    }
 
     MainStatusBar *bar = nullptr;
     QTimer *timer = nullptr;

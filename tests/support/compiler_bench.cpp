@@ -86,8 +86,11 @@ void CompilerBench::noteSignals()
 {
     QObject::connect(&joystick, &Document::lockedChanged, &joystick,
                      [this](bool locked) { done += locked ? u"lock"_s : u"unlock"_s; });
-    QObject::connect(&status, &StatusLine::modePictureChanged, &status,
-                     [this] { done += u"mode"_s; });
+    QObject::connect(&status, &StatusLine::changed, &status, [this](StatusPanel panel) {
+        if (panel == StatusPanel::Mode) {
+            done += u"mode"_s;
+        }
+    });
     QObject::connect(actions.action(u"mnuAppsKeyTester"), &QAction::triggered, &joystick,
                      [this] { done += u"tester"_s; });
 }

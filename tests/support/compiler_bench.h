@@ -36,6 +36,7 @@ public:
         m_done += u"help "_s + error.text;
         shown = error;
     }
+    void showHelpOnErrors() override { m_done += u"help on errors"_s; }
     void HighlightErrorLine(int line, const QString &errorText) override
     {
         m_done += u"highlight %1 %2"_s.arg(line).arg(errorText);

@@ -54,7 +54,8 @@ protected:
     QString templates(const QString &name) const { return folder.path() + u"/Templates/"_s + name; }
     void press(QStringView name)
     {
-        EXPECT_TRUE(form->actions().trigger(name)) << name.toString().toStdString();
+        EXPECT_TRUE(form->actions().action(name)->isEnabled()) << name.toString().toStdString();
+        form->actions().action(name)->trigger();
     }
     bool isChecked(QStringView name) { return form->actions().action(name)->isChecked(); }
     QString combo(const QString &name) { return form->findChild<QComboBox *>(name)->currentText(); }

@@ -6,7 +6,7 @@
 #include "documents/document.h"
 #include "documents/editor_texts.h"
 #include "documents/editor_view.h"
-#include "documents/line_blink.h"
+#include "documents/show_line.h"
 #include "platform/core/text_search.h"
 #include "platform/dialogs.h"
 #include "platform/status_line.h"

@@ -257,10 +257,8 @@ void MacroList::mnuViewMacros_Click()
 
 void MacroList::show()
 {
-    QAction *view = m_parts.actions.action(u"mnuViewMacros");
-    if (!view->isChecked()) {
-        view->trigger();
-    }
+    m_parts.actions.action(u"mnuViewMacros")->setChecked(true);
+    m_frame->show();
 }
 
 void MacroList::storeWidth(int width)
@@ -291,7 +289,7 @@ std::unique_ptr<QMenu> MacroListMenu::build()
     };
     const auto entryOf = [this](const char16_t *name) {
         return [this, name] {
-            m_actions.trigger(QStringView(name));
+            m_actions.action(QStringView(name))->trigger();
         };
     };
     add(u"mnuRHListInsert"_s, u"&Insert into Joystick file"_s, [this] { m_list.List1_DblClick(); });

@@ -108,7 +108,6 @@ private:
     QString m_listSelection;
 };
 
-class MenuActions;
 class MacroList;
 
 /// The pop-up menu of the macro list.

@@ -20,6 +20,7 @@
 #include "toolchain/tool_scene.h"
 #include "toolchain/toolchain_settings.h"
 
+#include <QAction>
 #include <utility>
 
 namespace zeph {
@@ -46,7 +47,7 @@ public:
             download->m_parts.documents.joystick().setLocked(false);
         }
     }
-    /// The program ends: there is no text to release any more.
+    /// Lets go of a text that is gone, when the program ends: there is nothing to release any more.
     void forget() { m_download = nullptr; }
 
 private:
@@ -181,9 +182,10 @@ void Download::succeed(TextLock &lock)
 /// Opens the Key Tester, or the tester that the user prefers.
 void Download::openKeyTester()
 {
-    m_parts.actions.trigger(m_context.settings.of<SharedSettings>().DefaultToDX8KeyTester
-                                ? u"mnuAppsDX8_0"
-                                : u"mnuAppsKeyTester");
+    m_parts.actions
+        .action(m_context.settings.of<SharedSettings>().DefaultToDX8KeyTester ? u"mnuAppsDX8_0"
+                                                                              : u"mnuAppsKeyTester")
+        ->trigger();
 }
 
 void Download::fail(const VerdictTelling &telling, const CompilerVerdict &verdict, TextLock &lock)

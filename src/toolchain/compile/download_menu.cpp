@@ -3,6 +3,7 @@
 
 #include "toolchain/compile/download_menu.h"
 
+#include "documents/documents.h"
 #include "menus/menu_actions.h"
 #include "settings/settings.h"
 #include "settings/settings_files.h"
@@ -37,12 +38,23 @@ QString nameOf(int entry)
 } // namespace
 
 DownloadMenu::DownloadMenu(const Context &context, const ToolParts &parts)
-    : m_context(context), m_actions(parts.actions), m_download(context, parts)
+    : m_context(context), m_joystick(parts.documents.joystick()), m_actions(parts.actions),
+      m_download(context, parts)
 {
     for (int i = DownloadFile; i <= IgnoreRunApp; ++i) {
         m_actions.connectTo(nameOf(i), [this, i] { DownloadArray1_Click(i); });
     }
     applySettings();
+    connect(&parts.documents, &Documents::selectedChanged, this, &DownloadMenu::nameTheFile);
+    connect(&m_joystick, &Document::replaced, this, &DownloadMenu::nameTheFile);
+}
+
+void DownloadMenu::nameTheFile()
+{
+    // Only a file of the Cougar's own kind goes to it; the others keep the plain words.
+    const bool named = lastThree(m_joystick.name()) == extensionOf(DocumentKind::Joystick);
+    const QString what = named ? captionOf(m_joystick.caption()) : u"joystick file"_s;
+    m_actions.action(nameOf(DownloadFile))->setText(u"&Download "_s + what);
 }
 
 void DownloadMenu::DownloadArray1_Click(int index)

@@ -103,7 +103,8 @@ bool Profiles::ApplyDefaultProfile(const QString &name, CalibrationRequest calib
     return true;
 }
 
-/// Whether the profile is in the tools' folder; a missing one is told.
+/// Looks for the profile in the tools' folder and tells the user when it is missing. True when it
+/// is there.
 bool Profiles::isThere(const QString &name)
 {
     if (fileExists(profilesFolder(m_context.paths) + name + profileExtension.toString())) {

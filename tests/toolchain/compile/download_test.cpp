@@ -312,8 +312,11 @@ TEST_F(DownloadTest, OverTwoSecondsTheStatusWindowShowsAndClosesAtTheEnd)
     };
     settings.of<ToolchainSettings>().HOTASStatusBarErrors = true;
     bool shownAtTheMode = true;
-    QObject::connect(&status, &StatusLine::modePictureChanged, &status,
-                     [&] { shownAtTheMode = handshake->StatusWindowShown(); });
+    QObject::connect(&status, &StatusLine::changed, &status, [&](StatusPanel panel) {
+        if (panel == StatusPanel::Mode) {
+            shownAtTheMode = handshake->StatusWindowShown();
+        }
+    });
     download();
     EXPECT_TRUE(shown);
     EXPECT_FALSE(shownAtTheMode) << "it closes before the mode is shown";
