@@ -45,6 +45,11 @@ void StatusLine::setSaved(int picture, const QString &tooltip)
     setContents(StatusPanel::Saved, { .picture = picture, .tooltip = tooltip });
 }
 
+void StatusLine::setOtherSaved(int picture, const QString &tooltip)
+{
+    setContents(StatusPanel::OtherSaved, { .picture = picture, .tooltip = tooltip });
+}
+
 void StatusLine::setModePicture(int picture)
 {
     setContents(StatusPanel::Mode,

@@ -12,12 +12,13 @@
 namespace zeph {
 
 /// The panels of the main window's status bar from left to right.
-enum class StatusPanel { Message, Mode, Line, Saved };
+enum class StatusPanel { Message, Mode, Line, Saved, OtherSaved };
 
 /// What a panel shows.
 struct StatusContents {
     QString text = {};
-    /// One of the panel's pictures, from 1; a panel without pictures shows its text.
+    /// One of the panel's pictures, from 1; a panel without pictures shows its text. A panel of
+    /// pictures is hidden at 0.
     int picture = 0;
     QString tooltip = {};
 
@@ -53,6 +54,8 @@ public:
     int savedPicture() const { return contents(StatusPanel::Saved).picture; }
     const QString &savedTooltip() const { return contents(StatusPanel::Saved).tooltip; }
     void setSaved(int picture, const QString &tooltip);
+    /// The same for the document that is shown beside the selected one; 0 when none is.
+    void setOtherSaved(int picture, const QString &tooltip);
 
     /// The Cougar's mode picture: 1 selector off, 2 Windows mode, 3 Programmed mode, 4 unknown.
     int modePicture() const { return contents(StatusPanel::Mode).picture; }
@@ -67,11 +70,12 @@ Q_SIGNALS:
     void repaintWanted();
 
 private:
-    std::array<StatusContents, 4> m_panels{ {
+    std::array<StatusContents, 5> m_panels{ {
         {},
         { .picture = 1, .tooltip = u"Cougar mode selector is off"_s },
         {},
         { .picture = 1 },
+        {},
     } };
 };
 

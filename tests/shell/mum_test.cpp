@@ -390,6 +390,20 @@ TEST_F(MainWindow, TheTitleNamesTheSelectedFileAndMarksItsChanges)
     EXPECT_EQ(mum->windowTitle(), u"Untitled.tmm[*] - Zeph - secondary window");
 }
 
+TEST_F(MainWindow, AKeyGoesToTheMacroListAndBack)
+{
+    mum->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(mum.get()));
+    QWidget *text = &editor->view().control(DocumentKind::Joystick);
+    QWidget *list = editor->findChild<QWidget *>(u"List1"_s);
+    text->setFocus();
+    QTest::keyClick(text, Qt::Key_M, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_TRUE(list->hasFocus());
+    QTest::keyClick(list, Qt::Key_M, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_TRUE(text->hasFocus());
+    EXPECT_EQ(editor->joystickText(), QString());
+}
+
 TEST(MumTitle, ANameThatHoldsTheToolkitsMarkKeepsIt)
 {
     EXPECT_EQ(mumTitle(u"a[*].tmj"_s, false), u"a[*][*].tmj[*] - Zeph");
