@@ -44,7 +44,8 @@ public:
     /// Locks the macro text against changes by the user, or unlocks it.
     void setProtected(bool on);
     bool isProtected() const { return m_protected; }
-    /// Whether the selected text takes no changes, which the user is told.
+    /// Tells the user when the selected text is the protected one. True when it takes no changes,
+    /// for that reason or because it is locked.
     bool refuseProtected();
     /// Whether the text is on its way to the Cougar and must neither change nor be replaced
     /// meanwhile, which the status line tells.

@@ -89,6 +89,11 @@ constexpr std::array actions = {
     ActionRow{u"mnuEdit", u"mnuBlockREM", u"Comment the lines &out with Rem", u"", u"Puts Rem before the selected lines", u"", Always, Entry},
     ActionRow{u"mnuEdit", u"mnuBlockRemoveREM", u"Remove Rem from the li&nes", u"", u"Takes Rem away from the selected lines", u"", Always, Entry},
 
+    ActionRow{u"mnuView", u"mnuViewJoystickFile", u"Joystick &file", u"", u"Goes to the joystick file", u"", Always, Tick},
+    ActionRow{u"mnuView", u"mnuViewMacroFile", u"Macro fil&e", u"", u"Goes to the macro file", u"", Always, Tick},
+    ActionRow{u"mnuView", u"mnuViewOtherFile", u"The ot&her file", u"Ctrl+Tab", u"Goes from one file to the other", u"", Always, Repeats},
+    ActionRow{u"mnuView", u"mnuViewGoToMacros", u"&Go to the macro list and back", u"Ctrl+Shift+M", u"Gives the keys to the macro list, and back to the text", u"", Always, Entry},
+    separator(u"mnuView"),
     ActionRow{u"mnuView", u"mnuViewTileVertically", u"&Tile files vertically", u"", u"Shows both files side by side", u"tile", Always, Tick},
     ActionRow{u"mnuView", u"mnuViewMacros", u"View &Macro list", u"", u"Shows or hides the macro list", u"macros-view", Always, Tick},
     ActionRow{u"mnuView", u"mnuViewLineNumbers", u"Line &numbers", u"", u"Numbers the lines at the left of the texts", u"", Always, Tick},

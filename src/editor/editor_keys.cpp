@@ -172,8 +172,8 @@ bool EditorKeys::keyPressed(const QKeyEvent &event, bool macroText)
     }
     // Consumed even when the entry is disabled: on some desktops the toolkit would delete lines
     // with these keys.
-    if (!heldDown || m_actions.action(entry)->autoRepeat()) {
-        m_actions.trigger(entry);
+    if (QAction *action = m_actions.action(entry); !heldDown || action->autoRepeat()) {
+        action->trigger();
     }
     return true;
 }
@@ -194,7 +194,7 @@ void EditorKeys::help()
     const Document &document = m_view.documents().selected();
     const QString word = document.text().mid(document.selStart(), document.selLength()).trimmed();
     if (word.isEmpty()) {
-        m_actions.trigger(u"mnuHelpContents");
+        m_actions.action(u"mnuHelpContents")->trigger();
     } else {
         Q_EMIT helpOn(word);
     }

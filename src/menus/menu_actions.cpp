@@ -137,16 +137,6 @@ void MenuActions::connectArray(const QString &name, std::function<void(int)> ope
     }
 }
 
-bool MenuActions::trigger(QStringView name)
-{
-    QAction *found = action(name);
-    if (!found->isEnabled()) {
-        return false;
-    }
-    found->trigger();
-    return true;
-}
-
 void MenuActions::setCondition(When when, bool holds)
 {
     m_holding.removeAll(when);

@@ -128,8 +128,11 @@ BoxButton QtDialogs::box(const Box &box)
     window.setTextFormat(Qt::PlainText);
     window.setText(box.text);
     window.setIcon(standardIcon(box.icon));
-    for (const BoxButton button : box.buttons) {
-        window.addButton(standardButton(button));
+    for (qsizetype i = 0; i < box.buttons.size(); ++i) {
+        QPushButton *button = window.addButton(standardButton(box.buttons[i]));
+        if (i < box.captions.size()) {
+            button->setText(box.captions[i]);
+        }
     }
     window.setDefaultButton(standardButton(box.defaultButton));
     const BoxButton escape = escapeButton(box);
@@ -224,6 +227,7 @@ std::optional<CharFormat> QtDialogs::chooseFont(const CharFormat &start)
     font.setBold(start.bold);
     font.setItalic(start.italic);
     font.setUnderline(start.underline);
+    font.setStrikeOut(start.strike);
     QFontDialog dialog(font, parentNow());
     if (dialog.exec() != QDialog::Accepted) {
         return std::nullopt;
@@ -234,7 +238,8 @@ std::optional<CharFormat> QtDialogs::chooseFont(const CharFormat &start)
                        .bold = font.bold(),
                        .italic = font.italic(),
                        .underline = font.underline(),
-                       .colour = start.colour };
+                       .colour = start.colour,
+                       .strike = font.strikeOut() };
 }
 
 std::optional<qsizetype> QtDialogs::chooseFromList(const QString &title, const QStringList &lines)

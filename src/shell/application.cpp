@@ -138,7 +138,7 @@ bool Application::chooseInstance()
 void Application::placeMum()
 {
     if (m_instance.isFurther()) {
-        m_mum->setWindowTitle(u"Zeph - secondary window"_s);
+        m_mum->setFurther();
     }
     tellOnce(GetMumPosition(m_settings, files()));
     m_mum->setPlace(mumPlace(m_settings.of<ShellSettings>()));

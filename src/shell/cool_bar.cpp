@@ -31,7 +31,8 @@ QString text(const char16_t *characters)
     return QString::fromUtf16(characters);
 }
 
-/// Whether a button's tooltip follows its entry's: undo and redo name their next step.
+/// Whether a button's tooltip is that of its entry: undo and redo show how many steps they have
+/// left.
 bool saysSteps(const ToolButtonRow &row)
 {
     const QString name = text(row.look.action);

@@ -41,6 +41,7 @@ MainScene::MainScene(const Context &context, const Parts &parts)
 {
     CougarTools &tools = parts.tools;
     tools.attach(parts.editor.actions(), parts.editor.documents(), *this, *this);
+    addCompilerHelp(parts.mum.toolWindows(), context, *this);
     connectStatusBar();
     connect(&parts.mum, &Mum::compileWanted, &tools,
             guarded(context.dialogs, [&tools] { tools.compile().mnuAppsCompile_Click(); }));
@@ -52,8 +53,8 @@ void MainScene::connectStatusBar()
 {
     CougarModes &modes = m_parts.tools.modes();
     MainStatusBar &bar = m_parts.mum.bar();
-    bar.setModeTooltip(modes.tooltip());
-    connect(&modes, &CougarModes::tooltipChanged, &bar, &MainStatusBar::setModeTooltip);
+    m_context.status.setModeTooltip(modes.tooltip());
+    connect(&modes, &CougarModes::tooltipChanged, &m_context.status, &StatusLine::setModeTooltip);
     connect(&bar, &MainStatusBar::modeTooltipWanted, &modes,
             guarded(m_context.dialogs, [&modes] { modes.UpdateStatusTooltip(); }));
     connect(&bar, &MainStatusBar::modePanelClicked, &modes,
@@ -76,21 +77,14 @@ void MainScene::minimiseToolWindows()
 void MainScene::showCompilerHelp(const CompilerError &error)
 {
     ToolWindows &windows = m_parts.mum.toolWindows();
-    auto *help =
-        windows.load<CompilerHelp>([this](QWidget *owner) { return makeCompilerHelp(owner); });
+    auto *help = windows.load<CompilerHelp>();
     help->ShowTheError(error);
     ToolWindows::raise(*help);
 }
 
-CompilerHelp *MainScene::makeCompilerHelp(QWidget *owner)
+void MainScene::showHelpOnErrors()
 {
-    auto *help = new CompilerHelp(m_context.paths.infoFolder() + u"Error codes.rtf"_s, owner);
-    connect(help, &CompilerHelp::highlightRequested, this,
-            guarded(m_context.dialogs,
-                    [this](const CompilerError &error) { HighlightErrorLine(error); }));
-    connect(help, &CompilerHelp::helpRequested, this,
-            guarded(m_context.dialogs, [this] { m_parts.help.showTopic(errorsTopic); }));
-    return help;
+    m_parts.help.showTopic(errorsTopic);
 }
 
 void MainScene::HighlightErrorLine(const CompilerError &error)

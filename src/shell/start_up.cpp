@@ -11,6 +11,7 @@
 #include "menus/menu_actions.h"
 #include "platform/core/paths.h"
 
+#include <QAction>
 #include <QFileInfo>
 
 namespace zeph {
@@ -37,7 +38,7 @@ bool openRestored(Editor &editor, const EditorSettings &settings)
     }
     editor.opening().OpenRestoredStatus(joystick, macro);
     if (!joystick.isEmpty() && !macro.isEmpty()) {
-        editor.actions().trigger(u"mnuMacrosIdentify");
+        editor.actions().action(u"mnuMacrosIdentify")->trigger();
     }
     return true;
 }

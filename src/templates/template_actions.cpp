@@ -55,6 +55,7 @@ constexpr std::array actions = {
     ActionRow{u"mnuFormat", u"mnuFormatArray1_0", u"&Bold", u"Ctrl+B", u"Bold text", u"bold", Always, Tick},
     ActionRow{u"mnuFormat", u"mnuFormatArray1_1", u"&Italic", u"Ctrl+I", u"Italic text", u"italic", Always, Tick},
     ActionRow{u"mnuFormat", u"mnuFormatArray1_2", u"&Underline", u"Ctrl+U", u"Underlined text", u"underline", Always, Tick},
+    ActionRow{u"mnuFormat", u"mnuFormatArray1_3", u"Stri&ke out", u"", u"Text with a line through it", u"", Always, Tick},
     separator(u"mnuFormat"),
     ActionRow{u"mnuFormat", u"mnuFormatBullets", u"Bu&llets", u"Ctrl+Shift+L", u"A bullet before each of the selected paragraphs", u"bullets", Always, Tick},
     separator(u"mnuFormat"),

@@ -49,8 +49,8 @@ public:
 
     /// Starts the control panel, one of its pages, or a viewer, by the menu's index (0 to 5).
     void MnuDiagArray_Click(int index);
-    /// By index: 0 empties the buffers, 1 clears the memory, 2 resets the Cougar after a question,
-    /// 3 starts HOTAS Cleanse, 4 has the mode reported.
+    /// Empties the buffers (0), clears the memory (1), resets the Cougar after a question (2),
+    /// starts HOTAS Cleanse (3) or has the mode reported (4).
     void mnuMemoryClear_Click(int index);
     /// Starts the update of the firmware.
     void mnuFlashUpgrade_Click();

@@ -92,7 +92,7 @@ ExchangeEnd ToolchainHandshake::run(Channel &channel, const Clear &clear, const 
     return wait(channel);
 }
 
-/// Whether the step succeeded; a failure is told.
+/// Tells a failure. True when there is none.
 bool ToolchainHandshake::succeeded(const Expected<void, QString> &result)
 {
     if (!result) {

@@ -20,6 +20,8 @@ public:
     virtual void minimiseToolWindows() = 0;
     /// Opens CompilerHelp without blocking, and explains the error in it.
     virtual void showCompilerHelp(const CompilerError &error) = 0;
+    /// Opens the help topic on the compiler's errors.
+    virtual void showHelpOnErrors() = 0;
     /// Selects the line of an error in its document. A line that does not exist is told, and so is
     /// a file that is not open any more.
     virtual void HighlightErrorLine(const CompilerError &error) = 0;

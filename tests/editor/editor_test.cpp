@@ -10,7 +10,7 @@
 #include "editor/right_menu.h"
 #include "menus/menu_actions.h"
 #include "settings/shared_settings.h"
-#include "tests/documents/editor_fixture.h"
+#include "tests/support/editor_fixture.h"
 
 #include <QAction>
 #include <QClipboard>
@@ -445,15 +445,6 @@ TEST_F(EditorWindowTest, CompileIsOfferedOnTheJoystickTabOnlyUnlessAlwaysShown)
     settings.of<EditorSettings>().AlwaysShowCompileDownload = true;
     editor->applySettings();
     EXPECT_TRUE(editor->action(u"mnuAppsCompile")->isEnabled());
-}
-
-TEST_F(EditorWindowTest, TheDownloadEntryNamesTheJoystickFileOfTheCougarsOwnKind)
-{
-    editor->opening().OpenFavouriteFile(file(u"FALCON.TMJ"_s, "BTN"));
-    tabs()->setCurrentIndex(1);
-    EXPECT_EQ(editor->action(u"DownloadArray1_0")->text(), u"&Download FALCON.tmj");
-    editor->opening().OpenFavouriteFile(file(u"old.f22"_s, "BTN"));
-    EXPECT_EQ(editor->action(u"DownloadArray1_0")->text(), u"&Download joystick file");
 }
 
 TEST_F(EditorWindowTest, AnErrorLineOfTheJoystickFileIsSelected)

@@ -124,9 +124,12 @@ TEST_F(MenuActionsTest, AnArraysOperationReceivesTheIndexFromItsName)
     on.connectArray(u"mnuFlap"_s, [this](int i) { ran.append(u"flap %1"_s.arg(i)); });
     on.connectArray(u"mnuSlats"_s, [this](int i) { ran.append(u"slats %1"_s.arg(i)); });
     on.setCondition(plane::PlaneWhen::OnGround, true);
-    EXPECT_TRUE(on.trigger(u"mnuFlap_1"));
-    EXPECT_TRUE(on.trigger(u"mnuSlats_1"));
-    EXPECT_TRUE(on.trigger(u"mnuFlap_0"));
+    EXPECT_TRUE(on.action(u"mnuFlap_1")->isEnabled());
+    on.action(u"mnuFlap_1")->trigger();
+    EXPECT_TRUE(on.action(u"mnuSlats_1")->isEnabled());
+    on.action(u"mnuSlats_1")->trigger();
+    EXPECT_TRUE(on.action(u"mnuFlap_0")->isEnabled());
+    on.action(u"mnuFlap_0")->trigger();
     EXPECT_EQ(ran, QStringList({ u"flap 1"_s, u"slats 1"_s, u"flap 0"_s }));
 }
 
@@ -147,7 +150,7 @@ TEST_F(MenuActionsTest, TickOnlyTicksOneOfAnArrayOrNone)
 TEST_F(MenuActionsTest, WhatAnOperationThrowsIsTold)
 {
     on.connectTo(u"mnuEject", [] { throw std::runtime_error("canopy"); });
-    on.trigger(u"mnuEject");
+    on.action(u"mnuEject")->trigger();
     ASSERT_EQ(dialogs.boxes().size(), 1);
     EXPECT_TRUE(dialogs.boxes().first().text.contains(u"canopy"));
 }
@@ -168,15 +171,15 @@ TEST_F(MenuActionsTest, AnEntryOpensItsToolWindowUnlessThatRefuses)
     ToolEntries{ on, windows }.add<Hangar>(
         u"mnuEject", [](QWidget *owner) { return new Hangar(owner, Qt::Window); }, &Hangar::open);
     Hangar::isOpen = false;
-    on.trigger(u"mnuEject");
+    on.action(u"mnuEject")->trigger();
     EXPECT_EQ(windows.get<Hangar>(), nullptr);
     Hangar::isOpen = true;
-    on.trigger(u"mnuEject");
+    on.action(u"mnuEject")->trigger();
     Hangar *first = windows.get<Hangar>();
     ASSERT_NE(first, nullptr);
     EXPECT_TRUE(first->isVisible());
     // Only a new window is asked.
     Hangar::isOpen = false;
-    on.trigger(u"mnuEject");
+    on.action(u"mnuEject")->trigger();
     EXPECT_EQ(windows.get<Hangar>(), first);
 }

@@ -237,7 +237,7 @@ TEST_F(ProgramDownload, TheFirstOneByAStandInTellsThatNothingReachedAStickUntilT
     program.write(u"Zeph.ini"_s,
                   program.read(u"Zeph.ini"_s).replace("TellStandIn=0", "TellStandIn=1"));
     const QStringList told = { u"box Nothing reached your stick"_s, u"press OK"_s };
-    run(QStringList{ u"text Panel_StandIns Stand-in tools"_s, download } + accept + told
+    run(QStringList{ u"text Panel_6 Stand-in tools"_s, download } + accept + told
         + QStringList{ u"done"_s, download } + accept + QStringList{ u"close"_s });
     run(QStringList{ download } + accept
         + QStringList{ u"box Nothing reached your stick"_s, u"flip Tick"_s, u"press OK"_s,

@@ -19,7 +19,7 @@
 #include "shell/mum.h"
 #include "shell/settings/shell_settings.h"
 #include "shell/welcome.h"
-#include "tests/shell/shell_world.h"
+#include "tests/support/shell_world.h"
 #include "toolchain/toolchain_settings.h"
 
 #include <QAbstractButton>
@@ -103,12 +103,6 @@ struct Start : test::ShellWorld {
         return ProfileFile(paths.iniPath).text(section, key, u"(absent)"_s);
     }
     QString title() const { return app->mum().windowTitle(); }
-
-    void TearDown() override
-    {
-        app.reset();
-        ShellWorld::TearDown();
-    }
 };
 
 const QByteArray favourite = "[Favourites]\r\nFavArrayNum=1\r\nFavLoadOnStart=1\r\n"
@@ -482,7 +476,7 @@ TEST_F(Start, AFurtherInstanceShowsSoAndWorksOnItsOwnStore)
     const InstanceLock first(folder.path());
     ASSERT_TRUE(first.isFirst());
     ASSERT_TRUE(start());
-    EXPECT_EQ(title(), u"Zeph - secondary window");
+    EXPECT_EQ(title(), u"Untitled.tmj[*] - Zeph - secondary window");
     EXPECT_TRUE(folder.exists(u"Zeph.2"_s));
     app->mum().close();
     EXPECT_FALSE(folder.exists(u"Zeph.2"_s));
@@ -493,7 +487,7 @@ TEST_F(Start, TheFirstInstanceClearsWhatCrashedOnesLeft)
     writeStore();
     folder.write(u"Zeph.2"_s, "left behind");
     ASSERT_TRUE(start());
-    EXPECT_EQ(title(), u"Zeph");
+    EXPECT_EQ(title(), u"Untitled.tmj[*] - Zeph");
     EXPECT_FALSE(folder.exists(u"Zeph.2"_s));
 }
 

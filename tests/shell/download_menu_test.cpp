@@ -16,7 +16,7 @@
 #include "shell/help_menu.h"
 #include "shell/main_scene.h"
 #include "shell/mum.h"
-#include "tests/shell/shell_world.h"
+#include "tests/support/shell_world.h"
 #include "toolchain/cougar_tools.h"
 #include "toolchain/default_options.h"
 #include "toolchain/tool_presence.h"
@@ -56,11 +56,6 @@ struct DownloadMenuTest : test::ShellWorld {
             EXPECT_TRUE(hotasIni().write({ u"Compiler"_s, u"Status"_s, verdict }));
             return Expected<void, QString>();
         };
-    }
-    void TearDown() override
-    {
-        mum.reset();
-        ShellWorld::TearDown();
     }
     void show()
     {
@@ -117,6 +112,16 @@ TEST_F(DownloadMenuTest, TheEntriesShowWhatTheSettingsSay)
     EXPECT_TRUE(entry(3)->isChecked());
     EXPECT_FALSE(entry(4)->isChecked());
     EXPECT_EQ(entry(0)->shortcut(), QKeySequence(Qt::Key_F12));
+}
+
+TEST_F(DownloadMenuTest, TheFirstEntryNamesTheJoystickFileOfTheCougarsOwnKind)
+{
+    show();
+    editor->opening().OpenFavouriteFile(folder.write(u"Files/FALCON.TMJ"_s, "BTN"));
+    editor->documents().select(DocumentKind::Macro);
+    EXPECT_EQ(entry(0)->text(), u"&Download FALCON.tmj");
+    editor->opening().OpenFavouriteFile(folder.write(u"Files/old.f22"_s, "BTN"));
+    EXPECT_EQ(entry(0)->text(), u"&Download joystick file");
 }
 
 TEST_F(DownloadMenuTest, WithoutProgrammedModeTheKeyTesterCannotBeChosen)
@@ -187,9 +192,9 @@ TEST_F(DownloadMenuTest, ALockedTextRefusesWhatMenusAndToolsWouldChange)
     launcher.onStart = [this](const Launch &) {
         QTimer::singleShot(0, control(), [this] {
             control()->selectAll();
-            editor->actions().trigger(u"mnuEditCut");
-            editor->actions().trigger(u"mnuEditPaste");
-            editor->actions().trigger(u"mnuBlockREM");
+            editor->actions().action(u"mnuEditCut")->trigger();
+            editor->actions().action(u"mnuEditPaste")->trigger();
+            editor->actions().action(u"mnuBlockREM")->trigger();
             EXPECT_EQ(control()->shown().text(), u"BTN S1 a");
             EXPECT_TRUE(hotasIni().write({ u"Compiler"_s, u"Status"_s, verdict }));
         });
@@ -220,7 +225,7 @@ TEST_F(DownloadMenuTest, ALockedTextIsNeitherReplacedNorRenamedNorAlignedFromEit
             for (const QStringView entry :
                  { u"mnuFileNewJoystick", u"mnuFileNewBoth", u"mnuFileClose", u"mnuFileOpen",
                    u"mnuFileJoystickLoad", u"mnuAlignSlash" }) {
-                editor->actions().trigger(entry);
+                editor->action(entry)->trigger();
                 EXPECT_TRUE(refused()) << entry.toString().toStdString();
             }
             editor->opening().OpenPreviouslySavedFiles(path);
@@ -228,9 +233,9 @@ TEST_F(DownloadMenuTest, ALockedTextIsNeitherReplacedNorRenamedNorAlignedFromEit
             editor->macros().operations().ChangeMacroName(u"a"_s, u"b"_s);
             EXPECT_TRUE(refused());
             editor->documents().select(DocumentKind::Macro);
-            editor->actions().trigger(u"mnuAlignSlash");
+            editor->action(u"mnuAlignSlash")->trigger();
             EXPECT_TRUE(refused());
-            editor->actions().trigger(u"mnuEditReplace");
+            editor->action(u"mnuEditReplace")->trigger();
             mum->findChild<QRadioButton *>(u"OptionJoystickR"_s)->setChecked(true);
             mum->findChild<QComboBox *>(u"ComboTextReplaceFind"_s)->setEditText(u"BTN"_s);
             for (const QString &button : { u"Command3"_s, u"Command6"_s }) {

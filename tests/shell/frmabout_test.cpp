@@ -4,7 +4,7 @@
 #include "shell/frmabout.h"
 
 #include "platform/core/stand_in.h"
-#include "tests/shell/shell_world.h"
+#include "tests/support/shell_world.h"
 
 #include <QLabel>
 #include <QPushButton>

@@ -8,7 +8,7 @@
 #include "platform/core/profile_file.h"
 #include "platform/core/stand_in.h"
 #include "shell/mum.h"
-#include "tests/shell/shell_world.h"
+#include "tests/support/shell_world.h"
 #include "toolchain/modes/profilechooser.h"
 
 #include <QAction>
@@ -25,7 +25,7 @@ using namespace zeph;
 namespace {
 
 /// The running application with the tools beside it and two profiles.
-class ToolsMenuTest : public test::ShellWorld
+class ToolsMenuTest : public test::RunningWorld
 {
 protected:
     void begin(const QByteArray &store = {})
@@ -33,9 +33,7 @@ protected:
         folder.write(u"HOTASConfig.exe"_s, "tool");
         folder.write(u"Profiles/Default.tmc"_s, "x");
         folder.write(u"Profiles/Alpine.tmc"_s, "x");
-        writeStore(store + "[Unsupported]\r\nCheckForCompletionTime=1\r\n");
-        app = application();
-        ASSERT_TRUE(app->start());
+        start(store + "[Unsupported]\r\nCheckForCompletionTime=1\r\n");
     }
 
     QAction &action(QStringView name) const { return *app->editor().action(name); }
@@ -75,8 +73,6 @@ protected:
             ->setChecked(true);
         form.findChild<QPushButton *>(button)->click();
     }
-
-    std::unique_ptr<Application> app;
 };
 
 } // namespace
@@ -114,15 +110,15 @@ TEST_F(ToolsMenuTest, OtherEntriesWithoutTheirProgramAreOffAndComeBackWhenItAppe
 TEST_F(ToolsMenuTest, TheStatusBarSaysSteadilyThatTheStandInsAreInUse)
 {
     begin();
-    auto *panel = app->mum().findChild<QLabel *>(u"Panel_StandIns"_s);
-    EXPECT_FALSE(panel->isVisible());
+    auto *panel = app->mum().findChild<QLabel *>(u"Panel_6"_s);
+    EXPECT_EQ(panel->text(), u"");
     folder.write(u"HOTASCompiler.exe"_s, standInMark);
-    EXPECT_TRUE(QTest::qWaitFor([panel] { return panel->isVisible(); }));
+    EXPECT_TRUE(QTest::qWaitFor([panel] { return panel->text() == u"Stand-in tools"; }));
     app->status().setText(u"something else"_s);
-    EXPECT_TRUE(panel->isVisible());
+    EXPECT_EQ(panel->text(), u"Stand-in tools");
     folder.write(u"HOTASCompiler.exe"_s,
                  "a real tool, which is longer than the mark of a stand-in");
-    EXPECT_TRUE(QTest::qWaitFor([panel] { return !panel->isVisible(); }));
+    EXPECT_TRUE(QTest::qWaitFor([panel] { return panel->text().isEmpty(); }));
 }
 
 TEST_F(ToolsMenuTest, EntriesStartWhatStandsAtTheirIndex)

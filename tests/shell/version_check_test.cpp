@@ -4,7 +4,7 @@
 #include "shell/version_check.h"
 
 #include "platform/downloader.h"
-#include "tests/shell/shell_world.h"
+#include "tests/support/shell_world.h"
 
 #include <QTcpServer>
 #include <QTcpSocket>

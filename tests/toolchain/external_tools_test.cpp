@@ -5,7 +5,7 @@
 
 #include "platform/core/stand_in.h"
 #include "platform/fakes/fake_joystick.h"
-#include "tests/toolchain/toolchain_bench.h"
+#include "tests/support/toolchain_bench.h"
 #include "toolchain/modes/cougar_modes.h"
 
 #include <QFile>

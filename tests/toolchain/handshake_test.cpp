@@ -3,7 +3,7 @@
 
 #include "toolchain/handshake.h"
 
-#include "tests/toolchain/toolchain_bench.h"
+#include "tests/support/toolchain_bench.h"
 #include "toolchain/formdownloadstatus.h"
 #include "toolchain/toolchain_settings.h"
 

@@ -5,8 +5,10 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <QRandomGenerator>
 #include <QSaveFile>
 
+#include <filesystem>
 #include <functional>
 #include <system_error>
 
@@ -53,6 +55,28 @@ std::optional<std::errc> flushToDisk([[maybe_unused]] int handle)
     }
 #endif
     return std::nullopt;
+}
+
+/// Flushes all that was written to the disk of an open file.
+std::optional<std::errc> flushWholeDisk(const QFile &file)
+{
+#ifdef Q_OS_LINUX
+    return ::syncfs(file.handle()) == 0 ? std::nullopt : std::optional(std::errc(errno));
+#else
+    return flushToDisk(file.handle());
+#endif
+}
+
+/// A name in the path's folder that no file has; short, since the path's own may be as long as can
+/// be.
+QString nameBeside(const QString &path)
+{
+    const QString start = QFileInfo(path).path() + u"/~"_s;
+    QString name;
+    do {
+        name = start + QString::number(QRandomGenerator::global()->generate(), 36);
+    } while (QFileInfo::exists(name));
+    return name;
 }
 
 } // namespace
@@ -144,6 +168,60 @@ Expected<bool, FileError> replaceFile(const QString &path, const QByteArray &hel
     return replaceIf(path, bytes, [&held](const QString &target) {
         return readWholeFile(target).value_or(QByteArray()) == held;
     });
+}
+
+FileBatch::~FileBatch()
+{
+    for (const Pending &file : m_files) {
+        QFile::remove(file.written);
+    }
+}
+
+Expected<void, FileError> FileBatch::add(const QString &path, const QByteArray &bytes)
+{
+    QFile file(nameBeside(path));
+    if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly)) {
+        return failure(path, file.errorString());
+    }
+    m_files.push_back({ path, file.fileName() });
+    if (const QFileInfo before(path); before.exists()) {
+        file.setPermissions(before.permissions());
+    }
+    if (file.write(bytes) != bytes.size() || !file.flush()) {
+        const QString reason = file.errorString();
+        file.close();
+        QFile::remove(file.fileName());
+        m_files.pop_back();
+        return failure(path, reason);
+    }
+    return {};
+}
+
+std::vector<FileError> FileBatch::commit()
+{
+    std::vector<FileError> failed;
+    const auto files = std::exchange(m_files, {});
+    if (files.empty()) {
+        return failed;
+    }
+    QFile any(files.front().written);
+    const auto refused =
+        any.open(QIODevice::ReadOnly) ? flushWholeDisk(any) : std::optional(std::errc::io_error);
+    any.close();
+    for (const Pending &file : files) {
+        std::error_code code;
+        if (refused) {
+            code = std::make_error_code(*refused);
+        } else {
+            std::filesystem::rename(QFileInfo(file.written).filesystemFilePath(),
+                                    QFileInfo(file.path).filesystemFilePath(), code);
+        }
+        if (code) {
+            QFile::remove(file.written);
+            failed.push_back({ file.path, QString::fromStdString(code.message()) });
+        }
+    }
+    return failed;
 }
 
 bool isReadOnlyFile(const QString &path)

@@ -16,8 +16,7 @@ class Compile
 public:
     Compile(const Context &context, const ToolParts &parts);
 
-    /// The whole of a compile: saves the file, runs the compiler, waits for it and tells its
-    /// verdict.
+    /// Compiles: saves the file, runs the compiler, waits for it and tells its verdict.
     void mnuAppsCompile_Click();
 
 private:

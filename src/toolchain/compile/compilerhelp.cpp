@@ -8,6 +8,9 @@
 #include "platform/core/paths.h"
 #include "platform/core/rtf.h"
 #include "platform/core/text_search.h"
+#include "platform/dialogs.h"
+#include "platform/tool_windows.h"
+#include "toolchain/tool_scene.h"
 #include "ui_compilerhelp.h"
 
 #include <QSignalBlocker>
@@ -71,6 +74,20 @@ void CompilerHelp::ShowTheError(const CompilerError &error)
     codes->select(int(entry->entryStart), int(entry->entryEnd - entry->entryStart));
     codes->scrollTo(int(entry->entryStart));
     codes->select(int(entry->entryStart), int(entry->headingEnd - entry->entryStart));
+}
+
+void addCompilerHelp(ToolWindows &windows, const Context &context, ToolScene &scene)
+{
+    windows.offer<CompilerHelp>([context, &scene](QWidget *owner) {
+        auto *help = new CompilerHelp(context.paths.infoFolder() + u"Error codes.rtf"_s, owner);
+        QObject::connect(help, &CompilerHelp::highlightRequested, help,
+                         guarded(context.dialogs, [&scene](const CompilerError &error) {
+                             scene.HighlightErrorLine(error);
+                         }));
+        QObject::connect(help, &CompilerHelp::helpRequested, help,
+                         guarded(context.dialogs, [&scene] { scene.showHelpOnErrors(); }));
+        return help;
+    });
 }
 
 namespace {

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "platform/context.h"
 #include "platform/core/rich_text.h"
 #include "toolchain/compile/verdict.h"
 
@@ -42,6 +43,12 @@ private:
     std::unique_ptr<Ui::CompilerHelp> m_ui;
     CompilerError m_error;
 };
+
+class ToolScene;
+class ToolWindows;
+
+/// Registers the window, which asks the scene for what happens outside it.
+void addCompilerHelp(ToolWindows &windows, const Context &context, ToolScene &scene);
 
 // "Error codes.rtf", the explanations of the compiler's errors. Each entry starts with its code:
 // "ERROR " and four digits.

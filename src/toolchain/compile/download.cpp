@@ -20,6 +20,7 @@
 #include "toolchain/tool_scene.h"
 #include "toolchain/toolchain_settings.h"
 
+#include <QAction>
 #include <utility>
 
 namespace zeph {
@@ -40,7 +41,7 @@ public:
             text->setLocked(false);
         }
     }
-    /// The program ends: there is no text to release any more.
+    /// Lets go of a text that is gone, when the program ends: there is nothing to release any more.
     void forget() { m_text = nullptr; }
 
 private:
@@ -187,9 +188,10 @@ void Download::openKeyTester()
     const QStringView tester = m_context.settings.of<SharedSettings>().DefaultToDX8KeyTester
         ? u"mnuAppsDX8_0"
         : u"mnuAppsKeyTester";
-    if (!m_parts.actions.trigger(tester)) {
-        m_context.status.setText(u' ' + m_parts.actions.lackOf(tester));
+    if (const QString lack = m_parts.actions.lackOf(tester); !lack.isEmpty()) {
+        m_context.status.setText(u' ' + lack);
     }
+    m_parts.actions.action(tester)->trigger();
 }
 
 void Download::fail(const VerdictTelling &telling, const CompilerVerdict &verdict,

@@ -19,7 +19,7 @@ class Download
 public:
     Download(const Context &context, const ToolParts &parts);
 
-    /// The whole of a download, from saving the file to opening the Key Tester.
+    /// Does a whole download, from saving the file to opening the Key Tester.
     void DownloadTMJ();
 
 private:

@@ -103,7 +103,8 @@ bool Profiles::ApplyDefaultProfile(const QString &name, CalibrationRequest calib
     return true;
 }
 
-/// Whether the profile is in the tools' folder and can be named to a tool; if not, it is told.
+/// Looks for the profile in the tools' folder and tells the user when it is missing, or when no
+/// tool could be told its name. True when it can be sent.
 bool Profiles::isThere(const QString &name)
 {
     if (fileExists(profilesFolder(m_context.paths) + name + profileExtension.toString())) {

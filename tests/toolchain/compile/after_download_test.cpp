@@ -4,7 +4,7 @@
 #include "toolchain/compile/after_download.h"
 
 #include "platform/core/stand_in.h"
-#include "tests/toolchain/toolchain_bench.h"
+#include "tests/support/toolchain_bench.h"
 #include "toolchain/toolchain_settings.h"
 
 using namespace zeph;

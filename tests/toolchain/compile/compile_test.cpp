@@ -3,7 +3,7 @@
 
 #include "toolchain/compile/compile.h"
 
-#include "tests/toolchain/compiler_bench.h"
+#include "tests/support/compiler_bench.h"
 #include "toolchain/toolchain_settings.h"
 
 #include <QFile>

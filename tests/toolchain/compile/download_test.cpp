@@ -3,7 +3,7 @@
 
 #include "toolchain/compile/download.h"
 
-#include "tests/toolchain/compiler_bench.h"
+#include "tests/support/compiler_bench.h"
 #include "toolchain/compile/compile.h"
 #include "toolchain/default_options.h"
 #include "toolchain/toolchain_settings.h"
@@ -313,8 +313,11 @@ TEST_F(DownloadTest, OverTwoSecondsTheStatusWindowShowsAndClosesAtTheEnd)
     };
     settings.of<ToolchainSettings>().HOTASStatusBarErrors = true;
     bool shownAtTheMode = true;
-    QObject::connect(&status, &StatusLine::modePictureChanged, &status,
-                     [&] { shownAtTheMode = handshake->StatusWindowShown(); });
+    QObject::connect(&status, &StatusLine::changed, &status, [&](StatusPanel panel) {
+        if (panel == StatusPanel::Mode) {
+            shownAtTheMode = handshake->StatusWindowShown();
+        }
+    });
     download();
     EXPECT_TRUE(shown);
     EXPECT_FALSE(shownAtTheMode) << "it closes before the mode is shown";
