@@ -13,6 +13,7 @@ namespace zeph {
 
 /// The panels of the main window's status bar from left to right.
 enum class StatusPanel { Message, Mode, Line, Saved, OtherSaved, StandIns };
+constexpr size_t statusPanels = size_t(StatusPanel::StandIns) + 1;
 
 /// What a panel shows.
 struct StatusContents {
@@ -74,7 +75,7 @@ Q_SIGNALS:
     void repaintWanted();
 
 private:
-    std::array<StatusContents, 6> m_panels{ {
+    std::array<StatusContents, statusPanels> m_panels{ {
         {},
         { .picture = 1, .tooltip = u"Cougar mode selector is off"_s },
         {},

@@ -47,6 +47,8 @@ const PanelRow panelRows[] = {
     { StatusPanel::StandIns, u"", u"", {} },
 };
 
+static_assert(std::size(panelRows) + 1 == statusPanels, "each panel but the message has a row");
+
 /// The message line: a message that is too long ends in dots instead of widening the window.
 class MessageLabel : public QLabel
 {

@@ -24,7 +24,11 @@ Compile::Compile(const Context &context, const ToolParts &parts)
 
 void Compile::mnuAppsCompile_Click()
 {
-    m_parts.handshake.commands().run(u"the compile"_s, [this] { compile(); });
+    const auto turn =
+        m_parts.handshake.commands().turn(u"the compile"_s, [this] { mnuAppsCompile_Click(); });
+    if (turn) {
+        compile();
+    }
 }
 
 void Compile::compile()

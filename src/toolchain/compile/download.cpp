@@ -55,7 +55,11 @@ Download::Download(const Context &context, const ToolParts &parts)
 
 void Download::DownloadTMJ()
 {
-    m_parts.handshake.commands().run(u"the download"_s, [this] { download(); });
+    const auto turn =
+        m_parts.handshake.commands().turn(u"the download"_s, [this] { DownloadTMJ(); });
+    if (turn) {
+        download();
+    }
 }
 
 void Download::download()

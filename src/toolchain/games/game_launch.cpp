@@ -65,8 +65,16 @@ void GameLaunch::mnuGameArray_Click(int index)
 {
     // A launched game moves to the top of the list, so it is copied out before anything runs.
     const Game game = m_games.list().value(index - 1);
-    m_parts.handshake.commands().run(u"the launch of "_s + game.GameName,
-                                     [this, game] { launch(game); });
+    launchInTurn(game);
+}
+
+void GameLaunch::launchInTurn(const Game &game)
+{
+    const auto turn = m_parts.handshake.commands().turn(u"the launch of "_s + game.GameName,
+                                                        [this, game] { launchInTurn(game); });
+    if (turn) {
+        launch(game);
+    }
 }
 
 void GameLaunch::launch(const Game &game)
