@@ -230,6 +230,7 @@ void EditorView::ResetFocusToEditor()
 void EditorView::setTiled(bool tiled)
 {
     m_tiled = tiled;
+    UpdateSavedIcon();
     if (tiled) {
         ShowBothFiles();
     } else {
@@ -280,6 +281,9 @@ void EditorView::UpdateSavedIcon()
 {
     const Document &selected = m_documents.selected();
     m_context.status.setSaved(selected.state() + 2, savedTooltip(selected));
+    const Document &other = m_documents.other(selected);
+    m_context.status.setOtherSaved(m_tiled ? other.state() + 2 : 0,
+                                   m_tiled ? savedTooltip(other) : QString());
 }
 
 void EditorView::applyLook()

@@ -49,8 +49,8 @@ Editor::Editor(const Context &context, QWidget *parent)
       m_documents(std::make_unique<Documents>(context)),
       m_view(std::make_unique<EditorView>(context, *m_documents, this)),
       m_copies(std::make_unique<ColouredCopies>(context.paths)),
-      m_keys(
-          std::make_unique<EditorKeys>(*m_view, *m_actions, context.settings.of<SharedSettings>())),
+      m_keys(std::make_unique<EditorKeys>(*m_view, *m_actions,
+                                          context.settings.of<SharedSettings>(), context.status)),
       // Must come after the keys: event filters run last-installed first, and a blinking line has
       // to be released before a key runs its entry.
       m_undos(std::make_unique<UndoHistories>(context, *m_view, *m_actions)),

@@ -30,6 +30,10 @@ struct Box {
     BoxIcon icon = BoxIcon::None;
     QList<BoxButton> buttons = { BoxButton::Ok };
     BoxButton defaultButton = BoxButton::Ok;
+    /// The caption of a tick below the text; without one there is no tick.
+    QString tick = {};
+    /// Receives the tick's state when the box closes.
+    std::function<void(bool)> ticked = {};
     QStringList captions = {}; ///< of the buttons, in their order; empty for the usual ones
 };
 

@@ -43,6 +43,8 @@ const PanelRow panelRows[] = {
     { StatusPanel::Mode, u"Cougar mode", u"", modeIcons },
     { StatusPanel::Line, u"", u"Line no: 99999", {} },
     { StatusPanel::Saved, u"Saved state", u"", savedIcons },
+    { StatusPanel::OtherSaved, u"Saved state of the other file", u"", savedIcons },
+    { StatusPanel::StandIns, u"", u"", {} },
 };
 
 /// The message line: a message that is too long ends in dots instead of widening the window.
@@ -124,6 +126,7 @@ void MainStatusBar::showPanel(StatusPanel shown)
         label.update();
         return;
     }
+    label.setVisible(contents.picture > 0);
     const int picture = std::clamp(contents.picture, 1, int(row->pictures.size()));
     const QString icon = QString::fromUtf16(row->pictures[size_t(picture) - 1]);
     label.setPixmap(

@@ -32,6 +32,10 @@ void Compile::compile()
     if (!canBegin() || !saveJoystick() || !macroFileMayDiffer()) {
         return;
     }
+    if (m_parts.documents.joystick().path().contains(u'"')) {
+        m_context.dialogs.box(quoteInNameBox(m_parts.documents.joystick().path()));
+        return;
+    }
     m_parts.scene.minimiseToolWindows();
     const SentFiles sent = sentFiles(m_parts.documents);
     m_parts.handshake.setStatusCaption(u"Compiling "_s + sent.joystick.name);

@@ -18,6 +18,7 @@
 #include "toolchain/hotas_ini.h"
 #include "toolchain/modes/cougar_modes.h"
 #include "toolchain/modes/profiles.h"
+#include "toolchain/tool_messages.h"
 #include "toolchain/tool_scene.h"
 #include "toolchain/toolchain_settings.h"
 
@@ -122,6 +123,10 @@ bool GameLaunch::download(const QString &wanted)
         return false;
     }
     const QString file = existingPath(wanted);
+    if (file.contains(u'"')) {
+        m_context.dialogs.box(quoteInNameBox(file));
+        return false;
+    }
     if (!resetAxes()) {
         return false;
     }
@@ -171,6 +176,7 @@ bool GameLaunch::tellVerdict(const QString &file)
         if (m_context.settings.of<ToolchainSettings>().NumlockDownloadMode) {
             m_parts.afterDownload.TurnNumLockOn();
         }
+        m_parts.afterDownload.tellStandIn();
         return true;
     }
     const Document &joystick = m_parts.documents.joystick();
