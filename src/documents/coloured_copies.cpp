@@ -36,7 +36,10 @@ Expected<void, FileError> ColouredCopies::SaveColouredText(Document &document) c
 {
     DocumentStates &states = document.states();
     RtfWriter writer;
-    states.readPieces(states.present(), [&writer](const RichText &piece) { writer.add(piece); });
+    const DocumentState present = states.present();
+    for (size_t i = 0; i < states.pieceCount(present); ++i) {
+        writer.add(states.piece(present, i));
+    }
     return writeFileAtomically(pathOf(document.name()), writer.take());
 }
 

@@ -41,9 +41,11 @@ private:
     std::shared_ptr<const TextChunks> m_chunks;
 };
 
-/// Holds the looks of a document, gives its present state and brings back earlier ones. Follows
-/// what others do to the document's text; characters that they put in get the look for typing. The
-/// document must outlive this object. Positions are 0-based characters; line ends are '\n'.
+/// Holds the looks of a document's characters, and takes and restores states (snapshots) of text
+/// and looks. When others change the document's text, it hears of it and gives the new characters
+/// the look for typing (lookForTyping). A state costs only the chunks that changed since the one
+/// before. The document must outlive this object. Positions are 0-based characters; line ends are
+/// '\n'.
 class DocumentStates : public QObject
 {
     Q_OBJECT
@@ -60,19 +62,21 @@ public:
     /// The state of an empty text.
     DocumentState empty(const ParagraphFormat &paragraph = {}) const;
     RichText richText(const DocumentState &state) const;
-    /// Calls a function with the state's text in pieces, one after the other, each of whole lines:
-    /// for a long text that is read once, without a copy of the whole.
-    void readPieces(const DocumentState &state,
-                    const std::function<void(const RichText &piece)> &read) const;
+    /// A state's text comes in this many pieces of whole lines, for a long text that is read once,
+    /// without a copy of the whole.
+    size_t pieceCount(const DocumentState &state) const { return state.m_chunks->size(); }
+    RichText piece(const DocumentState &state, size_t index) const;
 
     // Each of the changes of text below is one edit block of the document.
 
     /// Replaces the whole text; characters that the toolkit's document cannot hold become
     /// replacement characters.
     void setText(const RichText &text);
+    /// For whom a text is changed. changedByUser() tells what the user does.
+    enum class By { Program, User };
     /// Replaces a stretch. New lines take the format of the paragraph that they are put into, not
     /// the one that the text says.
-    void replace(qsizetype from, qsizetype length, const RichText &text);
+    void replace(qsizetype from, qsizetype length, const RichText &text, By by = By::Program);
     /// Replaces several stretches of one length, at ascending places that do not overlap, by the
     /// same text. It looks as if it were typed at the end of each stretch.
     void replaceAll(std::span<const qsizetype> starts, qsizetype length, const QString &text);
@@ -88,7 +92,7 @@ public:
     /// Tells where the user types, and the look that the user has chosen for it, if any.
     void setTyping(qsizetype place, std::optional<CharFormat> look);
     qsizetype typingPlace() const { return m_typingPlace; }
-    /// The look of what is typed into an empty text.
+    /// Sets the look of what is typed into an empty text.
     void setPlain(const CharFormat &plain) { m_plain = plain; }
 
     /// Whether the looks fit the document's text; false while the document is being changed.
@@ -99,11 +103,14 @@ public:
     const CharFormat &look(quint32 number) const { return m_looks.look(number); }
 
 Q_SIGNALS:
+    /// The document's text or paragraphs have changed, and no other call of this class did it.
+    void changedByUser();
     /// The looks in these stretches, which ascend, have changed; their text is the same.
     void looksChanged(const std::vector<zeph::TextStretch> &stretches);
 
 private:
     void onContentsChange(int position, int removed, int added);
+    void onContentsChanged();
     /// Follows what the toolkit has not reported yet.
     void catchUp();
     /// Takes over what others changed; so many characters at the start and the end are the same.
@@ -126,6 +133,7 @@ private:
     DocumentState m_known; ///< the document as it was when last followed
     qsizetype m_size = 0; ///< characters of m_known
     bool m_isWriting = false; ///< this object changes the document, and m_known itself
+    bool m_writesForUser = false; ///< what it writes at the moment counts as the user's
     int m_revision = -1; ///< the document's, when m_known was last made equal to it
     CharFormat m_plain;
     qsizetype m_typingPlace = 0;

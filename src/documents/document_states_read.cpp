@@ -35,6 +35,15 @@ void DocumentStates::onContentsChange(int position, int, int added)
     follow(front, std::clamp(documentSize() - position - added, qsizetype(0), most - front));
 }
 
+void DocumentStates::onContentsChanged()
+{
+    // An edit block that changes nothing raises the revision too.
+    m_revision = m_document.revision();
+    if (!m_isWriting || m_writesForUser) {
+        Q_EMIT changedByUser();
+    }
+}
+
 void DocumentStates::catchUp()
 {
     if (m_revision != m_document.revision()) {
@@ -187,12 +196,9 @@ RichText DocumentStates::richText(const DocumentState &state) const
     return join(*state.m_chunks, 0, state.m_chunks->size());
 }
 
-void DocumentStates::readPieces(const DocumentState &state,
-                                const std::function<void(const RichText &piece)> &read) const
+RichText DocumentStates::piece(const DocumentState &state, size_t index) const
 {
-    for (size_t i = 0; i < state.m_chunks->size(); ++i) {
-        read(join(*state.m_chunks, i, i + 1));
-    }
+    return join(*state.m_chunks, index, index + 1);
 }
 
 RichText DocumentStates::join(const TextChunks &chunks, size_t first, size_t end) const

@@ -98,10 +98,7 @@ void UndoHistory::show(int index)
 {
     m_index = index;
     const Slot &slot = m_slots[size_t(index) - 1];
-    {
-        const ColouredText::Quiet quiet(m_text);
-        m_states.restore(slot.state);
-    }
+    m_states.restore(slot.state);
     m_text.select(slot.caret, 0);
 }
 

@@ -15,6 +15,7 @@
 #include "shell/main_status_bar.h"
 #include "shell/settings/shell_settings.h"
 
+#include <QAction>
 #include <QCloseEvent>
 #include <QMenuBar>
 #include <QScreen>
@@ -27,7 +28,7 @@ Mum::Mum(const Context &context)
       m_coolBar(new CoolBar(*this, context)), m_bar(new MainStatusBar(context, this))
 {
     setObjectName(u"Mum"_s);
-    setWindowTitle(u"Zeph"_s);
+    updateTitle();
     setWindowIcon(iconNamed(context.paths, u"zeph"));
     setStatusBar(m_bar);
     connect(m_bar, &MainStatusBar::endPressed, this,
@@ -40,6 +41,27 @@ Mum::~Mum()
     m_toolWindows->unloadAll();
 }
 
+QString mumTitle(const QString &fileName, bool isFurther)
+{
+    QString file = fileName;
+    // A name that holds the toolkit's mark keeps it when the mark is doubled.
+    file.replace(u"[*]"_s, u"[*][*]"_s);
+    return (file.isEmpty() ? QString() : file + u"[*] - "_s) + u"Zeph"_s
+        + (isFurther ? u" - secondary window"_s : QString());
+}
+
+void Mum::setFurther()
+{
+    m_isFurther = true;
+    updateTitle();
+}
+
+void Mum::updateTitle()
+{
+    setWindowTitle(mumTitle(m_editor ? m_editor->selected().name() : QString(), m_isFurther));
+    setWindowModified(m_editor && m_editor->selected().isModified());
+}
+
 void Mum::attachEditor(Editor *editor)
 {
     m_editor = editor;
@@ -47,6 +69,12 @@ void Mum::attachEditor(Editor *editor)
     editor->actions().addTo(*menuBar());
     m_coolBar->attach(*editor);
     connect(&editor->documents(), &Documents::selectedChanged, m_coolBar, &CoolBar::refresh);
+    connect(&editor->documents(), &Documents::selectedChanged, this, &Mum::updateTitle);
+    editor->documents().forEach([this](Document &each) {
+        connect(&each, &Document::renamed, this, &Mum::updateTitle);
+        connect(&each, &Document::stateChanged, this, &Mum::updateTitle);
+    });
+    updateTitle();
 }
 
 WindowPlace Mum::place() const
@@ -113,10 +141,12 @@ void Mum::pressAtEnd(int press)
         return;
     }
     MenuActions &actions = m_editor->actions();
-    actions.trigger(m_editor->selected().kind() == DocumentKind::Joystick ? u"mnuViewColourJoystick"
-                                                                          : u"mnuViewColourMacro");
-    actions.trigger(u"mnuFileSave");
-    actions.trigger(u"mnuMacrosIdentify");
+    actions
+        .action(m_editor->selected().kind() == DocumentKind::Joystick ? u"mnuViewColourJoystick"
+                                                                      : u"mnuViewColourMacro")
+        ->trigger();
+    actions.action(u"mnuFileSave")->trigger();
+    actions.action(u"mnuMacrosIdentify")->trigger();
 }
 
 void Mum::showStatusTip(const QString &tip)

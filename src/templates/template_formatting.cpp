@@ -240,7 +240,8 @@ void TemplateFormatting::UpdateStyleCaptions()
 {
     const TextStyles styles = readTextStyles(ProfileFile(m_context.paths.iniPath));
     for (size_t i = 0; i < styles.size(); ++i) {
-        m_parts.actions.action(u"mnuStyleArray_"_s + QString::number(i))->setText(styles[i].name);
+        m_parts.actions.action(u"mnuStyleArray_"_s + QString::number(i))
+            ->setText(captionOf(styles[i].name));
     }
 }
 

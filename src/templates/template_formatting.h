@@ -54,8 +54,8 @@ public:
     /// Characters without a font count as having that of the plain format.
     TemplateFormatting(const Context &context, const Parts &parts, CharFormat plain);
 
-    /// Bold (0), italic (1), underline (2) or strike out (3): off when all of the selection has it,
-    /// else on.
+    /// Switches bold (0), italic (1), underline (2) or strike out (3) off when all of the selection
+    /// has it, else on.
     void mnuFormatArray1_Click(int Index);
     /// Puts a bullet before each paragraph of the selection; takes them away when all have one.
     void mnuFormatBullets_Click();

@@ -154,7 +154,12 @@ void (*actOnMain(const QString &verb))(QWidget *)
             main->showMaximized();
         };
     }
-    return verb == QLatin1String("normal") ? [](QWidget *main) { main->showNormal(); } : nullptr;
+    if (verb == QLatin1String("normal")) {
+        return [](QWidget *main) {
+            main->showNormal();
+        };
+    }
+    return nullptr;
 }
 
 QString placeOf(const QWidget *control)

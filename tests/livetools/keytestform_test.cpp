@@ -4,17 +4,9 @@
 #include "livetools/keytestform.h"
 
 #include "livetools/key_tester_settings.h"
-#include "platform/clock.h"
 #include "platform/core/profile_file.h"
-#include "platform/fakes/fake_keyboard.h"
-#include "platform/fakes/fake_launcher.h"
-#include "platform/fakes/scripted_dialogs.h"
-#include "platform/status_line.h"
-#include "settings/settings.h"
-#include "tests/support/temp_folder.h"
+#include "tests/support/fixture.h"
 #include "toolchain/toolchain_settings.h"
-
-#include <gtest/gtest.h>
 
 #include <QAction>
 #include <QApplication>
@@ -33,17 +25,9 @@ using namespace zeph;
 
 namespace {
 
-class KeyTester : public testing::Test
+class KeyTester : public test::WorldTest
 {
 public:
-    test::TempFolder folder;
-    ScriptedDialogs dialogs;
-    FakeLauncher launcher;
-    Clock clock;
-    FakeKeyboard keyboard;
-    Paths paths;
-    Settings settings;
-    StatusLine status;
     QStringList asked;
     bool hasDirectX = true;
     QAction emptyBuffers;
@@ -54,9 +38,6 @@ public:
 
     void SetUp() override
     {
-        paths.appFolder = folder.path();
-        paths.hotasFolder = folder.path() + u'/';
-        paths.iniPath = folder.file(u"Zeph.ini"_s);
         folder.write(u"KeyCodes.txt"_s,
                      "9,Tab\r\n13,Enter\r\n20,Caps Lock\r\n32,Space\r\n37,Left Arrow\r\n112,F1\r\n"
                      "121,F10\r\n93,Menu\r\n27,Escape\r\n");
@@ -65,12 +46,7 @@ public:
         noteRuns(clearMemory, u"memory 1"_s);
         noteRuns(directX, u"directx"_s);
     }
-    void TearDown() override
-    {
-        delete form;
-        EXPECT_TRUE(dialogs.unexpected().isEmpty())
-            << dialogs.unexpected().join(u'\n').toStdString();
-    }
+    void TearDown() override { delete form; }
     void report(const QByteArray &modeStatus, int buttons) const
     {
         folder.write(u"HOTAS.ini"_s,
@@ -85,7 +61,7 @@ public:
     bool open()
     {
         directX.setVisible(hasDirectX);
-        form = new KeyTestForm({ paths, settings, status, dialogs, launcher, clock, keyboard },
+        form = new KeyTestForm(context(),
                                KeyTestEntries{ { &emptyBuffers, &clearMemory }, &directX }, owner);
         QObject::connect(form, &KeyTestForm::buttonsModeWanted, form, [this](bool programmed) {
             asked.append(programmed ? u"programmed"_s : u"windows"_s);

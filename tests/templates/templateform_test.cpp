@@ -13,12 +13,13 @@
 #include "settings/colour_settings.h"
 #include "settings/shared_settings.h"
 #include "templates/template_settings.h"
-#include "tests/documents/editor_fixture.h"
+#include "tests/support/fixture.h"
 #include "tests/support/rich_texts.h"
 
 #include <QAction>
 #include <QClipboard>
 #include <QComboBox>
+#include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QMimeData>
@@ -31,22 +32,20 @@ using namespace zeph;
 
 namespace {
 
-class TemplateTest : public test::EditorTest
+class TemplateTest : public test::WorldTest
 {
 protected:
     TemplateTest()
     {
         QDir(folder.path()).mkdir(u"Templates"_s);
-        QFile::link(QStringLiteral(ZEPH_SOURCE_DIR "/data/icons"), folder.file(u"icons"_s));
+        installIcons();
         folder.write(u"Zeph.ini"_s, "[Miscellaneous]\r\nPilotCallsign=Viper\r\n");
         makeForm();
     }
 
     void makeForm()
     {
-        form = std::make_unique<TemplateForm>(
-            Context{ paths, settings, status, dialogs, launcher, clock, keyboard }, printers,
-            macros);
+        form = std::make_unique<TemplateForm>(context(), printers, macros);
         QObject::connect(form.get(), &TemplateForm::fileWritten, form.get(),
                          [this](const QString &path) { written.append(path); });
         text = form->findChild<RichTextBox *>(u"TemplateText"_s);
@@ -55,7 +54,8 @@ protected:
     QString templates(const QString &name) const { return folder.path() + u"/Templates/"_s + name; }
     void press(QStringView name)
     {
-        EXPECT_TRUE(form->actions().trigger(name)) << name.toString().toStdString();
+        EXPECT_TRUE(form->actions().action(name)->isEnabled()) << name.toString().toStdString();
+        form->actions().action(name)->trigger();
     }
     bool isChecked(QStringView name) { return form->actions().action(name)->isChecked(); }
     QString combo(const QString &name) { return form->findChild<QComboBox *>(name)->currentText(); }

@@ -11,13 +11,15 @@ namespace zeph {
 
 class ColouredCopies;
 class EditorView;
+class MenuActions;
 
 /// Saves documents. After each operation the document's state tells whether it was saved: it stays
 /// modified when the user cancelled or the disk refused.
 class FileSaving
 {
 public:
-    FileSaving(const Context &context, EditorView &view, ColouredCopies &copies);
+    FileSaving(const Context &context, EditorView &view, MenuActions &actions,
+               ColouredCopies &copies);
 
     /// Saves the selected document; runs Save As when it has no name or its file is read only.
     void mnuFileSave_Click();

@@ -9,6 +9,7 @@
 #include <QSaveFile>
 
 #include <filesystem>
+#include <functional>
 #include <system_error>
 
 #ifdef Q_OS_UNIX
@@ -104,7 +105,10 @@ Expected<QByteArray, FileError> readWholeFile(const QString &path)
     return bytes;
 }
 
-Expected<void, FileError> writeFileAtomically(const QString &path, const QByteArray &bytes)
+namespace {
+
+/// The file that a write to that path replaces: the path itself, or the target of its links.
+Expected<QString, FileError> writableTarget(const QString &path)
 {
     if (path.isEmpty()) {
         return failure(path, std::errc::no_such_file_or_directory);
@@ -120,7 +124,18 @@ Expected<void, FileError> writeFileAtomically(const QString &path, const QByteAr
     if (isReadOnlyFile(info.filePath())) {
         return failure(path, std::errc::permission_denied);
     }
-    QSaveFile file(target);
+    return target;
+}
+
+/// Replaces the file unless the question, asked when only the renaming is left, is answered no.
+Expected<bool, FileError> replaceIf(const QString &path, const QByteArray &bytes,
+                                    const std::function<bool(const QString &target)> &mayReplace)
+{
+    const auto target = writableTarget(path);
+    if (!target) {
+        return Unexpected<FileError>(target.error());
+    }
+    QSaveFile file(*target);
     if (!file.open(QIODevice::WriteOnly)) {
         return failure(path, file.errorString());
     }
@@ -130,10 +145,29 @@ Expected<void, FileError> writeFileAtomically(const QString &path, const QByteAr
     if (const auto refused = flushToDisk(file.handle())) {
         return failure(path, *refused);
     }
+    if (!mayReplace(*target)) {
+        return false;
+    }
     if (!file.commit()) {
         return failure(path, file.errorString());
     }
-    return {};
+    return true;
+}
+
+} // namespace
+
+Expected<void, FileError> writeFileAtomically(const QString &path, const QByteArray &bytes)
+{
+    const auto written = replaceIf(path, bytes, [](const QString &) { return true; });
+    return written ? Expected<void, FileError>() : Unexpected<FileError>(written.error());
+}
+
+Expected<bool, FileError> replaceFile(const QString &path, const QByteArray &held,
+                                      const QByteArray &bytes)
+{
+    return replaceIf(path, bytes, [&held](const QString &target) {
+        return readWholeFile(target).value_or(QByteArray()) == held;
+    });
 }
 
 FileBatch::~FileBatch()

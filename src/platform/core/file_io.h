@@ -51,6 +51,11 @@ private:
     };
     std::vector<Pending> m_files;
 };
+/// As writeFileAtomically(), but only when the file still holds what it held, for files that other
+/// programs change too. A missing file holds nothing. False, and nothing changed, when it holds
+/// something else by now.
+Expected<bool, FileError> replaceFile(const QString &path, const QByteArray &held,
+                                      const QByteArray &bytes);
 
 /// Whether a file is marked as read only. The mark counts, not whether this user could write in
 /// spite of it: somebody set it on purpose, and an administrator's rights do not undo that. A

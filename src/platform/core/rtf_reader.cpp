@@ -385,7 +385,7 @@ void Reader::flushBytes()
     }
 }
 
-/// Raw text of the font table: a name ends at ";". One that is spelled \'3b belongs to the name.
+/// Takes text of the font table: a ";" ends a name. One that is spelled \'3b belongs to the name.
 void Reader::putInFont(std::string_view bytes)
 {
     for (const char c : bytes) {

@@ -83,7 +83,8 @@ constexpr std::array<bool, 128> makePlainCharacters()
 
 constexpr std::array<bool, 128> plainCharacters = makePlainCharacters();
 
-/// A character that RTF cannot hold as it is.
+/// Writes a character as an RTF escape: a backslash and the character, its byte of Windows-1252 or
+/// its number in Unicode.
 void putEscaped(Sink &sink, char16_t c)
 {
     if (c == u'\\' || c == u'{' || c == u'}') {
@@ -303,7 +304,7 @@ void RtfWriter::Body::startParagraph()
     m_isWordOpen = true;
 }
 
-/// The sign that readers without lists show, and the list's form where it begins.
+/// Writes the sign that readers without lists show, and where a list begins its form.
 void RtfWriter::Body::putBullet(bool isFirst)
 {
     m_body.put("{\\pntext\\'95\\tab}");

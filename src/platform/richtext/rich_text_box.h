@@ -36,7 +36,7 @@ public:
     int find(QStringView word, int from, int options);
 
 protected:
-    /// Shift+Enter starts a line like Enter: the only line end of a text is '\n'.
+    /// Lets Shift+Enter start a line like Enter, since the only line end of a text is '\n'.
     void keyPressEvent(QKeyEvent *event) override;
     /// The clipboard gives and takes what a rich text can hold: no pictures or tables, which would
     /// be seen and then be lost by a save.

@@ -60,7 +60,7 @@ void setRichText(QTextDocument &document, const RichText &text);
 /// number of characters so far. False when it gave false: the document holds a part then.
 bool fillDocument(QTextDocument &document, const RichText &text,
                   const std::function<bool(qsizetype)> &goOn);
-/// The same without looks of characters.
+/// Does the same without looks of characters.
 void setPlainText(QTextDocument &document, const QString &text,
                   const std::vector<ParagraphRun> &paragraphs);
 /// Gives the paragraphs of a stretch their formats where they have others.

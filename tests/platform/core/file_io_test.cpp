@@ -321,3 +321,24 @@ TEST(FileBatch, AFileThatCannotBePutInPlaceIsToldAndTheOthersAre)
     EXPECT_EQ(entries(folder.path()), (QStringList{ u"a"_s, u"b"_s }));
     EXPECT_FALSE(batch.add(folder.file(u"nowhere/c"_s), "new"));
 }
+
+TEST(ReplaceFile, AFileThatHoldsSomethingElseByNowIsLeftAlone)
+{
+    const TempFolder folder;
+    const QString path = folder.write(u"a"_s, "new");
+    const auto replaced = replaceFile(path, "old", "mine");
+    ASSERT_TRUE(replaced);
+    EXPECT_FALSE(*replaced);
+    EXPECT_EQ(folder.read(u"a"_s), "new");
+    EXPECT_EQ(entries(folder.path()), QStringList{ u"a"_s });
+}
+
+TEST(ReplaceFile, AFileThatHoldsWhatItHeldIsReplacedAndAMissingOneMade)
+{
+    const TempFolder folder;
+    const QString path = folder.write(u"a"_s, "old");
+    EXPECT_TRUE(replaceFile(path, "old", "mine").value_or(false));
+    EXPECT_EQ(folder.read(u"a"_s), "mine");
+    EXPECT_TRUE(replaceFile(folder.file(u"b"_s), {}, "mine").value_or(false));
+    EXPECT_EQ(folder.read(u"b"_s), "mine");
+}
