@@ -60,7 +60,8 @@ public:
     /// Colours the lines of the selection, or the caret's line, without a look at the rest of the
     /// text.
     void BlockColour();
-    /// Colours the caret's line; with flag 1 as an undo step of its own.
+    /// Colours the caret's line, or the one in which the selection starts. Flag 1 makes it an undo
+    /// step of its own, 0 no step.
     void TestColour(int flag);
     /// Colours the caret's line as TestColour(1) does. Refused on a protected macro file.
     void mnuViewHighlightLine_Click();

@@ -33,8 +33,9 @@ public:
     /// To be called before the change that a key (Qt::Key) brings: decides by the rules of words
     /// whether the change is a step of its own.
     void keyPressed(int key);
-    /// Shows the next older (newer) state in the document.
+    /// Shows the next older state in the document; does nothing at the oldest.
     void undo();
+    /// Shows the next newer state in the document; does nothing at the newest.
     void redo();
 
     int slots() const { return int(m_slots.size()); }

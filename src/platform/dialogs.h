@@ -61,7 +61,7 @@ public:
     virtual ~Dialogs() = default;
 
     virtual BoxButton box(const Box &box) = 0;
-    /// The chosen path; no value on Cancel.
+    /// Asks for a file to open. Its path; no value on Cancel.
     virtual std::optional<QString> openFile(const FileRequest &request) = 0;
     /// As openFile; whether the file exists already is the caller's question to ask.
     virtual std::optional<QString> saveFile(const FileRequest &request) = 0;

@@ -275,7 +275,8 @@ void FileOpening::showRecovered(DocumentKind kind, const QString &path, const QS
     document.tellReplaced(Document::How::Recovered);
 }
 
-/// Shows a text in the colours of its coloured copy or, without a fitting copy, coloured anew.
+/// Gives the document this path and text and selects it. The colours are those of the coloured
+/// copy; without a fitting copy the text is coloured anew.
 void FileOpening::show(Document &document, const QString &path, const QString &text)
 {
     document.rename(path);
