@@ -26,6 +26,13 @@ struct RtfError {
 /// A \par with nothing after it ends the last paragraph and adds no empty one. Bullets are
 /// paragraphs' formats; the numbers of numbered lists stay text.
 Expected<RichText, RtfError> readRtf(QByteArrayView bytes);
+/// The same with the look of the file's first style, which is that of its plain text; nothing for a
+/// file without styles.
+struct StyledRichText {
+    RichText text;
+    std::optional<CharFormat> plain;
+};
+Expected<StyledRichText, RtfError> readStyledRtf(QByteArrayView bytes);
 
 /// The whole value as RTF 1 in 7-bit ASCII; characters beyond 1252 as \uN and a "?".
 /// readRtf() gives the same value back, but for sizes, which RTF holds in half points.
@@ -38,6 +45,8 @@ public:
     RtfWriter();
     ~RtfWriter();
 
+    /// Names the look of plain text as the file's only style.
+    void setPlain(const CharFormat &plain);
     void add(const RichText &piece);
     /// The file; the object is empty afterwards.
     QByteArray take();

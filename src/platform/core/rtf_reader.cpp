@@ -246,6 +246,10 @@ void Reader::putText(std::string_view bytes)
     case Destination::Colours:
         m_colours.put(bytes);
         return;
+    case Destination::Styles:
+        // The style's name, which comes after its look.
+        m_firstStyle = m_firstStyle.value_or(state().look);
+        return;
     default:
         break;
     }
@@ -271,7 +275,8 @@ void Reader::putByte(int byte)
         endParagraph(0, {});
     } else if (const HighHalf *const high = highHalf()) {
         putCharacter(byte < 0x80 ? byte : (*high)[size_t(byte) - 0x80], {});
-    } else if (state().destination != Destination::Skipped) {
+    } else if (state().destination != Destination::Skipped
+               && state().destination != Destination::Styles) {
         m_bytes.append(char(byte));
     }
 }
@@ -373,6 +378,11 @@ CharFormat Reader::formatOf(const Look &look) const
     return format;
 }
 
+std::optional<CharFormat> Reader::firstStyle() const
+{
+    return m_firstStyle ? std::optional(formatOf(*m_firstStyle)) : std::nullopt;
+}
+
 RichText Reader::finish()
 {
     flushBytes();
@@ -394,6 +404,16 @@ RichText Reader::finish()
 Expected<RichText, RtfError> readRtf(QByteArrayView bytes)
 {
     return rtf::Reader(bytes).read();
+}
+
+Expected<StyledRichText, RtfError> readStyledRtf(QByteArrayView bytes)
+{
+    rtf::Reader reader(bytes);
+    auto text = reader.read();
+    if (!text) {
+        return Unexpected<RtfError>(text.error());
+    }
+    return StyledRichText{ *std::move(text), reader.firstStyle() };
 }
 
 } // namespace zeph

@@ -13,7 +13,7 @@
 namespace zeph::rtf {
 
 /// What the text of a group is for.
-enum class Destination : quint8 { Document, Fonts, Colours, Marker, BulletForm, Skipped };
+enum class Destination : quint8 { Document, Fonts, Colours, Styles, Marker, BulletForm, Skipped };
 
 /// The styles that words switch.
 enum class Style { Bold, Italic, Underline, NoUnderline };
@@ -52,6 +52,8 @@ public:
     explicit Reader(QByteArrayView bytes);
 
     Expected<RichText, RtfError> read();
+    /// The look of the first style, after read().
+    std::optional<CharFormat> firstStyle() const;
 
     // What the words do; the table of words names these.
     using Handler = void (Reader::*)(int argument, const Token &token);
@@ -114,6 +116,7 @@ private:
     QString m_marker;
     bool m_isBulletForm = false;
 
+    std::optional<Look> m_firstStyle;
     Look m_runLook; ///< of the last run
     const HighHalf *m_highHalf = nullptr;
     int m_highHalfOf = 0;

@@ -108,7 +108,7 @@ constexpr Word words[] = {
     skipped("rxe"),
     { "sect", &Reader::endParagraph, 1 },
     skipped("shp"),
-    skipped("stylesheet"),
+    destination("stylesheet", Destination::Styles),
     character("tab", u'\t'),
     skipped("tc"),
     skipped("tcn"),
