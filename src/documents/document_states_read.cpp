@@ -111,20 +111,37 @@ void DocumentStates::setTyping(qsizetype place, std::optional<CharFormat> look)
 CharFormat DocumentStates::lookForTyping(qsizetype position)
 {
     catchUp();
-    return position == m_typingPlace && m_chosenLook ? *m_chosenLook : lookAround(position);
+    return position == m_typingPlace && m_chosenLook ? *m_chosenLook : look(lookAround(position));
+}
+
+void DocumentStates::setPlain(const CharFormat &plain)
+{
+    if (plain == m_plain) {
+        return;
+    }
+    m_plain = plain;
+    if (m_looks.setPlain(plain)) {
+        Q_EMIT plainFontChanged();
+        if (m_size > 0) {
+            Q_EMIT looksChanged({ { 0, m_size } });
+        }
+    }
 }
 
 quint32 DocumentStates::lookOfTyped(const TextEdit &edit)
 {
     const qsizetype end = edit.from + edit.length;
     const bool isAtCaret = edit.from <= m_typingPlace && m_typingPlace <= end;
-    return m_looks.numberOf(m_chosenLook.value_or(lookAround(isAtCaret ? m_typingPlace : end)));
+    if (m_chosenLook) {
+        return m_looks.numberOf(*m_chosenLook, m_chosenLook->colour != m_plain.colour);
+    }
+    return lookAround(isAtCaret ? m_typingPlace : end);
 }
 
-CharFormat DocumentStates::lookAround(qsizetype position) const
+quint32 DocumentStates::lookAround(qsizetype position)
 {
     if (m_size == 0) {
-        return m_plain;
+        return m_looks.numberOf(m_plain);
     }
     position = std::clamp(position, qsizetype(0), m_size);
     const qsizetype before = std::max(position - 1, qsizetype(0));
@@ -132,7 +149,7 @@ CharFormat DocumentStates::lookAround(qsizetype position) const
     const bool isLineStart = position == 0 || around.front() == u'\n';
     const bool isLineEnd = position == m_size || around.back() == u'\n';
     const qsizetype like = isLineStart && !isLineEnd ? position : before;
-    return m_looks.look(runs(like, 1).front().look);
+    return runs(like, 1).front().look;
 }
 
 TextChunk::Runs DocumentStates::runs(qsizetype from, qsizetype length) const
@@ -158,7 +175,14 @@ std::vector<CharRun> DocumentStates::charRuns(const TextChunk::Runs &runs) const
     std::vector<CharRun> result;
     result.reserve(runs.size());
     for (const TextChunk::Run &run : runs) {
-        result.push_back({ run.length, look(run.look) });
+        const TextChunk::Run *before = &run == runs.data() ? nullptr : &run - 1;
+        // Looks that differ in nothing but who gave them are one to a reader.
+        if (before && m_looks.handOf(before->look) != m_looks.handOf(run.look)
+            && look(before->look) == look(run.look)) {
+            result.back().length += run.length;
+        } else {
+            result.push_back({ run.length, look(run.look) });
+        }
     }
     return result;
 }
@@ -193,6 +217,106 @@ void DocumentStates::readPieces(const DocumentState &state,
     for (size_t i = 0; i < state.m_chunks->size(); ++i) {
         read(join(*state.m_chunks, i, i + 1));
     }
+}
+
+namespace {
+
+/// The chunks that two states do not share at their starts and ends.
+class OtherChunks
+{
+public:
+    OtherChunks(const TextChunks &one, const TextChunks &other) : m_one(one), m_other(other)
+    {
+        const size_t most = std::min(one.size(), other.size());
+        while (m_first < most && one[m_first] == other[m_first]) {
+            ++m_first;
+        }
+        size_t back = 0;
+        while (back < most - m_first
+               && one[one.size() - 1 - back] == other[other.size() - 1 - back]) {
+            ++back;
+        }
+        m_length = sizeOf(one, m_first, one.size() - back);
+        m_hasSameLength = m_length == sizeOf(other, m_first, other.size() - back);
+    }
+
+    size_t first() const { return m_first; }
+    /// Characters of the first state's chunks.
+    qsizetype length() const { return m_length; }
+
+    bool holdSameText() const
+    {
+        if (!m_hasSameLength) {
+            return false;
+        }
+        Place left{ m_one, m_first };
+        Place right{ m_other, m_first };
+        for (qsizetype rest = m_length; rest > 0;) {
+            const QStringView one = left.rest();
+            const QStringView other = right.rest();
+            const qsizetype part = std::min(one.size(), other.size());
+            // Chunks that differ in nothing but looks share their text.
+            if (one.data() != other.data() && one.first(part) != other.first(part)) {
+                return false;
+            }
+            left.skip(part);
+            right.skip(part);
+            rest -= part;
+        }
+        return true;
+    }
+
+private:
+    struct Place {
+        const TextChunks &chunks;
+        size_t chunk;
+        qsizetype at = 0;
+
+        QStringView rest() const { return QStringView(chunks[chunk]->text).sliced(at); }
+        void skip(qsizetype length)
+        {
+            at += length;
+            if (at == chunks[chunk]->text.size()) {
+                ++chunk;
+                at = 0;
+            }
+        }
+    };
+
+    const TextChunks &m_one;
+    const TextChunks &m_other;
+    size_t m_first = 0;
+    qsizetype m_length = 0;
+    bool m_hasSameLength = false;
+};
+
+} // namespace
+
+bool DocumentStates::holdSameText(const DocumentState &one, const DocumentState &other) const
+{
+    return OtherChunks(*one.m_chunks, *other.m_chunks).holdSameText();
+}
+
+bool DocumentStates::holdSame(const DocumentState &one, const DocumentState &other) const
+{
+    const OtherChunks chunks(*one.m_chunks, *other.m_chunks);
+    if (!chunks.holdSameText()) {
+        return false;
+    }
+    ChunkReader left(*one.m_chunks, chunks.first());
+    ChunkReader right(*other.m_chunks, chunks.first());
+    for (qsizetype rest = chunks.length(); rest > 0;) {
+        const TextChunk::Run leftRun = left.next();
+        const TextChunk::Run rightRun = right.next();
+        if (m_looks.handOf(leftRun.look) != m_looks.handOf(rightRun.look)) {
+            return false;
+        }
+        const auto part = qsizetype(std::min(leftRun.length, rightRun.length));
+        left.skip(part);
+        right.skip(part);
+        rest -= part;
+    }
+    return true;
 }
 
 RichText DocumentStates::join(const TextChunks &chunks, size_t first, size_t end) const

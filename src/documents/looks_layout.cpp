@@ -66,6 +66,7 @@ LooksLayout::LooksLayout(QTextDocument &document, DocumentStates &states)
     : QPlainTextDocumentLayout(&document), m_states(&states),
       m_widths(std::make_shared<LineWidths>())
 {
+    connect(&states, &DocumentStates::plainFontChanged, this, [this] { m_formats.clear(); });
     connect(&states, &DocumentStates::looksChanged, this, &LooksLayout::onLooksChanged);
 }
 

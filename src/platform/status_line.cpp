@@ -7,10 +7,17 @@ namespace zeph {
 
 void StatusLine::setText(const QString &text)
 {
+    m_showsKeys = false;
     if (m_text != text) {
         m_text = text;
         Q_EMIT textChanged(text);
     }
+}
+
+void StatusLine::setKeys(const QString &keys)
+{
+    setText(keys);
+    m_showsKeys = true;
 }
 
 void StatusLine::setTextNow(const QString &text)

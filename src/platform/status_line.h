@@ -19,6 +19,9 @@ public:
     /// Panel 1, the message line.
     const QString &text() const { return m_text; }
     void setText(const QString &text);
+    /// The same with a macro's keys, which a change of tabs leaves.
+    void setKeys(const QString &keys);
+    bool showsKeys() const { return m_showsKeys; }
     /// Shows the text at once, for an operation that will not return to the event loop soon.
     /// Nothing but the panel is repainted: no event is handled, no timer fires.
     void setTextNow(const QString &text);
@@ -51,6 +54,7 @@ Q_SIGNALS:
 
 private:
     QString m_text;
+    bool m_showsKeys = false;
     QString m_textTooltip;
     QString m_lineText;
     int m_savedPicture = 1;
