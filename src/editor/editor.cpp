@@ -72,7 +72,8 @@ Editor::Editor(const Context &context, QWidget *parent)
       m_fresh(std::make_unique<FileNew>(context, *m_view, *m_opening)),
       m_rightMenu(std::make_unique<RightMenu>(*m_view, *m_actions)),
       m_guards(new LossGuards{ .autoSave = { context, *m_view, *m_saving },
-                               .recovery = { context, { *m_view, *m_opening } } }),
+                               .recovery = { context, { *m_view, *m_opening } },
+                               .changedFiles = { context, { *m_view, *m_opening } } }),
       m_insertForms(std::make_unique<InsertForms>(
           context, InsertForms::Parts{ *m_view, *m_actions, *m_insert })),
       m_packaging(std::make_unique<Packaging>(
@@ -135,6 +136,7 @@ QString Editor::macroText()
 
 void Editor::connectFiles()
 {
+    m_saving->guardBy(m_guards->changedFiles);
     MenuActions &on = *m_actions;
     on.connectTo(u"mnuFileNewJoystick", [this] { m_fresh->mnuFileNewJoystick_Click(); });
     on.connectTo(u"mnuFileNewMacro", [this] { m_fresh->mnuFileNewMacro_Click(); });

@@ -21,7 +21,8 @@
 namespace zeph {
 
 enum class BoxIcon { None, Information, Question, Exclamation, Stop };
-enum class BoxButton { Ok, Cancel, Yes, No };
+/// Other is one that only its caption names.
+enum class BoxButton { Ok, Cancel, Yes, No, Other };
 
 /// A message box. Escape and the close button answer Cancel, else No, else the only button.
 struct Box {
@@ -30,6 +31,8 @@ struct Box {
     BoxIcon icon = BoxIcon::None;
     QList<BoxButton> buttons = { BoxButton::Ok };
     BoxButton defaultButton = BoxButton::Ok;
+    /// What the buttons say, in their order; where none is given, what the system says.
+    QStringList captions = {};
 };
 
 /// An open or save dialog. The filter has the form "Caption|*.a;*.b|Caption|*.c".

@@ -39,6 +39,8 @@ QMessageBox::StandardButton standardButton(BoxButton button)
         return QMessageBox::Yes;
     case BoxButton::No:
         return QMessageBox::No;
+    case BoxButton::Other:
+        return QMessageBox::Open;
     }
     return QMessageBox::NoButton;
 }
@@ -127,8 +129,11 @@ BoxButton QtDialogs::box(const Box &box)
     window.setTextFormat(Qt::PlainText);
     window.setText(box.text);
     window.setIcon(standardIcon(box.icon));
-    for (const BoxButton button : box.buttons) {
-        window.addButton(standardButton(button));
+    for (qsizetype i = 0; i < box.buttons.size(); ++i) {
+        QPushButton *button = window.addButton(standardButton(box.buttons[i]));
+        if (i < box.captions.size()) {
+            button->setText(box.captions[i]);
+        }
     }
     window.setDefaultButton(standardButton(box.defaultButton));
     const BoxButton escape = escapeButton(box);
