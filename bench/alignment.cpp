@@ -5,27 +5,16 @@
 // Editor window alignment, block comments and Replace All of as many hits.
 
 #include "text/alignment.h"
-#include "documents/editor_view.h"
-#include "documents/text_control.h"
 #include "documents/undo_histories.h"
 #include "editor/edit/findandreplace.h"
-#include "editor/editor.h"
-#include "platform/clock.h"
-#include "platform/fakes/fake_keyboard.h"
-#include "platform/fakes/fake_launcher.h"
-#include "platform/fakes/scripted_dialogs.h"
-#include "platform/status_line.h"
-#include "settings/colour_settings.h"
-#include "settings/settings.h"
+#include "tests/support/editor_world.h"
 
 #include <benchmark/benchmark.h>
 
 #include <QAction>
 #include <QApplication>
 #include <QComboBox>
-#include <QDir>
 #include <QPushButton>
-#include <QTemporaryDir>
 
 using namespace zeph;
 
@@ -77,25 +66,15 @@ void Analyse(benchmark::State &state)
     }
 }
 
-struct World {
+struct World : test::EditorWorld {
     explicit World(int lines) : text(longFile(lines))
     {
-        paths.appFolder = folder.path();
-        paths.hotasFolder = folder.path() + u'/';
-        paths.iniPath = folder.filePath(u"Zeph.ini"_s);
-        QDir(folder.path()).mkdir(u"Rtf"_s);
-        QDir(folder.path()).mkdir(u"Files"_s);
-        settings.of<ColourSettings>().TextFontName = u"Arial"_s;
-        settings.of<ColourSettings>().TextFontSize = 8;
         settings.of<ColourSettings>().BTNColour = 0xFF0000;
         settings.of<ColourSettings>().SlashColour = 0x0000FF;
         settings.of<ColourSettings>().RAWColour = 0x00FF00;
         settings.of<ColourSettings>().RemStatements = 0x808080;
-        editor = std::make_unique<Editor>(
-            Context{ paths, settings, status, dialogs, launcher, clock, keyboard });
-        editor->resize(1200, 800);
-        editor->show();
-        QCoreApplication::processEvents();
+        makeEditor();
+        showEditor();
     }
 
     /// The file as it is opened, in its colours.
@@ -110,16 +89,7 @@ struct World {
     }
     void trigger(QStringView entry) { editor->action(entry)->trigger(); }
 
-    QTemporaryDir folder;
-    Paths paths;
-    Settings settings;
-    StatusLine status;
-    ScriptedDialogs dialogs;
-    FakeLauncher launcher;
-    Clock clock;
-    FakeKeyboard keyboard;
     QString text;
-    std::unique_ptr<Editor> editor;
 };
 
 /// The undo of an entry run on the file as it was opened.

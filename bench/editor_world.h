@@ -5,22 +5,11 @@
 
 // The real Editor window, shown on the offscreen platform, over a long joystick file.
 
-#include "documents/editor_view.h"
-#include "documents/text_control.h"
-#include "editor/editor.h"
 #include "editor/files/file_opening.h"
-#include "platform/clock.h"
-#include "platform/fakes/fake_keyboard.h"
-#include "platform/fakes/fake_launcher.h"
-#include "platform/fakes/scripted_dialogs.h"
-#include "platform/status_line.h"
-#include "settings/colour_settings.h"
-#include "settings/settings.h"
+#include "tests/support/editor_world.h"
 
 #include <QCoreApplication>
-#include <QDir>
 #include <QFile>
-#include <QTemporaryDir>
 
 namespace zeph::bench {
 
@@ -35,37 +24,15 @@ inline QByteArray longFile(int lines)
     return bytes;
 }
 
-struct World {
-    explicit World(int lines = 10000)
+struct World : test::EditorWorld {
+    explicit World(int lines = 10000) : path(file(u"long.tmj"_s, longFile(lines)))
     {
-        paths.appFolder = folder.path();
-        paths.hotasFolder = folder.path() + u'/';
-        paths.iniPath = folder.filePath(u"Zeph.ini"_s);
-        QDir(folder.path()).mkdir(u"Rtf"_s);
-        QDir(folder.path()).mkdir(u"Files"_s);
         setFirstRunColours(settings.of<ColourSettings>());
-        path = folder.filePath(u"Files/long.tmj"_s);
-        QFile file(path);
-        if (file.open(QIODevice::WriteOnly)) {
-            file.write(longFile(lines));
-        }
-        editor = std::make_unique<Editor>(
-            Context{ paths, settings, status, dialogs, launcher, clock, keyboard });
-        editor->resize(1200, 800);
-        editor->show();
-        QCoreApplication::processEvents();
+        makeEditor();
+        showEditor();
     }
 
-    QTemporaryDir folder;
-    Paths paths;
-    Settings settings;
-    StatusLine status;
-    ScriptedDialogs dialogs;
-    FakeLauncher launcher;
-    Clock clock;
-    FakeKeyboard keyboard;
-    QString path;
-    std::unique_ptr<Editor> editor;
+    const QString path;
 };
 
 } // namespace zeph::bench

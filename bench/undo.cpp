@@ -5,24 +5,14 @@
 // what a keystroke costs, what a thousand steps take and hold.
 
 #include "documents/document_settings.h"
-#include "documents/editor_view.h"
-#include "documents/text_control.h"
 #include "documents/undo_histories.h"
-#include "editor/editor.h"
 #include "menus/menu_actions.h"
-#include "platform/clock.h"
-#include "platform/fakes/fake_keyboard.h"
-#include "platform/fakes/fake_launcher.h"
-#include "platform/fakes/scripted_dialogs.h"
-#include "platform/status_line.h"
-#include "settings/colour_settings.h"
-#include "settings/settings.h"
+#include "tests/support/editor_world.h"
 
 #include <benchmark/benchmark.h>
 
 #include <QAction>
 #include <QApplication>
-#include <QTemporaryDir>
 #include <QTest>
 
 using namespace zeph;
@@ -32,18 +22,13 @@ namespace {
 constexpr int stepCount = 1000;
 
 /// The Editor with a file of some lines, in as many runs as a coloured file has: six a line.
-struct World {
+struct World : test::EditorWorld {
     explicit World(int64_t lines)
     {
-        paths.appFolder = folder.path();
-        paths.hotasFolder = folder.path() + u'/';
         settings.of<DocumentSettings>().UndoMax = stepCount;
-        settings.of<ColourSettings>().TextFontName = u"Arial"_s;
-        editor = std::make_unique<Editor>(
-            Context{ paths, settings, status, dialogs, launcher, clock, keyboard });
+        makeEditor();
         editor->applySettings();
-        editor->resize(1200, 800);
-        editor->show();
+        showEditor();
         QString text;
         for (int64_t line = 0; line < lines; ++line) {
             text += u"BTN H"_s + QString::number(line % 4 + 1)
@@ -69,15 +54,6 @@ struct World {
         QTest::keyClick(&control(), Qt::Key_Delete);
     }
 
-    QTemporaryDir folder;
-    Paths paths;
-    Settings settings;
-    StatusLine status;
-    ScriptedDialogs dialogs;
-    FakeLauncher launcher;
-    Clock clock;
-    FakeKeyboard keyboard;
-    std::unique_ptr<Editor> editor;
     qsizetype size = 0;
     qsizetype place = 0;
 };

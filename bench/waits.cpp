@@ -74,8 +74,7 @@ void waitForSilence(benchmark::State &state, bool compiler)
     world.settings.of<ToolchainSettings>().RegainControlAfter = 4000;
     world.settings.of<ToolchainSettings>().StatusMonitoringInterval = 1;
     world.settings.of<ToolchainSettings>().JoyTestConnect = true;
-    const Context context{ world.paths,    world.settings, world.status,  world.dialogs,
-                           world.launcher, world.clock,    world.keyboard };
+    const Context context = world.context();
     world.editor->opening().OpenFavouriteFile(world.path);
     ToolchainHandshake handshake(context, world.editor.get());
     FakeJoystick joystick;

@@ -170,7 +170,8 @@ Outcome runConfig(const QStringList &arguments, const QString &hotasFolder, cons
         return outcome;
     }
     const QString found = existingPath(hotasFolder + u"HOTAS.ini"_s);
-    const ProfileFile ini(found.isEmpty() ? hotasFolder + u"HOTAS.ini"_s : found);
+    const ProfileFile ini(found.isEmpty() ? hotasFolder + u"HOTAS.ini"_s : found,
+                          ProfileUse::Shared);
     if (request.isProfile)
         return applyProfile(request, hotasFolder, ini, outcome);
     return changeModes(request, ini, options, outcome);

@@ -39,7 +39,7 @@ std::optional<RichText> ColouredCopies::load(const QString &name, const QString 
     if (!bytes) {
         return std::nullopt;
     }
-    auto copy = readStyledRtf(*bytes);
+    auto copy = readRtfWithLosses(*bytes);
     if (!copy || copy->text.text != plainText) {
         return std::nullopt;
     }
@@ -62,7 +62,10 @@ Expected<void, FileError> ColouredCopies::SaveColouredText(Document &document) c
     DocumentStates &states = document.states();
     RtfWriter writer;
     writer.setPlain(document.plain());
-    states.readPieces(states.present(), [&writer](const RichText &piece) { writer.add(piece); });
+    const DocumentState present = states.present();
+    for (size_t i = 0; i < states.pieceCount(present); ++i) {
+        writer.add(states.piece(present, i));
+    }
     auto written = writeFileAtomically(pathOf(document.name()), writer.take());
     if (written) {
         document.tellLooksWritten();

@@ -29,7 +29,7 @@ ColouredText::ColouredText(QObject *parent)
     : QObject(parent), m_states(prepared(m_content)), m_cursor(&m_content)
 {
     m_content.setDocumentLayout(new LooksLayout(m_content, m_states));
-    connect(&m_content, &QTextDocument::contentsChanged, this, [this] {
+    connect(&m_states, &DocumentStates::changedByUser, this, [this] {
         if (m_quiet > 0) {
             return;
         }
@@ -74,7 +74,6 @@ void ColouredText::setText(const QString &text)
 
 void ColouredText::setRichText(const RichText &text)
 {
-    const Quiet quiet(*this);
     m_states.setText(text);
 }
 
@@ -87,19 +86,16 @@ void ColouredText::replace(int start, int length, const QString &text)
 void ColouredText::replaceAll(std::span<const qsizetype> starts, qsizetype length,
                               const QString &text)
 {
-    const Quiet quiet(*this);
     m_states.replaceAll(starts, length, text);
 }
 
 void ColouredText::replaceWhole(const QString &text)
 {
-    const Quiet quiet(*this);
     m_states.replace(0, length(), RichText::plain(text, m_plain));
 }
 
 void ColouredText::insert(const RichText &text)
 {
-    const Quiet quiet(*this);
     const int start = selStart();
     m_states.replace(start, selLength(), text);
     const int end = start + int(text.text.size());
@@ -109,7 +105,6 @@ void ColouredText::insert(const RichText &text)
 
 void ColouredText::removeSelection()
 {
-    const Quiet quiet(*this);
     const int start = selStart();
     m_states.replace(start, selLength(), {});
     setCaret(start, start);

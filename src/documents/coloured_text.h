@@ -56,7 +56,7 @@ public:
     void setPlain(const CharFormat &plain);
     /// Gives the characters from a position on these looks.
     void setCharacterRuns(const std::vector<CharRun> &runs, int from = 0);
-    /// The same for the whole text.
+    /// Gives all characters these looks.
     void setLooks(const LookRuns &looks);
     /// Calls a function with each look in a stretch, which it may change.
     void changeLooks(int from, int length, const std::function<void(CharFormat &)> &change,
@@ -84,7 +84,8 @@ public:
     bool isLocked() const { return m_locked; }
     void setLocked(bool locked);
 
-    /// While one exists, changes of content() are not told.
+    /// While one exists, changes of content() do not emit changed(): the program makes them, not
+    /// the user.
     class Quiet
     {
     public:

@@ -101,7 +101,7 @@ void Document::tellWritten(const QByteArray &bytes, Save save)
 
 void Document::tellLooksWritten()
 {
-    if (m_unchanged && states().holdSameText(states().present(), m_unchanged->first)) {
+    if (m_unchanged && states().holdSame(states().present(), m_unchanged->first, false)) {
         m_unchanged->first = states().present();
         showState(m_unchanged->second);
     }

@@ -64,12 +64,13 @@ public:
     void undo() { step(&UndoHistory::undo); }
     void redo() { step(&UndoHistory::redo); }
 
-    /// To be called after another text has been set: the history starts over, the caret goes to the
-    /// start, and the state becomes Empty (Fresh), Modified (Recovered) or Saved.
+    /// Tells that another text has been set, which the caller has just done: the history starts
+    /// over, the caret goes to the start, and the state becomes Empty (Fresh), Modified (Recovered)
+    /// or Saved.
     void tellReplaced(How how, const QByteArray &onDisk = {});
-    /// To be called before the text is written to the document's file as it is now.
+    /// Tells that the text is going to be written to the document's file as it is now.
     void tellAboutToBeWritten() { Q_EMIT aboutToBeWritten(); }
-    /// To be called after these bytes have been written to the document's file.
+    /// Tells that these bytes have been written to the document's file.
     void tellWritten(const QByteArray &bytes, Save save);
     /// For whoever could not write it: it is modified, whatever it was.
     void tellNotWritten() { showState(Modified); }

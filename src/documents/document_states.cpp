@@ -108,9 +108,7 @@ DocumentStates::DocumentStates(QTextDocument &document, int linesPerChunk)
     // Without a layout the toolkit reports no changes.
     document.documentLayout();
     connect(&document, &QTextDocument::contentsChange, this, &DocumentStates::onContentsChange);
-    // An edit block that changes nothing raises the revision too.
-    connect(&document, &QTextDocument::contentsChanged, this,
-            [this] { m_revision = m_document.revision(); });
+    connect(&document, &QTextDocument::contentsChanged, this, &DocumentStates::onContentsChanged);
     catchUp();
     m_revision = m_document.revision();
 }
@@ -164,9 +162,10 @@ void DocumentStates::apply(const std::vector<TextEdit> &edits)
     cursor.endEditBlock();
 }
 
-void DocumentStates::replace(qsizetype from, qsizetype length, const RichText &text)
+void DocumentStates::replace(qsizetype from, qsizetype length, const RichText &text, By by)
 {
     catchUp();
+    const QScopedValueRollback forUser(m_writesForUser, by == By::User);
     apply({ editOf(from, length, text) });
 }
 

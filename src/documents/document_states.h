@@ -45,9 +45,11 @@ private:
     std::shared_ptr<const TextChunks> m_chunks;
 };
 
-/// Holds the looks of a document, gives its present state and brings back earlier ones. Follows
-/// what others do to the document's text; characters that they put in get the look for typing. The
-/// document must outlive this object. Positions are 0-based characters; line ends are '\n'.
+/// Holds the looks of a document's characters, and takes and restores states (snapshots) of text
+/// and looks. When others change the document's text, it hears of it and gives the new characters
+/// the look for typing (lookForTyping). A state costs only the chunks that changed since the one
+/// before. The document must outlive this object. Positions are 0-based characters; line ends are
+/// '\n'.
 class DocumentStates : public QObject
 {
     Q_OBJECT
@@ -62,24 +64,26 @@ public:
     /// The looks of a stretch without its text, clamped likewise.
     std::vector<CharRun> looks(qsizetype from, qsizetype length);
     RichText richText(const DocumentState &state) const;
-    bool holdSameText(const DocumentState &one, const DocumentState &other) const;
-    /// Whether two states hold the same text, and the same of what the user gave it by hand: bold,
-    /// italic, underline, fonts other than the plain text's and colours that changeLooks() marked.
-    /// Costs little where the states differ in length or share their chunks.
-    bool holdSame(const DocumentState &one, const DocumentState &other) const;
-    /// Calls a function with the state's text in pieces, one after the other, each of whole lines:
-    /// for a long text that is read once, without a copy of the whole.
-    void readPieces(const DocumentState &state,
-                    const std::function<void(const RichText &piece)> &read) const;
+    /// Whether two states hold the same text, and with looks the same of what the user gave it by
+    /// hand: bold, italic, underline, fonts other than the plain text's and colours that
+    /// changeLooks() marked. Costs little where the states differ in length or share their chunks.
+    bool holdSame(const DocumentState &one, const DocumentState &other,
+                  bool withLooks = true) const;
+    /// A state's text comes in this many pieces of whole lines, for a long text that is read once,
+    /// without a copy of the whole.
+    size_t pieceCount(const DocumentState &state) const { return state.m_chunks->size(); }
+    RichText piece(const DocumentState &state, size_t index) const;
 
     // Each of the changes of text below is one edit block of the document.
 
     /// Replaces the whole text; characters that the toolkit's document cannot hold become
     /// replacement characters.
     void setText(const RichText &text);
+    /// For whom a text is changed. changedByUser() tells what the user does.
+    enum class By { Program, User };
     /// Replaces a stretch. New lines take the format of the paragraph that they are put into, not
     /// the one that the text says.
-    void replace(qsizetype from, qsizetype length, const RichText &text);
+    void replace(qsizetype from, qsizetype length, const RichText &text, By by = By::Program);
     /// Replaces several stretches of one length, at ascending places that do not overlap, by the
     /// same text. It looks as if it were typed at the end of each stretch.
     void replaceAll(std::span<const qsizetype> starts, qsizetype length, const QString &text);
@@ -98,8 +102,8 @@ public:
     /// Tells where the user types, and the look that the user has chosen for it, if any.
     void setTyping(qsizetype place, std::optional<CharFormat> look);
     qsizetype typingPlace() const { return m_typingPlace; }
-    /// The look of what is typed into an empty text. Text in the font that was plain before follows
-    /// it, in kept states too.
+    /// Sets the look of what is typed into an empty text. Text in the font that was plain before
+    /// follows it, in kept states too.
     void setPlain(const CharFormat &plain);
 
     /// Whether the looks fit the document's text; false while the document is being changed.
@@ -110,13 +114,16 @@ public:
     const CharFormat &look(quint32 number) const { return m_looks.look(number); }
 
 Q_SIGNALS:
+    /// The document's text or paragraphs have changed, and no other call of this class did it.
+    void changedByUser();
     /// The looks in these stretches, which ascend, have changed; their text is the same.
+    /// None means the whole text: the plain font is another, and with it what numbers of looks
+    /// mean.
     void looksChanged(const std::vector<zeph::TextStretch> &stretches);
-    /// The looks that numbers mean are others; looksChanged() follows.
-    void plainFontChanged();
 
 private:
     void onContentsChange(int position, int removed, int added);
+    void onContentsChanged();
     /// Follows what the toolkit has not reported yet.
     void catchUp();
     /// Takes over what others changed; so many characters at the start and the end are the same.
@@ -128,7 +135,6 @@ private:
     TextEdit editOf(qsizetype from, qsizetype length, const RichText &text);
     void layRuns(const TextChunk::Runs &runs, qsizetype from);
     void setChunks(TextChunks chunks);
-    qsizetype documentSize() const;
     ParagraphReader paragraphReader() const;
     RichText join(const TextChunks &chunks, size_t first, size_t end) const;
     std::vector<CharRun> charRuns(const TextChunk::Runs &runs) const;
@@ -139,6 +145,7 @@ private:
     DocumentState m_known; ///< the document as it was when last followed
     qsizetype m_size = 0; ///< characters of m_known
     bool m_isWriting = false; ///< this object changes the document, and m_known itself
+    bool m_writesForUser = false; ///< what it writes at the moment counts as the user's
     int m_revision = -1; ///< the document's, when m_known was last made equal to it
     CharFormat m_plain;
     qsizetype m_typingPlace = 0;

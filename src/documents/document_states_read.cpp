@@ -12,15 +12,19 @@
 
 namespace zeph {
 
-qsizetype DocumentStates::documentSize() const
+namespace {
+
+/// Characters of the text: the toolkit counts a separator at the end that is none.
+qsizetype sizeOf(const QTextDocument &document)
 {
-    // The toolkit counts a separator at the end, which is no character of the text.
-    return m_document.characterCount() - 1;
+    return document.characterCount() - 1;
 }
+
+} // namespace
 
 bool DocumentStates::isUpToDate() const
 {
-    return m_revision == m_document.revision() && m_size == documentSize();
+    return m_revision == m_document.revision() && m_size == sizeOf(m_document);
 }
 
 void DocumentStates::onContentsChange(int position, int, int added)
@@ -30,9 +34,18 @@ void DocumentStates::onContentsChange(int position, int, int added)
         return;
     }
     // The toolkit's numbers may count that separator too.
-    const qsizetype most = std::min(m_size, documentSize());
+    const qsizetype most = std::min(m_size, sizeOf(m_document));
     const qsizetype front = std::min(qsizetype(position), most);
-    follow(front, std::clamp(documentSize() - position - added, qsizetype(0), most - front));
+    follow(front, std::clamp(sizeOf(m_document) - position - added, qsizetype(0), most - front));
+}
+
+void DocumentStates::onContentsChanged()
+{
+    // An edit block that changes nothing raises the revision too.
+    m_revision = m_document.revision();
+    if (!m_isWriting || m_writesForUser) {
+        Q_EMIT changedByUser();
+    }
 }
 
 void DocumentStates::catchUp()
@@ -46,7 +59,7 @@ void DocumentStates::catchUp()
 
 void DocumentStates::follow(qsizetype sameInFront, qsizetype sameAtEnd)
 {
-    const qsizetype end = documentSize() - sameAtEnd;
+    const qsizetype end = sizeOf(m_document) - sameAtEnd;
     const QString before = textOf(*m_known.m_chunks, sameInFront, m_size - sameAtEnd);
     const QString now = plainTextOf(m_document, sameInFront, end - sameInFront);
     std::vector<TextEdit> edits = differences(before, now);
@@ -121,10 +134,7 @@ void DocumentStates::setPlain(const CharFormat &plain)
     }
     m_plain = plain;
     if (m_looks.setPlain(plain)) {
-        Q_EMIT plainFontChanged();
-        if (m_size > 0) {
-            Q_EMIT looksChanged({ { 0, m_size } });
-        }
+        Q_EMIT looksChanged({});
     }
 }
 
@@ -211,12 +221,9 @@ RichText DocumentStates::richText(const DocumentState &state) const
     return join(*state.m_chunks, 0, state.m_chunks->size());
 }
 
-void DocumentStates::readPieces(const DocumentState &state,
-                                const std::function<void(const RichText &piece)> &read) const
+RichText DocumentStates::piece(const DocumentState &state, size_t index) const
 {
-    for (size_t i = 0; i < state.m_chunks->size(); ++i) {
-        read(join(*state.m_chunks, i, i + 1));
-    }
+    return join(*state.m_chunks, index, index + 1);
 }
 
 namespace {
@@ -292,16 +299,13 @@ private:
 
 } // namespace
 
-bool DocumentStates::holdSameText(const DocumentState &one, const DocumentState &other) const
-{
-    return OtherChunks(*one.m_chunks, *other.m_chunks).holdSameText();
-}
-
-bool DocumentStates::holdSame(const DocumentState &one, const DocumentState &other) const
+bool DocumentStates::holdSame(const DocumentState &one, const DocumentState &other,
+                              bool withLooks) const
 {
     const OtherChunks chunks(*one.m_chunks, *other.m_chunks);
-    if (!chunks.holdSameText()) {
-        return false;
+    const bool isSameText = chunks.holdSameText();
+    if (!isSameText || !withLooks) {
+        return isSameText;
     }
     ChunkReader left(*one.m_chunks, chunks.first());
     ChunkReader right(*other.m_chunks, chunks.first());

@@ -8,6 +8,7 @@
 #include "documents/editor_texts.h"
 #include "platform/dialogs.h"
 #include "platform/richtext/rich_text_box.h"
+#include "platform/status_line.h"
 #include "settings/colour_settings.h"
 #include "settings/settings.h"
 
@@ -59,9 +60,20 @@ bool Documents::refuseProtected()
         m_context.dialogs.box(fileProtectedBox());
         return true;
     }
-    // A text that is on its way to the Cougar is locked for seconds only, and the status bar says
-    // so: no box.
-    return selected().isLocked();
+    return refuseSent(m_selected);
+}
+
+bool Documents::refuseSent(DocumentKind kind)
+{
+    // The macro text is locked only while it is protected, which is another matter.
+    if (kind == DocumentKind::Macro || !m_joystick.isLocked()) {
+        return false;
+    }
+    // It lasts for seconds only: no box.
+    m_context.status.setText(
+        u" %1 is on its way to the Cougar: I keep it as it is until it's there"_s.arg(
+            m_joystick.caption()));
+    return true;
 }
 
 bool Documents::insert(const Statement &statement)

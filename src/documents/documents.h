@@ -44,8 +44,12 @@ public:
     /// Locks the macro text against changes by the user, or unlocks it.
     void setProtected(bool on);
     bool isProtected() const { return m_protected; }
-    /// Whether the selected text takes no changes. The user is told when it is the protected one.
+    /// Tells the user when the selected text is the protected one. True when it takes no changes,
+    /// for that reason or because it is locked.
     bool refuseProtected();
+    /// Whether the text is on its way to the Cougar and must neither change nor be replaced
+    /// meanwhile, which the status line tells.
+    bool refuseSent(DocumentKind kind);
 
     /// Writes what a tool has made over the selection of the selected document, in its colours, as
     /// one step to undo; the caret goes to its end. False when the text takes no changes, as

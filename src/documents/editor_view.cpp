@@ -13,10 +13,41 @@
 
 #include "platform/icon_file.h"
 #include <QHBoxLayout>
+#include <QPainter>
+#include <QSignalBlocker>
 #include <QTabBar>
 #include <QVBoxLayout>
 
 namespace zeph {
+
+namespace {
+
+/// A tab's picture with a dot in its corner, which says that the document has changed.
+QIcon withDot(const QIcon &icon, const QTabBar &tabs)
+{
+    const QSize size = tabs.iconSize();
+    QIcon dotted;
+    for (const qreal scale : { 1.0, 1.5, 2.0, 3.0 }) {
+        QPixmap picture = icon.pixmap(size, scale);
+        if (picture.isNull()) {
+            picture = QPixmap(size * scale);
+            picture.fill(Qt::transparent);
+            picture.setDevicePixelRatio(scale);
+        }
+        QPainter painter(&picture);
+        painter.setRenderHint(QPainter::Antialiasing);
+        // Seen on light and dark tabs alike.
+        painter.setPen(QPen(Qt::white, 1));
+        painter.setBrush(QColor(214, 40, 40));
+        const double side = size.width() * 0.44;
+        painter.drawEllipse(QRectF(size.width() - side - 0.5, 0.5, side, side));
+        painter.end();
+        dotted.addPixmap(picture);
+    }
+    return dotted;
+}
+
+} // namespace
 
 EditorView::EditorView(const Context &context, Documents &documents, QWidget *parent)
     : QWidget(parent), m_context(context), m_documents(documents)
@@ -27,8 +58,6 @@ EditorView::EditorView(const Context &context, Documents &documents, QWidget *pa
     m_tabs->setDrawBase(false);
     m_tabs->addTab(QString());
     m_tabs->addTab(QString());
-    m_tabs->setTabIcon(0, iconFromFile(context.paths.inApp(u"icons/tab-joystick.svg")));
-    m_tabs->setTabIcon(1, iconFromFile(context.paths.inApp(u"icons/tab-macro.svg")));
     makeControl(documents.joystick(), u"JoystickText"_s);
     makeControl(documents.macro(), u"MacroText"_s);
 
@@ -44,13 +73,14 @@ EditorView::EditorView(const Context &context, Documents &documents, QWidget *pa
     layout->addLayout(texts, 1);
 
     updateCaptions();
+    showTabIcons();
     applyLook();
     PositionControls();
     UpdateSavedIcon();
     connect(m_tabs, &QTabBar::currentChanged, this,
             [this](int index) { m_documents.select(DocumentKind(index)); });
     connect(&documents, &Documents::selectedChanged, this, &EditorView::showSelected);
-    connect(&documents, &Documents::protectedChanged, this, &EditorView::showProtected);
+    connect(&documents, &Documents::protectedChanged, this, &EditorView::showTabIcons);
 }
 
 void EditorView::makeControl(Document &document, const QString &name)
@@ -74,6 +104,7 @@ void EditorView::connectDocument(Document &document)
 {
     connect(&document, &Document::renamed, this, &EditorView::updateCaptions);
     connect(&document, &Document::stateChanged, this, &EditorView::UpdateSavedIcon);
+    connect(&document, &Document::stateChanged, this, &EditorView::showTabIcons);
     connect(&document, &Document::caretMoved, this, [this, &document] {
         if (&document == &m_documents.selected()) {
             m_context.status.setLine(document.caretLine());
@@ -84,7 +115,11 @@ void EditorView::connectDocument(Document &document)
 void EditorView::showSelected()
 {
     const Document &now = m_documents.selected();
+    const QSignalBlocker isSelectedAlready(m_tabs);
     m_tabs->setCurrentIndex(int(now.kind()));
+    // Before the other text is hidden: the toolkit would look for the next place of the focus.
+    selectedControl().show();
+    ResetFocusToEditor();
     if (m_tiled) {
         ShowBothFiles();
     } else {
@@ -96,7 +131,6 @@ void EditorView::showSelected()
         status.setText(tabStatus(status.text(), now.caption(), isProtected));
     }
     UpdateSavedIcon();
-    ResetFocusToEditor();
     m_context.status.setLine(now.caretLine());
 }
 
@@ -115,14 +149,26 @@ EditorView::KeptPlace::~KeptPlace()
     m_control.setScroll(m_scroll);
 }
 
-EditorView::KeptLine::KeptLine(EditorView &view, const Document &document)
-    : m_control(view.control(document.kind())), m_down(m_control.scroll().down)
+EditorView::KeptTab::KeptTab(EditorView &view)
+    : m_view(view), m_selected(view.documents().selected().kind()),
+      m_focus(view.window()->focusWidget())
 {
 }
 
-EditorView::KeptLine::~KeptLine()
+EditorView::KeptTab::~KeptTab()
 {
-    m_control.setScroll({ 0, m_down });
+    StatusLine &status = m_view.m_context.status;
+    const QString told = status.text();
+    m_view.documents().select(m_selected);
+    if (m_focus) {
+        m_focus->setFocus();
+    }
+    status.setText(told);
+}
+
+void EditorView::markWord(DocumentKind kind, const QString &word, int options)
+{
+    control(kind).markWord(word, options);
 }
 
 void EditorView::watchMouse(DocumentKind kind, QObject &filter)
@@ -181,12 +227,13 @@ void EditorView::watch(QObject &filter)
 
 void EditorView::ResetFocusToEditor()
 {
-    selectedControl().setFocus();
+    selectedControl().takeFocus();
 }
 
 void EditorView::setTiled(bool tiled)
 {
     m_tiled = tiled;
+    UpdateSavedIcon();
     if (tiled) {
         ShowBothFiles();
     } else {
@@ -211,11 +258,16 @@ void EditorView::PositionControls()
     }
 }
 
-void EditorView::showProtected(bool on)
+void EditorView::showTabIcons()
 {
-    m_tabs->setTabIcon(1,
-                       iconFromFile(m_context.paths.inApp(on ? u"icons/tab-protected.svg"
-                                                             : u"icons/tab-macro.svg")));
+    m_documents.forEach([this](const Document &each) {
+        const bool isMacro = each.kind() == DocumentKind::Macro;
+        const QStringView name = !isMacro ? u"icons/tab-joystick.svg"
+            : m_documents.isProtected()   ? u"icons/tab-protected.svg"
+                                          : u"icons/tab-macro.svg";
+        const QIcon icon = iconFromFile(m_context.paths.inApp(name));
+        m_tabs->setTabIcon(int(each.kind()), each.isModified() ? withDot(icon, *m_tabs) : icon);
+    });
 }
 
 void EditorView::updateCaptions()
@@ -232,6 +284,9 @@ void EditorView::UpdateSavedIcon()
 {
     const Document &selected = m_documents.selected();
     m_context.status.setSaved(selected.state() + 2, savedTooltip(selected));
+    const Document &other = m_documents.other(selected);
+    m_context.status.setOtherSaved(m_tiled ? other.state() + 2 : 0,
+                                   m_tiled ? savedTooltip(other) : QString());
 }
 
 void EditorView::applyLook()

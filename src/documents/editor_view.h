@@ -7,6 +7,7 @@
 #include "documents/text_control.h"
 #include "platform/context.h"
 
+#include <QPointer>
 #include <QWidget>
 
 #include <array>
@@ -43,18 +44,21 @@ public:
         TextControl &m_control;
         TextControl::Scroll m_scroll;
     };
-    /// Like KeptPlace, but the view goes to the left edge, where changes of whole lines are seen.
-    class KeptLine
+    /// Keeps where the user works: the destructor selects the document that was selected at the
+    /// constructor and gives the focus back to what had it then. The message line keeps what it
+    /// says.
+    class KeptTab
     {
     public:
-        KeptLine(EditorView &view, const Document &document);
-        ~KeptLine();
-        KeptLine(const KeptLine &) = delete;
-        KeptLine &operator=(const KeptLine &) = delete;
+        explicit KeptTab(EditorView &view);
+        ~KeptTab();
+        KeptTab(const KeptTab &) = delete;
+        KeptTab &operator=(const KeptTab &) = delete;
 
     private:
-        TextControl &m_control;
-        int m_down;
+        EditorView &m_view;
+        DocumentKind m_selected;
+        QPointer<QWidget> m_focus;
     };
     /// Scrolls a document's caret to the middle of its view.
     void centreCaret(DocumentKind kind);
@@ -76,6 +80,9 @@ public:
     /// Puts the selection on the clipboard.
     void copy();
 
+    /// Marks each place where a document has a word, as TextControl::markWord() does.
+    void markWord(DocumentKind kind, const QString &word, int options);
+
     /// Shows both texts side by side, or the selected one alone.
     void setTiled(bool tiled);
     bool isTiled() const { return m_tiled; }
@@ -86,7 +93,8 @@ public:
 
     /// Shows the documents' names on the tabs.
     void updateCaptions();
-    /// Shows the selected document's state on the status bar.
+    /// Shows the selected document's state on the status bar, and the other's too while both are
+    /// shown.
     void UpdateSavedIcon();
     /// Takes background, font and colours from the settings. Text that is there keeps its looks.
     void applyLook();
@@ -100,7 +108,7 @@ private:
     void makeControl(Document &document, const QString &name);
     void connectDocument(Document &document);
     void showSelected();
-    void showProtected(bool on);
+    void showTabIcons();
 
     Context m_context;
     Documents &m_documents;

@@ -7,6 +7,7 @@
 #include "documents/coloured_insert.h"
 #include "documents/editor_texts.h"
 #include "documents/editor_view.h"
+#include "menus/menu_actions.h"
 #include "platform/status_line.h"
 #include "settings/colour_settings.h"
 #include "settings/settings.h"
@@ -36,11 +37,39 @@ constexpr PassStatus macroSteps[] = {
     { u"Rem"_w, u"Applying colour to Rem comments ..." },
 };
 
+/// Shows the steps one after another, in the order of the passes. They are told before any pass
+/// begins, since all passes go through the text together.
+void tellSteps(StatusLine &status, std::span<const PaintPass> passes,
+               std::span<const PassStatus> steps)
+{
+    for (const PaintPass &pass : passes) {
+        for (const PassStatus &step : steps) {
+            if (step.word == pass.word) {
+                status.setTextNow(step.text.toString());
+            }
+        }
+    }
+}
+
 } // namespace
 
 Highlighting::Highlighting(const Context &context, const Parts &parts)
     : m_context(context), m_parts(parts), m_documents(parts.view.documents())
 {
+    connectMenus();
+}
+
+void Highlighting::connectMenus()
+{
+    MenuActions &on = m_parts.actions;
+    on.connectTo(u"mnuViewColourJoystick", [this] { mnuViewColourJoystick_Click(); });
+    on.connectTo(u"mnuViewColourMacro", [this] { mnuViewColourMacro_Click(); });
+    on.connectTo(u"mnuViewApplyColourBothFiles", [this] { mnuViewApplyColourBothFiles_Click(); });
+    on.connectTo(u"mnuViewHighlightLine", [this] { mnuViewHighlightLine_Click(); });
+    on.connectTo(u"mnuRemoveColourJoystick", [this] { mnuRemoveColourJoystick_Click(); });
+    on.connectTo(u"mnuRemoveColourMacro", [this] { mnuRemoveColourMacro_Click(); });
+    on.connectTo(u"mnuRemoveColourSelectedText", [this] { mnuRemoveColourSelectedText_Click(); });
+    on.connectTo(u"mnuViewReformat", [this] { mnuViewReformat_Click(); });
 }
 
 void Highlighting::reformat(Document &document)
@@ -82,18 +111,10 @@ void Highlighting::applyColour(Document &document)
                       + u". Please wait ..."_s);
     m_documents.select(document.kind());
     m_parts.view.applyLook();
-    const std::span<const PassStatus> steps =
-        isJoystick ? std::span<const PassStatus>(joystickSteps) : macroSteps;
-    const auto tell = [&status, steps](const PaintPass &pass) {
-        for (const PassStatus &step : steps) {
-            if (step.word == pass.word) {
-                status.setTextNow(step.text.toString());
-            }
-        }
-    };
-    const auto runs =
-        paint(document.text(), isJoystick ? joystickPasses() : macroPasses(),
-              colourScheme(m_context.settings.of<ColourSettings>(), document.kind()), tell);
+    const auto passes = isJoystick ? joystickPasses() : macroPasses();
+    tellSteps(status, passes, isJoystick ? std::span<const PassStatus>(joystickSteps) : macroSteps);
+    const auto runs = paint(document.text(), passes,
+                            colourScheme(m_context.settings.of<ColourSettings>(), document.kind()));
     const EditorView::KeptPlace place(m_parts.view, document);
     document.setLooks(lookRuns(runs, m_documents.plainFormat(document.kind())));
     document.select(document.selStart(), 0);
@@ -134,10 +155,20 @@ void Highlighting::mnuViewColourMacro_Click()
 
 void Highlighting::mnuViewApplyColourBothFiles_Click()
 {
-    ApplyColourHighlighting();
+    const EditorView::KeptTab tab(m_parts.view);
+    applyColourInPlace(m_documents.joystick());
     if (!m_documents.isProtected()) {
-        ApplyMacroColourHighlighting();
+        applyColourInPlace(m_documents.macro());
     }
+}
+
+void Highlighting::applyColourInPlace(Document &document)
+{
+    const EditorView::KeptPlace place(m_parts.view, document);
+    const int anchor = document.cursor().anchor();
+    const int caret = document.cursor().position();
+    applyColour(document);
+    document.setCaret(anchor, caret);
 }
 
 void Highlighting::removeColour(Document &document, int from, int length)

@@ -13,6 +13,7 @@ class ColouredInsert;
 class Document;
 class Documents;
 class EditorView;
+class MenuActions;
 struct ColourSettings;
 
 /// Gives the documents their colours and takes them away. Only looks change: not the text, and the
@@ -23,6 +24,7 @@ class Highlighting
 public:
     struct Parts {
         EditorView &view;
+        MenuActions &actions;
         ColouredCopies &copies;
         ColouredInsert &insert;
     };
@@ -31,7 +33,7 @@ public:
     /// Gives the whole document the plain font, size, colour and margin; bold, italic, underline
     /// and colours go. An empty document stays as it is.
     void reformat(Document &document);
-    /// The same for the selected document, whose looks go into the undo slot shown. Refused on a
+    /// Reformats the selected document, and stores its looks in the undo slot shown. Refused on a
     /// protected macro file.
     void mnuViewReformat_Click();
 
@@ -41,14 +43,14 @@ public:
     void ApplyColourHighlighting();
     void ApplyMacroColourHighlighting();
     void mnuViewColourJoystick_Click();
-    /// Refused on a protected macro file.
+    /// Colours the macro file, unless it is protected.
     void mnuViewColourMacro_Click();
-    /// The joystick file, then the macro file unless it is protected.
+    /// Colours the joystick file, then the macro file unless it is protected.
     void mnuViewApplyColourBothFiles_Click();
 
     void mnuRemoveColourJoystick_Click();
     void mnuRemoveColourMacro_Click();
-    /// Refused on a protected macro file.
+    /// Takes the colours from the selection. Refused on a protected macro file.
     void mnuRemoveColourSelectedText_Click();
 
     /// Takes changed colours over into both documents: text in a colour of the scheme before gets
@@ -61,7 +63,7 @@ public:
     void BlockColour();
     /// Colours the caret's line; with flag 1 as an undo step of its own.
     void TestColour(int flag);
-    /// TestColour(1), refused on a protected macro file.
+    /// Colours the caret's line as TestColour(1) does. Refused on a protected macro file.
     void mnuViewHighlightLine_Click();
 
     /// A piece of text in the selected document's font, painted as typing paints it.
@@ -70,6 +72,9 @@ public:
     RichText JustREMtocolour(const QString &text) const;
 
 private:
+    /// Paints a document; its caret, its selection and what is seen of it stay.
+    void applyColourInPlace(Document &document);
+    void connectMenus();
     void removeColour(Document &document, int from, int length);
     void paintStretch(Document &document, int from, int to);
     RichText painted(const QString &text, const Painter &painter) const;

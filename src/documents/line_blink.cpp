@@ -6,9 +6,6 @@
 #include "documents/documents.h"
 #include "documents/editor_view.h"
 #include "documents/text_control.h"
-#include "platform/dialogs.h"
-#include "platform/status_line.h"
-#include "text/text_lines.h"
 
 #include <QEvent>
 #include <QTextBlock>
@@ -97,22 +94,6 @@ bool LineBlink::eventFilter(QObject *watched, QEvent *event)
         break;
     }
     return QObject::eventFilter(watched, event);
-}
-
-bool showLine(const Context &context, EditorView &view, Document &document, int line,
-              LineCaret caret)
-{
-    const auto range = lineRange(document.text(), line);
-    if (!range) {
-        context.dialogs.tell(u"Oops!"_s, u"Line not found"_s, BoxIcon::Exclamation);
-        return false;
-    }
-    view.documents().select(document.kind());
-    document.select(int(range->start), caret == LineCaret::SelectsLine ? int(range->length) : 0);
-    view.centreCaret(document.kind());
-    view.ResetFocusToEditor();
-    context.status.setLine(line);
-    return true;
 }
 
 } // namespace zeph

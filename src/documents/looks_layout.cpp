@@ -66,7 +66,6 @@ LooksLayout::LooksLayout(QTextDocument &document, DocumentStates &states)
     : QPlainTextDocumentLayout(&document), m_states(&states),
       m_widths(std::make_shared<LineWidths>())
 {
-    connect(&states, &DocumentStates::plainFontChanged, this, [this] { m_formats.clear(); });
     connect(&states, &DocumentStates::looksChanged, this, &LooksLayout::onLooksChanged);
 }
 
@@ -253,6 +252,9 @@ void LooksLayout::documentChanged(int from, int, int added)
 void LooksLayout::onLooksChanged(const std::vector<TextStretch> &stretches)
 {
     if (stretches.empty()) {
+        m_formats.clear();
+        forget(document()->begin(), document()->lastBlock());
+        Q_EMIT update();
         return;
     }
     QTextBlock block = document()->findBlock(int(stretches.front().from));

@@ -128,7 +128,7 @@ public:
     void skip(qsizetype length);
     /// Goes on by a number of characters and appends their runs.
     void takeRuns(qsizetype length, TextChunk::Runs &runs);
-    /// The same, and appends the characters too.
+    /// Does the same, and appends the characters too.
     void take(qsizetype length, QString &text, TextChunk::Runs &runs);
 
 private:

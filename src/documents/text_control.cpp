@@ -8,10 +8,12 @@
 #include "documents/coloured_text.h"
 #include "documents/line_margin.h"
 #include "platform/colours.h"
+#include "platform/core/text_search.h"
 #include "platform/richtext/rich_text_document.h"
 #include "platform/richtext/rich_text_mime.h"
 
 #include <QPainter>
+#include <QScopedValueRollback>
 #include <QScrollBar>
 #include <QTextBlock>
 
@@ -83,7 +85,7 @@ void TextControl::setLook(ColorRef background, const CharFormat &plain)
 
 void TextControl::tellCaret()
 {
-    if (!m_marks) {
+    if (!m_marks && !m_shows) {
         m_text.follow(textCursor());
     }
 }
@@ -100,6 +102,7 @@ void TextControl::mark(int start, int length)
 void TextControl::showCaret()
 {
     m_marks = false;
+    const QScopedValueRollback shows(m_shows, true);
     setTextCursor(m_text.cursor());
 }
 
@@ -123,10 +126,18 @@ void TextControl::setLocked(bool on)
     }
 }
 
+void TextControl::takeFocus()
+{
+    const QScopedValueRollback takes(m_takesFocus, true);
+    setFocus();
+}
+
 void TextControl::focusInEvent(QFocusEvent *event)
 {
     QPlainTextEdit::focusInEvent(event);
-    Q_EMIT focused();
+    if (!m_takesFocus) {
+        Q_EMIT focused();
+    }
 }
 
 void TextControl::showLineNumbers(bool shown)
@@ -208,12 +219,59 @@ void TextControl::resizeEvent(QResizeEvent *event)
     placeMargin();
 }
 
+void TextControl::markWord(const QString &word, int options)
+{
+    if (word != m_markedWord || options != m_wordOptions) {
+        m_markedWord = word;
+        m_wordOptions = options;
+        viewport()->update();
+    }
+}
+
+void TextControl::paintWords(QPainter &painter) const
+{
+    // Sought anew at each painting, and only in what is seen: so the marks follow the text, and
+    // cost nothing while it is typed or loaded.
+    for (QTextBlock line = firstVisibleBlock(); line.isValid(); line = line.next()) {
+        if (lineArea(line).top() > viewport()->height()) {
+            break;
+        }
+        paintWordsOf(painter, line);
+    }
+}
+
+void TextControl::paintWordsOf(QPainter &painter, const QTextBlock &line) const
+{
+    const QRectF area = blockBoundingGeometry(line).translated(contentOffset());
+    const QTextLine shown = line.layout()->lineAt(0);
+    if (!shown.isValid()) {
+        return;
+    }
+    const QString text = line.text();
+    const int end = shown.xToCursor(viewport()->width() - area.left());
+    const qsizetype length = m_markedWord.size();
+    qsizetype at = std::max<qsizetype>(0, shown.xToCursor(-area.left()) - length);
+    for (at = findText(text, m_markedWord, at, m_wordOptions); at >= 0 && at <= end;
+         at = findText(text, m_markedWord, at + length, m_wordOptions)) {
+        const double left = shown.cursorToX(int(at));
+        const double right = shown.cursorToX(int(at + length));
+        painter.drawRect(QRectF(area.left() + left, area.top(), right - left, area.height() - 1));
+    }
+}
+
 void TextControl::paintEvent(QPaintEvent *event)
 {
     if (m_marksLine) {
         QPainter painter(viewport());
         painter.fillRect(lineArea(textCursor().block()),
                          marginColours(palette().color(QPalette::Base)).mark);
+    }
+    if (!m_markedWord.isEmpty()) {
+        QPainter painter(viewport());
+        const MarginColours colours = marginColours(palette().color(QPalette::Base));
+        painter.setPen(colours.number);
+        painter.setBrush(colours.mark);
+        paintWords(painter);
     }
     QPlainTextEdit::paintEvent(event);
 }
@@ -267,7 +325,8 @@ void TextControl::insertFromMimeData(const QMimeData *source)
     const QTextCursor selection = textCursor();
     const RichText pasted = pastedText(*source, m_text.plain());
     const int start = selection.selectionStart();
-    m_text.states().replace(start, selection.selectionEnd() - start, pasted);
+    m_text.states().replace(start, selection.selectionEnd() - start, pasted,
+                            DocumentStates::By::User);
     const int end = start + int(pasted.text.size());
     m_text.setCaret(end, end);
     m_text.setTypingLook(m_text.plain());

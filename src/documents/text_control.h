@@ -27,12 +27,15 @@ public:
 
     ColouredText &shown() const { return m_text; }
 
-    /// Background of the whole control, and what plain text looks like.
+    /// Sets the background of the whole control, and what plain text looks like.
     void setLook(ColorRef background, const CharFormat &plain);
     /// Shows a stretch as selected; the text's own caret and selection stay where they are.
     void mark(int start, int length);
     /// Shows the text's own caret and selection again after mark().
     void showCaret();
+
+    /// Gives the keyboard to the text.
+    void takeFocus();
 
     /// Values of the two scroll bars.
     struct Scroll {
@@ -42,14 +45,17 @@ public:
     Scroll scroll() const;
     void setScroll(const Scroll &scroll);
 
-    /// The numbers of the lines at the left.
+    /// Shows the numbers of the lines at the left, or hides them.
     void showLineNumbers(bool shown);
-    /// A mark under the caret's line, over the whole width.
+    /// Marks the caret's line over the whole width, or no longer.
     void showCurrentLine(bool shown);
+    /// Marks each place where the text has a word (options are those of SearchOption); an empty
+    /// word marks none. A word with a line end in it is not marked.
+    void markWord(const QString &word, int options);
     QList<SeenLine> seenLines() const;
 
 Q_SIGNALS:
-    /// The text has got the focus.
+    /// The text has got the focus, but not by takeFocus().
     void focused();
 
 protected:
@@ -71,14 +77,20 @@ private:
     void updateMargin(const QRect &changed, int scrolled);
     void moveMark();
     void updateLine(int line);
+    void paintWords(QPainter &painter) const;
+    void paintWordsOf(QPainter &painter, const QTextBlock &line) const;
     /// The part of the viewport, over its whole width, that a line takes.
     QRectF lineArea(const QTextBlock &line) const;
 
     ColouredText &m_text;
     LineMargin *m_margin;
+    bool m_takesFocus = false;
+    bool m_shows = false; ///< the text's own caret is being shown: nothing to tell the text
     bool m_marks = false; ///< the view's selection is that of mark(), not the text's
     bool m_marksLine = false;
     int m_markedLine = 1;
+    QString m_markedWord;
+    int m_wordOptions = 0;
 };
 
 } // namespace zeph

@@ -34,6 +34,11 @@ constexpr std::array<Flag, 3> formatArray1 = { &CharFormat::bold, &CharFormat::i
 TextLooks::TextLooks(const Context &context, const Parts &parts)
     : m_context(context), m_parts(parts), m_documents(parts.view.documents())
 {
+    MenuActions &on = parts.actions;
+    on.connectArray(u"mnuFormatArray1"_s, [this](int i) { mnuFormatArray1_Click(i); });
+    on.connectArray(u"mnuStyleArray"_s, [this](int i) { mnuStyleArray_Click(i); });
+    on.connectTo(u"mnuFormatStyleEditor", [this] { mnuFormatStyleEditor_Click(); });
+    on.connectTo(u"mnuFormatFont", [this] { mnuFormatFont_Click(); });
 }
 
 TextLooks::~TextLooks()
@@ -106,7 +111,8 @@ void TextLooks::UpdateStyleCaptions()
 {
     const TextStyles styles = readTextStyles(ProfileFile(m_context.paths.iniPath));
     for (size_t i = 0; i < styles.size(); ++i) {
-        m_parts.actions.action(u"mnuStyleArray_"_s + QString::number(i))->setText(styles[i].name);
+        m_parts.actions.action(u"mnuStyleArray_"_s + QString::number(i))
+            ->setText(captionOf(styles[i].name));
     }
 }
 

@@ -31,9 +31,9 @@ public:
     TextLooks(const Context &context, const Parts &parts);
     ~TextLooks();
 
-    /// Bold (0), italic (1) or underline (2): off when all of the selection has it, on otherwise.
-    /// Without a selection it holds for what is typed next. A change of a selection is one undo
-    /// step. Refused on a protected macro file, as styles are.
+    /// Switches bold (0), italic (1) or underline (2) off when all of the selection has it, on
+    /// otherwise. Without a selection the switch is for what is typed next. A change of a selection
+    /// is one undo step. Refused on a protected macro file, as styles are.
     void mnuFormatArray1_Click(int Index);
     /// Gives the selection one of the styles, 0 to 8.
     void mnuStyleArray_Click(int Index);
@@ -58,8 +58,6 @@ private:
     QPointer<StyleEditor> m_editor;
 };
 
-class Documents;
-class EditorView;
 class Highlighting;
 struct DocumentSettings;
 

@@ -91,7 +91,6 @@ void UndoHistories::UpdateUndoRedoMenus()
     const UndoHistory &history = m_documents.selected().history();
     showSteps(*m_actions.action(u"mnuEditUndo"), u"Undo"_s, history.slots() - history.UndoIndex());
     showSteps(*m_actions.action(u"mnuEditRedo"), u"Redo"_s, history.UndoIndex() - 1);
-    Q_EMIT menusUpdated();
 }
 
 bool UndoHistories::clearsOn(Document::Save save) const

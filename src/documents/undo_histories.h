@@ -37,10 +37,6 @@ public:
     /// A fresh history for both documents.
     void DeleteUndosFromMemory();
 
-Q_SIGNALS:
-    /// Captions and tooltips of undo and redo have changed; the toolbar follows.
-    void menusUpdated();
-
 private:
     void step(void (Document::*way)(), bool possible);
     bool clearsOn(Document::Save save) const;

@@ -103,10 +103,7 @@ void UndoHistory::show(int index)
 {
     m_index = index;
     const Slot &slot = m_slots[size_t(index) - 1];
-    {
-        const ColouredText::Quiet quiet(m_text);
-        m_states.restore(slot.state);
-    }
+    m_states.restore(slot.state);
     m_text.select(slot.caret, 0);
     // The next key goes on from here, not from the word that was typed last.
     m_caretHasMoved = true;

@@ -21,6 +21,7 @@ class EditingTools;
 class MenuActions;
 class EditorKeys;
 class EditorView;
+class EntryConditions;
 class FileNew;
 class FileOpening;
 class FileSaving;
@@ -34,6 +35,7 @@ class TextLooks;
 class TypingColour;
 class UndoHistories;
 class UseDirectives;
+class ViewEntries;
 
 /// The permanent child of the main window, with the two documents and all working menus. It is only
 /// a frame: each feature is an object of its own, which this class creates and hands out.
@@ -85,20 +87,16 @@ public:
     void applySettings();
 
 Q_SIGNALS:
-    /// F1 was pressed on a selected word.
+    /// Help on a word is wanted: by F1 on a selected word, or by a quick tip.
     void helpOn(const QString &word);
     /// Shift+Break was pressed.
     void emergencyOff();
 
 private:
-    void connectFiles();
     void connectEditing();
     void connectOptions();
     void connectLooks();
-    void connectPainting();
     void connectMacros();
-    void updateConditions();
-    void updateDownloadCaption();
 
     Context m_context;
     std::unique_ptr<MenuActions> m_actions;
@@ -113,11 +111,13 @@ private:
     std::unique_ptr<TypingColour> m_typingColour;
     std::unique_ptr<EditingTools> m_editing;
     std::unique_ptr<UseDirectives> m_useDirectives;
+    std::unique_ptr<EntryConditions> m_conditions;
     std::unique_ptr<FileSaving> m_saving;
     std::unique_ptr<FileOpening> m_opening;
     std::unique_ptr<FileNew> m_fresh;
     std::unique_ptr<RightMenu> m_rightMenu;
     std::unique_ptr<MacroFeatures> m_macros;
+    std::unique_ptr<ViewEntries> m_viewEntries;
     std::unique_ptr<LossGuards> m_guards;
     std::unique_ptr<InsertForms> m_insertForms;
     std::unique_ptr<Packaging> m_packaging;

@@ -3,6 +3,8 @@
 
 #include "editor/editor_settings.h"
 
+#include "text/alignment.h"
+
 #include <array>
 
 namespace zeph {
@@ -30,7 +32,7 @@ constexpr std::array rows = {
     row(misc, u"AddCRtoREM", &S::AddCRtoREM, true, SavedAs{ 21 }),
     row(misc, u"MacroFrameWidth", &S::MacroFrameWidth, 185, { 185, 32767 }, SavedAs{ 23 }),
     row(misc, u"OpenSingleFileOnly", &S::OpenSingleFileOnly, false, SavedAs{ 36 }),
-    row(misc, u"IndentSpaces", &S::IndentSpaces, 5, { 0, 80 }, SavedAs{ 39 }),
+    row(misc, u"IndentSpaces", &S::IndentSpaces, 5, { 0, mostIndentSpaces }, SavedAs{ 39 }),
     row(misc, u"IndentAsWell", &S::IndentAsWell, false, SavedAs{ 40 }),
     row(misc, u"MacroSaveUpdateMacros", &S::MacroSaveUpdateMacros, true, SavedAs{ 41 }),
     row(misc, u"MacroSaveIdentifyJF", &S::MacroSaveIdentifyJF, true, SavedAs{ 42 }),

@@ -3,10 +3,11 @@
 
 #pragma once
 
-// The compiler's errors by number, explained to a pilot. The information file "Error codes.rtf"
-// holds the same entries.
+// The compiler's errors by number, explained to a pilot. The information file "Error codes.rtf" is
+// made of this table when the program is built.
 
 #include "language/file_kinds.h"
+#include "platform/core/rich_text.h"
 
 #include <span>
 
@@ -37,6 +38,7 @@ enum Code : int {
     NoScreenResolution = 1021,
     UnknownMouseType = 1022,
     BadCommand = 1023,
+    UnreadableMacroFile = 1024,
 };
 
 struct ErrorEntry {
@@ -63,8 +65,8 @@ constexpr qsizetype errorHeadingLength = errorWord.size() + 5;
 /// file, any other text the joystick file.
 DocumentKind documentOfError(QStringView errorText);
 
-/// The whole of "Error codes.rtf" as plain text: for each entry a heading line, the cause, the cure
-/// and an empty line.
-QString errorCodesText();
+/// What "Error codes.rtf" says: for each entry a heading line in bold, the cause, the cure and an
+/// empty line.
+RichText errorCodesText();
 
 } // namespace zeph::language

@@ -8,6 +8,7 @@
 // unknown. All lists are flat and in text order, and parts refer to each other by index, so that
 // deeply nested or broken text costs no more than plain text.
 
+#include "language/words.h"
 #include "platform/core/base.h"
 
 #include <QList>
@@ -93,7 +94,7 @@ struct Link {
 /// The modifiers in force, outermost first. A modifier replaces the one of its own level and ends
 /// those of the levels further in.
 struct Chain {
-    std::array<Link, 5> links;
+    std::array<Link, slashLevels> links;
     int size = 0;
 
     bool holds(QStringView slashWord) const;

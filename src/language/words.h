@@ -49,6 +49,8 @@ enum class ColourClass : quint8 { Plain, Btn, Slash, Raw, Miscellaneous, Rem, Pu
 
 /// The levels of slash modifiers, outermost first. A toggle may hold a press and a release.
 enum class SlashLevel : quint8 { None, Dogfight, S3, Toggle, Action, Repeat };
+/// The number of levels, None apart.
+constexpr size_t slashLevels = size_t(SlashLevel::Repeat);
 
 /// The arguments in the brackets after a word, separated by commas.
 enum class CallShape : quint8 {
@@ -182,8 +184,8 @@ inline constexpr Word rows[] = {
     option(u"Rem", Rem),
 
     // Words with brackets.
-    call(u"DELAY", Raw), call(u"PULSE", Raw), call(u"USB", Raw),
-    call(u"KD", Raw, CallShape::Keys), call(u"KU", Raw, CallShape::Keys),
+    call(u"DELAY", Raw), call(u"PULSE", Raw),
+    call(u"USB", Raw, CallShape::Keys), call(u"KD", Raw, CallShape::Keys), call(u"KU", Raw, CallShape::Keys),
     call(u"MSX", Raw), call(u"MSY", Raw), call(u"MSZ", Raw),
     call(u"TRIM", Raw, CallShape::AxisAndTrim), call(u"HOLDTRIM", Raw, CallShape::Axis),
     call(u"LOCK", Raw, CallShape::AxisAndLock), call(u"UNLOCK", Raw, CallShape::Axis),
@@ -314,6 +316,7 @@ constexpr int lastAxisType = 6;
 constexpr int lastMouseType = 5;
 constexpr int lastMouseRate = 127;
 constexpr int lastDirectXAxis = 10;
+constexpr int lastDirectXButton = 28;
 /// From -32 on.
 constexpr int lastCurve = 32;
 /// From -127 on.

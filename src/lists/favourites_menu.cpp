@@ -29,7 +29,7 @@ void openFavouriteInEditor(const Favourite &favourite, Editor &editor, Dialogs &
         return document.path() == path && !document.isModified();
     });
     if (both) {
-        editor.actions().trigger(u"mnuMacrosIdentify");
+        editor.actions().action(u"mnuMacrosIdentify")->trigger();
     }
 }
 

@@ -41,7 +41,6 @@ private:
 };
 
 class Document;
-class Editor;
 class MenuArray;
 
 /// The joystick files and macro files opened or saved before: most recently used first, at most 30

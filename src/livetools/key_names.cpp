@@ -119,7 +119,8 @@ namespace {
 
 constexpr QStringView keyCodesFile = u"KeyCodes.txt";
 
-/// Copies the file from the Info folder. Whether it is there now.
+/// Tells the user that KeyCodes.txt is missing, and copies it from the Info folder. True when the
+/// file exists afterwards.
 bool restoreKeyCodes(const Context &context, const QString &path)
 {
     context.dialogs.tell(

@@ -31,7 +31,7 @@ public:
     QString keyPress(char16_t character);
     /// The line for the list of events.
     QString keyUp(int keycode);
-    /// The clear delay has run out: the next key that goes down clears the lists.
+    /// Notes that the clear delay has run out: the next key that goes down clears the lists.
     void delayOver() { m_clearOnNextDown = true; }
 
 private:

@@ -11,6 +11,7 @@
 #include "platform/dialogs.h"
 #include "platform/input/keyboard.h"
 #include "platform/richtext/rich_text_box.h"
+#include "platform/window_places.h"
 #include "settings/settings.h"
 #include "settings/settings_files.h"
 #include "toolchain/handshake.h"
@@ -22,7 +23,6 @@
 #include <QGuiApplication>
 #include <QMenuBar>
 #include <QPointer>
-#include <QScreen>
 
 #include <array>
 
@@ -130,13 +130,18 @@ void KeyTestForm::GetKeyPosition()
                        &KeyTesterSettings::KeyWidthAtStartup,
                        &KeyTesterSettings::KeyHeightAtStartup, &KeyTesterSettings::ClearDelay,
                        &KeyTesterSettings::KeyViewAll, &KeyTesterSettings::MenuDisplay }));
-    resize(pixelsFromTwips(settings.KeyWidthAtStartup),
-           pixelsFromTwips(settings.KeyHeightAtStartup));
-    const QPoint corner(pixelsFromTwips(settings.KeyLeftAtStartup),
-                        pixelsFromTwips(settings.KeyTopAtStartup));
-    // The screen where the window was last time may be gone.
-    if (QGuiApplication::screenAt(corner)) {
-        move(corner);
+    const QSize size(pixelsFromTwips(settings.KeyWidthAtStartup),
+                     pixelsFromTwips(settings.KeyHeightAtStartup));
+    const bool hadPlace =
+        !ProfileFile(m_context.paths.iniPath).text(u"Key Tester", u"KeyLeftAtStartup").isEmpty();
+    if (hadPlace || !parentWidget()) {
+        restorePlace(*this,
+                     { QPoint(pixelsFromTwips(settings.KeyLeftAtStartup),
+                              pixelsFromTwips(settings.KeyTopAtStartup)),
+                       size });
+    } else {
+        resize(size);
+        openBeside(*this, *parentWidget()->window());
     }
     setClearDelay(settings.ClearDelay);
     showKeyEvents(settings.KeyViewAll);
@@ -146,12 +151,11 @@ void KeyTestForm::GetKeyPosition()
 void KeyTestForm::SaveKeyFormPosition()
 {
     auto &settings = m_context.settings.of<KeyTesterSettings>();
-    if (!isMinimized() && !isMaximized()) {
-        settings.KeyTopAtStartup = twipsFromPixels(y());
-        settings.KeyLeftAtStartup = twipsFromPixels(x());
-        settings.KeyWidthAtStartup = twipsFromPixels(width());
-        settings.KeyHeightAtStartup = twipsFromPixels(height());
-    }
+    const QRect place = normalPlace(*this);
+    settings.KeyTopAtStartup = twipsFromPixels(place.y());
+    settings.KeyLeftAtStartup = twipsFromPixels(place.x());
+    settings.KeyWidthAtStartup = twipsFromPixels(place.width());
+    settings.KeyHeightAtStartup = twipsFromPixels(place.height());
     // A store that cannot be written is not told: the window then opens as it did before.
     (void)saveSettings(m_context.settings, settingsFilesOf(m_context.paths),
                        { &KeyTesterSettings::KeyTopAtStartup, &KeyTesterSettings::KeyLeftAtStartup,

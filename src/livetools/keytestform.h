@@ -56,8 +56,8 @@ public:
     void ToggleMenus();
     void ResizeStuff();
 
-    /// Virtual key codes; shift states are bits of ShiftBit. A key going down may close the window
-    /// and delete it.
+    /// Takes a key that goes down, which may close the window and delete it. Key codes are virtual
+    /// ones; shift states are bits of ShiftBit.
     void Form_KeyDown(int keycode, int shift);
     void Form_KeyUp(int keycode, int shift);
     void Form_KeyPress(char16_t ascii);

@@ -125,7 +125,18 @@ constexpr std::array signsOfKeys = {
     SignRow{ u"'\"", 222 },
 };
 
+// X servers call the Windows keys by these symbols ...
 constexpr quint32 rightSuperSymbol = 0xFFEC;
+// ... and by these an Alt key that goes down or up while Shift is held. The toolkit gives both the
+// same name.
+constexpr quint32 leftMetaSymbol = 0xFFE7;
+constexpr quint32 rightMetaSymbol = 0xFFE8;
+
+bool isAltWithShift(const KeyStroke &stroke)
+{
+    return stroke.key == Qt::Key_Meta
+        && (stroke.nativeCode == leftMetaSymbol || stroke.nativeCode == rightMetaSymbol);
+}
 
 std::optional<int> codeIn(std::span<const KeyRow> rows, Qt::Key key)
 {
@@ -190,6 +201,9 @@ int virtualKeyOf(const KeyStroke &stroke)
     if (key == Qt::Key_Pause && (stroke.modifiers & Qt::ControlModifier)) {
         return *codeIn(namedKeys, Qt::Key_Cancel);
     }
+    if (isAltWithShift(stroke)) {
+        return altKeyCode;
+    }
     if (key == Qt::Key_Meta && stroke.nativeCode == rightSuperSymbol) {
         return *codeIn(namedKeys, Qt::Key_Super_R);
     }
@@ -222,6 +236,10 @@ int shiftStateOf(const KeyStroke &stroke)
     }
     if (stroke.modifiers & Qt::GroupSwitchModifier) {
         state |= CtrlDown | AltDown;
+    }
+    if (isAltWithShift(stroke)) {
+        // The toolkit counts a modifier's own stroke, but took this one for the Windows key's.
+        state ^= AltDown;
     }
     return state;
 }

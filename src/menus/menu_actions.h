@@ -33,7 +33,7 @@ public:
                 std::span<const ActionRow> rows, QWidget *window);
 
     /// The entry, or the menu's own action, of that object name. A name that no table has is a
-    /// programming error.
+    /// programming error. Its trigger() runs it, unless it is disabled.
     QAction *action(QStringView name) const;
     bool has(QStringView name) const;
     /// The menu or submenu of that object name; null when there is none.
@@ -45,13 +45,18 @@ public:
 
     /// Lets an entry run an operation. What escapes the operation is shown to the user.
     void connectTo(QStringView name, std::function<void()> operation);
-    /// The same for all entries NAME_i; the operation receives the index i.
+    /// Lets all entries NAME_i run one operation, which receives the index i.
     void connectArray(const QString &name, std::function<void(int)> operation);
-    /// Runs an entry if it is enabled. False when it is not.
-    bool trigger(QStringView name);
 
     /// Enables or disables all entries under a condition.
     void setCondition(When when, bool holds);
+    /// Tells in tool tip and status text what an entry lacks, such as its program; an empty text
+    /// gives it its own words back. While an entry lacks something and is not usable all the same,
+    /// it is disabled; its condition must not be Custom.
+    void setLack(QStringView name, const QString &lack, bool usable);
+    /// What the entry lacks; empty when nothing.
+    QString lackOf(QStringView name) const { return m_lacks.value(name.toString()).text; }
+
     /// Ticks the entry NAME_index of an array and no other of it; -1 ticks none.
     void tickOnly(const QString &name, int index) const;
 
@@ -60,8 +65,14 @@ Q_SIGNALS:
     void aboutToRun();
 
 private:
+    struct Lack {
+        QString text;
+        bool usable = true;
+    };
+
     void makeMenus();
     QAction *make(const ActionRow &row);
+    void enable(const ActionRow &row);
 
     Dialogs &m_dialogs;
     QString m_iconFolder;
@@ -70,9 +81,9 @@ private:
     QWidget *m_window;
     QHash<QString, QAction *> m_actions;
     QHash<QString, QMenu *> m_menus;
+    QHash<QString, Lack> m_lacks;
+    QList<When> m_holding; ///< the conditions that hold
 };
-
-class Dialogs;
 
 /// The entries NAME_1 … NAME_n of a list of the user's, in a menu before one of its entries (or at
 /// its end). An entry stays when the list changes, since the change may come from its own click.

@@ -31,8 +31,11 @@ struct Box {
     BoxIcon icon = BoxIcon::None;
     QList<BoxButton> buttons = { BoxButton::Ok };
     BoxButton defaultButton = BoxButton::Ok;
-    /// What the buttons say, in their order; where none is given, what the system says.
-    QStringList captions = {};
+    /// The caption of a tick below the text; without one there is no tick.
+    QString tick = {};
+    /// Receives the tick's state when the box closes.
+    std::function<void(bool)> ticked = {};
+    QStringList captions = {}; ///< of the buttons, in their order; empty for the usual ones
 };
 
 /// An open or save dialog. The filter has the form "Caption|*.a;*.b|Caption|*.c".
@@ -84,8 +87,8 @@ class Dialogs;
 /// The title of the boxes about files that may not be written.
 inline constexpr QStringView readOnlyTitle = u"Can't save Read Only file";
 
-/// Whether a file may be written to that path: where one stands already the user is asked, and one
-/// that is marked as read only is refused with a box.
+/// Asks the user before a file that exists is overwritten, and refuses one that is marked as read
+/// only with a box. True when the file may be written.
 bool mayOverwrite(Dialogs &dialogs, const QString &path);
 
 /// Tells that a save failed, and why.
@@ -107,8 +110,6 @@ template <class Slot> auto guarded(Dialogs &dialogs, Slot slot)
         }
     };
 }
-
-class Dialogs;
 
 /// Keeps what escapes a handler from the event loop: tells it to the user and runs the last
 /// resort.

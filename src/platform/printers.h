@@ -50,7 +50,7 @@ private:
     std::unique_ptr<QPrinter> m_printer;
 };
 
-/// The margins of everything that is printed, on a device that starts its life.
+/// Gives a new device the margins of everything that is printed.
 void setPrintMargins(QPrinter &printer);
 
 } // namespace zeph

@@ -7,6 +7,7 @@
 #include "platform/core/paths.h"
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QColorDialog>
 #include <QDialogButtonBox>
 #include <QFileDialog>
@@ -138,7 +139,15 @@ BoxButton QtDialogs::box(const Box &box)
     window.setDefaultButton(standardButton(box.defaultButton));
     const BoxButton escape = escapeButton(box);
     window.setEscapeButton(standardButton(escape));
+    if (!box.tick.isEmpty()) {
+        auto *tick = new QCheckBox(box.tick);
+        tick->setObjectName(u"Tick"_s);
+        window.setCheckBox(tick);
+    }
     const int answer = window.exec();
+    if (window.checkBox() && box.ticked) {
+        box.ticked(window.checkBox()->isChecked());
+    }
     for (const BoxButton button : box.buttons) {
         if (standardButton(button) == answer) {
             return button;
@@ -220,6 +229,7 @@ std::optional<CharFormat> QtDialogs::chooseFont(const CharFormat &start)
     font.setBold(start.bold);
     font.setItalic(start.italic);
     font.setUnderline(start.underline);
+    font.setStrikeOut(start.strike);
     QFontDialog dialog(font, parentNow());
     if (dialog.exec() != QDialog::Accepted) {
         return std::nullopt;
@@ -230,7 +240,8 @@ std::optional<CharFormat> QtDialogs::chooseFont(const CharFormat &start)
                        .bold = font.bold(),
                        .italic = font.italic(),
                        .underline = font.underline(),
-                       .colour = start.colour };
+                       .colour = start.colour,
+                       .strike = font.strikeOut() };
 }
 
 std::optional<qsizetype> QtDialogs::chooseFromList(const QString &title, const QStringList &lines)

@@ -5,13 +5,24 @@
 
 namespace zeph {
 
+void StatusLine::setContents(StatusPanel panel, const StatusContents &contents)
+{
+    StatusContents &shown = m_panels[size_t(panel)];
+    if (shown == contents) {
+        return;
+    }
+    const bool hasNewMessage = panel == StatusPanel::Message && shown.text != contents.text;
+    shown = contents;
+    Q_EMIT changed(panel);
+    if (hasNewMessage) {
+        Q_EMIT textChanged(text());
+    }
+}
+
 void StatusLine::setText(const QString &text)
 {
     m_showsKeys = false;
-    if (m_text != text) {
-        m_text = text;
-        Q_EMIT textChanged(text);
-    }
+    setContents(StatusPanel::Message, { .text = text, .tooltip = textTooltip() });
 }
 
 void StatusLine::setKeys(const QString &keys)
@@ -28,36 +39,43 @@ void StatusLine::setTextNow(const QString &text)
 
 void StatusLine::setTextTooltip(const QString &tooltip)
 {
-    if (m_textTooltip != tooltip) {
-        m_textTooltip = tooltip;
-        Q_EMIT textTooltipChanged(tooltip);
-    }
+    setContents(StatusPanel::Message, { .text = text(), .tooltip = tooltip });
 }
 
 void StatusLine::setLine(int line)
 {
-    const QString text = u"Line no: "_s + QString::number(line);
-    if (m_lineText != text) {
-        m_lineText = text;
-        Q_EMIT lineTextChanged(text);
-    }
+    setContents(StatusPanel::Line, { .text = u"Line no: "_s + QString::number(line) });
 }
 
 void StatusLine::setSaved(int picture, const QString &tooltip)
 {
-    if (m_savedPicture != picture || m_savedTooltip != tooltip) {
-        m_savedPicture = picture;
-        m_savedTooltip = tooltip;
-        Q_EMIT savedChanged(picture, tooltip);
-    }
+    setContents(StatusPanel::Saved, { .picture = picture, .tooltip = tooltip });
+}
+
+void StatusLine::setOtherSaved(int picture, const QString &tooltip)
+{
+    setContents(StatusPanel::OtherSaved, { .picture = picture, .tooltip = tooltip });
 }
 
 void StatusLine::setModePicture(int picture)
 {
-    if (m_modePicture != picture) {
-        m_modePicture = picture;
-        Q_EMIT modePictureChanged(picture);
-    }
+    setContents(StatusPanel::Mode,
+                { .picture = picture, .tooltip = contents(StatusPanel::Mode).tooltip });
+}
+
+void StatusLine::setModeTooltip(const QString &tooltip)
+{
+    setContents(StatusPanel::Mode, { .picture = modePicture(), .tooltip = tooltip });
+}
+
+void StatusLine::setStandIns(bool inUse)
+{
+    setContents(StatusPanel::StandIns,
+                inUse ? StatusContents{ .text = u"Stand-in tools"_s,
+                                        .tooltip = u"The tools in use are the stand-ins that come "
+                                                   "with Zeph: they check files, and nothing "
+                                                   "reaches a stick."_s }
+                      : StatusContents{});
 }
 
 } // namespace zeph

@@ -10,6 +10,14 @@
 #include "settings/shared_settings.h"
 #include "toolchain/default_options.h"
 #include "toolchain/toolchain_settings.h"
+#include "ui_filespage.h"
+#include "ui_miscpage.h"
+#include "ui_openpage.h"
+#include "ui_zephpage.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLineEdit>
 
 namespace zeph {
 
@@ -30,7 +38,6 @@ FieldKind usualKind(const SettingKey &key)
     }
 }
 
-/// The field has the name of its key.
 PreferencesKey field(PreferencesTab tab, const SettingRef &setting, FieldKind kind)
 {
     const SettingKey &key = setting.key();
@@ -64,9 +71,8 @@ PreferencesKey ofList(PreferencesTab tab, QStringView section, QStringView key, 
     return { tab, section, key, kind, control };
 }
 
+/// The fields that are not found by their names.
 const PreferencesKey table[] = {
-    field(FileLocations, &EditorSettings::WinZipFilePath),
-
     colour(&ColourSettings::BTNColour, 0),
     colour(&ColourSettings::BackgroundColour, 1),
     colour(&ColourSettings::RemStatements, 2),
@@ -112,30 +118,6 @@ const PreferencesKey table[] = {
     ofList(Games, u"Games", u"GameJF1", Text, u"GameJF"),
     ofList(Games, u"Games", u"GameJFmode1", Tick, u"CheckWindowsMode"),
 
-    field(OpenSaveUndo, &MenuSettings::OpenBothOnToolbar),
-    field(OpenSaveUndo, &MenuSettings::SaveBothOnToolbar),
-    field(OpenSaveUndo, &EditorSettings::RestoreStatus),
-    field(OpenSaveUndo, &EditorSettings::UpdateModified),
-    field(OpenSaveUndo, &EditorSettings::AutoSaveEnabled),
-    field(OpenSaveUndo, &EditorSettings::AutoSaveTime),
-    field(OpenSaveUndo, &EditorSettings::CreateBackup),
-    field(OpenSaveUndo, &EditorSettings::BackUpDateInfo),
-    field(OpenSaveUndo, &EditorSettings::BackUpFolder),
-    field(OpenSaveUndo, &DocumentSettings::UndoMax),
-    field(OpenSaveUndo, &DocumentSettings::UndoClearOnSave),
-    field(OpenSaveUndo, &DocumentSettings::HighlightLineOnUndo),
-
-    field(Misc, &MenuSettings::ButtonsOnStatusBar),
-    field(Misc, &MenuSettings::OKtoShowToolTips),
-    field(Misc, &ToolchainSettings::HOTASStatusBarErrors),
-    field(Misc, &ToolchainSettings::HideDownloadStatusWindow),
-    field(Misc, &MenuSettings::GamesCaption),
-    field(Misc, &EditorSettings::DefaultDLYvalue),
-    field(Misc, &ToolchainSettings::StatusDetectOnStartup),
-    field(Misc, &ToolchainSettings::StatusMonitoringInterval),
-    field(Misc, &ToolchainSettings::PureWindows),
-    field(Misc, &ToolchainSettings::JoyIDnumber, Choice),
-
     inDefaults(&zeph::DefaultOptions::POVhat, u"Combo_defaultPOV", Choice, 1),
     inDefaults(&zeph::DefaultOptions::POVUD, u"CHK_Default_0"),
     inDefaults(&zeph::DefaultOptions::MicrostickMouse, u"CHK_Default_1"),
@@ -145,31 +127,71 @@ const PreferencesKey table[] = {
     inDefaults(&zeph::DefaultOptions::RCSType, u"CHK_Default_5"),
     inDefaults(&zeph::DefaultOptions::MDEFrequired, u"CHK_Default_6"),
     inDefaults(&zeph::DefaultOptions::DownloadMode, u"CHK_Default_7"),
-
-    field(Zeph, &SharedSettings::ValidUser),
-    field(Zeph, &SharedSettings::PilotCallsign),
-    field(Zeph, &SharedSettings::ShowTips),
-    field(Zeph, &EditorSettings::OpenSingleFileOnly),
-    field(Zeph, &EditorSettings::TileFiles),
-    field(Zeph, &DocumentSettings::LineNumbers),
-    field(Zeph, &DocumentSettings::CurrentLineMark),
-    field(Zeph, &EditorSettings::IndentAsWell),
-    field(Zeph, &EditorSettings::IndentSpaces),
-    field(Zeph, &EditorSettings::AddCRtoREM),
-    field(Zeph, &EditorSettings::MacroSaveUpdateMacros),
-    field(Zeph, &EditorSettings::MacroSaveIdentifyJF),
-    field(Zeph, &SharedSettings::MacroWithMouse),
-    field(Zeph, &EditorSettings::MacroHighlightedInMacroFile),
-    field(Zeph, &ToolchainSettings::RunKeyTest),
-    field(Zeph, &ToolchainSettings::RunAppsWithDownload),
-    field(Zeph, &ToolchainSettings::NumlockDownloadMode),
 };
+
+/// The settings of a struct with a key of that name, in that section or in any if it is empty.
+template <class Struct>
+void addNamed(QStringView key, QStringView section, QList<SettingRef> &found)
+{
+    for (const SettingRow<Struct> &row : Struct::rows()) {
+        if (row.key == key && (section.isEmpty() || row.section == section)) {
+            found.append(SettingRef(row));
+        }
+    }
+}
+
+/// The setting that a widget edits, by its name; none for a widget without such a name.
+std::optional<SettingRef> settingOf(const QWidget &widget)
+{
+    const QString key = widget.objectName();
+    const QString section = widget.property("section").toString();
+    QList<SettingRef> found;
+    addNamed<SharedSettings>(key, section, found);
+    addNamed<MenuSettings>(key, section, found);
+    addNamed<DocumentSettings>(key, section, found);
+    addNamed<EditorSettings>(key, section, found);
+    addNamed<ToolchainSettings>(key, section, found);
+    Q_ASSERT_X(found.size() <= 1, "settingOf", qPrintable(key + u" is in several sections"_s));
+    return found.isEmpty() ? std::nullopt : std::optional(found.front());
+}
+
+template <class Form> QList<PreferencesKey> keysOf(PreferencesTab tab)
+{
+    QWidget page;
+    Form().setupUi(&page);
+    return fieldsOf(page, tab);
+}
 
 } // namespace
 
-std::span<const PreferencesKey> preferencesKeys()
+QList<PreferencesKey> fieldsOf(const QWidget &page, PreferencesTab tab)
 {
-    return table;
+    QList<PreferencesKey> fields;
+    for (const QWidget *each : page.findChildren<QWidget *>()) {
+        const auto *list = qobject_cast<const QComboBox *>(each);
+        const bool isField =
+            list || qobject_cast<const QCheckBox *>(each) || qobject_cast<const QLineEdit *>(each);
+        const auto setting = isField ? settingOf(*each) : std::nullopt;
+        if (!setting) {
+            continue;
+        }
+        PreferencesKey key = field(tab, *setting);
+        if (list && !list->isEditable()) {
+            key.kind = Choice;
+            key.first = int(setting->key().range.least);
+        }
+        fields.append(key);
+    }
+    return fields;
+}
+
+const QList<PreferencesKey> &preferencesKeys()
+{
+    static const QList<PreferencesKey> all = keysOf<Ui::FilesPage>(FileLocations)
+        + QList<PreferencesKey>(std::begin(table), std::end(table))
+        + keysOf<Ui::OpenPage>(OpenSaveUndo) + keysOf<Ui::MiscPage>(Misc)
+        + keysOf<Ui::ZephPage>(Zeph);
+    return all;
 }
 
 } // namespace zeph

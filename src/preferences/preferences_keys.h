@@ -3,10 +3,18 @@
 
 #pragma once
 
-// The settings that Preferences edits, each with its tab and field. The window and the tests are
-// driven by this table.
+// Which settings Preferences edits, and through which field of which tab, for the window and for
+// the tests that walk through it.
+//
+// A field that edits a setting has the name of the setting's key, in the page's form. Where several
+// sections have a key of that name, the field's dynamic property "section" says which is meant.
+// Only fields of other names, and those of lists, are in a table.
 
 #include "settings/settings.h"
+
+#include <QList>
+
+class QWidget;
 
 namespace zeph {
 
@@ -45,7 +53,11 @@ struct PreferencesKey {
     std::optional<SettingRef> setting = {};
 };
 
-/// Keys of the section Defaults belong to HOTAS.ini, all others to the settings store.
-std::span<const PreferencesKey> preferencesKeys();
+/// The ticks, lines and lists of a page that have the name of a setting's key.
+QList<PreferencesKey> fieldsOf(const QWidget &page, PreferencesTab tab);
+
+/// The keys of all tabs. Keys of the section Defaults are in HOTAS.ini, all others in the settings
+/// store.
+const QList<PreferencesKey> &preferencesKeys();
 
 } // namespace zeph

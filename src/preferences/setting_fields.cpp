@@ -64,16 +64,13 @@ void showValue(const PreferencesKey &key, QWidget *control, const SettingValue &
 
 SettingFields::SettingFields(const QWidget &page, PreferencesTab tab)
 {
-    for (const PreferencesKey &key : preferencesKeys()) {
-        if (key.tab != tab || !key.setting) {
-            continue;
-        }
+    for (const PreferencesKey &key : fieldsOf(page, tab)) {
         auto *control = page.findChild<QWidget *>(key.control.toString());
         m_fields.append({ key, control });
         if (key.kind == FieldKind::Number) {
             QLineEdit *line = lineOf(control);
-            QObject::connect(line, &QLineEdit::editingFinished, line, [line, &key] {
-                // An empty field has a meaning of its own on some pages.
+            QObject::connect(line, &QLineEdit::editingFinished, line, [line, key] {
+                // An empty line may mean more to its page than a number.
                 if (!line->text().trimmed().isEmpty()) {
                     line->setText(QString::number(takenNumber(line->text(), *key.setting)));
                 }

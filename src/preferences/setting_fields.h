@@ -13,9 +13,8 @@ class QWidget;
 
 namespace zeph {
 
-/// The fields of a page that edit one setting each, found by the control names in
-/// preferencesKeys(). The page must have all fields of its tab. A number field that is left shows
-/// the number that take() would read from it.
+/// The fields of a page that edit one setting each: those that fieldsOf() finds by their names. A
+/// number field that is left shows the number that take() would read from it.
 class SettingFields
 {
 public:
@@ -28,7 +27,7 @@ public:
 
 private:
     struct Field {
-        const PreferencesKey &key;
+        PreferencesKey key;
         QWidget *control;
     };
 

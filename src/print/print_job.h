@@ -21,7 +21,7 @@ struct PrintJob {
     double tabPixels = usualTabPixels; ///< between tab stops, in the screen's pixels
 };
 
-/// Whether there is a printer; tells it when there is none.
+/// Tells the user when there is no printer. True when there is one.
 bool tellIfNoPrinter(const Context &context, Printers &printers);
 /// Offers portrait where the printer is set up to print in landscape.
 void askForPortrait(const Context &context, Printers &printers);

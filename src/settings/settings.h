@@ -73,6 +73,13 @@ public:
           m_group([](Settings &settings) -> SettingsGroup & { return settings.group<Struct>(); })
     {
     }
+    /// The setting of a row of Struct::rows().
+    template <class Struct>
+    explicit SettingRef(const SettingRow<Struct> &row)
+        : m_key(&row),
+          m_group([](Settings &settings) -> SettingsGroup & { return settings.group<Struct>(); })
+    {
+    }
 
     const SettingKey &key() const { return *m_key; }
     SettingsGroup &group(Settings &settings) const { return m_group(settings); }

@@ -31,7 +31,7 @@ struct SettingsFiles {
 /// The files in which a run with these paths keeps its settings.
 inline SettingsFiles settingsFilesOf(const Paths &paths)
 {
-    return { ProfileFile(paths.iniPath), ProfileFile(paths.hotasIni()),
+    return { ProfileFile(paths.iniPath), ProfileFile(paths.hotasIni(), ProfileUse::Shared),
              ProfileFile(paths.inApp(u"Layouts.ini")) };
 }
 

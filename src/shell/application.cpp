@@ -37,6 +37,7 @@
 #include "templates/templateform.h"
 #include "toolchain/cougar_tools.h"
 #include "toolchain/modes/profiles.h"
+#include "toolchain/tool_presence.h"
 #include "toolchain/toolchain_settings.h"
 #include "toolchain/tools_menu.h"
 
@@ -140,7 +141,7 @@ bool Application::chooseInstance()
 void Application::placeMum()
 {
     if (m_instance.isFurther()) {
-        m_mum->setWindowTitle(u"Zeph - secondary window"_s);
+        m_mum->setFurther();
     }
     tellOnce(GetMumPosition(m_settings, files()));
     m_mum->setPlace(mumPlace(m_settings.of<ShellSettings>()));
@@ -207,6 +208,9 @@ void Application::loadEditor()
     }
     openStartFiles(*m_editor, m_commandLineFile, m_settings.of<EditorSettings>(),
                    ProfileFile(m_paths.iniPath), m_options.dialogs);
+    if (m_commandLineFile.isEmpty() && !m_options.arguments.isEmpty()) {
+        m_options.dialogs.box(missingFileBox(m_options.arguments));
+    }
     m_editor->guards().recovery.offerLeft();
     m_templateGuard->offerLeft();
     m_editor->guards().autoSave.restart();
@@ -218,6 +222,7 @@ void Application::loadEditor()
         runFirstRun(context(), { *m_help, *m_lists, *m_tools }, m_options.welcomeIntervalMs,
                     m_mum.get());
         m_editor->applySettings();
+        m_tools->presence().refresh();
         // The first run has only now asked for the callsign.
         greet();
     } else if (m_settings.of<SharedSettings>().ShowTips) {

@@ -57,7 +57,7 @@ public:
     explicit Application(const ApplicationOptions &options);
     ~Application();
 
-    /// How every window looks, on every system.
+    /// Gives every window the same look on every system.
     static void applyStyle(QApplication &application);
 
     /// Brings the run up. False when it has to end at once; the user knows why then.

@@ -24,8 +24,8 @@ struct FirstRunParts {
     CougarTools &tools;
 };
 
-/// The first run: the flight simulators' files as favourites, the welcome, the store, the profiles,
-/// and what the pilot is shown by experience.
+/// Does what a first run is for: makes favourites of the flight simulators' files, welcomes the
+/// pilot, writes the store, copies the profiles, and shows the pilot what fits the experience.
 void runFirstRun(const Context &context, const FirstRunParts &parts, int welcomeIntervalMs,
                  QWidget *parent);
 

@@ -23,7 +23,7 @@ public:
     explicit frmAbout(const Paths &paths, QWidget *parent = nullptr);
     ~frmAbout() override;
 
-    /// What the button does: closes the window.
+    /// Closes the window, which is what its button does.
     void DialogAction();
 
 private:

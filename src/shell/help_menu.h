@@ -27,10 +27,10 @@ public:
     void mnuHelpContents_Click();
     void showTopic(int number);
     void showKeyword(const QString &word);
-    /// A text of the Info folder.
+    /// Shows a text of the Info folder in a window of that title.
     void showInformation(const QString &fileName, const QString &title);
     void showTip();
-    /// 0 the version check, 1 the compatibility text, 2 the About window.
+    /// Runs the version check (0), shows the compatibility text (1) or the About window (2).
     void mnuHelpAbout_Click(int index);
 
 private:
@@ -45,6 +45,7 @@ private:
     Downloader &m_downloader;
     ToolWindows &m_windows;
     Editor &m_editor;
+    bool m_checksVersion = false;
 };
 
 } // namespace zeph

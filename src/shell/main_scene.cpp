@@ -3,11 +3,14 @@
 
 #include "shell/main_scene.h"
 
+#include "documents/documents.h"
 #include "documents/editor_view.h"
 #include "editor/editor.h"
 #include "editor/files/file_opening.h"
 #include "editor/files/file_saving.h"
+#include "language/error_codes.h"
 #include "platform/dialogs.h"
+#include "platform/status_line.h"
 #include "platform/tool_windows.h"
 #include "shell/help_menu.h"
 #include "shell/main_status_bar.h"
@@ -16,12 +19,20 @@
 #include "toolchain/compile/compilerhelp.h"
 #include "toolchain/cougar_tools.h"
 
+#include <QFileInfo>
+
 namespace zeph {
 
 namespace {
 
 /// The help topic on compiler errors.
 constexpr int errorsTopic = 410;
+
+bool isSameFile(const QString &one, const QString &other)
+{
+    const QString found = QFileInfo(one).canonicalFilePath();
+    return one == other || (!found.isEmpty() && found == QFileInfo(other).canonicalFilePath());
+}
 
 } // namespace
 
@@ -30,6 +41,7 @@ MainScene::MainScene(const Context &context, const Parts &parts)
 {
     CougarTools &tools = parts.tools;
     tools.attach(parts.editor.actions(), parts.editor.documents(), *this, *this);
+    addCompilerHelp(parts.mum.toolWindows(), context, *this);
     connectStatusBar();
     connect(&parts.mum, &Mum::compileWanted, &tools,
             guarded(context.dialogs, [&tools] { tools.compile().mnuAppsCompile_Click(); }));
@@ -41,8 +53,8 @@ void MainScene::connectStatusBar()
 {
     CougarModes &modes = m_parts.tools.modes();
     MainStatusBar &bar = m_parts.mum.bar();
-    bar.setModeTooltip(modes.tooltip());
-    connect(&modes, &CougarModes::tooltipChanged, &bar, &MainStatusBar::setModeTooltip);
+    m_context.status.setModeTooltip(modes.tooltip());
+    connect(&modes, &CougarModes::tooltipChanged, &m_context.status, &StatusLine::setModeTooltip);
     connect(&bar, &MainStatusBar::modeTooltipWanted, &modes,
             guarded(m_context.dialogs, [&modes] { modes.UpdateStatusTooltip(); }));
     connect(&bar, &MainStatusBar::modePanelClicked, &modes,
@@ -65,26 +77,27 @@ void MainScene::minimiseToolWindows()
 void MainScene::showCompilerHelp(const CompilerError &error)
 {
     ToolWindows &windows = m_parts.mum.toolWindows();
-    auto *help =
-        windows.load<CompilerHelp>([this](QWidget *owner) { return makeCompilerHelp(owner); });
+    auto *help = windows.load<CompilerHelp>();
     help->ShowTheError(error);
     ToolWindows::raise(*help);
 }
 
-CompilerHelp *MainScene::makeCompilerHelp(QWidget *owner)
+void MainScene::showHelpOnErrors()
 {
-    auto *help = new CompilerHelp(m_context.paths.infoFolder() + u"Error codes.rtf"_s, owner);
-    connect(help, &CompilerHelp::highlightRequested, this,
-            guarded(m_context.dialogs,
-                    [this](int line, const QString &text) { HighlightErrorLine(line, text); }));
-    connect(help, &CompilerHelp::helpRequested, this,
-            guarded(m_context.dialogs, [this] { m_parts.help.showTopic(errorsTopic); }));
-    return help;
+    m_parts.help.showTopic(errorsTopic);
 }
 
-void MainScene::HighlightErrorLine(int line, const QString &errorText)
+void MainScene::HighlightErrorLine(const CompilerError &error)
 {
-    m_parts.editor.HighlightErrorLine(line, errorText);
+    const Document &document = m_parts.editor.documents().of(language::documentOfError(error.text));
+    if (isSameFile(document.path(), error.file().path)) {
+        m_parts.editor.HighlightErrorLine(error.line, error.text);
+        return;
+    }
+    const QString note = u" (in %1, which isn't open any more)"_s.arg(error.file().name);
+    if (!m_context.status.text().endsWith(note)) {
+        m_context.status.setText(m_context.status.text() + note);
+    }
 }
 
 void MainScene::ResetFocusToEditor()

@@ -11,7 +11,6 @@
 
 namespace zeph {
 
-class CompilerHelp;
 class CougarTools;
 class Editor;
 class HelpMenu;
@@ -35,7 +34,8 @@ public:
     void saveSelected() override;
     void minimiseToolWindows() override;
     void showCompilerHelp(const CompilerError &error) override;
-    void HighlightErrorLine(int line, const QString &errorText) override;
+    void showHelpOnErrors() override;
+    void HighlightErrorLine(const CompilerError &error) override;
     void ResetFocusToEditor() override;
     void OpenPreviouslySavedFiles(const QString &path) override;
     void bringMainWindowBack() override;
@@ -43,7 +43,6 @@ public:
 
 private:
     void connectStatusBar();
-    CompilerHelp *makeCompilerHelp(QWidget *owner);
 
     Context m_context;
     Parts m_parts;

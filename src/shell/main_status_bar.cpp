@@ -18,6 +18,7 @@
 
 #include <algorithm>
 #include <array>
+#include <span>
 
 namespace zeph {
 
@@ -29,6 +30,22 @@ constexpr int selectorOff = 1;
 constexpr std::array modeIcons = { u"mode-off", u"mode-windows", u"mode-programmed",
                                    u"mode-unknown" };
 constexpr std::array savedIcons = { u"saved-empty", u"saved-saved", u"saved-modified" };
+
+/// A panel at the right end of the bar.
+struct PanelRow {
+    StatusPanel panel;
+    const char16_t *accessibleName;
+    const char16_t *widestText; ///< of a panel with a text; other panels are as wide as a picture
+    std::span<const char16_t *const> pictures;
+};
+
+const PanelRow panelRows[] = {
+    { StatusPanel::Mode, u"Cougar mode", u"", modeIcons },
+    { StatusPanel::Line, u"", u"Line no: 99999", {} },
+    { StatusPanel::Saved, u"Saved state", u"", savedIcons },
+    { StatusPanel::OtherSaved, u"Saved state of the other file", u"", savedIcons },
+    { StatusPanel::StandIns, u"", u"", {} },
+};
 
 /// The message line: a message that is too long ends in dots instead of widening the window.
 class MessageLabel : public QLabel
@@ -49,12 +66,6 @@ protected:
     }
 };
 
-template <size_t Count>
-QString iconOf(const std::array<const char16_t *, Count> &names, int picture)
-{
-    return QString::fromUtf16(names[size_t(std::clamp(picture, 1, int(Count)) - 1)]);
-}
-
 } // namespace
 
 MainStatusBar::MainStatusBar(const Context &context, QWidget *parent)
@@ -68,75 +79,67 @@ MainStatusBar::MainStatusBar(const Context &context, QWidget *parent)
     m_message->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     m_message->setAttribute(Qt::WA_TransparentForMouseEvents);
     addWidget(m_message, 1);
-    m_mode = makePanel(2, u"Cougar mode"_s);
-    m_line = makePanel(3, {});
-    m_saved = makePanel(4, u"Saved state"_s);
-    m_line->setMinimumWidth(fontMetrics().horizontalAdvance(u"Line no: 99999"_s));
-
-    const StatusLine &status = context.status;
-    connect(&status, &StatusLine::textChanged, m_message, [this](const QString &text) {
-        m_message->setText(text);
-        m_message->update();
-    });
-    connect(&status, &StatusLine::repaintWanted, m_message, [this] { m_message->repaint(); });
-    connect(&status, &StatusLine::textTooltipChanged, m_message, &QLabel::setToolTip);
-    connect(&status, &StatusLine::lineTextChanged, m_line, &QLabel::setText);
-    connect(&status, &StatusLine::modePictureChanged, this, &MainStatusBar::showMode);
-    connect(&status, &StatusLine::savedChanged, this, &MainStatusBar::showSaved);
-    m_message->setText(status.text());
-    m_message->setToolTip(status.textTooltip());
-    m_line->setText(status.lineText());
-    setModeTooltip(u"Cougar mode selector is off"_s);
-    showMode(status.modePicture());
-    showSaved(status.savedPicture(), status.savedTooltip());
+    m_panels.append(m_message);
+    for (const PanelRow &row : panelRows) {
+        QLabel *panel = makePanel(row.panel);
+        panel->setAccessibleName(QString::fromUtf16(row.accessibleName));
+        panel->setMinimumWidth(fontMetrics().horizontalAdvance(QString::fromUtf16(row.widestText)));
+        showPanel(row.panel);
+    }
+    showPanel(StatusPanel::Message);
+    connect(&context.status, &StatusLine::changed, this, &MainStatusBar::showPanel);
+    connect(&context.status, &StatusLine::repaintWanted, m_message,
+            [this] { m_message->repaint(); });
 }
 
-QLabel *MainStatusBar::makePanel(int number, const QString &accessibleName)
+QLabel *MainStatusBar::makePanel(StatusPanel panel)
 {
-    auto *panel = new QLabel(this);
-    panel->setObjectName(u"Panel_"_s + QString::number(number));
-    panel->setAccessibleName(accessibleName);
+    auto *label = new QLabel(this);
+    label->setObjectName(u"Panel_"_s + QString::number(int(panel) + 1));
     // The bar itself sees the mouse, so that one rule decides by the distance from its left end.
-    panel->setAttribute(Qt::WA_TransparentForMouseEvents);
-    addPermanentWidget(panel);
-    return panel;
+    label->setAttribute(Qt::WA_TransparentForMouseEvents);
+    addPermanentWidget(label);
+    m_panels.append(label);
+    return label;
 }
 
 StatusPanelEdges MainStatusBar::edges() const
 {
-    return { twipsFromPixels(m_mode->x()), twipsFromPixels(m_line->x()) };
+    return { twipsFromPixels(panel(StatusPanel::Mode).x()),
+             twipsFromPixels(panel(StatusPanel::Line).x()) };
 }
 
 QString MainStatusBar::modeTooltip() const
 {
-    return m_mode->toolTip();
+    return panel(StatusPanel::Mode).toolTip();
 }
 
-void MainStatusBar::setModeTooltip(const QString &tooltip)
+void MainStatusBar::showPanel(StatusPanel shown)
 {
-    m_mode->setToolTip(tooltip);
-}
-
-void MainStatusBar::showMode(int picture)
-{
-    m_mode->setPixmap(iconNamed(m_context.paths, iconOf(modeIcons, picture))
-                          .pixmap({ pictureSize, pictureSize }, devicePixelRatioF()));
-}
-
-void MainStatusBar::showSaved(int picture, const QString &tooltip)
-{
-    m_saved->setPixmap(iconNamed(m_context.paths, iconOf(savedIcons, picture))
-                           .pixmap({ pictureSize, pictureSize }, devicePixelRatioF()));
-    m_saved->setToolTip(tooltip);
+    const StatusContents &contents = m_context.status.contents(shown);
+    QLabel &label = panel(shown);
+    label.setToolTip(contents.tooltip);
+    const auto *row = std::ranges::find(panelRows, shown, &PanelRow::panel);
+    if (row == std::end(panelRows) || row->pictures.empty()) {
+        label.setText(contents.text);
+        // The message line paints itself.
+        label.update();
+        return;
+    }
+    label.setVisible(contents.picture > 0);
+    const int picture = std::clamp(contents.picture, 1, int(row->pictures.size()));
+    const QString icon = QString::fromUtf16(row->pictures[size_t(picture) - 1]);
+    label.setPixmap(
+        iconNamed(m_context.paths, icon).pixmap({ pictureSize, pictureSize }, devicePixelRatioF()));
 }
 
 bool MainStatusBar::event(QEvent *event)
 {
     if (event->type() == QEvent::ToolTip) {
         const auto *help = static_cast<QHelpEvent *>(event);
-        for (const QLabel *panel : { m_message, m_mode, m_saved }) {
-            if (panel->geometry().contains(help->pos())) {
-                QToolTip::showText(help->globalPos(), panel->toolTip(), this);
+        for (const QLabel *label : m_panels) {
+            if (!label->toolTip().isEmpty() && label->geometry().contains(help->pos())) {
+                QToolTip::showText(help->globalPos(), label->toolTip(), this);
                 return true;
             }
         }
@@ -171,7 +174,7 @@ void MainStatusBar::mousePressEvent(QMouseEvent *event)
 void MainStatusBar::mouseReleaseEvent(QMouseEvent *event)
 {
     const int x = event->pos().x();
-    if (x >= m_mode->x() && x < m_line->x()) {
+    if (x >= panel(StatusPanel::Mode).x() && x < panel(StatusPanel::Line).x()) {
         Q_EMIT modePanelClicked(event->button());
     }
 }

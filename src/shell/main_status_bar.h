@@ -5,6 +5,7 @@
 
 #include "platform/context.h"
 #include "platform/core/base.h"
+#include "platform/status_line.h"
 
 #include <QStatusBar>
 
@@ -49,7 +50,6 @@ public:
     StatusPanelEdges edges() const;
     /// The tooltip of panel 2.
     QString modeTooltip() const;
-    void setModeTooltip(const QString &tooltip);
 
 Q_SIGNALS:
     void endPressed(zeph::StatusPress press);
@@ -64,15 +64,13 @@ protected:
     void mouseReleaseEvent(QMouseEvent *event) override;
 
 private:
-    QLabel *makePanel(int number, const QString &accessibleName);
-    void showMode(int picture);
-    void showSaved(int picture, const QString &tooltip);
+    QLabel *makePanel(StatusPanel panel);
+    QLabel &panel(StatusPanel panel) const { return *m_panels[qsizetype(panel)]; }
+    void showPanel(StatusPanel shown);
 
     Context m_context;
     QLabel *m_message;
-    QLabel *m_mode;
-    QLabel *m_line;
-    QLabel *m_saved;
+    QList<QLabel *> m_panels; ///< in the order of StatusPanel
 };
 
 } // namespace zeph

@@ -10,10 +10,12 @@
 #include "platform/icons.h"
 #include "platform/status_line.h"
 #include "platform/tool_windows.h"
+#include "platform/window_places.h"
 #include "shell/cool_bar.h"
 #include "shell/main_status_bar.h"
 #include "shell/settings/shell_settings.h"
 
+#include <QAction>
 #include <QCloseEvent>
 #include <QMenuBar>
 #include <QScreen>
@@ -21,18 +23,12 @@
 
 namespace zeph {
 
-namespace {
-
-/// As large as the window is when the store names no size.
-
-} // namespace
-
 Mum::Mum(const Context &context)
     : m_context(context), m_toolWindows(new ToolWindows(this)),
       m_coolBar(new CoolBar(*this, context)), m_bar(new MainStatusBar(context, this))
 {
     setObjectName(u"Mum"_s);
-    setWindowTitle(u"Zeph"_s);
+    updateTitle();
     setWindowIcon(iconNamed(context.paths, u"zeph"));
     setStatusBar(m_bar);
     connect(m_bar, &MainStatusBar::endPressed, this,
@@ -45,6 +41,27 @@ Mum::~Mum()
     m_toolWindows->unloadAll();
 }
 
+QString mumTitle(const QString &fileName, bool isFurther)
+{
+    QString file = fileName;
+    // A name that holds the toolkit's mark keeps it when the mark is doubled.
+    file.replace(u"[*]"_s, u"[*][*]"_s);
+    return (file.isEmpty() ? QString() : file + u"[*] - "_s) + u"Zeph"_s
+        + (isFurther ? u" - secondary window"_s : QString());
+}
+
+void Mum::setFurther()
+{
+    m_isFurther = true;
+    updateTitle();
+}
+
+void Mum::updateTitle()
+{
+    setWindowTitle(mumTitle(m_editor ? m_editor->selected().name() : QString(), m_isFurther));
+    setWindowModified(m_editor && m_editor->selected().isModified());
+}
+
 void Mum::attachEditor(Editor *editor)
 {
     m_editor = editor;
@@ -52,6 +69,12 @@ void Mum::attachEditor(Editor *editor)
     editor->actions().addTo(*menuBar());
     m_coolBar->attach(*editor);
     connect(&editor->documents(), &Documents::selectedChanged, m_coolBar, &CoolBar::refresh);
+    connect(&editor->documents(), &Documents::selectedChanged, this, &Mum::updateTitle);
+    editor->documents().forEach([this](Document &each) {
+        connect(&each, &Document::renamed, this, &Mum::updateTitle);
+        connect(&each, &Document::stateChanged, this, &Mum::updateTitle);
+    });
+    updateTitle();
 }
 
 WindowPlace Mum::place() const
@@ -59,28 +82,37 @@ WindowPlace Mum::place() const
     const auto state = isMinimized() ? WindowState::Minimised
         : isMaximized()              ? WindowState::Maximised
                                      : WindowState::Normal;
-    return { .left = double(twipsFromPixels(x())),
-             .top = double(twipsFromPixels(y())),
-             .width = double(twipsFromPixels(width())),
-             .height = double(twipsFromPixels(height())),
+    const QRect place = normalPlace(*this);
+    return { .left = double(twipsFromPixels(place.x())),
+             .top = double(twipsFromPixels(place.y())),
+             .width = double(twipsFromPixels(place.width())),
+             .height = double(twipsFromPixels(place.height())),
              .state = state };
 }
 
 void Mum::setPlace(const WindowPlace &place)
 {
-    if (place.state == WindowState::Maximised) {
-        // The size for a later restore. The first dialogs open over this place, before the system
-        // has maximised the window.
-        resize(pixelsFromTwips(defaultOf(&ShellSettings::MumWidthAtStartup)),
-               pixelsFromTwips(defaultOf(&ShellSettings::MumHeightAtStartup)));
-        QRect restored = rect();
-        restored.moveCenter(screen()->availableGeometry().center());
-        move(restored.topLeft());
-        setWindowState(windowState() | Qt::WindowMaximized);
+    const QRect wanted(pixelsFromTwips(place.left), pixelsFromTwips(place.top),
+                       pixelsFromTwips(place.width), pixelsFromTwips(place.height));
+    if (place.state != WindowState::Maximised) {
+        restorePlace(*this, wanted);
         return;
     }
-    resize(pixelsFromTwips(place.width), pixelsFromTwips(place.height));
-    move(pixelsFromTwips(place.left), pixelsFromTwips(place.top));
+    const QRect usual(0, 0, pixelsFromTwips(defaultOf(&ShellSettings::MumWidthAtStartup)),
+                      pixelsFromTwips(defaultOf(&ShellSettings::MumHeightAtStartup)));
+    const QRect available = screen()->availableGeometry();
+    // A maximised window's own size, which older stores hold, is none to go back to.
+    const bool coversScreen =
+        wanted.width() >= available.width() && wanted.height() >= available.height();
+    if (wanted.isEmpty() || wanted == usual || coversScreen) {
+        // The first dialogs open over this place, before the system has maximised the window.
+        QRect centred = usual;
+        centred.moveCenter(available.center());
+        setGeometry(centred);
+    } else {
+        restorePlace(*this, wanted);
+    }
+    setWindowState(windowState() | Qt::WindowMaximized);
 }
 
 void Mum::UpdateTooltips()
@@ -109,10 +141,12 @@ void Mum::pressAtEnd(int press)
         return;
     }
     MenuActions &actions = m_editor->actions();
-    actions.trigger(m_editor->selected().kind() == DocumentKind::Joystick ? u"mnuViewColourJoystick"
-                                                                          : u"mnuViewColourMacro");
-    actions.trigger(u"mnuFileSave");
-    actions.trigger(u"mnuMacrosIdentify");
+    actions
+        .action(m_editor->selected().kind() == DocumentKind::Joystick ? u"mnuViewColourJoystick"
+                                                                      : u"mnuViewColourMacro")
+        ->trigger();
+    actions.action(u"mnuFileSave")->trigger();
+    actions.action(u"mnuMacrosIdentify")->trigger();
 }
 
 void Mum::showStatusTip(const QString &tip)

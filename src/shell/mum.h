@@ -17,6 +17,10 @@ class Editor;
 class MainStatusBar;
 class ToolWindows;
 
+/// The main window's title, with "[*]" where the toolkit marks a changed document. The file's name
+/// is left out when it is empty.
+QString mumTitle(const QString &fileName, bool isFurther);
+
 /// The main window: menus, toolbars and status bar around its one permanent child, the Editor.
 class Mum : public QMainWindow
 {
@@ -25,7 +29,10 @@ public:
     explicit Mum(const Context &context);
     ~Mum() override;
 
-    /// Makes the Editor the window's content and puts its menus on the menu bar.
+    /// Says in the title that this is not the first instance.
+    void setFurther();
+    /// Makes the Editor the window's content and puts its menus on the menu bar. The title follows
+    /// the selected document from then on.
     void attachEditor(Editor *editor);
 
     ToolWindows &toolWindows() { return *m_toolWindows; }
@@ -60,6 +67,7 @@ protected:
 
 private:
     void pressAtEnd(int press);
+    void updateTitle();
     void showStatusTip(const QString &tip);
 
     Context m_context;
@@ -67,6 +75,7 @@ private:
     CoolBar *m_coolBar;
     MainStatusBar *m_bar;
     Editor *m_editor = nullptr;
+    bool m_isFurther = false;
     /// What panel 1 read before a menu entry described itself there.
     std::optional<QString> m_textBelowTip;
 };

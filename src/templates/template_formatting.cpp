@@ -27,10 +27,11 @@ namespace {
 
 using Flag = bool CharFormat::*;
 
-constexpr std::array<Flag, 3> formatArray1 = { &CharFormat::bold, &CharFormat::italic,
-                                               &CharFormat::underline };
-constexpr std::array<bool CommonLook::*, 3> commonArray1 = { &CommonLook::bold, &CommonLook::italic,
-                                                             &CommonLook::underline };
+constexpr std::array<Flag, 4> formatArray1 = { &CharFormat::bold, &CharFormat::italic,
+                                               &CharFormat::underline, &CharFormat::strike };
+constexpr std::array<bool CommonLook::*, 4> commonArray1 = { &CommonLook::bold, &CommonLook::italic,
+                                                             &CommonLook::underline,
+                                                             &CommonLook::strike };
 
 constexpr std::array alignments = { Qt::AlignLeft, Qt::AlignHCenter, Qt::AlignRight };
 
@@ -228,14 +229,19 @@ void TemplateFormatting::mnuStyleArray_Click(int Index)
 {
     const TextStyles styles = readTextStyles(ProfileFile(m_context.paths.iniPath));
     const CharFormat &style = styles.at(size_t(Index)).format;
-    change([&style](CharFormat &format) { format = style; });
+    change([&style](CharFormat &format) {
+        const QString link = format.link;
+        format = style;
+        format.link = link;
+    });
 }
 
 void TemplateFormatting::UpdateStyleCaptions()
 {
     const TextStyles styles = readTextStyles(ProfileFile(m_context.paths.iniPath));
     for (size_t i = 0; i < styles.size(); ++i) {
-        m_parts.actions.action(u"mnuStyleArray_"_s + QString::number(i))->setText(styles[i].name);
+        m_parts.actions.action(u"mnuStyleArray_"_s + QString::number(i))
+            ->setText(captionOf(styles[i].name));
     }
 }
 
@@ -248,11 +254,14 @@ void TemplateFormatting::mnuFormatFont_Click()
     start.bold = common.bold;
     start.italic = common.italic;
     start.underline = common.underline;
+    start.strike = common.strike;
     if (const auto chosen = m_context.dialogs.chooseFont(start)) {
         change([&chosen](CharFormat &format) {
             const auto colour = format.colour;
+            const QString link = format.link;
             format = *chosen;
             format.colour = colour;
+            format.link = link;
         });
     }
 }
@@ -272,6 +281,7 @@ void TemplateFormatting::UpdateToolbarButtonStates()
     UpdateBoldButton(common);
     UpdateItalicsButton(common);
     UpdateUnderlineButton(common);
+    updateStrike(common);
     UpdateBulletedButton(common);
     UpdateAlignmentButtons(common);
     updateColour(common);
@@ -314,6 +324,11 @@ void TemplateFormatting::UpdateUnderlineButton(const CommonLook &look)
     m_parts.actions.action(u"mnuFormatArray1_2")->setChecked(look.underline);
 }
 
+void TemplateFormatting::updateStrike(const CommonLook &look)
+{
+    m_parts.actions.action(u"mnuFormatArray1_3")->setChecked(look.strike);
+}
+
 void TemplateFormatting::UpdateBulletedButton(const CommonLook &look)
 {
     m_parts.actions.action(u"mnuFormatBullets")->setChecked(look.bullets);
@@ -354,6 +369,7 @@ CommonLook commonLook(const CharFormat &format, const ParagraphFormat &paragraph
              .bold = format.bold,
              .italic = format.italic,
              .underline = format.underline,
+             .strike = format.strike,
              .bullets = paragraph.bullet,
              .alignment = paragraph.alignment };
 }
@@ -370,6 +386,7 @@ CommonLook commonLook(const RichText &selection)
         common.bold &= run.format.bold;
         common.italic &= run.format.italic;
         common.underline &= run.format.underline;
+        common.strike &= run.format.strike;
     }
     for (const ParagraphRun &run : selection.paragraphs) {
         common.bullets &= run.format.bullet;

@@ -25,6 +25,7 @@ struct CommonLook {
     bool bold = false; ///< this and the flags below: true when all of it is so
     bool italic = false;
     bool underline = false;
+    bool strike = false;
     bool bullets = false;
     std::optional<ParagraphAlignment> alignment;
 
@@ -53,7 +54,8 @@ public:
     /// Characters without a font count as having that of the plain format.
     TemplateFormatting(const Context &context, const Parts &parts, CharFormat plain);
 
-    /// Bold (0), italic (1) or underline (2): off when all of the selection has it, else on.
+    /// Switches bold (0), italic (1), underline (2) or strike out (3) off when all of the selection
+    /// has it, else on.
     void mnuFormatArray1_Click(int Index);
     /// Puts a bullet before each paragraph of the selection; takes them away when all have one.
     void mnuFormatBullets_Click();
@@ -81,6 +83,7 @@ private:
     void UpdateUnderlineButton(const CommonLook &look);
     void UpdateBulletedButton(const CommonLook &look);
     void UpdateAlignmentButtons(const CommonLook &look);
+    void updateStrike(const CommonLook &look);
     void updateColour(const CommonLook &look);
     void setSize(const QString &text);
 

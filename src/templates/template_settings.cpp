@@ -11,8 +11,14 @@ namespace {
 
 using S = TemplateSettings;
 
+constexpr QStringView section = u"Template Editor";
+
 constexpr std::array rows = {
-    row(u"Template Editor", u"HideAppsToolBar", &S::HideAppsToolBar, false),
+    row(section, u"HideAppsToolBar", &S::HideAppsToolBar, false),
+    row(section, u"TemplateTopAtStartup", &S::TemplateTopAtStartup, 0, anyNumber),
+    row(section, u"TemplateLeftAtStartup", &S::TemplateLeftAtStartup, 0, anyNumber),
+    row(section, u"TemplateWidthAtStartup", &S::TemplateWidthAtStartup, 0, anyNumber),
+    row(section, u"TemplateHeightAtStartup", &S::TemplateHeightAtStartup, 0, anyNumber),
 };
 
 } // namespace

@@ -15,6 +15,11 @@ struct TemplateSettings {
     static std::span<const SettingRow<TemplateSettings>> rows();
 
     bool HideAppsToolBar;
+    // The window's place, in twips. A width of 0 is that of a window that was never opened.
+    double TemplateTopAtStartup;
+    double TemplateLeftAtStartup;
+    double TemplateWidthAtStartup;
+    double TemplateHeightAtStartup;
 };
 
 } // namespace zeph

@@ -12,6 +12,7 @@
 #include "platform/richtext/rich_text_document.h"
 #include "platform/richtext/rich_text_mime.h"
 #include "platform/status_line.h"
+#include "platform/window_places.h"
 #include "print/printpreview.h"
 #include "settings/colour_settings.h"
 #include "settings/settings.h"
@@ -19,6 +20,7 @@
 #include "settings/shared_settings.h"
 #include "templates/template_actions.h"
 #include "templates/template_formatting.h"
+#include "templates/template_loading.h"
 #include "templates/template_settings.h"
 #include "text/macro_table.h"
 #include "text/painter.h"
@@ -49,6 +51,16 @@ QPalette paperPalette(QPalette palette)
     return palette;
 }
 
+std::initializer_list<SettingRef> ownSettings()
+{
+    using S = TemplateSettings;
+    static const std::initializer_list<SettingRef> own = {
+        &S::HideAppsToolBar, &S::TemplateTopAtStartup, &S::TemplateLeftAtStartup,
+        &S::TemplateWidthAtStartup, &S::TemplateHeightAtStartup
+    };
+    return own;
+}
+
 } // namespace
 
 TemplateForm::TemplateForm(const Context &context, Printers &printers, const MacroTable &macros,
@@ -64,8 +76,6 @@ TemplateForm::TemplateForm(const Context &context, Printers &printers, const Mac
     setWindowFlag(Qt::Window);
     m_actions->addTo(*m_ui->MenuBar1);
     box().setPalette(paperPalette(box().palette()));
-    box().document()->setDefaultFont(toTextFormat(m_plain).font());
-    box().document()->setDocumentMargin(12);
     box().viewport()->installEventFilter(this);
     box().setContextMenuPolicy(Qt::CustomContextMenu);
     m_formatting = new TemplateFormatting(
@@ -73,7 +83,7 @@ TemplateForm::TemplateForm(const Context &context, Printers &printers, const Mac
     connectFile();
     connectEdit();
     GetTemplateEditorOptions();
-    showFile(templatesFolder() + untitledTemplate.toString(), {});
+    showFile(templatesFolder() + untitledTemplate.toString(), newTemplateDocument(m_plain));
     // showFile() puts a file's name into the title, but nobody has chosen a file yet.
     setWindowTitle(caption);
     updateConditions();
@@ -177,12 +187,14 @@ bool TemplateForm::HasTemplateTextChanged() const
     return differs(m_name, box().richText(), m_tempRTF);
 }
 
-void TemplateForm::showFile(const QString &path, const RichText &text)
+void TemplateForm::showFile(const QString &path, std::unique_ptr<QTextDocument> document)
 {
     m_path = path;
     m_name = nameOf(path);
-    box().setRichText(text);
-    if (text.text.isEmpty()) {
+    m_losses = {};
+    m_lineEnds = {};
+    box().adopt(std::move(document));
+    if (box().document()->isEmpty()) {
         box().setCurrentCharFormat(toTextFormat(m_plain));
     }
     AssignCurrentTexttoTempRTF();
@@ -231,16 +243,13 @@ void TemplateForm::closeEvent(QCloseEvent *event)
 
 bool TemplateForm::load(const QString &path)
 {
-    const QString found = existingPath(path);
-    const auto bytes = readWholeFile(found.isEmpty() ? path : found);
-    const auto text =
-        bytes ? templateText(path, *bytes, m_plain) : Unexpected<QString>(bytes.error().reason);
-    if (!text) {
-        m_context.dialogs.tell(u"Can't read file"_s, path + u" wasn't opened: "_s + text.error(),
-                               BoxIcon::Exclamation);
+    auto loaded = loadTemplate(m_context, this, path, m_plain);
+    if (!loaded) {
         return false;
     }
-    showFile(found, *text);
+    showFile(loaded->path, std::move(loaded->document));
+    m_losses = loaded->file.losses;
+    m_lineEnds = loaded->file.lineEnds;
     say(m_name + u" was opened successfully"_s);
     return true;
 }
@@ -253,7 +262,7 @@ bool TemplateForm::OpenReadMe(const QString &path)
 void TemplateForm::mnuFileNew_Click()
 {
     if (mayLeave(TemplateLeaving::New)) {
-        showFile(templatesFolder() + untitledTemplate.toString(), {});
+        showFile(templatesFolder() + untitledTemplate.toString(), newTemplateDocument(m_plain));
         say(u"New file created"_s);
     }
 }
@@ -288,20 +297,49 @@ void TemplateForm::mnuFileSave_Click()
         mnuFileSaveAs_Click();
         return;
     }
-    writeTo(m_path);
+    if (mayLosePart()) {
+        writeTo(m_path);
+    }
+}
+
+bool TemplateForm::mayLosePart()
+{
+    if (!m_losses) {
+        return true;
+    }
+    const BoxButton answer = m_context.dialogs.box(
+        { .title = u"Some of it would be lost"_s,
+          .text = m_name + u" has things that I can't keep: "_s + lossesInWords(m_losses)
+              + u". If I save over it they are gone. A copy leaves the file as it is."_s,
+          .icon = BoxIcon::Exclamation,
+          .buttons = { BoxButton::Yes, BoxButton::No, BoxButton::Cancel },
+          .defaultButton = BoxButton::Yes,
+          .captions = { u"Save as a &copy"_s, u"Save &over it"_s, u"Cancel"_s } });
+    if (answer == BoxButton::Yes) {
+        saveAs(copyName(m_name));
+    }
+    return answer == BoxButton::No;
 }
 
 void TemplateForm::mnuFileSaveAs_Click()
 {
+    saveAs(m_name);
+}
+
+void TemplateForm::saveAs(const QString &suggestion)
+{
     const auto chosen = m_context.dialogs.saveFile(
         { u"Save file as ..."_s, templateSaveFilter(), u"rtf"_s,
-          isUntitled(m_name) ? templatesFolder() : folderOf(m_path), m_name });
+          isUntitled(m_name) ? templatesFolder() : folderOf(m_path), suggestion });
     if (!chosen) {
         return;
     }
     const QString existing = existingPath(*chosen);
     const QString path = existing.isEmpty() ? *chosen : existing;
-    if (mayOverwrite(m_context.dialogs, path) && writeTo(path)) {
+    if (!mayOverwrite(m_context.dialogs, path) || (path == m_path && !mayLosePart())) {
+        return;
+    }
+    if (writeTo(path)) {
         m_path = path;
         m_name = nameOf(path);
         setWindowTitle(u" Editing "_s + m_name);
@@ -321,10 +359,13 @@ bool TemplateForm::writeTo(const QString &path)
         box().select(int(stranger), 1);
         return false;
     }
-    if (const auto done = writeFileAtomically(path, templateBytes(path, text)); !done) {
+    if (const auto done = writeFileAtomically(
+            path, templateBytes(path, text, lineEndsNow(*box().document(), m_lineEnds)));
+        !done) {
         tellNotSaved(m_context.dialogs, done.error());
         return false;
     }
+    m_losses = {};
     AssignCurrentTexttoTempRTF();
     say(nameOf(path) + u" was saved successfully"_s);
     Q_EMIT fileWritten(path);
@@ -455,20 +496,32 @@ bool TemplateForm::eventFilter(QObject *watched, QEvent *event)
 
 void TemplateForm::GetTemplateEditorOptions()
 {
+    auto &settings = m_context.settings.of<TemplateSettings>();
     // The problems are not told: with a value that cannot be read the toolbar is shown.
-    (void)readSettings(m_context.settings, settingsFilesOf(m_context.paths),
-                       { &TemplateSettings::HideAppsToolBar });
-    const bool shown = !m_context.settings.of<TemplateSettings>().HideAppsToolBar;
-    m_actions->action(u"mnuViewToolBar")->setChecked(shown);
-    m_ui->Toolbar1->setVisible(shown);
+    (void)readSettings(m_context.settings, settingsFilesOf(m_context.paths), ownSettings());
+    m_actions->action(u"mnuViewToolBar")->setChecked(!settings.HideAppsToolBar);
+    m_ui->Toolbar1->setVisible(!settings.HideAppsToolBar);
+    if (settings.TemplateWidthAtStartup > 0) {
+        restorePlace(*this,
+                     { pixelsFromTwips(settings.TemplateLeftAtStartup),
+                       pixelsFromTwips(settings.TemplateTopAtStartup),
+                       pixelsFromTwips(settings.TemplateWidthAtStartup),
+                       pixelsFromTwips(settings.TemplateHeightAtStartup) });
+    } else if (parentWidget()) {
+        openBeside(*this, *parentWidget()->window());
+    }
 }
 
 void TemplateForm::SaveTemplateEditorOptions()
 {
-    m_context.settings.of<TemplateSettings>().HideAppsToolBar =
-        !m_actions->action(u"mnuViewToolBar")->isChecked();
-    (void)saveSettings(m_context.settings, settingsFilesOf(m_context.paths),
-                       { &TemplateSettings::HideAppsToolBar });
+    auto &settings = m_context.settings.of<TemplateSettings>();
+    settings.HideAppsToolBar = !m_actions->action(u"mnuViewToolBar")->isChecked();
+    const QRect place = normalPlace(*this);
+    settings.TemplateTopAtStartup = twipsFromPixels(place.y());
+    settings.TemplateLeftAtStartup = twipsFromPixels(place.x());
+    settings.TemplateWidthAtStartup = twipsFromPixels(place.width());
+    settings.TemplateHeightAtStartup = twipsFromPixels(place.height());
+    (void)saveSettings(m_context.settings, settingsFilesOf(m_context.paths), ownSettings());
 }
 
 } // namespace zeph

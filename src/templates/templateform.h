@@ -82,7 +82,9 @@ private:
     bool mayLeave(TemplateLeaving leaving);
     bool load(const QString &path);
     bool writeTo(const QString &path);
-    void showFile(const QString &path, const RichText &text);
+    void showFile(const QString &path, std::unique_ptr<QTextDocument> document);
+    void saveAs(const QString &suggestion);
+    bool mayLosePart();
     void AssignCurrentTexttoTempRTF();
     void say(const QString &text);
     QString templatesFolder() const;
@@ -99,6 +101,8 @@ private:
     TemplateFormatting *m_formatting = nullptr;
     QString m_path;
     QString m_name;
+    RtfLosses m_losses; ///< what the file on the disk has and this window has not
+    LineEnds m_lineEnds;
     RichText m_tempRTF; ///< the text as it was loaded or saved
     QString m_wordUnderMouse;
     bool m_isLeft = false; ///< the question before closing has been answered

@@ -287,11 +287,39 @@ private:
 
 QString AlignSlashes(QStringView text, const IndentOptions &options)
 {
-    const QString indent(options.indent ? std::clamp<qsizetype>(options.spaces, 0, mostPadding) : 0,
+    const QString indent(options.indent ? std::clamp(options.spaces, 0, mostIndentSpaces) : 0,
                          u' ');
     return aligned(text,
                    { [](const Columns &, QStringView head) { return columnsOf(head); },
                      editorColumn, indent });
+}
+
+qsizetype placeAfterAligning(QStringView before, QStringView aligned, qsizetype position)
+{
+    const auto isBlank = [](QChar each) {
+        return each == u' ' || each == u'\t';
+    };
+    const QStringView until = before.left(position);
+    const QStringView head = until.sliced(until.lastIndexOf(u'\n') + 1);
+    qsizetype at = 0;
+    for (qsizetype lines = until.count(u'\n'); lines > 0; --lines) {
+        at = aligned.indexOf(u'\n', at) + 1;
+    }
+    const auto skipBlanks = [&] {
+        while (at < aligned.size() && isBlank(aligned[at])) {
+            ++at;
+        }
+    };
+    for (const QChar each : head) {
+        if (!isBlank(each)) {
+            skipBlanks();
+            ++at;
+        }
+    }
+    if (!head.isEmpty() && isBlank(head.back())) {
+        skipBlanks();
+    }
+    return at;
 }
 
 QString AlignForLayouts(QStringView text)

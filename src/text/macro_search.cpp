@@ -229,6 +229,32 @@ QList<qsizetype> renameHits(QStringView text, const QString &name)
     return nameHits(text, name, [&](qsizetype, qsizetype end) { return endsRenamed(text, end); });
 }
 
+QString renamedIn(QString text, const QString &name, const QString &newName)
+{
+    const QList<qsizetype> hits = renameHits(text, name);
+    for (auto hit = hits.rbegin(); hit != hits.rend(); ++hit) {
+        text.replace(*hit, name.size(), newName);
+    }
+    return text;
+}
+
+QString nameAt(QStringView line, qsizetype position, const QStringList &names)
+{
+    QString longest;
+    for (const QString &name : names) {
+        if (name.size() <= longest.size()) {
+            continue;
+        }
+        const auto isThere = [position](qsizetype hit, qsizetype end) {
+            return hit <= position && position <= end;
+        };
+        if (!nameHits(line, name, isThere).isEmpty()) {
+            longest = name;
+        }
+    }
+    return longest;
+}
+
 QString wordOver(QStringView text, qsizetype position)
 {
     if (position < 0 || position >= text.size() || !isOfWord(text[position])) {

@@ -22,6 +22,13 @@ QList<bool> usedMacros(QStringView joystickText, const QStringList &names);
 /// in macroUses(), and names in comments count.
 QList<qsizetype> renameHits(QStringView text, const QString &name);
 
+/// The text with another name wherever a rename replaces it.
+QString renamedIn(QString text, const QString &name, const QString &newName);
+
+/// The longest of the names that the line has as a whole word around or beside the position; empty
+/// when there is none.
+QString nameAt(QStringView line, qsizetype position, const QStringList &names);
+
 /// The word that contains the position; empty when there is no word at it.
 QString wordOver(QStringView text, qsizetype position);
 

@@ -3,6 +3,8 @@
 
 #include "text/macro_table.h"
 
+#include "language/words.h"
+#include "platform/core/text1252.h"
 #include "text/text_lines.h"
 
 namespace zeph {
@@ -42,6 +44,17 @@ QString headingOf(QStringView line)
         heading[0] = heading[0].toUpper();
     }
     return heading;
+}
+
+bool endsLine(QChar character)
+{
+    return QStringView(u"\r\n\v\f\u2028\u2029").contains(character);
+}
+
+bool hasMeaning(QStringView word)
+{
+    return language::rowOf(word).isKnown() || language::flagNumber(word)
+        || language::isDirectXButton(word);
 }
 
 } // namespace
@@ -114,13 +127,39 @@ QString macroCounts(const MacroTable &table)
 
 QString withoutRefused(QString typed)
 {
+    while (!typed.isEmpty() && endsLine(typed.back())) {
+        typed.chop(1);
+    }
+    while (!typed.isEmpty() && endsLine(typed.front())) {
+        typed.remove(0, 1);
+    }
     for (QChar &each : typed) {
         // Reading a file deletes the tabs in names, so a name with a tab would never be found.
-        if (language::forbiddenMacroNameCharacters.contains(each) || each == u'\t') {
+        if (language::forbiddenMacroNameCharacters.contains(each) || endsLine(each)
+            || each.category() == QChar::Other_Control) {
             each = u'_';
         }
     }
     return typed;
+}
+
+NameFault faultOfNewName(const QString &oldName, const QString &newName, const QStringList &taken)
+{
+    if (newName == oldName) {
+        return NameFault::Same;
+    }
+    if (newName.startsWith(u'~')) {
+        return NameFault::SwitchedOff;
+    }
+    if (firstNot1252(newName) >= 0) {
+        return NameFault::NotInCodePage;
+    }
+    if (hasMeaning(newName)) {
+        return NameFault::LanguageWord;
+    }
+    const bool isOther = newName.compare(oldName, Qt::CaseInsensitive) != 0;
+    return isOther && taken.contains(newName, Qt::CaseInsensitive) ? NameFault::Exists
+                                                                   : NameFault::None;
 }
 
 } // namespace zeph

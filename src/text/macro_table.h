@@ -33,7 +33,21 @@ QString macroName(QStringView line);
 std::optional<QString> macroKeys(const MacroTable &table, const QString &name);
 /// The table's numbers of macros and headings in words, for the tooltip of the status panel.
 QString macroCounts(const MacroTable &table);
-/// A typed name with "_" for each character that a macro's name may not hold.
+/// A typed or pasted name with "_" for each character that a macro's name may not hold. Line ends
+/// around it, which come along when a whole line is copied, are left out.
 QString withoutRefused(QString typed);
+
+/// Why a macro cannot get a new name.
+enum class NameFault {
+    None,
+    Same, ///< it has this name already, in this case
+    Exists, ///< another macro has it, in any case
+    LanguageWord, ///< it means something else in the files
+    SwitchedOff, ///< it begins with "~", which switches a line off
+    NotInCodePage ///< it has a character that the files cannot hold
+};
+
+/// The first fault that keeps a macro from getting a new name; taken are the names of all macros.
+NameFault faultOfNewName(const QString &oldName, const QString &newName, const QStringList &taken);
 
 } // namespace zeph

@@ -363,16 +363,10 @@ Painter::Painter(std::span<const PaintPass> passes)
 
 Painter::~Painter() = default;
 
-std::vector<ColourRun> Painter::paint(QStringView text, const ColourScheme &scheme,
-                                      const std::function<void(const PaintPass &)> &begins) const
+std::vector<ColourRun> Painter::paint(QStringView text, const ColourScheme &scheme) const
 {
     // Hits and colours of a block of this length fit into the processor's nearer caches.
     constexpr qsizetype blockLength = 32768;
-    if (begins) {
-        for (const PaintPass &pass : m_passes) {
-            begins(pass);
-        }
-    }
     HitFinder finder(text, m_passes, *m_words);
     Canvas canvas(text, m_passes, scheme);
     for (qsizetype at = 0; at < text.size();) {
@@ -384,10 +378,9 @@ std::vector<ColourRun> Painter::paint(QStringView text, const ColourScheme &sche
 }
 
 std::vector<ColourRun> paint(QStringView text, std::span<const PaintPass> passes,
-                             const ColourScheme &scheme,
-                             const std::function<void(const PaintPass &)> &begins)
+                             const ColourScheme &scheme)
 {
-    return Painter(passes).paint(text, scheme, begins);
+    return Painter(passes).paint(text, scheme);
 }
 
 } // namespace zeph

@@ -12,7 +12,6 @@
 
 #include <QHash>
 
-#include <functional>
 #include <memory>
 #include <span>
 #include <vector>
@@ -67,10 +66,8 @@ public:
     ~Painter();
 
     /// Paints a text in time linear to its length; the result is that of all passes one after
-    /// another. Neighbouring runs differ in colour. Calls begins with each pass, in order, before
-    /// it paints.
-    std::vector<ColourRun> paint(QStringView text, const ColourScheme &scheme,
-                                 const std::function<void(const PaintPass &)> &begins = {}) const;
+    /// another. Neighbouring runs differ in colour.
+    std::vector<ColourRun> paint(QStringView text, const ColourScheme &scheme) const;
 
 private:
     class Words;
@@ -81,8 +78,7 @@ private:
 
 /// Paints one text with a Painter of its own.
 std::vector<ColourRun> paint(QStringView text, std::span<const PaintPass> passes,
-                             const ColourScheme &scheme,
-                             const std::function<void(const PaintPass &)> &begins = {});
+                             const ColourScheme &scheme);
 
 /// The runs as looks and as character runs: the plain format with each run's colour.
 LookRuns lookRuns(const std::vector<ColourRun> &runs, const CharFormat &plain);

@@ -5,6 +5,8 @@
 
 #include "platform/core/text_search.h"
 
+#include <algorithm>
+
 namespace zeph {
 
 SearchResult search(QStringView text, const SearchRequest &request)
@@ -21,6 +23,46 @@ SearchResult search(QStringView text, const SearchRequest &request)
         return { SearchVerdict::Hit, start };
     }
     return { request.first ? SearchVerdict::NotFound : SearchVerdict::NoFurther };
+}
+
+std::vector<qsizetype> allHits(QStringView text, QStringView word, int options)
+{
+    std::vector<qsizetype> hits;
+    for (qsizetype at = findText(text, word, 0, options); at >= 0;
+         at = findText(text, word, at + word.size(), options)) {
+        hits.push_back(at);
+    }
+    return hits;
+}
+
+qsizetype hitBefore(const std::vector<qsizetype> &hits, qsizetype position)
+{
+    if (hits.empty()) {
+        return -1;
+    }
+    const auto next = std::ranges::lower_bound(hits, position);
+    return next == hits.begin() ? hits.back() : *std::prev(next);
+}
+
+QString hitCount(const std::vector<qsizetype> &hits, qsizetype position)
+{
+    const QString count = QString::number(hits.size());
+    const auto hit = std::ranges::lower_bound(hits, position);
+    if (hit != hits.end() && *hit == position) {
+        return u"Hit "_s + QString::number(hit - hits.begin() + 1) + u" of "_s + count;
+    }
+    return hits.size() == 1 ? u"1 hit"_s : count + u" hits"_s;
+}
+
+std::optional<int> plainLineNumber(QStringView typed)
+{
+    const QStringView digits = typed.trimmed();
+    const auto isDigit = [](QChar each) {
+        return each >= u'0' && each <= u'9';
+    };
+    bool fits = false;
+    const int number = digits.toInt(&fits);
+    return fits && std::ranges::all_of(digits, isDigit) ? std::optional(number) : std::nullopt;
 }
 
 std::vector<qsizetype> hitsToReplace(QStringView text, QStringView word, QStringView replacement,

@@ -38,6 +38,19 @@ struct SearchResult {
 
 SearchResult search(QStringView text, const SearchRequest &request);
 
+/// All hits from the start of the text on; none overlaps the one before.
+std::vector<qsizetype> allHits(QStringView text, QStringView word, int options);
+
+/// The last hit that starts before a position, or the very last one when none does; -1 when there
+/// are no hits.
+qsizetype hitBefore(const std::vector<qsizetype> &hits, qsizetype position);
+
+/// Says which of the hits starts at a position: "Hit 2 of 7", or "7 hits" when none does.
+QString hitCount(const std::vector<qsizetype> &hits, qsizetype position);
+
+/// A line number of plain digits, blanks around it allowed; no value for anything else.
+std::optional<int> plainLineNumber(QStringView typed);
+
 /// The hits of "Replace All". Each hit is sought after the replacement of the one before, in the
 /// text as changed so far; the positions returned are those in the unchanged text.
 std::vector<qsizetype> hitsToReplace(QStringView text, QStringView word, QStringView replacement,

@@ -8,6 +8,9 @@
 #include "text/macro_search.h"
 #include "text/text_lines.h"
 
+#include <QStringList>
+
+#include <algorithm>
 #include <array>
 
 namespace zeph {
@@ -31,6 +34,27 @@ constexpr std::array<LeavingRow, 4> leavings = { {
       u" wasn't saved for some reason. I won't proceed in opening up Zeph.ini" },
 } };
 
+struct LossRow {
+    RtfLoss loss;
+    QStringView name;
+};
+
+constexpr std::array lossNames = {
+    LossRow{ RtfLoss::Pictures, u"pictures" },
+    LossRow{ RtfLoss::Drawings, u"drawings" },
+    LossRow{ RtfLoss::Objects, u"embedded objects" },
+    LossRow{ RtfLoss::Tables, u"tables (the texts in them stay)" },
+    LossRow{ RtfLoss::HeadersAndFooters, u"headers or footers" },
+    LossRow{ RtfLoss::Footnotes, u"footnotes" },
+    LossRow{ RtfLoss::Comments, u"comments" },
+    LossRow{ RtfLoss::Fields, u"fields such as page numbers and dates" },
+    LossRow{ RtfLoss::PageBreaks, u"page breaks" },
+    LossRow{ RtfLoss::TrackedChanges, u"tracked changes" },
+    LossRow{ RtfLoss::NumberedLists, u"numbered lists (the numbers stay as text)" },
+    LossRow{ RtfLoss::Effects, u"effects such as raised, highlighted or hidden letters" },
+    LossRow{ RtfLoss::ParagraphLayout, u"the spacing, tab stops and margins of paragraphs" },
+};
+
 } // namespace
 
 QString templateOpenFilter()
@@ -51,27 +75,83 @@ bool holdsRichText(QStringView name)
     return name.endsWith(u".rtf", Qt::CaseInsensitive);
 }
 
-Expected<RichText, QString> templateText(QStringView name, const QByteArray &bytes,
-                                         const CharFormat &plain)
+LineEnds lineEndsOf(const QByteArray &bytes)
+{
+    std::vector<LineEnd> each;
+    std::array<qsizetype, 3> counts{};
+    for (qsizetype i = 0; i < bytes.size(); ++i) {
+        if (bytes[i] != '\r' && bytes[i] != '\n') {
+            continue;
+        }
+        const bool isPair = bytes[i] == '\r' && i + 1 < bytes.size() && bytes[i + 1] == '\n';
+        each.push_back(isPair ? LineEnd::CrLf : bytes[i] == '\n' ? LineEnd::Lf : LineEnd::Cr);
+        ++counts[size_t(each.back())];
+        i += isPair ? 1 : 0;
+    }
+    const auto most = std::ranges::max_element(counts);
+    LineEnds ends{ LineEnd(most - counts.begin()), {} };
+    if (*most != qsizetype(each.size())) {
+        ends.each = std::move(each);
+    }
+    return ends;
+}
+
+Expected<TemplateFile, QString> readTemplate(QStringView name, const QByteArray &bytes,
+                                             const CharFormat &plain,
+                                             const std::function<bool(qsizetype)> &goOn)
 {
     if (holdsRichText(name)) {
-        auto rich = readRtf(bytes);
+        auto rich = readRtfWithLosses(bytes, goOn);
         if (!rich) {
             return Unexpected<QString>(rich.error().reason);
         }
-        return std::move(*rich);
+        return TemplateFile{ std::move(rich->text), rich->losses, {} };
     }
     const auto text = documentText(bytes);
     if (!text) {
         return Unexpected<QString>(u"it isn't a text: there is a zero byte at "_s
                                    + QString::number(text.error()));
     }
-    return RichText::plain(*text, plain);
+    return TemplateFile{ RichText::plain(*text, plain), {}, lineEndsOf(bytes) };
 }
 
-QByteArray templateBytes(QStringView name, const RichText &text)
+QByteArray templateBytes(QStringView name, const RichText &text, const LineEnds &ends)
 {
-    return holdsRichText(name) ? writeRtf(text) : documentBytes(text.text);
+    if (holdsRichText(name)) {
+        return writeRtf(text);
+    }
+    constexpr std::array signs = { "\r\n", "\n", "\r" };
+    QByteArray bytes;
+    bytes.reserve(text.text.size() * 17 / 16);
+    size_t line = 0;
+    for (const char byte : toText1252(text.text)) {
+        if (byte == '\n') {
+            bytes += signs[size_t(line < ends.each.size() ? ends.each[line] : ends.usual)];
+            ++line;
+        } else {
+            bytes += byte;
+        }
+    }
+    return bytes;
+}
+
+QString lossesInWords(RtfLosses losses)
+{
+    QStringList words;
+    for (const auto &[loss, name] : lossNames) {
+        if (losses & loss) {
+            words.append(name.toString());
+        }
+    }
+    const QString last = words.isEmpty() ? QString() : words.takeLast();
+    return words.isEmpty() ? last : words.join(u", ") + u" and "_s + last;
+}
+
+QString copyName(const QString &name)
+{
+    const qsizetype dot = name.lastIndexOf(u'.');
+    const qsizetype end = dot < 0 ? name.size() : dot;
+    return name.first(end) + u" (copy)"_s + name.sliced(end);
 }
 
 qsizetype firstUnsavable(QStringView name, const QString &text)

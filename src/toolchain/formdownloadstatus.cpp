@@ -16,12 +16,23 @@ FormDownloadStatus::FormDownloadStatus(const QString &caption, int longestSecond
     setAttribute(Qt::WA_DeleteOnClose);
     // It appears by itself, maybe while the user types elsewhere: it must not take the keyboard.
     setAttribute(Qt::WA_ShowWithoutActivating);
-    m_ui->LabelStatus->setText(caption);
-    // The toolkit shows a bar from 0 to 0 as one without an end.
-    m_ui->ProgressBar->setRange(0, std::max(1, longestSeconds));
+    begin(caption, longestSeconds);
 }
 
 FormDownloadStatus::~FormDownloadStatus() = default;
+
+void FormDownloadStatus::begin(const QString &caption, int longestSeconds)
+{
+    m_ui->LabelStatus->setText(caption);
+    // The toolkit shows a bar from 0 to 0 as one without an end.
+    m_ui->ProgressBar->setRange(0, std::max(1, longestSeconds));
+    m_ui->ProgressBar->setValue(0);
+}
+
+void FormDownloadStatus::end(const QString &words)
+{
+    m_ui->LabelStatus->setText(m_ui->LabelStatus->text() + words);
+}
 
 void FormDownloadStatus::setSeconds(int seconds)
 {

@@ -15,8 +15,8 @@ namespace Ui {
 class FormDownloadStatus;
 }
 
-/// Tells that a compile or a download is still going on. Does not block the other windows, and
-/// deletes itself when it is closed.
+/// Tells that a compile or a download is still going on, and when it has ended. Does not block the
+/// other windows, and deletes itself when it is closed.
 class FormDownloadStatus : public QDialog
 {
     Q_OBJECT
@@ -25,6 +25,10 @@ public:
     FormDownloadStatus(const QString &caption, int longestSeconds, QWidget *parent = nullptr);
     ~FormDownloadStatus() override;
 
+    /// Another compile or download is going on now: the bar starts anew.
+    void begin(const QString &caption, int longestSeconds);
+    /// It has ended; the words follow the caption. The bar stays as it is.
+    void end(const QString &words);
     /// Shows the seconds waited so far; a number beyond the bar's end fills it.
     void setSeconds(int seconds);
 

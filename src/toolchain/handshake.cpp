@@ -3,6 +3,7 @@
 
 #include "toolchain/handshake.h"
 
+#include "platform/clock.h"
 #include "platform/core/units.h"
 #include "platform/dialogs.h"
 #include "platform/process_launcher.h"
@@ -34,7 +35,7 @@ Expected<void, QString> inWords(const Expected<void, FileError> &result)
 } // namespace
 
 ToolchainHandshake::ToolchainHandshake(const Context &context, QWidget *mainWindow, QObject *parent)
-    : QObject(parent), m_context(context), m_mainWindow(mainWindow)
+    : QObject(parent), m_context(context), m_commands(context.status), m_mainWindow(mainWindow)
 {
     m_compiler.timer.setObjectName(u"DownloadTimer"_s);
     m_compiler.timer.setParent(this);
@@ -83,11 +84,15 @@ ExchangeEnd ToolchainHandshake::run(Channel &channel, const Clear &clear, const 
         return ExchangeEnd::NotStarted;
     }
     channel.state = {};
-    channel.timer.start(waitTimes(m_context.settings.of<ToolchainSettings>()).checkForCompletion);
+    const WaitTimes times = waitTimes(m_context.settings.of<ToolchainSettings>());
+    if (&channel == &m_compiler && m_statusWindow) {
+        m_statusWindow->begin(m_statusCaption, wholeSeconds(times.regainControlAfter));
+    }
+    channel.timer.start(times.checkForCompletion);
     return wait(channel);
 }
 
-/// Whether the step succeeded; a failure is told.
+/// Tells a failure. True when there is none.
 bool ToolchainHandshake::succeeded(const Expected<void, QString> &result)
 {
     if (!result) {
@@ -113,6 +118,7 @@ ExchangeEnd ToolchainHandshake::wait(Channel &channel)
         }
         if (code != 0) {
             channel.timer.stop();
+            m_commands.close();
             return ExchangeEnd::Abandoned;
         }
     }
@@ -126,7 +132,21 @@ void ToolchainHandshake::DownloadTimer_Timer()
         m_compiler.state, answered, waitTimes(m_context.settings.of<ToolchainSettings>()),
         m_context.settings.of<ToolchainSettings>().HideDownloadStatusWindow, StatusWindowShown());
     showStatus(actions);
+    if (actions.stopTimer) {
+        tellEnd();
+    }
     finishTick(m_compiler, actions);
+}
+
+/// Says on the status window, which may stay open, that its compile or download has ended.
+void ToolchainHandshake::tellEnd()
+{
+    if (m_statusWindow) {
+        const QString at = m_context.clock.now().toString(u"HH:mm:ss"_s);
+        m_statusWindow->end(m_compiler.state.finished == WaitGivenUp
+                                ? u": not over yet when I stopped waiting at "_s + at
+                                : u": ended at "_s + at);
+    }
 }
 
 void ToolchainHandshake::StatusModeTimer_Timer()

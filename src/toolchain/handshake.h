@@ -5,6 +5,7 @@
 
 #include "platform/context.h"
 #include "platform/core/base.h"
+#include "toolchain/tool_queue.h"
 
 #include <QObject>
 #include <QPointer>
@@ -80,10 +81,11 @@ enum class ExchangeEnd {
 /// The exchanges with the Cougar's tools: a tool is started, then its section of HOTAS.ini is
 /// polled until the tool has written a status there.
 ///
-/// The waits are nested event loops, so that the interface stays alive, and a command may start
-/// during another's wait. There is one set of variables for the compiler and one for mode requests:
-/// a second exchange restarts the first one's wait, and both end together. A wait also ends when
-/// this object is destroyed, or when the program ends.
+/// The waits are nested event loops, so that the interface stays alive. What the user asks for
+/// meanwhile goes through commands(), which lets one exchange end before the next begins. There is
+/// one set of variables for the compiler and one for mode requests: a second exchange restarts the
+/// first one's wait, and both end together. A wait also ends when this object is destroyed, or when
+/// the program ends.
 class ToolchainHandshake : public QObject
 {
     Q_OBJECT
@@ -91,6 +93,9 @@ public:
     /// The main window owns the status window; it may be null and may go before this object.
     ToolchainHandshake(const Context &context, QWidget *mainWindow, QObject *parent = nullptr);
     ~ToolchainHandshake() override;
+
+    /// Every command that waits for a tool runs through this.
+    ToolQueue &commands() { return m_commands; }
 
     /// Empties the compiler's section, starts the compiler and waits for its verdict.
     ExchangeEnd runCompiler(const Launch &launch);
@@ -106,7 +111,7 @@ public:
     qint16 ModeFinished() const { return m_mode.state.finished; }
     qint32 ModeElapsed() const { return m_mode.state.elapsed; }
 
-    /// What the status window says when it appears.
+    /// What the status window says from the compiler's next start on.
     const QString &StatusCaption() const { return m_statusCaption; }
     void setStatusCaption(const QString &caption) { m_statusCaption = caption; }
     bool StatusWindowShown() const { return !m_statusWindow.isNull(); }
@@ -132,9 +137,11 @@ private:
     void StatusModeTimer_Timer();
     void finishTick(Channel &channel, const TickActions &actions);
     void showStatus(const TickActions &actions);
+    void tellEnd();
     HotasIni hotasIni() const;
 
     Context m_context;
+    ToolQueue m_commands;
     QPointer<QWidget> m_mainWindow;
     QPointer<FormDownloadStatus> m_statusWindow;
     QString m_statusCaption;

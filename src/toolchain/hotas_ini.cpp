@@ -36,7 +36,7 @@ qint16 narrowed(qint32 number, qint16 whenTooLarge)
 
 } // namespace
 
-HotasIni::HotasIni(const QString &path) : m_file(path) { }
+HotasIni::HotasIni(const QString &path) : m_file(path, ProfileUse::Shared) { }
 
 Expected<void, FileError> HotasIni::clearCompiler() const
 {
@@ -61,7 +61,7 @@ CompilerVerdict HotasIni::readCompiler() const
     verdict.ErrorCode = text(u"ErrorCode");
     verdict.CompileTime = text(u"CompileTime");
     verdict.DownloadTime = text(u"DownloadTime");
-    verdict.LineNumber = number(u"LineNumber");
+    verdict.LineNumber = m_file.integer(compilerSection, u"LineNumber", 0);
     verdict.Memory = number(u"Memory");
     return verdict;
 }

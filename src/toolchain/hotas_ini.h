@@ -20,7 +20,7 @@ struct CompilerVerdict {
     QString ErrorCode; ///< its first ten characters are the code: "ERROR " and four digits
     QString CompileTime; ///< seconds, shown as they stand
     QString DownloadTime; ///< seconds, shown as they stand
-    qint16 LineNumber = 0; ///< 1-based; 0 = no line
+    qint32 LineNumber = 0; ///< 1-based; 0 = no line
     qint16 Memory = 0; ///< per cent of the Cougar's memory
 
     friend bool operator==(const CompilerVerdict &, const CompilerVerdict &) = default;
@@ -43,7 +43,7 @@ public:
     /// Empties the seven keys of the compiler, so that an earlier verdict cannot be taken for the
     /// next one. The file is replaced once.
     Expected<void, FileError> clearCompiler() const;
-    /// A number that does not fit 16 bits reads as 0.
+    /// A percentage that does not fit 16 bits reads as 0.
     CompilerVerdict readCompiler() const;
     /// The compiler's Status alone.
     QString pollCompiler() const;

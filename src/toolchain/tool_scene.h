@@ -20,9 +20,11 @@ public:
     virtual void minimiseToolWindows() = 0;
     /// Opens CompilerHelp without blocking, and explains the error in it.
     virtual void showCompilerHelp(const CompilerError &error) = 0;
-    /// Selects the line (1-based) of an error; the error text's code decides the document. A line
-    /// that does not exist is told.
-    virtual void HighlightErrorLine(int line, const QString &errorText) = 0;
+    /// Opens the help topic on the compiler's errors.
+    virtual void showHelpOnErrors() = 0;
+    /// Selects the line of an error in its document. A line that does not exist is told, and so is
+    /// a file that is not open any more.
+    virtual void HighlightErrorLine(const CompilerError &error) = 0;
     /// Gives the keyboard to the selected document.
     virtual void ResetFocusToEditor() = 0;
     /// Opens a file in the Editor; the user is asked about unsaved ones first.

@@ -7,6 +7,7 @@
 #include "settings/settings.h"
 #include "settings/settings_files.h"
 #include "toolchain/external_tools.h"
+#include "toolchain/handshake.h"
 #include "toolchain/modes/profilechooser.h"
 #include "toolchain/modes/profiles.h"
 #include "toolchain/toolchain_settings.h"
@@ -62,7 +63,7 @@ void ToolsMenu::connectProfiles()
 {
     MenuActions &actions = m_parts.actions;
     actions.connectTo(u"mnuResetAxes", [this] { mnuResetAxes_Click(); });
-    actions.connectTo(u"mnuApplyDefaultTMC", [this] { m_parts.profiles.ApplyDefaultProfile(); });
+    actions.connectTo(u"mnuApplyDefaultTMC", [this] { apply({}, CalibrationRequest::Stored); });
     actions.connectTo(u"mnuResetOptions", [this] { mnuResetOptions_Click(); });
     actions.connectTo(u"mnuDownloadProfile", [this] { mnuDownloadProfile_Click(); });
 }
@@ -112,7 +113,17 @@ void ToolsMenu::mnuDownloadProfile_Click()
         profile = form.profile();
         calibration = form.calibration();
     }
-    m_parts.profiles.ApplyDefaultProfile(profile, calibration);
+    apply(profile, calibration);
+}
+
+/// Sends a profile, the stored one for an empty name, when no other command waits for a tool.
+void ToolsMenu::apply(const QString &profile, CalibrationRequest calibration)
+{
+    const QString name =
+        profile.isEmpty() ? m_context.settings.of<ToolchainSettings>().ResetProfile : profile;
+    m_parts.handshake.commands().run(u"the profile "_s + name, [this, profile, calibration] {
+        m_parts.profiles.ApplyDefaultProfile(profile, calibration);
+    });
 }
 
 } // namespace zeph

@@ -9,6 +9,7 @@
 namespace zeph {
 
 class ExternalTools;
+enum class CalibrationRequest;
 
 /// The menu entries of the Cougar's other tools, of the profiles and of Zeph's companion programs.
 class ToolsMenu
@@ -27,6 +28,7 @@ private:
     void mnuResetAxes_Click();
     void mnuResetOptions_Click();
     void mnuDownloadProfile_Click();
+    void apply(const QString &profile, CalibrationRequest calibration);
 
     Context m_context;
     ToolParts m_parts;

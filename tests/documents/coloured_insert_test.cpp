@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "settings/colour_settings.h"
-#include "tests/text/painting_fixture.h"
+#include "tests/support/painting_fixture.h"
 
 #include <QAction>
 #include <QTest>

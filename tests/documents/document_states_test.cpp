@@ -356,10 +356,12 @@ TEST(DocumentStates, PiecesMakeTheWholeTextAndItsFile)
         Followed text(chance.make(u"ab\n"_s, 80), 1 + chance.upTo(4));
         QString whole;
         RtfWriter writer;
-        text.states->readPieces(text.states->present(), [&](const RichText &piece) {
+        const DocumentState present = text.states->present();
+        for (size_t i = 0; i < text.states->pieceCount(present); ++i) {
+            const RichText piece = text.states->piece(present, i);
             whole += piece.text;
             writer.add(piece);
-        });
+        }
         text.expected.paragraphs = richTextOf(text.document).paragraphs;
         ASSERT_EQ(whole, text.expected.text) << "round " << round;
         ASSERT_EQ(writer.take(), writeRtf(text.expected)) << "round " << round;

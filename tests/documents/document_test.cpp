@@ -6,7 +6,7 @@
 #include "documents/editor_texts.h"
 #include "platform/richtext/rich_text_box.h"
 #include "settings/colour_settings.h"
-#include "tests/text/painting_fixture.h"
+#include "tests/support/painting_fixture.h"
 
 #include <QSignalSpy>
 

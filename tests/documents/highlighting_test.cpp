@@ -7,7 +7,7 @@
 #include "platform/core/rtf.h"
 #include "platform/richtext/rich_text_document.h"
 #include "settings/colour_settings.h"
-#include "tests/text/painting_fixture.h"
+#include "tests/support/painting_fixture.h"
 
 #include <QAction>
 #include <QScrollBar>
@@ -188,9 +188,32 @@ TEST_F(HighlightingTest, BothFilesAreColouredJoystickFirst)
 {
     set(J, u"BTN S1"_s);
     set(M, u"a = /U"_s);
-    editor->actions().trigger(u"mnuViewApplyColourBothFiles");
+    editor->actions().action(u"mnuViewApplyColourBothFiles")->trigger();
     EXPECT_EQ(colours(J), u"bbbbbb");
     EXPECT_EQ(colours(M), u"....ss");
+}
+
+TEST_F(HighlightingTest, ColouringBothLeavesTabSelectionCaretAndFocusWhereTheyWere)
+{
+    set(J, u"BTN S1"_s);
+    set(M, u"a = /U"_s);
+    editor->joystick().setCaret(5, 1);
+    editor->macro().setCaret(2, 4);
+    editor->show();
+    for (const DocumentKind kind : { J, M }) {
+        editor->documents().select(kind);
+        QWidget *list = editor->findChild<QWidget *>(u"List1"_s);
+        list->setFocus();
+        ASSERT_EQ(editor->window()->focusWidget(), list);
+        editor->action(u"mnuViewApplyColourBothFiles")->trigger();
+        EXPECT_EQ(editor->selected().kind(), kind);
+        EXPECT_EQ(editor->window()->focusWidget(), list);
+        EXPECT_EQ(editor->joystick().cursor().anchor(), 5);
+        EXPECT_EQ(editor->joystick().cursor().position(), 1);
+        EXPECT_EQ(editor->macro().cursor().anchor(), 2);
+        EXPECT_EQ(editor->macro().cursor().position(), 4);
+        EXPECT_EQ(status.text(), u"Done");
+    }
 }
 
 TEST_F(HighlightingTest, AProtectedMacroFileIsLeftOutOfBothAndRefusedAlone)
@@ -198,11 +221,11 @@ TEST_F(HighlightingTest, AProtectedMacroFileIsLeftOutOfBothAndRefusedAlone)
     set(J, u"BTN S1"_s);
     set(M, u"a = /U"_s);
     protectMacro();
-    editor->actions().trigger(u"mnuViewApplyColourBothFiles");
+    editor->actions().action(u"mnuViewApplyColourBothFiles")->trigger();
     EXPECT_EQ(colours(J), u"bbbbbb");
     EXPECT_EQ(colours(M), u"......");
     dialogs.answer(u"File protected"_s, BoxButton::Ok);
-    editor->actions().trigger(u"mnuViewColourMacro");
+    editor->actions().action(u"mnuViewColourMacro")->trigger();
     EXPECT_EQ(colours(M), u"......");
     EXPECT_EQ(dialogs.boxes().size(), 1);
 }
@@ -217,7 +240,7 @@ TEST_F(HighlightingTest, RemovingColourLeavesTheFontAndTheCaret)
     });
     joystick()->shown().select(3, 2);
     const QStringList texts =
-        said([this] { editor->actions().trigger(u"mnuRemoveColourJoystick"); });
+        said([this] { editor->actions().action(u"mnuRemoveColourJoystick")->trigger(); });
     EXPECT_EQ(colours(J), u"........");
     EXPECT_EQ(flagged(J, &CharFormat::bold), u"........");
     EXPECT_EQ(flagged(J, &CharFormat::italic), u"........");
@@ -269,8 +292,8 @@ TEST_F(HighlightingTest, RemovingColourFromTheMacroFileLeavesTheJoystickFile)
 {
     set(J, u"BTN S1"_s);
     set(M, u"a = /U"_s);
-    editor->actions().trigger(u"mnuViewApplyColourBothFiles");
-    editor->actions().trigger(u"mnuRemoveColourMacro");
+    editor->actions().action(u"mnuViewApplyColourBothFiles")->trigger();
+    editor->actions().action(u"mnuRemoveColourMacro")->trigger();
     EXPECT_EQ(colours(J), u"bbbbbb");
     EXPECT_EQ(colours(M), u"......");
 }
@@ -280,7 +303,7 @@ TEST_F(HighlightingTest, RemovingColourFromTheSelectionLeavesTheRest)
     set(J, u"BTN S1 /U /M"_s);
     highlighting().ApplyColourHighlighting();
     joystick()->shown().select(4, 5);
-    editor->actions().trigger(u"mnuRemoveColourSelectedText");
+    editor->actions().action(u"mnuRemoveColourSelectedText")->trigger();
     EXPECT_EQ(colours(J), u"bbbb......ss");
 }
 
@@ -367,7 +390,7 @@ TEST_F(HighlightingTest, ColouringALineIsAStepToUndoButNothingToSave)
 {
     set(J, u"/U\n/M"_s);
     joystick()->shown().select(4, 0);
-    editor->actions().trigger(u"mnuViewHighlightLine");
+    editor->actions().action(u"mnuViewHighlightLine")->trigger();
     EXPECT_EQ(colours(J), u"...ss");
     EXPECT_EQ(editor->joystick().state(), Document::Saved);
     EXPECT_TRUE(editor->action(u"mnuEditUndo")->isEnabled());
@@ -389,7 +412,7 @@ TEST_F(HighlightingTest, ColouringALineOfAProtectedMacroFileIsRefused)
     set(M, u"a = /U"_s);
     protectMacro();
     dialogs.answer(u"File protected"_s, BoxButton::Ok);
-    editor->actions().trigger(u"mnuViewHighlightLine");
+    editor->actions().action(u"mnuViewHighlightLine")->trigger();
     EXPECT_EQ(colours(M), u"......");
 }
 
@@ -424,7 +447,8 @@ TEST_F(HighlightingTest, RefreshingTheLayoutStripsLooksAndSetsTheMargin)
         setParagraphFormat(*joystick()->document(), { .leftIndentTwips = 300, .bullet = true });
     }
     joystick()->shown().select(5, 0);
-    const QStringList texts = said([this] { editor->actions().trigger(u"mnuViewReformat"); });
+    const QStringList texts =
+        said([this] { editor->actions().action(u"mnuViewReformat")->trigger(); });
     RichText expected = RichText::plain(u"BTN S1\na"_s, editor->documents().plainFormat(J));
     expected.paragraphs = { { 2, { .leftIndentTwips = 20 } } };
     EXPECT_EQ(joystick()->shown().richText(), expected);
@@ -440,7 +464,7 @@ TEST_F(HighlightingTest, RefreshingTheLayoutGoesIntoTheTopUndoSlot)
 {
     set(J, u"BTN S1"_s);
     highlighting().ApplyColourHighlighting();
-    editor->actions().trigger(u"mnuViewReformat");
+    editor->actions().action(u"mnuViewReformat")->trigger();
     type(J, u"x"_s);
     editor->undos().mnuEditUndo_Click();
     EXPECT_EQ(editor->joystickText(), u"BTN S1");
@@ -449,13 +473,14 @@ TEST_F(HighlightingTest, RefreshingTheLayoutGoesIntoTheTopUndoSlot)
 
 TEST_F(HighlightingTest, RefreshingTheLayoutOfAProtectedOrEmptyDocumentDoesNothing)
 {
-    EXPECT_EQ(said([this] { editor->actions().trigger(u"mnuViewReformat"); }), QStringList());
+    EXPECT_EQ(said([this] { editor->actions().action(u"mnuViewReformat")->trigger(); }),
+              QStringList());
     editor->documents().select(M);
     set(M, u"a = /U"_s);
     highlighting().ApplyMacroColourHighlighting();
     protectMacro();
     dialogs.answer(u"File protected"_s, BoxButton::Ok);
-    editor->actions().trigger(u"mnuViewReformat");
+    editor->actions().action(u"mnuViewReformat")->trigger();
     EXPECT_EQ(colours(M), u"....ss");
 }
 

@@ -4,7 +4,7 @@
 #include "documents/line_margin.h"
 
 #include "documents/document_settings.h"
-#include "tests/documents/editor_fixture.h"
+#include "tests/support/editor_fixture.h"
 
 #include <QAction>
 #include <QTest>

@@ -4,7 +4,7 @@
 #include "documents/styleeditor.h"
 #include "documents/text_looks.h"
 #include "settings/colour_settings.h"
-#include "tests/text/painting_fixture.h"
+#include "tests/support/painting_fixture.h"
 #include "text/text_styles.h"
 
 #include <QAction>
@@ -36,12 +36,12 @@ TEST_F(TextLooksTest, BoldGoesOnWhereSomeIsPlainAndOffWhereAllIsBold)
 {
     set(J, u"abcdef"_s);
     joystick()->shown().select(1, 2);
-    editor->actions().trigger(u"mnuFormatArray1_0");
+    editor->actions().action(u"mnuFormatArray1_0")->trigger();
     EXPECT_EQ(flagged(J, &CharFormat::bold), u".xx...");
     joystick()->shown().select(2, 3);
-    editor->actions().trigger(u"mnuFormatArray1_0");
+    editor->actions().action(u"mnuFormatArray1_0")->trigger();
     EXPECT_EQ(flagged(J, &CharFormat::bold), u".xxxx.");
-    editor->actions().trigger(u"mnuFormatArray1_0");
+    editor->actions().action(u"mnuFormatArray1_0")->trigger();
     EXPECT_EQ(flagged(J, &CharFormat::bold), u".x....");
     EXPECT_EQ(joystick()->shown().selLength(), 3);
 }
@@ -50,9 +50,9 @@ TEST_F(TextLooksTest, EachEntryChangesItsOwnLook)
 {
     set(J, u"abc"_s);
     joystick()->shown().select(0, 1);
-    editor->actions().trigger(u"mnuFormatArray1_1");
+    editor->actions().action(u"mnuFormatArray1_1")->trigger();
     joystick()->shown().select(1, 1);
-    editor->actions().trigger(u"mnuFormatArray1_2");
+    editor->actions().action(u"mnuFormatArray1_2")->trigger();
     EXPECT_EQ(flagged(J, &CharFormat::italic), u"x..");
     EXPECT_EQ(flagged(J, &CharFormat::underline), u".x.");
     EXPECT_EQ(flagged(J, &CharFormat::bold), u"...");
@@ -62,7 +62,7 @@ TEST_F(TextLooksTest, AChangeOfASelectionIsOneUndoStepAndToBeSaved)
 {
     set(J, u"abc"_s);
     joystick()->shown().select(0, 3);
-    editor->actions().trigger(u"mnuFormatArray1_0");
+    editor->actions().action(u"mnuFormatArray1_0")->trigger();
     EXPECT_EQ(editor->joystick().state(), Document::Modified);
     editor->undos().mnuEditUndo_Click();
     EXPECT_EQ(flagged(J, &CharFormat::bold), u"...");
@@ -72,10 +72,10 @@ TEST_F(TextLooksTest, WithoutASelectionItHoldsForWhatIsTypedNext)
 {
     set(J, u"a"_s);
     joystick()->shown().select(1, 0);
-    editor->actions().trigger(u"mnuFormatArray1_0");
+    editor->actions().action(u"mnuFormatArray1_0")->trigger();
     EXPECT_EQ(editor->joystick().state(), Document::Saved);
     QTest::keyClicks(joystick(), u"b"_s);
-    editor->actions().trigger(u"mnuFormatArray1_0");
+    editor->actions().action(u"mnuFormatArray1_0")->trigger();
     QTest::keyClicks(joystick(), u"c"_s);
     EXPECT_EQ(editor->joystickText(), u"abc");
     EXPECT_EQ(flagged(J, &CharFormat::bold), u".x.");
@@ -89,7 +89,7 @@ TEST_F(TextLooksTest, AProtectedMacroFileKeepsItsLooks)
     macro()->shown().select(0, 3);
     for (const QString &entry : { u"mnuFormatArray1_0"_s, u"mnuStyleArray_0"_s }) {
         dialogs.answer(u"File protected"_s, BoxButton::Ok);
-        editor->actions().trigger(entry);
+        editor->actions().action(entry)->trigger();
     }
     EXPECT_EQ(macro()->shown().richText().formatAt(0), editor->documents().plainFormat(M));
 }
@@ -101,7 +101,7 @@ TEST_F(TextLooksTest, AStyleSetsAllOfASelectionsLooks)
     ASSERT_TRUE(writeTextStyles(store(), styles));
     set(J, u"abc"_s);
     joystick()->shown().select(1, 1);
-    editor->actions().trigger(u"mnuStyleArray_7");
+    editor->actions().action(u"mnuStyleArray_7")->trigger();
     EXPECT_EQ(joystick()->shown().richText().formatAt(1), styles[7].format);
     EXPECT_EQ(joystick()->shown().richText().formatAt(2), editor->documents().plainFormat(J));
 }
@@ -118,6 +118,11 @@ TEST_F(TextLooksTest, TheStylesNamesStandInBothMenus)
     const auto *entry = menu->findChild<QAction *>(u"mnuRHMStyleArray_2"_s);
     ASSERT_TRUE(entry);
     EXPECT_EQ(entry->text(), u"Warnings");
+    styles[2].name = u"Bombs & guns"_s;
+    ASSERT_TRUE(writeTextStyles(store(), styles));
+    editor->applySettings();
+    // Doubled, an ampersand is shown instead of marking a letter.
+    EXPECT_EQ(editor->action(u"mnuStyleArray_2")->text(), u"Bombs && guns");
 }
 
 TEST_F(TextLooksTest, TheRightMenusStyleStylesTheSelection)
@@ -139,7 +144,7 @@ TEST_F(TextLooksTest, TheFontOfBothTextsIsChosenKeptAndSet)
     font.pointSize = 12;
     font.bold = true;
     dialogs.answerFont(font);
-    editor->actions().trigger(u"mnuFormatFont");
+    editor->actions().action(u"mnuFormatFont")->trigger();
     for (const DocumentKind kind : { J, M }) {
         const CharFormat format = control(kind)->shown().richText().formatAt(0);
         EXPECT_EQ(format.family, u"Courier");
@@ -158,14 +163,14 @@ TEST_F(TextLooksTest, ACancelledFontDialogChangesNothing)
 {
     set(J, u"abc"_s);
     dialogs.answerFont(std::nullopt);
-    editor->actions().trigger(u"mnuFormatFont");
+    editor->actions().action(u"mnuFormatFont")->trigger();
     EXPECT_EQ(settings.of<ColourSettings>().TextFontName, u"Arial");
     EXPECT_EQ(store().text(u"Colours", u"TextFontName"), QString());
 }
 
 TEST_F(TextLooksTest, TheStyleEditorKeepsWhatOkConfirms)
 {
-    editor->actions().trigger(u"mnuFormatStyleEditor");
+    editor->actions().action(u"mnuFormatStyleEditor")->trigger();
     auto *window = editor->findChild<StyleEditor *>(u"StyleEditor"_s);
     ASSERT_TRUE(window);
     EXPECT_TRUE(window->isVisible());
@@ -180,7 +185,7 @@ TEST_F(TextLooksTest, TheStyleEditorKeepsWhatOkConfirms)
 
 TEST_F(TextLooksTest, TheStyleEditorKeepsNothingWhenCancelled)
 {
-    editor->actions().trigger(u"mnuFormatStyleEditor");
+    editor->actions().action(u"mnuFormatStyleEditor")->trigger();
     auto *window = editor->findChild<StyleEditor *>(u"StyleEditor"_s);
     ASSERT_TRUE(window);
     window->findChild<QCheckBox *>(u"CheckBold"_s)->click();
@@ -190,8 +195,8 @@ TEST_F(TextLooksTest, TheStyleEditorKeepsNothingWhenCancelled)
 
 TEST_F(TextLooksTest, TheStyleEditorOpensOnce)
 {
-    editor->actions().trigger(u"mnuFormatStyleEditor");
-    editor->actions().trigger(u"mnuFormatStyleEditor");
+    editor->actions().action(u"mnuFormatStyleEditor")->trigger();
+    editor->actions().action(u"mnuFormatStyleEditor")->trigger();
     EXPECT_EQ(editor->findChildren<StyleEditor *>().size(), 1);
 }
 

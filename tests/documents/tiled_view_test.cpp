@@ -6,7 +6,7 @@
 #include "documents/editor_texts.h"
 #include "editor/files/file_opening.h"
 #include "editor/files/file_saving.h"
-#include "tests/documents/editor_fixture.h"
+#include "tests/support/editor_fixture.h"
 
 #include <QAction>
 #include <QScrollBar>
@@ -110,4 +110,21 @@ TEST_F(TiledViewTest, ProtectionOutlivesTheFileAndGuardsTheNextOne)
     QTest::keyClicks(macro(), u"x"_s);
     EXPECT_EQ(editor->macroText(), u"Fire = f");
     EXPECT_EQ(editor->macro().state(), Document::Saved);
+}
+
+TEST_F(TiledViewTest, BothStatesAreOnTheStatusBarWhileBothTextsAreShown)
+{
+    const auto other = [this] {
+        const StatusContents &contents = status.contents(StatusPanel::OtherSaved);
+        return std::pair(contents.picture, contents.tooltip);
+    };
+    EXPECT_EQ(other(), std::pair(2, u"a.tmm is saved"_s));
+    type(DocumentKind::Macro, u"x"_s);
+    EXPECT_EQ(other(), std::pair(3, u"a.tmm has been modified and isn't saved"_s));
+    EXPECT_EQ(status.savedPicture(), 2);
+    editor->documents().select(DocumentKind::Macro);
+    EXPECT_EQ(other(), std::pair(2, u"a.tmj is saved"_s));
+    EXPECT_EQ(status.savedPicture(), 3);
+    editor->action(u"mnuViewTileVertically")->trigger();
+    EXPECT_EQ(other(), std::pair(0, QString()));
 }

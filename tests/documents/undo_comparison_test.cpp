@@ -13,7 +13,7 @@
 #include "editor/files/file_saving.h"
 #include "menus/menu_actions.h"
 #include "platform/richtext/rich_text_document.h"
-#include "tests/documents/editor_fixture.h"
+#include "tests/support/editor_fixture.h"
 #include "tests/support/long_run.h"
 #include "tests/support/rich_texts.h"
 

@@ -12,7 +12,7 @@
 #include "editor/files/file_opening.h"
 #include "editor/files/file_saving.h"
 #include "menus/menu_actions.h"
-#include "tests/documents/editor_fixture.h"
+#include "tests/support/editor_fixture.h"
 #include "tests/support/rich_texts.h"
 
 #include <QAction>

@@ -26,7 +26,9 @@
 //   colour RRGGBB        answers the open colour dialog
 //   grab NAME FILE       grabs the window that holds the control to a picture; a relative name is
 //                        one beside the notes
-//   minimise / close     the main window
+//   minimise / maximise / normal / close     the main window
+//   place NAME           notes "NAME at X Y W H", the place of the window that holds the control
+//   native NAME down|up KEY MODIFIERS SYMBOL   a key as the system reports it, numbers as in C
 //   pause MS             lets time pass
 //   kill                 ends the process at once, as a crash would
 //   hasten NAME FACTOR   makes the timer of that object name run that much faster, and notes
@@ -210,13 +212,20 @@ private:
             QWidget *widget = widgetNamed(first);
             return widget && widget->window()->grab().save(QDir(m_notes.folder()).filePath(second));
         }
-        if (verb == QLatin1String("minimise") || verb == QLatin1String("close")) {
+        if (const auto act = actOnMain(verb)) {
             QWidget *main = mainWindow();
             if (main) {
-                later(main, verb == QLatin1String("close") ? [](QWidget *w) { w->close(); }
-                                                           : [](QWidget *w) { w->showMinimized(); });
+                later(main, act);
             }
             return main != nullptr;
+        }
+        if (verb == QLatin1String("place")) {
+            const QString place = placeOf(widgetNamed(first));
+            note(first + QLatin1String(" at ") + place);
+            return !place.isEmpty();
+        }
+        if (verb == QLatin1String("native")) {
+            return sendNative(widgetNamed(first), second.split(QLatin1Char(' ')));
         }
         if (verb == QLatin1String("pause")) {
             return m_waited.elapsed() >= first.toInt();

@@ -136,3 +136,55 @@ QAction *actionNamed(const QString &name)
     }
     return nullptr;
 }
+
+void (*actOnMain(const QString &verb))(QWidget *)
+{
+    if (verb == QLatin1String("close")) {
+        return [](QWidget *main) {
+            main->close();
+        };
+    }
+    if (verb == QLatin1String("minimise")) {
+        return [](QWidget *main) {
+            main->showMinimized();
+        };
+    }
+    if (verb == QLatin1String("maximise")) {
+        return [](QWidget *main) {
+            main->showMaximized();
+        };
+    }
+    if (verb == QLatin1String("normal")) {
+        return [](QWidget *main) {
+            main->showNormal();
+        };
+    }
+    return nullptr;
+}
+
+QString placeOf(const QWidget *control)
+{
+    if (!control) {
+        return {};
+    }
+    const QWidget *window = control->window();
+    return QStringLiteral("%1 %2 %3 %4")
+        .arg(window->x())
+        .arg(window->y())
+        .arg(window->width())
+        .arg(window->height());
+}
+
+bool sendNative(QWidget *control, const QStringList &stroke)
+{
+    if (!control || !control->isVisible() || stroke.size() != 4) {
+        return false;
+    }
+    const auto number = [&stroke](qsizetype i) {
+        return stroke[i].toUInt(nullptr, 0);
+    };
+    const auto type = stroke[0] == QLatin1String("down") ? QEvent::KeyPress : QEvent::KeyRelease;
+    QKeyEvent event(type, int(number(1)), Qt::KeyboardModifiers(int(number(2))), 0, number(3), 0);
+    QApplication::sendEvent(control, &event);
+    return true;
+}

@@ -32,6 +32,13 @@ void retype(QLineEdit &line, const QString &text);
 /// Takes an entry of a list (0-based), or a number.
 void choose(QWidget *field, int place);
 
+/// What a verb does to the main window; null for other verbs.
+void (*actOnMain(const QString &verb))(QWidget *);
+/// "X Y W H" of the window that holds a control; empty for none.
+QString placeOf(const QWidget *control);
+/// Sends a key that went "down" or "up" with its number, the modifiers before it and its symbol.
+bool sendNative(QWidget *control, const QStringList &stroke);
+
 /// Acts from the event loop, so that a modal loop begun by the act does not hold the driver's
 /// timer.
 template <class Target, class Act> void later(Target *target, Act act)

@@ -10,7 +10,7 @@
 #include "editor/right_menu.h"
 #include "menus/menu_actions.h"
 #include "settings/shared_settings.h"
-#include "tests/documents/editor_fixture.h"
+#include "tests/support/editor_fixture.h"
 
 #include <QAction>
 #include <QClipboard>
@@ -44,7 +44,7 @@ protected:
     void noteEntries()
     {
         for (const ActionRow &row : actionTable()) {
-            if (row.kind == ActionKind::Entry || row.kind == ActionKind::Tick) {
+            if (row.kind != ActionKind::Separator && row.kind != ActionKind::Submenu) {
                 QAction *entry = editor->action(QStringView(row.name));
                 QObject::disconnect(entry, &QAction::triggered, nullptr, nullptr);
                 QObject::connect(entry, &QAction::triggered, editor.get(),
@@ -279,6 +279,25 @@ TEST_F(EditorWindowTest, ACommandsKeyWithAnotherModifierRunsNothing)
     EXPECT_EQ(ran, QStringList());
 }
 
+TEST_F(EditorWindowTest, AKeyHeldDownRepeatsUndoRedoAndPasteAndNothingElse)
+{
+    noteEntries();
+    for (const int key : { Qt::Key_Z, Qt::Key_Y, Qt::Key_V, Qt::Key_S, Qt::Key_T, Qt::Key_N,
+                           Qt::Key_F, Qt::Key_X }) {
+        QKeyEvent held(QEvent::KeyPress, key, Qt::ControlModifier, {}, true);
+        QCoreApplication::sendEvent(joystick(), &held);
+    }
+    EXPECT_EQ(ran, (QStringList{ u"mnuEditUndo"_s, u"mnuEditRedo"_s, u"mnuEditPaste"_s }));
+}
+
+TEST_F(EditorWindowTest, TheKeysOfCompileAndDownloadDoNotRepeat)
+{
+    for (const QStringView entry : { u"mnuAppsCompile", u"DownloadArray1_0", u"mnuAppsPreferences",
+                                     u"mnuFileOpen", u"mnuMacrosIdentify" }) {
+        EXPECT_FALSE(editor->action(entry)->autoRepeat()) << entry.toString().toStdString();
+    }
+}
+
 TEST_F(EditorWindowTest, CtrlKOpensTheKeyTesterThatTheUserPrefers)
 {
     QSignalSpy tester(editor->action(u"mnuAppsKeyTester"), &QAction::triggered);
@@ -437,15 +456,6 @@ TEST_F(EditorWindowTest, CompileIsOfferedOnTheJoystickTabOnlyUnlessAlwaysShown)
     settings.of<EditorSettings>().AlwaysShowCompileDownload = true;
     editor->applySettings();
     EXPECT_TRUE(editor->action(u"mnuAppsCompile")->isEnabled());
-}
-
-TEST_F(EditorWindowTest, TheDownloadEntryNamesTheJoystickFileOfTheCougarsOwnKind)
-{
-    editor->opening().OpenFavouriteFile(file(u"FALCON.TMJ"_s, "BTN"));
-    tabs()->setCurrentIndex(1);
-    EXPECT_EQ(editor->action(u"DownloadArray1_0")->text(), u"&Download FALCON.tmj");
-    editor->opening().OpenFavouriteFile(file(u"old.f22"_s, "BTN"));
-    EXPECT_EQ(editor->action(u"DownloadArray1_0")->text(), u"&Download joystick file");
 }
 
 TEST_F(EditorWindowTest, AnErrorLineOfTheJoystickFileIsSelected)

@@ -3,18 +3,13 @@
 
 #include "lists/favourites.h"
 
-#include "platform/fakes/scripted_dialogs.h"
-#include "tests/support/temp_folder.h"
-
-#include <gtest/gtest.h>
+#include "tests/support/fixture.h"
 
 using namespace zeph;
 
 namespace {
 
-struct FavouritesTest : testing::Test {
-    test::TempFolder folder;
-    ScriptedDialogs dialogs;
+struct FavouritesTest : test::WorldTest {
     QStringList opened;
     QString refused = u"none"_s;
 
@@ -33,7 +28,6 @@ struct FavouritesTest : testing::Test {
     {
         return autoloadFavourite(readFavourites(store)).has_value();
     }
-    void TearDown() override { EXPECT_EQ(dialogs.unexpected(), QStringList()); }
 };
 
 } // namespace

@@ -12,7 +12,7 @@
 #include "lists/favourites_menu.h"
 #include "menus/menu_actions.h"
 #include "shell/mum.h"
-#include "tests/shell/running_world.h"
+#include "tests/support/shell_world.h"
 
 #include <QAbstractButton>
 #include <QAction>

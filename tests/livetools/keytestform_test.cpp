@@ -4,17 +4,9 @@
 #include "livetools/keytestform.h"
 
 #include "livetools/key_tester_settings.h"
-#include "platform/clock.h"
 #include "platform/core/profile_file.h"
-#include "platform/fakes/fake_keyboard.h"
-#include "platform/fakes/fake_launcher.h"
-#include "platform/fakes/scripted_dialogs.h"
-#include "platform/status_line.h"
-#include "settings/settings.h"
-#include "tests/support/temp_folder.h"
+#include "tests/support/fixture.h"
 #include "toolchain/toolchain_settings.h"
-
-#include <gtest/gtest.h>
 
 #include <QAction>
 #include <QApplication>
@@ -24,6 +16,7 @@
 #include <QMenuBar>
 #include <QPointer>
 #include <QPushButton>
+#include <QScreen>
 #include <QTest>
 #include <QTextEdit>
 #include <QTimer>
@@ -32,29 +25,19 @@ using namespace zeph;
 
 namespace {
 
-class KeyTester : public testing::Test
+class KeyTester : public test::WorldTest
 {
 public:
-    test::TempFolder folder;
-    ScriptedDialogs dialogs;
-    FakeLauncher launcher;
-    Clock clock;
-    FakeKeyboard keyboard;
-    Paths paths;
-    Settings settings;
-    StatusLine status;
     QStringList asked;
     bool hasDirectX = true;
     QAction emptyBuffers;
     QAction clearMemory;
     QAction directX;
+    QWidget *owner = nullptr;
     QPointer<KeyTestForm> form;
 
     void SetUp() override
     {
-        paths.appFolder = folder.path();
-        paths.hotasFolder = folder.path() + u'/';
-        paths.iniPath = folder.file(u"Zeph.ini"_s);
         folder.write(u"KeyCodes.txt"_s,
                      "9,Tab\r\n13,Enter\r\n20,Caps Lock\r\n32,Space\r\n37,Left Arrow\r\n112,F1\r\n"
                      "121,F10\r\n93,Menu\r\n27,Escape\r\n");
@@ -63,12 +46,7 @@ public:
         noteRuns(clearMemory, u"memory 1"_s);
         noteRuns(directX, u"directx"_s);
     }
-    void TearDown() override
-    {
-        delete form;
-        EXPECT_TRUE(dialogs.unexpected().isEmpty())
-            << dialogs.unexpected().join(u'\n').toStdString();
-    }
+    void TearDown() override { delete form; }
     void report(const QByteArray &modeStatus, int buttons) const
     {
         folder.write(u"HOTAS.ini"_s,
@@ -83,8 +61,8 @@ public:
     bool open()
     {
         directX.setVisible(hasDirectX);
-        form = new KeyTestForm({ paths, settings, status, dialogs, launcher, clock, keyboard },
-                               KeyTestEntries{ { &emptyBuffers, &clearMemory }, &directX });
+        form = new KeyTestForm(context(),
+                               KeyTestEntries{ { &emptyBuffers, &clearMemory }, &directX }, owner);
         QObject::connect(form, &KeyTestForm::buttonsModeWanted, form, [this](bool programmed) {
             asked.append(programmed ? u"programmed"_s : u"windows"_s);
         });
@@ -177,6 +155,27 @@ TEST_F(KeyTester, AltAloneShowsItsEventAndNoMenuOpens)
     EXPECT_NE(colourOf(u"LabelALT"_s), orange);
     EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
     EXPECT_EQ(child<QMenuBar>(u"KeyTestMenus"_s)->activeAction(), nullptr);
+    EXPECT_EQ(keys(), QString());
+}
+
+TEST_F(KeyTester, AltAfterShiftIsAltThoughTheSystemCallsItMeta)
+{
+    ASSERT_TRUE(open());
+    // As an X server reports it: the state before each stroke, the place of the key and its symbol.
+    const auto send = [this](QEvent::Type type, Qt::Key key, Qt::KeyboardModifiers before,
+                             quint32 place, quint32 symbol) {
+        QKeyEvent event(type, key, before, place, symbol, 0);
+        QCoreApplication::sendEvent(form, &event);
+    };
+    constexpr quint32 meta = 0xFFE7;
+    send(QEvent::KeyPress, Qt::Key_Shift, {}, 50, 0xFFE1);
+    send(QEvent::KeyPress, Qt::Key_Meta, Qt::ShiftModifier, 64, meta);
+    EXPECT_EQ(colourOf(u"LabelALT"_s), orange);
+    EXPECT_EQ(colourOf(u"LabelSHIFT"_s), orange);
+    send(QEvent::KeyRelease, Qt::Key_Meta, Qt::ShiftModifier | Qt::AltModifier, 64, meta);
+    EXPECT_NE(colourOf(u"LabelALT"_s), orange);
+    send(QEvent::KeyRelease, Qt::Key_Shift, Qt::ShiftModifier, 50, 0xFFE1);
+    EXPECT_EQ(events(), u"Down: SHF\nDown: ALT\nUp: ALT\nUp: SHF\n");
     EXPECT_EQ(keys(), QString());
 }
 
@@ -425,6 +424,39 @@ TEST_F(KeyTester, TheFirstTimeEverythingIsShownAndTheDelayIsOff)
     EXPECT_EQ(settings.of<KeyTesterSettings>().ClearDelay, -1);
     EXPECT_EQ(child<QTimer>(u"Timer1"_s)->interval(), 500);
     EXPECT_TRUE(action(u"mnuClear"_s)->isVisible());
+}
+
+TEST_F(KeyTester, TheFirstTimeItOpensBesideTheMainWindow)
+{
+    QWidget main;
+    main.setGeometry(0, 0, 200, 300);
+    owner = &main;
+    ASSERT_TRUE(open());
+    EXPECT_GE(form->pos().x(), 200);
+    EXPECT_EQ(form->size(), QSize(550, 350)) << "8250 and 5250 twips";
+    delete form;
+}
+
+TEST_F(KeyTester, APlaceOnAScreenThatIsGoneIsBroughtBack)
+{
+    folder.write(u"Zeph.ini"_s,
+                 "[Key Tester]\r\nKeyLeftAtStartup=150000\r\nKeyTopAtStartup=-150000\r\n"
+                 "KeyWidthAtStartup=6000\r\nKeyHeightAtStartup=4500\r\n");
+    ASSERT_TRUE(open());
+    EXPECT_TRUE(form->screen()->availableGeometry().contains(form->geometry()));
+    EXPECT_EQ(form->size(), QSize(400, 300));
+}
+
+TEST_F(KeyTester, ClosedMaximisedItRemembersThePlaceBefore)
+{
+    ASSERT_TRUE(open());
+    form->resize(600, 400);
+    form->move(40, 50);
+    form->showMaximized();
+    QCoreApplication::processEvents();
+    form->close();
+    EXPECT_EQ(stored(u"KeyWidthAtStartup"_s), u"9000");
+    EXPECT_EQ(stored(u"KeyHeightAtStartup"_s), u"6000");
 }
 
 TEST_F(KeyTester, AMissingTableIsRestoredFromItsCopy)

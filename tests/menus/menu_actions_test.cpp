@@ -77,6 +77,35 @@ TEST_F(MenuActionsTest, AConditionIsTheWindowsOwn)
     EXPECT_TRUE(isEnabled(u"mnuGearDown"));
 }
 
+TEST_F(MenuActionsTest, AnEntryThatLacksItsProgramSaysSoAndComesBackWithItsOwnWords)
+{
+    QAction *up = on.action(u"mnuGearUp");
+    on.setCondition(plane::PlaneWhen::InAir, true);
+    on.setLack(u"mnuGearUp", u"The pump is missing"_s, false);
+    EXPECT_FALSE(up->isEnabled());
+    EXPECT_EQ(up->toolTip(), u"The pump is missing");
+    EXPECT_EQ(up->statusTip(), u"The pump is missing");
+    EXPECT_EQ(on.lackOf(u"mnuGearUp"), u"The pump is missing");
+    on.setCondition(plane::PlaneWhen::InAir, false);
+    on.setCondition(plane::PlaneWhen::InAir, true);
+    EXPECT_FALSE(up->isEnabled()) << "its condition alone does not bring it back";
+    on.setLack(u"mnuGearUp", {}, false);
+    EXPECT_TRUE(up->isEnabled());
+    EXPECT_EQ(up->toolTip(), u"Up");
+    EXPECT_EQ(up->statusTip(), u"Pulls it in");
+    on.setCondition(plane::PlaneWhen::InAir, false);
+    on.setLack(u"mnuGearUp", u"x"_s, false);
+    on.setLack(u"mnuGearUp", {}, false);
+    EXPECT_FALSE(up->isEnabled()) << "what it lacked is back, but its condition does not hold";
+}
+
+TEST_F(MenuActionsTest, AnEntryThatTellsTheLackByItselfStaysUsable)
+{
+    on.setLack(u"mnuGearDown", u"The pump is missing"_s, true);
+    EXPECT_TRUE(isEnabled(u"mnuGearDown"));
+    EXPECT_EQ(on.action(u"mnuGearDown")->statusTip(), u"The pump is missing");
+}
+
 TEST_F(MenuActionsTest, ABarHoldsTheMenusAndThenItsOwnEntries)
 {
     QMenuBar bar;
@@ -95,9 +124,12 @@ TEST_F(MenuActionsTest, AnArraysOperationReceivesTheIndexFromItsName)
     on.connectArray(u"mnuFlap"_s, [this](int i) { ran.append(u"flap %1"_s.arg(i)); });
     on.connectArray(u"mnuSlats"_s, [this](int i) { ran.append(u"slats %1"_s.arg(i)); });
     on.setCondition(plane::PlaneWhen::OnGround, true);
-    EXPECT_TRUE(on.trigger(u"mnuFlap_1"));
-    EXPECT_TRUE(on.trigger(u"mnuSlats_1"));
-    EXPECT_TRUE(on.trigger(u"mnuFlap_0"));
+    EXPECT_TRUE(on.action(u"mnuFlap_1")->isEnabled());
+    on.action(u"mnuFlap_1")->trigger();
+    EXPECT_TRUE(on.action(u"mnuSlats_1")->isEnabled());
+    on.action(u"mnuSlats_1")->trigger();
+    EXPECT_TRUE(on.action(u"mnuFlap_0")->isEnabled());
+    on.action(u"mnuFlap_0")->trigger();
     EXPECT_EQ(ran, QStringList({ u"flap 1"_s, u"slats 1"_s, u"flap 0"_s }));
 }
 
@@ -118,7 +150,7 @@ TEST_F(MenuActionsTest, TickOnlyTicksOneOfAnArrayOrNone)
 TEST_F(MenuActionsTest, WhatAnOperationThrowsIsTold)
 {
     on.connectTo(u"mnuEject", [] { throw std::runtime_error("canopy"); });
-    on.trigger(u"mnuEject");
+    on.action(u"mnuEject")->trigger();
     ASSERT_EQ(dialogs.boxes().size(), 1);
     EXPECT_TRUE(dialogs.boxes().first().text.contains(u"canopy"));
 }
@@ -139,15 +171,15 @@ TEST_F(MenuActionsTest, AnEntryOpensItsToolWindowUnlessThatRefuses)
     ToolEntries{ on, windows }.add<Hangar>(
         u"mnuEject", [](QWidget *owner) { return new Hangar(owner, Qt::Window); }, &Hangar::open);
     Hangar::isOpen = false;
-    on.trigger(u"mnuEject");
+    on.action(u"mnuEject")->trigger();
     EXPECT_EQ(windows.get<Hangar>(), nullptr);
     Hangar::isOpen = true;
-    on.trigger(u"mnuEject");
+    on.action(u"mnuEject")->trigger();
     Hangar *first = windows.get<Hangar>();
     ASSERT_NE(first, nullptr);
     EXPECT_TRUE(first->isVisible());
     // Only a new window is asked.
     Hangar::isOpen = false;
-    on.trigger(u"mnuEject");
+    on.action(u"mnuEject")->trigger();
     EXPECT_EQ(windows.get<Hangar>(), first);
 }

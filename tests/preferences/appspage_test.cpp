@@ -7,7 +7,7 @@
 #include "platform/system_info.h"
 #include "settings/shared_settings.h"
 #include "shell/mum.h"
-#include "tests/shell/shell_world.h"
+#include "tests/support/shell_world.h"
 
 #include <QCheckBox>
 #include <QLineEdit>

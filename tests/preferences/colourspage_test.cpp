@@ -7,7 +7,7 @@
 #include "documents/text_control.h"
 #include "settings/colour_settings.h"
 #include "settings/settings_files.h"
-#include "tests/shell/shell_world.h"
+#include "tests/support/shell_world.h"
 
 #include <QCheckBox>
 #include <QComboBox>

@@ -43,7 +43,6 @@ struct FavouritesPageTest : test::ListsPageTest {
     {
         page.reset();
         editor.reset();
-        ShellWorld::TearDown();
     }
 };
 

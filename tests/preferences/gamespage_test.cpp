@@ -34,11 +34,7 @@ struct GamesPageTest : test::ListsPageTest {
         page->collect();
         return games->list();
     }
-    void TearDown() override
-    {
-        page.reset();
-        ShellWorld::TearDown();
-    }
+    void TearDown() override { page.reset(); }
 };
 
 } // namespace

@@ -4,7 +4,7 @@
 #pragma once
 
 #include "preferences/preferences_page.h"
-#include "tests/shell/shell_world.h"
+#include "tests/support/shell_world.h"
 
 #include <QAbstractButton>
 #include <QCheckBox>

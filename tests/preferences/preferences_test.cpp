@@ -12,7 +12,7 @@
 #include "platform/richtext/rich_text_document.h"
 #include "preferences/setting_fields.h"
 #include "shell/mum.h"
-#include "tests/shell/running_world.h"
+#include "tests/support/shell_world.h"
 #include "toolchain/cougar_tools.h"
 
 #include <QApplication>
@@ -372,8 +372,8 @@ TEST_F(PreferencesTest, TooltipsGoFromTheToolbarsAndFromEverythingElse)
 TEST_F(PreferencesTest, TheMenusToolbarsAndTooltipsOfAllOpenWindowsFollow)
 {
     start();
-    app->editor().actions().trigger(u"mnuSlashWindow");
-    app->editor().actions().trigger(u"mnuAppsTemplateEditor");
+    app->editor().actions().action(u"mnuSlashWindow")->trigger();
+    app->editor().actions().action(u"mnuAppsTemplateEditor")->trigger();
     const auto *delay = app->mum().findChild<QAbstractButton *>(u"Command1_10"_s);
     auto *templates = app->mum().findChild<QWidget *>(u"TemplateForm"_s);
     ASSERT_TRUE(delay && delay->isVisible());

@@ -12,6 +12,11 @@
 #include "toolchain/default_options.h"
 #include "toolchain/toolchain_settings.h"
 
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+
 #include <gmock/gmock.h>
 
 #include <algorithm>
@@ -149,6 +154,28 @@ TEST(PreferencesKeys, StandEachOnceAndKnowTheStoresOwnSection)
                 << name.toStdString();
         }
     }
+}
+
+TEST(PreferencesKeys, AFieldEditsTheSettingWhoseKeysNameItHas)
+{
+    QWidget page;
+    (new QCheckBox(&page))->setObjectName(u"LineNumbers"_s);
+    (new QLineEdit(&page))->setObjectName(u"UndoMax"_s);
+    (new QLineEdit(&page))->setObjectName(u"BackUpFolder"_s);
+    (new QComboBox(&page))->setObjectName(u"JoyIDnumber"_s);
+    (new QLabel(&page))->setObjectName(u"TileFiles"_s);
+    (new QCheckBox(&page))->setObjectName(u"NoSetting"_s);
+    const QList<PreferencesKey> fields = fieldsOf(page, PreferencesTab::Misc);
+    ASSERT_EQ(fields.size(), 4);
+    EXPECT_EQ(fields[0].setting, SettingRef(&DocumentSettings::LineNumbers));
+    EXPECT_EQ(fields[0].kind, FieldKind::Tick);
+    EXPECT_EQ(fields[0].tab, PreferencesTab::Misc);
+    EXPECT_EQ(fields[1].setting, SettingRef(&DocumentSettings::UndoMax));
+    EXPECT_EQ(fields[1].kind, FieldKind::Number);
+    EXPECT_EQ(fields[2].kind, FieldKind::Text);
+    EXPECT_EQ(fields[3].setting, SettingRef(&ToolchainSettings::JoyIDnumber));
+    EXPECT_EQ(fields[3].kind, FieldKind::Choice);
+    EXPECT_EQ(fields[3].first, 0);
 }
 
 TEST(PreferencesKeys, NoneIsOfTheSectionThatNoWindowShows)

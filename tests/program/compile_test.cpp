@@ -133,7 +133,8 @@ TEST(ProgramCompile, AVerdictAfterTheSecondTickShowsTheStatusWindowWhichStays)
     program.setEnvironment(u"ZEPH_STANDIN_DELAY_MS"_s, u"2500"_s);
     program.run({ u"text MacroText ="_s, u"trigger mnuAppsCompile"_s,
                   u"window Compile/Download status"_s, u"box File successfully compiled!"_s,
-                  u"press OK"_s, u"window Compile/Download status"_s, u"close"_s },
+                  u"press OK"_s, u"window Compile/Download status"_s,
+                  u"text LabelStatus Compiling Sample flight.tmj: ended at "_s, u"close"_s },
                 { program.file(sample) });
 }
 

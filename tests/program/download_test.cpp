@@ -39,8 +39,12 @@ struct ProgramDownload : testing::Test {
                           .replace("CheckForCompletionTime=20", "CheckForCompletionTime=1000")
                           .replace("RegainControlAfter=900", "RegainControlAfter=45000"));
     }
+    /// Makes the compiler slow; Zeph has the patience.
     void delay(int milliseconds)
     {
+        program.write(u"Zeph.ini"_s,
+                      program.read(u"Zeph.ini"_s)
+                          .replace("RegainControlAfter=900", "RegainControlAfter=20000"));
         program.setEnvironment(u"ZEPH_STANDIN_DELAY_MS"_s, QString::number(milliseconds));
     }
     QString remembered(const QString &section, const QString &key) const
@@ -215,13 +219,80 @@ TEST_F(ProgramDownload, ACompileDuringADownloadsWaitTellsBothOutcomes)
     EXPECT_EQ(told, 2);
 }
 
-TEST_F(ProgramDownload, ASecondDownloadDuringTheFirstEndsBothAndFreesTheText)
+TEST_F(ProgramDownload, TwentyFivePressesInOneWaitMakeOneDownloadAndOneStartOfItsApplication)
+{
+    delay(1500);
+    prependToSample("USE ZEPH RUN_APP " + recorder(u"Tools/first"_s).toUtf8() + "\r\n");
+    QStringList presses(25, download);
+    run(QStringList{ download, u"text Panel_1 Waiting for compiler to download"_s } + presses
+        + QStringList{ u"text Panel_1 I'm still busy with the download: once is enough"_s } + accept
+        + QStringList{ u"pause 500"_s, u"type JoystickText Rem free\\n"_s,
+                       u"text JoystickText Rem free"_s, u"close"_s,
+                       u"box  Save Sample flight.tmj now?"_s, u"press No"_s });
+    EXPECT_EQ(program.read(u"record"_s).count('\n'), 1);
+}
+
+TEST_F(ProgramDownload, TheFirstOneByAStandInTellsThatNothingReachedAStickUntilTickedAway)
+{
+    program.write(u"Zeph.ini"_s,
+                  program.read(u"Zeph.ini"_s).replace("TellStandIn=0", "TellStandIn=1"));
+    const QStringList told = { u"box Nothing reached your stick"_s, u"press OK"_s };
+    run(QStringList{ u"text Panel_6 Stand-in tools"_s, download } + accept + told
+        + QStringList{ u"done"_s, download } + accept + QStringList{ u"close"_s });
+    run(QStringList{ download } + accept
+        + QStringList{ u"box Nothing reached your stick"_s, u"flip Tick"_s, u"press OK"_s,
+                       u"done"_s, u"trigger mnuHelpAbout_2"_s,
+                       u"text lblStandIns nothing reaches a stick"_s, u"close"_s });
+    EXPECT_EQ(program.setting(u"Miscellaneous"_s, u"TellStandIn"_s), u"0");
+    run(QStringList{ download } + accept
+        + QStringList{ u"done"_s, u"trigger MnuDiagArray_0"_s,
+                       u"text Panel_1 That's the stand-in"_s, u"close"_s });
+}
+
+TEST_F(ProgramDownload, AThirdCommandDuringTheWaitIsDropped)
 {
     delay(600);
-    run(QStringList{ download, u"text Panel_1 Waiting for compiler to download"_s, download }
-        + accept + accept
-        + QStringList{ u"type JoystickText Rem free\\n"_s, u"text JoystickText Rem free"_s,
-                       u"close"_s, u"box  Save Sample flight.tmj now?"_s, u"press No"_s });
+    run(QStringList{ download, u"text Panel_1 Waiting for compiler to download"_s,
+                     u"trigger mnuAppsCompile"_s,
+                     u"text Panel_1 OK: the compile comes right after the download"_s,
+                     u"trigger mnuAxesModeArray_1"_s, u"text Panel_1 ask me again"_s }
+        + accept + accept + QStringList{ u"close"_s });
+    EXPECT_EQ(remembered(u"TMMODE"_s, u"Axes"_s), u"(absent)");
+}
+
+TEST_F(ProgramDownload, TheFilesOfTheVerdictAreThoseThatWereSentWhateverIsOpenByThen)
+{
+    program.write(sampleMacros, "Broken = DLY(60\r\n" + program.read(sampleMacros));
+    delay(1000);
+    const QStringList notes =
+        run({ download, u"text Panel_1 Waiting for compiler to download"_s,
+              u"trigger mnuFileNewMacro"_s, u"text Panel_1 New macro file created"_s,
+              u"window Help on compiler errors"_s,
+              u"text Panel_1 (in Sample flight.tmm, which isn't open any more)"_s,
+              u"note LabelFile"_s, u"close"_s });
+    EXPECT_THAT(lines(notes), Contains("LabelFile=File: Sample flight.tmm"));
+}
+
+TEST_F(ProgramDownload, ATextOnItsWayIsLockedForNewOpenAndAlignmentFromEitherTab)
+{
+    delay(1500);
+    const QString refused = u"text Panel_1 Sample flight.tmj is on its way to the Cougar"_s;
+    run(QStringList{ download, u"text Panel_1 Waiting for compiler to download"_s,
+                     u"trigger mnuFileNewJoystick"_s, refused, u"tab TabStrip1 1"_s,
+                     u"text Panel_1 Sample flight.tmm"_s, u"trigger mnuAlignSlash"_s, refused,
+                     u"trigger mnuHelpTip"_s, u"window Tip of the Day"_s, u"press cmdOK"_s,
+                     u"trigger mnuFileOpen"_s, refused }
+        + accept + QStringList{ u"text JoystickText BTN TG1"_s, u"close"_s });
+}
+
+TEST_F(ProgramDownload, AHotasIniInUtf16IsToldAndLeftAlone)
+{
+    const QByteArray utf16("\xFF\xFE[\0D\0]\0\r\0\n\0", 12);
+    program.write(hotas, utf16);
+    const QStringList notes = run(
+        { download, u"box Unable to run the Thrustmaster software"_s, u"press OK"_s, u"close"_s });
+    EXPECT_THAT(lines(notes), Contains(HasSubstr("UTF-16")));
+    EXPECT_EQ(program.read(hotas), utf16);
 }
 
 TEST_F(ProgramDownload, ClosingTheProgramDuringTheWaitEndsIt)

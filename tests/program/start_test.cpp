@@ -57,25 +57,40 @@ TEST(ProgramStart, TheRunAfterTheFirstShowsATip)
     EXPECT_EQ(program.setting(u"FileLocations"_s, u"ShowTips"_s), u"1");
 }
 
-TEST(ProgramStart, ACommandLineThatNamesNoFileIsDropped)
+TEST(ProgramStart, ACommandLineThatNamesNoFileIsToldAndDropped)
 {
     Program program;
     program.settle();
-    program.run({ u"text Panel_1 Ready! Welcome to Zeph, buddy!"_s, u"close"_s },
-                { program.file(u"Files/nothing.tmj"_s) });
+    const QStringList notes =
+        program.run({ u"box I can't find that file buddy"_s, u"press OK"_s,
+                      u"text Panel_1 Ready! Welcome to Zeph, buddy!"_s, u"close"_s },
+                    { program.file(u"Files/nothing.tmj"_s) });
+    EXPECT_THAT(lines(notes), Contains(HasSubstr("nothing.tmj")));
+}
+
+TEST(ProgramStart, AFileOfAnyEndingOpensAsTheJoystickFile)
+{
+    for (const QByteArray &single : { QByteArray("0"), QByteArray("1") }) {
+        Program program;
+        program.settle("OpenSingleFileOnly=" + single + "\r\n");
+        program.write(u"notes.txt"_s, "Rem mine\r\n");
+        program.run({ u"text JoystickText Rem mine"_s, u"close"_s },
+                    { program.file(u"notes.txt"_s) });
+    }
 }
 
 TEST(ProgramStart, AFurtherInstanceWorksOnItsOwnStoreAndTakesItAway)
 {
     Program program;
     program.settle();
-    const auto first = program.start(
-        { u"text Panel_1 Ready"_s, u"window Zeph"_s, u"pause 3000"_s, u"close"_s }, u"first.log"_s);
+    const auto first = program.start({ u"text Panel_1 Ready"_s, u"window Untitled.tmj[*] - Zeph"_s,
+                                       u"pause 3000"_s, u"close"_s },
+                                     u"first.log"_s);
     while (!program.exists(u"first.log"_s) || program.noted(u"first.log"_s).size() < 2) {
         ASSERT_FALSE(first->waitForFinished(20));
     }
-    const auto second = program.start({ u"window Zeph - secondary window"_s, u"pause 300"_s,
-                                        u"type JoystickText x"_s, u"close"_s,
+    const auto second = program.start({ u"window Untitled.tmj[*] - Zeph - secondary window"_s,
+                                        u"pause 300"_s, u"type JoystickText x"_s, u"close"_s,
                                         u"box  Save Untitled.tmj now?"_s, u"press No"_s },
                                       u"second.log"_s);
     while (!program.exists(u"second.log"_s) || program.noted(u"second.log"_s).isEmpty()) {
@@ -83,7 +98,8 @@ TEST(ProgramStart, AFurtherInstanceWorksOnItsOwnStoreAndTakesItAway)
     }
     EXPECT_TRUE(program.exists(u"Zeph.2"_s));
     ASSERT_TRUE(second->waitForFinished());
-    EXPECT_THAT(lines(program.noted(u"second.log"_s)), Contains("window Zeph - secondary window"));
+    EXPECT_THAT(lines(program.noted(u"second.log"_s)),
+                Contains("window Untitled.tmj[*] - Zeph - secondary window"));
     EXPECT_FALSE(program.exists(u"Zeph.2"_s));
     ASSERT_TRUE(first->waitForFinished());
     EXPECT_EQ(first->exitCode(), 0);
@@ -93,18 +109,18 @@ TEST(ProgramStart, ACrashedFurtherInstancesStoreIsClearedByTheNextFirstInstance)
 {
     Program program;
     program.settle();
-    const auto first =
-        program.start({ u"window Zeph"_s, u"pause 2000"_s, u"kill"_s }, u"first.log"_s);
+    const auto first = program.start(
+        { u"window Untitled.tmj[*] - Zeph"_s, u"pause 2000"_s, u"kill"_s }, u"first.log"_s);
     while (!program.exists(u"first.log"_s) || program.noted(u"first.log"_s).isEmpty()) {
         ASSERT_FALSE(first->waitForFinished(20));
     }
-    const auto second =
-        program.start({ u"window Zeph - secondary window"_s, u"kill"_s }, u"second.log"_s);
+    const auto second = program.start(
+        { u"window Untitled.tmj[*] - Zeph - secondary window"_s, u"kill"_s }, u"second.log"_s);
     ASSERT_TRUE(second->waitForFinished());
     EXPECT_TRUE(program.exists(u"Zeph.2"_s));
     ASSERT_TRUE(first->waitForFinished());
-    const QStringList notes = program.run({ u"window Zeph"_s, u"close"_s });
-    EXPECT_THAT(lines(notes), Contains("window Zeph"));
+    const QStringList notes = program.run({ u"window Untitled.tmj[*] - Zeph"_s, u"close"_s });
+    EXPECT_THAT(lines(notes), Contains("window Untitled.tmj[*] - Zeph"));
     EXPECT_FALSE(program.exists(u"Zeph.2"_s));
 }
 
@@ -112,8 +128,8 @@ TEST(ProgramStart, With997FurtherInstancesTheNextStartEndsWithAWord)
 {
     Program program;
     program.settle();
-    const auto first =
-        program.start({ u"window Zeph"_s, u"pause 2000"_s, u"close"_s }, u"first.log"_s);
+    const auto first = program.start(
+        { u"window Untitled.tmj[*] - Zeph"_s, u"pause 2000"_s, u"close"_s }, u"first.log"_s);
     while (!program.exists(u"first.log"_s) || program.noted(u"first.log"_s).isEmpty()) {
         ASSERT_FALSE(first->waitForFinished(20));
     }
@@ -132,7 +148,7 @@ TEST(ProgramStart, ClosingWhileMinimisedLeavesTheLastPosition)
     Program program;
     program.settle("MumTopAtStartup=300\r\nMumLeftAtStartup=450\r\nMumWidthAtStartup=9000\r\n"
                    "MumHeightAtStartup=6000\r\n");
-    program.run({ u"window Zeph"_s, u"minimise"_s, u"pause 200"_s, u"close"_s });
+    program.run({ u"window Untitled.tmj[*] - Zeph"_s, u"minimise"_s, u"pause 200"_s, u"close"_s });
     EXPECT_EQ(program.setting(u"Miscellaneous"_s, u"MumTopAtStartup"_s), u"300");
     EXPECT_EQ(program.setting(u"Miscellaneous"_s, u"MumLeftAtStartup"_s), u"450");
     EXPECT_EQ(program.setting(u"Miscellaneous"_s, u"MumWidthAtStartup"_s), u"9000");

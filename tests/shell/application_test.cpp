@@ -19,7 +19,7 @@
 #include "shell/mum.h"
 #include "shell/settings/shell_settings.h"
 #include "shell/welcome.h"
-#include "tests/shell/shell_world.h"
+#include "tests/support/shell_world.h"
 #include "toolchain/toolchain_settings.h"
 
 #include <QAbstractButton>
@@ -103,12 +103,6 @@ struct Start : test::ShellWorld {
         return ProfileFile(paths.iniPath).text(section, key, u"(absent)"_s);
     }
     QString title() const { return app->mum().windowTitle(); }
-
-    void TearDown() override
-    {
-        app.reset();
-        ShellWorld::TearDown();
-    }
 };
 
 const QByteArray favourite = "[Favourites]\r\nFavArrayNum=1\r\nFavLoadOnStart=1\r\n"
@@ -340,10 +334,23 @@ TEST_F(Start, TheFirstRunGreetsByTheCallsignThatItAskedFor)
     EXPECT_EQ(app->status().text(), u"Ready! Welcome to Zeph, Maverick!");
 }
 
-TEST_F(Start, ACommandLineThatNamesNoExistingFileIsDropped)
+TEST_F(Start, AFileOfAnyEndingOnTheCommandLineIsTheJoystickFile)
+{
+    for (const QByteArray &single : { QByteArray("0"), QByteArray("1") }) {
+        writeStore("[Miscellaneous]\r\nOpenSingleFileOnly=" + single + "\r\n");
+        arguments = { folder.write(u"notes.txt"_s, "Rem mine\r\n") };
+        ASSERT_TRUE(start());
+        EXPECT_EQ(app->editor().joystick().path(), arguments.first());
+        EXPECT_EQ(app->editor().joystickText(), u"Rem mine\n");
+        app.reset();
+    }
+}
+
+TEST_F(Start, ACommandLineThatNamesNoExistingFileIsToldAndDropped)
 {
     writeStore();
     arguments = { folder.file(u"gone.tmj"_s) };
+    dialogs.answer(u"I can't find that file buddy"_s, BoxButton::Ok);
     ASSERT_TRUE(start());
     EXPECT_EQ(app->editor().joystick().name(), u"Untitled.tmj");
     EXPECT_EQ(app->status().text(), u"Ready! Welcome to Zeph, buddy!");
@@ -366,6 +373,7 @@ TEST_F(Start, ADroppedCommandLineLeavesTheRestoredFilesAsIfNoneWereGiven)
     const QString last = folder.write(u"last.tmj"_s, "BTN S2 a\r\n");
     writeStore("[Miscellaneous]\r\nRestoreJoyFile=" + last.toLocal8Bit() + "\r\n");
     arguments = { folder.file(u"gone.tmj"_s) };
+    dialogs.answer(u"I can't find that file buddy"_s, BoxButton::Ok);
     ASSERT_TRUE(start());
     EXPECT_EQ(app->editor().joystick().path(), last);
 }
@@ -480,7 +488,7 @@ TEST_F(Start, AFurtherInstanceShowsSoAndWorksOnItsOwnStore)
     const InstanceLock first(folder.path());
     ASSERT_TRUE(first.isFirst());
     ASSERT_TRUE(start());
-    EXPECT_EQ(title(), u"Zeph - secondary window");
+    EXPECT_EQ(title(), u"Untitled.tmj[*] - Zeph - secondary window");
     EXPECT_TRUE(folder.exists(u"Zeph.2"_s));
     app->mum().close();
     EXPECT_FALSE(folder.exists(u"Zeph.2"_s));
@@ -491,7 +499,7 @@ TEST_F(Start, TheFirstInstanceClearsWhatCrashedOnesLeft)
     writeStore();
     folder.write(u"Zeph.2"_s, "left behind");
     ASSERT_TRUE(start());
-    EXPECT_EQ(title(), u"Zeph");
+    EXPECT_EQ(title(), u"Untitled.tmj[*] - Zeph");
     EXPECT_FALSE(folder.exists(u"Zeph.2"_s));
 }
 

@@ -7,6 +7,8 @@
 #include "documents/text_control.h"
 #include "editor/editor.h"
 #include "editor/editor_settings.h"
+#include "editor/files/file_opening.h"
+#include "editor/macros/macro_features.h"
 #include "editor/right_menu.h"
 #include "menus/menu_actions.h"
 #include "platform/core/profile_file.h"
@@ -14,13 +16,18 @@
 #include "shell/help_menu.h"
 #include "shell/main_scene.h"
 #include "shell/mum.h"
-#include "tests/shell/shell_world.h"
+#include "tests/support/shell_world.h"
 #include "toolchain/cougar_tools.h"
 #include "toolchain/default_options.h"
+#include "toolchain/tool_presence.h"
 #include "toolchain/toolchain_settings.h"
 
 #include <QAction>
+#include <QComboBox>
+#include <QFile>
 #include <QMenu>
+#include <QPushButton>
+#include <QRadioButton>
 #include <QTest>
 #include <QTimer>
 #include <QToolButton>
@@ -49,11 +56,6 @@ struct DownloadMenuTest : test::ShellWorld {
             EXPECT_TRUE(hotasIni().write({ u"Compiler"_s, u"Status"_s, verdict }));
             return Expected<void, QString>();
         };
-    }
-    void TearDown() override
-    {
-        mum.reset();
-        ShellWorld::TearDown();
     }
     void show()
     {
@@ -110,6 +112,16 @@ TEST_F(DownloadMenuTest, TheEntriesShowWhatTheSettingsSay)
     EXPECT_TRUE(entry(3)->isChecked());
     EXPECT_FALSE(entry(4)->isChecked());
     EXPECT_EQ(entry(0)->shortcut(), QKeySequence(Qt::Key_F12));
+}
+
+TEST_F(DownloadMenuTest, TheFirstEntryNamesTheJoystickFileOfTheCougarsOwnKind)
+{
+    show();
+    editor->opening().OpenFavouriteFile(folder.write(u"Files/FALCON.TMJ"_s, "BTN"));
+    editor->documents().select(DocumentKind::Macro);
+    EXPECT_EQ(entry(0)->text(), u"&Download FALCON.tmj");
+    editor->opening().OpenFavouriteFile(folder.write(u"Files/old.f22"_s, "BTN"));
+    EXPECT_EQ(entry(0)->text(), u"&Download joystick file");
 }
 
 TEST_F(DownloadMenuTest, WithoutProgrammedModeTheKeyTesterCannotBeChosen)
@@ -180,9 +192,9 @@ TEST_F(DownloadMenuTest, ALockedTextRefusesWhatMenusAndToolsWouldChange)
     launcher.onStart = [this](const Launch &) {
         QTimer::singleShot(0, control(), [this] {
             control()->selectAll();
-            editor->actions().trigger(u"mnuEditCut");
-            editor->actions().trigger(u"mnuEditPaste");
-            editor->actions().trigger(u"mnuBlockREM");
+            editor->actions().action(u"mnuEditCut")->trigger();
+            editor->actions().action(u"mnuEditPaste")->trigger();
+            editor->actions().action(u"mnuBlockREM")->trigger();
             EXPECT_EQ(control()->shown().text(), u"BTN S1 a");
             EXPECT_TRUE(hotasIni().write({ u"Compiler"_s, u"Status"_s, verdict }));
         });
@@ -191,6 +203,103 @@ TEST_F(DownloadMenuTest, ALockedTextRefusesWhatMenusAndToolsWouldChange)
     dialogs.answer(success, BoxButton::Ok);
     entry(0)->trigger();
     EXPECT_EQ(control()->shown().text(), u"BTN S1 a");
+}
+
+TEST_F(DownloadMenuTest, ALockedTextIsNeitherReplacedNorRenamedNorAlignedFromEitherTab)
+{
+    settings.of<ToolchainSettings>().RunKeyTest = false;
+    show();
+    const QString text = u"BTN S1 a /I b\nBTN S10 a /I b"_s;
+    control()->shown().setText(text);
+    editor->joystick().setState(Document::Saved);
+    editor->macro().setText(u"a = x"_s);
+    const QString path = editor->joystick().path();
+    const auto refused = [this] {
+        const bool said = status.text()
+            == u" a.tmj is on its way to the Cougar: I keep it as it is until it's there"_s;
+        status.setText({});
+        return said;
+    };
+    launcher.onStart = [&, this](const Launch &) {
+        QTimer::singleShot(0, control(), [&, this] {
+            for (const QStringView entry :
+                 { u"mnuFileNewJoystick", u"mnuFileNewBoth", u"mnuFileClose", u"mnuFileOpen",
+                   u"mnuFileJoystickLoad", u"mnuAlignSlash" }) {
+                editor->action(entry)->trigger();
+                EXPECT_TRUE(refused()) << entry.toString().toStdString();
+            }
+            editor->opening().OpenPreviouslySavedFiles(path);
+            EXPECT_TRUE(refused());
+            editor->macros().operations().ChangeMacroName(u"a"_s, u"b"_s);
+            EXPECT_TRUE(refused());
+            editor->documents().select(DocumentKind::Macro);
+            editor->action(u"mnuAlignSlash")->trigger();
+            EXPECT_TRUE(refused());
+            editor->action(u"mnuEditReplace")->trigger();
+            mum->findChild<QRadioButton *>(u"OptionJoystickR"_s)->setChecked(true);
+            mum->findChild<QComboBox *>(u"ComboTextReplaceFind"_s)->setEditText(u"BTN"_s);
+            for (const QString &button : { u"Command3"_s, u"Command6"_s }) {
+                mum->findChild<QPushButton *>(button)->click();
+            }
+            EXPECT_TRUE(refused());
+            EXPECT_EQ(editor->macroText(), u"a = x");
+            EXPECT_TRUE(hotasIni().write({ u"Compiler"_s, u"Status"_s, verdict }));
+        });
+        return Expected<void, QString>();
+    };
+    dialogs.answer(success, BoxButton::Ok);
+    entry(0)->trigger();
+    EXPECT_EQ(editor->joystickText(), text);
+    EXPECT_EQ(editor->joystick().path(), path);
+}
+
+TEST_F(DownloadMenuTest, TheLineOfAnErrorIsNotSelectedInAnotherFileThatIsOpenByThen)
+{
+    settings.of<ToolchainSettings>().HOTASStatusBarErrors = true;
+    show();
+    editor->macro().setText(u"first\nsecond"_s);
+    editor->macro().rename(folder.write(u"Files/sent.tmm"_s, "x"));
+    editor->macro().setState(Document::Saved);
+    const QString error = u"ERROR 1013: bad macro"_s;
+    launcher.onStart = [&, this](const Launch &) {
+        QTimer::singleShot(0, control(), [&, this] {
+            editor->macro().rename(folder.write(u"Files/other.tmm"_s, "x"));
+            EXPECT_TRUE(hotasIni().write({ { u"Compiler"_s, u"ErrorCode"_s, error },
+                                           { u"Compiler"_s, u"LineNumber"_s, u"2"_s },
+                                           { u"Compiler"_s, u"Status"_s, u"ERROR"_s } }));
+        });
+        return Expected<void, QString>();
+    };
+    entry(0)->trigger();
+    EXPECT_EQ(editor->macro().selLength(), 0);
+    EXPECT_EQ(status.text(),
+              u"Compiler error at line 2: ERROR 1013: bad macro (in sent.tmm, which isn't open any "
+              u"more)");
+}
+
+TEST_F(DownloadMenuTest, ACompileMinimisesFindAndTheSlashPaletteToo)
+{
+    show();
+    editor->action(u"mnuEditFind")->trigger();
+    editor->action(u"mnuSlashWindow")->trigger();
+    dialogs.answer(success, BoxButton::Ok);
+    editor->action(u"mnuAppsCompile")->trigger();
+    for (const QString &name : { u"FindAndReplace"_s, u"SlashWindow"_s }) {
+        const auto *window = mum->findChild<QWidget *>(name);
+        ASSERT_TRUE(window) << name.toStdString();
+        EXPECT_TRUE(window->isMinimized()) << name.toStdString();
+    }
+}
+
+TEST_F(DownloadMenuTest, TicksThatCannotBeKeptAreToldAndHoldForTheRun)
+{
+    const QByteArray utf16("\xFF\xFE[\0D\0]\0", 8);
+    folder.write(u"HOTAS.ini"_s, utf16);
+    show();
+    entry(1)->trigger();
+    EXPECT_FALSE(settings.of<DefaultOptions>().DownloadMode);
+    EXPECT_TRUE(status.text().contains(u"UTF-16")) << status.text().toStdString();
+    EXPECT_EQ(folder.read(u"HOTAS.ini"_s), utf16);
 }
 
 TEST_F(DownloadMenuTest, TheKeyTesterOpensThroughItsEntry)
@@ -231,6 +340,25 @@ TEST_F(DownloadMenuTest, TheDownloadBelongsToTheJoystickTab)
     settings.of<EditorSettings>().AlwaysShowCompileDownload = true;
     editor->applySettings();
     EXPECT_TRUE(entry(0)->isEnabled());
+}
+
+TEST_F(DownloadMenuTest, F11AndF12InTheMacroTabSayWhyNothingHappens)
+{
+    show();
+    editor->documents().select(DocumentKind::Macro);
+    TextControl *text = &editor->view().control(DocumentKind::Macro);
+    QTest::keyClick(text, Qt::Key_F11);
+    EXPECT_TRUE(status.text().startsWith(u" F11 is for the joystick file"))
+        << status.text().toStdString();
+    QTest::keyClick(text, Qt::Key_F12);
+    EXPECT_TRUE(status.text().startsWith(u" F12 is for the joystick file"));
+    QFile::remove(paths.compiler());
+    tools->presence().refresh();
+    editor->documents().select(DocumentKind::Joystick);
+    QTest::keyClick(control(), Qt::Key_F12);
+    EXPECT_TRUE(status.text().startsWith(u" HOTASCompiler.exe is missing"))
+        << status.text().toStdString();
+    EXPECT_TRUE(launcher.launches.isEmpty());
 }
 
 TEST_F(DownloadMenuTest, FromTheMacroTabItSelectsTheJoystickTabFirst)

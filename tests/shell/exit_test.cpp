@@ -8,7 +8,7 @@
 #include "shell/application.h"
 #include "shell/help_menu.h"
 #include "shell/mum.h"
-#include "tests/shell/shell_world.h"
+#include "tests/support/shell_world.h"
 
 #include <QAction>
 #include <QFile>
@@ -18,24 +18,16 @@ using namespace zeph;
 
 namespace {
 
-struct Exit : test::ShellWorld {
-    std::unique_ptr<Application> app;
+struct Exit : test::RunningWorld {
     QString joystick;
     QString macro;
 
     void SetUp() override
     {
-        writeStore("[Miscellaneous]\r\nMumWindowstate=0\r\n");
         joystick = folder.write(u"Files/Viper.tmj"_s, "BTN S2 Fire\r\n");
         macro = folder.write(u"Files/Viper.tmm"_s, "Fire = a\r\n");
         arguments = { joystick };
-        app = application();
-        ASSERT_TRUE(app->start());
-    }
-    void TearDown() override
-    {
-        app.reset();
-        ShellWorld::TearDown();
+        start("[Miscellaneous]\r\nMumWindowstate=0\r\n");
     }
     void typeInto(Document &document) const
     {
@@ -74,7 +66,7 @@ TEST_F(Exit, AFileThatIsGoneIsNotRestored)
 
 TEST_F(Exit, TheMenusItemClosesTheMainWindow)
 {
-    app->editor().actions().trigger(u"mnuFileExit");
+    app->editor().actions().action(u"mnuFileExit")->trigger();
     EXPECT_FALSE(app->mum().isVisible());
 }
 

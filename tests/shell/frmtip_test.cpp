@@ -4,7 +4,7 @@
 #include "shell/frmtip.h"
 
 #include "settings/shared_settings.h"
-#include "tests/shell/shell_world.h"
+#include "tests/support/shell_world.h"
 
 #include <QCheckBox>
 #include <QLabel>

@@ -9,7 +9,7 @@
 #include "editor/files/file_opening.h"
 #include "menus/menu_actions.h"
 #include "shell/mum.h"
-#include "tests/shell/running_world.h"
+#include "tests/support/shell_world.h"
 
 #include <QAbstractButton>
 #include <QAction>

@@ -12,7 +12,7 @@
 #include "shell/informationwindow.h"
 #include "shell/mum.h"
 #include "shell/settings/shell_settings.h"
-#include "tests/shell/shell_world.h"
+#include "tests/support/shell_world.h"
 
 #include <QAction>
 #include <QMenu>
@@ -22,12 +22,9 @@ using namespace zeph;
 
 namespace {
 
-struct HelpEntries : test::ShellWorld {
-    std::unique_ptr<Application> app;
-
+struct HelpEntries : test::RunningWorld {
     void SetUp() override
     {
-        writeStore("[Unsupported]\r\nVersionURL=http://server/version.txt\r\n");
         folder.write(u"Help/contents.html"_s, "<p>Contents</p>");
         folder.write(u"Help/b.html"_s, "<p>Buttons</p>");
         folder.write(u"Help/index.txt"_s, "BTN\tb.html\n");
@@ -38,16 +35,14 @@ struct HelpEntries : test::ShellWorld {
                      "[Manuals]\nNumberOfManuals=3\nMenuCaption1=Own\nPath1=Help\\b.html\n"
                      "MenuCaption2=Other\nPath2=manual.pdf\nMenuCaption3=Gone\nPath3=gone.pdf\n");
         folder.write(u"manual.pdf"_s, "a manual");
-        app = application();
-        ASSERT_TRUE(app->start());
-    }
-    void TearDown() override
-    {
-        app.reset();
-        ShellWorld::TearDown();
+        start("[Unsupported]\r\nVersionURL=http://server/version.txt\r\n");
     }
     ToolWindows &windows() { return app->mum().toolWindows(); }
-    void choose(const QString &name) { EXPECT_TRUE(app->editor().actions().trigger(name)); }
+    void choose(const QString &name)
+    {
+        EXPECT_TRUE(app->editor().actions().action(name)->isEnabled());
+        app->editor().actions().action(name)->trigger();
+    }
     void chooseSub(const QString &menu, int index)
     {
         app->editor().actions().menu(menu)->actions().at(index)->trigger();

@@ -3,7 +3,7 @@
 
 #include "shell/helpwindow.h"
 
-#include "tests/shell/shell_world.h"
+#include "tests/support/shell_world.h"
 
 #include <QLineEdit>
 #include <QListWidget>

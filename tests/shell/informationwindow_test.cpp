@@ -4,7 +4,7 @@
 #include "shell/informationwindow.h"
 
 #include "platform/richtext/rich_text_box.h"
-#include "tests/shell/shell_world.h"
+#include "tests/support/shell_world.h"
 
 using namespace zeph;
 

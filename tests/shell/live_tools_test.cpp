@@ -9,7 +9,7 @@
 #include "menus/menu_actions.h"
 #include "platform/tool_windows.h"
 #include "shell/mum.h"
-#include "tests/shell/shell_world.h"
+#include "tests/support/shell_world.h"
 
 #include <QAction>
 #include <QTest>
@@ -28,11 +28,6 @@ struct KeyTesterMenuTest : test::ShellWorld {
         run = application();
         ASSERT_TRUE(run->start());
     }
-    void TearDown() override
-    {
-        run.reset();
-        ShellWorld::TearDown();
-    }
     KeyTestForm *tester() const { return run->mum().toolWindows().get<KeyTestForm>(); }
 };
 
@@ -50,11 +45,11 @@ TEST_F(KeyTesterMenuTest, CtrlKInTheTextOpensIt)
 
 TEST_F(KeyTesterMenuTest, ThereIsOneOfIt)
 {
-    run->editor().actions().trigger(u"mnuAppsKeyTester");
+    run->editor().actions().action(u"mnuAppsKeyTester")->trigger();
     KeyTestForm *first = tester();
     ASSERT_NE(first, nullptr);
     first->Form_KeyDown(65, 0);
-    run->editor().actions().trigger(u"mnuAppsKeyTester");
+    run->editor().actions().action(u"mnuAppsKeyTester")->trigger();
     EXPECT_EQ(tester(), first);
 }
 
@@ -63,13 +58,13 @@ TEST_F(KeyTesterMenuTest, WithoutATableItDoesNotOpen)
     QFile::remove(folder.file(u"KeyCodes.txt"_s));
     dialogs.answer(u"KeyCodes.txt is missing !!!"_s, BoxButton::Ok);
     dialogs.answer(u"It didn't work :("_s, BoxButton::Ok);
-    run->editor().actions().trigger(u"mnuAppsKeyTester");
+    run->editor().actions().action(u"mnuAppsKeyTester")->trigger();
     EXPECT_EQ(tester(), nullptr);
 }
 
 TEST_F(KeyTesterMenuTest, ItsPlaceSurvivesTheEndOfTheRun)
 {
-    run->editor().actions().trigger(u"mnuAppsKeyTester");
+    run->editor().actions().action(u"mnuAppsKeyTester")->trigger();
     ASSERT_NE(tester(), nullptr);
     tester()->resize(480, 320);
     run->mum().close();
@@ -79,7 +74,7 @@ TEST_F(KeyTesterMenuTest, ItsPlaceSurvivesTheEndOfTheRun)
 TEST_F(KeyTesterMenuTest, WithoutDirectXTestersItOffersNone)
 {
     run->editor().action(u"mnuAppsDX8_0")->setVisible(false);
-    run->editor().actions().trigger(u"mnuAppsKeyTester");
+    run->editor().actions().action(u"mnuAppsKeyTester")->trigger();
     ASSERT_NE(tester(), nullptr);
     EXPECT_FALSE(tester()->findChild<QAction *>(u"mnuDX8KeyTester"_s)->isVisible());
 }

@@ -13,7 +13,7 @@
 #include "platform/core/profile_file.h"
 #include "shell/main_status_bar.h"
 #include "shell/mum.h"
-#include "tests/shell/shell_world.h"
+#include "tests/support/shell_world.h"
 #include "toolchain/cougar_tools.h"
 
 #include <QAction>
@@ -30,23 +30,16 @@ using namespace zeph;
 namespace {
 
 /// A whole program beside a configuration tool that the test plays.
-class Modes : public test::ShellWorld
+class Modes : public test::RunningWorld
 {
 protected:
     Modes() { folder.write(u"HOTASConfig.exe"_s, "tool"); }
 
     void start(const QByteArray &store = {})
     {
-        writeStore(store);
-        app = application();
-        ASSERT_TRUE(app->start());
+        RunningWorld::start(store);
         bar = &app->mum().bar();
         timer = app->tools().modes().findChild<QTimer *>(u"TimerStickMode"_s);
-    }
-    void TearDown() override
-    {
-        app.reset();
-        ShellWorld::TearDown();
     }
 
     void report(const QString &key, const QString &value) const
@@ -82,9 +75,12 @@ protected:
         }
         return sent;
     }
-    void press(QStringView entry) const { ASSERT_TRUE(app->editor().actions().trigger(entry)); }
+    void press(QStringView entry) const
+    {
+        ASSERT_TRUE(app->editor().actions().action(entry)->isEnabled());
+        app->editor().actions().action(entry)->trigger();
+    }
 
-    std::unique_ptr<Application> app;
     MainStatusBar *bar = nullptr;
     QTimer *timer = nullptr;
 };

@@ -5,7 +5,7 @@
 
 #include "platform/core/units.h"
 #include "settings/shared_settings.h"
-#include "tests/shell/shell_world.h"
+#include "tests/support/shell_world.h"
 
 #include <QApplication>
 #include <QHelpEvent>
@@ -110,6 +110,16 @@ TEST_F(StatusBarWindow, ChangesItsPictures)
     const QImage empty = panel(4)->pixmap().toImage();
     status.setSaved(2, {});
     EXPECT_NE(panel(4)->pixmap().toImage(), empty);
+}
+
+TEST_F(StatusBarWindow, TheOtherFilesPictureIsThereWhileThatFileIsShown)
+{
+    EXPECT_FALSE(panel(5)->isVisible());
+    status.setOtherSaved(3, u"My.tmm has been modified and isn't saved"_s);
+    EXPECT_TRUE(panel(5)->isVisible());
+    EXPECT_EQ(panel(5)->toolTip(), u"My.tmm has been modified and isn't saved");
+    status.setOtherSaved(0, {});
+    EXPECT_FALSE(panel(5)->isVisible());
 }
 
 TEST_F(StatusBarWindow, AnswersTheMouse)

@@ -18,7 +18,7 @@
 #include "shell/frmabout.h"
 #include "shell/main_status_bar.h"
 #include "shell/settings/shell_settings.h"
-#include "tests/shell/shell_world.h"
+#include "tests/support/shell_world.h"
 
 #include <QAction>
 #include <QApplication>
@@ -26,6 +26,7 @@
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
+#include <QScreen>
 #include <QSignalSpy>
 #include <QStatusTipEvent>
 #include <QTest>
@@ -52,11 +53,6 @@ struct MainWindow : test::ShellWorld {
         mum->attachEditor(editor);
         mum->resize(1000, 700);
         mum->show();
-    }
-    void TearDown() override
-    {
-        mum.reset();
-        ShellWorld::TearDown();
     }
     QToolButton *button(const QString &name) const { return mum->findChild<QToolButton *>(name); }
     void settle() const
@@ -154,11 +150,18 @@ TEST_F(MainWindow, ATickedEntryShowsAsAPressedButton)
 
 TEST_F(MainWindow, CustomApplicationsShowOnlyWhileInUse)
 {
+    QAction *entry = editor->action(u"mnuCustomApp_1");
+    entry->setVisible(false);
+    settle();
     EXPECT_FALSE(button(u"Toolbar2_17"_s)->isVisible());
-    editor->action(u"mnuCustomApp_1")->setText(u"My app"_s);
-    editor->action(u"mnuCustomApp_1")->setEnabled(true);
+    entry->setText(u"My app"_s);
+    entry->setVisible(true);
     settle();
     EXPECT_TRUE(button(u"Toolbar2_17"_s)->isVisible());
+    EXPECT_FALSE(button(u"Toolbar2_17"_s)->isEnabled()) << "its program may be missing";
+    entry->setEnabled(true);
+    settle();
+    EXPECT_TRUE(button(u"Toolbar2_17"_s)->isEnabled());
     EXPECT_EQ(button(u"Toolbar2_17"_s)->toolTip(), u"My app");
 }
 
@@ -244,7 +247,7 @@ TEST_F(MainWindow, AKeyThatTextAndMenuBothKnowRunsOneEntry)
     QStringList ran;
     const auto noteEntries = [&] {
         for (const ActionRow &row : actionTable()) {
-            if (row.kind == ActionKind::Entry || row.kind == ActionKind::Tick) {
+            if (row.kind != ActionKind::Separator && row.kind != ActionKind::Submenu) {
                 QAction *entry = editor->action(QStringView(row.name));
                 QObject::disconnect(entry, &QAction::triggered, nullptr, nullptr);
                 QObject::connect(entry, &QAction::triggered, editor,
@@ -311,12 +314,12 @@ TEST_F(MainWindow, TakesItsToolWindowsAlongWhenMinimised)
 
 TEST_F(MainWindow, ItsPlaceIsInTwips)
 {
-    mum->setPlace({ .left = 300, .top = 450, .width = 12750, .height = 9000 });
+    mum->setPlace({ .left = 300, .top = 450, .width = 10500, .height = 9000 });
     EXPECT_EQ(mum->pos(), QPoint(20, 30));
-    EXPECT_EQ(mum->size(), QSize(850, 600));
+    EXPECT_EQ(mum->size(), QSize(700, 600));
     const WindowPlace place = mum->place();
     EXPECT_EQ(place.left, 300);
-    EXPECT_EQ(place.width, 12750);
+    EXPECT_EQ(place.width, 10500);
     EXPECT_EQ(place.state, WindowState::Normal);
 }
 
@@ -327,6 +330,41 @@ TEST_F(MainWindow, AMaximisedWindowIsRestoredToItsUsualSize)
     mum->showNormal();
     settle();
     EXPECT_EQ(mum->size(), QSize(888, 593));
+}
+
+TEST_F(MainWindow, GoesBackFromMaximisedToTheSizeBefore)
+{
+    mum->setPlace({ .left = 300, .top = 450, .width = 10500, .height = 9000 });
+    mum->showMaximized();
+    settle();
+    const WindowPlace place = mum->place();
+    EXPECT_EQ(place.state, WindowState::Maximised);
+    EXPECT_EQ(place.width, 10500);
+    EXPECT_EQ(place.height, 9000);
+    mum->showNormal();
+    settle();
+    // As in the next run, which starts maximised.
+    mum->setPlace(place);
+    EXPECT_TRUE(mum->isMaximized());
+    mum->showNormal();
+    settle();
+    EXPECT_EQ(mum->size(), QSize(700, 600));
+    EXPECT_EQ(mum->pos(), QPoint(20, 30));
+}
+
+TEST_F(MainWindow, AMaximisedSizeFromAnOlderStoreIsNoSizeToGoBackTo)
+{
+    mum->setPlace({ .width = 150000, .height = 150000, .state = WindowState::Maximised });
+    mum->showNormal();
+    settle();
+    EXPECT_EQ(mum->size(), QSize(888, 593));
+}
+
+TEST_F(MainWindow, APlaceOnAScreenThatIsGoneIsBroughtBack)
+{
+    mum->setPlace({ .left = 150000, .top = 150000, .width = 10500, .height = 9000 });
+    EXPECT_TRUE(mum->screen()->availableGeometry().contains(mum->geometry()));
+    EXPECT_EQ(mum->size(), QSize(700, 600));
 }
 
 TEST_F(MainWindow, StaysOpenWhenTheQuestionSaysSo)
@@ -342,4 +380,39 @@ TEST_F(MainWindow, StaysOpenWhenTheQuestionSaysSo)
     answer = true;
     EXPECT_TRUE(mum->close());
     EXPECT_EQ(unloads, 1);
+}
+
+TEST_F(MainWindow, TheTitleNamesTheSelectedFileAndMarksItsChanges)
+{
+    EXPECT_EQ(mum->windowTitle(), u"Untitled.tmj[*] - Zeph");
+    EXPECT_FALSE(mum->isWindowModified());
+    editor->joystick().rename(folder.path() + u"/a.tmj"_s);
+    EXPECT_EQ(mum->windowTitle(), u"a.tmj[*] - Zeph");
+    editor->joystick().setState(Document::Modified);
+    EXPECT_TRUE(mum->isWindowModified());
+    editor->documents().select(DocumentKind::Macro);
+    EXPECT_EQ(mum->windowTitle(), u"Untitled.tmm[*] - Zeph");
+    EXPECT_FALSE(mum->isWindowModified());
+    mum->setFurther();
+    EXPECT_EQ(mum->windowTitle(), u"Untitled.tmm[*] - Zeph - secondary window");
+}
+
+TEST_F(MainWindow, AKeyGoesToTheMacroListAndBack)
+{
+    mum->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(mum.get()));
+    QWidget *text = &editor->view().control(DocumentKind::Joystick);
+    QWidget *list = editor->findChild<QWidget *>(u"List1"_s);
+    text->setFocus();
+    QTest::keyClick(text, Qt::Key_M, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_TRUE(list->hasFocus());
+    QTest::keyClick(list, Qt::Key_M, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_TRUE(text->hasFocus());
+    EXPECT_EQ(editor->joystickText(), QString());
+}
+
+TEST(MumTitle, ANameThatHoldsTheToolkitsMarkKeepsIt)
+{
+    EXPECT_EQ(mumTitle(u"a[*].tmj"_s, false), u"a[*][*].tmj[*] - Zeph");
+    EXPECT_EQ(mumTitle(QString(), true), u"Zeph - secondary window");
 }

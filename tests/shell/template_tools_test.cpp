@@ -12,7 +12,7 @@
 #include "platform/richtext/rich_text_box.h"
 #include "platform/tool_windows.h"
 #include "shell/mum.h"
-#include "tests/shell/shell_world.h"
+#include "tests/support/shell_world.h"
 
 #include <QTest>
 #include <QTimer>
@@ -30,11 +30,6 @@ struct TemplateMenuTest : test::ShellWorld {
         run = application();
         ASSERT_TRUE(run->start());
     }
-    void TearDown() override
-    {
-        run.reset();
-        ShellWorld::TearDown();
-    }
     TemplateForm *form() const { return run->mum().toolWindows().get<TemplateForm>(); }
     static RichTextBox &textOf(TemplateForm &form)
     {
@@ -46,11 +41,11 @@ struct TemplateMenuTest : test::ShellWorld {
 
 TEST_F(TemplateMenuTest, TheMenuOpensOneOfIt)
 {
-    run->editor().actions().trigger(u"mnuAppsTemplateEditor");
+    run->editor().actions().action(u"mnuAppsTemplateEditor")->trigger();
     TemplateForm *first = form();
     ASSERT_NE(first, nullptr);
     EXPECT_EQ(first->windowTitle(), u"ReadMe and Template Editor");
-    run->editor().actions().trigger(u"mnuAppsTemplateEditor");
+    run->editor().actions().action(u"mnuAppsTemplateEditor")->trigger();
     EXPECT_EQ(form(), first);
 }
 
@@ -60,7 +55,7 @@ TEST_F(TemplateMenuTest, TheReadmeOfTheJoystickFileIsOpened)
     const QString jet =
         folder.write(u"Files/Jet.tmj"_s, "USE ZEPH README Read.rtf\r\nBTN S1 a\r\n");
     run->editor().opening().OpenFavouriteFile(jet);
-    run->editor().actions().trigger(u"mnuAppsViewReadMe");
+    run->editor().actions().action(u"mnuAppsViewReadMe")->trigger();
     ASSERT_NE(form(), nullptr);
     EXPECT_EQ(form()->windowTitle(), u" Editing Read.rtf");
     EXPECT_EQ(textOf(*form()).toPlainText(), u"Read me first");
@@ -70,7 +65,7 @@ TEST_F(TemplateMenuTest, WhatItSavesIsOfferedToTheEditorThatHasItOpen)
 {
     const QString path = folder.write(u"Files/Jet.tmj"_s, "BTN S1 a\r\n");
     run->editor().opening().OpenFavouriteFile(path);
-    run->editor().actions().trigger(u"mnuAppsTemplateEditor");
+    run->editor().actions().action(u"mnuAppsTemplateEditor")->trigger();
     ASSERT_NE(form(), nullptr);
     ASSERT_TRUE(form()->OpenReadMe(path));
     textOf(*form()).textCursor().insertText(u"Rem mine\n"_s);
@@ -82,7 +77,7 @@ TEST_F(TemplateMenuTest, WhatItSavesIsOfferedToTheEditorThatHasItOpen)
 
 TEST_F(TemplateMenuTest, AnUnsavedTemplateIsAskedAboutBeforeTheEnd)
 {
-    run->editor().actions().trigger(u"mnuAppsTemplateEditor");
+    run->editor().actions().action(u"mnuAppsTemplateEditor")->trigger();
     ASSERT_NE(form(), nullptr);
     textOf(*form()).textCursor().insertText(u"mine"_s);
     dialogs.answer(u" Save Untitled.rtf now?"_s, BoxButton::Cancel);

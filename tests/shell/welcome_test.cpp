@@ -3,7 +3,7 @@
 
 #include "shell/welcome.h"
 
-#include "tests/shell/shell_world.h"
+#include "tests/support/shell_world.h"
 
 #include <QLabel>
 #include <QLineEdit>

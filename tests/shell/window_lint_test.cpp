@@ -20,7 +20,7 @@
 #include "shell/mum.h"
 #include "shell/welcome.h"
 #include "templates/templateform.h"
-#include "tests/shell/shell_world.h"
+#include "tests/support/shell_world.h"
 #include "text/macro_table.h"
 #include "toolchain/games/gamefields.h"
 #include "toolchain/games/games.h"
@@ -154,7 +154,8 @@ const LintCase cases[] = {
       } },
     { "MacroRenameForm",
       [](auto &w) {
-          return std::make_unique<MacroRenameForm>(w.dialogs, QStringList{ u"Fire"_s }, u"Fire"_s);
+          return std::make_unique<MacroRenameForm>(
+              w.dialogs, MacroRenameForm::Names{ { u"Fire"_s }, u"Fire"_s });
       } },
     { "StyleEditor",
       [](auto &w) {
@@ -223,11 +224,6 @@ public:
             installData(QString::fromUtf16(picture));
         }
         window = GetParam().make(*this);
-    }
-    void TearDown() override
-    {
-        window.reset();
-        ShellWorld::TearDown();
     }
     QList<QWidget *> controls() const
     {

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "platform/core/profile_file.h"
+#include "platform/core/stand_in.h"
 #include "tests/support/temp_folder.h"
 
 #include <QElapsedTimer>
@@ -100,4 +101,32 @@ TEST_F(Tools, TheControlPanelIsSilentWhenOrdered)
 {
     run(u"HOTASConfig"_s, { u"/MODE"_s, u"/ZEPH"_s, u"/BU"_s }, { u"ZEPH_STANDIN_SILENT=1"_s });
     EXPECT_EQ(value(u"TMMODE"_s, u"Status"_s), u"(absent)");
+}
+
+TEST_F(Tools, StartedTogetherTheyNeverLoseAVerdict)
+{
+    const QString file = folder.write(u"a.tmj"_s, "BTN S1 a\r\n");
+    int kept = 0;
+    for (int i = 0; i < 60; ++i) {
+        folder.write(u"HOTAS.ini"_s, "[Defaults]\r\nPOVhat=3\r\n");
+        QProcess compiler;
+        QProcess config;
+        compiler.start(tool(u"HOTASCompiler"_s), { u"/ZEPH"_s, u"/CO"_s, file });
+        config.start(tool(u"HOTASConfig"_s), { u"/MODE"_s, u"/ZEPH"_s, u"/AU"_s, u"/BU"_s });
+        EXPECT_TRUE(compiler.waitForFinished(60'000));
+        EXPECT_TRUE(config.waitForFinished(60'000));
+        const bool both = value(u"Compiler"_s, u"Status"_s) == u"OK"
+            && value(u"TMMODE"_s, u"Status"_s) == u"OKAY"
+            && value(u"Defaults"_s, u"POVhat"_s) == u"3";
+        kept += both ? 1 : 0;
+    }
+    EXPECT_EQ(kept, 60);
+}
+
+TEST_F(Tools, AreToldFromRealToolsByTheMarkInTheirFiles)
+{
+    EXPECT_TRUE(isStandIn(tool(u"HOTASCompiler"_s)));
+    EXPECT_TRUE(isStandIn(tool(u"HOTASConfig"_s)));
+    EXPECT_FALSE(isStandIn(folder.write(u"Other.exe"_s, "MZ, a real one")));
+    EXPECT_FALSE(isStandIn(folder.file(u"missing.exe"_s)));
 }

@@ -14,7 +14,11 @@ namespace zeph {
 inline void PrintTo(const CharFormat &format, std::ostream *out)
 {
     *out << format.family.toStdString() << ' ' << format.pointSize << (format.bold ? " b" : "")
-         << (format.italic ? " i" : "") << (format.underline ? " u" : "");
+         << (format.italic ? " i" : "") << (format.underline ? " u" : "")
+         << (format.strike ? " s" : "");
+    if (!format.link.isEmpty()) {
+        *out << " -> " << format.link.toStdString();
+    }
     if (format.colour) {
         *out << " #" << std::hex << *format.colour << std::dec;
     }
@@ -68,12 +72,18 @@ public:
     CharFormat characterFormat()
     {
         const QString families[] = { {}, u"Arial"_s, u"Courier New"_s, u"A;{b}\\ \u65e5"_s };
+        const QString links[] = { u"http://x/?a=b&c"_s, u"C:\\My {notes}.txt"_s,
+                                  u"#a \"place\" \u65e5"_s };
         CharFormat format;
         format.family = families[upTo(3)];
         format.pointSize = upTo(3) == 0 ? 0 : 6 + upTo(40) / 2.0;
         format.bold = upTo(1) == 1;
         format.italic = upTo(3) == 1;
         format.underline = upTo(3) == 1;
+        format.strike = upTo(5) == 1;
+        if (upTo(5) == 1) {
+            format.link = links[upTo(2)];
+        }
         if (upTo(2) > 0) {
             format.colour = ColorRef(upTo(5)) * 0x2A1703;
         }

@@ -3,8 +3,6 @@
 
 #include "tests/support/temp_folder.h"
 
-#include <gtest/gtest.h>
-
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -17,7 +15,7 @@ QString TempFolder::write(const QString &name, const QByteArray &bytes) const
     QDir().mkpath(QFileInfo(path).path());
     QFile out(path);
     if (!out.open(QIODevice::WriteOnly) || out.write(bytes) != bytes.size()) {
-        ADD_FAILURE() << "cannot write " << path.toStdString();
+        qWarning("cannot write %s", qPrintable(path));
     }
     return path;
 }
@@ -26,7 +24,8 @@ QByteArray TempFolder::read(const QString &name) const
 {
     QFile in(file(name));
     if (!in.open(QIODevice::ReadOnly)) {
-        ADD_FAILURE() << "cannot read " << in.fileName().toStdString();
+        qWarning("cannot read %s", qPrintable(in.fileName()));
+        return {};
     }
     return in.readAll();
 }

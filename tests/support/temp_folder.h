@@ -8,7 +8,8 @@
 
 namespace zeph::test {
 
-/// A folder of a test's own, gone with it. Paths in it end without a separator.
+/// A folder of a test's own, gone with it. Paths in it end without a separator. What cannot be
+/// written or read is a warning, which fails the running test (watch.h) and needs no GoogleTest.
 class TempFolder
 {
 public:
@@ -16,7 +17,7 @@ public:
     QString file(const QString &name) const { return m_folder.filePath(name); }
     /// Writes a file (folders on its way are made) and gives its path.
     QString write(const QString &name, const QByteArray &bytes) const;
-    /// The file's bytes; fails the test when it cannot be read.
+    /// The file's bytes; a warning and none when it cannot be read.
     QByteArray read(const QString &name) const;
     bool exists(const QString &name) const;
 

@@ -5,43 +5,47 @@
 #include "text/macro_table.h"
 
 #include "menus/menu_actions.h"
+#include "platform/core/profile_file.h"
 #include "platform/core/rtf.h"
 #include "platform/fakes/fake_printers.h"
 #include "platform/richtext/rich_text_box.h"
 #include "platform/richtext/rich_text_document.h"
 #include "settings/colour_settings.h"
 #include "settings/shared_settings.h"
-#include "tests/documents/editor_fixture.h"
+#include "templates/template_settings.h"
+#include "tests/support/fixture.h"
 #include "tests/support/rich_texts.h"
 
 #include <QAction>
 #include <QClipboard>
 #include <QComboBox>
+#include <QDir>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QMimeData>
+#include <QProgressDialog>
 #include <QStatusBar>
+#include <QTimer>
 #include <QToolBar>
 
 using namespace zeph;
 
 namespace {
 
-class TemplateTest : public test::EditorTest
+class TemplateTest : public test::WorldTest
 {
 protected:
     TemplateTest()
     {
         QDir(folder.path()).mkdir(u"Templates"_s);
-        QFile::link(QStringLiteral(ZEPH_SOURCE_DIR "/data/icons"), folder.file(u"icons"_s));
+        installIcons();
         folder.write(u"Zeph.ini"_s, "[Miscellaneous]\r\nPilotCallsign=Viper\r\n");
         makeForm();
     }
 
     void makeForm()
     {
-        form = std::make_unique<TemplateForm>(
-            Context{ paths, settings, status, dialogs, launcher, clock, keyboard }, printers,
-            macros);
+        form = std::make_unique<TemplateForm>(context(), printers, macros);
         QObject::connect(form.get(), &TemplateForm::fileWritten, form.get(),
                          [this](const QString &path) { written.append(path); });
         text = form->findChild<RichTextBox *>(u"TemplateText"_s);
@@ -50,7 +54,8 @@ protected:
     QString templates(const QString &name) const { return folder.path() + u"/Templates/"_s + name; }
     void press(QStringView name)
     {
-        EXPECT_TRUE(form->actions().trigger(name)) << name.toString().toStdString();
+        EXPECT_TRUE(form->actions().action(name)->isEnabled()) << name.toString().toStdString();
+        form->actions().action(name)->trigger();
     }
     bool isChecked(QStringView name) { return form->actions().action(name)->isChecked(); }
     QString combo(const QString &name) { return form->findChild<QComboBox *>(name)->currentText(); }
@@ -442,4 +447,189 @@ TEST_F(TemplateTest, ThePasteTakesNoPicturesOrTables)
 TEST_F(TemplateTest, WithoutAComposerItsEntryIsOff)
 {
     EXPECT_FALSE(form->actions().action(u"mnuComposerPlugin")->isEnabled());
+}
+
+namespace {
+
+const QString lossTitle = u"Some of it would be lost"_s;
+const QByteArray withPicture = "{\\rtf1{\\header top}{\\pict\\pngblip 00}text\\par}";
+
+} // namespace
+
+TEST_F(TemplateTest, StrikeAndHyperlinksComeBackFromASave)
+{
+    const QString path = folder.write(u"Templates/A.rtf"_s,
+                                      "{\\rtf1 {\\strike out} {\\field{\\*\\fldinst HYPERLINK "
+                                      "\"http://x/\"}{\\fldrslt link}}\\par}");
+    ASSERT_TRUE(form->OpenReadMe(path));
+    write(u"new "_s);
+    press(u"mnuFileSave");
+    const auto saved = readRtf(folder.read(u"Templates/A.rtf"_s));
+    ASSERT_TRUE(saved);
+    EXPECT_EQ(saved->text.toStdString(), "new out link");
+    EXPECT_TRUE(saved->formatAt(4).strike);
+    EXPECT_EQ(saved->formatAt(8).link, u"http://x/");
+    EXPECT_FALSE(saved->formatAt(7).strike);
+}
+
+TEST_F(TemplateTest, StrikeOutIsAFormatLikeBold)
+{
+    write(u"word"_s);
+    text->select(0, 2);
+    press(u"mnuFormatArray1_3");
+    EXPECT_TRUE(text->richText().formatAt(1).strike);
+    EXPECT_FALSE(text->richText().formatAt(2).strike);
+    EXPECT_TRUE(isChecked(u"mnuFormatArray1_3"));
+    press(u"mnuFormatArray1_3");
+    EXPECT_FALSE(text->richText().formatAt(1).strike);
+}
+
+TEST_F(TemplateTest, WhatCannotBeKeptIsNamedBeforeTheFirstSaveAndACopyIsTheDefault)
+{
+    const QString path = folder.write(u"Templates/A.rtf"_s, withPicture);
+    ASSERT_TRUE(form->OpenReadMe(path));
+    write(u"new "_s);
+    dialogs.answer(lossTitle, BoxButton::Yes);
+    dialogs.answerFile(templates(u"A (copy).rtf"_s));
+    press(u"mnuFileSave");
+    const Box &box = dialogs.boxes().last();
+    EXPECT_EQ(box.text.toStdString(),
+              "A.rtf has things that I can't keep: pictures and headers or footers. If I save over "
+              "it they are gone. A copy leaves the file as it is.");
+    EXPECT_EQ(box.captions, (QStringList{ u"Save as a &copy"_s, u"Save &over it"_s, u"Cancel"_s }));
+    EXPECT_EQ(box.defaultButton, BoxButton::Yes);
+    EXPECT_EQ(dialogs.files().last().name, u"A (copy).rtf");
+    EXPECT_EQ(folder.read(u"Templates/A.rtf"_s), withPicture);
+    EXPECT_EQ(readRtf(folder.read(u"Templates/A (copy).rtf"_s))->text.toStdString(), "new text");
+    // The copy has nothing more to lose.
+    write(u"more "_s);
+    press(u"mnuFileSave");
+    EXPECT_EQ(form->path(), templates(u"A (copy).rtf"_s));
+}
+
+TEST_F(TemplateTest, SavingOverWhatCannotBeKeptIsAskedAboutOnce)
+{
+    const QString path = folder.write(u"Templates/A.rtf"_s, withPicture);
+    ASSERT_TRUE(form->OpenReadMe(path));
+    write(u"new "_s);
+    dialogs.answer(lossTitle, BoxButton::Cancel);
+    press(u"mnuFileSave");
+    EXPECT_EQ(folder.read(u"Templates/A.rtf"_s), withPicture);
+    EXPECT_TRUE(form->HasTemplateTextChanged());
+    dialogs.answer(lossTitle, BoxButton::No);
+    press(u"mnuFileSave");
+    EXPECT_EQ(readRtf(folder.read(u"Templates/A.rtf"_s))->text.toStdString(), "new text");
+    write(u"more "_s);
+    press(u"mnuFileSave");
+    EXPECT_EQ(dialogs.boxes().size(), 2);
+}
+
+TEST_F(TemplateTest, SaveAsOntoTheSameFileAsksToo)
+{
+    const QString path = folder.write(u"Templates/A.rtf"_s, withPicture);
+    ASSERT_TRUE(form->OpenReadMe(path));
+    dialogs.answerFile(path);
+    dialogs.answer(u"OK to overwrite exisiting file?"_s, BoxButton::Yes);
+    dialogs.answer(lossTitle, BoxButton::Cancel);
+    press(u"mnuFileSaveAs");
+    EXPECT_EQ(folder.read(u"Templates/A.rtf"_s), withPicture);
+}
+
+TEST_F(TemplateTest, APlainTextKeepsItsLineEnds)
+{
+    const QString path = folder.write(u"Templates/A.txt"_s, "one\ntwo\r\nthree\nfour");
+    ASSERT_TRUE(form->OpenReadMe(path));
+    press(u"mnuFileSave");
+    EXPECT_EQ(folder.read(u"Templates/A.txt"_s), "one\ntwo\r\nthree\nfour");
+    text->select(int(text->toPlainText().size()), 0);
+    write(u"\nfive"_s);
+    press(u"mnuFileSave");
+    EXPECT_EQ(folder.read(u"Templates/A.txt"_s), "one\ntwo\r\nthree\nfour\nfive");
+    // A new file has Windows' line ends again.
+    press(u"mnuFileNew");
+    write(u"a\nb"_s);
+    dialogs.answerFile(templates(u"B.txt"_s));
+    press(u"mnuFileSave");
+    EXPECT_EQ(folder.read(u"Templates/B.txt"_s), "a\r\nb");
+}
+
+TEST_F(TemplateTest, AFileAboveFiveMegabytesIsOpenedAfterAQuestionOnly)
+{
+    const QByteArray line = "a line of a readme\r\n";
+    const QString path =
+        folder.write(u"Templates/A.txt"_s, line.repeated(5'000'001 / line.size() + 1));
+    dialogs.answer(u"That's a big one"_s, BoxButton::No);
+    EXPECT_FALSE(form->OpenReadMe(path));
+    EXPECT_EQ(dialogs.boxes().last().text.toStdString(),
+              "A.txt has 5 MB. Opening it may take a while. Shall I go on?");
+    EXPECT_EQ(text->toPlainText(), QString());
+    dialogs.answer(u"That's a big one"_s, BoxButton::Yes);
+    EXPECT_TRUE(form->OpenReadMe(path));
+    EXPECT_EQ(text->document()->blockCount(), 5'000'001 / line.size() + 2);
+    const QString small = folder.write(u"Templates/B.txt"_s, QByteArray(4'999'999, '\n'));
+    EXPECT_TRUE(form->OpenReadMe(small));
+}
+
+TEST_F(TemplateTest, TheOpeningOfALargeFileCanBeCancelled)
+{
+    const QByteArray line = "a {\\b line} of a readme\\par\r\n";
+    const QString path =
+        folder.write(u"Templates/A.rtf"_s, "{\\rtf1 " + line.repeated(600'000) + "}");
+    write(u"mine"_s);
+    dialogs.answer(u" Save Untitled.rtf now?"_s, BoxButton::No);
+    dialogs.answer(u"That's a big one"_s, BoxButton::Yes);
+    QTimer pilot;
+    bool cancelled = false;
+    QObject::connect(&pilot, &QTimer::timeout, &pilot, [&cancelled] {
+        for (QWidget *window : QApplication::topLevelWidgets()) {
+            auto *progress = qobject_cast<QProgressDialog *>(window);
+            if (progress && progress->isVisible()) {
+                progress->cancel();
+                cancelled = true;
+            }
+        }
+    });
+    pilot.start(1);
+    EXPECT_FALSE(form->OpenReadMe(path));
+    EXPECT_TRUE(cancelled);
+    EXPECT_EQ(text->toPlainText().toStdString(), "mine");
+    EXPECT_EQ(form->path(), templates(u"Untitled.rtf"_s));
+}
+
+TEST_F(TemplateTest, AWordOf400KilobytesOpensInUnderTwoSeconds)
+{
+    form->show();
+    const QString path = folder.write(u"Templates/A.txt"_s, QByteArray(400'000, 'x'));
+    QElapsedTimer timer;
+    timer.start();
+    ASSERT_TRUE(form->OpenReadMe(path));
+    QCoreApplication::processEvents();
+    EXPECT_LT(timer.elapsed(), 2000);
+}
+
+TEST_F(TemplateTest, TheWindowOpensBesideTheMainOneAndRemembersItsPlace)
+{
+    QWidget main;
+    main.setGeometry(0, 0, 200, 300);
+    const Context context{ paths, settings, status, dialogs, launcher, clock, keyboard };
+    {
+        TemplateForm first(context, printers, macros, &main);
+        EXPECT_GE(first.pos().x(), 200);
+        first.resize(500, 350);
+        first.move(40, 60);
+        first.show();
+        EXPECT_TRUE(first.close());
+    }
+    settings.of<TemplateSettings>() = {};
+    TemplateForm second(context, printers, macros, &main);
+    EXPECT_EQ(second.size(), QSize(500, 350));
+    EXPECT_EQ(second.pos(), QPoint(40, 60));
+    second.show();
+    second.showMaximized();
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(second.close());
+    const ProfileFile store(paths.iniPath);
+    EXPECT_EQ(store.text(u"Template Editor", u"TemplateWidthAtStartup"), u"7500")
+        << "not maximised";
+    EXPECT_EQ(store.text(u"Template Editor", u"TemplateLeftAtStartup"), u"600");
 }

@@ -175,7 +175,7 @@ TEST(AlignSlashes, PaddingEndsAtSixtyNineBlanks)
     const QString statement = u"BTN S1 "_s + QString(80, u'x') + u" /U a"_s;
     EXPECT_EQ(AlignSlashes(statement + u"\n/M b\n"_s),
               lines({ statement, QString(69, u' ') + u"/M b"_s }));
-    EXPECT_EQ(AlignSlashes(u"BTN S1", { true, 30000 }), lines({ QString(69, u' ') + u"BTN S1"_s }));
+    EXPECT_EQ(AlignSlashes(u"BTN S1", { true, 30000 }), lines({ QString(80, u' ') + u"BTN S1"_s }));
     EXPECT_EQ(AlignSlashes(u"BTN S1", { true, -4 }), lines({ u"BTN S1"_s }));
 }
 
@@ -287,4 +287,37 @@ TEST(Alignment, AligningAnAlignedFileChangesNothing)
         }
     }
     EXPECT_GT(tried, 2000);
+}
+
+TEST(Alignment, AnIndentOfUpTo80BlanksIsWrittenInFull)
+{
+    for (const int spaces : { 69, 70, 79, 80 }) {
+        EXPECT_EQ(AlignSlashes(u"BTN S1", { true, spaces }),
+                  lines({ QString(spaces, u' ') + u"BTN S1"_s }));
+    }
+}
+
+TEST(Alignment, APlaceKeepsItsLineAndWhatStandsBeforeIt)
+{
+    // What is before and after "|" in both texts belongs together.
+    const std::pair<QString, QString> places[] = {
+        { u"|BTN S1"_s, u"|BTN S1"_s },
+        { u"  |BTN S1"_s, u"|BTN S1"_s },
+        { u" | BTN S1"_s, u"|BTN S1"_s },
+        { u"BTN  S|1"_s, u"BTN S|1"_s },
+        { u"BTN\t\t|S1"_s, u"BTN |S1"_s },
+        { u"BTN |  S1"_s, u"BTN |S1"_s },
+        { u"BTN S1|"_s, u"BTN S1|"_s },
+        { u"BTN S1 /I a\n/O |b"_s, u"BTN S1 /I a\n       /O |b\n"_s },
+        { u"BTN S1 /I a\n|/O b"_s, u"BTN S1 /I a\n|       /O b\n"_s },
+        { u"a\n\n|\nb"_s, u"a\n\n|\nb\n"_s },
+        { u"a\nb|"_s, u"     a\n     b|\n"_s },
+    };
+    for (const auto &[from, to] : places) {
+        QString before = from;
+        QString after = to;
+        EXPECT_EQ(placeAfterAligning(before.remove(u'|'), after.remove(u'|'), from.indexOf(u'|')),
+                  to.indexOf(u'|'))
+            << from.toStdString();
+    }
 }

@@ -202,3 +202,22 @@ TEST(WordOver, AWordMayBeLongerThanALine)
     const QString longWord(5000, u'x');
     EXPECT_EQ(wordOver(longWord, 4000), longWord);
 }
+
+TEST(MacroSearch, ARenamedTextIsRenamedWhereARenameReplaces)
+{
+    EXPECT_EQ(renamedIn(u"Fire = a fire\tx (Fire)"_s, u"Fire"_s, u"Go"_s), u"Go = a Go\tx (Fire)");
+    EXPECT_EQ(renamedIn(u"Fire=a"_s, u"Fire"_s, u"Go"_s), u"Fire=a");
+}
+
+TEST(MacroSearch, TheNameAtAPlaceIsTheLongestThatTouchesIt)
+{
+    const QStringList names = { u"Fire"_s, u"Fire-1"_s, u"Gun"_s, u""_s };
+    const QString line = u"BTN S1 (fire) Fire-1 Guns"_s;
+    EXPECT_EQ(nameAt(line, 7, names), QString());
+    EXPECT_EQ(nameAt(line, 8, names), u"Fire");
+    EXPECT_EQ(nameAt(line, 12, names), u"Fire");
+    EXPECT_EQ(nameAt(line, 13, names), QString());
+    EXPECT_EQ(nameAt(line, 15, names), u"Fire-1");
+    EXPECT_EQ(nameAt(line, 22, names), QString());
+    EXPECT_EQ(nameAt(u"", 0, names), QString());
+}

@@ -230,6 +230,37 @@ TEST(MacroName, WhatNoNameMayHoldBecomesAnUnderscore)
     EXPECT_EQ(withoutRefused(u"Fire_Gun-1/2"_s), u"Fire_Gun-1/2");
 }
 
+TEST(MacroName, ALineEndThatWasPastedIsNoPartOfIt)
+{
+    EXPECT_EQ(withoutRefused(u"Fire\n"_s), u"Fire");
+    EXPECT_EQ(withoutRefused(u"\r\nFire\r\n"_s), u"Fire");
+    EXPECT_EQ(withoutRefused(u"Fire\u2029"_s), u"Fire");
+    EXPECT_EQ(withoutRefused(u"Fire\nGun"_s), u"Fire_Gun");
+    EXPECT_EQ(withoutRefused(u"a\tb\x01"_s), u"a_b_");
+    EXPECT_EQ(withoutRefused(u"\n"_s), QString());
+}
+
+TEST(MacroName, ANewNameIsRefusedForWhatIsWrongWithIt)
+{
+    const QStringList taken = { u"Fire"_s, u"Gun"_s };
+    const auto fault = [&taken](const QString &name) {
+        return faultOfNewName(u"Fire"_s, name, taken);
+    };
+    EXPECT_EQ(fault(u"Fire"_s), NameFault::Same);
+    EXPECT_EQ(fault(u"Shoot"_s), NameFault::None);
+    EXPECT_EQ(fault(u"FIRE"_s), NameFault::None);
+    EXPECT_EQ(fault(u"gun"_s), NameFault::Exists);
+    for (const QString &word : { u"BTN"_s, u"usb"_s, u"Rem"_s, u"rem"_s, u"/U"_s, u"F7"_s, u"a"_s,
+                                 u"7"_s, u"X12"_s, u"DX5"_s, u"SHF"_s }) {
+        EXPECT_EQ(fault(word), NameFault::LanguageWord) << word.toStdString();
+    }
+    EXPECT_EQ(fault(u"Remark"_s), NameFault::None);
+    EXPECT_EQ(fault(u"~Shoot"_s), NameFault::SwitchedOff);
+    EXPECT_EQ(fault(u"Sho~ot"_s), NameFault::None);
+    EXPECT_EQ(fault(u"Ω"_s), NameFault::NotInCodePage);
+    EXPECT_EQ(fault(u"Größe"_s), NameFault::None);
+}
+
 TEST(MacroExtraction, EqualsTheRulesFollowedStepByStep)
 {
     for (quint32 seed = 0; seed < 3000; ++seed) {

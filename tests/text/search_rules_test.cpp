@@ -116,3 +116,42 @@ TEST(SearchRules, ASelectionIsWhatIsSoughtByTheTicks)
     EXPECT_FALSE(isSought(u"FIRE", u"fire", SearchMatchCase));
     EXPECT_FALSE(isSought(u"fires", u"fire", 0));
 }
+
+TEST(SearchRules, TheHitBeforeAPlaceWrapsToTheLast)
+{
+    const auto hits = allHits(u"fire Fire fire", u"fire", 0);
+    EXPECT_EQ(hits, (std::vector<qsizetype>{ 0, 5, 10 }));
+    EXPECT_EQ(hitBefore(hits, 10), 5);
+    EXPECT_EQ(hitBefore(hits, 9), 5);
+    EXPECT_EQ(hitBefore(hits, 5), 0);
+    EXPECT_EQ(hitBefore(hits, 0), 10);
+    EXPECT_EQ(hitBefore({}, 3), -1);
+}
+
+TEST(SearchRules, HitsDoNotOverlapAndFollowTheTicks)
+{
+    EXPECT_EQ(allHits(u"aaaaa", u"aa", 0), (std::vector<qsizetype>{ 0, 2 }));
+    EXPECT_EQ(allHits(u"Fires fire", u"fire", SearchWholeWord), (std::vector<qsizetype>{ 6 }));
+    EXPECT_TRUE(allHits(u"abc", u"", 0).empty());
+}
+
+TEST(SearchRules, AHitIsCounted)
+{
+    EXPECT_EQ(hitCount({ 0, 5, 10 }, 5), u"Hit 2 of 3");
+    EXPECT_EQ(hitCount({ 0, 5, 10 }, 6), u"3 hits");
+    EXPECT_EQ(hitCount({ 4 }, 0), u"1 hit");
+    EXPECT_EQ(hitCount({}, 0), u"0 hits");
+}
+
+TEST(SearchRules, ALineNumberIsPlainDigits)
+{
+    EXPECT_EQ(plainLineNumber(u"12"), 12);
+    EXPECT_EQ(plainLineNumber(u" 12 "), 12);
+    EXPECT_EQ(plainLineNumber(u"007"), 7);
+    EXPECT_EQ(plainLineNumber(u"0"), 0);
+    for (const QString &typed :
+         { u""_s, u" "_s, u"-1"_s, u"+1"_s, u"1e1"_s, u"1.5"_s, u"1,000"_s, u"12a"_s, u"x"_s,
+           u"0x10"_s, u"1 2"_s, u"\u0661"_s, u"99999999999"_s }) {
+        EXPECT_EQ(plainLineNumber(typed), std::nullopt) << typed.toStdString();
+    }
+}

@@ -31,24 +31,59 @@ TEST(TemplateFiles, OnlyRtfHoldsRichText)
 TEST(TemplateFiles, APlainTextOpensInThePlainFormatAndComesBackByteByByte)
 {
     const QByteArray bytes = "[Section]\r\nKey=Caf\xE9\r\n";
-    const auto text = templateText(u"Zeph.ini", bytes, plain);
-    ASSERT_TRUE(text);
-    EXPECT_EQ(text->text.toStdString(), u"[Section]\nKey=Caf\u00e9\n"_s.toStdString());
-    EXPECT_EQ(text->formatAt(3), plain);
-    EXPECT_EQ(templateBytes(u"Zeph.ini", *text), bytes);
+    const auto file = readTemplate(u"Zeph.ini", bytes, plain);
+    ASSERT_TRUE(file);
+    EXPECT_EQ(file->text.text.toStdString(), u"[Section]\nKey=Caf\u00e9\n"_s.toStdString());
+    EXPECT_EQ(file->text.formatAt(3), plain);
+    EXPECT_EQ(templateBytes(u"Zeph.ini", file->text, file->lineEnds), bytes);
+}
+
+TEST(TemplateFiles, APlainTextKeepsItsOwnLineEndsMixedOnesToo)
+{
+    for (const QByteArray &bytes :
+         { QByteArray("a\nb\n"), QByteArray("a\rb\r"), QByteArray("a\r\nb\n\rc\r\n\r\nd"),
+           QByteArray("\n\r\n"), QByteArray("none"), QByteArray() }) {
+        const auto file = readTemplate(u"a.txt", bytes, plain);
+        ASSERT_TRUE(file);
+        EXPECT_EQ(templateBytes(u"a.txt", file->text, file->lineEnds), bytes);
+    }
+}
+
+TEST(TemplateFiles, NewLinesEndAsMostOfTheOthersDo)
+{
+    EXPECT_EQ(lineEndsOf("a\nb\nc\r\n").usual, LineEnd::Lf);
+    EXPECT_EQ(lineEndsOf("a\rb").usual, LineEnd::Cr);
+    EXPECT_EQ(lineEndsOf("").usual, LineEnd::CrLf);
+    EXPECT_TRUE(lineEndsOf("a\nb\n").each.empty());
+    EXPECT_EQ(templateBytes(u"a.txt", RichText::plain(u"a\nb\nc\n"_s),
+                            { LineEnd::Lf, { LineEnd::Lf, LineEnd::CrLf } }),
+              "a\nb\r\nc\n");
+}
+
+TEST(TemplateFiles, WhatWouldBeLostIsTold)
+{
+    const auto file =
+        readTemplate(u"a.rtf", "{\\rtf1{\\header h}{\\pict 00}text{\\footnote f}\\par}", plain);
+    ASSERT_TRUE(file);
+    EXPECT_EQ(lossesInWords(file->losses).toStdString(),
+              "pictures, headers or footers and footnotes");
+    EXPECT_EQ(lossesInWords(RtfLoss::Tables).toStdString(), "tables (the texts in them stay)");
+    EXPECT_EQ(lossesInWords({}).toStdString(), "");
+    EXPECT_EQ(copyName(u"My notes.rtf"_s).toStdString(), "My notes (copy).rtf");
+    EXPECT_EQ(copyName(u"notes"_s).toStdString(), "notes (copy)");
 }
 
 TEST(TemplateFiles, ATextThatLooksLikeRtfIsShownAsItIsUnderAnotherName)
 {
-    const auto text = templateText(u"source.txt", "{\\rtf1 x}", plain);
-    ASSERT_TRUE(text);
-    EXPECT_EQ(text->text.toStdString(), "{\\rtf1 x}");
+    const auto file = readTemplate(u"source.txt", "{\\rtf1 x}", plain);
+    ASSERT_TRUE(file);
+    EXPECT_EQ(file->text.text.toStdString(), "{\\rtf1 x}");
 }
 
 TEST(TemplateFiles, WhatIsNoRtfUnderAnRtfNameIsRefused)
 {
-    EXPECT_FALSE(templateText(u"broken.rtf", "just text", plain));
-    EXPECT_FALSE(templateText(u"program.exe", QByteArray("MZ\0x", 4), plain));
+    EXPECT_FALSE(readTemplate(u"broken.rtf", "just text", plain));
+    EXPECT_FALSE(readTemplate(u"program.exe", QByteArray("MZ\0x", 4), plain));
 }
 
 TEST(TemplateFiles, ALetterBeyondTheCodePageStopsPlainTextsOnly)

@@ -3,7 +3,7 @@
 
 #include "toolchain/handshake.h"
 
-#include "tests/toolchain/toolchain_bench.h"
+#include "tests/support/toolchain_bench.h"
 #include "toolchain/formdownloadstatus.h"
 #include "toolchain/toolchain_settings.h"
 
@@ -13,6 +13,7 @@
 #include <QLabel>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QRegularExpression>
 
 using namespace zeph;
 
@@ -26,6 +27,10 @@ protected:
     FormDownloadStatus *statusWindow() const
     {
         return mainWindow.findChild<FormDownloadStatus *>(u"FormDownloadStatus"_s);
+    }
+    QString caption() const
+    {
+        return statusWindow()->findChild<QLabel *>(u"LabelStatus"_s)->text();
     }
     int bar() const { return statusWindow()->findChild<QProgressBar *>(u"ProgressBar"_s)->value(); }
     void answerAfter(int tickCount)
@@ -102,10 +107,41 @@ TEST_F(HandshakeTest, ASlowToolBringsTheWindowWhichStaysWhenTheWaitEnds)
     EXPECT_TRUE(statusWindow()->isVisible());
     EXPECT_FALSE(statusWindow()->isModal());
     EXPECT_EQ(statusWindow()->parentWidget(), &mainWindow);
-    EXPECT_EQ(statusWindow()->findChild<QLabel *>(u"LabelStatus"_s)->text(), u"Compiling a.tmj");
+    EXPECT_TRUE(caption().startsWith(u"Compiling a.tmj")) << caption().toStdString();
     EXPECT_EQ(statusWindow()->findChild<QProgressBar *>(u"ProgressBar"_s)->maximum(), 45);
     handshake->closeStatusWindow();
     EXPECT_FALSE(handshake->StatusWindowShown());
+}
+
+TEST_F(HandshakeTest, TheStatusWindowSaysWhenTheWaitHasEndedAndFollowsTheNextOne)
+{
+    handshake->setStatusCaption(u"Compiling a.tmj"_s);
+    answerAfter(3);
+    EXPECT_EQ(run(), ExchangeEnd::Verdict);
+    const QRegularExpression ended(u"^Compiling a.tmj: ended at \\d\\d:\\d\\d:\\d\\d$"_s);
+    EXPECT_TRUE(ended.match(caption()).hasMatch()) << caption().toStdString();
+
+    ticks = 0;
+    handshake->setStatusCaption(u"Downloading b.tmj"_s);
+    afterTick = [&](int count) {
+        EXPECT_EQ(caption(), u"Downloading b.tmj");
+        EXPECT_EQ(bar(), count < 2 ? 0 : count);
+        if (count == 2) {
+            QTimer::singleShot(0, handshake.get(), [this] {
+                afterTick = {};
+                writeCompiler(u"Status"_s, u"OKAY"_s);
+            });
+        }
+    };
+    EXPECT_EQ(run(), ExchangeEnd::Verdict);
+    EXPECT_TRUE(caption().startsWith(u"Downloading b.tmj: ended at ")) << caption().toStdString();
+}
+
+TEST_F(HandshakeTest, TheStatusWindowOfAGivenUpToolSaysThatItIsNotOver)
+{
+    handshake->setStatusCaption(u"Compiling a.tmj"_s);
+    EXPECT_EQ(run(), ExchangeEnd::GivenUp);
+    EXPECT_TRUE(caption().startsWith(u"Compiling a.tmj: not over yet when I stopped waiting at "));
 }
 
 TEST_F(HandshakeTest, ClosingTheWindowEndsItAndALaterTickBringsANewOne)

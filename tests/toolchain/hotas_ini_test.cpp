@@ -76,13 +76,19 @@ TEST_F(HotasIniTest, TextsAreCutToTheirBuffer)
 
 TEST_F(HotasIniTest, NumbersThatDoNotFitSixteenBitsAreNotTrusted)
 {
-    const HotasIni ini = withContent("[Compiler]\nLineNumber=32768\nMemory=32767\n"
+    const HotasIni ini = withContent("[Compiler]\nMemory=32768\n"
                                      "[TMMODE]\nAxes=65536\nButtons=-40000\n");
-    EXPECT_EQ(ini.readCompiler().LineNumber, 0);
-    EXPECT_EQ(ini.readCompiler().Memory, 32767);
+    EXPECT_EQ(ini.readCompiler().Memory, 0);
     // 65536 would be 0, Windows mode, if its upper half were just dropped.
     EXPECT_GT(ini.readMode().Axes, 1);
     EXPECT_GT(ini.readMode().Buttons, 1);
+}
+
+TEST_F(HotasIniTest, ALineNumberMayBeLargerThanSixteenBits)
+{
+    const HotasIni ini = withContent("[Compiler]\nLineNumber=200000\nMemory=32767\n");
+    EXPECT_EQ(ini.readCompiler().LineNumber, 200000);
+    EXPECT_EQ(ini.readCompiler().Memory, 32767);
 }
 
 TEST_F(HotasIniTest, PollSeesWhatTheToolWroteSinceTheLastPoll)

@@ -19,19 +19,6 @@
 
 namespace zeph {
 
-namespace {
-
-/// Replaces the whole text. Caret and view stay at the line where they were.
-void replaceAll(EditorView &view, Document &document, const QString &text)
-{
-    const int line = document.caretLine();
-    const EditorView::KeptLine place(view, document);
-    document.replaceWhole(text);
-    document.select(int(lineRange(text, line).value_or(LineRange()).start), 0);
-}
-
-} // namespace
-
 AlignmentOperations::AlignmentOperations(const Context &context, const Parts &parts)
     : m_context(context), m_parts(parts)
 {
@@ -50,7 +37,8 @@ void AlignmentOperations::applySettings()
 
 void AlignmentOperations::mnuAlignSlash_Click()
 {
-    if (m_parts.view.documents().refuseProtected()) {
+    if (m_parts.view.documents().refuseProtected()
+        || m_parts.view.documents().refuseSent(DocumentKind::Joystick)) {
         return;
     }
     Document &joystick = m_parts.view.documents().joystick();
@@ -59,15 +47,21 @@ void AlignmentOperations::mnuAlignSlash_Click()
         return;
     }
     m_context.status.setTextNow(u" Hang on - this could take time ..."_s);
+    const EditorView::KeptTab tab(m_parts.view);
     m_parts.view.documents().select(DocumentKind::Joystick);
     const auto &settings = m_context.settings.of<EditorSettings>();
     const QString aligned = AlignSlashes(text, { settings.IndentAsWell, settings.IndentSpaces });
+    const int anchor = int(placeAfterAligning(text, aligned, joystick.cursor().anchor()));
+    const int caret = int(placeAfterAligning(text, aligned, joystick.cursor().position()));
+    const EditorView::KeptPlace place(m_parts.view, joystick);
     if (aligned != text) {
         Change change(joystick);
-        replaceAll(m_parts.view, joystick, aligned);
+        joystick.replaceWhole(aligned);
+        joystick.setCaret(anchor, caret);
         change.commit();
     }
     m_parts.highlighting.mnuViewColourJoystick_Click();
+    joystick.setCaret(anchor, caret);
     m_context.status.setText(u" OK - done!"_s);
 }
 

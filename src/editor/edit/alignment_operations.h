@@ -42,9 +42,6 @@ private:
 };
 
 class ColouredInsert;
-class MenuActions;
-class EditorView;
-class Highlighting;
 
 /// Comments the selected lines out or in again, as one undo step each. A partly selected line
 /// counts. Refused on a protected macro file. The caret ends at the start of the first line.

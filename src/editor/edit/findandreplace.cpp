@@ -6,14 +6,14 @@
 #include "documents/document.h"
 #include "documents/editor_texts.h"
 #include "documents/editor_view.h"
-#include "documents/line_blink.h"
+#include "documents/show_line.h"
 #include "platform/core/text_search.h"
-#include "platform/core/units.h"
 #include "platform/dialogs.h"
 #include "platform/status_line.h"
 #include "text/search_rules.h"
 #include "ui_findandreplace.h"
 
+#include <QKeyEvent>
 #include <QSignalBlocker>
 
 namespace zeph {
@@ -63,19 +63,28 @@ FindAndReplace::FindAndReplace(const Context &context, const Parts &parts, QWidg
                    .wholeWord = m_ui->WholeWordF,
                    .joystick = m_ui->OptionJoystickF,
                    .macro = m_ui->OptionMacroF,
-                   .find = m_ui->Command1 };
+                   .find = m_ui->Command1,
+                   .previous = m_ui->CommandPreviousF,
+                   .hits = m_ui->LabelHitsF };
     m_replacePage = { .what = m_ui->ComboTextReplaceFind,
                       .matchCase = m_ui->MatchCaseR,
                       .wholeWord = m_ui->WholeWordR,
                       .joystick = m_ui->OptionJoystickR,
                       .macro = m_ui->OptionMacroR,
-                      .find = m_ui->Command3 };
+                      .find = m_ui->Command3,
+                      .previous = m_ui->CommandPreviousR,
+                      .hits = m_ui->LabelHitsR };
     prepareBox(*m_ui->ComboTextFind, u"Find what"_s);
     prepareBox(*m_ui->ComboTextReplaceFind, u"Find what"_s);
     prepareBox(*m_ui->ComboTextReplaceWith, u"Replace with"_s);
     connectPage(m_findPage);
     connectPage(m_replacePage);
     connectButtons();
+    m_parts.view.watch(*this);
+    m_parts.view.documents().forEach([this](Document &each) {
+        connect(&each, &Document::edited, this, &FindAndReplace::clearCounts);
+        connect(&each, &Document::replaced, this, &FindAndReplace::clearCounts);
+    });
 }
 
 FindAndReplace::~FindAndReplace() = default;
@@ -91,6 +100,8 @@ void FindAndReplace::connectPage(Page &page)
     connect(page.joystick, &QRadioButton::toggled, this, changed);
     connect(page.find, &QPushButton::clicked, this,
             guarded(m_context.dialogs, [this, &page](bool) { find(page); }));
+    connect(page.previous, &QPushButton::clicked, this,
+            guarded(m_context.dialogs, [this, &page](bool) { findPrevious(page); }));
 }
 
 void FindAndReplace::connectButtons()
@@ -105,8 +116,11 @@ void FindAndReplace::connectButtons()
         connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
     }
     connect(m_ui->Command10, &QPushButton::clicked, this, [this] { Q_EMIT helpOn(u"find"_s); });
-    connect(m_ui->SSTab1, &QTabWidget::currentChanged, this,
-            [this](int tab) { showDefault(Tab(tab)); });
+    connect(m_ui->SSTab1, &QTabWidget::currentChanged, this, [this](int tab) {
+        showDefault(Tab(tab));
+        markHits();
+    });
+    connect(m_ui->LineToFind, &QLineEdit::textChanged, m_ui->LabelLines, &QLabel::clear);
 }
 
 void FindAndReplace::showDefault(Tab tab)
@@ -163,6 +177,72 @@ void FindAndReplace::startOver(Page &page)
     if (&page == &m_replacePage) {
         enableReplacing(false);
     }
+    page.hits->clear();
+    markHits();
+}
+
+void FindAndReplace::clearCounts()
+{
+    // Counted again by the next search, not at every key.
+    m_findPage.hits->clear();
+    m_replacePage.hits->clear();
+}
+
+FindAndReplace::Page *FindAndReplace::shownPage()
+{
+    Page *const pages[] = { &m_findPage, &m_replacePage, nullptr };
+    return pages[m_ui->SSTab1->currentIndex()];
+}
+
+void FindAndReplace::markHits()
+{
+    const Page *page = isVisible() ? shownPage() : nullptr;
+    m_parts.view.documents().forEach([this, page](const Document &each) {
+        const bool isSearched = page && &documentOf(*page) == &each;
+        m_parts.view.markWord(each.kind(), isSearched ? page->what->currentText() : QString(),
+                              page ? optionsOf(*page) : SearchPlain);
+    });
+}
+
+void FindAndReplace::showEvent(QShowEvent *event)
+{
+    QDialog::showEvent(event);
+    markHits();
+}
+
+void FindAndReplace::hideEvent(QHideEvent *event)
+{
+    QDialog::hideEvent(event);
+    markHits();
+}
+
+bool FindAndReplace::isOnLastHit(DocumentKind kind) const
+{
+    const Document &document = m_parts.view.documents().of(kind);
+    return m_hit.page && m_hit.kind == kind && document.selStart() == m_hit.start
+        && document.selLength() == m_hit.length
+        && isSought(document.richText(m_hit.start, m_hit.length).text, LastFindText, SearchOptions);
+}
+
+bool FindAndReplace::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() != QEvent::KeyPress || !isVisible()) {
+        return QDialog::eventFilter(watched, event);
+    }
+    const auto *key = static_cast<QKeyEvent *>(event);
+    const auto held = key->modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier);
+    const bool isEnter = key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter;
+    const auto kind = m_parts.view.kindOf(watched);
+    // A hit has the focus in the text: Enter pressed once more would put a line end in its place.
+    if (!kind || !isEnter || held != Qt::NoModifier || !isOnLastHit(*kind)) {
+        return QDialog::eventFilter(watched, event);
+    }
+    if (key->modifiers().testFlag(Qt::ShiftModifier)) {
+        findPrevious(*m_hit.page);
+    } else {
+        find(*m_hit.page);
+    }
+    return true;
 }
 
 void FindAndReplace::enableReplacing(bool on)
@@ -186,7 +266,7 @@ Document &FindAndReplace::documentOf(const Page &page) const
 bool FindAndReplace::refuses(const Document &document)
 {
     if (document.kind() != DocumentKind::Macro || !m_parts.view.documents().isProtected()) {
-        return false;
+        return m_parts.view.documents().refuseSent(document.kind());
     }
     m_context.dialogs.box(fileProtectedBox());
     return true;
@@ -225,11 +305,26 @@ void FindAndReplace::find(Page &page)
         tellNoHit(page, word, document);
         return;
     }
-    setFirst(page, false);
-    if (&page == &m_replacePage) {
-        enableReplacing(true);
+    showHit(page, document, int(result.start), int(word.size()));
+}
+
+void FindAndReplace::findPrevious(Page &page)
+{
+    Document &document = documentOf(page);
+    const QString word = page.what->currentText();
+    remember(*page.what);
+    if (tellNothingToSearch(word, document)) {
+        return;
     }
-    showHit(document, int(result.start), int(word.size()));
+    SearchOptions = qint16(optionsOf(page));
+    LastFindText = word;
+    const std::vector<qsizetype> hits = allHits(document.text(), word, SearchOptions);
+    if (hits.empty()) {
+        setFirst(page, true);
+        tellNoHit(page, word, document);
+        return;
+    }
+    showHit(page, document, int(hitBefore(hits, document.selStart())), int(word.size()));
 }
 
 void FindAndReplace::tellNoHit(Page &page, const QString &word, const Document &document)
@@ -245,10 +340,16 @@ void FindAndReplace::tellNoHit(Page &page, const QString &word, const Document &
                                + document.name());
 }
 
-void FindAndReplace::showHit(Document &document, int start, int length)
+void FindAndReplace::showHit(Page &page, Document &document, int start, int length)
 {
+    setFirst(page, false);
+    if (&page == &m_replacePage) {
+        enableReplacing(true);
+    }
     m_parts.view.documents().select(document.kind());
     document.select(start, length);
+    m_hit = { &page, document.kind(), start, length };
+    page.hits->setText(hitCount(allHits(document.text(), LastFindText, SearchOptions), start));
     m_context.status.setLine(document.caretLine());
     returnToTexts();
 }
@@ -308,12 +409,25 @@ void FindAndReplace::ReplaceAll()
 
 void FindAndReplace::goToLine()
 {
-    // Keeps the number within int; no file has so many lines.
-    const double line = qBound(0.0, leadingNumber(m_ui->LineToFind->text()), 1e9);
-    if (showLine(m_context, m_parts.view, m_parts.view.documents().selected(), int(line),
-                 LineCaret::AtStart)) {
+    Document &document = m_parts.view.documents().selected();
+    const int line = plainLineNumber(m_ui->LineToFind->text()).value_or(0);
+    if (line < 1 || line > document.content().blockCount()) {
+        tellLines(document);
+        return;
+    }
+    if (showLine(m_context, m_parts.view, document, line, LineCaret::AtStart)) {
         returnToTexts();
     }
+}
+
+void FindAndReplace::tellLines(const Document &document)
+{
+    const int last = document.content().blockCount();
+    m_ui->LabelLines->setText(last == 1 ? document.name() + u" has line 1 only."_s
+                                        : document.name() + u" has lines 1 to "_s
+                                      + QString::number(last) + u'.');
+    m_ui->LineToFind->setFocus();
+    m_ui->LineToFind->selectAll();
 }
 
 } // namespace zeph

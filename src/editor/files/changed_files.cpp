@@ -131,7 +131,10 @@ bool ChangedFiles::ask(Document &document)
         file.asked = file.found;
         switch (m_context.dialogs.box(changedFileBox(document))) {
         case BoxButton::Yes:
-            m_parts.opening.loadAgain(document.kind());
+            // What is on its way to the Cougar stays until it is there.
+            if (!m_parts.view.documents().refuseSent(document.kind())) {
+                m_parts.opening.loadAgain(document.kind());
+            }
             return false;
         case BoxButton::No:
             keepOurs(document);

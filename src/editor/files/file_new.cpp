@@ -7,13 +7,33 @@
 #include "documents/editor_view.h"
 #include "editor/files/file_opening.h"
 #include "editor/files/file_saving.h"
+#include "menus/menu_actions.h"
 #include "platform/status_line.h"
+
+#include <QAction>
+#include <QMenu>
 
 namespace zeph {
 
-FileNew::FileNew(const Context &context, EditorView &view, FileOpening &opening)
+FileNew::FileNew(const Context &context, EditorView &view, MenuActions &actions,
+                 FileOpening &opening)
     : m_context(context), m_view(view), m_opening(opening)
 {
+    connectMenus(actions);
+}
+
+void FileNew::connectMenus(MenuActions &on)
+{
+    on.connectTo(u"mnuFileNewJoystick", [this] { mnuFileNewJoystick_Click(); });
+    on.connectTo(u"mnuFileNewMacro", [this] { mnuFileNewMacro_Click(); });
+    on.connectTo(u"mnuFileNewBoth", [this] { mnuFileNewBoth_Click(); });
+    on.connectTo(u"mnuFileClose", [this] { mnuFileClose_Click(); });
+    on.connectTo(u"mnuFileCloseBoth", [this] { mnuFileCloseBoth_Click(); });
+    QObject::connect(on.menu(u"mnuFile"), &QMenu::aboutToShow, &on, [this, &on] {
+        rewriteUntitled();
+        on.action(u"mnuFileClose")
+            ->setText(u"C&lose "_s + captionOf(m_view.documents().selected().caption()));
+    });
 }
 
 bool FileNew::freshen(DocumentKind kind)
@@ -48,6 +68,9 @@ void FileNew::mnuFileNewMacro_Click()
 
 void FileNew::mnuFileNewBoth_Click()
 {
+    if (m_view.documents().refuseSent(DocumentKind::Joystick)) {
+        return;
+    }
     mnuFileNewJoystick_Click();
     mnuFileNewMacro_Click();
     m_context.status.setText(u"Done .... now what?"_s);

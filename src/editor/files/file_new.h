@@ -8,14 +8,17 @@
 
 namespace zeph {
 
+class Dialogs;
 class EditorView;
 class FileOpening;
+class FileSaving;
+class MenuActions;
 
 /// Starts fresh documents. Closing a document is the same as starting a fresh one.
 class FileNew
 {
 public:
-    FileNew(const Context &context, EditorView &view, FileOpening &opening);
+    FileNew(const Context &context, EditorView &view, MenuActions &actions, FileOpening &opening);
 
     void mnuFileNewJoystick_Click();
     void mnuFileNewMacro_Click();
@@ -29,6 +32,7 @@ public:
     void HardwareHasChanged();
 
 private:
+    void connectMenus(MenuActions &on);
     bool freshen(DocumentKind kind);
 
     Context m_context;
@@ -36,12 +40,8 @@ private:
     FileOpening &m_opening;
 };
 
-class Dialogs;
-class EditorView;
-class FileSaving;
-
-/// Asks about unsaved files, the macro file first, and saves on Yes. False: the program must not
-/// exit.
+/// Asks about unsaved files, the macro file first, and saves on Yes. False when the exit has to
+/// stop.
 bool askBeforeExit(EditorView &view, FileSaving &saving, Dialogs &dialogs);
 
 } // namespace zeph

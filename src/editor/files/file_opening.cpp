@@ -10,12 +10,14 @@
 #include "documents/highlighting.h"
 #include "editor/editor_settings.h"
 #include "editor/files/file_saving.h"
+#include "menus/menu_actions.h"
 #include "platform/input/keyboard.h"
 #include "platform/status_line.h"
 #include "settings/settings.h"
 #include "text/text_lines.h"
 #include "text/use_statements.h"
 
+#include <QAction>
 #include <QFileInfo>
 
 #include <algorithm>
@@ -46,6 +48,19 @@ const QString macroNotOpened = u"Macro file not opened"_s;
 FileOpening::FileOpening(const Context &context, const Parts &parts)
     : m_context(context), m_parts(parts), m_keyboardLayout(context.keyboard.layoutName())
 {
+    connectMenus();
+}
+
+void FileOpening::connectMenus()
+{
+    MenuActions &on = m_parts.actions;
+    on.connectTo(u"mnuFileOpen", [this] { mnuFileOpen_Click(); });
+    on.connectTo(u"mnuFileJoystickLoad", [this] { mnuFileJoystickLoad_Click(); });
+    on.connectTo(u"MnuFileMacroLoad", [this] { MnuFileMacroLoad_Click(); });
+    on.connectTo(u"mnuJoyPopUpSingleFile", [this] {
+        OpenSingleFileOnly = m_parts.actions.action(u"mnuJoyPopUpSingleFile")->isChecked();
+        m_context.settings.of<EditorSettings>().OpenSingleFileOnly = OpenSingleFileOnly;
+    });
 }
 
 void FileOpening::restoreKeyboard()
@@ -59,6 +74,9 @@ void FileOpening::restoreKeyboard()
 
 bool FileOpening::mayReplace(DocumentKind kind, const QString &why, DocumentKind wanted)
 {
+    if (m_parts.view.documents().refuseSent(kind)) {
+        return false;
+    }
     Document &document = m_parts.view.documents().of(kind);
     if (!document.isModified()) {
         return true;
@@ -105,7 +123,9 @@ void FileOpening::mnuFileJoystickLoad_Click(const std::optional<QString> &fileTo
               DocumentKind::Joystick);
     if (path) {
         m_context.status.setText(u"Opening joystick file"_s);
-        loadOrTell(DocumentKind::Joystick, *path);
+        if (loadOrTell(DocumentKind::Joystick, *path)) {
+            m_context.status.setText(u"Finished"_s);
+        }
     }
 }
 
@@ -279,7 +299,8 @@ void FileOpening::offerToReload(const QStringList &overwritten)
         if (isUntitled(document.name()) || !isAmong(overwritten, document)) {
             continue;
         }
-        if (m_context.dialogs.box(reloadBox(document)) == BoxButton::Yes) {
+        if (!m_parts.view.documents().refuseSent(kind)
+            && m_context.dialogs.box(reloadBox(document)) == BoxButton::Yes) {
             loadAgain(kind);
         } else {
             document.setState(Document::Modified);

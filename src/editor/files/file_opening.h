@@ -14,6 +14,7 @@ class ColouredCopies;
 class EditorView;
 class FileSaving;
 class Highlighting;
+class MenuActions;
 
 /// Opens files: from the dialog, from the lists and at the start. Where a path is given, no dialog
 /// is shown.
@@ -23,6 +24,7 @@ class FileOpening : public QObject
 public:
     struct Parts {
         EditorView &view;
+        MenuActions &actions;
         ColouredCopies &copies;
         Highlighting &highlighting;
         FileSaving &saving;
@@ -83,6 +85,7 @@ Q_SIGNALS:
     void keptInSpiteOfDisk(DocumentKind kind);
 
 private:
+    void connectMenus();
     bool load(DocumentKind kind, const QString &path);
     /// As load(); a failure is also shown on the status line.
     bool loadOrTell(DocumentKind kind, const QString &path);

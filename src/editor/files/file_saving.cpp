@@ -6,6 +6,7 @@
 #include "documents/coloured_copies.h"
 #include "documents/editor_view.h"
 #include "editor/editor_settings.h"
+#include "menus/menu_actions.h"
 #include "platform/clock.h"
 #include "platform/core/file_io.h"
 #include "platform/core/text1252.h"
@@ -17,9 +18,13 @@
 
 namespace zeph {
 
-FileSaving::FileSaving(const Context &context, EditorView &view, ColouredCopies &copies)
+FileSaving::FileSaving(const Context &context, EditorView &view, MenuActions &actions,
+                       ColouredCopies &copies)
     : m_context(context), m_view(view), m_copies(copies), m_backups(context)
 {
+    actions.connectTo(u"mnuFileSave", [this] { mnuFileSave_Click(); });
+    actions.connectTo(u"mnuFileSaveAs", [this] { mnuFileSaveAs_Click(); });
+    actions.connectTo(u"mnuFileSaveBoth", [this] { mnuFileSaveBoth_Click(); });
 }
 
 void FileSaving::mnuFileSave_Click()

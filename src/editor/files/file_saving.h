@@ -11,6 +11,7 @@ namespace zeph {
 
 class ColouredCopies;
 class EditorView;
+class MenuActions;
 
 /// Knows what other programs do to the documents' files.
 class OverwriteGuard
@@ -30,7 +31,8 @@ public:
 class FileSaving
 {
 public:
-    FileSaving(const Context &context, EditorView &view, ColouredCopies &copies);
+    FileSaving(const Context &context, EditorView &view, MenuActions &actions,
+               ColouredCopies &copies);
 
     /// Whom to ask before a file is overwritten; it lives as long as files are saved.
     void guardBy(OverwriteGuard &guard) { m_guard = &guard; }

@@ -106,6 +106,23 @@ QString MacroListView::currentName() const
     return m_model.nameAt(currentIndex());
 }
 
+QString MacroListView::selectedName() const
+{
+    // The current entry need not be selected: the toolkit makes the first one current when the list
+    // gets the focus.
+    return selectionModel()->isSelected(currentIndex()) ? currentName() : QString();
+}
+
+void MacroListView::select(const QString &name)
+{
+    for (int row = 0; row < m_model.rowCount(); ++row) {
+        if (m_model.nameAt(m_model.index(row)) == name) {
+            setCurrentIndex(m_model.index(row));
+            return;
+        }
+    }
+}
+
 bool MacroListView::selectFirst()
 {
     setCurrentIndex(m_model.index(0));

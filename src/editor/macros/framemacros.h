@@ -25,6 +25,10 @@ public:
 
     /// The entry under the list's cursor; empty when there is none.
     QString currentName() const;
+    /// The entry that is selected; empty when none is.
+    QString selectedName() const;
+    /// Selects the first entry with that name, if there is one.
+    void select(const QString &name);
     /// Selects the first entry. False in an empty list.
     bool selectFirst();
 

@@ -15,11 +15,14 @@
 #include "platform/status_line.h"
 #include "settings/settings.h"
 #include "settings/settings_files.h"
+#include "text/macro_search.h"
 #include "text/text_lines.h"
 
 #include <QAction>
 #include <QComboBox>
 #include <QMenu>
+
+#include <algorithm>
 
 namespace zeph {
 
@@ -85,6 +88,35 @@ void MacroList::ExtractMacrosAndTitles()
     showHeading(0);
     m_context.status.setTextTooltip(macroCounts(m_table));
     m_context.status.setText(u"Done"_s);
+    Q_EMIT tableChanged();
+}
+
+QString MacroList::chosenMacro() const
+{
+    return m_frame->list().selectedName();
+}
+
+void MacroList::showRenamed(const QString &oldName, const QString &newName)
+{
+    const auto isOld = [&oldName](const QString &name) {
+        return name.compare(oldName, Qt::CaseInsensitive) == 0;
+    };
+    const qsizetype heading = m_heading;
+    const QString chosen = chosenMacro();
+    QStringList ticked = m_model.tickedNames();
+    std::ranges::replace_if(ticked, isOld, newName);
+    for (QString &line : m_table.MacroLines) {
+        line = renamedIn(line, oldName, newName);
+    }
+    m_table = extractMacros(m_table.MacroLines);
+    m_model.setNames(m_table.names);
+    m_model.setTicked(ticked);
+    m_frame->setHeadings(m_table.MacroHeadings);
+    showHeading(heading);
+    m_frame->list().select(isOld(chosen) ? newName : chosen);
+    if (isOld(SelectedMacro)) {
+        SelectedMacro = newName;
+    }
     Q_EMIT tableChanged();
 }
 
@@ -225,10 +257,8 @@ void MacroList::mnuViewMacros_Click()
 
 void MacroList::show()
 {
-    QAction *view = m_parts.actions.action(u"mnuViewMacros");
-    if (!view->isChecked()) {
-        view->trigger();
-    }
+    m_parts.actions.action(u"mnuViewMacros")->setChecked(true);
+    m_frame->show();
 }
 
 void MacroList::storeWidth(int width)
@@ -259,7 +289,7 @@ std::unique_ptr<QMenu> MacroListMenu::build()
     };
     const auto entryOf = [this](const char16_t *name) {
         return [this, name] {
-            m_actions.trigger(QStringView(name));
+            m_actions.action(QStringView(name))->trigger();
         };
     };
     add(u"mnuRHListInsert"_s, u"&Insert into Joystick file"_s, [this] { m_list.List1_DblClick(); });

@@ -53,6 +53,13 @@ public:
     void showHeading(qsizetype heading);
     qsizetype shownHeading() const { return m_heading; }
 
+    /// The macro that is chosen in the list; empty when none is.
+    QString chosenMacro() const;
+    /// Shows a macro under its new name, without waiting for the file to be saved. A line of the
+    /// saved file in which a rename in the texts would find nothing keeps its name. Ticks, heading
+    /// and what is chosen stay.
+    void showRenamed(const QString &oldName, const QString &newName);
+
     /// Shows the selected macro's line on the status panel and, if the settings ask for it, in the
     /// macro text. Without such a line the panel keeps its text.
     void ShowMacroKeys();
@@ -101,7 +108,6 @@ private:
     QString m_listSelection;
 };
 
-class MenuActions;
 class MacroList;
 
 /// The pop-up menu of the macro list.

@@ -33,6 +33,8 @@ public:
     /// Ticks these names and no others.
     void setTicked(const QStringList &names);
     bool isTicked(const QString &name) const;
+    /// All names with a tick, lower-cased.
+    QStringList tickedNames() const { return m_ticked.values(); }
 
     int rowCount(const QModelIndex &parent = {}) const override;
     QVariant data(const QModelIndex &index, int role) const override;

@@ -12,6 +12,7 @@
 #include "menus/menu_actions.h"
 #include "platform/status_line.h"
 #include "text/macro_search.h"
+#include "text/macro_table.h"
 
 #include <QAction>
 #include <QMouseEvent>
@@ -84,10 +85,26 @@ void MacroOperations::FindMacroInJF()
     m_parts.view.centreCaret(DocumentKind::Joystick);
 }
 
+QString MacroOperations::macroToRename() const
+{
+    const QString chosen = m_parts.list.chosenMacro();
+    if (!chosen.isEmpty()) {
+        return chosen;
+    }
+    const QTextCursor &caret = m_parts.view.documents().selected().cursor();
+    return nameAt(caret.block().text(), caret.positionInBlock(), m_parts.list.model().allNames());
+}
+
 void MacroOperations::mnuRenameMacro_Click()
 {
-    MacroRenameForm form(m_context.dialogs, m_parts.list.model().allNames(),
-                         m_parts.list.SelectedMacro, m_parts.view.window());
+    const QStringList &macros = m_parts.list.model().allNames();
+    const QString macroText = m_parts.view.documents().macro().text();
+    MacroRenameForm form(m_context.dialogs,
+                         { .macros = macros,
+                           .chosen = macroToRename(),
+                           // The list is that of the saved file; the text may have more.
+                           .alsoTaken = extractMacros(usableMacroLines(macroText)).names.first() },
+                         m_parts.view.window());
     if (form.exec() != QDialog::Accepted) {
         return;
     }
@@ -105,8 +122,14 @@ void MacroOperations::ChangeMacroName(const QString &oldName, const QString &new
         m_context.dialogs.box(fileProtectedBox());
         return;
     }
+    if (m_parts.view.documents().refuseSent(DocumentKind::Joystick)) {
+        return;
+    }
     const int inJoystick = renameIn(DocumentKind::Joystick, oldName, newName);
     const int inMacro = renameIn(DocumentKind::Macro, oldName, newName);
+    if (inMacro > 0) {
+        m_parts.list.showRenamed(oldName, newName);
+    }
     const auto counted = [this](int count, DocumentKind kind) {
         return QString::number(count) + u" replacements were made in "_s
             + m_parts.view.documents().of(kind).name();

@@ -45,7 +45,8 @@ public:
     /// starts over at the first.
     void FindMacroInJF();
 
-    /// Asks for a macro and its new name, and renames it.
+    /// Asks for a macro and its new name, and renames it. Begins with the macro chosen in the list,
+    /// else with the one at the caret.
     void mnuRenameMacro_Click();
     /// Renames in both texts and tells how many replacements were made.
     void ChangeMacroName(const QString &oldName, const QString &newName);
@@ -59,6 +60,8 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    /// The macro chosen in the list, else the one at the caret; empty when there is neither.
+    QString macroToRename() const;
     int renameIn(DocumentKind kind, const QString &oldName, const QString &newName);
 
     Context m_context;

@@ -3,15 +3,43 @@
 
 #include "editor/macros/macrorenameform.h"
 
+#include "platform/core/text1252.h"
 #include "platform/dialogs.h"
 #include "text/macro_table.h"
 #include "ui_macrorenameform.h"
 
 namespace zeph {
 
-MacroRenameForm::MacroRenameForm(Dialogs &dialogs, const QStringList &macros,
-                                 const QString &selected, QWidget *parent)
-    : QDialog(parent), m_dialogs(dialogs), m_ui(std::make_unique<Ui::MacroRenameForm>())
+namespace {
+
+Box refusalBox(NameFault fault, const QString &name)
+{
+    const auto refusal = [](const QString &why) {
+        return Box{ u"I can't use that name buddy"_s, why, BoxIcon::Exclamation };
+    };
+    switch (fault) {
+    case NameFault::Exists:
+        return refusal(u"There's already a macro called "_s + name + u'.');
+    case NameFault::LanguageWord:
+        return refusal(name
+                       + u" means something of its own in joystick and macro files, so a macro "
+                         "can't be called that."_s);
+    case NameFault::SwitchedOff:
+        return refusal(u"A line that begins with ~ is switched off, so a macro's name can't begin "
+                       "with it."_s);
+    case NameFault::NotInCodePage:
+        return refusal(u"Joystick and macro files can't hold the character "_s
+                       + name[firstNot1252(name)] + u'.');
+    default:
+        return { u"What?!"_s, u"The macronames are the same buddy!"_s, BoxIcon::Information };
+    }
+}
+
+} // namespace
+
+MacroRenameForm::MacroRenameForm(Dialogs &dialogs, const Names &names, QWidget *parent)
+    : QDialog(parent), m_dialogs(dialogs), m_taken(names.macros + names.alsoTaken),
+      m_ui(std::make_unique<Ui::MacroRenameForm>())
 {
     m_ui->setupUi(this);
     connect(m_ui->Text1, &QLineEdit::textEdited, this, [this](const QString &typed) {
@@ -20,26 +48,38 @@ MacroRenameForm::MacroRenameForm(Dialogs &dialogs, const QStringList &macros,
         m_ui->Text1->setCursorPosition(caret);
     });
     connect(m_ui->Text1, &QLineEdit::textChanged, this, &MacroRenameForm::updateRename);
-    connect(m_ui->List1, &QListWidget::currentRowChanged, this, &MacroRenameForm::updateRename);
+    connect(m_ui->List1, &QListWidget::itemSelectionChanged, this, &MacroRenameForm::showChosen);
     connect(m_ui->cmdOK, &QPushButton::clicked, this, &MacroRenameForm::accept);
     connect(m_ui->cmdCancel, &QPushButton::clicked, this, &MacroRenameForm::reject);
-    GetAllMacros(macros, selected);
+    GetAllMacros(names);
     updateRename();
 }
 
 MacroRenameForm::~MacroRenameForm() = default;
 
-void MacroRenameForm::GetAllMacros(const QStringList &macros, const QString &selected)
+void MacroRenameForm::GetAllMacros(const Names &names)
 {
-    m_ui->List1->addItems(macros);
+    m_ui->List1->addItems(names.macros);
+    if (names.chosen.isEmpty()) {
+        return;
+    }
     // Macro names do not depend on case.
-    const auto chosen = m_ui->List1->findItems(selected, Qt::MatchFixedString);
+    const auto chosen = m_ui->List1->findItems(names.chosen, Qt::MatchFixedString);
     if (!chosen.isEmpty()) {
         m_ui->List1->setCurrentItem(chosen.first());
-    }
-    if (!chosen.isEmpty()) {
         m_ui->Text1->setFocus();
     }
+}
+
+void MacroRenameForm::showChosen()
+{
+    // What the user has typed already stays.
+    if (newName() == m_filledIn) {
+        m_filledIn = oldName();
+        m_ui->Text1->setText(m_filledIn);
+        m_ui->Text1->selectAll();
+    }
+    updateRename();
 }
 
 void MacroRenameForm::updateRename()
@@ -49,8 +89,10 @@ void MacroRenameForm::updateRename()
 
 QString MacroRenameForm::oldName() const
 {
-    const QListWidgetItem *chosen = m_ui->List1->currentItem();
-    return chosen ? chosen->text() : QString();
+    // Not the list's current entry: the toolkit makes the first one current when the list gets the
+    // focus, without anybody having chosen it.
+    const QList<QListWidgetItem *> chosen = m_ui->List1->selectedItems();
+    return chosen.isEmpty() ? QString() : chosen.first()->text();
 }
 
 QString MacroRenameForm::newName() const
@@ -65,11 +107,14 @@ bool MacroRenameForm::wantsAutoSave() const
 
 void MacroRenameForm::accept()
 {
-    if (oldName().compare(newName(), Qt::CaseInsensitive) == 0) {
-        m_dialogs.tell(u"What?!"_s, u"The macronames are the same buddy!"_s);
+    const NameFault fault = faultOfNewName(oldName(), newName(), m_taken);
+    if (fault == NameFault::None) {
+        QDialog::accept();
         return;
     }
-    QDialog::accept();
+    m_dialogs.box(refusalBox(fault, newName()));
+    m_ui->Text1->setFocus();
+    m_ui->Text1->selectAll();
 }
 
 } // namespace zeph

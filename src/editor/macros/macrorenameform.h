@@ -22,23 +22,33 @@ class MacroRenameForm : public QDialog
 {
     Q_OBJECT
 public:
-    MacroRenameForm(Dialogs &dialogs, const QStringList &macros, const QString &selected,
-                    QWidget *parent = nullptr);
+    /// The macros to choose from, the one chosen at first (empty for none), and names besides
+    /// theirs that no macro may get.
+    struct Names {
+        QStringList macros;
+        QString chosen = {};
+        QStringList alsoTaken = {};
+    };
+    MacroRenameForm(Dialogs &dialogs, const Names &names, QWidget *parent = nullptr);
     ~MacroRenameForm() override;
 
+    /// The chosen macro; empty when none is.
     QString oldName() const;
     QString newName() const;
     /// Whether to save both files, update the list and identify the macros used after the renaming.
     bool wantsAutoSave() const;
 
-    /// Refuses a new name that equals the old one, in any case of its letters.
+    /// Refuses, with a box, a name that the macro cannot get; the window stays open.
     void accept() override;
 
 private:
-    void GetAllMacros(const QStringList &macros, const QString &selected);
+    void GetAllMacros(const Names &names);
+    void showChosen();
     void updateRename();
 
     Dialogs &m_dialogs;
+    QStringList m_taken;
+    QString m_filledIn; ///< the name that the window itself wrote as the new one
     std::unique_ptr<Ui::MacroRenameForm> m_ui;
 };
 

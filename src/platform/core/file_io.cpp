@@ -5,8 +5,11 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <QRandomGenerator>
 #include <QSaveFile>
 
+#include <filesystem>
+#include <functional>
 #include <system_error>
 
 #ifdef Q_OS_UNIX
@@ -54,6 +57,28 @@ std::optional<std::errc> flushToDisk([[maybe_unused]] int handle)
     return std::nullopt;
 }
 
+/// Flushes all that was written to the disk of an open file.
+std::optional<std::errc> flushWholeDisk(const QFile &file)
+{
+#ifdef Q_OS_LINUX
+    return ::syncfs(file.handle()) == 0 ? std::nullopt : std::optional(std::errc(errno));
+#else
+    return flushToDisk(file.handle());
+#endif
+}
+
+/// A name in the path's folder that no file has; short, since the path's own may be as long as can
+/// be.
+QString nameBeside(const QString &path)
+{
+    const QString start = QFileInfo(path).path() + u"/~"_s;
+    QString name;
+    do {
+        name = start + QString::number(QRandomGenerator::global()->generate(), 36);
+    } while (QFileInfo::exists(name));
+    return name;
+}
+
 } // namespace
 
 Expected<QByteArray, FileError> readWholeFile(const QString &path)
@@ -80,7 +105,10 @@ Expected<QByteArray, FileError> readWholeFile(const QString &path)
     return bytes;
 }
 
-Expected<void, FileError> writeFileAtomically(const QString &path, const QByteArray &bytes)
+namespace {
+
+/// The file that a write to that path replaces: the path itself, or the target of its links.
+Expected<QString, FileError> writableTarget(const QString &path)
 {
     if (path.isEmpty()) {
         return failure(path, std::errc::no_such_file_or_directory);
@@ -96,7 +124,18 @@ Expected<void, FileError> writeFileAtomically(const QString &path, const QByteAr
     if (isReadOnlyFile(info.filePath())) {
         return failure(path, std::errc::permission_denied);
     }
-    QSaveFile file(target);
+    return target;
+}
+
+/// Replaces the file unless the question, asked when only the renaming is left, is answered no.
+Expected<bool, FileError> replaceIf(const QString &path, const QByteArray &bytes,
+                                    const std::function<bool(const QString &target)> &mayReplace)
+{
+    const auto target = writableTarget(path);
+    if (!target) {
+        return Unexpected<FileError>(target.error());
+    }
+    QSaveFile file(*target);
     if (!file.open(QIODevice::WriteOnly)) {
         return failure(path, file.errorString());
     }
@@ -106,10 +145,83 @@ Expected<void, FileError> writeFileAtomically(const QString &path, const QByteAr
     if (const auto refused = flushToDisk(file.handle())) {
         return failure(path, *refused);
     }
+    if (!mayReplace(*target)) {
+        return false;
+    }
     if (!file.commit()) {
         return failure(path, file.errorString());
     }
+    return true;
+}
+
+} // namespace
+
+Expected<void, FileError> writeFileAtomically(const QString &path, const QByteArray &bytes)
+{
+    const auto written = replaceIf(path, bytes, [](const QString &) { return true; });
+    return written ? Expected<void, FileError>() : Unexpected<FileError>(written.error());
+}
+
+Expected<bool, FileError> replaceFile(const QString &path, const QByteArray &held,
+                                      const QByteArray &bytes)
+{
+    return replaceIf(path, bytes, [&held](const QString &target) {
+        return readWholeFile(target).value_or(QByteArray()) == held;
+    });
+}
+
+FileBatch::~FileBatch()
+{
+    for (const Pending &file : m_files) {
+        QFile::remove(file.written);
+    }
+}
+
+Expected<void, FileError> FileBatch::add(const QString &path, const QByteArray &bytes)
+{
+    QFile file(nameBeside(path));
+    if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly)) {
+        return failure(path, file.errorString());
+    }
+    m_files.push_back({ path, file.fileName() });
+    if (const QFileInfo before(path); before.exists()) {
+        file.setPermissions(before.permissions());
+    }
+    if (file.write(bytes) != bytes.size() || !file.flush()) {
+        const QString reason = file.errorString();
+        file.close();
+        QFile::remove(file.fileName());
+        m_files.pop_back();
+        return failure(path, reason);
+    }
     return {};
+}
+
+std::vector<FileError> FileBatch::commit()
+{
+    std::vector<FileError> failed;
+    const auto files = std::exchange(m_files, {});
+    if (files.empty()) {
+        return failed;
+    }
+    QFile any(files.front().written);
+    const auto refused =
+        any.open(QIODevice::ReadOnly) ? flushWholeDisk(any) : std::optional(std::errc::io_error);
+    any.close();
+    for (const Pending &file : files) {
+        std::error_code code;
+        if (refused) {
+            code = std::make_error_code(*refused);
+        } else {
+            std::filesystem::rename(QFileInfo(file.written).filesystemFilePath(),
+                                    QFileInfo(file.path).filesystemFilePath(), code);
+        }
+        if (code) {
+            QFile::remove(file.written);
+            failed.push_back({ file.path, QString::fromStdString(code.message()) });
+        }
+    }
+    return failed;
 }
 
 bool isReadOnlyFile(const QString &path)

@@ -7,8 +7,11 @@
 #include "platform/core/profile_index.h"
 #include "platform/core/text1252.h"
 
+#include <QDeadlineTimer>
 #include <QFileInfo>
 #include <QHash>
+#include <QLockFile>
+#include <QThread>
 
 #include <algorithm>
 #include <vector>
@@ -223,9 +226,42 @@ const ProfileEntry *firstUnwritable(const QList<ProfileEntry> &entries)
     return found == entries.end() ? nullptr : &*found;
 }
 
+/// A program that changes a file again and again must not keep this one busy for ever.
+constexpr int mostAttempts = 100;
+
+/// Windows' own editors write UTF-16 with a mark; without one every other byte of its Latin letters
+/// is NUL.
+bool isUtf16(const QByteArray &file)
+{
+    return file.startsWith("\xFF\xFE") || file.startsWith("\xFE\xFF")
+        || (file.size() > 1 && (file[0] == '\0') != (file[1] == '\0'));
+}
+
+/// The lock of a file that several programs change; it is held as long as this lives. A lock that
+/// cannot be made, or that its owner does not give back in time, keeps nobody from writing.
+class SharedFileLock
+{
+public:
+    explicit SharedFileLock(const QString &path) : m_lock(path + u".lock"_s)
+    {
+        constexpr int staleMs = 3000;
+        constexpr int patienceMs = 5000;
+        constexpr int pauseMs = 5;
+        m_lock.setStaleLockTime(staleMs);
+        const QDeadlineTimer patience(patienceMs);
+        while (!m_lock.tryLock(0) && m_lock.error() == QLockFile::LockFailedError
+               && !patience.hasExpired()) {
+            QThread::msleep(pauseMs);
+        }
+    }
+
+private:
+    QLockFile m_lock;
+};
+
 } // namespace
 
-ProfileFile::ProfileFile(QString path) : m_path(std::move(path)) { }
+ProfileFile::ProfileFile(QString path, ProfileUse use) : m_path(std::move(path)), m_use(use) { }
 
 Expected<QByteArray, FileError> ProfileFile::bytes() const
 {
@@ -258,38 +294,61 @@ Expected<void, FileError> ProfileFile::write(const QList<ProfileEntry> &entries)
     if (entries.isEmpty()) {
         return {};
     }
-    const QString path = diskPath(m_path);
-    const auto read = bytes();
-    if (!read) {
-        // Replacing what cannot be read would lose all other keys.
-        return Unexpected<FileError>(read.error());
-    }
     QList<ProfileEntry> writable = entries;
     writable.removeIf([](const ProfileEntry &entry) { return firstNot1252(entry.value) >= 0; });
-    const QByteArray file = profile::withValues(*read, writable);
-    if (file != *read || !QFileInfo::exists(path)) {
-        if (auto done = writeFileAtomically(path, file); !done) {
-            return done;
-        }
+    const auto done =
+        change([&writable](const QByteArray &file) { return profile::withValues(file, writable); });
+    if (!done) {
+        return done;
     }
     if (const ProfileEntry *lost = firstUnwritable(entries)) {
         return Unexpected<FileError>(FileError{
-            path,
+            diskPath(m_path),
             u"The value of %1 holds a character that the file cannot take."_s.arg(lost->key) });
     }
     return {};
 }
 
-Expected<void, FileError> removeKeys(const ProfileFile &file, QStringView section,
-                                     const QStringList &keys)
+Expected<void, FileError> ProfileFile::remove(QStringView section, const QStringList &keys) const
 {
-    const auto read = file.bytes();
-    if (!read) {
-        return Unexpected<FileError>(read.error());
+    if (!QFileInfo::exists(diskPath(m_path))) {
+        return {};
     }
-    const QByteArray left = profile::withoutKeys(*read, section, keys);
-    return left == *read ? Expected<void, FileError>()
-                         : writeFileAtomically(diskPath(file.path()), left);
+    return change([section, &keys](const QByteArray &file) {
+        return profile::withoutKeys(file, section, keys);
+    });
+}
+
+Expected<void, FileError> ProfileFile::change(const Change &change) const
+{
+    const QString path = diskPath(m_path);
+    std::optional<SharedFileLock> lock;
+    if (m_use == ProfileUse::Shared) {
+        lock.emplace(path);
+    }
+    for (int i = 0; i < mostAttempts; ++i) {
+        const auto held = bytes();
+        if (!held) {
+            // Replacing what cannot be read would lose all other keys.
+            return Unexpected<FileError>(held.error());
+        }
+        if (isUtf16(*held)) {
+            return Unexpected<FileError>(FileError{
+                path, u"It is written in UTF-16, so I left it alone: save it as ANSI text"_s });
+        }
+        const QByteArray changed = change(*held);
+        if (changed == *held && QFileInfo::exists(path)) {
+            return {};
+        }
+        const auto replaced = replaceFile(path, *held, changed);
+        if (!replaced) {
+            return Unexpected<FileError>(replaced.error());
+        }
+        if (*replaced) {
+            return {};
+        }
+    }
+    return Unexpected<FileError>(FileError{ path, u"Another program writes it again and again"_s });
 }
 
 } // namespace zeph

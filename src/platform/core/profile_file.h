@@ -13,6 +13,8 @@
 #include <QList>
 #include <QStringList>
 
+#include <functional>
+
 namespace zeph {
 
 /// Buffer sizes of the reads, in characters with the closing NUL: a value is cut to one less.
@@ -47,12 +49,20 @@ QByteArray withoutKeys(QByteArray file, QStringView section, const QStringList &
 
 } // namespace profile
 
+/// Who changes a profile file.
+enum class ProfileUse {
+    Own, ///< one program at a time
+    Shared ///< several programs: they lock each other out by a file beside it, "NAME.lock"
+};
+
 /// One profile file on disk. Holds no content: each call reads the disk, since other programs write
-/// the same files at any time.
+/// the same files at any time. A program that knows no lock may change a file between the reading
+/// and the replacing: the change is then made once more to what that program wrote. A file in
+/// UTF-16 reads as empty, and writing it is refused.
 class ProfileFile
 {
 public:
-    explicit ProfileFile(QString path);
+    explicit ProfileFile(QString path, ProfileUse use = ProfileUse::Own);
 
     const QString &path() const { return m_path; }
 
@@ -67,13 +77,16 @@ public:
     /// Sets one value or many in one replacement of the file, which is made when missing.
     Expected<void, FileError> write(const ProfileEntry &entry) const;
     Expected<void, FileError> write(const QList<ProfileEntry> &entries) const;
+    /// Takes the keys out in one replacement. A file that has none of them is not touched.
+    Expected<void, FileError> remove(QStringView section, const QStringList &keys) const;
 
 private:
-    QString m_path;
-};
+    using Change = std::function<QByteArray(const QByteArray &file)>;
 
-/// Takes the keys out of a file in one replacement. A file that has none of them is not touched.
-Expected<void, FileError> removeKeys(const ProfileFile &file, QStringView section,
-                                     const QStringList &keys);
+    Expected<void, FileError> change(const Change &change) const;
+
+    QString m_path;
+    ProfileUse m_use;
+};
 
 } // namespace zeph

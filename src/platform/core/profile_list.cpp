@@ -58,7 +58,7 @@ Expected<void, FileError> writeProfileList(const ProfileFile &store, const Profi
             stale.append(field.toString() + QString::number(place));
         }
     }
-    const auto removed = removeKeys(store, keys.section, stale);
+    const auto removed = store.remove(keys.section, stale);
     return written ? removed : written;
 }
 

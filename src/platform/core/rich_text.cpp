@@ -83,7 +83,55 @@ std::vector<Run> stretchOf(const std::vector<Run> &runs, qsizetype from, qsizety
     return stretch;
 }
 
+/// Goes along runs once, cutting stretches off.
+template <class Run> class RunCutter
+{
+public:
+    explicit RunCutter(const std::vector<Run> &runs) : m_runs(runs) { }
+
+    /// The next stretch of a size. The stretch after it starts so much further.
+    std::vector<Run> cut(qsizetype size, qsizetype step)
+    {
+        std::vector<Run> part;
+        qsizetype within = m_within;
+        for (size_t i = m_run; size > 0 && i < m_runs.size(); ++i) {
+            const qsizetype length = std::min(size, sizeOf(m_runs[i]) - within);
+            addRun(part, length, m_runs[i]);
+            size -= length;
+            within = 0;
+        }
+        m_within += step;
+        while (m_run < m_runs.size() && m_within >= sizeOf(m_runs[m_run])) {
+            m_within -= sizeOf(m_runs[m_run++]);
+        }
+        return part;
+    }
+
+private:
+    const std::vector<Run> &m_runs;
+    size_t m_run = 0; ///< the next stretch starts in this run, so far within it
+    qsizetype m_within = 0;
+};
+
 } // namespace
+
+void forEachPiece(const RichText &text, qsizetype size,
+                  const std::function<bool(const RichText &)> &function)
+{
+    RunCutter characters(text.characters);
+    RunCutter paragraphs(text.paragraphs);
+    for (qsizetype from = 0; from < text.text.size(); from += size) {
+        RichText piece;
+        piece.text = text.text.mid(from, size);
+        const qsizetype length = piece.text.size();
+        const qsizetype lineEnds = piece.text.count(u'\n');
+        piece.characters = characters.cut(length, length);
+        piece.paragraphs = paragraphs.cut(lineEnds + 1, lineEnds);
+        if (!function(piece)) {
+            return;
+        }
+    }
+}
 
 RichText RichText::plain(QString text, const CharFormat &format, const ParagraphFormat &paragraph)
 {

@@ -11,6 +11,7 @@
 #include <QHash>
 
 #include <algorithm>
+#include <functional>
 #include <vector>
 
 namespace zeph {
@@ -23,12 +24,15 @@ struct CharFormat {
     bool italic = false;
     bool underline = false;
     std::optional<ColorRef> colour;
+    bool strike = false;
+    QString link = {}; ///< where a hyperlink leads; empty for all other characters
 
     friend bool operator==(const CharFormat &, const CharFormat &) = default;
     friend size_t qHash(const CharFormat &format, size_t seed = 0)
     {
         return qHashMulti(seed, format.family, format.pointSize, format.bold, format.italic,
-                          format.underline, format.colour.has_value(), format.colour.value_or(0));
+                          format.underline, format.colour.has_value(), format.colour.value_or(0),
+                          format.strike, format.link);
     }
 };
 
@@ -112,6 +116,11 @@ template <class Change> void RichText::change(qsizetype from, qsizetype length, 
     }
     mergeAround(first, last);
 }
+
+/// Calls a function with one piece of a text after the other, each of so many characters, until it
+/// gives false. Where a paragraph is cut, both parts have its format. Costs the text's length.
+void forEachPiece(const RichText &text, qsizetype size,
+                  const std::function<bool(const RichText &)> &function);
 
 /// Any number of format changes on one text, each at the cost of the characters that it touches,
 /// however many runs there are.

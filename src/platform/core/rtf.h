@@ -10,7 +10,9 @@
 #include "platform/core/rich_text.h"
 
 #include <QByteArray>
+#include <QFlags>
 
+#include <functional>
 #include <memory>
 
 namespace zeph {
@@ -26,13 +28,38 @@ struct RtfError {
 /// A \par with nothing after it ends the last paragraph and adds no empty one. Bullets are
 /// paragraphs' formats; the numbers of numbered lists stay text.
 Expected<RichText, RtfError> readRtf(QByteArrayView bytes);
-/// The same with the look of the file's first style, which is that of its plain text; nothing for a
-/// file without styles.
-struct StyledRichText {
+
+/// What a file has and a RichText cannot hold.
+enum class RtfLoss {
+    Pictures = 1 << 0,
+    Drawings = 1 << 1,
+    Objects = 1 << 2,
+    Tables = 1 << 3, ///< their texts are read, tabs between the cells
+    HeadersAndFooters = 1 << 4,
+    Footnotes = 1 << 5,
+    Comments = 1 << 6,
+    Fields = 1 << 7, ///< all but hyperlinks; the text that they show is read
+    PageBreaks = 1 << 8,
+    TrackedChanges = 1 << 9,
+    NumberedLists = 1 << 10, ///< the numbers are read as text
+    Effects = 1 << 11, ///< of characters: raised, highlighted, capitals, kinds of underlines ...
+    ParagraphLayout = 1 << 12, ///< spacing, tab stops, right and first line's indents, justified
+};
+Q_DECLARE_FLAGS(RtfLosses, RtfLoss)
+Q_DECLARE_OPERATORS_FOR_FLAGS(RtfLosses)
+
+struct RtfReading {
     RichText text;
+    RtfLosses losses;
+    /// The look of the file's first style, which is that of its plain text; none without styles.
     std::optional<CharFormat> plain;
 };
-Expected<StyledRichText, RtfError> readStyledRtf(QByteArrayView bytes);
+
+/// readRtf() for a file that may be written again: tells what of it the text does not hold. The
+/// function receives the number of bytes read so far, every now and then; when it gives false, the
+/// reading stops with an error.
+Expected<RtfReading, RtfError> readRtfWithLosses(QByteArrayView bytes,
+                                                 const std::function<bool(qsizetype)> &goOn = {});
 
 /// The whole value as RTF 1 in 7-bit ASCII; characters beyond 1252 as \uN and a "?".
 /// readRtf() gives the same value back, but for sizes, which RTF holds in half points.

@@ -14,6 +14,36 @@ namespace {
 // Word nests a few dozen groups; a file that nests more than this was made to do harm.
 constexpr size_t maxDepth = 256;
 constexpr int maxIndentTwips = 31680;
+constexpr qsizetype bytesBetweenQuestions = 1 << 18;
+
+/// Where a field's instruction leads when it is a hyperlink: an address in quotes or without, and
+/// after \l the name of a place. No value for other fields.
+std::optional<QString> linkOf(const QString &instruction)
+{
+    const QString text = instruction.trimmed();
+    if (!text.startsWith(u"HYPERLINK", Qt::CaseInsensitive)) {
+        return std::nullopt;
+    }
+    QString address;
+    QString place;
+    QString other; // such as the tip that is shown over it
+    QString *into = &address;
+    for (qsizetype i = 9; i < text.size(); ++i) {
+        if (text[i] == u'"') {
+            // A backslash in quotes stands for the sign after it.
+            for (++i; i < text.size() && text[i] != u'"'; ++i) {
+                i += text[i] == u'\\' && i + 1 < text.size() ? 1 : 0;
+                *into += text[i];
+            }
+            into = &address;
+        } else if (text[i] == u'\\' && i + 1 < text.size()) {
+            into = text[++i] == u'l' ? &place : &other;
+        } else if (!text[i].isSpace()) {
+            *into += text[i];
+        }
+    }
+    return place.isEmpty() ? address : address + u'#' + place;
+}
 
 bool isLineEnd(QChar c)
 {
@@ -56,7 +86,7 @@ Reader::Reader(QByteArrayView bytes) : m_lexer(bytes)
     m_result.text.reserve(bytes.size() / 2);
 }
 
-Expected<RichText, RtfError> Reader::read()
+Expected<RtfReading, RtfError> Reader::read(const std::function<bool(qsizetype)> &goOn)
 {
     using Kind = Token::Kind;
     const Token open = m_lexer.next();
@@ -65,7 +95,13 @@ Expected<RichText, RtfError> Reader::read()
         return Unexpected<RtfError>({ u"The file is not in Rich Text Format."_s, 0 });
     }
     m_groups.emplace_back();
-    for (;;) {
+    for (qsizetype nextQuestion = bytesBetweenQuestions;;) {
+        if (goOn && m_lexer.offset() >= nextQuestion) {
+            nextQuestion = m_lexer.offset() + bytesBetweenQuestions;
+            if (!goOn(m_lexer.offset())) {
+                return Unexpected<RtfError>(error("The reading was stopped.", m_lexer));
+            }
+        }
         Token token = m_lexer.next();
         if (m_toStepOver > 0 && stepOverFallback(token)) {
             continue;
@@ -91,7 +127,8 @@ Expected<RichText, RtfError> Reader::read()
                 return Unexpected<RtfError>(
                     error("A group is closed that was not opened.", m_lexer));
             }
-            return finish();
+            const auto plain = m_firstStyle ? std::optional(formatOf(*m_firstStyle)) : std::nullopt;
+            return RtfReading{ finish(), m_losses, plain };
         default:
             handle(token);
             break;
@@ -166,6 +203,8 @@ void Reader::closeGroup()
         useCodePageOf(state().look.font < 0 ? m_defaultFont : state().look.font);
     } else if (closed == Destination::Marker) {
         finishMarker();
+    } else if (closed == Destination::Instruction) {
+        finishInstruction();
     } else if (closed == Destination::BulletForm) {
         state().bullet = std::exchange(m_isBulletForm, false) || state().bullet;
     }
@@ -179,7 +218,16 @@ void Reader::handleWord(const Token &token)
     const Word *const word = findWord(token.text);
     if (m_starred && !(word && word->isDestination)) {
         state().destination = Destination::Skipped;
-    } else if (word) {
+        return;
+    }
+    if (!word) {
+        return;
+    }
+    const bool isOff = token.hasValue && (token.value == 0 || token.value == word->usual);
+    if (state().destination == Destination::Document && (word->isDestination || !isOff)) {
+        m_losses |= word->loss;
+    }
+    if (word->handler) {
         (this->*word->handler)(word->argument, token);
     }
 }
@@ -218,6 +266,8 @@ QString *Reader::target(qsizetype added)
         return &m_fonts.current().family;
     case Destination::Marker:
         return &m_marker;
+    case Destination::Instruction:
+        return &m_instruction;
     case Destination::Document:
         break;
     default:
@@ -341,7 +391,7 @@ void Reader::flushBytes()
     }
 }
 
-/// Raw text of the font table: a name ends at ";". One that is spelled \'3b belongs to the name.
+/// Takes text of the font table: a ";" ends a name. One that is spelled \'3b belongs to the name.
 void Reader::putInFont(std::string_view bytes)
 {
     for (const char c : bytes) {
@@ -362,7 +412,19 @@ void Reader::finishMarker()
         state().bullet = true;
         m_paragraphHasBullet = true;
     } else if (!sign.isEmpty()) {
+        m_losses |= RtfLoss::NumberedLists;
         putCharacters(marker);
+    }
+}
+
+/// The text that a hyperlink shows follows in the same group.
+void Reader::finishInstruction()
+{
+    if (const auto link = linkOf(std::exchange(m_instruction, {})); !link || link->isEmpty()) {
+        m_losses |= RtfLoss::Fields;
+    } else {
+        state().look.link = int(m_links.size());
+        m_links.append(*link);
     }
 }
 
@@ -375,12 +437,9 @@ CharFormat Reader::formatOf(const Look &look) const
     format.italic = look.italic;
     format.underline = look.underline;
     format.colour = m_colours.find(look.colour);
+    format.strike = look.strike;
+    format.link = m_links.value(look.link);
     return format;
-}
-
-std::optional<CharFormat> Reader::firstStyle() const
-{
-    return m_firstStyle ? std::optional(formatOf(*m_firstStyle)) : std::nullopt;
 }
 
 RichText Reader::finish()
@@ -403,17 +462,17 @@ RichText Reader::finish()
 
 Expected<RichText, RtfError> readRtf(QByteArrayView bytes)
 {
-    return rtf::Reader(bytes).read();
+    auto reading = rtf::Reader(bytes).read({});
+    if (!reading) {
+        return Unexpected<RtfError>(reading.error());
+    }
+    return std::move(reading->text);
 }
 
-Expected<StyledRichText, RtfError> readStyledRtf(QByteArrayView bytes)
+Expected<RtfReading, RtfError> readRtfWithLosses(QByteArrayView bytes,
+                                                 const std::function<bool(qsizetype)> &goOn)
 {
-    rtf::Reader reader(bytes);
-    auto text = reader.read();
-    if (!text) {
-        return Unexpected<RtfError>(text.error());
-    }
-    return StyledRichText{ *std::move(text), reader.firstStyle() };
+    return rtf::Reader(bytes).read(goOn);
 }
 
 } // namespace zeph

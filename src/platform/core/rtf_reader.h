@@ -10,13 +10,24 @@
 #include "platform/core/rtf_lexer.h"
 #include "platform/core/rtf_tables.h"
 
+#include <QStringList>
+
 namespace zeph::rtf {
 
 /// What the text of a group is for.
-enum class Destination : quint8 { Document, Fonts, Colours, Styles, Marker, BulletForm, Skipped };
+enum class Destination : quint8 {
+    Document,
+    Fonts,
+    Colours,
+    Styles,
+    Marker,
+    BulletForm,
+    Instruction, ///< what a field shows
+    Skipped
+};
 
 /// The styles that words switch.
-enum class Style { Bold, Italic, Underline, NoUnderline };
+enum class Style { Bold, Italic, Underline, NoUnderline, Strike };
 
 /// How characters look, by the numbers that the file gives; -1 where it has said nothing.
 struct Look {
@@ -26,6 +37,8 @@ struct Look {
     bool bold = false;
     bool italic = false;
     bool underline = false;
+    bool strike = false;
+    int link = -1; ///< index of the hyperlink
 
     friend bool operator==(const Look &, const Look &) = default;
 };
@@ -51,9 +64,8 @@ class Reader
 public:
     explicit Reader(QByteArrayView bytes);
 
-    Expected<RichText, RtfError> read();
-    /// The look of the first style, after read().
-    std::optional<CharFormat> firstStyle() const;
+    /// See readRtfWithLosses().
+    Expected<RtfReading, RtfError> read(const std::function<bool(qsizetype)> &goOn);
 
     // What the words do; the table of words names these.
     using Handler = void (Reader::*)(int argument, const Token &token);
@@ -99,6 +111,7 @@ private:
 
     void useCodePageOf(int font);
     void finishMarker();
+    void finishInstruction();
     CharFormat formatOf(const Look &look) const;
 
     Lexer m_lexer;
@@ -115,6 +128,9 @@ private:
 
     QString m_marker;
     bool m_isBulletForm = false;
+    QString m_instruction;
+    QStringList m_links;
+    RtfLosses m_losses;
 
     std::optional<Look> m_firstStyle;
     Look m_runLook; ///< of the last run
@@ -128,9 +144,11 @@ private:
 
 struct Word {
     std::string_view name;
-    Reader::Handler handler;
+    Reader::Handler handler; ///< null for a word that only says of something lost that it is there
     int argument = 0;
     bool isDestination = false;
+    RtfLosses loss = {};
+    int usual = 0; ///< a number with which nothing is lost, beside 0
 };
 
 /// The word of that name, or null for one that is passed over.

@@ -46,7 +46,7 @@ class ColourTable
 public:
     /// Sets red, green or blue (at bit 0, 8 or 16) of the entry that is being read.
     void setPart(int shift, int value);
-    /// Text of the table: each ";" ends an entry.
+    /// Takes text of the table: each ";" ends an entry.
     void put(std::string_view bytes);
 
     /// The colour of that number; none for the control's own and for numbers beyond the table.

@@ -83,7 +83,8 @@ constexpr std::array<bool, 128> makePlainCharacters()
 
 constexpr std::array<bool, 128> plainCharacters = makePlainCharacters();
 
-/// A character that RTF cannot hold as it is.
+/// Writes a character as an RTF escape: a backslash and the character, its byte of Windows-1252 or
+/// its number in Unicode.
 void putEscaped(Sink &sink, char16_t c)
 {
     if (c == u'\\' || c == u'{' || c == u'}') {
@@ -107,6 +108,7 @@ struct Look {
     bool bold = false;
     bool italic = false;
     bool underline = false;
+    bool strike = false;
 };
 
 /// 0 for a size that is none.
@@ -129,7 +131,9 @@ public:
     QByteArray take();
 
 private:
-    void putRun(QStringView run);
+    void putRun(QStringView run, const CharFormat &format);
+    void putLinked(QStringView run, const CharFormat &format);
+    void putText(QStringView run);
     void putCharacters(QStringView characters);
     void putLook(const CharFormat &format);
     void startParagraph();
@@ -174,14 +178,12 @@ void RtfWriter::Body::add(const RichText &piece)
     for (const CharRun &run : piece.characters) {
         const qsizetype to = std::min(from + std::max(run.length, qsizetype(0)), text.size());
         if (to > from) {
-            putLook(run.format);
-            putRun(text.sliced(from, to - from));
+            putRun(text.sliced(from, to - from), run.format);
             from = to;
         }
     }
     if (from < text.size()) {
-        putLook({});
-        putRun(text.sliced(from));
+        putRun(text.sliced(from), {});
     }
 }
 
@@ -193,7 +195,44 @@ QByteArray RtfWriter::Body::take()
     return withHeader();
 }
 
-void RtfWriter::Body::putRun(QStringView run)
+void RtfWriter::Body::putRun(QStringView run, const CharFormat &format)
+{
+    if (format.link.isEmpty()) {
+        putLook(format);
+        putText(run);
+        return;
+    }
+    // A field for each paragraph: what one group says of a paragraph ends with the group.
+    while (!run.isEmpty()) {
+        const qsizetype end = run.indexOf(u'\n');
+        const qsizetype length = end < 0 ? run.size() : end + 1;
+        putLinked(run.first(length), format);
+        run = run.sliced(length);
+    }
+}
+
+void RtfWriter::Body::putLinked(QStringView run, const CharFormat &format)
+{
+    startParagraph();
+    const Look outside = m_look;
+    QString address = format.link;
+    address.replace(u'\\', u"\\\\"_s).replace(u'"', u"\\\""_s);
+    m_body.ensure(bytesPerChange);
+    m_body.put("{\\field{\\*\\fldinst{HYPERLINK \"");
+    m_isWordOpen = false;
+    putText(address);
+    m_body.ensure(bytesPerChange);
+    m_body.put("\"}}{\\fldrslt");
+    m_isWordOpen = true;
+    putLook(format);
+    putText(run);
+    m_body.ensure(bytesPerChange);
+    m_body.put("}}");
+    m_isWordOpen = false;
+    m_look = outside;
+}
+
+void RtfWriter::Body::putText(QStringView run)
 {
     for (; !run.isEmpty(); run = run.sliced(std::min(chunk, run.size()))) {
         m_body.ensure(chunk * bytesPerCharacter + bytesPerChange);
@@ -271,7 +310,7 @@ void RtfWriter::Body::startParagraph()
     m_isWordOpen = true;
 }
 
-/// The sign that readers without lists show, and the list's form where it begins.
+/// Writes the sign that readers without lists show, and where a list begins its form.
 void RtfWriter::Body::putBullet(bool isFirst)
 {
     m_body.put("{\\pntext\\'95\\tab}");
@@ -309,6 +348,7 @@ void RtfWriter::Body::putLook(const CharFormat &format)
     putSwitch("\\b", "\\b0", before.bold, look.bold);
     putSwitch("\\i", "\\i0", before.italic, look.italic);
     putSwitch("\\ul", "\\ulnone", before.underline, look.underline);
+    putSwitch("\\strike", "\\strike0", before.strike, look.strike);
     putNumber("\\cf", before.colour, look.colour);
 }
 
@@ -325,6 +365,7 @@ Look RtfWriter::Body::lookOf(const CharFormat &format)
     look.bold = format.bold;
     look.italic = format.italic;
     look.underline = format.underline;
+    look.strike = format.strike;
     return look;
 }
 

@@ -25,7 +25,8 @@ bool isWholeWord(QStringView text, QStringView word, qsizetype at)
 
 bool isWordCharacter(QChar character)
 {
-    // The lone circumflex of the code page counts as a letter in Unicode, but not to a writer.
+    // Unicode calls the circumflex of Windows-1252 (byte 88, U+02C6) a letter. In a file it is
+    // alone and ends a word.
     return character == u'_' || (character >= u'0' && character <= u'9')
         || (character.isLetter() && character.category() != QChar::Letter_Modifier);
 }

@@ -22,6 +22,15 @@ constexpr QStringView oldUpperHalf =
     u"▌▐▀αßΓπΣσµτΦΘΩδ∞φε∩≡±≥≤⌠⌡÷≈°∙·√ⁿ²■\u00A0";
 static_assert(oldUpperHalf.size() == 128);
 
+/// Characters that nobody sees but that turn the text around them, so that "exe.txt" may be shown
+/// for "txt.exe".
+bool isDirectionMark(QChar c)
+{
+    const char16_t code = c.unicode();
+    return code == 0x061C || code == 0x200E || code == 0x200F || (code >= 0x202A && code <= 0x202E)
+        || (code >= 0x2066 && code <= 0x2069);
+}
+
 bool isDevice(const QString &name)
 {
     static const QStringList devices{ u"CON"_s, u"PRN"_s, u"AUX"_s, u"NUL"_s };
@@ -61,6 +70,9 @@ Expected<void, QString> checkFileName(const QString &name)
     });
     if (refused || !name.isValidUtf16()) {
         return Unexpected<QString>(u"its name holds characters that no file may have"_s);
+    }
+    if (std::any_of(name.begin(), name.end(), isDirectionMark)) {
+        return Unexpected<QString>(u"its name holds marks that turn the direction of reading"_s);
     }
     if (name.endsWith(u'.') || name.endsWith(u' ') || name.startsWith(u' ')) {
         return Unexpected<QString>(u"its name begins or ends with a blank or a dot"_s);

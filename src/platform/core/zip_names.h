@@ -12,7 +12,8 @@
 
 namespace zeph {
 
-/// A name's bytes as text: UTF-8 when they are that, otherwise the old code page of zip files.
+/// Decodes an entry's name: as UTF-8 when its bytes are valid UTF-8, otherwise in code page 437, in
+/// which older zip programs wrote.
 QString zipNameText(const QByteArray &bytes);
 
 /// The path that an entry gets below the folder that it is unpacked into, with "/" as separator;

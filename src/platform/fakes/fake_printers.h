@@ -17,7 +17,7 @@ public:
     int setups = 0;
     QList<PageOrientation> turned; ///< every orientation that was set
 
-    /// Where the next print goes.
+    /// Sets the file into which the next print goes.
     void setFile(const QString &path)
     {
         printer().setOutputFormat(QPrinter::PdfFormat);

@@ -23,7 +23,8 @@ public:
     virtual bool capsLockOn() const = 0;
     /// Turns Caps Lock off. False where the system does not let programs do that.
     virtual bool turnOffCapsLock() = 0;
-    /// The native modifiers of a key event, which are all that some systems tell of the locks.
+    /// Takes the native modifiers of a key event, which are all that some systems tell of the
+    /// locks.
     virtual void noteNativeModifiers(quint32 modifiers) = 0;
 };
 

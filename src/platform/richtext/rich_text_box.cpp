@@ -9,15 +9,97 @@
 
 #include <QKeyEvent>
 #include <QScrollBar>
+#include <QTextBlock>
 
 #include <algorithm>
 #include <cmath>
 
 namespace zeph {
 
+namespace {
+
+// The toolkit breaks a word into lines at a cost of its length squared. One of this many characters
+// takes it some milliseconds.
+constexpr qsizetype longWord = 10000;
+
+} // namespace
+
 RichTextBox::RichTextBox(QWidget *parent) : QTextEdit(parent)
 {
     document()->setIndentWidth(bulletIndentPixels);
+    watchDocument();
+    connect(this, &RichTextBox::cursorPositionChanged, this, &RichTextBox::leaveLink);
+}
+
+void RichTextBox::watchDocument()
+{
+    connect(document(), &QTextDocument::contentsChange, this,
+            [this](int position, int, int added) { wrapLongWords(position, added); });
+}
+
+void RichTextBox::wrapLongWords(int position, int added)
+{
+    if (wordWrapMode() == QTextOption::WrapAnywhere) {
+        return;
+    }
+    const QTextBlock last = document()->findBlock(position + added);
+    for (QTextBlock block = document()->findBlock(position); block.isValid();
+         block = block.next()) {
+        if (block.length() > longWord && holdsLongWord(block.text(), longWord)) {
+            setWordWrapMode(QTextOption::WrapAnywhere);
+            return;
+        }
+        if (block == last) {
+            return;
+        }
+    }
+}
+
+/// What is typed after a hyperlink does not belong to it.
+void RichTextBox::leaveLink()
+{
+    const QTextCursor cursor = textCursor();
+    QTextCharFormat typing = currentCharFormat();
+    if (cursor.hasSelection() || !typing.isAnchor()) {
+        return;
+    }
+    QTextCursor next(cursor);
+    const bool isWithin = next.movePosition(QTextCursor::NextCharacter)
+        && next.charFormat().anchorHref() == typing.anchorHref();
+    if (!isWithin) {
+        typing.clearProperty(QTextFormat::IsAnchor);
+        typing.clearProperty(QTextFormat::AnchorHref);
+        setCurrentCharFormat(typing);
+    }
+}
+
+/// Shows a text that is wrapped as its words need it, without laying it out the other way.
+void RichTextBox::showText(bool hasLongWord, const std::function<void()> &show)
+{
+    if (hasLongWord) {
+        setWordWrapMode(QTextOption::WrapAnywhere);
+    }
+    show();
+    if (!hasLongWord) {
+        setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    }
+    select(0, 0);
+    scrollTo(0);
+}
+
+void RichTextBox::adopt(std::unique_ptr<QTextDocument> document)
+{
+    QTextDocument *const before = this->document();
+    const bool isOwn = before->parent() == this;
+    const bool hasLongWord = holdsLongWord(document->toRawText(), longWord);
+    document->setParent(this);
+    showText(hasLongWord, [&] { setDocument(document.release()); });
+    if (isOwn) {
+        delete before;
+    }
+    watchDocument();
+    Q_EMIT undoAvailable(this->document()->isUndoAvailable());
+    Q_EMIT redoAvailable(this->document()->isRedoAvailable());
 }
 
 RichText RichTextBox::richText() const
@@ -27,9 +109,7 @@ RichText RichTextBox::richText() const
 
 void RichTextBox::setRichText(const RichText &text)
 {
-    zeph::setRichText(*document(), text);
-    select(0, 0);
-    scrollTo(0);
+    showText(holdsLongWord(text.text, longWord), [&] { zeph::setRichText(*document(), text); });
 }
 
 int RichTextBox::selStart() const
@@ -60,6 +140,11 @@ void RichTextBox::select(int start, int length)
 
 void RichTextBox::scrollTo(int position)
 {
+    if (position <= 0) {
+        // Needs no layout of the rest.
+        verticalScrollBar()->setValue(0);
+        return;
+    }
     QTextCursor cursor(document());
     cursor.setPosition(std::clamp(position, 0, document()->characterCount() - 1));
     // The toolkit lays out in steps, and tells the scroll bar its true range only from the event

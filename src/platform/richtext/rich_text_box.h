@@ -7,6 +7,9 @@
 
 #include <QTextEdit>
 
+#include <functional>
+#include <memory>
+
 namespace zeph {
 
 /// A rich text control for windows that show or edit formatted text: the operations of
@@ -19,6 +22,8 @@ public:
 
     RichText richText() const;
     void setRichText(const RichText &text);
+    /// Shows another document, which was filled beforehand, in place of its own.
+    void adopt(std::unique_ptr<QTextDocument> document);
 
     int selStart() const;
     int selLength() const;
@@ -31,13 +36,19 @@ public:
     int find(QStringView word, int from, int options);
 
 protected:
-    /// Shift+Enter starts a line like Enter: the only line end of a text is '\n'.
+    /// Lets Shift+Enter start a line like Enter, since the only line end of a text is '\n'.
     void keyPressEvent(QKeyEvent *event) override;
-    /// The clipboard gives and takes what a rich text can hold: no pictures, tables or links, which
-    /// would be seen and then be lost by a save.
+    /// The clipboard gives and takes what a rich text can hold: no pictures or tables, which would
+    /// be seen and then be lost by a save.
     QMimeData *createMimeDataFromSelection() const override;
     bool canInsertFromMimeData(const QMimeData *source) const override;
     void insertFromMimeData(const QMimeData *source) override;
+
+private:
+    void watchDocument();
+    void showText(bool hasLongWord, const std::function<void()> &show);
+    void wrapLongWords(int position, int added);
+    void leaveLink();
 };
 
 } // namespace zeph

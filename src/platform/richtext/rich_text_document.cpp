@@ -237,6 +237,13 @@ QTextCharFormat toTextFormat(const CharFormat &format)
     result.setFontWeight(format.bold ? QFont::Bold : QFont::Normal);
     result.setFontItalic(format.italic);
     result.setFontUnderline(format.underline);
+    if (format.strike) {
+        result.setFontStrikeOut(true);
+    }
+    if (!format.link.isEmpty()) {
+        result.setAnchor(true);
+        result.setAnchorHref(format.link);
+    }
     if (format.colour) {
         result.setForeground(toColor(*format.colour));
     }
@@ -255,6 +262,8 @@ CharFormat fromTextFormat(const QTextCharFormat &format)
     result.bold = format.fontWeight() >= QFont::DemiBold;
     result.italic = format.fontItalic();
     result.underline = format.fontUnderline();
+    result.strike = format.fontStrikeOut();
+    result.link = format.anchorHref();
     const QBrush brush = format.foreground();
     if (brush.style() == Qt::SolidPattern) {
         const QRgb rgb = brush.color().rgb();
@@ -267,6 +276,41 @@ void setRichText(QTextDocument &document, const RichText &text)
 {
     fill(document, text.paragraphs,
          [&text](QTextCursor &cursor) { insertCharacters(cursor, text); });
+}
+
+bool fillDocument(QTextDocument &document, const RichText &text,
+                  const std::function<bool(qsizetype)> &goOn)
+{
+    constexpr qsizetype pieceSize = 1 << 17;
+    document.setUndoRedoEnabled(false);
+    QTextCursor cursor(&document);
+    // One edit: between edits a cursor asks where it stands, and has all of the text laid out.
+    cursor.beginEditBlock();
+    qsizetype done = 0;
+    bool goesOn = true;
+    forEachPiece(text, pieceSize, [&](const RichText &piece) {
+        insertRichText(cursor, piece);
+        done += piece.text.size();
+        goesOn = goOn(done);
+        return goesOn;
+    });
+    cursor.endEditBlock();
+    document.setUndoRedoEnabled(true);
+    document.setModified(false);
+    return goesOn;
+}
+
+bool holdsLongWord(QStringView text, qsizetype length)
+{
+    qsizetype start = 0;
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        if (text[i].isSpace() || isBlockBorder(text[i])) {
+            start = i + 1;
+        } else if (i + 1 - start >= length) {
+            return true;
+        }
+    }
+    return false;
 }
 
 void setPlainText(QTextDocument &document, const QString &text,

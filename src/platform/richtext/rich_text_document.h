@@ -11,6 +11,8 @@
 #include <QTextCursor>
 #include <QTextDocument>
 
+#include <functional>
+
 namespace zeph {
 
 /// By how much a bullet's text hangs, in device-independent pixels: a quarter of an inch.
@@ -48,10 +50,17 @@ std::vector<ParagraphRun> paragraphRunsOf(const QTextDocument &document, qsizety
 /// No text file holds such a character. The length stays the same, so that the runs fit.
 QString insertableText(const QString &text);
 
+/// Whether somewhere in a text so many characters follow each other at which no line can be broken.
+bool holdsLongWord(QStringView text, qsizetype length);
+
 /// Replaces everything in one edit block, without an entry in the toolkit's own undo, which is
 /// emptied; the document counts as not modified.
 void setRichText(QTextDocument &document, const RichText &text);
-/// The same without looks of characters.
+/// The same for an empty document that nothing shows yet, piece by piece; the function receives the
+/// number of characters so far. False when it gave false: the document holds a part then.
+bool fillDocument(QTextDocument &document, const RichText &text,
+                  const std::function<bool(qsizetype)> &goOn);
+/// Does the same without looks of characters.
 void setPlainText(QTextDocument &document, const QString &text,
                   const std::vector<ParagraphRun> &paragraphs);
 /// Gives the paragraphs of a stretch their formats where they have others.

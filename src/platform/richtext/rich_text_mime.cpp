@@ -114,6 +114,8 @@ RichText pastedText(const QMimeData &data, const CharFormat &plain)
         run.format.family = plain.family;
         run.format.pointSize = plain.pointSize;
         run.format.bold = plain.bold;
+        run.format.strike = false;
+        run.format.link.clear();
         if (!run.format.colour) {
             run.format.colour = plain.colour;
         }

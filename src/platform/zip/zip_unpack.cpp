@@ -11,11 +11,60 @@
 #include <QDir>
 #include <QDirIterator>
 #include <QFileInfo>
+#include <QHash>
+#include <QSet>
 #include <QStringList>
 
 namespace zeph {
 
 namespace {
+
+/// Files that are flushed to the disk together.
+constexpr qsizetype filesPerBatch = 250;
+
+/// The names in folders, each of which is listed once. Names are the same in any case.
+class Listings
+{
+public:
+    /// The path that a name in a folder (with a closing separator) has: as it is there, or as
+    /// wanted when it is not.
+    QString pathOf(const QString &folder, const QString &name)
+    {
+        const Names &names = listed(folder);
+        return folder + (names.exact.contains(name) ? name : names.folded.value(key(name), name));
+    }
+    void add(const QString &folder, const QString &name) { put(listed(folder), name); }
+
+private:
+    struct Names {
+        QSet<QString> exact;
+        QHash<QString, QString> folded; ///< the first of the names that differ in case only
+    };
+
+    static QString key(const QString &name) { return name.toCaseFolded(); }
+    static void put(Names &names, const QString &name)
+    {
+        names.exact.insert(name);
+        if (!names.folded.contains(key(name))) {
+            names.folded.insert(key(name), name);
+        }
+    }
+    Names &listed(const QString &folder)
+    {
+        const auto known = m_folders.find(folder);
+        if (known != m_folders.end()) {
+            return *known;
+        }
+        Names names;
+        const auto all = QDir::AllEntries | QDir::System | QDir::Hidden | QDir::NoDotAndDotDot;
+        for (const QString &name : QDir(folder).entryList(all, QDir::Name)) {
+            put(names, name);
+        }
+        return *m_folders.insert(folder, names);
+    }
+
+    QHash<QString, Names> m_folders;
+};
 
 /// Unpacks one zip.
 class Unpacking
@@ -41,6 +90,7 @@ public:
             }
             take(**entry);
         }
+        finishBatch();
         return m_report;
     }
 
@@ -72,18 +122,17 @@ private:
         if (!parent) {
             refuse(entry, parent.error());
         } else if (!isFolder) {
-            takeFile(entry, *parent + name.sliced(slash + 1));
+            takeFile(entry, *parent, name.sliced(slash + 1));
         }
     }
 
     /// The folder of that name below the target, made where it is missing, with a closing
     /// separator. Names are the same in any case.
-    Expected<QString, QString> makeFolders(const QString &name) const
+    Expected<QString, QString> makeFolders(const QString &name)
     {
         QString path = m_folder;
         for (const QString &part : name.split(u'/', Qt::SkipEmptyParts)) {
-            const QString found = existingPath(path + part);
-            const QString next = found.isEmpty() ? path + part : found;
+            const QString next = wanted(path, part);
             const QFileInfo there(next);
             if (there.isSymLink()) {
                 return Unexpected<QString>(u"a link stands where its folder should be"_s);
@@ -91,18 +140,30 @@ private:
             if (there.exists() && !there.isDir()) {
                 return Unexpected<QString>(u"a file stands where its folder should be"_s);
             }
-            if (!there.exists() && !QDir().mkdir(next)) {
-                return Unexpected<QString>(u"its folder can't be made"_s);
+            if (!there.exists()) {
+                if (!QDir().mkdir(next)) {
+                    return Unexpected<QString>(u"its folder can't be made"_s);
+                }
+                m_listings.add(path, part);
             }
             path = withClosingSeparator(next);
         }
         return path;
     }
 
-    void takeFile(const ZipEntry &entry, const QString &wanted)
+    /// The path for a name in a folder; what the batch holds of that name is in its place then.
+    QString wanted(const QString &folder, const QString &name)
     {
-        const QString found = existingPath(wanted);
-        const QString path = found.isEmpty() ? wanted : found;
+        const QString path = m_listings.pathOf(folder, name);
+        if (m_pending.contains(path)) {
+            finishBatch();
+        }
+        return path;
+    }
+
+    void takeFile(const ZipEntry &entry, const QString &folder, const QString &name)
+    {
+        const QString path = wanted(folder, name);
         const QFileInfo there(path);
         if (there.isSymLink() || there.isDir()) {
             refuse(entry, u"a folder or a link has that name already"_s);
@@ -112,6 +173,10 @@ private:
             refuse(entry, u"a file of that name is read only"_s);
             return;
         }
+        if (entry.size > largestUnpackedFile) {
+            refuse(entry, tooLargeReason);
+            return;
+        }
         if (there.exists() && !mayOverwrite(path)) {
             return;
         }
@@ -119,6 +184,7 @@ private:
         if (!bytes) {
             refuse(entry, bytes.error());
         } else if (*bytes) {
+            m_listings.add(folder, name);
             write(entry, path, **bytes);
         }
     }
@@ -142,7 +208,7 @@ private:
             return !tooLarge && !m_report.stopped;
         });
         if (tooLarge) {
-            return Unexpected<QString>(u"it is too large"_s);
+            return Unexpected<QString>(tooLargeReason);
         }
         return bytes;
     }
@@ -150,11 +216,24 @@ private:
     void write(const ZipEntry &entry, const QString &path, const QByteArray &bytes)
     {
         m_bytes += bytes.size();
-        if (const auto written = writeFileAtomically(path, bytes); !written) {
+        if (const auto written = m_batch.add(path, bytes); !written) {
             refuse(entry, written.error().reason);
             return;
         }
+        m_pending.insert(path, entry.name);
         m_report.written.append(path);
+        if (m_batch.size() >= filesPerBatch) {
+            finishBatch();
+        }
+    }
+
+    void finishBatch()
+    {
+        for (const FileError &failed : m_batch.commit()) {
+            m_report.written.removeOne(failed.path);
+            m_report.refused.append(m_pending.value(failed.path) + u": "_s + failed.reason);
+        }
+        m_pending.clear();
     }
 
     /// With so many bytes of the present entry.
@@ -176,6 +255,8 @@ private:
         m_report.refused.append(entry.name + u": "_s + reason);
     }
 
+    const QString tooLargeReason = u"it is too large"_s;
+
     ZipReader &m_zip;
     const QString &m_folder;
     const UnpackQuestions &m_questions;
@@ -185,6 +266,9 @@ private:
     qint64 m_bytes = 0;
     qint64 m_entries = 0;
     UnpackReport m_report;
+    Listings m_listings;
+    FileBatch m_batch;
+    QHash<QString, QString> m_pending; ///< the batch's paths, and the names of their entries
 };
 
 } // namespace

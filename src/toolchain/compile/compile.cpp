@@ -24,15 +24,23 @@ Compile::Compile(const Context &context, const ToolParts &parts)
 
 void Compile::mnuAppsCompile_Click()
 {
+    m_parts.handshake.commands().run(u"the compile"_s, [this] { compile(); });
+}
+
+void Compile::compile()
+{
     if (!canBegin() || !saveJoystick() || !macroFileMayDiffer()) {
         return;
     }
+    if (m_parts.documents.joystick().path().contains(u'"')) {
+        m_context.dialogs.box(quoteInNameBox(m_parts.documents.joystick().path()));
+        return;
+    }
     m_parts.scene.minimiseToolWindows();
-    // The user may open another file during the wait: the verdict is about this one.
-    const QString path = m_parts.documents.joystick().path();
-    m_parts.handshake.setStatusCaption(u"Compiling "_s + m_parts.documents.joystick().caption());
+    const SentFiles sent = sentFiles(m_parts.documents);
+    m_parts.handshake.setStatusCaption(u"Compiling "_s + sent.joystick.name);
     const ExchangeEnd end = m_parts.handshake.runCompiler(
-        compilerLaunch(m_context.paths, CompilerCommand::Compile, path));
+        compilerLaunch(m_context.paths, CompilerCommand::Compile, sent.joystick.path));
     if (end == ExchangeEnd::Abandoned || end == ExchangeEnd::NotStarted) {
         return;
     }
@@ -42,7 +50,7 @@ void Compile::mnuAppsCompile_Click()
             CompilerTask::Compile, m_context.settings.of<SharedSettings>().PilotCallsign));
     }
     m_context.status.setText(panelAfterCompilerWait(givenUp));
-    tellOutcome(path);
+    tellOutcome(sent);
 }
 
 bool Compile::canBegin()
@@ -101,11 +109,11 @@ bool Compile::macroFileMayDiffer()
         u"want to continue anyway?"_s);
 }
 
-void Compile::tellOutcome(const QString &path)
+void Compile::tellOutcome(const SentFiles &sent)
 {
     const CompilerVerdict verdict = HotasIni(m_context.paths.hotasIni()).readCompiler();
     const VerdictTelling telling =
-        tellVerdict(verdict, CompilerTask::Compile, path,
+        tellVerdict(verdict, CompilerTask::Compile, sent.joystick.path,
                     m_context.settings.of<ToolchainSettings>().HOTASStatusBarErrors);
     if (!telling.panel.isEmpty()) {
         m_context.status.setText(telling.panel);
@@ -114,11 +122,10 @@ void Compile::tellOutcome(const QString &path)
         m_context.dialogs.box(*telling.box);
     }
     if (telling.showHelp) {
-        m_parts.scene.showCompilerHelp(errorOf(verdict, m_parts.documents.joystick().caption(),
-                                               m_parts.documents.macro().caption()));
+        m_parts.scene.showCompilerHelp(errorOf(verdict, sent));
     }
     if (telling.highlightLine != 0) {
-        m_parts.scene.HighlightErrorLine(telling.highlightLine, verdict.ErrorCode);
+        m_parts.scene.HighlightErrorLine(errorOf(verdict, sent));
     }
     if (!telling.failed) {
         m_parts.scene.ResetFocusToEditor();

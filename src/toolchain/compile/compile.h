@@ -8,21 +8,23 @@
 
 namespace zeph {
 
+struct SentFiles;
+
 /// Checks the joystick file on the disk with the compiler, without sending it to the Cougar.
 class Compile
 {
 public:
     Compile(const Context &context, const ToolParts &parts);
 
-    /// The whole of a compile: saves the file, runs the compiler, waits for it and tells its
-    /// verdict.
+    /// Compiles: saves the file, runs the compiler, waits for it and tells its verdict.
     void mnuAppsCompile_Click();
 
 private:
     bool canBegin();
     bool saveJoystick();
     bool macroFileMayDiffer();
-    void tellOutcome(const QString &path);
+    void compile();
+    void tellOutcome(const SentFiles &sent);
 
     Context m_context;
     ToolParts m_parts;

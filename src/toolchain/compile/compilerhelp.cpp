@@ -8,6 +8,9 @@
 #include "platform/core/paths.h"
 #include "platform/core/rtf.h"
 #include "platform/core/text_search.h"
+#include "platform/dialogs.h"
+#include "platform/tool_windows.h"
+#include "toolchain/tool_scene.h"
 #include "ui_compilerhelp.h"
 
 #include <QSignalBlocker>
@@ -22,7 +25,7 @@ CompilerHelp::CompilerHelp(const QString &errorCodesPath, QWidget *parent)
     m_ui->setupUi(this);
     connect(m_ui->FontSize, &QSpinBox::valueChanged, this, &CompilerHelp::setFontSize);
     connect(m_ui->CMD_ShowLine, &QPushButton::clicked, this,
-            [this] { Q_EMIT highlightRequested(m_error.line, m_error.text); });
+            [this] { Q_EMIT highlightRequested(m_error); });
     connect(m_ui->CMD_Help, &QPushButton::clicked, this, &CompilerHelp::helpRequested);
     connect(m_ui->CMD_Close, &QPushButton::clicked, this, &QWidget::close);
     load(errorCodesPath);
@@ -56,8 +59,7 @@ void CompilerHelp::setFontSize(int points)
 void CompilerHelp::ShowTheError(const CompilerError &error)
 {
     m_error = error;
-    const bool inMacroFile = language::documentOfError(error.text) == DocumentKind::Macro;
-    m_ui->LabelFile->setText(u"File: "_s + (inMacroFile ? error.macroName : error.joystickName));
+    m_ui->LabelFile->setText(u"File: "_s + error.file().name);
     m_ui->LabelLine->setText(u"Line: "_s + QString::number(error.line));
     m_ui->LabelError->setText(u"Error: "_s + error.text);
     m_ui->CMD_ShowLine->setEnabled(error.line != 0);
@@ -72,6 +74,20 @@ void CompilerHelp::ShowTheError(const CompilerError &error)
     codes->select(int(entry->entryStart), int(entry->entryEnd - entry->entryStart));
     codes->scrollTo(int(entry->entryStart));
     codes->select(int(entry->entryStart), int(entry->headingEnd - entry->entryStart));
+}
+
+void addCompilerHelp(ToolWindows &windows, const Context &context, ToolScene &scene)
+{
+    windows.offer<CompilerHelp>([context, &scene](QWidget *owner) {
+        auto *help = new CompilerHelp(context.paths.infoFolder() + u"Error codes.rtf"_s, owner);
+        QObject::connect(help, &CompilerHelp::highlightRequested, help,
+                         guarded(context.dialogs, [&scene](const CompilerError &error) {
+                             scene.HighlightErrorLine(error);
+                         }));
+        QObject::connect(help, &CompilerHelp::helpRequested, help,
+                         guarded(context.dialogs, [&scene] { scene.showHelpOnErrors(); }));
+        return help;
+    });
 }
 
 namespace {

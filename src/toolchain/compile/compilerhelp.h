@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "platform/context.h"
 #include "platform/core/rich_text.h"
 #include "toolchain/compile/verdict.h"
 
@@ -30,8 +31,8 @@ public:
     void ShowTheError(const CompilerError &error);
 
 Q_SIGNALS:
-    /// The user wants to see the line in the document.
-    void highlightRequested(int line, const QString &errorText);
+    /// The user wants to see the error's line in the document.
+    void highlightRequested(const zeph::CompilerError &error);
     /// The user wants the help topic on errors.
     void helpRequested();
 
@@ -42,6 +43,12 @@ private:
     std::unique_ptr<Ui::CompilerHelp> m_ui;
     CompilerError m_error;
 };
+
+class ToolScene;
+class ToolWindows;
+
+/// Registers the window, which asks the scene for what happens outside it.
+void addCompilerHelp(ToolWindows &windows, const Context &context, ToolScene &scene);
 
 // "Error codes.rtf", the explanations of the compiler's errors. Each entry starts with its code:
 // "ERROR " and four digits.

@@ -20,6 +20,7 @@
 #include "toolchain/tool_scene.h"
 #include "toolchain/toolchain_settings.h"
 
+#include <QAction>
 #include <utility>
 
 namespace zeph {
@@ -29,28 +30,22 @@ namespace zeph {
 class Download::TextLock
 {
 public:
-    explicit TextLock(Download &download) : m_download(&download)
-    {
-        if (download.m_locks++ == 0) {
-            download.m_parts.documents.joystick().setLocked(true);
-        }
-    }
+    explicit TextLock(Document &text) : m_text(&text) { text.setLocked(true); }
     ~TextLock() { release(); }
     TextLock(const TextLock &) = delete;
     TextLock &operator=(const TextLock &) = delete;
 
     void release()
     {
-        Download *download = std::exchange(m_download, nullptr);
-        if (download && --download->m_locks == 0) {
-            download->m_parts.documents.joystick().setLocked(false);
+        if (Document *text = std::exchange(m_text, nullptr)) {
+            text->setLocked(false);
         }
     }
-    /// The program ends: there is no text to release any more.
-    void forget() { m_download = nullptr; }
+    /// Lets go of a text that is gone, when the program ends: there is nothing to release any more.
+    void forget() { m_text = nullptr; }
 
 private:
-    Download *m_download;
+    Document *m_text;
 };
 
 Download::Download(const Context &context, const ToolParts &parts)
@@ -60,8 +55,17 @@ Download::Download(const Context &context, const ToolParts &parts)
 
 void Download::DownloadTMJ()
 {
+    m_parts.handshake.commands().run(u"the download"_s, [this] { download(); });
+}
+
+void Download::download()
+{
     m_parts.documents.select(DocumentKind::Joystick);
     if (!canBegin() || !joystickFileMayGo() || !macroFileMayDiffer()) {
+        return;
+    }
+    if (m_parts.documents.joystick().path().contains(u'"')) {
+        m_context.dialogs.box(quoteInNameBox(m_parts.documents.joystick().path()));
         return;
     }
     const bool resetsAxes = m_context.settings.of<ToolchainSettings>().UseResetProfile;
@@ -116,15 +120,14 @@ bool Download::macroFileMayDiffer()
 void Download::send()
 {
     const bool enables = m_context.settings.of<DefaultOptions>().DownloadMode;
-    // The user may open another file during the wait: the verdict is about this one.
-    const QString path = m_parts.documents.joystick().path();
+    const SentFiles sent = sentFiles(m_parts.documents);
     m_context.status.setText(
         u" Waiting for compiler to download your file. Please be patient ...."_s);
-    m_parts.handshake.setStatusCaption(u"Downloading "_s + m_parts.documents.joystick().caption());
-    TextLock lock(*this);
+    m_parts.handshake.setStatusCaption(u"Downloading "_s + sent.joystick.name);
+    TextLock lock(m_parts.documents.joystick());
     const ExchangeEnd end = m_parts.handshake.runCompiler(compilerLaunch(
         m_context.paths, enables ? CompilerCommand::DownloadAndEnable : CompilerCommand::Download,
-        path));
+        sent.joystick.path));
     if (end == ExchangeEnd::Abandoned) {
         lock.forget();
         return;
@@ -140,15 +143,15 @@ void Download::send()
     }
     m_context.status.setText(panelAfterCompilerWait(givenUp));
     if (end != ExchangeEnd::NotStarted) {
-        tellOutcome(path, lock);
+        tellOutcome(sent, lock);
     }
 }
 
-void Download::tellOutcome(const QString &path, TextLock &lock)
+void Download::tellOutcome(const SentFiles &sent, TextLock &lock)
 {
     const CompilerVerdict verdict = HotasIni(m_context.paths.hotasIni()).readCompiler();
     const VerdictTelling telling =
-        tellVerdict(verdict, CompilerTask::Download, path,
+        tellVerdict(verdict, CompilerTask::Download, sent.joystick.path,
                     m_context.settings.of<ToolchainSettings>().HOTASStatusBarErrors);
     if (!telling.failed && m_context.settings.of<ToolchainSettings>().NumlockDownloadMode) {
         m_parts.afterDownload.TurnNumLockOn();
@@ -160,7 +163,7 @@ void Download::tellOutcome(const QString &path, TextLock &lock)
         m_context.dialogs.box(*telling.box);
     }
     if (telling.failed) {
-        fail(telling, verdict, lock);
+        fail(telling, verdict, sent, lock);
     } else {
         succeed(lock);
     }
@@ -168,6 +171,7 @@ void Download::tellOutcome(const QString &path, TextLock &lock)
 
 void Download::succeed(TextLock &lock)
 {
+    m_parts.afterDownload.tellStandIn();
     m_parts.afterDownload.GetAppsToRun(m_parts.documents.joystick().text());
     // In Windows mode the Cougar sends no keys to test.
     if (m_context.settings.of<ToolchainSettings>().RunKeyTest
@@ -181,20 +185,24 @@ void Download::succeed(TextLock &lock)
 /// Opens the Key Tester, or the tester that the user prefers.
 void Download::openKeyTester()
 {
-    m_parts.actions.trigger(m_context.settings.of<SharedSettings>().DefaultToDX8KeyTester
-                                ? u"mnuAppsDX8_0"
-                                : u"mnuAppsKeyTester");
+    const QStringView tester = m_context.settings.of<SharedSettings>().DefaultToDX8KeyTester
+        ? u"mnuAppsDX8_0"
+        : u"mnuAppsKeyTester";
+    if (const QString lack = m_parts.actions.lackOf(tester); !lack.isEmpty()) {
+        m_context.status.setText(u' ' + lack);
+    }
+    m_parts.actions.action(tester)->trigger();
 }
 
-void Download::fail(const VerdictTelling &telling, const CompilerVerdict &verdict, TextLock &lock)
+void Download::fail(const VerdictTelling &telling, const CompilerVerdict &verdict,
+                    const SentFiles &sent, TextLock &lock)
 {
     if (telling.showHelp) {
-        m_parts.scene.showCompilerHelp(errorOf(verdict, m_parts.documents.joystick().caption(),
-                                               m_parts.documents.macro().caption()));
+        m_parts.scene.showCompilerHelp(errorOf(verdict, sent));
     }
     lock.release();
     if (telling.highlightLine != 0) {
-        m_parts.scene.HighlightErrorLine(telling.highlightLine, verdict.ErrorCode);
+        m_parts.scene.HighlightErrorLine(errorOf(verdict, sent));
     }
     if (verdict.Status.isEmpty()) {
         m_parts.documents.select(DocumentKind::Joystick);

@@ -9,6 +9,7 @@
 namespace zeph {
 
 struct CompilerVerdict;
+struct SentFiles;
 struct VerdictTelling;
 
 /// Compiles the joystick file on the disk, sends it to the Cougar, and does what the user has
@@ -18,26 +19,25 @@ class Download
 public:
     Download(const Context &context, const ToolParts &parts);
 
-    /// The whole of a download, from saving the file to opening the Key Tester.
+    /// Does a whole download, from saving the file to opening the Key Tester.
     void DownloadTMJ();
 
 private:
     class TextLock;
 
+    void download();
     bool canBegin();
     bool joystickFileMayGo();
     bool macroFileMayDiffer();
     void send();
-    void tellOutcome(const QString &path, TextLock &lock);
+    void tellOutcome(const SentFiles &sent, TextLock &lock);
     void succeed(TextLock &lock);
-    void fail(const VerdictTelling &telling, const CompilerVerdict &verdict, TextLock &lock);
+    void fail(const VerdictTelling &telling, const CompilerVerdict &verdict, const SentFiles &sent,
+              TextLock &lock);
     void openKeyTester();
 
     Context m_context;
     ToolParts m_parts;
-    /// How many downloads keep the text locked: a second one may begin during the first one's wait,
-    /// and when it ends the first one still needs the lock.
-    int m_locks = 0;
 };
 
 } // namespace zeph

@@ -3,7 +3,9 @@
 
 #include "toolchain/compile/download_menu.h"
 
+#include "documents/documents.h"
 #include "menus/menu_actions.h"
+#include "platform/status_line.h"
 #include "settings/settings.h"
 #include "settings/settings_files.h"
 #include "toolchain/default_options.h"
@@ -37,12 +39,23 @@ QString nameOf(int entry)
 } // namespace
 
 DownloadMenu::DownloadMenu(const Context &context, const ToolParts &parts)
-    : m_context(context), m_actions(parts.actions), m_download(context, parts)
+    : m_context(context), m_joystick(parts.documents.joystick()), m_actions(parts.actions),
+      m_download(context, parts)
 {
     for (int i = DownloadFile; i <= IgnoreRunApp; ++i) {
         m_actions.connectTo(nameOf(i), [this, i] { DownloadArray1_Click(i); });
     }
     applySettings();
+    connect(&parts.documents, &Documents::selectedChanged, this, &DownloadMenu::nameTheFile);
+    connect(&m_joystick, &Document::replaced, this, &DownloadMenu::nameTheFile);
+}
+
+void DownloadMenu::nameTheFile()
+{
+    // Only a .tmj file can be downloaded, so other names are not shown.
+    const bool named = lastThree(m_joystick.name()) == extensionOf(DocumentKind::Joystick);
+    const QString what = named ? captionOf(m_joystick.caption()) : u"joystick file"_s;
+    m_actions.action(nameOf(DownloadFile))->setText(u"&Download "_s + what);
 }
 
 void DownloadMenu::DownloadArray1_Click(int index)
@@ -70,10 +83,15 @@ void DownloadMenu::DownloadArray1_Click(int index)
 
 void DownloadMenu::SaveDownloadMode()
 {
-    // A failure is not told: the ticks hold for this run all the same.
-    (void)saveSettings(m_context.settings, settingsFilesOf(m_context.paths),
-                       { &DefaultOptions::DownloadMode, &ToolchainSettings::NumlockDownloadMode,
-                         &ToolchainSettings::RunAppsWithDownload });
+    const auto saved =
+        saveSettings(m_context.settings, settingsFilesOf(m_context.paths),
+                     { &DefaultOptions::DownloadMode, &ToolchainSettings::NumlockDownloadMode,
+                       &ToolchainSettings::RunAppsWithDownload });
+    if (!saved) {
+        // No box: the ticks hold for this run all the same.
+        m_context.status.setText(u" Your choice holds until I end, but I couldn't keep it. "_s
+                                 + saved.error().path + u": "_s + saved.error().reason);
+    }
 }
 
 void DownloadMenu::applySettings()

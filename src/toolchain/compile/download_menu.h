@@ -5,11 +5,16 @@
 
 #include "toolchain/compile/download.h"
 
+#include <QObject>
+
 namespace zeph {
 
+class Document;
+
 /// The Download menu's own five entries: the download and the ticks that say what goes with it.
-class DownloadMenu
+class DownloadMenu : public QObject
 {
+    Q_OBJECT
 public:
     DownloadMenu(const Context &context, const ToolParts &parts);
 
@@ -22,7 +27,10 @@ public:
     void applySettings();
 
 private:
+    void nameTheFile();
+
     Context m_context;
+    Document &m_joystick;
     MenuActions &m_actions;
     Download m_download;
 };

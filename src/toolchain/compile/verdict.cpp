@@ -3,6 +3,9 @@
 
 #include "toolchain/compile/verdict.h"
 
+#include "documents/documents.h"
+#include "language/error_codes.h"
+
 namespace zeph {
 
 namespace {
@@ -107,10 +110,20 @@ VerdictTelling tellGameVerdict(const CompilerVerdict &verdict, bool statusBarOnl
     return telling;
 }
 
-CompilerError errorOf(const CompilerVerdict &verdict, const QString &joystickName,
-                      const QString &macroName)
+SentFiles sentFiles(Documents &documents)
 {
-    return { verdict.ErrorCode, verdict.LineNumber, joystickName, macroName };
+    return { { documents.joystick().path(), documents.joystick().caption() },
+             { documents.macro().path(), documents.macro().caption() } };
+}
+
+const SentFile &CompilerError::file() const
+{
+    return language::documentOfError(text) == DocumentKind::Macro ? files.macro : files.joystick;
+}
+
+CompilerError errorOf(const CompilerVerdict &verdict, const SentFiles &files)
+{
+    return { verdict.ErrorCode, verdict.LineNumber, files };
 }
 
 } // namespace zeph

@@ -10,17 +10,36 @@
 
 namespace zeph {
 
+class Documents;
+
+/// A file that was open when the compiler was started.
+struct SentFile {
+    QString path;
+    QString name; ///< as its tab showed it
+};
+
+/// The pair that was open when the compiler was started: its verdict is about these files, whatever
+/// is open by then.
+struct SentFiles {
+    SentFile joystick;
+    SentFile macro;
+};
+
+/// The open pair.
+SentFiles sentFiles(Documents &documents);
+
 /// An error that the compiler reported, and what is needed to say where it is.
 struct CompilerError {
     QString text; ///< begins with the code
     int line = 0; ///< 1-based; 0 = none
-    QString joystickName; ///< as the first tab shows it
-    QString macroName; ///< as the second tab shows it
+    SentFiles files;
+
+    /// The file in which the error is, by its code.
+    const SentFile &file() const;
 };
 
-/// The error of a verdict about the files that the two tabs show under these names.
-CompilerError errorOf(const CompilerVerdict &verdict, const QString &joystickName,
-                      const QString &macroName);
+/// The error of a verdict about these files.
+CompilerError errorOf(const CompilerVerdict &verdict, const SentFiles &files);
 
 /// What to do to tell a verdict; the members are in the order of doing.
 struct VerdictTelling {

@@ -4,6 +4,7 @@
 #include "toolchain/games/game_launch.h"
 
 #include "documents/documents.h"
+#include "language/file_kinds.h"
 #include "platform/dialogs.h"
 #include "platform/process_launcher.h"
 #include "platform/status_line.h"
@@ -17,6 +18,7 @@
 #include "toolchain/hotas_ini.h"
 #include "toolchain/modes/cougar_modes.h"
 #include "toolchain/modes/profiles.h"
+#include "toolchain/tool_messages.h"
 #include "toolchain/tool_scene.h"
 #include "toolchain/toolchain_settings.h"
 
@@ -63,6 +65,12 @@ void GameLaunch::mnuGameArray_Click(int index)
 {
     // A launched game moves to the top of the list, so it is copied out before anything runs.
     const Game game = m_games.list().value(index - 1);
+    m_parts.handshake.commands().run(u"the launch of "_s + game.GameName,
+                                     [this, game] { launch(game); });
+}
+
+void GameLaunch::launch(const Game &game)
+{
     saveChanged();
     m_games.update(game);
     if (!prepare(game)) {
@@ -115,6 +123,10 @@ bool GameLaunch::download(const QString &wanted)
         return false;
     }
     const QString file = existingPath(wanted);
+    if (file.contains(u'"')) {
+        m_context.dialogs.box(quoteInNameBox(file));
+        return false;
+    }
     if (!resetAxes()) {
         return false;
     }
@@ -164,6 +176,7 @@ bool GameLaunch::tellVerdict(const QString &file)
         if (m_context.settings.of<ToolchainSettings>().NumlockDownloadMode) {
             m_parts.afterDownload.TurnNumLockOn();
         }
+        m_parts.afterDownload.tellStandIn();
         return true;
     }
     const Document &joystick = m_parts.documents.joystick();
@@ -172,12 +185,14 @@ bool GameLaunch::tellVerdict(const QString &file)
     }
     m_parts.documents.select(DocumentKind::Joystick);
     m_context.status.setText(telling.panel);
+    SentFiles sent = sentFiles(m_parts.documents);
+    // The user may have kept the files that are open.
+    sent.joystick = { file, tabCaption(nameOf(file)) };
     if (telling.showHelp) {
-        m_parts.scene.showCompilerHelp(
-            errorOf(verdict, joystick.caption(), m_parts.documents.macro().caption()));
+        m_parts.scene.showCompilerHelp(errorOf(verdict, sent));
     }
     if (telling.highlightLine != 0) {
-        m_parts.scene.HighlightErrorLine(telling.highlightLine, verdict.ErrorCode);
+        m_parts.scene.HighlightErrorLine(errorOf(verdict, sent));
     }
     return false;
 }

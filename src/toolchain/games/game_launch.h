@@ -22,6 +22,7 @@ public:
     void mnuGameArray_Click(int index);
 
 private:
+    void launch(const Game &game);
     void saveChanged();
     /// Brings the Cougar into the game's mode. False ends the launch: the compiler reported an
     /// error, the user does not want to go on without its answer, or the program ends.

@@ -62,9 +62,6 @@ private:
     std::unique_ptr<Ui::GameFields> m_ui;
 };
 
-class Dialogs;
-class GameFields;
-
 namespace Ui {
 class EnterGameName;
 }

@@ -99,8 +99,13 @@ bool CougarModes::changeWholeMode(bool programmed)
 
 void CougarModes::mnuAxesModeArray_Click(int index)
 {
-    waitedRequest(index == 0 ? ConfigCommand::AxesWindows : ConfigCommand::AxesUserDefined,
-                  u" Changing axis mode - hold on this may take some time ..."_s);
+    const bool windows = index == 0;
+    m_handshake.commands().run(
+        windows ? u"the change to Windows axes"_s : u"the change to user defined axes"_s,
+        [this, windows] {
+            waitedRequest(windows ? ConfigCommand::AxesWindows : ConfigCommand::AxesUserDefined,
+                          u" Changing axis mode - hold on this may take some time ..."_s);
+        });
 }
 
 /// False when the program ends meanwhile.
@@ -182,7 +187,9 @@ void CougarModes::UpdateStatusTooltip()
 
 void CougarModes::panelClicked(Qt::MouseButton button)
 {
-    if (button == Qt::LeftButton) {
+    if (button == Qt::LeftButton && m_context.settings.of<ToolchainSettings>().PureWindows) {
+        m_handshake.commands().run(u"the change of the mode"_s, [this] { leftClick(); });
+    } else if (button == Qt::LeftButton) {
         leftClick();
     } else if (button == Qt::RightButton) {
         switchOff();

@@ -29,8 +29,8 @@ public:
     CougarModes(const Context &context, ToolchainHandshake &handshake, Joystick &joystick,
                 QObject *parent = nullptr);
 
-    /// At the start of a run: has the mode reported and starts the detector, if the settings say
-    /// so. Throws as EnableStatusTimer() does.
+    /// Has the mode reported and starts the detector, if the settings say so; called once when a
+    /// run starts. Throws as EnableStatusTimer() does.
     void startOfRun();
 
     /// Changes the buttons' mode or has it reported, and does not wait for the tool. Does nothing,
@@ -41,7 +41,7 @@ public:
     bool changeWholeMode(bool programmed);
     /// Changes the axes' mode (0 Windows, 1 user defined), and waits for the tool.
     void mnuAxesModeArray_Click(int index);
-    /// Shift+Break: puts the buttons into Windows mode at once.
+    /// Puts the buttons into Windows mode at once, for Shift+Break.
     void emergencyOff();
 
     /// Starts the detector again with the stored interval. Throws std::overflow_error for an
@@ -49,7 +49,7 @@ public:
     void EnableStatusTimer();
     /// Shows the mode that was last reported, as the detector does at each tick.
     void ShowCougarMode();
-    /// ShowCougarMode() if the detector runs.
+    /// Calls ShowCougarMode() if the detector runs.
     void showIfDetecting();
     /// Whether the controller of the stored number answers.
     bool IsJoyConnected();

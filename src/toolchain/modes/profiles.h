@@ -34,7 +34,7 @@ public:
     /// touches nothing any more.
     bool ApplyDefaultProfile(const QString &name = {},
                              CalibrationRequest calibration = CalibrationRequest::Stored);
-    /// At the first run: copies the profiles that came with Zeph to the tools' folder, and
+    /// Copies the profiles that came with Zeph to the tools' folder, at the first run, and
     /// overwrites none. Does nothing when the compiler is missing.
     void CopyTMCfiles();
 

@@ -5,7 +5,7 @@
 
 #include "documents/undo_histories.h"
 #include "settings/colour_settings.h"
-#include "tests/documents/editor_fixture.h"
+#include "tests/support/editor_fixture.h"
 
 #include <QAction>
 

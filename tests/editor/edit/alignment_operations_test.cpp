@@ -7,7 +7,7 @@
 #include "editor/editor_settings.h"
 #include "platform/richtext/rich_text_document.h"
 #include "settings/colour_settings.h"
-#include "tests/documents/editor_fixture.h"
+#include "tests/support/editor_fixture.h"
 
 #include <QAction>
 #include <QTest>
@@ -56,11 +56,11 @@ TEST_F(AlignmentOperationsTest, AligningIsOneStepThatModifiesAndColours)
     editor->documents().select(DocumentKind::Macro);
     editor->action(u"mnuAlignSlash")->trigger();
     EXPECT_EQ(editor->joystickText(), u"BTN S1 /I a\n       /O b\n");
-    EXPECT_EQ(editor->selected().kind(), DocumentKind::Joystick);
     EXPECT_EQ(status.text(), u" OK - done!");
     EXPECT_EQ(editor->joystick().state(), Document::Modified);
     EXPECT_EQ(steps(), 1);
     EXPECT_EQ(joystick().shown().richText().formatAt(19).colour, blue);
+    editor->documents().select(DocumentKind::Joystick);
     editor->action(u"mnuEditUndo")->trigger();
     EXPECT_EQ(editor->joystickText(), u"BTN S1 /I a\n/O b");
     editor->action(u"mnuEditRedo")->trigger();
@@ -84,6 +84,30 @@ TEST_F(AlignmentOperationsTest, TheCaretStaysInItsLine)
     editor->action(u"mnuAlignSlash")->trigger();
     EXPECT_EQ(joystick().shown().caretLine(), 3);
     EXPECT_EQ(status.lineText(), u"Line no: 3");
+}
+
+TEST_F(AlignmentOperationsTest, TabSelectionCaretAndFocusAreWhereTheyWere)
+{
+    editor->resize(700, 500);
+    editor->show();
+    load(DocumentKind::Joystick, u"BTN  S1 /I a\n/O  bcd\n"_s);
+    load(DocumentKind::Macro, u"Fire = a"_s);
+    editor->macro().select(2, 3);
+    // Backwards: the caret is before the letters that are selected.
+    editor->joystick().setCaret(20, 17);
+    editor->documents().select(DocumentKind::Macro);
+    QWidget *list = editor->findChild<QWidget *>(u"List1"_s);
+    list->setFocus();
+    ASSERT_EQ(editor->window()->focusWidget(), list);
+    editor->action(u"mnuAlignSlash")->trigger();
+    ASSERT_EQ(editor->joystickText(), u"BTN S1 /I a\n       /O bcd\n");
+    EXPECT_EQ(editor->selected().kind(), DocumentKind::Macro);
+    EXPECT_EQ(editor->window()->focusWidget(), list);
+    EXPECT_EQ(editor->macro().selStart(), 2);
+    EXPECT_EQ(editor->macro().selLength(), 3);
+    EXPECT_EQ(editor->joystick().cursor().anchor(), 25);
+    EXPECT_EQ(editor->joystick().cursor().position(), 22);
+    EXPECT_EQ(status.text(), u" OK - done!");
 }
 
 TEST_F(AlignmentOperationsTest, TheTickIsTheSettingAndMovesStatementsIn)

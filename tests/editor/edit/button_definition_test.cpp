@@ -3,7 +3,7 @@
 
 #include "editor/edit/button_definition.h"
 
-#include "tests/documents/editor_fixture.h"
+#include "tests/support/editor_fixture.h"
 
 using namespace zeph;
 

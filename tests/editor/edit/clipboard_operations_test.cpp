@@ -7,7 +7,7 @@
 #include "editor/edit/editing_tools.h"
 #include "platform/core/rtf.h"
 #include "settings/colour_settings.h"
-#include "tests/documents/editor_fixture.h"
+#include "tests/support/editor_fixture.h"
 
 #include <QAction>
 #include <QClipboard>

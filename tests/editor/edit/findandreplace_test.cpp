@@ -5,12 +5,13 @@
 
 #include "documents/undo_histories.h"
 #include "platform/core/text_search.h"
-#include "tests/documents/editor_fixture.h"
+#include "tests/support/editor_fixture.h"
 
 #include <QAction>
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
@@ -420,15 +421,143 @@ TEST_F(FindAndReplaceTest, GotoGoesToALineOfTheSelectedDocument)
     EXPECT_EQ(editor->selected().kind(), DocumentKind::Macro);
 }
 
-TEST_F(FindAndReplaceTest, ALineThatIsNotThereIsTold)
+TEST_F(FindAndReplaceTest, WhatIsNoLineOfTheFileIsToldInTheWindowItself)
 {
     open(u"mnuEditGoto"_s);
-    for (const QString &line : { u"99"_s, u"0"_s, u"x"_s, u""_s, u"999999999"_s }) {
+    joystick().shown().select(3, 0);
+    for (const QString &line :
+         { u"99"_s, u"5"_s, u"0"_s, u"-2"_s, u"x"_s, u"2x"_s, u"1e0"_s, u""_s, u"999999999"_s }) {
         control<QLineEdit>(u"LineToFind"_s)->setText(line);
-        expectBox(u"Oops!");
+        EXPECT_TRUE(control<QLabel>(u"LabelLines"_s)->text().isEmpty());
         button(u"Command7"_s)->click();
-        EXPECT_EQ(lastBox(), u"Line not found");
+        EXPECT_EQ(control<QLabel>(u"LabelLines"_s)->text(), u"Untitled.tmj has lines 1 to 4.")
+            << line.toStdString();
+        EXPECT_EQ(window()->focusWidget(), control<QLineEdit>(u"LineToFind"_s));
     }
+    EXPECT_TRUE(dialogs.boxes().isEmpty());
+    EXPECT_EQ(selection(joystick()), Selection(3, 0));
+    load(DocumentKind::Joystick, u"one"_s);
+    button(u"Command7"_s)->click();
+    EXPECT_EQ(control<QLabel>(u"LabelLines"_s)->text(), u"Untitled.tmj has line 1 only.");
+}
+
+TEST_F(FindAndReplaceTest, EnterInTheTextFindsTheNextHitInsteadOfReplacingThisOne)
+{
+    open(u"mnuEditFind"_s);
+    write(u"ComboTextFind"_s, u"fire"_s);
+    button(u"Command1"_s)->click();
+    QTest::keyClick(&joystick(), Qt::Key_Return);
+    EXPECT_EQ(selection(joystick()), Selection(9, 4));
+    QTest::keyClick(&joystick(), Qt::Key_Enter, Qt::KeypadModifier);
+    EXPECT_EQ(selection(joystick()), Selection(18, 4));
+    QTest::keyClick(&joystick(), Qt::Key_Return, Qt::ShiftModifier);
+    EXPECT_EQ(selection(joystick()), Selection(9, 4));
+    EXPECT_EQ(editor->joystickText(), u"Fire one\nfire two\nFires three\n");
+    EXPECT_EQ(editor->joystick().state(), Document::Saved);
+}
+
+TEST_F(FindAndReplaceTest, EnterInTheTextIsALineEndAnywhereButOnTheLastHit)
+{
+    open(u"mnuEditFind"_s);
+    write(u"ComboTextFind"_s, u"fire"_s);
+    button(u"Command1"_s)->click();
+    joystick().shown().select(5, 3);
+    QTest::keyClick(&joystick(), Qt::Key_Return);
+    EXPECT_EQ(editor->joystickText(), u"Fire \n\nfire two\nFires three\n");
+    button(u"Command1"_s)->click();
+    const int hit = joystick().shown().selStart();
+    button(u"Command2"_s)->click();
+    QTest::keyClick(&joystick(), Qt::Key_Return);
+    EXPECT_EQ(editor->joystickText(), u"Fire \n\n\n two\nFires three\n") << hit;
+}
+
+TEST_F(FindAndReplaceTest, AHitWhoseTextHasBecomeAnotherIsNoHit)
+{
+    open(u"mnuEditFind"_s);
+    write(u"ComboTextFind"_s, u"fire"_s);
+    button(u"Command1"_s)->click();
+    load(DocumentKind::Joystick, u"Gun  one\nfire two\n"_s);
+    joystick().shown().select(0, 4);
+    QTest::keyClick(&joystick(), Qt::Key_Return);
+    EXPECT_EQ(editor->joystickText(), u"\n one\nfire two\n");
+}
+
+TEST_F(FindAndReplaceTest, PreviousGoesBackAndFromTheFirstHitToTheLast)
+{
+    open(u"mnuEditFind"_s);
+    write(u"ComboTextFind"_s, u"fire"_s);
+    joystick().shown().select(15, 0);
+    const std::pair<Selection, QString> hits[] = {
+        { { 9, 4 }, u"Hit 2 of 3"_s },
+        { { 0, 4 }, u"Hit 1 of 3"_s },
+        { { 18, 4 }, u"Hit 3 of 3"_s },
+    };
+    for (const auto &[place, count] : hits) {
+        button(u"CommandPreviousF"_s)->click();
+        EXPECT_EQ(selection(joystick()), place);
+        EXPECT_EQ(control<QLabel>(u"LabelHitsF"_s)->text(), count);
+    }
+    EXPECT_EQ(button(u"Command1"_s)->text(), u"Find next");
+    write(u"ComboTextFind"_s, u"nowhere"_s);
+    expectBox(notFound);
+    button(u"CommandPreviousF"_s)->click();
+    EXPECT_EQ(lastBox(), u"\"nowhere\" not found in Untitled.tmj");
+}
+
+TEST_F(FindAndReplaceTest, AHitFoundBackwardsCanBeReplaced)
+{
+    open(u"mnuEditReplace"_s);
+    write(u"ComboTextReplaceFind"_s, u"fire"_s);
+    write(u"ComboTextReplaceWith"_s, u"Drop"_s);
+    button(u"CommandPreviousR"_s)->click();
+    EXPECT_EQ(selection(joystick()), Selection(18, 4));
+    expectBox(foundAll);
+    button(u"Command5"_s)->click();
+    EXPECT_EQ(editor->joystickText(), u"Fire one\nfire two\nDrops three\n");
+}
+
+TEST_F(FindAndReplaceTest, TheNumberOfHitsStandsInTheWindowUntilItIsNoLongerTrue)
+{
+    open(u"mnuEditFind"_s);
+    auto *hits = control<QLabel>(u"LabelHitsF"_s);
+    write(u"ComboTextFind"_s, u"fire"_s);
+    button(u"Command1"_s)->click();
+    EXPECT_EQ(hits->text(), u"Hit 1 of 3");
+    control<QCheckBox>(u"MatchCaseF"_s)->click();
+    EXPECT_TRUE(hits->text().isEmpty());
+    button(u"Command1"_s)->click();
+    EXPECT_EQ(hits->text(), u"Hit 1 of 1");
+    joystick().shown().select(0, 0);
+    QTest::keyClicks(&joystick(), u"x"_s);
+    EXPECT_TRUE(hits->text().isEmpty());
+}
+
+TEST_F(FindAndReplaceTest, AllHitsAreMarkedInTheSearchedTextWhileTheWindowIsOpen)
+{
+    joystick().shown().select(0, 0);
+    const auto seen = [](TextControl &text) {
+        return text.viewport()->grab().toImage();
+    };
+    const QImage plain = seen(joystick());
+    open(u"mnuEditFind"_s);
+    write(u"ComboTextFind"_s, u"fire"_s);
+    const QImage marked = seen(joystick());
+    // The right edge of "fire" in the second line, which is no selection.
+    joystick().shown().select(13, 0);
+    const QPoint edge = joystick().cursorRect().center();
+    joystick().shown().select(0, 0);
+    EXPECT_NE(marked, plain);
+    EXPECT_NE(marked.copy(edge.x() - 2, edge.y() - 5, 5, 10),
+              plain.copy(edge.x() - 2, edge.y() - 5, 5, 10));
+    // "two" after it has no mark.
+    EXPECT_EQ(marked.copy(edge.x() + 8, edge.y() - 5, 10, 10),
+              plain.copy(edge.x() + 8, edge.y() - 5, 10, 10));
+    control<QRadioButton>(u"OptionMacroF"_s)->click();
+    EXPECT_EQ(seen(joystick()), plain);
+    control<QRadioButton>(u"OptionJoystickF"_s)->click();
+    EXPECT_EQ(seen(joystick()), marked);
+    button(u"Command2"_s)->click();
+    EXPECT_EQ(seen(joystick()), plain);
 }
 
 TEST_F(FindAndReplaceTest, HelpAsksForTheHelpOnFinding)

@@ -9,7 +9,7 @@
 #include "editor/macros/macro_features.h"
 #include "platform/core/profile_file.h"
 #include "settings/shared_settings.h"
-#include "tests/text/painting_fixture.h"
+#include "tests/support/painting_fixture.h"
 
 #include <QAbstractButton>
 #include <QAction>
@@ -37,7 +37,8 @@ protected:
     }
     QDialog *open(QStringView entry, const QString &name)
     {
-        EXPECT_TRUE(editor->actions().trigger(entry));
+        EXPECT_TRUE(editor->actions().action(entry)->isEnabled());
+        editor->actions().action(entry)->trigger();
         return form(name);
     }
     static void fill(QWidget *form, const QString &field, const QString &text)
@@ -141,7 +142,7 @@ TEST_F(InsertFormsTest, AProtectedMacroFileRefusesEachFormBeforeItOpens)
     for (const QStringView entry :
          { u"mnuInsertHeading", u"mnuInsertTitle", u"mnuInsertRemStatement", u"mnuSlashArray_0" }) {
         dialogs.answer(u"File protected"_s, BoxButton::Ok);
-        editor->actions().trigger(entry);
+        editor->actions().action(entry)->trigger();
     }
     EXPECT_TRUE(editor->findChildren<QDialog *>().isEmpty());
     EXPECT_EQ(dialogs.boxes().size(), 4);
@@ -251,7 +252,7 @@ TEST_F(InsertFormsTest, ASlashModifierIsInsertedInItsColourApartFromWhatFollows)
 {
     set(J, u"BTN S1 Gun"_s);
     caretAt(J, 7);
-    editor->actions().trigger(u"mnuSlashArray_3");
+    editor->actions().action(u"mnuSlashArray_3")->trigger();
     EXPECT_EQ(editor->joystickText(), u"BTN S1 /I Gun");
     EXPECT_EQ(colours(J), u".......sss...");
     EXPECT_EQ(editor->undos().of(J).slots(), 2);
@@ -263,7 +264,7 @@ TEST_F(InsertFormsTest, EachEntryOfTheMenuInsertsItsWord)
     QStringList inserted;
     for (int i = 0; i < 12; ++i) {
         set(J, u""_s);
-        editor->actions().trigger(u"mnuSlashArray_"_s + QString::number(i));
+        editor->actions().action(u"mnuSlashArray_"_s + QString::number(i))->trigger();
         inserted.append(editor->joystickText());
         EXPECT_EQ(colours(J).at(0), i < 10 ? u's' : u'r') << i;
     }
@@ -274,7 +275,7 @@ TEST_F(InsertFormsTest, WhatTheMenuInsertsHasTheColoursOfAFullPass)
 {
     for (int i = 0; i < 12; ++i) {
         set(J, u""_s);
-        editor->actions().trigger(u"mnuSlashArray_"_s + QString::number(i));
+        editor->actions().action(u"mnuSlashArray_"_s + QString::number(i))->trigger();
         const QString inserted = coloursOfWords(J);
         highlighting().ApplyColourHighlighting();
         EXPECT_EQ(coloursOfWords(J), inserted) << i;
@@ -332,7 +333,7 @@ TEST_F(InsertFormsTest, TheSlashWindowThatIsOpenFollowsTheDelay)
 TEST_F(InsertFormsTest, TheQuickTipOpensTheHelp)
 {
     QSignalSpy help(editor.get(), &Editor::helpOn);
-    editor->actions().trigger(u"mnuInsertQuickTip");
+    editor->actions().action(u"mnuInsertQuickTip")->trigger();
     ASSERT_EQ(help.size(), 1);
     EXPECT_EQ(help.first().first().toString(), u"insert forms");
 }

@@ -11,7 +11,7 @@
 #include "editor/files/loss_guards.h"
 #include "menus/menu_actions.h"
 #include "platform/core/rtf.h"
-#include "tests/documents/editor_fixture.h"
+#include "tests/support/editor_fixture.h"
 
 #include <QAction>
 #include <QFile>

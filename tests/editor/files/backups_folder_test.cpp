@@ -3,13 +3,13 @@
 
 #include "editor/files/backups.h"
 
-#include "tests/shell/shell_world.h"
+#include "tests/support/fixture.h"
 
 #include <QFileInfo>
 
 using namespace zeph;
 
-using BackupFolder = test::ShellWorld;
+using BackupFolder = test::WorldTest;
 
 TEST_F(BackupFolder, EmptyMeansTheOneBesideTheProgramWhichIsMade)
 {

@@ -10,7 +10,7 @@
 #include "menus/menu_actions.h"
 #include "platform/core/rtf.h"
 #include "settings/shared_settings.h"
-#include "tests/documents/editor_fixture.h"
+#include "tests/support/editor_fixture.h"
 
 #include <QAction>
 #include <QMenu>

@@ -7,7 +7,7 @@
 #include "editor/files/use_directives.h"
 #include "menus/menu_actions.h"
 #include "platform/core/rtf.h"
-#include "tests/documents/editor_fixture.h"
+#include "tests/support/editor_fixture.h"
 
 using namespace zeph;
 using zeph::test::EditorTest;

@@ -7,7 +7,7 @@
 #include "editor/files/file_new.h"
 #include "editor/files/file_opening.h"
 #include "platform/core/rtf.h"
-#include "tests/documents/editor_fixture.h"
+#include "tests/support/editor_fixture.h"
 
 #include <QAction>
 #include <QMenu>

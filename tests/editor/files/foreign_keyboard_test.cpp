@@ -5,7 +5,7 @@
 
 #include "documents/document_settings.h"
 #include "editor/editor_settings.h"
-#include "tests/shell/shell_world.h"
+#include "tests/support/fixture.h"
 
 #include <QApplication>
 #include <QFocusEvent>
@@ -16,7 +16,7 @@ using namespace zeph;
 
 namespace {
 
-struct KeyboardFix : test::ShellWorld {
+struct KeyboardFix : test::WorldTest {
     QWidget window;
     QLineEdit box{ &window };
     QPushButton button{ &window };

@@ -8,7 +8,7 @@
 #include "platform/fakes/fake_printers.h"
 #include "print/print_pages.h"
 #include "print/printpreview.h"
-#include "tests/text/painting_fixture.h"
+#include "tests/support/painting_fixture.h"
 
 #include <QImage>
 #include <QProcess>
@@ -246,7 +246,8 @@ TEST_F(PrintingTest, PrintingIsNoEdit)
 
 TEST_F(PrintingTest, TheMenuReachesThePrinterSetup)
 {
-    EXPECT_TRUE(editor->actions().trigger(u"mnuFilePrinterSetup"));
+    EXPECT_TRUE(editor->actions().action(u"mnuFilePrinterSetup")->isEnabled());
+    editor->actions().action(u"mnuFilePrinterSetup")->trigger();
     EXPECT_EQ(printers.setups, 1);
 }
 
@@ -269,7 +270,8 @@ TEST_F(PrintingTest, APdfNeedsNoPrinterAndHoldsALongFileWholeInItsColours)
     highlighting().ApplyColourHighlighting();
     const QString exported = folder.file(u"long.pdf"_s);
     dialogs.answerFile(exported);
-    EXPECT_TRUE(editor->actions().trigger(u"mnuFileExportPDF"));
+    EXPECT_TRUE(editor->actions().action(u"mnuFileExportPDF")->isEnabled());
+    editor->actions().action(u"mnuFileExportPDF")->trigger();
     EXPECT_EQ(status.text().toStdString(), (exported + u" saved successfully."_s).toStdString());
 
     // Complete and in order, after the header.

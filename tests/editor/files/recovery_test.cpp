@@ -11,7 +11,7 @@
 #include "editor/files/file_saving.h"
 #include "editor/files/loss_guards.h"
 #include "settings/shared_settings.h"
-#include "tests/documents/editor_fixture.h"
+#include "tests/support/editor_fixture.h"
 
 #include <QFile>
 #include <QTimer>

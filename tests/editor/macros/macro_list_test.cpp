@@ -10,7 +10,7 @@
 #include "menus/menu_actions.h"
 #include "platform/core/profile_file.h"
 #include "settings/colour_settings.h"
-#include "tests/documents/editor_fixture.h"
+#include "tests/support/editor_fixture.h"
 
 #include <QAction>
 #include <QComboBox>

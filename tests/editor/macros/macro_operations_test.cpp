@@ -10,11 +10,13 @@
 #include "editor/macros/macrorenameform.h"
 #include "menus/menu_actions.h"
 #include "settings/shared_settings.h"
-#include "tests/documents/editor_fixture.h"
+#include "tests/support/editor_fixture.h"
 
 #include <QAction>
 #include <QCheckBox>
+#include <QClipboard>
 #include <QComboBox>
+#include <QGuiApplication>
 #include <QLineEdit>
 #include <QListView>
 #include <QListWidget>
@@ -326,7 +328,9 @@ TEST_F(MacroOperationsTest, TheRenameWindowListsAllMacrosWithTheSelectedOneChose
         auto *macros = form.findChild<QListWidget *>(u"List1"_s);
         EXPECT_EQ(macros->count(), 2);
         EXPECT_EQ(macros->currentItem()->text(), u"Gun");
-        EXPECT_FALSE(form.findChild<QPushButton *>(u"cmdOK"_s)->isEnabled());
+        EXPECT_EQ(form.oldName(), u"Gun");
+        EXPECT_EQ(form.newName(), u"Gun");
+        EXPECT_EQ(form.findChild<QLineEdit *>(u"Text1"_s)->selectedText(), u"Gun");
     });
     editor->action(u"mnuRenameMacro")->trigger();
     EXPECT_EQ(editor->macroText().left(8), u"Fire = a");
@@ -334,7 +338,7 @@ TEST_F(MacroOperationsTest, TheRenameWindowListsAllMacrosWithTheSelectedOneChose
 
 TEST_F(MacroOperationsTest, ATypedBlankBecomesAnUnderscoreAtOnce)
 {
-    MacroRenameForm form(dialogs, { u"Fire"_s }, u"Fire"_s);
+    MacroRenameForm form(dialogs, { { u"Fire"_s }, u"Fire"_s });
     auto *edit = form.findChild<QLineEdit *>(u"Text1"_s);
     QTest::keyClicks(edit, u"Go now"_s);
     EXPECT_EQ(edit->text(), u"Go_now");
@@ -345,19 +349,136 @@ TEST_F(MacroOperationsTest, ATypedBlankBecomesAnUnderscoreAtOnce)
     EXPECT_EQ(form.newName(), u"Go__x_now");
 }
 
-TEST_F(MacroOperationsTest, TheSameNameInAnyCaseIsRefusedAndTheWindowStays)
+TEST_F(MacroOperationsTest, TheVerySameNameIsRefusedAndTheWindowStays)
 {
-    MacroRenameForm form(dialogs, { u"Fire"_s, u"Gun"_s }, u"Fire"_s);
+    MacroRenameForm form(dialogs, { { u"Fire"_s, u"Gun"_s }, u"Fire"_s });
     form.show();
-    QTest::keyClicks(form.findChild<QLineEdit *>(u"Text1"_s), u"FIRE"_s);
     dialogs.answer(u"What?!"_s, BoxButton::Ok);
     QTest::mouseClick(form.findChild<QPushButton *>(u"cmdOK"_s), Qt::LeftButton);
     EXPECT_EQ(dialogs.boxes().last().text, u"The macronames are the same buddy!");
     EXPECT_TRUE(form.isVisible());
-    form.findChild<QListWidget *>(u"List1"_s)->setCurrentRow(1);
+    QTest::keyClicks(form.findChild<QLineEdit *>(u"Text1"_s), u"FIRE"_s);
     QTest::mouseClick(form.findChild<QPushButton *>(u"cmdOK"_s), Qt::LeftButton);
     EXPECT_EQ(form.result(), QDialog::Accepted);
+    EXPECT_EQ(form.newName(), u"FIRE");
+}
+
+TEST_F(MacroOperationsTest, ANameThatNoMacroMayGetIsRefusedWithTheReason)
+{
+    MacroRenameForm form(
+        dialogs,
+        { .macros = { u"Fire"_s, u"Gun"_s }, .chosen = u"Fire"_s, .alsoTaken = { u"Unsaved"_s } });
+    form.show();
+    auto *edit = form.findChild<QLineEdit *>(u"Text1"_s);
+    const std::pair<QString, QString> names[] = {
+        { u"gun"_s, u"There's already a macro called gun."_s },
+        { u"unsaved"_s, u"There's already a macro called unsaved."_s },
+        { u"Rem"_s, u"Rem means something of its own"_s },
+        { u"usb"_s, u"usb means something of its own"_s },
+        { u"~x"_s, u"A line that begins with ~ is switched off"_s },
+        { u"aΩ"_s, u"can't hold the character Ω."_s },
+    };
+    for (const auto &[name, reason] : names) {
+        edit->setText(name);
+        dialogs.answer(u"I can't use that name buddy"_s, BoxButton::Ok);
+        QTest::mouseClick(form.findChild<QPushButton *>(u"cmdOK"_s), Qt::LeftButton);
+        EXPECT_TRUE(dialogs.boxes().last().text.contains(reason))
+            << dialogs.boxes().last().text.toStdString();
+        EXPECT_TRUE(form.isVisible());
+        EXPECT_EQ(edit->selectedText(), name);
+    }
+}
+
+TEST_F(MacroOperationsTest, WithoutAMacroChosenTheButtonIsOffHoweverTheFocusMoves)
+{
+    MacroRenameForm form(dialogs, { { u"Fire"_s, u"Gun"_s } });
+    form.show();
+    form.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&form));
+    auto *macros = form.findChild<QListWidget *>(u"List1"_s);
+    auto *edit = form.findChild<QLineEdit *>(u"Text1"_s);
+    macros->setFocus();
+    edit->setFocus();
+    QTest::keyClicks(edit, u"Go"_s);
+    EXPECT_FALSE(form.findChild<QPushButton *>(u"cmdOK"_s)->isEnabled());
+    EXPECT_EQ(form.oldName(), QString());
+    // What was typed first stays when a macro is chosen afterwards.
+    macros->setCurrentRow(1);
     EXPECT_EQ(form.oldName(), u"Gun");
+    EXPECT_EQ(form.newName(), u"Go");
+    EXPECT_TRUE(form.findChild<QPushButton *>(u"cmdOK"_s)->isEnabled());
+}
+
+TEST_F(MacroOperationsTest, AnotherMacroChosenFillsInItsOwnName)
+{
+    MacroRenameForm form(dialogs, { { u"Fire"_s, u"Gun"_s }, u"Fire"_s });
+    auto *macros = form.findChild<QListWidget *>(u"List1"_s);
+    macros->setCurrentRow(1);
+    EXPECT_EQ(form.newName(), u"Gun");
+    form.findChild<QLineEdit *>(u"Text1"_s)->clear();
+    EXPECT_FALSE(form.findChild<QPushButton *>(u"cmdOK"_s)->isEnabled());
+}
+
+TEST_F(MacroOperationsTest, APastedLineEndIsNotTaken)
+{
+    MacroRenameForm form(dialogs, { { u"Fire"_s }, u"Fire"_s });
+    auto *edit = form.findChild<QLineEdit *>(u"Text1"_s);
+    QGuiApplication::clipboard()->setText(u"Go\r\n"_s);
+    edit->selectAll();
+    edit->paste();
+    EXPECT_EQ(form.newName(), u"Go");
+    QGuiApplication::clipboard()->setText(u"a\nb"_s);
+    edit->selectAll();
+    edit->paste();
+    EXPECT_EQ(form.newName(), u"a_b");
+}
+
+TEST_F(MacroOperationsTest, TheRenameWindowBeginsWithTheMacroAtTheCaretWhenTheListHasNone)
+{
+    open("BTN S1 gun\r\nBTN S2 x\r\n", "Fire = a\r\nGun = b\r\n");
+    editor->documents().select(DocumentKind::Joystick);
+    const auto begunWith = [this] {
+        QString chosen;
+        answerRename([&chosen](MacroRenameForm &form) { chosen = form.oldName(); });
+        editor->action(u"mnuRenameMacro")->trigger();
+        return chosen;
+    };
+    joystick()->shown().select(8, 0);
+    EXPECT_EQ(begunWith(), u"Gun");
+    // The mouse crossed a word that is no macro on its way to the menu.
+    moveMouseTo(placeOf(1));
+    EXPECT_EQ(list().SelectedMacro, u"BTN");
+    joystick()->shown().select(0, 0);
+    EXPECT_EQ(begunWith(), QString());
+    editor->documents().select(DocumentKind::Macro);
+    EXPECT_EQ(begunWith(), u"Fire");
+    QTest::mouseClick(listView()->viewport(), Qt::LeftButton, {}, placeInList(1));
+    EXPECT_EQ(begunWith(), u"Gun");
+}
+
+TEST_F(MacroOperationsTest, AfterARenameTheListShowsTheNewNameAtOnce)
+{
+    open("BTN S1 Fire\r\nBTN S2 Gun\r\n",
+         "Fire = a\r\nrem --\r\nRem guns\r\nrem --\r\nGun = Fire\r\nFire=x\r\n");
+    identify();
+    list().Combo1_Click(u"Guns"_s);
+    ASSERT_EQ(list().chosenMacro(), u"Gun");
+    QSignalSpy told(&list(), &MacroList::tableChanged);
+    dialogs.answer(renamedTitle, BoxButton::Ok);
+    operations().ChangeMacroName(u"Fire"_s, u"Go"_s);
+    // In "Fire=x" no blank follows, so a rename leaves it as it is in the text too.
+    EXPECT_EQ(list().model().allNames(), (QStringList{ u"Go"_s, u"Gun"_s, u"Fire"_s }));
+    EXPECT_EQ(ticked(), (QStringList{ u"Go"_s, u"Gun"_s }));
+    EXPECT_EQ(list().shownHeading(), 1);
+    EXPECT_EQ(list().chosenMacro(), u"Gun");
+    EXPECT_EQ(told.size(), 1);
+    dialogs.answer(renamedTitle, BoxButton::Ok);
+    operations().ChangeMacroName(u"Gun"_s, u"GUN"_s);
+    EXPECT_EQ(list().chosenMacro(), u"GUN");
+    EXPECT_EQ(list().SelectedMacro, u"GUN");
+    EXPECT_EQ(editor->joystickText(), u"BTN S1 Go\nBTN S2 GUN\n");
+    list().ShowMacroKeys();
+    EXPECT_EQ(status.text(), u"GUN = Go");
 }
 
 TEST_F(MacroOperationsTest, ARenameWithAutomaticSavingSavesUpdatesAndTicks)
@@ -366,7 +487,7 @@ TEST_F(MacroOperationsTest, ARenameWithAutomaticSavingSavesUpdatesAndTicks)
     settings.of<EditorSettings>().MacroSaveUpdateMacros = false;
     settings.of<EditorSettings>().MacroSaveIdentifyJF = false;
     editor->applySettings();
-    list().SelectedMacro = u"Fire"_s;
+    list().Combo1_Click(u"All"_s);
     answerRename([](MacroRenameForm &form) {
         QTest::keyClicks(form.findChild<QLineEdit *>(u"Text1"_s), u"Go"_s);
         form.findChild<QCheckBox *>(u"CheckAutoSave"_s)->setChecked(true);
@@ -384,7 +505,7 @@ TEST_F(MacroOperationsTest, ARenameWithAutomaticSavingSavesUpdatesAndTicks)
 TEST_F(MacroOperationsTest, ARenameWithoutItSavesNothing)
 {
     open("BTN S1 Fire\r\n", "Fire = SPC\r\n");
-    list().SelectedMacro = u"Fire"_s;
+    list().Combo1_Click(u"All"_s);
     answerRename([](MacroRenameForm &form) {
         QTest::keyClicks(form.findChild<QLineEdit *>(u"Text1"_s), u"Go"_s);
         QTest::keyClick(form.findChild<QLineEdit *>(u"Text1"_s), Qt::Key_Return);
@@ -393,7 +514,7 @@ TEST_F(MacroOperationsTest, ARenameWithoutItSavesNothing)
     editor->action(u"mnuRenameMacro")->trigger();
     EXPECT_EQ(editor->joystickText(), u"BTN S1 Go\n");
     EXPECT_EQ(folder.read(u"Files/j.tmj"_s), "BTN S1 Fire\r\n");
-    EXPECT_EQ(list().model().allNames(), QStringList{ u"Fire"_s });
+    EXPECT_EQ(list().model().allNames(), QStringList{ u"Go"_s });
 }
 
 TEST_F(MacroOperationsTest, TheMouseOverAMacroShowsItsKeys)

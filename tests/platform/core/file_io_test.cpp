@@ -271,3 +271,74 @@ TEST(WriteFileAtomically, AProcessKilledAtAnyMomentLeavesTheOldOrTheNewFileWhole
 }
 
 #endif
+
+TEST(FileBatch, PutsAllFilesInPlaceAtOnceAndLeavesNothingElse)
+{
+    const TempFolder folder;
+    folder.write(u"a"_s, "old");
+    QFile::setPermissions(folder.file(u"a"_s), QFile::ReadOwner | QFile::WriteOwner);
+    const QString longest(255, u'n');
+    FileBatch batch;
+    ASSERT_TRUE(batch.add(folder.file(u"a"_s), "new"));
+    ASSERT_TRUE(batch.add(folder.file(u"b"_s), "other"));
+    ASSERT_TRUE(batch.add(folder.file(longest), ""));
+    EXPECT_EQ(folder.read(u"a"_s), "old");
+    EXPECT_FALSE(folder.exists(u"b"_s));
+    EXPECT_EQ(batch.size(), 3);
+    EXPECT_TRUE(batch.commit().empty());
+    EXPECT_EQ(batch.size(), 0);
+    EXPECT_EQ(folder.read(u"a"_s), "new");
+    EXPECT_EQ(folder.read(u"b"_s), "other");
+    EXPECT_EQ(entries(folder.path()), (QStringList{ u"a"_s, u"b"_s, longest }));
+    const auto all = QFile::ReadOwner | QFile::WriteOwner | QFile::ReadUser | QFile::WriteUser;
+    EXPECT_EQ(QFile::permissions(folder.file(u"a"_s)), all);
+}
+
+TEST(FileBatch, WhatWasNotCommittedIsTakenBack)
+{
+    const TempFolder folder;
+    folder.write(u"a"_s, "old");
+    {
+        FileBatch batch;
+        ASSERT_TRUE(batch.add(folder.file(u"a"_s), "new"));
+        ASSERT_TRUE(batch.add(folder.file(u"b"_s), "new"));
+    }
+    EXPECT_EQ(entries(folder.path()), QStringList{ u"a"_s });
+    EXPECT_EQ(folder.read(u"a"_s), "old");
+}
+
+TEST(FileBatch, AFileThatCannotBePutInPlaceIsToldAndTheOthersAre)
+{
+    const TempFolder folder;
+    FileBatch batch;
+    ASSERT_TRUE(batch.add(folder.file(u"a"_s), "new"));
+    ASSERT_TRUE(batch.add(folder.file(u"b"_s), "new"));
+    QDir(folder.path()).mkdir(u"a"_s);
+    const auto failed = batch.commit();
+    ASSERT_EQ(failed.size(), 1);
+    EXPECT_EQ(failed[0].path, folder.file(u"a"_s));
+    EXPECT_FALSE(failed[0].reason.isEmpty());
+    EXPECT_EQ(entries(folder.path()), (QStringList{ u"a"_s, u"b"_s }));
+    EXPECT_FALSE(batch.add(folder.file(u"nowhere/c"_s), "new"));
+}
+
+TEST(ReplaceFile, AFileThatHoldsSomethingElseByNowIsLeftAlone)
+{
+    const TempFolder folder;
+    const QString path = folder.write(u"a"_s, "new");
+    const auto replaced = replaceFile(path, "old", "mine");
+    ASSERT_TRUE(replaced);
+    EXPECT_FALSE(*replaced);
+    EXPECT_EQ(folder.read(u"a"_s), "new");
+    EXPECT_EQ(entries(folder.path()), QStringList{ u"a"_s });
+}
+
+TEST(ReplaceFile, AFileThatHoldsWhatItHeldIsReplacedAndAMissingOneMade)
+{
+    const TempFolder folder;
+    const QString path = folder.write(u"a"_s, "old");
+    EXPECT_TRUE(replaceFile(path, "old", "mine").value_or(false));
+    EXPECT_EQ(folder.read(u"a"_s), "mine");
+    EXPECT_TRUE(replaceFile(folder.file(u"b"_s), {}, "mine").value_or(false));
+    EXPECT_EQ(folder.read(u"b"_s), "mine");
+}

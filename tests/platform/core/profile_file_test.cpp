@@ -8,7 +8,10 @@
 #include <gtest/gtest.h>
 
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFile>
+#include <QSysInfo>
+#include <QThread>
 
 #include <ctime>
 
@@ -370,5 +373,69 @@ TEST(ProfileFile, HugeFilesAreReadAndWrittenInTimeThatGrowsWithTheirLength)
         // A walk through the file for each key took twenty times as long.
         EXPECT_LT(double(std::clock() - start) / CLOCKS_PER_SEC, 3)
             << middle.first(4).toStdString();
+    }
+}
+
+TEST(ProfileFile, ChangesOfManyProgramsAtOnceAreAllKept)
+{
+    const TempFolder folder;
+    const QString path = folder.write(u"HOTAS.ini"_s, "[Defaults]\r\nPOVhat=2\r\n");
+    constexpr int programs = 4;
+    constexpr int keys = 50;
+    QList<QThread *> threads;
+    for (int program = 0; program < programs; ++program) {
+        threads.append(QThread::create([path, program] {
+            const ProfileFile file(path, ProfileUse::Shared);
+            for (int key = 0; key < keys; ++key) {
+                const QString name = u"key%1"_s.arg(key);
+                EXPECT_TRUE(file.write({ u"program%1"_s.arg(program), name, name }));
+            }
+        }));
+        threads.last()->start();
+    }
+    for (QThread *thread : threads) {
+        EXPECT_TRUE(thread->wait(60000));
+        delete thread;
+    }
+    const ProfileFile file(path);
+    int kept = 0;
+    for (int i = 0; i < programs * keys; ++i) {
+        const QString name = u"key%1"_s.arg(i % keys);
+        kept += file.text(u"program%1"_s.arg(i / keys), name) == name ? 1 : 0;
+    }
+    EXPECT_EQ(kept, programs * keys);
+    EXPECT_EQ(file.integer(u"Defaults", u"POVhat", 0), 2);
+    EXPECT_FALSE(QFile::exists(path + u".lock"_s));
+}
+
+TEST(ProfileFile, ALockThatADeadProgramLeftKeepsNobodyOut)
+{
+    const TempFolder folder;
+    const QString path = folder.write(u"HOTAS.ini"_s, "");
+    // No process has this number.
+    folder.write(u"HOTAS.ini.lock"_s,
+                 "99999999\nHOTASCompiler.exe\n" + QSysInfo::machineHostName().toUtf8() + "\n");
+    QElapsedTimer time;
+    time.start();
+    EXPECT_TRUE(ProfileFile(path, ProfileUse::Shared).write({ u"A"_s, u"x"_s, u"1"_s }));
+    EXPECT_LT(time.elapsed(), 2000);
+    EXPECT_EQ(folder.read(u"HOTAS.ini"_s), "[A]\r\nx=1\r\n");
+}
+
+TEST(ProfileFile, AFileInUtf16IsToldAndLeftAlone)
+{
+    const TempFolder folder;
+    const char16_t text[] = u"[Defaults]\r\nPOVhat=2\r\n";
+    const QByteArray plain(reinterpret_cast<const char *>(text), sizeof(text) - sizeof(char16_t));
+    for (const QByteArray &file : { "\xFF\xFE" + plain, plain, '\0' + plain }) {
+        const QString path = folder.write(u"HOTAS.ini"_s, file);
+        for (const ProfileUse use : { ProfileUse::Own, ProfileUse::Shared }) {
+            const auto written = ProfileFile(path, use).write({ u"A"_s, u"x"_s, u"1"_s });
+            ASSERT_FALSE(written);
+            EXPECT_EQ(written.error().path, path);
+            EXPECT_TRUE(written.error().reason.contains(u"UTF-16"));
+            EXPECT_FALSE(ProfileFile(path, use).remove(u"Defaults", { u"POVhat"_s }));
+            EXPECT_EQ(folder.read(u"HOTAS.ini"_s), file);
+        }
     }
 }

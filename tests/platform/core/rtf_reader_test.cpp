@@ -336,3 +336,99 @@ TEST(RtfReader, TextAfterTheLastBraceIsIgnored)
 {
     EXPECT_EQ(textOf("{\\rtf1 a}\r\nwhatever {"), u"a"_s);
 }
+
+namespace {
+
+RtfLosses lossesOf(const char *rtf)
+{
+    const auto reading = readRtfWithLosses(rtf);
+    EXPECT_TRUE(reading.has_value());
+    return reading ? reading->losses : RtfLosses();
+}
+
+} // namespace
+
+TEST(RtfReader, StrikeIsKept)
+{
+    const RichText text = read("{\\rtf1 a{\\strike b}\\strike c\\strike0 d{\\strike e\\plain f}}");
+    EXPECT_EQ(text.text, u"abcdef");
+    for (qsizetype i = 0; i < 6; ++i) {
+        EXPECT_EQ(text.formatAt(i).strike, i == 1 || i == 2 || i == 4) << i;
+    }
+}
+
+TEST(RtfReader, AHyperlinkBelongsToTheTextThatItShows)
+{
+    const RichText text =
+        read("{\\rtf1 see {\\field{\\*\\fldinst{ HYPERLINK \"http://x/a\" \\\\o \"A tip\" }}"
+             "{\\fldrslt{\\ul here\\plain , or}}} there}");
+    EXPECT_EQ(text.text, u"see here, or there");
+    EXPECT_EQ(text.formatAt(3).link, QString());
+    EXPECT_EQ(text.formatAt(4).link, u"http://x/a");
+    EXPECT_TRUE(text.formatAt(4).underline);
+    EXPECT_EQ(text.formatAt(11).link, u"http://x/a");
+    EXPECT_EQ(text.formatAt(12).link, QString());
+}
+
+TEST(RtfReader, HyperlinksLeadToFilesAndPlacesToo)
+{
+    const auto linkOf = [](const char *instruction) {
+        const QByteArray rtf =
+            QByteArray("{\\rtf1{\\field{\\*\\fldinst ") + instruction + "}{\\fldrslt x}}}";
+        return read(rtf).formatAt(0).link;
+    };
+    // A backslash is doubled once for the field and once for the file.
+    EXPECT_EQ(linkOf("HYPERLINK \"C:\\\\\\\\a b.txt\""), u"C:\\a b.txt");
+    EXPECT_EQ(linkOf("HYPERLINK \\\\l \"here\""), u"#here");
+    EXPECT_EQ(linkOf("hyperlink http://x/a"), u"http://x/a");
+    EXPECT_EQ(linkOf("PAGE"), QString());
+}
+
+TEST(RtfReader, WhatIsLostIsTold)
+{
+    const std::pair<const char *, RtfLosses> cases[] = {
+        { "{\\rtf1\\b\\strike\\cf1\\fs20\\li200\\qc text\\par}", {} },
+        { "{\\rtf1{\\info{\\title t}}\\sb0\\sa0\\sl240\\slmult1\\caps0\\ri0 text}", {} },
+        { "{\\rtf1{\\pntext\\'95\\tab}{\\*\\pn\\pnlvlblt}\\fi-360\\li360 text}", {} },
+        { "{\\rtf1{\\field{\\*\\fldinst HYPERLINK \"x\"}{\\fldrslt x}}}", {} },
+        { "{\\rtf1{\\pict\\pngblip 00}}", RtfLoss::Pictures },
+        { "{\\rtf1{\\*\\shppict{\\pict 00}}}", RtfLoss::Pictures },
+        { "{\\rtf1{\\shp{\\*\\shpinst}}}", RtfLoss::Drawings },
+        { "{\\rtf1{\\object{\\*\\objdata 00}}}", RtfLoss::Objects },
+        { "{\\rtf1\\trowd\\cellx100 a\\cell\\row}", RtfLoss::Tables },
+        { "{\\rtf1{\\header h\\par}text}", RtfLoss::HeadersAndFooters },
+        { "{\\rtf1 text{\\footer f}}", RtfLoss::HeadersAndFooters },
+        { "{\\rtf1 text{\\super 1}{\\footnote f}}", RtfLoss::Footnotes | RtfLoss::Effects },
+        { "{\\rtf1 text{\\*\\annotation a}}", RtfLoss::Comments },
+        { "{\\rtf1{\\field{\\*\\fldinst PAGE}{\\fldrslt 1}}}", RtfLoss::Fields },
+        { "{\\rtf1 a\\page b}", RtfLoss::PageBreaks },
+        { "{\\rtf1 a{\\deleted b}}", RtfLoss::TrackedChanges },
+        { "{\\rtf1{\\listtext 1.\\tab}a}", RtfLoss::NumberedLists },
+        { "{\\rtf1\\highlight2 a}", RtfLoss::Effects },
+        { "{\\rtf1\\sa200\\sl276\\slmult1 a}", RtfLoss::ParagraphLayout },
+        { "{\\rtf1\\qj a}", RtfLoss::ParagraphLayout },
+    };
+    for (const auto &[rtf, losses] : cases) {
+        EXPECT_EQ(lossesOf(rtf), losses) << rtf;
+    }
+}
+
+TEST(RtfReader, TheTextsOfATablesCellsAreKept)
+{
+    EXPECT_EQ(textOf("{\\rtf1\\trowd\\intbl one\\cell two\\cell\\row three\\cell\\row}"),
+              u"one\ttwo\t\nthree\t\n");
+}
+
+TEST(RtfReader, CanBeStopped)
+{
+    const QByteArray rtf = "{\\rtf1 " + QByteArray("\\b x\\b0 y").repeated(200'000) + '}';
+    qsizetype seen = 0;
+    const auto reading = readRtfWithLosses(rtf, [&seen](qsizetype done) {
+        EXPECT_GT(done, seen);
+        seen = done;
+        return done < 1'000'000;
+    });
+    EXPECT_FALSE(reading.has_value());
+    EXPECT_GE(seen, 1'000'000);
+    EXPECT_LT(seen, 1'500'000);
+}

@@ -92,3 +92,15 @@ TEST(ZipNames, BytesAreUtf8OrTheOldCodePage)
               u"Übung.tmj");
     EXPECT_EQ(zipNameText("caf\x82 \xFF"), u"café \u00A0");
 }
+
+TEST(ZipNames, MarksThatTurnTheDirectionOfReadingAreRefused)
+{
+    // With the fourth a program may be shown as "exe.txt".
+    for (const int mark : { 0x061C, 0x200E, 0x200F, 0x202E, 0x202A, 0x2066, 0x2069 }) {
+        const QString name = u"txt"_s + QChar(char16_t(mark)) + u"txt.exe"_s;
+        EXPECT_FALSE(safeEntryName(name)) << mark;
+        EXPECT_FALSE(safeEntryName(u"folder"_s + QChar(char16_t(mark)) + u"/a.txt"_s)) << mark;
+    }
+    EXPECT_EQ(pathOf(u"\u05d0\u05d1.txt"_s), u"\u05d0\u05d1.txt")
+        << "right to left letters are none";
+}

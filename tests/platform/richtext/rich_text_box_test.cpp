@@ -4,10 +4,12 @@
 #include "platform/richtext/rich_text_box.h"
 
 #include "platform/core/text_search.h"
+#include "platform/richtext/rich_text_document.h"
 #include "tests/support/rich_texts.h"
 
 #include <gtest/gtest.h>
 
+#include <QElapsedTimer>
 #include <QScrollBar>
 #include <QTest>
 
@@ -117,4 +119,95 @@ TEST(RichTextBox, ShiftEnterStartsALineLikeEnter)
     box.setReadOnly(true);
     QTest::keyClick(&box, Qt::Key_Return, Qt::ShiftModifier);
     EXPECT_EQ(box.document()->blockCount(), 2);
+}
+
+TEST(RichTextBox, AWordOf400000LettersIsShownAndEditedInUnderTwoSeconds)
+{
+    RichTextBox box;
+    showSmall(box);
+    QElapsedTimer timer;
+    timer.start();
+    box.setRichText(RichText::plain(QString(400'000, u'x')));
+    QTest::qWait(0);
+    QTest::keyClicks(&box, u"y"_s);
+    QTest::qWait(0);
+    EXPECT_LT(timer.elapsed(), 2000);
+    EXPECT_GT(box.document()->size().height(), 1000) << "all of it was laid out, in many lines";
+}
+
+TEST(RichTextBox, APastedWordOf400000LettersTakesUnderTwoSecondsToo)
+{
+    RichTextBox box;
+    showSmall(box);
+    QElapsedTimer timer;
+    timer.start();
+    box.textCursor().insertText(u"before "_s + QString(400'000, u'x'));
+    QTest::qWait(0);
+    EXPECT_LT(timer.elapsed(), 2000);
+}
+
+TEST(RichTextBox, TextsWithOrdinaryWordsAreWrappedBetweenThem)
+{
+    RichTextBox box;
+    box.setRichText(RichText::plain(QString(400'000, u'x')));
+    EXPECT_EQ(box.wordWrapMode(), QTextOption::WrapAnywhere);
+    box.setRichText(RichText::plain(u"ordinary words "_s.repeated(50'000)));
+    EXPECT_EQ(box.wordWrapMode(), QTextOption::WrapAtWordBoundaryOrAnywhere);
+}
+
+TEST(RichTextBox, WhatIsTypedAfterAHyperlinkDoesNotBelongToIt)
+{
+    RichTextBox box;
+    CharFormat linked;
+    linked.link = u"http://x/"_s;
+    box.setRichText(RichText::plain(u"link"_s, linked));
+    EXPECT_EQ(box.richText().formatAt(0).link, u"http://x/");
+    box.select(4, 0);
+    QTest::keyClicks(&box, u"ab"_s);
+    box.select(2, 0);
+    QTest::keyClicks(&box, u"-"_s);
+    const RichText text = box.richText();
+    EXPECT_EQ(text.text, u"li-nkab");
+    EXPECT_EQ(text.formatAt(2).link, u"http://x/") << "but what is typed within does";
+    EXPECT_EQ(text.formatAt(4).link, u"http://x/");
+    EXPECT_EQ(text.formatAt(5).link, QString());
+    EXPECT_EQ(text.formatAt(6).link, QString());
+}
+
+TEST(RichTextBox, AnAdoptedDocumentTakesTheOthersPlace)
+{
+    RichTextBox box;
+    box.setRichText(RichText::plain(u"before"_s));
+    const RichText text = test::RichTextMaker(7).make(u"ab \n"_s, 3000);
+    for (int i = 0; i < 2; ++i) {
+        auto document = std::make_unique<QTextDocument>();
+        ASSERT_TRUE(fillDocument(*document, text, [](qsizetype) { return true; }));
+        box.adopt(std::move(document));
+        EXPECT_EQ(box.richText(), text);
+        EXPECT_EQ(box.selStart(), 0);
+        EXPECT_FALSE(box.document()->isUndoAvailable());
+    }
+    box.textCursor().insertText(QString(20'000, u'x'));
+    EXPECT_EQ(box.wordWrapMode(), QTextOption::WrapAnywhere) << "it is watched like the first";
+}
+
+TEST(FillDocument, GivesTheSameAsAllAtOnceAndCanBeStopped)
+{
+    test::RichTextMaker maker(11);
+    RichText text = RichText::plain({});
+    while (text.text.size() < 500'000) {
+        text.append(maker.make(u"abc \n"_s, 5000));
+    }
+    QTextDocument inPieces;
+    QList<qsizetype> steps;
+    ASSERT_TRUE(fillDocument(inPieces, text, [&steps](qsizetype done) {
+        steps.append(done);
+        return true;
+    }));
+    EXPECT_GE(steps.size(), 3);
+    EXPECT_EQ(steps.last(), text.text.size());
+    EXPECT_EQ(richTextOf(inPieces), text);
+
+    QTextDocument stopped;
+    EXPECT_FALSE(fillDocument(stopped, text, [](qsizetype) { return false; }));
 }

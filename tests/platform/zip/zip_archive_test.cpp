@@ -11,6 +11,7 @@
 
 #include <QDir>
 #include <QDirIterator>
+#include <QElapsedTimer>
 #include <QRandomGenerator>
 
 using namespace zeph;
@@ -450,4 +451,53 @@ TEST_F(ZipTest, AnEntryWithAPasswordIsRefused)
     const UnpackReport report = unpack(contentOf(folder.file(u"p.zip"_s)));
     EXPECT_EQ(report.refused.size(), 1);
     EXPECT_TRUE(QDir(in()).isEmpty());
+}
+
+TEST_F(ZipTest, TenThousandSmallFilesAreUnpackedInUnderTenSeconds)
+{
+    constexpr int many = 10000;
+    AnyZip zip;
+    for (int i = 0; i < many; ++i) {
+        // None of the names is there in any case, so that each has to be looked for.
+        zip.file(u"Folder %1/File %2.txt"_s.arg(i % 3).arg(i).toLatin1().constData(), "BTN S1 a");
+    }
+    const QByteArray bytes = zip.bytes();
+    goOnTimes = many;
+    QElapsedTimer timer;
+    timer.start();
+    const UnpackReport report = unpack(bytes);
+    EXPECT_LT(timer.elapsed(), 10000);
+    EXPECT_EQ(report.written.size(), many);
+    EXPECT_EQ(steps, many) << "each was shown";
+    EXPECT_EQ(QDir(in() + u"Folder 1"_s).entryList(QDir::Files).size(), many / 3);
+    EXPECT_EQ(contentOf(in() + u"Folder 0/File 9999.txt"_s), "BTN S1 a");
+}
+
+TEST_F(ZipTest, AnEntryThatSaysItIsTooLargeIsRefusedBeforeItIsRead)
+{
+    QByteArray bytes = AnyZip().file("huge.bin", "small").file("b.txt", "b").bytes();
+    // The size when unpacked: before the file's bytes, and in the list at the zip's end.
+    const std::pair<const char *, qsizetype> places[] = { { "PK\x03\x04", 22 },
+                                                          { "PK\x01\x02", 24 } };
+    const quint32 claimed = 1'100'000'000;
+    for (const auto &[sign, offset] : places) {
+        const qsizetype start = bytes.indexOf(sign);
+        ASSERT_GE(start, 0);
+        for (int i = 0; i < 4; ++i) {
+            bytes[start + offset + i] = char(claimed >> (8 * i));
+        }
+    }
+    const UnpackReport report = unpack(bytes);
+    EXPECT_EQ(report.refused, QStringList{ u"huge.bin: it is too large"_s });
+    EXPECT_EQ(report.written, QStringList{ in() + u"b.txt"_s });
+    EXPECT_TRUE(limitsReached.isEmpty());
+}
+
+TEST_F(ZipTest, NothingButTheFilesIsLeftAfterAStop)
+{
+    stopAt = 3;
+    const UnpackReport report =
+        unpack(AnyZip().file("a", "1").file("b", "2").file("c", "3").file("d", "4").bytes());
+    EXPECT_TRUE(report.stopped);
+    EXPECT_EQ(everything(), (QStringList{ u"in"_s, u"in/a"_s, u"in/b"_s }));
 }

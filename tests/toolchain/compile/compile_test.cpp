@@ -3,7 +3,7 @@
 
 #include "toolchain/compile/compile.h"
 
-#include "tests/toolchain/compiler_bench.h"
+#include "tests/support/compiler_bench.h"
 #include "toolchain/toolchain_settings.h"
 
 #include <QFile>
@@ -174,8 +174,8 @@ TEST_F(CompileTest, TheHelpOnAnErrorKnowsItsLineAndBothFiles)
     lineWritten = u"5"_s;
     compile();
     EXPECT_EQ(scene.shown.line, 5);
-    EXPECT_EQ(scene.shown.joystickName, u"A.tmj");
-    EXPECT_EQ(scene.shown.macroName, u"a.tmm");
+    EXPECT_EQ(scene.shown.files.joystick.name, u"A.tmj");
+    EXPECT_EQ(scene.shown.files.macro.name, u"a.tmm");
 }
 
 TEST_F(CompileTest, AnErrorWithoutALineOpensItsHelpOnly)
@@ -254,20 +254,45 @@ TEST_F(CompileTest, TheVerdictIsAboutTheFileThatWasCompiled)
     EXPECT_TRUE(dialogs.boxes()[0].text.startsWith(compiled));
 }
 
-TEST_F(CompileTest, ASecondCompileDuringTheFirstTellsTheSameVerdictForBoth)
+TEST_F(CompileTest, AnErrorIsAboutTheFilesThatWereOpenAtTheStart)
+{
+    const SentFiles sent = sentFiles(documents);
+    statusWritten = u"ERROR"_s;
+    lineWritten = u"5"_s;
+    QTimer::singleShot(0, &mainWindow, [this] {
+        joystick.rename(u"/another.tmj"_s);
+        macro.rename(u"/another.tmm"_s);
+    });
+    compile();
+    EXPECT_EQ(scene.shown.files.joystick.path, sent.joystick.path);
+    EXPECT_EQ(scene.shown.files.macro.path, sent.macro.path);
+    EXPECT_EQ(scene.shown.file().name, u"a.tmm");
+}
+
+TEST_F(CompileTest, ANameWithADoubleQuoteIsToldSinceACommandLineLosesIt)
+{
+    joystick.rename(folder.write(u"My \"best\".tmj"_s, "x"));
+    dialogs.answer(u"That name has a quote in it"_s, BoxButton::Ok);
+    compile();
+    EXPECT_TRUE(dialogs.boxes()[0].text.contains(joystick.path()));
+    EXPECT_TRUE(launcher.launches.isEmpty());
+}
+
+TEST_F(CompileTest, ASecondCompileDuringTheFirstIsDropped)
 {
     settings.of<ToolchainSettings>().HOTASStatusBarErrors = true;
     const auto single = afterTick;
     afterTick = [this, single](int count) {
         if (count == 1) {
             compile();
+            EXPECT_EQ(status.text(), u" I'm still busy with the compile: once is enough");
         } else if (count == 2) {
             single(1);
         }
     };
     compile();
-    EXPECT_EQ(launcher.launches.size(), 2);
-    EXPECT_EQ(done.count(u"focus"_s), 2);
+    EXPECT_EQ(launcher.launches.size(), 1);
+    EXPECT_EQ(done.count(u"focus"_s), 1);
 }
 
 TEST_F(CompileTest, ClosingTheProgramDuringTheWaitTellsNothing)

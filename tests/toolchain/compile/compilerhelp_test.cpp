@@ -47,7 +47,7 @@ protected:
     RichTextBox *codes() const { return window->findChild<RichTextBox *>(u"RichTextCodes"_s); }
     static CompilerError error(const QString &text, int line = 12)
     {
-        return { text, line, u"Untitled.tmj"_s, u"Untitled.tmm"_s };
+        return { text, line, { { {}, u"Untitled.tmj"_s }, { {}, u"Untitled.tmm"_s } } };
     }
 
     test::TempFolder folder;
@@ -138,11 +138,15 @@ TEST_F(CompilerHelpTest, TheEntryStaysInViewWhenTheTextGrows)
 TEST_F(CompilerHelpTest, ShowLineAsksForTheErrorsLine)
 {
     open(manyCodes());
-    QSignalSpy asked(window.get(), &CompilerHelp::highlightRequested);
+    QList<CompilerError> asked;
+    QObject::connect(window.get(), &CompilerHelp::highlightRequested, window.get(),
+                     [&asked](const CompilerError &error) { asked.append(error); });
     window->ShowTheError(error(u"ERROR 1013: macro"_s, 7));
     button(u"CMD_ShowLine"_s)->click();
     ASSERT_EQ(asked.size(), 1);
-    EXPECT_EQ(asked[0], (QVariantList{ 7, u"ERROR 1013: macro"_s }));
+    EXPECT_EQ(asked[0].line, 7);
+    EXPECT_EQ(asked[0].text, u"ERROR 1013: macro");
+    EXPECT_EQ(asked[0].file().name, u"Untitled.tmm");
 }
 
 TEST_F(CompilerHelpTest, WithoutALineThereIsNoneToShow)

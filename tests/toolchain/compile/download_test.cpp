@@ -3,7 +3,8 @@
 
 #include "toolchain/compile/download.h"
 
-#include "tests/toolchain/compiler_bench.h"
+#include "tests/support/compiler_bench.h"
+#include "toolchain/compile/compile.h"
 #include "toolchain/default_options.h"
 #include "toolchain/toolchain_settings.h"
 
@@ -312,8 +313,11 @@ TEST_F(DownloadTest, OverTwoSecondsTheStatusWindowShowsAndClosesAtTheEnd)
     };
     settings.of<ToolchainSettings>().HOTASStatusBarErrors = true;
     bool shownAtTheMode = true;
-    QObject::connect(&status, &StatusLine::modePictureChanged, &status,
-                     [&] { shownAtTheMode = handshake->StatusWindowShown(); });
+    QObject::connect(&status, &StatusLine::changed, &status, [&](StatusPanel panel) {
+        if (panel == StatusPanel::Mode) {
+            shownAtTheMode = handshake->StatusWindowShown();
+        }
+    });
     download();
     EXPECT_TRUE(shown);
     EXPECT_FALSE(shownAtTheMode) << "it closes before the mode is shown";
@@ -354,41 +358,76 @@ TEST_F(DownloadTest, AFailureAfterTheWaitFreesTheText)
     EXPECT_FALSE(joystick.isLocked());
 }
 
-TEST_F(DownloadTest, ASecondDownloadDuringTheFirstTellsTheSameVerdictForBoth)
+TEST_F(DownloadTest, TwentyFivePressesInOneWaitMakeOneDownloadAndStartOneApplication)
 {
     settings.of<ToolchainSettings>().HOTASStatusBarErrors = true;
     Download command(context, parts());
     afterTick = [&](int count) {
         if (count == 1) {
-            command.DownloadTMJ();
+            for (int i = 0; i < 24; ++i) {
+                command.DownloadTMJ();
+            }
+            EXPECT_EQ(status.text(), u" I'm still busy with the download: once is enough");
         } else if (count == 2) {
             writeVerdict();
         }
     };
     command.DownloadTMJ();
-    EXPECT_EQ(done.count(compilerStarts), 2);
-    EXPECT_EQ(done.count(appStarts), 2);
-    EXPECT_EQ(done.count(locks), 1);
-    EXPECT_EQ(done.last(), unlocks);
+    EXPECT_EQ(done.count(compilerStarts), 1);
+    EXPECT_EQ(done.count(appStarts), 1);
+    EXPECT_FALSE(joystick.isLocked());
 }
 
-TEST_F(DownloadTest, ASecondDownloadThatDoesNotStartLeavesTheFirstOnesTextLocked)
+TEST_F(DownloadTest, ACompileDuringADownloadRunsAfterItWithAVerdictOfItsOwn)
 {
     settings.of<ToolchainSettings>().HOTASStatusBarErrors = true;
-    dialogs.answer(u"Unable to run the Thrustmaster software"_s, BoxButton::Ok);
     Download command(context, parts());
+    Compile compile(context, parts());
     afterTick = [&](int count) {
         if (count == 1) {
-            refused = u"HOTASCompiler.exe"_s;
-            command.DownloadTMJ();
-            EXPECT_TRUE(joystick.isLocked());
-        } else if (count == 2) {
+            compile.mnuAppsCompile_Click();
+            EXPECT_EQ(done.count(compilerStarts), 1) << "it would empty the download's section";
+        } else {
             writeVerdict();
         }
     };
     command.DownloadTMJ();
+    EXPECT_EQ(done,
+              (QStringList{ locks, compilerStarts, mode, appStarts, focus, unlocks,
+                            u"minimise tools"_s, compilerStarts, focus }));
+}
+
+TEST_F(DownloadTest, ANameWithADoubleQuoteIsToldSinceACommandLineLosesIt)
+{
+    joystick.rename(folder.write(u"My \"best\".tmj"_s, "x"));
+    dialogs.answer(u"That name has a quote in it"_s, BoxButton::Ok);
+    download();
+    EXPECT_TRUE(launcher.launches.isEmpty());
     EXPECT_FALSE(joystick.isLocked());
-    EXPECT_EQ(done.count(appStarts), 1);
+}
+
+TEST_F(DownloadTest, AProfilesNameWithADoubleQuoteIsToldAndTheDownloadGoesOn)
+{
+    settings.of<ToolchainSettings>().UseResetProfile = true;
+    settings.of<ToolchainSettings>().ResetProfile = u"a\"b"_s;
+    folder.write(u"Profiles/a\"b.tmc"_s, "x");
+    dialogs.answer(u"That name has a quote in it"_s, BoxButton::Ok);
+    dialogs.answer(success, BoxButton::Ok);
+    download();
+    EXPECT_EQ(done.count(configStarts), 0);
+    EXPECT_EQ(done.count(compilerStarts), 1);
+}
+
+TEST_F(DownloadTest, AnErrorIsAboutTheFilesThatWereSentWhateverIsOpenByThen)
+{
+    const SentFiles sent = sentFiles(documents);
+    statusWritten = u"ERROR"_s;
+    lineWritten = u"40000"_s;
+    QTimer::singleShot(0, &mainWindow, [this] { macro.rename(u"/another.tmm"_s); });
+    download();
+    EXPECT_EQ(scene.shown.file().path, sent.macro.path);
+    EXPECT_EQ(scene.shown.file().name, u"a.tmm");
+    EXPECT_EQ(scene.shown.line, 40000);
 }
 
 TEST_F(DownloadTest, ClosingTheProgramDuringTheWaitTellsNothing)

@@ -3,7 +3,7 @@
 
 #include "toolchain/games/game_launch.h"
 
-#include "tests/toolchain/compiler_bench.h"
+#include "tests/support/compiler_bench.h"
 #include "toolchain/games/games.h"
 #include "toolchain/toolchain_settings.h"
 

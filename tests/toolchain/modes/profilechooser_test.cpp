@@ -5,7 +5,7 @@
 #include "toolchain/modes/profiles.h"
 
 #include "platform/control_array.h"
-#include "tests/toolchain/toolchain_bench.h"
+#include "tests/support/toolchain_bench.h"
 #include "toolchain/toolchain_settings.h"
 
 #include <QListWidget>

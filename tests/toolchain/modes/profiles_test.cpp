@@ -3,7 +3,7 @@
 
 #include "toolchain/modes/profiles.h"
 
-#include "tests/toolchain/toolchain_bench.h"
+#include "tests/support/toolchain_bench.h"
 #include "toolchain/toolchain_settings.h"
 
 #include <QDir>

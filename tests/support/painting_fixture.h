@@ -10,7 +10,7 @@
 #include "menus/menu_actions.h"
 #include "platform/richtext/rich_text_document.h"
 #include "settings/colour_settings.h"
-#include "tests/documents/editor_fixture.h"
+#include "tests/support/editor_fixture.h"
 
 #include <QSignalSpy>
 

@@ -1,0 +1,122 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#include "toolchain/tool_queue.h"
+
+#include "platform/status_line.h"
+
+#include <gtest/gtest.h>
+
+#include <stdexcept>
+
+using namespace zeph;
+
+namespace {
+
+/// Commands that note when they run.
+struct ToolQueueTest : testing::Test {
+    std::function<void()> noting(const QString &name)
+    {
+        return [this, name] {
+            ran.append(name);
+        };
+    }
+    /// Runs a command in whose wait the user does something.
+    void runWhile(const QString &name, const std::function<void()> &duringTheWait)
+    {
+        queue->run(name, [&] {
+            duringTheWait();
+            ran.append(name);
+        });
+    }
+
+    StatusLine status;
+    std::unique_ptr<ToolQueue> queue = std::make_unique<ToolQueue>(status);
+    QStringList ran;
+};
+
+} // namespace
+
+TEST_F(ToolQueueTest, ACommandRunsAtOnceWhenNoOtherDoes)
+{
+    queue->run(u"the compile"_s, noting(u"a"_s));
+    queue->run(u"the compile"_s, noting(u"b"_s));
+    EXPECT_EQ(ran, (QStringList{ u"a"_s, u"b"_s }));
+    EXPECT_EQ(status.text(), u"");
+}
+
+TEST_F(ToolQueueTest, TheSameCommandIsDroppedWhileItWaitsAndTheLineSaysSo)
+{
+    runWhile(u"the download"_s, [this] {
+        for (int i = 0; i < 25; ++i) {
+            queue->run(u"the download"_s, noting(u"again"_s));
+        }
+        EXPECT_EQ(status.text(), u" I'm still busy with the download: once is enough");
+    });
+    EXPECT_EQ(ran, QStringList{ u"the download"_s });
+}
+
+TEST_F(ToolQueueTest, OneOtherCommandFollowsWhenTheFirstHasEnded)
+{
+    runWhile(u"the download"_s, [this] {
+        queue->run(u"the compile"_s, noting(u"the compile"_s));
+        EXPECT_EQ(status.text(), u" OK: the compile comes right after the download");
+        EXPECT_TRUE(ran.isEmpty());
+    });
+    EXPECT_EQ(ran, (QStringList{ u"the download"_s, u"the compile"_s }));
+}
+
+TEST_F(ToolQueueTest, AThirdCommandAndTheWaitingOneOnceMoreAreDropped)
+{
+    runWhile(u"the download"_s, [this] {
+        queue->run(u"the compile"_s, noting(u"the compile"_s));
+        queue->run(u"the profile Default"_s, noting(u"profile"_s));
+        EXPECT_EQ(status.text(),
+                  u" I'm busy with the download, and the compile comes next: ask me again for the "
+                  u"profile Default then");
+        queue->run(u"the compile"_s, noting(u"compile again"_s));
+        EXPECT_EQ(status.text(),
+                  u" the compile is waiting for the download already: once is enough");
+    });
+    EXPECT_EQ(ran, (QStringList{ u"the download"_s, u"the compile"_s }));
+}
+
+TEST_F(ToolQueueTest, WhatFollowedMayBeFollowedItself)
+{
+    runWhile(u"a"_s, [this] {
+        queue->run(u"b"_s, [this] {
+            queue->run(u"a"_s, noting(u"a once more"_s));
+            ran.append(u"b"_s);
+        });
+    });
+    EXPECT_EQ(ran, (QStringList{ u"a"_s, u"b"_s, u"a once more"_s }));
+}
+
+TEST_F(ToolQueueTest, AFailureReachesTheCallerAndTheNextCommandRuns)
+{
+    const auto fail = [this] {
+        queue->run(u"b"_s, noting(u"b"_s));
+        throw std::runtime_error("no good");
+    };
+    EXPECT_THROW(queue->run(u"a"_s, fail), std::runtime_error);
+    queue->run(u"a"_s, noting(u"a"_s));
+    EXPECT_EQ(ran, QStringList{ u"a"_s });
+}
+
+TEST_F(ToolQueueTest, AtTheProgramsEndNothingFollows)
+{
+    runWhile(u"a"_s, [this] {
+        queue->run(u"b"_s, noting(u"b"_s));
+        queue->close();
+    });
+    EXPECT_EQ(ran, QStringList{ u"a"_s });
+}
+
+TEST_F(ToolQueueTest, ItMayGoWhileACommandWaits)
+{
+    runWhile(u"a"_s, [this] {
+        queue->run(u"b"_s, noting(u"b"_s));
+        queue.reset();
+    });
+    EXPECT_EQ(ran, QStringList{ u"a"_s });
+}
