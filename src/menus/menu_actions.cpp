@@ -124,7 +124,10 @@ void MenuActions::addTo(QMenuBar &bar) const
 void MenuActions::connectTo(QStringView name, std::function<void()> operation)
 {
     connect(action(name), &QAction::triggered, this,
-            guarded(m_dialogs, [operation = std::move(operation)](bool) { operation(); }));
+            guarded(m_dialogs, [this, operation = std::move(operation)](bool) {
+                Q_EMIT aboutToRun();
+                operation();
+            }));
 }
 
 void MenuActions::connectArray(const QString &name, std::function<void(int)> operation)

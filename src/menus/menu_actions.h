@@ -60,6 +60,10 @@ public:
     /// Ticks the entry NAME_index of an array and no other of it; -1 ticks none.
     void tickOnly(const QString &name, int index) const;
 
+Q_SIGNALS:
+    /// An entry is about to run its operation.
+    void aboutToRun();
+
 private:
     struct Lack {
         QString text;

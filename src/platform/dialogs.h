@@ -21,7 +21,8 @@
 namespace zeph {
 
 enum class BoxIcon { None, Information, Question, Exclamation, Stop };
-enum class BoxButton { Ok, Cancel, Yes, No };
+/// Other is one that only its caption names.
+enum class BoxButton { Ok, Cancel, Yes, No, Other };
 
 /// A message box. Escape and the close button answer Cancel, else No, else the only button.
 struct Box {

@@ -40,6 +40,8 @@ QMessageBox::StandardButton standardButton(BoxButton button)
         return QMessageBox::Yes;
     case BoxButton::No:
         return QMessageBox::No;
+    case BoxButton::Other:
+        return QMessageBox::Open;
     }
     return QMessageBox::NoButton;
 }

@@ -21,7 +21,14 @@ void StatusLine::setContents(StatusPanel panel, const StatusContents &contents)
 
 void StatusLine::setText(const QString &text)
 {
+    m_showsKeys = false;
     setContents(StatusPanel::Message, { .text = text, .tooltip = textTooltip() });
+}
+
+void StatusLine::setKeys(const QString &keys)
+{
+    setText(keys);
+    m_showsKeys = true;
 }
 
 void StatusLine::setTextNow(const QString &text)

@@ -39,6 +39,9 @@ public:
     /// The message line.
     const QString &text() const { return contents(StatusPanel::Message).text; }
     void setText(const QString &text);
+    /// The same with a macro's keys, which a change of tabs leaves.
+    void setKeys(const QString &keys);
+    bool showsKeys() const { return m_showsKeys; }
     /// Shows the text at once, for an operation that will not return to the event loop soon.
     /// Nothing but the panel is repainted: no event is handled, no timer fires.
     void setTextNow(const QString &text);
@@ -75,6 +78,7 @@ Q_SIGNALS:
     void repaintWanted();
 
 private:
+    bool m_showsKeys = false;
     std::array<StatusContents, statusPanels> m_panels{ {
         {},
         { .picture = 1, .tooltip = u"Cougar mode selector is off"_s },

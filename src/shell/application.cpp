@@ -32,6 +32,7 @@
 #include "shell/preferences_menu.h"
 #include "shell/settings/shell_settings.h"
 #include "shell/start_up.h"
+#include "shell/template_guard.h"
 #include "templates/template_tools.h"
 #include "templates/templateform.h"
 #include "toolchain/cougar_tools.h"
@@ -124,6 +125,8 @@ bool Application::start()
     startModes();
     loadEditor();
     selectFirstTab();
+    // The tab has said what is edited.
+    greet();
     return true;
 }
 
@@ -209,6 +212,7 @@ void Application::loadEditor()
         m_options.dialogs.box(missingFileBox(m_options.arguments));
     }
     m_editor->guards().recovery.offerLeft();
+    m_templateGuard->offerLeft();
     m_editor->guards().autoSave.restart();
     m_mum->refreshToolbars();
     m_status.setLine(1);
@@ -229,6 +233,7 @@ void Application::loadEditor()
 void Application::addToolWindows()
 {
     ToolWindows &windows = m_mum->toolWindows();
+    m_templateGuard = new TemplateGuard(context(), windows, m_mum.get());
     const ToolEntries tools{ m_editor->actions(), windows };
     addLiveTools(tools, context(), m_tools->modes());
     addTemplateTools(tools, context(), m_options.printers, m_editor->macros().list().table());
@@ -313,6 +318,9 @@ void Application::unloadMum()
         m_editor->guards().recovery.finish();
     }
     m_mum->toolWindows().unloadAll();
+    if (m_templateGuard) {
+        m_templateGuard->finish();
+    }
     const WindowPlace place = m_mum->place();
     const QSize screen = m_options.screen.size();
     (void)SaveMumPosition(

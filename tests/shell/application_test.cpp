@@ -356,6 +356,18 @@ TEST_F(Start, ACommandLineThatNamesNoExistingFileIsToldAndDropped)
     EXPECT_EQ(app->status().text(), u"Ready! Welcome to Zeph, buddy!");
 }
 
+TEST_F(Start, ARestoredPairIsGreetedToo)
+{
+    const QString joystickFile = folder.write(u"Files/a.tmj"_s, "BTN S1 a");
+    const QString macroFile = folder.write(u"Files/a.tmm"_s, "m = a");
+    writeStore("[Miscellaneous]\r\nRestoreStatus=1\r\nRestoreJoyFile=" + joystickFile.toUtf8()
+               + "\r\nRestoreMacroFile=" + macroFile.toUtf8() + "\r\n");
+    ASSERT_TRUE(start());
+    EXPECT_EQ(app->editor().macroText(), u"m = a");
+    EXPECT_TRUE(app->status().text().startsWith(u"Ready! Welcome to Zeph, "_s))
+        << app->status().text().toStdString();
+}
+
 TEST_F(Start, ADroppedCommandLineLeavesTheRestoredFilesAsIfNoneWereGiven)
 {
     const QString last = folder.write(u"last.tmj"_s, "BTN S2 a\r\n");
