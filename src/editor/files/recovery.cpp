@@ -146,7 +146,9 @@ void Recovery::finish()
 void Recovery::offerLeft()
 {
     std::array<bool, 2> taken{};
-    for (LeftRecovery &left : leftRecoveries(m_context.paths.inApp(u"Recovery"))) {
+    const MayTakeOver mayTakeOver =
+        askToTakeOver(m_context.dialogs, u"Unsaved texts in my folder \u201CRecovery\u201D are"_s);
+    for (LeftRecovery &left : leftRecoveries(m_context.paths.inApp(u"Recovery"), mayTakeOver)) {
         for (const LeftRecovery::File &file : left.files()) {
             bool &isTaken = taken[size_t(file.recovered.kind)];
             // The Editor has room for one text of each kind only; a second one goes to the backups.

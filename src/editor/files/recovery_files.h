@@ -77,7 +77,9 @@ private:
     QList<File> m_files;
 };
 
-/// Returns what crashed runs left below the folder, the latest first.
-std::vector<LeftRecovery> leftRecoveries(const QString &parent);
+/// Returns what crashed runs left below the folder, the latest first. mayTakeOver is asked about a
+/// run of which it cannot be known whether it has ended.
+std::vector<LeftRecovery> leftRecoveries(const QString &parent,
+                                         const MayTakeOver &mayTakeOver = {});
 
 } // namespace zeph
