@@ -106,6 +106,9 @@ Verdict compile(const QString &file, bool sameName)
     QList<language::Finding> findings = language::check(sources->pair);
     if (sources->missing)
         findings.append(language::missingMacroFile(*sources->missing));
+    if (sources->unreadable)
+        findings.append(language::unreadableMacroFile(
+            sources->unreadable->path, sources->unreadable->reason, sources->macroNamePlace));
     if (!findings.isEmpty()) {
         // Report the first one in text order, the joystick file's before the macro file's.
         const auto first = std::min_element(findings.begin(), findings.end(),
@@ -162,7 +165,8 @@ QString told(const CompileRequest &request, const Verdict &verdict)
     const QString what = request.enable ? u"compiled, kept and enabled"_s
         : request.download              ? u"compiled and kept"_s
                                         : u"compiled"_s;
-    return u"%1: %2, %3% of the memory."_s.arg(request.file, what).arg(verdict.memory);
+    const QString full = verdict.memory >= 100 ? u": it is full"_s : QString();
+    return u"%1: %2, %3% of the memory%4."_s.arg(request.file, what).arg(verdict.memory).arg(full);
 }
 
 } // namespace

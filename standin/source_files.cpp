@@ -24,7 +24,11 @@ Expected<QString, FileError> readSource(const QString &path)
     const auto bytes = readWholeFile(path);
     if (!bytes)
         return Unexpected<FileError>(bytes.error());
-    QString text = fromText1252(*bytes);
+    if (bytes->startsWith("\xFF\xFE") || bytes->startsWith("\xFE\xFF"))
+        return Unexpected<FileError>({ path, u"it is in UTF-16; save it as plain text"_s });
+    const QByteArray mark = "\xEF\xBB\xBF";
+    QString text = bytes->startsWith(mark) ? QString::fromUtf8(bytes->sliced(mark.size()))
+                                           : fromText1252(*bytes);
     text.replace(u"\r\n"_s, u"\n"_s);
     text.replace(u'\r', u'\n');
     return text;
@@ -55,6 +59,7 @@ Expected<Sources, FileError> readSources(const QString &joystickPath, bool sameN
     sources.pair = language::parsePair(*joystick, {});
     const auto reference = language::macroReference(sources.pair.joystick);
     if (reference && !reference->name.isEmpty()) {
+        sources.macroNamePlace = reference->place;
         sources.macroPath = findMacroFile(joystickPath, reference->name);
         if (sources.macroPath.isEmpty())
             sources.missing = reference;
@@ -64,9 +69,10 @@ Expected<Sources, FileError> readSources(const QString &joystickPath, bool sameN
     if (sources.macroPath.isEmpty())
         return sources;
     const auto macro = readSource(sources.macroPath);
-    if (!macro)
-        return Unexpected<FileError>(macro.error());
-    sources.pair = language::parsePair(*joystick, *macro);
+    if (macro)
+        sources.pair = language::parsePair(*joystick, *macro);
+    else
+        sources.unreadable = macro.error();
     return sources;
 }
 

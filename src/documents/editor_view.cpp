@@ -126,7 +126,10 @@ void EditorView::showSelected()
         PositionControls();
     }
     const bool isProtected = now.kind() == DocumentKind::Macro && m_documents.isProtected();
-    m_context.status.setText(tabStatus(m_context.status.text(), now.caption(), isProtected));
+    StatusLine &status = m_context.status;
+    if (!status.showsKeys()) {
+        status.setText(tabStatus(status.text(), now.caption(), isProtected));
+    }
     UpdateSavedIcon();
     m_context.status.setLine(now.caretLine());
 }
@@ -230,6 +233,7 @@ void EditorView::ResetFocusToEditor()
 void EditorView::setTiled(bool tiled)
 {
     m_tiled = tiled;
+    UpdateSavedIcon();
     if (tiled) {
         ShowBothFiles();
     } else {
@@ -280,6 +284,9 @@ void EditorView::UpdateSavedIcon()
 {
     const Document &selected = m_documents.selected();
     m_context.status.setSaved(selected.state() + 2, savedTooltip(selected));
+    const Document &other = m_documents.other(selected);
+    m_context.status.setOtherSaved(m_tiled ? other.state() + 2 : 0,
+                                   m_tiled ? savedTooltip(other) : QString());
 }
 
 void EditorView::applyLook()

@@ -93,7 +93,8 @@ public:
 
     /// Shows the documents' names on the tabs.
     void updateCaptions();
-    /// Shows the selected document's state on the status bar.
+    /// Shows the selected document's state on the status bar, and the other's too while both are
+    /// shown.
     void UpdateSavedIcon();
     /// Takes background, font and colours from the settings. Text that is there keeps its looks.
     void applyLook();

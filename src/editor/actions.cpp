@@ -91,7 +91,7 @@ constexpr std::array actions = {
 
     ActionRow{u"mnuView", u"mnuViewJoystickFile", u"Joystick &file", u"", u"Goes to the joystick file", u"", Always, Tick},
     ActionRow{u"mnuView", u"mnuViewMacroFile", u"Macro fil&e", u"", u"Goes to the macro file", u"", Always, Tick},
-    ActionRow{u"mnuView", u"mnuViewOtherFile", u"The ot&her file", u"Ctrl+Tab", u"Goes from one file to the other", u"", Always, Entry},
+    ActionRow{u"mnuView", u"mnuViewOtherFile", u"The ot&her file", u"Ctrl+Tab", u"Goes from one file to the other", u"", Always, Repeats},
     ActionRow{u"mnuView", u"mnuViewGoToMacros", u"&Go to the macro list and back", u"Ctrl+Shift+M", u"Gives the keys to the macro list, and back to the text", u"", Always, Entry},
     separator(u"mnuView"),
     ActionRow{u"mnuView", u"mnuViewTileVertically", u"&Tile files vertically", u"", u"Shows both files side by side", u"tile", Always, Tick},

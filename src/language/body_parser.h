@@ -5,10 +5,8 @@
 
 // Reads bodies: what follows a statement's head or a macro's "=", given line by line.
 
-#include "language/model.h"
+#include "language/bracket_stack.h"
 #include "language/word_map.h"
-
-#include <vector>
 
 namespace zeph::language {
 
@@ -28,34 +26,32 @@ public:
     void read(qsizetype position, qsizetype end, int line);
     /// Reads the one character at the position as a key, even a bracket.
     void readKey(qsizetype position, int line);
-    /// Whether a bracket is open that is certainly no key.
+    /// Whether a bracket is open that is probably no key.
     bool isInBrackets() const;
+    /// Whether a bracket is open that is certainly no key.
+    bool isInCertainBrackets() const { return m_open.holdsCertain(); }
     /// Ends the body and returns it; brackets still open end with it.
     Body finish();
 
 private:
-    struct OpenBracket {
-        char16_t closing = 0;
-        /// The item of the group or call. A call's item begins at its word, so the place of the
-        /// bracket is kept apart.
-        int item = -1;
-        Place place;
-        Chain chain;
-        std::array<bool, slashLevels> outFirst{};
-        bool keys = false;
-    };
-
     void readWord(qsizetype from, qsizetype to);
+    bool readMacroUse(qsizetype from, qsizetype to);
+    void readPlainWord(qsizetype from, qsizetype to);
+    void readBracket(qsizetype at);
     void readSlash(qsizetype from, int modifier);
     void open(qsizetype at);
     void close(qsizetype at);
-    bool isKeyBracket(qsizetype at) const;
-    bool standsAlone(qsizetype at) const;
-    bool isAfterModifierKey(int item) const;
-    bool mayBeKey(const OpenBracket &bracket) const;
-    bool mayBeKey(qsizetype closing) const;
+    void restoreChain(const OpenBracket &bracket);
+    void endKeys(int next);
+    void countClosers(qsizetype at);
+    bool isAmongKeys() const { return !m_open.isEmpty() && m_open.top().keys; }
+    bool isKeyAmongKeys(qsizetype at) const;
+    bool mayBeKey(qsizetype at) const;
+    bool isProbablyKey(const OpenBracket &bracket) const;
     int callBefore(qsizetype at) const;
     void complain(const Place &place, bool opening);
+    void complainOfOpenBrackets();
+    void forgetDoubtfulS3();
     int add(ItemKind kind, qsizetype from, qsizetype to);
     void enter(int modifier, int item);
     void startBranch(int slashItem);
@@ -71,7 +67,10 @@ private:
 
     Body m_body;
     Holds m_holds = Holds::Keys;
-    std::vector<OpenBracket> m_open;
+    BracketStack m_open;
+    /// How many ")" follow the one just read, up to m_countedTo.
+    int m_closersAhead = 0;
+    qsizetype m_countedTo = 0;
     Chain m_chain;
     /// For each link of the chain: whether the first S3 modifier of its level was /O.
     std::array<bool, slashLevels> m_outFirst{};

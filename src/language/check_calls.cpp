@@ -9,9 +9,10 @@ namespace zeph::language {
 
 namespace {
 
+// Whether the text is one word, so that it certainly is meant as a name: "JOY-X".
 bool isName(QStringView text)
 {
-    return !text.isEmpty() && nameEnd(text, 0) == text.size();
+    return !text.isEmpty() && text[0].isLetter() && wordEnd(text, 0) == text.size();
 }
 
 void checkAxis(Reporter &reporter, const Argument &axis)
@@ -72,8 +73,8 @@ void checkThrottleRange(Reporter &reporter, const Arguments &arguments)
 {
     if (arguments.size() != 2)
         return;
-    const std::optional<int> from = wholeNumber(arguments[0].text);
-    const std::optional<int> to = wholeNumber(arguments[1].text);
+    const std::optional<double> from = decimalNumber(arguments[0].text);
+    const std::optional<double> to = decimalNumber(arguments[1].text);
     if (from && to && *to <= *from)
         reporter.report(ThrottleRangeOrder, arguments[0].place,
                         u"The second value of THR_RANGE must be greater than the first"_s);
@@ -135,6 +136,15 @@ Arguments argumentsOf(const Source &source, const Item &item)
     return arguments;
 }
 
+bool hasStrayClosing(const Source &source, qsizetype from, qsizetype to)
+{
+    // A closing bracket is told as soon as it is read, and one a body is kept: they are in order.
+    const auto first = std::lower_bound(
+        source.strayBrackets.begin(), source.strayBrackets.end(), from,
+        [](const StrayBracket &bracket, qsizetype at) { return bracket.place.position < at; });
+    return first != source.strayBrackets.end() && !first->opening && first->place.position < to;
+}
+
 void checkCurve(Reporter &reporter, const Arguments &arguments)
 {
     checkAxis(reporter, arguments[0]);
@@ -145,6 +155,29 @@ void checkCurve(Reporter &reporter, const Arguments &arguments)
         reporter.report(ValueOutOfRange, arguments[1].place,
                         u"The curve %1 lies outside -%2 to %2"_s.arg(arguments[1].text,
                                                                      QString::number(lastCurve)));
+}
+
+// The stick and the microstick stay on, and only axes and the mouse can be switched off.
+void checkDisables(Reporter &reporter)
+{
+    const Source &source = reporter.source();
+    for (int index = 0; index + 1 < source.items.size(); ++index) {
+        const Item &item = source.items[index];
+        const Item &next = source.items[index + 1];
+        if (item.kind != ItemKind::Word || next.kind != ItemKind::Word
+            || !sameWord(source.at(item), u"DISABLE"_w))
+            continue;
+        // The next item may belong to another statement.
+        const qsizetype from = item.place.end();
+        if (trimmedEnd(QStringView(source.text).sliced(from, next.place.position - from)) != 0)
+            continue;
+        const QStringView name = source.at(next);
+        const Word &row = rowOf(name);
+        const bool isPart =
+            row.is(AxisRole) || row.is(AxisGroupRole) || row.is(ControlRole) || row.is(HatRole);
+        if (isPart && !row.is(DisableableRole))
+            reporter.report(NotDisableable, next.place, u"%1 cannot be disabled"_s.arg(name));
+    }
 }
 
 void checkCalls(Reporter &reporter)

@@ -37,11 +37,16 @@ bool opensDefinition(const Branch &branch)
     return true;
 }
 
+// In the head of an axis a number is a number, even if a macro has its name.
+std::optional<int> number(const Source &source, const Item &item)
+{
+    const bool isWord = item.kind == ItemKind::Number || item.kind == ItemKind::MacroUse;
+    return isWord ? wholeNumber(source.at(item)) : std::nullopt;
+}
+
 std::optional<int> number(const Source &source, const Parts &parts, int index)
 {
-    if (index >= parts.size() || parts[index]->kind != ItemKind::Number)
-        return {};
-    return wholeNumber(source.at(*parts[index]));
+    return index < parts.size() ? number(source, *parts[index]) : std::nullopt;
 }
 
 // Borders are printed as whole percents. With a count that is a multiple of eight they can be half
@@ -60,8 +65,7 @@ void checkBorders(Reporter &reporter, const Item &group, int count)
         const Item &item = source.items[index];
         if (item.kind == ItemKind::Comma)
             continue;
-        const std::optional<int> border =
-            item.kind == ItemKind::Number ? wholeNumber(source.at(item)) : std::nullopt;
+        const std::optional<int> border = number(source, item);
         if (!border)
             return;
         const bool rises = *border > before || (*border == before && mayPrintAlike(before, count));
@@ -79,7 +83,25 @@ void checkBorders(Reporter &reporter, const Item &group, int count)
             u"%1 bands need %2 borders, and there are %3"_s.arg(count).arg(count + 1).arg(borders));
 }
 
-void checkBands(Reporter &reporter, const Parts &parts)
+// The borders without their opening bracket are numbers up to a closing one. It may have been
+// taken for a key, and is only reported here then. Returns whether it is there.
+bool checkOpening(Reporter &reporter, const Parts &parts, qsizetype statementEnd)
+{
+    const Source &source = reporter.source();
+    int next = 2;
+    while (number(source, parts, next))
+        ++next;
+    if (next == 2)
+        return false;
+    if (next < parts.size() && source.at(*parts[next]) == u")") {
+        reporter.report(StrayBracketCode, parts[next]->place, u"The bracket ) was never opened"_s);
+        return true;
+    }
+    const qsizetype end = next < parts.size() ? parts[next]->place.position : statementEnd;
+    return hasStrayClosing(source, parts[2]->place.position, end);
+}
+
+void checkBands(Reporter &reporter, const Parts &parts, qsizetype statementEnd)
 {
     const std::optional<int> count = number(reporter.source(), parts, 1);
     if (!count)
@@ -91,10 +113,10 @@ void checkBands(Reporter &reporter, const Parts &parts)
         return;
     }
     const bool hasBorders = parts.size() > 2 && parts[2]->kind == ItemKind::Group;
-    if (!hasBorders)
-        reporter.report(BandCount, parts[1]->place, u"The borders of the bands are missing"_s);
-    else if (parts[2]->closed)
+    if (hasBorders && parts[2]->closed)
         checkBorders(reporter, *parts[2], *count);
+    else if (!hasBorders && !checkOpening(reporter, parts, statementEnd))
+        reporter.report(BandCount, parts[1]->place, u"The borders of the bands are missing"_s);
 }
 
 bool isSingleKey(const Item &item)
@@ -138,7 +160,7 @@ void checkDigitalAxis(Reporter &reporter, const JoystickStatement &statement)
         else if (*type == 1)
             checkCentre(reporter, parts);
         else if (*type >= 5)
-            checkBands(reporter, parts);
+            checkBands(reporter, parts, statement.place.end());
     }
 }
 

@@ -10,9 +10,6 @@ namespace zeph::language {
 
 namespace {
 
-// 28 buttons have statements of their own; USE ALL_DIRECTX_BUTTONS adds four.
-constexpr int lastDirectXButton = 32;
-
 /// Walks over the items of a USE statement's body.
 class UseBody
 {
@@ -47,13 +44,20 @@ private:
     int m_end;
 };
 
+bool isMouseType(QStringView word)
+{
+    const std::optional<int> number =
+        sameWord(word.first(1), u"A") ? wholeNumber(word.sliced(1)) : std::nullopt;
+    return number && *number >= 1 && *number <= lastMouseType;
+}
+
 void checkMouseType(Reporter &reporter, UseBody body)
 {
     const Item *type = body.next();
     const QStringView word = body.word(type);
-    const bool isLettered = word.size() > 1 && sameWord(word.first(1), u"A");
-    const std::optional<int> number = isLettered ? wholeNumber(word.sliced(1)) : std::nullopt;
-    if (number && (*number < 1 || *number > lastMouseType))
+    // With other characters in it, an option may follow without a blank.
+    const bool isName = !word.isEmpty() && nameEnd(word, 0) == word.size();
+    if (isName && !isMouseType(word))
         reporter.report(UnknownMouseType, type->place, u"There is no mouse type %1"_s.arg(word));
 }
 
@@ -104,6 +108,10 @@ void checkAxesConfiguration(Reporter &reporter, const JoystickStatement &stateme
                             u"DirectX axis %1 is used twice"_s.arg(*number));
         }
     }
+    // A bracket that was never opened is told instead.
+    const qsizetype from = statement.place.position;
+    if (hasStrayClosing(reporter.source(), from, statement.place.end()))
+        return;
     if (understood && (!used[1] || !used[2]))
         reporter.report(AxesConfiguration, statement.subject,
                         u"DirectX axes 1 and 2 must have an axis"_s);
@@ -133,6 +141,29 @@ void checkDirectXButton(Reporter &reporter, const Item &role, QStringView word)
         reporter.report(DirectXButton, role.place, u"There is no DirectX button %1"_s.arg(*number));
 }
 
+// Whether the word is `before`, a number and `after`.
+bool isNumbered(QStringView word, QStringView before, QStringView after)
+{
+    const qsizetype digits = word.size() - before.size() - after.size();
+    return digits > 0 && word.startsWith(before, Qt::CaseInsensitive)
+        && word.endsWith(after, Qt::CaseInsensitive)
+        && wholeNumber(word.sliced(before.size(), digits));
+}
+
+// USE HAT1 FORCED_CORNERS and USE HAT1_SENSITIVITY (5), with a hat that does not exist.
+void checkHatOption(Reporter &reporter, UseBody body)
+{
+    const Item *name = body.next();
+    const QStringView word = body.word(name);
+    const bool isSensitivity =
+        isNumbered(word, u"HAT", u"_SENSITIVITY") || isNumbered(word, u"T", u"_SENSITIVITY");
+    const bool hasCorners = sameWord(body.word(body.next()), u"FORCED_CORNERS"_w);
+    if (hasCorners && sameWord(word, u"RADIOSWITCH"_w))
+        reporter.report(UnknownHatRole, name->place, u"The radio switch has no corners"_s);
+    else if ((hasCorners || isSensitivity) && !rowOf(word).is(HatRole))
+        reporter.report(UnknownControl, name->place, u"There is no control %1"_s.arg(word));
+}
+
 // Checks "NAME AS ROLE" for controls, hats and axes. Other statements are not known well enough.
 void checkAssignment(Reporter &reporter, UseBody body)
 {
@@ -150,11 +181,15 @@ void checkAssignment(Reporter &reporter, UseBody body)
     // A flag can be used like a button. Other words of the language may take roles unknown here.
     const bool isPossible =
         row.is(ControlRole) || flagNumber(nameWord) || (!needsControl && row.isKnown());
-    if (!isPossible)
+    const bool toMouse = sameWord(word, u"MOUSE"_w) || rowOf(word).is(MouseAxisRole);
+    const bool meansAxis = toMouse && !nameWord.startsWith(u"HAT", Qt::CaseInsensitive);
+    if (!isPossible && meansAxis)
+        reporter.report(UnknownAxis, name->place, u"There is no axis %1"_s.arg(nameWord));
+    else if (!isPossible)
         reporter.report(UnknownControl, name->place, u"There is no control %1"_s.arg(nameWord));
     if (toButton)
         checkDirectXButton(reporter, *role, word);
-    else if (isAxis && (sameWord(word, u"MOUSE"_w) || rowOf(word).is(MouseAxisRole)))
+    else if (isAxis && toMouse)
         checkMouseAxis(reporter, row, *role, word);
 }
 
@@ -163,8 +198,10 @@ void checkAssignment(Reporter &reporter, UseBody body)
 void checkUse(Reporter &reporter, const JoystickStatement &statement)
 {
     const UseBody body(reporter.source(), statement);
-    if (statement.useForm < 0)
+    if (statement.useForm < 0) {
+        checkHatOption(reporter, body);
         return checkAssignment(reporter, body);
+    }
     const UseForm &form = useForms()[size_t(statement.useForm)];
     if (form.head == u"MTYPE"_w)
         checkMouseType(reporter, body);

@@ -35,16 +35,22 @@ void checkBodies(Reporter &reporter)
                             u"There is no logical flag %1"_s.arg(source.at(item)));
     }
     checkCalls(reporter);
+    checkDisables(reporter);
+}
+
+// What may follow BTN besides the controls: names of sticks older than the Cougar.
+bool isOlderName(QStringView name)
+{
+    return name.startsWith(u"PORTB"_w, Qt::CaseInsensitive) || sameWord(name, u"JSX"_w)
+        || sameWord(name, u"JSY"_w) || sameWord(name, u"SWAPTG"_w);
 }
 
 void checkButton(Reporter &reporter, const JoystickStatement &statement)
 {
     const QStringView name = reporter.source().at(statement.subject);
-    const Word &row = rowOf(name);
     if (name.isEmpty())
         reporter.report(UnknownControl, statement.keyword, u"BTN needs a control"_s);
-    else if (!row.is(ControlRole) && !row.is(StatementRole)
-             && !name.startsWith(u"PORTB"_w, Qt::CaseInsensitive))
+    else if (!rowOf(name).is(ControlRole) && !isOlderName(name))
         reporter.report(UnknownControl, statement.subject, u"There is no control %1"_s.arg(name));
 }
 
@@ -65,6 +71,9 @@ bool isDigit(QChar c)
 // Whether the word is the control's name with another number: T11 for T1, H5U for H1U.
 bool differsInNumber(QStringView word, QStringView control)
 {
+    // Most words end here, and a file may hold many.
+    if (word[0].toUpper() != control[0])
+        return false;
     const auto from = std::ranges::find_if(control, isDigit);
     const auto to = std::find_if_not(from, control.end(), isDigit);
     const QStringView before = control.first(from - control.begin());
@@ -105,6 +114,7 @@ void checkCurveStatement(Reporter &reporter, const JoystickStatement &statement)
     }
 }
 
+// Only a statement of its own is certain to name an axis: in a button's body it may be a macro.
 void checkDisable(Reporter &reporter, const JoystickStatement &statement)
 {
     const Source &source = reporter.source();
@@ -112,14 +122,8 @@ void checkDisable(Reporter &reporter, const JoystickStatement &statement)
     if (index >= statement.body.items.end)
         return;
     const Item &item = source.items[index];
-    const QStringView name = source.at(item);
-    const Word &row = rowOf(name);
-    if (row.is(DisableableRole))
-        return;
-    if (row.is(AxisRole) || row.is(AxisGroupRole))
-        reporter.report(NotDisableable, item.place, u"%1 cannot be disabled"_s.arg(name));
-    else if (item.kind == ItemKind::Unknown)
-        reporter.report(UnknownAxis, item.place, u"There is no axis %1"_s.arg(name));
+    if (item.kind == ItemKind::Unknown)
+        reporter.report(UnknownAxis, item.place, u"There is no axis %1"_s.arg(source.at(item)));
 }
 
 using StatementCheck = void (*)(Reporter &, const JoystickStatement &);
@@ -139,18 +143,31 @@ constexpr StatementRule rules[] = {
     { StatementKind::Use, checkUse },
 };
 
-// Positions in pixels need USE SCREEN_RESOLUTION; percentages do not.
-void checkScreen(Reporter &reporter, const JoystickFile &joystick)
+bool tellsScreen(const JoystickFile &joystick)
 {
-    for (const JoystickStatement &statement : joystick.statements) {
-        if (statement.useForm >= 0
-            && useForms()[size_t(statement.useForm)].head == u"SCREEN_RESOLUTION"_w)
-            return;
-    }
-    for (const Item &item : joystick.items) {
+    return std::ranges::any_of(joystick.statements, [](const JoystickStatement &statement) {
+        return statement.useForm >= 0
+            && useForms()[size_t(statement.useForm)].head == u"SCREEN_RESOLUTION"_w;
+    });
+}
+
+// Positions in pixels need USE SCREEN_RESOLUTION; percentages do not.
+void checkScreen(Reporter &reporter)
+{
+    const Source &source = reporter.source();
+    const QStringView text(source.text);
+    qsizetype percent = -1;
+    for (const Item &item : source.items) {
         const bool isScreen = item.kind == ItemKind::Call
             && words[size_t(item.reference)].arguments == CallShape::Screen;
-        if (isScreen && !joystick.at(item).contains(u'%')) {
+        if (!isScreen)
+            continue;
+        // Calls may hold each other: going on from the last sign found reads the text once.
+        if (percent < item.place.position) {
+            const qsizetype found = text.indexOf(u'%', item.place.position);
+            percent = found < 0 ? text.size() : found;
+        }
+        if (percent >= item.place.end()) {
             reporter.report(NoScreenResolution, item.place,
                             u"There is no USE SCREEN_RESOLUTION statement"_s);
             return;
@@ -171,9 +188,12 @@ QList<Finding> check(const FilePair &pair)
                 rule.check(joystick, statement);
         }
     }
-    checkScreen(joystick, pair.joystick);
     Reporter macro(pair.macro, File::Macro, findings);
     checkBodies(macro);
+    if (!tellsScreen(pair.joystick)) {
+        checkScreen(joystick);
+        checkScreen(macro);
+    }
     checkMacroCycles(macro, pair.macro);
     std::stable_sort(findings.begin(), findings.end(), [](const Finding &a, const Finding &b) {
         return std::pair(a.file, a.place.position) < std::pair(b.file, b.place.position);
@@ -185,6 +205,12 @@ Finding missingMacroFile(const MacroReference &reference)
 {
     return { NoMacroFile, u"The macro file %1 was not found"_s.arg(reference.name), File::Joystick,
              reference.place };
+}
+
+Finding unreadableMacroFile(const QString &path, const QString &reason, const Place &place)
+{
+    return { UnreadableMacroFile, u"The macro file %1 cannot be read: %2"_s.arg(path, reason),
+             File::Joystick, place };
 }
 
 } // namespace zeph::language

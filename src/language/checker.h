@@ -13,5 +13,8 @@ QList<Finding> check(const FilePair &pair);
 
 /// The finding for a macro file that is named and not there.
 Finding missingMacroFile(const MacroReference &reference);
+/// The finding for a macro file that is there and cannot be read; the place is that of its name in
+/// the joystick file, with line 0 when it is not named.
+Finding unreadableMacroFile(const QString &path, const QString &reason, const Place &place);
 
 } // namespace zeph::language

@@ -73,9 +73,9 @@ constexpr ErrorEntry table[] = {
       u"missing or used twice, or DirectX axis 1 or 2 has no axis at all; Windows sees no "
       u"joystick without these two.",
       u"Set the axes on the Composer's AXES_CONFIG page, which keeps to these rules." },
-    { NotDisableable, u"This axis cannot be disabled",
-      u"DISABLE works for the throttle, the rotaries, the rudder and the toe brakes. The stick and "
-      u"the microstick always stay on.",
+    { NotDisableable, u"This cannot be disabled",
+      u"DISABLE works for the throttle, the rotaries, the rudder, the toe brakes and the mouse. "
+      u"The stick and the microstick always stay on, and so do buttons and hats.",
       u"Remove the statement, or leave the axis out with USE AXES_CONFIG." },
     { UnequalSwap, u"A pair of axes can only be swapped with a pair",
       u"SWAP names one single axis and one pair, such as THR and ROTARIES.",
@@ -97,6 +97,10 @@ constexpr ErrorEntry table[] = {
     { BadCommand, u"The request was not understood",
       u"The compiler was started without a joystick file, or with switches it does not know.",
       u"Start it from the Download menu of Zeph." },
+    { UnreadableMacroFile, u"The macro file could not be read",
+      u"The macro file is there, but another program keeps it to itself, or it is no plain text: "
+      u"an editor may have saved it as UTF-16.",
+      u"Open it in the Editor, or in the program that wrote it, and save it as plain text." },
 };
 
 } // namespace

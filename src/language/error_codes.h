@@ -38,6 +38,7 @@ enum Code : int {
     NoScreenResolution = 1021,
     UnknownMouseType = 1022,
     BadCommand = 1023,
+    UnreadableMacroFile = 1024,
 };
 
 struct ErrorEntry {

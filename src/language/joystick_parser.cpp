@@ -38,7 +38,7 @@ class JoystickParser
 {
 public:
     JoystickParser(JoystickFile &file, const WordMap &macros)
-        : m_file(file), m_text(file.text), m_body(file, macros)
+        : m_file(file), m_text(file.text), m_macros(macros), m_body(file, macros)
     {
     }
 
@@ -47,17 +47,18 @@ public:
         LineReader lines(m_text);
         Line line;
         while (lines.next(line)) {
-            if (line.codeEnd <= line.first || m_text[line.first] == u'~')
-                continue;
-            readLine(line);
+            if (line.codeEnd > line.first)
+                readLine(line);
         }
         finish();
     }
 
 private:
-    void readLine(const Line &line)
+    void readLine(Line line)
     {
         qsizetype at = line.first;
+        if (const qsizetype keyword = afterTilde(line); keyword > 0)
+            line.first = keyword;
         const qsizetype keywordEnd = statementKeywordEnd(line);
         if (keywordEnd > 0) {
             finish();
@@ -67,8 +68,86 @@ private:
         } else if (m_nameIsDue) {
             at = startWithName(line, line.first);
         }
-        m_body.read(at, line.codeEnd, line.number);
-        m_statement.place.length = line.codeEnd - m_statement.place.position;
+        const qsizetype end = line.codeEnd;
+        for (;;) {
+            const qsizetype next = nextStatement(at, end);
+            m_body.read(at, next, line.number);
+            const QStringView read = m_text.first(next).sliced(m_statement.place.position);
+            m_statement.place.length = trimmedEnd(read);
+            if (next == end)
+                return;
+            finish();
+            line.first = next;
+            at = start(line, nameEnd(m_text, next));
+        }
+    }
+
+    // A "~" before a statement does not switch it off, as it does in a macro file. Returns where
+    // the statement begins, or 0.
+    qsizetype afterTilde(Line line) const
+    {
+        if (m_text[line.first] != u'~')
+            return 0;
+        line.first = skipBlanks(m_text.first(line.codeEnd), line.first + 1);
+        return line.first < line.codeEnd && statementKeywordEnd(line) > 0 ? line.first : 0;
+    }
+
+    // Where the next statement of the same line begins, searched from the position on; `end`
+    // without one.
+    qsizetype nextStatement(qsizetype from, qsizetype end) const
+    {
+        if (m_statement.kind == StatementKind::Unknown)
+            return end;
+        const QStringView code = m_text.first(end);
+        for (qsizetype at = from; at < end;) {
+            const qsizetype to = wordEnd(code, at);
+            if (at > from && beginsInLine(code, at, to))
+                return at;
+            at = std::max(to, at + 1);
+        }
+        return end;
+    }
+
+    // Whether a word in the middle of a line certainly begins a statement: options and arguments
+    // have the same words.
+    bool beginsInLine(QStringView code, qsizetype from, qsizetype to) const
+    {
+        const QStringView word = code.sliced(from, to - from);
+        const Word &row = rowOf(word);
+        if (!row.is(StatementRole) || m_macros.value(word) >= 0)
+            return false;
+        if (sameWord(word, u"BTN"_w))
+            return true;
+        const qsizetype next = skipBlanks(code, to);
+        const qsizetype nextEnd = wordEnd(code, next);
+        if (sameWord(word, u"DEF"_w))
+            return flagNumber(code.sliced(next, nextEnd - next)).has_value();
+        if (sameWord(word, u"USE"_w)) {
+            const qsizetype second = skipBlanks(code, nextEnd);
+            const QStringView as = code.sliced(second, wordEnd(code, second) - second);
+            return useFormOf(code.sliced(next)) >= 0 || sameWord(as, u"AS"_w);
+        }
+        const StatementKind kind = m_statement.kind;
+        const bool mayEnd =
+            holdsKeys(kind) || kind == StatementKind::FlagDefinition || kind == StatementKind::Use;
+        return row.is(AxisRole) && mayEnd && !isArgument(code, from) && beginsAxisType(code, next);
+    }
+
+    static bool isArgument(QStringView code, qsizetype at)
+    {
+        while (at > 0 && isBlank(code[at - 1]))
+            --at;
+        return at > 0 && (code[at - 1] == u'(' || code[at - 1] == u',');
+    }
+
+    // Whether a digital axis's type follows, perhaps after slash modifiers.
+    static bool beginsAxisType(QStringView code, qsizetype at)
+    {
+        while (at < code.size() && slashAt(code, at) >= 0)
+            at = skipBlanks(code, at + 2);
+        const qsizetype end = wordEnd(code, at);
+        const std::optional<int> type = wholeNumber(code.sliced(at, end - at));
+        return type && *type >= 1 && *type <= lastAxisType;
     }
 
     // The end of the statement keyword that starts the line, or 0. "THR-Up" and "Use_Flaps" are
@@ -84,8 +163,11 @@ private:
         const QStringView word = code.sliced(line.first, end - line.first);
         if (!rowOf(word).is(StatementRole))
             return 0;
-        // RATE and axes also occur in bodies, so inside brackets they start no statement.
-        const bool goesOn = m_open && m_body.isInBrackets() && !beginsAnywhere(word);
+        // RATE and the like also occur in bodies, and axes as arguments, so inside brackets they
+        // start no statement.
+        const bool isInBrackets =
+            rowOf(word).is(AxisRole) ? m_body.isInCertainBrackets() : m_body.isInBrackets();
+        const bool goesOn = m_open && isInBrackets && !beginsAnywhere(word);
         return goesOn ? 0 : end;
     }
 
@@ -189,6 +271,7 @@ private:
 
     JoystickFile &m_file;
     QStringView m_text;
+    const WordMap &m_macros;
     BodyParser m_body;
     JoystickStatement m_statement;
     bool m_open = false;

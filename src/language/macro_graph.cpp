@@ -115,7 +115,10 @@ qint64 compiledSize(const FilePair &pair)
 
 int memoryPercent(qint64 bytes)
 {
-    return int(std::min<qint64>(100, (bytes * 100 + memoryBytes - 1) / memoryBytes));
+    if (bytes >= memoryBytes)
+        return 100;
+    // Below that it is not full, and whatever takes memory takes at least one percent.
+    return int(std::min<qint64>(99, (bytes * 100 + memoryBytes - 1) / memoryBytes));
 }
 
 } // namespace zeph::language

@@ -28,7 +28,8 @@ MacroOrder orderMacros(const MacroFile &macro);
 /// the whole macro. At most one thousand million.
 qint64 compiledSize(const FilePair &pair);
 
-/// That size as a percentage of the memory, 0 to 100.
+/// That size as a percentage of the memory, rounded up: 0 for nothing, 100 only when the memory is
+/// full.
 int memoryPercent(qint64 bytes);
 
 } // namespace zeph::language

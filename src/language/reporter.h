@@ -45,9 +45,14 @@ using Arguments = QVarLengthArray<Argument, 4>;
 /// them, at least one. The item must belong to the source's list.
 Arguments argumentsOf(const Source &source, const Item &item);
 
+/// Whether one of the source's stray closing brackets lies at or after `from` and before `to`.
+bool hasStrayClosing(const Source &source, qsizetype from, qsizetype to);
+
 void checkCurve(Reporter &reporter, const Arguments &arguments);
 /// Checks the arguments of all calls.
 void checkCalls(Reporter &reporter);
+/// Checks what every DISABLE names.
+void checkDisables(Reporter &reporter);
 /// Checks the body of a digital axis statement.
 void checkDigitalAxis(Reporter &reporter, const JoystickStatement &statement);
 void checkUse(Reporter &reporter, const JoystickStatement &statement);

@@ -75,6 +75,28 @@ std::optional<int> wholeNumber(QStringView text)
     return int(negative ? -value : value);
 }
 
+std::optional<double> decimalNumber(QStringView text)
+{
+    const qsizetype point = text.indexOf(u'.');
+    const std::optional<int> whole = wholeNumber(point < 0 ? text : text.first(point));
+    if (point < 0 || !whole)
+        return whole;
+    if (text[point - 1] == u'%')
+        return {};
+    QStringView digits = text.sliced(point + 1);
+    if (digits.endsWith(u'%'))
+        digits.chop(1);
+    double fraction = 0;
+    double unit = 1;
+    for (const QChar c : digits) {
+        if (c < u'0' || c > u'9')
+            return {};
+        unit /= 10;
+        fraction += (c.unicode() - u'0') * unit;
+    }
+    return text.startsWith(u'-') ? *whole - fraction : *whole + fraction;
+}
+
 bool LineReader::next(Line &line)
 {
     if (m_at > m_text.size())

@@ -57,6 +57,8 @@ bool sameWord(QStringView left, QStringView right);
 /// A whole number with an optional sign; a "%" after it is ignored. Any other text has no value.
 /// Numbers of more than nine digits give the largest of nine.
 std::optional<int> wholeNumber(QStringView text);
+/// The same with digits after a decimal point: "90.5%".
+std::optional<double> decimalNumber(QStringView text);
 
 /// A line without the parts that the parsers leave out. All positions count from the text's start.
 struct Line {

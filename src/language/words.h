@@ -184,8 +184,8 @@ inline constexpr Word rows[] = {
     option(u"Rem", Rem),
 
     // Words with brackets.
-    call(u"DELAY", Raw), call(u"PULSE", Raw), call(u"USB", Raw),
-    call(u"KD", Raw, CallShape::Keys), call(u"KU", Raw, CallShape::Keys),
+    call(u"DELAY", Raw), call(u"PULSE", Raw),
+    call(u"USB", Raw, CallShape::Keys), call(u"KD", Raw, CallShape::Keys), call(u"KU", Raw, CallShape::Keys),
     call(u"MSX", Raw), call(u"MSY", Raw), call(u"MSZ", Raw),
     call(u"TRIM", Raw, CallShape::AxisAndTrim), call(u"HOLDTRIM", Raw, CallShape::Axis),
     call(u"LOCK", Raw, CallShape::AxisAndLock), call(u"UNLOCK", Raw, CallShape::Axis),
@@ -316,6 +316,7 @@ constexpr int lastAxisType = 6;
 constexpr int lastMouseType = 5;
 constexpr int lastMouseRate = 127;
 constexpr int lastDirectXAxis = 10;
+constexpr int lastDirectXButton = 28;
 /// From -32 on.
 constexpr int lastCurve = 32;
 /// From -127 on.

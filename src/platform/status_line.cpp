@@ -21,7 +21,14 @@ void StatusLine::setContents(StatusPanel panel, const StatusContents &contents)
 
 void StatusLine::setText(const QString &text)
 {
+    m_showsKeys = false;
     setContents(StatusPanel::Message, { .text = text, .tooltip = textTooltip() });
+}
+
+void StatusLine::setKeys(const QString &keys)
+{
+    setText(keys);
+    m_showsKeys = true;
 }
 
 void StatusLine::setTextNow(const QString &text)
@@ -45,6 +52,11 @@ void StatusLine::setSaved(int picture, const QString &tooltip)
     setContents(StatusPanel::Saved, { .picture = picture, .tooltip = tooltip });
 }
 
+void StatusLine::setOtherSaved(int picture, const QString &tooltip)
+{
+    setContents(StatusPanel::OtherSaved, { .picture = picture, .tooltip = tooltip });
+}
+
 void StatusLine::setModePicture(int picture)
 {
     setContents(StatusPanel::Mode,
@@ -54,6 +66,16 @@ void StatusLine::setModePicture(int picture)
 void StatusLine::setModeTooltip(const QString &tooltip)
 {
     setContents(StatusPanel::Mode, { .picture = modePicture(), .tooltip = tooltip });
+}
+
+void StatusLine::setStandIns(bool inUse)
+{
+    setContents(StatusPanel::StandIns,
+                inUse ? StatusContents{ .text = u"Stand-in tools"_s,
+                                        .tooltip = u"The tools in use are the stand-ins that come "
+                                                   "with Zeph: they check files, and nothing "
+                                                   "reaches a stick."_s }
+                      : StatusContents{});
 }
 
 } // namespace zeph

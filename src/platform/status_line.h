@@ -12,12 +12,14 @@
 namespace zeph {
 
 /// The panels of the main window's status bar from left to right.
-enum class StatusPanel { Message, Mode, Line, Saved };
+enum class StatusPanel { Message, Mode, Line, Saved, OtherSaved, StandIns };
+constexpr size_t statusPanels = size_t(StatusPanel::StandIns) + 1;
 
 /// What a panel shows.
 struct StatusContents {
     QString text = {};
-    /// One of the panel's pictures, from 1; a panel without pictures shows its text.
+    /// One of the panel's pictures, from 1; a panel without pictures shows its text. A panel of
+    /// pictures is hidden at 0.
     int picture = 0;
     QString tooltip = {};
 
@@ -37,6 +39,9 @@ public:
     /// The message line.
     const QString &text() const { return contents(StatusPanel::Message).text; }
     void setText(const QString &text);
+    /// The same with a macro's keys, which a change of tabs leaves.
+    void setKeys(const QString &keys);
+    bool showsKeys() const { return m_showsKeys; }
     /// Shows the text at once, for an operation that will not return to the event loop soon.
     /// Nothing but the panel is repainted: no event is handled, no timer fires.
     void setTextNow(const QString &text);
@@ -53,11 +58,17 @@ public:
     int savedPicture() const { return contents(StatusPanel::Saved).picture; }
     const QString &savedTooltip() const { return contents(StatusPanel::Saved).tooltip; }
     void setSaved(int picture, const QString &tooltip);
+    /// The same for the document that is shown beside the selected one; 0 when none is.
+    void setOtherSaved(int picture, const QString &tooltip);
 
     /// The Cougar's mode picture: 1 selector off, 2 Windows mode, 3 Programmed mode, 4 unknown.
     int modePicture() const { return contents(StatusPanel::Mode).picture; }
     void setModePicture(int picture);
     void setModeTooltip(const QString &tooltip);
+
+    /// Whether the tools in use are the stand-ins, so that nothing reaches a Cougar.
+    bool standIns() const { return !contents(StatusPanel::StandIns).text.isEmpty(); }
+    void setStandIns(bool inUse);
 
 Q_SIGNALS:
     void changed(zeph::StatusPanel panel);
@@ -67,11 +78,14 @@ Q_SIGNALS:
     void repaintWanted();
 
 private:
-    std::array<StatusContents, 4> m_panels{ {
+    bool m_showsKeys = false;
+    std::array<StatusContents, statusPanels> m_panels{ {
         {},
         { .picture = 1, .tooltip = u"Cougar mode selector is off"_s },
         {},
         { .picture = 1 },
+        {},
+        {},
     } };
 };
 

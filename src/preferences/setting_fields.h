@@ -13,7 +13,8 @@ class QWidget;
 
 namespace zeph {
 
-/// The fields of a page that each edit one setting: those that fieldsOf() finds by their names.
+/// The fields of a page that edit one setting each: those that fieldsOf() finds by their names. A
+/// number field that is left shows the number that take() would read from it.
 class SettingFields
 {
 public:

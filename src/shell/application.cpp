@@ -32,10 +32,12 @@
 #include "shell/preferences_menu.h"
 #include "shell/settings/shell_settings.h"
 #include "shell/start_up.h"
+#include "shell/template_guard.h"
 #include "templates/template_tools.h"
 #include "templates/templateform.h"
 #include "toolchain/cougar_tools.h"
 #include "toolchain/modes/profiles.h"
+#include "toolchain/tool_presence.h"
 #include "toolchain/toolchain_settings.h"
 #include "toolchain/tools_menu.h"
 
@@ -125,6 +127,8 @@ bool Application::start()
     startModes();
     loadEditor();
     selectFirstTab();
+    // The tab has said what is edited.
+    greet();
     return true;
 }
 
@@ -211,7 +215,11 @@ void Application::loadEditor()
     }
     openStartFiles(*m_editor, m_commandLineFile, m_settings.of<EditorSettings>(),
                    ProfileFile(m_paths.iniPath), m_options.dialogs);
+    if (m_commandLineFile.isEmpty() && !m_options.arguments.isEmpty()) {
+        m_options.dialogs.box(missingFileBox(m_options.arguments));
+    }
     m_editor->guards().recovery.offerLeft();
+    m_templateGuard->offerLeft();
     m_editor->guards().autoSave.restart();
     m_mum->refreshToolbars();
     m_status.setLine(1);
@@ -221,6 +229,7 @@ void Application::loadEditor()
         runFirstRun(context(), { *m_help, *m_lists, *m_tools }, m_options.welcomeIntervalMs,
                     m_mum.get());
         m_editor->applySettings();
+        m_tools->presence().refresh();
         // The first run has only now asked for the callsign.
         greet();
     } else if (m_settings.of<SharedSettings>().ShowTips) {
@@ -234,6 +243,7 @@ void Application::loadEditor()
 void Application::addToolWindows()
 {
     ToolWindows &windows = m_mum->toolWindows();
+    m_templateGuard = new TemplateGuard(context(), windows, m_mum.get());
     const ToolEntries tools{ m_editor->actions(), windows };
     addLiveTools(tools, context(), m_tools->modes());
     addTemplateTools(tools, context(), m_options.printers, m_editor->macros().list().table());
@@ -318,6 +328,9 @@ void Application::unloadMum()
         m_editor->guards().recovery.finish();
     }
     m_mum->toolWindows().unloadAll();
+    if (m_templateGuard) {
+        m_templateGuard->finish();
+    }
     const WindowPlace place = m_mum->place();
     const QSize screen = m_options.screen.size();
     (void)SaveMumPosition(

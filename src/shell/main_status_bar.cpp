@@ -43,7 +43,11 @@ const PanelRow panelRows[] = {
     { StatusPanel::Mode, u"Cougar mode", u"", modeIcons },
     { StatusPanel::Line, u"", u"Line no: 99999", {} },
     { StatusPanel::Saved, u"Saved state", u"", savedIcons },
+    { StatusPanel::OtherSaved, u"Saved state of the other file", u"", savedIcons },
+    { StatusPanel::StandIns, u"", u"", {} },
 };
+
+static_assert(std::size(panelRows) + 1 == statusPanels, "each panel but the message has a row");
 
 /// The message line: a message that is too long ends in dots instead of widening the window.
 class MessageLabel : public QLabel
@@ -124,6 +128,7 @@ void MainStatusBar::showPanel(StatusPanel shown)
         label.update();
         return;
     }
+    label.setVisible(contents.picture > 0);
     const int picture = std::clamp(contents.picture, 1, int(row->pictures.size()));
     const QString icon = QString::fromUtf16(row->pictures[size_t(picture) - 1]);
     label.setPixmap(

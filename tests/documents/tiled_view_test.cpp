@@ -111,3 +111,20 @@ TEST_F(TiledViewTest, ProtectionOutlivesTheFileAndGuardsTheNextOne)
     EXPECT_EQ(editor->macroText(), u"Fire = f");
     EXPECT_EQ(editor->macro().state(), Document::Saved);
 }
+
+TEST_F(TiledViewTest, BothStatesAreOnTheStatusBarWhileBothTextsAreShown)
+{
+    const auto other = [this] {
+        const StatusContents &contents = status.contents(StatusPanel::OtherSaved);
+        return std::pair(contents.picture, contents.tooltip);
+    };
+    EXPECT_EQ(other(), std::pair(2, u"a.tmm is saved"_s));
+    type(DocumentKind::Macro, u"x"_s);
+    EXPECT_EQ(other(), std::pair(3, u"a.tmm has been modified and isn't saved"_s));
+    EXPECT_EQ(status.savedPicture(), 2);
+    editor->documents().select(DocumentKind::Macro);
+    EXPECT_EQ(other(), std::pair(2, u"a.tmj is saved"_s));
+    EXPECT_EQ(status.savedPicture(), 3);
+    editor->action(u"mnuViewTileVertically")->trigger();
+    EXPECT_EQ(other(), std::pair(0, QString()));
+}

@@ -197,7 +197,6 @@ const QList<QString> composed{
     u"BTN S1 /P < KD(a)\n   CURVE (THR, 3) >"_s,
     u"USE AXES_CONFIG (1, JOYX), (2,\nJOYY)"_s,
     u"USE AXES_CONFIG (1, JOYX), Rem first\n (2, Rem second\n JOYY)"_s,
-    u"BTN S1 /O a BTN S2 /I b"_s,
     // Roles that nothing is known of.
     u"USE X1 AS DX5"_s,
     u"USE POV AS JOYSTICK"_s,
@@ -208,7 +207,33 @@ const QList<QString> composed{
     u"BTN S1 Unknown_Macro"_s,
     u"Text before any statement"_s,
     u"USE SOMETHING NEW"_s,
-    u"~BTN S1 ( ( (\nRem BTN S9 ( ( ("_s,
+    u"Rem BTN S9 ((a"_s,
+    u"BTN S1 a\n ~ b ~"_s,
+    // Single brackets may be keys wherever keys are.
+    u"BTN S1 a )"_s,
+    u"BTN S1 } a"_s,
+    u"BTN S1 { a"_s,
+    u"BTN S1 a < b"_s,
+    u"BTN S1 a\n  < b } >"_s,
+    u"BTN S1 ( < ) >"_s,
+    u"BTN S1 {a ( b}"_s,
+    u"BTN S1 { a > b }"_s,
+    u"BTN S1 /I { /U a\n /D b"_s,
+    u"ANT 1 6 > <"_s,
+    u"ANT 1 6 ) ( - FORCE_MACROS"_s,
+    u"THR 2 3 ( a )"_s,
+    u"BTN S1 /O ( LSHF\nTHR /I 3 a ^ b\n /O 3 b ^ a"_s,
+    u"BTN S1 /O ( LSHF\nCURVE /I (THR, 4)\n /O (THR, 0)"_s,
+    u"BTN S1 /U /O ( /D ) /I a"_s,
+    // Several statements on a line.
+    u"BTN S1 a BTN T1 b USE S2 AS DX1 DEF X1 S3 THR /U 3 a ^ b"_s,
+    u"BTN S1 /O a BTN S2 /I b"_s,
+    u"USE ZEPH README BTN S9.txt"_s,
+    u"BTN T6 /P CURVE (RNG, 2) SWAP (ANT, RNG) RATE (60) DISABLE MOUSE"_s,
+    u"BTN S1 Use Def ANT a"_s,
+    u"USE MTYPE A1-REVERSE_UD"_s,
+    u"THR_RANGE (10.5%, 90.5%)"_s,
+    u"THR_RANGE (0.1, 0.2)"_s,
 };
 
 struct Wrong {
@@ -249,7 +274,30 @@ const QList<Wrong> wrongs{
     { u"BTN S1 UNLOCK (FOO)"_s, UnknownAxis, 1, u"FOO"_s },
     { u"USE AXES_CONFIG (1, JOYX), (2, JOYY), (3, ROTARIES)"_s, UnknownAxis, 1, u"ROTARIES"_s },
     { u"DISABLE THRT"_s, UnknownAxis, 1, u"THRT"_s },
+    { u"BTN RNG a"_s, UnknownControl, 1, u"RNG"_s },
+    { u"BTN BTN"_s, UnknownControl, 1, u"BTN"_s },
+    { u"BTN USE a"_s, UnknownControl, 1, u"USE"_s },
+    { u"BTN S1 a BTN T11 b"_s, UnknownControl, 1, u"T11"_s },
+    { u"BTN S1 a BTN T1 b BTN"_s, UnknownControl, 1, u"BTN"_s },
+    { u"USE RATE (60) USE S9 AS DX1"_s, UnknownControl, 1, u"S9"_s },
+    { u"BTN S1 a DEF X1 T11 AND S1"_s, UnknownControl, 1, u"T11"_s },
+    { u"~BTN S9 a"_s, UnknownControl, 1, u"S9"_s },
+    { u"BTN S1 a\n ~ BTN S9 a"_s, UnknownControl, 2, u"S9"_s },
+    { u"USE HAT5 FORCED_CORNERS"_s, UnknownControl, 1, u"HAT5"_s },
+    { u"USE S1 FORCED_CORNERS"_s, UnknownControl, 1, u"S1"_s },
+    { u"USE HAT5_SENSITIVITY (3)"_s, UnknownControl, 1, u"HAT5_SENSITIVITY"_s },
+    { u"USE T2_SENSITIVITY (3)"_s, UnknownControl, 1, u"T2_SENSITIVITY"_s },
+    { u"USE HAT5 AS MOUSE (3)"_s, UnknownControl, 1, u"HAT5"_s },
+    { u"USE JOYZ AS MOUSEX (2, 2)"_s, UnknownAxis, 1, u"JOYZ"_s },
+    { u"USE JOYZ AS MOUSEX"_s, UnknownAxis, 1, u"JOYZ"_s },
+    { u"USE STICK AS MOUSE (2, 2)"_s, UnknownAxis, 1, u"STICK"_s },
+    { u"USE CURVE (JOY-X, 4)"_s, UnknownAxis, 1, u"JOY-X"_s },
+    { u"BTN S1 REVERSE (TH.R)"_s, UnknownAxis, 1, u"TH.R"_s },
     { u"DISABLE JOYX"_s, NotDisableable, 1, u"JOYX"_s },
+    { u"DISABLE HAT1"_s, NotDisableable, 1, u"HAT1"_s },
+    { u"DISABLE S1"_s, NotDisableable, 1, u"S1"_s },
+    { u"DISABLE RADIOSWITCH"_s, UnknownAxis, 1, u"RADIOSWITCH"_s },
+    { u"BTN S1 DISABLE JOYX"_s, NotDisableable, 1, u"JOYX"_s },
     { u"DISABLE MICROSTICK"_s, NotDisableable, 1, u"MICROSTICK"_s },
     // Flags.
     { u"DEF X49 S1"_s, UnknownFlag, 1, u"X49"_s },
@@ -264,20 +312,39 @@ const QList<Wrong> wrongs{
     { u"BTN S1 (a"_s, StrayBracketCode, 1, u"("_s },
     { u"BTN S1 a)\nBTN S2 b"_s, StrayBracketCode, 1, u")"_s },
     { u"BTN S1 /U {a\n       /D b\nBTN S2 c"_s, StrayBracketCode, 1, u"{"_s },
-    { u"BTN S1 a\n  < b } >"_s, StrayBracketCode, 2, u"<"_s },
+    { u"BTN S1 a\n  <b} >"_s, StrayBracketCode, 2, u"<"_s },
     { u"BTN S1 DLY(60"_s, StrayBracketCode, 1, u"("_s },
-    { u"BTN S1 { a"_s, StrayBracketCode, 1, u"{"_s },
-    { u"BTN S1 a }"_s, StrayBracketCode, 1, u"}"_s },
-    { u"BTN S1 { /U a\n /D b"_s, StrayBracketCode, 1, u"{"_s },
-    { u"BTN S1 /I { /U a\n /D b"_s, StrayBracketCode, 1, u"{"_s },
+    { u"BTN S1 {a"_s, StrayBracketCode, 1, u"{"_s },
+    { u"BTN S1 a}"_s, StrayBracketCode, 1, u"}"_s },
+    { u"BTN S1 {/U a\n /D b"_s, StrayBracketCode, 1, u"{"_s },
+    { u"BTN S1 /I {/U a\n /D b"_s, StrayBracketCode, 1, u"{"_s },
+    { u"BTN S1 ( a}"_s, StrayBracketCode, 1, u"}"_s },
+    { u"BTN S1 CURVE (THR, ) )"_s, -1, 0, {} },
+    { u"BTN S1 CURVE (THR } , 3)"_s, StrayBracketCode, 1, u"("_s },
+    { u"BTN S1 /P KD(a /R KU(a)"_s, StrayBracketCode, 1, u"("_s },
+    { u"BTN S1 /P KD(a\n       /R KU(a"_s, StrayBracketCode, 1, u"("_s },
+    { u"BTN S1 /P KD(a)\n       /R KU(a"_s, StrayBracketCode, 2, u"("_s },
+    { u"BTN S1 KD(a KU(a)"_s, StrayBracketCode, 1, u"("_s },
+    { u"BTN S1 KD(a DLY(60) KU(a)"_s, StrayBracketCode, 1, u"("_s },
+    { u"BTN S1 USB(D04 /R USB(U04)"_s, StrayBracketCode, 1, u"("_s },
+    { u"BTN S1 { KD(a }"_s, StrayBracketCode, 1, u"("_s },
+    { u"BTN S1 KD(a (b)"_s, StrayBracketCode, 1, u"("_s },
+    { u"BTN S1 KD(a))"_s, StrayBracketCode, 1, u")"_s },
+    { u"BTN S1 KD(a BTN T1 b"_s, StrayBracketCode, 1, u"("_s },
+    { u"THR 5 3 0 33 67 100) a b c"_s, StrayBracketCode, 1, u")"_s },
+    { u"THR 5 3 0 33 67 100 ) a b c"_s, StrayBracketCode, 1, u")"_s },
+    { u"THR 5 3\n 0 33 67 100) 7 8 9"_s, StrayBracketCode, 2, u")"_s },
+    { u"USE AXES_CONFIG 1, JOYX), (2, JOYY)"_s, StrayBracketCode, 1, u")"_s },
+    { u"USE AXES_CONFIG (1, JOYX), 2, JOYY)"_s, StrayBracketCode, 1, u")"_s },
     { u"DEF X1 ) AND S1"_s, StrayBracketCode, 1, u")"_s },
     { u"DEF X1 S1 AND ("_s, StrayBracketCode, 1, u"("_s },
     { u"BTN S1 (a\nRATE (5)\nBTN S2 b"_s, StrayBracketCode, 1, u"("_s },
     { u"USE AXES_CONFIG (1, JOYX), (2, JOYY"_s, StrayBracketCode, 1, u"("_s },
     { u"USE CURVE (THR, 3"_s, StrayBracketCode, 1, u"("_s },
-    { u"BTN S1 ( < ) >"_s, StrayBracketCode, 1, u"<"_s },
+    { u"BTN S1 (a <b) c>"_s, StrayBracketCode, 1, u"<"_s },
     // Digital axes.
     { u"THR 7 a b c"_s, UnknownAxisType, 1, u"7"_s },
+    { u"BTN S1 a THR 5 3 a b c"_s, BandCount, 1, u"3"_s },
     { u"THR 99999999999 a"_s, UnknownAxisType, 1, u"99999999999"_s },
     { u"THR 5 99999999999 (0 100) a"_s, BandCount, 1, u"99999999999"_s },
     { u"THR 0 a b c"_s, UnknownAxisType, 1, u"0"_s },
@@ -306,8 +373,15 @@ const QList<Wrong> wrongs{
     { u"THR_RANGE (90%, 90%)"_s, ThrottleRangeOrder, 1, u"90%"_s },
     { u"USE THR_RANGE (50%, 10%)"_s, ThrottleRangeOrder, 1, u"50%"_s },
     { u"USE S1 AS DX0"_s, DirectXButton, 1, u"DX0"_s },
-    { u"USE S1 AS DX33"_s, DirectXButton, 1, u"DX33"_s },
+    { u"USE S1 AS DX29"_s, DirectXButton, 1, u"DX29"_s },
+    { u"USE S1 AS DX32"_s, DirectXButton, 1, u"DX32"_s },
+    { u"THR_RANGE (90.5%, 10%)"_s, ThrottleRangeOrder, 1, u"90.5%"_s },
+    { u"THR_RANGE (10.5%, 10.5%)"_s, ThrottleRangeOrder, 1, u"10.5%"_s },
+    { u"THR_RANGE (10.5%, 10.25%)"_s, ThrottleRangeOrder, 1, u"10.5%"_s },
     { u"USE MTYPE A6"_s, UnknownMouseType, 1, u"A6"_s },
+    { u"USE MTYPE B1"_s, UnknownMouseType, 1, u"B1"_s },
+    { u"USE MTYPE 1 - REVERSE_UD"_s, UnknownMouseType, 1, u"1"_s },
+    { u"USE RADIOSWITCH FORCED_CORNERS"_s, UnknownHatRole, 1, u"RADIOSWITCH"_s },
     { u"USE HAT1 AS KEYPADS"_s, UnknownHatRole, 1, u"KEYPADS"_s },
     { u"USE HAT1 AS"_s, UnknownHatRole, 1, u"HAT1 AS"_s },
     { u"USE AXES_CONFIG (1, JOYX), (3, THR)"_s, AxesConfiguration, 1, u"AXES_CONFIG"_s },
@@ -397,7 +471,7 @@ TEST(MacroFindings, KeysInBracketsMayRunOverLines)
 {
     expectClean({}, u"Fire = {a b\n  Rem (still open\n\n ~\n c d} \nNext = KD (a\n  b)"_s);
     expectClean({}, u"Fire = CTL (\nNext = SHF <\nLast = ALT { DLY(20) b"_s);
-    const QList<Finding> findings = check(parsePair({}, u"Fire = {a\n b\nNext = c }"_s));
+    const QList<Finding> findings = check(parsePair({}, u"Fire = {a\n b\nNext = c}"_s));
     ASSERT_EQ(findings.size(), 2);
     EXPECT_EQ(findings[0].place.line, 1);
     EXPECT_EQ(findings[1].place.line, 3);
@@ -424,10 +498,40 @@ TEST(MacroFindings, AMacroNamedLikeAFlagIsNoFlag)
     expectClean(u"BTN S1 X49"_s, u"X49 = a"_s);
 }
 
+TEST(MacroFindings, AMousePlaceInPixelsNeedsTheScreensSize)
+{
+    const QString macros = u"Half = MOUSEXY (UL, 50%, 50%)\nMove = MOUSEXY (UL, 10, 20)"_s;
+    const QList<Finding> findings = check(parsePair(u"BTN S1 Move"_s, macros));
+    ASSERT_EQ(findings.size(), 1);
+    EXPECT_EQ(findings[0].code, 1013);
+    EXPECT_EQ(findings[0].file, File::Macro);
+    EXPECT_EQ(findings[0].place.line, 2);
+    expectClean(u"USE SCREEN_RESOLUTION (1024,768)\nBTN S1 Move"_s, macros);
+}
+
+TEST(MacroFindings, ATildeSwitchesALineOffInAMacroFile)
+{
+    expectClean({}, u"~Fire = KD(a\n ~Flare = (b"_s);
+}
+
+TEST(AxisHeads, ANumberIsANumberEvenIfAMacroHasItsName)
+{
+    const QString macros = u"3 = F3\n5 = F5\n7 = F7\n33 = a\n51 = b\n101 = c"_s;
+    const auto code = [&](const QString &statement) {
+        const QList<Finding> findings = check(parsePair(statement, macros));
+        return findings.size() == 1 ? findings[0].code : 0;
+    };
+    EXPECT_EQ(code(u"THR 7 a b c"_s), UnknownAxisType);
+    EXPECT_EQ(code(u"THR 5 51 (0 100) a"_s), BandCount);
+    EXPECT_EQ(code(u"THR 5 3 (0 33 101 102) a b c"_s), BandBorders);
+    EXPECT_EQ(code(u"ANT 1 5 a b c"_s), OddBandsWithCentre);
+    expectClean(u"THR 5 3 (0 33 67 100) 7 5 3\nANT 1 6 7 5 3"_s, macros);
+}
+
 TEST(Findings, JoystickFileFirstThenInTextOrder)
 {
     const QList<Finding> findings =
-        check(parsePair(u"BTN S1 CURVE (THR, 99)\nBTN S9 (a\nUSE MTYPE A9"_s, u"M1 = a )"_s));
+        check(parsePair(u"BTN S1 CURVE (THR, 99)\nBTN S9 (a\nUSE MTYPE A9"_s, u"M1 = a)"_s));
     ASSERT_EQ(findings.size(), 5);
     EXPECT_EQ(findings[0].code, ValueOutOfRange);
     EXPECT_EQ(findings[1].code, UnknownControl);

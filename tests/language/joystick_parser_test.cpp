@@ -53,10 +53,27 @@ TEST(JoystickParser, AStatementRunsToTheNextKeywordAtALinesStart)
     EXPECT_EQ(file.at(file.statements[1].subject), u"T1");
 }
 
-TEST(JoystickParser, AKeywordInTheMiddleOfALineStartsNothing)
+TEST(JoystickParser, ASecondStatementOnALineIsAStatementOfItsOwn)
 {
-    const JoystickFile file = parsed(u"BTN S1 USE BTN THR\n"_s);
-    EXPECT_EQ(file.statements.size(), 1);
+    const JoystickFile file = parsed(u"BTN S1 a BTN T11 b  use hat1 as pov Rem BTN\n c"_s);
+    EXPECT_THAT(statementTexts(file),
+                ElementsAre("BTN S1 a", "BTN T11 b", "use hat1 as pov Rem BTN\n c"));
+    EXPECT_EQ(file.at(file.statements[1].subject), u"T11");
+    EXPECT_EQ(file.statements[2].keyword.line, 1);
+}
+
+TEST(JoystickParser, AnAxisWithItsTypeStartsAStatementAnywhereAndAnArgumentNowhere)
+{
+    EXPECT_THAT(statementTexts(parsed(u"BTN S1 CURVE (RNG, 2) RNG /I 3 a ^ b"_s)),
+                ElementsAre("BTN S1 CURVE (RNG, 2)", "RNG /I 3 a ^ b"));
+    EXPECT_EQ(parsed(u"BTN S1 LOCK (THR 5) ANT SWAP (ANT, RNG 1)"_s).statements.size(), 1);
+}
+
+TEST(JoystickParser, AMacroNamedLikeAKeywordStartsNothingInsideALine)
+{
+    const QString macros = u"Use = e\nBTN = f\nTHR = g"_s;
+    EXPECT_EQ(parsed(u"BTN S1 Use HAT1 AS BTN THR 3"_s, macros).statements.size(), 1);
+    EXPECT_EQ(parsed(u"BTN S1 Use this Def that"_s).statements.size(), 1);
 }
 
 TEST(JoystickParser, AMacroThatBeginsLikeAKeywordContinuesTheStatement)
@@ -86,12 +103,18 @@ TEST(JoystickParser, TextBeforeTheFirstKeywordIsKeptAsUnknown)
     EXPECT_EQ(file.at(file.statements[0].place), u"Hello there");
 }
 
-TEST(JoystickParser, CommentsAndSwitchedOffLinesAreLeftOut)
+TEST(JoystickParser, CommentsAreLeftOut)
 {
-    const JoystickFile file = parsed(u"BTN S1 a Rem BTN S2 b\nRem BTN S3 c\n~BTN S4 d\n"
-                                     "   ~ e\nREM\n  f rem g\n"_s);
+    const JoystickFile file = parsed(u"BTN S1 a Rem BTN S2 b\nRem BTN S3 c\nREM\n  f rem g\n"_s);
     ASSERT_EQ(file.statements.size(), 1);
     EXPECT_THAT(itemTexts(file, file.statements[0]), ElementsAre("a", "f"));
+}
+
+TEST(JoystickParser, ATildeSwitchesNoLineOff)
+{
+    const JoystickFile file = parsed(u"BTN S1 a\n   ~ e\n~BTN S4 d\n ~ USE RATE (5)"_s);
+    EXPECT_THAT(statementTexts(file), ElementsAre("BTN S1 a\n   ~ e", "BTN S4 d", "USE RATE (5)"));
+    EXPECT_THAT(itemTexts(file, file.statements[0]), ElementsAre("a", "~", "e"));
 }
 
 TEST(JoystickParser, ATildeInsideKeysHasNoMeaning)
@@ -167,10 +190,37 @@ TEST(Bodies, BracketsAmongTheKeysOfKdAreKeys)
 {
     for (const QString &text :
          { u"BTN S1 /P KD (LSHF () /R KU (( LSHF)"_s, u"BTN S1 KD (LSHF ))"_s, u"BTN S1 KD ())"_s,
-           u"BTN S1 KU(<)"_s, u"BTN S1 {KD(a)} (KD(b))"_s }) {
+           u"BTN S1 KU(<)"_s, u"BTN S1 {KD(a)} (KD(b))"_s, u"BTN S1 /P KD(LSHF )) /R KU() LSHF)"_s,
+           u"BTN S1 USB (LSHF ( ( LSHF)"_s, u"BTN S1 USB (LSHF ) ) LSHF)"_s,
+           u"BTN S1 (KU() LSHF))"_s, u"BTN S1 ( KD( a ) b )"_s, u"BTN S1 (KD( a ))"_s,
+           u"BTN S1 KD( a ) (b)"_s, u"BTN S1 KD(a ) KU(a )"_s, u"BTN S1 KD( ) KU( )"_s,
+           u"BTN S1 KD ( ( { ) > ) DLY(60)"_s, u"BTN S1 [KD (LSHF ()]"_s,
+           u"BTN S1 {KD( a )} {b}"_s }) {
         const JoystickFile file = parsed(text);
         EXPECT_TRUE(file.strayBrackets.isEmpty()) << text.toStdString();
     }
+}
+
+TEST(Bodies, AKeyListWithoutItsBracketEndsAtAModifierOrACall)
+{
+    const JoystickFile file = parsed(u"BTN S1 /P KD(a /R KU(b) USB(D04 DLY(60)"_s);
+    EXPECT_THAT(
+        itemTexts(file, file.statements[0]),
+        ElementsAre("/P", "KD(a", "a", "/R", "KU(b)", "b", "USB(D04", "D04", "DLY(60)", "60"));
+    EXPECT_FALSE(file.items[1].closed);
+    EXPECT_EQ(file.items[1].endItem, 3);
+    EXPECT_EQ(file.items[8].parent, -1);
+}
+
+TEST(Bodies, SquareBracketsAreTakenOffAMacrosNameOneByOne)
+{
+    const QString name = QString(150, u'n');
+    const FilePair pair =
+        parsePair(u"BTN S1 [[A[1]] ["_s + name + u"]"_s, u"A[1] = a\n"_s + name + u" = b"_s);
+    EXPECT_THAT(itemTexts(pair.joystick, pair.joystick.statements[0]),
+                ElementsAre("[", "[", "A[1]", "]", "[", name.toStdString(), "]"));
+    EXPECT_EQ(pair.joystick.items[2].kind, ItemKind::MacroUse);
+    EXPECT_EQ(pair.joystick.items[5].kind, ItemKind::MacroUse);
 }
 
 TEST(Bodies, SquareBracketsAreKeysAndMayHoldAMacro)
@@ -194,7 +244,7 @@ TEST(Bodies, ASlashInsideAMacrosNameIsNoModifier)
 TEST(MacroReferences, TheLastUseMdefDecidesAndQuotesGo)
 {
     const JoystickFile file = parsed(u"USE MDEF first\nBTN S1 a\nuse mdef \"My macros.tmm\" Rem x\n"
-                                     "~USE MDEF off\nRem USE MDEF comment\n"_s);
+                                     "Rem USE MDEF comment\n"_s);
     const auto reference = macroReference(file);
     ASSERT_TRUE(reference);
     EXPECT_EQ(reference->name, u"My macros.tmm");

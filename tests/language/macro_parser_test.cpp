@@ -170,3 +170,10 @@ TEST(CompiledSize, StaysBoundedWhenMacrosMultiply)
     EXPECT_EQ(memoryPercent(0), 0);
     EXPECT_EQ(memoryPercent(1), 1);
 }
+
+TEST(CompiledSize, ReachesAHundredPercentWhereTheMemoryIsFullAndNoSooner)
+{
+    EXPECT_EQ(memoryPercent(65535), 99);
+    EXPECT_EQ(memoryPercent(65536), 100);
+    EXPECT_EQ(memoryPercent(656), 2);
+}

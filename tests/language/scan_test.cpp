@@ -9,6 +9,16 @@
 using namespace zeph;
 using namespace zeph::language;
 
+TEST(DecimalNumber, IsAWholeNumberWithOrWithoutAFraction)
+{
+    EXPECT_DOUBLE_EQ(*decimalNumber(u"90.5%"), 90.5);
+    EXPECT_DOUBLE_EQ(*decimalNumber(u"-0.25"), -0.25);
+    EXPECT_DOUBLE_EQ(*decimalNumber(u"+7"), 7);
+    EXPECT_DOUBLE_EQ(*decimalNumber(u"7."), 7);
+    for (const QStringView text : { u"", u".", u".5", u"5.x", u"5%.1", u"1.2.3", u"a" })
+        EXPECT_FALSE(decimalNumber(text)) << text.toString().toStdString();
+}
+
 TEST(CommentStart, RemInTheMiddleCommentsTheRestOfTheLine)
 {
     EXPECT_EQ(commentStart(u"BTN S1 a Rem fire"), 9);

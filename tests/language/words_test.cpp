@@ -227,7 +227,7 @@ TEST(StatementWords, AreTheAxesAndWhatElseStartsALine)
 
 TEST(Calls, TakeArgumentsOfAShape)
 {
-    EXPECT_EQ(namesOfShape(CallShape::Keys), (QStringList{ u"KD"_s, u"KU"_s }));
+    EXPECT_EQ(namesOfShape(CallShape::Keys), (QStringList{ u"KD"_s, u"KU"_s, u"USB"_s }));
     EXPECT_EQ(namesOfShape(CallShape::Axis),
               (QStringList{ u"FORWARD"_s, u"HOLDTRIM"_s, u"REVERSE"_s, u"UNLOCK"_s }));
     EXPECT_EQ(namesOfShape(CallShape::Screen),

@@ -57,12 +57,26 @@ TEST(ProgramStart, TheRunAfterTheFirstShowsATip)
     EXPECT_EQ(program.setting(u"FileLocations"_s, u"ShowTips"_s), u"1");
 }
 
-TEST(ProgramStart, ACommandLineThatNamesNoFileIsDropped)
+TEST(ProgramStart, ACommandLineThatNamesNoFileIsToldAndDropped)
 {
     Program program;
     program.settle();
-    program.run({ u"text Panel_1 Ready! Welcome to Zeph, buddy!"_s, u"close"_s },
-                { program.file(u"Files/nothing.tmj"_s) });
+    const QStringList notes =
+        program.run({ u"box I can't find that file buddy"_s, u"press OK"_s,
+                      u"text Panel_1 Ready! Welcome to Zeph, buddy!"_s, u"close"_s },
+                    { program.file(u"Files/nothing.tmj"_s) });
+    EXPECT_THAT(lines(notes), Contains(HasSubstr("nothing.tmj")));
+}
+
+TEST(ProgramStart, AFileOfAnyEndingOpensAsTheJoystickFile)
+{
+    for (const QByteArray &single : { QByteArray("0"), QByteArray("1") }) {
+        Program program;
+        program.settle("OpenSingleFileOnly=" + single + "\r\n");
+        program.write(u"notes.txt"_s, "Rem mine\r\n");
+        program.run({ u"text JoystickText Rem mine"_s, u"close"_s },
+                    { program.file(u"notes.txt"_s) });
+    }
 }
 
 TEST(ProgramStart, AFurtherInstanceWorksOnItsOwnStoreAndTakesItAway)

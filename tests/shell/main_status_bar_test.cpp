@@ -112,6 +112,16 @@ TEST_F(StatusBarWindow, ChangesItsPictures)
     EXPECT_NE(panel(4)->pixmap().toImage(), empty);
 }
 
+TEST_F(StatusBarWindow, TheOtherFilesPictureIsThereWhileThatFileIsShown)
+{
+    EXPECT_FALSE(panel(5)->isVisible());
+    status.setOtherSaved(3, u"My.tmm has been modified and isn't saved"_s);
+    EXPECT_TRUE(panel(5)->isVisible());
+    EXPECT_EQ(panel(5)->toolTip(), u"My.tmm has been modified and isn't saved");
+    status.setOtherSaved(0, {});
+    EXPECT_FALSE(panel(5)->isVisible());
+}
+
 TEST_F(StatusBarWindow, AnswersTheMouse)
 {
     moveTo(50);

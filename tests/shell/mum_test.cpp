@@ -150,11 +150,18 @@ TEST_F(MainWindow, ATickedEntryShowsAsAPressedButton)
 
 TEST_F(MainWindow, CustomApplicationsShowOnlyWhileInUse)
 {
+    QAction *entry = editor->action(u"mnuCustomApp_1");
+    entry->setVisible(false);
+    settle();
     EXPECT_FALSE(button(u"Toolbar2_17"_s)->isVisible());
-    editor->action(u"mnuCustomApp_1")->setText(u"My app"_s);
-    editor->action(u"mnuCustomApp_1")->setEnabled(true);
+    entry->setText(u"My app"_s);
+    entry->setVisible(true);
     settle();
     EXPECT_TRUE(button(u"Toolbar2_17"_s)->isVisible());
+    EXPECT_FALSE(button(u"Toolbar2_17"_s)->isEnabled()) << "its program may be missing";
+    entry->setEnabled(true);
+    settle();
+    EXPECT_TRUE(button(u"Toolbar2_17"_s)->isEnabled());
     EXPECT_EQ(button(u"Toolbar2_17"_s)->toolTip(), u"My app");
 }
 
@@ -388,6 +395,20 @@ TEST_F(MainWindow, TheTitleNamesTheSelectedFileAndMarksItsChanges)
     EXPECT_FALSE(mum->isWindowModified());
     mum->setFurther();
     EXPECT_EQ(mum->windowTitle(), u"Untitled.tmm[*] - Zeph - secondary window");
+}
+
+TEST_F(MainWindow, AKeyGoesToTheMacroListAndBack)
+{
+    mum->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(mum.get()));
+    QWidget *text = &editor->view().control(DocumentKind::Joystick);
+    QWidget *list = editor->findChild<QWidget *>(u"List1"_s);
+    text->setFocus();
+    QTest::keyClick(text, Qt::Key_M, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_TRUE(list->hasFocus());
+    QTest::keyClick(list, Qt::Key_M, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_TRUE(text->hasFocus());
+    EXPECT_EQ(editor->joystickText(), QString());
 }
 
 TEST(MumTitle, ANameThatHoldsTheToolkitsMarkKeepsIt)

@@ -154,7 +154,8 @@ const LintCase cases[] = {
       } },
     { "MacroRenameForm",
       [](auto &w) {
-          return std::make_unique<MacroRenameForm>(w.dialogs, QStringList{ u"Fire"_s }, u"Fire"_s);
+          return std::make_unique<MacroRenameForm>(
+              w.dialogs, MacroRenameForm::Names{ { u"Fire"_s }, u"Fire"_s });
       } },
     { "StyleEditor",
       [](auto &w) {

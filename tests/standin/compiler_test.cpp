@@ -68,7 +68,7 @@ TEST_F(Compiler, CountsLinesWhateverEndsThey)
 {
     const QByteArrayList files{
         "BTN S1 a\r\nBTN S2 b\r\n\r\nBTN S9 c\r\n",
-        "BTN S1 a\n~BTN S8 b\n\nBTN S9 c\n",
+        "BTN S1 a\nRem BTN S8 b\n\nBTN S9 c\n",
         "BTN S1 a\r  b Rem ( \r\rBTN S9 c",
         "BTN S1 a\rBTN S2 b\n\r\nBTN S9 c",
         "BTN S1 a\r\r\n\r\nBTN S9 c",
@@ -118,6 +118,67 @@ TEST_F(Compiler, TellsAMacroFileThatIsNotThere)
     run(u"/CO"_s, file);
     EXPECT_TRUE(value(u"ErrorCode"_s).startsWith(u"ERROR 1012"));
     EXPECT_EQ(value(u"LineNumber"_s), u"2");
+}
+
+TEST_F(Compiler, TellsAMacroFileThatCannotBeReadAsThat)
+{
+    folder.write(u"keys.tmm"_s,
+                 QByteArray("\xFF\xFE"
+                            "F\0=\0",
+                            6));
+    run(u"/CO"_s, folder.write(u"a.tmj"_s, "BTN S1 a\r\nUSE MDEF keys\r\n"));
+    EXPECT_TRUE(value(u"ErrorCode"_s).startsWith(u"ERROR 1024"));
+    EXPECT_TRUE(value(u"ErrorCode"_s).contains(u"keys.tmm"));
+    EXPECT_TRUE(value(u"ErrorCode"_s).contains(u"UTF-16"));
+    EXPECT_EQ(value(u"LineNumber"_s), u"2");
+    folder.write(u"b.tmm"_s,
+                 QByteArray("\xFE\xFF"
+                            "\0F\0=",
+                            6));
+    run(u"/CO"_s, folder.write(u"b.tmj"_s, "BTN S1 a\r\n"));
+    EXPECT_TRUE(value(u"ErrorCode"_s).startsWith(u"ERROR 1024"));
+    EXPECT_EQ(value(u"LineNumber"_s), u"0");
+}
+
+TEST_F(Compiler, ReadsAFileWithoutItsByteOrderMark)
+{
+    folder.write(u"Käse.tmm"_s,
+                 "\xEF\xBB\xBF"
+                 "F\xC3\xA4hre = a\r\n");
+    const QByteArray text = "\xEF\xBB\xBFUSE MDEF K\xC3\xA4se\r\nBTN S1 F\xC3\xA4hre\r\n";
+    run(u"/CO"_s, folder.write(u"a.tmj"_s, text));
+    EXPECT_EQ(value(u"Status"_s), u"OK") << value(u"ErrorCode"_s).toStdString();
+    run(u"/CO"_s,
+        folder.write(u"b.tmj"_s,
+                     "\xEF\xBB\xBF"
+                     "BTN S9 a\r\n"));
+    EXPECT_TRUE(value(u"ErrorCode"_s).startsWith(u"ERROR 1002"));
+    EXPECT_EQ(value(u"LineNumber"_s), u"1");
+    const auto sources = readSources(folder.file(u"a.tmj"_s), false);
+    ASSERT_TRUE(sources);
+    EXPECT_EQ(sources->pair.joystick.items.last().kind, language::ItemKind::MacroUse);
+}
+
+TEST_F(Compiler, TellsAJoystickFileInUtf16)
+{
+    run(u"/CO"_s,
+        folder.write(u"a.tmj"_s,
+                     QByteArray("\xFF\xFE"
+                                "B\0T\0N\0",
+                                8)));
+    EXPECT_TRUE(value(u"ErrorCode"_s).startsWith(u"ERROR 1001"));
+    EXPECT_TRUE(value(u"ErrorCode"_s).contains(u"UTF-16"));
+}
+
+TEST_F(Compiler, SaysThatTheMemoryIsFullAtAHundredPercentOnly)
+{
+    const auto lastLine = [&](int buttons) {
+        const QByteArray text = QByteArray("BTN S1 a\r\n").repeated(buttons);
+        return run(u"/CO"_s, folder.write(u"a.tmj"_s, text)).lines.last();
+    };
+    EXPECT_TRUE(lastLine(100'000).contains(u"100% of the memory: it is full"));
+    EXPECT_EQ(value(u"Memory"_s), u"100");
+    EXPECT_FALSE(lastLine(10).contains(u"full"));
 }
 
 TEST_F(Compiler, TakesTheMacroFileOfTheSameNameWhenAsked)

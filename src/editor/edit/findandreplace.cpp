@@ -82,11 +82,8 @@ FindAndReplace::FindAndReplace(const Context &context, const Parts &parts, QWidg
     connectButtons();
     m_parts.view.watch(*this);
     m_parts.view.documents().forEach([this](Document &each) {
-        connect(&each, &Document::edited, this, [this] {
-            // Counted again by the next search, not at every key.
-            m_findPage.hits->clear();
-            m_replacePage.hits->clear();
-        });
+        connect(&each, &Document::edited, this, &FindAndReplace::clearCounts);
+        connect(&each, &Document::replaced, this, &FindAndReplace::clearCounts);
     });
 }
 
@@ -182,6 +179,13 @@ void FindAndReplace::startOver(Page &page)
     }
     page.hits->clear();
     markHits();
+}
+
+void FindAndReplace::clearCounts()
+{
+    // Counted again by the next search, not at every key.
+    m_findPage.hits->clear();
+    m_replacePage.hits->clear();
 }
 
 FindAndReplace::Page *FindAndReplace::shownPage()

@@ -98,6 +98,8 @@ private:
     bool isOnLastHit(DocumentKind kind) const;
     /// The page of the tab in front; null on the tab that goes to lines.
     Page *shownPage();
+    /// Takes the numbers of hits away, which no longer fit the text.
+    void clearCounts();
     /// Marks all hits of the tab in front, or none while the window is closed.
     void markHits();
     void tellNoHit(Page &page, const QString &word, const Document &document);

@@ -52,7 +52,7 @@ DownloadMenu::DownloadMenu(const Context &context, const ToolParts &parts)
 
 void DownloadMenu::nameTheFile()
 {
-    // Only a file of the Cougar's own kind goes to it; the others keep the plain words.
+    // Only a .tmj file can be downloaded, so other names are not shown.
     const bool named = lastThree(m_joystick.name()) == extensionOf(DocumentKind::Joystick);
     const QString what = named ? captionOf(m_joystick.caption()) : u"joystick file"_s;
     m_actions.action(nameOf(DownloadFile))->setText(u"&Download "_s + what);
