@@ -88,7 +88,7 @@ TEST(ResolvedPath, AProgramThatTheSystemLooksUpStaysABareName)
     EXPECT_EQ(resolvedHere(storedPath(inside, stickFolder, PathKind::Command), PathKind::Command),
               inside);
     EXPECT_EQ(resolvedHere(u"Games/f.exe -w a//b"_s, PathKind::Command),
-              stickFolder + QDir::separator() + u"Games/f.exe -w a//b");
+              stickFolder + QDir::separator() + u"Games/f.exe -w a//b"_s);
 }
 
 TEST(ResolvedPath, AFullOneWhoseFolderIsGoneIsMendedWhenTheSameFileLiesHere)
