@@ -4,6 +4,7 @@
 #include "editor/editor.h"
 #include "editor/files/loss_guards.h"
 #include "platform/clock.h"
+#include "platform/core/per_user_folder.h"
 #include "platform/dialogs.h"
 #include "platform/downloader.h"
 #include "platform/input/system_joystick.h"
@@ -14,6 +15,7 @@
 #include "platform/system_info.h"
 #include "shell/application.h"
 
+#include <QDir>
 #include <QStandardPaths>
 
 using namespace zeph;
@@ -34,8 +36,9 @@ int main(int argc, char **argv)
     const SystemInfo system;
 
     const QString perUser = QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation);
+    const ChosenFolder chosen = chooseFolder(QCoreApplication::applicationDirPath(), perUser);
     Application application({
-        .appFolder = chooseAppFolder(QCoreApplication::applicationDirPath(), perUser),
+        .appFolder = chosen.appFolder,
         .arguments = QCoreApplication::arguments().mid(1),
         .dialogs = dialogs,
         .launcher = launcher,
@@ -46,11 +49,16 @@ int main(int argc, char **argv)
         .printers = printers,
         .screen = screen,
         .system = system,
+        .canWrite = chosen.canWrite,
+        .keptFiles = chosen.kept,
     });
     toolkit.guard.dialogs = &dialogs;
     if (!application.start()) {
         return 0;
     }
+    // The command line has been read: what the user types from now on means the program's folder,
+    // wherever the program was started.
+    QDir::setCurrent(chosen.appFolder);
     toolkit.guard.lastResort = [&application] {
         application.editor().guards().autoSave.EmergencySaveFiles();
     };

@@ -5,6 +5,7 @@
 
 #include "editor/editor.h"
 #include "menus/menu_actions.h"
+#include "platform/core/portable_paths.h"
 #include "platform/dialogs.h"
 
 #include <QAction>
@@ -38,7 +39,8 @@ CustomApps readCustomApps(const ProfileFile &store)
     CustomApps apps;
     for (size_t i = 0; i < apps.size(); ++i) {
         apps[i] = { store.text(section, keyOf(u"CustomAppName", i)),
-                    store.text(section, keyOf(u"CustomAppPath", i)),
+                    resolvedValue(store, section, u"CustomAppPath",
+                                  store.text(section, keyOf(u"CustomAppPath", i))),
                     store.integer(section, keyOf(u"CustomAppUse", i), 0) == 1 };
     }
     return apps;
@@ -52,7 +54,8 @@ Expected<void, FileError> writeCustomApps(const ProfileFile &store, const Custom
     };
     for (size_t i = 0; i < apps.size(); ++i) {
         add(u"CustomAppName", i, apps[i].CustomAppName);
-        add(u"CustomAppPath", i, apps[i].CustomAppPath);
+        add(u"CustomAppPath", i,
+            storedValue(store, section, u"CustomAppPath", apps[i].CustomAppPath));
         add(u"CustomAppUse", i, QString::number(apps[i].CustomAppUse ? 1 : 0));
     }
     return store.write(entries);

@@ -122,7 +122,7 @@ void RecentFiles::update(DocumentKind kind, const QString &path)
     QStringList &list = m_lists[size_t(kind)];
     putFirst(list, path, mostFiles, std::equal_to<QString>());
     // A failed write is not told: losing these lists does little harm.
-    (void)m_store.write(profileListEntries(tableOf(kind).keys, rowsOf(list)));
+    (void)m_store.write(profileListEntries(m_store, tableOf(kind).keys, rowsOf(list)));
     showMenu(kind);
 }
 
@@ -130,7 +130,7 @@ void RecentFiles::clearAll(DocumentKind kind)
 {
     QStringList &list = m_lists[size_t(kind)];
     QList<ProfileEntry> emptied =
-        profileListEntries(tableOf(kind).keys, rowsOf(QStringList(list.size())));
+        profileListEntries(m_store, tableOf(kind).keys, rowsOf(QStringList(list.size())));
     emptied.first().value = u"0"_s;
     list.clear();
     (void)m_store.write(emptied);

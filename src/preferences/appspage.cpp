@@ -4,6 +4,7 @@
 #include "preferences/appspage.h"
 
 #include "lists/custom_apps.h"
+#include "platform/core/portable_paths.h"
 #include "platform/core/profile_list.h"
 #include "platform/dialogs.h"
 #include "platform/system_info.h"
@@ -191,8 +192,11 @@ void AppsPage::askAboutApplet(const Fields &fields)
 void AppsPage::collect()
 {
     auto &settings = m_context.settings.of<SharedSettings>();
-    settings.ImageFilePath = storableOr(m_ui->ImageFilePath->text(), settings.ImageFilePath);
-    settings.TextFilePath = storableOr(m_ui->TextFilePath->text(), settings.TextFilePath);
+    const QString &appFolder = m_context.paths.appFolder;
+    settings.ImageFilePath =
+        resolvedPath(storableOr(m_ui->ImageFilePath->text(), settings.ImageFilePath), appFolder);
+    settings.TextFilePath =
+        resolvedPath(storableOr(m_ui->TextFilePath->text(), settings.TextFilePath), appFolder);
     CustomApps apps;
     for (size_t index = 0; index < apps.size(); ++index) {
         const Fields &fields = m_fields[index];

@@ -31,41 +31,49 @@ QString copyPath(const QString &appFolder, int number)
     return withClosingSeparator(appFolder) + u"Zeph."_s + QString::number(number);
 }
 
-/// Makes the copy, if the folder can be written. False when another instance, started at the same
-/// moment, has just taken this name.
-bool makeCopy(const QString &path, const QByteArray &store)
+std::unique_ptr<InstanceLock> lockCopy(const QString &appFolder, int number)
 {
-    QFile copy(path);
-    if (!copy.open(QIODevice::WriteOnly | QIODevice::NewOnly)) {
-        return !copy.exists();
-    }
-    if (copy.write(store) != store.size() || !copy.flush()) {
-        // Half a store would be worse than none: without one all settings have their defaults.
-        copy.remove();
-    }
-    return true;
+    return std::make_unique<InstanceLock>(appFolder,
+                                          u"Zeph."_s + QString::number(number) + u".lock"_s);
 }
 
 } // namespace
+
+Instance takeInstance(const QString &appFolder, const MayTakeOver &mayTakeOver)
+{
+    auto lock = std::make_unique<InstanceLock>(appFolder, InstanceLock::folderLock, mayTakeOver);
+    if (!lock->isFirst()) {
+        return MoreThan1open(appFolder);
+    }
+    GetRidOfPreviousIniFiles(appFolder);
+    return { 1, storePath(appFolder), std::move(lock) };
+}
 
 Instance MoreThan1open(const QString &appFolder)
 {
     const auto store = ProfileFile(storePath(appFolder)).bytes();
     for (int number = firstNumber; number < neverUsed; ++number) {
-        const QString path = copyPath(appFolder, number);
-        if (!QFile::exists(path) && makeCopy(path, store.value_or(QByteArray()))) {
-            return { number, path };
+        auto lock = lockCopy(appFolder, number);
+        if (lock->isFirst()) {
+            const QString path = copyPath(appFolder, number);
+            if (!writeFileAtomically(path, store.value_or(QByteArray()))) {
+                // What a crashed instance left there is not this one's.
+                QFile::remove(path);
+            }
+            return { number, path, std::move(lock) };
         }
     }
-    return { tooMany, copyPath(appFolder, neverUsed) };
+    return { tooMany, copyPath(appFolder, neverUsed), nullptr };
 }
 
-Instance GetRidOfPreviousIniFiles(const QString &appFolder)
+void GetRidOfPreviousIniFiles(const QString &appFolder)
 {
     for (int number = firstNumber; number <= neverUsed; ++number) {
-        QFile::remove(copyPath(appFolder, number));
+        const QString path = copyPath(appFolder, number);
+        if (QFile::exists(path) && lockCopy(appFolder, number)->isFirst()) {
+            QFile::remove(path);
+        }
     }
-    return { 1, storePath(appFolder) };
 }
 
 void deleteInstanceStore(const Instance &instance)

@@ -3,6 +3,7 @@
 
 #include "settings/settings.h"
 
+#include "platform/core/portable_paths.h"
 #include "platform/dialogs.h"
 #include "platform/status_line.h"
 
@@ -93,7 +94,10 @@ SettingProblems readPlaces(const QList<Place> &places, const SettingsFiles &file
             group->set(*key, defaultOf(*key));
             continue;
         }
-        const QString text = found->left(key->buffer() - 1);
+        const bool isOwn = key->store == SettingsStore::Zeph;
+        const QString held = found->left(key->buffer() - 1);
+        const QString text =
+            isOwn ? resolvedValue(files.store, key->section, key->key, held) : held;
         const auto value = std::visit(ValueReader{ *key, text }, key->missing);
         group->set(*key, value.value_or(defaultOf(*key)));
         if (!value) {
@@ -111,8 +115,11 @@ Expected<void, FileError> savePlaces(const QList<Place> &places, const SettingsF
         QList<ProfileEntry> entries;
         for (const auto &[group, key] : places) {
             if (key->store == store) {
+                const QString text = std::visit(ValueWriter(), group->value(*key));
                 entries.append({ key->section.toString(), key->key.toString(),
-                                 std::visit(ValueWriter(), group->value(*key)) });
+                                 store == SettingsStore::Zeph
+                                     ? storedValue(files.store, key->section, key->key, text)
+                                     : text });
             }
         }
         auto written = files.at(store).write(entries);

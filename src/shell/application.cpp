@@ -57,8 +57,7 @@ QString storeOf(const QString &appFolder)
 
 } // namespace
 
-Application::Application(const ApplicationOptions &options)
-    : m_options(options), m_lock(options.appFolder)
+Application::Application(const ApplicationOptions &options) : m_options(options)
 {
     addAllSettings(m_settings);
     m_paths.appFolder = options.appFolder;
@@ -101,6 +100,9 @@ bool Application::start()
         m_options.dialogs.box(tooManyWindowsBox());
         return false;
     }
+    if (!m_options.canWrite) {
+        m_options.dialogs.box(nowhereToWriteBox(m_options.appFolder));
+    }
     m_mum = std::make_unique<Mum>(context());
     placeMum();
     m_mum->refreshToolbars();
@@ -132,8 +134,9 @@ bool Application::start()
 
 bool Application::chooseInstance()
 {
-    m_instance = m_lock.isFirst() ? GetRidOfPreviousIniFiles(m_paths.appFolder)
-                                  : MoreThan1open(m_paths.appFolder);
+    m_instance = takeInstance(
+        m_paths.appFolder,
+        askToTakeOver(m_options.dialogs, u"My settings in "_s + m_paths.appFolder + u" are"_s));
     m_paths.iniPath = m_instance.iniPath;
     return !m_instance.isTooMany();
 }
@@ -162,8 +165,12 @@ void Application::readSettings()
     tellOnce(::zeph::readSettings(
         m_settings, files(),
         { &ColourSettings::JoystickTextDefaultColour, &ColourSettings::MacroTextDefaultColour }));
-    m_settings.of<EditorSettings>().BackUpFolder = checkedBackupFolder(
-        m_settings.of<EditorSettings>().BackUpFolder, m_paths, m_options.dialogs);
+    // Where nothing can be written, the user knows it already.
+    if (m_options.canWrite) {
+        m_settings.of<EditorSettings>().BackUpFolder = checkedBackupFolder(
+            m_settings.of<EditorSettings>().BackUpFolder, m_paths, m_options.dialogs);
+    }
+    renewFilesFolder(m_paths);
     if (m_settings.of<SharedSettings>().ImageFilePath.isEmpty()) {
         m_settings.of<SharedSettings>().ImageFilePath = m_paths.inApp(u"Zeph.bmp");
     }
@@ -227,6 +234,9 @@ void Application::loadEditor()
         greet();
     } else if (m_settings.of<SharedSettings>().ShowTips) {
         m_help->showTip();
+    }
+    if (!m_options.keptFiles.isEmpty()) {
+        m_status.setText(keptFilesText(m_options.keptFiles));
     }
 }
 

@@ -4,7 +4,6 @@
 #pragma once
 
 #include "platform/context.h"
-#include "platform/instance_lock.h"
 #include "platform/status_line.h"
 #include "settings/further_instances.h"
 #include "settings/settings.h"
@@ -47,6 +46,11 @@ struct ApplicationOptions {
     const SystemInfo &system;
     /// Milliseconds between two dots of the first run's script.
     int welcomeIntervalMs = 250;
+    /// False when neither appFolder nor any other folder for the program's files can be written.
+    bool canWrite = true;
+    /// Files in appFolder that the program would have brought up to date, had the user not changed
+    /// them.
+    QStringList keptFiles = {};
 };
 
 /// The composition root: owns the paths, the settings, the status line and the main window, brings
@@ -92,7 +96,6 @@ private:
     SettingsFiles files() const;
 
     ApplicationOptions m_options;
-    InstanceLock m_lock;
     Instance m_instance;
     Paths m_paths;
     Settings m_settings;

@@ -10,9 +10,14 @@
 #include "lists/favourites_menu.h"
 #include "menus/menu_actions.h"
 #include "platform/core/paths.h"
+#include "platform/system_info.h"
+#include "preferences/setting_fields.h"
+#include "settings/settings_files.h"
 
 #include <QAction>
 #include <QFileInfo>
+
+#include <algorithm>
 
 namespace zeph {
 
@@ -73,6 +78,47 @@ Box tooManyWindowsBox()
     return { .title = u"Exiting now ..."_s,
              .text = u"Sorry, you've got too many windows open. Far too many !!!"_s,
              .icon = BoxIcon::Stop };
+}
+
+Box nowhereToWriteBox(const QString &appFolder)
+{
+    return { .title = u"I can't write anything"_s,
+             .text = u"Neither the folder that I'm installed in nor your own folder for programs' "
+                     "data can be written, so I work from "_s
+                 + appFolder
+                 + u" and can't keep anything there: no settings, no backups, no black box. Please "
+                   "save your files elsewhere, and make room or ask for the right to write."_s,
+             .icon = BoxIcon::Exclamation };
+}
+
+QString keptFilesText(const QStringList &files)
+{
+    constexpr qsizetype mostNames = 6;
+    const qsizetype more = files.size() - mostNames;
+    return u"I'm up to date now, but you've changed these, so I kept yours: "_s
+        + files.first(std::min(files.size(), mostNames)).join(u", "_s)
+        + (more > 0 ? u" and %1 more"_s.arg(more) : QString());
+}
+
+void renewFilesFolder(const Paths &paths)
+{
+    const SettingsFiles files = settingsFilesOf(paths);
+    const QString explorer = filesDirectoryCommand(windowsFolder(), paths.filesFolder());
+    const struct {
+        const ProfileFile &file;
+        ProfileEntry entry;
+    } renewed[] = {
+        { files.hotasIni, { u"Files"_s, u"Files"_s, paths.filesFolder() } },
+        { files.hotasIni, { u"Launcher"_s, u"FilesDirectory"_s, explorer } },
+        { files.store, { u"Launcher"_s, u"FilesDirectory"_s, explorer } },
+    };
+    for (const auto &[file, entry] : renewed) {
+        const QString now = file.text(entry.section, entry.key);
+        if (!now.isEmpty() && now != entry.value) {
+            // As at each start, a file that cannot be written is not told.
+            (void)file.write(entry);
+        }
+    }
 }
 
 QString TestCommandLine(const QStringList &arguments)

@@ -14,6 +14,7 @@ namespace zeph {
 class Editor;
 class ProfileFile;
 struct EditorSettings;
+struct Paths;
 
 /// The warning for a screen whose logical pixels per inch are not the 96 that windows are drawn
 /// for; no value when they are.
@@ -21,6 +22,16 @@ std::optional<Box> smallFontsWarning(int logicalDpi);
 
 /// The message when no numbered store is free any more.
 Box tooManyWindowsBox();
+
+/// The message when nothing can be written, in the program's folder or anywhere else.
+Box nowhereToWriteBox(const QString &appFolder);
+
+/// The status line that names the files which stayed as the user changed them.
+QString keptFilesText(const QStringList &files);
+
+/// Brings up to date what other programs read of where the user's files are. Writes nothing that is
+/// not there yet.
+void renewFilesFolder(const Paths &paths);
 
 /// The file that the command line names, with its full path; empty when it names none that exists.
 /// All words together are also tried as one name, since a shell splits a name at blanks.

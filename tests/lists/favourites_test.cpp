@@ -38,7 +38,7 @@ TEST_F(FavouritesTest, AreReadInTheirOrder)
                                            "FavMFPath1=a.tmm\nFavName2=B\n"))
                           .list;
     ASSERT_EQ(list.size(), 2);
-    EXPECT_EQ(list[0].joystickPath, u"a.tmj");
+    EXPECT_EQ(list[0].joystickPath, folder.file(u"a.tmj"_s));
     EXPECT_EQ(list[1].name, u"B");
     EXPECT_EQ(list[1].macroPath, u"None");
 }

@@ -81,10 +81,10 @@ TEST_F(UserListsTest, OpenedAndSavedFilesGoIntoTheListOfTheirKind)
     EXPECT_EQ(entry(u"mnuJFArray_2"_s)->text(), u"C:\\old && new.tmj");
     EXPECT_EQ(entry(u"mnuMFArray_1"_s)->text(), folder.file(u"a.tmm"_s));
     EXPECT_EQ(stored(u"PreviousJoystickFiles"_s, u"JFArrayNum"_s), u"2");
-    EXPECT_EQ(stored(u"PreviousJoystickFiles"_s, u"JFPath1"_s), a);
+    EXPECT_EQ(stored(u"PreviousJoystickFiles"_s, u"JFPath1"_s), u"a.tmj");
     EXPECT_EQ(stored(u"PreviousJoystickFiles"_s, u"JFPath2"_s), u"C:\\old & new.tmj");
     EXPECT_EQ(stored(u"PreviousMacroFiles"_s, u"MFArrayNum"_s), u"1");
-    EXPECT_EQ(stored(u"PreviousMacroFiles"_s, u"MFPath1"_s), folder.file(u"a.tmm"_s));
+    EXPECT_EQ(stored(u"PreviousMacroFiles"_s, u"MFPath1"_s), u"a.tmm");
 
     dialogs.answerFile(folder.file(u"b.tmj"_s));
     editor().saving().mnuFileSaveAs_Click();
@@ -100,7 +100,7 @@ TEST_F(UserListsTest, AnAutosaveCountsButNotThatOfATextWithoutAName)
     editor().view().control(DocumentKind::Joystick).insertPlainText(u"x"_s);
     editor().view().control(DocumentKind::Macro).insertPlainText(u"y"_s);
     editor().guards().autoSave.AutoSaveFile();
-    EXPECT_EQ(stored(u"PreviousJoystickFiles"_s, u"JFPath1"_s), folder.file(u"a.tmj"_s));
+    EXPECT_EQ(stored(u"PreviousJoystickFiles"_s, u"JFPath1"_s), u"a.tmj");
     EXPECT_TRUE(folder.exists(u"Files/Untitled.tmm"_s));
     EXPECT_FALSE(isShown(u"mnuMFArray_1"_s));
 }
@@ -123,7 +123,7 @@ TEST_F(UserListsTest, A31stRecentFilePushesTheOldestOut)
     start(list);
     editor().opening().OpenFavouriteFile(folder.write(u"new.tmj"_s, "BTN S2 a\r\n"));
     EXPECT_EQ(entry(u"mnuJFArray_1"_s)->text(), folder.file(u"new.tmj"_s));
-    EXPECT_EQ(entry(u"mnuJFArray_30"_s)->text(), u"29.tmj");
+    EXPECT_EQ(entry(u"mnuJFArray_30"_s)->text(), folder.file(u"29.tmj"_s));
     EXPECT_EQ(stored(u"PreviousJoystickFiles"_s, u"JFArrayNum"_s), u"30");
     EXPECT_EQ(stored(u"PreviousJoystickFiles"_s, u"JFPath30"_s), u"29.tmj");
 }
@@ -138,7 +138,7 @@ TEST_F(UserListsTest, ARecentFileOpensWithItsPartnerAndMovesToTheTop)
     EXPECT_EQ(editor().joystick().path(), folder.file(u"a.tmj"_s));
     EXPECT_EQ(editor().macro().path(), folder.file(u"a.tmm"_s));
     EXPECT_EQ(entry(u"mnuJFArray_1"_s)->text(), folder.file(u"a.tmj"_s));
-    EXPECT_EQ(entry(u"mnuJFArray_2"_s)->text(), u"x.tmj");
+    EXPECT_EQ(entry(u"mnuJFArray_2"_s)->text(), folder.file(u"x.tmj"_s));
 }
 
 TEST_F(UserListsTest, ARecentFileThatIsGoneIsTold)
@@ -196,8 +196,8 @@ TEST_F(UserListsTest, TheCurrentFilesBecomeAFavourite)
     EXPECT_EQ(entry(u"mnuFavArray_2"_s)->text(), u"Eagle");
     EXPECT_EQ(stored(u"Favourites"_s, u"FavArrayNum"_s), u"2");
     EXPECT_EQ(stored(u"Favourites"_s, u"FavName1"_s), u"Hawk & Dove");
-    EXPECT_EQ(stored(u"Favourites"_s, u"FavJFPath1"_s), folder.file(u"a.tmj"_s));
-    EXPECT_EQ(stored(u"Favourites"_s, u"FavMFPath1"_s), folder.file(u"a.tmm"_s));
+    EXPECT_EQ(stored(u"Favourites"_s, u"FavJFPath1"_s), u"a.tmj");
+    EXPECT_EQ(stored(u"Favourites"_s, u"FavMFPath1"_s), u"a.tmm");
 }
 
 TEST_F(UserListsTest, AFavouriteOfTwoUnsavedFilesHoldsNoneTwiceAndOpensNothing)

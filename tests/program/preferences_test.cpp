@@ -59,6 +59,11 @@ protected:
     {
         static const QMap<QString, QString> ofTheirOwn = {
             { u"BackUpFolder"_s, program.file(u"My backups"_s) + u'/' },
+            { u"ImageFilePath"_s, program.file(u"other.bmp"_s) },
+            { u"TextFilePath"_s, program.file(u"other.txt"_s) },
+            { u"WinZipFilePath"_s, program.file(u"other/zip"_s) },
+            { u"GameDIRPath1"_s, program.file(u"other games"_s) },
+            { u"GameJF1"_s, program.file(u"Files/other.tmj"_s) },
             { u"FavJFPath1"_s, program.file(u"Files/Sample flight.tmj"_s) },
             { u"FavMFPath1"_s, program.file(u"Files/Sample flight.tmm"_s) },
             { u"GamesCaption"_s, u"Sc&ramble!"_s },
@@ -114,7 +119,8 @@ protected:
         case FieldKind::Tick:
             return noted;
         default:
-            return otherText(key);
+            // The store holds what is inside the program's folder relative to it.
+            return otherText(key).remove(program.folder() + u'/');
         }
     }
 

@@ -133,8 +133,9 @@ TEST(ProgramStart, With997FurtherInstancesTheNextStartEndsWithAWord)
     while (!program.exists(u"first.log"_s) || program.noted(u"first.log"_s).isEmpty()) {
         ASSERT_FALSE(first->waitForFinished(20));
     }
+    const QByteArray mark = program.read(u"Zeph.lock"_s);
     for (int number = 2; number <= 998; ++number) {
-        program.write(u"Zeph."_s + QString::number(number), "");
+        program.write(u"Zeph.%1.lock"_s.arg(number), mark);
     }
     const auto next = program.start({ u"box Exiting now ..."_s, u"press OK"_s }, u"next.log"_s);
     ASSERT_TRUE(next->waitForFinished());

@@ -137,9 +137,10 @@ TEST_F(Start, FillsInTheDefaultPathsAndSavesThemAtOnce)
 {
     writeStore();
     ASSERT_TRUE(start());
-    EXPECT_EQ(stored(u"FileLocations"_s, u"BackUpFolder"_s), folder.path() + u"/Backup/"_s);
-    EXPECT_EQ(stored(u"Apps"_s, u"ImageFilePath"_s), folder.file(u"Zeph.bmp"_s));
-    EXPECT_EQ(stored(u"Apps"_s, u"TextFilePath"_s), folder.file(u"ReadMe.txt"_s));
+    EXPECT_EQ(stored(u"FileLocations"_s, u"BackUpFolder"_s), u"Backup/");
+    EXPECT_EQ(app->settings().of<EditorSettings>().BackUpFolder, folder.path() + u"/Backup/"_s);
+    EXPECT_EQ(stored(u"Apps"_s, u"ImageFilePath"_s), u"Zeph.bmp");
+    EXPECT_EQ(stored(u"Apps"_s, u"TextFilePath"_s), u"ReadMe.txt");
 }
 
 TEST_F(Start, AnAbsentStoreIsAFirstRunAndHoldsEveryKeyAfterIt)
@@ -275,7 +276,7 @@ TEST_F(Start, TheFirstRunMakesFavouritesOfTheFlightSimulatorsThatItFinds)
     ASSERT_TRUE(start());
     EXPECT_EQ(stored(u"Favourites"_s, u"FavArrayNum"_s), u"2");
     EXPECT_EQ(stored(u"Favourites"_s, u"FavName1"_s), u"European Air War");
-    EXPECT_EQ(stored(u"Favourites"_s, u"FavMFPath1"_s), folder.file(u"Files/TM Eaw.tmm"_s));
+    EXPECT_EQ(stored(u"Favourites"_s, u"FavMFPath1"_s), u"Files/TM Eaw.tmm");
     EXPECT_EQ(stored(u"Favourites"_s, u"FavName2"_s), u"Forgotten Battles");
     EXPECT_EQ(stored(u"Favourites"_s, u"FavLoadOnStart"_s), u"0");
     EXPECT_EQ(stored(u"Apps"_s, u"CustomAppUse4"_s), u"0");
@@ -506,15 +507,68 @@ TEST_F(Start, TheFirstInstanceClearsWhatCrashedOnesLeft)
 TEST_F(Start, With997FurtherInstancesTheNextOneEnds)
 {
     writeStore();
-    for (int n = 2; n <= 998; ++n) {
-        folder.write(u"Zeph."_s + QString::number(n), "taken");
-    }
     const InstanceLock first(folder.path());
+    const QByteArray mark = folder.read(u"Zeph.lock"_s);
+    for (int n = 2; n <= 998; ++n) {
+        folder.write(u"Zeph.%1.lock"_s.arg(n), mark);
+    }
     dialogs.answer(u"Exiting now ..."_s, BoxButton::Ok);
     EXPECT_FALSE(start());
     ASSERT_EQ(dialogs.boxes().size(), 1);
     EXPECT_EQ(dialogs.boxes()[0].text,
               u"Sorry, you've got too many windows open. Far too many !!!");
+}
+
+TEST_F(Start, AStoreLockedLongAgoByAnotherMachineIsTakenOverAfterAQuestion)
+{
+    writeStore();
+    QFile lock(folder.write(u"Zeph.lock"_s, "4711\nzeph\nhangar\nfeedc0de\n0815\n"));
+    ASSERT_TRUE(lock.open(QFile::ReadWrite));
+    ASSERT_TRUE(lock.setFileTime(QDateTime::currentDateTime().addDays(-1),
+                                 QFileDevice::FileModificationTime));
+    lock.close();
+    dialogs.answer(u"Is somebody else at work?"_s, BoxButton::Yes);
+    ASSERT_TRUE(start());
+    EXPECT_EQ(title(), u"Untitled.tmj[*] - Zeph");
+}
+
+TEST_F(Start, WithoutAnyFolderToWriteOneBoxSaysJustThat)
+{
+    writeStore("[FileLocations]\r\nBackUpFolder=/proc/none/\r\n");
+    canWrite = false;
+    dialogs.answer(u"I can't write anything"_s, BoxButton::Ok);
+    ASSERT_TRUE(start());
+    EXPECT_EQ(boxTitles(), QStringList{ u"I can't write anything"_s });
+}
+
+TEST_F(Start, TheStatusLineNamesTheFilesThatAnUpgradeKept)
+{
+    writeStore();
+    keptFiles = { u"Help/backups.html"_s, u"KeyCodes.txt"_s };
+    ASSERT_TRUE(start());
+    EXPECT_TRUE(app->status().text().endsWith(u"kept yours: Help/backups.html, KeyCodes.txt"_s))
+        << app->status().text().toStdString();
+}
+
+TEST_F(Start, AMovedFolderFindsItsFilesAndTellsOtherProgramsWhereTheyAre)
+{
+    folder.write(u"Files/a.tmj"_s, "BTN S2 a\r\n");
+    writeStore("[Miscellaneous]\r\nRestoreJoyFile=/gone/Zeph/Files/a.tmj\r\n");
+    folder.write(u"HOTAS.ini"_s, "[Files]\r\nFiles=/gone/Zeph/Files/\r\n");
+    ASSERT_TRUE(start());
+    EXPECT_EQ(app->editor().joystick().path(), folder.file(u"Files/a.tmj"_s));
+    EXPECT_EQ(ProfileFile(app->paths().hotasIni()).text(u"Files", u"Files"),
+              app->paths().filesFolder());
+    app->mum().close();
+    EXPECT_EQ(stored(u"Miscellaneous"_s, u"RestoreJoyFile"_s), u"Files/a.tmj");
+}
+
+TEST_F(Start, AFilesFolderThatNobodyAskedForIsNotWrittenForOtherPrograms)
+{
+    writeStore();
+    ASSERT_TRUE(start());
+    EXPECT_EQ(ProfileFile(app->paths().hotasIni()).text(u"Files", u"Files", u"(absent)"_s),
+              u"(absent)");
 }
 
 TEST_F(Start, OtherThan96PixelsAnInchWarnsOfSmallFontsAndGoesOn)

@@ -137,7 +137,7 @@ TEST_F(GamesMenuTest, AddAsksForTheGameWithTheCurrentFileSuggested)
     EXPECT_EQ(entry(u"mnuGameArray_1"_s)->text(), u"Mig");
     EXPECT_EQ(stored(u"GameArrayNum"_s), u"3");
     EXPECT_EQ(stored(u"GamePath1"_s), u"mig.exe -w");
-    EXPECT_EQ(stored(u"GameJF1"_s), file);
+    EXPECT_EQ(stored(u"GameJF1"_s), u"a.tmj");
     EXPECT_EQ(stored(u"GameJFmode1"_s), u"0");
 }
 

@@ -28,6 +28,8 @@ std::unique_ptr<Application> ShellWorld::application()
         .screen = screen,
         .system = system,
         .welcomeIntervalMs = welcomeIntervalMs,
+        .canWrite = canWrite,
+        .keptFiles = keptFiles,
     });
 }
 

@@ -60,6 +60,8 @@ public:
     FakeSystem system;
     QStringList arguments;
     int welcomeIntervalMs = 1;
+    bool canWrite = true;
+    QStringList keptFiles;
 };
 
 /// The world with the whole program running in it, which ends before the world does.

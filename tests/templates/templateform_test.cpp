@@ -265,7 +265,7 @@ TEST_F(TemplateTest, OnlyASavedFileBecomesTheDefault)
     ASSERT_TRUE(form->OpenReadMe(path));
     press(u"mnuFileSetDefault");
     EXPECT_EQ(settings.of<SharedSettings>().TextFilePath, path);
-    EXPECT_TRUE(folder.read(u"Zeph.ini"_s).contains("TextFilePath=" + path.toUtf8()));
+    EXPECT_TRUE(folder.read(u"Zeph.ini"_s).contains("TextFilePath=Templates/A.rtf"));
     press(u"mnuFileNew");
     press(u"mnuFileOpenDefault");
     EXPECT_EQ(status.text().toStdString(),

@@ -7,6 +7,7 @@
 #include "editor/editor_settings.h"
 #include "platform/clock.h"
 #include "platform/core/paths.h"
+#include "platform/core/portable_paths.h"
 #include "platform/dialogs.h"
 #include "settings/settings.h"
 #include "text/text_lines.h"
@@ -84,8 +85,9 @@ std::error_code makeFolder(const QString &folder)
 QString checkedBackupFolder(const QString &wanted, const Paths &paths, Dialogs &dialogs)
 {
     const QString standard = paths.defaultBackupFolder();
-    const QString folder =
-        wanted.isEmpty() ? standard : withClosingSeparator(nativeSeparators(wanted));
+    const QString folder = wanted.isEmpty()
+        ? standard
+        : withClosingSeparator(nativeSeparators(resolvedPath(wanted, paths.appFolder)));
     const std::error_code error = makeFolder(folder);
     if (!error) {
         return folder;

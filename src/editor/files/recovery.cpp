@@ -196,7 +196,9 @@ void Recovery::finish()
 void Recovery::offerLeft()
 {
     std::array<bool, 2> taken{};
-    for (LeftRecovery &left : leftRecoveries(m_context.paths.inApp(u"Recovery"))) {
+    const MayTakeOver mayTakeOver =
+        askToTakeOver(m_context.dialogs, u"Unsaved texts in my folder \u201CRecovery\u201D are"_s);
+    for (LeftRecovery &left : leftRecoveries(m_context.paths.inApp(u"Recovery"), mayTakeOver)) {
         for (const LeftRecovery::File &file : left.files()) {
             if (file.recovered.kind == RecoveredKind::Template) {
                 continue; // the Template Editor's own guard offers it

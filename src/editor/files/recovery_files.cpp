@@ -199,13 +199,14 @@ void LeftRecovery::finish()
     removeFolder(m_folder);
 }
 
-std::vector<LeftRecovery> leftRecoveries(const QString &parent)
+std::vector<LeftRecovery> leftRecoveries(const QString &parent, const MayTakeOver &mayTakeOver)
 {
     std::vector<LeftRecovery> left;
     const QFileInfoList folders =
         QDir(parent).entryInfoList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Time);
     for (const QFileInfo &folder : folders) {
-        auto lock = std::make_unique<InstanceLock>(folder.filePath());
+        auto lock = std::make_unique<InstanceLock>(folder.filePath(), InstanceLock::folderLock,
+                                                   mayTakeOver);
         if (lock->isFirst()) {
             left.emplace_back(folder.filePath(), std::move(lock));
         }

@@ -109,7 +109,9 @@ private:
     QStringList m_damaged;
 };
 
-/// Returns what crashed runs left below the folder, the latest first.
-std::vector<LeftRecovery> leftRecoveries(const QString &parent);
+/// Returns what crashed runs left below the folder, the latest first. mayTakeOver is asked about a
+/// run of which it cannot be known whether it has ended.
+std::vector<LeftRecovery> leftRecoveries(const QString &parent,
+                                         const MayTakeOver &mayTakeOver = {});
 
 } // namespace zeph

@@ -3,11 +3,8 @@
 
 #include "platform/core/paths.h"
 
-#include <QCoreApplication>
 #include <QDir>
-#include <QDirIterator>
 #include <QFileInfo>
-#include <QTemporaryFile>
 
 namespace zeph {
 
@@ -47,50 +44,6 @@ QString entryOf(const QString &folder, const QString &name)
     return {};
 }
 #endif
-
-bool canMakeFilesIn(const QString &folder)
-{
-    QTemporaryFile probe(folder + u"/Zeph.XXXXXX"_s);
-    return probe.open();
-}
-
-/// Copies files that do not exist yet. The copies can be written even where the originals cannot.
-void copyInto(const QString &from, const QString &to)
-{
-    if (QFileInfo::exists(to)) {
-        return;
-    }
-    QDir().mkpath(QFileInfo(to).path());
-    // A file gets its name when it is whole: the start after one that was cut short copies it anew.
-    const QString part = to + u".part"_s;
-    QFile::remove(part);
-    if (QFile::copy(from, part)) {
-        QFile::setPermissions(part, QFile::permissions(part) | QFile::WriteOwner);
-        QFile::rename(part, to);
-    }
-}
-
-void fillFolder(const QString &from, const QString &to)
-{
-    const QString filled = to + u"/.filled"_s;
-    if (QFileInfo::exists(filled)) {
-        return;
-    }
-    const QDir source(from);
-    // The program itself needs no copy: it runs from the folder where it is installed.
-    const QString program = QFileInfo(QCoreApplication::applicationFilePath()).canonicalFilePath();
-    QDirIterator files(from, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
-    while (files.hasNext()) {
-        const QString file = files.next();
-        if (QFileInfo(file).canonicalFilePath() != program) {
-            copyInto(file, to + u'/' + source.relativeFilePath(file));
-        }
-    }
-    QFile mark(filled);
-    if (mark.open(QIODevice::WriteOnly)) {
-        mark.close();
-    }
-}
 
 } // namespace
 
@@ -228,16 +181,6 @@ bool folderExists(const QString &path)
 {
     const QString found = existingPath(path);
     return !found.isEmpty() && QFileInfo(found).isDir();
-}
-
-QString chooseAppFolder(const QString &executableFolder, const QString &perUser)
-{
-    if (canMakeFilesIn(executableFolder)) {
-        return nativeSeparators(executableFolder);
-    }
-    QDir().mkpath(perUser);
-    fillFolder(executableFolder, perUser);
-    return nativeSeparators(perUser);
 }
 
 } // namespace zeph

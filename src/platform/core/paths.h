@@ -49,8 +49,4 @@ QString existingPath(const QString &path);
 bool fileExists(const QString &path);
 bool folderExists(const QString &path);
 
-/// The folder of the run: the executable's own, when it can be written; otherwise perUser, made and
-/// filled from the executable's folder at the first start (what is there already is left alone).
-QString chooseAppFolder(const QString &executableFolder, const QString &perUser);
-
 } // namespace zeph

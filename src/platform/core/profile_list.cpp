@@ -3,6 +3,7 @@
 
 #include "platform/core/profile_list.h"
 
+#include "platform/core/portable_paths.h"
 #include "platform/core/profile_file.h"
 #include "platform/core/text1252.h"
 
@@ -23,23 +24,24 @@ QList<ProfileRow> readProfileList(const ProfileFile &store, const ProfileListKey
         ProfileRow row;
         for (const QStringView field : keys.fields) {
             const QString key = field.toString() + QString::number(place);
-            row.append(profile::value(*file, keys.section, key)
-                           .value_or(QString())
-                           .left(profileTextBuffer - 1));
+            const QString value = profile::value(*file, keys.section, key).value_or(QString());
+            row.append(resolvedValue(store, keys.section, key, value.left(profileTextBuffer - 1)));
         }
         rows.append(row);
     }
     return rows;
 }
 
-QList<ProfileEntry> profileListEntries(const ProfileListKeys &keys, const QList<ProfileRow> &rows)
+QList<ProfileEntry> profileListEntries(const ProfileFile &store, const ProfileListKeys &keys,
+                                       const QList<ProfileRow> &rows)
 {
     const QString section = keys.section.toString();
     QList<ProfileEntry> entries = { { section, keys.count.toString(),
                                       QString::number(rows.size()) } };
     for (qsizetype i = 0; i < rows.size(); ++i) {
         for (size_t field = 0; field < keys.fields.size(); ++field) {
-            const QString value = rows[i].value(qsizetype(field));
+            const QString value = storedValue(store, keys.section, keys.fields[field],
+                                              rows[i].value(qsizetype(field)));
             entries.append({ section, keys.fields[field].toString() + QString::number(i + 1),
                              firstNot1252(value) < 0 ? value : QString() });
         }
@@ -51,7 +53,7 @@ Expected<void, FileError> writeProfileList(const ProfileFile &store, const Profi
                                            const QList<ProfileRow> &rows,
                                            const QList<ProfileEntry> &more)
 {
-    const auto written = store.write(profileListEntries(keys, rows) + more);
+    const auto written = store.write(profileListEntries(store, keys, rows) + more);
     QStringList stale;
     for (qsizetype place = rows.size() + 1; place <= keys.most; ++place) {
         for (const QStringView field : keys.fields) {

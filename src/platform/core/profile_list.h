@@ -28,9 +28,11 @@ using ProfileRow = QStringList;
 /// Reads the list from one state of the file; an absent value is empty.
 QList<ProfileRow> readProfileList(const ProfileFile &store, const ProfileListKeys &keys);
 
-/// The entries to write so that the store holds the list. A value that the store's code page cannot
-/// hold is written empty, so that no earlier item's value stays in its place.
-QList<ProfileEntry> profileListEntries(const ProfileListKeys &keys, const QList<ProfileRow> &rows);
+/// The entries to write so that the store holds the list; paths in the form that it gives them. A
+/// value that the store's code page cannot hold is written empty, so that no earlier item's value
+/// stays in its place.
+QList<ProfileEntry> profileListEntries(const ProfileFile &store, const ProfileListKeys &keys,
+                                       const QList<ProfileRow> &rows);
 
 /// Puts the list in place of the one in the store, along with more entries. Keys of items that it
 /// no longer has go.

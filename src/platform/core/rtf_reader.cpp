@@ -118,7 +118,7 @@ Expected<RtfReading, RtfError> Reader::read(const std::function<bool(qsizetype)>
                     error("The file's groups are nested too deeply.", m_lexer));
             }
             break;
-        case Kind::Close:
+        case Kind::Close: {
             if (m_groups.size() > 1) {
                 closeGroup();
                 break;
@@ -129,6 +129,7 @@ Expected<RtfReading, RtfError> Reader::read(const std::function<bool(qsizetype)>
             }
             const auto plain = m_firstStyle ? std::optional(formatOf(*m_firstStyle)) : std::nullopt;
             return RtfReading{ finish(), m_losses, plain };
+        }
         default:
             handle(token);
             break;

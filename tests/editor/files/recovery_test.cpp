@@ -22,6 +22,7 @@ using zeph::test::EditorTest;
 namespace {
 
 const QString offerTitle = u"Look what I found, buddy"_s;
+const QString takeOverTitle = u"Is somebody else at work?"_s;
 
 class RecoveryTest : public EditorTest
 {
@@ -203,6 +204,25 @@ TEST_F(RecoveryTest, ARunningProgramsFilesAreNotOffered)
     recovery().offerLeft();
     EXPECT_TRUE(dialogs.boxes().isEmpty());
     EXPECT_TRUE(QFile::exists(parent() + u"/3/joystick.txt"_s));
+}
+
+TEST_F(RecoveryTest, AnotherMachinesTextsAreOfferedOnlyAfterAQuestion)
+{
+    leave(DocumentKind::Joystick, file(u"a.tmj"_s, "a"), u"its own"_s, 3);
+    QFile lock(folder.write(u"Recovery/3/Zeph.lock"_s, "4711\nzeph\nhangar\nfeedc0de\n0815\n"));
+    ASSERT_TRUE(lock.open(QFile::ReadWrite));
+    recovery().offerLeft();
+    EXPECT_TRUE(dialogs.boxes().isEmpty()) << "touched a moment ago";
+    ASSERT_TRUE(lock.setFileTime(QDateTime::currentDateTime().addSecs(-11 * 60),
+                                 QFileDevice::FileModificationTime));
+    dialogs.answer(takeOverTitle, BoxButton::No);
+    recovery().offerLeft();
+    EXPECT_TRUE(folder.exists(u"Recovery/3/joystick.txt"_s));
+    dialogs.answer(takeOverTitle, BoxButton::Yes);
+    dialogs.answer(offerTitle, BoxButton::Yes);
+    recovery().offerLeft();
+    EXPECT_EQ(editor->joystickText(), u"its own");
+    EXPECT_FALSE(folder.exists(u"Recovery/3"_s));
 }
 
 TEST_F(RecoveryTest, WhereNothingCanBeWrittenItIsToldOnce)

@@ -11,11 +11,6 @@
 #include <QFile>
 #include <QFileInfo>
 
-#ifdef Q_OS_UNIX
-#include <sys/stat.h>
-#include <unistd.h>
-#endif
-
 using namespace zeph;
 using test::TempFolder;
 
@@ -130,105 +125,6 @@ TEST(FileExists, TellsFilesFromFolders)
     EXPECT_FALSE(fileExists(QString()));
     EXPECT_FALSE(folderExists(QString()));
 }
-
-TEST(ChooseAppFolder, TheExecutablesOwnWhenItCanBeWritten)
-{
-    const TempFolder folder;
-    folder.write(u"app/Tips.txt"_s, "tip");
-    EXPECT_EQ(chooseAppFolder(folder.file(u"app"_s), folder.file(u"user"_s)),
-              native(folder.file(u"app"_s)));
-    EXPECT_FALSE(folder.exists(u"user"_s));
-    EXPECT_EQ(QDir(folder.file(u"app"_s)).entryList(QDir::Files | QDir::Hidden),
-              QStringList{ u"Tips.txt"_s });
-}
-
-#ifdef Q_OS_UNIX
-
-namespace {
-
-/// An installed program in a folder that this process may read but not write. Nobody's rights are
-/// taken where the process could write everywhere.
-class Installed
-{
-public:
-    Installed()
-    {
-        m_folder.write(u"app/Tips.txt"_s, "tip");
-        m_folder.write(u"app/Info/Syntax.rtf"_s, "info");
-        setMode(u"."_s, 0777);
-        setMode(u"app/Tips.txt"_s, 0444);
-        setMode(u"app/Info"_s, 0555);
-        setMode(u"app"_s, 0555);
-        if (geteuid() == 0) {
-            m_restricted = seteuid(65534) == 0;
-        }
-    }
-    ~Installed()
-    {
-        if (m_restricted) {
-            EXPECT_EQ(seteuid(0), 0);
-        }
-        setMode(u"app"_s, 0755);
-        setMode(u"app/Info"_s, 0755);
-    }
-
-    bool isRestricted() const { return m_restricted || geteuid() != 0; }
-    QString choose() const
-    {
-        return chooseAppFolder(m_folder.file(u"app"_s), m_folder.file(u"user/Zeph"_s));
-    }
-    const TempFolder &folder() const { return m_folder; }
-
-private:
-    void setMode(const QString &name, mode_t mode) const
-    {
-        EXPECT_EQ(chmod(QFile::encodeName(m_folder.file(name)).constData(), mode), 0);
-    }
-
-    TempFolder m_folder;
-    bool m_restricted = false;
-};
-
-} // namespace
-
-TEST(ChooseAppFolder, APerUserFolderIsFilledWhenTheExecutablesCannotBeWritten)
-{
-    const Installed installed;
-    if (!installed.isRestricted()) {
-        GTEST_SKIP() << "cannot drop the right to write everywhere";
-    }
-    EXPECT_EQ(installed.choose(), installed.folder().file(u"user/Zeph"_s));
-    EXPECT_EQ(installed.folder().read(u"user/Zeph/Tips.txt"_s), "tip");
-    EXPECT_EQ(installed.folder().read(u"user/Zeph/Info/Syntax.rtf"_s), "info");
-    EXPECT_TRUE(QFile::permissions(installed.folder().file(u"user/Zeph/Tips.txt"_s))
-                & QFile::WriteOwner);
-}
-
-TEST(ChooseAppFolder, WhatThePerUserFolderHasAlreadyIsLeftAlone)
-{
-    const Installed installed;
-    if (!installed.isRestricted()) {
-        GTEST_SKIP() << "cannot drop the right to write everywhere";
-    }
-    installed.folder().write(u"user/Zeph/Tips.txt"_s, "mine");
-    installed.choose();
-    EXPECT_EQ(installed.folder().read(u"user/Zeph/Tips.txt"_s), "mine");
-    EXPECT_EQ(installed.folder().read(u"user/Zeph/Info/Syntax.rtf"_s), "info");
-}
-
-TEST(ChooseAppFolder, WhatTheUserDeletedDoesNotComeBackAtTheNextStart)
-{
-    const Installed installed;
-    if (!installed.isRestricted()) {
-        GTEST_SKIP() << "cannot drop the right to write everywhere";
-    }
-    installed.choose();
-    ASSERT_TRUE(QFile::remove(installed.folder().file(u"user/Zeph/Tips.txt"_s)));
-    installed.choose();
-    EXPECT_FALSE(installed.folder().exists(u"user/Zeph/Tips.txt"_s));
-}
-
-#endif
 
 TEST(RootOf, IsTheDriveOfAPath)
 {

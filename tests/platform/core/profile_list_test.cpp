@@ -56,7 +56,7 @@ TEST_F(ProfileListTest, WhatIsWrittenComesBack)
 {
     const ProfileFile file = store("[Things]\r\nOther=kept\r\n");
     const QList<ProfileRow> rows = { { u"a"_s, u"C:\\a b.tmj"_s }, { u"b"_s, QString() } };
-    ASSERT_TRUE(file.write(profileListEntries(keys, rows)));
+    ASSERT_TRUE(file.write(profileListEntries(file, keys, rows)));
     EXPECT_EQ(readProfileList(file, keys), rows);
     EXPECT_EQ(file.text(u"Things", u"Other"), u"kept");
     EXPECT_EQ(file.integer(u"Things", u"Count", 0), 2);
@@ -65,7 +65,7 @@ TEST_F(ProfileListTest, WhatIsWrittenComesBack)
 TEST_F(ProfileListTest, WhatTheStoreCannotHoldLeavesNoOtherItemsValueInItsPlace)
 {
     const ProfileFile file = store("[Things]\nCount=1\nName1=old\nPath1=old\n");
-    ASSERT_TRUE(file.write(profileListEntries(keys, { { u"\u0416"_s, u"new"_s } })));
+    ASSERT_TRUE(file.write(profileListEntries(file, keys, { { u"\u0416"_s, u"new"_s } })));
     EXPECT_EQ(readProfileList(file, keys), (QList<ProfileRow>{ { QString(), u"new"_s } }));
 }
 
