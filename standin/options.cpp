@@ -3,6 +3,8 @@
 
 #include "options.h"
 
+#include "platform/core/stand_in.h"
+
 #include <QCoreApplication>
 #include <QProcessEnvironment>
 #include <QTextStream>
@@ -39,7 +41,7 @@ Options optionsFrom(const QProcessEnvironment &environment)
 
 QString introduction(QStringView tool)
 {
-    return u"%1: a stand-in that drives no hardware."_s.arg(tool);
+    return u"%1: %2."_s.arg(tool, QLatin1String(standInMark));
 }
 
 void waitFor(const Options &options)
