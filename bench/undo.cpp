@@ -123,7 +123,7 @@ void ColouredAll(benchmark::State &state)
         ColouredText &text = world.control().shown();
         const ColorRef next = ++colour % 2 == 0 ? 0x0000FF : 0x00FF00;
         text.changeLooks(0, text.length(), [next](CharFormat &look) { look.colour = next; });
-        world.history().storeTop();
+        world.history().storeShown();
     }
 }
 

@@ -36,7 +36,6 @@ Document &ColouredInsert::document() const
 
 void ColouredInsert::BeginColInsert()
 {
-    document().history().storeTop();
     m_change = std::make_unique<Change>(document());
 }
 

@@ -127,13 +127,9 @@ void ColouredText::setLooks(const LookRuns &looks)
 }
 
 void ColouredText::changeLooks(int from, int length,
-                               const std::function<void(CharFormat &)> &change)
+                               const std::function<void(CharFormat &)> &change, ColourGivenBy by)
 {
-    std::vector<CharRun> runs = m_states.looks(from, length);
-    for (CharRun &run : runs) {
-        change(run.format);
-    }
-    m_states.setCharacterRuns(runs, from);
+    m_states.changeLooks(from, length, change, by);
 }
 
 void ColouredText::setMargins()

@@ -59,7 +59,8 @@ public:
     /// Gives all characters these looks.
     void setLooks(const LookRuns &looks);
     /// Calls a function with each look in a stretch, which it may change.
-    void changeLooks(int from, int length, const std::function<void(CharFormat &)> &change);
+    void changeLooks(int from, int length, const std::function<void(CharFormat &)> &change,
+                     ColourGivenBy by = ColourGivenBy::User);
     /// Gives all lines the document's margin.
     void setMargins();
     /// How the next typed character will look.

@@ -16,7 +16,9 @@ constexpr int noSteps = 0;
 Document::Document(DocumentKind kind, const int &undoMax, QObject *parent)
     : ColouredText(parent), m_kind(kind), m_history(*this, undoMax)
 {
+    setState(Empty);
     connect(this, &ColouredText::changed, this, &Document::countEdit);
+    connect(this, &ColouredText::caretMoved, this, [this] { m_history.caretMoved(); });
     connect(this, &ColouredText::keyComing, this, [this](int key) { m_history.keyPressed(key); });
 }
 
@@ -33,15 +35,36 @@ void Document::rename(const QString &path)
 
 void Document::setState(qint16 state)
 {
+    if (state == Modified) {
+        m_unchanged.reset();
+    } else {
+        m_unchanged.emplace(states().present(), state);
+    }
+    showState(state);
+}
+
+void Document::showState(qint16 state)
+{
     if (m_state != state) {
         m_state = state;
         Q_EMIT stateChanged();
     }
 }
 
+void Document::updateState()
+{
+    const DocumentState present = states().present();
+    const bool isUnchanged = m_unchanged && states().holdSame(present, m_unchanged->first);
+    if (isUnchanged) {
+        // The next comparison finds the parts that both share.
+        m_unchanged->first = present;
+    }
+    showState(isUnchanged ? m_unchanged->second : qint16(Modified));
+}
+
 void Document::countEdit()
 {
-    setState(Modified);
+    updateState();
     const bool undone = m_history.canRedo();
     if (m_history.textChanged() || undone) {
         Q_EMIT stepsChanged();
@@ -52,6 +75,7 @@ void Document::countEdit()
 void Document::step(void (UndoHistory::*way)())
 {
     (m_history.*way)();
+    updateState();
     Q_EMIT stepsChanged();
     Q_EMIT replaced(How::Undone);
 }
@@ -75,15 +99,20 @@ void Document::tellWritten(const QByteArray &bytes, Save save)
     Q_EMIT written(save);
 }
 
+void Document::tellLooksWritten()
+{
+    if (m_unchanged && states().holdSame(states().present(), m_unchanged->first, false)) {
+        m_unchanged->first = states().present();
+        showState(m_unchanged->second);
+    }
+}
+
 Change::Change(Document &document)
     : m_document(document), m_before(document.states().present()),
       m_anchor(document.cursor().anchor()), m_caret(document.cursor().position())
 {
-    if (!document.history().canRedo()) {
-        // The newest state gets the colours that have come since it was stored. After an undo the
-        // document shows an older one, which must not take its place.
-        document.history().storeTop();
-    }
+    // Colours may have come since the last step.
+    document.history().storeShown();
     m_quiet.emplace(document);
 }
 

@@ -12,9 +12,10 @@ namespace zeph {
 /// One of the edited texts with all that belongs to it: its file's path and name, whether it is
 /// saved, and what can be undone.
 ///
-/// What a view does to the text counts as typing: the document becomes modified, and its history
-/// takes it in. The text operations do not count as edits; a Change around them makes them one step
-/// to undo.
+/// What a view does to the text counts as typing, and the history takes it in. The text operations
+/// do not count as edits; a Change around them makes them one step to undo. A document is modified
+/// while its text, or what the user gave it of looks, differs from what its file held by the last
+/// load or save.
 class Document : public ColouredText
 {
     Q_OBJECT
@@ -45,7 +46,12 @@ public:
     void rename(const QString &path);
 
     qint16 state() const { return m_state; }
+    /// Says what the text is from now on, as it is: saved, empty, or other than what the disk
+    /// holds.
     void setState(qint16 state);
+    /// For whoever has changed looks without a Change: the state becomes what the text and the
+    /// looks that the user gave it say.
+    void updateState();
     bool isModified() const { return m_state == Modified; }
     /// Whether the text came back after a crash and the user has not saved it yet. Until then only
     /// the user's own save may change the file.
@@ -66,6 +72,10 @@ public:
     void tellAboutToBeWritten() { Q_EMIT aboutToBeWritten(); }
     /// Tells that these bytes have been written to the document's file.
     void tellWritten(const QByteArray &bytes, Save save);
+    /// For whoever could not write it: it is modified, whatever it was.
+    void tellNotWritten() { showState(Modified); }
+    /// For whoever has written the looks beside the file.
+    void tellLooksWritten();
 
 Q_SIGNALS:
     /// The document has another text; its path, state and history belong to that already.
@@ -84,6 +94,7 @@ Q_SIGNALS:
 private:
     friend class Change;
 
+    void showState(qint16 state);
     /// Takes an edit into state and history, and tells of it.
     void countEdit();
     void step(void (UndoHistory::*way)());
@@ -92,6 +103,9 @@ private:
     QString m_path;
     QString m_name;
     qint16 m_state = Empty;
+    /// What the file held by the last load or save, or an empty text without one; nothing when the
+    /// file holds another text. The document is in the second state while it holds the first.
+    std::optional<std::pair<DocumentState, qint16>> m_unchanged;
     bool m_recovered = false;
     QByteArray m_onDisk;
     UndoHistory m_history;
@@ -109,8 +123,8 @@ public:
     Change &operator=(const Change &) = delete;
 
     Document &document() { return m_document; }
-    /// Makes the change one step to undo, and the document modified. False, without a step, when
-    /// nothing differs or the change is committed already.
+    /// Makes the change one step to undo. False, without a step, when nothing differs or the change
+    /// is committed already.
     bool commit();
 
 private:

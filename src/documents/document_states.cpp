@@ -100,8 +100,11 @@ bool operator==(const DocumentState &one, const DocumentState &other)
 }
 
 DocumentStates::DocumentStates(QTextDocument &document, int linesPerChunk)
-    : m_document(document), m_linesPerChunk(linesPerChunk), m_known(empty())
+    : m_document(document), m_linesPerChunk(linesPerChunk)
 {
+    auto chunk = std::make_shared<TextChunk>();
+    chunk->paragraphs.push_back({ 1, {} });
+    m_known.m_chunks = std::make_shared<TextChunks>(TextChunks{ std::move(chunk) });
     // Without a layout the toolkit reports no changes.
     document.documentLayout();
     connect(&document, &QTextDocument::contentsChange, this, &DocumentStates::onContentsChange);
@@ -114,15 +117,6 @@ DocumentState DocumentStates::present()
 {
     catchUp();
     return m_known;
-}
-
-DocumentState DocumentStates::empty(const ParagraphFormat &paragraph) const
-{
-    auto chunk = std::make_shared<TextChunk>();
-    chunk->paragraphs.push_back({ 1, paragraph });
-    DocumentState state;
-    state.m_chunks = std::make_shared<TextChunks>(TextChunks{ std::move(chunk) });
-    return state;
 }
 
 TextEdit DocumentStates::editOf(qsizetype from, qsizetype length, const RichText &text)
@@ -182,7 +176,9 @@ void DocumentStates::replaceAll(std::span<const qsizetype> starts, qsizetype len
     std::vector<TextEdit> edits;
     edits.reserve(starts.size());
     for (const qsizetype start : starts) {
-        edits.push_back(editOf(start, length, RichText::plain(text, lookAround(start + length))));
+        edits.push_back({ start, length, insertableText(text), {} });
+        addRun(edits.back().runs,
+               { quint32(edits.back().text.size()), lookAround(start + length) });
     }
     apply(edits);
 }
@@ -261,6 +257,31 @@ void DocumentStates::setCharacterRuns(const std::vector<CharRun> &looks, qsizety
         addRun(runs, { quint32(std::max(run.length, qsizetype(0))), m_looks.numberOf(run.format) });
     }
     layRuns(runs, from);
+}
+
+void DocumentStates::changeLooks(qsizetype from, qsizetype length,
+                                 const std::function<void(CharFormat &)> &change, ColourGivenBy by)
+{
+    catchUp();
+    const qsizetype first = std::clamp(from, qsizetype(0), m_size);
+    TextChunk::Runs changed;
+    QHash<quint32, quint32> numbers;
+    for (const TextChunk::Run &run :
+         runs(first, std::clamp(length, qsizetype(0), m_size - first))) {
+        auto number = numbers.constFind(run.look);
+        if (number == numbers.cend()) {
+            const bool wasByHand = m_looks.isColourByHand(run.look);
+            CharFormat look = m_looks.look(run.look);
+            change(look);
+            const bool isOther = look.colour != m_looks.look(run.look).colour;
+            const bool isByHand = by == ColourGivenBy::SameAsBefore || !isOther
+                ? wasByHand
+                : by == ColourGivenBy::User;
+            number = numbers.insert(run.look, m_looks.numberOf(look, isByHand));
+        }
+        addRun(changed, { run.length, number.value() });
+    }
+    layRuns(changed, first);
 }
 
 void DocumentStates::layRuns(const TextChunk::Runs &runs, qsizetype from)

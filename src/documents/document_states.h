@@ -26,13 +26,17 @@ class QTextDocument;
 
 namespace zeph {
 
+/// Whom colours belong to that take the place of others: the user, whose colours are worth saving;
+/// the highlighter; or whoever gave those before.
+enum class ColourGivenBy { User, Highlighter, SameAsBefore };
+
 /// One state: a handle, cheap to keep and to copy. Only the DocumentStates that gave it can use it.
 class DocumentState
 {
 public:
     /// Bytes that these states take together; what they share counts once.
     static qsizetype bytesHeld(std::span<const DocumentState> states);
-    /// Whether two states of one document hold the same text in the same looks.
+    /// Whether two states of one document hold the same text in the same looks, whoever gave them.
     friend bool operator==(const DocumentState &one, const DocumentState &other);
 
 private:
@@ -59,9 +63,12 @@ public:
     RichText stretch(qsizetype from, qsizetype length);
     /// The looks of a stretch without its text, clamped likewise.
     std::vector<CharRun> looks(qsizetype from, qsizetype length);
-    /// The state of an empty text.
-    DocumentState empty(const ParagraphFormat &paragraph = {}) const;
     RichText richText(const DocumentState &state) const;
+    /// Whether two states hold the same text, and with looks the same of what the user gave it by
+    /// hand: bold, italic, underline, fonts other than the plain text's and colours that
+    /// changeLooks() marked. Costs little where the states differ in length or share their chunks.
+    bool holdSame(const DocumentState &one, const DocumentState &other,
+                  bool withLooks = true) const;
     /// A state's text comes in this many pieces of whole lines, for a long text that is read once,
     /// without a copy of the whole.
     size_t pieceCount(const DocumentState &state) const { return state.m_chunks->size(); }
@@ -85,6 +92,9 @@ public:
     /// Gives the characters from a position on these looks. The toolkit's document does not change.
     void setLooks(const LookRuns &looks, qsizetype from = 0);
     void setCharacterRuns(const std::vector<CharRun> &runs, qsizetype from = 0);
+    /// Calls a function with each look in a stretch, which it may change.
+    void changeLooks(qsizetype from, qsizetype length,
+                     const std::function<void(CharFormat &)> &change, ColourGivenBy by);
 
     /// How the next character that is typed at a position will look: as was chosen there, else like
     /// the character before it, or at a line's start like the one after it.
@@ -92,8 +102,9 @@ public:
     /// Tells where the user types, and the look that the user has chosen for it, if any.
     void setTyping(qsizetype place, std::optional<CharFormat> look);
     qsizetype typingPlace() const { return m_typingPlace; }
-    /// Sets the look of what is typed into an empty text.
-    void setPlain(const CharFormat &plain) { m_plain = plain; }
+    /// Sets the look of what is typed into an empty text. Text in the font that was plain before
+    /// follows it, in kept states too.
+    void setPlain(const CharFormat &plain);
 
     /// Whether the looks fit the document's text; false while the document is being changed.
     bool isUpToDate() const;
@@ -106,6 +117,8 @@ Q_SIGNALS:
     /// The document's text or paragraphs have changed, and no other call of this class did it.
     void changedByUser();
     /// The looks in these stretches, which ascend, have changed; their text is the same.
+    /// None means the whole text: the plain font is another, and with it what numbers of looks
+    /// mean.
     void looksChanged(const std::vector<zeph::TextStretch> &stretches);
 
 private:
@@ -117,12 +130,11 @@ private:
     void follow(qsizetype sameInFront, qsizetype sameAtEnd);
     void followParagraphs(qsizetype from, qsizetype to);
     quint32 lookOfTyped(const TextEdit &edit);
-    CharFormat lookAround(qsizetype position) const;
+    quint32 lookAround(qsizetype position);
     void apply(const std::vector<TextEdit> &edits);
     TextEdit editOf(qsizetype from, qsizetype length, const RichText &text);
     void layRuns(const TextChunk::Runs &runs, qsizetype from);
     void setChunks(TextChunks chunks);
-    qsizetype documentSize() const;
     ParagraphReader paragraphReader() const;
     RichText join(const TextChunks &chunks, size_t first, size_t end) const;
     std::vector<CharRun> charRuns(const TextChunk::Runs &runs) const;

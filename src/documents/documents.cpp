@@ -33,7 +33,7 @@ void Documents::markOverwritten(const Document &written)
     // The user may save one document over the other's file. The other's text is then on the disk no
     // longer.
     Document &other = this->other(written);
-    if (other.state() == Document::Saved && other.path() == written.path()
+    if (other.state() != Document::Empty && other.path() == written.path()
         && other.text() != written.text()) {
         other.setState(Document::Modified);
     }

@@ -76,11 +76,12 @@ private:
     bool m_protected = false;
 };
 
-// What a generator gives: a statement to write into a document, or a refusal to show.
-
 class RichTextBox;
 
-/// Text of a joystick or macro file that a tool has made.
+// What a generator gives: a statement to write into a document, or a refusal to show.
+
+/// Text that one of Zeph's windows has made for Documents::insert(): pieces, some with a colour of
+/// their own.
 struct Statement {
     /// A piece without a colour is painted as typing paints it.
     struct Piece {

@@ -51,7 +51,7 @@ Box fileProtectedBox()
 
 QString tabStatus(const QString &current, const QString &caption, bool isProtected)
 {
-    if (current.startsWith(u"Compile"_s) || current.contains(u'=')) {
+    if (current.startsWith(u"Compile"_s)) {
         return current;
     }
     return isProtected ? caption + u" is protected and can't be edited."_s
@@ -97,13 +97,6 @@ CharFormat plainFormat(const ColourSettings &settings, DocumentKind kind)
     format.colour = kind == DocumentKind::Joystick ? settings.JoystickTextDefaultColour
                                                    : settings.MacroTextDefaultColour;
     return format;
-}
-
-void takeFont(CharFormat &format, const CharFormat &font)
-{
-    format.family = font.family;
-    format.pointSize = font.pointSize;
-    format.bold = font.bold;
 }
 
 ColorRef documentBackground(const ColourSettings &settings, DocumentKind kind)

@@ -26,8 +26,7 @@ Box reloadBox(const Document &document);
 /// The refusal of every operation that would change a protected macro file.
 Box fileProtectedBox();
 
-/// The text of panel 1 after a tab is selected. A compiler's result ("Compile...") and a macro's
-/// keys (with "=") stay there.
+/// The text of panel 1 after a tab is selected. A compiler's result ("Compile...") stays there.
 QString tabStatus(const QString &current, const QString &caption, bool isProtected = false);
 
 /// Tooltip of the picture that shows whether a document is saved.
@@ -42,8 +41,6 @@ struct ColourSettings;
 
 /// Font and colour of a document's plain text.
 CharFormat plainFormat(const ColourSettings &settings, DocumentKind kind);
-/// Gives a format the font of another: family, size and weight.
-void takeFont(CharFormat &format, const CharFormat &font);
 /// Background of a document's control.
 ColorRef documentBackground(const ColourSettings &settings, DocumentKind kind);
 /// The painter's colours for one of the documents.

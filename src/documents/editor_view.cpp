@@ -134,7 +134,10 @@ void EditorView::showSelected()
         PositionControls();
     }
     const bool isProtected = now.kind() == DocumentKind::Macro && m_documents.isProtected();
-    m_context.status.setText(tabStatus(m_context.status.text(), now.caption(), isProtected));
+    StatusLine &status = m_context.status;
+    if (!status.showsKeys()) {
+        status.setText(tabStatus(status.text(), now.caption(), isProtected));
+    }
     UpdateSavedIcon();
     m_context.status.setLine(now.caretLine());
 }

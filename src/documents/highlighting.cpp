@@ -89,7 +89,8 @@ void Highlighting::mnuViewReformat_Click()
     Document &selected = m_documents.selected();
     if (!m_documents.refuseProtected() && selected.length() > 0) {
         reformat(selected);
-        selected.history().storeTop();
+        selected.history().storeShown();
+        selected.updateState();
     }
 }
 
@@ -117,7 +118,7 @@ void Highlighting::applyColour(Document &document)
     const EditorView::KeptPlace place(m_parts.view, document);
     document.setLooks(lookRuns(runs, m_documents.plainFormat(document.kind())));
     document.select(document.selStart(), 0);
-    document.history().storeTop();
+    document.history().storeShown();
     if (auto saved = m_parts.copies.SaveColouredText(document); !saved) {
         status.setText(u"The coloured copy couldn't be written: "_s + saved.error().path + u": "_s
                        + saved.error().reason);
@@ -129,11 +130,13 @@ void Highlighting::applyColour(Document &document)
 void Highlighting::ApplyColourHighlighting()
 {
     applyColour(m_documents.joystick());
+    m_documents.joystick().updateState();
 }
 
 void Highlighting::ApplyMacroColourHighlighting()
 {
     applyColour(m_documents.macro());
+    m_documents.macro().updateState();
 }
 
 void Highlighting::mnuViewColourJoystick_Click()
@@ -173,10 +176,14 @@ void Highlighting::removeColour(Document &document, int from, int length)
     m_context.status.setTextNow(u"Removing colour highlighting from "_s + document.caption()
                                 + u". Please wait ..."_s);
     const auto plain = m_documents.plainFormat(document.kind()).colour;
-    document.changeLooks(from, length, [plain](CharFormat &format) {
-        format.colour = plain;
-        format.bold = format.italic = format.underline = false;
-    });
+    document.changeLooks(
+        from, length,
+        [plain](CharFormat &format) {
+            format.colour = plain;
+            format.bold = format.italic = format.underline = false;
+        },
+        ColourGivenBy::Highlighter);
+    document.updateState();
     m_context.status.setText(u"Done"_s);
 }
 
@@ -206,23 +213,21 @@ void Highlighting::followScheme(const ColourSettings &before)
             recolouring(colourScheme(before, kind),
                         colourScheme(m_context.settings.of<ColourSettings>(), kind));
         const CharFormat font = plainFormat(m_context.settings.of<ColourSettings>(), kind);
-        CharFormat fontBefore = font;
-        takeFont(fontBefore, plainFormat(before, kind));
-        const bool hasNewFont = !(fontBefore == font);
+        CharFormat fontBefore = plainFormat(before, kind);
+        fontBefore.colour = font.colour;
+        const bool hasNewFont = fontBefore != font;
         if ((colours.isEmpty() && !hasNewFont) || each.length() == 0) {
             return;
         }
-        each.changeLooks(0, each.length(), [&](CharFormat &format) {
-            if (hasNewFont) {
-                takeFont(format, font);
-            }
-            if (format.colour) {
-                format.colour = colours.value(*format.colour, *format.colour);
-            }
-        });
-        if (!each.history().canRedo()) {
-            each.history().storeTop();
-        }
+        each.changeLooks(
+            0, each.length(),
+            [&colours](CharFormat &format) {
+                if (format.colour) {
+                    format.colour = colours.value(*format.colour, *format.colour);
+                }
+            },
+            ColourGivenBy::SameAsBefore);
+        each.history().storeShown();
         if (each.state() == Document::Saved) {
             // The copy is only a cache: nothing is lost when it cannot be written.
             (void)m_parts.copies.SaveColouredText(each);
@@ -234,6 +239,7 @@ void Highlighting::paintStretch(Document &document, int from, int to)
 {
     const QString text = document.richText(from, to - from).text;
     document.setCharacterRuns(ColourType(text).characters, from);
+    document.updateState();
 }
 
 void Highlighting::BlockColour()
@@ -248,7 +254,6 @@ void Highlighting::BlockColour()
 void Highlighting::TestColour(int flag)
 {
     Document &document = m_documents.selected();
-    const qint16 state = document.state();
     const QTextBlock line = document.content().findBlock(document.selStart());
     if (flag == 1) {
         m_parts.insert.BeginColInsert();
@@ -256,8 +261,6 @@ void Highlighting::TestColour(int flag)
     paintStretch(document, line.position(), line.position() + line.length() - 1);
     if (flag == 1) {
         m_parts.insert.EndColInsert();
-        // A step to undo, but no change to save: the file itself has no colours.
-        document.setState(state);
     }
 }
 

@@ -16,8 +16,9 @@ class EditorView;
 class MenuActions;
 struct ColourSettings;
 
-/// Gives the documents their colours and takes them away. Only looks change: neither the text nor
-/// the saved state. Caret and scroll stay where the user has them.
+/// Gives the documents their colours and takes them away. Only looks change: not the text, and the
+/// saved state only where looks go that the user gave. Caret and scroll stay where the user has
+/// them.
 class Highlighting
 {
 public:
@@ -32,11 +33,11 @@ public:
     /// Gives the whole document the plain font, size, colour and margin; bold, italic, underline
     /// and colours go. An empty document stays as it is.
     void reformat(Document &document);
-    /// Reformats the selected document, and stores its looks in the top undo slot. Refused on a
+    /// Reformats the selected document, and stores its looks in the undo slot shown. Refused on a
     /// protected macro file.
     void mnuViewReformat_Click();
 
-    /// Colours the whole document, stores its looks in the top undo slot and writes its coloured
+    /// Colours the whole document, stores its looks in the undo slot shown and writes its coloured
     /// copy. An empty document is told on the status line.
     void applyColour(Document &document);
     void ApplyColourHighlighting();
@@ -52,15 +53,16 @@ public:
     /// Takes the colours from the selection. Refused on a protected macro file.
     void mnuRemoveColourSelectedText_Click();
 
-    /// Takes changed colours and a changed font over into both documents: text in a colour of the
-    /// scheme before gets the one that replaced it, all other colours and looks stay. The coloured
-    /// copy of a saved document is written anew.
+    /// Takes changed colours over into both documents: text in a colour of the scheme before gets
+    /// the one that replaced it, all other colours and looks stay. Plain text follows a changed
+    /// font by itself. The coloured copy of a saved document is written anew for either.
     void followScheme(const ColourSettings &before);
 
     /// Colours the lines of the selection, or the caret's line, without a look at the rest of the
     /// text.
     void BlockColour();
-    /// Colours the caret's line; with flag 1 as an undo step of its own.
+    /// Colours the caret's line, or the one in which the selection starts. Flag 1 makes it an undo
+    /// step of its own, 0 no step.
     void TestColour(int flag);
     /// Colours the caret's line as TestColour(1) does. Refused on a protected macro file.
     void mnuViewHighlightLine_Click();

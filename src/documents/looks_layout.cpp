@@ -265,6 +265,9 @@ void LooksLayout::documentChanged(int from, int, int added)
 void LooksLayout::onLooksChanged(const std::vector<TextStretch> &stretches)
 {
     if (stretches.empty()) {
+        m_formats.clear();
+        forget(document()->begin(), document()->lastBlock());
+        Q_EMIT update();
         return;
     }
     QTextBlock block = document()->findBlock(int(stretches.front().from));

@@ -7,22 +7,76 @@
 
 namespace zeph {
 
-quint32 LookTable::numberOf(const CharFormat &look)
+quint32 LookTable::numberOf(const CharFormat &look, bool isColourByHand)
 {
-    const auto known = m_numbers.constFind(look);
-    if (known != m_numbers.cend()) {
-        return known.value();
+    QHash<CharFormat, quint32> &known = m_known[isColourByHand];
+    if (const auto found = known.constFind(look); found != known.cend()) {
+        return found.value();
     }
-    const CharFormat shown = fromTextFormat(toTextFormat(look));
-    if (shown != look) {
-        const quint32 number = numberOf(shown);
-        m_numbers.insert(look, number);
-        return number;
+    const Key key = keyOf(fromTextFormat(toTextFormat(look)), isColourByHand);
+    auto number = m_numbers.constFind(key);
+    if (number == m_numbers.cend()) {
+        number = m_numbers.insert(key, quint32(m_looks.size()));
+        m_looks.push_back({ key, shownBy(key), handValueOf(key) });
     }
-    const auto number = quint32(m_looks.size());
-    m_looks.push_back(look);
-    m_numbers.insert(look, number);
-    return number;
+    known.insert(look, number.value());
+    return number.value();
+}
+
+LookTable::Key LookTable::keyOf(const CharFormat &look, bool isColourByHand) const
+{
+    Key key{ look, false, look.bold == m_plain.bold, isColourByHand && look.colour };
+    key.followsFont = look.family == m_plain.family && look.pointSize == m_plain.pointSize;
+    if (key.followsFont) {
+        key.format.family.clear();
+        key.format.pointSize = 0;
+    }
+    if (key.followsBold) {
+        key.format.bold = false;
+    }
+    return key;
+}
+
+CharFormat LookTable::shownBy(const Key &key) const
+{
+    CharFormat shown = key.format;
+    if (key.followsFont) {
+        shown.family = m_plain.family;
+        shown.pointSize = m_plain.pointSize;
+    }
+    if (key.followsBold) {
+        shown.bold = m_plain.bold;
+    }
+    return shown;
+}
+
+quint32 LookTable::handValueOf(const Key &key)
+{
+    Key hand = key;
+    // A font that nobody named is the plain one.
+    hand.followsFont = key.format.family.isEmpty() && key.format.pointSize == 0;
+    if (!key.isColourByHand) {
+        hand.format.colour.reset();
+    }
+    const auto known = m_handValues.constFind(hand);
+    return known != m_handValues.cend()
+        ? known.value()
+        : m_handValues.insert(hand, quint32(m_handValues.size())).value();
+}
+
+bool LookTable::setPlain(const CharFormat &plain)
+{
+    m_plain = fromTextFormat(toTextFormat(plain));
+    // What looks like plain text from now on may not be what did until now.
+    m_known[false].clear();
+    m_known[true].clear();
+    bool isOther = false;
+    for (Look &look : m_looks) {
+        const CharFormat shown = shownBy(look.key);
+        isOther = isOther || shown != look.shown;
+        look.shown = shown;
+    }
+    return isOther;
 }
 
 void addParagraphs(std::vector<ParagraphRun> &runs, const ParagraphRun &run)

@@ -54,17 +54,53 @@ struct TextEdit {
     TextChunk::Runs runs;
 };
 
-/// Numbers for the few looks that a document has.
+/// Numbers for the few looks that a document has. A look whose font is the plain text's follows
+/// that font when it changes, and so does one that is as bold as plain text: a state that was kept
+/// under another font comes back in today's.
 class LookTable
 {
 public:
-    /// The number of a look. Looks that the screen shows alike have the same one.
-    quint32 numberOf(const CharFormat &look);
-    const CharFormat &look(quint32 number) const { return m_looks[number]; }
+    /// The number of a look as the screen shows it: a colour loses what no screen shows. One and
+    /// the same colour has two numbers, since only a colour that the user gave is worth saving.
+    quint32 numberOf(const CharFormat &look, bool isColourByHand = false);
+    const CharFormat &look(quint32 number) const { return m_looks[number].shown; }
+    bool isColourByHand(quint32 number) const { return m_looks[number].key.isColourByHand; }
+    /// Says what of a look the user gave: two looks that differ in nothing else have the same
+    /// value.
+    quint32 handOf(quint32 number) const { return m_looks[number].hand; }
+    /// The font of plain text. True when looks have become others.
+    bool setPlain(const CharFormat &plain);
 
 private:
-    std::vector<CharFormat> m_looks;
-    QHash<CharFormat, quint32> m_numbers;
+    /// What makes a look one of its own. What follows the plain text's font is empty in the format.
+    struct Key {
+        CharFormat format;
+        bool followsFont = false;
+        bool followsBold = false;
+        bool isColourByHand = false;
+
+        friend bool operator==(const Key &, const Key &) = default;
+        friend size_t qHash(const Key &key, size_t seed = 0)
+        {
+            return qHashMulti(seed, key.format, key.followsFont, key.followsBold,
+                              key.isColourByHand);
+        }
+    };
+    struct Look {
+        Key key;
+        CharFormat shown;
+        quint32 hand = 0;
+    };
+
+    Key keyOf(const CharFormat &look, bool isColourByHand) const;
+    CharFormat shownBy(const Key &key) const;
+    quint32 handValueOf(const Key &key);
+
+    CharFormat m_plain;
+    std::vector<Look> m_looks;
+    QHash<Key, quint32> m_numbers;
+    QHash<Key, quint32> m_handValues;
+    QHash<CharFormat, quint32> m_known[2]; ///< by whether the colour is by hand
 };
 
 /// Appends a run, or lengthens the last one when that has the same look.

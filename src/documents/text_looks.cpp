@@ -139,11 +139,8 @@ void TextLooks::mnuFormatFont_Click()
 
 void TextLooks::DoTheFonts()
 {
+    // Text in the plain font follows it, in whatever was undone too.
     m_parts.view.applyLook();
-    m_documents.forEach([](Document &each) {
-        each.changeLooks(0, each.length(),
-                         [&each](CharFormat &format) { takeFont(format, each.plain()); });
-    });
 }
 
 TypingColour::TypingColour(EditorView &view, Highlighting &highlighting,

@@ -44,7 +44,8 @@ public:
 
     /// Asks for a font, keeps it in the settings and gives it to both texts.
     void mnuFormatFont_Click();
-    /// Gives both texts the font of the settings; colours, italic and underline stay.
+    /// Gives both texts the font of the settings; colours, italic, underline and the fonts of
+    /// styles stay.
     void DoTheFonts();
 
 private:

@@ -45,6 +45,7 @@ UndoHistories::UndoHistories(const Context &context, EditorView &view, MenuActio
             DeleteUndosOnSaveM();
         }
     });
+    connect(&actions, &MenuActions::aboutToRun, m_blink, &LineBlink::stop);
     actions.connectTo(u"mnuEditUndo", [this] { mnuEditUndo_Click(); });
     actions.connectTo(u"mnuEditRedo", [this] { mnuEditRedo_Click(); });
     actions.connectTo(u"mnuEditSelectLine", [this] { mnuEditSelectLine_Click(); });
@@ -106,9 +107,8 @@ void UndoHistories::startOver(DocumentKind kind)
 
 void UndoHistories::DeleteUndosFromMemory()
 {
-    of(DocumentKind::Joystick).forget();
-    of(DocumentKind::Macro).forget();
-    UpdateUndoRedoMenus();
+    startOver(DocumentKind::Joystick);
+    startOver(DocumentKind::Macro);
 }
 
 } // namespace zeph

@@ -34,7 +34,7 @@ public:
     /// Starts the history over, as a save does while UndoClearOnSave is on.
     void DeleteUndosOnSaveJ() { startOver(DocumentKind::Joystick); }
     void DeleteUndosOnSaveM() { startOver(DocumentKind::Macro); }
-    /// Forgets the steps of both documents, to give their memory back.
+    /// A fresh history for both documents.
     void DeleteUndosFromMemory();
 
 private:

@@ -15,20 +15,12 @@ UndoHistory::UndoHistory(ColouredText &text, const int &undoMax)
 
 void UndoHistory::reset()
 {
-    startWith(m_states.present());
-}
-
-void UndoHistory::forget()
-{
-    startWith(m_states.empty(documentParagraph));
-}
-
-void UndoHistory::startWith(const DocumentState &state)
-{
     m_slots.clear();
-    m_slots.push_front({ state, 0 });
+    m_slots.push_front({ m_states.present(), 0 });
     m_index = 1;
     UndoStepNext = 1;
+    m_caret = m_text.selStart();
+    m_caretHasMoved = false;
     m_lastKeyWasSpace = m_lastKeyWasEnter = false;
 }
 
@@ -39,24 +31,35 @@ UndoHistory::Slot UndoHistory::present()
 
 bool UndoHistory::textChanged()
 {
-    const bool pushes = UndoStepNext == 1;
+    Slot now = present();
+    const bool pushes = UndoStepNext == 1 || canRedo();
+    UndoStepNext = 1;
+    m_caret = now.caret;
+    m_caretHasMoved = false;
+    if (now.state == m_slots[size_t(m_index) - 1].state) {
+        return false;
+    }
     if (pushes) {
         const bool full = slots() > m_undoMax;
-        m_slots.push_front(present());
+        m_slots.push_front(std::move(now));
         if (full) {
             m_slots.pop_back();
         }
     } else {
-        m_slots.front() = present();
+        m_slots.front() = std::move(now);
     }
     m_index = 1;
-    UndoStepNext = 1;
     return pushes;
 }
 
-void UndoHistory::storeTop()
+void UndoHistory::storeShown()
 {
-    m_slots.front() = present();
+    m_slots[size_t(m_index) - 1] = present();
+}
+
+void UndoHistory::caretMoved()
+{
+    m_caretHasMoved = m_caretHasMoved || m_text.selStart() != m_caret;
 }
 
 void UndoHistory::keyPressed(int key)
@@ -67,9 +70,11 @@ void UndoHistory::keyPressed(int key)
     }
     const bool space = key == Qt::Key_Space;
     const bool enter = key == Qt::Key_Return || key == Qt::Key_Enter;
+    // What the key replaces, and what was typed elsewhere before, must stay within reach.
+    const bool startsElsewhere = m_caretHasMoved || m_text.selLength() > 0;
     if (space && m_text.length() == 0) {
         UndoStepNext = 0;
-    } else if (slots() == 1 || key == Qt::Key_Backspace) {
+    } else if (slots() == 1 || key == Qt::Key_Backspace || startsElsewhere) {
         UndoStepNext = 1;
     } else {
         // A run of blanks or of line ends is one boundary of words.
@@ -100,6 +105,8 @@ void UndoHistory::show(int index)
     const Slot &slot = m_slots[size_t(index) - 1];
     m_states.restore(slot.state);
     m_text.select(slot.caret, 0);
+    // The next key goes on from here, not from the word that was typed last.
+    m_caretHasMoved = true;
 }
 
 qsizetype UndoHistory::bytesHeld() const

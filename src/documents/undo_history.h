@@ -23,18 +23,19 @@ public:
 
     /// Starts over with one slot, which holds the document as it is now and the caret at 0.
     void reset();
-    /// Starts over with one slot, which holds an empty text: gives the memory of all states back.
-    void forget();
-    /// Takes an edit of the text in: overwrites slot 1, or pushes a new one when UndoStepNext is 1.
-    /// True when a slot was pushed.
+    /// A real change took place: overwrites slot 1, or pushes a new one when UndoStepNext is 1 or
+    /// while something is undone, which stays within reach then. True when a slot was pushed.
     bool textChanged();
-    /// Puts the document as it is now, and its caret, into slot 1, without making a step.
-    void storeTop();
-    /// To be called before the change that a key (Qt::Key) brings: decides by the rules of words
-    /// whether the change is a step of its own.
+    /// Puts the document as it stands, and its caret, into the slot now shown, without making a
+    /// step: its looks may have become others, or its stamp.
+    void storeShown();
+    /// The next key starts a step if the caret is elsewhere than the last change left it.
+    void caretMoved();
+    /// The word rules, before the change that a key brings: Qt::Key values.
     void keyPressed(int key);
-    /// Shows the next older (newer) state in the document.
+    /// Shows the next older state in the document; does nothing at the oldest.
     void undo();
+    /// Shows the next newer state in the document; does nothing at the newest.
     void redo();
 
     int slots() const { return int(m_slots.size()); }
@@ -44,7 +45,7 @@ public:
     /// Bytes that all slots take together.
     qsizetype bytesHeld() const;
 
-    /// 1: the next change pushes a slot. 0: it overwrites slot 1.
+    /// 1: the next change pushes a slot. 0: it overwrites slot 1, unless something is undone.
     qint16 UndoStepNext = 1;
 
 private:
@@ -54,7 +55,6 @@ private:
     };
 
     Slot present();
-    void startWith(const DocumentState &state);
     void show(int index);
 
     ColouredText &m_text;
@@ -62,6 +62,8 @@ private:
     DocumentStates &m_states;
     std::deque<Slot> m_slots; ///< slot 1 comes first
     int m_index = 1;
+    int m_caret = 0; ///< where the last change left it
+    bool m_caretHasMoved = false;
     bool m_lastKeyWasSpace = false;
     bool m_lastKeyWasEnter = false;
 };

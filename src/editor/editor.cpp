@@ -49,8 +49,8 @@ Editor::Editor(const Context &context, QWidget *parent)
       m_documents(std::make_unique<Documents>(context)),
       m_view(std::make_unique<EditorView>(context, *m_documents, this)),
       m_copies(std::make_unique<ColouredCopies>(context.paths)),
-      m_keys(
-          std::make_unique<EditorKeys>(*m_view, *m_actions, context.settings.of<SharedSettings>())),
+      m_keys(std::make_unique<EditorKeys>(*m_view, *m_actions,
+                                          context.settings.of<SharedSettings>(), context.status)),
       // Must come after the keys: event filters run last-installed first, and a blinking line has
       // to be released before a key runs its entry.
       m_undos(std::make_unique<UndoHistories>(context, *m_view, *m_actions)),
@@ -74,7 +74,8 @@ Editor::Editor(const Context &context, QWidget *parent)
       m_fresh(std::make_unique<FileNew>(context, *m_view, *m_actions, *m_opening)),
       m_rightMenu(std::make_unique<RightMenu>(*m_view, *m_actions)),
       m_guards(new LossGuards{ .autoSave = { context, *m_view, *m_saving },
-                               .recovery = { context, { *m_view, *m_opening } } }),
+                               .recovery = { context, { *m_view, *m_opening } },
+                               .changedFiles = { context, { *m_view, *m_opening } } }),
       m_insertForms(std::make_unique<InsertForms>(
           context, InsertForms::Parts{ *m_view, *m_actions, *m_insert })),
       m_packaging(std::make_unique<Packaging>(
@@ -85,6 +86,7 @@ Editor::Editor(const Context &context, QWidget *parent)
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
     layout->addWidget(m_view.get(), 1);
+    m_saving->guardBy(m_guards->changedFiles);
     connectEditing();
     connectOptions();
     connectLooks();

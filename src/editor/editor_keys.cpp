@@ -6,6 +6,7 @@
 #include "documents/editor_view.h"
 #include "editor/actions.h"
 #include "menus/menu_actions.h"
+#include "platform/status_line.h"
 #include "settings/shared_settings.h"
 
 #include <QAction>
@@ -55,8 +56,9 @@ QStringView standardEntry(const QKeyEvent &event)
 
 } // namespace
 
-EditorKeys::EditorKeys(EditorView &view, MenuActions &actions, const SharedSettings &settings)
-    : m_view(view), m_actions(actions), m_settings(settings)
+EditorKeys::EditorKeys(EditorView &view, MenuActions &actions, const SharedSettings &settings,
+                       StatusLine &status)
+    : m_view(view), m_actions(actions), m_settings(settings), m_status(status)
 {
     view.watch(*this);
     // Keys that no control handles reach the Editor widget.
@@ -76,6 +78,9 @@ QString EditorKeys::entryFor(int key, bool macroText)
 bool EditorKeys::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() == QEvent::KeyPress && emergencyPressed(*static_cast<QKeyEvent *>(event))) {
+        return true;
+    }
+    if (event->type() == QEvent::KeyPress && offEntryPressed(*static_cast<QKeyEvent *>(event))) {
         return true;
     }
     const auto kind = m_view.kindOf(watched);
@@ -105,6 +110,26 @@ bool EditorKeys::emergencyPressed(const QKeyEvent &event)
         Q_EMIT emergencyOff();
     }
     return true;
+}
+
+/// The key of an entry that is disabled comes to the texts; where there is a reason, it is told.
+bool EditorKeys::offEntryPressed(const QKeyEvent &event)
+{
+    const QString entry = event.modifiers() == Qt::NoModifier
+        ? entryWithShortcut(actionTable(), event.keyCombination())
+        : QString();
+    if (entry.isEmpty() || m_actions.action(entry)->isEnabled()) {
+        return false;
+    }
+    QString why = m_actions.lackOf(entry);
+    if (why.isEmpty() && conditionOf(actionTable(), entry) == EditorWhen::JoystickText) {
+        why = u"%1 is for the joystick file: select its tab first (a tick in Preferences allows it "
+              "from both)"_s.arg(event.key() == Qt::Key_F11 ? u"F11"_s : u"F12"_s);
+    }
+    if (!why.isEmpty()) {
+        m_status.setText(u' ' + why);
+    }
+    return !why.isEmpty();
 }
 
 bool EditorKeys::handles(const QKeyEvent &event, bool macroText) const
@@ -142,8 +167,11 @@ bool EditorKeys::keyPressed(const QKeyEvent &event, bool macroText)
     if (event.key() == Qt::Key_K && m_settings.DefaultToDX8KeyTester) {
         entry = u"mnuAppsDX8_0"_s;
     }
-    // Taken even when the entry cannot be used: some desktops give these keys to the toolkit for
-    // deleting lines.
+    if (const QString lack = m_actions.lackOf(entry); !lack.isEmpty()) {
+        m_status.setText(u' ' + lack);
+    }
+    // Consumed even when the entry is disabled: on some desktops the toolkit would delete lines
+    // with these keys.
     if (QAction *action = m_actions.action(entry); !heldDown || action->autoRepeat()) {
         action->trigger();
     }

@@ -11,6 +11,7 @@ namespace zeph {
 
 class MenuActions;
 class EditorView;
+class StatusLine;
 struct SharedSettings;
 
 /// The keys of the two texts other than typing. A key with Ctrl alone runs its menu entry, which
@@ -19,7 +20,8 @@ class EditorKeys : public QObject
 {
     Q_OBJECT
 public:
-    EditorKeys(EditorView &view, MenuActions &actions, const SharedSettings &settings);
+    EditorKeys(EditorView &view, MenuActions &actions, const SharedSettings &settings,
+               StatusLine &status);
 
     /// The object name of the menu entry that Ctrl and this key runs; empty when there is none.
     static QString entryFor(int key, bool macroText);
@@ -36,6 +38,7 @@ protected:
 
 private:
     bool emergencyPressed(const QKeyEvent &event);
+    bool offEntryPressed(const QKeyEvent &event);
     bool handles(const QKeyEvent &event, bool macroText) const;
     bool keyPressed(const QKeyEvent &event, bool macroText);
     void popUpInsertMenu();
@@ -44,6 +47,7 @@ private:
     EditorView &m_view;
     MenuActions &m_actions;
     const SharedSettings &m_settings;
+    StatusLine &m_status;
 };
 
 } // namespace zeph

@@ -147,7 +147,8 @@ struct JoystickStatement {
     Place subject;
     /// For a USE statement of shape Tail: the rest of its line without comment and blanks.
     Place tail;
-    /// Index in useForms(); -1 for any other statement.
+    /// For a USE statement the index of its form in useForms(); -1 when it has none of these, and
+    /// for all other statements.
     int useForm = -1;
     Body body;
 };

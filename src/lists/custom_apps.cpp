@@ -12,6 +12,8 @@
 #include <QBuffer>
 #include <QFile>
 #include <QFileIconProvider>
+#include <QGuiApplication>
+#include <QMenu>
 #include <QPainter>
 #include <QPixmap>
 
@@ -61,6 +63,15 @@ Launch customAppLaunch(const CustomApp &app)
     QString path = app.CustomAppPath.trimmed();
     const QString root = rootOf(path.startsWith(u'"') ? path.sliced(1) : path);
     return launchFromCommand(path, root);
+}
+
+QString lackOf(const CustomApp &app, const ProcessLauncher &launcher)
+{
+    const QString program = customAppLaunch(app).program;
+    if (folderExists(program)) {
+        return program + u" is a folder, not a program"_s;
+    }
+    return launcher.finds(program) ? QString() : program + u" is missing"_s;
 }
 
 QString customAppPicture(const Paths &paths, int place)
@@ -126,6 +137,14 @@ CustomAppsMenu::CustomAppsMenu(const Context &context, Editor &editor)
         editor.actions().connectTo(entryOf(place), [this, place] { mnuCustomApp_Click(place); });
         show(place);
     }
+    // A program that is missing may be back by then.
+    const auto again = [this] {
+        for (int place = 1; place <= int(m_apps.size()); ++place) {
+            show(place);
+        }
+    };
+    connect(editor.actions().menu(u"mnuApps"), &QMenu::aboutToShow, this, again);
+    connect(qGuiApp, &QGuiApplication::applicationStateChanged, this, again);
 }
 
 void CustomAppsMenu::set(const CustomApps &apps)
@@ -162,13 +181,15 @@ void CustomAppsMenu::show(int place)
     const CustomApp &app = m_apps.at(size_t(place - 1));
     QAction *entry = m_editor.action(entryOf(place));
     entry->setVisible(app.CustomAppUse);
-    entry->setEnabled(app.CustomAppUse);
+    const QString lack = app.CustomAppUse ? lackOf(app, m_context.launcher) : QString();
+    entry->setEnabled(app.CustomAppUse && lack.isEmpty());
     if (!app.CustomAppUse) {
         return;
     }
     entry->setText(app.CustomAppName.isEmpty() ? m_plainCaptions[size_t(place - 1)]
                                                : captionOf(app.CustomAppName));
-    entry->setStatusTip(app.CustomAppPath);
+    entry->setToolTip(lack);
+    entry->setStatusTip(lack.isEmpty() ? app.CustomAppPath : lack);
     const QString file = customAppPicture(m_context.paths, place);
     if (!fileExists(file)) {
         makeCustomAppPicture(app, file);

@@ -32,6 +32,10 @@ Expected<void, FileError> writeCustomApps(const ProfileFile &store, const Custom
 /// The launch of an application: in the foreground, with the root of its drive as working folder.
 Launch customAppLaunch(const CustomApp &app);
 
+/// What keeps an application from being started, in words: it is missing, or a folder. Empty when
+/// nothing does.
+QString lackOf(const CustomApp &app, const ProcessLauncher &launcher);
+
 /// The path of the picture of the application at a place (1-based).
 QString customAppPicture(const Paths &paths, int place);
 /// Writes that file from the icon that the system shows for the application. False, and nothing

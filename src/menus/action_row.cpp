@@ -18,6 +18,13 @@ QString entryWithShortcut(std::span<const ActionRow> rows, QKeyCombination keys)
     return row == rows.end() ? QString() : QString::fromUtf16(row->name);
 }
 
+When conditionOf(std::span<const ActionRow> rows, QStringView name)
+{
+    return std::ranges::find_if(
+               rows, [name](const ActionRow &each) { return name == QStringView(each.name); })
+        ->when;
+}
+
 QString shortcutOf(std::span<const ActionRow> rows, QStringView name)
 {
     const auto row = std::ranges::find_if(

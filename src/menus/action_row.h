@@ -67,6 +67,8 @@ constexpr ActionRow separator(const char16_t *menu, const char16_t *name = u"")
 
 /// Object name of the entry with that shortcut; empty when there is none.
 QString entryWithShortcut(std::span<const ActionRow> rows, QKeyCombination keys);
+/// The condition of the entry of that object name, which the table must have.
+When conditionOf(std::span<const ActionRow> rows, QStringView name);
 /// The shortcut of the entry of that object name as the table writes it ("Ctrl+S"); empty when
 /// there is none.
 QString shortcutOf(std::span<const ActionRow> rows, QStringView name);

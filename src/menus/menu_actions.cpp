@@ -9,6 +9,7 @@
 #include <QAction>
 #include <QMenu>
 #include <QMenuBar>
+#include <algorithm>
 #include <utility>
 
 namespace zeph {
@@ -41,6 +42,8 @@ void MenuActions::makeMenus()
         auto *menu = new QMenu(text(row.caption), m_window);
         menu->setObjectName(text(row.name));
         menu->menuAction()->setObjectName(text(row.name));
+        // Only a tool tip that is more than the caption is shown.
+        menu->setToolTipsVisible(true);
         m_menus.insert(menu->objectName(), menu);
         m_actions.insert(menu->objectName(), menu->menuAction());
     }
@@ -66,6 +69,7 @@ QAction *MenuActions::make(const ActionRow &row)
     }
     if (row.kind == ActionKind::Submenu) {
         auto *submenu = new QMenu(text(row.caption), menu);
+        submenu->setToolTipsVisible(true);
         m_menus.insert(text(row.name), submenu);
         return menu->addMenu(submenu);
     }
@@ -120,7 +124,10 @@ void MenuActions::addTo(QMenuBar &bar) const
 void MenuActions::connectTo(QStringView name, std::function<void()> operation)
 {
     connect(action(name), &QAction::triggered, this,
-            guarded(m_dialogs, [operation = std::move(operation)](bool) { operation(); }));
+            guarded(m_dialogs, [this, operation = std::move(operation)](bool) {
+                Q_EMIT aboutToRun();
+                operation();
+            }));
 }
 
 void MenuActions::connectArray(const QString &name, std::function<void(int)> operation)
@@ -135,10 +142,37 @@ void MenuActions::connectArray(const QString &name, std::function<void(int)> ope
 
 void MenuActions::setCondition(When when, bool holds)
 {
+    m_holding.removeAll(when);
+    if (holds) {
+        m_holding.append(when);
+    }
     for (const ActionRow &row : m_rows) {
         if (row.when == when && row.kind != ActionKind::Separator) {
-            action(QStringView(row.name))->setEnabled(holds);
+            enable(row);
         }
+    }
+}
+
+void MenuActions::enable(const ActionRow &row)
+{
+    const bool holds = row.when == CommonWhen::Always || m_holding.contains(row.when);
+    action(QStringView(row.name))->setEnabled(holds && m_lacks.value(text(row.name)).usable);
+}
+
+void MenuActions::setLack(QStringView name, const QString &lack, bool usable)
+{
+    if (lackOf(name) == lack) {
+        return;
+    }
+    m_lacks.insert(name.toString(), { lack, usable || lack.isEmpty() });
+    const auto row = std::ranges::find_if(
+        m_rows, [name](const ActionRow &each) { return QStringView(each.name) == name; });
+    Q_ASSERT_X(row != m_rows.end(), "MenuActions::setLack", qPrintable(name.toString()));
+    // An empty tool tip is the caption again.
+    action(name)->setToolTip(lack);
+    action(name)->setStatusTip(lack.isEmpty() ? text(row->status) : lack);
+    if (!usable) {
+        enable(*row);
     }
 }
 

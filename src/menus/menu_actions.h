@@ -50,12 +50,29 @@ public:
 
     /// Enables or disables all entries under a condition.
     void setCondition(When when, bool holds);
+    /// Tells in tool tip and status text what an entry lacks, such as its program; an empty text
+    /// gives it its own words back. While an entry lacks something and is not usable all the same,
+    /// it is disabled; its condition must not be Custom.
+    void setLack(QStringView name, const QString &lack, bool usable);
+    /// What the entry lacks; empty when nothing.
+    QString lackOf(QStringView name) const { return m_lacks.value(name.toString()).text; }
+
     /// Ticks the entry NAME_index of an array and no other of it; -1 ticks none.
     void tickOnly(const QString &name, int index) const;
 
+Q_SIGNALS:
+    /// An entry is about to run its operation.
+    void aboutToRun();
+
 private:
+    struct Lack {
+        QString text;
+        bool usable = true;
+    };
+
     void makeMenus();
     QAction *make(const ActionRow &row);
+    void enable(const ActionRow &row);
 
     Dialogs &m_dialogs;
     QString m_iconFolder;
@@ -64,6 +81,8 @@ private:
     QWidget *m_window;
     QHash<QString, QAction *> m_actions;
     QHash<QString, QMenu *> m_menus;
+    QHash<QString, Lack> m_lacks;
+    QList<When> m_holding; ///< the conditions that hold
 };
 
 /// The entries NAME_1 … NAME_n of a list of the user's, in a menu before one of its entries (or at

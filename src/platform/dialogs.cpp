@@ -13,12 +13,16 @@ namespace zeph {
 
 void Dialogs::tell(const QString &title, const QString &text, BoxIcon icon)
 {
-    box({ title, text, icon, { BoxButton::Ok }, BoxButton::Ok });
+    box({ .title = title, .text = text, .icon = icon });
 }
 
 bool Dialogs::ask(const QString &title, const QString &text, BoxIcon icon)
 {
-    return box({ title, text, icon, { BoxButton::Yes, BoxButton::No }, BoxButton::No })
+    return box({ .title = title,
+                 .text = text,
+                 .icon = icon,
+                 .buttons = { BoxButton::Yes, BoxButton::No },
+                 .defaultButton = BoxButton::No })
         == BoxButton::Yes;
 }
 

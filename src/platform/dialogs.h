@@ -21,7 +21,8 @@
 namespace zeph {
 
 enum class BoxIcon { None, Information, Question, Exclamation, Stop };
-enum class BoxButton { Ok, Cancel, Yes, No };
+/// Other is one that only its caption names.
+enum class BoxButton { Ok, Cancel, Yes, No, Other };
 
 /// A message box. Escape and the close button answer Cancel, else No, else the only button.
 struct Box {
@@ -30,6 +31,10 @@ struct Box {
     BoxIcon icon = BoxIcon::None;
     QList<BoxButton> buttons = { BoxButton::Ok };
     BoxButton defaultButton = BoxButton::Ok;
+    /// The caption of a tick below the text; without one there is no tick.
+    QString tick = {};
+    /// Receives the tick's state when the box closes.
+    std::function<void(bool)> ticked = {};
     QStringList captions = {}; ///< of the buttons, in their order; empty for the usual ones
 };
 
@@ -57,7 +62,7 @@ public:
     virtual ~Dialogs() = default;
 
     virtual BoxButton box(const Box &box) = 0;
-    /// The chosen path; no value on Cancel.
+    /// Asks for a file to open. Its path; no value on Cancel.
     virtual std::optional<QString> openFile(const FileRequest &request) = 0;
     /// As openFile; whether the file exists already is the caller's question to ask.
     virtual std::optional<QString> saveFile(const FileRequest &request) = 0;

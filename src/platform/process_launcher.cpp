@@ -91,8 +91,31 @@ QStringList wineStyle(WindowStyle style)
     return {};
 }
 
+/// The words of a command line as they are written, with their quotes, and paths as wine's programs
+/// understand them.
+QString wineCommandLine(QStringView arguments)
+{
+    QString line;
+    qsizetype start = 0;
+    bool inQuotes = false;
+    for (qsizetype i = 0; i <= arguments.size(); ++i) {
+        const QChar c = i < arguments.size() ? arguments[i] : QChar(u' ');
+        inQuotes = inQuotes != (c == u'"');
+        if (i < arguments.size() && (inQuotes || c != u' ')) {
+            continue;
+        }
+        const QStringView word = arguments.sliced(start, i - start);
+        const bool quoted = word.size() > 1 && word.startsWith(u'"') && word.endsWith(u'"');
+        line += quoted ? u'"' + wineWord(word.sliced(1, word.size() - 2).toString()) + u'"'
+                       : wineWord(word.toString());
+        line += i < arguments.size() ? u" "_s : QString();
+        start = i + 1;
+    }
+    return line;
+}
+
 Expected<void, QString> setUpWine(QProcess &process, const QString &program, WindowStyle style,
-                                  QStringList arguments)
+                                  const QString &arguments)
 {
     const QString wine = QStandardPaths::findExecutable(u"wine"_s);
     if (wine.isEmpty()) {
@@ -100,11 +123,17 @@ Expected<void, QString> setUpWine(QProcess &process, const QString &program, Win
             program,
             u"This is a Windows program, and wine, which could run it, is not installed"_s);
     }
-    for (QString &word : arguments) {
-        word = wineWord(word);
+    const QString line = wineCommandLine(arguments);
+    QStringList start = wineStyle(style);
+    if (line.contains(u'"') && start.isEmpty()) {
+        start = QStringList{ u"start"_s, u"/unix"_s };
     }
+    // Of words that are handed over wine makes a command line with quotes of its own choice. Its
+    // "start" joins them with blanks as they are: what is parted at every blank comes out as it
+    // was.
+    const QStringList words = start.isEmpty() ? splitCommandLine(line) : line.split(u' ');
     process.setProgram(wine);
-    process.setArguments(wineStyle(style) + QStringList{ program } + arguments);
+    process.setArguments(start + QStringList{ program } + (line.isEmpty() ? QStringList() : words));
     return {};
 }
 
@@ -184,6 +213,12 @@ QStringList splitCommandLine(QStringView arguments)
     return words;
 }
 
+bool SystemLauncher::finds(const QString &program) const
+{
+    const QString file = programFile(program);
+    return !file.isEmpty() && QFileInfo(file).isFile();
+}
+
 Expected<void, QString> SystemLauncher::start(const Launch &launch)
 {
     const QString program = programFile(launch.program);
@@ -202,10 +237,9 @@ Expected<void, QString> SystemLauncher::start(const Launch &launch)
 #ifdef Q_OS_WIN
     setUp(process, launch);
 #else
-    const QStringList arguments = splitCommandLine(launch.arguments);
-    process.setArguments(arguments);
+    process.setArguments(splitCommandLine(launch.arguments));
     if (isWindowsProgram(program)) {
-        if (auto ready = setUpWine(process, program, launch.style, arguments); !ready) {
+        if (auto ready = setUpWine(process, program, launch.style, launch.arguments); !ready) {
             return ready;
         }
     } else if (!QFileInfo(program).isExecutable() || QFileInfo(program).isDir()) {

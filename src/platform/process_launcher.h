@@ -31,6 +31,8 @@ class ProcessLauncher
 {
 public:
     virtual ~ProcessLauncher() = default;
+    /// Whether there is such a program: a path, or a name alone on the system's search path.
+    virtual bool finds(const QString &program) const = 0;
     /// Starts it; the error is the system's reason, in words, with the program's path.
     virtual Expected<void, QString> start(const Launch &launch) = 0;
     /// Hands a file or an address to the desktop's own program for it.
@@ -41,6 +43,7 @@ public:
 class SystemLauncher : public ProcessLauncher
 {
 public:
+    bool finds(const QString &program) const override;
     Expected<void, QString> start(const Launch &launch) override;
     Expected<void, QString> openWithDesktop(const QString &pathOrUrl) override;
 };

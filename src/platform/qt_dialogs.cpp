@@ -7,6 +7,7 @@
 #include "platform/core/paths.h"
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QColorDialog>
 #include <QDialogButtonBox>
 #include <QFileDialog>
@@ -40,6 +41,8 @@ QMessageBox::StandardButton standardButton(BoxButton button)
         return QMessageBox::Yes;
     case BoxButton::No:
         return QMessageBox::No;
+    case BoxButton::Other:
+        return QMessageBox::Open;
     }
     return QMessageBox::NoButton;
 }
@@ -134,7 +137,15 @@ BoxButton QtDialogs::box(const Box &box)
     window.setDefaultButton(standardButton(box.defaultButton));
     const BoxButton escape = escapeButton(box);
     window.setEscapeButton(standardButton(escape));
+    if (!box.tick.isEmpty()) {
+        auto *tick = new QCheckBox(box.tick);
+        tick->setObjectName(u"Tick"_s);
+        window.setCheckBox(tick);
+    }
     const int answer = window.exec();
+    if (window.checkBox() && box.ticked) {
+        box.ticked(window.checkBox()->isChecked());
+    }
     for (const BoxButton button : box.buttons) {
         if (standardButton(button) == answer) {
             return button;

@@ -21,7 +21,14 @@ void StatusLine::setContents(StatusPanel panel, const StatusContents &contents)
 
 void StatusLine::setText(const QString &text)
 {
+    m_showsKeys = false;
     setContents(StatusPanel::Message, { .text = text, .tooltip = textTooltip() });
+}
+
+void StatusLine::setKeys(const QString &keys)
+{
+    setText(keys);
+    m_showsKeys = true;
 }
 
 void StatusLine::setTextNow(const QString &text)
@@ -59,6 +66,16 @@ void StatusLine::setModePicture(int picture)
 void StatusLine::setModeTooltip(const QString &tooltip)
 {
     setContents(StatusPanel::Mode, { .picture = modePicture(), .tooltip = tooltip });
+}
+
+void StatusLine::setStandIns(bool inUse)
+{
+    setContents(StatusPanel::StandIns,
+                inUse ? StatusContents{ .text = u"Stand-in tools"_s,
+                                        .tooltip = u"The tools in use are the stand-ins that come "
+                                                   "with Zeph: they check files, and nothing "
+                                                   "reaches a stick."_s }
+                      : StatusContents{});
 }
 
 } // namespace zeph

@@ -12,7 +12,8 @@
 namespace zeph {
 
 /// The panels of the main window's status bar from left to right.
-enum class StatusPanel { Message, Mode, Line, Saved, OtherSaved };
+enum class StatusPanel { Message, Mode, Line, Saved, OtherSaved, StandIns };
+constexpr size_t statusPanels = size_t(StatusPanel::StandIns) + 1;
 
 /// What a panel shows.
 struct StatusContents {
@@ -38,6 +39,9 @@ public:
     /// The message line.
     const QString &text() const { return contents(StatusPanel::Message).text; }
     void setText(const QString &text);
+    /// The same with a macro's keys, which a change of tabs leaves.
+    void setKeys(const QString &keys);
+    bool showsKeys() const { return m_showsKeys; }
     /// Shows the text at once, for an operation that will not return to the event loop soon.
     /// Nothing but the panel is repainted: no event is handled, no timer fires.
     void setTextNow(const QString &text);
@@ -62,6 +66,10 @@ public:
     void setModePicture(int picture);
     void setModeTooltip(const QString &tooltip);
 
+    /// Whether the tools in use are the stand-ins, so that nothing reaches a Cougar.
+    bool standIns() const { return !contents(StatusPanel::StandIns).text.isEmpty(); }
+    void setStandIns(bool inUse);
+
 Q_SIGNALS:
     void changed(zeph::StatusPanel panel);
     /// The message line says something else now.
@@ -70,11 +78,13 @@ Q_SIGNALS:
     void repaintWanted();
 
 private:
-    std::array<StatusContents, 5> m_panels{ {
+    bool m_showsKeys = false;
+    std::array<StatusContents, statusPanels> m_panels{ {
         {},
         { .picture = 1, .tooltip = u"Cougar mode selector is off"_s },
         {},
         { .picture = 1 },
+        {},
         {},
     } };
 };

@@ -26,7 +26,7 @@ class Screen
 {
 public:
     virtual ~Screen() = default;
-    /// Logical pixels per inch; 96 is what windows are drawn for.
+    /// Logical pixels per inch: 96 at the system's usual text size, for which the windows are made.
     virtual int logicalDpi() const = 0;
     /// Size of the first screen in device-independent pixels.
     virtual QSize size() const = 0;

@@ -3,6 +3,8 @@
 
 #include "platform/tool_windows.h"
 
+#include <QDialog>
+
 namespace zeph {
 
 QWidget *ToolWindows::load(size_t key)
@@ -46,10 +48,19 @@ void ToolWindows::minimiseForCompiler()
 QList<QPointer<QWidget>> ToolWindows::minimiseOpen()
 {
     QList<QPointer<QWidget>> minimised;
-    for (const auto &window : std::as_const(m_windows)) {
+    const auto minimise = [&minimised](QWidget *window) {
         if (window && !window->isHidden() && !window->isMinimized()) {
             window->showMinimized();
             minimised.append(window);
+        }
+    };
+    for (const auto &window : std::as_const(m_windows)) {
+        minimise(window);
+    }
+    // A room may keep a tool window of its own. One that appears by itself is no tool.
+    for (auto *dialog : m_owner->findChildren<QDialog *>(Qt::FindDirectChildrenOnly)) {
+        if (!dialog->isModal() && !dialog->testAttribute(Qt::WA_ShowWithoutActivating)) {
+            minimise(dialog);
         }
     }
     return minimised;

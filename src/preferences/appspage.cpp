@@ -97,7 +97,7 @@ void AppsPage::addFields(size_t index)
     fields.use = new QCheckBox(captions[index].use.toString());
     fields.use->setObjectName(u"CustomAppUse_"_s + place);
     fields.use->setToolTip(u"Gives it a place on the Apps menu and a button on the toolbar. It "
-                           "needs a path first."_s);
+                           "needs a path first, and a folder is no program."_s);
     fields.use->setEnabled(canBeUsed(app.CustomAppPath));
     fields.use->setChecked(app.CustomAppUse && canBeUsed(app.CustomAppPath));
     auto *find = new QPushButton(u"Browse ..."_s);

@@ -3,6 +3,7 @@
 
 #include "preferences/list_rules.h"
 
+#include "platform/core/paths.h"
 #include "platform/core/profile_list.h"
 #include <algorithm>
 
@@ -179,7 +180,7 @@ std::optional<AppletQuestion> appletQuestion(const QString &path, const QString 
 
 bool canBeUsed(const QString &path)
 {
-    return !path.trimmed().isEmpty();
+    return !path.trimmed().isEmpty() && !folderExists(path.trimmed());
 }
 
 CustomApps settledApps(CustomApps apps, const CustomApps &before)

@@ -80,7 +80,7 @@ struct AppletQuestion {
 /// that opens it.
 std::optional<AppletQuestion> appletQuestion(const QString &path, const QString &windowsFolder);
 
-/// Whether an application with this path can be shown.
+/// Whether an application with this path can be shown: there is a path, and it is no folder's.
 bool canBeUsed(const QString &path);
 /// The applications to store: with trimmed fields, without a tick where there is no path, and with
 /// the text of `before` for each text that the store cannot hold.

@@ -33,12 +33,14 @@
 #include "shell/preferences_menu.h"
 #include "shell/settings/shell_settings.h"
 #include "shell/start_up.h"
+#include "shell/template_guard.h"
 #include "shell/zeph_style.h"
 #include "templates/template_tools.h"
 #include "templates/templateform.h"
 #include "toolchain/cougar_tools.h"
 #include "toolchain/hotas_folder.h"
 #include "toolchain/modes/profiles.h"
+#include "toolchain/tool_presence.h"
 #include "toolchain/toolchain_settings.h"
 #include "toolchain/tools_menu.h"
 
@@ -123,6 +125,8 @@ bool Application::start()
     startModes();
     loadEditor();
     selectFirstTab();
+    // The tab has said what is edited.
+    greet();
     // The first run waits for the pilot, who may have closed the main window meanwhile.
     return m_mum->isVisible();
 }
@@ -216,7 +220,11 @@ void Application::loadEditor()
     }
     openStartFiles(*m_editor, m_commandLineFile, m_settings.of<EditorSettings>(),
                    ProfileFile(m_paths.iniPath), m_options.dialogs);
+    if (m_commandLineFile.isEmpty() && !m_options.arguments.isEmpty()) {
+        m_options.dialogs.box(missingFileBox(m_options.arguments));
+    }
     m_editor->guards().recovery.offerLeft();
+    m_templateGuard->offerLeft();
     m_editor->guards().autoSave.restart();
     m_mum->refreshToolbars();
     m_status.setLine(1);
@@ -228,6 +236,7 @@ void Application::loadEditor()
                     m_options.welcomeIntervalMs, m_mum.get());
         m_editor->applySettings();
         m_editor->highlighting().followScheme(colours);
+        m_tools->presence().refresh();
         // The first run has only now asked for the callsign.
         greet();
     } else if (m_settings.of<SharedSettings>().ShowTips) {
@@ -238,6 +247,7 @@ void Application::loadEditor()
 void Application::addToolWindows()
 {
     ToolWindows &windows = m_mum->toolWindows();
+    m_templateGuard = new TemplateGuard(context(), windows, m_mum.get());
     const ToolEntries tools{ m_editor->actions(), windows };
     addLiveTools(tools, context(), m_tools->modes());
     addTemplateTools(tools, context(), m_options.printers, m_editor->macros().list().table());
@@ -322,6 +332,9 @@ void Application::unloadMum()
         m_editor->guards().recovery.finish();
     }
     m_mum->toolWindows().unloadAll();
+    if (m_templateGuard) {
+        m_templateGuard->finish();
+    }
     const WindowPlace place = m_mum->place();
     const QSize screen = m_options.screen.size();
     (void)SaveMumPosition(

@@ -27,6 +27,7 @@ class Mum;
 class Printers;
 class Screen;
 class SystemInfo;
+class TemplateGuard;
 class UserLists;
 
 /// The outside world of a run; all of it must outlive the Application.
@@ -103,6 +104,7 @@ private:
     std::unique_ptr<Mum> m_mum;
     Editor *m_editor = nullptr;
     HelpMenu *m_help = nullptr;
+    TemplateGuard *m_templateGuard = nullptr;
     UserLists *m_lists = nullptr;
     CougarTools *m_tools = nullptr;
     std::unique_ptr<FilePrinting> m_printing;

@@ -121,11 +121,15 @@ void CoolBar::follow(Button &button)
     button.control->setCheckable(action && action->isCheckable());
     button.control->setChecked(action && action->isChecked());
     button.control->setAccessibleName(tooltipOf(*button.row, choices()));
+    const QString lack = action ? m_editor->actions().lackOf(action->objectName()) : QString();
+    if (!lack.isEmpty()) {
+        button.control->setAccessibleName(button.control->accessibleName() + u" - "_s + lack);
+    }
     if (action && saysSteps(*button.row)) {
         button.control->setAccessibleName(action->toolTip());
     }
     if (isCustomApp(*button.row)) {
-        button.visibility->setVisible(action && action->isVisible() && action->isEnabled());
+        button.visibility->setVisible(action && action->isVisible());
         if (action) {
             button.control->setAccessibleName(action->text().replace(u"&&"_s, u"&"_s));
             button.control->setIcon(action->icon());
@@ -188,7 +192,10 @@ QString CoolBar::hoverText(const QObject *watched) const
 {
     for (const Button &button : m_buttons) {
         if (button.control == watched) {
-            return text(lookOf(*button.row, choices()).status);
+            const QAction *action = target(*button.row);
+            const QString lack =
+                action ? m_editor->actions().lackOf(action->objectName()) : QString();
+            return lack.isEmpty() ? text(lookOf(*button.row, choices()).status) : lack;
         }
     }
     return watched == m_shortcuts

@@ -4,6 +4,7 @@
 #include "shell/frmabout.h"
 
 #include "platform/core/paths.h"
+#include "platform/core/stand_in.h"
 #include "shell/version_check.h"
 #include "ui_frmabout.h"
 
@@ -35,6 +36,7 @@ frmAbout::frmAbout(const Paths &paths, QWidget *parent)
         m_ui->picAbout->setPixmap(picture);
     }
     m_ui->lblVersion->setText(u"Version "_s + QString::fromUtf16(versionText));
+    m_ui->lblStandIns->setVisible(isStandIn(paths.compiler()) || isStandIn(paths.config()));
     connect(m_ui->cmdOK, &QPushButton::clicked, this, &frmAbout::DialogAction);
 }
 

@@ -20,6 +20,7 @@
 
 #include <QAction>
 #include <QMenu>
+#include <QScopedValueRollback>
 
 namespace zeph {
 
@@ -163,8 +164,12 @@ void HelpMenu::showTip()
 void HelpMenu::mnuHelpAbout_Click(int index)
 {
     if (index == 0) {
-        checkVersion(m_downloader, m_context.dialogs, m_context.paths,
-                     m_context.settings.of<ShellSettings>().VersionURL);
+        // The wait leaves the menus alive; one question at a time is enough.
+        if (!m_checksVersion) {
+            const QScopedValueRollback<bool> checking(m_checksVersion, true);
+            checkVersion(m_downloader, m_context,
+                         m_context.settings.of<ShellSettings>().VersionURL);
+        }
     } else if (index == 1) {
         showInformation(u"Vista compatibility.rtf"_s, u"Vista compatibility"_s);
     } else {

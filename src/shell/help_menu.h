@@ -45,6 +45,7 @@ private:
     Downloader &m_downloader;
     ToolWindows &m_windows;
     Editor &m_editor;
+    bool m_checksVersion = false;
 };
 
 } // namespace zeph

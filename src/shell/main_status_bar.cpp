@@ -44,7 +44,10 @@ const PanelRow panelRows[] = {
     { StatusPanel::Line, u"", u"Line no: 99999", {} },
     { StatusPanel::Saved, u"Saved state", u"", savedIcons },
     { StatusPanel::OtherSaved, u"Saved state of the other file", u"", savedIcons },
+    { StatusPanel::StandIns, u"", u"", {} },
 };
+
+static_assert(std::size(panelRows) + 1 == statusPanels, "each panel but the message has a row");
 
 /// The message line: a message that is too long ends in dots instead of widening the window.
 class MessageLabel : public QLabel

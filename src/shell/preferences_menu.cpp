@@ -21,6 +21,7 @@
 #include "toolchain/compile/download_menu.h"
 #include "toolchain/cougar_tools.h"
 #include "toolchain/games/games_menu.h"
+#include "toolchain/tool_presence.h"
 #include "toolchain/tools_menu.h"
 
 #include <QApplication>
@@ -68,6 +69,7 @@ void PreferencesMenu::restartDetector()
 void PreferencesMenu::follow(const EditorSettings &editor, const ColourSettings &colours)
 {
     m_parts.tools.downloadMenu().applySettings();
+    m_parts.tools.presence().refresh();
     const auto &now = m_context.settings.of<EditorSettings>();
     if (now.AutoSaveEnabled != editor.AutoSaveEnabled || now.AutoSaveTime != editor.AutoSaveTime) {
         m_parts.editor.guards().autoSave.restart();

@@ -6,6 +6,7 @@
 #include "editor/editor.h"
 #include "editor/editor_settings.h"
 #include "editor/files/file_opening.h"
+#include "language/file_kinds.h"
 #include "lists/favourites_menu.h"
 #include "menus/menu_actions.h"
 #include "platform/core/paths.h"
@@ -83,11 +84,25 @@ QString TestCommandLine(const QStringList &arguments)
     return first.isEmpty() ? existingFile(arguments.join(u' ')) : first;
 }
 
+Box missingFileBox(const QStringList &arguments)
+{
+    return { .title = u"I can't find that file buddy"_s,
+             .text = u"You asked me to open "_s + arguments.join(u' ')
+                 + u", but there is no such file, so I've started without it."_s,
+             .icon = BoxIcon::Exclamation };
+}
+
 void openStartFiles(Editor &editor, const QString &commandLineFile, const EditorSettings &settings,
                     const ProfileFile &store, Dialogs &dialogs)
 {
     if (!commandLineFile.isEmpty()) {
-        editor.opening().OpenPreviouslySavedFiles(commandLineFile);
+        // A pair is looked for only where the ending names one of the Cougar's own files.
+        if (isMacroExtension(lastThree(commandLineFile))
+            || isJoystickExtension(lastThree(commandLineFile))) {
+            editor.opening().OpenPreviouslySavedFiles(commandLineFile);
+        } else {
+            editor.opening().mnuFileJoystickLoad_Click(commandLineFile);
+        }
     } else if (!settings.RestoreStatus || !openRestored(editor, settings)) {
         openAutoload(editor, store, dialogs);
     }

@@ -26,8 +26,11 @@ Box tooManyWindowsBox();
 /// All words together are also tried as one name, since a shell splits a name at blanks.
 QString TestCommandLine(const QStringList &arguments);
 
-/// Opens the command line's file; else the files of the last run; else the favourite that is to be
-/// opened at start.
+/// The message when the command line names no file that exists.
+Box missingFileBox(const QStringList &arguments);
+
+/// Opens the command line's file, as the joystick file unless its ending says otherwise; else the
+/// files of the last run; else the favourite that is to be opened at start.
 void openStartFiles(Editor &editor, const QString &commandLineFile, const EditorSettings &settings,
                     const ProfileFile &store, Dialogs &dialogs);
 

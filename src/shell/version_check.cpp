@@ -7,6 +7,9 @@
 #include "platform/core/paths.h"
 #include "platform/core/text1252.h"
 #include "platform/downloader.h"
+#include "platform/status_line.h"
+
+#include <QRegularExpression>
 
 namespace zeph {
 
@@ -24,6 +27,19 @@ Box versionUnknownBox()
              .icon = BoxIcon::Exclamation };
 }
 
+Box noVersionBox()
+{
+    return { .title = u"Unable to retrieve version information"_s,
+             .text = u"ZephSite answered, but not with a version. Please try again later."_s,
+             .icon = BoxIcon::Exclamation };
+}
+
+bool isVersion(const QString &text)
+{
+    static const QRegularExpression version(u"\\A\\d{1,5}(\\.\\d{1,5}){0,4}\\z"_s);
+    return version.match(text).hasMatch();
+}
+
 Box versionBox(const QString &latest, const QString &running)
 {
     if (latest == running) {
@@ -38,20 +54,21 @@ Box versionBox(const QString &latest, const QString &running)
              .icon = BoxIcon::Information };
 }
 
-void checkVersion(Downloader &downloader, Dialogs &dialogs, const Paths &paths,
-                  const QString &address)
+void checkVersion(Downloader &downloader, const Context &context, const QString &address)
 {
     // The answer is kept in a file, where it can be looked at when a pilot reports something
     // odd.
-    const QString target = paths.inApp(u"VersionURL.txt");
+    const QString target = context.paths.inApp(u"VersionURL.txt");
+    context.status.setText(u" Asking ZephSite for the latest version ..."_s);
     const auto body = downloader.fetch(address, timeoutMs);
+    context.status.setText(u" Ready"_s);
     if (!body || !writeFileAtomically(target, *body)) {
-        dialogs.box(versionUnknownBox());
+        context.dialogs.box(versionUnknownBox());
         return;
     }
-    const auto stored = readWholeFile(target);
-    dialogs.box(stored ? versionBox(fromText1252(*stored), QString::fromUtf16(versionText))
-                       : versionUnknownBox());
+    const QString latest = fromText1252(*body).trimmed();
+    context.dialogs.box(isVersion(latest) ? versionBox(latest, QString::fromUtf16(versionText))
+                                          : noVersionBox());
 }
 
 } // namespace zeph

@@ -55,8 +55,15 @@ Expected<PackagePlan::Copy, PackageRefusal> copyOf(const PackagePlan &plan, cons
 /// A path in the archiver's form.
 QString word(const QString &path)
 {
-    const QString native = QDir::toNativeSeparators(path);
-    return native.contains(u' ') ? u'"' + native + u'"' : native;
+    QString native = QDir::toNativeSeparators(path);
+    if (!native.contains(u' ')) {
+        return native;
+    }
+    // A backslash before the closing quote would take the quote into the name.
+    while (native.endsWith(QDir::separator())) {
+        native.chop(1);
+    }
+    return u'"' + native + u'"';
 }
 
 } // namespace

@@ -8,6 +8,7 @@
 #include "toolchain/compile/download_menu.h"
 #include "toolchain/games/games_menu.h"
 #include "toolchain/tool_parts.h"
+#include "toolchain/tool_presence.h"
 #include "toolchain/tools_menu.h"
 
 namespace zeph {
@@ -32,6 +33,7 @@ void CougarTools::attach(MenuActions &actions, Documents &documents, DocumentSav
     m_gamesMenu = std::make_unique<GamesMenu>(m_context, parts);
     actions.connectTo(u"mnuAppsCompile", [this] { m_compile->mnuAppsCompile_Click(); });
     connectModes(actions);
+    m_presence = new ToolPresence(m_context, actions);
 }
 
 void CougarTools::connectModes(MenuActions &actions)

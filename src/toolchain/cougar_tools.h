@@ -22,6 +22,7 @@ class DownloadMenu;
 class GamesMenu;
 class Joystick;
 class MenuActions;
+class ToolPresence;
 class ToolScene;
 class ToolsMenu;
 
@@ -49,6 +50,7 @@ public:
     ToolsMenu &toolsMenu() { return *m_toolsMenu; }
     DownloadMenu &downloadMenu() { return *m_downloadMenu; }
     GamesMenu &gamesMenu() { return *m_gamesMenu; }
+    ToolPresence &presence() { return *m_presence; }
 
 private:
     void connectModes(MenuActions &actions);
@@ -64,6 +66,7 @@ private:
     std::unique_ptr<ToolsMenu> m_toolsMenu;
     std::unique_ptr<DownloadMenu> m_downloadMenu;
     std::unique_ptr<GamesMenu> m_gamesMenu;
+    ToolPresence *m_presence = nullptr;
 };
 
 } // namespace zeph

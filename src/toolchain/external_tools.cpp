@@ -3,7 +3,9 @@
 
 #include "toolchain/external_tools.h"
 
+#include "platform/core/stand_in.h"
 #include "platform/dialogs.h"
+#include "platform/process_launcher.h"
 #include "platform/status_line.h"
 #include "toolchain/hotas_ini.h"
 #include "toolchain/modes/cougar_modes.h"
@@ -16,6 +18,7 @@ namespace {
 constexpr QStringView configProgram = u"HOTASConfig.exe";
 constexpr QStringView cleanseProgram = u"HOTASCleanse.exe";
 constexpr QStringView updateProgram = u"HOTASUpdate.exe";
+constexpr QStringView gamingProgram = u"rundll32.exe";
 constexpr QStringView readyPanel = u" Ready";
 
 struct DiagRow {
@@ -78,6 +81,48 @@ std::span<const Companion> companionTable()
     return companions;
 }
 
+QList<EntryProgram> entryPrograms(const Paths &paths)
+{
+    const QString config = paths.config();
+    QList<EntryProgram> all{
+        { u"mnuAppsCompile"_s, paths.compiler(), true },
+        { u"DownloadArray1_0"_s, paths.compiler(), false },
+        { u"mnuApplyDefaultTMC"_s, config, true },
+        { u"mnuDownloadProfile"_s, config, true },
+        { u"mnuFlashUpgrade"_s, paths.hotasFolder + updateProgram.toString(), true },
+        { u"mnuMemoryClear_%1"_s.arg(cleanseIndex), paths.hotasFolder + cleanseProgram.toString(),
+          true },
+    };
+    const auto add = [&all](const QString &array, std::initializer_list<int> indices,
+                            const QString &program) {
+        for (const int i : indices) {
+            all.append({ array + QString::number(i), program, false });
+        }
+    };
+    add(u"mnuMemoryClear_"_s, { 0, 1, 2, resynchroniseIndex }, config);
+    add(u"mnuButtonsModeArray_"_s, { 0, 1 }, config);
+    add(u"mnuAxesModeArray_"_s, { 0, 1 }, config);
+    add(u"mnuFlashArray_"_s, { 0, 1 }, gamingProgram.toString());
+    for (int i = 0; i < int(std::size(diagRows)); ++i) {
+        all.append({ u"MnuDiagArray_%1"_s.arg(i),
+                     paths.hotasFolder + diagRows[i].program.toString(), true });
+    }
+    for (const Companion &companion : companions) {
+        all.append({ companion.action.toString(), paths.inApp(companion.program), false });
+    }
+    return all;
+}
+
+QString lackOf(const EntryProgram &entry, const ProcessLauncher &launcher)
+{
+    if (launcher.finds(entry.program)) {
+        return {};
+    }
+    const QString folder = folderOf(entry.program);
+    return folder.isEmpty() ? u"This system has no "_s + entry.program
+                            : nameOf(entry.program) + u" is missing: it isn't in "_s + folder;
+}
+
 /// Starts a program. False, which is told, when it could not be started.
 bool ExternalTools::start(const Launch &launch)
 {
@@ -103,6 +148,11 @@ bool ExternalTools::startTool(QStringView program, QStringView arguments, QStrin
 void ExternalTools::MnuDiagArray_Click(int index)
 {
     const DiagRow &row = diagRows[index];
+    if (row.program == configProgram && isStandIn(m_context.paths.config())) {
+        m_context.status.setText(
+            u" That's the stand-in: the Cougar Control Panel comes with Thrustmaster's own software"_s);
+        return;
+    }
     startTool(row.program, row.arguments, row.note);
 }
 
@@ -165,7 +215,7 @@ void ExternalTools::mnuHandleInstall_Click()
 
 void ExternalTools::mnuFlashArray_Click(int index)
 {
-    start({ .program = u"rundll32.exe"_s,
+    start({ .program = gamingProgram.toString(),
             .arguments = gamingPages[index].toString(),
             .folder = m_context.paths.hotasFolder });
 }

@@ -7,12 +7,16 @@
 
 #include "platform/context.h"
 
+#include <QList>
+
 #include <span>
 
 namespace zeph {
 
 class CougarModes;
+class ProcessLauncher;
 struct Launch;
+struct Paths;
 
 /// A program that comes with Zeph and is in the same folder, and the menu entry that starts it.
 struct Companion {
@@ -21,6 +25,19 @@ struct Companion {
 };
 
 std::span<const Companion> companionTable();
+
+/// A menu entry and the program that it needs.
+struct EntryProgram {
+    QString entry;
+    QString program; ///< its path, or a name alone for a program of the system
+    /// The entry opens a box when the program is missing, so it can be chosen all the same.
+    bool tellsByItself = false;
+};
+
+/// All entries that need a program, for the folders as they are now.
+QList<EntryProgram> entryPrograms(const Paths &paths);
+/// What the entry lacks, in words; empty when its program is there.
+QString lackOf(const EntryProgram &entry, const ProcessLauncher &launcher);
 
 /// What the menu entries of the Cougar's other tools do.
 class ExternalTools

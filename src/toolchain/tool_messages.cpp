@@ -146,6 +146,14 @@ Box missingCompanionBox(const Paths &paths, QStringView program)
                       "folder as Zeph itself."_s);
 }
 
+Box quoteInNameBox(const QString &name)
+{
+    return told(u"That name has a quote in it"_s,
+                u"The name "_s + name
+                    + u" holds a double quote, and Thrustmaster's software would never see it: a "
+                      "command line loses it. Give it another name first, buddy."_s);
+}
+
 Box missingProfileBox(const QString &name, bool isStored)
 {
     QString text = u"Error! Unable to find profile: "_s + name

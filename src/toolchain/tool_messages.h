@@ -31,6 +31,8 @@ Box noControlPanelBox(const Paths &paths);
 Box missingToolBox(QStringView program, QStringView note);
 /// A program that belongs beside Zeph is missing.
 Box missingCompanionBox(const Paths &paths, QStringView program);
+/// The name of a file or a profile holds a double quote, which a command line would lose.
+Box quoteInNameBox(const QString &name);
 /// A profile is missing; if it is the stored one, the text says where to choose another.
 Box missingProfileBox(const QString &name, bool isStored);
 /// There is no profile at all in the folder.

@@ -5,32 +5,39 @@
 
 #include "platform/status_line.h"
 
-#include <QPointer>
-#include <QScopeGuard>
+#include <exception>
 
 namespace zeph {
 
-void ToolQueue::run(const QString &name, std::function<void()> operation)
+ToolQueue::Turn::Turn(ToolQueue *queue, bool has)
+    : m_queue(queue), m_has(has), m_exceptions(std::uncaught_exceptions())
 {
-    if (!m_running.isEmpty()) {
-        keepOrDrop({ name, std::move(operation) });
-        return;
+}
+
+ToolQueue::Turn::~Turn()
+{
+    if (m_has && m_queue) {
+        m_queue->end(std::uncaught_exceptions() > m_exceptions);
     }
-    // The main window, and this with it, may go while a command waits.
-    const QPointer<ToolQueue> alive(this);
-    const auto finish = qScopeGuard([&alive] {
-        if (alive) {
-            alive->m_running.clear();
-            alive->m_next.reset();
-        }
-    });
-    std::optional<Command> command{ { name, std::move(operation) } };
-    while (command && alive && !m_closed) {
-        m_running = command->name;
-        command->operation();
-        if (alive) {
-            command = std::exchange(m_next, std::nullopt);
-        }
+}
+
+ToolQueue::Turn ToolQueue::turn(const QString &name, std::function<void()> again)
+{
+    const bool isFree = m_running.isEmpty() && !m_closed;
+    if (isFree) {
+        m_running = name;
+    } else if (!m_closed) {
+        keepOrDrop({ name, std::move(again) });
+    }
+    return { this, isFree };
+}
+
+void ToolQueue::end(bool failed)
+{
+    m_running.clear();
+    const std::optional<Command> next = std::exchange(m_next, std::nullopt);
+    if (next && !failed && !m_closed) {
+        QMetaObject::invokeMethod(this, next->again, Qt::QueuedConnection);
     }
 }
 

@@ -24,6 +24,7 @@ constexpr std::array rows = {
     row(misc, u"PureWindows", &S::PureWindows, false, SavedAs{ 15 }),
     row(misc, u"RunAppsWithDownload", &S::RunAppsWithDownload, false, SavedAs{ 37 }),
     row(misc, u"RunKeyTest", &S::RunKeyTest, true, SavedAs{ 38 }),
+    row(misc, u"TellStandIn", &S::TellStandIn, true),
     row(u"Apps", u"ResetProfile", &S::ResetProfile, u"Default"),
     row(u"Apps", u"ResetCalibrate", &S::ResetCalibrate, false),
     row(u"Apps", u"UseResetProfile", &S::UseResetProfile, false),

@@ -23,6 +23,7 @@ struct ToolchainSettings {
     bool PureWindows;
     bool RunAppsWithDownload;
     bool RunKeyTest;
+    bool TellStandIn;
     QString ResetProfile;
     bool ResetCalibrate;
     bool UseResetProfile;

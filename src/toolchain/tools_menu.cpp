@@ -121,9 +121,11 @@ void ToolsMenu::apply(const QString &profile, CalibrationRequest calibration)
 {
     const QString name =
         profile.isEmpty() ? m_context.settings.of<ToolchainSettings>().ResetProfile : profile;
-    m_parts.handshake.commands().run(u"the profile "_s + name, [this, profile, calibration] {
+    const auto turn = m_parts.handshake.commands().turn(
+        u"the profile "_s + name, [this, profile, calibration] { apply(profile, calibration); });
+    if (turn) {
         m_parts.profiles.ApplyDefaultProfile(profile, calibration);
-    });
+    }
 }
 
 } // namespace zeph

@@ -205,8 +205,10 @@ TEST(DocumentStates, GiveBackTextAndLooks)
 
 TEST(DocumentStates, AnEmptyStateEmptiesTheDocument)
 {
-    Followed text(RichText::plain(lines(300), plain));
-    text.states->restore(text.states->empty());
+    Followed text(RichText::plain({}));
+    const DocumentState empty = text.states->present();
+    text.states->setText(RichText::plain(lines(300), plain));
+    text.states->restore(empty);
     EXPECT_EQ(plainTextOf(text.document), QString());
     text.expected = RichText::plain({});
     text.type(0, u"again"_s);
@@ -508,4 +510,94 @@ TEST(DocumentStates, ManyLinesAtOnceAreCutIntoChunks)
     text.type(60000, u"x"_s);
     taken.push_back(text.states->present());
     EXPECT_LT(DocumentState::bytesHeld(taken) - filled, filled / 25);
+}
+
+namespace {
+
+constexpr int boldFrom = 3;
+
+/// Whether the present state is the same as another to the user who saves it.
+bool isSame(Followed &text, const DocumentState &state)
+{
+    return text.states->holdSame(text.states->present(), state);
+}
+
+} // namespace
+
+TEST(DocumentStates, AreTheSameWhereTextAndTheUsersLooksAreHoweverTheyCameAbout)
+{
+    Followed text;
+    text.states->setPlain(plain);
+    text.setText(RichText::plain(lines(300), plain));
+    const DocumentState saved = text.states->present();
+    text.type(1000, u"x\n\n"_s);
+    EXPECT_FALSE(isSame(text, saved));
+    text.erase(1000, 3);
+    EXPECT_TRUE(isSame(text, saved));
+    // As long, but another letter, early and late.
+    for (const int at : { 0, int(lines(300).size()) - 2 }) {
+        const QString letter = lines(300).mid(at, 1);
+        text.erase(at, 1);
+        text.type(at, u"@"_s);
+        EXPECT_FALSE(isSame(text, saved));
+        text.erase(at, 1);
+        text.type(at, letter);
+        EXPECT_TRUE(isSame(text, saved));
+    }
+}
+
+TEST(DocumentStates, CountTheUsersLooksAndNoOthers)
+{
+    Followed text;
+    text.states->setPlain(plain);
+    text.setText(RichText::plain(lines(300), plain));
+    const DocumentState saved = text.states->present();
+    CharFormat highlighted = plain;
+    highlighted.colour = ColorRef(0xB00000);
+    text.states->setCharacterRuns({ { 5000, highlighted } }, 100);
+    EXPECT_TRUE(isSame(text, saved));
+    const std::function<void(CharFormat &)> looks[] = {
+        [](CharFormat &look) { look.bold = true; },
+        [](CharFormat &look) { look.italic = true; },
+        [](CharFormat &look) { look.underline = true; },
+        [](CharFormat &look) { look.family = u"Courier"_s; },
+        [](CharFormat &look) { look.pointSize = 31; },
+        [](CharFormat &look) { look.colour = ColorRef(0x123456); },
+    };
+    for (const auto &look : looks) {
+        const DocumentState before = text.states->present();
+        text.states->changeLooks(boldFrom, 4, look, ColourGivenBy::User);
+        EXPECT_FALSE(isSame(text, saved));
+        text.states->restore(before);
+        EXPECT_TRUE(isSame(text, saved));
+    }
+    // What was given and taken away again was never there.
+    for (const bool on : { true, false }) {
+        text.states->changeLooks(
+            boldFrom, 4, [on](CharFormat &look) { look.bold = on; }, ColourGivenBy::User);
+    }
+    EXPECT_TRUE(isSame(text, saved));
+    text.states->changeLooks(
+        0, 400, [](CharFormat &look) { look.colour = ColorRef(0x654321); },
+        ColourGivenBy::Highlighter);
+    EXPECT_TRUE(isSame(text, saved));
+}
+
+TEST(DocumentStates, PlainTextFollowsItsFontInKeptStatesToo)
+{
+    Followed text;
+    text.states->setPlain(plain);
+    text.setText(RichText::plain(lines(3), plain));
+    text.states->changeLooks(
+        0, 2, [](CharFormat &look) { look.pointSize = 31; }, ColourGivenBy::User);
+    const DocumentState kept = text.states->present();
+    CharFormat other = plain;
+    other.family = u"Times"_s;
+    other.bold = !plain.bold;
+    text.states->setPlain(other);
+    const RichText now = text.states->richText(kept);
+    EXPECT_EQ(now.formatAt(5).family, u"Times");
+    EXPECT_EQ(now.formatAt(5).bold, other.bold);
+    EXPECT_EQ(now.formatAt(0).family, plain.family);
+    EXPECT_EQ(now.formatAt(0).pointSize, 31);
 }

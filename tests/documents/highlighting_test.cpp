@@ -3,6 +3,7 @@
 
 #include "documents/document_settings.h"
 #include "editor/files/file_opening.h"
+#include "editor/files/file_saving.h"
 #include "platform/core/rtf.h"
 #include "platform/richtext/rich_text_document.h"
 #include "settings/colour_settings.h"
@@ -246,10 +247,45 @@ TEST_F(HighlightingTest, RemovingColourLeavesTheFontAndTheCaret)
     EXPECT_EQ(flagged(J, &CharFormat::underline), u"........");
     EXPECT_EQ(joystick()->shown().richText().formatAt(0).family, u"Courier");
     EXPECT_EQ(joystick()->shown().selStart(), 3);
-    EXPECT_EQ(editor->joystick().state(), Document::Saved);
+    // The user's bold, italic and underline are gone with the colours.
+    EXPECT_EQ(editor->joystick().state(), Document::Modified);
     EXPECT_EQ(texts,
               QStringList({ u"Removing colour highlighting from Untitled.tmj. Please wait ..."_s,
                             u"Done"_s }));
+}
+
+TEST_F(HighlightingTest, RemovingTheHighlightersColoursIsNothingToSave)
+{
+    set(J, u"BTN S1 a"_s);
+    highlighting().ApplyColourHighlighting();
+    editor->actions().trigger(u"mnuRemoveColourJoystick");
+    EXPECT_EQ(colours(J), u"........");
+    EXPECT_EQ(editor->joystick().state(), Document::Saved);
+}
+
+TEST_F(HighlightingTest, AStylesColourIsWorthSavingUntilItIsGoneAgain)
+{
+    set(J, u"BTN S1 a"_s);
+    editor->saving().SaveText(editor->joystick());
+    joystick()->shown().select(0, 3);
+    editor->actions().trigger(u"mnuStyleArray_6");
+    EXPECT_EQ(editor->joystick().state(), Document::Modified);
+    editor->actions().trigger(u"mnuEditUndo");
+    EXPECT_EQ(editor->joystick().state(), Document::Saved);
+    editor->actions().trigger(u"mnuEditRedo");
+    EXPECT_EQ(editor->joystick().state(), Document::Modified);
+    editor->saving().SaveText(editor->joystick());
+    EXPECT_EQ(editor->joystick().state(), Document::Saved);
+    editor->actions().trigger(u"mnuEditUndo");
+    EXPECT_EQ(editor->joystick().state(), Document::Modified);
+}
+
+TEST_F(HighlightingTest, AFullPassOverSavedBoldKeepsTheStateSinceTheCopyFollows)
+{
+    set(J, u"BTN S1 a"_s);
+    look(J, 0, 3, [](CharFormat &format) { format.bold = true; });
+    highlighting().ApplyColourHighlighting();
+    EXPECT_EQ(editor->joystick().state(), Document::Saved);
 }
 
 TEST_F(HighlightingTest, RemovingColourFromTheMacroFileLeavesTheJoystickFile)
@@ -417,7 +453,8 @@ TEST_F(HighlightingTest, RefreshingTheLayoutStripsLooksAndSetsTheMargin)
     expected.paragraphs = { { 2, { .leftIndentTwips = 20 } } };
     EXPECT_EQ(joystick()->shown().richText(), expected);
     EXPECT_EQ(joystick()->shown().selStart(), 5);
-    EXPECT_EQ(editor->joystick().state(), Document::Saved);
+    // Looks that the user gave are gone, which the file beside the text still has.
+    EXPECT_EQ(editor->joystick().state(), Document::Modified);
     EXPECT_EQ(texts,
               QStringList({ u"Reformatting layout. Please wait ..."_s,
                             u"Layout refreshed ... (I wish I was!)"_s }));

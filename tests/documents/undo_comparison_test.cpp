@@ -35,19 +35,24 @@ public:
         int caret;
     };
 
-    void start(const RichText &text)
+    void start(const RichText &text, int caretNow)
     {
         slotsHeld = { { text, 0 } };
         index = 0;
         next = true;
         space = enter = false;
+        caret = caretNow;
+        moved = false;
     }
-    void key(int which, bool emptyText)
+    void caretAt(int position) { moved = moved || position != caret; }
+    void key(int which, bool emptyText, bool hasSelection)
     {
         if (which == Qt::Key_Delete) {
             next = true;
         } else if (emptyText && which == Qt::Key_Space) {
             next = false;
+        } else if (moved || hasSelection) {
+            next = true;
         } else if (slotsHeld.size() > 1) {
             next = false;
             if (which == Qt::Key_Backspace) {
@@ -71,24 +76,34 @@ public:
             next = true;
         }
     }
-    void changed(const RichText &text, int caret, int undoMax)
+    void changed(const RichText &text, int caretNow, int undoMax)
     {
-        if (next) {
+        const bool pushes = next || index > 0;
+        next = true;
+        caret = caretNow;
+        moved = false;
+        if (text == slotsHeld[index].text) {
+            return;
+        }
+        if (pushes) {
             const size_t n = slotsHeld.size();
             const size_t grown = int(n) <= undoMax ? n + 1 : n;
             slotsHeld.insert(slotsHeld.begin(), Slot{});
             slotsHeld.resize(grown);
         }
-        slotsHeld[0] = { text, caret };
+        slotsHeld[0] = { text, caretNow };
         index = 0;
-        next = true;
     }
+    /// The present looks and the caret go into the slot that is shown.
+    void store(const RichText &text, int caretNow) { slotsHeld[index] = { text, caretNow }; }
 
     std::vector<Slot> slotsHeld;
     size_t index = 0;
     bool next = true;
     bool space = false;
     bool enter = false;
+    int caret = 0; ///< after the last change
+    bool moved = false;
 };
 
 QString captionOf(QStringView word, size_t steps)
@@ -123,8 +138,12 @@ protected:
             const bool macro = kind == DocumentKind::Macro;
             const QString path = file(macro ? u"r.tmm"_s : u"r.tmj"_s, bytes);
             editor->opening().OpenFavouriteFile(path);
-            copies().start(control().shown().richText());
+            copies().start(control().shown().richText(), control().shown().selStart());
         }
+    }
+    void storeInCopies()
+    {
+        copies().store(control().shown().richText(), control().shown().selStart());
     }
     void changed()
     {
@@ -134,7 +153,7 @@ protected:
 
     void typeKey(int key)
     {
-        copies().key(key, control().shown().text().isEmpty());
+        copies().key(key, control().shown().text().isEmpty(), control().shown().selLength() > 0);
         const RichText before = control().shown().richText();
         if (key < 128 && key != Qt::Key_Space) {
             QTest::keyClick(&control(), char(key));
@@ -167,17 +186,14 @@ protected:
     {
         control().shown().select(chance->upTo(int(control().shown().text().size())),
                                  chance->upTo(most));
+        copies().caretAt(control().shown().selStart());
     }
     void deleteSelection()
     {
         const bool much = chance->upTo(9) == 0;
         selectSomething(much ? 5000 : 30);
         if (control().shown().selLength() > 0) {
-            // The present looks go along, unless an older state is shown.
-            if (copies().index == 0) {
-                copies().slotsHeld[0] = { control().shown().richText(),
-                                          control().shown().selStart() };
-            }
+            storeInCopies();
             editor->action(u"mnuEditDelete")->trigger();
             changed();
         }
@@ -189,8 +205,8 @@ protected:
         text = much ? text.repeated(60) : text;
         QGuiApplication::clipboard()->setText(text);
         selectSomething(10);
-        // A paste is a tool's insert: it begins with putting the present state into slot 1.
-        copies().slotsHeld[0] = { control().shown().richText(), control().shown().selStart() };
+        // A paste is a tool's insert: it begins with putting the present state into its slot.
+        storeInCopies();
         editor->action(u"mnuEditPaste")->trigger();
         changed();
     }
@@ -207,8 +223,7 @@ protected:
     void insertAsTool()
     {
         selectSomething(0);
-        history().storeTop();
-        copies().slotsHeld[0] = { control().shown().richText(), control().shown().selStart() };
+        storeInCopies();
         Change change(document());
         for (int pieces = 1 + chance->upTo(2); pieces > 0; --pieces) {
             document().insert(piece());
@@ -228,8 +243,8 @@ protected:
         looks.normalise();
         document().setCharacterRuns(looks.characters);
         if (store) {
-            history().storeTop();
-            copies().slotsHeld[0] = { control().shown().richText(), control().shown().selStart() };
+            history().storeShown();
+            storeInCopies();
         }
     }
     void indent()
@@ -250,6 +265,7 @@ protected:
         entry->trigger();
         if (possible) {
             plain.index = back ? plain.index + 1 : plain.index - 1;
+            plain.moved = true;
             const CopiesHistory::Slot &slot = plain.slotsHeld[plain.index];
             ASSERT_EQ(control().shown().richText(), slot.text);
             ASSERT_EQ(control().shown().selStart(), slot.caret);
@@ -263,7 +279,7 @@ protected:
         editor->saving().SaveText(document());
         ASSERT_EQ(control().shown().text(), before);
         if (settings.of<DocumentSettings>().UndoClearOnSave) {
-            copies().start(control().shown().richText());
+            copies().start(control().shown().richText(), control().shown().selStart());
         }
     }
     void compareMenus()

@@ -5,6 +5,7 @@
 
 #include "documents/document.h"
 
+#include "documents/coloured_insert.h"
 #include "documents/document_settings.h"
 #include "documents/line_blink.h"
 #include "editor/files/file_new.h"
@@ -223,7 +224,7 @@ TEST_F(UndoTest, ColoursComeBackWithTheText)
 {
     keys(u"BTN S1"_s);
     colour(0, 3, 0x0000FF);
-    history().storeTop();
+    history().storeShown();
     const RichText red = joystick()->shown().richText();
     keys(u" x"_s);
     colour(0, 3, 0x00FF00);
@@ -236,7 +237,7 @@ TEST_F(UndoTest, ColouringAloneIsNoStep)
     keys(u"BTN"_s);
     const QString caption = undoEntry()->text();
     colour(0, 3, 0x0000FF);
-    history().storeTop();
+    history().storeShown();
     EXPECT_EQ(undoEntry()->text(), caption);
 }
 
@@ -301,16 +302,146 @@ TEST_F(UndoTest, TypingAfterUndoKeepsTheLaterSlots)
     EXPECT_EQ(undoAll(), (QStringList{ u"a b c"_s, u"a b"_s, u"a"_s, QString() }));
 }
 
-TEST_F(UndoTest, ALetterAfterUndoOverwritesSlotOne)
+TEST_F(UndoTest, ALetterAfterUndoLeavesTheNewestStateWithinReach)
 {
     keys(u"a b c"_s);
     undo();
     keys(u"x"_s);
     EXPECT_EQ(text(), u"a bx");
     EXPECT_EQ(history().UndoIndex(), 1);
-    EXPECT_EQ(undoEntry()->text(), u"&Undo (3)");
+    EXPECT_EQ(undoEntry()->text(), u"&Undo (4)");
     EXPECT_FALSE(redoEntry()->isEnabled());
-    EXPECT_EQ(undoAll(), (QStringList{ u"a b"_s, u"a"_s, QString() }));
+    EXPECT_EQ(undoAll(), (QStringList{ u"a b c"_s, u"a b"_s, u"a"_s, QString() }));
+}
+
+TEST_F(UndoTest, ToolsOverAnUndoneStateLeaveTheNewestOne)
+{
+    const QString before = u"BTN S1 a /U b"_s;
+    const auto colourLine = [this] {
+        joystick()->shown().select(0, 0);
+        editor->action(u"mnuViewHighlightLine")->trigger();
+    };
+    const std::function<void()> tools[] = {
+        [this] { editor->action(u"mnuViewColourJoystick")->trigger(); },
+        [this] { editor->action(u"mnuViewReformat")->trigger(); },
+        [this] { editor->action(u"mnuViewrefreshIndent")->trigger(); },
+        [this] { editor->action(u"mnuAlignSlash")->trigger(); },
+        colourLine,
+        [this] { editor->action(u"mnuEditPaste")->trigger(); },
+        [this] { editor->action(u"mnuPasteSimple")->trigger(); },
+        [this] {
+            editor->insert().BeginColInsert();
+            editor->insert().EndColInsert();
+        },
+    };
+    QGuiApplication::clipboard()->setText(u"pasted"_s);
+    for (const auto &tool : tools) {
+        editor->opening().mnuFileJoystickLoad_Click(file(u"a.tmj"_s, "BTN S1 a /U b"));
+        joystick()->shown().select(0, 0);
+        keys(u"newest"_s);
+        undo();
+        ASSERT_EQ(text(), before);
+        tool();
+        // Either nothing was a step, and redo leads there, or it was one, and undo does.
+        QStringList reached = undoAll();
+        while (redoEntry()->isEnabled()) {
+            redo();
+            reached.append(text());
+        }
+        EXPECT_TRUE(reached.contains(u"newest"_s + before)) << reached.join(u'|').toStdString();
+        editor->joystick().setState(Document::Saved);
+    }
+}
+
+TEST_F(UndoTest, TypingOverASelectionIsAStep)
+{
+    keys(u"one two"_s);
+    joystick()->shown().select(4, 3);
+    keys(u"x"_s);
+    EXPECT_EQ(text(), u"one x");
+    undo();
+    EXPECT_EQ(text(), u"one two");
+}
+
+TEST_F(UndoTest, TheFirstKeyAfterTheCaretWasMovedIsAStep)
+{
+    keys(u"onetwo"_s);
+    key(Qt::Key_Home);
+    keys(u"x"_s);
+    key(Qt::Key_End);
+    key(Qt::Key_Left);
+    key(Qt::Key_Right);
+    keys(u"y"_s);
+    EXPECT_EQ(undoAll(), (QStringList{ u"xonetwo"_s, u"onetwo"_s, QString() }));
+}
+
+TEST_F(UndoTest, APasteOfWhatIsThereIsNoStep)
+{
+    keys(u"one"_s);
+    const QString caption = undoEntry()->text();
+    joystick()->shown().select(0, 3);
+    joystick()->insertPlainText(u"one"_s);
+    EXPECT_EQ(undoEntry()->text(), caption);
+}
+
+TEST_F(UndoTest, AnUndoneSaveIsModifiedAndARedoneOneIsSaved)
+{
+    editor->opening().mnuFileJoystickLoad_Click(file(u"a.tmj"_s, "BTN"));
+    keys(u"x y"_s);
+    editor->saving().mnuFileSave_Click();
+    undo();
+    EXPECT_EQ(editor->joystick().state(), Document::Modified);
+    redo();
+    EXPECT_EQ(editor->joystick().state(), Document::Saved);
+    undo();
+    undo();
+    EXPECT_EQ(text(), u"BTN");
+    EXPECT_EQ(editor->joystick().state(), Document::Modified);
+}
+
+TEST_F(UndoTest, TheStampOfASaveIsPartOfTheNewestState)
+{
+    editor->opening().mnuFileJoystickLoad_Click(file(u"a.tmj"_s, "Rem Last modified: never"));
+    key(Qt::Key_End);
+    key(Qt::Key_Return);
+    keys(u"a b"_s);
+    editor->saving().mnuFileSave_Click();
+    const QString saved = text();
+    ASSERT_TRUE(saved.contains(u"05 March 2024"_s));
+    undo();
+    ASSERT_NE(text(), saved);
+    redo();
+    EXPECT_EQ(text(), saved);
+    EXPECT_EQ(editor->joystick().state(), Document::Saved);
+}
+
+TEST_F(UndoTest, PlainTextHasTodaysFontWhateverIsUndoneAndAStyleKeepsItsOwn)
+{
+    keys(u"one two"_s);
+    {
+        Change change(editor->joystick());
+        editor->joystick().changeLooks(0, 3, [](CharFormat &look) {
+            look = { .family = u"Courier"_s, .pointSize = 20, .colour = ColorRef(255) };
+        });
+        change.commit();
+    }
+    keys(u" three"_s);
+    settings.of<ColourSettings>().TextFontName = u"Times"_s;
+    settings.of<ColourSettings>().TextFontSize = 12;
+    editor->applySettings();
+    const auto expectFonts = [this] {
+        const RichText shown = joystick()->shown().richText();
+        EXPECT_EQ(shown.formatAt(0).family, u"Courier");
+        EXPECT_EQ(shown.formatAt(0).pointSize, 20);
+        EXPECT_EQ(shown.formatAt(5).family, u"Times");
+        EXPECT_EQ(shown.formatAt(5).pointSize, 12);
+    };
+    expectFonts();
+    undo();
+    ASSERT_EQ(text(), u"one two");
+    expectFonts();
+    redo();
+    expectFonts();
 }
 
 TEST_F(UndoTest, CtrlZAndCtrlYRunTheEntries)
@@ -322,13 +453,12 @@ TEST_F(UndoTest, CtrlZAndCtrlYRunTheEntries)
     EXPECT_EQ(text(), u"a b");
 }
 
-TEST_F(UndoTest, UndoingIsNoEdit)
+TEST_F(UndoTest, UndoingMakesNoStep)
 {
     editor->opening().mnuFileJoystickLoad_Click(file(u"a.tmj"_s, "BTN"));
     keys(u"x y"_s);
     editor->saving().mnuFileSave_Click();
     undo();
-    EXPECT_EQ(editor->joystick().state(), Document::Saved);
     EXPECT_EQ(history().slots(), 3);
 }
 
@@ -469,7 +599,7 @@ TEST_F(UndoTest, AnEmptiedTextHasItsMarginBack)
     EXPECT_EQ(joystick()->shown().richText().paragraphs, margin);
 }
 
-TEST_F(UndoTest, DeletingTheUndosFromMemoryLeavesAnEmptySlotInBothDocuments)
+TEST_F(UndoTest, DeletingTheUndosFromMemoryLeavesThePresentTextInBothDocuments)
 {
     keys(u"a b"_s);
     editor->documents().select(DocumentKind::Macro);
@@ -479,6 +609,10 @@ TEST_F(UndoTest, DeletingTheUndosFromMemoryLeavesAnEmptySlotInBothDocuments)
     EXPECT_EQ(editor->undos().of(DocumentKind::Macro).slots(), 1);
     EXPECT_EQ(history().slots(), 1);
     EXPECT_LT(history().bytesHeld(), 1000);
+    EXPECT_EQ(text(), u"a b");
+    editor->documents().select(DocumentKind::Joystick);
+    keys(u"c"_s);
+    undo();
     EXPECT_EQ(text(), u"a b");
 }
 
@@ -557,6 +691,16 @@ TEST_F(UndoTest, WhoTypesIntoABlinkingLineReplacesNothing)
     const QString before = text();
     key(Qt::Key_V, Qt::ControlModifier);
     EXPECT_EQ(text(), before + u"pasted"_s);
+}
+
+TEST_F(UndoTest, AMenuEntryEndsTheBlinkingFirst)
+{
+    settings.of<DocumentSettings>().HighlightLineOnUndo = true;
+    keys(u"one two three"_s);
+    undo();
+    ASSERT_EQ(joystick()->textCursor().selectedText(), u"one two");
+    editor->action(u"mnuFormatArray1_0")->trigger();
+    EXPECT_EQ(joystick()->textCursor().selectedText(), QString());
 }
 
 TEST_F(UndoTest, ATabChangeEndsTheBlinking)

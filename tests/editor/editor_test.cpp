@@ -116,9 +116,20 @@ TEST_F(EditorWindowTest, ATabClickSaysWhatIsEdited)
     EXPECT_EQ(status.text(), u"Compiled successfully. (Memory used: 3%)");
 }
 
-TEST(TabStatus, AMacrosKeysAndACompilersResultStay)
+TEST_F(EditorWindowTest, AnEqualsSignInAFilesNameDoesNotFreezeThePanel)
 {
-    EXPECT_EQ(tabStatus(u"Fire = SPC"_s, u"a.tmj"_s), u"Fire = SPC");
+    editor->opening().OpenFavouriteFile(file(u"a=b.tmj"_s, "BTN S1 a"));
+    editor->documents().select(DocumentKind::Macro);
+    EXPECT_EQ(status.text(), u"Editing Untitled.tmm");
+    editor->documents().select(DocumentKind::Joystick);
+    EXPECT_EQ(status.text(), u"Editing a=b.tmj");
+    editor->documents().select(DocumentKind::Macro);
+    EXPECT_EQ(status.text(), u"Editing Untitled.tmm");
+}
+
+TEST(TabStatus, ACompilersResultStays)
+{
+    EXPECT_EQ(tabStatus(u"Editing a=b.tmm"_s, u"a.tmj"_s), u"Editing a.tmj");
     EXPECT_EQ(tabStatus(u"Compiler error: x"_s, u"a.tmj"_s), u"Compiler error: x");
     EXPECT_EQ(tabStatus(u"Done"_s, u"a.tmj"_s), u"Editing a.tmj");
     EXPECT_EQ(tabStatus(u"Editing b.tmm"_s, u"a.tmj"_s), u"Editing a.tmj");

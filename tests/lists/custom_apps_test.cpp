@@ -3,6 +3,7 @@
 
 #include "lists/custom_apps.h"
 
+#include "platform/fakes/fake_launcher.h"
 #include "tests/support/temp_folder.h"
 
 #include <gtest/gtest.h>
@@ -54,6 +55,17 @@ TEST_F(CustomAppsTest, StartInTheRootOfTheirDrive)
         EXPECT_EQ(launch.folder, u"/");
         EXPECT_EQ(launch.style, WindowStyle::NormalFocus);
     }
+}
+
+TEST_F(CustomAppsTest, AFolderOrAMissingProgramCannotBeStarted)
+{
+    const FakeLauncher launcher;
+    const QString program = folder.write(u"app.exe"_s, "x");
+    EXPECT_EQ(lackOf({ {}, program, true }, launcher), u"");
+    EXPECT_EQ(lackOf({ {}, folder.path(), true }, launcher),
+              folder.path() + u" is a folder, not a program"_s);
+    EXPECT_EQ(lackOf({ {}, folder.file(u"gone.exe"_s), true }, launcher),
+              folder.file(u"gone.exe"_s) + u" is missing"_s);
 }
 
 TEST_F(CustomAppsTest, TheMaskColourOfAPictureIsSeenThrough)

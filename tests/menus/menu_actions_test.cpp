@@ -77,6 +77,35 @@ TEST_F(MenuActionsTest, AConditionIsTheWindowsOwn)
     EXPECT_TRUE(isEnabled(u"mnuGearDown"));
 }
 
+TEST_F(MenuActionsTest, AnEntryThatLacksItsProgramSaysSoAndComesBackWithItsOwnWords)
+{
+    QAction *up = on.action(u"mnuGearUp");
+    on.setCondition(plane::PlaneWhen::InAir, true);
+    on.setLack(u"mnuGearUp", u"The pump is missing"_s, false);
+    EXPECT_FALSE(up->isEnabled());
+    EXPECT_EQ(up->toolTip(), u"The pump is missing");
+    EXPECT_EQ(up->statusTip(), u"The pump is missing");
+    EXPECT_EQ(on.lackOf(u"mnuGearUp"), u"The pump is missing");
+    on.setCondition(plane::PlaneWhen::InAir, false);
+    on.setCondition(plane::PlaneWhen::InAir, true);
+    EXPECT_FALSE(up->isEnabled()) << "its condition alone does not bring it back";
+    on.setLack(u"mnuGearUp", {}, false);
+    EXPECT_TRUE(up->isEnabled());
+    EXPECT_EQ(up->toolTip(), u"Up");
+    EXPECT_EQ(up->statusTip(), u"Pulls it in");
+    on.setCondition(plane::PlaneWhen::InAir, false);
+    on.setLack(u"mnuGearUp", u"x"_s, false);
+    on.setLack(u"mnuGearUp", {}, false);
+    EXPECT_FALSE(up->isEnabled()) << "what it lacked is back, but its condition does not hold";
+}
+
+TEST_F(MenuActionsTest, AnEntryThatTellsTheLackByItselfStaysUsable)
+{
+    on.setLack(u"mnuGearDown", u"The pump is missing"_s, true);
+    EXPECT_TRUE(isEnabled(u"mnuGearDown"));
+    EXPECT_EQ(on.action(u"mnuGearDown")->statusTip(), u"The pump is missing");
+}
+
 TEST_F(MenuActionsTest, ABarHoldsTheMenusAndThenItsOwnEntries)
 {
     QMenuBar bar;

@@ -283,9 +283,33 @@ TEST(SystemLauncher, AWindowsProgramGoesThroughWineWithPathsAsItUnderstandsThem)
             { .program = program, .arguments = u"/ZEPH /CE \"%1\""_s.arg(file) });
         ASSERT_TRUE(started) << started.error().toStdString();
     }
-    EXPECT_EQ(wine.told().mid(1),
-              (QStringList{ program, u"/ZEPH"_s, u"/CE"_s,
-                            u"Z:"_s + QString(file).replace(u'/', u'\\') }));
+    // Its "start" joins the words with blanks, so the quotes come out where they are told.
+    EXPECT_EQ(wine.told().mid(1).join(u' '),
+              u"start /unix "_s + program + u" /ZEPH /CE \"Z:"_s
+                  + QString(file).replace(u'/', u'\\') + u'"');
+}
+
+TEST(SystemLauncher, QuotesReachWineAsTheyAreWritten)
+{
+    const Script wine(u"wine"_s);
+    const QString program = wine.folder().write(u"HOTASConfig.exe"_s, "MZ...");
+    const QString arguments = u"/MODE /ZEPH /P\"My profile.tmc\" /DA"_s;
+    {
+        const SearchPath path(QFile::encodeName(wine.folder().path()) + ":/usr/bin:/bin");
+        ASSERT_TRUE(SystemLauncher().start({ .program = program, .arguments = arguments }));
+    }
+    EXPECT_EQ(wine.told().mid(1).join(u' '), u"start /unix "_s + program + u' ' + arguments);
+}
+
+TEST(SystemLauncher, FindsAPathOrANameOnTheSearchPathAndNoFolder)
+{
+    const Script tool;
+    const SearchPath path(QFile::encodeName(tool.folder().path()));
+    const SystemLauncher launcher;
+    EXPECT_TRUE(launcher.finds(tool.path()));
+    EXPECT_TRUE(launcher.finds(u"tool.exe"_s));
+    EXPECT_FALSE(launcher.finds(u"rundll32.exe"_s));
+    EXPECT_FALSE(launcher.finds(tool.folder().path()));
 }
 
 TEST(SystemLauncher, WineIsAskedForTheWindowStylesThatItKnows)

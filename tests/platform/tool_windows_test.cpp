@@ -102,6 +102,20 @@ TEST_F(Tools, MinimisedForTheCompilerTheyStaySoWhenTheMainWindowComesBack)
     EXPECT_TRUE(hammer->isMinimized());
 }
 
+TEST_F(Tools, TheCompilerMinimisesAToolWindowThatARoomKeepsItselfToo)
+{
+    QDialog own(&owner);
+    own.show();
+    QDialog hidden(&owner);
+    QDialog byItself(&owner);
+    byItself.setAttribute(Qt::WA_ShowWithoutActivating);
+    byItself.show();
+    windows.minimiseForCompiler();
+    EXPECT_TRUE(own.isMinimized());
+    EXPECT_FALSE(hidden.isVisible());
+    EXPECT_FALSE(byItself.isMinimized()) << "no tool: it tells what the compiler does";
+}
+
 TEST_F(Tools, OneThatItsUserMinimisedStaysSo)
 {
     Hammer *hammer = openHammer();

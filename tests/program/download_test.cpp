@@ -39,8 +39,12 @@ struct ProgramDownload : testing::Test {
                           .replace("CheckForCompletionTime=20", "CheckForCompletionTime=1000")
                           .replace("RegainControlAfter=900", "RegainControlAfter=45000"));
     }
+    /// Makes the compiler slow; Zeph has the patience.
     void delay(int milliseconds)
     {
+        program.write(u"Zeph.ini"_s,
+                      program.read(u"Zeph.ini"_s)
+                          .replace("RegainControlAfter=900", "RegainControlAfter=20000"));
         program.setEnvironment(u"ZEPH_STANDIN_DELAY_MS"_s, QString::number(milliseconds));
     }
     QString remembered(const QString &section, const QString &key) const
@@ -226,6 +230,23 @@ TEST_F(ProgramDownload, TwentyFivePressesInOneWaitMakeOneDownloadAndOneStartOfIt
                        u"text JoystickText Rem free"_s, u"close"_s,
                        u"box  Save Sample flight.tmj now?"_s, u"press No"_s });
     EXPECT_EQ(program.read(u"record"_s).count('\n'), 1);
+}
+
+TEST_F(ProgramDownload, TheFirstOneByAStandInTellsThatNothingReachedAStickUntilTickedAway)
+{
+    program.write(u"Zeph.ini"_s,
+                  program.read(u"Zeph.ini"_s).replace("TellStandIn=0", "TellStandIn=1"));
+    const QStringList told = { u"box Nothing reached your stick"_s, u"press OK"_s };
+    run(QStringList{ u"text Panel_6 Stand-in tools"_s, download } + accept + told
+        + QStringList{ u"done"_s, download } + accept + QStringList{ u"close"_s });
+    run(QStringList{ download } + accept
+        + QStringList{ u"box Nothing reached your stick"_s, u"flip Tick"_s, u"press OK"_s,
+                       u"done"_s, u"trigger mnuHelpAbout_2"_s,
+                       u"text lblStandIns nothing reaches a stick"_s, u"close"_s });
+    EXPECT_EQ(program.setting(u"Miscellaneous"_s, u"TellStandIn"_s), u"0");
+    run(QStringList{ download } + accept
+        + QStringList{ u"done"_s, u"trigger MnuDiagArray_0"_s,
+                       u"text Panel_1 That's the stand-in"_s, u"close"_s });
 }
 
 TEST_F(ProgramDownload, AThirdCommandDuringTheWaitIsDropped)

@@ -115,3 +115,34 @@ TEST(ProgramFiles, ASaveIntoAFolderThatIsGoneTellsPathAndReasonAndKeepsTheText)
     EXPECT_THAT(notes, Contains(HasSubstr(path.toStdString())));
     EXPECT_THAT(notes, Contains("JoystickText=xBTN S1 a"));
 }
+
+TEST(ProgramFiles, AnUndoneSaveIsAskedAboutAtTheExitAndARedoneOneIsNot)
+{
+    Program program;
+    program.settle();
+    const QString path = program.write(u"Files/a.tmj"_s, "BTN S1 a");
+    program.run({ u"text JoystickText BTN"_s, u"type JoystickText x"_s, u"trigger mnuFileSave"_s,
+                  u"text Panel_1 saved successfully."_s, u"trigger mnuEditUndo"_s, u"close"_s,
+                  u"box  Save a.tmj now?"_s, u"press Cancel"_s, u"gone  Save"_s,
+                  u"trigger mnuEditRedo"_s, u"close"_s },
+                { path });
+    EXPECT_EQ(program.read(u"Files/a.tmj"_s), "xBTN S1 a");
+}
+
+TEST(ProgramFiles, AFileThatAnotherProgramChangedIsNotOverwrittenSilently)
+{
+    Program program;
+    program.settle();
+    const QString path = program.write(u"Files/a.tmj"_s, "BTN S1 a");
+    const QStringList notes = program.run(
+        { u"text JoystickText BTN"_s, u"type JoystickText x"_s, u"write Files/a.tmj other"_s,
+          u"trigger mnuFileSave"_s, u"box a.tmj has changed on the disk"_s, u"press See both"_s,
+          u"window a.tmj: ours and the disk's"_s, u"note OurText"_s, u"note DiskText"_s,
+          u"press Close"_s, u"gone a.tmj: ours"_s, u"box a.tmj has changed on the disk"_s,
+          u"press Load it anew"_s, u"gone a.tmj has changed"_s, u"text JoystickText other"_s,
+          u"close"_s },
+        { path });
+    EXPECT_THAT(lines(notes), Contains("OurText=xBTN S1 a"));
+    EXPECT_THAT(lines(notes), Contains("DiskText=other"));
+    EXPECT_EQ(program.read(u"Files/a.tmj"_s), "other");
+}

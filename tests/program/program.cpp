@@ -56,7 +56,7 @@ void Program::settle(const QByteArray &more)
           "[FileLocations]\r\nFirstTimeUsed=3\r\nShowTips=0\r\n[Unsupported]\r\nTurnOffFontCheck="
           "1\r\n"
           "CheckForCompletionTime=20\r\nRegainControlAfter=900\r\n[Miscellaneous]"
-          "\r\nMumWindowstate=0\r\n"
+          "\r\nMumWindowstate=0\r\nTellStandIn=0\r\n"
               + more);
 }
 

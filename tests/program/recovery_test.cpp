@@ -44,3 +44,14 @@ TEST(ProgramRecovery, WhatWasTypedBeforeAKillIsOfferedByTheNextStart)
     EXPECT_EQ(program.read(u"Files/a.tmj"_s), "typed BTN S1 a");
     EXPECT_FALSE(program.exists(u"Recovery"_s));
 }
+
+TEST(ProgramRecovery, ADamagedRecoveryFileIsToldWithItsPathAndStays)
+{
+    Program program;
+    program.settle();
+    const QString path = program.write(u"Recovery/1/joystick.txt"_s, "Zeph recov");
+    const QStringList notes =
+        program.run({ u"modal"_s, u"press OK"_s, u"text Panel_1 Ready"_s, u"close"_s });
+    EXPECT_THAT(lines(notes), testing::Contains(testing::HasSubstr(path.toStdString())));
+    EXPECT_EQ(program.read(u"Recovery/1/joystick.txt"_s), "Zeph recov");
+}

@@ -93,7 +93,7 @@ TEST(ProgramStart, TheProgramEndsWithTheWelcomeWhenItsMainWindowIsClosedMeanwhil
 {
     Program program;
     const auto run = program.start({ u"maybe-ok WARNING"_s, u"window Welcome to Zeph"_s,
-                                     u"type txtFirstName Ann"_s, u"close"_s, u"gone Zeph"_s,
+                                     u"type txtFirstName Ann"_s, u"close"_s, u"gone Untitled"_s,
                                      u"dismiss Welcome"_s },
                                    u"closed.log"_s);
     ASSERT_TRUE(run->waitForFinished());
@@ -124,7 +124,7 @@ TEST(ProgramStart, AHotasFolderIsRememberedAndItsFileKeepsItsOptions)
     program.write(u"Thrustmaster/HOTAS.ini"_s,
                   "[Defaults]\r\nPOVhat=3\r\nRCSType=1\r\nTG1enabled=x\r\n");
     const QString folder = program.file(u"Thrustmaster"_s);
-    program.run({ u"window Zeph"_s, u"trigger mnuAppsPreferences"_s, u"window Preferences"_s,
+    program.run({ u"text Panel_1 Ready"_s, u"trigger mnuAppsPreferences"_s, u"window Preferences"_s,
                   u"press cmdBrowseHotas"_s, u"file "_s + folder,
                   u"text HotasFolder Thrustmaster"_s, u"press cmdOK"_s, u"gone Preferences"_s,
                   u"close"_s });
@@ -134,18 +134,32 @@ TEST(ProgramStart, AHotasFolderIsRememberedAndItsFileKeepsItsOptions)
     EXPECT_EQ(program.setting(u"Defaults"_s, u"TG1enabled"_s, ini), u"x");
     EXPECT_EQ(program.setting(u"FileLocations"_s, u"HotasFolder"_s), folder + u'/');
 
-    const QStringList notes =
-        program.run({ u"window Zeph"_s, u"trigger mnuAppsPreferences"_s, u"window Preferences"_s,
-                      u"note HotasFolder"_s, u"press cmdOK"_s, u"gone Preferences"_s, u"close"_s });
+    const QStringList notes = program.run(
+        { u"text Panel_1 Ready"_s, u"trigger mnuAppsPreferences"_s, u"window Preferences"_s,
+          u"note HotasFolder"_s, u"press cmdOK"_s, u"gone Preferences"_s, u"close"_s });
     EXPECT_THAT(lines(notes), Contains("HotasFolder=" + (folder + u'/').toStdString()));
 }
 
-TEST(ProgramStart, ACommandLineThatNamesNoFileIsDropped)
+TEST(ProgramStart, ACommandLineThatNamesNoFileIsToldAndDropped)
 {
     Program program;
     program.settle();
-    program.run({ u"text Panel_1 Ready! Welcome to Zeph, buddy!"_s, u"close"_s },
-                { program.file(u"Files/nothing.tmj"_s) });
+    const QStringList notes =
+        program.run({ u"box I can't find that file buddy"_s, u"press OK"_s,
+                      u"text Panel_1 Ready! Welcome to Zeph, buddy!"_s, u"close"_s },
+                    { program.file(u"Files/nothing.tmj"_s) });
+    EXPECT_THAT(lines(notes), Contains(HasSubstr("nothing.tmj")));
+}
+
+TEST(ProgramStart, AFileOfAnyEndingOpensAsTheJoystickFile)
+{
+    for (const QByteArray &single : { QByteArray("0"), QByteArray("1") }) {
+        Program program;
+        program.settle("OpenSingleFileOnly=" + single + "\r\n");
+        program.write(u"notes.txt"_s, "Rem mine\r\n");
+        program.run({ u"text JoystickText Rem mine"_s, u"close"_s },
+                    { program.file(u"notes.txt"_s) });
+    }
 }
 
 TEST(ProgramStart, AFurtherInstanceWorksOnItsOwnStoreAndTakesItAway)

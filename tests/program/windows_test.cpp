@@ -25,7 +25,7 @@ QList<int> placeOf(const QStringList &notes, const QString &name)
 {
     QList<int> numbers;
     for (const QString &note : notes) {
-        if (note.startsWith(name + u" at ")) {
+        if (note.startsWith(name + u" at "_s)) {
             numbers.clear();
             for (const QString &number : note.mid(name.size() + 4).split(u' ')) {
                 numbers.append(number.toInt());

@@ -338,13 +338,38 @@ TEST_F(Start, TheFirstRunGreetsByTheCallsignThatItAskedFor)
     EXPECT_EQ(app->status().text(), u"Ready! Welcome to Zeph, Maverick!");
 }
 
-TEST_F(Start, ACommandLineThatNamesNoExistingFileIsDropped)
+TEST_F(Start, AFileOfAnyEndingOnTheCommandLineIsTheJoystickFile)
+{
+    for (const QByteArray &single : { QByteArray("0"), QByteArray("1") }) {
+        writeStore("[Miscellaneous]\r\nOpenSingleFileOnly=" + single + "\r\n");
+        arguments = { folder.write(u"notes.txt"_s, "Rem mine\r\n") };
+        ASSERT_TRUE(start());
+        EXPECT_EQ(app->editor().joystick().path(), arguments.first());
+        EXPECT_EQ(app->editor().joystickText(), u"Rem mine\n");
+        app.reset();
+    }
+}
+
+TEST_F(Start, ACommandLineThatNamesNoExistingFileIsToldAndDropped)
 {
     writeStore();
     arguments = { folder.file(u"gone.tmj"_s) };
+    dialogs.answer(u"I can't find that file buddy"_s, BoxButton::Ok);
     ASSERT_TRUE(start());
     EXPECT_EQ(app->editor().joystick().name(), u"Untitled.tmj");
     EXPECT_EQ(app->status().text(), u"Ready! Welcome to Zeph, buddy!");
+}
+
+TEST_F(Start, ARestoredPairIsGreetedToo)
+{
+    const QString joystickFile = folder.write(u"Files/a.tmj"_s, "BTN S1 a");
+    const QString macroFile = folder.write(u"Files/a.tmm"_s, "m = a");
+    writeStore("[Miscellaneous]\r\nRestoreStatus=1\r\nRestoreJoyFile=" + joystickFile.toUtf8()
+               + "\r\nRestoreMacroFile=" + macroFile.toUtf8() + "\r\n");
+    ASSERT_TRUE(start());
+    EXPECT_EQ(app->editor().macroText(), u"m = a");
+    EXPECT_TRUE(app->status().text().startsWith(u"Ready! Welcome to Zeph, "_s))
+        << app->status().text().toStdString();
 }
 
 TEST_F(Start, ADroppedCommandLineLeavesTheRestoredFilesAsIfNoneWereGiven)
@@ -352,6 +377,7 @@ TEST_F(Start, ADroppedCommandLineLeavesTheRestoredFilesAsIfNoneWereGiven)
     const QString last = folder.write(u"last.tmj"_s, "BTN S2 a\r\n");
     writeStore("[Miscellaneous]\r\nRestoreJoyFile=" + last.toLocal8Bit() + "\r\n");
     arguments = { folder.file(u"gone.tmj"_s) };
+    dialogs.answer(u"I can't find that file buddy"_s, BoxButton::Ok);
     ASSERT_TRUE(start());
     EXPECT_EQ(app->editor().joystick().path(), last);
 }

@@ -19,10 +19,12 @@
 #include "tests/support/shell_world.h"
 #include "toolchain/cougar_tools.h"
 #include "toolchain/default_options.h"
+#include "toolchain/tool_presence.h"
 #include "toolchain/toolchain_settings.h"
 
 #include <QAction>
 #include <QComboBox>
+#include <QFile>
 #include <QMenu>
 #include <QPushButton>
 #include <QRadioButton>
@@ -275,6 +277,20 @@ TEST_F(DownloadMenuTest, TheLineOfAnErrorIsNotSelectedInAnotherFileThatIsOpenByT
               u"more)");
 }
 
+TEST_F(DownloadMenuTest, ACompileMinimisesFindAndTheSlashPaletteToo)
+{
+    show();
+    editor->action(u"mnuEditFind")->trigger();
+    editor->action(u"mnuSlashWindow")->trigger();
+    dialogs.answer(success, BoxButton::Ok);
+    editor->action(u"mnuAppsCompile")->trigger();
+    for (const QString &name : { u"FindAndReplace"_s, u"SlashWindow"_s }) {
+        const auto *window = mum->findChild<QWidget *>(name);
+        ASSERT_TRUE(window) << name.toStdString();
+        EXPECT_TRUE(window->isMinimized()) << name.toStdString();
+    }
+}
+
 TEST_F(DownloadMenuTest, TicksThatCannotBeKeptAreToldAndHoldForTheRun)
 {
     const QByteArray utf16("\xFF\xFE[\0D\0]\0", 8);
@@ -324,6 +340,25 @@ TEST_F(DownloadMenuTest, TheDownloadBelongsToTheJoystickTab)
     settings.of<EditorSettings>().AlwaysShowCompileDownload = true;
     editor->applySettings();
     EXPECT_TRUE(entry(0)->isEnabled());
+}
+
+TEST_F(DownloadMenuTest, F11AndF12InTheMacroTabSayWhyNothingHappens)
+{
+    show();
+    editor->documents().select(DocumentKind::Macro);
+    TextControl *text = &editor->view().control(DocumentKind::Macro);
+    QTest::keyClick(text, Qt::Key_F11);
+    EXPECT_TRUE(status.text().startsWith(u" F11 is for the joystick file"))
+        << status.text().toStdString();
+    QTest::keyClick(text, Qt::Key_F12);
+    EXPECT_TRUE(status.text().startsWith(u" F12 is for the joystick file"));
+    QFile::remove(paths.compiler());
+    tools->presence().refresh();
+    editor->documents().select(DocumentKind::Joystick);
+    QTest::keyClick(control(), Qt::Key_F12);
+    EXPECT_TRUE(status.text().startsWith(u" HOTASCompiler.exe is missing"))
+        << status.text().toStdString();
+    EXPECT_TRUE(launcher.launches.isEmpty());
 }
 
 TEST_F(DownloadMenuTest, FromTheMacroTabItSelectsTheJoystickTabFirst)

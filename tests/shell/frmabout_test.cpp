@@ -3,6 +3,7 @@
 
 #include "shell/frmabout.h"
 
+#include "platform/core/stand_in.h"
 #include "tests/support/shell_world.h"
 
 #include <QLabel>
@@ -21,6 +22,18 @@ TEST_F(AboutWindow, ShowsPictureAndVersion)
     window.show();
     window.findChild<QPushButton *>(u"cmdOK"_s)->click();
     EXPECT_FALSE(window.isVisible());
+}
+
+TEST_F(AboutWindow, HasALineWhileTheStandInToolsAreInUse)
+{
+    const auto line = [this] {
+        const frmAbout window(paths);
+        return !window.findChild<QLabel *>(u"lblStandIns"_s)->isHidden();
+    };
+    folder.write(u"HOTASCompiler.exe"_s, "a real tool");
+    EXPECT_FALSE(line());
+    folder.write(u"HOTASCompiler.exe"_s, standInMark);
+    EXPECT_TRUE(line());
 }
 
 TEST_F(AboutWindow, AMissingPictureIsToldInItsPlace)

@@ -7,11 +7,15 @@
 #include "documents/text_control.h"
 #include "editor/editor.h"
 #include "editor/files/file_opening.h"
+#include "editor/files/recovery_files.h"
 #include "menus/menu_actions.h"
 #include "platform/richtext/rich_text_box.h"
 #include "platform/tool_windows.h"
 #include "shell/mum.h"
 #include "tests/support/shell_world.h"
+
+#include <QTest>
+#include <QTimer>
 
 using namespace zeph;
 
@@ -81,4 +85,37 @@ TEST_F(TemplateMenuTest, AnUnsavedTemplateIsAskedAboutBeforeTheEnd)
     EXPECT_TRUE(form()->isVisible());
     dialogs.answer(u" Save Untitled.rtf now?"_s, BoxButton::No);
     EXPECT_TRUE(run->mum().close());
+}
+
+TEST_F(TemplateMenuTest, AnUnsavedTextIsOnTheDiskAndComesBackAfterACrash)
+{
+    run->editor().actions().trigger(u"mnuAppsTemplateEditor");
+    textOf(*form()).setPlainText(u"half a readme"_s);
+    auto *timer = run->mum().findChild<QTimer *>(u"TemplateRecoveryTimer"_s);
+    ASSERT_TRUE(timer);
+    EXPECT_TRUE(timer->isActive());
+    EXPECT_EQ(timer->interval(), 3000);
+    QMetaObject::invokeMethod(timer, "timeout");
+    const QString kept = u"Recovery/1/template.txt"_s;
+    for (int waited = 0; waited < 500 && !folder.exists(kept); ++waited) {
+        QTest::qWait(10);
+    }
+    const auto recovered = readRecovery(folder.read(kept));
+    ASSERT_TRUE(recovered);
+    // What a crash leaves is such a folder that nobody holds.
+    RecoveredText left = *recovered;
+    left.path = folder.write(u"Templates/mine.rtf"_s, "{\\rtf1 half}");
+    textOf(*form()).setPlainText({});
+    run.reset();
+    EXPECT_FALSE(folder.exists(kept));
+    folder.write(u"Recovery/7/template.txt"_s, recoveryBytes(left));
+
+    dialogs.answer(u"Look what I found, buddy"_s, BoxButton::Yes);
+    run = application();
+    ASSERT_TRUE(run->start());
+    ASSERT_NE(form(), nullptr);
+    EXPECT_EQ(textOf(*form()).toPlainText(), u"half a readme");
+    EXPECT_EQ(form()->path(), left.path);
+    EXPECT_TRUE(form()->HasTemplateTextChanged());
+    EXPECT_FALSE(folder.exists(u"Recovery/7/template.txt"_s));
 }

@@ -6,15 +6,18 @@
 #include "editor/editor.h"
 #include "menus/menu_actions.h"
 #include "platform/core/profile_file.h"
+#include "platform/core/stand_in.h"
 #include "shell/mum.h"
 #include "tests/support/shell_world.h"
 #include "toolchain/modes/profilechooser.h"
 
 #include <QAction>
 #include <QApplication>
+#include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QTest>
 #include <QTimer>
 
 using namespace zeph;
@@ -74,23 +77,55 @@ protected:
 
 } // namespace
 
-TEST_F(ToolsMenuTest, EveryEntryOfTheToolsCanBeUsed)
+TEST_F(ToolsMenuTest, AnEntryCanBeUsedWithItsProgramOrWhenItTellsThatThisIsMissing)
 {
     begin();
     for (const QString &name :
          { u"MnuDiagArray_0"_s, u"MnuDiagArray_5"_s, u"mnuMemoryClear_0"_s, u"mnuMemoryClear_4"_s,
            u"mnuFlashUpgrade"_s, u"mnuHandleInstall"_s, u"mnuFlashArray_0"_s, u"mnuFlashArray_1"_s,
-           u"mnuAppsMultiEditor"_s, u"mnuAppsLauncher"_s, u"mnuAppsAnalyser"_s, u"mnuAppsDX8_0"_s,
-           u"mnuAppsDX8_2"_s, u"mnuResetOptions"_s, u"mnuDownloadProfile"_s }) {
+           u"mnuResetOptions"_s, u"mnuDownloadProfile"_s, u"mnuAppsCompile"_s }) {
         EXPECT_TRUE(action(name).isEnabled()) << name.toStdString();
     }
+    EXPECT_EQ(action(u"MnuDiagArray_5").statusTip(),
+              u"CougarBState.exe is missing: it isn't in "_s + paths.hotasFolder);
+}
+
+TEST_F(ToolsMenuTest, OtherEntriesWithoutTheirProgramAreOffAndComeBackWhenItAppears)
+{
+    begin();
+    for (const QString &name : { u"mnuAppsMultiEditor"_s, u"mnuAppsLauncher"_s,
+                                 u"mnuAppsAnalyser"_s, u"mnuAppsDX8_0"_s, u"DownloadArray1_0"_s }) {
+        EXPECT_FALSE(action(name).isEnabled()) << name.toStdString();
+    }
+    EXPECT_EQ(action(u"mnuAppsAnalyser").toolTip(),
+              u"Analyser.exe is missing: it isn't in "_s + paths.appFolder + u'/');
+    folder.write(u"Analyser.exe"_s, "tool");
+    EXPECT_TRUE(QTest::qWaitFor([this] { return action(u"mnuAppsAnalyser").isEnabled(); }));
+    folder.write(u"HOTASCompiler.exe"_s, "tool");
+    EXPECT_TRUE(QTest::qWaitFor([this] { return action(u"DownloadArray1_0").isEnabled(); }));
+    EXPECT_EQ(action(u"DownloadArray1_0").statusTip(),
+              u"Compiles the joystick file and sends it to the Cougar");
+}
+
+TEST_F(ToolsMenuTest, TheStatusBarSaysSteadilyThatTheStandInsAreInUse)
+{
+    begin();
+    auto *panel = app->mum().findChild<QLabel *>(u"Panel_6"_s);
+    EXPECT_EQ(panel->text(), u"");
+    folder.write(u"HOTASCompiler.exe"_s, standInMark);
+    EXPECT_TRUE(QTest::qWaitFor([panel] { return panel->text() == u"Stand-in tools"; }));
+    app->status().setText(u"something else"_s);
+    EXPECT_EQ(panel->text(), u"Stand-in tools");
+    folder.write(u"HOTASCompiler.exe"_s,
+                 "a real tool, which is longer than the mark of a stand-in");
+    EXPECT_TRUE(QTest::qWaitFor([panel] { return panel->text().isEmpty(); }));
 }
 
 TEST_F(ToolsMenuTest, EntriesStartWhatStandsAtTheirIndex)
 {
-    begin();
     folder.write(u"CougarBState.exe"_s, "tool");
     folder.write(u"Analyser.exe"_s, "tool");
+    begin();
     trigger(u"MnuDiagArray_1");
     trigger(u"MnuDiagArray_5");
     trigger(u"mnuMemoryClear_1");

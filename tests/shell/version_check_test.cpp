@@ -44,7 +44,7 @@ struct VersionCheck : test::ShellWorld {
                                    u"Unable to retrieve version information" }) {
             seen.answer(QString::fromUtf16(title), BoxButton::Ok);
         }
-        checkVersion(http, seen, paths, address);
+        checkVersion(http, { paths, settings, status, seen, launcher, clock, keyboard }, address);
         return seen.boxes().value(0);
     }
 };
@@ -74,10 +74,32 @@ TEST_F(VersionCheck, TellsANewerVersion)
               "Please visit Klaifi (links are in the Help menu) to download it.");
 }
 
-TEST_F(VersionCheck, ComparesTheWholeFileExactly)
+TEST_F(VersionCheck, BlanksAndLineEndsAroundTheVersionDoNotCount)
 {
-    const TextServer server("4.4.02 ");
-    EXPECT_EQ(tell(server.address()).title, u"Newer software is available");
+    const TextServer server(" 4.4.02 \r\n");
+    EXPECT_EQ(tell(server.address()).title, u"Version information");
+}
+
+TEST_F(VersionCheck, NothingOrAPageIsNoVersion)
+{
+    for (const QByteArray &answer :
+         { QByteArray(), QByteArray("\r\n"), QByteArray("<html><body>404</body></html>"),
+           QByteArray("4.4.02 <b>"), QByteArray("Sign in to this network") }) {
+        const TextServer server(answer);
+        const Box box = tell(server.address());
+        EXPECT_EQ(box.title, unableTitle) << answer.constData();
+        EXPECT_EQ(box.text, u"ZephSite answered, but not with a version. Please try again later.");
+    }
+}
+
+TEST_F(VersionCheck, TheStatusLineSaysThatItRuns)
+{
+    QStringList told;
+    QObject::connect(&status, &StatusLine::textChanged, &status,
+                     [&told](const QString &text) { told.append(text); });
+    const TextServer server("4.4.02");
+    tell(server.address());
+    EXPECT_EQ(told, (QStringList{ u" Asking ZephSite for the latest version ..."_s, u" Ready"_s }));
 }
 
 TEST_F(VersionCheck, AServerThatAnswersWithAnErrorIsOneThatCannotBeReached)
@@ -108,6 +130,6 @@ TEST_F(VersionCheck, AFolderThatCannotHoldTheAnswerIsAFailureToo)
     downloader.answer = QByteArray("4.4.02");
     paths.appFolder = folder.file(u"missing/folder"_s);
     dialogs.answer(unableTitle, BoxButton::Ok);
-    checkVersion(downloader, dialogs, paths, u"http://server/"_s);
+    checkVersion(downloader, context(), u"http://server/"_s);
     EXPECT_EQ(boxTitles(), QStringList{ unableTitle });
 }

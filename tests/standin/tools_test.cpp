@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "platform/core/profile_file.h"
+#include "platform/core/stand_in.h"
 #include "tests/support/temp_folder.h"
 
 #include <QElapsedTimer>
@@ -120,4 +121,12 @@ TEST_F(Tools, StartedTogetherTheyNeverLoseAVerdict)
         kept += both ? 1 : 0;
     }
     EXPECT_EQ(kept, 60);
+}
+
+TEST_F(Tools, AreToldFromRealToolsByTheMarkInTheirFiles)
+{
+    EXPECT_TRUE(isStandIn(tool(u"HOTASCompiler"_s)));
+    EXPECT_TRUE(isStandIn(tool(u"HOTASConfig"_s)));
+    EXPECT_FALSE(isStandIn(folder.write(u"Other.exe"_s, "MZ, a real one")));
+    EXPECT_FALSE(isStandIn(folder.file(u"missing.exe"_s)));
 }

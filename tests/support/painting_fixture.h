@@ -53,6 +53,8 @@ protected:
               const std::function<void(CharFormat &)> &change)
     {
         control(kind)->shown().changeLooks(from, length, change);
+        Document &document = editor->documents().of(kind);
+        document.setState(document.state());
     }
 
     /// "." plain, b BTN and DEF, s slash, r raw, m miscellaneous, c comment, ! pure red, ? another.

@@ -3,6 +3,7 @@
 
 #include "toolchain/external_tools.h"
 
+#include "platform/core/stand_in.h"
 #include "platform/fakes/fake_joystick.h"
 #include "tests/support/toolchain_bench.h"
 #include "toolchain/modes/cougar_modes.h"
@@ -253,4 +254,43 @@ TEST_F(ExternalToolsTest, AMissingCompanionIsToldWithItsPath)
     tools.startCompanion(u"ZephMFE.exe");
     EXPECT_TRUE(dialogs.boxes().first().text.contains(paths.inApp(u"ZephMFE.exe")));
     EXPECT_TRUE(launcher.launches.isEmpty());
+}
+
+TEST_F(ExternalToolsTest, AStandInAnswersForTheControlPanelOnTheStatusLine)
+{
+    folder.write(u"HOTASConfig.exe"_s, standInMark);
+    for (const int index : { 0, 1, 2 }) {
+        status.setText({});
+        tools.MnuDiagArray_Click(index);
+        EXPECT_TRUE(status.text().startsWith(u" That's the stand-in: ")) << index;
+    }
+    EXPECT_TRUE(launcher.launches.isEmpty());
+}
+
+TEST_F(ExternalToolsTest, AnEntryLacksAProgramThatIsMissingAndSaysWhereItBelongs)
+{
+    const EntryProgram view{ u"MnuDiagArray_3"_s, paths.hotasFolder + u"HOTASView.exe"_s, true };
+    EXPECT_EQ(lackOf(view, launcher),
+              u"HOTASView.exe is missing: it isn't in "_s + paths.hotasFolder);
+    folder.write(u"hotasview.EXE"_s, "tool");
+    EXPECT_EQ(lackOf(view, launcher), u"");
+}
+
+TEST_F(ExternalToolsTest, EntriesWithoutABoxOfTheirOwnCannotBeChosenWithoutTheirProgram)
+{
+    QStringList greyed;
+    for (const EntryProgram &each : entryPrograms(paths)) {
+        if (!each.tellsByItself) {
+            greyed.append(each.entry);
+        }
+    }
+    greyed.sort();
+    EXPECT_EQ(
+        greyed,
+        (QStringList{ u"DownloadArray1_0"_s, u"mnuAppsAnalyser"_s, u"mnuAppsDX8_0"_s,
+                      u"mnuAppsDX8_1"_s, u"mnuAppsDX8_2"_s, u"mnuAppsLauncher"_s,
+                      u"mnuAppsMultiEditor"_s, u"mnuAxesModeArray_0"_s, u"mnuAxesModeArray_1"_s,
+                      u"mnuButtonsModeArray_0"_s, u"mnuButtonsModeArray_1"_s, u"mnuFlashArray_0"_s,
+                      u"mnuFlashArray_1"_s, u"mnuMemoryClear_0"_s, u"mnuMemoryClear_1"_s,
+                      u"mnuMemoryClear_2"_s, u"mnuMemoryClear_4"_s }));
 }

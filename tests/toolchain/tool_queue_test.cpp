@@ -7,6 +7,8 @@
 
 #include <gtest/gtest.h>
 
+#include <QCoreApplication>
+
 #include <stdexcept>
 
 using namespace zeph;
@@ -24,10 +26,20 @@ struct ToolQueueTest : testing::Test {
     /// Runs a command in whose wait the user does something.
     void runWhile(const QString &name, const std::function<void()> &duringTheWait)
     {
-        queue->run(name, [&] {
+        run(name, [&] {
             duringTheWait();
             ran.append(name);
         });
+        QCoreApplication::processEvents();
+    }
+    /// Gives a command that does something in its turn.
+    void run(const QString &name, const std::function<void()> &operation)
+    {
+        const ToolQueue::Turn turn =
+            queue->turn(name, [this, name, operation] { run(name, operation); });
+        if (turn) {
+            operation();
+        }
     }
 
     StatusLine status;
@@ -39,8 +51,8 @@ struct ToolQueueTest : testing::Test {
 
 TEST_F(ToolQueueTest, ACommandRunsAtOnceWhenNoOtherDoes)
 {
-    queue->run(u"the compile"_s, noting(u"a"_s));
-    queue->run(u"the compile"_s, noting(u"b"_s));
+    run(u"the compile"_s, noting(u"a"_s));
+    run(u"the compile"_s, noting(u"b"_s));
     EXPECT_EQ(ran, (QStringList{ u"a"_s, u"b"_s }));
     EXPECT_EQ(status.text(), u"");
 }
@@ -49,7 +61,7 @@ TEST_F(ToolQueueTest, TheSameCommandIsDroppedWhileItWaitsAndTheLineSaysSo)
 {
     runWhile(u"the download"_s, [this] {
         for (int i = 0; i < 25; ++i) {
-            queue->run(u"the download"_s, noting(u"again"_s));
+            run(u"the download"_s, noting(u"again"_s));
         }
         EXPECT_EQ(status.text(), u" I'm still busy with the download: once is enough");
     });
@@ -59,7 +71,7 @@ TEST_F(ToolQueueTest, TheSameCommandIsDroppedWhileItWaitsAndTheLineSaysSo)
 TEST_F(ToolQueueTest, OneOtherCommandFollowsWhenTheFirstHasEnded)
 {
     runWhile(u"the download"_s, [this] {
-        queue->run(u"the compile"_s, noting(u"the compile"_s));
+        run(u"the compile"_s, noting(u"the compile"_s));
         EXPECT_EQ(status.text(), u" OK: the compile comes right after the download");
         EXPECT_TRUE(ran.isEmpty());
     });
@@ -69,12 +81,12 @@ TEST_F(ToolQueueTest, OneOtherCommandFollowsWhenTheFirstHasEnded)
 TEST_F(ToolQueueTest, AThirdCommandAndTheWaitingOneOnceMoreAreDropped)
 {
     runWhile(u"the download"_s, [this] {
-        queue->run(u"the compile"_s, noting(u"the compile"_s));
-        queue->run(u"the profile Default"_s, noting(u"profile"_s));
+        run(u"the compile"_s, noting(u"the compile"_s));
+        run(u"the profile Default"_s, noting(u"profile"_s));
         EXPECT_EQ(status.text(),
                   u" I'm busy with the download, and the compile comes next: ask me again for the "
                   u"profile Default then");
-        queue->run(u"the compile"_s, noting(u"compile again"_s));
+        run(u"the compile"_s, noting(u"compile again"_s));
         EXPECT_EQ(status.text(),
                   u" the compile is waiting for the download already: once is enough");
     });
@@ -84,8 +96,8 @@ TEST_F(ToolQueueTest, AThirdCommandAndTheWaitingOneOnceMoreAreDropped)
 TEST_F(ToolQueueTest, WhatFollowedMayBeFollowedItself)
 {
     runWhile(u"a"_s, [this] {
-        queue->run(u"b"_s, [this] {
-            queue->run(u"a"_s, noting(u"a once more"_s));
+        run(u"b"_s, [this] {
+            run(u"a"_s, noting(u"a once more"_s));
             ran.append(u"b"_s);
         });
     });
@@ -95,18 +107,19 @@ TEST_F(ToolQueueTest, WhatFollowedMayBeFollowedItself)
 TEST_F(ToolQueueTest, AFailureReachesTheCallerAndTheNextCommandRuns)
 {
     const auto fail = [this] {
-        queue->run(u"b"_s, noting(u"b"_s));
+        run(u"b"_s, noting(u"b"_s));
         throw std::runtime_error("no good");
     };
-    EXPECT_THROW(queue->run(u"a"_s, fail), std::runtime_error);
-    queue->run(u"a"_s, noting(u"a"_s));
+    EXPECT_THROW(run(u"a"_s, fail), std::runtime_error);
+    QCoreApplication::processEvents();
+    run(u"a"_s, noting(u"a"_s));
     EXPECT_EQ(ran, QStringList{ u"a"_s });
 }
 
 TEST_F(ToolQueueTest, AtTheProgramsEndNothingFollows)
 {
     runWhile(u"a"_s, [this] {
-        queue->run(u"b"_s, noting(u"b"_s));
+        run(u"b"_s, noting(u"b"_s));
         queue->close();
     });
     EXPECT_EQ(ran, QStringList{ u"a"_s });
@@ -115,7 +128,7 @@ TEST_F(ToolQueueTest, AtTheProgramsEndNothingFollows)
 TEST_F(ToolQueueTest, ItMayGoWhileACommandWaits)
 {
     runWhile(u"a"_s, [this] {
-        queue->run(u"b"_s, noting(u"b"_s));
+        run(u"b"_s, noting(u"b"_s));
         queue.reset();
     });
     EXPECT_EQ(ran, QStringList{ u"a"_s });

@@ -81,7 +81,7 @@ void AlignmentOperations::mnuViewrefreshIndent_Click()
     document.setMargins();
     m_parts.view.UpdateSavedIcon();
     m_context.status.setText(u"Layout refreshed ... (I wish I was!)"_s);
-    document.history().storeTop();
+    document.history().storeShown();
 }
 
 namespace {

@@ -277,7 +277,8 @@ void FileOpening::showRecovered(DocumentKind kind, const QString &path, const QS
     document.tellReplaced(Document::How::Recovered);
 }
 
-/// Shows a text in the colours of its coloured copy or, without a fitting copy, coloured anew.
+/// Gives the document this path and text and selects it. The colours are those of the coloured
+/// copy; without a fitting copy the text is coloured anew.
 void FileOpening::show(Document &document, const QString &path, const QString &text)
 {
     document.rename(path);
@@ -296,20 +297,29 @@ void FileOpening::show(Document &document, const QString &path, const QString &t
 
 void FileOpening::offerToReload(const QStringList &overwritten)
 {
-    EditorView &view = m_parts.view;
-    const DocumentKind before = view.documents().selected().kind();
     for (const DocumentKind kind : { DocumentKind::Joystick, DocumentKind::Macro }) {
-        Document &document = view.documents().of(kind);
+        Document &document = m_parts.view.documents().of(kind);
         if (isUntitled(document.name()) || !isAmong(overwritten, document)) {
             continue;
         }
-        if (view.documents().refuseSent(kind)
-            || m_context.dialogs.box(reloadBox(document)) != BoxButton::Yes
-            || !loadOrTell(kind, document.path())) {
+        if (!m_parts.view.documents().refuseSent(kind)
+            && m_context.dialogs.box(reloadBox(document)) == BoxButton::Yes) {
+            loadAgain(kind);
+        } else {
             document.setState(Document::Modified);
+            Q_EMIT keptInSpiteOfDisk(kind);
         }
-        view.documents().select(before);
     }
+}
+
+void FileOpening::loadAgain(DocumentKind kind)
+{
+    Documents &documents = m_parts.view.documents();
+    const DocumentKind before = documents.selected().kind();
+    if (!loadOrTell(kind, documents.of(kind).path())) {
+        documents.of(kind).setState(Document::Modified);
+    }
+    documents.select(before);
 }
 
 void FileOpening::OpenPreviouslySavedFiles(const QString &fileToOpen)

@@ -47,9 +47,28 @@ public:
     /// Shows a recovered text as the text of the file at this path, in the state modified.
     void showRecovered(DocumentKind kind, const QString &path, const QString &text);
 
+    /// Loads a document's file again in place of its text. A failure is told.
+    void loadAgain(DocumentKind kind);
     /// Offers to reload each document whose file is among these just overwritten ones. A document
     /// that is not reloaded counts as modified.
     void offerToReload(const QStringList &overwritten);
+
+    /// While one lives, Zeph itself overwrites files that may be open, and offerToReload() follows.
+    class Overwriting
+    {
+    public:
+        explicit Overwriting(FileOpening &opening) : m_opening(opening)
+        {
+            ++m_opening.m_overwriting;
+        }
+        ~Overwriting() { --m_opening.m_overwriting; }
+        Overwriting(const Overwriting &) = delete;
+        Overwriting &operator=(const Overwriting &) = delete;
+
+    private:
+        FileOpening &m_opening;
+    };
+    bool isOverwriting() const { return m_overwriting > 0; }
 
     /// Whether a file from a list is opened without its partner.
     bool OpenSingleFileOnly = false;
@@ -62,6 +81,8 @@ public:
 Q_SIGNALS:
     /// A joystick file and its macro file have been opened together.
     void pairLoaded();
+    /// The user keeps a document's text although its file holds another one.
+    void keptInSpiteOfDisk(DocumentKind kind);
 
 private:
     void connectMenus();
@@ -78,6 +99,7 @@ private:
     Context m_context;
     Parts m_parts;
     QString m_keyboardLayout;
+    int m_overwriting = 0;
 };
 
 } // namespace zeph

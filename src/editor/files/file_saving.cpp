@@ -93,7 +93,7 @@ QString FileSaving::proposedName(const Document &document)
 
 void FileSaving::SaveText(Document &document)
 {
-    if (!encodable(document, Stranger::Show)) {
+    if (!encodable(document, Stranger::Show) || (m_guard && !m_guard->maySave(document))) {
         return;
     }
     if (m_context.settings.of<EditorSettings>().UpdateModified) {
@@ -106,6 +106,12 @@ void FileSaving::AutoSaveText(Document &document)
 {
     if (isReadOnlyFile(document.path())) {
         tellUnsaved(document, { document.path(), u"the file is read only."_s });
+        return;
+    }
+    if (m_guard && m_guard->hasChanged(document)) {
+        m_context.status.setText(document.path()
+                                 + u" wasn't saved, because another program has changed it. Your "
+                                   "text is safe in the recovery file until you save it."_s);
         return;
     }
     if (encodable(document, Stranger::TellOnly) && keepStrangersFile(document)) {
@@ -136,7 +142,7 @@ void FileSaving::write(Document &document, Document::Save save)
 
 void FileSaving::tellUnsaved(Document &document, const FileError &error)
 {
-    document.setState(Document::Modified);
+    document.tellNotWritten();
     tellNotSaved(m_context.dialogs, error);
 }
 
@@ -173,7 +179,7 @@ bool FileSaving::encodable(Document &document, Stranger show)
     const qsizetype line = QStringView(text).left(stranger).count(u'\n') + 1;
     // A character above U+FFFF is two units, which are readable only together.
     const qsizetype units = text[stranger].isHighSurrogate() && stranger + 1 < text.size() ? 2 : 1;
-    document.setState(Document::Modified);
+    document.tellNotWritten();
     m_context.dialogs.tell(
         u"There's a letter in there that I can't write"_s,
         document.path() + u" wasn't saved: the character \""_s + text.mid(stranger, units)
@@ -201,6 +207,7 @@ void FileSaving::ModifyDate(Document &document)
     const int caret = int(movedByStamp(*stamp, document.cursor().position()));
     document.replace(int(stamp->start), int(stamp->length), stamp->text);
     document.setCaret(anchor, caret);
+    document.history().storeShown();
 }
 
 } // namespace zeph

@@ -13,6 +13,19 @@ class ColouredCopies;
 class EditorView;
 class MenuActions;
 
+/// Knows what other programs do to the documents' files.
+class OverwriteGuard
+{
+public:
+    virtual ~OverwriteGuard() = default;
+
+    /// Whether the file holds what no load or save of this document left there. False for a
+    /// document without a file, and while the file cannot be read.
+    virtual bool hasChanged(const Document &document) = 0;
+    /// Before a save: asks about a changed file. False when it must stay as it is.
+    virtual bool maySave(Document &document) = 0;
+};
+
 /// Saves documents. After each operation the document's state tells whether it was saved: it stays
 /// modified when the user cancelled or the disk refused.
 class FileSaving
@@ -20,6 +33,9 @@ class FileSaving
 public:
     FileSaving(const Context &context, EditorView &view, MenuActions &actions,
                ColouredCopies &copies);
+
+    /// Whom to ask before a file is overwritten; it lives as long as files are saved.
+    void guardBy(OverwriteGuard &guard) { m_guard = &guard; }
 
     /// Saves the selected document; runs Save As when it has no name or its file is read only.
     void mnuFileSave_Click();
@@ -48,6 +64,7 @@ private:
     EditorView &m_view;
     ColouredCopies &m_copies;
     Backups m_backups;
+    OverwriteGuard *m_guard = nullptr;
 };
 
 } // namespace zeph

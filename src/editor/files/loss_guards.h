@@ -4,6 +4,7 @@
 #pragma once
 
 #include "editor/files/auto_save.h"
+#include "editor/files/changed_files.h"
 #include "editor/files/recovery.h"
 
 namespace zeph {
@@ -12,6 +13,7 @@ namespace zeph {
 struct LossGuards {
     AutoSave autoSave;
     Recovery recovery;
+    ChangedFiles changedFiles;
 };
 
 } // namespace zeph

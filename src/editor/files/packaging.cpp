@@ -239,6 +239,7 @@ void Packaging::unpack(const QString &path)
         return;
     }
     QDir().mkpath(m_context.paths.filesFolder());
+    const FileOpening::Overwriting overwriting(m_parts.opening);
     LongProgress progress(u"Unpacking the files"_s, m_parts.view.window());
     Dialogs &dialogs = m_context.dialogs;
     const UnpackQuestions questions{

@@ -37,7 +37,9 @@ bool isOnDisk(const RecoveredText &recovered)
     return bytes && documentText(*bytes) == recovered.text;
 }
 
-Box offerBox(const RecoveredText &recovered, const QString &callsign)
+} // namespace
+
+Box recoveryOffer(const RecoveredText &recovered, const QString &callsign)
 {
     const QFileInfo file(existingPath(recovered.path));
     const QString onDisk = file.isFile()
@@ -56,8 +58,6 @@ Box offerBox(const RecoveredText &recovered, const QString &callsign)
              .defaultButton = BoxButton::Yes };
 }
 
-} // namespace
-
 Recovery::Recovery(const Context &context, const Parts &parts)
     : m_context(context), m_parts(parts), m_folder(context.paths.inApp(u"Recovery")),
       m_backups(context), m_timer(&parts.view)
@@ -68,7 +68,8 @@ Recovery::Recovery(const Context &context, const Parts &parts)
     // be lost.
     m_timer.setTimerType(Qt::PreciseTimer);
     m_timer.setInterval(intervalMs);
-    m_timer.callOnTimeout(this, guarded(context.dialogs, [this](auto &&...) { update(); }));
+    connect(&m_folder, &RecoveryFolder::hasWritten, this, &Recovery::settle);
+    m_timer.callOnTimeout(this, guarded(context.dialogs, [this](auto &&...) { updateSoon(); }));
     parts.view.documents().forEach([this](Document &each) {
         connect(&each, &Document::edited, this, &Recovery::touched);
         connect(&each, &Document::replaced, this, [this](Document::How how) {
@@ -94,41 +95,88 @@ void Recovery::touched()
 
 void Recovery::update()
 {
+    settle();
+    removeUnmodified();
     for (const DocumentKind kind : bothKinds) {
-        QString &kept = m_kept[size_t(kind)];
         if (m_parts.view.documents().of(kind).isModified()) {
             keep(kind);
-        } else if (!kept.isNull()) {
-            m_folder.remove(kind);
+        }
+    }
+}
+
+void Recovery::updateSoon()
+{
+    settle();
+    removeUnmodified();
+    std::vector<RecoveredText> texts;
+    for (const DocumentKind kind : bothKinds) {
+        if (auto text =
+                m_parts.view.documents().of(kind).isModified() ? unkept(kind) : std::nullopt) {
+            texts.push_back(*std::move(text));
+        }
+    }
+    if (!texts.empty()) {
+        m_folder.writeSoon(std::move(texts));
+    }
+}
+
+void Recovery::settle()
+{
+    for (const RecoveryFolder::Written &written : m_folder.settle()) {
+        note(written);
+    }
+}
+
+void Recovery::removeUnmodified()
+{
+    for (const DocumentKind kind : bothKinds) {
+        QString &kept = m_kept[size_t(kind)];
+        if (!m_parts.view.documents().of(kind).isModified() && !kept.isNull()) {
+            m_folder.remove(recoveredKind(kind));
             kept = QString();
         }
     }
 }
 
-void Recovery::keep(DocumentKind kind)
+std::optional<RecoveredText> Recovery::unkept(DocumentKind kind) const
 {
     const Document &document = m_parts.view.documents().of(kind);
     const QString text = document.text();
-    QString &kept = m_kept[size_t(kind)];
+    const QString &kept = m_kept[size_t(kind)];
     if (!kept.isNull() && kept == text) {
-        return;
+        return std::nullopt;
     }
-    const auto written = m_folder.write({ kind, document.path(), m_context.clock.now(), text });
-    if (written) {
-        kept = text.isNull() ? u""_s : text;
+    return RecoveredText{ recoveredKind(kind), document.path(), m_context.clock.now(),
+                          text.isNull() ? u""_s : text };
+}
+
+void Recovery::keep(DocumentKind kind)
+{
+    if (auto text = unkept(kind)) {
+        auto result = m_folder.write(*text);
+        note({ *std::move(text), std::move(result) });
+    }
+}
+
+void Recovery::note(const RecoveryFolder::Written &written)
+{
+    if (written.result) {
+        m_kept[size_t(written.recovered.kind)] = written.recovered.text;
         return;
     }
     // Tries again later: the disk may have room by then, and the pilot may not press another key to
     // trigger it.
     m_timer.start();
+    const FileError &error = written.result.error();
     if (!std::exchange(m_failureTold, true)) {
-        m_context.status.setText(written.error().path + u" wasn't written, so better save often: "_s
-                                 + written.error().reason);
+        m_context.status.setText(error.path + u" wasn't written, so better save often: "_s
+                                 + error.reason);
     }
 }
 
 void Recovery::catchUp()
 {
+    settle();
     for (const DocumentKind kind : bothKinds) {
         if (!m_kept[size_t(kind)].isNull() && m_parts.view.documents().of(kind).isModified()) {
             keep(kind);
@@ -139,6 +187,8 @@ void Recovery::catchUp()
 void Recovery::finish()
 {
     m_timer.stop();
+    settle();
+    m_timer.stop();
     m_kept = {};
     m_folder.finish();
 }
@@ -148,6 +198,9 @@ void Recovery::offerLeft()
     std::array<bool, 2> taken{};
     for (LeftRecovery &left : leftRecoveries(m_context.paths.inApp(u"Recovery"))) {
         for (const LeftRecovery::File &file : left.files()) {
+            if (file.recovered.kind == RecoveredKind::Template) {
+                continue; // the Template Editor's own guard offers it
+            }
             bool &isTaken = taken[size_t(file.recovered.kind)];
             // The Editor has room for one text of each kind only; a second one goes to the backups.
             if (isOnDisk(file.recovered) || isInHand(file.recovered)
@@ -155,7 +208,21 @@ void Recovery::offerLeft()
                 left.remove(file);
             }
         }
+        tellDamaged(left);
         left.finish();
+    }
+}
+
+void Recovery::tellDamaged(const LeftRecovery &left)
+{
+    for (const QString &path : left.damaged()) {
+        m_context.dialogs.tell(
+            u"I can't read that black box"_s,
+            path
+                + u" should hold a text that you hadn't saved when we crashed, "
+                  "but it's damaged. I've left it where it is: have a look at it "
+                  "with any text editor, and delete it when you're done."_s,
+            BoxIcon::Exclamation);
     }
 }
 
@@ -163,9 +230,10 @@ void Recovery::offerLeft()
 /// left it twice.
 bool Recovery::isInHand(const RecoveredText &recovered) const
 {
-    const QString &kept = m_kept[size_t(recovered.kind)];
+    const DocumentKind kind = documentKind(recovered.kind);
+    const QString &kept = m_kept[size_t(kind)];
     return !kept.isNull() && kept == recovered.text
-        && m_parts.view.documents().of(recovered.kind).path() == recovered.path;
+        && m_parts.view.documents().of(kind).path() == recovered.path;
 }
 
 /// Shows the text if the user wants it. True when it is safely kept again, so that the old file may
@@ -173,12 +241,12 @@ bool Recovery::isInHand(const RecoveredText &recovered) const
 bool Recovery::offer(const RecoveredText &recovered, bool &taken)
 {
     if (m_context.dialogs.box(
-            offerBox(recovered, m_context.settings.of<SharedSettings>().PilotCallsign))
+            recoveryOffer(recovered, m_context.settings.of<SharedSettings>().PilotCallsign))
         != BoxButton::Yes) {
         return false;
     }
     taken = true;
-    m_parts.opening.showRecovered(recovered.kind, recovered.path, recovered.text);
+    m_parts.opening.showRecovered(documentKind(recovered.kind), recovered.path, recovered.text);
     update();
     return !m_kept[size_t(recovered.kind)].isNull();
 }

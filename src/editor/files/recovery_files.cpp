@@ -18,8 +18,10 @@ constexpr QByteArrayView kindKey = "Kind=";
 constexpr QByteArrayView pathKey = "Path=";
 constexpr QByteArrayView writtenKey = "Written=";
 constexpr QByteArrayView lengthKey = "Length=";
-constexpr QByteArrayView kindNames[] = { "Joystick", "Macro" };
-constexpr QStringView fileNames[] = { u"joystick.txt", u"macro.txt" };
+constexpr QByteArrayView kindNames[] = { "Joystick", "Macro", "Template" };
+constexpr QStringView fileNames[] = { u"joystick.txt", u"macro.txt", u"template.txt" };
+constexpr RecoveredKind allKinds[] = { RecoveredKind::Joystick, RecoveredKind::Macro,
+                                       RecoveredKind::Template };
 /// More than anybody runs at once; bounds the search for a free number.
 constexpr int mostFolders = 1000;
 
@@ -40,7 +42,7 @@ std::optional<QByteArray> takeValue(QByteArrayView &bytes, QByteArrayView key)
     return value;
 }
 
-QString fileIn(const QString &folder, DocumentKind kind)
+QString fileIn(const QString &folder, RecoveredKind kind)
 {
     return withClosingSeparator(folder) + fileNames[size_t(kind)].toString();
 }
@@ -82,7 +84,7 @@ std::optional<RecoveredText> readRecovery(const QByteArray &bytes)
     if (name == std::end(kindNames) || rest.size() != length->toLongLong()) {
         return {};
     }
-    return RecoveredText{ DocumentKind(name - std::begin(kindNames)), QString::fromUtf8(*path),
+    return RecoveredText{ RecoveredKind(name - std::begin(kindNames)), QString::fromUtf8(*path),
                           QDateTime::fromString(QString::fromLatin1(*written), Qt::ISODate),
                           QString::fromUtf8(rest) };
 }
@@ -121,7 +123,30 @@ Expected<void, FileError> RecoveryFolder::write(const RecoveredText &recovered)
     return writeFileAtomically(fileIn(m_folder, recovered.kind), recoveryBytes(recovered));
 }
 
-void RecoveryFolder::remove(DocumentKind kind)
+RecoveryFolder::~RecoveryFolder()
+{
+    settle();
+}
+
+void RecoveryFolder::writeSoon(std::vector<RecoveredText> texts)
+{
+    m_writing = std::async(std::launch::async, [this, texts = std::move(texts)]() mutable {
+        std::vector<Written> written;
+        for (RecoveredText &text : texts) {
+            auto result = write(text);
+            written.push_back({ std::move(text), std::move(result) });
+        }
+        Q_EMIT hasWritten();
+        return written;
+    });
+}
+
+std::vector<RecoveryFolder::Written> RecoveryFolder::settle()
+{
+    return m_writing.valid() ? m_writing.get() : std::vector<Written>();
+}
+
+void RecoveryFolder::remove(RecoveredKind kind)
 {
     if (!m_folder.isEmpty()) {
         QFile::remove(fileIn(m_folder, kind));
@@ -133,8 +158,9 @@ void RecoveryFolder::finish()
     if (m_folder.isEmpty()) {
         return;
     }
-    remove(DocumentKind::Joystick);
-    remove(DocumentKind::Macro);
+    for (const RecoveredKind kind : allKinds) {
+        remove(kind);
+    }
     m_lock.reset();
     removeFolder(m_folder);
     m_folder.clear();
@@ -143,11 +169,13 @@ void RecoveryFolder::finish()
 LeftRecovery::LeftRecovery(QString folder, std::unique_ptr<InstanceLock> lock)
     : m_folder(std::move(folder)), m_lock(std::move(lock))
 {
-    for (const DocumentKind kind : { DocumentKind::Joystick, DocumentKind::Macro }) {
+    for (const RecoveredKind kind : allKinds) {
         const QString path = fileIn(m_folder, kind);
         const auto bytes = readWholeFile(path);
         if (auto recovered = bytes ? readRecovery(*bytes) : std::nullopt) {
             m_files.append({ path, *std::move(recovered) });
+        } else if (QFile::exists(path)) {
+            m_damaged.append(path);
         }
     }
 }

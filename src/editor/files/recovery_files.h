@@ -10,16 +10,29 @@
 #include "platform/instance_lock.h"
 
 #include <QDateTime>
+#include <QObject>
 
+#include <future>
 #include <memory>
 #include <vector>
 
 namespace zeph {
 
-/// An unsaved text, and which document it is.
+/// What an unsaved text is: one of the documents, or the Template Editor's.
+enum class RecoveredKind { Joystick, Macro, Template };
+constexpr RecoveredKind recoveredKind(DocumentKind kind)
+{
+    return kind == DocumentKind::Macro ? RecoveredKind::Macro : RecoveredKind::Joystick;
+}
+constexpr DocumentKind documentKind(RecoveredKind kind)
+{
+    return kind == RecoveredKind::Macro ? DocumentKind::Macro : DocumentKind::Joystick;
+}
+
+/// An unsaved text, and what it is.
 struct RecoveredText {
-    DocumentKind kind = DocumentKind::Joystick;
-    QString path; ///< where the document would be saved
+    RecoveredKind kind = RecoveredKind::Joystick;
+    QString path; ///< where it would be saved
     QDateTime written; ///< to the second
     QString text;
 
@@ -34,16 +47,31 @@ std::optional<RecoveredText> readRecovery(const QByteArray &bytes);
 
 /// The recovery files of this run, in a folder of its own below the given one. The object holds a
 /// lock on that folder while it lives.
-class RecoveryFolder
+class RecoveryFolder : public QObject
 {
+    Q_OBJECT
 public:
+    struct Written {
+        RecoveredText recovered;
+        Expected<void, FileError> result;
+    };
+
     /// Creates nothing on the disk until the first write.
     explicit RecoveryFolder(const QString &parent);
+    ~RecoveryFolder() override;
 
     Expected<void, FileError> write(const RecoveredText &recovered);
-    void remove(DocumentKind kind);
+    /// Has another thread write; settle() must come before the next call of any other kind.
+    void writeSoon(std::vector<RecoveredText> texts);
+    /// Waits for what writeSoon() began, and gives it once.
+    std::vector<Written> settle();
+    void remove(RecoveredKind kind);
     /// Removes the folder with its files. Called when the program ends normally.
     void finish();
+
+Q_SIGNALS:
+    /// From the other thread: settle() does not have to wait any more.
+    void hasWritten();
 
 private:
     Expected<void, FileError> claim();
@@ -51,6 +79,7 @@ private:
     QString m_parent;
     QString m_folder;
     std::unique_ptr<InstanceLock> m_lock;
+    std::future<std::vector<Written>> m_writing;
 };
 
 /// The folder that a crashed run left. The object holds a lock on it, so that only one program
@@ -67,6 +96,8 @@ public:
         RecoveredText recovered;
     };
     const QList<File> &files() const { return m_files; }
+    /// The paths of those that are no whole recovery files, which stay.
+    const QStringList &damaged() const { return m_damaged; }
     void remove(const File &file);
     /// Removes the folder if it is empty.
     void finish();
@@ -75,6 +106,7 @@ private:
     QString m_folder;
     std::unique_ptr<InstanceLock> m_lock;
     QList<File> m_files;
+    QStringList m_damaged;
 };
 
 /// Returns what crashed runs left below the folder, the latest first.

@@ -72,6 +72,8 @@ void MacroFeatures::afterMacroReplaced(Document::How how)
         return;
     }
     m_list.ClearAllForNewMacroFile();
+    // A macro of the file before is none of this one's.
+    m_list.SelectedMacro.clear();
     if (how != Document::How::Fresh) {
         m_list.GetEachLineFromMacroFile();
         m_list.ExtractMacrosAndTitles();

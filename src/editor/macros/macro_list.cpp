@@ -165,7 +165,7 @@ void MacroList::ShowMacroKeys()
     if (!line) {
         return;
     }
-    m_context.status.setText(*line);
+    m_context.status.setKeys(*line);
     const bool macroIsSeen =
         m_parts.view.documents().selected().kind() == DocumentKind::Macro || m_parts.view.isTiled();
     if (macroIsSeen && m_parts.actions.action(u"MnuMacroSelectMacroShow")->isChecked()) {

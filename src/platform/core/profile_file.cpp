@@ -4,14 +4,17 @@
 #include "platform/core/profile_file.h"
 
 #include "platform/core/paths.h"
+#include "platform/core/profile_index.h"
 #include "platform/core/text1252.h"
 
 #include <QDeadlineTimer>
 #include <QFileInfo>
+#include <QHash>
 #include <QLockFile>
 #include <QThread>
 
 #include <algorithm>
+#include <vector>
 
 namespace zeph {
 
@@ -19,153 +22,10 @@ namespace profile {
 
 namespace {
 
-constexpr QByteArrayView byteOrderMark = "\xEF\xBB\xBF";
-
-/// Offsets into the file: [start, end) is the line, next the start of the line after it.
-struct ProfileLine {
-    qsizetype start = 0;
-    qsizetype end = 0;
-    qsizetype next = 0;
-};
-
-/// Walks the lines of a file. All three kinds of line ends count, also mixed in one file.
-class Lines
-{
-public:
-    explicit Lines(const QByteArray &file)
-        : m_file(file), m_next(file.startsWith(byteOrderMark) ? byteOrderMark.size() : 0)
-    {
-    }
-
-    bool next(ProfileLine &line)
-    {
-        if (m_next >= m_file.size()) {
-            return false;
-        }
-        line.start = m_next;
-        const char *data = m_file.constData();
-        const char *stop = data + m_file.size();
-        const char *end =
-            std::find_if(data + m_next, stop, [](char c) { return c == '\n' || c == '\r'; });
-        line.end = end - data;
-        line.next = std::min(line.end + 1, m_file.size());
-        if (line.next < m_file.size() && data[line.end] == '\r' && data[line.next] == '\n') {
-            ++line.next;
-        }
-        m_next = line.next;
-        return true;
-    }
-
-private:
-    const QByteArray &m_file;
-    qsizetype m_next;
-};
-
-bool isBlank(char c)
-{
-    return c == ' ' || c == '\t';
-}
-
-QByteArrayView withoutBlanks(QByteArrayView bytes)
-{
-    while (!bytes.isEmpty() && isBlank(bytes.front())) {
-        bytes = bytes.sliced(1);
-    }
-    while (!bytes.isEmpty() && isBlank(bytes.back())) {
-        bytes = bytes.chopped(1);
-    }
-    return bytes;
-}
-
-QStringView withoutBlanks(QStringView text)
-{
-    const auto blank = [](QChar c) {
-        return c == u' ' || c == u'\t';
-    };
-    while (!text.isEmpty() && blank(text.front())) {
-        text = text.sliced(1);
-    }
-    while (!text.isEmpty() && blank(text.back())) {
-        text = text.chopped(1);
-    }
-    return text;
-}
-
-bool isSameName(QByteArrayView bytes, QStringView name)
-{
-    return bytes.size() == name.size()
-        && fromText1252(bytes).compare(name, Qt::CaseInsensitive) == 0;
-}
-
-/// The name of a section header; no value for another line. The closing bracket may be missing.
-std::optional<QByteArrayView> sectionOf(QByteArrayView line)
-{
-    line = withoutBlanks(line);
-    if (line.isEmpty() || line.front() != '[') {
-        return std::nullopt;
-    }
-    line = line.sliced(1);
-    const qsizetype close = line.indexOf(']');
-    return withoutBlanks(close < 0 ? line : line.first(close));
-}
-
-bool isComment(QByteArrayView line)
-{
-    line = withoutBlanks(line);
-    return !line.isEmpty() && line.front() == ';';
-}
-
 bool isQuoted(QStringView value)
 {
     return value.size() >= 2 && value.front() == value.back()
         && (value.front() == u'"' || value.front() == u'\'');
-}
-
-/// Where a key is, or where it would be added.
-struct KeyPlace {
-    bool hasSection = false;
-    qsizetype sectionEnd = 0; ///< after the section's last line that is not empty
-    bool hasKey = false;
-    ProfileLine line; ///< the key's
-    qsizetype valueStart = 0; ///< after the "=" and its blanks
-    qsizetype valueEnd = 0; ///< the line's end, blanks included
-};
-
-KeyPlace placeOf(const QByteArray &file, QStringView section, QStringView key)
-{
-    KeyPlace place;
-    Lines lines(file);
-    ProfileLine line;
-    while (lines.next(line)) {
-        const QByteArrayView bytes = QByteArrayView(file).sliced(line.start, line.end - line.start);
-        if (const auto name = sectionOf(bytes)) {
-            if (place.hasSection) {
-                break;
-            }
-            if (isSameName(*name, section)) {
-                place.hasSection = true;
-                place.sectionEnd = line.next;
-            }
-            continue;
-        }
-        if (!place.hasSection || withoutBlanks(bytes).isEmpty()) {
-            continue;
-        }
-        place.sectionEnd = line.next;
-        const qsizetype equals = bytes.indexOf('=');
-        if (equals >= 0 && !isComment(bytes)
-            && isSameName(withoutBlanks(bytes.first(equals)), key)) {
-            place.hasKey = true;
-            place.line = line;
-            place.valueStart = line.start + equals + 1;
-            place.valueEnd = line.end;
-            while (place.valueStart < place.valueEnd && isBlank(file[place.valueStart])) {
-                ++place.valueStart;
-            }
-            break;
-        }
-    }
-    return place;
 }
 
 QString valueAt(const QByteArray &file, const KeyPlace &place)
@@ -179,16 +39,6 @@ QString valueAt(const QByteArray &file, const KeyPlace &place)
     }
     const QString text = fromText1252(withoutBlanks(bytes));
     return isQuoted(text) ? text.sliced(1, text.size() - 2) : text;
-}
-
-QByteArray lineEndOf(const QByteArray &file)
-{
-    Lines lines(file);
-    ProfileLine line;
-    if (!lines.next(line) || line.next == line.end) {
-        return "\r\n";
-    }
-    return file.sliced(line.end, line.next - line.end);
 }
 
 /// The part of a text that fits into one line: up to the first NUL or line end.
@@ -227,31 +77,104 @@ std::optional<QString> value(const QByteArray &file, QStringView section, QStrin
     return place.hasKey ? std::optional(valueAt(file, place)) : std::nullopt;
 }
 
+namespace {
+
+/// The bytes of one place that give way to others.
+struct ProfileEdit {
+    qsizetype at = 0;
+    qsizetype length = 0;
+    QByteArray bytes;
+    bool isLine = false; ///< begins on a line of its own
+};
+
+QString keyNameOf(const ProfileEntry &entry)
+{
+    return (withoutBlanks(entry.section).toString() + u'\n' + withoutBlanks(entry.key).toString())
+        .toCaseFolded();
+}
+
+/// Each key once, with the value that is given last.
+QList<ProfileEntry> lastValues(const QList<ProfileEntry> &entries)
+{
+    QList<ProfileEntry> last;
+    QHash<QString, qsizetype> places;
+    for (const ProfileEntry &entry : entries) {
+        if (!isSectionName(withoutBlanks(entry.section)) || !isKeyName(withoutBlanks(entry.key))) {
+            continue;
+        }
+        const auto known = places.constFind(keyNameOf(entry));
+        if (known == places.cend()) {
+            places.insert(keyNameOf(entry), last.size());
+            last.append(entry);
+        } else {
+            last[*known].value = entry.value;
+        }
+    }
+    return last;
+}
+
+QByteArray applied(const QByteArray &file, const std::vector<ProfileEdit> &edits,
+                   const QByteArray &lineEnd)
+{
+    QByteArray result;
+    result.reserve(file.size() + 1024);
+    qsizetype done = 0;
+    for (const ProfileEdit &edit : edits) {
+        result.append(QByteArrayView(file).sliced(done, edit.at - done));
+        const bool isOnNewLine = result.isEmpty() || result.endsWith('\n') || result.endsWith('\r')
+            || QByteArrayView(result) == byteOrderMark;
+        if (edit.isLine && !isOnNewLine) {
+            result.append(lineEnd);
+        }
+        result.append(edit.bytes);
+        done = edit.at + edit.length;
+    }
+    return result.append(QByteArrayView(file).sliced(done));
+}
+
+} // namespace
+
+QByteArray withValues(const QByteArray &file, const QList<ProfileEntry> &entries)
+{
+    std::vector<ProfileEdit> edits;
+    std::vector<std::pair<QString, ProfileEdit>> newSections;
+    const QByteArray lineEnd = lineEndOf(file);
+    for (const ProfileEntry &entry : lastValues(entries)) {
+        const QStringView section = withoutBlanks(entry.section);
+        const QStringView key = withoutBlanks(entry.key);
+        const QStringView text = oneLine(entry.value);
+        const KeyPlace place = placeOf(file, section, key);
+        const QByteArray line = toText1252(key) + '=' + written(text) + lineEnd;
+        if (place.hasKey) {
+            if (valueAt(file, place) != text) {
+                edits.push_back(
+                    { place.valueStart, place.valueEnd - place.valueStart, written(text) });
+            }
+        } else if (place.hasSection) {
+            edits.push_back({ place.sectionEnd, 0, line, true });
+        } else {
+            auto known = std::ranges::find_if(newSections, [section](const auto &each) {
+                return section.compare(each.first, Qt::CaseInsensitive) == 0;
+            });
+            if (known == newSections.end()) {
+                known = newSections.insert(
+                    known,
+                    { section.toString(),
+                      { file.size(), 0, '[' + toText1252(section) + ']' + lineEnd, true } });
+            }
+            known->second.bytes += line;
+        }
+    }
+    for (auto &[name, edit] : newSections) {
+        edits.push_back(std::move(edit));
+    }
+    std::ranges::stable_sort(edits, {}, &ProfileEdit::at);
+    return edits.empty() ? file : applied(file, edits, lineEnd);
+}
+
 QByteArray withValue(const QByteArray &file, const ProfileEntry &entry)
 {
-    const QStringView section = withoutBlanks(entry.section);
-    const QStringView key = withoutBlanks(entry.key);
-    if (!isSectionName(section) || !isKeyName(key)) {
-        return file;
-    }
-    const QStringView text = oneLine(entry.value);
-    const KeyPlace place = placeOf(file, section, key);
-    QByteArray result = file;
-    if (place.hasKey) {
-        if (valueAt(file, place) != text) {
-            result.replace(place.valueStart, place.valueEnd - place.valueStart, written(text));
-        }
-        return result;
-    }
-    const QByteArray lineEnd = lineEndOf(file);
-    QByteArray added = toText1252(key) + '=' + written(text) + lineEnd;
-    if (!place.hasSection) {
-        added.prepend('[' + toText1252(section) + ']' + lineEnd);
-    }
-    const qsizetype at = place.hasSection ? place.sectionEnd : file.size();
-    const bool onNewLine = at == 0 || file[at - 1] == '\n' || file[at - 1] == '\r'
-        || (at == byteOrderMark.size() && file.startsWith(byteOrderMark));
-    return result.insert(at, onNewLine ? added : lineEnd + added);
+    return withValues(file, { entry });
 }
 
 QByteArray withoutKeys(QByteArray file, QStringView section, const QStringList &keys)
@@ -371,14 +294,10 @@ Expected<void, FileError> ProfileFile::write(const QList<ProfileEntry> &entries)
     if (entries.isEmpty()) {
         return {};
     }
-    const auto done = change([&entries](QByteArray file) {
-        for (const ProfileEntry &entry : entries) {
-            if (firstNot1252(entry.value) < 0) {
-                file = profile::withValue(file, entry);
-            }
-        }
-        return file;
-    });
+    QList<ProfileEntry> writable = entries;
+    writable.removeIf([](const ProfileEntry &entry) { return firstNot1252(entry.value) >= 0; });
+    const auto done =
+        change([&writable](const QByteArray &file) { return profile::withValues(file, writable); });
     if (!done) {
         return done;
     }

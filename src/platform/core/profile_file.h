@@ -37,6 +37,8 @@ std::optional<QString> value(const QByteArray &file, QStringView section, QStrin
 /// The file with that value set: the key's line replaced, or added at its section's end, or the
 /// section added at the file's end.
 QByteArray withValue(const QByteArray &file, const ProfileEntry &entry);
+/// The same with many values, of which the last one given to a key counts.
+QByteArray withValues(const QByteArray &file, const QList<ProfileEntry> &entries);
 
 /// A value as a number: sign and leading decimal digits; no digits give 0, an empty value gives
 /// the default; 32 bits, wrapped as the platform's call wraps.

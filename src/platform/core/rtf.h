@@ -51,6 +51,8 @@ Q_DECLARE_OPERATORS_FOR_FLAGS(RtfLosses)
 struct RtfReading {
     RichText text;
     RtfLosses losses;
+    /// The look of the file's first style, which is that of its plain text; none without styles.
+    std::optional<CharFormat> plain;
 };
 
 /// readRtf() for a file that may be written again: tells what of it the text does not hold. The
@@ -70,6 +72,8 @@ public:
     RtfWriter();
     ~RtfWriter();
 
+    /// Names the look of plain text as the file's only style.
+    void setPlain(const CharFormat &plain);
     void add(const RichText &piece);
     /// The file; the object is empty afterwards.
     QByteArray take();

@@ -127,7 +127,8 @@ Expected<RtfReading, RtfError> Reader::read(const std::function<bool(qsizetype)>
                 return Unexpected<RtfError>(
                     error("A group is closed that was not opened.", m_lexer));
             }
-            return RtfReading{ finish(), m_losses };
+            const auto plain = m_firstStyle ? std::optional(formatOf(*m_firstStyle)) : std::nullopt;
+            return RtfReading{ finish(), m_losses, plain };
         default:
             handle(token);
             break;
@@ -295,6 +296,10 @@ void Reader::putText(std::string_view bytes)
     case Destination::Colours:
         m_colours.put(bytes);
         return;
+    case Destination::Styles:
+        // The style's name, which comes after its look.
+        m_firstStyle = m_firstStyle.value_or(state().look);
+        return;
     default:
         break;
     }
@@ -320,7 +325,8 @@ void Reader::putByte(int byte)
         endParagraph(0, {});
     } else if (const HighHalf *const high = highHalf()) {
         putCharacter(byte < 0x80 ? byte : (*high)[size_t(byte) - 0x80], {});
-    } else if (state().destination != Destination::Skipped) {
+    } else if (state().destination != Destination::Skipped
+               && state().destination != Destination::Styles) {
         m_bytes.append(char(byte));
     }
 }

@@ -19,6 +19,7 @@ enum class Destination : quint8 {
     Document,
     Fonts,
     Colours,
+    Styles,
     Marker,
     BulletForm,
     Instruction, ///< what a field shows
@@ -131,6 +132,7 @@ private:
     QStringList m_links;
     RtfLosses m_losses;
 
+    std::optional<Look> m_firstStyle;
     Look m_runLook; ///< of the last run
     const HighHalf *m_highHalf = nullptr;
     int m_highHalfOf = 0;

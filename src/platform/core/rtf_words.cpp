@@ -153,7 +153,7 @@ constexpr Word words[] = {
     lost("sl", RtfLoss::ParagraphLayout, singleSpacing),
     { "strike", &Reader::setStyle, int(Style::Strike) },
     { "striked", &Reader::setStyle, int(Style::Strike), false, RtfLoss::Effects },
-    skipped("stylesheet"),
+    destination("stylesheet", Destination::Styles),
     lost("sub", RtfLoss::Effects),
     lost("super", RtfLoss::Effects),
     character("tab", u'\t'),

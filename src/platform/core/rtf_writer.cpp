@@ -122,6 +122,11 @@ int halfPointsOf(double pointSize)
 class RtfWriter::Body
 {
 public:
+    void setPlain(const CharFormat &plain)
+    {
+        m_plain = plain;
+        m_plain->colour.reset();
+    }
     void add(const RichText &piece);
     QByteArray take();
 
@@ -140,6 +145,7 @@ private:
     int fontOf(const QString &family);
     int colourOf(std::optional<ColorRef> colour);
 
+    std::optional<CharFormat> m_plain;
     std::vector<ParagraphRun> m_paragraphs; ///< of the piece
     Sink m_body;
     Look m_look;
@@ -419,6 +425,7 @@ QByteArray RtfWriter::Body::withHeader()
 {
     // No default font is named: text without one is to look as the reader's control has it.
     Sink file;
+    const Look plain = m_plain ? lookOf(*m_plain) : Look();
     file.ensure(bytesPerChange);
     file.put("{\\rtf1\\ansi\\ansicpg1252\\uc1");
     if (!m_families.empty()) {
@@ -441,6 +448,17 @@ QByteArray RtfWriter::Body::withHeader()
         file.put(';');
     }
     file.put("}\r\n");
+    if (m_plain) {
+        file.ensure(bytesPerChange);
+        file.put("{\\stylesheet{");
+        if (plain.font > 0) {
+            file.put("\\f", plain.font);
+        }
+        if (plain.halfPoints > 0) {
+            file.put("\\fs", plain.halfPoints);
+        }
+        file.put(plain.bold ? "\\b Normal;}}\r\n" : " Normal;}}\r\n");
+    }
     file.ensure(qsizetype(m_body.written().size()));
     file.put(m_body.written());
     return file.take();
@@ -449,6 +467,11 @@ QByteArray RtfWriter::Body::withHeader()
 RtfWriter::RtfWriter() : m_body(std::make_unique<Body>()) { }
 
 RtfWriter::~RtfWriter() = default;
+
+void RtfWriter::setPlain(const CharFormat &plain)
+{
+    m_body->setPlain(plain);
+}
 
 void RtfWriter::add(const RichText &piece)
 {

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "platform/core/paths.h"
 #include "platform/process_launcher.h"
 
 #include <QList>
@@ -21,6 +22,11 @@ public:
     /// Called at each start; its answer is given back. Success when not set.
     std::function<Expected<void, QString>(const Launch &)> onStart;
 
+    /// Paths are looked up on the disk; names alone are there.
+    bool finds(const QString &program) const override
+    {
+        return nameOf(program) == program || fileExists(program);
+    }
     Expected<void, QString> start(const Launch &launch) override
     {
         launches.append(launch);

@@ -75,6 +75,9 @@ QStringList ScriptedDialogs::unexpected() const
 BoxButton ScriptedDialogs::box(const Box &box)
 {
     m_boxes.append(box);
+    if (box.ticked) {
+        box.ticked(tick);
+    }
     if (!box.buttons.contains(box.defaultButton)) {
         m_unexpected.append(
             u"box \"%1\" has a default button that it does not show"_s.arg(box.title));

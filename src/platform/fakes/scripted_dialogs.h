@@ -25,6 +25,9 @@ public:
     void answerFont(std::optional<CharFormat> font);
     void answerList(std::optional<qsizetype> index);
 
+    /// The state in which every tick of a box is left.
+    bool tick = false;
+
     const QList<Box> &boxes() const { return m_boxes; }
     const QList<FileRequest> &files() const { return m_files; }
     /// Where folder dialogs started, and their titles.

@@ -4,8 +4,10 @@
 #include "toolchain/compile/after_download.h"
 
 #include "platform/core/file_io.h"
+#include "platform/core/stand_in.h"
 #include "platform/dialogs.h"
 #include "settings/settings.h"
+#include "settings/settings_files.h"
 #include "text/text_lines.h"
 #include "toolchain/toolchain_settings.h"
 
@@ -84,6 +86,31 @@ void AfterDownload::TurnNumLockOn()
         return;
     }
     started({ helper, {}, m_context.paths.appFolder, WindowStyle::NormalFocus });
+}
+
+void AfterDownload::tellStandIn()
+{
+    auto &settings = m_context.settings.of<ToolchainSettings>();
+    if (m_toldStandIn || !settings.TellStandIn || !isStandIn(m_context.paths.compiler())) {
+        return;
+    }
+    m_toldStandIn = true;
+    m_context.dialogs.box(
+        { .title = u"Nothing reached your stick"_s,
+          .text =
+              u"That was the stand-in compiler that comes with Zeph: it checks your files as the "
+              "real one does, but it drives no hardware, so nothing reached a stick. To fly with "
+              "your files, show me the folder of Thrustmaster's own software in Preferences."_s,
+          .icon = BoxIcon::Information,
+          .tick = u"Don't tell me again"_s,
+          .ticked = [&settings](bool on) {
+              settings.TellStandIn = !on;
+          } });
+    if (!settings.TellStandIn) {
+        // A store that cannot be written is not told: the choice holds for this run.
+        (void)saveSettings(m_context.settings, settingsFilesOf(m_context.paths),
+                           { &ToolchainSettings::TellStandIn });
+    }
 }
 
 void AfterDownload::GetAppsToRun(const QString &joystickText)

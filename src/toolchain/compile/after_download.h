@@ -35,10 +35,15 @@ public:
     /// switched that off. One that cannot be started is told, and the rest is left out.
     void GetAppsToRun(const QString &joystickText);
 
+    /// The first download of a run tells, in a box that can be switched off for good, that a
+    /// stand-in has sent nothing to a stick.
+    void tellStandIn();
+
 private:
     bool started(const Launch &launch);
 
     Context m_context;
+    bool m_toldStandIn = false;
 };
 
 } // namespace zeph

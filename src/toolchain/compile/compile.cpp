@@ -24,12 +24,20 @@ Compile::Compile(const Context &context, const ToolParts &parts)
 
 void Compile::mnuAppsCompile_Click()
 {
-    m_parts.handshake.commands().run(u"the compile"_s, [this] { compile(); });
+    const auto turn =
+        m_parts.handshake.commands().turn(u"the compile"_s, [this] { mnuAppsCompile_Click(); });
+    if (turn) {
+        compile();
+    }
 }
 
 void Compile::compile()
 {
     if (!canBegin() || !saveJoystick() || !macroFileMayDiffer()) {
+        return;
+    }
+    if (m_parts.documents.joystick().path().contains(u'"')) {
+        m_context.dialogs.box(quoteInNameBox(m_parts.documents.joystick().path()));
         return;
     }
     m_parts.scene.minimiseToolWindows();

@@ -55,13 +55,21 @@ Download::Download(const Context &context, const ToolParts &parts)
 
 void Download::DownloadTMJ()
 {
-    m_parts.handshake.commands().run(u"the download"_s, [this] { download(); });
+    const auto turn =
+        m_parts.handshake.commands().turn(u"the download"_s, [this] { DownloadTMJ(); });
+    if (turn) {
+        download();
+    }
 }
 
 void Download::download()
 {
     m_parts.documents.select(DocumentKind::Joystick);
     if (!canBegin() || !joystickFileMayGo() || !macroFileMayDiffer()) {
+        return;
+    }
+    if (m_parts.documents.joystick().path().contains(u'"')) {
+        m_context.dialogs.box(quoteInNameBox(m_parts.documents.joystick().path()));
         return;
     }
     const bool resetsAxes = m_context.settings.of<ToolchainSettings>().UseResetProfile;
@@ -167,6 +175,7 @@ void Download::tellOutcome(const SentFiles &sent, TextLock &lock)
 
 void Download::succeed(TextLock &lock)
 {
+    m_parts.afterDownload.tellStandIn();
     m_parts.afterDownload.GetAppsToRun(m_parts.documents.joystick().text());
     // In Windows mode the Cougar sends no keys to test.
     if (m_context.settings.of<ToolchainSettings>().RunKeyTest
@@ -180,10 +189,13 @@ void Download::succeed(TextLock &lock)
 /// Opens the Key Tester, or the tester that the user prefers.
 void Download::openKeyTester()
 {
-    m_parts.actions
-        .action(m_context.settings.of<SharedSettings>().DefaultToDX8KeyTester ? u"mnuAppsDX8_0"
-                                                                              : u"mnuAppsKeyTester")
-        ->trigger();
+    const QStringView tester = m_context.settings.of<SharedSettings>().DefaultToDX8KeyTester
+        ? u"mnuAppsDX8_0"
+        : u"mnuAppsKeyTester";
+    if (const QString lack = m_parts.actions.lackOf(tester); !lack.isEmpty()) {
+        m_context.status.setText(u' ' + lack);
+    }
+    m_parts.actions.action(tester)->trigger();
 }
 
 void Download::fail(const VerdictTelling &telling, const CompilerVerdict &verdict,

@@ -18,6 +18,7 @@
 #include "toolchain/hotas_ini.h"
 #include "toolchain/modes/cougar_modes.h"
 #include "toolchain/modes/profiles.h"
+#include "toolchain/tool_messages.h"
 #include "toolchain/tool_scene.h"
 #include "toolchain/toolchain_settings.h"
 
@@ -64,8 +65,16 @@ void GameLaunch::mnuGameArray_Click(int index)
 {
     // A launched game moves to the top of the list, so it is copied out before anything runs.
     const Game game = m_games.list().value(index - 1);
-    m_parts.handshake.commands().run(u"the launch of "_s + game.GameName,
-                                     [this, game] { launch(game); });
+    launchInTurn(game);
+}
+
+void GameLaunch::launchInTurn(const Game &game)
+{
+    const auto turn = m_parts.handshake.commands().turn(u"the launch of "_s + game.GameName,
+                                                        [this, game] { launchInTurn(game); });
+    if (turn) {
+        launch(game);
+    }
 }
 
 void GameLaunch::launch(const Game &game)
@@ -122,6 +131,10 @@ bool GameLaunch::download(const QString &wanted)
         return false;
     }
     const QString file = existingPath(wanted);
+    if (file.contains(u'"')) {
+        m_context.dialogs.box(quoteInNameBox(file));
+        return false;
+    }
     if (!resetAxes()) {
         return false;
     }
@@ -171,6 +184,7 @@ bool GameLaunch::tellVerdict(const QString &file)
         if (m_context.settings.of<ToolchainSettings>().NumlockDownloadMode) {
             m_parts.afterDownload.TurnNumLockOn();
         }
+        m_parts.afterDownload.tellStandIn();
         return true;
     }
     const Document &joystick = m_parts.documents.joystick();

@@ -22,6 +22,7 @@ public:
     void mnuGameArray_Click(int index);
 
 private:
+    void launchInTurn(const Game &game);
     void launch(const Game &game);
     void saveChanged();
     /// Brings the Cougar into the game's mode. False ends the launch: the compiler reported an

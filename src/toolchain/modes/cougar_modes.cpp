@@ -100,12 +100,13 @@ bool CougarModes::changeWholeMode(bool programmed)
 void CougarModes::mnuAxesModeArray_Click(int index)
 {
     const bool windows = index == 0;
-    m_handshake.commands().run(
-        windows ? u"the change to Windows axes"_s : u"the change to user defined axes"_s,
-        [this, windows] {
-            waitedRequest(windows ? ConfigCommand::AxesWindows : ConfigCommand::AxesUserDefined,
-                          u" Changing axis mode - hold on this may take some time ..."_s);
-        });
+    const auto turn = m_handshake.commands().turn(windows ? u"the change to Windows axes"_s
+                                                          : u"the change to user defined axes"_s,
+                                                  [this, index] { mnuAxesModeArray_Click(index); });
+    if (turn) {
+        waitedRequest(windows ? ConfigCommand::AxesWindows : ConfigCommand::AxesUserDefined,
+                      u" Changing axis mode - hold on this may take some time ..."_s);
+    }
 }
 
 /// False when the program ends meanwhile.
@@ -188,7 +189,11 @@ void CougarModes::UpdateStatusTooltip()
 void CougarModes::panelClicked(Qt::MouseButton button)
 {
     if (button == Qt::LeftButton && m_context.settings.of<ToolchainSettings>().PureWindows) {
-        m_handshake.commands().run(u"the change of the mode"_s, [this] { leftClick(); });
+        const auto turn = m_handshake.commands().turn(u"the change of the mode"_s,
+                                                      [this, button] { panelClicked(button); });
+        if (turn) {
+            leftClick();
+        }
     } else if (button == Qt::LeftButton) {
         leftClick();
     } else if (button == Qt::RightButton) {

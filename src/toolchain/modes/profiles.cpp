@@ -103,11 +103,15 @@ bool Profiles::ApplyDefaultProfile(const QString &name, CalibrationRequest calib
     return true;
 }
 
-/// Looks for the profile in the tools' folder and tells the user when it is missing. True when it
-/// is there.
+/// Looks for the profile in the tools' folder and tells the user when it is missing, or when no
+/// tool could be told its name. True when it can be sent.
 bool Profiles::isThere(const QString &name)
 {
     if (fileExists(profilesFolder(m_context.paths) + name + profileExtension.toString())) {
+        if (name.contains(u'"')) {
+            m_context.dialogs.box(quoteInNameBox(name));
+            return false;
+        }
         return true;
     }
     const bool isStored =

@@ -3,6 +3,7 @@
 
 #include "editor/files/file_opening.h"
 
+#include "editor/files/file_saving.h"
 #include "editor/files/use_directives.h"
 #include "menus/menu_actions.h"
 #include "platform/core/rtf.h"
@@ -104,6 +105,41 @@ TEST_F(FileOpeningTest, AnEqualColouredCopyBringsItsColours)
     colouredCopy(u"a.tmj"_s, u"BTN S1 a\n"_s, 0x0000FF);
     opening().mnuFileJoystickLoad_Click(file(u"a.tmj"_s, "BTN S1 a\r\n"));
     EXPECT_EQ(colourAt(DocumentKind::Joystick, 0), 0x0000FFU);
+}
+
+TEST_F(FileOpeningTest, AStylesFontSizeAndBoldComeBackAndPlainTextTakesTodaysFont)
+{
+    const QString path = file(u"a.tmj"_s, "BTN S1 a");
+    opening().mnuFileJoystickLoad_Click(path);
+    editor->joystick().changeLooks(0, 6, [](CharFormat &look) {
+        look = { .family = u"Courier"_s, .pointSize = 20, .bold = true, .colour = ColorRef(255) };
+    });
+    editor->saving().mnuFileSave_Click();
+    settings.of<ColourSettings>().TextFontName = u"Times"_s;
+    settings.of<ColourSettings>().TextFontSize = 12;
+    makeEditor();
+    opening().mnuFileJoystickLoad_Click(path);
+    const RichText shown = editor->joystick().richText();
+    EXPECT_EQ(
+        shown.formatAt(0),
+        (CharFormat{
+            .family = u"Courier"_s, .pointSize = 20, .bold = true, .colour = ColorRef(255) }));
+    EXPECT_EQ(shown.formatAt(7).family, u"Times");
+    EXPECT_EQ(shown.formatAt(7).pointSize, 12);
+    EXPECT_FALSE(shown.formatAt(7).bold);
+}
+
+TEST_F(FileOpeningTest, InACopyWithoutStylesMostOfTheTextIsPlain)
+{
+    RichText text =
+        RichText::plain(u"BTN S1 a\n"_s, { .family = u"Other"_s, .pointSize = 9, .colour = 0U });
+    text.change(0, 3, [](CharFormat &look) { look.pointSize = 30; });
+    folder.write(u"Rtf/a.tmj"_s, writeRtf(text));
+    opening().mnuFileJoystickLoad_Click(file(u"a.tmj"_s, "BTN S1 a\r\n"));
+    const RichText shown = editor->joystick().richText();
+    EXPECT_EQ(shown.formatAt(0).pointSize, 30);
+    EXPECT_EQ(shown.formatAt(5).family, u"Arial");
+    EXPECT_EQ(shown.formatAt(5).pointSize, 8);
 }
 
 TEST_F(FileOpeningTest, ACopyThatDiffersByOneCharacterIsDroppedAndReplaced)

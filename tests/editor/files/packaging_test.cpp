@@ -197,7 +197,7 @@ TEST_F(PackagingTest, PathsWithBlanksAreQuotedForTheArchiver)
               QDir::toNativeSeparators(
                   u"-min -a \"/a b/Distribute/x/x.zip\" \"/a b/Distribute/x/*.*\""_s));
     EXPECT_EQ(winZipOpenArguments(u"/a/their.zip"_s, u"/a b/Files/"_s),
-              QDir::toNativeSeparators(u"-min -e /a/their.zip \"/a b/Files/\""_s));
+              QDir::toNativeSeparators(u"-min -e /a/their.zip \"/a b/Files\""_s));
 }
 
 TEST_F(PackagingTest, AFileThatIsGoneIsToldAndNothingIsMade)

@@ -55,7 +55,7 @@ protected:
     {
         const QString name = kind == DocumentKind::Joystick ? u"joystick.txt"_s : u"macro.txt"_s;
         return folder.write(u"Recovery/%1/"_s.arg(number) + name,
-                            recoveryBytes({ kind, path, clock.now(), text }));
+                            recoveryBytes({ recoveredKind(kind), path, clock.now(), text }));
     }
 };
 
@@ -63,7 +63,7 @@ protected:
 
 TEST(RecoveryFiles, WhatIsWrittenIsRead)
 {
-    const RecoveredText text{ DocumentKind::Macro, u"C:/F\u00FCnf/a.tmm"_s,
+    const RecoveredText text{ RecoveredKind::Macro, u"C:/F\u00FCnf/a.tmm"_s,
                               QDateTime(QDate(2024, 3, 5), QTime(9, 7, 30)),
                               u"m = \u03A9\n\n~ Kind=Joystick\n"_s };
     EXPECT_EQ(readRecovery(recoveryBytes(text)), text);
@@ -72,7 +72,7 @@ TEST(RecoveryFiles, WhatIsWrittenIsRead)
 TEST(RecoveryFiles, WhatIsTornOrForeignIsNoRecoveryFile)
 {
     const QByteArray whole =
-        recoveryBytes({ DocumentKind::Joystick, u"a.tmj"_s, QDateTime(), u"BTN S1 a"_s });
+        recoveryBytes({ RecoveredKind::Joystick, u"a.tmj"_s, QDateTime(), u"BTN S1 a"_s });
     for (qsizetype length = 0; length < whole.size(); ++length) {
         EXPECT_FALSE(readRecovery(whole.first(length))) << length;
     }
@@ -89,7 +89,7 @@ TEST_F(RecoveryTest, UnsavedTextsAreOnTheDiskAndSavedOnesAreNot)
     type(DocumentKind::Joystick, u"\u03A9x"_s);
     recovery().update();
     EXPECT_EQ(kept(u"1/joystick.txt"_s),
-              (RecoveredText{ DocumentKind::Joystick, path, clock.now(), u"\u03A9xBTN S1 a"_s }));
+              (RecoveredText{ RecoveredKind::Joystick, path, clock.now(), u"\u03A9xBTN S1 a"_s }));
     EXPECT_FALSE(QFile::exists(parent() + u"/1/macro.txt"_s));
     rewrite(0, 1, u""_s);
     editor->saving().mnuFileSave_Click();
@@ -217,11 +217,11 @@ TEST_F(RecoveryTest, WhereNothingCanBeWrittenItIsToldOnce)
     EXPECT_EQ(status.text(), u"other");
 }
 
-TEST_F(RecoveryTest, ItComesFiveSecondsAfterTheFirstUnkeptKeyToTheMillisecond)
+TEST_F(RecoveryTest, ItComesThreeSecondsAfterTheFirstUnkeptKeyToTheMillisecond)
 {
     const auto *timer = editor->findChild<QTimer *>(u"RecoveryTimer"_s);
     ASSERT_TRUE(timer);
-    EXPECT_EQ(timer->interval(), 5000);
+    EXPECT_EQ(timer->interval(), 3000);
     EXPECT_EQ(timer->timerType(), Qt::PreciseTimer);
     EXPECT_FALSE(timer->isActive());
     type(DocumentKind::Joystick, u"x"_s);
@@ -306,4 +306,49 @@ TEST_F(RecoveryTest, ThePartOfATornWriteDoesNotKeepTheFolder)
     recovery().offerLeft();
     EXPECT_TRUE(dialogs.boxes().isEmpty());
     EXPECT_FALSE(QFile::exists(parent()));
+}
+
+TEST_F(RecoveryTest, TheTimersWriteDoesNotHoldTheEditorUp)
+{
+    // Long enough to be told from a write that is waited for.
+    const QString line = u"BTN S1 /I Radar_Mode /O Missile_Mode Rem a line\n"_s;
+    type(DocumentKind::Joystick, line.repeated(200'000));
+    recovery().updateSoon();
+    EXPECT_FALSE(folder.exists(u"Recovery/1/joystick.txt"_s));
+    // What follows waits for it.
+    recovery().update();
+    EXPECT_EQ(kept(u"1/joystick.txt"_s)->text, editor->joystickText());
+}
+
+TEST_F(RecoveryTest, AWriteUnderWayIsOverBeforeTheFileGoes)
+{
+    open(u"a.tmj"_s, "BTN S1 a");
+    type(DocumentKind::Joystick, u"x"_s);
+    recovery().updateSoon();
+    editor->saving().mnuFileSave_Click();
+    EXPECT_FALSE(QFile::exists(parent() + u"/1/joystick.txt"_s));
+}
+
+TEST_F(RecoveryTest, AFailureOfTheOtherThreadIsToldAndTriedAgain)
+{
+    folder.write(u"Recovery"_s, "a file where the folder should be");
+    type(DocumentKind::Joystick, u"x"_s);
+    auto *timer = editor->findChild<QTimer *>(u"RecoveryTimer"_s);
+    timer->stop();
+    recovery().updateSoon();
+    recovery().catchUp();
+    EXPECT_TRUE(status.text().contains(u"better save often"_s)) << status.text().toStdString();
+    EXPECT_TRUE(timer->isActive());
+}
+
+TEST_F(RecoveryTest, ADamagedFileIsToldWithItsPathAndStays)
+{
+    const QString path = leave(DocumentKind::Joystick, file(u"a.tmj"_s, "a"), u"text"_s);
+    const QByteArray damaged = folder.read(u"Recovery/7/joystick.txt"_s).chopped(2);
+    folder.write(u"Recovery/7/joystick.txt"_s, damaged);
+    dialogs.answer(u"I can't read that black box"_s, BoxButton::Ok);
+    recovery().offerLeft();
+    ASSERT_EQ(dialogs.boxes().size(), 1);
+    EXPECT_TRUE(dialogs.boxes()[0].text.contains(path));
+    EXPECT_EQ(folder.read(u"Recovery/7/joystick.txt"_s), damaged);
 }

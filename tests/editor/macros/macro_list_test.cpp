@@ -227,6 +227,23 @@ TEST_F(MacroListTest, AFreshMacroFileEmptiesTheList)
     EXPECT_EQ(status.textTooltip(), u"No macro file analysed");
 }
 
+TEST_F(MacroListTest, NoMacroIsChosenInAFreshMacroFile)
+{
+    openMacros();
+    macroList().SelectedMacro = u"Fire"_s;
+    editor->fresh().mnuFileNewMacro_Click();
+    EXPECT_EQ(macroList().SelectedMacro, QString());
+}
+
+TEST_F(MacroListTest, AMacrosKeysStayOnThePanelWhenTheTabIsChanged)
+{
+    openMacros();
+    macroList().SelectedMacro = u"Fire"_s;
+    macroList().ShowMacroKeys();
+    editor->documents().select(DocumentKind::Joystick);
+    EXPECT_EQ(status.text(), u"Fire = SPC");
+}
+
 TEST_F(MacroListTest, AHeadingShowsItsMacrosAndTheKeysOfTheFirst)
 {
     openMacros();

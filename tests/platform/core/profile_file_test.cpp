@@ -13,6 +13,8 @@
 #include <QSysInfo>
 #include <QThread>
 
+#include <ctime>
+
 using namespace zeph;
 using test::TempFolder;
 
@@ -317,6 +319,61 @@ TEST(ProfileFile, AFolderInItsPlaceIsNotReplaced)
     const ProfileFile file(folder.file(u"Zeph.ini"_s));
     EXPECT_EQ(file.text(u"A", u"x", u"default"_s), u"default"_s);
     EXPECT_FALSE(file.write({ u"A"_s, u"x"_s, u"2"_s }));
+}
+
+TEST(ProfileSet, ManyValuesAtOnceAreWhatOneAfterTheOtherGives)
+{
+    const QByteArray files[] = { "",
+                                 "x",
+                                 "[A]",
+                                 "[A]\nx=1",
+                                 "\xEF\xBB\xBF",
+                                 "[A]\r\nx=1\r\n\r\n[B]\r\ny=2\r\n[a]\r\nz=3\r\n",
+                                 "[B]\n\n\n",
+                                 "[A]\nx = ' q'\n;y=1\n[B]" };
+    const QList<ProfileEntry> entries = {
+        { u"B"_s, u"y"_s, u"new"_s },    { u"A"_s, u"X"_s, u"other"_s },
+        { u"A"_s, u"added"_s, u"1"_s },  { u"C"_s, u"first"_s, u"1"_s },
+        { u"a"_s, u"also"_s, u" 2 "_s }, { u"c"_s, u"second"_s, u"2"_s },
+        { u"A"_s, u"x"_s, u"last"_s },   { u"A"_s, u"no=key"_s, u"1"_s },
+    };
+    for (const QByteArray &file : files) {
+        QByteArray oneByOne = file;
+        for (const ProfileEntry &entry : entries) {
+            oneByOne = profile::withValue(oneByOne, entry);
+        }
+        EXPECT_EQ(profile::withValues(file, entries), oneByOne) << file.toStdString();
+    }
+}
+
+TEST(ProfileFile, HugeFilesAreReadAndWrittenInTimeThatGrowsWithTheirLength)
+{
+    const TempFolder folder;
+    const QByteArray middles[] = { QByteArray(10'000'000, '\n'),
+                                   QByteArray("a=b\n").repeated(2'500'000),
+                                   QByteArray("[x]\n").repeated(2'500'000),
+                                   QByteArray(10'000'000, 'x') };
+    for (const QByteArray &middle : middles) {
+        const ProfileFile file(
+            folder.write(u"huge.ini"_s, "[First]\nkey0=1\n" + middle + "\n[Last]\nkey0=2\n"));
+        QList<ProfileEntry> entries;
+        for (int i = 0; i < 300; ++i) {
+            entries.append({ u"Last"_s, u"key"_s + QString::number(i), QString::number(i) });
+        }
+        const std::clock_t start = std::clock();
+        ASSERT_TRUE(file.write(entries));
+        const QByteArray bytes = *file.bytes();
+        for (int i = 0; i < 300; ++i) {
+            const QString key = u"key"_s + QString::number(i);
+            EXPECT_EQ(profile::value(bytes, u"Last", key), QString::number(i));
+        }
+        for (int i = 0; i < 30; ++i) {
+            EXPECT_EQ(file.integer(u"First", u"key0", 0), 1);
+        }
+        // A walk through the file for each key took twenty times as long.
+        EXPECT_LT(double(std::clock() - start) / CLOCKS_PER_SEC, 3)
+            << middle.first(4).toStdString();
+    }
 }
 
 TEST(ProfileFile, ChangesOfManyProgramsAtOnceAreAllKept)

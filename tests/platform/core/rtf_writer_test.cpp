@@ -187,3 +187,19 @@ TEST(RtfIdentity, LargeTextsOfOneRunComeBack)
     }
     EXPECT_TRUE(writtenAndRead(RichText::plain(text)).text == text);
 }
+
+TEST(RtfWriter, NamesThePlainTextsLookWhereItIsGiven)
+{
+    const CharFormat plain = {
+        .family = u"Courier New"_s, .pointSize = 9.5, .bold = true, .colour = {}
+    };
+    RtfWriter writer;
+    writer.setPlain(plain);
+    writer.add(RichText::plain(u"a"_s, { .family = u"Arial"_s, .pointSize = 20, .colour = {} }));
+    const auto read = readRtfWithLosses(writer.take());
+    ASSERT_TRUE(read);
+    EXPECT_EQ(read->plain, plain);
+    EXPECT_EQ(read->text.text, u"a");
+    EXPECT_EQ(read->text.formatAt(0).pointSize, 20);
+    EXPECT_FALSE(readRtfWithLosses(writeRtf(RichText::plain(u"a"_s)))->plain);
+}

@@ -3,6 +3,7 @@
 
 #include "toolchain/compile/after_download.h"
 
+#include "platform/core/stand_in.h"
 #include "tests/support/toolchain_bench.h"
 #include "toolchain/toolchain_settings.h"
 
@@ -131,4 +132,36 @@ TEST_F(AfterDownloadTest, ANumLockHelperThatDoesNotStartIsToldWithTheReason)
     after.TurnNumLockOn();
     ASSERT_EQ(dialogs.boxes().size(), 1);
     EXPECT_TRUE(dialogs.boxes()[0].text.endsWith(u"ZephNUMLon.exe: Permission denied"));
+}
+
+TEST_F(AfterDownloadTest, TheFirstDownloadByAStandInTellsThatNothingReachedAStick)
+{
+    folder.write(u"HOTASCompiler.exe"_s, standInMark);
+    const QString title = u"Nothing reached your stick"_s;
+    dialogs.answer(title, BoxButton::Ok);
+    after.tellStandIn();
+    after.tellStandIn();
+    ASSERT_EQ(dialogs.boxes().size(), 1);
+    EXPECT_EQ(dialogs.boxes()[0].title, title);
+    EXPECT_FALSE(dialogs.boxes()[0].tick.isEmpty());
+    EXPECT_TRUE(settings.of<ToolchainSettings>().TellStandIn) << "the next run tells it again";
+}
+
+TEST_F(AfterDownloadTest, TheTickKeepsItFromBeingToldAgain)
+{
+    paths.iniPath = folder.file(u"Zeph.ini"_s);
+    folder.write(u"HOTASCompiler.exe"_s, standInMark);
+    dialogs.tick = true;
+    dialogs.answer(u"Nothing reached your stick"_s, BoxButton::Ok);
+    after.tellStandIn();
+    EXPECT_FALSE(settings.of<ToolchainSettings>().TellStandIn);
+    AfterDownload(context).tellStandIn();
+    EXPECT_EQ(dialogs.boxes().size(), 1);
+}
+
+TEST_F(AfterDownloadTest, ARealCompilerIsNoStandIn)
+{
+    folder.write(u"HOTASCompiler.exe"_s, "a real tool");
+    after.tellStandIn();
+    EXPECT_TRUE(dialogs.boxes().isEmpty());
 }

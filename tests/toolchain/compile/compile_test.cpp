@@ -269,6 +269,15 @@ TEST_F(CompileTest, AnErrorIsAboutTheFilesThatWereOpenAtTheStart)
     EXPECT_EQ(scene.shown.file().name, u"a.tmm");
 }
 
+TEST_F(CompileTest, ANameWithADoubleQuoteIsToldSinceACommandLineLosesIt)
+{
+    joystick.rename(folder.write(u"My \"best\".tmj"_s, "x"));
+    dialogs.answer(u"That name has a quote in it"_s, BoxButton::Ok);
+    compile();
+    EXPECT_TRUE(dialogs.boxes()[0].text.contains(joystick.path()));
+    EXPECT_TRUE(launcher.launches.isEmpty());
+}
+
 TEST_F(CompileTest, ASecondCompileDuringTheFirstIsDropped)
 {
     settings.of<ToolchainSettings>().HOTASStatusBarErrors = true;

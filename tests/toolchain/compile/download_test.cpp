@@ -397,6 +397,27 @@ TEST_F(DownloadTest, ACompileDuringADownloadRunsAfterItWithAVerdictOfItsOwn)
                             u"minimise tools"_s, compilerStarts, focus }));
 }
 
+TEST_F(DownloadTest, ANameWithADoubleQuoteIsToldSinceACommandLineLosesIt)
+{
+    joystick.rename(folder.write(u"My \"best\".tmj"_s, "x"));
+    dialogs.answer(u"That name has a quote in it"_s, BoxButton::Ok);
+    download();
+    EXPECT_TRUE(launcher.launches.isEmpty());
+    EXPECT_FALSE(joystick.isLocked());
+}
+
+TEST_F(DownloadTest, AProfilesNameWithADoubleQuoteIsToldAndTheDownloadGoesOn)
+{
+    settings.of<ToolchainSettings>().UseResetProfile = true;
+    settings.of<ToolchainSettings>().ResetProfile = u"a\"b"_s;
+    folder.write(u"Profiles/a\"b.tmc"_s, "x");
+    dialogs.answer(u"That name has a quote in it"_s, BoxButton::Ok);
+    dialogs.answer(success, BoxButton::Ok);
+    download();
+    EXPECT_EQ(done.count(configStarts), 0);
+    EXPECT_EQ(done.count(compilerStarts), 1);
+}
+
 TEST_F(DownloadTest, AnErrorIsAboutTheFilesThatWereSentWhateverIsOpenByThen)
 {
     const SentFiles sent = sentFiles(documents);
