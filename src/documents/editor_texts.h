@@ -32,6 +32,9 @@ QString tabStatus(const QString &current, const QString &caption, bool isProtect
 /// Tooltip of the picture that shows whether a document is saved.
 QString savedTooltip(const Document &document);
 
+/// What an empty document shows in place of a text: the first things that a new pilot may do.
+QString firstThings(DocumentKind kind);
+
 // What the settings say of the documents' looks.
 
 struct ColourSettings;

@@ -18,9 +18,15 @@
 #include <QTabBar>
 #include <QVBoxLayout>
 
+#include <cmath>
+
 namespace zeph {
 
 namespace {
+
+constexpr double zoomStep = 1.1;
+constexpr int smallestZoom = -7;
+constexpr int largestZoom = 20;
 
 /// A tab's picture with a dot in its corner, which says that the document has changed.
 QIcon withDot(const QIcon &icon, const QTabBar &tabs)
@@ -96,6 +102,8 @@ void EditorView::makeControl(Document &document, const QString &name)
             [this, control, kind](const QPoint &at) {
                 Q_EMIT popUpWanted(kind, control->viewport()->mapToGlobal(at));
             });
+    control->setPlaceholderText(firstThings(kind));
+    connect(control, &TextControl::zoomWanted, this, &EditorView::zoom);
     connect(control, &TextControl::focused, this, [this, kind] { m_documents.select(kind); });
     connectDocument(document);
 }
@@ -228,6 +236,16 @@ void EditorView::watch(QObject &filter)
 void EditorView::ResetFocusToEditor()
 {
     selectedControl().takeFocus();
+}
+
+void EditorView::zoom(int steps)
+{
+    m_zoom = steps == 0 ? 0 : std::clamp(m_zoom + steps, smallestZoom, largestZoom);
+    const double factor = std::pow(zoomStep, m_zoom);
+    for (TextControl *control : m_controls) {
+        control->setZoom(factor);
+    }
+    m_context.status.setText(u"Both files are shown at %1 %"_s.arg(qRound(factor * 100)));
 }
 
 void EditorView::setTiled(bool tiled)

@@ -83,6 +83,10 @@ public:
     /// Marks each place where a document has a word, as TextControl::markWord() does.
     void markWord(DocumentKind kind, const QString &word, int options);
 
+    /// Shows both texts larger, or smaller with a negative number, for this run; 0 shows them as
+    /// large as they are. Tells the size on the status bar.
+    void zoom(int steps);
+
     /// Shows both texts side by side, or the selected one alone.
     void setTiled(bool tiled);
     bool isTiled() const { return m_tiled; }
@@ -115,6 +119,7 @@ private:
     std::array<TextControl *, 2> m_controls{};
     QTabBar *m_tabs = nullptr;
     bool m_tiled = false;
+    int m_zoom = 0; ///< steps up from the fonts' own sizes
 };
 
 } // namespace zeph

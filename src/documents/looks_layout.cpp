@@ -71,6 +71,17 @@ LooksLayout::LooksLayout(QTextDocument &document, DocumentStates &states)
 
 LooksLayout::~LooksLayout() = default;
 
+void LooksLayout::setZoom(double factor)
+{
+    if (factor != m_zoom) {
+        m_zoom = factor;
+        m_formats.clear();
+        forget(document()->firstBlock(), document()->lastBlock());
+        tellSize();
+        Q_EMIT update();
+    }
+}
+
 QSizeF LooksLayout::documentSize() const
 {
     return QSizeF(m_widths->widest(), document()->lineCount());
@@ -195,7 +206,9 @@ LooksLayout::withComposed(const QTextBlock &block,
 const QTextCharFormat &LooksLayout::formatOf(quint32 look)
 {
     while (m_formats.size() <= look) {
-        m_formats.push_back(toTextFormat(m_states->look(quint32(m_formats.size()))));
+        CharFormat format = m_states->look(quint32(m_formats.size()));
+        format.pointSize *= m_zoom;
+        m_formats.push_back(toTextFormat(format));
     }
     return m_formats[look];
 }

@@ -30,6 +30,9 @@ public:
     LooksLayout(QTextDocument &document, DocumentStates &states);
     ~LooksLayout() override;
 
+    /// Shows all text so many times as large; the looks themselves stay.
+    void setZoom(double factor);
+
     /// The width of the longest line that has been laid out, and the number of lines (not pixels).
     QSizeF documentSize() const override;
     /// Lays the line out first, if that has not been done.
@@ -57,6 +60,7 @@ private:
     QPointer<DocumentStates> m_states;
     std::vector<QTextCharFormat> m_formats; ///< made of the looks, by their numbers
     std::shared_ptr<LineWidths> m_widths;
+    double m_zoom = 1;
     int m_blockCount = 0;
     int m_lineCount = 0; ///< in the size that was last told
     bool m_isGivingLooks = false;

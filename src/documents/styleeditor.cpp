@@ -79,6 +79,8 @@ void StyleEditor::showStyle()
     const CharFormat &format = current().format;
     m_ui->TextName->setText(current().name);
     m_ui->ComboFont->setCurrentFont(QFont(format.family));
+    // Where the font is not installed, the box would show the name of another.
+    m_ui->ComboFont->setEditText(format.family);
     m_ui->SpinSize->setValue(qRound(format.pointSize));
     m_ui->CheckBold->setChecked(format.bold);
     m_ui->CheckItalic->setChecked(format.italic);

@@ -7,6 +7,7 @@
 
 #include "documents/coloured_text.h"
 #include "documents/line_margin.h"
+#include "documents/looks_layout.h"
 #include "platform/colours.h"
 #include "platform/core/text_search.h"
 #include "platform/richtext/rich_text_document.h"
@@ -16,6 +17,7 @@
 #include <QScopedValueRollback>
 #include <QScrollBar>
 #include <QTextBlock>
+#include <QWheelEvent>
 
 namespace zeph {
 
@@ -76,10 +78,30 @@ void TextControl::setLook(ColorRef background, const CharFormat &plain)
     QPalette look = palette();
     look.setColor(QPalette::Base, toColor(background));
     look.setColor(QPalette::Text, toColor(plain.colour.value_or(0)));
+    // On any ground, not only on the one that the desktop's own colour is made for.
+    look.setColor(QPalette::PlaceholderText, marginColours(toColor(background)).number);
     setPalette(look);
+    m_text.setPlain(plain);
+    useFont();
+}
+
+void TextControl::setZoom(double factor)
+{
+    const ColouredText::Quiet quiet(m_text);
+    m_zoom = factor;
+    if (auto *layout = qobject_cast<LooksLayout *>(document()->documentLayout())) {
+        layout->setZoom(factor);
+    }
+    useFont();
+    viewport()->update();
+}
+
+void TextControl::useFont()
+{
+    CharFormat plain = m_text.plain();
+    plain.pointSize *= m_zoom;
     setFont(toTextFormat(plain).font());
     setTabStopDistance(8 * fontMetrics().averageCharWidth());
-    m_text.setPlain(plain);
     placeMargin();
 }
 
@@ -217,6 +239,21 @@ void TextControl::resizeEvent(QResizeEvent *event)
 {
     QPlainTextEdit::resizeEvent(event);
     placeMargin();
+}
+
+void TextControl::wheelEvent(QWheelEvent *event)
+{
+    if (event->modifiers() != Qt::ControlModifier) {
+        QPlainTextEdit::wheelEvent(event);
+        return;
+    }
+    // Fine wheels send less than a step at a time.
+    m_turned += event->angleDelta().y();
+    if (const int steps = m_turned / QWheelEvent::DefaultDeltasPerStep) {
+        m_turned -= steps * QWheelEvent::DefaultDeltasPerStep;
+        Q_EMIT zoomWanted(steps);
+    }
+    event->accept();
 }
 
 void TextControl::markWord(const QString &word, int options)

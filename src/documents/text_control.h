@@ -29,6 +29,8 @@ public:
 
     /// Sets the background of the whole control, and what plain text looks like.
     void setLook(ColorRef background, const CharFormat &plain);
+    /// Shows everything so many times as large. The text's looks stay what they are.
+    void setZoom(double factor);
     /// Shows a stretch as selected; the text's own caret and selection stay where they are.
     void mark(int start, int length);
     /// Shows the text's own caret and selection again after mark().
@@ -57,6 +59,8 @@ public:
 Q_SIGNALS:
     /// The text has got the focus, but not by takeFocus().
     void focused();
+    /// The wheel was turned with Ctrl held: up, which is positive, to see more largely.
+    void zoomWanted(int steps);
 
 protected:
     void focusInEvent(QFocusEvent *event) override;
@@ -65,12 +69,14 @@ protected:
     void inputMethodEvent(QInputMethodEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
+    void wheelEvent(QWheelEvent *event) override;
     bool canInsertFromMimeData(const QMimeData *source) const override;
     void insertFromMimeData(const QMimeData *source) override;
 
 private:
     /// Locks the text against the user's changes; the caret still moves and text can be selected.
     void setLocked(bool on);
+    void useFont();
     void tellCaret();
     void tellKey(const QKeyEvent &event);
     void placeMargin();
@@ -88,6 +94,8 @@ private:
     bool m_shows = false; ///< the text's own caret is being shown: nothing to tell the text
     bool m_marks = false; ///< the view's selection is that of mark(), not the text's
     bool m_marksLine = false;
+    double m_zoom = 1;
+    int m_turned = 0; ///< of the wheel, in eighths of a degree, since the last step
     int m_markedLine = 1;
     QString m_markedWord;
     int m_wordOptions = 0;

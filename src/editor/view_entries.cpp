@@ -26,6 +26,9 @@ ViewEntries::ViewEntries(const Parts &parts) : m_parts(parts)
     on.connectTo(u"mnuViewOtherFile",
                  [goTo, &documents] { goTo(documents.other(documents.selected()).kind()); });
     on.connectTo(u"mnuViewGoToMacros", [this] { goToMacrosOrBack(); });
+    on.connectTo(u"mnuViewZoomIn", [this] { m_parts.view.zoom(1); });
+    on.connectTo(u"mnuViewZoomOut", [this] { m_parts.view.zoom(-1); });
+    on.connectTo(u"mnuViewZoomBack", [this] { m_parts.view.zoom(0); });
     connect(&documents, &Documents::selectedChanged, this, &ViewEntries::showTicks);
     showTicks();
 }

@@ -12,7 +12,7 @@ class MacroList;
 class MenuActions;
 
 /// The entries of the View menu that lead the keyboard from one part of the Editor to another: to
-/// either file, to the other one, and to the macro list and back.
+/// either file, to the other one, and to the macro list and back; and those that zoom both files.
 class ViewEntries : public QObject
 {
     Q_OBJECT

@@ -15,6 +15,7 @@
 #include <QListWidget>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -97,11 +98,8 @@ QStringList nameFilters(const QString &filter)
     QStringList filters;
     for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
         // The toolkit takes the last bracket for the patterns, so the brackets of the caption go.
-        QString caption = parts[i];
-        const QString shown = u"(%1)"_s.arg(parts[i + 1]);
-        if (caption.endsWith(shown, Qt::CaseInsensitive)) {
-            caption.chop(shown.size());
-        }
+        static const QRegularExpression patternsAtEnd(uR"(\s*\([^()]*\*[^()]*\)\s*$)"_s);
+        const QString caption = QString(parts[i]).remove(patternsAtEnd);
         QString patterns = parts[i + 1];
         patterns.replace(u';', u' ');
         if (patterns == u"*.*") {

@@ -47,7 +47,7 @@ constexpr int roomBetweenApps = 12;
 
 QLabel *captionFor(QStringView caption, QWidget *field)
 {
-    auto *label = new QLabel(caption.toString());
+    auto *label = new QLabel(caption.toString() + u':');
     label->setBuddy(field);
     return label;
 }

@@ -4,11 +4,11 @@
 #include "preferences/colourspage.h"
 
 #include "documents/coloured_text.h"
-#include "documents/editor_texts.h"
 #include "editor/macros/framemacros.h"
 #include "editor/macros/macro_list_model.h"
 #include "platform/colours.h"
 #include "platform/dialogs.h"
+#include "preferences/colour_sample.h"
 #include "preferences/colour_scheme.h"
 #include "settings/settings.h"
 #include "text/macro_search.h"
@@ -123,6 +123,8 @@ void ColoursPage::connectFields()
     connect(m_ui->CMD_ChangeColour, &QPushButton::clicked, this, change);
     connect(m_ui->CMD_FirstRunColours, &QPushButton::clicked, this,
             guarded(dialogs, [this](bool) { returnToFirstRun(); }));
+    connect(m_ui->CMD_DarkColours, &QPushButton::clicked, this,
+            guarded(dialogs, [this](bool) { takeDarkColours(); }));
     m_ui->List1->installEventFilter(this);
     connect(m_ui->TextFontName, &QComboBox::currentTextChanged, this, [this](const QString &name) {
         m_scheme.TextFontName = name;
@@ -189,22 +191,14 @@ void ColoursPage::showSwatches()
     }
 }
 
-void ColoursPage::colourSample(TextControl &sample, DocumentKind kind, const Painter &painter)
-{
-    const CharFormat plain = plainFormat(m_scheme, kind);
-    sample.setLook(documentBackground(m_scheme, kind), plain);
-    sample.shown().setCharacterRuns(
-        characterRuns(painter.paint(sample.shown().text(), colourScheme(m_scheme, kind)), plain));
-}
-
 void ColoursPage::ColourJoy()
 {
-    colourSample(*m_ui->SampleJoystick, DocumentKind::Joystick, m_joystick);
+    showSample(*m_ui->SampleJoystick, DocumentKind::Joystick, m_scheme);
 }
 
 void ColoursPage::ColourMac()
 {
-    colourSample(*m_ui->SampleMacro, DocumentKind::Macro, m_macro);
+    showSample(*m_ui->SampleMacro, DocumentKind::Macro, m_scheme);
 }
 
 void ColoursPage::ApplyColour()
@@ -245,6 +239,16 @@ void ColoursPage::returnToFirstRun()
                               u"All your colours and your font go, and those that I came with "
                               "come back. Is that what you want?"_s)) {
         setFirstRunColours(m_scheme);
+        showScheme();
+    }
+}
+
+void ColoursPage::takeDarkColours()
+{
+    if (m_context.dialogs.ask(u"Shall I turn off the lights?"_s,
+                              u"All your colours go, and my dark ones take their place. Your font "
+                              "stays. Is that what you want?"_s)) {
+        setDarkColours(m_scheme);
         showScheme();
     }
 }

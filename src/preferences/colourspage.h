@@ -6,7 +6,6 @@
 #include "platform/context.h"
 #include "preferences/preferences_page.h"
 #include "settings/colour_settings.h"
-#include "text/painter.h"
 
 #include <memory>
 
@@ -14,7 +13,6 @@ namespace zeph {
 
 class FrameMacros;
 class MacroListModel;
-class TextControl;
 
 namespace Ui {
 class ColoursPage;
@@ -51,13 +49,11 @@ private:
     void choose(int row);
     void changeColour();
     void returnToFirstRun();
-    void colourSample(TextControl &sample, DocumentKind kind, const Painter &painter);
+    void takeDarkColours();
 
     Context m_context;
     /// The scheme as chosen so far.
     ColourSettings m_scheme;
-    Painter m_joystick{ joystickPasses() };
-    Painter m_macro{ macroPasses() };
     std::unique_ptr<Ui::ColoursPage> m_ui;
     MacroListModel *m_macros = nullptr;
     FrameMacros *m_list = nullptr;

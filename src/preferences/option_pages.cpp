@@ -5,10 +5,12 @@
 
 #include "editor/editor_settings.h"
 #include "editor/files/backups.h"
+#include "platform/core/profile_list.h"
 #include "platform/dialogs.h"
 #include "preferences/setting_fields.h"
 #include "settings/settings.h"
 #include "toolchain/default_options.h"
+#include "toolchain/hotas_folder.h"
 #include "toolchain/toolchain_settings.h"
 #include "ui_defaultspage.h"
 #include "ui_filespage.h"
@@ -94,6 +96,10 @@ void FilesPage::browseHotas()
         // The compiler's path is derived from this one.
         m_context.paths.hotasFolder = withClosingSeparator(nativeSeparators(*folder));
         m_ui->HotasFolder->setText(m_context.paths.hotasFolder);
+        QString &setting = m_context.settings.of<ToolchainSettings>().HotasFolder;
+        setting = storableOr(
+            settingForHotasFolder(m_context.paths.hotasFolder, m_context.paths.appFolder), setting);
+        Q_EMIT hotasFolderChosen();
     }
 }
 
@@ -158,23 +164,35 @@ constexpr bool DefaultOptions::*flags[] = {
 } // namespace
 
 DefaultsPage::DefaultsPage(const Context &context, QWidget *parent)
-    : PreferencesPage(parent), m_context(context),
-      m_read(GetDefaultOptions(settingsFilesOf(context.paths))), m_options(m_read),
-      m_ui(std::make_unique<Ui::DefaultsPage>())
+    : PreferencesPage(parent), m_context(context), m_ui(std::make_unique<Ui::DefaultsPage>())
 {
     m_ui->setupUi(this);
     m_ticks = ControlArray<QCheckBox>(this, u"CHK_Default"_s);
-    for (int i = 0; i < m_ticks.count(); ++i) {
-        m_ticks[i]->setChecked(m_read.*flags[i]);
-    }
     const SettingRange hats = rangeOf(&DefaultOptions::POVhat);
     for (int hat = int(hats.least); hat <= int(hats.most); ++hat) {
         m_ui->Combo_defaultPOV->addItem(u"Hat "_s + QString::number(hat));
     }
-    m_ui->Combo_defaultPOV->setCurrentIndex(m_read.POVhat - int(hats.least));
+    readOptions();
+    m_before = m_read;
 }
 
 DefaultsPage::~DefaultsPage() = default;
+
+void DefaultsPage::readOptions()
+{
+    m_read = GetDefaultOptions(settingsFilesOf(m_context.paths));
+    m_options = m_read;
+    for (int i = 0; i < m_ticks.count(); ++i) {
+        m_ticks[i]->setChecked(m_read.*flags[i]);
+    }
+    m_ui->Combo_defaultPOV->setCurrentIndex(m_read.POVhat
+                                            - int(rangeOf(&DefaultOptions::POVhat).least));
+}
+
+Expected<void, FileError> DefaultsPage::save() const
+{
+    return SaveDefaultOptions(m_options, m_read, settingsFilesOf(m_context.paths));
+}
 
 void DefaultsPage::collect()
 {

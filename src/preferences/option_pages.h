@@ -49,7 +49,7 @@ namespace Ui {
 class FilesPage;
 }
 
-/// "File locations". A chosen HOTAS folder is used at once, for this run only.
+/// "File locations". A chosen HOTAS folder is used at once, and remembered.
 class FilesPage : public PreferencesPage
 {
     Q_OBJECT
@@ -58,6 +58,10 @@ public:
     ~FilesPage() override;
 
     void collect() override;
+
+Q_SIGNALS:
+    /// Another HOTAS folder was chosen; the paths name it already.
+    void hotasFolderChosen();
 
 private:
     void browseHotas();
@@ -113,7 +117,7 @@ class DefaultsPage;
 }
 
 /// "Default options": what the compiler does unless a file says otherwise. Read from the
-/// toolchain's own file each time.
+/// toolchain's own file each time, and again when its folder changes.
 class DefaultsPage : public PreferencesPage
 {
     Q_OBJECT
@@ -122,14 +126,18 @@ public:
     ~DefaultsPage() override;
 
     void collect() override;
-    /// The options that collect() took.
-    const DefaultOptions &options() const { return m_options; }
-    /// Whether the taken options differ from those that were read.
-    bool haveChanged() const { return !(m_options == m_read); }
+    /// Reads the options of the present HOTAS folder and shows them.
+    void readOptions();
+    /// Writes what the user has changed.
+    Expected<void, FileError> save() const;
+    /// Whether the taken options differ from those that held when the window opened.
+    bool haveChanged() const { return m_options != m_before; }
 
 private:
     Context m_context;
+    DefaultOptions m_before;
     DefaultOptions m_read;
+    /// What collect() took.
     DefaultOptions m_options;
     std::unique_ptr<Ui::DefaultsPage> m_ui;
     ControlArray<QCheckBox> m_ticks;

@@ -3,11 +3,13 @@
 
 #include "preferences/preferences.h"
 
+#include "documents/document_settings.h"
 #include "editor/editor_settings.h"
 #include "lists/user_lists.h"
 #include "platform/dialogs.h"
 #include "platform/status_line.h"
 #include "platform/system_info.h"
+#include "platform/unwritable_note.h"
 #include "preferences/appspage.h"
 #include "preferences/colourspage.h"
 #include "preferences/favouritespage.h"
@@ -50,12 +52,17 @@ QString captionOf(PreferencesTab tab)
     return captions[size_t(tab)].toString();
 }
 
-/// Saves the settings of the tab "Zeph" that saveGlobalSettings() leaves out.
+/// Saves the settings of this window that saveGlobalSettings() leaves out.
 Expected<void, FileError> saveOwnOptions(Settings &settings, const SettingsFiles &files)
 {
-    return saveSettings(settings, files,
-                        { &SharedSettings::ShowTips, &EditorSettings::TileFiles,
-                          &ToolchainSettings::NumlockDownloadMode });
+    return saveSettings(
+        settings, files,
+        { &SharedSettings::ShowTips, &EditorSettings::TileFiles,
+          &EditorSettings::AlwaysShowCompileDownload, &DocumentSettings::ColourWithTyping,
+          &DocumentSettings::ForeignLanguageKBInputFix, &ToolchainSettings::HotasFolder,
+          &ToolchainSettings::JoyTestConnect, &ToolchainSettings::NumlockDownloadMode,
+          &ToolchainSettings::SynchroniseModeOnStartup, &SharedSettings::TurnOffFontCheck,
+          &SharedSettings::UseHLPnotCHM });
 }
 
 } // namespace
@@ -79,6 +86,7 @@ Preferences::Preferences(const Context &context, const Parts &parts, Preferences
     m_ui->SSTab1->tabBar()->setStyle(style);
     addPages(parts);
     m_ui->SSTab1->setCurrentIndex(0);
+    new UnwritableNote(*this, *m_ui->LabelUnwritable);
     connect(m_ui->cmdOK, &QPushButton::clicked, this, &Preferences::accept);
 }
 
@@ -89,7 +97,8 @@ void Preferences::addPages(const Parts &parts)
     auto *open = new OpenPage(m_context, this);
     auto *favourites = new FavouritesPage(m_context, parts.lists.favourites(), this);
     m_defaults = new DefaultsPage(m_context, this);
-    addPage(PreferencesTab::FileLocations, new FilesPage(m_context, this));
+    auto *files = new FilesPage(m_context, this);
+    addPage(PreferencesTab::FileLocations, files);
     addPage(PreferencesTab::ColoursFonts, new ColoursPage(m_context, this));
     addPage(PreferencesTab::Apps, new AppsPage(m_context, parts.lists.customApps(), this));
     addPage(PreferencesTab::Favourites, favourites);
@@ -101,6 +110,7 @@ void Preferences::addPages(const Parts &parts)
     connect(open, &OpenPage::deleteUndosWanted, this, m_host.DeleteUndosFromMemory);
     connect(open, &OpenPage::restoresChanged, favourites, &FavouritesPage::setRestores);
     favourites->setRestores(open->restores());
+    connect(files, &FilesPage::hotasFolderChosen, m_defaults, &DefaultsPage::readOptions);
 }
 
 void Preferences::addPage(PreferencesTab tab, PreferencesPage *page)
@@ -161,7 +171,7 @@ void Preferences::save()
     also(SaveColourScheme(settings, files));
     m_parts.lists.save();
     also(saveFilesFolder(files, m_context.paths.filesFolder()));
-    also(SaveDefaultOptions(m_defaults->options(), files));
+    also(m_defaults->save());
     if (!result) {
         tellNotKept(m_context.status, result.error());
     }

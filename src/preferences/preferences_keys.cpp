@@ -169,8 +169,9 @@ QList<PreferencesKey> fieldsOf(const QWidget &page, PreferencesTab tab)
     QList<PreferencesKey> fields;
     for (const QWidget *each : page.findChildren<QWidget *>()) {
         const auto *list = qobject_cast<const QComboBox *>(each);
+        const auto *line = qobject_cast<const QLineEdit *>(each);
         const bool isField =
-            list || qobject_cast<const QCheckBox *>(each) || qobject_cast<const QLineEdit *>(each);
+            list || (line && !line->isReadOnly()) || qobject_cast<const QCheckBox *>(each);
         const auto setting = isField ? settingOf(*each) : std::nullopt;
         if (!setting) {
             continue;

@@ -53,7 +53,8 @@ struct PreferencesKey {
     std::optional<SettingRef> setting = {};
 };
 
-/// The ticks, lines and lists of a page that have the name of a setting's key.
+/// The ticks, lines and lists of a page that have the name of a setting's key; a line that the user
+/// cannot edit is none.
 QList<PreferencesKey> fieldsOf(const QWidget &page, PreferencesTab tab);
 
 /// The keys of all tabs. Keys of the section Defaults are in HOTAS.ini, all others in the settings

@@ -27,6 +27,19 @@ QLineEdit *lineOf(QWidget *control)
     return list ? list->lineEdit() : qobject_cast<QLineEdit *>(control);
 }
 
+/// What a field shows, to tell later whether it was changed.
+QVariant stateOf(const PreferencesKey &key, QWidget *control)
+{
+    switch (key.kind) {
+    case FieldKind::Tick:
+        return qobject_cast<QCheckBox *>(control)->isChecked();
+    case FieldKind::Choice:
+        return qobject_cast<QComboBox *>(control)->currentIndex();
+    default:
+        return lineOf(control)->text();
+    }
+}
+
 SettingValue taken(const PreferencesKey &key, QWidget *control, const SettingValue &before)
 {
     switch (key.kind) {
@@ -79,17 +92,20 @@ SettingFields::SettingFields(const QWidget &page, PreferencesTab tab)
     }
 }
 
-void SettingFields::show(Settings &settings) const
+void SettingFields::show(Settings &settings)
 {
-    for (const auto &[key, control] : m_fields) {
-        showValue(key, control, key.setting->value(settings));
+    for (Field &field : m_fields) {
+        showValue(field.key, field.control, field.key.setting->value(settings));
+        field.shown = stateOf(field.key, field.control);
     }
 }
 
 void SettingFields::take(Settings &settings) const
 {
-    for (const auto &[key, control] : m_fields) {
-        key.setting->set(settings, taken(key, control, key.setting->value(settings)));
+    for (const auto &[key, control, shown] : m_fields) {
+        if (stateOf(key, control) != shown) {
+            key.setting->set(settings, taken(key, control, key.setting->value(settings)));
+        }
     }
 }
 

@@ -8,6 +8,7 @@
 
 #include <QList>
 #include <QStringList>
+#include <QVariant>
 
 class QWidget;
 
@@ -21,14 +22,16 @@ public:
     SettingFields(const QWidget &page, PreferencesTab tab);
 
     /// Shows the settings in the fields.
-    void show(Settings &settings) const;
-    /// Writes each field into its setting; a bad value is replaced.
+    void show(Settings &settings);
+    /// Writes each field that has changed since show() into its setting; a bad value is replaced. A
+    /// setting that its field cannot show as it is, such as a text that is too long, stays.
     void take(Settings &settings) const;
 
 private:
     struct Field {
         PreferencesKey key;
         QWidget *control;
+        QVariant shown = {}; ///< the field's state after show()
     };
 
     QList<Field> m_fields;

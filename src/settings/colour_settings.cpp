@@ -35,11 +35,11 @@ constexpr ColorRef black = 0;
 constexpr std::array rows = {
     at(14285565, colourRow(u"BackgroundColour", &S::BackgroundColour, lost)),
     at(16711680, colourRow(u"BTNColour", &S::BTNColour, lost)),
-    at(255, colourRow(u"SlashColour", &S::SlashColour, lost)),
+    at(colorRef(208, 0, 0), colourRow(u"SlashColour", &S::SlashColour, lost)),
     at(32768, colourRow(u"RAWColour", &S::RAWColour, lost)),
-    at(12615680, colourRow(u"MiscellaneousColour", &S::MiscellaneousColour, lost)),
+    at(colorRef(0, 112, 176), colourRow(u"MiscellaneousColour", &S::MiscellaneousColour, lost)),
     at(16645091, colourRow(u"MacroBackgroundColour", &S::MacroBackgroundColour, lost)),
-    at(8421504, colourRow(u"RemStatements", &S::RemStatements, lost)),
+    at(colorRef(104, 104, 104), colourRow(u"RemStatements", &S::RemStatements, lost)),
     colourRow(u"JoystickTextDefaultColour", &S::JoystickTextDefaultColour, black, SavedAs{ 52 }),
     colourRow(u"MacroTextDefaultColour", &S::MacroTextDefaultColour, black, SavedAs{ 53 }),
     at(11779289, colourRow(u"MacroListBackground", &S::MacroListBackground, ColorRef(16777215))),
@@ -82,6 +82,38 @@ void setFirstRunColours(ColourSettings &settings)
     for (const SettingKey &key : ColourSettings::rows()) {
         const auto *colour = std::get_if<ColorRef>(&key.firstRun);
         group.set(key, colour ? SettingValue(*colour) : defaultOf(key));
+    }
+}
+
+namespace {
+
+struct DarkColour {
+    ColorRef ColourSettings::*member;
+    ColorRef colour;
+};
+
+constexpr DarkColour darkColours[] = {
+    { &S::BackgroundColour, colorRef(30, 32, 36) },
+    { &S::MacroBackgroundColour, colorRef(24, 34, 38) },
+    { &S::JoystickTextDefaultColour, colorRef(230, 230, 226) },
+    { &S::MacroTextDefaultColour, colorRef(230, 230, 226) },
+    { &S::BTNColour, colorRef(120, 170, 255) },
+    { &S::SlashColour, colorRef(255, 128, 120) },
+    { &S::RAWColour, colorRef(120, 200, 120) },
+    { &S::MiscellaneousColour, colorRef(90, 190, 235) },
+    { &S::RemStatements, colorRef(150, 154, 160) },
+    { &S::MacroListBackground, colorRef(38, 42, 50) },
+    { &S::MacroListText, colorRef(225, 225, 220) },
+    { &S::MacroHeadingsBackground, colorRef(20, 52, 84) },
+    { &S::MacroHeadingsText, colorRef(255, 236, 170) },
+};
+
+} // namespace
+
+void setDarkColours(ColourSettings &settings)
+{
+    for (const DarkColour &each : darkColours) {
+        settings.*each.member = each.colour;
     }
 }
 

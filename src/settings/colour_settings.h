@@ -41,6 +41,9 @@ struct ColourSettings {
 /// Sets the colours and the font to those of the first run.
 void setFirstRunColours(ColourSettings &settings);
 
+/// Sets the colours to light ones on dark ground; the font stays.
+void setDarkColours(ColourSettings &settings);
+
 /// Reads the colours and the font of the texts.
 [[nodiscard]] SettingProblems readColours(Settings &settings, const SettingsFiles &files);
 /// Writes all keys of the colours and the font.

@@ -225,6 +225,12 @@ Expected<void, FileError> saveGroup(SettingsGroup &group, const SettingsFiles &f
     return savePlaces(placesOf({ &group }, isAny), files);
 }
 
+Expected<void, FileError> saveGroup(SettingsGroup &group, const SettingsFiles &files,
+                                    const std::function<bool(const SettingKey &)> &wanted)
+{
+    return savePlaces(placesOf({ &group }, wanted), files);
+}
+
 void tellProblems(Dialogs &dialogs, const SettingProblems &problems)
 {
     if (problems.isEmpty()) {

@@ -9,6 +9,7 @@
 #include "settings/setting_row.h"
 #include "settings/settings_files.h"
 
+#include <functional>
 #include <initializer_list>
 #include <memory>
 #include <typeindex>
@@ -125,6 +126,9 @@ Expected<void, FileError> saveSettings(Settings &settings, const SettingsFiles &
                                        std::initializer_list<SettingRef> wanted);
 /// Writes all settings of a group, each file in one replacement.
 Expected<void, FileError> saveGroup(SettingsGroup &group, const SettingsFiles &files);
+/// Writes those settings of a group that the function wants, each file in one replacement.
+Expected<void, FileError> saveGroup(SettingsGroup &group, const SettingsFiles &files,
+                                    const std::function<bool(const SettingKey &)> &wanted);
 
 /// Tells all problems in one box; no box when there are none.
 void tellProblems(Dialogs &dialogs, const SettingProblems &problems);

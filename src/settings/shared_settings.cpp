@@ -21,6 +21,8 @@ constexpr std::array rows = {
     row(misc, u"MacroWithMouse", &S::MacroWithMouse, true, SavedAs{ 43 }),
     row(u"Apps", u"ImageFilePath", &S::ImageFilePath, u"", SavedAs{ 47 }),
     row(u"Apps", u"TextFilePath", &S::TextFilePath, u"", SavedAs{ 48 }),
+    row(u"Unsupported", u"TurnOffFontCheck", &S::TurnOffFontCheck, false),
+    row(u"Unsupported", u"UseHLPnotCHM", &S::UseHLPnotCHM, false),
 };
 
 QString trimmedOr(const QString &text, QString SharedSettings::*fallback)

@@ -21,6 +21,8 @@ struct SharedSettings {
     bool MacroWithMouse;
     QString ImageFilePath;
     QString TextFilePath;
+    bool TurnOffFontCheck;
+    bool UseHLPnotCHM;
 };
 
 /// The author's name for files: the given one without the blanks around it, or the default of

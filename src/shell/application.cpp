@@ -6,6 +6,7 @@
 #include "documents/document_settings.h"
 #include "documents/editor_view.h"
 #include "documents/foreign_keyboard.h"
+#include "documents/highlighting.h"
 #include "editor/editor.h"
 #include "editor/editor_settings.h"
 #include "editor/files/backups.h"
@@ -33,9 +34,11 @@
 #include "shell/settings/shell_settings.h"
 #include "shell/start_up.h"
 #include "shell/template_guard.h"
+#include "shell/zeph_style.h"
 #include "templates/template_tools.h"
 #include "templates/templateform.h"
 #include "toolchain/cougar_tools.h"
+#include "toolchain/hotas_folder.h"
 #include "toolchain/modes/profiles.h"
 #include "toolchain/tool_presence.h"
 #include "toolchain/toolchain_settings.h"
@@ -44,7 +47,6 @@
 #include <QAction>
 #include <QApplication>
 #include <QDir>
-#include <QStyleFactory>
 
 namespace zeph {
 
@@ -78,7 +80,7 @@ Application::~Application()
 
 void Application::applyStyle(QApplication &application)
 {
-    application.setStyle(QStyleFactory::create(u"Fusion"_s));
+    application.setStyle(new ZephStyle(QCoreApplication::applicationDirPath() + u"/icons/"_s));
     application.setApplicationName(u"Zeph"_s);
     application.setDesktopFileName(u"zeph"_s);
 }
@@ -106,14 +108,12 @@ bool Application::start()
     m_mum = std::make_unique<Mum>(context());
     placeMum();
     m_mum->refreshToolbars();
-    if (!m_settings.of<ShellSettings>().TurnOffFontCheck) {
+    if (!m_settings.of<SharedSettings>().TurnOffFontCheck) {
         if (const auto warning = smallFontsWarning(m_options.screen.logicalDpi())) {
             m_options.dialogs.box(*warning);
         }
     }
-    // The program expects to be installed among the Cougar's own software; the first run and
-    // Preferences can set another folder.
-    m_paths.hotasFolder = withClosingSeparator(m_paths.appFolder);
+    findHotasFolder();
     makeFolders();
     readSettings();
     m_commandLineFile = TestCommandLine(m_options.arguments);
@@ -129,7 +129,8 @@ bool Application::start()
     selectFirstTab();
     // The tab has said what is edited.
     greet();
-    return true;
+    // The first run waits for the pilot, who may have closed the main window meanwhile.
+    return m_mum->isVisible();
 }
 
 bool Application::chooseInstance()
@@ -148,6 +149,16 @@ void Application::placeMum()
     }
     tellOnce(GetMumPosition(m_settings, files()));
     m_mum->setPlace(mumPlace(m_settings.of<ShellSettings>()));
+}
+
+void Application::findHotasFolder()
+{
+    // The program expects to be installed among the Cougar's own software, unless it was told
+    // otherwise. Reading needs a folder already, since the settings are in several files.
+    m_paths.hotasFolder = withClosingSeparator(m_paths.appFolder);
+    tellOnce(::zeph::readSettings(m_settings, files(), { &ToolchainSettings::HotasFolder }));
+    m_paths.hotasFolder =
+        hotasFolderBy(m_settings.of<ToolchainSettings>().HotasFolder, m_paths.appFolder);
 }
 
 void Application::makeFolders() const
@@ -179,7 +190,8 @@ void Application::readSettings()
     }
     // When the store cannot be written, the run works with what it has read.
     (void)saveGlobalSettings(m_settings, files());
-    if (m_settings.of<ShellSettings>().FirstTimeUsed == 1) {
+    m_wasSetUp = isSetUp(files());
+    if (m_settings.of<ShellSettings>().FirstTimeUsed == 1 && !m_wasSetUp) {
         (void)SetUpDefaultIniSettings(m_settings, files());
     }
 }
@@ -226,9 +238,11 @@ void Application::loadEditor()
     m_editor->view().UpdateSavedIcon();
     greet();
     if (m_settings.of<ShellSettings>().FirstTimeUsed == 1) {
-        runFirstRun(context(), { *m_help, *m_lists, *m_tools }, m_options.welcomeIntervalMs,
-                    m_mum.get());
+        const ColourSettings colours = m_settings.of<ColourSettings>();
+        runFirstRun(context(), { *m_help, *m_lists, *m_tools, m_wasSetUp },
+                    m_options.welcomeIntervalMs, m_mum.get());
         m_editor->applySettings();
+        m_editor->highlighting().followScheme(colours);
         m_tools->presence().refresh();
         // The first run has only now asked for the callsign.
         greet();

@@ -79,6 +79,7 @@ public:
 private:
     bool chooseInstance();
     void placeMum();
+    void findHotasFolder();
     void makeFolders() const;
     void readSettings();
     void startModes();
@@ -102,6 +103,7 @@ private:
     SettingProblems m_told;
     StatusLine m_status;
     QString m_commandLineFile;
+    bool m_wasSetUp = false; ///< an earlier run has written the first run's defaults
     std::unique_ptr<Mum> m_mum;
     Editor *m_editor = nullptr;
     HelpMenu *m_help = nullptr;

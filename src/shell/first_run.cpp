@@ -9,6 +9,7 @@
 #include "lists/favourites.h"
 #include "lists/favourites_menu.h"
 #include "lists/user_lists.h"
+#include "platform/core/profile_list.h"
 #include "platform/dialogs.h"
 #include "preferences/preferences.h"
 #include "settings/colour_settings.h"
@@ -22,6 +23,8 @@
 #include "toolchain/compile/download_menu.h"
 #include "toolchain/cougar_tools.h"
 #include "toolchain/default_options.h"
+#include "toolchain/hotas_folder.h"
+#include "toolchain/toolchain_settings.h"
 
 namespace zeph {
 
@@ -29,11 +32,23 @@ namespace {
 
 constexpr int showMeHowTopic = 100;
 
+/// Puts the look that the pilot has chosen into the settings.
+void takeLook(const WelcomeAnswers &answers, ColourSettings &colours)
+{
+    if (answers.darkColours) {
+        setDarkColours(colours);
+    }
+    if (!answers.fontName.isEmpty()) {
+        colours.TextFontName = answers.fontName;
+    }
+}
+
 /// Failures to write the store are ignored: the run goes on with the values in memory.
-void writeStore(const Context &context, const FirstRunParts &parts)
+void writeStore(const Context &context, const WelcomeAnswers &answers, const FirstRunParts &parts)
 {
     const SettingsFiles files = settingsFilesOf(context.paths);
     tellProblems(context.dialogs, readColours(context.settings, files));
+    takeLook(answers, context.settings.of<ColourSettings>());
     // The pilot may have named another folder, whose file has options of its own.
     const DefaultOptions options = GetDefaultOptions(files);
     context.settings.of<DefaultOptions>().DownloadMode = options.DownloadMode;
@@ -42,7 +57,8 @@ void writeStore(const Context &context, const FirstRunParts &parts)
     (void)SaveColourScheme(context.settings, files);
     parts.lists.save();
     (void)saveFilesFolder(files, context.paths.filesFolder());
-    (void)SaveDefaultOptions(options, files);
+    (void)SaveDefaultOptions(options, options, files);
+    (void)saveSettings(context.settings, files, { &ToolchainSettings::HotasFolder });
     parts.tools.downloadMenu().applySettings();
 }
 
@@ -65,27 +81,50 @@ void showByExperience(int firstTimeUsed, HelpMenu &help)
 
 } // namespace
 
+WelcomeAnswers earlierAnswers(Settings &settings, const Paths &paths)
+{
+    const auto &shared = settings.of<SharedSettings>();
+    const bool isNamed = shared.ValidUser != defaultOf(&SharedSettings::ValidUser);
+    const bool isCalled = shared.PilotCallsign != defaultOf(&SharedSettings::PilotCallsign);
+    WelcomeAnswers answers = partsOfValidUser(isNamed ? shared.ValidUser : QString(),
+                                              isCalled ? shared.PilotCallsign : QString());
+    answers.hotasFolder = paths.hotasFolder;
+    return answers;
+}
+
 void takeWelcomeAnswers(const WelcomeAnswers &answers, Settings &settings, Paths &paths)
 {
     const QString user = composeValidUser(answers.firstName, answers.callsign, answers.lastName);
     if (!user.isEmpty()) {
-        settings.of<SharedSettings>().ValidUser = user;
+        QString &before = settings.of<SharedSettings>().ValidUser;
+        before = storableOr(user, before);
     }
-    settings.of<SharedSettings>().PilotCallsign = callsignOrBuddy(answers.callsign);
+    QString &callsign = settings.of<SharedSettings>().PilotCallsign;
+    callsign = storableOr(callsignOrBuddy(answers.callsign), callsign);
     settings.of<ShellSettings>().FirstTimeUsed = firstTimeUsedAfter(answers.experience);
     paths.hotasFolder = answers.hotasFolder;
+    QString &folder = settings.of<ToolchainSettings>().HotasFolder;
+    folder = storableOr(settingForHotasFolder(answers.hotasFolder, paths.appFolder), folder);
 }
 
 void runFirstRun(const Context &context, const FirstRunParts &parts, int welcomeIntervalMs,
                  QWidget *parent)
 {
-    parts.lists.favourites().add(SetupFlightSimFiles(context.paths.filesFolder()));
-    Welcome welcome(context.paths, context.dialogs, welcomeIntervalMs, parent);
+    if (!parts.isRepeated) {
+        parts.lists.favourites().add(SetupFlightSimFiles(context.paths.filesFolder()));
+    }
+    Welcome welcome(context, earlierAnswers(context.settings, context.paths), welcomeIntervalMs,
+                    parent);
     new ForeignKeyBSupport(context.keyboard, context.settings.of<DocumentSettings>(), &welcome);
     welcome.exec();
-    takeWelcomeAnswers(welcome.answers(), context.settings, context.paths);
-    writeStore(context, parts);
+    const WelcomeAnswers answers = welcome.answers();
+    takeWelcomeAnswers(answers, context.settings, context.paths);
+    writeStore(context, answers, parts);
     parts.tools.profiles().CopyTMCfiles();
+    if (!parent->isVisible()) {
+        // The main window was closed meanwhile: the program ends with the welcome.
+        return;
+    }
     showByExperience(context.settings.of<ShellSettings>().FirstTimeUsed, parts.help);
 }
 

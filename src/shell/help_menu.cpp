@@ -9,6 +9,7 @@
 #include "platform/process_launcher.h"
 #include "platform/tool_windows.h"
 #include "settings/settings.h"
+#include "settings/shared_settings.h"
 #include "shell/frmabout.h"
 #include "shell/frmtip.h"
 #include "shell/help_set.h"
@@ -91,7 +92,7 @@ void HelpMenu::mnuHelpContents_Click()
 {
     // A pilot who keeps a help file of the old form asks for it by hand.
     const QString oldHelp = existingPath(m_context.paths.inApp(u"Zeph.hlp"));
-    if (m_context.settings.of<ShellSettings>().UseHLPnotCHM && !oldHelp.isEmpty()) {
+    if (m_context.settings.of<SharedSettings>().UseHLPnotCHM && !oldHelp.isEmpty()) {
         if (const auto opened = m_context.launcher.openWithDesktop(oldHelp); !opened) {
             m_context.dialogs.tell(u"Can't open help"_s, opened.error(), BoxIcon::Exclamation);
         }

@@ -9,7 +9,10 @@
 #include "platform/process_launcher.h"
 #include "ui_helpwindow.h"
 
+#include <QTextDocumentFragment>
 #include <QUrl>
+
+#include <algorithm>
 
 namespace zeph {
 
@@ -46,8 +49,8 @@ HelpWindow::HelpWindow(const Paths &paths, Dialogs &dialogs, ProcessLauncher &la
             &QToolButton::setEnabled);
     connect(m_ui->Browser, &QTextBrowser::anchorClicked, this, &HelpWindow::openLink);
     connect(m_ui->Browser, &QTextBrowser::sourceChanged, this, &HelpWindow::markTopic);
-    connect(m_ui->txtFind, &QLineEdit::returnPressed, this, &HelpWindow::findInPage);
-    connect(m_ui->cmdFind, &QToolButton::clicked, this, &HelpWindow::findInPage);
+    connect(m_ui->txtFind, &QLineEdit::returnPressed, this, &HelpWindow::findNext);
+    connect(m_ui->cmdFind, &QToolButton::clicked, this, &HelpWindow::findNext);
 }
 
 HelpWindow::~HelpWindow() = default;
@@ -159,17 +162,41 @@ void HelpWindow::markTopic(const QUrl &source)
     }
 }
 
-void HelpWindow::findInPage()
+QStringList HelpWindow::pagesAfterThis() const
+{
+    QStringList pages;
+    for (const HelpTopic &topic : m_set.topics()) {
+        pages.append(topic.file.section(u'#', 0, 0));
+    }
+    pages.removeDuplicates();
+    const QString now = nameOf(m_ui->Browser->source().toLocalFile());
+    const auto isNow = [&now](const QString &page) {
+        return page.compare(now, Qt::CaseInsensitive) == 0;
+    };
+    const qsizetype at = std::ranges::find_if(pages, isNow) - pages.begin();
+    // The present page comes last, and does so too when no topic has it.
+    return at == pages.size() ? pages + QStringList{ now }
+                              : pages.mid(at + 1) + pages.first(at + 1);
+}
+
+void HelpWindow::findNext()
 {
     const QString word = m_ui->txtFind->text();
     if (word.isEmpty() || m_ui->Browser->find(word)) {
         return;
     }
-    // From the end the search goes on at the top, as a reader expects.
-    const QTextCursor before = m_ui->Browser->textCursor();
-    m_ui->Browser->moveCursor(QTextCursor::Start);
-    if (!m_ui->Browser->find(word)) {
-        m_ui->Browser->setTextCursor(before);
+    const QString present = nameOf(m_ui->Browser->source().toLocalFile());
+    for (const QString &page : pagesAfterThis()) {
+        const QString text = QTextDocumentFragment::fromHtml(textOf(folder() + page)).toPlainText();
+        if (!text.contains(word, Qt::CaseInsensitive)) {
+            continue;
+        }
+        if (page.compare(present, Qt::CaseInsensitive) != 0) {
+            showTarget(page);
+        }
+        m_ui->Browser->moveCursor(QTextCursor::Start);
+        m_ui->Browser->find(word);
+        return;
     }
 }
 

@@ -44,7 +44,10 @@ private:
     void fillContents();
     void fillIndex();
     void markTopic(const QUrl &source);
-    void findInPage();
+    /// Shows the next place of the word that is sought: in this page, else in those after it, round
+    /// to the first.
+    void findNext();
+    QStringList pagesAfterThis() const;
     QString folder() const;
 
     const Paths &m_paths;

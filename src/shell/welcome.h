@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "platform/context.h"
 #include "shell/welcome_script.h"
 
 #include <QDialog>
@@ -12,27 +13,27 @@
 
 namespace zeph {
 
-class Dialogs;
-struct Paths;
-
 namespace Ui {
 class Welcome;
 }
 
 /// The first run's conversation. Plays its script by a timer, page by page, and ends with the
-/// answers; it changes nothing itself.
+/// answers; it changes nothing itself. The last page shows a sample in the look that is chosen.
 class Welcome : public QDialog
 {
     Q_OBJECT
 public:
-    /// The interval is the time between two dots in milliseconds.
-    Welcome(const Paths &paths, Dialogs &dialogs, int intervalMs = 250, QWidget *parent = nullptr);
+    /// Begins with the answers of a conversation that was broken off. The interval is the time
+    /// between two dots in milliseconds.
+    Welcome(const Context &context, const WelcomeAnswers &before, int intervalMs = 250,
+            QWidget *parent = nullptr);
     ~Welcome() override;
 
-    /// What the pilot said so far; experience is -1 until the last page is answered.
-    const WelcomeAnswers &answers() const { return m_answers; }
+    /// What the pilot said so far, names included that were not confirmed; experience is -1 until
+    /// its page is answered.
+    WelcomeAnswers answers() const;
 
-    /// Whether the folder of the Cougar's software is known.
+    /// Whether the Cougar's own software lies in the folder that is known.
     bool CheckForHotasDirectory() const;
     /// Lets the pilot choose that folder in a dialog.
     void GetHotasDirectory();
@@ -45,12 +46,14 @@ private:
     void startStep(size_t step);
     void finishStep();
     void showPage(QWidget *page, QWidget *focus);
-    void acceptNames();
+    void connectPages();
+    void fillExperience();
+    void fillLook();
+    void showLook();
     void acceptHotasFolder();
     void acceptExperience();
 
-    const Paths &m_paths;
-    Dialogs &m_dialogs;
+    Context m_context;
     WelcomeAnswers m_answers;
     size_t m_step = 0;
     int m_ticks = 0;

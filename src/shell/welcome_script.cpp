@@ -43,6 +43,18 @@ QString composeValidUser(const QString &firstName, const QString &callsign, cons
     return parts.join(u' ');
 }
 
+WelcomeAnswers partsOfValidUser(const QString &validUser, const QString &callsign)
+{
+    const QString name = validUser.trimmed();
+    const QString quoted = u'"' + callsign.trimmed() + u'"';
+    const qsizetype at = callsign.trimmed().isEmpty() ? -1 : name.indexOf(quoted);
+    const QString first = at >= 0 ? name.left(at) : name.section(u' ', 0, 0);
+    const QString last = at >= 0 ? name.mid(at + quoted.size()) : name.section(u' ', 1);
+    return { .firstName = first.trimmed(),
+             .lastName = last.trimmed(),
+             .callsign = callsign.trimmed() };
+}
+
 int firstTimeUsedAfter(int experience)
 {
     return experience < 0 ? 1 : experience + 2;

@@ -13,18 +13,24 @@ namespace zeph {
 
 /// What the pilot answered.
 struct WelcomeAnswers {
-    QString firstName;
-    QString lastName;
-    QString callsign;
+    QString firstName = {};
+    QString lastName = {};
+    QString callsign = {};
     /// Folder of the Cougar's software with its closing separator.
-    QString hotasFolder;
+    QString hotasFolder = {};
     /// 0-based experience option, or -1 when the window was closed before an answer.
     int experience = -1;
+    /// The font of both texts; empty for the one that is set.
+    QString fontName = {};
+    bool darkColours = false;
 };
 
 /// First name, callsign in double quotes and last name, with single blanks between those there are.
 QString composeValidUser(const QString &firstName, const QString &callsign,
                          const QString &lastName);
+/// The names from which composeValidUser() makes a name, as far as that can be told: without a
+/// callsign the first word counts as the first name.
+WelcomeAnswers partsOfValidUser(const QString &validUser, const QString &callsign);
 /// What FirstTimeUsed becomes by the experience option: 2 to 5, or still 1 for no answer.
 int firstTimeUsedAfter(int experience);
 

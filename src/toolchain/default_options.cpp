@@ -56,10 +56,16 @@ DefaultOptions GetDefaultOptions(const SettingsFiles &files)
     return options;
 }
 
-Expected<void, FileError> SaveDefaultOptions(DefaultOptions options, const SettingsFiles &files)
+Expected<void, FileError> SaveDefaultOptions(DefaultOptions options, DefaultOptions read,
+                                             const SettingsFiles &files)
 {
-    SettingsOf<DefaultOptions> group(options);
-    return saveGroup(group, files);
+    SettingsOf<DefaultOptions> wanted(options);
+    const SettingsOf<DefaultOptions> before(read);
+    const QByteArray file = files.hotasIni.bytes().value_or(QByteArray());
+    return saveGroup(wanted, files, [&](const SettingKey &key) {
+        return wanted.value(key) != before.value(key)
+            || !profile::value(file, key.section, key.key);
+    });
 }
 
 } // namespace zeph

@@ -31,7 +31,10 @@ struct DefaultOptions {
 
 /// Reads the section; what is absent or no number of 16 bits has its default.
 DefaultOptions GetDefaultOptions(const SettingsFiles &files);
-/// Writes its nine keys in one replacement; all else in the file stays.
-Expected<void, FileError> SaveDefaultOptions(DefaultOptions options, const SettingsFiles &files);
+/// Writes, in one replacement, those of its nine keys that differ from what was read before or are
+/// absent. All else stays as it is: a value that nobody changed, even one that could not be read,
+/// and what other programs have written meanwhile.
+Expected<void, FileError> SaveDefaultOptions(DefaultOptions options, DefaultOptions read,
+                                             const SettingsFiles &files);
 
 } // namespace zeph

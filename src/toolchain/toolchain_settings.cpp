@@ -15,6 +15,7 @@ constexpr QStringView misc = u"Miscellaneous";
 constexpr QStringView unsupported = u"Unsupported";
 
 constexpr std::array rows = {
+    row(u"FileLocations", u"HotasFolder", &S::HotasFolder, u""),
     row(u"FileLocations", u"HOTASStatusBarErrors", &S::HOTASStatusBarErrors, false, SavedAs{ 5 }),
     row(misc, u"HideDownloadStatusWindow", &S::HideDownloadStatusWindow, false, SavedAs{ 11 }),
     row(misc, u"StatusDetectOnStartup", &S::StatusDetectOnStartup, false, SavedAs{ 13 }),

@@ -14,6 +14,8 @@ struct ToolchainSettings {
 
     static std::span<const SettingRow<ToolchainSettings>> rows();
 
+    /// Where the Cougar's software lies; empty for the folder of the program (hotas_folder.h).
+    QString HotasFolder;
     bool HOTASStatusBarErrors;
     bool HideDownloadStatusWindow;
     bool StatusDetectOnStartup;

@@ -9,13 +9,17 @@
 
 #include <gtest/gtest.h>
 
+#include <QAbstractTextDocumentLayout>
 #include <QAccessible>
+#include <QApplication>
 #include <QClipboard>
 #include <QDropEvent>
 #include <QGuiApplication>
 #include <QMimeData>
 #include <QScrollBar>
 #include <QTest>
+#include <QTextBlock>
+#include <QWheelEvent>
 
 using namespace zeph;
 
@@ -264,6 +268,46 @@ TEST_F(TextControlTest, AScreenReaderReadsAndWritesTheText)
     EXPECT_TRUE(told->state().readOnly);
     told->editableTextInterface()->deleteText(0, 3);
     EXPECT_EQ(text.text(), u"1\ntwo");
+}
+
+TEST_F(TextControlTest, ZoomShowsTheTextLargerAndLeavesItsLooks)
+{
+    control.setLook(0xFFFFFF, CharFormat{ .family = u"DejaVu Sans"_s, .pointSize = 10 });
+    fill(3);
+    const CharFormat look = control.shown().richText(0, 1).formatAt(0);
+    const auto width = [this] {
+        const QTextBlock line = control.document()->firstBlock();
+        control.document()->documentLayout()->blockBoundingRect(line);
+        return line.layout()->lineAt(0).naturalTextWidth();
+    };
+    const double before = width();
+    control.setZoom(2);
+    EXPECT_NEAR(width(), 2 * before, before / 5);
+    EXPECT_EQ(control.shown().richText(0, 1).formatAt(0), look);
+    EXPECT_NEAR(control.font().pointSizeF(), 2 * control.shown().plain().pointSize, 0.01);
+    control.setZoom(1);
+    EXPECT_EQ(width(), before);
+}
+
+TEST_F(TextControlTest, TheWheelWithCtrlAsksForZoomAndScrollsNothing)
+{
+    fill(100);
+    QList<int> steps;
+    QObject::connect(&control, &TextControl::zoomWanted,
+                     [&steps](int each) { steps.append(each); });
+    const auto turn = [this](int delta, Qt::KeyboardModifiers held) {
+        QWheelEvent event(QPointF(50, 50), control.viewport()->mapToGlobal(QPointF(50, 50)), {},
+                          QPoint(0, delta), Qt::NoButton, held, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(control.viewport(), &event);
+    };
+    turn(-60, Qt::ControlModifier);
+    turn(-60, Qt::ControlModifier);
+    turn(240, Qt::ControlModifier);
+    EXPECT_EQ(steps, (QList<int>{ -1, 2 }));
+    EXPECT_EQ(control.verticalScrollBar()->value(), 0);
+    turn(-120, Qt::NoModifier);
+    EXPECT_GT(control.verticalScrollBar()->value(), 0);
+    EXPECT_EQ(steps.size(), 2);
 }
 
 TEST_F(TextControlTest, EveryTextHasTheMargin)

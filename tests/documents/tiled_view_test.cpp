@@ -4,11 +4,13 @@
 // Both texts side by side: which one is meant, and what each shows.
 
 #include "documents/editor_texts.h"
+#include "documents/line_margin.h"
 #include "editor/files/file_opening.h"
 #include "editor/files/file_saving.h"
 #include "tests/support/editor_fixture.h"
 
 #include <QAction>
+#include <QFile>
 #include <QScrollBar>
 #include <QTabBar>
 #include <QTest>
@@ -127,4 +129,40 @@ TEST_F(TiledViewTest, BothStatesAreOnTheStatusBarWhileBothTextsAreShown)
     EXPECT_EQ(status.savedPicture(), 3);
     editor->action(u"mnuViewTileVertically")->trigger();
     EXPECT_EQ(other(), std::pair(0, QString()));
+}
+
+TEST_F(TiledViewTest, ZoomHoldsForBothTextsAndCtrl0EndsIt)
+{
+    const double before = joystick()->font().pointSizeF();
+    editor->action(u"mnuViewZoomIn")->trigger();
+    editor->action(u"mnuViewZoomIn")->trigger();
+    EXPECT_NEAR(joystick()->font().pointSizeF(), before * 1.21, 0.1);
+    EXPECT_NEAR(macro()->font().pointSizeF(), before * 1.21, 0.1);
+    EXPECT_EQ(status.text(), u"Both files are shown at 121 %");
+    // Changed settings leave the zoom as it is.
+    editor->applySettings();
+    EXPECT_NEAR(macro()->font().pointSizeF(), before * 1.21, 0.1);
+    EXPECT_EQ(editor->action(u"mnuViewZoomBack")->shortcut(), QKeySequence(Qt::CTRL | Qt::Key_0));
+    editor->action(u"mnuViewZoomBack")->trigger();
+    EXPECT_EQ(joystick()->font().pointSizeF(), before);
+    editor->action(u"mnuViewZoomOut")->trigger();
+    EXPECT_LT(macro()->font().pointSizeF(), before);
+}
+
+TEST_F(EditorTest, AnEmptyEditorShowsTheFirstThreeThingsToDoInReadableInk)
+{
+    for (const DocumentKind kind : { DocumentKind::Joystick, DocumentKind::Macro }) {
+        const TextControl &control = editor->view().control(kind);
+        const QString ghost = control.placeholderText();
+        for (const QString &each : { u"1."_s, u"2."_s, u"3."_s, u"F8"_s, u"Sample flight.tmj"_s }) {
+            EXPECT_TRUE(ghost.contains(each)) << each.toStdString();
+        }
+        EXPECT_TRUE(QFile::exists(QStringLiteral(ZEPH_SOURCE_DIR "/data/Files/Sample flight.tmj")));
+        for (const ColorRef ground : { colorRef(30, 32, 36), colorRef(253, 250, 217) }) {
+            editor->view().control(kind).setLook(ground, CharFormat{ .pointSize = 8 });
+            EXPECT_GE(contrast(control.palette().color(QPalette::PlaceholderText),
+                               control.palette().color(QPalette::Base)),
+                      4.5);
+        }
+    }
 }

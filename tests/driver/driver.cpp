@@ -9,6 +9,7 @@
 //   trigger ACTION       chooses the menu entry of that object name; WINDOW/ACTION names its window
 //   type NAME TEXT       types into the control of that object name; \n is Enter
 //   window TITLE         waits for a visible window whose title begins so and notes its whole title
+//   dismiss TITLE        closes that window by its close box
 //   gone TITLE           waits until no such window is visible
 //   text NAME TEXT       waits until the control's text holds TEXT, and notes the text
 //   note NAME            notes the control's text
@@ -148,6 +149,13 @@ private:
             const QWidget *window = windowTitled(rest);
             if (window) {
                 note(QLatin1String("window ") + window->windowTitle());
+            }
+            return window != nullptr;
+        }
+        if (verb == QLatin1String("dismiss")) {
+            QWidget *window = windowTitled(rest);
+            if (window) {
+                later(window, [](QWidget *w) { w->close(); });
             }
             return window != nullptr;
         }

@@ -134,6 +134,13 @@ TEST(NameFilters, ACaptionThatShowsItsPatternsShowsThemOnce)
               QStringList{ u"WinZip package (*.zip)"_s });
 }
 
+TEST(NameFilters, PatternsThatACaptionWritesInItsOwnWayAreShownOnceToo)
+{
+    EXPECT_EQ(nameFilters(u"Original TM files (*.f22,*.b50,*.adv) |*.f22;*.b50;*.adv"_s),
+              QStringList{ u"Original TM files (*.f22 *.b50 *.adv)"_s });
+    EXPECT_EQ(nameFilters(u"Files (of mine)|*.a"_s), QStringList{ u"Files (of mine) (*.a)"_s });
+}
+
 TEST(NameFilters, AllFilesAreAllFilesHereToo)
 {
     EXPECT_EQ(nameFilters(u"Everything|*.*"_s), QStringList{ u"Everything (*)"_s });

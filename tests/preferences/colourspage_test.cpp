@@ -309,6 +309,24 @@ TEST_F(ColoursPageTest, TheHelpButtonTellsWhyFixedPitch)
               "fixed pitch font, like Courier New.");
 }
 
+TEST_F(ColoursPageTest, DarkColoursComeOnlyAfterAYesAndLeaveTheFont)
+{
+    make();
+    const QString title = u"Shall I turn off the lights?"_s;
+    child<QSpinBox>(u"TextFontSize"_s)->setValue(13);
+    dialogs.answer(title, BoxButton::No);
+    child<QPushButton>(u"CMD_DarkColours"_s)->click();
+    EXPECT_GT(sample(u"SampleJoystick"_s).palette().base().color().lightness(), 200);
+    dialogs.answer(title, BoxButton::Yes);
+    child<QPushButton>(u"CMD_DarkColours"_s)->click();
+    EXPECT_LT(sample(u"SampleJoystick"_s).palette().base().color().lightness(), 60);
+    page->collect();
+    ColourSettings dark = settings.of<ColourSettings>();
+    setDarkColours(dark);
+    EXPECT_EQ(settings.of<ColourSettings>().BTNColour, dark.BTNColour);
+    EXPECT_EQ(settings.of<ColourSettings>().TextFontSize, 13);
+}
+
 TEST_F(ColoursPageTest, TheFirstRunsColoursComeBackOnlyAfterAYes)
 {
     make();

@@ -178,11 +178,17 @@ TEST(PreferencesKeys, AFieldEditsTheSettingWhoseKeysNameItHas)
     EXPECT_EQ(fields[3].first, 0);
 }
 
-TEST(PreferencesKeys, NoneIsOfTheSectionThatNoWindowShows)
+TEST(PreferencesKeys, EveryFlagOfTheSectionUnsupportedIsATickOfZephsPage)
 {
-    EXPECT_TRUE(std::ranges::none_of(preferencesKeys(), [](const PreferencesKey &key) {
-        return key.section == u"Unsupported" || key.key == u"AlwaysShowCompileDownload";
-    }));
+    for (const QStringView flag :
+         { u"TurnOffFontCheck", u"SynchroniseModeOnStartup", u"ForeignLanguageKBInputFix",
+           u"JoyTestConnect", u"UseHLPnotCHM", u"ColourWithTyping",
+           u"AlwaysShowCompileDownload" }) {
+        const auto found = std::ranges::find(preferencesKeys(), flag, &PreferencesKey::key);
+        ASSERT_NE(found, preferencesKeys().end()) << flag.toString().toStdString();
+        EXPECT_EQ(found->tab, PreferencesTab::Zeph) << flag.toString().toStdString();
+        EXPECT_EQ(found->kind, FieldKind::Tick) << flag.toString().toStdString();
+    }
 }
 
 TEST(PreferencesKeys, EveryNumberHasARuleAndItsDefaultSatisfiesIt)
@@ -217,12 +223,13 @@ TEST(DefaultOptions, SavingChangesTheNineKeysAndNothingElse)
     store.folder.write(
         u"HOTAS.ini"_s,
         "; Thrustmaster\r\n[Defaults]\r\nPOVhat=2\r\nOther=x\r\n[TMMODE]\r\nAxes=1\r\n");
-    DefaultOptions options = GetDefaultOptions(store.files);
+    const DefaultOptions read = GetDefaultOptions(store.files);
+    DefaultOptions options = read;
     EXPECT_EQ(options.POVhat, 2);
     options.POVhat = 4;
     options.RCSType = true;
     options.TG1enabled = false;
-    ASSERT_TRUE(SaveDefaultOptions(options, store.files));
+    ASSERT_TRUE(SaveDefaultOptions(options, read, store.files));
     EXPECT_EQ(GetDefaultOptions(store.files), options);
     const QByteArray bytes = store.folder.read(u"HOTAS.ini"_s);
     EXPECT_TRUE(bytes.startsWith("; Thrustmaster\r\n[Defaults]\r\nPOVhat=4\r\nOther=x\r\n"));
@@ -234,4 +241,44 @@ TEST(DefaultOptions, ANumberThatDoesNotFitHasItsDefault)
     const test::Store store;
     store.folder.write(u"HOTAS.ini"_s, "[Defaults]\r\nPOVhat=70000\r\nS2enabled=99999\r\n");
     EXPECT_EQ(GetDefaultOptions(store.files), DefaultOptions());
+}
+
+TEST(DefaultOptions, SavingLeavesAloneWhatNobodyChanged)
+{
+    const test::Store store;
+    store.folder.write(u"HOTAS.ini"_s, "[Defaults]\r\nPOVhat=9\r\nTG1enabled=x\r\nS2enabled=1\r\n");
+    const DefaultOptions read = GetDefaultOptions(store.files);
+    // Another program changes a value meanwhile.
+    store.folder.write(u"HOTAS.ini"_s, "[Defaults]\r\nPOVhat=9\r\nTG1enabled=x\r\nS2enabled=0\r\n");
+    DefaultOptions options = read;
+    options.RCSType = true;
+    ASSERT_TRUE(SaveDefaultOptions(options, read, store.files));
+    const ProfileFile &file = store.files.hotasIni;
+    EXPECT_EQ(file.text(u"Defaults", u"POVhat"), u"9");
+    EXPECT_EQ(file.text(u"Defaults", u"TG1enabled"), u"x");
+    EXPECT_EQ(file.text(u"Defaults", u"S2enabled"), u"0");
+    EXPECT_EQ(file.text(u"Defaults", u"RCSType"), u"1");
+    EXPECT_EQ(file.text(u"Defaults", u"MDEFrequired"), u"1") << "absent keys are written";
+}
+
+TEST(SettingFields, ATextThatItsFieldCannotShowWholeStaysUnlessItIsTouched)
+{
+    Settings settings;
+    settings.of<SharedSettings>().PilotCallsign = QString(120, u'x');
+    settings.of<SharedSettings>().ValidUser = u"Ann"_s;
+    QWidget page;
+    auto *callsign = new QLineEdit(&page);
+    callsign->setObjectName(u"PilotCallsign"_s);
+    callsign->setMaxLength(100);
+    auto *user = new QLineEdit(&page);
+    user->setObjectName(u"ValidUser"_s);
+    SettingFields fields(page, PreferencesTab::Zeph);
+    fields.show(settings);
+    user->setText(u"Bea"_s);
+    fields.take(settings);
+    EXPECT_EQ(settings.of<SharedSettings>().PilotCallsign.size(), 120);
+    EXPECT_EQ(settings.of<SharedSettings>().ValidUser, u"Bea");
+    callsign->setText(u"Gust"_s);
+    fields.take(settings);
+    EXPECT_EQ(settings.of<SharedSettings>().PilotCallsign, u"Gust");
 }

@@ -48,8 +48,8 @@ TEST(ProgramProfiles, TheFirstRunPutsTheProfileWhereTheToolsLook)
 {
     Program program;
     program.run({ u"maybe-ok WARNING"_s, u"window Welcome to Zeph"_s, u"type txtFirstName Ann"_s,
-                  u"press cmdNames"_s, u"press Option_Experience_3"_s, u"press cmdFinish"_s,
-                  u"gone Welcome"_s, u"close"_s });
+                  u"press cmdNames"_s, u"press cmdHotas"_s, u"press Option_Experience_3"_s,
+                  u"press cmdExperience"_s, u"press cmdFinish"_s, u"gone Welcome"_s, u"close"_s });
     EXPECT_EQ(program.read(u"Profiles/Default.tmc"_s), program.read(u"Files/Default.tmc"_s));
 }
 

@@ -17,10 +17,16 @@ using testing::Not;
 
 namespace {
 
-const QStringList firstRun = { u"window Welcome to Zeph"_s, u"type txtFirstName Ann"_s,
-                               u"type txtCallsign Gust"_s,  u"type txtLastName Lee"_s,
-                               u"press cmdNames"_s,         u"press Option_Experience_3"_s,
-                               u"press cmdFinish"_s,        u"gone Welcome"_s };
+const QStringList firstRun = { u"window Welcome to Zeph"_s,
+                               u"type txtFirstName Ann"_s,
+                               u"type txtCallsign Gust"_s,
+                               u"type txtLastName Lee"_s,
+                               u"press cmdNames"_s,
+                               u"press cmdHotas"_s,
+                               u"press Option_Experience_3"_s,
+                               u"press cmdExperience"_s,
+                               u"press cmdFinish"_s,
+                               u"gone Welcome"_s };
 
 } // namespace
 
@@ -55,6 +61,83 @@ TEST(ProgramStart, TheRunAfterTheFirstShowsATip)
                       u"gone Tip"_s, u"text Panel_1 Ready! Welcome to Zeph, Gust!"_s, u"close"_s });
     EXPECT_THAT(lines(notes), Contains("window Tip of the Day"));
     EXPECT_EQ(program.setting(u"FileLocations"_s, u"ShowTips"_s), u"1");
+}
+
+TEST(ProgramStart, AFirstRunThatIsClosedEarlyKeepsTheNamesAndTheColoursThatWereChosenSince)
+{
+    Program program;
+    program.run({ u"maybe-ok WARNING"_s, u"window Welcome to Zeph"_s, u"type txtFirstName Ann"_s,
+                  u"type txtLastName Lee"_s, u"type txtCallsign Gust"_s, u"press cmdNames"_s,
+                  u"press cmdHotas"_s, u"text lblExperience What's"_s, u"dismiss Welcome"_s,
+                  u"gone Welcome"_s, u"trigger mnuAppsPreferences"_s, u"window Preferences"_s,
+                  u"tab SSTab1 1"_s, u"choose TextFontSize 14"_s, u"press cmdOK"_s,
+                  u"gone Preferences"_s, u"close"_s });
+    EXPECT_EQ(program.setting(u"FileLocations"_s, u"FirstTimeUsed"_s), u"1");
+    EXPECT_EQ(program.setting(u"Miscellaneous"_s, u"ValidUser"_s), u"Ann \"Gust\" Lee");
+    EXPECT_EQ(program.setting(u"Colours"_s, u"TextFontSize"_s), u"14");
+
+    const QStringList notes =
+        program.run({ u"maybe-ok WARNING"_s, u"window Welcome to Zeph"_s, u"value txtFirstName"_s,
+                      u"value txtLastName"_s, u"value txtCallsign"_s, u"press cmdNames"_s,
+                      u"press cmdHotas"_s, u"press Option_Experience_3"_s, u"press cmdExperience"_s,
+                      u"press cmdFinish"_s, u"gone Welcome"_s, u"close"_s });
+    EXPECT_THAT(lines(notes), Contains("txtFirstName=Ann"));
+    EXPECT_THAT(lines(notes), Contains("txtLastName=Lee"));
+    EXPECT_THAT(lines(notes), Contains("txtCallsign=Gust"));
+    EXPECT_EQ(program.setting(u"Miscellaneous"_s, u"ValidUser"_s), u"Ann \"Gust\" Lee");
+    EXPECT_EQ(program.setting(u"Colours"_s, u"TextFontSize"_s), u"14");
+    EXPECT_EQ(program.setting(u"FileLocations"_s, u"FirstTimeUsed"_s), u"5");
+}
+
+TEST(ProgramStart, TheProgramEndsWithTheWelcomeWhenItsMainWindowIsClosedMeanwhile)
+{
+    Program program;
+    const auto run = program.start({ u"maybe-ok WARNING"_s, u"window Welcome to Zeph"_s,
+                                     u"type txtFirstName Ann"_s, u"close"_s, u"gone Untitled"_s,
+                                     u"dismiss Welcome"_s },
+                                   u"closed.log"_s);
+    ASSERT_TRUE(run->waitForFinished());
+    EXPECT_EQ(run->exitCode(), 0);
+    EXPECT_EQ(program.setting(u"Miscellaneous"_s, u"ValidUser"_s), u"Ann");
+}
+
+TEST(ProgramStart, TheFirstRunsLastPageChoosesDarkColoursAndAFontInWhichSlashesLineUp)
+{
+    Program program;
+    const QStringList notes = program.run(
+        { u"maybe-ok WARNING"_s, u"window Welcome to Zeph"_s, u"type txtFirstName Ann"_s,
+          u"press cmdNames"_s, u"press cmdHotas"_s, u"press Option_Experience_3"_s,
+          u"press cmdExperience"_s, u"choose cboFont 1"_s, u"press Option_Colours_1"_s,
+          u"press cmdFinish"_s, u"gone Welcome"_s, u"close"_s });
+    const QString chosen = notes.filter(u"cboFont="_s).value(0).section(u'|', 1);
+    ASSERT_FALSE(chosen.isEmpty());
+    EXPECT_EQ(program.setting(u"Colours"_s, u"TextFontName"_s), chosen);
+    EXPECT_EQ(program.setting(u"Colours"_s, u"BackgroundColour"_s),
+              QString::number(30 + 32 * 256 + 36 * 65536));
+}
+
+TEST(ProgramStart, AHotasFolderIsRememberedAndItsFileKeepsItsOptions)
+{
+    Program program;
+    program.settle();
+    program.write(u"HOTAS.ini"_s, "[Defaults]\r\nPOVhat=1\r\nRCSType=0\r\n");
+    program.write(u"Thrustmaster/HOTAS.ini"_s,
+                  "[Defaults]\r\nPOVhat=3\r\nRCSType=1\r\nTG1enabled=x\r\n");
+    const QString folder = program.file(u"Thrustmaster"_s);
+    program.run({ u"text Panel_1 Ready"_s, u"trigger mnuAppsPreferences"_s, u"window Preferences"_s,
+                  u"press cmdBrowseHotas"_s, u"file "_s + folder,
+                  u"text HotasFolder Thrustmaster"_s, u"press cmdOK"_s, u"gone Preferences"_s,
+                  u"close"_s });
+    const QString ini = u"Thrustmaster/HOTAS.ini"_s;
+    EXPECT_EQ(program.setting(u"Defaults"_s, u"POVhat"_s, ini), u"3");
+    EXPECT_EQ(program.setting(u"Defaults"_s, u"RCSType"_s, ini), u"1");
+    EXPECT_EQ(program.setting(u"Defaults"_s, u"TG1enabled"_s, ini), u"x");
+    EXPECT_EQ(program.setting(u"FileLocations"_s, u"HotasFolder"_s), folder + u'/');
+
+    const QStringList notes = program.run(
+        { u"text Panel_1 Ready"_s, u"trigger mnuAppsPreferences"_s, u"window Preferences"_s,
+          u"note HotasFolder"_s, u"press cmdOK"_s, u"gone Preferences"_s, u"close"_s });
+    EXPECT_THAT(lines(notes), Contains("HotasFolder=" + (folder + u'/').toStdString()));
 }
 
 TEST(ProgramStart, ACommandLineThatNamesNoFileIsToldAndDropped)

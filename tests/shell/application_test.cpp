@@ -79,6 +79,10 @@ private:
                 ->findChild<QAbstractButton *>(u"Option_Experience_"_s
                                                + QString::number(experience))
                 ->click();
+            welcome->findChild<QAbstractButton *>(u"cmdExperience"_s)->click();
+        } else if (pages->currentWidget()->objectName() == u"pageHotas") {
+            welcome->findChild<QAbstractButton *>(u"cmdHotas"_s)->click();
+        } else if (pages->currentWidget()->objectName() == u"pageLook") {
             welcome->findChild<QAbstractButton *>(u"cmdFinish"_s)->click();
         }
     }

@@ -6,6 +6,7 @@
 #include "editor/editor.h"
 #include "menus/menu_actions.h"
 #include "platform/tool_windows.h"
+#include "settings/shared_settings.h"
 #include "shell/frmabout.h"
 #include "shell/frmtip.h"
 #include "shell/helpwindow.h"
@@ -69,7 +70,7 @@ TEST_F(HelpEntries, HelpTopicsOpenTheContents)
 TEST_F(HelpEntries, AHelpFileOfTheOldFormOpensByItsAssociationWhenAskedTo)
 {
     const QString old = folder.write(u"Zeph.hlp"_s, "old help");
-    app->settings().of<ShellSettings>().UseHLPnotCHM = true;
+    app->settings().of<SharedSettings>().UseHLPnotCHM = true;
     choose(u"mnuHelpContents"_s);
     EXPECT_EQ(launcher.opened, QStringList{ old });
     EXPECT_FALSE(windows().isOpen<HelpWindow>());

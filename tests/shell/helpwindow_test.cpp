@@ -122,6 +122,22 @@ TEST_F(Help, FindsInThePageAndGoesRound)
     EXPECT_EQ(browser().textCursor().selectionStart(), first);
 }
 
+TEST_F(Help, FindsOnInAllOtherPagesAndComesRound)
+{
+    window->showContents();
+    auto *find = control<QLineEdit>(u"txtFind"_s);
+    find->setText(u"FLAP"_s);
+    QTest::keyClick(find, Qt::Key_Return);
+    EXPECT_EQ(page(), u"b.html");
+    EXPECT_EQ(browser().textCursor().selectedText(), u"flap");
+    find->setText(u"contents"_s);
+    QTest::keyClick(find, Qt::Key_Return);
+    EXPECT_EQ(page(), u"contents.html");
+    find->setText(u"nowhere to be found"_s);
+    QTest::keyClick(find, Qt::Key_Return);
+    EXPECT_EQ(page(), u"contents.html");
+}
+
 TEST_F(Help, ClimbsOutOfItsFolderForNobody)
 {
     folder.write(u"secret.html"_s, "<p>no page of the help</p>");

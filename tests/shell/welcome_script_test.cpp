@@ -66,3 +66,23 @@ TEST(WelcomeScript, PlaysItsLinesInOrder)
                             u"Searching for Cougar software "_s,
                             u"Setting up support for current flight sims "_s }));
 }
+
+TEST(PartsOfValidUser, GiveTheNamesFromWhichItWasMade)
+{
+    for (const WelcomeAnswers &names : {
+             WelcomeAnswers{
+                 .firstName = u"Pete"_s, .lastName = u"Mitchell"_s, .callsign = u"Maverick"_s },
+             WelcomeAnswers{
+                 .firstName = u"Mary Ann"_s, .lastName = u"Lee"_s, .callsign = u"Gust"_s },
+             WelcomeAnswers{ .callsign = u"Gust"_s },
+             WelcomeAnswers{ .firstName = u"Pete"_s, .lastName = u"Mitchell"_s },
+             WelcomeAnswers{ .firstName = u"Pete"_s },
+             WelcomeAnswers{},
+         }) {
+        const QString whole = composeValidUser(names.firstName, names.callsign, names.lastName);
+        const WelcomeAnswers parts = partsOfValidUser(whole, names.callsign);
+        EXPECT_EQ(parts.firstName, names.firstName) << whole.toStdString();
+        EXPECT_EQ(parts.lastName, names.lastName) << whole.toStdString();
+        EXPECT_EQ(parts.callsign, names.callsign) << whole.toStdString();
+    }
+}

@@ -150,7 +150,7 @@ const LintCase cases[] = {
       } },
     { "Welcome",
       [](auto &w) {
-          return std::make_unique<Welcome>(w.paths, w.dialogs, 100000);
+          return std::make_unique<Welcome>(w.context(), WelcomeAnswers(), 100000);
       } },
     { "MacroRenameForm",
       [](auto &w) {

@@ -159,10 +159,12 @@ void FileOpening::mnuFileOpen_Click(const std::optional<QString> &fileToOpen)
     m_context.status.setText(u"Opening joystick and its macro file ..."_s);
     const auto path = fileToOpen
         ? fileToOpen
-        : ask(u"Select the joystick file and I'll open it and its macro file"_s,
-              u"Thrustmaster files |*.tmj;*.tmm|Joystick file (*.tmj)|*.tmj|Macro file "
-              "(*.tmm)|*.tmm|Original TM files |*.f22;*.b50;*.adv;*.m22;*.m50;*.mdf"_s,
-              DocumentKind::Joystick);
+        : m_context.dialogs.openFile(
+            { .title = u"Select the joystick file and I'll open it and its macro file"_s,
+              .filter = u"Thrustmaster files |*.tmj;*.tmm|Joystick file (*.tmj)|*.tmj|Macro file "
+                        "(*.tmm)|*.tmm|Original TM files |*.f22;*.b50;*.adv;*.m22;*.m50;*.mdf"_s,
+              .defaultExtension = extensionOf(DocumentKind::Joystick),
+              .folder = m_context.paths.filesFolder() });
     if (!path) {
         return;
     }

@@ -42,6 +42,13 @@ void addAllSettings(Settings &settings)
            KeyTesterSettings>(settings);
 }
 
+bool isSetUp(const SettingsFiles &files)
+{
+    // No other moment of a start writes this key.
+    const SettingKey &key = rowOf(&ColourSettings::BackgroundColour);
+    return !files.store.text(key.section, key.key).isEmpty();
+}
+
 Expected<void, FileError> SetUpDefaultIniSettings(Settings &settings, const SettingsFiles &files)
 {
     setFirstRunColours(settings.of<ColourSettings>());
@@ -63,7 +70,7 @@ SettingProblems GetMumPosition(Settings &settings, const SettingsFiles &files)
                         { &ShellSettings::MumTopAtStartup, &ShellSettings::MumLeftAtStartup,
                           &ShellSettings::MumWidthAtStartup, &ShellSettings::MumHeightAtStartup,
                           &ShellSettings::MumWindowstate, &SharedSettings::DefaultToDX8KeyTester,
-                          &ShellSettings::TurnOffFontCheck,
+                          &SharedSettings::TurnOffFontCheck,
                           &ToolchainSettings::SynchroniseModeOnStartup,
                           &DocumentSettings::ForeignLanguageKBInputFix });
 }

@@ -15,6 +15,11 @@ struct ShellSettings;
 /// Asks for the settings of all rooms, so that the global read and save have them.
 void addAllSettings(Settings &settings);
 
+/// Whether the first run's defaults were written before. They are written once only: a first run
+/// that ends before its questions are answered begins again at the next start, with what the pilot
+/// has chosen since.
+bool isSetUp(const SettingsFiles &files);
+
 /// Sets the colours and the font to the first run's, writes them and the stick handles, and saves
 /// the global settings.
 Expected<void, FileError> SetUpDefaultIniSettings(Settings &settings, const SettingsFiles &files);

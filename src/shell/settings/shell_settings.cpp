@@ -21,8 +21,6 @@ constexpr std::array rows = {
     row(misc, u"MumWidthAtStartup", &S::MumWidthAtStartup, 13320, anyNumber, SavedAs{ 32 }),
     row(misc, u"MumHeightAtStartup", &S::MumHeightAtStartup, 8895, anyNumber, SavedAs{ 33 }),
     row(misc, u"MumWindowstate", &S::MumWindowstate, 2, anyInteger, SavedAs{ 34 }),
-    row(unsupported, u"TurnOffFontCheck", &S::TurnOffFontCheck, false),
-    row(unsupported, u"UseHLPnotCHM", &S::UseHLPnotCHM, false),
     row(unsupported, u"VersionURL", &S::VersionURL, u""),
 };
 

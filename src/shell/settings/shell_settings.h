@@ -20,8 +20,6 @@ struct ShellSettings {
     double MumWidthAtStartup;
     double MumHeightAtStartup;
     int MumWindowstate;
-    bool TurnOffFontCheck;
-    bool UseHLPnotCHM;
     QString VersionURL;
 };
 

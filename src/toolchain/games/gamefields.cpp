@@ -176,11 +176,6 @@ void GameFields::setGame(const Game &game)
     update();
 }
 
-void GameFields::showSample()
-{
-    m_ui->GameDIRPath->setText(wholeSample.toString());
-}
-
 void GameFields::startNaming()
 {
     m_ui->GameName->setFocus();
@@ -202,7 +197,6 @@ EnterGameName::EnterGameName(const Paths &paths, Dialogs &dialogs, const QString
     m_ui->setupUi(this);
     m_ui->layoutPage->insertWidget(0, m_fields);
     m_fields->setGame(startingGame(paths.filesFolder(), joystickFile));
-    m_fields->showSample();
     connect(m_fields, &GameFields::edited, this, &EnterGameName::update);
     connect(m_ui->cmdOK, &QPushButton::clicked, this, &EnterGameName::accept);
     connect(m_ui->cmdCancel, &QPushButton::clicked, this, &EnterGameName::reject);

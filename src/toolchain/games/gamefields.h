@@ -34,8 +34,6 @@ public:
     /// What the fields say, trimmed. A mode that is none of the three is kept until the user
     /// touches one of the ticks.
     Game game() const;
-    /// Fills the working directory's field with an example, which counts as empty.
-    void showSample();
     /// Gives the name's field the keyboard and selects its text.
     void startNaming();
 

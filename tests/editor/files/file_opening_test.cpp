@@ -230,6 +230,15 @@ TEST_F(FileOpeningTest, ThePairDialogUsesTheMacroWordingForBothRefusals)
     EXPECT_TRUE(dialogs.boxes().last().text.contains(u"load up a new macro file"_s));
 }
 
+TEST_F(FileOpeningTest, TheDialogForAPairProposesNoName)
+{
+    dialogs.answerFile({});
+    opening().mnuFileOpen_Click();
+    EXPECT_EQ(dialogs.files().last().name, QString());
+    EXPECT_EQ(dialogs.files().last().defaultExtension, u"tmj");
+    EXPECT_EQ(dialogs.files().last().folder, paths.filesFolder());
+}
+
 TEST_F(FileOpeningTest, TheDialogProposesTheOtherFilesName)
 {
     opening().MnuFileMacroLoad_Click(file(u"falcon.tmm"_s, "Gun = g"));

@@ -42,11 +42,11 @@ TEST(SetUpDefaultIniSettings, SetsAndWritesTheFirstRunsColours)
     const std::pair<QStringView, QStringView> expected[] = {
         { u"BackgroundColour", u"14285565" },
         { u"BTNColour", u"16711680" },
-        { u"SlashColour", u"255" },
+        { u"SlashColour", u"208" },
         { u"RAWColour", u"32768" },
-        { u"MiscellaneousColour", u"12615680" },
+        { u"MiscellaneousColour", u"11563008" },
         { u"MacroBackgroundColour", u"16645091" },
-        { u"RemStatements", u"8421504" },
+        { u"RemStatements", u"6842472" },
         { u"JoystickTextDefaultColour", u"0" },
         { u"MacroTextDefaultColour", u"0" },
         { u"MacroListBackground", u"11779289" },
@@ -60,6 +60,16 @@ TEST(SetUpDefaultIniSettings, SetsAndWritesTheFirstRunsColours)
     for (const auto &[key, value] : expected) {
         EXPECT_EQ(store.text(u"Colours", key), value) << key.toString().toStdString();
     }
+}
+
+TEST(SetUpDefaultIniSettings, IsDoneOnceTheColoursAreWritten)
+{
+    const Store store;
+    Settings settings = allSettings();
+    ASSERT_TRUE(saveGlobalSettings(settings, store.files));
+    EXPECT_FALSE(isSetUp(store.files));
+    ASSERT_TRUE(SetUpDefaultIniSettings(settings, store.files));
+    EXPECT_TRUE(isSetUp(store.files));
 }
 
 TEST(SetUpDefaultIniSettings, WritesTheHandlesAndTheGlobalKeys)
@@ -102,11 +112,11 @@ TEST(GetMumPosition, ReadsThePlaceTheTesterAndThreeUnsupportedKeysOnly)
     EXPECT_EQ(mumPlace(settings.of<ShellSettings>()),
               (WindowPlace{ 300, 150, 9000.5, 6000, WindowState::Normal }));
     EXPECT_EQ(settings.of<SharedSettings>().DefaultToDX8KeyTester, 1);
-    EXPECT_EQ(settings.of<ShellSettings>().TurnOffFontCheck, 1);
+    EXPECT_EQ(settings.of<SharedSettings>().TurnOffFontCheck, 1);
     EXPECT_EQ(settings.of<ToolchainSettings>().SynchroniseModeOnStartup, 1);
     EXPECT_EQ(settings.of<DocumentSettings>().ForeignLanguageKBInputFix, 1);
     EXPECT_EQ(settings.of<DocumentSettings>().UndoMax, 20);
-    EXPECT_EQ(settings.of<ShellSettings>().UseHLPnotCHM, 0);
+    EXPECT_EQ(settings.of<SharedSettings>().UseHLPnotCHM, 0);
 }
 
 TEST(GetMumPosition, AnyStateButZeroIsMaximised)
