@@ -258,7 +258,7 @@ TEST_F(HighlightingTest, RemovingTheHighlightersColoursIsNothingToSave)
 {
     set(J, u"BTN S1 a"_s);
     highlighting().ApplyColourHighlighting();
-    editor->actions().trigger(u"mnuRemoveColourJoystick");
+    editor->action(u"mnuRemoveColourJoystick")->trigger();
     EXPECT_EQ(colours(J), u"........");
     EXPECT_EQ(editor->joystick().state(), Document::Saved);
 }
@@ -268,15 +268,15 @@ TEST_F(HighlightingTest, AStylesColourIsWorthSavingUntilItIsGoneAgain)
     set(J, u"BTN S1 a"_s);
     editor->saving().SaveText(editor->joystick());
     joystick()->shown().select(0, 3);
-    editor->actions().trigger(u"mnuStyleArray_6");
+    editor->action(u"mnuStyleArray_6")->trigger();
     EXPECT_EQ(editor->joystick().state(), Document::Modified);
-    editor->actions().trigger(u"mnuEditUndo");
+    editor->action(u"mnuEditUndo")->trigger();
     EXPECT_EQ(editor->joystick().state(), Document::Saved);
-    editor->actions().trigger(u"mnuEditRedo");
+    editor->action(u"mnuEditRedo")->trigger();
     EXPECT_EQ(editor->joystick().state(), Document::Modified);
     editor->saving().SaveText(editor->joystick());
     EXPECT_EQ(editor->joystick().state(), Document::Saved);
-    editor->actions().trigger(u"mnuEditUndo");
+    editor->action(u"mnuEditUndo")->trigger();
     EXPECT_EQ(editor->joystick().state(), Document::Modified);
 }
 

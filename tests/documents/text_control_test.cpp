@@ -272,7 +272,10 @@ TEST_F(TextControlTest, AScreenReaderReadsAndWritesTheText)
 
 TEST_F(TextControlTest, ZoomShowsTheTextLargerAndLeavesItsLooks)
 {
-    control.setLook(0xFFFFFF, CharFormat{ .family = u"DejaVu Sans"_s, .pointSize = 10 });
+    CharFormat plain;
+    plain.family = u"DejaVu Sans"_s;
+    plain.pointSize = 10;
+    control.setLook(0xFFFFFF, plain);
     fill(3);
     const CharFormat look = control.shown().richText(0, 1).formatAt(0);
     const auto width = [this] {

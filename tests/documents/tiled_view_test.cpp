@@ -159,7 +159,9 @@ TEST_F(EditorTest, AnEmptyEditorShowsTheFirstThreeThingsToDoInReadableInk)
         }
         EXPECT_TRUE(QFile::exists(QStringLiteral(ZEPH_SOURCE_DIR "/data/Files/Sample flight.tmj")));
         for (const ColorRef ground : { colorRef(30, 32, 36), colorRef(253, 250, 217) }) {
-            editor->view().control(kind).setLook(ground, CharFormat{ .pointSize = 8 });
+            CharFormat plain;
+            plain.pointSize = 8;
+            editor->view().control(kind).setLook(ground, plain);
             EXPECT_GE(contrast(control.palette().color(QPalette::PlaceholderText),
                                control.palette().color(QPalette::Base)),
                       4.5);

@@ -89,7 +89,7 @@ TEST_F(TemplateMenuTest, AnUnsavedTemplateIsAskedAboutBeforeTheEnd)
 
 TEST_F(TemplateMenuTest, AnUnsavedTextIsOnTheDiskAndComesBackAfterACrash)
 {
-    run->editor().actions().trigger(u"mnuAppsTemplateEditor");
+    run->editor().action(u"mnuAppsTemplateEditor")->trigger();
     textOf(*form()).setPlainText(u"half a readme"_s);
     auto *timer = run->mum().findChild<QTimer *>(u"TemplateRecoveryTimer"_s);
     ASSERT_TRUE(timer);

@@ -24,7 +24,7 @@ TEST(HotasFolder, IsFoundFromTheProgramsFolderOrFromHome)
     EXPECT_EQ(hotasFolderBy(u"tools\\hotas"_s, u"/opt/zeph"_s), u"/opt/zeph/tools/hotas/");
     EXPECT_EQ(hotasFolderBy(u"../tools"_s, u"/opt/zeph"_s), u"/opt/tools/");
     EXPECT_EQ(hotasFolderBy(u"~"_s, u"/opt/zeph"_s), QDir::homePath() + u'/');
-    EXPECT_EQ(hotasFolderBy(u"~/tools"_s, u"/opt/zeph"_s), QDir::homePath() + u"/tools/");
+    EXPECT_EQ(hotasFolderBy(u"~/tools"_s, u"/opt/zeph"_s), QDir::homePath() + u"/tools/"_s);
 }
 
 TEST(HotasFolder, TheProgramsOwnIsTheEmptySetting)

@@ -8,7 +8,7 @@
 #include "editor/files/file_opening.h"
 #include "editor/files/file_saving.h"
 #include "editor/files/loss_guards.h"
-#include "tests/documents/editor_fixture.h"
+#include "tests/support/editor_fixture.h"
 
 #include <QApplication>
 #include <QFile>
