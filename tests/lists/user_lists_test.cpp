@@ -274,11 +274,22 @@ TEST_F(UserListsTest, CustomApplicationsInUseShowOnMenuAndToolbarAndStart)
 
 TEST_F(UserListsTest, ACustomApplicationThatCannotStartIsTold)
 {
-    start("[Apps]\r\nCustomAppName1=Chat\r\nCustomAppPath1=/nowhere/chat\r\nCustomAppUse1=1\r\n");
+    const QString program = folder.write(u"chat"_s, "program");
+    start("[Apps]\r\nCustomAppName1=Chat\r\nCustomAppPath1=" + program.toLocal8Bit()
+          + "\r\nCustomAppUse1=1\r\n");
     launcher.onStart = [](const Launch &launch) {
-        return Expected<void, QString>(Unexpected<QString>(launch.program + u": gone"_s));
+        return Expected<void, QString>(Unexpected<QString>(launch.program + u": no luck"_s));
     };
     dialogs.answer(u"I couldn't start that buddy"_s, BoxButton::Ok);
     click(u"mnuCustomApp_1"_s);
-    EXPECT_EQ(dialogs.boxes().last().text, u"/nowhere/chat: gone");
+    ASSERT_EQ(dialogs.boxes().size(), 1);
+    EXPECT_EQ(dialogs.boxes().last().text, program + u": no luck"_s);
+}
+
+TEST_F(UserListsTest, ACustomApplicationThatIsMissingIsGreyAndSaysSo)
+{
+    start("[Apps]\r\nCustomAppName1=Chat\r\nCustomAppPath1=/nowhere/chat\r\nCustomAppUse1=1\r\n");
+    EXPECT_TRUE(entry(u"mnuCustomApp_1"_s)->isVisible());
+    EXPECT_FALSE(entry(u"mnuCustomApp_1"_s)->isEnabled());
+    EXPECT_EQ(entry(u"mnuCustomApp_1"_s)->statusTip(), u"/nowhere/chat is missing");
 }
