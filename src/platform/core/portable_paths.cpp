@@ -153,22 +153,22 @@ QString storedPath(const QString &path, const QString &appFolder, PathKind kind)
 QString resolvedPath(const QString &stored, const QString &appFolder, PathKind kind)
 {
     const QString base = withClosingSeparator(nativeSeparators(appFolder));
-    if (stored.isEmpty() || base.isEmpty() || kind == PathKind::None || isNoFile(stored)) {
+    const QString path = stored.trimmed();
+    if (path.isEmpty() || base.isEmpty() || kind == PathKind::None || isNoFile(path)) {
         return stored;
     }
-    if (isHome(stored)) {
-        return nativeSeparators(QDir::homePath() + stored.sliced(1));
+    if (isHome(path)) {
+        return nativeSeparators(QDir::homePath() + path.sliced(1));
     }
-    if (isFull(stored)) {
+    if (isFull(path)) {
         return mended(stored, base);
     }
     if (kind == PathKind::File) {
-        return cleaned(base + nativeSeparators(stored));
+        return cleaned(base + nativeSeparators(path));
     }
-    const QString inside = stored.startsWith(here) ? stored.sliced(here.size()) : stored;
-    const bool isOurs = stored[0] != u'"'
-        && (namesFolder(stored) || !existingPath(base + inside).isEmpty())
-        && !stored.contains(u"://"_s);
+    const QString inside = path.startsWith(here) ? path.sliced(here.size()) : path;
+    const bool isOurs = path[0] != u'"' && !path.contains(u"://"_s)
+        && (namesFolder(path) || !existingPath(base + inside).isEmpty());
     return isOurs ? base + inside : stored;
 }
 
