@@ -74,7 +74,9 @@ void ColouredText::setText(const QString &text)
 
 void ColouredText::setRichText(const RichText &text)
 {
+    const CaretPlace before(m_cursor);
     m_states.setText(text);
+    followFrom(before);
 }
 
 void ColouredText::replace(int start, int length, const QString &text)
@@ -86,12 +88,16 @@ void ColouredText::replace(int start, int length, const QString &text)
 void ColouredText::replaceAll(std::span<const qsizetype> starts, qsizetype length,
                               const QString &text)
 {
+    const CaretPlace before(m_cursor);
     m_states.replaceAll(starts, length, text);
+    followFrom(before);
 }
 
 void ColouredText::replaceWhole(const QString &text)
 {
+    const CaretPlace before(m_cursor);
     m_states.replace(0, length(), RichText::plain(text, m_plain));
+    followFrom(before);
 }
 
 void ColouredText::insert(const RichText &text)
@@ -167,6 +173,13 @@ void ColouredText::follow(const QTextCursor &cursor)
         m_states.setTyping(cursor.position(), std::nullopt);
     }
     tellCaret();
+}
+
+void ColouredText::followFrom(const CaretPlace &before)
+{
+    if (CaretPlace(m_cursor) != before) {
+        follow(m_cursor);
+    }
 }
 
 void ColouredText::tellCaret()

@@ -79,6 +79,8 @@ public:
     void setCaret(int anchor, int caret);
     /// Takes over the caret that the user has moved in a view.
     void follow(const QTextCursor &cursor);
+    /// Whether the program changes the text right now.
+    bool isWriting() const { return m_states.isWriting(); }
 
     /// A locked text takes no changes from the user.
     bool isLocked() const { return m_locked; }
@@ -112,6 +114,18 @@ Q_SIGNALS:
     void caretSet();
 
 private:
+    /// Anchor and caret.
+    struct CaretPlace {
+        explicit CaretPlace(const QTextCursor &cursor)
+            : anchor(cursor.anchor()), caret(cursor.position())
+        {
+        }
+        bool operator==(const CaretPlace &) const = default;
+        int anchor;
+        int caret;
+    };
+    /// Tells that the caret moved when it was elsewhere before a change.
+    void followFrom(const CaretPlace &before);
     void tellCaret();
 
     bool m_locked = false;

@@ -115,7 +115,9 @@ DocumentStates::DocumentStates(QTextDocument &document, int linesPerChunk)
 
 DocumentState DocumentStates::present()
 {
-    catchUp();
+    if (m_revision != m_document.revision()) {
+        catchUp();
+    }
     return m_known;
 }
 
@@ -136,16 +138,13 @@ void DocumentStates::setText(const RichText &text)
 {
     const TextEdit whole = editOf(0, m_size, text);
     const bool isUniform = text.paragraphs.size() == 1 && !text.paragraphs.front().format.bullet;
-    const ParagraphReader uniform = [&text](qsizetype, QStringView lines, bool isLast) {
-        return std::vector<ParagraphRun>{ { lines.count(u'\n') + (isLast ? 1 : 0),
-                                            text.paragraphs.front().format } };
-    };
     const QScopedValueRollback writing(m_isWriting, true);
     QTextCursor change(&m_document);
     change.beginEditBlock();
     setPlainText(m_document, whole.text, text.paragraphs);
     setChunks(edited(*m_known.m_chunks, { whole }, m_linesPerChunk,
-                     isUniform ? uniform : paragraphReader()));
+                     isUniform ? ParagraphSource(text.paragraphs.front().format)
+                               : ParagraphSource(m_document)));
     change.endEditBlock();
 }
 
@@ -155,7 +154,7 @@ void DocumentStates::apply(const std::vector<TextEdit> &edits)
     QTextCursor cursor(&m_document);
     cursor.beginEditBlock();
     const int end = write(cursor, edits);
-    setChunks(edited(*m_known.m_chunks, edits, m_linesPerChunk, paragraphReader()));
+    setChunks(edited(*m_known.m_chunks, edits, m_linesPerChunk, ParagraphSource(m_document)));
     if (!edits.empty()) {
         followParagraphs(edits.front().from, end);
     }

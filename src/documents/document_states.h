@@ -108,6 +108,8 @@ public:
 
     /// Whether the looks fit the document's text; false while the document is being changed.
     bool isUpToDate() const;
+    /// Whether this object changes the document right now.
+    bool isWriting() const { return m_isWriting; }
     /// The runs of a stretch, which must lie in the text. Call only when isUpToDate().
     TextChunk::Runs runs(qsizetype from, qsizetype length) const;
     /// The look that a run's number means.
@@ -135,7 +137,6 @@ private:
     TextEdit editOf(qsizetype from, qsizetype length, const RichText &text);
     void layRuns(const TextChunk::Runs &runs, qsizetype from);
     void setChunks(TextChunks chunks);
-    ParagraphReader paragraphReader() const;
     RichText join(const TextChunks &chunks, size_t first, size_t end) const;
     std::vector<CharRun> charRuns(const TextChunk::Runs &runs) const;
 

@@ -68,7 +68,7 @@ void DocumentStates::follow(qsizetype sameInFront, qsizetype sameAtEnd)
         addRun(edit.runs, { quint32(edit.text.size()), lookOfTyped(edit) });
     }
     if (!edits.empty()) {
-        setChunks(edited(*m_known.m_chunks, edits, m_linesPerChunk, paragraphReader()));
+        setChunks(edited(*m_known.m_chunks, edits, m_linesPerChunk, ParagraphSource(m_document)));
     }
     const bool isInsertion = edits.size() == 1 && before.isEmpty();
     if (!isInsertion) {
@@ -80,7 +80,7 @@ void DocumentStates::follow(qsizetype sameInFront, qsizetype sameAtEnd)
 /// its end: the toolkit may give the line after removed ones their format.
 void DocumentStates::followParagraphs(qsizetype from, qsizetype to)
 {
-    const ParagraphReader read = paragraphReader();
+    const ParagraphSource source(m_document);
     TextChunks chunks = *m_known.m_chunks;
     bool isOther = false;
     qsizetype start = 0;
@@ -88,7 +88,7 @@ void DocumentStates::followParagraphs(qsizetype from, qsizetype to)
         const qsizetype end = start + chunk->text.size();
         const bool isLast = &chunk == &chunks.back();
         if (start <= to && (end > from || isLast)) {
-            std::vector<ParagraphRun> paragraphs = read(start, chunk->text, isLast);
+            std::vector<ParagraphRun> paragraphs = source.read(start, chunk->text, isLast);
             if (paragraphs != chunk->paragraphs) {
                 chunk = std::make_shared<TextChunk>(
                     TextChunk{ chunk->text, chunk->runs, std::move(paragraphs) });
@@ -100,19 +100,6 @@ void DocumentStates::followParagraphs(qsizetype from, qsizetype to)
     if (isOther) {
         setChunks(std::move(chunks));
     }
-}
-
-ParagraphReader DocumentStates::paragraphReader() const
-{
-    return [this](qsizetype from, QStringView text, bool isLast) {
-        std::vector<ParagraphRun> runs = paragraphRunsOf(m_document, from, text);
-        if (!isLast && --runs.back().count == 0) {
-            // The line after the last line end is counted too, but belongs to the next chunk.
-            runs.pop_back();
-        }
-        runs.shrink_to_fit();
-        return runs;
-    };
 }
 
 void DocumentStates::setTyping(qsizetype place, std::optional<CharFormat> look)

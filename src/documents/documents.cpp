@@ -23,15 +23,10 @@ Documents::Documents(const Context &context, QObject *parent)
 {
     renameFresh(DocumentKind::Joystick);
     renameFresh(DocumentKind::Macro);
-    forEach([this](Document &each) {
-        connect(&each, &Document::written, this, [this, &each] { markOverwritten(each); });
-    });
 }
 
 void Documents::markOverwritten(const Document &written)
 {
-    // The user may save one document over the other's file. The other's text is then on the disk no
-    // longer.
     Document &other = this->other(written);
     if (other.state() != Document::Empty && other.path() == written.path()
         && other.text() != written.text()) {

@@ -41,6 +41,9 @@ public:
     /// Selects a document, as a click on its tab does.
     void select(DocumentKind kind);
 
+    /// Marks the other document as modified when one was written over its file, since its text is
+    /// on the disk no longer.
+    void markOverwritten(const Document &written);
     /// Locks the macro text against changes by the user, or unlocks it.
     void setProtected(bool on);
     bool isProtected() const { return m_protected; }
@@ -67,8 +70,6 @@ Q_SIGNALS:
     void protectedChanged(bool on);
 
 private:
-    void markOverwritten(const Document &written);
-
     Context m_context;
     Document m_joystick;
     Document m_macro;

@@ -245,7 +245,7 @@ namespace {
 class ChunkEditor
 {
 public:
-    ChunkEditor(const TextChunks &old, int linesPerChunk, const ParagraphReader &paragraphs)
+    ChunkEditor(const TextChunks &old, int linesPerChunk, const ParagraphSource &paragraphs)
         : m_old(old), m_linesPerChunk(linesPerChunk), m_paragraphs(paragraphs), m_reader(old)
     {
         m_chunks.reserve(old.size() + 1);
@@ -340,7 +340,7 @@ private:
             chunk->text.squeeze();
             reader.take(size, chunk->runs);
             chunk->runs.shrink_to_fit();
-            chunk->paragraphs = m_paragraphs(m_newStart, chunk->text, isLast);
+            chunk->paragraphs = m_paragraphs.read(m_newStart, chunk->text, isLast);
             m_newStart += size;
             m_chunks.push_back(std::move(chunk));
         }
@@ -350,7 +350,7 @@ private:
 
     const TextChunks &m_old;
     int m_linesPerChunk;
-    const ParagraphReader &m_paragraphs;
+    const ParagraphSource &m_paragraphs;
     ChunkReader m_reader;
     TextChunks m_chunks;
     size_t m_next = 0; ///< the old chunk after the region
@@ -412,7 +412,7 @@ void addDifference(QStringView before, QStringView now, qsizetype from,
 } // namespace
 
 TextChunks edited(const TextChunks &chunks, const std::vector<TextEdit> &edits, int linesPerChunk,
-                  const ParagraphReader &paragraphs)
+                  const ParagraphSource &paragraphs)
 {
     return ChunkEditor(chunks, linesPerChunk, paragraphs).make(edits);
 }

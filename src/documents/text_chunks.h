@@ -10,9 +10,9 @@
 // The looks of a text are few and repeat often. A LookTable numbers them, and the runs of a chunk,
 // which cover its text without a gap, hold the numbers. Positions are 0-based characters.
 
+#include "documents/paragraph_source.h"
 #include "platform/core/rich_text.h"
 
-#include <functional>
 #include <memory>
 #include <vector>
 
@@ -170,14 +170,10 @@ QString textOf(const TextChunks &chunks, qsizetype from, qsizetype to);
 /// be up to twice as long as the others.
 std::vector<qsizetype> chunkBorders(QStringView text, int linesPerChunk);
 
-/// Gives the paragraphs of a chunk's text, which starts at a position of the edited text; isLast
-/// says that it is the text's last chunk.
-using ParagraphReader =
-    std::function<std::vector<ParagraphRun>(qsizetype from, QStringView text, bool isLast)>;
 /// Applies edits. They ascend and do not overlap, and their positions are those before any of them.
 /// The new list shares the chunks that no edit touches.
 TextChunks edited(const TextChunks &chunks, const std::vector<TextEdit> &edits, int linesPerChunk,
-                  const ParagraphReader &paragraphs);
+                  const ParagraphSource &paragraphs);
 
 /// Edits, without runs, that make one text of the other: as small as their common start and end
 /// allow, and line by line where both have as many lines.

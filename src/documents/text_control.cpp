@@ -107,7 +107,8 @@ void TextControl::useFont()
 
 void TextControl::tellCaret()
 {
-    if (!m_marks && !m_shows) {
+    // The text itself tells where its caret went by a change of the program's.
+    if (!m_marks && !m_shows && !m_text.isWriting()) {
         m_text.follow(textCursor());
     }
 }

@@ -137,6 +137,7 @@ void FileSaving::write(Document &document, Document::Save save)
         status += u" Its coloured copy wasn't: "_s + copied.error().reason;
     }
     m_context.status.setText(status);
+    m_view.documents().markOverwritten(document);
     document.tellWritten(bytes, save);
 }
 
