@@ -163,7 +163,7 @@ void ColouredText::setCaret(int anchor, int caret)
     m_cursor.setPosition(qBound(0, caret, last), QTextCursor::KeepAnchor);
     m_states.setTyping(m_cursor.position(), std::nullopt);
     Q_EMIT caretSet();
-    tellCaret();
+    follow(m_cursor);
 }
 
 void ColouredText::follow(const QTextCursor &cursor)
@@ -172,21 +172,16 @@ void ColouredText::follow(const QTextCursor &cursor)
     if (cursor.position() != m_states.typingPlace() || cursor.hasSelection()) {
         m_states.setTyping(cursor.position(), std::nullopt);
     }
-    tellCaret();
+    Q_EMIT caretMoved();
+    if (std::exchange(m_hadSelection, m_cursor.hasSelection()) != m_hadSelection) {
+        Q_EMIT selectionChanged(m_hadSelection);
+    }
 }
 
 void ColouredText::followFrom(const CaretPlace &before)
 {
     if (CaretPlace(m_cursor) != before) {
         follow(m_cursor);
-    }
-}
-
-void ColouredText::tellCaret()
-{
-    Q_EMIT caretMoved();
-    if (std::exchange(m_hadSelection, m_cursor.hasSelection()) != m_hadSelection) {
-        Q_EMIT selectionChanged(m_hadSelection);
     }
 }
 

@@ -126,7 +126,6 @@ private:
     };
     /// Tells that the caret moved when it was elsewhere before a change.
     void followFrom(const CaretPlace &before);
-    void tellCaret();
 
     bool m_locked = false;
     bool m_hadSelection = false;
