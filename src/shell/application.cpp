@@ -129,6 +129,9 @@ bool Application::start()
     selectFirstTab();
     // The tab has said what is edited.
     greet();
+    if (!m_options.keptFiles.isEmpty()) {
+        m_status.setText(keptFilesText(m_options.keptFiles));
+    }
     // The first run waits for the pilot, who may have closed the main window meanwhile.
     return m_mum->isVisible();
 }
@@ -248,9 +251,6 @@ void Application::loadEditor()
         greet();
     } else if (m_settings.of<SharedSettings>().ShowTips) {
         m_help->showTip();
-    }
-    if (!m_options.keptFiles.isEmpty()) {
-        m_status.setText(keptFilesText(m_options.keptFiles));
     }
 }
 

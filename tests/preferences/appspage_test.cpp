@@ -201,6 +201,7 @@ TEST_F(AppsPageTest, TheToolbarFollowsWhatIsCollected)
     CustomAppsMenu apps(context(), *owned);
     AppsPage shown(context(), apps, nullptr);
     const auto *button = mum.findChild<QToolButton *>(u"Toolbar2_19"_s);
+    QCoreApplication::processEvents();
     EXPECT_FALSE(button->isVisible());
     shown.findChild<QLineEdit *>(u"CustomAppName_3"_s)->setText(u"Team radio"_s);
     shown.findChild<QLineEdit *>(u"CustomAppPath_3"_s)->setText(u"/bin/radio"_s);

@@ -292,7 +292,8 @@ TEST_F(PreferencesTest, AChosenHotasFoldersOptionsAreShownAndStayInItsFile)
     });
     EXPECT_TRUE(folder.read(u"Thrustmaster/HOTAS.ini"_s).startsWith(theirs));
     EXPECT_EQ(inHotas(u"Defaults", u"POVhat"), u"1");
-    EXPECT_EQ(stored(u"FileLocations", u"HotasFolder"), folder.file(u"Thrustmaster"_s) + u'/');
+    EXPECT_EQ(stored(u"FileLocations", u"HotasFolder"), u"Thrustmaster/")
+        << "what lies in the program's folder moves with it";
 }
 
 TEST_F(PreferencesTest, TheProgramsOwnFolderIsRememberedAsTheDefault)
@@ -347,7 +348,7 @@ TEST_F(PreferencesTest, ABackupFolderIsMadeAndGetsItsClosingSeparator)
 {
     start();
     set(u"BackUpFolder"_s, folder.file(u"My backups"_s));
-    EXPECT_EQ(stored(u"FileLocations", u"BackUpFolder"), folder.file(u"My backups"_s) + u'/');
+    EXPECT_EQ(stored(u"FileLocations", u"BackUpFolder"), u"My backups/");
     EXPECT_TRUE(folderExists(folder.file(u"My backups"_s)));
 }
 
@@ -358,7 +359,8 @@ TEST_F(PreferencesTest, ABackupFolderThatCannotBeMadeIsToldAndTheDefaultTakesIts
     dialogs.answer(u"Backup folder location error"_s, BoxButton::Ok);
     set(u"BackUpFolder"_s, folder.file(u"blocker/inside"_s));
     EXPECT_EQ(boxTitles(), QStringList{ u"Backup folder location error"_s });
-    EXPECT_EQ(stored(u"FileLocations", u"BackUpFolder"), app->paths().defaultBackupFolder());
+    EXPECT_EQ(folder.file(stored(u"FileLocations", u"BackUpFolder")),
+              app->paths().defaultBackupFolder());
 }
 
 TEST_F(PreferencesTest, AnEmptyAutosaveTimeTurnsTheTickOffAtOnce)

@@ -132,7 +132,7 @@ TEST(ProgramStart, AHotasFolderIsRememberedAndItsFileKeepsItsOptions)
     EXPECT_EQ(program.setting(u"Defaults"_s, u"POVhat"_s, ini), u"3");
     EXPECT_EQ(program.setting(u"Defaults"_s, u"RCSType"_s, ini), u"1");
     EXPECT_EQ(program.setting(u"Defaults"_s, u"TG1enabled"_s, ini), u"x");
-    EXPECT_EQ(program.setting(u"FileLocations"_s, u"HotasFolder"_s), folder + u'/');
+    EXPECT_EQ(program.setting(u"FileLocations"_s, u"HotasFolder"_s), u"Thrustmaster/");
 
     const QStringList notes = program.run(
         { u"text Panel_1 Ready"_s, u"trigger mnuAppsPreferences"_s, u"window Preferences"_s,

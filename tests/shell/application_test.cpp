@@ -650,10 +650,10 @@ TEST_F(Start, OtherSystemsShowTheDirectXTesters)
 TEST_F(Start, AStoredPlaceIsTakenUpUnlessMaximised)
 {
     writeStore("[Miscellaneous]\r\nMumWindowstate=0\r\nMumLeftAtStartup=150\r\n"
-               "MumTopAtStartup=300\r\nMumWidthAtStartup=12000\r\nMumHeightAtStartup=7500\r\n");
+               "MumTopAtStartup=300\r\nMumWidthAtStartup=10500\r\nMumHeightAtStartup=7500\r\n");
     ASSERT_TRUE(start());
     EXPECT_FALSE(app->mum().isMaximized());
-    EXPECT_EQ(app->mum().size(), QSize(800, 500));
+    EXPECT_EQ(app->mum().size(), QSize(700, 500));
     EXPECT_EQ(app->mum().pos(), QPoint(10, 20));
 }
 

@@ -118,4 +118,6 @@ TEST_F(TemplateMenuTest, AnUnsavedTextIsOnTheDiskAndComesBackAfterACrash)
     EXPECT_EQ(form()->path(), left.path);
     EXPECT_TRUE(form()->HasTemplateTextChanged());
     EXPECT_FALSE(folder.exists(u"Recovery/7/template.txt"_s));
+    dialogs.answer(u" Save mine.rtf now?"_s, BoxButton::No);
+    run.reset();
 }

@@ -617,7 +617,9 @@ TEST_F(TemplateTest, TheWindowOpensBesideTheMainOneAndRemembersItsPlace)
     const Context context{ paths, settings, status, dialogs, launcher, clock, keyboard };
     {
         TemplateForm first(context, printers, macros, &main);
-        EXPECT_GE(first.pos().x(), 200);
+        const int room = first.screen()->availableGeometry().right() - 200;
+        EXPECT_TRUE(first.pos().x() >= 200 || first.width() > room)
+            << "else as far as there is room";
         first.resize(500, 350);
         first.move(40, 60);
         first.show();

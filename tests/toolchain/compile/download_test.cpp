@@ -392,6 +392,7 @@ TEST_F(DownloadTest, ACompileDuringADownloadRunsAfterItWithAVerdictOfItsOwn)
         }
     };
     command.DownloadTMJ();
+    QCoreApplication::processEvents();
     EXPECT_EQ(done,
               (QStringList{ locks, compilerStarts, mode, appStarts, focus, unlocks,
                             u"minimise tools"_s, compilerStarts, focus }));
