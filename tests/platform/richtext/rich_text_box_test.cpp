@@ -195,8 +195,8 @@ TEST(FillDocument, GivesTheSameAsAllAtOnceAndCanBeStopped)
 {
     test::RichTextMaker maker(11);
     RichText text = RichText::plain({});
-    while (text.text.size() < 500'000) {
-        text.append(maker.make(u"abc \n"_s, 5000));
+    while (text.text.size() < 270'000) {
+        text.append(maker.make(u"abcdefghi klmnopqrs uvwxyz \n"_s, 5000));
     }
     QTextDocument inPieces;
     QList<qsizetype> steps;
