@@ -211,6 +211,10 @@ std::vector<LeftRecovery> leftRecoveries(const QString &parent, const MayTakeOve
             left.emplace_back(folder.filePath(), std::move(lock));
         }
     }
+    if (folders.isEmpty()) {
+        // A run that was killed between the two removals of its end left the bare parent.
+        QDir().rmdir(parent);
+    }
     return left;
 }
 

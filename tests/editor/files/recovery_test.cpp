@@ -113,6 +113,14 @@ TEST_F(RecoveryTest, AnAutosaveAndAFreshDocumentTakeTheFileAwayToo)
     EXPECT_FALSE(QFile::exists(parent() + u"/1/macro.txt"_s));
 }
 
+TEST_F(RecoveryTest, TheBareFolderThatAKillAtTheEndLeftIsTakenAway)
+{
+    const QString parent = folder.file(u"Bare/"_s);
+    ASSERT_TRUE(QDir().mkdir(parent));
+    EXPECT_TRUE(leftRecoveries(parent).empty());
+    EXPECT_FALSE(folder.exists(u"Bare"_s));
+}
+
 TEST_F(RecoveryTest, ACleanExitLeavesNothing)
 {
     type(DocumentKind::Joystick, u"x"_s);
