@@ -7,22 +7,33 @@ namespace zeph::language {
 
 namespace {
 
-constexpr QStringView openings = u"(<{";
-constexpr QStringView closings = u")>}";
+// 0-based place among the kinds of brackets.
+size_t kindOf(char16_t closing)
+{
+    return closing == u')' ? 0 : closing == u'>' ? 1 : 2;
+}
 
 } // namespace
 
 char16_t closingOf(QChar opening)
 {
-    const qsizetype kind = openings.indexOf(opening);
-    return kind < 0 ? u'\0' : closings[kind].unicode();
+    switch (opening.unicode()) {
+    case u'(':
+        return u')';
+    case u'<':
+        return u'>';
+    case u'{':
+        return u'}';
+    default:
+        return 0;
+    }
 }
 
 void BracketStack::push(const OpenBracket &bracket)
 {
     Level level = m_levels.empty() ? Level() : m_levels.back();
     level.bracket = bracket;
-    level.innermost[size_t(closings.indexOf(bracket.closing))] = size();
+    level.innermost[kindOf(bracket.closing)] = size();
     if (!bracket.mayBeKey)
         level.certain = size();
     level.rounds += bracket.closing == u')' ? 1 : 0;
@@ -41,7 +52,7 @@ int BracketStack::partnerOf(char16_t closing) const
     if (isEmpty())
         return -1;
     const Level &level = m_levels.back();
-    const int partner = level.innermost[size_t(closings.indexOf(closing))];
+    const int partner = level.innermost[kindOf(closing)];
     return partner >= level.certain ? partner : -1;
 }
 

@@ -34,6 +34,32 @@ StatementKind kindOf(QStringView keyword)
     return rowOf(keyword).is(AxisRole) ? StatementKind::Axis : StatementKind::Legacy;
 }
 
+constexpr size_t letters = 26;
+
+// For each letter the lengths of the words with that first letter, as bits, that may begin a
+// statement in the middle of a line. Every word of a file is asked for, and most end here.
+constexpr std::array<quint32, letters> lengthsInLine = [] {
+    std::array<quint32, letters> lengths{};
+    const auto add = [&lengths](QStringView word) {
+        lengths[size_t(word[0].unicode() - u'A')] |= 1U << unsigned(word.size());
+    };
+    for (const Word &row : words) {
+        if (row.is(AxisRole))
+            add(row.text);
+    }
+    for (const QStringView word : { u"BTN"_w, u"DEF"_w, u"USE"_w })
+        add(word);
+    return lengths;
+}();
+
+bool mayBeginInLine(QStringView word)
+{
+    constexpr qsizetype bits = 32;
+    const unsigned letter = (word[0].unicode() | 0x20U) - u'a';
+    return letter < letters && word.size() < bits
+        && (lengthsInLine[letter] >> unsigned(word.size()) & 1U) != 0;
+}
+
 class JoystickParser
 {
 public:
@@ -44,6 +70,8 @@ public:
 
     void run()
     {
+        constexpr qsizetype usualCharactersPerItem = 8;
+        m_file.items.reserve(m_text.size() / usualCharactersPerItem);
         LineReader lines(m_text);
         Line line;
         while (lines.next(line)) {
@@ -113,6 +141,8 @@ private:
     bool beginsInLine(QStringView code, qsizetype from, qsizetype to) const
     {
         const QStringView word = code.sliced(from, to - from);
+        if (word.isEmpty() || !mayBeginInLine(word))
+            return false;
         const Word &row = rowOf(word);
         if (!row.is(StatementRole) || m_macros.value(word) >= 0)
             return false;
