@@ -175,13 +175,15 @@ QString resolvedPath(const QString &stored, const QString &appFolder, PathKind k
 QString storedValue(const ProfileFile &store, QStringView section, QStringView key,
                     const QString &value)
 {
-    return storedPath(value, folderOfStore(store), pathKindOf(section, key));
+    const PathKind kind = pathKindOf(section, key);
+    return kind == PathKind::None ? value : storedPath(value, folderOfStore(store), kind);
 }
 
 QString resolvedValue(const ProfileFile &store, QStringView section, QStringView key,
                       const QString &value)
 {
-    return resolvedPath(value, folderOfStore(store), pathKindOf(section, key));
+    const PathKind kind = pathKindOf(section, key);
+    return kind == PathKind::None ? value : resolvedPath(value, folderOfStore(store), kind);
 }
 
 } // namespace zeph

@@ -99,18 +99,73 @@ QList<ProfileEntry> lastValues(const QList<ProfileEntry> &entries)
     QList<ProfileEntry> last;
     QHash<QString, qsizetype> places;
     for (const ProfileEntry &entry : entries) {
-        if (!isSectionName(withoutBlanks(entry.section)) || !isKeyName(withoutBlanks(entry.key))) {
-            continue;
-        }
-        const auto known = places.constFind(keyNameOf(entry));
+        const QString name = keyNameOf(entry);
+        const auto known = places.constFind(name);
         if (known == places.cend()) {
-            places.insert(keyNameOf(entry), last.size());
+            places.insert(name, last.size());
             last.append(entry);
         } else {
             last[*known].value = entry.value;
         }
     }
     return last;
+}
+
+/// A key that the file has, and the value that it is to get.
+struct HeldKey {
+    KeyPlace place;
+    QStringView value;
+};
+
+/// The edits that give these keys their values; the last one of several for one key counts.
+std::vector<ProfileEdit> editsOf(const QByteArray &file, std::vector<HeldKey> keys)
+{
+    const auto placeOfValue = [](const HeldKey &key) {
+        return key.place.valueStart;
+    };
+    std::ranges::stable_sort(keys, {}, placeOfValue);
+    std::vector<ProfileEdit> edits;
+    for (size_t at = 0; at < keys.size(); ++at) {
+        const auto &[place, value] = keys[at];
+        const bool isLast = at + 1 == keys.size() || placeOfValue(keys[at + 1]) > place.valueStart;
+        if (isLast && valueAt(file, place) != value) {
+            edits.push_back(
+                { place.valueStart, place.valueEnd - place.valueStart, written(value) });
+        }
+    }
+    return edits;
+}
+
+/// The edits that add these keys to their sections, or sections for them to the file.
+std::vector<ProfileEdit> additionsOf(const QByteArray &file, const QList<ProfileEntry> &entries,
+                                     const QByteArray &lineEnd)
+{
+    std::vector<ProfileEdit> edits;
+    std::vector<std::pair<QString, ProfileEdit>> newSections;
+    for (const ProfileEntry &entry : lastValues(entries)) {
+        const QStringView section = withoutBlanks(entry.section);
+        const QStringView key = withoutBlanks(entry.key);
+        const KeyPlace place = placeOf(file, section, key);
+        const QByteArray line = toText1252(key) + '=' + written(oneLine(entry.value)) + lineEnd;
+        if (place.hasSection) {
+            edits.push_back({ place.sectionEnd, 0, line, true });
+            continue;
+        }
+        auto known = std::ranges::find_if(newSections, [section](const auto &each) {
+            return section.compare(each.first, Qt::CaseInsensitive) == 0;
+        });
+        if (known == newSections.end()) {
+            known = newSections.insert(
+                known,
+                { section.toString(),
+                  { file.size(), 0, '[' + toText1252(section) + ']' + lineEnd, true } });
+        }
+        known->second.bytes += line;
+    }
+    for (auto &[name, edit] : newSections) {
+        edits.push_back(std::move(edit));
+    }
+    return edits;
 }
 
 QByteArray applied(const QByteArray &file, const std::vector<ProfileEdit> &edits,
@@ -136,38 +191,24 @@ QByteArray applied(const QByteArray &file, const std::vector<ProfileEdit> &edits
 
 QByteArray withValues(const QByteArray &file, const QList<ProfileEntry> &entries)
 {
-    std::vector<ProfileEdit> edits;
-    std::vector<std::pair<QString, ProfileEdit>> newSections;
-    const QByteArray lineEnd = lineEndOf(file);
-    for (const ProfileEntry &entry : lastValues(entries)) {
+    std::vector<HeldKey> held;
+    QList<ProfileEntry> missing;
+    for (const ProfileEntry &entry : entries) {
         const QStringView section = withoutBlanks(entry.section);
         const QStringView key = withoutBlanks(entry.key);
-        const QStringView text = oneLine(entry.value);
+        if (!isSectionName(section) || !isKeyName(key)) {
+            continue;
+        }
         const KeyPlace place = placeOf(file, section, key);
-        const QByteArray line = toText1252(key) + '=' + written(text) + lineEnd;
         if (place.hasKey) {
-            if (valueAt(file, place) != text) {
-                edits.push_back(
-                    { place.valueStart, place.valueEnd - place.valueStart, written(text) });
-            }
-        } else if (place.hasSection) {
-            edits.push_back({ place.sectionEnd, 0, line, true });
+            held.push_back({ place, oneLine(entry.value) });
         } else {
-            auto known = std::ranges::find_if(newSections, [section](const auto &each) {
-                return section.compare(each.first, Qt::CaseInsensitive) == 0;
-            });
-            if (known == newSections.end()) {
-                known = newSections.insert(
-                    known,
-                    { section.toString(),
-                      { file.size(), 0, '[' + toText1252(section) + ']' + lineEnd, true } });
-            }
-            known->second.bytes += line;
+            missing.append(entry);
         }
     }
-    for (auto &[name, edit] : newSections) {
-        edits.push_back(std::move(edit));
-    }
+    const QByteArray lineEnd = lineEndOf(file);
+    std::vector<ProfileEdit> edits = editsOf(file, std::move(held));
+    std::ranges::move(additionsOf(file, missing, lineEnd), std::back_inserter(edits));
     std::ranges::stable_sort(edits, {}, &ProfileEdit::at);
     return edits.empty() ? file : applied(file, edits, lineEnd);
 }

@@ -39,10 +39,7 @@ public:
         }
         line.start = m_next;
         const char *data = m_file.constData();
-        const char *stop = data + m_file.size();
-        const char *end =
-            std::find_if(data + m_next, stop, [](char c) { return c == '\n' || c == '\r'; });
-        line.end = end - data;
+        line.end = std::min(nextOf('\n', m_nextLf), nextOf('\r', m_nextCr));
         line.next = std::min(line.end + 1, m_file.size());
         if (line.next < m_file.size() && data[line.end] == '\r' && data[line.next] == '\n') {
             ++line.next;
@@ -52,8 +49,21 @@ public:
     }
 
 private:
+    /// Where the character is next, kept until the walk has passed it: a file may have only one
+    /// kind of line ends.
+    qsizetype nextOf(char c, qsizetype &known) const
+    {
+        if (known < m_next) {
+            const qsizetype found = m_file.indexOf(c, m_next);
+            known = found < 0 ? m_file.size() : found;
+        }
+        return known;
+    }
+
     const QByteArray &m_file;
     qsizetype m_next;
+    qsizetype m_nextLf = -1;
+    qsizetype m_nextCr = -1;
 };
 
 bool isBlank(char c)
@@ -204,7 +214,9 @@ const ProfileIndex &indexOf(const QByteArray &file)
     constexpr size_t filesAtOnce = 4;
     thread_local std::array<ProfileIndex, filesAtOnce> known;
     thread_local size_t next = 0;
-    const auto found = std::ranges::find(known, file, &ProfileIndex::file);
+    const auto found = std::ranges::find_if(known, [&file](const ProfileIndex &index) {
+        return index.file().isSharedWith(file) || index.file() == file;
+    });
     if (found != known.end()) {
         return *found;
     }
