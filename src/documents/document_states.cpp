@@ -113,14 +113,6 @@ DocumentStates::DocumentStates(QTextDocument &document, int linesPerChunk)
     m_revision = m_document.revision();
 }
 
-DocumentState DocumentStates::present()
-{
-    if (m_revision != m_document.revision()) {
-        catchUp();
-    }
-    return m_known;
-}
-
 TextEdit DocumentStates::editOf(qsizetype from, qsizetype length, const RichText &text)
 {
     TextEdit edit{ from, length, insertableText(text.text), {} };
