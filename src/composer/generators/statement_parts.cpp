@@ -65,6 +65,9 @@ StatementParts::StatementParts(const QString &text)
 
 std::optional<StatementParts> StatementParts::of(QStringView statement)
 {
+    // On a line of its own a word may begin a statement that it does not begin in another's line.
+    if (parsePair(statement.toString(), {}).joystick.statements.size() != 1)
+        return {};
     StatementParts parts(withoutComments(statement));
     const JoystickFile &file = parts.m_pair->joystick;
     if (file.statements.size() != 1 || !file.strayBrackets.isEmpty())
@@ -82,8 +85,12 @@ QStringView StatementParts::text(int from, int to) const
 {
     if (from >= to)
         return {};
+    // Brackets that are never closed end with their last item, which may end with a bracket itself.
+    // So a part goes up to the next one.
     const qsizetype start = (*this)[from].place.position;
-    return QStringView(m_pair->joystick.text).sliced(start, (*this)[to - 1].place.end() - start);
+    const qsizetype end = to < size() ? (*this)[to].place.position : statement().place.end();
+    const QStringView text = QStringView(m_pair->joystick.text).sliced(start, end - start);
+    return text.first(trimmedEnd(text));
 }
 
 bool StatementParts::isWord(int part, QStringView word) const

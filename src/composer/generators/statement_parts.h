@@ -29,7 +29,7 @@ public:
 
     int size() const { return int(m_parts.size()); }
     const language::Item &operator[](int part) const { return items()[m_parts[part]]; }
-    QStringView text(int part) const { return m_pair->joystick.at((*this)[part]); }
+    QStringView text(int part) const { return text(part, part + 1); }
     /// The text from the one part up to, not including, the other.
     QStringView text(int from, int to) const;
     /// Whether the part is this word, in any case.

@@ -56,6 +56,7 @@ TEST(StatementParts, CommentsAndLineEndsAreLeftOut)
 TEST(StatementParts, TwoStatementsOrAnOpenBracketAreNone)
 {
     EXPECT_FALSE(StatementParts::of(u"BTN S1 a\nBTN S2 b"));
+    EXPECT_FALSE(StatementParts::of(u"THR 3 a b\nCURVE c"));
     EXPECT_FALSE(StatementParts::of(u"BTN S1 KD (a"));
     EXPECT_FALSE(StatementParts::of(u"BTN S1 KD a)"));
     EXPECT_FALSE(StatementParts::of(u"  "));
