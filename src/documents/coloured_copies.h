@@ -21,8 +21,8 @@ public:
     QString pathOf(const QString &name) const { return m_paths.rtfFolder() + name; }
     /// The copy for a file of that name, if its text equals the plain text exactly; what is in its
     /// plain font, or as bold as that, takes the given one's. Other looks stay.
-    std::optional<RichText> load(const QString &name, const QString &plainText,
-                                 const CharFormat &font) const;
+    std::optional<NumberedRichText> load(const QString &name, const QString &plainText,
+                                         const CharFormat &font) const;
     /// Writes the copy of a document as it is now.
     Expected<void, FileError> SaveColouredText(Document &document) const;
 
