@@ -32,7 +32,8 @@ CharFormat mostUsedLook(const LookRuns &text)
 } // namespace
 
 std::optional<NumberedRichText> ColouredCopies::load(const QString &name, const QString &plainText,
-                                                     const CharFormat &font) const
+                                                     const CharFormat &font,
+                                                     const QList<ColorRef> &schemes) const
 {
     const QString path = existingPath(pathOf(name));
     if (path.isEmpty()) {
@@ -55,6 +56,8 @@ std::optional<NumberedRichText> ColouredCopies::load(const QString &name, const 
         if (look.bold == plain.bold) {
             look.bold = font.bold;
         }
+        copy->text.characters.coloursByHand.push_back(look.colour
+                                                      && !schemes.contains(*look.colour));
     }
     return std::move(copy->text);
 }
