@@ -166,6 +166,7 @@ void FileOpening::mnuFileOpen_Click(const std::optional<QString> &fileToOpen)
               .defaultExtension = extensionOf(DocumentKind::Joystick),
               .folder = m_context.paths.filesFolder() });
     if (!path) {
+        m_context.status.setText(u"Files not opened"_s);
         return;
     }
     if (isMacroExtension(lastThree(*path))) {
