@@ -783,7 +783,9 @@ void RandomWalk::renameMacro()
     const int index = upTo(qMax(0, int(names.size()) - 1));
     const QString name = u"N"_s + QString::number(++renames);
     const bool saves = oneIn(3);
-    if (!names.isEmpty()) {
+    // A line that begins with "=" has a macro without a name.
+    const bool isPossible = !names.value(index).isEmpty();
+    if (isPossible) {
         model->rename(names[index], name);
         if (saves) {
             model->saveBoth();
@@ -792,7 +794,7 @@ void RandomWalk::renameMacro()
     }
     QTimer::singleShot(0, editor.get(), [&] {
         auto *form = qobject_cast<MacroRenameForm *>(QApplication::activeModalWidget());
-        if (!names.isEmpty()) {
+        if (isPossible) {
             form->findChild<QListWidget *>(u"List1"_s)->setCurrentRow(index);
             form->findChild<QLineEdit *>(u"Text1"_s)->setText(name);
             form->findChild<QCheckBox *>(u"CheckAutoSave"_s)->setChecked(saves);

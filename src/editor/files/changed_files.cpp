@@ -66,10 +66,13 @@ void ChangedFiles::know(const Document &document)
     File &file = fileOf(document);
     file = File();
     file.path = document.path();
-    file.bytes = document.onDisk();
+    if (!document.onDisk().isNull()) {
+        file.bytes = document.onDisk();
+    }
     if (document.isRecovered()) {
         // The user was told of the file when the text was offered.
-        file.bytes = readWholeFile(file.path).value_or(QByteArray());
+        const auto bytes = readWholeFile(file.path);
+        file.bytes = bytes ? std::optional(*bytes) : std::nullopt;
     }
 }
 
@@ -78,7 +81,7 @@ bool ChangedFiles::hasChanged(const Document &document)
     File &file = fileOf(document);
     const QFileInfo now(document.path());
     // What stands under a fresh name is nobody's choice; an autosave moves it out of the way.
-    if (file.bytes.isNull() || file.path != document.path() || isUntitled(document.name())
+    if (!file.bytes || file.path != document.path() || isUntitled(document.name())
         || !now.isFile()) {
         return false;
     }

@@ -43,9 +43,9 @@ private:
     /// What is known of a document's file.
     struct File {
         QString path;
-        QByteArray bytes; ///< that may be overwritten; null: whatever it holds
+        std::optional<QByteArray> bytes; ///< that may be overwritten; none: whatever it holds
         QByteArray found; ///< what it was found to hold instead
-        QByteArray asked; ///< the user has seen the question about these
+        std::optional<QByteArray> asked; ///< the user has seen the question about these
         qint64 size = -1; ///< with the time: bytes were there then
         QDateTime time;
     };
