@@ -85,7 +85,9 @@ public:
     /// The present looks and the caret go into the slot that is shown.
     void store(const Text &text, int caretNow) { m_slots[m_index] = { text, caretNow }; }
 
-    bool canStep(bool back) const { return back ? m_index + 1 < m_slots.size() : m_index > 0; }
+    /// How many steps can be undone, or redone.
+    int steps(bool back) const { return int(back ? m_slots.size() - m_index - 1 : m_index); }
+    bool canStep(bool back) const { return steps(back) > 0; }
     /// Undoes or redoes a step, which there must be, and gives what has to be shown then.
     const Slot &step(bool back)
     {
@@ -93,14 +95,13 @@ public:
         m_moved = true;
         return m_slots[m_index];
     }
-    QString undoCaption() const { return caption(u"&Undo", m_slots.size() - m_index - 1); }
-    QString redoCaption() const { return caption(u"&Redo", m_index); }
+    QString undoCaption() const { return caption(u"&Undo", steps(true)); }
+    QString redoCaption() const { return caption(u"&Redo", steps(false)); }
 
 private:
-    static QString caption(QStringView word, size_t steps)
+    static QString caption(QStringView word, int count)
     {
-        const QString count = steps == 0 ? QString() : u" ("_s + QString::number(steps) + u')';
-        return word.toString() + count;
+        return word.toString() + (count == 0 ? QString() : u" ("_s + QString::number(count) + u')');
     }
 
     std::vector<Slot> m_slots;
