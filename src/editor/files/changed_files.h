@@ -48,7 +48,7 @@ private:
     Parts m_parts;
     KnownFiles m_known;
     /// For each document: what its file held when the user saw the question.
-    std::array<QByteArray, 2> m_asked;
+    std::array<std::optional<QByteArray>, 2> m_asked;
     bool m_asks = false;
     bool m_willCheck = false;
 };
