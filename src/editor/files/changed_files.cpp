@@ -8,6 +8,7 @@
 #include "editor/files/file_opening.h"
 #include "platform/core/file_io.h"
 #include "platform/dialogs.h"
+#include "platform/status_line.h"
 #include "text/text_lines.h"
 
 #include <QApplication>
@@ -101,7 +102,13 @@ bool ChangedFiles::hasChanged(const Document &document)
 
 bool ChangedFiles::maySave(Document &document)
 {
-    return !hasChanged(document) || ask(document);
+    if (!hasChanged(document) || ask(document)) {
+        return true;
+    }
+    if (document.isModified()) {
+        m_context.status.setText(document.name() + u" isn't saved"_s);
+    }
+    return false;
 }
 
 void ChangedFiles::check()
