@@ -7,6 +7,7 @@
 #include "editor/files/both_texts.h"
 #include "editor/files/file_opening.h"
 #include "platform/dialogs.h"
+#include "platform/status_line.h"
 #include "text/text_lines.h"
 
 #include <QApplication>
@@ -52,7 +53,13 @@ bool ChangedFiles::hasChanged(const Document &document)
 bool ChangedFiles::maySave(Document &document)
 {
     const auto other = m_known.changeOf(document);
-    return !other || ask(document, *other);
+    if (!other || ask(document, *other)) {
+        return true;
+    }
+    if (document.isModified()) {
+        m_context.status.setText(document.name() + u" isn't saved"_s);
+    }
+    return false;
 }
 
 void ChangedFiles::check()
