@@ -75,7 +75,7 @@ void ChangedFiles::check()
         const bool isOnItsWay = document.isLocked()
             && !(kind == DocumentKind::Macro && m_parts.view.documents().isProtected());
         const auto other = isOnItsWay ? std::nullopt : m_known.changeOf(document);
-        if (other && *other != m_asked[size_t(kind)]) {
+        if (other && !m_known.wasTold(document, *other)) {
             ask(document, *other);
         }
     }
@@ -87,7 +87,7 @@ bool ChangedFiles::ask(Document &document, const QByteArray &other)
     std::optional<QByteArray> found = other;
     // Without a change the other program has taken its own back meanwhile.
     for (; found; found = m_known.changeOf(document)) {
-        m_asked[size_t(document.kind())] = *found;
+        m_known.noteTold(document, *found);
         switch (m_context.dialogs.box(changedFileBox(document))) {
         case BoxButton::Yes:
             // What is on its way to the Cougar stays until it is there.
