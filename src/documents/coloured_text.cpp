@@ -72,7 +72,7 @@ void ColouredText::setText(const QString &text)
     setRichText(RichText::plain(text, m_plain, documentParagraph));
 }
 
-void ColouredText::setRichText(const RichText &text)
+void ColouredText::setRichText(const NumberedRichText &text)
 {
     const CaretPlace before(m_cursor);
     m_states.setText(text);
@@ -172,6 +172,7 @@ void ColouredText::follow(const QTextCursor &cursor)
     if (cursor.position() != m_states.typingPlace() || cursor.hasSelection()) {
         m_states.setTyping(cursor.position(), std::nullopt);
     }
+    m_caretMark.follow(selStart());
     Q_EMIT caretMoved();
     if (std::exchange(m_hadSelection, m_cursor.hasSelection()) != m_hadSelection) {
         Q_EMIT selectionChanged(m_hadSelection);

@@ -14,6 +14,24 @@ namespace zeph {
 /// The small margin that every document has.
 constexpr ParagraphFormat documentParagraph = { .leftIndentTwips = 20 };
 
+/// Remembers a place of the caret, and whether the caret has been elsewhere since.
+class CaretMark
+{
+public:
+    void set(int place)
+    {
+        m_place = place;
+        m_isLeft = false;
+    }
+    void leave() { m_isLeft = true; }
+    void follow(int caret) { m_isLeft = m_isLeft || caret != m_place; }
+    bool isLeft() const { return m_isLeft; }
+
+private:
+    int m_place = 0;
+    bool m_isLeft = false;
+};
+
 /// A text of lines with its looks and the user's caret, with or without a view. Owns the toolkit's
 /// text; positions are 0-based characters.
 ///
@@ -37,7 +55,7 @@ public:
     /// Number of characters.
     int length() const;
     void setText(const QString &text);
-    void setRichText(const RichText &text);
+    void setRichText(const NumberedRichText &text);
     /// Replaces a stretch; the new text looks as if it were typed at its end. Caret and selection
     /// move along.
     void replace(int start, int length, const QString &text);
@@ -79,8 +97,7 @@ public:
     void setCaret(int anchor, int caret);
     /// Takes over the caret that the user has moved in a view.
     void follow(const QTextCursor &cursor);
-    /// Whether the program changes the text right now.
-    bool isWriting() const { return m_states.isWriting(); }
+    CaretMark &caretMark() { return m_caretMark; }
 
     /// A locked text takes no changes from the user.
     bool isLocked() const { return m_locked; }
@@ -129,6 +146,7 @@ private:
 
     bool m_locked = false;
     bool m_hadSelection = false;
+    CaretMark m_caretMark;
     int m_quiet = 0; ///< number of Quiets that exist
     CharFormat m_plain;
     QTextDocument m_content;

@@ -24,7 +24,6 @@ Document::Document(DocumentKind kind, const int &undoMax, QObject *parent)
 {
     setState(Empty);
     connect(this, &ColouredText::changed, this, &Document::countEdit);
-    connect(this, &ColouredText::caretMoved, this, [this] { m_history.caretMoved(); });
     connect(this, &ColouredText::keyComing, this, [this](int key) { m_history.keyPressed(key); });
 }
 

@@ -23,6 +23,21 @@ quint32 LookTable::numberOf(const CharFormat &look, bool isColourByHand)
     return number.value();
 }
 
+TextChunk::Runs LookTable::runsOf(const LookRuns &looks)
+{
+    std::vector<quint32> numbers;
+    for (size_t i = 0; i < looks.looks.size(); ++i) {
+        const bool isByHand = i < looks.coloursByHand.size() && looks.coloursByHand[i];
+        numbers.push_back(numberOf(looks.looks[i], isByHand));
+    }
+    TextChunk::Runs runs;
+    runs.reserve(looks.runs.size());
+    for (const LookRun &run : looks.runs) {
+        addRun(runs, { run.length, numbers[run.format] });
+    }
+    return runs;
+}
+
 LookTable::Key LookTable::keyOf(const CharFormat &look, bool isColourByHand) const
 {
     Key key{ look, false, look.bold == m_plain.bold, isColourByHand && look.colour };

@@ -108,7 +108,7 @@ void TextControl::useFont()
 void TextControl::tellCaret()
 {
     // The text itself tells where its caret went by a change of the program's.
-    if (!m_marks && !m_shows && !m_text.isWriting()) {
+    if (!m_marks && !m_shows && !m_text.states().isWriting()) {
         m_text.follow(textCursor());
     }
 }

@@ -139,7 +139,7 @@ void TextLooks::mnuFormatFont_Click()
 
 void TextLooks::DoTheFonts()
 {
-    // Text in the plain font follows it, in whatever was undone too.
+    // Text in the plain font changes with the setting, in the states kept for undo too.
     m_parts.view.applyLook();
 }
 

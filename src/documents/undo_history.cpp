@@ -19,8 +19,7 @@ void UndoHistory::reset()
     m_slots.push_front({ m_states.present(), 0 });
     m_index = 1;
     UndoStepNext = 1;
-    m_caret = m_text.selStart();
-    m_caretHasMoved = false;
+    m_text.caretMark().set(m_text.selStart());
     m_lastKeyWasSpace = m_lastKeyWasEnter = false;
 }
 
@@ -34,8 +33,7 @@ bool UndoHistory::textChanged()
     Slot now = present();
     const bool pushes = UndoStepNext == 1 || canRedo();
     UndoStepNext = 1;
-    m_caret = now.caret;
-    m_caretHasMoved = false;
+    m_text.caretMark().set(m_text.selStart());
     if (now.state == m_slots[size_t(m_index) - 1].state) {
         return false;
     }
@@ -57,11 +55,6 @@ void UndoHistory::storeShown()
     m_slots[size_t(m_index) - 1] = present();
 }
 
-void UndoHistory::caretMoved()
-{
-    m_caretHasMoved = m_caretHasMoved || m_text.selStart() != m_caret;
-}
-
 void UndoHistory::keyPressed(int key)
 {
     if (key == Qt::Key_Delete) {
@@ -71,7 +64,7 @@ void UndoHistory::keyPressed(int key)
     const bool space = key == Qt::Key_Space;
     const bool enter = key == Qt::Key_Return || key == Qt::Key_Enter;
     // What the key replaces, and what was typed elsewhere before, must stay within reach.
-    const bool startsElsewhere = m_caretHasMoved || m_text.selLength() > 0;
+    const bool startsElsewhere = m_text.caretMark().isLeft() || m_text.selLength() > 0;
     if (space && m_text.length() == 0) {
         UndoStepNext = 0;
     } else if (slots() == 1 || key == Qt::Key_Backspace || startsElsewhere) {
@@ -106,7 +99,7 @@ void UndoHistory::show(int index)
     m_states.restore(slot.state);
     m_text.select(slot.caret, 0);
     // The next key goes on from here, not from the word that was typed last.
-    m_caretHasMoved = true;
+    m_text.caretMark().leave();
 }
 
 qsizetype UndoHistory::bytesHeld() const

@@ -29,9 +29,8 @@ public:
     /// Puts the document as it stands, and its caret, into the slot now shown, without making a
     /// step: its looks may have become others, or its stamp.
     void storeShown();
-    /// The next key starts a step if the caret is elsewhere than the last change left it.
-    void caretMoved();
-    /// The word rules, before the change that a key brings: Qt::Key values.
+    /// The word rules, before the change that a key brings: Qt::Key values. A key starts a step if
+    /// the caret has been elsewhere than the last change left it.
     void keyPressed(int key);
     /// Shows the next older state in the document; does nothing at the oldest.
     void undo();
@@ -62,8 +61,6 @@ private:
     DocumentStates &m_states;
     std::deque<Slot> m_slots; ///< slot 1 comes first
     int m_index = 1;
-    int m_caret = 0; ///< where the last change left it
-    bool m_caretHasMoved = false;
     bool m_lastKeyWasSpace = false;
     bool m_lastKeyWasEnter = false;
 };

@@ -42,7 +42,7 @@ enum class ActionKind {
     Submenu
 };
 
-/// One entry; the rows have the order of the menus.
+/// One entry, separator or submenu; the rows have the order of the menus.
 struct ActionRow {
     const char16_t *menu; ///< object name of the menu that holds it; empty: the bar itself
     const char16_t *name; ///< object name; element i of an array is NAME_i

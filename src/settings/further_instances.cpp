@@ -68,9 +68,11 @@ Instance MoreThan1open(const QString &appFolder)
 
 void GetRidOfPreviousIniFiles(const QString &appFolder)
 {
+    const QStringList names =
+        QDir(appFolder).entryList({ u"Zeph.*"_s }, QDir::Files | QDir::Hidden);
     for (int number = firstNumber; number <= neverUsed; ++number) {
         const QString path = copyPath(appFolder, number);
-        if (QFile::exists(path) && lockCopy(appFolder, number)->isFirst()) {
+        if (names.contains(nameOf(path)) && lockCopy(appFolder, number)->isFirst()) {
             QFile::remove(path);
         }
     }

@@ -98,15 +98,24 @@ void CoolBar::attach(Editor &editor)
     for (const ActionRow &row : actionTable()) {
         const QString name = text(row.name);
         if (editor.actions().has(name)) {
-            connect(editor.action(name), &QAction::changed, this, &CoolBar::refresh,
-                    Qt::QueuedConnection);
+            connect(editor.action(name), &QAction::changed, this, &CoolBar::refreshLater);
         }
     }
     refresh();
 }
 
+// Entries change by the dozen.
+void CoolBar::refreshLater()
+{
+    if (!m_refreshIsDue) {
+        m_refreshIsDue = true;
+        QMetaObject::invokeMethod(this, &CoolBar::refresh, Qt::QueuedConnection);
+    }
+}
+
 void CoolBar::refresh()
 {
+    m_refreshIsDue = false;
     for (Button &button : m_buttons) {
         follow(button);
     }
@@ -116,6 +125,10 @@ void CoolBar::refresh()
 void CoolBar::follow(Button &button)
 {
     const QAction *action = target(*button.row);
+    if (isCustomApp(*button.row)) {
+        // Before the button is enabled: what is shown again is enabled by the toolkit.
+        button.visibility->setVisible(action && action->isVisible());
+    }
     const bool showsEditor = button.row->look.action[0] == 0;
     button.control->setEnabled(m_editor && (showsEditor || (action && action->isEnabled())));
     button.control->setCheckable(action && action->isCheckable());
@@ -128,12 +141,9 @@ void CoolBar::follow(Button &button)
     if (action && saysSteps(*button.row)) {
         button.control->setAccessibleName(action->toolTip());
     }
-    if (isCustomApp(*button.row)) {
-        button.visibility->setVisible(action && action->isVisible());
-        if (action) {
-            button.control->setAccessibleName(action->text().replace(u"&&"_s, u"&"_s));
-            button.control->setIcon(action->icon());
-        }
+    if (action && isCustomApp(*button.row)) {
+        button.control->setAccessibleName(action->text().replace(u"&&"_s, u"&"_s));
+        button.control->setIcon(action->icon());
     }
 }
 

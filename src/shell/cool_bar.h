@@ -20,7 +20,7 @@ namespace zeph {
 class Editor;
 
 /// The toolbars of the main window: two movable bands of buttons and the three shortcut pictures.
-/// Each button runs a menu entry and can be used when that can.
+/// Each button runs a menu entry and can be used when that can; one shows the Editor instead.
 class CoolBar : public QObject
 {
     Q_OBJECT
@@ -47,6 +47,7 @@ private:
 
     QToolBar *makeBand(QMainWindow &window, const QString &name, const QString &title);
     void fillBand(QToolBar *band, std::span<const ToolButtonRow> rows);
+    void refreshLater();
     QAction *target(const ToolButtonRow &row) const;
     void press(const ToolButtonRow &row);
     void follow(Button &button);
@@ -59,6 +60,7 @@ private:
     QToolBar *m_toolbar2;
     QToolBar *m_shortcuts;
     std::vector<Button> m_buttons;
+    bool m_refreshIsDue = false;
 };
 
 } // namespace zeph

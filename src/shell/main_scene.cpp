@@ -67,6 +67,13 @@ void MainScene::saveSelected()
     m_parts.editor.saving().mnuFileSave_Click();
 }
 
+bool MainScene::settleChanges()
+{
+    FileSaving &saving = m_parts.editor.saving();
+    Documents &documents = m_parts.editor.documents();
+    return saving.settleChange(documents.joystick()) && saving.settleChange(documents.macro());
+}
+
 void MainScene::minimiseToolWindows()
 {
     ToolWindows &windows = m_parts.mum.toolWindows();

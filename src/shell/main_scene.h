@@ -32,6 +32,7 @@ public:
     MainScene(const Context &context, const Parts &parts);
 
     void saveSelected() override;
+    bool settleChanges() override;
     void minimiseToolWindows() override;
     void showCompilerHelp(const CompilerError &error) override;
     void showHelpOnErrors() override;

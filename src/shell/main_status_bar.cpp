@@ -124,7 +124,7 @@ void MainStatusBar::showPanel(StatusPanel shown)
     const auto *row = std::ranges::find(panelRows, shown, &PanelRow::panel);
     if (row == std::end(panelRows) || row->pictures.empty()) {
         label.setText(contents.text);
-        // The message line paints itself.
+        // The message line paints its text itself, so a label cannot know what has changed in it.
         label.update();
         return;
     }

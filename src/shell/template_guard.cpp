@@ -48,6 +48,8 @@ void TemplateGuard::watch(TemplateForm &form)
             m_timer.start();
         }
     });
+    connect(&form, &TemplateForm::fileWritten, this,
+            guarded(m_context.dialogs, [this](auto &&...) { update(true); }));
     connect(&form, &QObject::destroyed, this, [this] {
         m_timer.stop();
         settle();
@@ -133,8 +135,9 @@ bool TemplateGuard::offer(const RecoveredText &recovered)
         return false;
     }
     auto &form = *m_windows.open<TemplateForm>();
-    if (fileExists(recovered.path)) {
-        form.OpenReadMe(recovered.path);
+    // Without its file opened, the next save would write the text into another one.
+    if (fileExists(recovered.path) && !form.OpenReadMe(recovered.path)) {
+        return false;
     }
     // Over the file's text, so that it is unsaved.
     textOf(form).setRichText(*text);

@@ -5,6 +5,8 @@
 
 #include "editor/actions.h"
 
+#include <QHash>
+
 #include <array>
 
 namespace zeph {
@@ -115,13 +117,27 @@ const ToolButtonLook &lookOf(const ToolButtonRow &row, const ToolbarChoices &cho
     return chosen(row.choice, choices) ? row.look : row.other;
 }
 
+namespace {
+
+/// The entry's keys; empty for one without. They are kept, because every change of an entry asks
+/// for those of all buttons.
+QString keysOf(const char16_t *action)
+{
+    static QHash<const char16_t *, QString> known;
+    const auto found = known.constFind(action);
+    return found == known.cend() ? *known.insert(action, shortcutOf(actionTable(), action))
+                                 : *found;
+}
+
+} // namespace
+
 QString tooltipOf(const ToolButtonRow &row, const ToolbarChoices &choices)
 {
     const ToolButtonLook &look = lookOf(row, choices);
     const QString words = QString::fromUtf16(look.tooltip);
-    QString keys = shortcutOf(actionTable(), look.action);
+    QString keys = keysOf(look.action);
     if (keys.isEmpty()) {
-        keys = shortcutOf(actionTable(), row.other.action);
+        keys = keysOf(row.other.action);
     }
     if (keys.isEmpty() || look.key == KeyUntold) {
         return words;

@@ -14,6 +14,9 @@ public:
     /// Saves the selected document without asking, by Save As where it has no name. The document
     /// stays modified when the user cancels or the disk refuses.
     virtual void saveSelected() = 0;
+    /// Asks about each document whose file another program has changed. False when a file still
+    /// holds what the Editor does not show.
+    virtual bool settleChanges() = 0;
 };
 
 } // namespace zeph

@@ -76,7 +76,7 @@ ExchangeEnd ToolchainHandshake::runUnreportedRequest(const Launch &launch)
 
 ExchangeEnd ToolchainHandshake::run(Channel &channel, const Clear &clear, const Launch &launch)
 {
-    // The first poll would take an old status for the new verdict.
+    // Otherwise the first poll could take the status of an earlier request for this one's.
     if (!succeeded(clear())) {
         return ExchangeEnd::NotStarted;
     }

@@ -18,13 +18,14 @@
 #include <QRegularExpression>
 
 #include <algorithm>
+#include <iostream>
 
 using namespace zeph;
 using namespace zeph::test;
 
 namespace {
 
-const int kills = repeats(12, 50);
+const int kills = repeats(12, 100);
 /// From the first key on.
 constexpr int latestKillMs = 900;
 constexpr int startsWithinMs = 30000;
@@ -62,6 +63,8 @@ struct Text {
     qsizetype typed = 0;
     /// How many of them must not be lost.
     qsizetype kept = 0;
+    /// When each came, in milliseconds of the run.
+    QList<qint64> keyTimes{};
 
     /// How many of the keys stand in such a file; no value when it is none of this text's.
     std::optional<qsizetype> keysIn(const QByteArray &bytes) const
@@ -146,8 +149,17 @@ protected:
             SCOPED_TRACE("ZEPH_KILL_SEED=" + std::to_string(m_seed) + " last start");
             endWell();
         }
+        tell();
     }
 
+    /// A row of the table that a long run is read for.
+    void tell() const
+    {
+        std::cout << "kills " << kills << " | keys typed " << m_keys << " | lost at the end "
+                  << m_lost << ", the oldest " << double(m_oldestLostMs) / 1000
+                  << " s before the kill | texts taken back " << m_rescued
+                  << " | files found saved anew " << m_savedAnew << std::endl;
+    }
     int rescued() const { return m_rescued; }
     int savedAnew() const { return m_savedAnew; }
     QStringList backups() const
@@ -225,6 +237,7 @@ private:
         const int interval = asWritten[0].split(u' ')[2].toInt();
         ASSERT_LT(interval, mostLostMs);
         typedInto.typed = run.keys.size() + 1;
+        typedInto.keyTimes = run.keys;
         typedInto.kept = std::max(run.done, run.olderThan(mostLostMs / recoveryFactor));
         for (Text &text : m_texts) {
             lookAtDisk(text, run.done > 0, &text == &typedInto ? run.done : 0);
@@ -241,9 +254,23 @@ private:
             ASSERT_GE(*keys, text.kept) << "of " << text.typed << " keys typed";
             ASSERT_LE(*keys, text.typed);
             m_rescued += *keys > 0 && fileBytes(now) != text.disk ? 1 : 0;
+            count(text, *keys);
             text.shown = now;
             text.typed = 0;
+            text.keyTimes.clear();
             text.kept = 0;
+        }
+    }
+
+    /// How old the first lost key was when the last one came, in the program's time.
+    void count(const Text &text, qsizetype keysKept)
+    {
+        const QList<qint64> &times = text.keyTimes;
+        m_keys += times.size();
+        if (keysKept < times.size()) {
+            m_lost += times.size() - keysKept;
+            m_oldestLostMs =
+                std::max(m_oldestLostMs, (times.last() - times[keysKept]) * recoveryFactor);
         }
     }
 
@@ -328,6 +355,9 @@ private:
                                  Text{ u"MacroText"_s, u"Files/a.tmm"_s } };
     int m_rescued = 0;
     int m_savedAnew = 0;
+    qsizetype m_keys = 0;
+    qsizetype m_lost = 0;
+    qint64 m_oldestLostMs = 0;
 };
 
 const QString saveEachThirdKey = u"mnuFileSaveBoth 3"_s;

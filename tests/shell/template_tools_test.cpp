@@ -87,6 +87,22 @@ TEST_F(TemplateMenuTest, AnUnsavedTemplateIsAskedAboutBeforeTheEnd)
     EXPECT_TRUE(run->mum().close());
 }
 
+TEST_F(TemplateMenuTest, ASaveTakesTheKeptTextAway)
+{
+    run->editor().action(u"mnuAppsTemplateEditor")->trigger();
+    ASSERT_TRUE(form()->OpenReadMe(folder.write(u"Templates/mine.rtf"_s, "{\\rtf1 half}")));
+    textOf(*form()).setPlainText(u"a whole readme"_s);
+    QMetaObject::invokeMethod(run->mum().findChild<QTimer *>(u"TemplateRecoveryTimer"_s),
+                              "timeout");
+    const QString kept = u"Recovery/1/template.txt"_s;
+    for (int waited = 0; waited < 500 && !folder.exists(kept); ++waited) {
+        QTest::qWait(10);
+    }
+    ASSERT_TRUE(folder.exists(kept));
+    form()->mnuFileSave_Click();
+    EXPECT_FALSE(folder.exists(kept));
+}
+
 TEST_F(TemplateMenuTest, AnUnsavedTextIsOnTheDiskAndComesBackAfterACrash)
 {
     run->editor().action(u"mnuAppsTemplateEditor")->trigger();

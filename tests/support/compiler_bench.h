@@ -70,7 +70,11 @@ public:
         }
     }
 
+    bool settleChanges() override { return !leftOpen; }
+
     bool works = true;
+    /// Another program has changed a file, and the user leaves that open.
+    bool leftOpen = false;
 
 private:
     Documents &m_documents;

@@ -226,7 +226,7 @@ bool FindAndReplace::isOnLastHit(DocumentKind kind) const
 
 bool FindAndReplace::eventFilter(QObject *watched, QEvent *event)
 {
-    if (event->type() != QEvent::KeyPress || !isVisible()) {
+    if (event->type() != QEvent::KeyPress || !isVisible() || isMinimized()) {
         return QDialog::eventFilter(watched, event);
     }
     const auto *key = static_cast<QKeyEvent *>(event);

@@ -6,23 +6,14 @@
 #include "documents/editor_view.h"
 #include "editor/files/both_texts.h"
 #include "editor/files/file_opening.h"
-#include "platform/core/file_io.h"
 #include "platform/dialogs.h"
 #include "text/text_lines.h"
 
 #include <QApplication>
 #include <QEvent>
-#include <QFileInfo>
 #include <QScopedValueRollback>
 
 namespace zeph {
-
-namespace {
-
-/// A file system may tell the same time for two writes that follow each other at once.
-constexpr qint64 settledMs = 2000;
-
-} // namespace
 
 Box changedFileBox(const Document &document)
 {
@@ -42,69 +33,26 @@ Box changedFileBox(const Document &document)
 }
 
 ChangedFiles::ChangedFiles(const Context &context, const Parts &parts)
-    : m_context(context), m_parts(parts)
+    : m_context(context), m_parts(parts), m_known(parts.view.documents())
 {
-    parts.view.documents().forEach([this](Document &each) {
-        connect(&each, &Document::replaced, this, [this, &each](Document::How how) {
-            if (how != Document::How::Undone) {
-                know(each);
-            }
-        });
-        connect(&each, &Document::written, this, [this, &each] { know(each); });
-    });
     connect(&parts.opening, &FileOpening::keptInSpiteOfDisk, this, [this](DocumentKind kind) {
         Document &document = m_parts.view.documents().of(kind);
-        if (hasChanged(document)) {
-            keepOurs(document);
+        if (const auto other = m_known.changeOf(document)) {
+            keepOurs(document, *other);
         }
     });
     parts.view.installEventFilter(this);
 }
 
-void ChangedFiles::know(const Document &document)
-{
-    File &file = fileOf(document);
-    file = File();
-    file.path = document.path();
-    if (!document.onDisk().isNull()) {
-        file.bytes = document.onDisk();
-    }
-    if (document.isRecovered()) {
-        // The user was told of the file when the text was offered.
-        const auto bytes = readWholeFile(file.path);
-        file.bytes = bytes ? std::optional(*bytes) : std::nullopt;
-    }
-}
-
 bool ChangedFiles::hasChanged(const Document &document)
 {
-    File &file = fileOf(document);
-    const QFileInfo now(document.path());
-    // What stands under a fresh name is nobody's choice; an autosave moves it out of the way.
-    if (!file.bytes || file.path != document.path() || isUntitled(document.name())
-        || !now.isFile()) {
-        return false;
-    }
-    const QDateTime time = now.lastModified();
-    if (file.size == now.size() && file.time == time) {
-        return false;
-    }
-    const auto bytes = readWholeFile(file.path);
-    if (!bytes || *bytes == file.bytes) {
-        const bool isSettled = time.msecsTo(QDateTime::currentDateTime()) > settledMs;
-        if (bytes && isSettled) {
-            file.size = now.size();
-            file.time = time;
-        }
-        return false;
-    }
-    file.found = *bytes;
-    return true;
+    return m_known.changeOf(document).has_value();
 }
 
 bool ChangedFiles::maySave(Document &document)
 {
-    return !hasChanged(document) || ask(document);
+    const auto other = m_known.changeOf(document);
+    return !other || ask(document, *other);
 }
 
 void ChangedFiles::check()
@@ -119,19 +67,20 @@ void ChangedFiles::check()
         Document &document = m_parts.view.documents().of(kind);
         const bool isOnItsWay = document.isLocked()
             && !(kind == DocumentKind::Macro && m_parts.view.documents().isProtected());
-        if (!isOnItsWay && hasChanged(document)
-            && fileOf(document).found != fileOf(document).asked) {
-            ask(document);
+        const auto other = isOnItsWay ? std::nullopt : m_known.changeOf(document);
+        if (other && *other != m_asked[size_t(kind)]) {
+            ask(document, *other);
         }
     }
 }
 
-bool ChangedFiles::ask(Document &document)
+bool ChangedFiles::ask(Document &document, const QByteArray &other)
 {
     const QScopedValueRollback asks(m_asks, true);
-    for (;;) {
-        File &file = fileOf(document);
-        file.asked = file.found;
+    std::optional<QByteArray> found = other;
+    // Without a change the other program has taken its own back meanwhile.
+    for (; found; found = m_known.changeOf(document)) {
+        m_asked[size_t(document.kind())] = *found;
         switch (m_context.dialogs.box(changedFileBox(document))) {
         case BoxButton::Yes:
             // What is on its way to the Cougar stays until it is there.
@@ -140,11 +89,11 @@ bool ChangedFiles::ask(Document &document)
             }
             return false;
         case BoxButton::No:
-            keepOurs(document);
+            keepOurs(document, *found);
             return true;
         case BoxButton::Other: {
             BothTexts texts(document.name(), document.text(),
-                            documentText(file.found).value_or(QString::fromLatin1(file.found)),
+                            documentText(*found).value_or(QString::fromLatin1(*found)),
                             m_parts.view.window());
             texts.exec();
             break;
@@ -152,20 +101,15 @@ bool ChangedFiles::ask(Document &document)
         default:
             return false;
         }
-        if (!hasChanged(document)) {
-            // Meanwhile the other program has taken its change back.
-            return true;
-        }
     }
+    return true;
 }
 
-void ChangedFiles::keepOurs(Document &document)
+void ChangedFiles::keepOurs(Document &document, const QByteArray &other)
 {
-    File &file = fileOf(document);
-    file.bytes = file.found;
-    const bool isTheSame = documentText(file.found) == document.text();
-    if (isTheSame) {
-        document.tellWritten(file.found, Document::Save::Automatic);
+    m_known.accept(document, other);
+    if (documentText(other) == document.text()) {
+        document.tellWritten(other, Document::Save::Automatic);
     } else {
         document.setState(Document::Modified);
     }

@@ -5,10 +5,10 @@
 
 #include "documents/document.h"
 #include "editor/files/file_saving.h"
+#include "editor/files/known_files.h"
 #include "platform/context.h"
 #include "platform/dialogs.h"
 
-#include <QDateTime>
 #include <QObject>
 
 #include <array>
@@ -18,9 +18,8 @@ namespace zeph {
 class EditorView;
 class FileOpening;
 
-/// Notices that another program has changed the file of a document: when the window gets the focus,
-/// and before a save. What the last load or save left is told by the file's time and size, and
-/// where these are others, by its content.
+/// Asks what becomes of a document whose file another program has changed: when the window gets the
+/// focus, and before a save.
 class ChangedFiles : public QObject, public OverwriteGuard
 {
     Q_OBJECT
@@ -40,25 +39,16 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-    /// What is known of a document's file.
-    struct File {
-        QString path;
-        std::optional<QByteArray> bytes; ///< that may be overwritten; none: whatever it holds
-        QByteArray found; ///< what it was found to hold instead
-        std::optional<QByteArray> asked; ///< the user has seen the question about these
-        qint64 size = -1; ///< with the time: bytes were there then
-        QDateTime time;
-    };
-
-    void know(const Document &document);
-    /// Asks until there is an answer. True when the user keeps the text of the Editor.
-    bool ask(Document &document);
-    void keepOurs(Document &document);
-    File &fileOf(const Document &document) { return m_files[size_t(document.kind())]; }
+    /// Asks until there is an answer to what the file holds now. True when the user keeps the text
+    /// of the Editor.
+    bool ask(Document &document, const QByteArray &other);
+    void keepOurs(Document &document, const QByteArray &other);
 
     Context m_context;
     Parts m_parts;
-    std::array<File, 2> m_files;
+    KnownFiles m_known;
+    /// For each document: what its file held when the user saw the question.
+    std::array<std::optional<QByteArray>, 2> m_asked;
     bool m_asks = false;
     bool m_willCheck = false;
 };

@@ -13,6 +13,7 @@
 #include "menus/menu_actions.h"
 #include "platform/input/keyboard.h"
 #include "platform/status_line.h"
+#include "settings/colour_settings.h"
 #include "settings/settings.h"
 #include "text/text_lines.h"
 #include "text/use_statements.h"
@@ -166,6 +167,7 @@ void FileOpening::mnuFileOpen_Click(const std::optional<QString> &fileToOpen)
               .defaultExtension = extensionOf(DocumentKind::Joystick),
               .folder = m_context.paths.filesFolder() });
     if (!path) {
+        m_context.status.setText(u"Files not opened"_s);
         return;
     }
     if (isMacroExtension(lastThree(*path))) {
@@ -283,7 +285,8 @@ void FileOpening::show(Document &document, const QString &path, const QString &t
 {
     document.rename(path);
     const CharFormat plain = m_parts.view.documents().plainFormat(document.kind());
-    const auto coloured = m_parts.copies.load(document.name(), text, plain);
+    const auto coloured = m_parts.copies.load(
+        document.name(), text, plain, coloursOfSchemes(m_context.settings.of<ColourSettings>()));
     restoreKeyboard();
     if (coloured) {
         document.setRichText(*coloured);

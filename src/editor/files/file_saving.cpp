@@ -43,7 +43,9 @@ void FileSaving::mnuFileSave_Click()
         mnuFileSaveAs_Click();
         return;
     }
-    SaveText(document);
+    if (!SaveText(document)) {
+        noticeLoss(document);
+    }
 }
 
 void FileSaving::mnuFileSaveAs_Click()
@@ -64,10 +66,10 @@ void FileSaving::mnuFileSaveAs_Click()
     }
     const QString oldPath = document.path();
     document.rename(path);
-    SaveText(document);
-    if (document.state() != Document::Saved) {
+    if (!SaveText(document)) {
         // The text still belongs to the file that it came from.
         document.rename(oldPath);
+        document.updateState();
         m_view.UpdateSavedIcon();
     }
 }
@@ -91,15 +93,33 @@ QString FileSaving::proposedName(const Document &document)
     return document.name();
 }
 
-void FileSaving::SaveText(Document &document)
+bool FileSaving::SaveText(Document &document)
 {
     if (!encodable(document, Stranger::Show) || (m_guard && !m_guard->maySave(document))) {
-        return;
+        return false;
     }
-    if (m_context.settings.of<EditorSettings>().UpdateModified) {
+    // What is on its way to the Cougar stays as it is.
+    if (m_context.settings.of<EditorSettings>().UpdateModified && !document.isLocked()) {
         ModifyDate(document);
     }
-    write(document, Document::Save::Asked);
+    return write(document, Document::Save::Asked);
+}
+
+/// Without its file a text is unsaved, even when it is brought back to what the file held.
+void FileSaving::noticeLoss(Document &document)
+{
+    if (!fileExists(document.path())) {
+        document.setState(Document::Modified);
+    }
+}
+
+bool FileSaving::settleChange(Document &document)
+{
+    if (m_guard && m_guard->hasChanged(document)) {
+        m_guard->maySave(document);
+        return !m_guard->hasChanged(document);
+    }
+    return true;
 }
 
 void FileSaving::AutoSaveText(Document &document)
@@ -114,20 +134,21 @@ void FileSaving::AutoSaveText(Document &document)
                                    "text is safe in the recovery file until you save it."_s);
         return;
     }
-    if (encodable(document, Stranger::TellOnly) && keepStrangersFile(document)) {
-        write(document, Document::Save::Automatic);
+    if (encodable(document, Stranger::TellOnly) && keepStrangersFile(document)
+        && !write(document, Document::Save::Automatic)) {
+        noticeLoss(document);
     }
 }
 
-/// Writes the text, its backup and its coloured copy, then emits the document's signal for it. A
-/// failure to write the text is told in a box, the others on the status line.
-void FileSaving::write(Document &document, Document::Save save)
+/// Writes the text, its backup and its coloured copy, then tells the document. A failure to write
+/// the text is told in a box and gives false, the others are told on the status line.
+bool FileSaving::write(Document &document, Document::Save save)
 {
     document.tellAboutToBeWritten();
     const QByteArray bytes = documentBytes(document.text());
     if (const auto done = writeFileAtomically(document.path(), bytes); !done) {
         tellUnsaved(document, done.error());
-        return;
+        return false;
     }
     QString status = document.path() + u" saved successfully."_s;
     if (const auto kept = m_backups.SaveJoystickBackup(document); !kept) {
@@ -139,6 +160,7 @@ void FileSaving::write(Document &document, Document::Save save)
     m_context.status.setText(status);
     m_view.documents().markOverwritten(document);
     document.tellWritten(bytes, save);
+    return true;
 }
 
 void FileSaving::tellUnsaved(Document &document, const FileError &error)

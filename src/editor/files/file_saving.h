@@ -19,8 +19,8 @@ class OverwriteGuard
 public:
     virtual ~OverwriteGuard() = default;
 
-    /// Whether the file holds what no load or save of this document left there. False for a
-    /// document without a file, and while the file cannot be read.
+    /// Whether the file holds what no load or save of this document left there, or cannot be read
+    /// any more. False for a document without a file.
     virtual bool hasChanged(const Document &document) = 0;
     /// Before a save: asks about a changed file. False when it must stay as it is.
     virtual bool maySave(Document &document) = 0;
@@ -43,8 +43,11 @@ public:
     void mnuFileSaveBoth_Click();
 
     /// Writes one document to its path, with an updated stamp if the settings ask for it, a backup
-    /// and the coloured copy.
-    void SaveText(Document &document);
+    /// and the coloured copy. False when it was not written, which is told.
+    bool SaveText(Document &document);
+    /// Asks about a file that another program has changed. False while it holds what the document
+    /// does not show.
+    bool settleChange(Document &document);
     /// Writes one document to its path without disturbing the pilot: the stamp, the caret, the undo
     /// history and the lists stay as they are.
     void AutoSaveText(Document &document);
@@ -55,7 +58,8 @@ private:
     enum class Stranger { Show, TellOnly };
 
     bool encodable(Document &document, Stranger stranger);
-    void write(Document &document, Document::Save save);
+    bool write(Document &document, Document::Save save);
+    void noticeLoss(Document &document);
     void tellUnsaved(Document &document, const FileError &error);
     bool keepStrangersFile(const Document &document);
     QString proposedName(const Document &document);

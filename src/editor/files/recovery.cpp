@@ -72,6 +72,8 @@ Recovery::Recovery(const Context &context, const Parts &parts)
     m_timer.callOnTimeout(this, guarded(context.dialogs, [this](auto &&...) { updateSoon(); }));
     parts.view.documents().forEach([this](Document &each) {
         connect(&each, &Document::edited, this, &Recovery::touched);
+        // A text becomes the only one of its kind without an edit, too: when the file changes.
+        connect(&each, &Document::stateChanged, this, &Recovery::touched);
         connect(&each, &Document::replaced, this, [this](Document::How how) {
             if (how == Document::How::Undone) {
                 touched();

@@ -4,6 +4,7 @@
 #include "platform/core/paths.h"
 
 #include <QDir>
+#include <QDirIterator>
 #include <QFileInfo>
 
 namespace zeph {
@@ -35,13 +36,18 @@ QString entryOf(const QString &folder, const QString &name)
         return name;
     }
     constexpr QDir::Filters all = QDir::AllEntries | QDir::Hidden | QDir::System;
-    const QStringList entries = QDir(folder.isEmpty() ? u"."_s : folder).entryList(all, QDir::Name);
-    for (const QString &entry : entries) {
-        if (entry.compare(name, Qt::CaseInsensitive) == 0) {
-            return entry;
+    QDirIterator entries(folder.isEmpty() ? u"."_s : folder, all);
+    QString found;
+    while (entries.hasNext()) {
+        entries.next();
+        const QString entry = entries.fileName();
+        const bool isNamed = entry.compare(name, Qt::CaseInsensitive) == 0;
+        // A folder has no order of its own, and the answer must not change.
+        if (isNamed && (found.isEmpty() || entry < found)) {
+            found = entry;
         }
     }
-    return {};
+    return found;
 }
 #endif
 

@@ -33,7 +33,7 @@ void Compile::mnuAppsCompile_Click()
 
 void Compile::compile()
 {
-    if (!canBegin() || !saveJoystick() || !macroFileMayDiffer()) {
+    if (!canBegin() || !m_parts.saver.settleChanges() || !saveJoystick() || !macroFileMayDiffer()) {
         return;
     }
     if (m_parts.documents.joystick().path().contains(u'"')) {

@@ -65,7 +65,8 @@ void Download::DownloadTMJ()
 void Download::download()
 {
     m_parts.documents.select(DocumentKind::Joystick);
-    if (!canBegin() || !joystickFileMayGo() || !macroFileMayDiffer()) {
+    if (!canBegin() || !m_parts.saver.settleChanges() || !joystickFileMayGo()
+        || !macroFileMayDiffer()) {
         return;
     }
     if (m_parts.documents.joystick().path().contains(u'"')) {

@@ -113,6 +113,41 @@ TEST_F(ChangedFilesTest, TheTextThatIsKeptIsModifiedAndItsSaveAsksNoMore)
     EXPECT_EQ(onDisk(), "BTN S1 a");
 }
 
+TEST_F(ChangedFilesTest, TheTextThatIsKeptGoesIntoTheRecoveryFileWithoutAKey)
+{
+    auto *timer = editor->findChild<QTimer *>(u"RecoveryTimer"_s);
+    change("BTN S1 other");
+    dialogs.answer(title, BoxButton::No);
+    files().check();
+    EXPECT_TRUE(timer->isActive());
+}
+
+TEST_F(ChangedFilesTest, BytesThatComeWhileTheQuestionIsOpenAreNotTakenForAnswered)
+{
+    change("BTN S1 other");
+    dialogs.answer(title, BoxButton::Other);
+    dialogs.answer(title, BoxButton::No);
+    QTimer::singleShot(0, editor.get(), [&] {
+        change("BTN S1 third");
+        QApplication::activeModalWidget()->close();
+    });
+    files().check();
+    EXPECT_FALSE(files().hasChanged(editor->joystick())) << "the second question was about these";
+    change("BTN S1 fourth");
+    EXPECT_TRUE(files().hasChanged(editor->joystick()));
+}
+
+TEST_F(ChangedFilesTest, BeforeACompileTheAnswerDecidesWhetherTheFileIsTheTextShown)
+{
+    change("BTN S1 other");
+    dialogs.answer(title, BoxButton::Cancel);
+    EXPECT_FALSE(editor->saving().settleChange(editor->joystick()));
+    dialogs.answer(title, BoxButton::No);
+    EXPECT_TRUE(editor->saving().settleChange(editor->joystick()));
+    EXPECT_TRUE(editor->joystick().isModified()) << "to be saved before it is sent";
+    EXPECT_TRUE(editor->saving().settleChange(editor->joystick()));
+}
+
 TEST_F(ChangedFilesTest, AnotherChangeAfterThatIsAskedAboutAgain)
 {
     change("BTN S1 other");

@@ -68,6 +68,14 @@ TEST_F(FileSavingTest, TheStampIsBroughtUpToDateAndIsNoEdit)
     EXPECT_EQ(editor->joystick().state(), Document::Saved);
 }
 
+TEST_F(FileSavingTest, ATextOnItsWayToTheCougarKeepsItsStamp)
+{
+    open(u"a.tmj"_s, "Rem Last modified: long ago\r\nBTN S1 a");
+    editor->joystick().setLocked(true);
+    saving().mnuFileSave_Click();
+    EXPECT_EQ(folder.read(u"Files/a.tmj"_s), "Rem Last modified: long ago\r\nBTN S1 a");
+}
+
 TEST_F(FileSavingTest, WithoutUpdateModifiedTheStampStays)
 {
     settings.of<EditorSettings>().UpdateModified = false;
@@ -181,6 +189,28 @@ TEST_F(FileSavingTest, AFailedSaveAsKeepsTheOldName)
     dialogs.answer(u"I couldn't save your file buddy"_s, BoxButton::Ok);
     saving().mnuFileSaveAs_Click();
     EXPECT_EQ(editor->joystick().path(), folder.file(u"Files/a.tmj"_s));
+    EXPECT_EQ(editor->joystick().state(), Document::Saved) << "its own file holds it";
+}
+
+TEST_F(FileSavingTest, AFailedSaveAsOfAChangedTextLeavesItUnsaved)
+{
+    open(u"a.tmj"_s, "BTN S1 a");
+    type(DocumentKind::Joystick, u"x"_s);
+    dialogs.answerFile(folder.file(u"nowhere/b.tmj"_s));
+    dialogs.answer(u"I couldn't save your file buddy"_s, BoxButton::Ok);
+    saving().mnuFileSaveAs_Click();
+    EXPECT_EQ(editor->joystick().state(), Document::Modified);
+}
+
+TEST_F(FileSavingTest, AfterASaveIntoAFolderThatIsGoneUndoDoesNotMakeTheTextSaved)
+{
+    open(u"gone/a.tmj"_s, "BTN S1 a");
+    type(DocumentKind::Joystick, u"x"_s);
+    ASSERT_TRUE(QDir(folder.file(u"Files/gone"_s)).removeRecursively());
+    dialogs.answer(u"I couldn't save your file buddy"_s, BoxButton::Ok);
+    saving().mnuFileSave_Click();
+    editor->joystick().undo();
+    EXPECT_EQ(editor->joystick().text(), u"BTN S1 a");
     EXPECT_EQ(editor->joystick().state(), Document::Modified);
 }
 

@@ -55,6 +55,13 @@ TEST_F(CompileTest, AMissingCompilerIsToldWithItsPath)
     EXPECT_EQ(done, QStringList());
 }
 
+TEST_F(CompileTest, AFileThatAnotherProgramHasChangedIsNotCompiled)
+{
+    saver.leftOpen = true;
+    compile();
+    EXPECT_EQ(done, QStringList());
+}
+
 TEST_F(CompileTest, AChangedFileIsSavedWithoutAQuestion)
 {
     joystick.setState(Document::Modified);

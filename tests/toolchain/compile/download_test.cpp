@@ -53,6 +53,13 @@ TEST_F(DownloadTest, SelectsTheJoystickTabAndEndsWithAnEmptyText)
     EXPECT_EQ(documents.selected().kind(), DocumentKind::Joystick);
 }
 
+TEST_F(DownloadTest, AFileThatAnotherProgramHasChangedIsNotSent)
+{
+    saver.leftOpen = true;
+    download();
+    EXPECT_FALSE(done.contains(compilerStarts));
+}
+
 TEST_F(DownloadTest, AChangedFileIsSavedWithoutAQuestion)
 {
     joystick.setState(Document::Modified);
