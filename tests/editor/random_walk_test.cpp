@@ -30,7 +30,8 @@ const WalkAction &byChance(Walk &walk, const std::vector<WalkAction> &actions)
 std::vector<WalkAction> allActions()
 {
     std::vector<WalkAction> all;
-    for (const auto &some : { typingActions(), fileActions(), lookActions(), toolActions() }) {
+    for (const auto &some :
+         { typingActions(), fileActions(), lookActions(), toolActions(), findActions() }) {
         all.insert(all.end(), some.begin(), some.end());
     }
     return all;
