@@ -48,6 +48,16 @@ void KnownFiles::accept(const Document &document, const QByteArray &bytes)
     fileOf(document).bytes = bytes.isNull() ? std::nullopt : std::optional(bytes);
 }
 
+void KnownFiles::noteTold(const Document &document, const QByteArray &bytes)
+{
+    fileOf(document).told = bytes;
+}
+
+bool KnownFiles::wasTold(const Document &document, const QByteArray &bytes)
+{
+    return fileOf(document).told == bytes;
+}
+
 std::optional<QByteArray> KnownFiles::changeOf(const Document &document)
 {
     File &file = fileOf(document);

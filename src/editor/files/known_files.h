@@ -27,11 +27,15 @@ public:
     std::optional<QByteArray> changeOf(const Document &document);
     /// These bytes are no news any more; null: whatever the file holds.
     void accept(const Document &document, const QByteArray &bytes);
+    /// The user has been told of these bytes, which counts until the next load or save.
+    void noteTold(const Document &document, const QByteArray &bytes);
+    bool wasTold(const Document &document, const QByteArray &bytes);
 
 private:
     struct File {
         QString path;
         std::optional<QByteArray> bytes; ///< that may be overwritten; none: whatever it holds
+        std::optional<QByteArray> told;
         qint64 size = -1; ///< with the time: bytes were there then
         QDateTime time;
     };

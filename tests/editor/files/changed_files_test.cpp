@@ -170,6 +170,7 @@ TEST_F(ChangedFilesTest, NotNowAsksAgainAtTheSaveAndNotBefore)
     editor->saving().mnuFileSave_Click();
     EXPECT_EQ(onDisk(), "BTN S1 other");
     EXPECT_EQ(editor->joystick().state(), Document::Modified);
+    EXPECT_EQ(status.text(), u"a.tmj isn't saved");
     dialogs.answer(title, BoxButton::No);
     editor->saving().mnuFileSave_Click();
     EXPECT_EQ(onDisk(), "xBTN S1 a");
