@@ -30,7 +30,8 @@ const WalkAction &byChance(Walk &walk, const std::vector<WalkAction> &actions)
 std::vector<WalkAction> allActions()
 {
     std::vector<WalkAction> all;
-    for (const auto &some : { typingActions(), fileActions(), lookActions(), toolActions() }) {
+    for (const auto &some :
+         { typingActions(), fileActions(), lookActions(), toolActions(), findActions() }) {
         all.insert(all.end(), some.begin(), some.end());
     }
     return all;
@@ -69,6 +70,9 @@ TEST(RandomWalk, TextStateAndDiskAreWhatTheModelSays)
         ? qEnvironmentVariable("ZEPH_WALK_SEED").toUInt()
         : std::random_device()();
     Walk walk(seed);
+    if (seed % 2 == 0) {
+        walk.showEditor();
+    }
     const std::vector<WalkAction> actions = allActions();
     QByteArrayList done;
     for (int step = 0; step < repeats(2000, 20000); ++step) {

@@ -74,5 +74,6 @@ std::span<const WalkAction> typingActions();
 std::span<const WalkAction> fileActions();
 std::span<const WalkAction> lookActions();
 std::span<const WalkAction> toolActions();
+std::span<const WalkAction> findActions();
 
 } // namespace zeph::test

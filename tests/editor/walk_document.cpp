@@ -164,10 +164,10 @@ void WalkDocument::typeOver(QChar character)
     const QString gone = text().mid(from, selLength());
     WalkLook look = typingLook();
     const bool isOnlyLineEnd = character == u'\n' && gone.count(u'\n') == 1;
-    if (gone.startsWith(character) || isOnlyLineEnd) {
-        look = m_now.looks[size_t(from + gone.indexOf(character))];
-    } else if (gone.endsWith(character)) {
+    if (gone.endsWith(character)) {
         look = m_now.looks[size_t(from + gone.size() - 1)];
+    } else if (gone.startsWith(character) || isOnlyLineEnd) {
+        look = m_now.looks[size_t(from + gone.indexOf(character))];
     }
     m_now.replace(from, gone.size(), WalkText::of(QString(character), look));
     follow(from + 1, from + 1);

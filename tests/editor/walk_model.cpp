@@ -126,6 +126,7 @@ bool WalkModel::load(DocumentKind kind, const QString &path)
     if (copy.text == text) {
         WalkText coloured = copy;
         for (WalkLook &look : coloured.looks) {
+            // The copy does not say who gave a colour.
             look.isColourByHand = false;
         }
         file.document.become(coloured, 0);

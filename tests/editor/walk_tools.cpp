@@ -1,15 +1,12 @@
 // SPDX-FileCopyrightText: The Zeph authors
 // SPDX-License-Identifier: MIT
 
-#include "editor/edit/findandreplace.h"
 #include "editor/edit/insert_windows.h"
 #include "editor/macros/macro_features.h"
 #include "editor/macros/macrorenameform.h"
-#include "platform/core/text_search.h"
 #include "tests/editor/walk.h"
 #include "text/alignment.h"
 #include "text/insert_blocks.h"
-#include "text/search_rules.h"
 #include "text/text_lines.h"
 
 #include <QApplication>
@@ -18,7 +15,6 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
-#include <QRadioButton>
 #include <QTimer>
 
 namespace zeph::test {
@@ -184,71 +180,6 @@ void insertRem(Walk &walk)
     form->findChild<QPushButton *>(u"cmdOK"_s)->click();
 }
 
-void replaceWords(Walk &walk)
-{
-    const QString wanted[] = { u"S1"_s, u"Fire"_s, u"a"_s, u"rem"_s, u"zz"_s };
-    const QString replacements[] = { u"S1"_s, u"S2 "_s, QString(), u"aa"_s };
-    const QString word = wanted[walk.upTo(4)];
-    const QString by = replacements[walk.upTo(3)];
-    const int options = walk.upTo(3) * 2;
-    const DocumentKind kind = bothKinds[walk.upTo(1)];
-    WalkDocument &searched = walk.model.of(kind).document;
-    walk.trigger(u"mnuEditReplace");
-    auto *window = walk.editor->findChild<FindAndReplace *>();
-    const auto press = [window](const QString &name) {
-        window->findChild<QPushButton *>(name)->click();
-    };
-    window->findChild<QComboBox *>(u"ComboTextReplaceFind"_s)->setEditText(u""_s);
-    window->findChild<QComboBox *>(u"ComboTextReplaceFind"_s)->setEditText(word);
-    window->findChild<QComboBox *>(u"ComboTextReplaceWith"_s)->setEditText(by);
-    window->findChild<QCheckBox *>(u"WholeWordR"_s)->setChecked(options & 2);
-    window->findChild<QCheckBox *>(u"MatchCaseR"_s)->setChecked(options & 4);
-    const bool isJoystick = kind == DocumentKind::Joystick;
-    window->findChild<QRadioButton *>(isJoystick ? u"OptionJoystickR"_s : u"OptionMacroR"_s)
-        ->setChecked(true);
-    const SearchResult hit = search(searched.text(), { word, options, true, 0 });
-    const auto length = int(word.size());
-    if (hit.verdict != SearchVerdict::Hit) {
-        walk.answer(hit.verdict != SearchVerdict::NoText ? u"Text not found"_s
-                        : isJoystick                     ? u"No text in joystick file"_s
-                                                         : u"No text in macro file"_s,
-                    { BoxButton::Ok });
-        press(u"Command3"_s);
-    } else if (walk.oneIn(2)) {
-        press(u"Command3"_s);
-        walk.model.select(kind);
-        searched.put(int(hit.start), int(hit.start) + length);
-        const auto hits = hitsToReplace(searched.text(), word, by, options);
-        if (!hits.empty()) {
-            searched.begin();
-            searched.replaceAll(hits, length, by);
-            searched.commit();
-        }
-        walk.answer(u"Replaced 'em all for you. Now buy me a drink"_s, { BoxButton::Ok });
-        press(u"Command6"_s);
-    } else {
-        press(u"Command3"_s);
-        walk.model.select(kind);
-        const int start = int(hit.start);
-        const int end = start + int(by.size());
-        searched.put(start, start + length);
-        searched.begin();
-        searched.replaceAll({ start }, length, by);
-        searched.commit();
-        const SearchResult next = search(searched.text(), { word, options, false, end });
-        if (next.verdict == SearchVerdict::Hit) {
-            searched.put(int(next.start), int(next.start) + length);
-        } else if (searched.text().isEmpty()) {
-            walk.answer(isJoystick ? u"No text in joystick file"_s : u"No text in macro file"_s,
-                        { BoxButton::Ok });
-        } else {
-            walk.answer(u"You found 'em all!"_s, { BoxButton::Ok });
-        }
-        press(u"Command5"_s);
-    }
-    window->close();
-}
-
 void renameMacro(Walk &walk)
 {
     const QStringList names = walk.editor->macros().list().model().allNames();
@@ -302,42 +233,6 @@ void insertMacro(Walk &walk)
     list.List1_DblClick();
 }
 
-/// Finds a word, and with Enter in the text more of them, while the window is open.
-void find(Walk &walk)
-{
-    const QString word = walk.oneIn(2) ? u"S1"_s : u"a"_s;
-    walk.trigger(u"mnuEditFind");
-    auto *window = walk.editor->findChild<FindAndReplace *>();
-    window->findChild<QComboBox *>(u"ComboTextFind"_s)->setEditText(QString());
-    window->findChild<QComboBox *>(u"ComboTextFind"_s)->setEditText(word);
-    window->findChild<QCheckBox *>(u"WholeWordF"_s)->setChecked(false);
-    window->findChild<QCheckBox *>(u"MatchCaseF"_s)->setChecked(false);
-    WalkDocument &searched = walk.document();
-    const bool isJoystick = searched.kind() == DocumentKind::Joystick;
-    bool isFirst = true;
-    for (int count = walk.upTo(4); count >= 0; --count) {
-        const SearchResult hit =
-            search(searched.text(), { word, SearchPlain, isFirst, searched.caret() });
-        const bool isHit = hit.verdict == SearchVerdict::Hit;
-        if (isHit) {
-            searched.put(int(hit.start), int(hit.start + word.size()));
-        } else {
-            walk.answer(hit.verdict == SearchVerdict::NoFurther ? u"You found 'em all!"_s
-                            : searched.text().isEmpty() ? isJoystick ? u"No text in joystick file"_s
-                                                                     : u"No text in macro file"_s
-                                                        : u"Text not found"_s,
-                        { BoxButton::Ok });
-        }
-        if (isFirst || walk.oneIn(3)) {
-            window->findChild<QPushButton *>(u"Command1"_s)->click();
-        } else {
-            walk.sendKey(Qt::Key_Return, u"\r"_s);
-        }
-        isFirst = !isHit;
-    }
-    window->close();
-}
-
 constexpr WalkAction allTools[] = {
     { "comment out", 3, putRems },
     { "comment in", 3, takeRems },
@@ -347,8 +242,6 @@ constexpr WalkAction allTools[] = {
     { "insert a heading", 1, insertHeading },
     { "insert a title", 1, insertTitle },
     { "insert Rem", 2, insertRem },
-    { "find", 3, find },
-    { "replace", 4, replaceWords },
     { "rename a macro", 2, renameMacro },
 };
 
