@@ -26,6 +26,7 @@ HAT_PARTS = [f"H{hat}{way}" for hat in range(1, 5) for way in "U UR R DR D DL L 
 # The places of each drawing: all of these, and no others.
 NEEDED = {
     "F-16 Block 50": HANDLE_SPOTS + HAT_PARTS + "TG1 TG2 JOYX JOYY".split(),
+    "Straight grip": [s for s in HANDLE_SPOTS if s != "BTN_3"] + HAT_PARTS + "TG1 JOYX JOYY".split(),
     "Throttle": [f"BTN_{n}" for n in range(4, 14)] + "DOG_U DOG_M DOG_D MIX MIY RNG ANT THR".split(),
     "Rudders": "LBRK RBRK RDDR".split(),
 }
