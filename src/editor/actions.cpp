@@ -179,7 +179,7 @@ constexpr std::array actions = {
     ActionRow{u"mnuDownload", u"mnuResetAxes", u"&Reset axes when downloading", u"", u"", u"", Always, Tick},
     ActionRow{u"mnuDownload", u"mnuApplyDefaultTMC", u"&Apply Default.tmc now", u"", u"", u"", Custom, Entry},
     ActionRow{u"mnuDownload", u"mnuResetOptions", u"Reset &options", u"", u"", u"", Always, Entry},
-    ActionRow{u"mnuDownload", u"mnuDownloadProfile", u"Download a profile (*.tmc)", u"", u"", u"", Always, Entry},
+    ActionRow{u"mnuDownload", u"mnuDownloadProfile", u"Download a profile (*.tmc) ...", u"", u"", u"", Always, Entry},
 
     ActionRow{u"mnuCougar", u"mnuButtonsMode", u"&Buttons", u"", u"", u"", Always, Submenu},
     // EditorKeys handles this key; the caption only mentions it.

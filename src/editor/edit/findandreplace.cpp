@@ -347,7 +347,12 @@ void FindAndReplace::showHit(Page &page, Document &document, int start, int leng
         enableReplacing(true);
     }
     m_parts.view.documents().select(document.kind());
+    const bool isSeen = m_parts.view.shows(document.kind(), start);
     document.select(start, length);
+    if (!isSeen) {
+        // At the edge of the view nothing would be seen of what surrounds the hit.
+        m_parts.view.centreCaret(document.kind());
+    }
     m_hit = { &page, document.kind(), start, length };
     page.hits->setText(hitCount(allHits(document.text(), LastFindText, SearchOptions), start));
     m_context.status.setLine(document.caretLine());
