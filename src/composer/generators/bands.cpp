@@ -65,6 +65,13 @@ void Bands::reset()
     m_macros.clear();
 }
 
+// The list's own comparison passes null pointers to memcmp where there are no borders.
+bool Bands::operator==(const Bands &other) const
+{
+    return m_type == other.m_type && m_macros == other.m_macros
+        && std::ranges::equal(m_borders, other.m_borders);
+}
+
 void Bands::setCount(int count)
 {
     m_borders.clear();

@@ -74,7 +74,7 @@ public:
     /// Whether the line is one of the two around the middle band of type 6.
     bool isMiddleDivider(int divider) const;
 
-    bool operator==(const Bands &) const = default;
+    bool operator==(const Bands &other) const;
 
 private:
     void setCount(int count);
