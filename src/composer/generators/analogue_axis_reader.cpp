@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "composer/generators/analogue_axis.h"
-#include "composer/generators/statement_parts.h"
+#include "composer/generators/parted_statement.h"
 
 namespace zeph {
 
@@ -11,29 +11,29 @@ using namespace language;
 namespace {
 
 // The body of a button or axis is read call by call, without the button's or axis's name.
-bool isReadAsWhole(const StatementParts &parts)
+bool isReadAsWhole(const PartedStatement &parts)
 {
     using enum StatementKind;
     constexpr std::array kinds{ Unknown, Use, Curve, Disable, ThrottleRange };
     return std::ranges::find(kinds, parts.kind()) != kinds.end();
 }
 
-std::optional<StatementParts> partsOf(QStringView statement)
+std::optional<PartedStatement> partsOf(QStringView statement)
 {
-    auto parts = StatementParts::of(statement);
+    auto parts = PartedStatement::of(statement);
     return parts && isReadAsWhole(*parts) ? parts : std::nullopt;
 }
 
 // The arguments of this word if the statement is the word with brackets and nothing else, or USE
 // and that.
-std::optional<Arguments> onlyCall(const StatementParts &parts, QStringView word, int arguments)
+std::optional<Arguments> onlyCall(const PartedStatement &parts, QStringView word, int arguments)
 {
     const std::optional<Arguments> found =
         parts.size() == 1 ? parts.callArguments(0, word) : std::nullopt;
     return found && found->size() == arguments ? found : std::nullopt;
 }
 
-bool isUse(const StatementParts &parts)
+bool isUse(const PartedStatement &parts)
 {
     return parts.kind() == StatementKind::Use;
 }
@@ -55,7 +55,7 @@ bool readCurveArguments(const std::optional<Arguments> &arguments, CurveFields &
 }
 
 // "CURVE /I (THR, 4)" and its second half "/O (THR, 0)".
-bool readCurveStatement(const StatementParts &parts, CurveFields &fields)
+bool readCurveStatement(const PartedStatement &parts, CurveFields &fields)
 {
     fields.beginsWithCurve = parts.isWord(0, u"CURVE"_w);
     const int slash = fields.beginsWithCurve ? 1 : 0;
@@ -66,7 +66,7 @@ bool readCurveStatement(const StatementParts &parts, CurveFields &fields)
 }
 
 // "CURVE (RNG, 2)" with or without /P, /R or /T.
-bool readCurveOfButton(const StatementParts &parts, CurveFields &fields)
+bool readCurveOfButton(const PartedStatement &parts, CurveFields &fields)
 {
     const bool hasEvent = parts.slash(0) >= 0;
     fields.event = hasEvent ? indexIn(curveEvents, parts.text(0)) : int(curveEvents.size()) - 1;

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "composer/generators/axes_config.h"
-#include "composer/generators/statement_parts.h"
+#include "composer/generators/parted_statement.h"
 
 #include "language/scan.h"
 
@@ -119,7 +119,7 @@ Generated generateAxesConfig(const AxesConfig &grid)
 
 std::optional<AxesConfig> readAxesConfig(QStringView statement)
 {
-    const auto parts = StatementParts::of(statement);
+    const auto parts = PartedStatement::of(statement);
     if (!parts || parts->useHead() != u"AXES_CONFIG"_w)
         return {};
     AxesConfig grid;

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "composer/generators/digital_axis.h"
-#include "composer/generators/statement_parts.h"
+#include "composer/generators/parted_statement.h"
 
 #include "language/scan.h"
 
@@ -14,7 +14,7 @@ namespace {
 
 // A range of parts.
 struct Parts {
-    const StatementParts &all;
+    const PartedStatement &all;
     int at = 0;
     int end = 0;
 
@@ -66,7 +66,7 @@ bool readCount(Parts &parts, DigitalAxisFields &fields)
 
 // Whether the next part belongs to the same key: it follows a modifier, or no blank is between
 // them, as in "[Fire]".
-bool goesOn(const StatementParts &parts, int part)
+bool goesOn(const PartedStatement &parts, int part)
 {
     const Item &item = parts[part];
     return item.kind == ItemKind::ModifierKey || item.kind == ItemKind::Slash
@@ -198,7 +198,7 @@ bool readSequence(const Parts &parts, DigitalAxisFields &fields)
 
 std::optional<DigitalAxisFields> readDigitalAxis(QStringView statement)
 {
-    const std::optional<StatementParts> all = StatementParts::of(statement);
+    const std::optional<PartedStatement> all = PartedStatement::of(statement);
     if (!all || statementHalves(statement).size() != 1)
         return {};
     Parts parts{ *all, 0, all->size() };

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "composer/generators/digital_axis.h"
-#include "composer/generators/statement_parts.h"
+#include "composer/generators/parted_statement.h"
 
 #include "language/checker.h"
 

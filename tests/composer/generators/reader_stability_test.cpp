@@ -7,7 +7,7 @@
 #include "composer/generators/analogue_axis.h"
 #include "composer/generators/axes_config.h"
 #include "composer/generators/digital_axis.h"
-#include "composer/generators/statement_parts.h"
+#include "composer/generators/parted_statement.h"
 
 #include <gtest/gtest.h>
 

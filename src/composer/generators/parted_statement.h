@@ -14,12 +14,12 @@ namespace zeph {
 
 /// One statement and its parts, which are the items of its body outside all brackets. Comments are
 /// left out and its lines joined. Part indices are 0-based.
-class StatementParts
+class PartedStatement
 {
 public:
     /// No value unless the text is one statement, or a part of one without its keyword, with all
     /// brackets closed.
-    static std::optional<StatementParts> of(QStringView statement);
+    static std::optional<PartedStatement> of(QStringView statement);
 
     language::StatementKind kind() const { return statement().kind; }
     /// The word at the statement's start; empty for a part of a statement.
@@ -42,7 +42,7 @@ public:
     int slash(int part) const;
 
 private:
-    explicit StatementParts(const QString &text);
+    explicit PartedStatement(const QString &text);
     const language::JoystickStatement &statement() const
     {
         return m_pair->joystick.statements.first();
@@ -65,7 +65,7 @@ std::optional<QString> spelledAs(language::Words list, QStringView text);
 QList<language::Place> statementHalves(QStringView statement);
 
 /// The word with brackets around a 0-based position of the text, the innermost one; for CURVE with
-/// the /P, /R or /T directly before it. Text ends count as inside. No value without one.
+/// the /P, /R or /T directly before it. Both its ends count as inside. No value without one.
 std::optional<language::Place> callAt(QStringView statement, qsizetype position);
 
 } // namespace zeph

@@ -1,14 +1,14 @@
 // SPDX-FileCopyrightText: The Zeph authors
 // SPDX-License-Identifier: MIT
 
-#include "composer/generators/statement_parts.h"
+#include "composer/generators/parted_statement.h"
 
 #include <gtest/gtest.h>
 
 using namespace zeph;
 
 // The names in it are too general to be shared with other tests.
-namespace statement_parts_test {
+namespace parted_statement_test {
 
 namespace {
 
@@ -28,9 +28,9 @@ QString callIn(const QString &text, qsizetype position)
 
 } // namespace
 
-TEST(StatementParts, PartsAreWhatIsOutsideAllBrackets)
+TEST(PartedStatement, PartsAreWhatIsOutsideAllBrackets)
 {
-    const auto parts = StatementParts::of(u"THR 5 2 (0 50 100) KD (a) b");
+    const auto parts = PartedStatement::of(u"THR 5 2 (0 50 100) KD (a) b");
     ASSERT_TRUE(parts);
     EXPECT_EQ(parts->kind(), language::StatementKind::Axis);
     EXPECT_EQ(parts->keyword(), u"THR");
@@ -46,30 +46,30 @@ TEST(StatementParts, PartsAreWhatIsOutsideAllBrackets)
     EXPECT_FALSE(parts->groupArguments(3));
 }
 
-TEST(StatementParts, CommentsAndLineEndsAreLeftOut)
+TEST(PartedStatement, CommentsAndLineEndsAreLeftOut)
 {
-    const auto parts = StatementParts::of(u"THR 2 Rem one\n\n   a Rem two\n b");
+    const auto parts = PartedStatement::of(u"THR 2 Rem one\n\n   a Rem two\n b");
     ASSERT_TRUE(parts);
     EXPECT_EQ(parts->text(0, parts->size()), u"2 a b");
 }
 
-TEST(StatementParts, TwoStatementsOrAnOpenBracketAreNone)
+TEST(PartedStatement, TwoStatementsOrAnOpenBracketAreNone)
 {
-    EXPECT_FALSE(StatementParts::of(u"BTN S1 a\nBTN S2 b"));
-    EXPECT_FALSE(StatementParts::of(u"THR 3 a b\nCURVE c"));
-    EXPECT_FALSE(StatementParts::of(u"BTN S1 KD (a"));
-    EXPECT_FALSE(StatementParts::of(u"BTN S1 KD a)"));
-    EXPECT_FALSE(StatementParts::of(u"  "));
-    EXPECT_FALSE(StatementParts::of(u"Rem a"));
+    EXPECT_FALSE(PartedStatement::of(u"BTN S1 a\nBTN S2 b"));
+    EXPECT_FALSE(PartedStatement::of(u"THR 3 a b\nCURVE c"));
+    EXPECT_FALSE(PartedStatement::of(u"BTN S1 KD (a"));
+    EXPECT_FALSE(PartedStatement::of(u"BTN S1 KD a)"));
+    EXPECT_FALSE(PartedStatement::of(u"  "));
+    EXPECT_FALSE(PartedStatement::of(u"Rem a"));
 }
 
-TEST(StatementParts, AUseStatementTellsItsHead)
+TEST(PartedStatement, AUseStatementTellsItsHead)
 {
-    EXPECT_EQ(StatementParts::of(u"use axes_config (1, JOYX)")->useHead(), u"AXES_CONFIG");
-    EXPECT_TRUE(StatementParts::of(u"BTN S1 a")->useHead().isEmpty());
+    EXPECT_EQ(PartedStatement::of(u"use axes_config (1, JOYX)")->useHead(), u"AXES_CONFIG");
+    EXPECT_TRUE(PartedStatement::of(u"BTN S1 a")->useHead().isEmpty());
 }
 
-TEST(StatementParts, AnAxisWithAChoiceOfDefinitionsHasHalves)
+TEST(PartedStatement, AnAxisWithAChoiceOfDefinitionsHasHalves)
 {
     EXPECT_EQ(halvesOf(u"THR 3 a ^ b"_s), QStringList{ u"THR 3 a ^ b"_s });
     EXPECT_EQ(halvesOf(u"THR /U 3 a ^ b\n /M 3 b ^ a\n /D 3 c ^ d"_s),
@@ -82,7 +82,7 @@ TEST(StatementParts, AnAxisWithAChoiceOfDefinitionsHasHalves)
     EXPECT_TRUE(halvesOf({}).isEmpty());
 }
 
-TEST(StatementParts, TheCallAtAPositionIsTheInnermostOne)
+TEST(PartedStatement, TheCallAtAPositionIsTheInnermostOne)
 {
     const QString text = u"BTN S1 /P CURVE (THR, 4) /R TRIM (JOYY, 2+) a KD (b)"_s;
     EXPECT_EQ(callIn(text, text.indexOf(u"THR")), u"/P CURVE (THR, 4)"_s);
@@ -93,4 +93,4 @@ TEST(StatementParts, TheCallAtAPositionIsTheInnermostOne)
     EXPECT_EQ(callIn(u"BTN S1 /I CURVE (THR, 4)"_s, 15), u"CURVE (THR, 4)"_s);
 }
 
-} // namespace statement_parts_test
+} // namespace parted_statement_test

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Zeph authors
 // SPDX-License-Identifier: MIT
 
-#include "composer/generators/statement_parts.h"
+#include "composer/generators/parted_statement.h"
 
 #include "language/scan.h"
 #include "language/use_forms.h"
@@ -56,32 +56,32 @@ bool beginsDefinition(const Source &source, const QList<int> &parts, qsizetype s
 
 } // namespace
 
-StatementParts::StatementParts(const QString &text)
+PartedStatement::PartedStatement(const QString &text)
     : m_pair(std::make_shared<const FilePair>(parsePair(text, {})))
 {
     if (!m_pair->joystick.statements.isEmpty())
         m_parts = topLevel(m_pair->joystick, statement().body.items);
 }
 
-std::optional<StatementParts> StatementParts::of(QStringView statement)
+std::optional<PartedStatement> PartedStatement::of(QStringView statement)
 {
     // On a line of its own a word may begin a statement that it does not begin in another's line.
     if (parsePair(statement.toString(), {}).joystick.statements.size() != 1)
         return {};
-    StatementParts parts(withoutComments(statement));
+    PartedStatement parts(withoutComments(statement));
     const JoystickFile &file = parts.m_pair->joystick;
     if (file.statements.size() != 1 || !file.strayBrackets.isEmpty())
         return {};
     return parts;
 }
 
-QStringView StatementParts::useHead() const
+QStringView PartedStatement::useHead() const
 {
     const int form = statement().useForm;
     return form < 0 ? QStringView() : useForms()[size_t(form)].head;
 }
 
-QStringView StatementParts::text(int from, int to) const
+QStringView PartedStatement::text(int from, int to) const
 {
     if (from >= to)
         return {};
@@ -93,12 +93,12 @@ QStringView StatementParts::text(int from, int to) const
     return text.first(trimmedEnd(text));
 }
 
-bool StatementParts::isWord(int part, QStringView word) const
+bool PartedStatement::isWord(int part, QStringView word) const
 {
     return part < size() && sameWord(text(part), word);
 }
 
-std::optional<Arguments> StatementParts::groupArguments(int part) const
+std::optional<Arguments> PartedStatement::groupArguments(int part) const
 {
     if (part >= size() || (*this)[part].kind != ItemKind::Group || !(*this)[part].closed
         || !text(part).startsWith(u'('))
@@ -106,7 +106,7 @@ std::optional<Arguments> StatementParts::groupArguments(int part) const
     return argumentsOf(m_pair->joystick, (*this)[part]);
 }
 
-std::optional<Arguments> StatementParts::callArguments(int part, QStringView word) const
+std::optional<Arguments> PartedStatement::callArguments(int part, QStringView word) const
 {
     if (part >= size() || (*this)[part].kind != ItemKind::Call || !(*this)[part].closed
         || words[size_t((*this)[part].reference)].text != word)
@@ -114,7 +114,7 @@ std::optional<Arguments> StatementParts::callArguments(int part, QStringView wor
     return argumentsOf(m_pair->joystick, (*this)[part]);
 }
 
-int StatementParts::slash(int part) const
+int PartedStatement::slash(int part) const
 {
     const bool isSlash = part < size() && (*this)[part].kind == ItemKind::Slash;
     return isSlash ? (*this)[part].reference : -1;
