@@ -10,6 +10,8 @@ namespace zeph {
 
 namespace {
 
+using enum MouseCommand;
+
 Refusal tooFast(int scale, int increment, qint64 product)
 {
     return { u"Invalid values"_s,
@@ -43,7 +45,7 @@ struct MouseCommandRow {
     QStringView text;
 };
 
-constexpr MouseCommandRow mouseCommands[] = {
+constexpr MouseCommandRow mouseCommands[mouseCommandCount] = {
     { u"MOUSE_LB"_w, u"MOUSE_LB"_w },
     { u"MOUSE_MB"_w, u"MOUSE_MB"_w },
     { u"MOUSE_RB"_w, u"MOUSE_RB"_w },
@@ -180,8 +182,8 @@ Generated mouseCommand(MouseCommand command, const MouseCommandFields &fields)
 {
     if (command == MoveX || command == MoveY)
         return mouseMove(captionOf(command), fields.value);
-    const bool isWhole = command == MouseButtonStatement || command == ZeroMouse;
-    const QString text = command == MouseButtonStatement
+    const bool isWhole = command == ButtonStatement || command == ZeroMouse;
+    const QString text = command == ButtonStatement
         ? buttonStatement(fields.statement)
         : mouseCommands[size_t(command)].text.toString() + u' ';
     return plainStatement(text, isWhole);
@@ -199,9 +201,9 @@ std::optional<ReadMouseCommand> readMouseCommand(QStringView text)
     }
     for (const int statement : { 0, 1 }) {
         if (areWords(parts, buttonStatement(statement).simplified()))
-            return ReadMouseCommand{ MouseButtonStatement, { statement } };
+            return ReadMouseCommand{ ButtonStatement, { statement } };
     }
-    for (int command = 0; command <= LastMouseCommand; ++command) {
+    for (int command = 0; command < mouseCommandCount; ++command) {
         const QStringView words = mouseCommands[size_t(command)].text;
         if (!words.isEmpty() && areWords(parts, words))
             return ReadMouseCommand{ MouseCommand(command), {} };

@@ -69,17 +69,17 @@ Generated axisAsMouse(const AxisAsMouseFields &fields);
 std::optional<AxisAsMouseFields> readAxisAsMouse(QStringView statement);
 
 /// The buttons of the control array CMD_MouseButton, by index.
-enum MouseCommand {
-    MouseLeft,
-    MouseMiddle,
-    MouseRight,
+enum class MouseCommand : quint8 {
+    LeftButton,
+    MiddleButton,
+    RightButton,
     DisableMouse,
-    MouseButtonStatement,
+    ButtonStatement,
     MoveX,
     MoveY,
     ZeroMouse,
-    LastMouseCommand = ZeroMouse,
 };
+constexpr int mouseCommandCount = int(MouseCommand::ZeroMouse) + 1;
 
 /// The caption of a button.
 QStringView captionOf(MouseCommand command);
@@ -87,7 +87,8 @@ QStringView captionOf(MouseCommand command);
 /// statement, which is followed by the line end of the tick, is one whose Statement starts a line.
 constexpr bool goesToJoystick(MouseCommand command)
 {
-    return command == DisableMouse || command == MouseButtonStatement || command == ZeroMouse;
+    using enum MouseCommand;
+    return command == DisableMouse || command == ButtonStatement || command == ZeroMouse;
 }
 
 struct MouseCommandFields {
