@@ -47,7 +47,9 @@ QString findMacroFile(const QString &joystickPath, const QString &name)
         if (fileExists(path))
             return existingPath(path);
     }
-    return {};
+    // A folder of that name is told as a macro file that cannot be read.
+    const QString named = isExtended ? plain : extended;
+    return folderExists(named) ? existingPath(named) : QString();
 }
 
 Expected<Sources, FileError> readSources(const QString &joystickPath, bool sameName)

@@ -15,7 +15,8 @@ namespace zeph::standin {
 Expected<QString, FileError> readSource(const QString &path);
 
 /// The path of the macro file in the joystick file's folder. The name may be in another case and
-/// without its extension. Empty when there is no such file.
+/// without its extension. Without such a file the folder of that name and extension; empty when
+/// there is neither.
 QString findMacroFile(const QString &joystickPath, const QString &name);
 
 /// The two files that are compiled together.

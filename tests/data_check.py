@@ -34,6 +34,21 @@ TG1 TG2 T1 T10 H1U H4DR HAT1 HAT4 RADIOSWITCH logic X1""".split()
 # What the windows ask the help for.
 WINDOW_WORDS = ["find", "macro list"]
 
+# What pages must tell of the language, blanks and line ends apart: units, what is not known, and what is checked.
+HELP_PHRASES = {
+    "bodies.html": ["The number is milliseconds", "and it stays until another one comes",
+                    "nor whether it reaches repeats that are already running", "brackets( ) < > { } with a blank on both sides",
+                    "SHF 9, SHF 0, SHF ,, SHF ., SHF [, SHF ]", "signs with Shift~ ! @ # $ % & * _ + | : \" ?",
+                    "Brackets as keys", "only SHF 6: alone it means nothing at all"],
+    "logical-flags.html": ["PULSE(value value)", "Which of the two is the time on is not known to us",
+                           "DELAY(value)", "the number probably counts milliseconds"],
+    "mouse.html": ["MSZ(value) is the same for the wheel", "In which steps it turns depends on the game",
+                   "unless all their places are given in percent"],
+    "thrustmaster-tools.html": ["What the stand-in compiler checks", "CheckedNot checked",
+                                "What it does not know, it lets pass"],
+    "use-statements.html": ["2is an icon, with the focus", "3is maximised, with the focus"],
+}
+
 faults = []
 
 
@@ -84,6 +99,15 @@ def check_pages(folder, trees):
                 if ":" in target:
                     fault(where, f"links outside: {target}")
                 check_target(where, (name + target) if target.startswith("#") else target, trees, folder)
+
+
+def check_phrases(folder, trees):
+    for name, phrases in HELP_PHRASES.items():
+        tree = trees.get(name)
+        text = " ".join("".join(tree.itertext()).split()) if tree is not None else ""
+        for phrase in phrases:
+            if phrase not in text:
+                fault(folder / name, f"does not say: {phrase}")
 
 
 def check_topics(folder, trees):
@@ -261,6 +285,7 @@ def main():
     help_folder = data / "Help"
     trees = pages(help_folder)
     check_pages(help_folder, trees)
+    check_phrases(help_folder, trees)
     check_topics(help_folder, trees)
     check_index(help_folder, trees)
     check_text(data / "Tips.txt", 250)

@@ -4,8 +4,8 @@
 # Sourced by run and check: installs Debian packages that are missing, and says which.
 
 packages_to_build="build-essential cmake ninja-build ccache git qt6-base-dev libqt6svg6-dev libqt6svg6 \
-libexpected-dev libsdl2-dev libsdl2-2.0-0 libarchive-dev libgl-dev fonts-dejavu-core"
-packages_to_test="libgtest-dev libgmock-dev libbenchmark-dev clang-format-16 python3-minimal unrtf poppler-utils \
+libexpected-dev libsdl2-dev libsdl2-2.0-0 libarchive-dev libgl-dev fonts-dejavu-core python3 librsvg2-bin"
+packages_to_test="libgtest-dev libgmock-dev libbenchmark-dev clang-format-16 unrtf poppler-utils \
 desktop-file-utils appstream shared-mime-info libxml2-utils zip unzip p7zip-full"
 
 # install_packages NAME...: quiet when all are there.

@@ -12,24 +12,27 @@ namespace {
 
 /// The look in whose font and weight most characters of a text are: that of plain text in a copy
 /// that does not say it.
-CharFormat mostUsedLook(const RichText &text)
+CharFormat mostUsedLook(const LookRuns &text)
 {
-    QHash<CharFormat, qsizetype> counts;
-    CharFormat most;
-    for (const CharRun &run : text.characters) {
-        CharFormat font = run.format;
+    LookNumbers fonts;
+    std::vector<quint32> fontOf; // of each look
+    for (CharFormat font : text.looks) {
         font.italic = font.underline = false;
         font.colour.reset();
-        counts[font] += run.length;
-        most = counts[font] > counts.value(most) ? font : most;
+        fontOf.push_back(fonts.numberOf(font));
     }
-    return most;
+    std::vector<qsizetype> counts(text.looks.size());
+    for (const LookRun &run : text.runs) {
+        counts[fontOf[run.format]] += run.length;
+    }
+    const auto most = std::ranges::max_element(counts);
+    return counts.empty() ? CharFormat() : fonts.look(quint32(most - counts.begin()));
 }
 
 } // namespace
 
-std::optional<RichText> ColouredCopies::load(const QString &name, const QString &plainText,
-                                             const CharFormat &font) const
+std::optional<NumberedRichText> ColouredCopies::load(const QString &name, const QString &plainText,
+                                                     const CharFormat &font) const
 {
     const QString path = existingPath(pathOf(name));
     if (path.isEmpty()) {
@@ -43,17 +46,16 @@ std::optional<RichText> ColouredCopies::load(const QString &name, const QString 
     if (!copy || copy->text.text != plainText) {
         return std::nullopt;
     }
-    const CharFormat plain = copy->plain.value_or(mostUsedLook(copy->text));
-    for (CharRun &run : copy->text.characters) {
-        if (run.format.family == plain.family && run.format.pointSize == plain.pointSize) {
-            run.format.family = font.family;
-            run.format.pointSize = font.pointSize;
+    const CharFormat plain = copy->plain ? *copy->plain : mostUsedLook(copy->text.characters);
+    for (CharFormat &look : copy->text.characters.looks) {
+        if (look.family == plain.family && look.pointSize == plain.pointSize) {
+            look.family = font.family;
+            look.pointSize = font.pointSize;
         }
-        if (run.format.bold == plain.bold) {
-            run.format.bold = font.bold;
+        if (look.bold == plain.bold) {
+            look.bold = font.bold;
         }
     }
-    copy->text.normalise();
     return std::move(copy->text);
 }
 

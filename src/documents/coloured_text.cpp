@@ -72,7 +72,7 @@ void ColouredText::setText(const QString &text)
     setRichText(RichText::plain(text, m_plain, documentParagraph));
 }
 
-void ColouredText::setRichText(const RichText &text)
+void ColouredText::setRichText(const NumberedRichText &text)
 {
     const CaretPlace before(m_cursor);
     m_states.setText(text);

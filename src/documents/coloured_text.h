@@ -55,7 +55,7 @@ public:
     /// Number of characters.
     int length() const;
     void setText(const QString &text);
-    void setRichText(const RichText &text);
+    void setRichText(const NumberedRichText &text);
     /// Replaces a stretch; the new text looks as if it were typed at its end. Caret and selection
     /// move along.
     void replace(int start, int length, const QString &text);

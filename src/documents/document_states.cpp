@@ -113,29 +113,32 @@ DocumentStates::DocumentStates(QTextDocument &document, int linesPerChunk)
     m_revision = m_document.revision();
 }
 
-TextEdit DocumentStates::editOf(qsizetype from, qsizetype length, const RichText &text)
+/// The runs are cut to the text's length, or lengthened by characters in the control's own look.
+TextEdit DocumentStates::editOf(qsizetype from, qsizetype length, const NumberedRichText &text)
 {
-    TextEdit edit{ from, length, insertableText(text.text), {} };
+    TextEdit edit{ from, length, insertableText(text.text), m_looks.runsOf(text.characters) };
     qsizetype left = edit.text.size();
-    for (const CharRun &run : text.characters) {
-        const qsizetype part = std::clamp(run.length, qsizetype(0), left);
-        addRun(edit.runs, { quint32(part), m_looks.numberOf(run.format) });
-        left -= part;
+    auto run = edit.runs.begin();
+    for (; run != edit.runs.end() && left > 0; ++run) {
+        run->length = quint32(std::min(qsizetype(run->length), left));
+        left -= run->length;
     }
+    edit.runs.erase(run, edit.runs.end());
     addRun(edit.runs, { quint32(left), m_looks.numberOf({}) });
     return edit;
 }
 
-void DocumentStates::setText(const RichText &text)
+void DocumentStates::setText(const NumberedRichText &text)
 {
     const TextEdit whole = editOf(0, m_size, text);
-    const bool isUniform = text.paragraphs.size() == 1 && !text.paragraphs.front().format.bullet;
+    const std::vector<ParagraphRun> &paragraphs = text.paragraphs;
+    const bool isUniform = paragraphs.size() == 1 && !paragraphs.front().format.bullet;
     const QScopedValueRollback writing(m_isWriting, true);
     QTextCursor change(&m_document);
     change.beginEditBlock();
-    setPlainText(m_document, whole.text, text.paragraphs);
+    setPlainText(m_document, whole.text, paragraphs);
     setChunks(edited(*m_known.m_chunks, { whole }, m_linesPerChunk,
-                     isUniform ? ParagraphSource(text.paragraphs.front().format)
+                     isUniform ? ParagraphSource(paragraphs.front().format)
                                : ParagraphSource(m_document)));
     change.endEditBlock();
 }
@@ -227,27 +230,12 @@ void DocumentStates::restore(const DocumentState &state)
 void DocumentStates::setLooks(const LookRuns &looks, qsizetype from)
 {
     catchUp();
-    std::vector<quint32> numbers;
-    for (const CharFormat &look : looks.looks) {
-        numbers.push_back(m_looks.numberOf(look));
-    }
-    TextChunk::Runs runs;
-    runs.reserve(looks.runs.size());
-    for (const LookRun &run : looks.runs) {
-        addRun(runs, { run.length, numbers[run.format] });
-    }
-    layRuns(runs, from);
+    layRuns(m_looks.runsOf(looks), from);
 }
 
 void DocumentStates::setCharacterRuns(const std::vector<CharRun> &looks, qsizetype from)
 {
-    catchUp();
-    TextChunk::Runs runs;
-    runs.reserve(looks.size());
-    for (const CharRun &run : looks) {
-        addRun(runs, { quint32(std::max(run.length, qsizetype(0))), m_looks.numberOf(run.format) });
-    }
-    layRuns(runs, from);
+    setLooks(LookRuns(looks), from);
 }
 
 void DocumentStates::changeLooks(qsizetype from, qsizetype length,

@@ -78,7 +78,7 @@ public:
 
     /// Replaces the whole text; characters that the toolkit's document cannot hold become
     /// replacement characters.
-    void setText(const RichText &text);
+    void setText(const NumberedRichText &text);
     /// For whom a text is changed. changedByUser() tells what the user does.
     enum class By { Program, User };
     /// Replaces a stretch. New lines take the format of the paragraph that they are put into, not
@@ -134,7 +134,7 @@ private:
     quint32 lookOfTyped(const TextEdit &edit);
     quint32 lookAround(qsizetype position);
     void apply(const std::vector<TextEdit> &edits);
-    TextEdit editOf(qsizetype from, qsizetype length, const RichText &text);
+    TextEdit editOf(qsizetype from, qsizetype length, const NumberedRichText &text);
     void layRuns(const TextChunk::Runs &runs, qsizetype from);
     void setChunks(TextChunks chunks);
     RichText join(const TextChunks &chunks, size_t first, size_t end) const;

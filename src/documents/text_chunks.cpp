@@ -23,6 +23,20 @@ quint32 LookTable::numberOf(const CharFormat &look, bool isColourByHand)
     return number.value();
 }
 
+TextChunk::Runs LookTable::runsOf(const LookRuns &looks)
+{
+    std::vector<quint32> numbers;
+    for (const CharFormat &look : looks.looks) {
+        numbers.push_back(numberOf(look));
+    }
+    TextChunk::Runs runs;
+    runs.reserve(looks.runs.size());
+    for (const LookRun &run : looks.runs) {
+        addRun(runs, { run.length, numbers[run.format] });
+    }
+    return runs;
+}
+
 LookTable::Key LookTable::keyOf(const CharFormat &look, bool isColourByHand) const
 {
     Key key{ look, false, look.bold == m_plain.bold, isColourByHand && look.colour };

@@ -63,6 +63,8 @@ public:
     /// The number of a look as the screen shows it: a colour loses what no screen shows. One and
     /// the same colour has two numbers, since only a colour that the user gave is worth saving.
     quint32 numberOf(const CharFormat &look, bool isColourByHand = false);
+    /// The same for runs; neighbours in one look become one.
+    TextChunk::Runs runsOf(const LookRuns &looks);
     const CharFormat &look(quint32 number) const { return m_looks[number].shown; }
     bool isColourByHand(quint32 number) const { return m_looks[number].key.isColourByHand; }
     /// Says what of a look the user gave: two looks that differ in nothing else have the same

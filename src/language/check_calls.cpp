@@ -145,6 +145,12 @@ bool hasStrayClosing(const Source &source, qsizetype from, qsizetype to)
     return first != source.strayBrackets.end() && !first->opening && first->place.position < to;
 }
 
+bool isFlag(QStringView word)
+{
+    const std::optional<int> number = flagNumber(word);
+    return number && *number >= 1 && *number <= lastFlag;
+}
+
 void checkCurve(Reporter &reporter, const Arguments &arguments)
 {
     checkAxis(reporter, arguments[0]);
@@ -164,8 +170,8 @@ void checkDisables(Reporter &reporter)
     for (int index = 0; index + 1 < source.items.size(); ++index) {
         const Item &item = source.items[index];
         const Item &next = source.items[index + 1];
-        if (item.kind != ItemKind::Word || next.kind != ItemKind::Word
-            || !sameWord(source.at(item), u"DISABLE"_w))
+        const bool isName = next.kind == ItemKind::Word || next.kind == ItemKind::Flag;
+        if (item.kind != ItemKind::Word || !isName || !sameWord(source.at(item), u"DISABLE"_w))
             continue;
         // The next item may belong to another statement.
         const qsizetype from = item.place.end();
@@ -173,8 +179,8 @@ void checkDisables(Reporter &reporter)
             continue;
         const QStringView name = source.at(next);
         const Word &row = rowOf(name);
-        const bool isPart =
-            row.is(AxisRole) || row.is(AxisGroupRole) || row.is(ControlRole) || row.is(HatRole);
+        const bool isPart = row.is(AxisRole) || row.is(AxisGroupRole) || row.is(ControlRole)
+            || row.is(HatRole) || isFlag(name);
         if (isPart && !row.is(DisableableRole))
             reporter.report(NotDisableable, next.place, u"%1 cannot be disabled"_s.arg(name));
     }

@@ -83,16 +83,23 @@ void checkBorders(Reporter &reporter, const Item &group, int count)
             u"%1 bands need %2 borders, and there are %3"_s.arg(count).arg(count + 1).arg(borders));
 }
 
+// Without an opening bracket a comma between borders is read as a key.
+bool mayBeBorder(const Source &source, const Item &item)
+{
+    const QStringView text = source.at(item);
+    return text == u"," || decimalNumber(text);
+}
+
 // The borders without their opening bracket are numbers up to a closing one. It may have been
 // taken for a key, and is only reported here then. Returns whether it is there.
 bool checkOpening(Reporter &reporter, const Parts &parts, qsizetype statementEnd)
 {
     const Source &source = reporter.source();
-    int next = 2;
-    while (number(source, parts, next))
-        ++next;
-    if (next == 2)
+    if (parts.size() < 3 || !decimalNumber(source.at(*parts[2])))
         return false;
+    int next = 3;
+    while (next < parts.size() && mayBeBorder(source, *parts[next]))
+        ++next;
     if (next < parts.size() && source.at(*parts[next]) == u")") {
         reporter.report(StrayBracketCode, parts[next]->place, u"The bracket ) was never opened"_s);
         return true;

@@ -156,12 +156,15 @@ void checkHatOption(Reporter &reporter, UseBody body)
     const Item *name = body.next();
     const QStringView word = body.word(name);
     const bool isSensitivity =
-        isNumbered(word, u"HAT", u"_SENSITIVITY") || isNumbered(word, u"T", u"_SENSITIVITY");
+        isNumbered(word, u"HAT", sensitivityEnding) || isNumbered(word, u"T", sensitivityEnding);
     const bool hasCorners = sameWord(body.word(body.next()), u"FORCED_CORNERS"_w);
     if (hasCorners && sameWord(word, u"RADIOSWITCH"_w))
         reporter.report(UnknownHatRole, name->place, u"The radio switch has no corners"_s);
-    else if ((hasCorners || isSensitivity) && !rowOf(word).is(HatRole))
-        reporter.report(UnknownControl, name->place, u"There is no control %1"_s.arg(word));
+    else if (isSensitivity)
+        reporter.report(UnknownControl, name->place,
+                        u"%1 has no sensitivity"_s.arg(word.chopped(sensitivityEnding.size())));
+    else if (hasCorners && !rowOf(word).is(HatRole))
+        reporter.report(UnknownControl, name->place, u"%1 is no hat with corners"_s.arg(word));
 }
 
 // Checks "NAME AS ROLE" for controls, hats and axes. Other statements are not known well enough.

@@ -12,12 +12,6 @@ namespace zeph::language {
 
 namespace {
 
-bool isFlag(QStringView word)
-{
-    const std::optional<int> number = flagNumber(word);
-    return number && *number >= 1 && *number <= lastFlag;
-}
-
 // Mistakes that the bodies of either file can have.
 void checkBodies(Reporter &reporter)
 {
@@ -123,7 +117,8 @@ void checkDisable(Reporter &reporter, const JoystickStatement &statement)
         return;
     const Item &item = source.items[index];
     if (item.kind == ItemKind::Unknown)
-        reporter.report(UnknownAxis, item.place, u"There is no axis %1"_s.arg(source.at(item)));
+        reporter.report(UnknownAxis, item.place,
+                        u"DISABLE needs an axis, and %1 is none"_s.arg(source.at(item)));
 }
 
 using StatementCheck = void (*)(Reporter &, const JoystickStatement &);
@@ -151,6 +146,41 @@ bool tellsScreen(const JoystickFile &joystick)
     });
 }
 
+struct ScreenArguments {
+    QStringView word;
+    /// The arguments from first up to, not including, end are pixels or percentages of the screen.
+    int first;
+    int end;
+};
+
+constexpr ScreenArguments screenArguments[] = {
+    { u"MOUSEXY"_w, 1, 3 },
+    { u"MOUSEMOVE"_w, 0, 2 },
+    { u"MOUSEROTATE"_w, 1, 4 },
+};
+static_assert(std::ranges::count(words, CallShape::Screen, &Word::arguments)
+              == std::ssize(screenArguments));
+
+// Nought is the same place in pixels and in percent.
+bool isPixels(QStringView text)
+{
+    const bool isWord = wordEnd(text, 0) == text.size();
+    return isWord && !text.endsWith(u'%') && decimalNumber(text).value_or(0) != 0;
+}
+
+bool hasPixels(const Source &source, const Item &call)
+{
+    if (!call.closed)
+        return false;
+    const QStringView word = words[size_t(call.reference)].text;
+    const ScreenArguments row = *std::ranges::find(screenArguments, word, &ScreenArguments::word);
+    const Arguments arguments = argumentsOf(source, call);
+    const auto end = std::min(row.end, int(arguments.size()));
+    return row.first < end
+        && std::any_of(arguments.begin() + row.first, arguments.begin() + end,
+                       [](const Argument &argument) { return isPixels(argument.text); });
+}
+
 // Positions in pixels need USE SCREEN_RESOLUTION; percentages do not.
 void checkScreen(Reporter &reporter)
 {
@@ -167,7 +197,7 @@ void checkScreen(Reporter &reporter)
             const qsizetype found = text.indexOf(u'%', item.place.position);
             percent = found < 0 ? text.size() : found;
         }
-        if (percent >= item.place.end()) {
+        if (percent >= item.place.end() || hasPixels(source, item)) {
             reporter.report(NoScreenResolution, item.place,
                             u"There is no USE SCREEN_RESOLUTION statement"_s);
             return;

@@ -47,7 +47,7 @@ constexpr std::array<quint32, letters> lengthsInLine = [] {
         if (row.is(AxisRole))
             add(row.text);
     }
-    for (const QStringView word : { u"BTN"_w, u"DEF"_w, u"USE"_w })
+    for (const QStringView word : { u"BTN"_w, u"DEF"_w, u"USE"_w, u"CURVE"_w })
         add(word);
     return lengths;
 }();
@@ -85,7 +85,7 @@ private:
     void readLine(Line line)
     {
         qsizetype at = line.first;
-        if (const qsizetype keyword = afterTilde(line); keyword > 0)
+        if (const qsizetype keyword = keywordAfterTildes(line); keyword > 0)
             line.first = keyword;
         const qsizetype keywordEnd = statementKeywordEnd(line);
         if (keywordEnd > 0) {
@@ -105,31 +105,37 @@ private:
             if (next == end)
                 return;
             finish();
-            line.first = next;
-            at = start(line, nameEnd(m_text, next));
+            line.first = skipTildes(m_text.first(end), next);
+            at = start(line, nameEnd(m_text, line.first));
         }
+    }
+
+    static qsizetype skipTildes(QStringView code, qsizetype at)
+    {
+        while (at < code.size() && (code[at] == u'~' || isBlank(code[at])))
+            ++at;
+        return at;
     }
 
     // A "~" before a statement does not switch it off, as it does in a macro file. Returns where
     // the statement begins, or 0.
-    qsizetype afterTilde(Line line) const
+    qsizetype keywordAfterTildes(Line line) const
     {
         if (m_text[line.first] != u'~')
             return 0;
-        line.first = skipBlanks(m_text.first(line.codeEnd), line.first + 1);
+        line.first = skipTildes(m_text.first(line.codeEnd), line.first);
         return line.first < line.codeEnd && statementKeywordEnd(line) > 0 ? line.first : 0;
     }
 
-    // Where the next statement of the same line begins, searched from the position on; `end`
-    // without one.
+    // Where the next statement of the same line begins with its keyword or the "~" before it,
+    // searched from the position on; `end` without one.
     qsizetype nextStatement(qsizetype from, qsizetype end) const
     {
-        if (m_statement.kind == StatementKind::Unknown)
-            return end;
         const QStringView code = m_text.first(end);
         for (qsizetype at = from; at < end;) {
             const qsizetype to = wordEnd(code, at);
-            if (at > from && beginsInLine(code, at, to))
+            const qsizetype word = code[at] == u'~' ? skipTildes(code.first(to), at) : at;
+            if (at > from && beginsInLine(code, word, to))
                 return at;
             at = std::max(to, at + 1);
         }
@@ -148,33 +154,58 @@ private:
             return false;
         if (sameWord(word, u"BTN"_w))
             return true;
+        // Text before the first statement may be prose, which has the other words by chance.
+        if (m_statement.kind == StatementKind::Unknown)
+            return false;
         const qsizetype next = skipBlanks(code, to);
-        const qsizetype nextEnd = wordEnd(code, next);
+        const QStringView name = code.sliced(next, wordEnd(code, next) - next);
         if (sameWord(word, u"DEF"_w))
-            return flagNumber(code.sliced(next, nextEnd - next)).has_value();
-        if (sameWord(word, u"USE"_w)) {
-            const qsizetype second = skipBlanks(code, nextEnd);
-            const QStringView as = code.sliced(second, wordEnd(code, second) - second);
-            return useFormOf(code.sliced(next)) >= 0 || sameWord(as, u"AS"_w);
-        }
-        const StatementKind kind = m_statement.kind;
-        const bool mayEnd =
-            holdsKeys(kind) || kind == StatementKind::FlagDefinition || kind == StatementKind::Use;
-        return row.is(AxisRole) && mayEnd && !isArgument(code, from) && beginsAxisType(code, next);
+            return flagNumber(name) || rowOf(name).is(ControlRole);
+        if (sameWord(word, u"USE"_w))
+            return beginsUse(code, next);
+        if (isArgument(code, from))
+            return false;
+        const qsizetype afterModifiers = skipSlashes(code, next);
+        if (row.is(AxisRole))
+            return beginsAxisType(code, afterModifiers);
+        // In a body CURVE is a call, so its bracket follows at once.
+        return sameWord(word, u"CURVE"_w) && afterModifiers > next && afterModifiers < code.size()
+            && code[afterModifiers] == u'(';
     }
 
+    // Whether a USE statement that is known goes on here.
+    static bool beginsUse(QStringView code, qsizetype at)
+    {
+        if (useFormOf(code.sliced(at)) >= 0)
+            return true;
+        const qsizetype end = wordEnd(code, at);
+        const qsizetype second = skipBlanks(code, end);
+        const QStringView word = code.sliced(second, wordEnd(code, second) - second);
+        return sameWord(word, u"AS"_w) || sameWord(word, u"FORCED_CORNERS"_w)
+            || code.sliced(at, end - at).endsWith(sensitivityEnding, Qt::CaseInsensitive);
+    }
+
+    // Whether the word at the position belongs to the brackets or to the DISABLE before it.
     static bool isArgument(QStringView code, qsizetype at)
     {
-        while (at > 0 && isBlank(code[at - 1]))
-            --at;
-        return at > 0 && (code[at - 1] == u'(' || code[at - 1] == u',');
+        const QStringView before = code.first(trimmedEnd(code.first(at)));
+        if (before.endsWith(u'(') || before.endsWith(u','))
+            return true;
+        const QStringView disable = u"DISABLE"_w;
+        const qsizetype start = before.size() - disable.size();
+        return start >= 0 && sameWord(before.sliced(start), disable)
+            && (start == 0 || !isBodyCharacter(before[start - 1]));
     }
 
-    // Whether a digital axis's type follows, perhaps after slash modifiers.
-    static bool beginsAxisType(QStringView code, qsizetype at)
+    static qsizetype skipSlashes(QStringView code, qsizetype at)
     {
         while (at < code.size() && slashAt(code, at) >= 0)
             at = skipBlanks(code, at + 2);
+        return at;
+    }
+
+    static bool beginsAxisType(QStringView code, qsizetype at)
+    {
         const qsizetype end = wordEnd(code, at);
         const std::optional<int> type = wholeNumber(code.sliced(at, end - at));
         return type && *type >= 1 && *type <= lastAxisType;

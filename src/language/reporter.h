@@ -48,6 +48,9 @@ Arguments argumentsOf(const Source &source, const Item &item);
 /// Whether one of the source's stray closing brackets lies at or after `from` and before `to`.
 bool hasStrayClosing(const Source &source, qsizetype from, qsizetype to);
 
+/// Whether the word is a logical flag that exists.
+bool isFlag(QStringView word);
+
 void checkCurve(Reporter &reporter, const Arguments &arguments);
 /// Checks the arguments of all calls.
 void checkCalls(Reporter &reporter);

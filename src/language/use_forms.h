@@ -31,6 +31,9 @@ struct UseForm {
     UseShape shape;
 };
 
+/// What the first word of USE HAT1_SENSITIVITY and the like ends in.
+constexpr QStringView sensitivityEnding = u"_SENSITIVITY";
+
 /// The forms that the tools read or write by name. Any other USE statement is either "NAME AS ROLE"
 /// with a control or axis, or unknown.
 std::span<const UseForm> useForms();

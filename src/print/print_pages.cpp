@@ -7,6 +7,7 @@
 
 #include <QAbstractTextDocumentLayout>
 #include <QBuffer>
+#include <QHash>
 #include <QPainter>
 #include <QPdfWriter>
 #include <QPrinter>
@@ -20,8 +21,11 @@ namespace zeph {
 
 namespace {
 
-// A colour that differs less from white than this was chosen for a dark screen.
+// What differs less from white than the first is printed black, what differs less than the second
+// is printed darker, with the third. Both were chosen for a dark screen.
 constexpr double leastContrast = 1.5;
+constexpr double weakContrast = 3;
+constexpr double goodContrast = 4.5;
 constexpr double flare = 0.05;
 // A bullet's measures, in parts of its line's ascent.
 constexpr double bulletRadius = 0.16;
@@ -39,11 +43,20 @@ double luminance(ColorRef colour)
         + 0.0722 * linear(blueOf(colour));
 }
 
+double contrastWithWhite(ColorRef colour)
+{
+    return (1 + flare) / (luminance(colour) + flare);
+}
+
 RichText inked(RichText text)
 {
+    // A text has few colours and many runs.
+    QHash<ColorRef, ColorRef> inks;
     for (CharRun &run : text.characters) {
         if (run.format.colour) {
-            run.format.colour = inkOf(*run.format.colour);
+            const ColorRef colour = *run.format.colour;
+            const auto known = inks.constFind(colour);
+            run.format.colour = known != inks.cend() ? *known : *inks.insert(colour, inkOf(colour));
         }
     }
     text.normalise();
@@ -78,8 +91,19 @@ std::vector<size_t> pageStarts(std::span<const LineExtent> lines, double pageHei
 
 ColorRef inkOf(ColorRef colour)
 {
-    const double contrast = (1 + flare) / (luminance(colour) + flare);
-    return contrast < leastContrast ? 0 : colour;
+    const double contrast = contrastWithWhite(colour);
+    if (contrast < leastContrast) {
+        return 0;
+    }
+    ColorRef ink = colour;
+    for (quint32 percent = 95; contrast < weakContrast && contrastWithWhite(ink) < goodContrast;
+         percent -= 5) {
+        const auto darker = [percent](int part) {
+            return quint32(part) * percent / 100;
+        };
+        ink = colorRef(darker(redOf(colour)), darker(greenOf(colour)), darker(blueOf(colour)));
+    }
+    return ink;
 }
 
 RichText withPrintHeader(const RichText &text, const CharFormat &plain, const QString &path,

@@ -105,7 +105,7 @@ Expected<TemplateFile, QString> readTemplate(QStringView name, const QByteArray 
         if (!rich) {
             return Unexpected<QString>(rich.error().reason);
         }
-        return TemplateFile{ std::move(rich->text), rich->losses, {} };
+        return TemplateFile{ rich->text.rich(), rich->losses, {} };
     }
     const auto text = documentText(bytes);
     if (!text) {

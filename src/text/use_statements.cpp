@@ -87,4 +87,18 @@ QString macroNameFor(const MdefReference &reference, QStringView joystickName)
     return reference.wholeLine + u'.' + extension;
 }
 
+RunAppTail runAppTail(QStringView rest)
+{
+    const qsizetype clause = rest.indexOf(u"WINDOW_STYLE"_w, 0, Qt::CaseInsensitive);
+    if (clause < 0) {
+        return { rest, {} };
+    }
+    RunAppTail tail{ withoutBlanksAtEnd(rest.first(clause)), {} };
+    const QChar style = rest.back();
+    if (style >= u'0' && style <= u'4') {
+        tail.style = style.digitValue();
+    }
+    return tail;
+}
+
 } // namespace zeph

@@ -35,4 +35,13 @@ std::optional<MdefReference> lastMdefReference(QStringView joystickText);
 /// that.
 QString macroNameFor(const MdefReference &reference, QStringView joystickName);
 
+/// What a "USE ZEPH RUN_APP" line says after these words.
+struct RunAppTail {
+    QStringView command; ///< the path with its arguments
+    std::optional<int> style; ///< how its window opens, 0 to 4; no value for any other way
+};
+
+/// Reads the rest of such a line, which has neither comment nor blanks at its end.
+RunAppTail runAppTail(QStringView rest);
+
 } // namespace zeph

@@ -234,6 +234,16 @@ const QList<QString> composed{
     u"USE MTYPE A1-REVERSE_UD"_s,
     u"THR_RANGE (10.5%, 90.5%)"_s,
     u"THR_RANGE (0.1, 0.2)"_s,
+    u"BTN S1 /O a CURVE /I (THR, 4) /O (THR, 0)"_s,
+    u"DISABLE THR CURVE /I (RNG, 4)\n /O (RNG, 0) ANT 1 6 a b c"_s,
+    u"BTN S1 a USE HAT1 FORCED_CORNERS USE HAT2_SENSITIVITY (3)"_s,
+    u"BTN S1 DISABLE THR 5 6"_s,
+    u"BTN S1 Use Def Curve /I a /O b"_s,
+    u"THR 1 5 a b ~BTN S1 c"_s,
+    // The numbers may be keys.
+    u"BTN S1 a THR 7 a b"_s,
+    u"BTN S1 MOUSEMOVE (50%, 0)"_s,
+    u"BTN S1 MOUSEROTATE (CENTRE, 10%, 20%, 30.5%, 45, [MOUSE_LB], CW, 360, 2)"_s,
 };
 
 struct Wrong {
@@ -283,6 +293,19 @@ const QList<Wrong> wrongs{
     { u"BTN S1 a DEF X1 T11 AND S1"_s, UnknownControl, 1, u"T11"_s },
     { u"~BTN S9 a"_s, UnknownControl, 1, u"S9"_s },
     { u"BTN S1 a\n ~ BTN S9 a"_s, UnknownControl, 2, u"S9"_s },
+    { u"BTN S1 a ~BTN S9 b"_s, UnknownControl, 1, u"S9"_s },
+    { u"~~BTN S9 a"_s, UnknownControl, 1, u"S9"_s },
+    { u"~ ~BTN S9 a"_s, UnknownControl, 1, u"S9"_s },
+    { u"foo BTN T11 b"_s, UnknownControl, 1, u"T11"_s },
+    { u"BTN S1 a DEF T1 S1"_s, UnknownFlag, 1, u"T1"_s },
+    { u"BTN S1 a CURVE /I (THR, 4) /O (THR, 99)"_s, ValueOutOfRange, 1, u"99"_s },
+    { u"DISABLE THR CURVE /I (RNG,4) /O (RNG,99)"_s, ValueOutOfRange, 1, u"99"_s },
+    { u"DEF X1 S1 CURVE /I (JOYZ, 4)"_s, UnknownAxis, 1, u"JOYZ"_s },
+    { u"BTN S1 a CURVE /O (THR, 0) /I (THR, 4)"_s, InAfterOut, 1, u"/I"_s },
+    { u"CURVE /I (THR, 4) RNG 5 3 a b c"_s, BandCount, 1, u"3"_s },
+    { u"BTN S1 a USE HAT5 FORCED_CORNERS"_s, UnknownControl, 1, u"HAT5"_s },
+    { u"BTN S1 a USE HAT5_SENSITIVITY (3)"_s, UnknownControl, 1, u"HAT5_SENSITIVITY"_s },
+    { u"BTN S1 a USE RADIOSWITCH FORCED_CORNERS"_s, UnknownHatRole, 1, u"RADIOSWITCH"_s },
     { u"USE HAT5 FORCED_CORNERS"_s, UnknownControl, 1, u"HAT5"_s },
     { u"USE S1 FORCED_CORNERS"_s, UnknownControl, 1, u"S1"_s },
     { u"USE HAT5_SENSITIVITY (3)"_s, UnknownControl, 1, u"HAT5_SENSITIVITY"_s },
@@ -299,6 +322,11 @@ const QList<Wrong> wrongs{
     { u"DISABLE RADIOSWITCH"_s, UnknownAxis, 1, u"RADIOSWITCH"_s },
     { u"BTN S1 DISABLE JOYX"_s, NotDisableable, 1, u"JOYX"_s },
     { u"DISABLE MICROSTICK"_s, NotDisableable, 1, u"MICROSTICK"_s },
+    { u"DISABLE X1"_s, NotDisableable, 1, u"X1"_s },
+    { u"BTN S1 DISABLE X1"_s, NotDisableable, 1, u"X1"_s },
+    { u"DISABLE X49"_s, UnknownFlag, 1, u"X49"_s },
+    { u"DISABLE HAT5"_s, UnknownAxis, 1, u"HAT5"_s },
+    { u"DISABLE S9"_s, UnknownAxis, 1, u"S9"_s },
     // Flags.
     { u"DEF X49 S1"_s, UnknownFlag, 1, u"X49"_s },
     { u"DEF X0 S1"_s, UnknownFlag, 1, u"X0"_s },
@@ -334,6 +362,10 @@ const QList<Wrong> wrongs{
     { u"THR 5 3 0 33 67 100) a b c"_s, StrayBracketCode, 1, u")"_s },
     { u"THR 5 3 0 33 67 100 ) a b c"_s, StrayBracketCode, 1, u")"_s },
     { u"THR 5 3\n 0 33 67 100) 7 8 9"_s, StrayBracketCode, 2, u")"_s },
+    { u"THR 5 3 0, 33, 67, 100) a b c"_s, StrayBracketCode, 1, u")"_s },
+    { u"THR 5 3 0 , 33 , 67 , 100 ) a b c"_s, StrayBracketCode, 1, u")"_s },
+    { u"THR 5 3 0.5 33 67 100) a b c"_s, StrayBracketCode, 1, u")"_s },
+    { u"THR 5 3 , . ;"_s, BandCount, 1, u"3"_s },
     { u"USE AXES_CONFIG 1, JOYX), (2, JOYY)"_s, StrayBracketCode, 1, u")"_s },
     { u"USE AXES_CONFIG (1, JOYX), 2, JOYY)"_s, StrayBracketCode, 1, u")"_s },
     { u"DEF X1 ) AND S1"_s, StrayBracketCode, 1, u")"_s },
@@ -391,6 +423,12 @@ const QList<Wrong> wrongs{
     { u"USE JOYX AS MOUSE (2, 2)"_s, AxisAsMouse, 1, u"MOUSE (2, 2)"_s },
     { u"USE JOYSTICK AS MOUSEX (2, 2)"_s, AxisAsMouse, 1, u"MOUSEX (2, 2)"_s },
     { u"BTN S1 MOUSEXY (UL, 10, 20)"_s, NoScreenResolution, 1, u"MOUSEXY (UL, 10, 20)"_s },
+    { u"BTN S1 MOUSEXY (UL, 10, 20%)"_s, NoScreenResolution, 1, u"MOUSEXY (UL, 10, 20%)"_s },
+    { u"BTN S1 MOUSEXY (UL, 10.5%, 20.5)"_s, NoScreenResolution, 1,
+      u"MOUSEXY (UL, 10.5%, 20.5)"_s },
+    { u"BTN S1 MOUSEMOVE (-10, 20%)"_s, NoScreenResolution, 1, u"MOUSEMOVE (-10, 20%)"_s },
+    { u"BTN S1 MOUSEROTATE (UL, 1%, 2%, 3, 45, [a], CW, 360, 2)"_s, NoScreenResolution, 1,
+      u"MOUSEROTATE (UL, 1%, 2%, 3, 45, [a], CW, 360, 2)"_s },
     // S3.
     { u"BTN S1 /O a\n       /I b"_s, InAfterOut, 2, u"/I"_s },
     { u"BTN S1 /U /O a /I b /D /I c /O d"_s, InAfterOut, 1, u"/I"_s },
@@ -411,6 +449,11 @@ TEST(LegalFile, AllStatementsTogetherHaveNoFindingEither)
 {
     expectClean(composed.join(u'\n'));
     expectClean(composed.join(u'\n').toLower());
+}
+
+TEST(LegalFile, ProseBeforeTheFirstStatementMayHoldTheLanguagesWords)
+{
+    expectClean(u"Text, thr 5 3 a b c, and use hat5 as pov, curve /i (joyz, 4)\nBTN S1 a"_s);
 }
 
 TEST_P(WrongStatement, HasOneFindingAtItsPlace)
@@ -544,6 +587,20 @@ TEST(Findings, OneBracketAStatementIsTold)
 {
     EXPECT_EQ(check(parsePair(u"BTN S1 ((( a ]]} > )"_s, {})).size(), 1);
     EXPECT_EQ(check(parsePair(u"BTN S1 (a\nBTN S2 (b"_s, {})).size(), 2);
+}
+
+TEST(Findings, SayWhatIsWrongWithTheNameThatIsThere)
+{
+    const auto message = [](const QString &text) {
+        const QList<Finding> findings = check(parsePair(text, {}));
+        return findings.isEmpty() ? QString() : findings.first().message;
+    };
+    EXPECT_EQ(message(u"DISABLE HAT5"_s), u"DISABLE needs an axis, and HAT5 is none");
+    EXPECT_EQ(message(u"DISABLE S9"_s), u"DISABLE needs an axis, and S9 is none");
+    EXPECT_EQ(message(u"USE HAT5_SENSITIVITY (3)"_s), u"HAT5 has no sensitivity");
+    EXPECT_EQ(message(u"USE T2_SENSITIVITY (3)"_s), u"T2 has no sensitivity");
+    EXPECT_EQ(message(u"USE HAT5 FORCED_CORNERS"_s), u"HAT5 is no hat with corners");
+    EXPECT_EQ(message(u"USE S1 FORCED_CORNERS"_s), u"S1 is no hat with corners");
 }
 
 TEST(Findings, EveryCodeHasItsEntry)

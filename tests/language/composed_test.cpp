@@ -5,9 +5,12 @@
 // The texts are built here by the rules of those windows.
 
 #include "language/checker.h"
+#include "language/use_forms.h"
 
 #include <gtest/gtest.h>
 
+#include <QRegularExpression>
+#include <QSet>
 #include <QStringList>
 
 #include <array>
@@ -320,6 +323,44 @@ QStringList logic()
                        u"BTN X48 /P DLY(60) Right /R RPT(2) Left"_s };
 }
 
+// One text of each form: the names of axes and controls, and numbers, are as good as each other.
+QStringList oneOfEachForm(const QStringList &texts)
+{
+    const QString names = (axes + groups + controls()).join(u'|');
+    const QRegularExpression varying(u"\\b(%1)\\b|[+-]?\\d+[+-]?"_s.arg(names));
+    QSet<QString> known;
+    QStringList result;
+    for (const QString &text : texts) {
+        const QString form = QString(text).replace(varying, u"#"_s);
+        if (known.contains(form))
+            continue;
+        known.insert(form);
+        result.append(text);
+    }
+    return result;
+}
+
+QStringList statementTexts(const QString &text)
+{
+    const JoystickFile file = parsePair(text, macros).joystick;
+    QStringList texts;
+    for (const JoystickStatement &statement : file.statements)
+        texts.append(file.at(statement.place).toString());
+    return texts;
+}
+
+bool takesTheRestOfTheLine(const QString &text)
+{
+    const JoystickStatement statement = parsePair(text, macros).joystick.statements.last();
+    return statement.useForm >= 0 && useForms()[size_t(statement.useForm)].shape == UseShape::Tail;
+}
+
+// Words that a body may hold too, so that in the middle of a line they need not begin a statement.
+bool mayBelongToTheFirst(const QString &text)
+{
+    return text.startsWith(u"DISABLE ") || text.startsWith(u"THR_RANGE ");
+}
+
 const QString screen = u"USE SCREEN_RESOLUTION (1024,768) \n\n"_s;
 
 } // namespace
@@ -376,6 +417,26 @@ TEST(Composer, EveryOtherPageCompilesOnItsOwnAndInOneFile)
     for (const QString &text : all)
         expectCompiles(screen + text, macros);
     expectCompiles(screen + all.join(u'\n'), macros);
+}
+
+TEST(Composer, EveryTwoTextsOnOneLineAreTwoStatements)
+{
+    const QStringList all =
+        oneOfEachForm(analogueAxes() + configuration() + hatsAndMouse() + logic()
+                      + digitalAxes(u"ANT"_s, u"Right"_s) + digitalAxes(u"THR /I"_s, u"a"_s));
+    ASSERT_GE(all.size(), 100);
+    for (const QString &first : all) {
+        if (takesTheRestOfTheLine(first))
+            continue;
+        for (const QString &second : all) {
+            const QString both = first + u' ' + second;
+            expectCompiles(screen + both, macros);
+            if (!mayBelongToTheFirst(second)) {
+                EXPECT_EQ(statementTexts(both), statementTexts(first) + statementTexts(second))
+                    << both.toStdString();
+            }
+        }
+    }
 }
 
 } // namespace window_texts

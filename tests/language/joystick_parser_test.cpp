@@ -69,6 +69,28 @@ TEST(JoystickParser, AnAxisWithItsTypeStartsAStatementAnywhereAndAnArgumentNowhe
     EXPECT_EQ(parsed(u"BTN S1 LOCK (THR 5) ANT SWAP (ANT, RNG 1)"_s).statements.size(), 1);
 }
 
+TEST(JoystickParser, CurveStartsAStatementInALineIfModifiersFollowAndIsACallIfABracketDoes)
+{
+    EXPECT_THAT(statementTexts(parsed(u"BTN S1 /O a CURVE /I (THR, 4)\n /O (THR, 0) BTN S2 b"_s)),
+                ElementsAre("BTN S1 /O a", "CURVE /I (THR, 4)\n /O (THR, 0)", "BTN S2 b"));
+    EXPECT_EQ(parsed(u"BTN S1 /P CURVE (THR, 4) /R CURVE (THR, 0)"_s).statements.size(), 1);
+    EXPECT_EQ(parsed(u"BTN S1 Curve /I (a)"_s, u"Curve = c"_s).statements.size(), 1);
+}
+
+TEST(JoystickParser, TildesBeforeAStatementBelongToNone)
+{
+    EXPECT_THAT(statementTexts(parsed(u"foo BTN S1 a ~~BTN S2 b\n~ ~BTN S3 c"_s)),
+                ElementsAre("foo", "BTN S1 a", "BTN S2 b", "BTN S3 c"));
+}
+
+TEST(JoystickParser, AnAxisAfterDisableIsWhatItNames)
+{
+    EXPECT_THAT(statementTexts(parsed(u"DISABLE THR 3 a\nBTN S1 DISABLE RNG 5 6"_s)),
+                ElementsAre("DISABLE THR 3 a", "BTN S1 DISABLE RNG 5 6"));
+    EXPECT_THAT(statementTexts(parsed(u"DISABLE THR RNG 3 a ^ b"_s)),
+                ElementsAre("DISABLE THR", "RNG 3 a ^ b"));
+}
+
 TEST(JoystickParser, AMacroNamedLikeAKeywordStartsNothingInsideALine)
 {
     const QString macros = u"Use = e\nBTN = f\nTHR = g"_s;

@@ -53,25 +53,61 @@ TEST(Speed, OneCharacterRepeated)
         const QString text = filled(QString(QChar(c)), megabyte / 2);
         EXPECT_LT(secondsFor(u"BTN S1 "_s + text, u"a = "_s + text), limit) << int(c);
         EXPECT_LT(secondsFor(text, text), limit) << int(c);
+        const QString whole = filled(QString(QChar(c)), megabyte);
+        EXPECT_LT(secondsFor(u"BTN S1 "_s + whole, {}), limit) << int(c);
+        EXPECT_LT(secondsFor({}, u"a = "_s + whole), limit) << int(c);
     }
 }
 
 TEST(Speed, OnePieceOfTheLanguageRepeated)
 {
     const QStringList pieces{
-        u"MOUSEXY ("_s, u"LOCK (THR, "_s,  u"SWAP ("_s,       u"KD("_s,
-        u"KD( ) "_s,    u"KU() "_s,        u"( "_s,           u" )"_s,
-        u"( > "_s,      u"{x ( > "_s,      u"[a] "_s,         u"]x["_s,
-        u"/U /I "_s,    u"/O /I "_s,       u"BTN "_s,         u"BTN S1 "_s,
-        u"USE "_s,      u"USE HAT1 AS "_s, u"DEF X1 zz "_s,   u"THR 5 3 0) "_s,
-        u"THR /U"_s,    u"zz "_s,          u"X99 "_s,         u"\"a\" "_s,
-        u"rem --\n"_s,  u"a = (\n"_s,      u"~ = (\n"_s,      u"= "_s,
-        u"DISABLE "_s,  u"DLY(60) "_s,     u"MOUSE\nXY (%"_s, u"THR 5 3 (0)\n"_s,
+        u"MOUSEXY ("_s,
+        u"LOCK (THR, "_s,
+        u"SWAP ("_s,
+        u"KD("_s,
+        u"KD( ) "_s,
+        u"KU() "_s,
+        u"( "_s,
+        u" )"_s,
+        u"( > "_s,
+        u"{x ( > "_s,
+        u"[a] "_s,
+        u"]x["_s,
+        u"/U /I "_s,
+        u"/O /I "_s,
+        u"BTN "_s,
+        u"BTN S1 "_s,
+        u"USE "_s,
+        u"USE HAT1 AS "_s,
+        u"DEF X1 zz "_s,
+        u"THR 5 3 0) "_s,
+        u"THR /U"_s,
+        u"zz "_s,
+        u"X99 "_s,
+        u"\"a\" "_s,
+        u"rem --\n"_s,
+        u"a = (\n"_s,
+        u"~ = (\n"_s,
+        u"= "_s,
+        u"DISABLE "_s,
+        u"DLY(60) "_s,
+        u"MOUSE\nXY (%"_s,
+        u"THR 5 3 (0)\n"_s,
+        u"CURVE /I ("_s,
+        u"~BTN "_s,
+        u"DISABLE THR 3 "_s,
+        u"THR 5 3 0, "_s,
+        u"MOUSEMOVE (5,%"_s,
+        u"MOUSEMOVE (5 MOUSEXY ("_s,
     };
     for (const QString &piece : pieces) {
         const QString text = filled(piece, megabyte / 2);
         EXPECT_LT(secondsFor(u"BTN S1 "_s + text, u"a = "_s + text), limit) << piece.toStdString();
         EXPECT_LT(secondsFor(u"DEF X1 "_s + text, text), limit) << piece.toStdString();
+        const QString whole = filled(piece, megabyte);
+        EXPECT_LT(secondsFor(whole, {}), limit) << piece.toStdString();
+        EXPECT_LT(secondsFor({}, u"a = "_s + whole), limit) << piece.toStdString();
     }
 }
 

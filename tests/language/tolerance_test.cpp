@@ -68,38 +68,14 @@ TEST(Tolerance, EveryCharacterOnItsOwn)
 
 TEST(Tolerance, AnySequenceOfTheLanguagesPieces)
 {
-    const QStringList pieces = { u"BTN "_s,
-                                 u"S1 "_s,
-                                 u"USE "_s,
-                                 u"MDEF "_s,
-                                 u"("_s,
-                                 u")"_s,
-                                 u"<"_s,
-                                 u">"_s,
-                                 u"{"_s,
-                                 u"}"_s,
-                                 u"/I "_s,
-                                 u"/O "_s,
-                                 u"/U"_s,
-                                 u"\n"_s,
-                                 u"Rem "_s,
-                                 u"~"_s,
-                                 u"= "_s,
-                                 u"KD("_s,
-                                 u"X49 "_s,
-                                 u"DEF "_s,
-                                 u"THR "_s,
-                                 u"5 3 (0 "_s,
-                                 u", "_s,
-                                 u"CURVE ("_s,
-                                 u"MOUSE ("_s,
-                                 u"HAT1 AS "_s,
-                                 u"["_s,
-                                 u"] "_s,
-                                 u"AXES_CONFIG (1, "_s,
-                                 u"-40) "_s,
-                                 u"a = a\n"_s,
-                                 u"rem --\n"_s };
+    const QStringList pieces = {
+        u"BTN "_s,      u"S1 "_s,     u"USE "_s,     u"MDEF "_s,   u"("_s,   u")"_s,
+        u"<"_s,         u">"_s,       u"{"_s,        u"}"_s,       u"/I "_s, u"/O "_s,
+        u"/U"_s,        u"\n"_s,      u"Rem "_s,     u"~"_s,       u"= "_s,  u"KD("_s,
+        u"X49 "_s,      u"DEF "_s,    u"THR "_s,     u"5 3 (0 "_s, u", "_s,  u"CURVE ("_s,
+        u"CURVE /I "_s, u"MOUSE ("_s, u"HAT1 AS "_s, u"["_s,       u"] "_s,  u"AXES_CONFIG (1, "_s,
+        u"-40) "_s,     u"a = a\n"_s, u"rem --\n"_s
+    };
     std::mt19937 random(20240314);
     std::uniform_int_distribution<int> pick(0, int(pieces.size()) - 1);
     for (int round = 0; round < 3000; ++round) {
@@ -119,7 +95,8 @@ TEST(Tolerance, AnySequenceOfTheLanguagesPieces)
 TEST(Tolerance, DeepCallsAreCheckedInOnePass)
 {
     const int depth = 200'000;
-    for (const QString &call : { u"LOCK (THR, "_s, u"SWAP ("_s, u"MOUSEXY (%"_s }) {
+    for (const QString &call :
+         { u"LOCK (THR, "_s, u"SWAP ("_s, u"MOUSEXY (%"_s, u"MOUSEMOVE (%, 0%, "_s }) {
         const QString deep = u"BTN S1 "_s + call.repeated(depth) + QString(depth, u')');
         const FilePair pair = parsePair(deep, {});
         EXPECT_TRUE(check(pair).isEmpty()) << call.toStdString();

@@ -11,6 +11,11 @@
 
 #include <random>
 
+#ifdef Q_OS_UNIX
+#include <sys/stat.h>
+#include <unistd.h>
+#endif
+
 using namespace zeph;
 using namespace zeph::standin;
 
@@ -139,6 +144,45 @@ TEST_F(Compiler, TellsAMacroFileThatCannotBeReadAsThat)
     EXPECT_TRUE(value(u"ErrorCode"_s).startsWith(u"ERROR 1024"));
     EXPECT_EQ(value(u"LineNumber"_s), u"0");
 }
+
+TEST_F(Compiler, TellsAFolderOfTheMacroFilesNameAsAFileThatCannotBeRead)
+{
+    folder.write(u"Keys.tmm/inside"_s, "");
+    folder.write(u"plain/inside"_s, "");
+    run(u"/CO"_s, folder.write(u"a.tmj"_s, "BTN S1 a\r\nUSE MDEF keys\r\n"));
+    EXPECT_TRUE(value(u"ErrorCode"_s).startsWith(u"ERROR 1024"));
+    EXPECT_TRUE(value(u"ErrorCode"_s).contains(u"Keys.tmm"));
+    EXPECT_EQ(value(u"LineNumber"_s), u"2");
+    run(u"/CO"_s, folder.write(u"keys.tmj"_s, "BTN S1 a\r\n"));
+    EXPECT_TRUE(value(u"ErrorCode"_s).startsWith(u"ERROR 1024"));
+    // A folder without the ending is no macro file.
+    run(u"/CO"_s, folder.write(u"b.tmj"_s, "USE MDEF plain\r\n"));
+    EXPECT_TRUE(value(u"ErrorCode"_s).startsWith(u"ERROR 1012"));
+}
+
+#ifdef Q_OS_UNIX
+TEST_F(Compiler, TellsAMacroFileWithoutPermissionAsOneThatCannotBeRead)
+{
+    const QString macros = folder.write(u"keys.tmm"_s, "Fire = a\r\n");
+    const QString file = folder.write(u"a.tmj"_s, "BTN S1 a\r\nUSE MDEF keys\r\n");
+    ASSERT_TRUE(QFile::setPermissions(macros, QFile::WriteOwner));
+    ASSERT_EQ(chmod(QFile::encodeName(folder.path()).constData(), 0755), 0);
+    // An administrator may read everything.
+    const bool wasRoot = geteuid() == 0;
+    if (wasRoot && seteuid(65534) != 0)
+        GTEST_SKIP() << "cannot drop the right to read everything";
+    const auto sources = readSources(file, false);
+    if (wasRoot) {
+        ASSERT_EQ(seteuid(0), 0);
+    }
+    ASSERT_TRUE(sources);
+    ASSERT_TRUE(sources->unreadable);
+    EXPECT_EQ(sources->unreadable->path, macros);
+    EXPECT_FALSE(sources->unreadable->reason.isEmpty());
+    EXPECT_FALSE(sources->missing);
+    EXPECT_EQ(sources->macroNamePlace.line, 2);
+}
+#endif
 
 TEST_F(Compiler, ReadsAFileWithoutItsByteOrderMark)
 {

@@ -94,3 +94,16 @@ TEST(PairRule, ATextWithoutStatementHasNoReference)
     EXPECT_FALSE(lastMdefReference(u"BTN S1 a\nUSE  MDEF two blanks.tmm"));
     EXPECT_FALSE(lastMdefReference(u""));
 }
+
+TEST(RunAppTail, TheStyleIsTheLastCharacterAfterItsWord)
+{
+    EXPECT_EQ(runAppTail(u"c:\\a.exe -x").command, u"c:\\a.exe -x");
+    EXPECT_EQ(runAppTail(u"c:\\a.exe -x").style, std::nullopt);
+    EXPECT_EQ(runAppTail(u"a.exe  WINDOW_STYLE = 4").command, u"a.exe");
+    EXPECT_EQ(runAppTail(u"a.exe  WINDOW_STYLE = 4").style, 4);
+    EXPECT_EQ(runAppTail(u"a.exe window_style=0").style, 0);
+    EXPECT_EQ(runAppTail(u"a.exe WINDOW_STYLE = 5").style, std::nullopt);
+    EXPECT_EQ(runAppTail(u"a.exe WINDOW_STYLE").style, std::nullopt);
+    EXPECT_EQ(runAppTail(u"WINDOW_STYLE = 1").command, QString());
+    EXPECT_EQ(runAppTail(u"").command, QString());
+}

@@ -259,41 +259,67 @@ void RichText::normalise()
     tidy(paragraphs, paragraphCount());
 }
 
+LookRuns::LookRuns(const std::vector<CharRun> &characters)
+{
+    LookNumbers numbers;
+    runs.reserve(characters.size());
+    for (const CharRun &run : characters) {
+        runs.push_back(
+            { quint32(std::max(run.length, qsizetype(0))), numbers.numberOf(run.format) });
+    }
+    looks = numbers.take();
+}
+
+RichText NumberedRichText::rich() const
+{
+    RichText result{ text, {}, paragraphs };
+    result.characters.reserve(characters.runs.size());
+    for (const LookRun &run : characters.runs) {
+        result.characters.push_back({ run.length, characters.looks[run.format] });
+    }
+    return result;
+}
+
+quint32 LookNumbers::numberOf(const CharFormat &look)
+{
+    const auto known = m_numbers.constFind(look);
+    if (known != m_numbers.cend()) {
+        return known.value();
+    }
+    const auto number = quint32(m_looks.size());
+    m_looks.push_back(look);
+    m_numbers.insert(look, number);
+    return number;
+}
+
+std::vector<CharFormat> LookNumbers::take()
+{
+    m_numbers.clear();
+    return std::exchange(m_looks, {});
+}
+
 RichTextChanges::RichTextChanges(RichText text) : m_text(std::move(text))
 {
     m_text.normalise();
-    m_formatOf.reserve(size_t(m_text.text.size()));
+    m_lookOf.reserve(size_t(m_text.text.size()));
     for (const CharRun &run : m_text.characters) {
-        m_formatOf.insert(m_formatOf.end(), size_t(run.length), indexOf(run.format));
+        m_lookOf.insert(m_lookOf.end(), size_t(run.length), m_looks.numberOf(run.format));
     }
-}
-
-RichTextChanges::Index RichTextChanges::indexOf(const CharFormat &format)
-{
-    const auto known = m_indices.constFind(format);
-    if (known != m_indices.cend()) {
-        return known.value();
-    }
-    const Index index = Index(m_formats.size());
-    m_formats.push_back(format);
-    m_indices.insert(format, index);
-    return index;
 }
 
 RichText RichTextChanges::take()
 {
     m_text.characters.clear();
-    for (size_t start = 0; start < m_formatOf.size();) {
+    for (size_t start = 0; start < m_lookOf.size();) {
         size_t end = start;
-        while (end < m_formatOf.size() && m_formatOf[end] == m_formatOf[start]) {
+        while (end < m_lookOf.size() && m_lookOf[end] == m_lookOf[start]) {
             ++end;
         }
-        m_text.characters.push_back({ qsizetype(end - start), m_formats[m_formatOf[start]] });
+        m_text.characters.push_back({ qsizetype(end - start), m_looks.look(m_lookOf[start]) });
         start = end;
     }
-    m_formats.clear();
-    m_indices.clear();
-    m_formatOf.clear();
+    m_looks.take();
+    m_lookOf.clear();
     return std::exchange(m_text, {});
 }
 

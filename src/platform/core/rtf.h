@@ -49,7 +49,7 @@ Q_DECLARE_FLAGS(RtfLosses, RtfLoss)
 Q_DECLARE_OPERATORS_FOR_FLAGS(RtfLosses)
 
 struct RtfReading {
-    RichText text;
+    NumberedRichText text;
     RtfLosses losses;
     /// The look of the file's first style, which is that of its plain text; none without styles.
     std::optional<CharFormat> plain;

@@ -274,11 +274,18 @@ QString *Reader::target(qsizetype added)
     default:
         return nullptr;
     }
-    if (m_result.characters.empty() || !(state().look == m_runLook)) {
+    std::vector<LookRun> &runs = m_result.characters.runs;
+    if (runs.empty() || state().look != m_runLook) {
         m_runLook = state().look;
-        m_result.characters.push_back({ 0, formatOf(m_runLook) });
+        auto number = m_numbers.constFind(m_runLook);
+        if (number == m_numbers.cend()) {
+            number = m_numbers.insert(m_runLook, m_looks.numberOf(formatOf(m_runLook)));
+        }
+        if (runs.empty() || runs.back().format != *number) {
+            runs.push_back({ 0, *number });
+        }
     }
-    m_result.characters.back().length += added;
+    runs.back().length += quint32(added);
     m_textParagraph = state().paragraphFormat();
     m_paragraphHasText = true;
     m_endsWithParagraph = false;
@@ -443,19 +450,21 @@ CharFormat Reader::formatOf(const Look &look) const
     return format;
 }
 
-RichText Reader::finish()
+NumberedRichText Reader::finish()
 {
     flushBytes();
     if (m_endsWithParagraph) {
         // Every writer closes the last paragraph too; no other begins after it.
         m_result.text.chop(1);
-        --m_result.characters.back().length;
+        if (--m_result.characters.runs.back().length == 0) {
+            m_result.characters.runs.pop_back();
+        }
     } else {
         addParagraph(m_result.paragraphs,
                      m_paragraphHasText ? m_textParagraph : state().paragraphFormat());
     }
     m_result.text.squeeze();
-    m_result.normalise();
+    m_result.characters.looks = m_looks.take();
     return std::move(m_result);
 }
 
@@ -467,7 +476,7 @@ Expected<RichText, RtfError> readRtf(QByteArrayView bytes)
     if (!reading) {
         return Unexpected<RtfError>(reading.error());
     }
-    return std::move(reading->text);
+    return reading->text.rich();
 }
 
 Expected<RtfReading, RtfError> readRtfWithLosses(QByteArrayView bytes,

@@ -10,6 +10,7 @@
 #include "platform/core/rtf_lexer.h"
 #include "platform/core/rtf_tables.h"
 
+#include <QHash>
 #include <QStringList>
 
 namespace zeph::rtf {
@@ -41,6 +42,11 @@ struct Look {
     int link = -1; ///< index of the hyperlink
 
     friend bool operator==(const Look &, const Look &) = default;
+    friend size_t qHash(const Look &look, size_t seed = 0)
+    {
+        const int styles = look.bold | look.italic << 1 | look.underline << 2 | look.strike << 3;
+        return qHashMulti(seed, look.font, look.halfPoints, look.colour, styles, look.link);
+    }
 };
 
 /// What a group restores at its end.
@@ -98,7 +104,7 @@ private:
     void handleWord(const Token &token);
     void handleSymbol(char symbol);
     bool stepOverFallback(Token &token);
-    RichText finish();
+    NumberedRichText finish();
 
     void putText(std::string_view bytes);
     void putByte(int byte);
@@ -116,7 +122,7 @@ private:
 
     Lexer m_lexer;
     std::vector<GroupState> m_groups;
-    RichText m_result;
+    NumberedRichText m_result;
     QByteArray m_bytes; ///< of a code page that may need two for a character, not yet decoded
     int m_toStepOver = 0; ///< characters left that older readers show for a \uN
     bool m_starred = false; ///< right after \*
@@ -133,6 +139,8 @@ private:
     RtfLosses m_losses;
 
     std::optional<Look> m_firstStyle;
+    LookNumbers m_looks;
+    QHash<Look, quint32> m_numbers; ///< in m_looks; emptied before a table changes
     Look m_runLook; ///< of the last run
     const HighHalf *m_highHalf = nullptr;
     int m_highHalfOf = 0;

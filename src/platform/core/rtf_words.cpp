@@ -285,6 +285,7 @@ void Reader::setDocumentCodePage(int codePage, const Token &token)
 void Reader::setDefaultFont(int, const Token &token)
 {
     m_defaultFont = token.value;
+    m_numbers.clear();
 }
 
 void Reader::setCharset(int, const Token &token)
@@ -319,6 +320,9 @@ void Reader::setBulletForm(int, const Token &)
 void Reader::enter(int destination, const Token &)
 {
     state().destination = Destination(destination);
+    if (state().destination == Destination::Fonts || state().destination == Destination::Colours) {
+        m_numbers.clear();
+    }
     if (state().destination == Destination::Marker) {
         m_marker.clear();
     } else if (state().destination == Destination::Instruction) {

@@ -9,6 +9,7 @@
 #include "settings/settings.h"
 #include "settings/settings_files.h"
 #include "text/text_lines.h"
+#include "text/use_statements.h"
 #include "toolchain/toolchain_settings.h"
 
 #include <QCoreApplication>
@@ -28,12 +29,6 @@ constexpr QStringView head = u"USE ZEPH RUN_APP"_w;
 constexpr qsizetype shortestLine = 20;
 constexpr qsizetype commandAt = head.size() + 1;
 
-WindowStyle styleOf(QChar digit)
-{
-    return digit >= u'0' && digit <= u'4' ? WindowStyle(digit.digitValue())
-                                          : WindowStyle::MinimisedNoFocus;
-}
-
 std::optional<RunApp> runAppOf(QStringView raw)
 {
     if (raw.size() < shortestLine || !raw.contains(u"USE"_w, Qt::CaseInsensitive)) {
@@ -43,12 +38,11 @@ std::optional<RunApp> runAppOf(QStringView raw)
     if (line.size() < shortestLine || !line.startsWith(head, Qt::CaseInsensitive)) {
         return std::nullopt;
     }
-    const QStringView command = QStringView(line).sliced(commandAt);
-    RunApp app{ .command = withoutBlanksAtEnd(beforeRem(command)).toString() };
-    const qsizetype word = app.command.indexOf(u"WINDOW_STYLE"_w, 0, Qt::CaseInsensitive);
-    if (word >= 0) {
-        app.style = styleOf(app.command.back());
-        app.command = withoutBlanksAtEnd(QStringView(app.command).first(word)).toString();
+    const QStringView rest = QStringView(line).sliced(commandAt);
+    const RunAppTail tail = runAppTail(withoutBlanksAtEnd(beforeRem(rest)));
+    RunApp app{ .command = tail.command.toString() };
+    if (tail.style) {
+        app.style = WindowStyle(*tail.style);
     }
     return app;
 }

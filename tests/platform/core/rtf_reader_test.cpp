@@ -332,6 +332,38 @@ TEST(RtfReader, GroupEndsTheFallback)
     EXPECT_EQ(textOf("{\\rtf1\\uc9 {\\u960 ?}ab}"), u"\u03c0ab"_s);
 }
 
+TEST(RtfReader, ALookAfterATableMeansWhatTheTableSays)
+{
+    const RichText colours = read("{\\rtf1{\\colortbl ;\\red255;}\\cf2 a\\cf1 b"
+                                  "{\\colortbl\\blue255;}\\cf2 c\\cf1 d}");
+    EXPECT_EQ(colours.formatAt(0).colour, std::nullopt);
+    EXPECT_EQ(colours.formatAt(1).colour, colorRef(255, 0, 0));
+    EXPECT_EQ(colours.formatAt(2).colour, colorRef(0, 0, 255));
+    EXPECT_EQ(colours.formatAt(3).colour, colorRef(255, 0, 0));
+
+    const RichText fonts = read("{\\rtf1\\f1 a\\f2 b{\\fonttbl{\\f1 Arial;}}\\f1 c\\f2 d}");
+    EXPECT_EQ(fonts.formatAt(0).family, u""_s);
+    EXPECT_EQ(fonts.formatAt(2).family, u"Arial"_s);
+    EXPECT_EQ(fonts.formatAt(3).family, u""_s);
+
+    const RichText defaults = read("{\\rtf1{\\fonttbl{\\f0 Arial;}{\\f1 Courier;}}"
+                                   "a\\b b\\deff1\\b0 c}");
+    EXPECT_EQ(defaults.formatAt(0).family, u"Arial"_s);
+    EXPECT_EQ(defaults.formatAt(2).family, u"Courier"_s);
+}
+
+TEST(RtfReader, RunsThatComeToLookAlikeAreOne)
+{
+    // A number beyond the colour table is the control's own colour, as 0 is.
+    const RichText text = read("{\\rtf1 a\\cf7 b\\cf0 c\\b d\\b0\\par\\par}");
+    ASSERT_EQ(text.characters.size(), 3U);
+    EXPECT_EQ(text.characters[0].length, 3);
+    EXPECT_EQ(text.characters[1].length, 1);
+    EXPECT_EQ(text.characters[2].length, 1);
+
+    EXPECT_EQ(read("{\\rtf1 a\\b\\par}").characters.size(), 1U);
+}
+
 TEST(RtfReader, TextAfterTheLastBraceIsIgnored)
 {
     EXPECT_EQ(textOf("{\\rtf1 a}\r\nwhatever {"), u"a"_s);

@@ -200,6 +200,6 @@ TEST(RtfWriter, NamesThePlainTextsLookWhereItIsGiven)
     ASSERT_TRUE(read);
     EXPECT_EQ(read->plain, plain);
     EXPECT_EQ(read->text.text, u"a");
-    EXPECT_EQ(read->text.formatAt(0).pointSize, 20);
+    EXPECT_EQ(read->text.rich().formatAt(0).pointSize, 20);
     EXPECT_FALSE(readRtfWithLosses(writeRtf(RichText::plain(u"a"_s)))->plain);
 }
