@@ -13,6 +13,7 @@ using S = ComposerSettings;
 
 constexpr std::array rows = {
     row(u"Miscellaneous", u"CompTabsAddCr", &S::CompTabsAddCr, true, SavedAs{ 27 }),
+    row(u"Unsupported", u"ShowDX9to10", &S::ShowDX9to10, 0, { 0, 2 }),
 };
 
 } // namespace
