@@ -17,14 +17,14 @@ namespace {
 /// Room around hot spots that have no picture, in its pixels.
 constexpr int margin = 10;
 
-/// A size in which all hot spots have room.
+/// A size in which all hot spots have room; empty without any.
 QSize extentOf(const QList<HotSpot> &spots)
 {
     QRect all;
     for (const HotSpot &each : spots) {
         all |= each.place;
     }
-    return QSize(all.right() + 1, all.bottom() + 1) + QSize(margin, margin);
+    return all.isEmpty() ? QSize() : QSize(all.right() + margin, all.bottom() + margin);
 }
 
 } // namespace
@@ -42,6 +42,8 @@ void ControlsPicture::showPicture(const DrawnPicture &picture, const QList<HotSp
     for (HotSpotButton *each : m_buttons) {
         each->place = {};
     }
+    // What never has the focus has no place in the order of Tab after which others could be put.
+    setFocusPolicy(Qt::TabFocus);
     QWidget *previous = this;
     for (const HotSpot &each : spots) {
         HotSpotButton *found = button(each.id);
@@ -53,6 +55,7 @@ void ControlsPicture::showPicture(const DrawnPicture &picture, const QList<HotSp
         setTabOrder(previous, found);
         previous = found;
     }
+    setFocusPolicy(Qt::NoFocus);
     layOut();
     updateGeometry();
 }
@@ -93,6 +96,9 @@ void ControlsPicture::highlight(const QStringList &ids)
 
 QRectF ControlsPicture::pictureRect() const
 {
+    if (m_extent.isEmpty()) {
+        return {};
+    }
     // Whole pixels of the screen, so that no line is drawn between two of them.
     const qreal scale = devicePixelRatioF();
     const QSize room = (QSizeF(size()) * scale).toSize();

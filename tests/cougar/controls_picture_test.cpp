@@ -138,6 +138,7 @@ TEST_F(Controls, TabSkipsAHotSpotThatTheHandleLacksAndFindsItAgainInItsPlace)
 TEST_F(Controls, AScreenReaderHearsNamesAndTheTextIsTheLanguages)
 {
     ASSERT_TRUE(picture->showDrawing(folder.path(), u"Throttle.bmp"_s));
+    open();
     QAbstractButton *spot = picture->spot(u"BTN_8");
     ASSERT_TRUE(spot);
     EXPECT_EQ(spot->text(), u"T5");

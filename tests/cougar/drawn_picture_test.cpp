@@ -99,15 +99,6 @@ TEST(DrawnPicture, APilotsOwnPictureOfThatNameIsShownItself)
     EXPECT_EQ(drawn(picture, { 10, 8 }).pixelColor(5, 4), QColor(Qt::red));
 }
 
-TEST(DrawnPicture, ADrawingThatCannotBeReadLeavesTheBitmap)
-{
-    const test::PicturesFolder folder;
-    folder.write(u"Rudders.svg"_s, "");
-    const DrawnPicture picture = loaded(folder.path(), u"Rudders.bmp"_s);
-    EXPECT_FALSE(picture.isDrawing());
-    EXPECT_EQ(picture.size(), QSize(380, 260));
-}
-
 TEST(DrawnPicture, NamesCountInAnyCaseAndContentsDecideTheFormat)
 {
     const test::PicturesFolder folder;
