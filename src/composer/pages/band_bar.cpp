@@ -204,9 +204,9 @@ void BandBar::paintBorder(QPainter &painter, int border) const
     const QColor colour = palette().color(isMiddle ? QPalette::Link : QPalette::Text);
     const double x = placeOf(double(m_bands.border(border)));
     const double thickness = isChosen || isMiddle ? 3 : 1;
-    painter.fillRect(QRectF(x - thickness / 2, isChosen ? 0 : 2, thickness,
-                            isChosen ? height() : height() - 4),
-                     colour);
+    painter.fillRect(
+        QRectF(x - thickness / 2, isChosen ? 0 : 2, thickness, isChosen ? height() : height() - 4),
+        colour);
 }
 
 } // namespace zeph

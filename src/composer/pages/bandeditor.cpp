@@ -21,19 +21,33 @@ namespace {
 /// The names of the controls in the order of controlsOf().
 constexpr int namedControls = 11;
 using Names = std::array<QStringView, namedControls>;
-constexpr Names namesOfType5 = { u"TXT_DigitalAxis_3", u"Command15_0", u"Command15_1",
-                                 u"ComboBandSelect",   u"OPT_Type5_0", u"OPT_Type5_1",
-                                 u"TXT_DigitalAxis_4", u"TXT_DigitalAxis_5", u"SliderType5",
-                                 u"LBL_Type5",         u"Label7" };
-constexpr Names namesOfType6 = { u"TXT_DigitalAxis_6", u"Command15_2", u"Command15_3",
-                                 u"ComboType6Band",    u"OptionType6LowHigh_0",
-                                 u"OptionType6LowHigh_1", u"TXT_DigitalAxis_7",
-                                 u"TXT_DigitalAxis_9", u"SliderType6", u"LBL_Type6", u"Label8" };
+constexpr Names namesOfType5 = { u"TXT_DigitalAxis_3",
+                                 u"Command15_0",
+                                 u"Command15_1",
+                                 u"ComboBandSelect",
+                                 u"OPT_Type5_0",
+                                 u"OPT_Type5_1",
+                                 u"TXT_DigitalAxis_4",
+                                 u"TXT_DigitalAxis_5",
+                                 u"SliderType5",
+                                 u"LBL_Type5",
+                                 u"Label7" };
+constexpr Names namesOfType6 = { u"TXT_DigitalAxis_6",
+                                 u"Command15_2",
+                                 u"Command15_3",
+                                 u"ComboType6Band",
+                                 u"OptionType6LowHigh_0",
+                                 u"OptionType6LowHigh_1",
+                                 u"TXT_DigitalAxis_7",
+                                 u"TXT_DigitalAxis_9",
+                                 u"SliderType6",
+                                 u"LBL_Type6",
+                                 u"Label8" };
 
 std::array<QWidget *, namedControls> controlsOf(const Ui::BandEditor &ui)
 {
-    return { ui.count, ui.apply,     ui.reset,  ui.list, ui.low,    ui.high,
-             ui.from,  ui.upTo, ui.slider, ui.bar,  ui.barLabel };
+    return { ui.count, ui.apply, ui.reset,  ui.list, ui.low,     ui.high,
+             ui.from,  ui.upTo,  ui.slider, ui.bar,  ui.barLabel };
 }
 
 void showQuietly(QLineEdit &box, const QString &text)
@@ -45,8 +59,7 @@ void showQuietly(QLineEdit &box, const QString &text)
 
 } // namespace
 
-BandEditor::BandEditor(QWidget *parent)
-    : QWidget(parent), m_ui(std::make_unique<Ui::BandEditor>())
+BandEditor::BandEditor(QWidget *parent) : QWidget(parent), m_ui(std::make_unique<Ui::BandEditor>())
 {
     m_ui->setupUi(this);
     for (QLineEdit *box : { m_ui->count, m_ui->from, m_ui->upTo })
@@ -78,8 +91,9 @@ void BandEditor::nameControls()
 void BandEditor::addKeys()
 {
     if (m_bands.type() == 5) {
-        addKey(10, u"4.) Enter a macro or character for this band in this text area and then "
-                   u"select a different band, and continue the process."_s)
+        addKey(10,
+               u"4.) Enter a macro or character for this band in this text area and then "
+               u"select a different band, and continue the process."_s)
             ->setToolTip(u"Up and Down go to the next band"_s);
         return;
     }
@@ -101,9 +115,8 @@ KeyBox *BandEditor::addKey(int index, const QString &label)
     m_ui->layoutKeys->addWidget(box, isBelow ? row + 1 : row, isBelow ? 0 : 1);
     m_keys.append(box);
     m_keyLabels.append(caption);
-    connect(box, &QLineEdit::textChanged, this, [this, row](const QString &key) {
-        setKey(m_bands.type() == 5 ? m_band : row, key);
-    });
+    connect(box, &QLineEdit::textChanged, this,
+            [this, row](const QString &key) { setKey(m_bands.type() == 5 ? m_band : row, key); });
     return box;
 }
 

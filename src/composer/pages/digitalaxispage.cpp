@@ -27,7 +27,7 @@ struct TypeTab {
 
 // The keys of types 5 and 6 belong to their bands.
 constexpr TypeTab typeTabs[language::lastAxisType] = {
-    { 0, 0, 3, 1, 0 }, { 1, 3, 1, -1, 1 }, { -1, 4, 3, 6, -1 },
+    { 0, 0, 3, 1, 0 },  { 1, 3, 1, -1, 1 },   { -1, 4, 3, 6, -1 },
     { 2, 7, 3, 9, -1 }, { -1, 10, 0, -1, 2 }, { -1, 11, 0, -1, 3 },
 };
 
@@ -52,7 +52,6 @@ DigitalAxisPage::DigitalAxisPage(const ComposerParts &parts, QWidget *parent)
         if (const int count = typeTabs[index].count; count >= 0)
             fitToNumber(*m_counts[count]);
     }
-    tieLineEndTick(*m_ui->CheckMultiAddCR_1, parts.context.settings);
     connectControls();
     m_ui->SSTab3->setCurrentIndex(0);
     showTab(0);
@@ -63,8 +62,9 @@ DigitalAxisPage::~DigitalAxisPage() = default;
 void DigitalAxisPage::connectControls()
 {
     m_axes.connect(this, &QComboBox::currentIndexChanged, [this](int index) { showAxis(index); });
-    m_inserts.connect(this, &QPushButton::clicked,
-                      guarded(m_parts.context.dialogs, [this](int index) { insert(index); }));
+    m_inserts.connect(this, &QPushButton::clicked, [this](int index) {
+        guarded(m_parts.context.dialogs, [this, index] { insert(index); })();
+    });
     connect(m_ui->SSTab3, &QTabWidget::currentChanged, this, &DigitalAxisPage::showTab);
     connectBands(*m_ui->bands5, 4);
     connectBands(*m_ui->bands6, 5);
@@ -135,6 +135,8 @@ void DigitalAxisPage::showTab(int index)
 
 void DigitalAxisPage::enter()
 {
+    if (std::exchange(m_wasReadUnseen, false))
+        return;
     m_ui->SSTab3->setCurrentIndex(0);
     m_axes[0]->setFocus();
 }
@@ -191,6 +193,7 @@ bool DigitalAxisPage::read(const QString &statement)
         const QSignalBlocker quiet(this);
         show(*fields);
     }
+    m_wasReadUnseen = !isVisible();
     Q_EMIT changed();
     return true;
 }

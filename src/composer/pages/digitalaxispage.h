@@ -64,6 +64,8 @@ private:
     ControlArray<QLineEdit> m_counts;
     ControlArray<QLineEdit> m_keys;
     ControlArray<QLabel> m_keyLabels;
+    /// A statement was read before the page came to the front, which keeps its tab then.
+    bool m_wasReadUnseen = false;
 };
 
 } // namespace zeph

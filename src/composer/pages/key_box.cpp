@@ -77,7 +77,9 @@ void KeyBox::highlight(bool on)
     constexpr double share = 0.25;
     const QColor base = palette().base().color();
     const QColor mark = palette().highlight().color();
-    const auto mixed = [](int from, int to) { return int(from + (to - from) * share); };
+    const auto mixed = [](int from, int to) {
+        return int(from + (to - from) * share);
+    };
     QPalette lit = palette();
     lit.setColor(QPalette::Base,
                  QColor(mixed(base.red(), mark.red()), mixed(base.green(), mark.green()),

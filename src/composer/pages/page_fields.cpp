@@ -3,24 +3,9 @@
 
 #include "composer/pages/page_fields.h"
 
-#include "composer/composer_settings.h"
-#include "settings/settings.h"
-
-#include <QRegularExpression>
+#include <QAbstractButton>
 
 namespace zeph {
-
-void tieLineEndTick(QCheckBox &tick, Settings &settings)
-{
-    auto &values = settings.of<ComposerSettings>();
-    tick.setChecked(values.CompTabsAddCr);
-    QObject::connect(&tick, &QCheckBox::toggled, &tick, [&tick, &values](bool on) {
-        values.CompTabsAddCr = on;
-        static const QRegularExpression names(u"^CheckMultiAddCR_\\d$"_s);
-        for (QCheckBox *other : tick.window()->findChildren<QCheckBox *>(names))
-            other->setChecked(on);
-    });
-}
 
 void whenEdited(const QWidget &parent, QObject *context, const std::function<void()> &then)
 {

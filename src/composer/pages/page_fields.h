@@ -5,22 +5,14 @@
 
 // What the fields of all pages of the Composer do alike.
 
-#include "composer/composer_page.h"
+#include "platform/core/base.h"
 
 #include <QComboBox>
 #include <QLineEdit>
 
 #include <functional>
 
-class QCheckBox;
-
 namespace zeph {
-
-class Settings;
-
-/// Lets one of the ticks CheckMultiAddCR_0 to CheckMultiAddCR_4 show and change the setting
-/// CompTabsAddCr. All of them in a window are one: a change of any shows in the others.
-void tieLineEndTick(QCheckBox &tick, Settings &settings);
 
 /// Calls a function whenever a text box, a list or a tick among the children of a widget changes.
 void whenEdited(const QWidget &parent, QObject *context, const std::function<void()> &then);
