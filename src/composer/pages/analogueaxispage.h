@@ -81,12 +81,12 @@ private:
     void insert(Button button);
     void fillEmptyValues(Button button);
 
-    void show(const CurveFields &fields);
-    void show(const TrimFields &fields);
-    void show(const LockFields &fields);
-    void show(const SwapFields &fields);
-    void show(const ReverseFields &fields);
-    void show(const ThrottleRangeFields &fields);
+    void showFields(const CurveFields &fields);
+    void showFields(const TrimFields &fields);
+    void showFields(const LockFields &fields);
+    void showFields(const SwapFields &fields);
+    void showFields(const ReverseFields &fields);
+    void showFields(const ThrottleRangeFields &fields);
     bool showDisable(const QString &statement);
     bool showAxesConfig(const QString &statement);
     template <class Fields>

@@ -12,7 +12,7 @@
 
 namespace zeph {
 
-void AnalogueAxisPage::show(const CurveFields &fields)
+void AnalogueAxisPage::showFields(const CurveFields &fields)
 {
     m_curveForms[int(fields.form)]->setChecked(true);
     m_axes[0]->setCurrentText(fields.axis);
@@ -24,7 +24,7 @@ void AnalogueAxisPage::show(const CurveFields &fields)
     turnTo(CurveButton);
 }
 
-void AnalogueAxisPage::show(const TrimFields &fields)
+void AnalogueAxisPage::showFields(const TrimFields &fields)
 {
     m_trimTypes[int(fields.type)]->setChecked(true);
     m_axes[1]->setCurrentText(fields.axis);
@@ -34,7 +34,7 @@ void AnalogueAxisPage::show(const TrimFields &fields)
     turnTo(TrimButton);
 }
 
-void AnalogueAxisPage::show(const LockFields &fields)
+void AnalogueAxisPage::showFields(const LockFields &fields)
 {
     (fields.unlocks ? m_ui->OptionAnaLOCK_1 : m_ui->OptionAnaLOCK_0)->setChecked(true);
     m_axes[3]->setCurrentText(fields.axis);
@@ -44,7 +44,7 @@ void AnalogueAxisPage::show(const LockFields &fields)
     turnTo(LockButton);
 }
 
-void AnalogueAxisPage::show(const SwapFields &fields)
+void AnalogueAxisPage::showFields(const SwapFields &fields)
 {
     m_ui->CheckAnaSWAP->setChecked(fields.isConfiguration);
     m_axes[4]->setCurrentText(fields.first);
@@ -52,7 +52,7 @@ void AnalogueAxisPage::show(const SwapFields &fields)
     turnTo(SwapButton);
 }
 
-void AnalogueAxisPage::show(const ReverseFields &fields)
+void AnalogueAxisPage::showFields(const ReverseFields &fields)
 {
     if (fields.form == ReverseFields::Form::Configuration) {
         m_axes[6]->setCurrentText(fields.axis);
@@ -65,7 +65,7 @@ void AnalogueAxisPage::show(const ReverseFields &fields)
     turnTo(ReverseButton);
 }
 
-void AnalogueAxisPage::show(const ThrottleRangeFields &fields)
+void AnalogueAxisPage::showFields(const ThrottleRangeFields &fields)
 {
     m_ui->CheckTHRrange->setChecked(fields.isConfiguration);
     m_values[3]->setText(fields.from);
@@ -104,7 +104,7 @@ bool AnalogueAxisPage::showRead(std::optional<Fields> (*readFields)(QStringView)
 {
     const auto fields = readFields(statement);
     if (fields)
-        show(*fields);
+        showFields(*fields);
     return fields.has_value();
 }
 

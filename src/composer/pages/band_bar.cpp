@@ -27,7 +27,7 @@ BandBar::BandBar(QWidget *parent) : QWidget(parent)
     setAccessibleName(u"The bands of the axis"_s);
 }
 
-void BandBar::show(const Bands &bands, int band, Bands::Side side)
+void BandBar::showBands(const Bands &bands, int band, Bands::Side side)
 {
     m_bands = bands;
     m_band = band;

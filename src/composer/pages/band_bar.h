@@ -18,7 +18,7 @@ class BandBar : public QWidget
 public:
     explicit BandBar(QWidget *parent);
 
-    void show(const Bands &bands, int band, Bands::Side side);
+    void showBands(const Bands &bands, int band, Bands::Side side);
 
     /// Where a percent of the axis is, in pixels from the left end of the widget.
     double placeOf(double percent) const;

@@ -203,7 +203,7 @@ void BandEditor::setKey(int index, const QString &key)
     if (!m_bands.isApplied())
         return;
     m_bands.setMacro(index, key);
-    m_ui->bar->show(m_bands, m_band, m_side);
+    m_ui->bar->showBands(m_bands, m_band, m_side);
     Q_EMIT changed();
 }
 
@@ -265,7 +265,7 @@ void BandEditor::showBorders()
     showQuietly(*m_ui->upTo, shown(Side::High));
     const QSignalBlocker quiet(m_ui->slider);
     m_ui->slider->setValue(isApplied ? percent(m_side) : 0);
-    m_ui->bar->show(m_bands, m_band, m_side);
+    m_ui->bar->showBands(m_bands, m_band, m_side);
 }
 
 void BandEditor::setDirections(const DirectionLabels &labels)

@@ -159,7 +159,7 @@ DigitalAxisFields DigitalAxisPage::fieldsOf(int index) const
     return fields;
 }
 
-void DigitalAxisPage::show(const DigitalAxisFields &fields)
+void DigitalAxisPage::showFields(const DigitalAxisFields &fields)
 {
     const int index = fields.type - 1;
     const TypeTab &tab = typeTabs[index];
@@ -191,7 +191,7 @@ bool DigitalAxisPage::read(const QString &statement)
     {
         // One change, not one a field.
         const QSignalBlocker quiet(this);
-        show(*fields);
+        showFields(*fields);
     }
     m_wasReadUnseen = !isVisible();
     Q_EMIT changed();

@@ -54,7 +54,7 @@ private:
     BandEditor *bandsOf(int type) const;
     /// The fields of a tab.
     DigitalAxisFields fieldsOf(int index) const;
-    void show(const DigitalAxisFields &fields);
+    void showFields(const DigitalAxisFields &fields);
     void insert(int index);
 
     std::unique_ptr<Ui::DigitalAxisPage> m_ui;
