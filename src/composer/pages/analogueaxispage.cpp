@@ -24,6 +24,21 @@ QString text(const char16_t *caption)
     return QStringView(caption).toString();
 }
 
+/// The caption in lines of a width that leaves room for the grid.
+QString inLines(const QString &caption)
+{
+    constexpr qsizetype most = 44;
+    QString lines = caption;
+    for (qsizetype start = 0; lines.size() - start > most;) {
+        const qsizetype blank = lines.lastIndexOf(u' ', start + most);
+        if (blank <= start)
+            break;
+        lines[blank] = u'\n';
+        start = blank + 1;
+    }
+    return lines;
+}
+
 int checkedOf(const ControlArray<QRadioButton> &options)
 {
     const auto found = std::ranges::find_if(options, &QRadioButton::isChecked);
@@ -49,6 +64,7 @@ AnalogueAxisPage::AnalogueAxisPage(const ComposerParts &parts, QWidget *parent)
     m_commonConfigurations = { this, u"OptionAnaHotas"_s };
     for (QLineEdit *box : m_values)
         fitToNumber(*box);
+    m_ui->LBL_TrimSign_0->setFixedWidth(m_ui->LBL_TrimSign_0->sizeHint().height() * 2);
     fillLists();
     connectControls();
     m_ui->SSTab2->setCurrentIndex(0);
@@ -75,7 +91,8 @@ void AnalogueAxisPage::fillLists()
     for (int type = 0; type < m_trimTypes.count(); ++type)
         m_trimTypes[type]->setText(text(trimOptions[size_t(type)].caption));
     for (int index = 0; index < m_commonConfigurations.count(); ++index)
-        m_commonConfigurations[index]->setText(text(commonConfigurations[size_t(index)].caption));
+        m_commonConfigurations[index]->setText(
+            inLines(text(commonConfigurations[size_t(index)].caption)));
 }
 
 void AnalogueAxisPage::connectControls()

@@ -50,9 +50,9 @@ TEST_F(AxisPageLooks, NoMnemonicIsThereTwiceOnATab)
                 seen.insert(mnemonicOf(main.tabText(i)));
             for (int i = 0; i < nested.count(); ++i)
                 seen.insert(mnemonicOf(nested.tabText(i)));
-            for (const QWidget *each : composer()->findChildren<QWidget *>()) {
+            for (const QWidget *each : page.findChildren<QWidget *>()) {
                 const QChar letter = mnemonicOf(captionOf(*each));
-                const bool isHere = each->isVisibleTo(composer());
+                const bool isHere = each->isVisibleTo(&page);
                 if (!letter.isNull() && isHere) {
                     EXPECT_FALSE(seen.contains(letter)) << captionOf(*each).toStdString();
                     seen.insert(letter);

@@ -5,7 +5,7 @@
 #include "composer/pages/digitalaxispage.h"
 #include "tests/composer/pages/axis_pages.h"
 
-#include <QDropEvent>
+#include <QDragEnterEvent>
 #include <QMimeData>
 #include <QRadioButton>
 #include <QSlider>
@@ -40,6 +40,12 @@ protected:
     QSlider &slider() { return control<QSlider>(u"SliderType5"_s); }
     BandBar &bar() { return control<BandBar>(u"LBL_Type5"_s); }
     QPoint at(double percent) { return { qRound(bar().placeOf(percent)), bar().height() / 2 }; }
+    void hover(double percent)
+    {
+        QMouseEvent move(QEvent::MouseMove, at(percent), bar().mapToGlobal(at(percent)),
+                         Qt::NoButton, Qt::NoButton, {});
+        QApplication::sendEvent(&bar(), &move);
+    }
     QString chosen() { return control<QComboBox>(u"ComboBandSelect"_s).currentText(); }
     QString borders() { return text(u"TXT_DigitalAxis_4"_s) + u' ' + text(u"TXT_DigitalAxis_5"_s); }
     void expectRefused(const QString &title, const QString &button)
@@ -288,9 +294,9 @@ TEST_F(DigitalPage, AClickOnTheBarChoosesTheBandAndHoveringTellsItsKey)
     QTest::mouseClick(&bar(), Qt::LeftButton, {}, at(60));
     EXPECT_EQ(chosen(), u"Band 3"_s);
     EXPECT_EQ(QApplication::focusWidget(), &box(u"RTB_digitalAxis_10"_s));
-    QTest::mouseMove(&bar(), at(10));
+    hover(10);
     EXPECT_EQ(bar().toolTip(), u"Gear"_s);
-    QTest::mouseMove(&bar(), at(60));
+    hover(60);
     EXPECT_EQ(bar().toolTip(), QString());
 }
 
@@ -389,6 +395,9 @@ TEST_F(DigitalPage, AMacroThatIsDroppedGoesToTheEnd)
     key.setCursorPosition(0);
     QMimeData macro;
     macro.setText(u" Gear "_s);
+    QDragEnterEvent enter(QPoint(2, 2), Qt::CopyAction, &macro, Qt::LeftButton, {});
+    QApplication::sendEvent(&key, &enter);
+    EXPECT_TRUE(enter.isAccepted());
     QDropEvent drop(QPointF(2, 2), Qt::CopyAction, &macro, Qt::LeftButton, {});
     QApplication::sendEvent(&key, &drop);
     EXPECT_TRUE(drop.isAccepted());
