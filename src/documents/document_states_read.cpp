@@ -11,6 +11,15 @@
 
 namespace zeph {
 
+bool operator==(const DocumentState &one, const DocumentState &other)
+{
+    const auto areEqual = [](const auto &left, const auto &right) {
+        return left == right || *left == *right;
+    };
+    return one.m_chunks == other.m_chunks
+        || std::ranges::equal(*one.m_chunks, *other.m_chunks, areEqual);
+}
+
 DocumentState DocumentStates::present()
 {
     if (m_revision != m_document.revision()) {
