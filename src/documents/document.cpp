@@ -135,7 +135,10 @@ bool Change::commit()
         return false;
     }
     m_quiet.reset();
-    if (m_document.states().present() == m_before) {
+    DocumentStates &states = m_document.states();
+    if (states.lookSame(states.present(), m_before)) {
+        // What was pasted over itself lost whose colours it had.
+        states.restore(m_before);
         return false;
     }
     m_document.history().UndoStepNext = 1;

@@ -36,7 +36,7 @@ class DocumentState
 public:
     /// Bytes that these states take together; what they share counts once.
     static qsizetype bytesHeld(std::span<const DocumentState> states);
-    /// Whether two states of one document hold the same text in the same looks, whoever gave them.
+    /// Whether two states of one document hold the same text in the same looks, by the same givers.
     friend bool operator==(const DocumentState &one, const DocumentState &other);
 
 private:
@@ -69,6 +69,9 @@ public:
     /// changeLooks() marked. Costs little where the states differ in length or share their chunks.
     bool holdSame(const DocumentState &one, const DocumentState &other,
                   bool withLooks = true) const;
+    /// Whether two states look the same on the screen, whoever gave the colours. Costs little where
+    /// the states differ in length or share their chunks.
+    bool lookSame(const DocumentState &one, const DocumentState &other) const;
     /// A state's text comes in this many pieces of whole lines, for a long text that is read once,
     /// without a copy of the whole.
     size_t pieceCount(const DocumentState &state) const { return state.m_chunks->size(); }

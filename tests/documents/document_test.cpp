@@ -88,6 +88,20 @@ TEST_F(DocumentTest, AChangeThatChangesNothingIsNoStep)
     EXPECT_EQ(document.selStart(), 2);
 }
 
+TEST_F(DocumentTest, ColouredTextPutOverItselfIsNoStepAndStaysTheUsers)
+{
+    document.changeLooks(0, 3, [](CharFormat &look) { look.colour = ColorRef(0xFF); });
+    document.updateState();
+    ASSERT_EQ(document.state(), Document::Modified);
+    document.select(0, 3);
+    Change change(document);
+    document.insert(document.richText(0, 3));
+    EXPECT_FALSE(change.commit());
+    EXPECT_FALSE(document.history().canUndo());
+    document.updateState();
+    EXPECT_EQ(document.state(), Document::Modified);
+}
+
 TEST_F(DocumentTest, AfterACommitEditsCountAgain)
 {
     Change change(document);
@@ -129,7 +143,9 @@ TEST_F(DocumentTest, WhatTakesItsPlaceSaysHowAndStartsTheHistoryOver)
         EXPECT_FALSE(document.history().canUndo());
         EXPECT_EQ(document.selStart(), 0);
         EXPECT_EQ(document.selLength(), 0);
-        EXPECT_TRUE(document.onDisk().isNull());
+        // An empty file is a file too.
+        EXPECT_EQ(document.onDisk().isNull(), row.how != Document::How::Loaded);
+        EXPECT_TRUE(document.onDisk().isEmpty());
     }
 }
 
