@@ -195,13 +195,18 @@ private:
 
 } // namespace
 
-bool DocumentStates::holdSame(const DocumentState &one, const DocumentState &other,
-                              bool withLooks) const
+bool DocumentStates::holdSame(const DocumentState &one, const DocumentState &other, Same what) const
 {
     const OtherChunks chunks(*one.m_chunks, *other.m_chunks);
     const bool isSameText = chunks.holdSameText();
-    if (!isSameText || !withLooks) {
+    if (!isSameText || what == Same::Text) {
         return isSameText;
+    }
+    if (what == Same::AllLooks) {
+        const auto rest = [this, &chunks](const TextChunks &all) {
+            return join(all, chunks.first(), all.size() - chunks.back());
+        };
+        return rest(*one.m_chunks) == rest(*other.m_chunks);
     }
     ChunkReader left(*one.m_chunks, chunks.first());
     ChunkReader right(*other.m_chunks, chunks.first());
@@ -217,15 +222,6 @@ bool DocumentStates::holdSame(const DocumentState &one, const DocumentState &oth
         rest -= part;
     }
     return true;
-}
-
-bool DocumentStates::lookSame(const DocumentState &one, const DocumentState &other) const
-{
-    const OtherChunks chunks(*one.m_chunks, *other.m_chunks);
-    const auto rest = [this, &chunks](const TextChunks &all) {
-        return join(all, chunks.first(), all.size() - chunks.back());
-    };
-    return chunks.holdSameText() && rest(*one.m_chunks) == rest(*other.m_chunks);
 }
 
 RichText DocumentStates::join(const TextChunks &chunks, size_t first, size_t end) const
