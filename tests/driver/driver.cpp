@@ -50,7 +50,19 @@
 //   click NAME           clicks into the control of that object name
 //   environment NAME V   sets a variable for the programs that are started from now on; without a
 //                        value it is unset
+// So have tests of what is around the texts:
+//   leave / return       the focus goes to another program and comes back
+//   font NAME N          notes "NAME font at N: FAMILY SIZE bold italic underline" of the character
+//                        at that position (0-based) as it is drawn
+//   usable NAME 1        waits until that control or menu entry can be used (0: cannot), and notes
+//                        its caption, of an entry with its status text
+//   items NAME TEXT      waits until a list has such an entry, and notes all
+//   minimised TITLE      waits until that window is minimised
+//   clipboard TEXT       puts a text on the clipboard
+//   remove PATH          deletes a file; a relative name is one beside the program
+//   time NAME            notes "NAME at MS", the time in milliseconds since 1970
 #include "finding.h"
+#include "scene_steps.h"
 #include "tour_steps.h"
 
 #include <QAbstractButton>
@@ -129,6 +141,9 @@ private:
     bool perform(const QString &verb, const QString &rest)
     {
         if (const auto done = m_tour.perform(verb, rest, m_waited.elapsed())) {
+            return *done;
+        }
+        if (const auto done = performOnScene(m_notes, verb, rest)) {
             return *done;
         }
         const QString first = rest.section(QLatin1Char(' '), 0, 0);

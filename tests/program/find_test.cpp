@@ -75,3 +75,53 @@ TEST(ProgramFind, ColouringBothFilesLeavesTabAndSelection)
                   u"close"_s },
                 { path });
 }
+
+TEST(ProgramFind, ARenameThatOnlyChangesTheCaseIsDoneAndTheListShowsItAtOnce)
+{
+    Program program;
+    program.settle();
+    const QString path =
+        program.write(u"Files/a.tmj"_s, "USE MDEF m.tmm\r\nBTN S1 Fire\r\nBTN S2 fire\r\n");
+    program.write(u"Files/m.tmm"_s, "Fire = SPC\r\nGun = g\r\n");
+    const QStringList notes = program.run({ u"text MacroText Fire"_s,
+                                            u"trigger mnuViewMacroFile"_s,
+                                            u"items List1 Fire"_s,
+                                            u"trigger mnuRenameMacro"_s,
+                                            u"window Rename a macro in both files"_s,
+                                            u"retype Text1 Fire"_s,
+                                            u"press cmdOK"_s,
+                                            u"box What?!"_s,
+                                            u"press OK"_s,
+                                            u"gone What?!"_s,
+                                            u"retype Text1 FIRE"_s,
+                                            u"press cmdOK"_s,
+                                            u"box Replaced 'em all for you. Now buy me a drink"_s,
+                                            u"items List1 FIRE"_s,
+                                            u"press OK"_s,
+                                            u"done"_s,
+                                            u"note JoystickText"_s,
+                                            u"note MacroText"_s,
+                                            u"close"_s,
+                                            u"box  Save m.tmm now?"_s,
+                                            u"press No"_s,
+                                            u"box  Save a.tmj now?"_s,
+                                            u"press No"_s },
+                                          { path });
+    EXPECT_THAT(lines(notes), Contains("List1=FIRE,Gun"));
+    EXPECT_THAT(lines(notes), Contains("MacroText=FIRE = SPC\\nGun = g\\n"));
+    EXPECT_THAT(lines(notes),
+                Contains("JoystickText=USE MDEF m.tmm\\nBTN S1 FIRE\\nBTN S2 FIRE\\n"));
+}
+
+TEST(ProgramFind, ARenameWithoutAMacroCannotBeConfirmed)
+{
+    Program program;
+    program.settle();
+    const QString path = program.write(u"Files/m.tmm"_s, "Rem of no macro\r\nFire = SPC\r\n");
+    const QStringList notes = program.run(
+        { u"text MacroText Fire"_s, u"trigger mnuViewMacroFile"_s, u"trigger mnuRenameMacro"_s,
+          u"window Rename a macro in both files"_s, u"value Text1"_s, u"retype Text1 Shoot"_s,
+          u"usable cmdOK 0"_s, u"press cmdCancel"_s, u"done"_s, u"close"_s },
+        { path });
+    EXPECT_THAT(lines(notes), Contains("Text1="));
+}

@@ -13,12 +13,15 @@
 #include <csignal>
 
 #include <sys/resource.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 namespace zeph::test {
 
 namespace {
 
 constexpr int endsWithinMs = 60000;
+constexpr uid_t nobody = 65534;
 
 void copyFolder(const QString &from, const QString &to)
 {
@@ -43,7 +46,13 @@ Program::Program() : m_environment(QProcessEnvironment::systemEnvironment())
     m_environment.insert(u"QT_QPA_GENERIC_PLUGINS"_s, u"zephdriver"_s);
 }
 
-Program::~Program() = default;
+Program::~Program()
+{
+    if (m_isOthers) {
+        // So that the folder can be removed.
+        ::chmod(QFile::encodeName(folder()).constData(), 0755);
+    }
+}
 
 QString Program::setting(const QString &section, const QString &key, const QString &name) const
 {
@@ -65,16 +74,35 @@ void Program::setEnvironment(const QString &name, const QString &value)
     m_environment.insert(name, value);
 }
 
+void Program::installForOthers()
+{
+    QDir().mkpath(file(u"home"_s));
+    ASSERT_EQ(::chmod(QFile::encodeName(file(u"home"_s)).constData(), 0777), 0);
+    ASSERT_EQ(::chmod(QFile::encodeName(folder()).constData(), 0555), 0);
+    setEnvironment(u"HOME"_s, file(u"home"_s));
+    m_environment.remove(u"XDG_DATA_HOME"_s);
+    m_isOthers = true;
+}
+
 std::unique_ptr<QProcess> Program::start(const QStringList &script, const QString &log,
                                          const QStringList &arguments)
 {
-    const QString path = write(log + u".script"_s, script.join(u'\n').toUtf8());
+    const QString path = write(logPath(log) + u".script"_s, script.join(u'\n').toUtf8());
     auto process = std::make_unique<QProcess>();
     QProcessEnvironment environment = m_environment;
     environment.insert(u"ZEPH_SCRIPT"_s, path);
-    environment.insert(u"ZEPH_SCRIPT_LOG"_s, file(log));
+    environment.insert(u"ZEPH_SCRIPT_LOG"_s, file(logPath(log)));
     process->setProcessEnvironment(environment);
     process->setProcessChannelMode(QProcess::ForwardedChannels);
+    process->setWorkingDirectory(m_startFolder);
+    if (m_isOthers) {
+        process->setChildProcessModifier([] {
+            // Nobody may write where root can. Others' rights are those of the folder anyway.
+            if (::geteuid() == 0 && (::setgid(nobody) != 0 || ::setuid(nobody) != 0)) {
+                ::_exit(1);
+            }
+        });
+    }
     if (m_fileSizeLimit >= 0) {
         const auto limit = rlim_t(m_fileSizeLimit);
         process->setChildProcessModifier([limit] {
@@ -90,7 +118,7 @@ std::unique_ptr<QProcess> Program::start(const QStringList &script, const QStrin
 
 QStringList Program::noted(const QString &log) const
 {
-    return QString::fromUtf8(read(log)).split(u'\n', Qt::SkipEmptyParts);
+    return QString::fromUtf8(read(logPath(log))).split(u'\n', Qt::SkipEmptyParts);
 }
 
 QStringList Program::run(const QStringList &script, const QStringList &arguments)

@@ -41,6 +41,13 @@ public:
     /// The largest file, in bytes, that the program may write from now on.
     void limitFileSize(qsizetype bytes) { m_fileSizeLimit = bytes; }
     void setEnvironment(const QString &name, const QString &value);
+    /// The folder that the program is started from; at first the test's own.
+    void startIn(const QString &folder) { m_startFolder = folder; }
+    /// Makes the program's folder one that others have installed: it is read-only for the user, who
+    /// has a home of his own and only there may write. The notes go there too.
+    void installForOthers();
+    /// A file's path in that home.
+    QString atHome(const QString &name) const { return file(u"home/"_s + name); }
 
     /// Runs a script to the end of the program; gives what the driver noted, a line each. Fails the
     /// test when the program does not end in time or gets stuck.
@@ -51,9 +58,13 @@ public:
     QStringList noted(const QString &log) const;
 
 private:
+    QString logPath(const QString &log) const { return m_isOthers ? u"home/"_s + log : log; }
+
     TempFolder m_folder;
     QProcessEnvironment m_environment;
     qsizetype m_fileSizeLimit = -1;
+    QString m_startFolder;
+    bool m_isOthers = false;
 };
 
 } // namespace zeph::test

@@ -237,11 +237,14 @@ bool FindAndReplace::eventFilter(QObject *watched, QEvent *event)
     if (!kind || !isEnter || held != Qt::NoModifier || !isOnLastHit(*kind)) {
         return QDialog::eventFilter(watched, event);
     }
-    if (key->modifiers().testFlag(Qt::ShiftModifier)) {
-        findPrevious(*m_hit.page);
-    } else {
-        find(*m_hit.page);
-    }
+    const bool isBackwards = key->modifiers().testFlag(Qt::ShiftModifier);
+    guarded(m_context.dialogs, [this, isBackwards] {
+        if (isBackwards) {
+            findPrevious(*m_hit.page);
+        } else {
+            find(*m_hit.page);
+        }
+    })();
     return true;
 }
 

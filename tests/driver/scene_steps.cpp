@@ -1,0 +1,128 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#include "scene_steps.h"
+
+#include "finding.h"
+
+#include <QAbstractItemView>
+#include <QAbstractTextDocumentLayout>
+#include <QApplication>
+#include <QClipboard>
+#include <QDateTime>
+#include <QDir>
+#include <QPlainTextEdit>
+#include <QTextBlock>
+#include <QTextLayout>
+
+namespace {
+
+/// "FAMILY SIZE" and what else is set of the character at a position (0-based) as it is drawn.
+QString fontAt(const QPlainTextEdit &edit, int position)
+{
+    const QTextBlock line = edit.document()->findBlock(position);
+    // Lines are laid out when they are asked for.
+    edit.document()->documentLayout()->blockBoundingRect(line);
+    QTextCharFormat format;
+    for (const QTextLayout::FormatRange &range : line.layout()->formats()) {
+        const int at = position - line.position() - range.start;
+        if (at >= 0 && at < range.length) {
+            format.merge(range.format);
+        }
+    }
+    const QFont plain = edit.document()->defaultFont();
+    const QStringList families = format.fontFamilies().toStringList();
+    QString font = families.isEmpty() ? plain.family() : families.first();
+    font += QLatin1Char(' ')
+        + QString::number(format.hasProperty(QTextFormat::FontPointSize) ? format.fontPointSize()
+                                                                         : plain.pointSizeF());
+    font += format.fontWeight() >= QFont::Bold ? QLatin1String(" bold") : QLatin1String();
+    font += format.fontItalic() ? QLatin1String(" italic") : QLatin1String();
+    font += format.fontUnderline() ? QLatin1String(" underline") : QLatin1String();
+    return font;
+}
+
+bool noteFont(Notes &notes, const QString &name, const QString &position)
+{
+    const auto *edit = qobject_cast<QPlainTextEdit *>(widgetNamed(name));
+    if (!edit || !edit->isVisible()) {
+        return false;
+    }
+    notes.note(name + QLatin1String(" font at ") + position + QLatin1String(": ")
+               + fontAt(*edit, position.toInt()));
+    return true;
+}
+
+bool usable(Notes &notes, const QString &name, bool wanted)
+{
+    const QAction *entry = actionNamed(name);
+    const QWidget *control = entry ? nullptr : widgetNamed(name);
+    if (!entry && !control) {
+        return false;
+    }
+    if ((entry ? entry->isEnabled() : control->isEnabled()) != wanted) {
+        return false;
+    }
+    notes.note(name + (wanted ? QLatin1String(" is usable: ") : QLatin1String(" is off: "))
+               + (entry ? entry->text() + QLatin1Char('|') + entry->statusTip() : textOf(control)));
+    return true;
+}
+
+bool items(Notes &notes, const QString &name, const QString &wanted)
+{
+    const auto *list = qobject_cast<QAbstractItemView *>(widgetNamed(name));
+    if (!list) {
+        return false;
+    }
+    QStringList rows;
+    for (int row = 0; row < list->model()->rowCount(); ++row) {
+        rows.append(list->model()->index(row, 0).data().toString());
+    }
+    if (!rows.contains(wanted)) {
+        return false;
+    }
+    notes.note(name + QLatin1Char('=') + rows.join(QLatin1Char(',')));
+    return true;
+}
+
+} // namespace
+
+std::optional<bool> performOnScene(Notes &notes, const QString &verb, const QString &rest)
+{
+    const QString first = rest.section(QLatin1Char(' '), 0, 0);
+    const QString second = rest.section(QLatin1Char(' '), 1);
+    if (verb == QLatin1String("leave")) {
+        QApplication::setActiveWindow(nullptr);
+        return true;
+    }
+    if (verb == QLatin1String("return")) {
+        QApplication::setActiveWindow(mainWindow());
+        return true;
+    }
+    if (verb == QLatin1String("font")) {
+        return noteFont(notes, first, second);
+    }
+    if (verb == QLatin1String("usable")) {
+        return usable(notes, first, second == QLatin1String("1"));
+    }
+    if (verb == QLatin1String("items")) {
+        return items(notes, first, second);
+    }
+    if (verb == QLatin1String("minimised")) {
+        const QWidget *window = windowTitled(rest);
+        return window && window->isMinimized();
+    }
+    if (verb == QLatin1String("clipboard")) {
+        QApplication::clipboard()->setText(rest);
+        return true;
+    }
+    if (verb == QLatin1String("remove")) {
+        return QFile::remove(QDir(QCoreApplication::applicationDirPath()).filePath(rest));
+    }
+    if (verb == QLatin1String("time")) {
+        notes.note(rest + QLatin1String(" at ")
+                   + QString::number(QDateTime::currentMSecsSinceEpoch()));
+        return true;
+    }
+    return std::nullopt;
+}
