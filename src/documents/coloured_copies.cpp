@@ -32,8 +32,7 @@ CharFormat mostUsedLook(const LookRuns &text)
 } // namespace
 
 std::optional<NumberedRichText> ColouredCopies::load(const QString &name, const QString &plainText,
-                                                     const CharFormat &font,
-                                                     const QList<ColorRef> &schemes) const
+                                                     const CharFormat &font) const
 {
     const QString path = existingPath(pathOf(name));
     if (path.isEmpty()) {
@@ -56,8 +55,6 @@ std::optional<NumberedRichText> ColouredCopies::load(const QString &name, const 
         if (look.bold == plain.bold) {
             look.bold = font.bold;
         }
-        copy->text.characters.coloursByHand.push_back(look.colour
-                                                      && !schemes.contains(*look.colour));
     }
     return std::move(copy->text);
 }

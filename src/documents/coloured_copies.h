@@ -21,10 +21,9 @@ public:
     QString pathOf(const QString &name) const { return m_paths.rtfFolder() + name; }
     /// The copy for a file of that name, if its text equals the plain text exactly. Its plain font
     /// and size become the given ones, and text as bold as its plain text becomes as bold as the
-    /// given font. Other looks stay. A colour that is none of the schemes' was given by hand.
+    /// given font. Other looks stay.
     std::optional<NumberedRichText> load(const QString &name, const QString &plainText,
-                                         const CharFormat &font,
-                                         const QList<ColorRef> &schemes) const;
+                                         const CharFormat &font) const;
     /// Writes the copy of a document as it is now.
     Expected<void, FileError> SaveColouredText(Document &document) const;
 

@@ -11,6 +11,12 @@ namespace {
 
 constexpr int noSteps = 0;
 
+/// The bytes of a file, which are none at all only without a file: an empty one has empty bytes.
+QByteArray bytesOfFile(const QByteArray &bytes)
+{
+    return bytes.isNull() ? QByteArray("") : bytes;
+}
+
 } // namespace
 
 Document::Document(DocumentKind kind, const int &undoMax, QObject *parent)
@@ -81,7 +87,7 @@ void Document::step(void (UndoHistory::*way)())
 
 void Document::tellReplaced(How how, const QByteArray &onDisk)
 {
-    m_onDisk = onDisk;
+    m_onDisk = how == How::Loaded ? bytesOfFile(onDisk) : QByteArray();
     m_recovered = how == How::Recovered;
     select(0, 0);
     m_history.reset();
@@ -92,7 +98,7 @@ void Document::tellReplaced(How how, const QByteArray &onDisk)
 
 void Document::tellWritten(const QByteArray &bytes, Save save)
 {
-    m_onDisk = bytes;
+    m_onDisk = bytesOfFile(bytes);
     m_recovered = false;
     setState(Saved);
     Q_EMIT written(save);

@@ -76,14 +76,13 @@ QString firstThings(DocumentKind kind)
         return u"Macros go here: names for the keys that your game knows.\n\n"
                "1.  Press F8 and open \"Sample flight.tmj\": this tab then shows what macros look "
                "like.\n"
-               "2.  Or type one of your own, say  Gear = g  and save it with Ctrl+S.\n"
-               "3.  Name this file in your joystick file, with a  USE MDEF  line, and give the "
-               "macro "
+               "2.  Or type one of your own, say \"Gear = g\", and save it with Ctrl+S.\n"
+               "3.  Name this file in your joystick file, with a USE MDEF line, and give the macro "
                "to a button there."_s;
     }
     return u"Three things to begin with:\n\n"
            "1.  Press F8 and open \"Sample flight.tmj\": its macro file comes with it.\n"
-           "2.  Or type a statement of your own, say  BTN S2 SPC  : a button, and what it "
+           "2.  Or type a statement of your own, say \"BTN S2 SPC\": a button, and what it "
            "presses.\n"
            "3.  Press F11, and the compiler tells you whether the Cougar understands it."_s;
 }

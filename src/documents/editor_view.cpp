@@ -147,6 +147,15 @@ void EditorView::centreCaret(DocumentKind kind)
     control(kind).centerCursor();
 }
 
+bool EditorView::shows(DocumentKind kind, int position) const
+{
+    const TextControl &text = control(kind);
+    QTextCursor cursor(text.document());
+    cursor.setPosition(position);
+    const QRect caret = text.cursorRect(cursor);
+    return caret.top() >= 0 && caret.bottom() < text.viewport()->height();
+}
+
 EditorView::KeptPlace::KeptPlace(EditorView &view, const Document &document)
     : m_control(view.control(document.kind())), m_scroll(m_control.scroll())
 {

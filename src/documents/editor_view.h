@@ -62,6 +62,8 @@ public:
     };
     /// Scrolls a document's caret to the middle of its view.
     void centreCaret(DocumentKind kind);
+    /// Whether the line with a 0-based character of a document is wholly in its view.
+    bool shows(DocumentKind kind, int position) const;
     /// Installs an event filter on the controls and their viewports.
     void watch(QObject &filter);
     /// Installs an event filter on a text's viewport, which gets mouse moves without a button too.

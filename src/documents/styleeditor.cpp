@@ -6,10 +6,10 @@
 #include "platform/colours.h"
 #include "platform/dialogs.h"
 #include "platform/richtext/rich_text_document.h"
+#include "platform/swatch.h"
 #include "ui_styleeditor.h"
 
 #include <QLineEdit>
-#include <QPixmap>
 
 namespace zeph {
 
@@ -120,9 +120,8 @@ void StyleEditor::chooseColour()
 void StyleEditor::showPreview()
 {
     const CharFormat &format = current().format;
-    QPixmap swatch(swatchSize, swatchSize);
-    swatch.fill(toColor(*format.colour));
-    m_ui->CommandColour->setIcon(swatch);
+    m_ui->CommandColour->setIcon(
+        swatchOf(*format.colour, { swatchSize, swatchSize }, devicePixelRatioF()));
     QPalette look = m_ui->LabelPreview->palette();
     look.setColor(QPalette::Window, toColor(m_background));
     look.setColor(QPalette::WindowText, toColor(*format.colour));

@@ -26,9 +26,8 @@ quint32 LookTable::numberOf(const CharFormat &look, bool isColourByHand)
 TextChunk::Runs LookTable::runsOf(const LookRuns &looks)
 {
     std::vector<quint32> numbers;
-    for (size_t i = 0; i < looks.looks.size(); ++i) {
-        const bool isByHand = i < looks.coloursByHand.size() && looks.coloursByHand[i];
-        numbers.push_back(numberOf(looks.looks[i], isByHand));
+    for (const CharFormat &look : looks.looks) {
+        numbers.push_back(numberOf(look));
     }
     TextChunk::Runs runs;
     runs.reserve(looks.runs.size());

@@ -62,8 +62,8 @@ constexpr std::array actions = {
     ActionRow{u"mnuFile", u"mnuFileCreateDistribution", u"Create &distribution package ...", u"", u"Gathers everything that belongs to these files for passing on", u"", Always, Entry},
     ActionRow{u"mnuFile", u"mnuOpenZip", u"Open distribution &zip ...", u"", u"Unpacks somebody else's files among yours", u"", Always, Entry},
     separator(u"mnuFile"),
-    ActionRow{u"mnuFile", u"mnuFilePrintJoystick", u"Pr&int joystick file", u"Ctrl+P", u"Prints the joystick file", u"print", Always, Entry},
-    ActionRow{u"mnuFile", u"mnuFilePrintMacro", u"Print macro file", u"", u"Prints the macro file", u"print", Always, Entry},
+    ActionRow{u"mnuFile", u"mnuFilePrintJoystick", u"Pr&int joystick file ...", u"Ctrl+P", u"Prints the joystick file", u"print", Always, Entry},
+    ActionRow{u"mnuFile", u"mnuFilePrintMacro", u"Print macro file ...", u"", u"Prints the macro file", u"print", Always, Entry},
     ActionRow{u"mnuFile", u"printtest", u"Print selection", u"", u"Prints what is selected", u"", Always, Entry},
     ActionRow{u"mnuFile", u"mnuFilePrintPreview", u"Print previe&w ...", u"", u"Shows the selected file's pages as they will be printed", u"", Always, Entry},
     ActionRow{u"mnuFile", u"mnuFilePrinterSetup", u"Printer setup ...", u"", u"Chooses the printer and its paper", u"", Always, Entry},
@@ -132,7 +132,7 @@ constexpr std::array actions = {
     insertEntry(u"mnuSlashArray_10", 10),
     insertEntry(u"mnuSlashArray_11", 11),
     separator(u"mnuInsert"),
-    ActionRow{u"mnuInsert", u"mnuSlashWindow", u"Show the Slash windo&w", u"", u"A floating palette of the slash modifiers", u"", Always, Entry},
+    ActionRow{u"mnuInsert", u"mnuSlashWindow", u"Show the Slash windo&w ...", u"", u"A floating palette of the slash modifiers", u"", Always, Entry},
     separator(u"mnuInsert", u"mnuInsertDivider8"),
     ActionRow{u"mnuInsert", u"mnuInsertQuickTip", u"&Quick tip - read me", u"", u"", u"", Always, Entry},
 
@@ -179,7 +179,7 @@ constexpr std::array actions = {
     ActionRow{u"mnuDownload", u"mnuResetAxes", u"&Reset axes when downloading", u"", u"", u"", Always, Tick},
     ActionRow{u"mnuDownload", u"mnuApplyDefaultTMC", u"&Apply Default.tmc now", u"", u"", u"", Custom, Entry},
     ActionRow{u"mnuDownload", u"mnuResetOptions", u"Reset &options", u"", u"", u"", Always, Entry},
-    ActionRow{u"mnuDownload", u"mnuDownloadProfile", u"Download a profile (*.tmc)", u"", u"", u"", Always, Entry},
+    ActionRow{u"mnuDownload", u"mnuDownloadProfile", u"Download a profile (*.tmc) ...", u"", u"", u"", Always, Entry},
 
     ActionRow{u"mnuCougar", u"mnuButtonsMode", u"&Buttons", u"", u"", u"", Always, Submenu},
     // EditorKeys handles this key; the caption only mentions it.
@@ -209,7 +209,7 @@ constexpr std::array actions = {
 
     ActionRow{u"mnuApps", u"mnuAppsComposer", u"&Composer", u"F2", u"Writes statements from forms and pictures", u"composer", Later, Entry},
     ActionRow{u"mnuApps", u"mnuAppsTumbo", u"&Tumbo", u"F4", u"The virtual keyboard", u"tumbo", Later, Entry},
-    ActionRow{u"mnuApps", u"mnuAppsTemplateEditor", u"Template &Editor/Text viewer", u"Shift+F11", u"Templates and readme files", u"template-editor", Always, Entry},
+    ActionRow{u"mnuApps", u"mnuAppsTemplateEditor", u"Template &Editor/Text viewer ...", u"Shift+F11", u"Templates and readme files", u"template-editor", Always, Entry},
     ActionRow{u"mnuApps", u"mnuAppsImageViewer", u"&Image viewer", u"", u"The picture that belongs to the files", u"image-viewer", Later, Entry},
     ActionRow{u"mnuApps", u"mnuMouseWizard", u"Advanced graphical &mouse movement wizard", u"", u"", u"mouse-wizard", Later, Entry},
     ActionRow{u"mnuApps", u"mnuAppsQuickView", u"&Quick View", u"Shift+F4", u"Shows live which statement a control would perform", u"quick-view", Later, Entry},
@@ -220,7 +220,7 @@ constexpr std::array actions = {
     separator(u"mnuApps"),
     ActionRow{u"mnuApps", u"mnuAppsMultiEditor", u"Multip&le File Editor", u"", u"", u"multi-editor", Always, Entry},
     ActionRow{u"mnuApps", u"mnuAppsLauncher", u"Lau&ncher", u"", u"", u"launcher", Always, Entry},
-    ActionRow{u"mnuApps", u"mnuAppsKeyTester", u"&Key Tester", u"Ctrl+K", u"Shows which keys the Cougar sends", u"key-tester", Always, Entry},
+    ActionRow{u"mnuApps", u"mnuAppsKeyTester", u"&Key Tester ...", u"Ctrl+K", u"Shows which keys the Cougar sends", u"key-tester", Always, Entry},
     ActionRow{u"mnuApps", u"mnuAppsAnalyser", u"Joystick &analyser", u"", u"", u"analyser", Always, Entry},
     separator(u"mnuApps", u"mnuAppsDX8Divider"),
     ActionRow{u"mnuApps", u"mnuAppsDX8_0", u"DirectX key tester", u"", u"", u"", Always, Entry},
@@ -233,7 +233,7 @@ constexpr std::array actions = {
     ActionRow{u"mnuApps", u"mnuCustomApp_4", u"Custom application 4", u"", u"", u"custom-app", Custom, Entry},
     separator(u"mnuApps"),
     ActionRow{u"mnuApps", u"mnuAppsViewGraphic", u"View the &graphical layout of these files", u"", u"The picture that USE ZEPH GRAPHIC names", u"shortcut-layout", Later, Entry},
-    ActionRow{u"mnuApps", u"mnuAppsViewReadMe", u"View the &ReadMe of these files", u"", u"The text that USE ZEPH README names", u"shortcut-readme", ReadMe, Entry},
+    ActionRow{u"mnuApps", u"mnuAppsViewReadMe", u"View the &ReadMe of these files ...", u"", u"The text that USE ZEPH README names", u"shortcut-readme", ReadMe, Entry},
     separator(u"mnuApps"),
     ActionRow{u"mnuApps", u"mnuAppsPreferences", u"&Preferences ...", u"F9", u"All the settings of Zeph", u"preferences", Always, Entry},
 
@@ -243,19 +243,19 @@ constexpr std::array actions = {
     ActionRow{u"mnuGames", u"mnuGamesSort", u"&Sort alphabetically", u"", u"Sorts the games by their names", u"", Always, Entry},
     ActionRow{u"mnuGames", u"mnuGamesEdit", u"&Edit game settings", u"", u"Opens Preferences at the games", u"", Always, Entry},
 
-    ActionRow{u"mnuHelp", u"mnuHelpContents", u"&Help topics", u"F1", u"The help, at its contents", u"help", Always, Entry},
+    ActionRow{u"mnuHelp", u"mnuHelpContents", u"&Help topics ...", u"F1", u"The help, at its contents", u"help", Always, Entry},
     ActionRow{u"mnuHelp", u"mnuHelpHowDoI", u"How &do I", u"", u"", u"", Custom, Submenu},
     ActionRow{u"mnuHelp", u"mnuHelpManuals", u"&Manuals", u"", u"", u"", Custom, Submenu},
     separator(u"mnuHelp"),
-    ActionRow{u"mnuHelp", u"mnuHelpSyntax", u"&Syntax", u"", u"The statements and how they are written", u"", Always, Entry},
-    ActionRow{u"mnuHelp", u"mnuHelpSlashModifiers", u"S&lash modifiers", u"", u"What each slash modifier does", u"", Always, Entry},
-    ActionRow{u"mnuHelp", u"mnuHelpErrorCodes", u"&Error codes", u"", u"What the compiler's codes mean", u"", Always, Entry},
+    ActionRow{u"mnuHelp", u"mnuHelpSyntax", u"&Syntax ...", u"", u"The statements and how they are written", u"", Always, Entry},
+    ActionRow{u"mnuHelp", u"mnuHelpSlashModifiers", u"S&lash modifiers ...", u"", u"What each slash modifier does", u"", Always, Entry},
+    ActionRow{u"mnuHelp", u"mnuHelpErrorCodes", u"&Error codes ...", u"", u"What the compiler's codes mean", u"", Always, Entry},
     separator(u"mnuHelp"),
-    ActionRow{u"mnuHelp", u"mnuHelpTip", u"&Tip of the Day", u"", u"A tip, and then another", u"", Always, Entry},
+    ActionRow{u"mnuHelp", u"mnuHelpTip", u"&Tip of the Day ...", u"", u"A tip, and then another", u"", Always, Entry},
     separator(u"mnuHelp"),
-    ActionRow{u"mnuHelp", u"mnuHelpAbout_0", u"Check for a newer &version", u"", u"Asks the makers' server for the latest version", u"", Always, Entry},
-    ActionRow{u"mnuHelp", u"mnuHelpAbout_1", u"Vista &compatibility", u"", u"What Zeph needs of the system", u"", Always, Entry},
-    ActionRow{u"mnuHelp", u"mnuHelpAbout_2", u"&About Zeph", u"", u"", u"zeph", Always, Entry},
+    ActionRow{u"mnuHelp", u"mnuHelpAbout_0", u"Check for a newer &version ...", u"", u"Asks the makers' server for the latest version", u"", Always, Entry},
+    ActionRow{u"mnuHelp", u"mnuHelpAbout_1", u"Vista &compatibility ...", u"", u"What Zeph needs of the system", u"", Always, Entry},
+    ActionRow{u"mnuHelp", u"mnuHelpAbout_2", u"&About Zeph ...", u"", u"", u"zeph", Always, Entry},
 };
 
 constexpr std::array rightMenu = {

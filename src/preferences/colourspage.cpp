@@ -8,6 +8,7 @@
 #include "editor/macros/macro_list_model.h"
 #include "platform/colours.h"
 #include "platform/dialogs.h"
+#include "platform/swatch.h"
 #include "preferences/colour_sample.h"
 #include "preferences/colour_scheme.h"
 #include "settings/settings.h"
@@ -18,7 +19,6 @@
 #include <QComboBox>
 #include <QFontDatabase>
 #include <QKeyEvent>
-#include <QPainter>
 #include <QSignalBlocker>
 
 namespace zeph {
@@ -27,24 +27,6 @@ namespace {
 
 constexpr QSize swatchSize(26, 14);
 constexpr int sampleListWidth = 230;
-const QColor swatchFrame(128, 128, 128);
-
-/// A square of the colour in a thin frame, visible on light and dark lists and the same when
-/// selected.
-QIcon swatchOf(ColorRef colour, qreal scale)
-{
-    QPixmap swatch(swatchSize * scale);
-    swatch.setDevicePixelRatio(scale);
-    swatch.fill(toColor(colour));
-    QPainter painter(&swatch);
-    painter.setPen(swatchFrame);
-    painter.drawRect(QRectF(0.5, 0.5, swatchSize.width() - 1, swatchSize.height() - 1));
-    painter.end();
-    QIcon icon;
-    icon.addPixmap(swatch, QIcon::Normal);
-    icon.addPixmap(swatch, QIcon::Selected);
-    return icon;
-}
 
 bool isEnter(const QEvent &event)
 {
@@ -186,7 +168,7 @@ void ColoursPage::showSwatches()
     for (const ColourCategory &category : colourCategories()) {
         const ColorRef colour = m_scheme.*category.colour;
         QListWidgetItem *item = m_ui->List1->item(row++);
-        item->setIcon(swatchOf(colour, devicePixelRatioF()));
+        item->setIcon(swatchOf(colour, swatchSize, devicePixelRatioF()));
         item->setData(Qt::AccessibleTextRole, item->text() + u", "_s + toColor(colour).name());
     }
 }

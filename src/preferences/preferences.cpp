@@ -61,8 +61,8 @@ Expected<void, FileError> saveOwnOptions(Settings &settings, const SettingsFiles
           &EditorSettings::AlwaysShowCompileDownload, &DocumentSettings::ColourWithTyping,
           &DocumentSettings::ForeignLanguageKBInputFix, &ToolchainSettings::HotasFolder,
           &ToolchainSettings::JoyTestConnect, &ToolchainSettings::NumlockDownloadMode,
-          &ToolchainSettings::SynchroniseModeOnStartup, &SharedSettings::TurnOffFontCheck,
-          &SharedSettings::UseHLPnotCHM });
+          &ToolchainSettings::SynchroniseModeOnStartup, &ToolchainSettings::TellStandIn,
+          &SharedSettings::TurnOffFontCheck, &SharedSettings::UseHLPnotCHM });
 }
 
 } // namespace

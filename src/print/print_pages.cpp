@@ -7,6 +7,7 @@
 
 #include <QAbstractTextDocumentLayout>
 #include <QBuffer>
+#include <QHash>
 #include <QPainter>
 #include <QPdfWriter>
 #include <QPrinter>
@@ -20,8 +21,11 @@ namespace zeph {
 
 namespace {
 
-// A colour that differs less from white than this was chosen for a dark screen.
+// What differs less from white than the first is printed black. Of a text for a dark screen, what
+// differs less than the second is printed darker, with the third.
 constexpr double leastContrast = 1.5;
+constexpr double weakContrast = 3;
+constexpr double goodContrast = 4.5;
 constexpr double flare = 0.05;
 // A bullet's measures, in parts of its line's ascent.
 constexpr double bulletRadius = 0.16;
@@ -39,11 +43,23 @@ double luminance(ColorRef colour)
         + 0.0722 * linear(blueOf(colour));
 }
 
-RichText inked(RichText text)
+double contrastWithWhite(ColorRef colour)
 {
+    return (1 + flare) / (luminance(colour) + flare);
+}
+
+RichText inked(RichText text, ColorRef plain)
+{
+    const bool isForDarkScreen = contrastWithWhite(plain) < weakContrast;
+    // A text has few colours and many runs.
+    QHash<ColorRef, ColorRef> inks;
     for (CharRun &run : text.characters) {
         if (run.format.colour) {
-            run.format.colour = inkOf(*run.format.colour);
+            const ColorRef colour = *run.format.colour;
+            const auto known = inks.constFind(colour);
+            run.format.colour = known != inks.cend()
+                ? *known
+                : *inks.insert(colour, inkOf(colour, isForDarkScreen));
         }
     }
     text.normalise();
@@ -76,10 +92,21 @@ std::vector<size_t> pageStarts(std::span<const LineExtent> lines, double pageHei
     return starts;
 }
 
-ColorRef inkOf(ColorRef colour)
+ColorRef inkOf(ColorRef colour, bool isForDarkScreen)
 {
-    const double contrast = (1 + flare) / (luminance(colour) + flare);
-    return contrast < leastContrast ? 0 : colour;
+    const double contrast = contrastWithWhite(colour);
+    if (contrast < leastContrast) {
+        return 0;
+    }
+    ColorRef ink = colour;
+    const bool isPale = isForDarkScreen && contrast < weakContrast;
+    for (quint32 percent = 95; isPale && contrastWithWhite(ink) < goodContrast; percent -= 5) {
+        const auto darker = [percent](int part) {
+            return quint32(part) * percent / 100;
+        };
+        ink = colorRef(darker(redOf(colour)), darker(greenOf(colour)), darker(blueOf(colour)));
+    }
+    return ink;
 }
 
 RichText withPrintHeader(const RichText &text, const CharFormat &plain, const QString &path,
@@ -108,7 +135,7 @@ PrintPages::PrintPages(const RichText &text, const CharFormat &plain, QPaintDevi
     m_document->setIndentWidth(bulletIndentPixels);
     m_document->setDefaultFont(toTextFormat(plain).font());
     m_document->documentLayout()->setPaintDevice(&device);
-    setRichText(*m_document, inked(text));
+    setRichText(*m_document, inked(text, plain.colour.value_or(0)));
     m_document->setTextWidth(size.width());
     collectLines();
     std::vector<LineExtent> extents;

@@ -33,9 +33,9 @@ std::vector<size_t> pageStarts(std::span<const LineExtent> lines, double pageHei
 /// The distance of tab stops where no other is set, in the screen's pixels.
 constexpr double usualTabPixels = 80;
 
-/// The colour in which a colour of the screen is printed on white paper: itself, or black when it
-/// could not be seen there.
-ColorRef inkOf(ColorRef colour);
+/// The colour in which a colour of the screen is printed on white paper: itself, a darker one when
+/// it is pale and was chosen for a dark screen, or black when it could not be seen there.
+ColorRef inkOf(ColorRef colour, bool isForDarkScreen);
 
 /// A file's text after a header: two empty lines, the file's path, when it was printed, and another
 /// empty line. The header has the text's first font, and is black.

@@ -117,22 +117,6 @@ void setDarkColours(ColourSettings &settings)
     }
 }
 
-QList<ColorRef> coloursOfSchemes(const ColourSettings &settings)
-{
-    ColourSettings first;
-    setFirstRunColours(first);
-    ColourSettings dark;
-    setDarkColours(dark);
-    QList<ColorRef> colours{ pureRed };
-    for (const ColourSettings &each : { settings, ColourSettings(), first, dark }) {
-        const ColourScheme scheme = each.joystickScheme();
-        colours += { scheme.plain, scheme.btn,           scheme.slash,
-                     scheme.raw,   scheme.miscellaneous, scheme.rem };
-        colours.append(each.macroScheme().plain);
-    }
-    return colours;
-}
-
 SettingProblems readColours(Settings &settings, const SettingsFiles &files)
 {
     return readGroup(settings.group<ColourSettings>(), files);

@@ -44,10 +44,6 @@ void setFirstRunColours(ColourSettings &settings);
 /// Sets the colours to light ones on dark ground; the font stays.
 void setDarkColours(ColourSettings &settings);
 
-/// Every colour that a text gets by colouring, under these settings or under one of the schemes
-/// that come with Zeph.
-QList<ColorRef> coloursOfSchemes(const ColourSettings &settings);
-
 /// Reads the colours and the font of the texts.
 [[nodiscard]] SettingProblems readColours(Settings &settings, const SettingsFiles &files);
 /// Writes all keys of the colours and the font.

@@ -64,16 +64,21 @@ void TemplateGuard::update(bool waitsForDisk)
         forget();
         return;
     }
-    const QString text = QString::fromLatin1(writeRtf(textOf(*m_form).richText()));
-    if (text == m_kept) {
+    const RichText text = textOf(*m_form).richText();
+    if (m_writtenLast == text) {
         return;
     }
-    RecoveredText recovered{ RecoveredKind::Template, m_form->path(), m_context.clock.now(), text };
+    m_writtenLast = text;
+    const auto make = [text, path = m_form->path(), now = m_context.clock.now()] {
+        return RecoveredText{ RecoveredKind::Template, path, now,
+                              QString::fromLatin1(writeRtf(text)) };
+    };
     if (waitsForDisk) {
+        RecoveredText recovered = make();
         auto result = m_folder.write(recovered);
         note({ std::move(recovered), std::move(result) });
     } else {
-        m_folder.writeSoon({ std::move(recovered) });
+        m_folder.writeSoon(make);
     }
 }
 
@@ -89,6 +94,7 @@ void TemplateGuard::note(const RecoveryFolder::Written &written)
     if (written.result) {
         m_kept = written.recovered.text;
     } else {
+        m_writtenLast = std::nullopt;
         m_timer.start();
         m_context.status.setText(written.result.error().path
                                  + u" wasn't written, so better save often: "_s
@@ -101,6 +107,7 @@ void TemplateGuard::forget()
     if (!m_kept.isNull()) {
         m_folder.remove(RecoveredKind::Template);
         m_kept = QString();
+        m_writtenLast = std::nullopt;
     }
 }
 

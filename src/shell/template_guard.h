@@ -6,6 +6,7 @@
 #include "editor/files/backups.h"
 #include "editor/files/recovery_files.h"
 #include "platform/context.h"
+#include "platform/core/rich_text.h"
 
 #include <QPointer>
 #include <QTimer>
@@ -46,6 +47,7 @@ private:
     QTimer m_timer{ this };
     QPointer<TemplateForm> m_form;
     QString m_kept; ///< the text in the file; null where there is none
+    std::optional<RichText> m_writtenLast; ///< none where that failed, or is gone again
 };
 
 } // namespace zeph

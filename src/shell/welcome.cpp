@@ -29,7 +29,7 @@ namespace zeph {
 
 namespace {
 
-constexpr int pictureWidth = 200;
+constexpr int pictureWidth = 214;
 
 } // namespace
 

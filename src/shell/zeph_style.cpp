@@ -21,6 +21,10 @@ namespace {
 /// What text needs to be read, and what the frame of a control needs to be seen.
 constexpr double readable = 4.5;
 constexpr double visible = 3;
+/// What tells a highlighted entry or an edge from its ground.
+constexpr double noticeable = 1.35;
+/// How much is left of the picture of an entry that cannot be used.
+constexpr double greyedOpacity = 0.5;
 
 struct BoxPicture {
     QStyle::StandardPixmap standard;
@@ -46,6 +50,8 @@ void makePlaceholdersReadable()
     if (contrast(now, base) < readable) {
         palette.setColor(QPalette::PlaceholderText,
                          faintest(base, palette.color(QPalette::Text), readable));
+        palette.setColor(QPalette::Disabled, QPalette::PlaceholderText,
+                         palette.color(QPalette::Disabled, QPalette::Text));
         QApplication::setPalette(palette);
     }
 }
@@ -107,6 +113,18 @@ void drawDot(const QStyleOption &option, QPainter &painter)
     painter.drawEllipse(QRectF(option.rect).adjusted(margin, margin, -margin, -margin));
 }
 
+/// A plain bar with an edge towards the texts. The toolkit's own edges are white on dark desktops.
+void drawToolBar(const QStyleOption &option, QPainter &painter)
+{
+    const QColor window = option.palette.color(QPalette::Window);
+    painter.fillRect(option.rect, window);
+    const QRect edge = option.state & QStyle::State_Horizontal
+        ? QRect(option.rect.bottomLeft(), option.rect.bottomRight())
+        : QRect(option.rect.topRight(), option.rect.bottomRight());
+    painter.fillRect(edge,
+                     faintest(window, option.palette.color(QPalette::WindowText), noticeable));
+}
+
 } // namespace
 
 QColor faintest(const QColor &ground, const QColor &ink, double wanted)
@@ -148,9 +166,28 @@ bool ZephStyle::eventFilter(QObject *watched, QEvent *event)
 int ZephStyle::styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
                          QStyleHintReturn *returned) const
 {
-    return hint == SH_DialogButtonBox_ButtonsHaveIcons
+    // On a dark desktop etched text looks printed twice.
+    return hint == SH_DialogButtonBox_ButtonsHaveIcons || hint == SH_EtchDisabledText
         ? 0
         : QProxyStyle::styleHint(hint, option, widget, returned);
+}
+
+QPixmap ZephStyle::generatedIconPixmap(QIcon::Mode mode, const QPixmap &pixmap,
+                                       const QStyleOption *option) const
+{
+    if (mode != QIcon::Disabled) {
+        return QProxyStyle::generatedIconPixmap(mode, pixmap, option);
+    }
+    // The toolkit's greyed pictures are brighter than the others on a dark desktop.
+    QImage image = pixmap.toImage().convertToFormat(QImage::Format_ARGB32);
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            const QRgb pixel = image.pixel(x, y);
+            const int grey = qGray(pixel);
+            image.setPixel(x, y, qRgba(grey, grey, grey, int(qAlpha(pixel) * greyedOpacity)));
+        }
+    }
+    return QPixmap::fromImage(image);
 }
 
 QIcon ZephStyle::standardIcon(StandardPixmap standard, const QStyleOption *option,
@@ -170,6 +207,14 @@ QIcon ZephStyle::standardIcon(StandardPixmap standard, const QStyleOption *optio
 void ZephStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *option,
                               QPainter *painter, const QWidget *widget) const
 {
+    const auto *field = qstyleoption_cast<const QStyleOptionFrame *>(option);
+    if (element == PE_PanelLineEdit && field && (field->state & State_ReadOnly)) {
+        // A field that nobody can write into must not look as if one could.
+        QStyleOptionFrame shown = *field;
+        shown.palette.setBrush(QPalette::Base, field->palette.brush(QPalette::Window));
+        QProxyStyle::drawPrimitive(element, &shown, painter, widget);
+        return;
+    }
     const bool isRound = element == PE_IndicatorRadioButton;
     if (!isRound && element != PE_IndicatorCheckBox && element != PE_IndicatorItemViewItemCheck) {
         QProxyStyle::drawPrimitive(element, option, painter, widget);
@@ -189,14 +234,18 @@ void ZephStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *opti
 void ZephStyle::drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
                             const QWidget *widget) const
 {
+    if (element == CE_ToolBar) {
+        drawToolBar(*option, *painter);
+        return;
+    }
     const auto *entry = qstyleoption_cast<const QStyleOptionMenuItem *>(option);
     if (element == CE_MenuItem && entry && (entry->state & State_Selected)) {
         // The pictures are made for the menu's ground; on the toolkit's colour for a highlighted
         // entry some of theirs would be lost.
         QStyleOptionMenuItem plain = *entry;
         plain.palette.setColor(QPalette::Highlight,
-                               faintest(entry->palette.color(QPalette::Window),
-                                        entry->palette.color(QPalette::WindowText), 1.35));
+                               faintest(entry->palette.color(QPalette::Base),
+                                        entry->palette.color(QPalette::WindowText), noticeable));
         plain.palette.setColor(QPalette::HighlightedText,
                                entry->palette.color(QPalette::WindowText));
         QProxyStyle::drawControl(element, &plain, painter, widget);

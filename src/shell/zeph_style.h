@@ -11,9 +11,9 @@ namespace zeph {
 /// from it by that contrast (1 to 21); the second one when none is.
 QColor faintest(const QColor &ground, const QColor &ink, double wanted);
 
-/// How all windows look: the toolkit's own plain style, with what it draws too weakly on dark
-/// desktops made visible, message boxes with the program's pictures, and no pictures on OK and
-/// Cancel.
+/// How all windows look: the toolkit's own plain style, with what it draws too weakly or too
+/// brightly on dark desktops mended, fields that cannot be written into in the window's colour,
+/// message boxes with the program's pictures, and no pictures on OK and Cancel.
 class ZephStyle : public QProxyStyle
 {
     Q_OBJECT
@@ -29,6 +29,8 @@ public:
                   QStyleHintReturn *returned) const override;
     QIcon standardIcon(StandardPixmap standard, const QStyleOption *option,
                        const QWidget *widget) const override;
+    QPixmap generatedIconPixmap(QIcon::Mode mode, const QPixmap &pixmap,
+                                const QStyleOption *option) const override;
     void drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,
                        const QWidget *widget) const override;
     void drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,

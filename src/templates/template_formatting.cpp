@@ -8,6 +8,7 @@
 #include "platform/dialogs.h"
 #include "platform/richtext/rich_text_box.h"
 #include "platform/richtext/rich_text_document.h"
+#include "platform/swatch.h"
 #include "text/text_styles.h"
 
 #include <QAction>
@@ -344,9 +345,8 @@ void TemplateFormatting::UpdateAlignmentButtons(const CommonLook &look)
 
 void TemplateFormatting::updateColour(const CommonLook &look)
 {
-    QPixmap swatch(swatchSize, swatchSize);
-    swatch.fill(toColor(look.colour.value_or(0)));
-    m_colour->setIcon(swatch);
+    m_colour->setIcon(swatchOf(look.colour.value_or(0), { swatchSize, swatchSize },
+                               m_parts.text.devicePixelRatioF()));
 }
 
 namespace {

@@ -196,6 +196,8 @@ void TemplateForm::showFile(const QString &path, std::unique_ptr<QTextDocument> 
     box().adopt(std::move(document));
     if (box().document()->isEmpty()) {
         box().setCurrentCharFormat(toTextFormat(m_plain));
+        // The toolkit takes the first look of an empty text for a step to undo.
+        box().document()->clearUndoRedoStacks();
     }
     AssignCurrentTexttoTempRTF();
     setWindowTitle(u" Editing "_s + m_name);

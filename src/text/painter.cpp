@@ -31,6 +31,7 @@ using language::operator""_w;
 namespace {
 
 constexpr size_t asciiCount = 128;
+constexpr ColorRef pureRed = 255;
 
 /// The two properties of characters that the walk needs, in a table: nearly all characters of a
 /// file are ASCII.

@@ -13,6 +13,7 @@
 #include "editor/files/file_saving.h"
 #include "menus/menu_actions.h"
 #include "platform/richtext/rich_text_document.h"
+#include "tests/support/copies_history.h"
 #include "tests/support/editor_fixture.h"
 #include "tests/support/long_run.h"
 #include "tests/support/rich_texts.h"
@@ -26,91 +27,7 @@ using namespace zeph;
 
 namespace {
 
-/// A history of whole copies, by the letter of its rules; slot 0 is the newest.
-class CopiesHistory
-{
-public:
-    struct Slot {
-        RichText text;
-        int caret;
-    };
-
-    void start(const RichText &text, int caretNow)
-    {
-        slotsHeld = { { text, 0 } };
-        index = 0;
-        next = true;
-        space = enter = false;
-        caret = caretNow;
-        moved = false;
-    }
-    void caretAt(int position) { moved = moved || position != caret; }
-    void key(int which, bool emptyText, bool hasSelection)
-    {
-        if (which == Qt::Key_Delete) {
-            next = true;
-        } else if (emptyText && which == Qt::Key_Space) {
-            next = false;
-        } else if (moved || hasSelection) {
-            next = true;
-        } else if (slotsHeld.size() > 1) {
-            next = false;
-            if (which == Qt::Key_Backspace) {
-                next = true;
-            } else if (which == Qt::Key_Return) {
-                if (!enter) {
-                    next = true;
-                }
-                enter = true;
-                space = false;
-            } else if (which == Qt::Key_Space) {
-                if (!space) {
-                    next = true;
-                }
-                space = true;
-                enter = false;
-            } else {
-                space = enter = false;
-            }
-        } else {
-            next = true;
-        }
-    }
-    void changed(const RichText &text, int caretNow, int undoMax)
-    {
-        const bool pushes = next || index > 0;
-        next = true;
-        caret = caretNow;
-        moved = false;
-        if (text == slotsHeld[index].text) {
-            return;
-        }
-        if (pushes) {
-            const size_t n = slotsHeld.size();
-            const size_t grown = int(n) <= undoMax ? n + 1 : n;
-            slotsHeld.insert(slotsHeld.begin(), Slot{});
-            slotsHeld.resize(grown);
-        }
-        slotsHeld[0] = { text, caretNow };
-        index = 0;
-    }
-    /// The present looks and the caret go into the slot that is shown.
-    void store(const RichText &text, int caretNow) { slotsHeld[index] = { text, caretNow }; }
-
-    std::vector<Slot> slotsHeld;
-    size_t index = 0;
-    bool next = true;
-    bool space = false;
-    bool enter = false;
-    int caret = 0; ///< after the last change
-    bool moved = false;
-};
-
-QString captionOf(QStringView word, size_t steps)
-{
-    return steps == 0 ? u'&' + word.toString()
-                      : u'&' + word.toString() + u" ("_s + QString::number(steps) + u')';
-}
+using CopiesHistory = test::CopiesHistory<RichText>;
 
 class UndoComparison : public test::EditorTest
 {
@@ -259,14 +176,12 @@ protected:
     void step(bool back)
     {
         CopiesHistory &plain = copies();
-        const bool possible = back ? plain.index + 1 < plain.slotsHeld.size() : plain.index > 0;
+        const bool possible = plain.canStep(back);
         QAction *entry = editor->action(back ? u"mnuEditUndo" : u"mnuEditRedo");
         ASSERT_EQ(entry->isEnabled(), possible);
         entry->trigger();
         if (possible) {
-            plain.index = back ? plain.index + 1 : plain.index - 1;
-            plain.moved = true;
-            const CopiesHistory::Slot &slot = plain.slotsHeld[plain.index];
+            const CopiesHistory::Slot &slot = plain.step(back);
             ASSERT_EQ(control().shown().richText(), slot.text);
             ASSERT_EQ(control().shown().selStart(), slot.caret);
             ASSERT_EQ(control().textCursor().selectionStart(), slot.caret);
@@ -285,9 +200,8 @@ protected:
     void compareMenus()
     {
         const CopiesHistory &plain = copies();
-        ASSERT_EQ(editor->action(u"mnuEditUndo")->text(),
-                  captionOf(u"Undo", plain.slotsHeld.size() - plain.index - 1));
-        ASSERT_EQ(editor->action(u"mnuEditRedo")->text(), captionOf(u"Redo", plain.index));
+        ASSERT_EQ(editor->action(u"mnuEditUndo")->text(), plain.undoCaption());
+        ASSERT_EQ(editor->action(u"mnuEditRedo")->text(), plain.redoCaption());
     }
     void oneStep()
     {

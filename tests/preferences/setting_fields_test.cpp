@@ -182,8 +182,8 @@ TEST(PreferencesKeys, EveryFlagOfTheSectionUnsupportedIsATickOfZephsPage)
 {
     for (const QStringView flag :
          { u"TurnOffFontCheck", u"SynchroniseModeOnStartup", u"ForeignLanguageKBInputFix",
-           u"JoyTestConnect", u"UseHLPnotCHM", u"ColourWithTyping",
-           u"AlwaysShowCompileDownload" }) {
+           u"JoyTestConnect", u"UseHLPnotCHM", u"ColourWithTyping", u"AlwaysShowCompileDownload",
+           u"TellStandIn", u"DefaultToDX8KeyTester" }) {
         const auto found = std::ranges::find(preferencesKeys(), flag, &PreferencesKey::key);
         ASSERT_NE(found, preferencesKeys().end()) << flag.toString().toStdString();
         EXPECT_EQ(found->tab, PreferencesTab::Zeph) << flag.toString().toStdString();

@@ -3,6 +3,9 @@
 
 #include "print/print_pages.h"
 
+#include "documents/line_margin.h"
+#include "platform/colours.h"
+
 #include <gtest/gtest.h>
 
 #include <QImage>
@@ -71,11 +74,20 @@ TEST(PrintHeader, StandsBeforeTheTextWithItsBlankLines)
 
 TEST(PrintInk, OnlyAColourThatPaperSwallowsBecomesBlack)
 {
-    EXPECT_EQ(inkOf(colorRef(255, 255, 255)), ColorRef(0));
-    EXPECT_EQ(inkOf(colorRef(255, 255, 0)), ColorRef(0));
-    EXPECT_EQ(inkOf(255), ColorRef(255));
-    EXPECT_EQ(inkOf(8421504), ColorRef(8421504));
-    EXPECT_EQ(inkOf(0), ColorRef(0));
+    EXPECT_EQ(inkOf(colorRef(255, 255, 255), true), ColorRef(0));
+    EXPECT_EQ(inkOf(colorRef(255, 255, 0), true), ColorRef(0));
+    EXPECT_EQ(inkOf(255, true), ColorRef(255));
+    EXPECT_EQ(inkOf(8421504, true), ColorRef(8421504));
+    EXPECT_EQ(inkOf(0, true), ColorRef(0));
+    // The blue, the green and the grey of dark colours keep their hue: contrasts 2.3, 2.0 and 2.8.
+    for (const ColorRef pale :
+         { colorRef(120, 170, 255), colorRef(120, 200, 120), colorRef(150, 154, 160) }) {
+        EXPECT_EQ(inkOf(pale, false), pale) << "the colour of a light screen";
+        const ColorRef ink = inkOf(pale, true);
+        EXPECT_GE(contrast(toColor(ink), Qt::white), 4.5) << pale;
+        EXPECT_LE(contrast(toColor(ink), Qt::white), 6) << pale;
+        EXPECT_LE(std::abs(toColor(ink).hslHue() - toColor(pale).hslHue()), 3) << pale;
+    }
 }
 
 TEST(PrintPages, ALongWordIsBrokenRatherThanCut)

@@ -30,7 +30,7 @@ TEST(ProgramTour, ReachesEachStopAndLeavesItsPicture)
     }
     EXPECT_GT(stops, 40);
     for (const QString &window : { u"welcome-pageExperience"_s, u"compile-error-CompilerHelp"_s,
-                                   u"key-tester-KeyTestForm"_s, u"preferences-6"_s,
+                                   u"key-tester-KeyTestForm"_s, u"preferences-8"_s,
                                    u"template-editor-TemplateForm"_s, u"about-frmAbout"_s }) {
         EXPECT_TRUE(program.exists(window + u".png"_s)) << window.toStdString();
     }

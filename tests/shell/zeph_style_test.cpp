@@ -41,6 +41,16 @@ QImage drawn(const ZephStyle &style, QStyle::PrimitiveElement element, QStyle::S
     return image;
 }
 
+/// A picture, such as the slate lines of most of ours, as it is seen on a ground.
+QImage shown(const QPixmap &picture, const QColor &ground)
+{
+    QImage image(picture.size(), QImage::Format_RGB32);
+    image.fill(ground);
+    QPainter painter(&image);
+    painter.drawPixmap(0, 0, picture);
+    return image;
+}
+
 double bestContrast(const QImage &image, const QColor &ground)
 {
     double best = 1;
@@ -75,6 +85,9 @@ TEST(ZephStyle, PlaceholdersAreReadableOnADarkDesktop)
     QApplication::setPalette(dark);
     const QPalette now = QApplication::palette();
     EXPECT_GE(contrast(now.color(QPalette::PlaceholderText), now.color(QPalette::Base)), 4.5);
+    EXPECT_EQ(now.color(QPalette::Disabled, QPalette::PlaceholderText),
+              now.color(QPalette::Disabled, QPalette::Text))
+        << "in a field that cannot be used it is no more than the labels";
     qApp->removeEventFilter(&style);
     QApplication::setPalette(before);
 }
@@ -92,4 +105,62 @@ TEST(ZephStyle, MessageBoxesHaveOwnPicturesAndTheirButtonsNone)
         EXPECT_FALSE(own.isNull()) << standard;
         EXPECT_NE(own, usual) << standard;
     }
+}
+
+TEST(ZephStyle, PicturesOfGreyedEntriesAreFainterThanTheOthersOnAnyDesktop)
+{
+    const ZephStyle style(icons);
+    const QStyleOption option;
+    QPixmap slate(8, 8);
+    slate.fill(QColor(0x73, 0x7f, 0x8c));
+    slate.setDevicePixelRatio(2);
+    const QPixmap greyed = style.generatedIconPixmap(QIcon::Disabled, slate, &option);
+    EXPECT_EQ(greyed.devicePixelRatio(), 2) << "crisp at scale 2 too";
+    for (const QColor &ground : { QColor(45, 48, 52), QColor(239, 239, 239) }) {
+        const double seen = bestContrast(shown(greyed, ground), ground);
+        EXPECT_LT(seen, bestContrast(shown(slate, ground), ground) * 0.75) << ground.lightness();
+        EXPECT_GT(seen, 1.5) << ground.lightness();
+    }
+}
+
+TEST(ZephStyle, GreyedTextIsNotEtched)
+{
+    const ZephStyle style(icons);
+    EXPECT_EQ(style.styleHint(QStyle::SH_EtchDisabledText, nullptr, nullptr, nullptr), 0);
+}
+
+TEST(ZephStyle, AToolBarHasAQuietEdgeOnADarkDesktop)
+{
+    const ZephStyle style(icons);
+    QStyleOptionToolBar option;
+    option.palette = darkPalette();
+    option.rect = QRect(0, 0, 16, 16);
+    option.state = QStyle::State_Enabled | QStyle::State_Horizontal;
+    const QColor window = option.palette.color(QPalette::Window);
+    QImage image(16, 16, QImage::Format_RGB32);
+    image.fill(window);
+    QPainter painter(&image);
+    style.drawControl(QStyle::CE_ToolBar, &option, &painter, nullptr);
+    EXPECT_GT(bestContrast(image, window), 1.2);
+    EXPECT_LT(bestContrast(image, window), 1.6);
+    EXPECT_EQ(image.pixelColor(8, 8), window);
+    EXPECT_NE(image.pixelColor(8, 15), window);
+}
+
+TEST(ZephStyle, AFieldThatCannotBeWrittenIntoHasTheWindowsColour)
+{
+    const ZephStyle style(icons);
+    const auto middle = [&style](QStyle::State state) {
+        QStyleOptionFrame option;
+        option.palette = darkPalette();
+        option.rect = QRect(0, 0, 30, 20);
+        option.lineWidth = 1;
+        option.state = state | QStyle::State_Enabled;
+        QImage image(30, 20, QImage::Format_RGB32);
+        QPainter painter(&image);
+        style.drawPrimitive(QStyle::PE_PanelLineEdit, &option, &painter, nullptr);
+        return image.pixelColor(15, 10);
+    };
+    EXPECT_EQ(middle(QStyle::State_ReadOnly), darkPalette().color(QPalette::Window));
+    EXPECT_EQ(middle(QStyle::State_None), darkPalette().color(QPalette::Base));
 }

@@ -79,7 +79,9 @@ TEST_F(TemplateTest, ANewFileIsUntitledAndUnchanged)
     EXPECT_EQ(form->windowTitle().toStdString(), "ReadMe and Template Editor");
     EXPECT_EQ(form->path(), templates(u"Untitled.rtf"_s));
     EXPECT_FALSE(form->HasTemplateTextChanged());
+    EXPECT_FALSE(form->actions().action(u"mnuEditUndo")->isEnabled());
     press(u"mnuFileNew");
+    EXPECT_FALSE(form->actions().action(u"mnuEditUndo")->isEnabled());
     EXPECT_EQ(form->windowTitle().toStdString(), " Editing Untitled.rtf");
     EXPECT_TRUE(form->close());
 }

@@ -237,11 +237,14 @@ bool FindAndReplace::eventFilter(QObject *watched, QEvent *event)
     if (!kind || !isEnter || held != Qt::NoModifier || !isOnLastHit(*kind)) {
         return QDialog::eventFilter(watched, event);
     }
-    if (key->modifiers().testFlag(Qt::ShiftModifier)) {
-        findPrevious(*m_hit.page);
-    } else {
-        find(*m_hit.page);
-    }
+    const bool isBackwards = key->modifiers().testFlag(Qt::ShiftModifier);
+    guarded(m_context.dialogs, [this, isBackwards] {
+        if (isBackwards) {
+            findPrevious(*m_hit.page);
+        } else {
+            find(*m_hit.page);
+        }
+    })();
     return true;
 }
 
@@ -347,7 +350,12 @@ void FindAndReplace::showHit(Page &page, Document &document, int start, int leng
         enableReplacing(true);
     }
     m_parts.view.documents().select(document.kind());
+    const bool isSeen = m_parts.view.shows(document.kind(), start);
     document.select(start, length);
+    if (!isSeen) {
+        // At the edge of the view nothing would be seen of what surrounds the hit.
+        m_parts.view.centreCaret(document.kind());
+    }
     m_hit = { &page, document.kind(), start, length };
     page.hits->setText(hitCount(allHits(document.text(), LastFindText, SearchOptions), start));
     m_context.status.setLine(document.caretLine());

@@ -7,6 +7,7 @@
 #include "editor/files/both_texts.h"
 #include "editor/files/file_opening.h"
 #include "platform/dialogs.h"
+#include "platform/status_line.h"
 #include "text/text_lines.h"
 
 #include <QApplication>
@@ -52,7 +53,13 @@ bool ChangedFiles::hasChanged(const Document &document)
 bool ChangedFiles::maySave(Document &document)
 {
     const auto other = m_known.changeOf(document);
-    return !other || ask(document, *other);
+    if (!other || ask(document, *other)) {
+        return true;
+    }
+    if (document.isModified()) {
+        m_context.status.setText(document.name() + u" isn't saved"_s);
+    }
+    return false;
 }
 
 void ChangedFiles::check()
@@ -68,7 +75,7 @@ void ChangedFiles::check()
         const bool isOnItsWay = document.isLocked()
             && !(kind == DocumentKind::Macro && m_parts.view.documents().isProtected());
         const auto other = isOnItsWay ? std::nullopt : m_known.changeOf(document);
-        if (other && *other != m_asked[size_t(kind)]) {
+        if (other && !m_known.wasTold(document, *other)) {
             ask(document, *other);
         }
     }
@@ -80,7 +87,7 @@ bool ChangedFiles::ask(Document &document, const QByteArray &other)
     std::optional<QByteArray> found = other;
     // Without a change the other program has taken its own back meanwhile.
     for (; found; found = m_known.changeOf(document)) {
-        m_asked[size_t(document.kind())] = *found;
+        m_known.noteTold(document, *found);
         switch (m_context.dialogs.box(changedFileBox(document))) {
         case BoxButton::Yes:
             // What is on its way to the Cougar stays until it is there.

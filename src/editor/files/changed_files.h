@@ -11,8 +11,6 @@
 
 #include <QObject>
 
-#include <array>
-
 namespace zeph {
 
 class EditorView;
@@ -47,8 +45,6 @@ private:
     Context m_context;
     Parts m_parts;
     KnownFiles m_known;
-    /// For each document: what its file held when the user saw the question.
-    std::array<QByteArray, 2> m_asked;
     bool m_asks = false;
     bool m_willCheck = false;
 };

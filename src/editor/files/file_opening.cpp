@@ -13,7 +13,6 @@
 #include "menus/menu_actions.h"
 #include "platform/input/keyboard.h"
 #include "platform/status_line.h"
-#include "settings/colour_settings.h"
 #include "settings/settings.h"
 #include "text/text_lines.h"
 #include "text/use_statements.h"
@@ -285,8 +284,7 @@ void FileOpening::show(Document &document, const QString &path, const QString &t
 {
     document.rename(path);
     const CharFormat plain = m_parts.view.documents().plainFormat(document.kind());
-    const auto coloured = m_parts.copies.load(
-        document.name(), text, plain, coloursOfSchemes(m_context.settings.of<ColourSettings>()));
+    const auto coloured = m_parts.copies.load(document.name(), text, plain);
     restoreKeyboard();
     if (coloured) {
         document.setRichText(*coloured);

@@ -33,16 +33,29 @@ void KnownFiles::know(const Document &document)
     File &file = fileOf(document);
     file = File();
     file.path = document.path();
-    file.bytes = document.onDisk();
+    if (!document.onDisk().isNull()) {
+        file.bytes = document.onDisk();
+    }
     if (document.isRecovered()) {
         // The user was told of the file when the text was offered.
-        file.bytes = readWholeFile(file.path).value_or(QByteArray());
+        const auto bytes = readWholeFile(file.path);
+        file.bytes = bytes ? std::optional(*bytes) : std::nullopt;
     }
 }
 
 void KnownFiles::accept(const Document &document, const QByteArray &bytes)
 {
-    fileOf(document).bytes = bytes;
+    fileOf(document).bytes = bytes.isNull() ? std::nullopt : std::optional(bytes);
+}
+
+void KnownFiles::noteTold(const Document &document, const QByteArray &bytes)
+{
+    fileOf(document).told = bytes;
+}
+
+bool KnownFiles::wasTold(const Document &document, const QByteArray &bytes)
+{
+    return fileOf(document).told == bytes;
 }
 
 std::optional<QByteArray> KnownFiles::changeOf(const Document &document)
@@ -50,7 +63,7 @@ std::optional<QByteArray> KnownFiles::changeOf(const Document &document)
     File &file = fileOf(document);
     const QFileInfo now(document.path());
     // What stands under a fresh name is nobody's choice; an autosave moves it out of the way.
-    if (file.bytes.isNull() || file.path != document.path() || isUntitled(document.name())
+    if (!file.bytes || file.path != document.path() || isUntitled(document.name())
         || !now.isFile()) {
         return {};
     }
@@ -67,7 +80,7 @@ std::optional<QByteArray> KnownFiles::changeOf(const Document &document)
         }
         return {};
     }
-    return bytes.value_or(QByteArray());
+    return !bytes ? QByteArray() : bytes->isNull() ? QByteArray("") : *bytes;
 }
 
 } // namespace zeph

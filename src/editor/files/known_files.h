@@ -23,15 +23,19 @@ public:
     explicit KnownFiles(Documents &documents);
 
     /// What the document's file holds now, if another program has changed it: null bytes when it
-    /// cannot be read. No value for a file that is gone.
+    /// cannot be read, empty ones when it is empty. No value for a file that is gone.
     std::optional<QByteArray> changeOf(const Document &document);
     /// These bytes are no news any more; null: whatever the file holds.
     void accept(const Document &document, const QByteArray &bytes);
+    /// The user has been told of these bytes, which counts until the next load or save.
+    void noteTold(const Document &document, const QByteArray &bytes);
+    bool wasTold(const Document &document, const QByteArray &bytes);
 
 private:
     struct File {
         QString path;
-        QByteArray bytes; ///< that may be overwritten; null: whatever it holds
+        std::optional<QByteArray> bytes; ///< that may be overwritten; none: whatever it holds
+        std::optional<QByteArray> told;
         qint64 size = -1; ///< with the time: bytes were there then
         QDateTime time;
     };

@@ -141,6 +141,18 @@ void RecoveryFolder::writeSoon(std::vector<RecoveredText> texts)
     });
 }
 
+void RecoveryFolder::writeSoon(const std::function<RecoveredText()> &make)
+{
+    m_writing = std::async(std::launch::async, [this, make] {
+        RecoveredText text = make();
+        auto result = write(text);
+        std::vector<Written> written;
+        written.push_back({ std::move(text), std::move(result) });
+        Q_EMIT hasWritten();
+        return written;
+    });
+}
+
 std::vector<RecoveryFolder::Written> RecoveryFolder::settle()
 {
     return m_writing.valid() ? m_writing.get() : std::vector<Written>();

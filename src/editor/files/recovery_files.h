@@ -12,6 +12,7 @@
 #include <QDateTime>
 #include <QObject>
 
+#include <functional>
 #include <future>
 #include <memory>
 #include <vector>
@@ -63,6 +64,8 @@ public:
     Expected<void, FileError> write(const RecoveredText &recovered);
     /// Has another thread write; settle() must come before the next call of any other kind.
     void writeSoon(std::vector<RecoveredText> texts);
+    /// The same for a text that takes long to make, which the other thread does too.
+    void writeSoon(const std::function<RecoveredText()> &make);
     /// Waits for what writeSoon() began, and gives it once.
     std::vector<Written> settle();
     void remove(RecoveredKind kind);

@@ -7,9 +7,6 @@
 
 namespace zeph {
 
-/// The painter's colour that no scheme changes.
-constexpr ColorRef pureRed = 255;
-
 /// The colours of the painter's classes of words. The settings have one for each kind of document.
 struct ColourScheme {
     ColorRef plain = 0;

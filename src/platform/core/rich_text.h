@@ -67,8 +67,6 @@ struct LookRuns {
     explicit LookRuns(const std::vector<CharRun> &characters);
 
     std::vector<CharFormat> looks;
-    /// For each look whether the user gave its colour; empty: for none.
-    std::vector<bool> coloursByHand;
     std::vector<LookRun> runs;
 };
 

@@ -155,6 +155,21 @@ TEST_F(FindAndReplaceTest, FindFirstThenNextThenAllFound)
     EXPECT_EQ(selection(joystick()), Selection(18, 4));
 }
 
+TEST_F(FindAndReplaceTest, AHitOutOfSightComesToTheMiddleOneInSightStaysWhereItIs)
+{
+    load(DocumentKind::Joystick,
+         QString(u'\n').repeated(200) + u"gun\ngun"_s + QString(u'\n').repeated(200));
+    open(u"mnuEditFind"_s);
+    write(u"ComboTextFind"_s, u"gun"_s);
+    button(u"Command1"_s)->click();
+    const int height = joystick().viewport()->height();
+    const int first = joystick().cursorRect().center().y();
+    EXPECT_GT(first, height / 4);
+    EXPECT_LT(first, height * 3 / 4);
+    button(u"Command1"_s)->click();
+    EXPECT_EQ(joystick().cursorRect().center().y(), first + joystick().cursorRect().height());
+}
+
 TEST_F(FindAndReplaceTest, AnotherPressAfterTheLastHitBeginsAnew)
 {
     open(u"mnuEditFind"_s);

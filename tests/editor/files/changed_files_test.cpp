@@ -67,6 +67,29 @@ TEST_F(ChangedFilesTest, AFileThatIsGoneIsNotAskedAbout)
     EXPECT_FALSE(files().hasChanged(editor->joystick()));
 }
 
+TEST_F(ChangedFilesTest, AFileThatAnotherProgramEmptiedIsAskedAbout)
+{
+    change("");
+    dialogs.answer(title, BoxButton::No);
+    files().check();
+    EXPECT_EQ(editor->joystick().state(), Document::Modified);
+    change("BTN S1 other");
+    dialogs.answer(title, BoxButton::No);
+    files().check();
+}
+
+TEST_F(ChangedFilesTest, AFileThatWasEmptyHereIsAskedAboutWhenAnotherProgramFillsIt)
+{
+    change("");
+    editor->opening().OpenFavouriteFile(path);
+    change("BTN S1 other");
+    dialogs.answer(title, BoxButton::Cancel);
+    files().check();
+    dialogs.answer(title, BoxButton::Cancel);
+    editor->saving().mnuFileSave_Click();
+    EXPECT_EQ(onDisk(), "BTN S1 other");
+}
+
 TEST_F(ChangedFilesTest, ItIsLoadedAnewWhenTheUserSaysSo)
 {
     change("BTN S1 other");
@@ -147,6 +170,7 @@ TEST_F(ChangedFilesTest, NotNowAsksAgainAtTheSaveAndNotBefore)
     editor->saving().mnuFileSave_Click();
     EXPECT_EQ(onDisk(), "BTN S1 other");
     EXPECT_EQ(editor->joystick().state(), Document::Modified);
+    EXPECT_EQ(status.text(), u"a.tmj isn't saved");
     dialogs.answer(title, BoxButton::No);
     editor->saving().mnuFileSave_Click();
     EXPECT_EQ(onDisk(), "xBTN S1 a");

@@ -129,24 +129,6 @@ TEST_F(FileOpeningTest, AStylesFontSizeAndBoldComeBackAndPlainTextTakesTodaysFon
     EXPECT_FALSE(shown.formatAt(7).bold);
 }
 
-TEST_F(FileOpeningTest, AColourGivenByHandIsStillTheUsersAfterTheNextOpening)
-{
-    const QString path = file(u"a.tmj"_s, "BTN S1 a\r\n");
-    editor->opening().OpenFavouriteFile(path);
-    const auto paint = [this](std::optional<ColorRef> colour) {
-        editor->joystick().changeLooks(0, 3, [colour](CharFormat &look) { look.colour = colour; });
-        editor->joystick().updateState();
-    };
-    paint(colorRef(1, 2, 3));
-    EXPECT_EQ(editor->joystick().state(), Document::Modified);
-    editor->saving().mnuFileSave_Click();
-    editor->opening().OpenFavouriteFile(path);
-    EXPECT_EQ(editor->joystick().richText().formatAt(0).colour, colorRef(1, 2, 3));
-    EXPECT_EQ(editor->joystick().state(), Document::Saved);
-    paint({});
-    EXPECT_EQ(editor->joystick().state(), Document::Modified) << "the user's colour is gone";
-}
-
 TEST_F(FileOpeningTest, InACopyWithoutStylesMostOfTheTextIsPlain)
 {
     RichText text =
