@@ -9,6 +9,8 @@
 
 #include <QTextDocument>
 
+#include <algorithm>
+
 namespace zeph {
 
 bool operator==(const DocumentState &one, const DocumentState &other)
