@@ -15,7 +15,7 @@ class StatementInserter;
 
 /// What a page of the Composer works with. All of it must outlive the page.
 struct ComposerParts {
-    const Context &context;
+    Context context;
     Documents &documents;
     StatementInserter &inserter;
     ComposerEditor &editor;
@@ -38,6 +38,8 @@ public:
     virtual bool read(const QString &statement) = 0;
     /// The page has come to the front: moves the focus to its first control.
     virtual void enter() = 0;
+    /// The window has become active: shows what may have changed meanwhile, such as the delay.
+    virtual void windowActivated() { }
 
 Q_SIGNALS:
     /// What current() gives has changed.
