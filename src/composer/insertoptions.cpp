@@ -6,7 +6,9 @@
 #include "composer/composer_editor.h"
 #include "composer/composer_keys.h"
 #include "composer/composer_settings.h"
+#include "composer/pages/analogueaxispage.h"
 #include "composer/pages/composerpage.h"
+#include "composer/pages/digitalaxispage.h"
 #include "composer/pages/templatespage.h"
 #include "composer/statementpreview.h"
 #include "documents/document_settings.h"
@@ -46,8 +48,8 @@ struct PageRow {
 constexpr std::array<PageRow, InsertOptions::pageCount> pageRows = {
     PageRow{ u"&Composer", 2005, make<ComposerFirstPage> },
     PageRow{ u"&Hats", 2010, nullptr },
-    PageRow{ u"&Digital axis", 2015, nullptr },
-    PageRow{ u"&Analogue axis", 2020, nullptr },
+    PageRow{ u"&Digital axis", 2015, make<DigitalAxisPage> },
+    PageRow{ u"&Analogue axis", 2020, make<AnalogueAxisPage> },
     PageRow{ u"&Mouse / Microstick", 2025, nullptr },
     PageRow{ u"&Use / Misc.", 2030, nullptr },
     PageRow{ u"Tem&plates", 2035, make<TemplatesPage> },
