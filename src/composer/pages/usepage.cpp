@@ -3,11 +3,10 @@
 
 #include "composer/pages/usepage.h"
 
-#include "composer/composer_settings.h"
+#include "composer/placement.h"
 #include "composer/statement_inserter.h"
 #include "platform/dialogs.h"
 #include "platform/field_text.h"
-#include "settings/settings.h"
 #include "text/profile_files.h"
 #include "ui_usepage.h"
 
@@ -125,10 +124,6 @@ void UsePage::connectRest()
     connect(m_ui->File1_0, &QListWidget::currentTextChanged, this, [this](const QString &name) {
         m_profiles.select(name);
         useGroup(int(UseInsert::Profile));
-    });
-    connect(m_ui->CheckMultiAddCR_4, &QCheckBox::toggled, this, [this](bool on) {
-        m_parts.context.settings.of<ComposerSettings>().CompTabsAddCr = on;
-        Q_EMIT changed();
     });
 }
 
@@ -277,13 +272,17 @@ bool UsePage::read(const QString &statement)
         show(reading->fields);
         bringToFront(reading->insert);
     }
+    // The page comes to the front after this, which is no reason to name another file.
+    m_keepsMacroFile = reading->insert == UseInsert::MacroFile && !isVisible();
     Q_EMIT changed();
     return true;
 }
 
 void UsePage::enter()
 {
-    showText(*m_texts[0], m_parts.documents.macro().name());
+    if (!std::exchange(m_keepsMacroFile, false)) {
+        showText(*m_texts[0], m_parts.documents.macro().name());
+    }
     if (QWidget *first = firstControlOf(*m_groups[insertInFront()])) {
         first->setFocus(Qt::OtherFocusReason);
     }
@@ -297,7 +296,12 @@ void UsePage::insert(int index)
     if (question && !m_parts.context.dialogs.ask(question->title, question->text, question->icon)) {
         return;
     }
-    m_parts.inserter.insertComposed(generateUse(UseInsert(index), fields));
+    Generated statement = generateUse(UseInsert(index), fields);
+    if (statement) {
+        const QChar after = surroundingsOf(m_parts.documents.joystick()).after;
+        statement->pieces.last().text += blankBefore(after);
+    }
+    m_parts.inserter.insertComposed(statement);
 }
 
 void UsePage::browse(const UseBrowse &browse)
@@ -337,13 +341,6 @@ bool UsePage::eventFilter(QObject *watched, QEvent *event)
             Qt::QueuedConnection);
     }
     return ComposerPage::eventFilter(watched, event);
-}
-
-void UsePage::showEvent(QShowEvent *event)
-{
-    m_ui->CheckMultiAddCR_4->setChecked(
-        m_parts.context.settings.of<ComposerSettings>().CompTabsAddCr);
-    ComposerPage::showEvent(event);
 }
 
 } // namespace zeph

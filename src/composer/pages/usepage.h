@@ -36,9 +36,6 @@ public:
     /// Lists the profiles of the Cougar's folder, and selects the first.
     void UpdateProfiles();
 
-protected:
-    void showEvent(QShowEvent *event) override;
-
 private:
     void fillLists();
     void connectTabs();
@@ -68,6 +65,7 @@ private:
     ControlArray<QWidget> m_groups; ///< by UseInsert
     ProfileList m_profiles;
     int m_usedLast = 0; ///< of m_groups
+    bool m_keepsMacroFile = false; ///< when the page is entered
 };
 
 } // namespace zeph
