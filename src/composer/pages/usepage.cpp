@@ -57,7 +57,7 @@ UsePage::UsePage(const ComposerParts &parts, QWidget *parent)
     }
     fillLists();
     UpdateProfiles();
-    show({});
+    showFields({});
     connectTabs();
     for (int i = 0; i < m_groups.count(); ++i) {
         connectGroup(i);
@@ -148,7 +148,7 @@ UseFields UsePage::fields() const
     return fields;
 }
 
-void UsePage::show(const UseFields &fields)
+void UsePage::showFields(const UseFields &fields)
 {
     for (size_t i = 0; i < useTexts.size(); ++i) {
         showText(*m_texts[int(i)], fields.*useTexts[i]);
@@ -269,7 +269,7 @@ bool UsePage::read(const QString &statement)
     }
     {
         const QSignalBlocker oneChange(this);
-        show(reading->fields);
+        showFields(reading->fields);
         bringToFront(reading->insert);
     }
     // The page comes to the front after this, which is no reason to name another file.

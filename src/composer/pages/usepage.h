@@ -43,7 +43,7 @@ private:
     void connectRest();
 
     UseFields fields() const;
-    void show(const UseFields &fields);
+    void showFields(const UseFields &fields);
     HardwareStartup startup() const;
     void showProfiles();
 
