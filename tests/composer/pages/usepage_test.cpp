@@ -6,6 +6,7 @@
 #include "composer/composer_editor.h"
 #include "composer/composer_settings.h"
 #include "composer/statement_inserter.h"
+#include "tests/support/composer_world.h"
 #include "tests/support/painting_fixture.h"
 
 #include <QApplication>
@@ -588,4 +589,77 @@ TEST_F(UsePageTest, EnteringKeepsAMacroFileThatWasReadJustBefore)
     EXPECT_EQ(text(0).text(), u"other.tmm");
     page->enter();
     EXPECT_EQ(text(0).text(), u"Falcon.tmm");
+}
+
+namespace {
+
+/// The page in the real window, over the real Editor.
+class UseInComposer : public test::TestIn<test::ComposerWorld>
+{
+protected:
+    void SetUp() override
+    {
+        settings.of<ComposerSettings>().CompTabsAddCr = true;
+        showEditor();
+        open().showPage(InsertOptions::Use);
+    }
+    int tabInFront() { return control<QTabWidget>(u"SSTab1"_s).currentIndex(); }
+    QString text(int i) { return control<QLineEdit>(u"TXT_USE_%1"_s.arg(i)).text(); }
+};
+
+} // namespace
+
+TEST_F(UseInComposer, TheTabNamesTheMacroFileAndHasTheFocus)
+{
+    EXPECT_EQ(text(0), u"Untitled.tmm");
+    EXPECT_TRUE(control<QLineEdit>(u"TXT_USE_0"_s).hasFocus());
+    macro().rename(folder.file(u"Files/Falcon.tmm"_s));
+    composer()->showPage(InsertOptions::Composer);
+    composer()->showPage(InsertOptions::Use);
+    EXPECT_EQ(text(0), u"Falcon.tmm");
+}
+
+TEST_F(UseInComposer, TheBoxOfTheLineEndIsTheSettings)
+{
+    setJoystick(u"BTN S1 a"_s);
+    click(u"CMD_UseInsert_4"_s);
+    EXPECT_EQ(joystick().text(), u"BTN S1 a\nUSE S3_LOCK \n");
+    EXPECT_TRUE(control<QCheckBox>(u"CheckMultiAddCR_4"_s).isChecked());
+    click(u"CheckMultiAddCR_4"_s);
+    EXPECT_FALSE(settings.of<ComposerSettings>().CompTabsAddCr);
+    click(u"CMD_UseInsert_5"_s);
+    EXPECT_EQ(joystick().text(), u"BTN S1 a\nUSE S3_LOCK \nS3_LOCK ");
+    joystick().undo();
+    EXPECT_EQ(joystick().text(), u"BTN S1 a\nUSE S3_LOCK \n");
+}
+
+TEST_F(UseInComposer, AStatementOfTheFileIsReadChangedAndReplacedInOneStep)
+{
+    const QString before = u"USE RATE (60)\nUSE MDEF old.tmm\nBTN S1 a"_s;
+    composer()->showPage(InsertOptions::Composer);
+    setJoystick(before, 20);
+    click(u"CMD_ReadStatement"_s);
+    EXPECT_EQ(tabInFront(), InsertOptions::Use);
+    EXPECT_EQ(text(0), u"old.tmm");
+    control<QLineEdit>(u"TXT_USE_0"_s).setText(u"new.tmm"_s);
+    click(u"CMD_ReplaceStatement"_s);
+    EXPECT_EQ(joystick().text(), u"USE RATE (60)\nUSE MDEF new.tmm\nBTN S1 a");
+    joystick().undo();
+    EXPECT_EQ(joystick().text(), before);
+}
+
+TEST_F(UseInComposer, AnotherStatementIsReadWhileThePageIsInFront)
+{
+    setJoystick(u"USE HAT3_SENSITIVITY (12) Rem slow\n"_s, 3);
+    click(u"CMD_ReadStatement"_s);
+    EXPECT_EQ(control<QTabWidget>(u"SSTab5"_s).currentIndex(), 3);
+    EXPECT_EQ(control<QComboBox>(u"ComboUSEDX_3"_s).currentText(), u"HAT3");
+    EXPECT_EQ(text(2), u"12");
+}
+
+TEST_F(UseInComposer, NoTabIsTooLargeForASmallScreen)
+{
+    const QSize least = composer()->minimumSizeHint();
+    EXPECT_LE(least.width(), 1024);
+    EXPECT_LE(least.height(), 720);
 }
