@@ -12,6 +12,7 @@
 #include <QApplication>
 #include <QListWidget>
 #include <QRadioButton>
+#include <QTabBar>
 #include <QTabWidget>
 #include <QTest>
 
@@ -655,6 +656,38 @@ TEST_F(UseInComposer, AnotherStatementIsReadWhileThePageIsInFront)
     EXPECT_EQ(control<QTabWidget>(u"SSTab5"_s).currentIndex(), 3);
     EXPECT_EQ(control<QComboBox>(u"ComboUSEDX_3"_s).currentText(), u"HAT3");
     EXPECT_EQ(text(2), u"12");
+}
+
+TEST_F(UseInComposer, NoMnemonicOfATabMeansTwoThings)
+{
+    QStringList always;
+    const QTabBar &pages = *control<QTabWidget>(u"SSTab1"_s).tabBar();
+    for (int i = 0; i < pages.count(); ++i)
+        always.append(QKeySequence::mnemonic(pages.tabText(i)).toString());
+    const auto check = [&] {
+        QStringList seen = always;
+        for (const QWidget *each : composer()->findChildren<QWidget *>()) {
+            const auto *button = qobject_cast<const QAbstractButton *>(each);
+            const auto *label = qobject_cast<const QLabel *>(each);
+            const QString caption = button ? button->text() : label ? label->text() : QString();
+            const QString key = QKeySequence::mnemonic(caption).toString();
+            if (!each->isVisible() || key.isEmpty())
+                continue;
+            EXPECT_FALSE(seen.contains(key)) << caption.toStdString();
+            seen.append(key);
+        }
+    };
+    for (const auto &[tab, inner] : { std::pair(5, u"SSTab8"_s), std::pair(8, u"SSTab6"_s) }) {
+        control<QTabWidget>(u"SSTab5"_s).setCurrentIndex(tab);
+        for (int i = 0; i < 3; ++i) {
+            control<QTabWidget>(inner).setCurrentIndex(i);
+            check();
+        }
+    }
+    for (int i = 0; i < control<QTabWidget>(u"SSTab5"_s).count(); ++i) {
+        control<QTabWidget>(u"SSTab5"_s).setCurrentIndex(i);
+        check();
+    }
 }
 
 TEST_F(UseInComposer, NoTabIsTooLargeForASmallScreen)
