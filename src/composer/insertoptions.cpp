@@ -22,6 +22,7 @@
 
 #include <QAction>
 #include <QRegularExpression>
+#include <QScreen>
 #include <QShortcut>
 #include <QTabBar>
 
@@ -54,6 +55,9 @@ constexpr std::array<PageRow, InsertOptions::pageCount> pageRows = {
     PageRow{ u"&Logical", 2040, nullptr },
 };
 // clang-format on
+
+/// The pictures are large enough to point at, and it fits a screen of 1024 by 720 pixels.
+constexpr QSize usualSize(980, 670);
 
 } // namespace
 
@@ -242,7 +246,7 @@ void InsertOptions::SaveSpaces()
 
 void InsertOptions::PositionComposer()
 {
-    adjustSize();
+    resize(usualSize.expandedTo(minimumSizeHint()).boundedTo(screen()->availableSize()));
     const auto &settings = m_context.settings.of<ComposerSettings>();
     const bool hadPlace =
         !ProfileFile(m_context.paths.iniPath).text(u"Composer", u"ComposerLeft").isEmpty();
