@@ -10,6 +10,7 @@
 #include "composer/pages/composerpage.h"
 #include "composer/pages/digitalaxispage.h"
 #include "composer/pages/templatespage.h"
+#include "composer/pages/usepage.h"
 #include "composer/statementpreview.h"
 #include "documents/document_settings.h"
 #include "platform/dialogs.h"
@@ -51,7 +52,7 @@ constexpr std::array<PageRow, InsertOptions::pageCount> pageRows = {
     PageRow{ u"&Digital axis", 2015, make<DigitalAxisPage> },
     PageRow{ u"&Analogue axis", 2020, make<AnalogueAxisPage> },
     PageRow{ u"&Mouse / Microstick", 2025, nullptr },
-    PageRow{ u"&Use / Misc.", 2030, nullptr },
+    PageRow{ u"&Use / Misc.", 2030, make<UsePage> },
     PageRow{ u"Tem&plates", 2035, make<TemplatesPage> },
     PageRow{ u"&Logical", 2040, nullptr },
 };
