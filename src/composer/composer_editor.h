@@ -30,12 +30,17 @@ public:
 
     /// The Editor's macro list as it is now.
     virtual QList<MacroGroup> macroGroups() const = 0;
-    /// Shows the keys of a macro on the status line.
+    /// Chooses a macro: shows its keys on the status line and brings its tick up to date.
     virtual void ShowMacroKeys(const QString &macro) = 0;
+    /// Brings a macro's tick up to date.
+    virtual void TickMacroList(const QString &macro) = 0;
     /// Finds the macro's next use in the joystick file.
     virtual void FindMacroInJF(const QString &macro) = 0;
     /// Shows the macro's line in the macro file and gives that the focus.
     virtual void editMacro(const QString &macro) = 0;
+    /// The delay in milliseconds that the Composer and the Editor's palette offer first.
+    virtual int DefaultDLYvalue() const = 0;
+    virtual void setDefaultDLYvalue(int milliseconds) = 0;
     /// The Editor's menu entry of that object name.
     virtual QAction *action(QStringView name) const = 0;
     /// Moves the focus to the selected document.

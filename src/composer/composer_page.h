@@ -38,6 +38,8 @@ public:
     virtual bool read(const QString &statement) = 0;
     /// The page has come to the front: moves the focus to its first control.
     virtual void enter() = 0;
+    /// The window has become active: shows what may have changed meanwhile, such as the delay.
+    virtual void windowActivated() { }
 
 Q_SIGNALS:
     /// What current() gives has changed.

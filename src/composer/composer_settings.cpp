@@ -3,6 +3,8 @@
 
 #include "composer/composer_settings.h"
 
+#include "platform/core/units.h"
+
 #include <array>
 
 namespace zeph {
@@ -11,8 +13,20 @@ namespace {
 
 using S = ComposerSettings;
 
+/// Takes the place, in twips, of one that no screen has.
+constexpr double beyondScreen = 10;
+
+constexpr QStringView composer = u"Composer";
+
 constexpr std::array rows = {
     row(u"Miscellaneous", u"CompTabsAddCr", &S::CompTabsAddCr, true, SavedAs{ 27 }),
+    row(composer, u"NumberOfBlanks", &S::NumberOfBlanks, 5, { 1, 32767 }),
+    row(composer, u"AlwaysInsert", &S::AlwaysInsert, false),
+    row(composer, u"COMPaddCR", &S::COMPaddCR, true),
+    row(composer, u"COMPMacrosTickedCopy", &S::COMPMacrosTickedCopy, false),
+    row(composer, u"ComposerTop", &S::ComposerTop, 10, anyNumber),
+    row(composer, u"ComposerLeft", &S::ComposerLeft, 10, anyNumber),
+    row(u"Unsupported", u"ShowDX9to10", &S::ShowDX9to10, false),
 };
 
 } // namespace
@@ -25,6 +39,15 @@ ComposerSettings::ComposerSettings()
 std::span<const SettingRow<ComposerSettings>> ComposerSettings::rows()
 {
     return zeph::rows;
+}
+
+QPoint composerCorner(const ComposerSettings &settings, const QSize &screen)
+{
+    const auto within = [](double twips, int pixels) {
+        return pixelsFromTwips(twips >= 0 && twips < twipsFromPixels(pixels) ? twips : beyondScreen);
+    };
+    return { within(settings.ComposerLeft, screen.width()),
+             within(settings.ComposerTop, screen.height()) };
 }
 
 } // namespace zeph

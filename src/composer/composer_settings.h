@@ -5,6 +5,9 @@
 
 #include "settings/setting_row.h"
 
+#include <QPoint>
+#include <QSize>
+
 namespace zeph {
 
 /// The Composer.
@@ -14,7 +17,24 @@ struct ComposerSettings {
 
     static std::span<const SettingRow<ComposerSettings>> rows();
 
+    /// A line end follows a statement that a page inserts.
     bool CompTabsAddCr;
+    /// How many blanks the Spaces button inserts.
+    int NumberOfBlanks;
+    /// A click on a control never looks for its statement first.
+    bool AlwaysInsert;
+    /// A line end follows a macro that a double click inserts.
+    bool COMPaddCR;
+    /// The macro list is copied anew whenever the window becomes active.
+    bool COMPMacrosTickedCopy;
+    double ComposerTop; ///< twips
+    double ComposerLeft; ///< twips
+    /// DirectX axes 9 and 10 can be chosen.
+    bool ShowDX9to10;
 };
+
+/// Where the window's corner goes, in pixels: where it was, but a top or left beyond a screen of that
+/// size, in pixels too, counts as 10 twips.
+QPoint composerCorner(const ComposerSettings &settings, const QSize &screen);
 
 } // namespace zeph

@@ -11,7 +11,8 @@ namespace zeph {
 class ComposerEditor;
 
 /// Writes what the Composer's windows make into the documents, each insertion as one step to undo,
-/// and shows the box where there is a refusal instead.
+/// and shows the box where there is a refusal instead. Afterwards the Editor's document has the
+/// focus of its window.
 class StatementInserter
 {
 public:
@@ -27,10 +28,24 @@ public:
     bool insertIntoSelected(const Generated &statement);
     /// A fragment (control, slash modifier, remark) goes into the selected document in one colour.
     bool insertFragment(const QString &text, ColorRef colour);
+    /// A text as it is goes into the selected document, in its plain colour.
+    bool insertPlain(const QString &text);
+    /// Rich text goes into the selected document in the document's font, on a line of its own where
+    /// the caret is at the end of a text.
+    bool insertRich(const RichText &text);
+    /// Puts a statement in the place of a stretch of the joystick file, without the blanks at its
+    /// end. Gives the length of what is there then; no value when nothing was replaced.
+    std::optional<int> replace(int start, int length, const Generated &statement);
+
+    /// What insertComposed() would write now, and where.
+    Statement composedNow(const Statement &statement) const;
+
     /// Tells a refusal. For what is no statement.
     void refuse(const Refusal &refusal);
 
 private:
+    bool insert(const Statement &statement);
+
     Context m_context;
     Documents &m_documents;
     ComposerEditor &m_editor;

@@ -22,6 +22,14 @@ const QString blackBlanks(5, u' ');
 
 } // namespace
 
+QString macroInsertion(const Document &into, const QString &name)
+{
+    const int at = into.selStart();
+    const bool needsBlank =
+        into.selLength() == 0 && at > 0 && into.content().characterAt(at - 1) != u' ';
+    return (needsBlank ? u" "_s : QString()) + name + u' ';
+}
+
 ColouredInsert::ColouredInsert(const Context &context, EditorView &view)
     : m_context(context), m_view(view)
 {

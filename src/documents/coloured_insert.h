@@ -14,6 +14,10 @@ class Change;
 class Document;
 class EditorView;
 
+/// A macro's name as a double click inserts it into a document: with a blank after it, and one
+/// before it unless it replaces a selection, comes after a blank or begins the text.
+QString macroInsertion(const Document &into, const QString &name);
+
 /// Writes into the selected document in pieces: begin, any number of pieces in their colours, end.
 /// The whole insert is one undo step.
 class ColouredInsert

@@ -190,12 +190,9 @@ void MacroList::List1_DblClick()
         return;
     }
     const Document &document = m_parts.view.documents().selected();
-    const int at = document.selStart();
-    const bool needsBlank =
-        document.selLength() == 0 && at > 0 && document.content().characterAt(at - 1) != u' ';
     m_parts.insert.BeginColInsert();
     m_parts.insert.InsertColouredStringNoSpace(
-        (needsBlank ? u" "_s : QString()) + SelectedMacro + u' ',
+        macroInsertion(document, SelectedMacro),
         m_parts.view.documents().plainFormat(document.kind()).colour.value_or(0));
     m_parts.insert.EndColInsert();
     Q_EMIT inserted();

@@ -1,0 +1,373 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#include "composer/pages/composerpage.h"
+
+#include "composer/composer_editor.h"
+#include "composer/composer_settings.h"
+#include "composer/control_search.h"
+#include "composer/macro_mirror.h"
+#include "composer/statement_inserter.h"
+#include "cougar/controls_picture.h"
+#include "cougar/handle_file.h"
+#include "cougar/handle_list.h"
+#include "documents/coloured_insert.h"
+#include "platform/control_array.h"
+#include "platform/core/profile_file.h"
+#include "platform/dialogs.h"
+#include "platform/field_text.h"
+#include "platform/status_line.h"
+#include "settings/colour_settings.h"
+#include "settings/settings.h"
+#include "ui_composerpage.h"
+
+#include <QAbstractButton>
+#include <QMenu>
+#include <QTextDocument>
+
+namespace zeph {
+
+namespace {
+
+/// The picture whose hot spots serve while a handle cannot be shown.
+constexpr QStringView shippedHandle = u"F-16 Block 50.bmp";
+constexpr QStringView throttle = u"Throttle.bmp";
+
+constexpr int usualDelay = 60;
+constexpr int usualBlanks = 5;
+
+/// The blanks that a box asks for.
+int blanksOf(const QString &text)
+{
+    const int blanks = wholeOf(text);
+    return blanks < 1 ? usualBlanks
+                      : std::min(blanks, int(rangeOf(&ComposerSettings::NumberOfBlanks).most));
+}
+
+/// Ties a tick to a flag of the settings.
+void bind(QCheckBox *box, bool &flag)
+{
+    box->setChecked(flag);
+    QObject::connect(box, &QCheckBox::toggled, box, [&flag](bool on) { flag = on; });
+}
+
+} // namespace
+
+ComposerFirstPage::ComposerFirstPage(const ComposerParts &parts, QWidget *parent)
+    : ComposerPage(parts, parent), m_ui(std::make_unique<Ui::ComposerFirstPage>())
+{
+    m_ui->setupUi(this);
+    makeMenus();
+    connectPictures();
+    connectButtons();
+    connectMacros();
+    auto &settings = parts.context.settings.of<ComposerSettings>();
+    bind(m_ui->CheckAlwaysInsert, settings.AlwaysInsert);
+    bind(m_ui->CheckMacroAddCR, settings.COMPaddCR);
+    bind(m_ui->CheckCopyTicks, settings.COMPMacrosTickedCopy);
+    m_ui->Text1_8->setText(QString::number(settings.NumberOfBlanks));
+    m_ui->LabelControl->setMinimumHeight(m_ui->LabelControl->fontMetrics().lineSpacing() * 4);
+    GetHandles();
+    if (const auto shown = m_ui->Picture1_1->showDrawing(parts.context.paths.appFolder,
+                                                         throttle.toString());
+        !shown) {
+        parts.context.status.setText(u" Throttle.bmp can't be shown: "_s + shown.error().reason);
+    }
+}
+
+ComposerFirstPage::~ComposerFirstPage() = default;
+
+void ComposerFirstPage::enter()
+{
+    m_ui->SSTabHardware->setFocus();
+}
+
+void ComposerFirstPage::windowActivated()
+{
+    if (!m_ui->DLYText_0->hasFocus()) {
+        showText(*m_ui->DLYText_0, QString::number(m_parts.editor.DefaultDLYvalue()));
+    }
+}
+
+void ComposerFirstPage::makeMenus()
+{
+    const auto menu = [this](const QString &name) {
+        auto *made = new QMenu(this);
+        made->setObjectName(name);
+        return made;
+    };
+    const auto add = [this](QMenu *to, const QString &name, const QString &caption, auto act) {
+        QAction *entry = to->addAction(caption);
+        entry->setObjectName(name);
+        connect(entry, &QAction::triggered, this,
+                guarded(m_parts.context.dialogs, [act, entry](bool) { act(entry->text()); }));
+    };
+    const auto insert = [this](const QString &control) {
+        insertControl(control);
+    };
+    mnuHatPos = menu(u"mnuHatPos"_s);
+    const QStringList ways = offeredControls(u"HAT_0", true);
+    for (int i = 0; i < ways.size(); ++i) {
+        if (i == hatDirections) {
+            mnuHatPos->addSeparator();
+        }
+        add(mnuHatPos,
+            i < hatDirections ? u"MnuHatPostion_%1"_s.arg(i)
+                              : u"MnuHatCornerPostion_%1"_s.arg(i - hatDirections),
+            ways[i], insert);
+    }
+    mnuTrigger = menu(u"mnuTrigger"_s);
+    add(mnuTrigger, u"mnuTriggerStage_0"_s, u"TG1"_s, insert);
+    add(mnuTrigger, u"mnuTriggerStage_1"_s, u"TG2"_s, insert);
+    mnuRHList = menu(u"mnuRHList"_s);
+    add(mnuRHList, u"mnuRHListInsert"_s, u"&Insert into Joystick file"_s,
+        [this](const QString &) { insertMacro(m_menuMacro); });
+    add(mnuRHList, u"mnuFindInJoyFile"_s, u"&Find in joystick file"_s,
+        [this](const QString &) { m_parts.editor.FindMacroInJF(m_menuMacro); });
+    add(mnuRHList, u"mnuRHListEdit"_s, u"&Edit"_s,
+        [this](const QString &) { m_parts.editor.editMacro(m_menuMacro); });
+}
+
+void ComposerFirstPage::connectPictures()
+{
+    for (ControlsPicture *picture : { m_ui->Picture1_0, m_ui->Picture1_1 }) {
+        connect(picture, &ControlsPicture::clicked, this,
+                guarded(m_parts.context.dialogs,
+                        [this, picture](const QString &id) { clicked(*picture, id); }));
+        connect(picture, &ControlsPicture::hovered, this,
+                guarded(m_parts.context.dialogs,
+                        [this, picture](const QString &id) { tell(*picture, id); }));
+    }
+    connect(m_ui->ComboJoystickHandle, &QComboBox::currentIndexChanged, this,
+            guarded(m_parts.context.dialogs, [this](int) { ChangeHandle(); }));
+}
+
+void ComposerFirstPage::connectButtons()
+{
+    const auto onClick = [this](QAbstractButton *button, auto act) {
+        connect(button, &QAbstractButton::clicked, this,
+                guarded(m_parts.context.dialogs, [act](bool) { act(); }));
+    };
+    const ControlArray<QPushButton> slashes(this, u"SlashButton"_s);
+    for (int i = 0; i < slashes.count(); ++i) {
+        onClick(slashes[i], [this, i] { SlashButton_Click(i); });
+    }
+    onClick(m_ui->DlyRptButtons_0, [this] { DlyRptButtons_Click(0); });
+    onClick(m_ui->DlyRptButtons_1, [this] { DlyRptButtons_Click(1); });
+    onClick(m_ui->Command7_0, [this] { Command7_Click(0); });
+    onClick(m_ui->Command7_1, [this] { Command7_Click(1); });
+    onClick(m_ui->CommandREM, [this] { CommandREM_Click(); });
+    onClick(m_ui->Command10, [this] { m_ui->RemTextBox->clear(); });
+    onClick(m_ui->Command5_2, [this] { m_parts.editor.showCaretLine(); });
+    QAction *tumbo = m_parts.editor.action(u"mnuAppsTumbo");
+    onClick(m_ui->Command5_0, [tumbo] { tumbo->trigger(); });
+    const auto follow = [this, tumbo] {
+        m_ui->Command5_0->setEnabled(tumbo->isEnabled());
+    };
+    connect(tumbo, &QAction::changed, this, follow);
+    follow();
+    connect(m_ui->DLYText_0, &QLineEdit::editingFinished, this,
+            &ComposerFirstPage::DLYText_LostFocus);
+    connect(m_ui->RemTextBox, &QLineEdit::returnPressed, m_ui->CommandREM, &QPushButton::click);
+    connect(m_ui->Text1_8, &QLineEdit::textEdited, this, [this](const QString &text) {
+        if (wholeOf(text) >= 1) {
+            m_parts.context.settings.of<ComposerSettings>().NumberOfBlanks = blanksOf(text);
+        }
+    });
+}
+
+void ComposerFirstPage::connectMacros()
+{
+    Dialogs &dialogs = m_parts.context.dialogs;
+    connect(m_ui->FrameMacros, &MacroMirror::chosen, this,
+            guarded(dialogs, [this](const QString &name) { m_parts.editor.ShowMacroKeys(name); }));
+    connect(m_ui->FrameMacros, &MacroMirror::findWanted, this,
+            guarded(dialogs, [this](const QString &name) { m_parts.editor.FindMacroInJF(name); }));
+    connect(m_ui->FrameMacros, &MacroMirror::insertWanted, this,
+            guarded(dialogs, [this](const QString &name) { insertMacro(name); }));
+    connect(m_ui->FrameMacros, &MacroMirror::menuWanted, this,
+            [this](const QString &name, const QPoint &at) { showMacroMenu(name, at); });
+}
+
+void ComposerFirstPage::GetHandles()
+{
+    const HandleList handles =
+        listHandles(ProfileFile(m_parts.context.paths.iniPath), m_parts.context.paths.appFolder);
+    {
+        const QSignalBlocker loadingHandle(m_ui->ComboJoystickHandle);
+        m_ui->ComboJoystickHandle->clear();
+        m_ui->ComboJoystickHandle->addItems(handles.names);
+        m_ui->ComboJoystickHandle->setCurrentText(handles.chosen);
+    }
+    if (const auto shown = showHandle(handles.chosen); !shown) {
+        m_parts.context.status.setText(u' ' + shown.error());
+    }
+}
+
+Expected<void, QString> ComposerFirstPage::showHandle(const QString &name)
+{
+    const QString &folder = m_parts.context.paths.appFolder;
+    const auto handle = loadHandleFile(handlePath(folder, name));
+    if (!handle) {
+        m_triggerHasStages = true;
+        // Its picture may be missing as well; its hot spots never are.
+        (void)m_ui->Picture1_0->showDrawing(folder, shippedHandle.toString());
+        return Unexpected<QString>(u"The handle %1 can't be shown: %2"_s.arg(name).arg(
+            handle.error().reason));
+    }
+    m_triggerHasStages = handle->triggerHasStages;
+    if (const auto shown = m_ui->Picture1_0->showHandle(folder, *handle); !shown) {
+        return Unexpected<QString>(
+            u"%1 can't be shown: %2"_s.arg(handle->picture).arg(shown.error().reason));
+    }
+    return {};
+}
+
+void ComposerFirstPage::ChangeHandle()
+{
+    const QString name = m_ui->ComboJoystickHandle->currentText();
+    const auto kept = SaveHandle(ProfileFile(m_parts.context.paths.iniPath), name);
+    if (!kept) {
+        tellNotKept(m_parts.context.status, kept.error());
+    }
+    if (const auto shown = showHandle(name); !shown) {
+        m_parts.context.dialogs.tell(u"No such handle"_s, shown.error(), BoxIcon::Exclamation);
+    }
+}
+
+void ComposerFirstPage::clicked(const ControlsPicture &picture, const QString &id)
+{
+    m_parts.documents.select(DocumentKind::Joystick);
+    const QStringList controls = offeredControls(id, m_triggerHasStages);
+    if (controls.size() == 1) {
+        insertControl(controls.first());
+        return;
+    }
+    QMenu *menu = id == u"TRIG" ? mnuTrigger : mnuHatPos;
+    qsizetype next = 0;
+    for (QAction *entry : menu->actions()) {
+        if (!entry->isSeparator() && next < controls.size()) {
+            entry->setText(controls[next++]);
+        }
+    }
+    const QWidget *spot = picture.spot(id);
+    menu->popup(spot ? spot->mapToGlobal(spot->rect().bottomLeft()) : QCursor::pos());
+}
+
+void ComposerFirstPage::tell(ControlsPicture &picture, const QString &id)
+{
+    const QString text = m_parts.documents.joystick().text();
+    QStringList told;
+    for (const QString &control : offeredControls(id, m_triggerHasStages)) {
+        if (findControl(text, buttonStatement(control))) {
+            told.append(toldOf(text, control));
+        }
+    }
+    const QString shown = id.isEmpty() ? QString()
+        : told.isEmpty()               ? spokenName(id) + u": nothing yet"_s
+                                       : told.join(u'\n');
+    m_ui->LabelControl->setText(shown);
+    if (QAbstractButton *spot = picture.spot(id)) {
+        spot->setToolTip(Qt::convertFromPlainText(shown));
+        spot->setAccessibleDescription(shown);
+    }
+}
+
+void ComposerFirstPage::insertControl(const QString &control)
+{
+    const QString statement = buttonStatement(control);
+    m_parts.documents.select(DocumentKind::Joystick);
+    if (!goToStatement(statement)) {
+        m_parts.inserter.insertFragment(statement,
+                                        m_parts.context.settings.of<ColourSettings>().BTNColour);
+    }
+}
+
+bool ComposerFirstPage::goToStatement(const QString &statement)
+{
+    if (m_parts.context.settings.of<ComposerSettings>().AlwaysInsert) {
+        return false;
+    }
+    Document &joystick = m_parts.documents.joystick();
+    const auto found = findControl(joystick.text(), statement);
+    if (found) {
+        joystick.select(int(found->start + found->length), 0);
+        m_parts.context.status.setLine(joystick.caretLine());
+        m_parts.editor.ResetFocusToEditor();
+    }
+    return found.has_value();
+}
+
+void ComposerFirstPage::SlashButton_Click(int index)
+{
+    const QString caption = ControlArray<QPushButton>(this, u"SlashButton"_s)[index]->text();
+    m_parts.inserter.insertFragment(QString(caption).remove(u'&') + u' ',
+                                    m_parts.context.settings.of<ColourSettings>().SlashColour);
+}
+
+void ComposerFirstPage::DLYText_LostFocus()
+{
+    int delay = wholeOf(m_ui->DLYText_0->text());
+    if (delay < 1) {
+        delay = usualDelay;
+        m_ui->DLYText_0->setText(QString::number(delay));
+    }
+    if (delay != m_parts.editor.DefaultDLYvalue()) {
+        m_parts.editor.setDefaultDLYvalue(delay);
+    }
+}
+
+void ComposerFirstPage::DlyRptButtons_Click(int index)
+{
+    // A mnemonic runs the button while the box still has the focus.
+    DLYText_LostFocus();
+    m_parts.inserter.insertIntoSelected(
+        index == 0 ? plainStatement(u"DLY("_s + m_ui->DLYText_0->text() + u") "_s, false)
+                   : plainStatement(u"RPT("_s + m_ui->DLYText_1->text() + u") "_s, false));
+}
+
+void ComposerFirstPage::Command7_Click(int index)
+{
+    m_parts.inserter.insertPlain(index == 0 ? u"\n"_s
+                                            : QString(blanksOf(m_ui->Text1_8->text()), u' '));
+}
+
+void ComposerFirstPage::CommandREM_Click()
+{
+    m_parts.inserter.insertFragment(remAndBlank + m_ui->RemTextBox->text() + u' ',
+                                    m_parts.context.settings.of<ColourSettings>().RemStatements);
+}
+
+void ComposerFirstPage::insertMacro(const QString &name)
+{
+    QString text = macroInsertion(m_parts.documents.selected(), name);
+    if (m_parts.context.settings.of<ComposerSettings>().COMPaddCR) {
+        text += u'\n';
+    }
+    if (m_parts.inserter.insertPlain(text)) {
+        m_parts.editor.TickMacroList(name);
+    }
+}
+
+void ComposerFirstPage::showMacroMenu(const QString &name, const QPoint &at)
+{
+    m_menuMacro = name;
+    mnuRHList->popup(at);
+}
+
+void ComposerFirstPage::CopyMacroList()
+{
+    m_ui->FrameMacros->CopyMacroList(m_parts.editor.macroGroups());
+}
+
+void ComposerFirstPage::showTicks()
+{
+    m_ui->FrameMacros->showTicks(m_parts.editor.macroGroups());
+}
+
+void ComposerFirstPage::selectMacro(const QString &macro)
+{
+    m_ui->FrameMacros->select(macro);
+}
+
+} // namespace zeph

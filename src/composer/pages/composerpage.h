@@ -1,0 +1,73 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "composer/composer_page.h"
+
+#include <memory>
+
+class QAbstractButton;
+class QMenu;
+
+namespace zeph {
+
+class ControlsPicture;
+
+namespace Ui {
+class ComposerFirstPage;
+}
+
+/// The first page of the Composer: the controls to click on pictures of stick and throttle, the
+/// macros, and buttons for what goes between statements.
+class ComposerFirstPage : public ComposerPage
+{
+    Q_OBJECT
+public:
+    ComposerFirstPage(const ComposerParts &parts, QWidget *parent);
+    ~ComposerFirstPage() override;
+
+    bool read(const QString &) override { return false; }
+    void enter() override;
+    void windowActivated() override;
+
+    /// Lists the handles and shows the one in use.
+    void GetHandles();
+    /// Copies the Editor's macro list.
+    void CopyMacroList();
+    /// Shows the ticks that the Editor's list has now.
+    void showTicks();
+    /// Shows a macro that was chosen in the Editor's list.
+    void selectMacro(const QString &macro);
+
+private:
+    void connectPictures();
+    void connectButtons();
+    void connectMacros();
+    void makeMenus();
+    /// Shows the handle of that name. An error says why it is not shown.
+    Expected<void, QString> showHandle(const QString &name);
+    void ChangeHandle();
+    void clicked(const ControlsPicture &picture, const QString &id);
+    void tell(ControlsPicture &picture, const QString &id);
+    /// Writes a control's statement, or goes to the one that it has.
+    void insertControl(const QString &control);
+    bool goToStatement(const QString &statement);
+
+    void SlashButton_Click(int index);
+    void DlyRptButtons_Click(int index);
+    void DLYText_LostFocus();
+    void Command7_Click(int index);
+    void CommandREM_Click();
+    void insertMacro(const QString &name);
+    void showMacroMenu(const QString &name, const QPoint &at);
+
+    std::unique_ptr<Ui::ComposerFirstPage> m_ui;
+    QMenu *mnuHatPos = nullptr;
+    QMenu *mnuTrigger = nullptr;
+    QMenu *mnuRHList = nullptr;
+    QString m_menuMacro; ///< the macro that mnuRHList is about
+    bool m_triggerHasStages = true;
+};
+
+} // namespace zeph
