@@ -7,6 +7,9 @@
 #include "composer/composer_keys.h"
 #include "composer/composer_settings.h"
 #include "composer/pages/composerpage.h"
+#include "composer/pages/hatspage.h"
+#include "composer/pages/logicalpage.h"
+#include "composer/pages/mousepage.h"
 #include "composer/pages/templatespage.h"
 #include "composer/statementpreview.h"
 #include "documents/document_settings.h"
@@ -44,13 +47,13 @@ struct PageRow {
 // clang-format off
 constexpr std::array<PageRow, InsertOptions::pageCount> pageRows = {
     PageRow{ u"&Composer", 2005, make<ComposerFirstPage> },
-    PageRow{ u"&Hats", 2010, nullptr },
+    PageRow{ u"&Hats", 2010, make<HatsPage> },
     PageRow{ u"&Digital axis", 2015, nullptr },
     PageRow{ u"&Analogue axis", 2020, nullptr },
-    PageRow{ u"&Mouse / Microstick", 2025, nullptr },
+    PageRow{ u"&Mouse / Microstick", 2025, make<MousePage> },
     PageRow{ u"&Use / Misc.", 2030, nullptr },
     PageRow{ u"Tem&plates", 2035, make<TemplatesPage> },
-    PageRow{ u"&Logical", 2040, nullptr },
+    PageRow{ u"&Logical", 2040, make<LogicalPage> },
 };
 // clang-format on
 
@@ -99,6 +102,8 @@ ComposerPage *InsertOptions::page(Page which)
         made = pageRows[which].make(m_parts, place);
         place->layout()->addWidget(made);
         bindLineEndBoxes(*made);
+        connect(made, &ComposerPage::helpWanted, this, &InsertOptions::keywordWanted);
+        connect(made, &ComposerPage::flagsWanted, this, &InsertOptions::flagsWanted);
         made->windowActivated();
     }
     return made;

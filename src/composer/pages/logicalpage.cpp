@@ -25,10 +25,14 @@ namespace {
 
 /// What a button of CMDCompare does, by index.
 constexpr QStringView compareTips[] = {
-    u"Both have to be on", u"One of the two, or both, have to be on",
-    u"The reverse of what follows", u"Begins what belongs together", u"Ends what belongs together",
+    u"Both have to be on",
+    u"One of the two, or both, have to be on",
+    u"The reverse of what follows",
+    u"Begins what belongs together",
+    u"Ends what belongs together",
     u"Begins a statement that says what happens when a flag comes on: BTN X1 ...",
-    u"Begins a statement that says when a flag is on: DEF X1 ...", u"The sign *",
+    u"Begins a statement that says when a flag is on: DEF X1 ...",
+    u"The sign *",
 };
 static_assert(std::size(compareTips) == std::size(compareWords));
 
@@ -218,11 +222,7 @@ void LogicalPage::enter()
 
 void LogicalPage::windowActivated()
 {
-    showColours();
-}
-
-void LogicalPage::showColours()
-{
+    m_ui->TxtFlag_4->setText(QString::number(m_parts.editor.DefaultDLYvalue()));
     const auto &colours = m_parts.context.settings.of<ColourSettings>();
     const ColourScheme scheme = colourScheme(colours, DocumentKind::Joystick);
     const CharFormat plain = plainFormat(colours, DocumentKind::Joystick);
@@ -303,7 +303,8 @@ void LogicalPage::readBack()
     }
     const QString path = m_parts.context.paths.tempFolder() + u"logic.txt"_s;
     if (const auto written = writeFileAtomically(path, toText1252(text)); !written) {
-        m_parts.context.status.setText(u" I couldn't write %1: %2"_s.arg(path, written.error().reason));
+        m_parts.context.status.setText(
+            u" I couldn't write %1: %2"_s.arg(path, written.error().reason));
     }
     const std::optional<Refusal> nothing = m_workbench.readBack(text);
     showLines();

@@ -47,7 +47,6 @@ private:
     void makeLine(int index, QWidget *sheet);
     void connectButtons();
     FlagFields fields() const;
-    void showColours();
     void showLines();
     void select(int index);
     /// The selected line if it is empty, else the first empty one, else the selected one.

@@ -195,8 +195,7 @@ void MousePage::show(const ReadMouseCommand &command)
 void MousePage::showButtonsOfType()
 {
     const auto [left, right] = buttonsOfMouseType(typeFields().type);
-    m_ui->label5->setText(
-        u"Left mouse button: %1\nRight mouse button: %2"_s.arg(left, right));
+    m_ui->label5->setText(u"Left mouse button: %1\nRight mouse button: %2"_s.arg(left, right));
 }
 
 void MousePage::DisableChecksForUSeAxisAsMouse()
@@ -226,8 +225,7 @@ void MousePage::Command9_Click(int index)
     m_parts.inserter.insertComposed(statement);
     if (!statement) {
         const bool lacksStart = fields.hasStart && fields.start.isEmpty();
-        askFor(lacksStart && !fields.increment.isEmpty() ? *m_ui->TXT_Mouse_2
-                                                         : *m_ui->TXT_Mouse_1);
+        askFor(lacksStart && !fields.increment.isEmpty() ? *m_ui->TXT_Mouse_2 : *m_ui->TXT_Mouse_1);
     }
 }
 
