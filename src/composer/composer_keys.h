@@ -15,7 +15,7 @@ namespace zeph {
 
 /// A key of the Composer that runs a menu entry of the Editor.
 struct ComposerKey {
-    int key; ///< Qt::Key with modifiers
+    QKeyCombination key;
     QStringView entry;
     /// What the key does in a text box, which keeps it for itself; UnknownKey for any other key.
     QKeySequence::StandardKey inTextBox = QKeySequence::UnknownKey;

@@ -15,7 +15,7 @@ class StatementInserter;
 
 /// What a page of the Composer works with. All of it must outlive the page.
 struct ComposerParts {
-    const Context &context;
+    Context context;
     Documents &documents;
     StatementInserter &inserter;
     ComposerEditor &editor;

@@ -44,7 +44,8 @@ std::span<const SettingRow<ComposerSettings>> ComposerSettings::rows()
 QPoint composerCorner(const ComposerSettings &settings, const QSize &screen)
 {
     const auto within = [](double twips, int pixels) {
-        return pixelsFromTwips(twips >= 0 && twips < twipsFromPixels(pixels) ? twips : beyondScreen);
+        return pixelsFromTwips(twips >= 0 && twips < twipsFromPixels(pixels) ? twips
+                                                                             : beyondScreen);
     };
     return { within(settings.ComposerLeft, screen.width()),
              within(settings.ComposerTop, screen.height()) };

@@ -33,8 +33,8 @@ struct ComposerSettings {
     bool ShowDX9to10;
 };
 
-/// Where the window's corner goes, in pixels: where it was, but a top or left beyond a screen of that
-/// size, in pixels too, counts as 10 twips.
+/// Where the window's corner goes, in pixels: where it was, but a top or left beyond a screen of
+/// that size, in pixels too, counts as 10 twips.
 QPoint composerCorner(const ComposerSettings &settings, const QSize &screen);
 
 } // namespace zeph

@@ -27,9 +27,8 @@ constexpr int linesTold = 6;
 
 bool isAxisText(const QString &text)
 {
-    return std::ranges::any_of(axisWords, [&text](QStringView word) {
-        return text.contains(word, Qt::CaseInsensitive);
-    });
+    return std::ranges::any_of(
+        axisWords, [&text](QStringView word) { return text.contains(word, Qt::CaseInsensitive); });
 }
 
 bool isInComment(QStringView text, qsizetype at)
@@ -52,7 +51,7 @@ QStringList offeredControls(QStringView id, bool triggerHasStages)
         }
         QStringList controls;
         for (const QStringView way : hatWays) {
-            controls.append(u'H' + QString::number(hat + 1) + way);
+            controls.append(u"H%1%2"_s.arg(hat + 1).arg(way));
         }
         return controls;
     }
@@ -96,8 +95,7 @@ QString toldOf(QStringView joystickText, const QString &control)
     forEachLine(joystickText.sliced(start), [&](QStringView line) {
         // The statement goes on in the lines that start with a blank or with a slash.
         isOver = isOver
-            || (!lines.isEmpty()
-                && (line.isEmpty() || !(line[0].isSpace() || line[0] == u'/')));
+            || (!lines.isEmpty() && (line.isEmpty() || !(line[0].isSpace() || line[0] == u'/')));
         if (isOver) {
             return;
         }

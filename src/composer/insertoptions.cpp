@@ -101,6 +101,8 @@ ComposerPage *InsertOptions::page(Page which)
         QWidget *place = m_ui->SSTab1->widget(which);
         made = pageRows[which].make(m_parts, place);
         place->layout()->addWidget(made);
+        // The layout would show it only when the event loop runs, too late for the focus.
+        made->show();
         bindLineEndBoxes(*made);
         connect(made, &ComposerPage::helpWanted, this, &InsertOptions::keywordWanted);
         connect(made, &ComposerPage::flagsWanted, this, &InsertOptions::flagsWanted);
@@ -212,14 +214,15 @@ void InsertOptions::readStatement()
             return;
         }
     }
-    m_context.status.setText(u" No page of the Composer makes statements like the one at the caret"_s);
+    m_context.status.setText(
+        u" No page of the Composer makes statements like the one at the caret"_s);
 }
 
 void InsertOptions::GetSpaces()
 {
-    tellProblems(m_context.dialogs,
-                 readGroup(m_context.settings.group<ComposerSettings>(),
-                           settingsFilesOf(m_context.paths)));
+    tellProblems(
+        m_context.dialogs,
+        readGroup(m_context.settings.group<ComposerSettings>(), settingsFilesOf(m_context.paths)));
 }
 
 void InsertOptions::SaveSpaces()

@@ -83,8 +83,9 @@ void MacroMirrorList::contextMenuEvent(QContextMenuEvent *event)
 {
     const bool byMouse = event->reason() == QContextMenuEvent::Mouse;
     if (byMouse ? itemAt(event->pos()) != nullptr : currentItem() != nullptr) {
-        Q_EMIT menuWanted(byMouse ? event->globalPos()
-                                  : viewport()->mapToGlobal(visualItemRect(currentItem()).center()));
+        Q_EMIT menuWanted(byMouse
+                              ? event->globalPos()
+                              : viewport()->mapToGlobal(visualItemRect(currentItem()).center()));
     }
 }
 
@@ -95,9 +96,9 @@ QStringList MacroMirrorList::mimeTypes() const
 
 QMimeData *MacroMirrorList::mimeData(const QList<QListWidgetItem *> &items) const
 {
-    auto *data = new QMimeData;
-    data->setText(items.isEmpty() ? QString() : u' ' + items.first()->text() + u' ');
-    return data;
+    auto *dragged = new QMimeData;
+    dragged->setText(items.isEmpty() ? QString() : u' ' + items.first()->text() + u' ');
+    return dragged;
 }
 
 MacroMirror::MacroMirror(QWidget *parent)
@@ -128,9 +129,8 @@ MacroMirrorList *MacroMirror::addList()
     connect(list, &MacroMirrorList::chosen, this, &MacroMirror::chosen);
     connect(list, &MacroMirrorList::findWanted, this, &MacroMirror::findWanted);
     connect(list, &MacroMirrorList::insertWanted, this, &MacroMirror::insertWanted);
-    connect(list, &MacroMirrorList::menuWanted, this, [this, list](const QPoint &at) {
-        Q_EMIT menuWanted(list->currentName(), at);
-    });
+    connect(list, &MacroMirrorList::menuWanted, this,
+            [this, list](const QPoint &at) { Q_EMIT menuWanted(list->currentName(), at); });
     m_lists->addWidget(list);
     return list;
 }

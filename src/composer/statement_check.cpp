@@ -28,7 +28,6 @@ bool definesControl(StatementKind kind)
         || kind == StatementKind::FlagDefinition || kind == StatementKind::Axis;
 }
 
-
 void addUnknownWords(const JoystickFile &file, const JoystickStatement &statement,
                      QStringList &findings)
 {

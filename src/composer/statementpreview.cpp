@@ -47,14 +47,15 @@ StatementPreview::StatementPreview(const ComposerParts &parts, QWidget *parent)
     m_ui->setupUi(this);
     m_ui->PreviewText->setFixedHeight(
         m_ui->PreviewText->fontMetrics().lineSpacing() * linesShown
-        + 2 * (m_ui->PreviewText->frameWidth()
+        + 2
+            * (m_ui->PreviewText->frameWidth()
                + int(m_ui->PreviewText->document()->documentMargin())));
     m_ui->LabelFindings->setMinimumHeight(m_ui->LabelFindings->fontMetrics().lineSpacing()
                                           * mostFindings);
     m_soon.setSingleShot(true);
     m_soon.setInterval(pause);
     connect(&m_soon, &QTimer::timeout, this,
-            guarded(parts.context.dialogs, [this] { refreshNow(); }));
+            guarded(parts.context.dialogs, [this](auto &&...) { refreshNow(); }));
     connect(m_ui->CMD_ReadStatement, &QPushButton::clicked, this, &StatementPreview::readWanted);
     connect(m_ui->CMD_ReplaceStatement, &QPushButton::clicked, this,
             guarded(parts.context.dialogs, [this](bool) { CMD_ReplaceStatement_Click(); }));
@@ -126,20 +127,18 @@ void StatementPreview::showNothing(const QString &why)
 {
     m_ui->PreviewText->clear();
     m_ui->LabelFindings->clear();
-    m_ui->LabelLanding->setText(
-        why.isEmpty() ? u"The caret is in line %1 of %2"_s
-                            .arg(m_parts.documents.selected().caretLine())
-                            .arg(m_parts.documents.selected().caption())
-                      : why);
+    m_ui->LabelLanding->setText(why.isEmpty() ? u"The caret is in line %1 of %2"_s
+                                                    .arg(m_parts.documents.selected().caretLine())
+                                                    .arg(m_parts.documents.selected().caption())
+                                              : why);
 }
 
 void StatementPreview::showStatement(const Statement &statement)
 {
     const auto &colours = m_parts.context.settings.of<ColourSettings>();
     Document &joystick = m_parts.documents.joystick();
-    const RichText shown =
-        richTextOf(statement, colourScheme(colours, DocumentKind::Joystick),
-                   plainFormat(colours, DocumentKind::Joystick));
+    const RichText shown = richTextOf(statement, colourScheme(colours, DocumentKind::Joystick),
+                                      plainFormat(colours, DocumentKind::Joystick));
     QPalette palette;
     palette.setColor(QPalette::Base, toColor(documentBackground(colours, DocumentKind::Joystick)));
     m_ui->PreviewText->setPalette(palette);
@@ -150,8 +149,7 @@ void StatementPreview::showStatement(const Statement &statement)
                                       m_parts.inserter.composedNow(statement));
     m_ui->LabelLanding->setText(
         u"Goes into line %1 of %2"_s.arg(landing.line).arg(joystick.caption()));
-    m_ui->LabelFindings->setText(
-        inWords(findingsOf(landing, m_parts.documents.macro().text())));
+    m_ui->LabelFindings->setText(inWords(findingsOf(landing, m_parts.documents.macro().text())));
 }
 
 void StatementPreview::CMD_ReplaceStatement_Click()

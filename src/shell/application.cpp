@@ -26,6 +26,7 @@
 #include "settings/settings.h"
 #include "settings/settings_files.h"
 #include "settings/shared_settings.h"
+#include "shell/composer_tools.h"
 #include "shell/first_run.h"
 #include "shell/help_menu.h"
 #include "shell/main_scene.h"
@@ -268,6 +269,13 @@ void Application::addToolWindows()
         QObject::connect(&form, &TemplateForm::fileWritten, m_editor, [this](const QString &path) {
             m_editor->opening().offerToReload({ path });
         });
+    });
+    auto *composer = new ComposerTools(context(), windows, *m_editor);
+    QObject::connect(composer, &ComposerTools::helpWanted, m_help,
+                     guarded(m_options.dialogs, [this](int topic) { m_help->showTopic(topic); }));
+    windows.whenLoaded<TemplateForm>(m_mum.get(), [composer](TemplateForm &form) {
+        form.actions().connectTo(u"mnuComposerPlugin", [composer] { composer->openTemplates(); });
+        form.actions().action(u"mnuComposerPlugin")->setEnabled(true);
     });
     m_editor->actions().connectTo(u"mnuAppsViewReadMe", [this, &windows] {
         windows.open<TemplateForm>()->OpenReadMe(m_editor->useDirectives().textFilePath());

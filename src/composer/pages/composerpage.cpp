@@ -68,8 +68,8 @@ ComposerFirstPage::ComposerFirstPage(const ComposerParts &parts, QWidget *parent
     m_ui->Text1_8->setText(QString::number(settings.NumberOfBlanks));
     m_ui->LabelControl->setMinimumHeight(m_ui->LabelControl->fontMetrics().lineSpacing() * 4);
     GetHandles();
-    if (const auto shown = m_ui->Picture1_1->showDrawing(parts.context.paths.appFolder,
-                                                         throttle.toString());
+    if (const auto shown =
+            m_ui->Picture1_1->showDrawing(parts.context.paths.appFolder, throttle.toString());
         !shown) {
         parts.context.status.setText(u" Throttle.bmp can't be shown: "_s + shown.error().reason);
     }
@@ -212,8 +212,8 @@ Expected<void, QString> ComposerFirstPage::showHandle(const QString &name)
         m_triggerHasStages = true;
         // Its picture may be missing as well; its hot spots never are.
         (void)m_ui->Picture1_0->showDrawing(folder, shippedHandle.toString());
-        return Unexpected<QString>(u"The handle %1 can't be shown: %2"_s.arg(name).arg(
-            handle.error().reason));
+        return Unexpected<QString>(
+            u"The handle %1 can't be shown: %2"_s.arg(name).arg(handle.error().reason));
     }
     m_triggerHasStages = handle->triggerHasStages;
     if (const auto shown = m_ui->Picture1_0->showHandle(folder, *handle); !shown) {
@@ -334,7 +334,7 @@ void ComposerFirstPage::Command7_Click(int index)
 
 void ComposerFirstPage::CommandREM_Click()
 {
-    m_parts.inserter.insertFragment(remAndBlank + m_ui->RemTextBox->text() + u' ',
+    m_parts.inserter.insertFragment(remAndBlank.toString() + m_ui->RemTextBox->text() + u' ',
                                     m_parts.context.settings.of<ColourSettings>().RemStatements);
 }
 

@@ -49,10 +49,9 @@ TemplatesPage::TemplatesPage(const ComposerParts &parts, QWidget *parent)
     }
     m_ui->TemplatesPreview->viewport()->installEventFilter(this);
     m_ui->TemplatesPreview->setContextMenuPolicy(Qt::CustomContextMenu);
-    connect(m_ui->TemplatesPreview, &QWidget::customContextMenuRequested, this,
-            [this](const QPoint &at) {
-                mnuTemplates->popup(m_ui->TemplatesPreview->mapToGlobal(at));
-            });
+    connect(
+        m_ui->TemplatesPreview, &QWidget::customContextMenuRequested, this,
+        [this](const QPoint &at) { mnuTemplates->popup(m_ui->TemplatesPreview->mapToGlobal(at)); });
     FillTemplates();
 }
 
@@ -106,8 +105,8 @@ void TemplatesPage::showTemplate(const QString &name)
         return;
     }
     const auto bytes = readWholeFile(path);
-    const auto file = bytes ? readTemplate(name, *bytes, {})
-                            : Unexpected<QString>(bytes.error().reason);
+    const auto file =
+        bytes ? readTemplate(name, *bytes, {}) : Unexpected<QString>(bytes.error().reason);
     if (!file) {
         m_parts.context.dialogs.tell(u"Can't read file"_s,
                                      name + u" wasn't opened: "_s + file.error(),

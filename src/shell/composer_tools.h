@@ -1,0 +1,53 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include "composer/composer_editor.h"
+#include "platform/context.h"
+
+#include <QObject>
+
+namespace zeph {
+
+class Editor;
+class LineBlink;
+class ToolWindows;
+
+/// The Composer's window and the Editor as that knows it. Registers the window under its menu
+/// entry, and keeps its macro list like the Editor's.
+class ComposerTools : public QObject, public ComposerEditor
+{
+    Q_OBJECT
+public:
+    /// The Editor owns this object.
+    ComposerTools(const Context &context, ToolWindows &windows, Editor &editor);
+
+    /// Opens the Composer at the page of the templates.
+    void openTemplates();
+
+    QList<MacroGroup> macroGroups() const override;
+    void ShowMacroKeys(const QString &macro) override;
+    void TickMacroList(const QString &macro) override;
+    void FindMacroInJF(const QString &macro) override;
+    void editMacro(const QString &macro) override;
+    int DefaultDLYvalue() const override;
+    void setDefaultDLYvalue(int milliseconds) override;
+    QAction *action(QStringView name) const override;
+    void ResetFocusToEditor() override;
+    void showCaretLine() override;
+
+Q_SIGNALS:
+    /// The help topic of that number is wanted.
+    void helpWanted(int topic);
+
+private:
+    void followMacroList();
+
+    Context m_context;
+    ToolWindows &m_windows;
+    Editor &m_editor;
+    LineBlink *m_blink;
+};
+
+} // namespace zeph

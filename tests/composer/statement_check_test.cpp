@@ -1,0 +1,82 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#include "composer/statement_check.h"
+
+#include <gtest/gtest.h>
+
+using namespace zeph;
+
+namespace {
+
+/// What is found when a statement goes to the end of a text.
+QStringList findings(const QString &text, const QString &statement, const QString &macroText = {})
+{
+    return findingsOf(landingOf(text, int(text.size()), 0, { { { statement } }, true }), macroText);
+}
+
+} // namespace
+
+TEST(Findings, AGoodStatementHasNone)
+{
+    EXPECT_EQ(findings(QString(), u"BTN S1 a"_s), QStringList());
+    EXPECT_EQ(findings(QString(), u"BTN S1 Fire"_s, u"Fire = SPC\n"_s), QStringList());
+}
+
+TEST(Findings, AMacroThatDoesNotExist)
+{
+    const QStringList found = findings(QString(), u"BTN S1 Fire Fire"_s, u"Gun = x\n"_s);
+    EXPECT_EQ(found, QStringList{ u"Fire is neither a key nor a macro of the macro file"_s });
+}
+
+TEST(Findings, ASecondStatementForTheSameControl)
+{
+    EXPECT_EQ(findings(u"Rem first\nbtn s1 a\n"_s, u"BTN S1 b"_s),
+              QStringList{ u"Line 2 has a statement for S1 already"_s });
+    EXPECT_EQ(findings(u"BTN S2 a\n"_s, u"BTN S1 b"_s), QStringList());
+}
+
+TEST(Findings, MistakesElsewhereInTheFileAreNotTold)
+{
+    EXPECT_EQ(findings(u"BTN S9 a\n"_s, u"BTN S1 b"_s), QStringList());
+}
+
+TEST(Findings, AMistakeInTheStatement)
+{
+    const QStringList found = findings(QString(), u"BTN S9 a"_s);
+    ASSERT_EQ(found.size(), 1);
+    EXPECT_TRUE(found[0].contains(u"S9"_s)) << found[0].toStdString();
+}
+
+TEST(StatementAtCaret, IsThatOfTheCaretsLine)
+{
+    const QString text = u"USE RATE (50)\nBTN S1 /U a\n  /M b Rem two\n\nBTN S2 c"_s;
+    const auto rate = statementAt(text, 3);
+    ASSERT_TRUE(rate);
+    EXPECT_EQ(rate->text, u"USE RATE (50)"_s);
+    EXPECT_EQ(rate->start, 0);
+    EXPECT_EQ(rate->length, 13);
+    // In the second line of a statement.
+    const auto button = statementAt(text, 30);
+    ASSERT_TRUE(button);
+    EXPECT_EQ(button->text, u"BTN S1 /U a\n  /M b"_s);
+    EXPECT_EQ(button->start, 14);
+    EXPECT_FALSE(button->hasComments);
+    const auto last = statementAt(text, int(text.size()));
+    ASSERT_TRUE(last);
+    EXPECT_EQ(last->text, u"BTN S2 c"_s);
+}
+
+TEST(StatementAtCaret, CommentsAreLeftOutAndTold)
+{
+    const auto read = statementAt(u"BTN S1 /U a Rem up\n  /M b"_s, 0);
+    ASSERT_TRUE(read);
+    EXPECT_EQ(read->text, u"BTN S1 /U a\n  /M b"_s);
+    EXPECT_TRUE(read->hasComments);
+}
+
+TEST(StatementAtCaret, ThereIsNoneInAnEmptyTextOrACommentsLine)
+{
+    EXPECT_FALSE(statementAt(QString(), 0));
+    EXPECT_FALSE(statementAt(u"Rem BTN S1 a\nBTN S2 b"_s, 4));
+}
