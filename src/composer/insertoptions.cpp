@@ -146,8 +146,8 @@ void InsertOptions::makeKeys()
     }
     add(Qt::Key_F1, [this] { CommandHelp_Click(); });
     add(Qt::Key_F2, [this] { returnToEditor(); });
-    add(Qt::CTRL | Qt::Key_Tab, [this] { turnPage(1); });
-    add(Qt::CTRL | Qt::SHIFT | Qt::Key_Tab, [this] { turnPage(-1); });
+    add(QKeyCombination(Qt::CTRL, Qt::Key_Tab), [this] { turnPage(1); });
+    add(QKeyCombination(Qt::CTRL | Qt::SHIFT, Qt::Key_Tab), [this] { turnPage(-1); });
 }
 
 void InsertOptions::runKey(const ComposerKey &key)

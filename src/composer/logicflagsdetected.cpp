@@ -60,14 +60,14 @@ void LogicFlagsDetected::CheckForUnassignedFlags()
     const QString text = m_documents.joystick().text();
     const auto free = freeFlags(text);
     for (int flag = 0; flag < m_labels.count(); ++flag) {
-        show(flag, free[size_t(flag)]);
+        showFlag(flag, free[size_t(flag)]);
     }
     if (!text.trimmed().isEmpty()) {
         m_context.status.setText(u" Unassigned flags indicated in green"_s);
     }
 }
 
-void LogicFlagsDetected::show(int flag, bool isFree) const
+void LogicFlagsDetected::showFlag(int flag, bool isFree) const
 {
     QPalette look;
     if (isFree) {

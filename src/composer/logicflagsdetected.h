@@ -46,7 +46,7 @@ protected:
 
 private:
     void makeLabels();
-    void show(int flag, bool isFree) const;
+    void showFlag(int flag, bool isFree) const;
 
     Context m_context;
     Documents &m_documents;

@@ -16,11 +16,7 @@ namespace {
 class FlagsWindow : public test::PageTest
 {
 protected:
-    void SetUp() override
-    {
-        showEditor();
-        open().showPage(InsertOptions::Logical);
-    }
+    void SetUp() override { openPage(InsertOptions::Logical); }
     LogicFlagsDetected &openFlags()
     {
         click(u"CMD_ShowFlags"_s);

@@ -49,7 +49,7 @@ bool HatsPage::read(const QString &statement)
 {
     if (const auto role = readHatStatement(statement)) {
         m_ui->SSTabHats->setCurrentIndex(RoleTab);
-        show(*role);
+        showFields(*role);
         return true;
     }
     if (const auto hat = readForcedCorners(statement)) {
@@ -72,7 +72,7 @@ HatFields HatsPage::fields() const
              m_ui->TXT_hatrate->text(), m_options.ticked() };
 }
 
-void HatsPage::show(const HatFields &fields)
+void HatsPage::showFields(const HatFields &fields)
 {
     m_ui->ComboHatAs->setCurrentText(fields.hat);
     m_ui->ComboHatUSE->setCurrentText(fields.role);

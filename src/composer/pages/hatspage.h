@@ -29,7 +29,7 @@ public:
 
 private:
     HatFields fields() const;
-    void show(const HatFields &fields);
+    void showFields(const HatFields &fields);
     /// Enables the fields that the chosen hat and role take.
     void SetupHatUSE();
     void CMDHatViewInsert_Click();

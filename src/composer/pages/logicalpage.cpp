@@ -9,7 +9,6 @@
 #include "composer/statement_inserter.h"
 #include "documents/editor_texts.h"
 #include "platform/core/file_io.h"
-#include "platform/core/text1252.h"
 #include "platform/dialogs.h"
 #include "platform/status_line.h"
 #include "settings/colour_settings.h"
@@ -52,7 +51,6 @@ LogicalPage::LogicalPage(const ComposerParts &parts, QWidget *parent)
     makeWordButtons();
     makeLines();
     connectButtons();
-    windowActivated();
 }
 
 LogicalPage::~LogicalPage() = default;
@@ -241,6 +239,10 @@ void LogicalPage::showLines()
 void LogicalPage::select(int index)
 {
     m_workbench.select(index);
+    // The line with the caret is the selected one; a page that comes to the front restores it.
+    if (qobject_cast<StatementLine *>(focusWidget())) {
+        m_lines[index]->setFocus();
+    }
     m_ui->SSTabFlags->setCurrentIndex(index / LogicWorkbench::linesPerTab);
     Q_EMIT changed();
 }
@@ -302,7 +304,7 @@ void LogicalPage::readBack()
         return;
     }
     const QString path = m_parts.context.paths.tempFolder() + u"logic.txt"_s;
-    if (const auto written = writeFileAtomically(path, toText1252(text)); !written) {
+    if (const auto written = writeFileAtomically(path, documentBytes(text)); !written) {
         m_parts.context.status.setText(
             u" I couldn't write %1: %2"_s.arg(path, written.error().reason));
     }

@@ -46,7 +46,6 @@ MousePage::MousePage(const ComposerParts &parts, QWidget *parent)
     connect(m_ui->CHK_Mouse_0, &QCheckBox::toggled, m_ui->TXT_Mouse_2, &QWidget::setEnabled);
     connectButtons();
     announceChanges(*this);
-    windowActivated();
 }
 
 MousePage::~MousePage() = default;
@@ -64,7 +63,7 @@ void MousePage::fillLists()
     fill(*m_ui->ComboAnalogueAxes_8, mouseDrivers);
     AxisAsMouseFields fields;
     fields.axis = mouseDrivers[0].toString();
-    show(settled(fields));
+    showFields(settled(fields));
 }
 
 void MousePage::connectButtons()
@@ -104,12 +103,12 @@ bool MousePage::read(const QString &statement)
 {
     if (const auto type = readMouseType(statement)) {
         m_ui->SSTab4->setCurrentIndex(TypeTab);
-        show(*type);
+        showFields(*type);
         return true;
     }
     if (const auto axis = readAxisAsMouse(statement)) {
         m_ui->SSTab4->setCurrentIndex(AxisTab);
-        show(*axis);
+        showFields(*axis);
         return true;
     }
     // The other buttons' words are pieces of a statement.
@@ -117,7 +116,7 @@ bool MousePage::read(const QString &statement)
     if (const auto command = readMouseCommand(statement);
         command && (command->command == ButtonStatement || command->command == ZeroMouse)) {
         m_ui->SSTab4->setCurrentIndex(tabOf(command->command));
-        show(*command);
+        showFields(*command);
         return true;
     }
     return false;
@@ -161,7 +160,7 @@ MouseCommandFields MousePage::commandFields() const
              m_ui->TXT_DigitalAxis_8->text() };
 }
 
-void MousePage::show(const MouseTypeFields &fields)
+void MousePage::showFields(const MouseTypeFields &fields)
 {
     for (const QListWidgetItem *each : m_ui->MouseList->findItems(fields.type, Qt::MatchExactly)) {
         m_ui->MouseList->setCurrentRow(m_ui->MouseList->row(each));
@@ -169,7 +168,7 @@ void MousePage::show(const MouseTypeFields &fields)
     m_typeOptions.tick(fields.options);
 }
 
-void MousePage::show(const AxisAsMouseFields &fields)
+void MousePage::showFields(const AxisAsMouseFields &fields)
 {
     m_ui->ComboAnalogueAxes_8->setCurrentText(fields.axis);
     DisableChecksForUSeAxisAsMouse();
@@ -183,7 +182,7 @@ void MousePage::show(const AxisAsMouseFields &fields)
     m_axisOptions.tick(fields.options);
 }
 
-void MousePage::show(const ReadMouseCommand &command)
+void MousePage::showFields(const ReadMouseCommand &command)
 {
     if (command.command == MouseCommand::ButtonStatement) {
         const bool both = command.fields.statement == 1;

@@ -35,9 +35,9 @@ private:
     MouseTypeFields typeFields() const;
     AxisAsMouseFields axisFields() const;
     MouseCommandFields commandFields() const;
-    void show(const MouseTypeFields &fields);
-    void show(const AxisAsMouseFields &fields);
-    void show(const ReadMouseCommand &command);
+    void showFields(const MouseTypeFields &fields);
+    void showFields(const AxisAsMouseFields &fields);
+    void showFields(const ReadMouseCommand &command);
     void showButtonsOfType();
     /// Offers what the chosen axis can drive, and enables the options that go with it.
     void DisableChecksForUSeAxisAsMouse();

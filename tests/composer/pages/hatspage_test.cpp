@@ -12,11 +12,7 @@ namespace {
 class HatsPageTest : public test::PageTest
 {
 protected:
-    void SetUp() override
-    {
-        showEditor();
-        open().showPage(InsertOptions::Hats);
-    }
+    void SetUp() override { openPage(InsertOptions::Hats); }
     void chooseHat(const QString &hat, const QString &role)
     {
         choose(u"ComboHatAs"_s, hat);
@@ -165,7 +161,7 @@ TEST_F(HatsPageTest, AnOptionThatIsDisabledLosesItsTick)
 
 TEST_F(HatsPageTest, AStatementOfTheFileFillsTheFieldsAndCanBeReplaced)
 {
-    open().showPage(InsertOptions::Logical);
+    openPage(InsertOptions::Logical);
     readFromFile(u"use hat2 as mouse (20) - REVERSE_LR"_s);
     EXPECT_TRUE(control<QWidget>(u"ComboHatAs"_s).isVisible());
     EXPECT_EQ(control<QComboBox>(u"ComboHatAs"_s).currentText(), u"HAT2"_s);
@@ -188,7 +184,7 @@ TEST_F(HatsPageTest, ForcedCornersOfTheFileTurnToTheirTab)
 
 TEST_F(HatsPageTest, TheTickForTheLineEndIsTheSameOnAllPages)
 {
-    open().showPage(InsertOptions::Mouse);
+    openPage(InsertOptions::Mouse);
     EXPECT_FALSE(isTicked(u"CheckMultiAddCR_0"_s));
     click(u"CheckMultiAddCR_3"_s);
     EXPECT_TRUE(isTicked(u"CheckMultiAddCR_0"_s));

@@ -19,11 +19,7 @@ namespace {
 class LogicalPageTest : public test::PageTest
 {
 protected:
-    void SetUp() override
-    {
-        showEditor();
-        open().showPage(InsertOptions::Logical);
-    }
+    void SetUp() override { openPage(InsertOptions::Logical); }
     StatementLine &box(int index) { return control<StatementLine>(u"RichTexFlag_%1"_s.arg(index)); }
     QRadioButton &option(int index) { return control<QRadioButton>(u"OptionFlag_%1"_s.arg(index)); }
     QString line(int index) { return box(index).toPlainText(); }
@@ -81,8 +77,8 @@ TEST_F(LogicalPageTest, TheFocusIsOnTheSelectedLine)
 {
     EXPECT_EQ(composer()->focusWidget(), &box(0));
     option(30).click();
-    open().showPage(InsertOptions::Hats);
-    open().showPage(InsertOptions::Logical);
+    openPage(InsertOptions::Hats);
+    openPage(InsertOptions::Logical);
     EXPECT_EQ(composer()->focusWidget(), &box(30));
 }
 
@@ -307,7 +303,7 @@ TEST_F(LogicalPageTest, ReadBackOfAnEmptyFileDoesNothing)
 TEST_F(LogicalPageTest, AStatementOfTheFileTakesAFreeLineAndCanBeReplaced)
 {
     writeLine(0, u"mine"_s);
-    open().showPage(InsertOptions::Hats);
+    openPage(InsertOptions::Hats);
     readFromFile(u"DEF X3 S1\n  AND T1"_s);
     EXPECT_TRUE(box(1).isVisible());
     EXPECT_EQ(line(0), u"mine"_s);

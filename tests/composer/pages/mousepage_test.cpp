@@ -18,11 +18,7 @@ enum MouseTab { TypeTab, AxisTab, ButtonTab, MoveTab, ZeroTab, AdvancedTab };
 class MousePageTest : public test::PageTest
 {
 protected:
-    void SetUp() override
-    {
-        showEditor();
-        open().showPage(InsertOptions::Mouse);
-    }
+    void SetUp() override { openPage(InsertOptions::Mouse); }
     void showTab(MouseTab tab) { control<QTabWidget>(u"SSTab4"_s).setCurrentIndex(tab); }
     void chooseType(const QString &type)
     {

@@ -27,10 +27,20 @@ protected:
         colours.SlashColour = 0x0000AA;
         colours.RAWColour = 0x00BB00;
         colours.MiscellaneousColour = 0xCCCC00;
-        makeLineEnds(false);
         editor->applySettings();
     }
 
+    /// Opens the Composer at a page, which inserts no line ends.
+    void openPage(InsertOptions::Page page)
+    {
+        if (!composer()) {
+            showEditor();
+            open();
+            makeLineEnds(false);
+            composer()->settingsChanged();
+        }
+        composer()->showPage(page);
+    }
     /// Whether a line end follows what is inserted.
     void makeLineEnds(bool on) { settings.of<ComposerSettings>().CompTabsAddCr = on; }
     void choose(const QString &box, const QString &entry)
