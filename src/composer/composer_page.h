@@ -44,6 +44,10 @@ public:
 Q_SIGNALS:
     /// What current() gives has changed.
     void changed();
+    /// The place of the help is wanted to which its index leads from this word.
+    void helpWanted(const QString &word);
+    /// The window with the flags that the joystick file leaves free is wanted.
+    void flagsWanted();
 
 protected:
     ComposerParts m_parts;

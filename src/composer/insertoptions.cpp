@@ -9,7 +9,11 @@
 #include "composer/pages/analogueaxispage.h"
 #include "composer/pages/composerpage.h"
 #include "composer/pages/digitalaxispage.h"
+#include "composer/pages/hatspage.h"
+#include "composer/pages/logicalpage.h"
+#include "composer/pages/mousepage.h"
 #include "composer/pages/templatespage.h"
+#include "composer/pages/usepage.h"
 #include "composer/statementpreview.h"
 #include "documents/document_settings.h"
 #include "platform/dialogs.h"
@@ -23,6 +27,7 @@
 
 #include <QAction>
 #include <QRegularExpression>
+#include <QScreen>
 #include <QShortcut>
 #include <QTabBar>
 
@@ -46,15 +51,18 @@ struct PageRow {
 // clang-format off
 constexpr std::array<PageRow, InsertOptions::pageCount> pageRows = {
     PageRow{ u"&Composer", 2005, make<ComposerFirstPage> },
-    PageRow{ u"&Hats", 2010, nullptr },
+    PageRow{ u"&Hats", 2010, make<HatsPage> },
     PageRow{ u"&Digital axis", 2015, make<DigitalAxisPage> },
     PageRow{ u"&Analogue axis", 2020, make<AnalogueAxisPage> },
-    PageRow{ u"&Mouse / Microstick", 2025, nullptr },
-    PageRow{ u"&Use / Misc.", 2030, nullptr },
+    PageRow{ u"&Mouse / Microstick", 2025, make<MousePage> },
+    PageRow{ u"&Use / Misc.", 2030, make<UsePage> },
     PageRow{ u"Tem&plates", 2035, make<TemplatesPage> },
-    PageRow{ u"&Logical", 2040, nullptr },
+    PageRow{ u"&Logical", 2040, make<LogicalPage> },
 };
 // clang-format on
+
+/// The pictures are large enough to point at, and it fits a screen of 1024 by 720 pixels.
+constexpr QSize usualSize(980, 670);
 
 } // namespace
 
@@ -103,6 +111,8 @@ ComposerPage *InsertOptions::page(Page which)
         // The layout would show it only when the event loop runs, too late for the focus.
         made->show();
         bindLineEndBoxes(*made);
+        connect(made, &ComposerPage::helpWanted, this, &InsertOptions::keywordWanted);
+        connect(made, &ComposerPage::flagsWanted, this, &InsertOptions::flagsWanted);
         made->windowActivated();
     }
     return made;
@@ -143,8 +153,8 @@ void InsertOptions::makeKeys()
     }
     add(Qt::Key_F1, [this] { CommandHelp_Click(); });
     add(Qt::Key_F2, [this] { returnToEditor(); });
-    add(Qt::CTRL | Qt::Key_Tab, [this] { turnPage(1); });
-    add(Qt::CTRL | Qt::SHIFT | Qt::Key_Tab, [this] { turnPage(-1); });
+    add(QKeyCombination(Qt::CTRL, Qt::Key_Tab), [this] { turnPage(1); });
+    add(QKeyCombination(Qt::CTRL | Qt::SHIFT, Qt::Key_Tab), [this] { turnPage(-1); });
 }
 
 void InsertOptions::runKey(const ComposerKey &key)
@@ -243,7 +253,7 @@ void InsertOptions::SaveSpaces()
 
 void InsertOptions::PositionComposer()
 {
-    adjustSize();
+    resize(usualSize.expandedTo(minimumSizeHint()).boundedTo(screen()->availableSize()));
     const auto &settings = m_context.settings.of<ComposerSettings>();
     const bool hadPlace =
         !ProfileFile(m_context.paths.iniPath).text(u"Composer", u"ComposerLeft").isEmpty();

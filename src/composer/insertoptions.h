@@ -60,6 +60,10 @@ public:
 Q_SIGNALS:
     /// The help topic of that number is wanted.
     void helpWanted(int topic);
+    /// The place of the help is wanted to which its index leads from this word.
+    void keywordWanted(const QString &word);
+    /// The window LogicFlagsDetected is wanted.
+    void flagsWanted();
 
 protected:
     void changeEvent(QEvent *event) override;

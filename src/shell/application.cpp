@@ -273,6 +273,9 @@ void Application::addToolWindows()
     auto *composer = new ComposerTools(context(), windows, *m_editor);
     QObject::connect(composer, &ComposerTools::helpWanted, m_help,
                      guarded(m_options.dialogs, [this](int topic) { m_help->showTopic(topic); }));
+    QObject::connect(
+        composer, &ComposerTools::keywordWanted, m_help,
+        guarded(m_options.dialogs, [this](const QString &word) { m_help->showKeyword(word); }));
     windows.whenLoaded<TemplateForm>(m_mum.get(), [composer](TemplateForm &form) {
         form.actions().connectTo(u"mnuComposerPlugin", [composer] { composer->openTemplates(); });
         form.actions().action(u"mnuComposerPlugin")->setEnabled(true);

@@ -4,6 +4,7 @@
 #include "shell/composer_tools.h"
 
 #include "composer/insertoptions.h"
+#include "composer/logicflagsdetected.h"
 #include "documents/editor_view.h"
 #include "documents/line_blink.h"
 #include "editor/edit/insert_forms.h"
@@ -24,7 +25,14 @@ ComposerTools::ComposerTools(const Context &context, ToolWindows &windows, Edito
     tools.add<InsertOptions>(u"mnuAppsComposer", [this](QWidget *owner) {
         auto *window = new InsertOptions(m_context, m_editor.documents(), *this, owner);
         connect(window, &InsertOptions::helpWanted, this, &ComposerTools::helpWanted);
+        connect(window, &InsertOptions::keywordWanted, this, &ComposerTools::keywordWanted);
+        connect(window, &InsertOptions::flagsWanted, this,
+                guarded(m_context.dialogs, [this] { m_windows.open<LogicFlagsDetected>(); }));
         return window;
+    });
+    windows.offer<LogicFlagsDetected>([this](QWidget *owner) {
+        return new LogicFlagsDetected(m_context, m_editor.documents(), action(u"MnuDiagArray_5"),
+                                      owner);
     });
     followMacroList();
 }

@@ -40,6 +40,8 @@ public:
 Q_SIGNALS:
     /// The help topic of that number is wanted.
     void helpWanted(int topic);
+    /// The place of the help is wanted to which its index leads from this word.
+    void keywordWanted(const QString &word);
 
 private:
     void followMacroList();

@@ -3,7 +3,11 @@
 
 #include "composer/pages/page_fields.h"
 
+#include "composer/composer_page.h"
+
 #include <QAbstractButton>
+#include <QListWidget>
+#include <QTabWidget>
 
 namespace zeph {
 
@@ -17,6 +21,21 @@ void whenEdited(const QWidget &parent, QObject *context, const std::function<voi
         if (button->isCheckable())
             QObject::connect(button, &QAbstractButton::toggled, context, then);
     }
+}
+
+void announceChanges(ComposerPage &page)
+{
+    whenEdited(page, &page, [&page] { Q_EMIT page.changed(); });
+    for (const QListWidget *list : page.findChildren<QListWidget *>())
+        QObject::connect(list, &QListWidget::currentRowChanged, &page, &ComposerPage::changed);
+    for (const QTabWidget *tabs : page.findChildren<QTabWidget *>())
+        QObject::connect(tabs, &QTabWidget::currentChanged, &page, &ComposerPage::changed);
+}
+
+void askFor(QLineEdit &field)
+{
+    field.setFocus();
+    field.selectAll();
 }
 
 void fitToNumber(QLineEdit &box)

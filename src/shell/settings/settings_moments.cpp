@@ -4,6 +4,7 @@
 #include "shell/settings/settings_moments.h"
 
 #include "composer/composer_settings.h"
+#include "composer/logic_flags_settings.h"
 #include "documents/document_settings.h"
 #include "editor/editor_settings.h"
 #include "livetools/key_tester_settings.h"
@@ -39,7 +40,7 @@ void addAllSettings(Settings &settings)
 {
     addAll<SharedSettings, ColourSettings, MenuSettings, DocumentSettings, EditorSettings,
            ShellSettings, ComposerSettings, TemplateSettings, ToolchainSettings, DefaultOptions,
-           KeyTesterSettings>(settings);
+           KeyTesterSettings, LogicFlagsSettings>(settings);
 }
 
 bool isSetUp(const SettingsFiles &files)
