@@ -7,6 +7,8 @@
 
 #include <QAbstractButton>
 #include <QSet>
+#include <QSignalSpy>
+#include <QSlider>
 
 using namespace zeph;
 
@@ -88,4 +90,35 @@ TEST_F(AxisPageLooks, EveryControlCanBeToldByAScreenReader)
             EXPECT_TRUE(isNamed) << each->objectName().toStdString();
         }
     }
+}
+
+TEST_F(AxisPageLooks, ThePreviewFollowsEveryChange)
+{
+    const auto tells = [this](InsertOptions::Page which, const auto &change) {
+        QSignalSpy spy(composer()->page(which), &ComposerPage::changed);
+        change();
+        return !spy.isEmpty();
+    };
+    openPage(InsertOptions::DigitalAxis);
+    const auto digital = [&](const auto &change) {
+        return tells(InsertOptions::DigitalAxis, change);
+    };
+    EXPECT_TRUE(digital([this] { choose(u"ComboSlashList"_s, u"/M"_s); }));
+    EXPECT_TRUE(digital([this] { click(u"CheckUMDIOdigital"_s); }));
+    EXPECT_TRUE(digital([this] { turnTo(u"SSTab3"_s, 4); }));
+    type(u"TXT_DigitalAxis_3"_s, u"4"_s);
+    EXPECT_TRUE(digital([this] { click(u"Command15_0"_s); }));
+    EXPECT_TRUE(digital([this] { control<QSlider>(u"SliderType5"_s).setValue(9); }));
+    EXPECT_TRUE(digital([this] { type(u"RTB_digitalAxis_10"_s, u"a"_s); }));
+    EXPECT_TRUE(digital([this] { click(u"Command15_1"_s); }));
+    openPage(InsertOptions::AnalogueAxis);
+    const auto analogue = [&](const auto &change) {
+        return tells(InsertOptions::AnalogueAxis, change);
+    };
+    EXPECT_TRUE(analogue([this] { click(u"OptionAnaCurve_2"_s); }));
+    EXPECT_TRUE(analogue([this] { turnTo(u"SSTab2"_s, 1); }));
+    EXPECT_TRUE(analogue([this] { click(u"LBL_TrimSign_0"_s); }));
+    EXPECT_TRUE(analogue([this] { click(u"LBL_UseAxes_42"_s); }));
+    EXPECT_TRUE(analogue([this] { click(u"Command3"_s); }));
+    EXPECT_TRUE(analogue([this] { type(u"TextAnalogueAxes_3"_s, u"5"_s); }));
 }
