@@ -58,6 +58,8 @@ void MousePage::fillLists()
         m_ui->MouseList->addItem(type.name.toString());
     }
     m_ui->MouseList->setCurrentRow(0);
+    m_ui->MouseList->setMaximumHeight(m_ui->MouseList->sizeHintForRow(0) * m_ui->MouseList->count()
+                                      + 2 * m_ui->MouseList->frameWidth());
     showButtonsOfType();
     for (int scale = firstScale; scale <= lastScale; ++scale) {
         m_ui->ComboScaleValue->addItem(QString::number(scale));
