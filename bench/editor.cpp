@@ -5,6 +5,7 @@
 // offscreen platform; "shown" includes the painting of what is seen.
 
 #include "bench/editor_world.h"
+#include "bench/typing.h"
 #include "editor/editor_settings.h"
 #include "editor/files/file_saving.h"
 #include "platform/core/rtf.h"
@@ -76,8 +77,9 @@ void Keystroke(benchmark::State &state)
     colour(*world.editor);
     TextControl *control = &world.editor->view().control(DocumentKind::Joystick);
     control->shown().select(300000, 0);
+    int number = 0;
     for (auto _ : state) {
-        QTest::keyClick(control, Qt::Key_A);
+        QTest::keyClick(control, typedKey(number++));
     }
 }
 

@@ -9,6 +9,8 @@
 #include "menus/menu_actions.h"
 #include "tests/support/editor_world.h"
 
+#include "bench/typing.h"
+
 #include <benchmark/benchmark.h>
 
 #include <QAction>
@@ -63,8 +65,9 @@ void Keystroke(benchmark::State &state)
 {
     World world(state.range(0));
     world.control().shown().select(int(world.size / 2), 0);
+    int number = 0;
     for (auto _ : state) {
-        QTest::keyClick(&world.control(), Qt::Key_A);
+        QTest::keyClick(&world.control(), typedKey(number++));
     }
 }
 

@@ -26,7 +26,7 @@ constexpr std::array rows = {
     row(composer, u"COMPMacrosTickedCopy", &S::COMPMacrosTickedCopy, false),
     row(composer, u"ComposerTop", &S::ComposerTop, 10, anyNumber),
     row(composer, u"ComposerLeft", &S::ComposerLeft, 10, anyNumber),
-    row(u"Unsupported", u"ShowDX9to10", &S::ShowDX9to10, false),
+    row(u"Unsupported", u"ShowDX9to10", &S::ShowDX9to10, 0, { 0, 2 }),
 };
 
 } // namespace

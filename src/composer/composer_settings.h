@@ -29,8 +29,8 @@ struct ComposerSettings {
     bool COMPMacrosTickedCopy;
     double ComposerTop; ///< twips
     double ComposerLeft; ///< twips
-    /// DirectX axes 9 and 10 can be chosen.
-    bool ShowDX9to10;
+    /// DirectX axes 9 and 10: 0 not offered, 1 offered, 2 in use.
+    int ShowDX9to10;
 };
 
 /// Where the window's corner goes, in pixels: where it was, but a top or left beyond a screen of

@@ -6,11 +6,14 @@
 #include "composer/composer_editor.h"
 #include "composer/composer_keys.h"
 #include "composer/composer_settings.h"
+#include "composer/pages/analogueaxispage.h"
 #include "composer/pages/composerpage.h"
+#include "composer/pages/digitalaxispage.h"
 #include "composer/pages/hatspage.h"
 #include "composer/pages/logicalpage.h"
 #include "composer/pages/mousepage.h"
 #include "composer/pages/templatespage.h"
+#include "composer/pages/usepage.h"
 #include "composer/statementpreview.h"
 #include "documents/document_settings.h"
 #include "platform/dialogs.h"
@@ -24,6 +27,7 @@
 
 #include <QAction>
 #include <QRegularExpression>
+#include <QScreen>
 #include <QShortcut>
 #include <QTabBar>
 
@@ -48,14 +52,17 @@ struct PageRow {
 constexpr std::array<PageRow, InsertOptions::pageCount> pageRows = {
     PageRow{ u"&Composer", 2005, make<ComposerFirstPage> },
     PageRow{ u"&Hats", 2010, make<HatsPage> },
-    PageRow{ u"&Digital axis", 2015, nullptr },
-    PageRow{ u"&Analogue axis", 2020, nullptr },
+    PageRow{ u"&Digital axis", 2015, make<DigitalAxisPage> },
+    PageRow{ u"&Analogue axis", 2020, make<AnalogueAxisPage> },
     PageRow{ u"&Mouse / Microstick", 2025, make<MousePage> },
-    PageRow{ u"&Use / Misc.", 2030, nullptr },
+    PageRow{ u"&Use / Misc.", 2030, make<UsePage> },
     PageRow{ u"Tem&plates", 2035, make<TemplatesPage> },
     PageRow{ u"&Logical", 2040, make<LogicalPage> },
 };
 // clang-format on
+
+/// The pictures are large enough to point at, and it fits a screen of 1024 by 720 pixels.
+constexpr QSize usualSize(980, 670);
 
 } // namespace
 
@@ -246,7 +253,7 @@ void InsertOptions::SaveSpaces()
 
 void InsertOptions::PositionComposer()
 {
-    adjustSize();
+    resize(usualSize.expandedTo(minimumSizeHint()).boundedTo(screen()->availableSize()));
     const auto &settings = m_context.settings.of<ComposerSettings>();
     const bool hadPlace =
         !ProfileFile(m_context.paths.iniPath).text(u"Composer", u"ComposerLeft").isEmpty();

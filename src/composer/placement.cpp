@@ -32,6 +32,11 @@ Surroundings surroundingsOf(const Document &document)
              characterAt(document, document.selStart() + document.selLength()) };
 }
 
+QString blankBefore(QChar after)
+{
+    return after.isNull() || after == u' ' ? QString() : u" "_s;
+}
+
 Statement composedAt(Statement statement, const Surroundings &around, bool addLineEnd)
 {
     if (!statement.startsLine && touches(around.before) && !statement.pieces.isEmpty()) {
@@ -45,10 +50,7 @@ Statement composedAt(Statement statement, const Surroundings &around, bool addLi
 
 Statement fragmentAt(const QString &text, ColorRef colour, const Surroundings &around)
 {
-    QString whole = text;
-    if (!around.after.isNull() && around.after != u' ') {
-        whole += u' ';
-    }
+    QString whole = text + blankBefore(around.after);
     // Rem starts a comment only if it is a word of its own.
     if (text.startsWith(remAndBlank) && touches(around.before)) {
         whole.prepend(u' ');

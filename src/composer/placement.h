@@ -18,6 +18,10 @@ struct Surroundings {
 
 Surroundings surroundingsOf(const Document &document);
 
+/// The blank that keeps an insertion apart from the character after it; empty before a blank and at
+/// the text's end.
+QString blankBefore(QChar after);
+
 /// A composed statement as it goes in: a blank before it where it would touch a word of its line,
 /// and after it a line end if there has to be one.
 Statement composedAt(Statement statement, const Surroundings &around, bool addLineEnd);

@@ -106,7 +106,8 @@ void Document::tellWritten(const QByteArray &bytes, Save save)
 
 void Document::tellLooksWritten()
 {
-    if (m_unchanged && states().holdSame(states().present(), m_unchanged->first, false)) {
+    if (m_unchanged
+        && states().holdSame(states().present(), m_unchanged->first, DocumentStates::Same::Text)) {
         m_unchanged->first = states().present();
         showState(m_unchanged->second);
     }
@@ -135,7 +136,10 @@ bool Change::commit()
         return false;
     }
     m_quiet.reset();
-    if (m_document.states().present() == m_before) {
+    DocumentStates &states = m_document.states();
+    if (states.holdSame(states.present(), m_before, DocumentStates::Same::AllLooks)) {
+        // What was pasted over itself lost whose colours it had.
+        states.restore(m_before);
         return false;
     }
     m_document.history().UndoStepNext = 1;

@@ -90,15 +90,6 @@ qsizetype DocumentState::bytesHeld(std::span<const DocumentState> states)
     return bytes;
 }
 
-bool operator==(const DocumentState &one, const DocumentState &other)
-{
-    const auto areEqual = [](const auto &left, const auto &right) {
-        return left == right || *left == *right;
-    };
-    return one.m_chunks == other.m_chunks
-        || std::ranges::equal(*one.m_chunks, *other.m_chunks, areEqual);
-}
-
 DocumentStates::DocumentStates(QTextDocument &document, int linesPerChunk)
     : m_document(document), m_linesPerChunk(linesPerChunk)
 {

@@ -36,7 +36,7 @@ class DocumentState
 public:
     /// Bytes that these states take together; what they share counts once.
     static qsizetype bytesHeld(std::span<const DocumentState> states);
-    /// Whether two states of one document hold the same text in the same looks, whoever gave them.
+    /// Whether two states of one document hold the same text in the same looks, by the same givers.
     friend bool operator==(const DocumentState &one, const DocumentState &other);
 
 private:
@@ -64,11 +64,17 @@ public:
     /// The looks of a stretch without its text, clamped likewise.
     std::vector<CharRun> looks(qsizetype from, qsizetype length);
     RichText richText(const DocumentState &state) const;
-    /// Whether two states hold the same text, and with looks the same of what the user gave it by
-    /// hand: bold, italic, underline, fonts other than the plain text's and colours that
-    /// changeLooks() marked. Costs little where the states differ in length or share their chunks.
+    /// What two states are compared in.
+    enum class Same {
+        Text,
+        UsersLooks, ///< and in what the user gave by hand: bold, italic, underline, fonts other
+                    ///< than the plain text's and colours that changeLooks() marked
+        AllLooks ///< and in all that the screen shows, whoever gave it
+    };
+    /// Whether two states are the same. Costs little where they differ in length or share their
+    /// chunks.
     bool holdSame(const DocumentState &one, const DocumentState &other,
-                  bool withLooks = true) const;
+                  Same what = Same::UsersLooks) const;
     /// A state's text comes in this many pieces of whole lines, for a long text that is read once,
     /// without a copy of the whole.
     size_t pieceCount(const DocumentState &state) const { return state.m_chunks->size(); }

@@ -9,7 +9,18 @@
 
 #include <QTextDocument>
 
+#include <algorithm>
+
 namespace zeph {
+
+bool operator==(const DocumentState &one, const DocumentState &other)
+{
+    const auto areEqual = [](const auto &left, const auto &right) {
+        return left == right || *left == *right;
+    };
+    return one.m_chunks == other.m_chunks
+        || std::ranges::equal(*one.m_chunks, *other.m_chunks, areEqual);
+}
 
 DocumentState DocumentStates::present()
 {
@@ -132,16 +143,17 @@ public:
         while (m_first < most && one[m_first] == other[m_first]) {
             ++m_first;
         }
-        size_t back = 0;
-        while (back < most - m_first
-               && one[one.size() - 1 - back] == other[other.size() - 1 - back]) {
-            ++back;
+        while (m_back < most - m_first
+               && one[one.size() - 1 - m_back] == other[other.size() - 1 - m_back]) {
+            ++m_back;
         }
-        m_length = sizeOf(one, m_first, one.size() - back);
-        m_hasSameLength = m_length == sizeOf(other, m_first, other.size() - back);
+        m_length = sizeOf(one, m_first, one.size() - m_back);
+        m_hasSameLength = m_length == sizeOf(other, m_first, other.size() - m_back);
     }
 
     size_t first() const { return m_first; }
+    /// How many chunks both share at their ends.
+    size_t back() const { return m_back; }
     /// Characters of the first state's chunks.
     qsizetype length() const { return m_length; }
 
@@ -187,19 +199,25 @@ private:
     const TextChunks &m_one;
     const TextChunks &m_other;
     size_t m_first = 0;
+    size_t m_back = 0;
     qsizetype m_length = 0;
     bool m_hasSameLength = false;
 };
 
 } // namespace
 
-bool DocumentStates::holdSame(const DocumentState &one, const DocumentState &other,
-                              bool withLooks) const
+bool DocumentStates::holdSame(const DocumentState &one, const DocumentState &other, Same what) const
 {
     const OtherChunks chunks(*one.m_chunks, *other.m_chunks);
     const bool isSameText = chunks.holdSameText();
-    if (!isSameText || !withLooks) {
+    if (!isSameText || what == Same::Text) {
         return isSameText;
+    }
+    if (what == Same::AllLooks) {
+        const auto rest = [this, &chunks](const TextChunks &all) {
+            return join(all, chunks.first(), all.size() - chunks.back());
+        };
+        return rest(*one.m_chunks) == rest(*other.m_chunks);
     }
     ChunkReader left(*one.m_chunks, chunks.first());
     ChunkReader right(*other.m_chunks, chunks.first());

@@ -40,6 +40,11 @@ struct StandardKey {
     QStringView entry;
 };
 
+bool isMacroKey(int key)
+{
+    return std::ranges::find(macroKeys, key, &MacroKey::key) != macroKeys.end();
+}
+
 // Shift+Insert and the like, which the toolkit would otherwise handle without our menu entries.
 constexpr std::array standardKeys = {
     StandardKey{ QKeySequence::Cut, u"mnuEditCut" },
@@ -138,7 +143,9 @@ bool EditorKeys::handles(const QKeyEvent &event, bool macroText) const
         return true;
     }
     if (event.modifiers() == Qt::ControlModifier) {
-        return !entryFor(event.key(), macroText).isEmpty();
+        // A key that does nothing here is taken too: otherwise the menu's shortcut would run.
+        return (macroText && isMacroKey(event.key()))
+            || !entryFor(event.key(), macroText).isEmpty();
     }
     return event.modifiers() == Qt::NoModifier
         && (event.key() == Qt::Key_Escape || event.key() == Qt::Key_F1);
@@ -166,6 +173,9 @@ bool EditorKeys::keyPressed(const QKeyEvent &event, bool macroText)
     QString entry = standard.isEmpty() ? entryFor(event.key(), macroText) : standard.toString();
     if (event.key() == Qt::Key_K && m_settings.DefaultToDX8KeyTester) {
         entry = u"mnuAppsDX8_0"_s;
+    }
+    if (entry.isEmpty()) {
+        return true;
     }
     if (const QString lack = m_actions.lackOf(entry); !lack.isEmpty()) {
         m_status.setText(u' ' + lack);

@@ -127,8 +127,8 @@ private:
         return line.first < line.codeEnd && statementKeywordEnd(line) > 0 ? line.first : 0;
     }
 
-    // Where the next statement of the same line begins with its keyword or the "~" before it,
-    // searched from the position on; `end` without one.
+    // Where, after `from`, the line's next statement begins: at its keyword, or at the "~" before
+    // it. `end` when there is none.
     qsizetype nextStatement(qsizetype from, qsizetype end) const
     {
         const QStringView code = m_text.first(end);

@@ -46,7 +46,8 @@ int keyCodeOf(const KeyStroke &stroke)
 #endif
 }
 
-/// What a key types. Alt with a letter is a command everywhere and types nothing.
+/// What a key types. With Alt alone any key is a command and types nothing; Ctrl and Alt together
+/// are AltGr, which types.
 QString typedText(const QKeyEvent &event)
 {
     const auto commands = event.modifiers() & (Qt::AltModifier | Qt::ControlModifier);

@@ -14,7 +14,8 @@
 
 namespace zeph {
 
-/// The wanted name or, if it is taken, with the first free number after it, as in "Falcon (2)".
+/// The wanted name or, if it is taken, with the first free number after it, as in "Falcon (2)". A
+/// long name is cut before the number, so that the store can hold both.
 QString uniqueName(const QString &wanted, const QStringList &taken);
 
 /// The name of the entry at a place while one is typed for it: the typed one, numbered if another

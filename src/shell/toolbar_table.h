@@ -53,8 +53,8 @@ struct ToolbarChoices {
 };
 
 const ToolButtonLook &lookOf(const ToolButtonRow &row, const ToolbarChoices &choices);
-/// The whole tooltip. A look whose entry has no shortcut tells that of the row's other look, since
-/// the key runs whichever of them is chosen.
+/// The words of the look and the shortcut of its entry, unless the look is KeyUntold. If that entry
+/// has no shortcut, the one of the row's other look is told.
 QString tooltipOf(const ToolButtonRow &row, const ToolbarChoices &choices);
 QString actionOf(const ToolButtonLook &look, bool macroSelected);
 

@@ -88,6 +88,20 @@ TEST_F(DocumentTest, AChangeThatChangesNothingIsNoStep)
     EXPECT_EQ(document.selStart(), 2);
 }
 
+TEST_F(DocumentTest, ColouredTextPutOverItselfIsNoStepAndStaysTheUsers)
+{
+    document.changeLooks(0, 3, [](CharFormat &look) { look.colour = ColorRef(0xFF); });
+    document.updateState();
+    ASSERT_EQ(document.state(), Document::Modified);
+    document.select(0, 3);
+    Change change(document);
+    document.insert(document.richText(0, 3));
+    EXPECT_FALSE(change.commit());
+    EXPECT_FALSE(document.history().canUndo());
+    document.updateState();
+    EXPECT_EQ(document.state(), Document::Modified);
+}
+
 TEST_F(DocumentTest, AfterACommitEditsCountAgain)
 {
     Change change(document);

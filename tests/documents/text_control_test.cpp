@@ -45,9 +45,8 @@ protected:
         control.shown().setText(text);
     }
     /// What the toolkit answers to something dragged over the text and let go there.
-    bool drop(QMimeData &data)
+    bool drop(QMimeData &data, const QPoint &at = { 5, 5 })
     {
-        const QPoint at(5, 5);
         QDragEnterEvent enter(at, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
         QCoreApplication::sendEvent(control.viewport(), &enter);
         if (!enter.isAccepted()) {
@@ -119,6 +118,21 @@ TEST_F(TextControlTest, ADroppedTextIsTakenAsPlainText)
     EXPECT_TRUE(drop(data));
     EXPECT_EQ(control.shown().text(), u"a\nb");
     EXPECT_FALSE(control.shown().richText().formatAt(0).bold);
+}
+
+TEST_F(TextControlTest, ATextDroppedWithinALineMayBeLongerThanTheLineWas)
+{
+    for (const bool isShown : { true, false }) {
+        control.setVisible(isShown);
+        control.shown().setText(u"BTN S1 a\nBTN S2 b"_s);
+        control.shown().select(4, 0);
+        QMimeData data;
+        data.setText(u"long before "_s);
+        EXPECT_TRUE(drop(data, control.cursorRect().center()));
+        EXPECT_EQ(control.shown().text(), u"BTN long before S1 a\nBTN S2 b");
+        EXPECT_EQ(control.shown().cursor().position(), 16);
+        EXPECT_EQ(control.textCursor().position(), 16);
+    }
 }
 
 TEST_F(TextControlTest, ADroppedFileIsNoText)

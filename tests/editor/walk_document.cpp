@@ -193,6 +193,7 @@ void WalkDocument::begin()
 void WalkDocument::commit()
 {
     if (m_now == m_before) {
+        m_now = m_before; // whose colours they are, too
         return;
     }
     m_history.startStep();

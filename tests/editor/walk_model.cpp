@@ -164,10 +164,12 @@ void WalkModel::colour(DocumentKind kind)
 
 void WalkModel::save()
 {
-    if (isUntitled(selected().name())) {
+    File &file = selected();
+    if (isUntitled(file.name())) {
         saveAs();
-    } else {
-        saveText(selected());
+    } else if (!saveText(file) && !files.contains(file.path)) {
+        // What could not be saved has no file any more.
+        file.document.setState(1);
     }
 }
 
@@ -185,8 +187,7 @@ void WalkModel::saveAs()
     }
     const QString before = file.path;
     file.path = *path;
-    saveText(file);
-    if (file.document.state() != 0) {
+    if (!saveText(file)) {
         file.path = before;
     }
 }
@@ -216,15 +217,16 @@ bool WalkModel::tellStranger(File &file, bool shows)
     return true;
 }
 
-void WalkModel::saveText(File &file)
+bool WalkModel::saveText(File &file)
 {
     if (tellStranger(file, true) || (hasChanged(file) && !keepsOurs(file))) {
-        return;
+        return false;
     }
     if (settings.updateModified) {
         file.document.stamp(settings.now);
     }
     write(file, true);
+    return true;
 }
 
 void WalkModel::write(File &file, bool isAsked)

@@ -83,7 +83,8 @@ private:
     bool mayReplace(DocumentKind kind);
     bool load(DocumentKind kind, const QString &path);
     void loadAgain(File &file);
-    void saveText(File &file);
+    /// False when it is not written.
+    bool saveText(File &file);
     void write(File &file, bool isAsked);
     bool tellStranger(File &file, bool shows);
     bool hasChanged(const File &file) const;

@@ -183,12 +183,19 @@ TEST(PreferencesKeys, EveryFlagOfTheSectionUnsupportedIsATickOfZephsPage)
     for (const QStringView flag :
          { u"TurnOffFontCheck", u"SynchroniseModeOnStartup", u"ForeignLanguageKBInputFix",
            u"JoyTestConnect", u"UseHLPnotCHM", u"ColourWithTyping", u"AlwaysShowCompileDownload",
-           u"TellStandIn", u"DefaultToDX8KeyTester" }) {
+           u"DefaultToDX8KeyTester" }) {
         const auto found = std::ranges::find(preferencesKeys(), flag, &PreferencesKey::key);
         ASSERT_NE(found, preferencesKeys().end()) << flag.toString().toStdString();
         EXPECT_EQ(found->tab, PreferencesTab::Zeph) << flag.toString().toStdString();
         EXPECT_EQ(found->kind, FieldKind::Tick) << flag.toString().toStdString();
     }
+}
+
+TEST(PreferencesKeys, TheWordOfTheStandInsCanBeAskedForAgain)
+{
+    const auto found = std::ranges::find(preferencesKeys(), u"TellStandIn", &PreferencesKey::key);
+    ASSERT_NE(found, preferencesKeys().end());
+    EXPECT_EQ(found->tab, PreferencesTab::Misc);
 }
 
 TEST(PreferencesKeys, EveryNumberHasARuleAndItsDefaultSatisfiesIt)

@@ -146,3 +146,12 @@ TEST_F(ProgramGames, AfterATimeOutNoStartsNothing)
                   u"text Panel_1 Control returned to you"_s, u"close"_s });
     EXPECT_FALSE(program.exists(u"notes.txt"_s));
 }
+
+TEST_F(ProgramGames, AQuoteInTheFilesNameIsToldAndTheGameDoesNotStart)
+{
+    program.write(u"Files/f\"4.tmj"_s, "BTN S2 a\r\n");
+    settle(0, u"Files/f\"4.tmj"_s);
+    program.run({ started, u"trigger mnuGameArray_1"_s, u"box That name has a quote in it"_s,
+                  u"press OK"_s, u"done"_s, u"close"_s });
+    EXPECT_FALSE(program.exists(u"notes.txt"_s));
+}

@@ -74,47 +74,30 @@ TEST_F(ProgramHistory, UndoneBackToTheSavedTextNothingIsAsked)
 
 TEST_F(ProgramHistory, NoToolLosesTheNewestTextWhileItIsUndone)
 {
-    QStringList script{ u"clipboard pasted"_s, u"trigger mnuSlashWindow"_s,
-                        u"window Slash Modifiers"_s };
     for (const QString &tool :
          { u"trigger mnuBlockREM"_s, u"trigger mnuAlignSlash"_s, u"trigger mnuEditPaste"_s,
-           u"trigger mnuPasteSimple"_s, u"trigger mnuSlashArray_0"_s, u"press Command1_0"_s,
-           u"trigger mnuStyleArray_0"_s }) {
-        script += { home,
-                    u"type JoystickText new"_s,
-                    undo,
-                    u"usable mnuEditRedo 1"_s,
-                    u"keys JoystickText Shift+End"_s,
-                    tool,
-                    u"done"_s,
-                    u"usable mnuEditRedo 0"_s,
-                    undo,
-                    u"text JoystickText newBTN"_s,
-                    undo,
-                    u"done"_s };
+           u"trigger mnuPasteSimple"_s, u"press Command1_0"_s, u"trigger mnuStyleArray_0"_s }) {
+        SCOPED_TRACE(tool.toStdString());
+        run("BTN S1 /I a\r\n/O b\r\n",
+            { u"clipboard pasted"_s, u"trigger mnuSlashWindow"_s, u"window Slash Modifiers"_s, home,
+              u"type JoystickText new"_s, undo, u"usable mnuEditRedo 1"_s,
+              u"keys JoystickText Shift+End"_s, tool, u"done"_s, u"usable mnuEditRedo 0"_s, undo,
+              u"text JoystickText newBTN"_s, undo, u"usable mnuEditUndo 0"_s, u"close"_s });
     }
-    run("BTN S1 /I a\r\n/OOO b\r\n", script + QStringList{ u"close"_s });
 }
 
 TEST_F(ProgramHistory, AToolThatChangesNoTextLeavesTheRedo)
 {
-    QStringList script;
     for (const QString &tool :
          { u"mnuViewColourJoystick"_s, u"mnuViewApplyColourBothFiles"_s, u"mnuViewHighlightLine"_s,
            u"mnuRemoveColourJoystick"_s, u"mnuViewReformat"_s, u"mnuViewrefreshIndent"_s,
            u"mnuBlockRemoveREM"_s }) {
-        script += { home,
-                    u"type JoystickText new"_s,
-                    undo,
-                    u"usable mnuEditRedo 1"_s,
-                    u"trigger "_s + tool,
-                    u"done"_s,
-                    redo,
-                    u"text JoystickText newBTN"_s,
-                    undo,
-                    u"done"_s };
+        SCOPED_TRACE(tool.toStdString());
+        run("BTN S1 /I a\r\n",
+            { home, u"type JoystickText new"_s, undo, u"usable mnuEditRedo 1"_s,
+              u"trigger "_s + tool, u"done"_s, redo, u"text JoystickText newBTN"_s, undo,
+              u"usable mnuEditUndo 0"_s, u"close"_s });
     }
-    run("BTN S1 /I a\r\n", script + QStringList{ u"close"_s });
 }
 
 TEST_F(ProgramHistory, AfterTheUndosWereDeletedALetterCanBeUndoneToTheText)
@@ -195,12 +178,15 @@ TEST_F(ProgramHistory, SaveUndoAndRedoShowTheStampThatTheDiskHas)
 TEST_F(ProgramHistory, AnOperationDuringTheBlinkDoesNotTakeTheLineAsSelected)
 {
     program.settle("HighlightLineOnUndo=1\r\n");
-    const QStringList notes =
-        run("BTN S1 a\r\nBTN S2 b\r\n",
-            { home, u"type JoystickText x"_s, undo, u"selection JoystickText BTN S1 a"_s,
-              u"trigger mnuEditFind"_s, u"value ComboTextFind"_s, undo, u"done"_s, home,
-              u"type JoystickText x"_s, undo, u"selection JoystickText BTN S1 a"_s,
-              u"trigger mnuFormatArray1_0"_s, u"done"_s, u"font JoystickText 1"_s, u"close"_s });
-    EXPECT_THAT(lines(notes), Contains("ComboTextFind="));
-    EXPECT_THAT(lines(notes), Not(Contains(HasSubstr("bold"))));
+    const QStringList blink = { home, u"type JoystickText x"_s, undo,
+                                u"selection JoystickText BTN S1 a"_s };
+    const QStringList found =
+        run("BTN S1 a\r\n",
+            blink + QStringList{ u"trigger mnuEditFind"_s, u"value ComboTextFind"_s, u"close"_s });
+    EXPECT_THAT(lines(found), Contains("ComboTextFind="));
+    const QStringList bold = run("BTN S1 a\r\n",
+                                 blink
+                                     + QStringList{ u"trigger mnuFormatArray1_0"_s, u"done"_s,
+                                                    u"font JoystickText 1"_s, u"close"_s });
+    EXPECT_THAT(lines(bold), Not(Contains(HasSubstr("bold"))));
 }

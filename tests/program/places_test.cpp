@@ -32,9 +32,9 @@ bool isUp(const Program &program, QProcess &process, const QString &log)
     return true;
 }
 
-void lockByAnotherMachine(const Program &program, int minutesAgo)
+void lockByAnotherMachine(const Program &program, int minutesAgo, const QString &folder = {})
 {
-    QFile lock(program.write(u"Zeph.lock"_s, "4711\nzeph\nhangar\nfeedc0de\n0815\n"));
+    QFile lock(program.write(folder + u"Zeph.lock"_s, "4711\nzeph\nhangar\nfeedc0de\n0815\n"));
     ASSERT_TRUE(lock.open(QFile::ReadWrite));
     ASSERT_TRUE(lock.setFileTime(QDateTime::currentDateTime().addSecs(-60 * minutesAgo),
                                  QFileDevice::FileModificationTime));
@@ -82,6 +82,30 @@ TEST(ProgramPlaces, ALockThatAnotherMachineTouchesIsRespectedWithoutAQuestion)
     program.settle();
     lockByAnotherMachine(program, 1);
     program.run({ furtherWindow, u"close"_s });
+}
+
+TEST(ProgramPlaces, UnsavedTextsThatAnotherMachineHoldsAreOfferedOnlyWhenTakenOver)
+{
+    Program program;
+    program.settle();
+    const QString folder = u"Recovery/1/"_s;
+    const QString kept = folder + u"joystick.txt"_s;
+    program.write(kept,
+                  "Zeph recovery file\nKind=Joystick\nPath="
+                      + program.file(u"Files/a.tmj"_s).toUtf8()
+                      + "\nWritten=2026-01-02T03:04:05\nLength=8\n\nBTN S1 a");
+    const QString ready = u"text Panel_1 Ready"_s;
+    lockByAnotherMachine(program, 1, folder);
+    program.run({ firstWindow, ready, u"close"_s });
+    lockByAnotherMachine(program, 11, folder);
+    const QStringList asked = program.run(
+        { u"box Is somebody else at work?"_s, u"press No"_s, firstWindow, ready, u"close"_s });
+    EXPECT_THAT(lines(asked), Contains(HasSubstr("Unsaved texts in my folder")));
+    EXPECT_TRUE(program.exists(kept));
+    program.run({ u"box Is somebody else at work?"_s, u"press Yes"_s, u"gone Is somebody"_s,
+                  u"modal"_s, u"press Yes"_s, u"text JoystickText BTN S1 a"_s, u"close"_s,
+                  u"box  Save a.tmj now?"_s, u"press No"_s });
+    EXPECT_FALSE(program.exists(kept));
 }
 
 TEST(ProgramPlaces, AMovedFolderFindsItsFilesAgainAndHoldsThemRelative)

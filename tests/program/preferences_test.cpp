@@ -189,3 +189,64 @@ TEST_F(ProgramPreferences, TheMainWindowsEndDoesNotLoseWhatStandsInTheWindow)
     program.run({ started, entry, opened, u"tab SSTab1 5"_s, u"retype UndoMax 55"_s, u"close"_s });
     EXPECT_EQ(program.setting(u"Miscellaneous"_s, u"UndoMax"_s), u"55");
 }
+
+TEST_F(ProgramPreferences, WhatAFieldCannotShowStaysAsItIs)
+{
+    const QByteArray hotas = "[Defaults]\r\nPOVhat=9\r\nRCSType=maybe\r\nTG1enabled=x\r\n";
+    program.write(u"HOTAS.ini"_s, hotas);
+    program.settle("[Colours]\r\nTextFontName=No Such Font\r\nTextFontSize=73\r\n");
+    program.run({ started, entry, opened, u"tab SSTab1 7"_s, u"flip CHK_Default_0"_s,
+                  u"press cmdOK"_s, u"gone Preferences"_s, u"close"_s });
+    const auto kept = [this](const QString &key) {
+        return program.setting(u"Defaults"_s, key, u"HOTAS.ini"_s);
+    };
+    EXPECT_NE(kept(u"POVUD"_s), u"(absent)") << "the one that was touched";
+    EXPECT_EQ(kept(u"POVhat"_s), u"9");
+    EXPECT_EQ(kept(u"RCSType"_s), u"maybe");
+    EXPECT_EQ(kept(u"TG1enabled"_s), u"x");
+    EXPECT_EQ(program.setting(u"Colours"_s, u"TextFontName"_s), u"No Such Font");
+    EXPECT_EQ(program.setting(u"Colours"_s, u"TextFontSize"_s), u"73");
+}
+
+TEST_F(ProgramPreferences, AnIndentOfEightyIsWrittenAndAligned)
+{
+    const QString path = program.write(u"Files/a.tmj"_s, "BTN S1 a\r\n");
+    for (const QString &typed : { u"80"_s, u"81"_s }) {
+        program.run({ u"text JoystickText BTN"_s, entry, opened, u"tab SSTab1 8"_s,
+                      u"retype IndentSpaces "_s + typed, u"press cmdOK"_s, u"gone Preferences"_s,
+                      u"close"_s },
+                    { path });
+        EXPECT_EQ(program.setting(u"Miscellaneous"_s, u"IndentSpaces"_s), u"80");
+        program.settle();
+    }
+    program.settle("IndentSpaces=80\r\nIndentAsWell=1\r\n");
+    program.run({ u"text JoystickText BTN"_s, u"trigger mnuAlignSlash"_s, u"done"_s,
+                  u"trigger mnuFileSave"_s, u"text Panel_1 saved successfully."_s, u"close"_s },
+                { path });
+    EXPECT_EQ(program.read(u"Files/a.tmj"_s), QByteArray(80, ' ') + "BTN S1 a\r\n");
+}
+
+TEST_F(ProgramPreferences, ALetterThatTheFilesCannotHoldIsToldWhereItIsTyped)
+{
+    const QString before = program.setting(u"Favourites"_s, u"FavName1"_s);
+    const QStringList notes = program.run({ started, entry, opened, u"tab SSTab1 5"_s,
+                                            u"retype BackUpFolder /tmp/\u0141\u00f3d\u017a/"_s,
+                                            u"text LabelUnwritable can't hold the character"_s,
+                                            u"retype BackUpFolder "_s + program.file(u"Backup/"_s),
+                                            u"press cmdOK"_s, u"gone Preferences"_s, u"close"_s });
+    EXPECT_THAT(
+        lines(notes),
+        testing::Contains(testing::HasSubstr("my files can't hold the character \"\u0141\"")));
+}
+
+TEST_F(ProgramPreferences, ACustomApplicationThatIsAFolderIsRefused)
+{
+    program.settle("[Apps]\r\nCustomAppName1=Mine\r\nCustomAppPath1="
+                   + program.file(u"Files"_s).toUtf8() + "\r\nCustomAppUse1=1\r\n");
+    const QStringList notes =
+        program.run({ started, u"usable mnuCustomApp_1 0"_s, entry, opened, u"tab SSTab1 2"_s,
+                      u"usable CustomAppUse_1 0"_s, u"value CustomAppUse_1"_s, u"press cmdOK"_s,
+                      u"gone Preferences"_s, u"close"_s });
+    EXPECT_THAT(lines(notes), testing::Contains(testing::HasSubstr("is a folder, not a program")));
+    EXPECT_THAT(lines(notes), testing::Contains("CustomAppUse_1=0"));
+}

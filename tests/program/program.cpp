@@ -76,10 +76,9 @@ void Program::setEnvironment(const QString &name, const QString &value)
 
 void Program::installForOthers()
 {
-    QDir().mkpath(file(u"home"_s));
-    ASSERT_EQ(::chmod(QFile::encodeName(file(u"home"_s)).constData(), 0777), 0);
+    ASSERT_EQ(::chmod(QFile::encodeName(m_home.path()).constData(), 0777), 0);
     ASSERT_EQ(::chmod(QFile::encodeName(folder()).constData(), 0555), 0);
-    setEnvironment(u"HOME"_s, file(u"home"_s));
+    setEnvironment(u"HOME"_s, m_home.path());
     m_environment.remove(u"XDG_DATA_HOME"_s);
     m_isOthers = true;
 }
@@ -87,11 +86,11 @@ void Program::installForOthers()
 std::unique_ptr<QProcess> Program::start(const QStringList &script, const QString &log,
                                          const QStringList &arguments)
 {
-    const QString path = write(logPath(log) + u".script"_s, script.join(u'\n').toUtf8());
+    const QString path = logFolder().write(log + u".script"_s, script.join(u'\n').toUtf8());
     auto process = std::make_unique<QProcess>();
     QProcessEnvironment environment = m_environment;
     environment.insert(u"ZEPH_SCRIPT"_s, path);
-    environment.insert(u"ZEPH_SCRIPT_LOG"_s, file(logPath(log)));
+    environment.insert(u"ZEPH_SCRIPT_LOG"_s, logFolder().file(log));
     process->setProcessEnvironment(environment);
     process->setProcessChannelMode(QProcess::ForwardedChannels);
     process->setWorkingDirectory(m_startFolder);
@@ -118,7 +117,7 @@ std::unique_ptr<QProcess> Program::start(const QStringList &script, const QStrin
 
 QStringList Program::noted(const QString &log) const
 {
-    return QString::fromUtf8(read(logPath(log))).split(u'\n', Qt::SkipEmptyParts);
+    return QString::fromUtf8(logFolder().read(log)).split(u'\n', Qt::SkipEmptyParts);
 }
 
 QStringList Program::run(const QStringList &script, const QStringList &arguments)

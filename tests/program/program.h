@@ -46,8 +46,7 @@ public:
     /// Makes the program's folder one that others have installed: it is read-only for the user, who
     /// has a home of his own and only there may write. The notes go there too.
     void installForOthers();
-    /// A file's path in that home.
-    QString atHome(const QString &name) const { return file(u"home/"_s + name); }
+    const TempFolder &home() const { return m_home; }
 
     /// Runs a script to the end of the program; gives what the driver noted, a line each. Fails the
     /// test when the program does not end in time or gets stuck.
@@ -58,9 +57,10 @@ public:
     QStringList noted(const QString &log) const;
 
 private:
-    QString logPath(const QString &log) const { return m_isOthers ? u"home/"_s + log : log; }
+    const TempFolder &logFolder() const { return m_isOthers ? m_home : m_folder; }
 
     TempFolder m_folder;
+    TempFolder m_home;
     QProcessEnvironment m_environment;
     qsizetype m_fileSizeLimit = -1;
     QString m_startFolder;

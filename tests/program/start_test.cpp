@@ -7,6 +7,7 @@
 
 #include <gmock/gmock.h>
 
+#include <QDateTime>
 #include <QFile>
 
 using namespace zeph;
@@ -259,4 +260,27 @@ TEST(ProgramStart, ABadNumberInTheStoreIsToldOnceAndTheDefaultHolds)
         program.run({ u"modal"_s, u"press OK"_s, u"text Panel_1 Ready"_s, u"close"_s });
     EXPECT_THAT(lines(notes), Contains(HasSubstr("UndoMax")));
     EXPECT_EQ(program.setting(u"Miscellaneous"_s, u"UndoMax"_s), u"20");
+}
+
+TEST(ProgramStart, ALetterThatTheFilesCannotHoldIsToldInWelcome)
+{
+    Program program;
+    const QStringList notes = program.run(
+        { u"maybe-ok WARNING"_s, u"window Welcome to Zeph"_s, u"type txtLastName \u0141ee"_s,
+          u"text lblNameNote can't hold"_s, u"usable cmdNames 0"_s, u"retype txtLastName Lee"_s,
+          u"usable cmdNames 1"_s, u"dismiss Welcome"_s, u"gone Welcome"_s, u"close"_s });
+    EXPECT_THAT(lines(notes), Contains(HasSubstr("can't hold the character \"\u0141\"")));
+}
+
+TEST(ProgramStart, AStoreOfTenMegabytesOfLineEndsStartsInUnderTwoSeconds)
+{
+    Program program;
+    program.settle(QByteArray("\r\n").repeated(5'000'000) + "UndoMax=21\r\n");
+    const qint64 begin = QDateTime::currentMSecsSinceEpoch();
+    const QStringList notes = program.run(
+        { u"text Panel_1 Ready! Welcome to Zeph, buddy!"_s, u"time ready"_s, u"close"_s });
+    const qint64 ready = notes.filter(u"ready at "_s).value(0).section(u' ', -1).toLongLong();
+    EXPECT_GT(ready, begin);
+    EXPECT_LT(ready - begin, 2000);
+    EXPECT_EQ(program.setting(u"Miscellaneous"_s, u"UndoMax"_s), u"21");
 }

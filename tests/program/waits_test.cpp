@@ -125,12 +125,11 @@ TEST_F(ProgramWaits, ALineBeyondTheLargestOldLineNumberIsSelected)
 
 TEST_F(ProgramWaits, AQuoteInTheFilesNameIsToldAndNothingIsStarted)
 {
-    program.settle();
-    const QString path = program.write(u"Files/a\"b.tmj"_s, "BTN S1 a\r\n");
+    program.write(u"Files/a\"b.tmj"_s, "BTN S1 a\r\n");
+    program.settle("RestoreJoyFile=Files/a\"b.tmj\r\n");
     const QString told = u"box That name has a quote in it"_s;
     program.run({ u"text JoystickText BTN"_s, compile, told, u"press OK"_s, u"gone That name"_s,
-                  download, told, u"press OK"_s, u"gone That name"_s, u"close"_s },
-                { path });
+                  u"done"_s, download, told, u"press OK"_s, u"gone That name"_s, u"close"_s });
     EXPECT_EQ(program.setting(u"Compiler"_s, u"FileName"_s, u"HOTAS.ini"_s), u"(absent)");
 }
 

@@ -117,10 +117,10 @@ TEST_F(MainWindow, ButtonsCanBeUsedWhenTheirEntryCan)
 {
     EXPECT_TRUE(button(u"Toolbar1_1"_s)->isEnabled());
     EXPECT_TRUE(button(u"Toolbar1_4"_s)->isEnabled());
-    EXPECT_FALSE(button(u"Toolbar2_1"_s)->isEnabled()) << "the Composer is for later";
-    editor->action(u"mnuAppsComposer")->setEnabled(true);
-    settle();
     EXPECT_TRUE(button(u"Toolbar2_1"_s)->isEnabled());
+    editor->action(u"mnuAppsComposer")->setEnabled(false);
+    settle();
+    EXPECT_FALSE(button(u"Toolbar2_1"_s)->isEnabled());
 }
 
 TEST_F(MainWindow, AButtonRunsItsEntryForTheSelectedTab)
@@ -271,7 +271,11 @@ TEST_F(MainWindow, AKeyThatTextAndMenuBothKnowRunsOneEntry)
                 : QString();
             QTest::keyClick(&editor->view().control(editor->selected().kind()), key.key(),
                             key.keyboardModifiers());
-            EXPECT_EQ(ran, QStringList{ ofText.isEmpty() ? QString::fromUtf16(row.name) : ofText })
+            // The macro text takes these two and does nothing.
+            const bool isTaken = kind == DocumentKind::Macro
+                && (keys == QKeySequence(u"Ctrl+G"_s) || keys == QKeySequence(u"Ctrl+I"_s));
+            const QString entry = ofText.isEmpty() ? QString::fromUtf16(row.name) : ofText;
+            EXPECT_EQ(ran, isTaken ? QStringList() : QStringList{ entry })
                 << keys.toString().toStdString();
         }
     }

@@ -32,8 +32,11 @@ void addHead(StatementParts &parts, const JoystickFile &file, const Place &place
 {
     if (place.position >= body)
         return;
-    for (const QStringView word : file.at(place).split(u' ', Qt::SkipEmptyParts))
-        parts.append({ word.toString() });
+    for (const QStringView word : file.at(place).split(u' ', Qt::SkipEmptyParts)) {
+        // Not moved: GCC would take the empty value inside for an uninitialised one.
+        const StatementPart part{ word.toString() };
+        parts.append(part);
+    }
 }
 
 // The part of an item; no value when its closing bracket is missing.

@@ -257,8 +257,9 @@ void ComposerFirstPage::clicked(const ControlsPicture &picture, const QString &i
 void ComposerFirstPage::tell(ControlsPicture &picture, const QString &id)
 {
     const QString text = m_parts.documents.joystick().text();
+    const QStringList controls = offeredControls(id, m_triggerHasStages);
     QStringList told;
-    for (const QString &control : offeredControls(id, m_triggerHasStages)) {
+    for (const QString &control : controls) {
         if (findControl(text, buttonStatement(control))) {
             told.append(toldOf(text, control));
         }
@@ -271,6 +272,16 @@ void ComposerFirstPage::tell(ControlsPicture &picture, const QString &id)
         spot->setToolTip(Qt::convertFromPlainText(shown));
         spot->setAccessibleDescription(shown);
     }
+    m_pointed = controls.size() == 1 && told.isEmpty() ? controls.first() : QString();
+    Q_EMIT changed();
+}
+
+std::optional<Generated> ComposerFirstPage::current() const
+{
+    if (m_pointed.isEmpty()) {
+        return {};
+    }
+    return plainStatement(buttonStatement(m_pointed), true);
 }
 
 void ComposerFirstPage::insertControl(const QString &control)

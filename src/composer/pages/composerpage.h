@@ -27,6 +27,8 @@ public:
     ComposerFirstPage(const ComposerParts &parts, QWidget *parent);
     ~ComposerFirstPage() override;
 
+    /// What a click on the control that is pointed at would insert.
+    std::optional<Generated> current() const override;
     bool read(const QString &) override { return false; }
     void enter() override;
     void windowActivated() override;
@@ -68,6 +70,7 @@ private:
     QMenu *mnuRHList = nullptr;
     QString m_menuMacro; ///< the macro that mnuRHList is about
     bool m_triggerHasStages = true;
+    QString m_pointed; ///< the one control of the hot spot that is pointed at; else empty
 };
 
 } // namespace zeph

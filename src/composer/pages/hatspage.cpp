@@ -3,8 +3,8 @@
 
 #include "composer/pages/hatspage.h"
 
+#include "composer/pages/page_fields.h"
 #include "composer/statement_inserter.h"
-#include "platform/control_array.h"
 #include "platform/dialogs.h"
 #include "ui_hatspage.h"
 
@@ -22,9 +22,9 @@ HatsPage::HatsPage(const ComposerParts &parts, QWidget *parent)
 {
     m_ui->setupUi(this);
     m_options = OptionBoxes(this, OptionPage::Hat);
-    fill(*m_ui->ComboHatAs, hatNames);
-    fill(*m_ui->ComboHatUSE, hatRoles);
-    fill(*m_ui->ComboHatForcedCorners, hatsWithCorners);
+    fillList(*m_ui->ComboHatAs, hatNames);
+    fillList(*m_ui->ComboHatUSE, hatRoles);
+    fillList(*m_ui->ComboHatForcedCorners, hatsWithCorners);
     SetupHatUSE();
     for (const QComboBox *box : { m_ui->ComboHatAs, m_ui->ComboHatUSE }) {
         connect(box, &QComboBox::currentTextChanged, this, &HatsPage::SetupHatUSE);
@@ -33,7 +33,8 @@ HatsPage::HatsPage(const ComposerParts &parts, QWidget *parent)
         connect(insert, &QPushButton::clicked, this,
                 guarded(parts.context.dialogs, [this](bool) { CMDHatViewInsert_Click(); }));
     }
-    announceChanges(*this);
+    whenEdited(*this, this, [this] { Q_EMIT changed(); });
+    connect(m_ui->SSTabHats, &QTabWidget::currentChanged, this, &ComposerPage::changed);
 }
 
 HatsPage::~HatsPage() = default;

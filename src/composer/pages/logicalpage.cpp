@@ -57,12 +57,12 @@ LogicalPage::~LogicalPage() = default;
 
 void LogicalPage::FillLogicLists()
 {
-    fill(*m_ui->FlagList_0, flagNames());
-    fill(*m_ui->FlagList_1, flagHats);
-    fill(*m_ui->FlagList_2, flagButtons);
-    fill(*m_ui->FlagList_3, flagTimers);
-    fill(*m_ui->FlagList_4, flagNames());
-    fill(*m_ui->FlagList_5, flagHatPositions);
+    fillList(*m_ui->FlagList_0, flagNames());
+    fillList(*m_ui->FlagList_1, flagHats);
+    fillList(*m_ui->FlagList_2, flagButtons);
+    fillList(*m_ui->FlagList_3, flagTimers);
+    fillList(*m_ui->FlagList_4, flagNames());
+    fillList(*m_ui->FlagList_5, flagHatPositions);
 }
 
 QPushButton *LogicalPage::addWordButton(QBoxLayout &row, const QString &name, QStringView word,

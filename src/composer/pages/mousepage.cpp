@@ -4,6 +4,7 @@
 #include "composer/pages/mousepage.h"
 
 #include "composer/composer_editor.h"
+#include "composer/pages/page_fields.h"
 #include "composer/statement_inserter.h"
 #include "platform/dialogs.h"
 #include "text/mouse_types.h"
@@ -45,7 +46,9 @@ MousePage::MousePage(const ComposerParts &parts, QWidget *parent)
     connect(m_ui->MouseList, &QListWidget::currentRowChanged, this, &MousePage::showButtonsOfType);
     connect(m_ui->CHK_Mouse_0, &QCheckBox::toggled, m_ui->TXT_Mouse_2, &QWidget::setEnabled);
     connectButtons();
-    announceChanges(*this);
+    whenEdited(*this, this, [this] { Q_EMIT changed(); });
+    connect(m_ui->MouseList, &QListWidget::currentRowChanged, this, &ComposerPage::changed);
+    connect(m_ui->SSTab4, &QTabWidget::currentChanged, this, &ComposerPage::changed);
 }
 
 MousePage::~MousePage() = default;
@@ -62,7 +65,7 @@ void MousePage::fillLists()
     for (int scale = firstScale; scale <= lastScale; ++scale) {
         m_ui->ComboScaleValue->addItem(QString::number(scale));
     }
-    fill(*m_ui->ComboAnalogueAxes_8, mouseDrivers);
+    fillList(*m_ui->ComboAnalogueAxes_8, mouseDrivers);
     AxisAsMouseFields fields;
     fields.axis = mouseDrivers[0].toString();
     showFields(settled(fields));
@@ -204,7 +207,7 @@ void MousePage::DisableChecksForUSeAxisAsMouse()
     const AxisAsMouseFields now = settled(axisFields());
     {
         const QSignalBlocker blocker(m_ui->ComboMouseAxes);
-        fill(*m_ui->ComboMouseAxes, mouseAxesFor(now.axis));
+        fillList(*m_ui->ComboMouseAxes, mouseAxesFor(now.axis));
         m_ui->ComboMouseAxes->setCurrentText(now.mouseAxis);
     }
     const UseOptions options = axisAsMouseOptions(now.axis, now.mouseAxis);

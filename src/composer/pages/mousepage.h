@@ -5,7 +5,7 @@
 
 #include "composer/composer_page.h"
 #include "composer/generators/mouse_statements.h"
-#include "composer/pages/page_fields.h"
+#include "composer/pages/option_boxes.h"
 
 #include <memory>
 

@@ -3,48 +3,36 @@
 
 #pragma once
 
-// What the forms of the hat page and the mouse page share.
+// What the fields of all pages of the Composer do alike.
 
-#include "composer/generators/use_parts.h"
+#include "platform/core/base.h"
 
-#include <QList>
+#include <QComboBox>
+#include <QLineEdit>
 
-class QCheckBox;
-class QComboBox;
-class QLineEdit;
+#include <functional>
 
 namespace zeph {
 
-class ComposerPage;
+/// Calls a function whenever a text box, a list or a tick among the children of a widget changes.
+void whenEdited(const QWidget &parent, QObject *context, const std::function<void()> &then);
 
-/// Gives a box these entries, of which the first is chosen.
-void fill(QComboBox &box, language::Words words);
+/// Gives a box the focus, with its text selected.
+void askFor(QLineEdit &box);
 
-/// Gives a field the focus, with its text selected.
-void askFor(QLineEdit &field);
+/// Gives a box the width of a number of a few digits.
+void fitToNumber(QLineEdit &box);
 
-/// Lets the page emit changed() when one of its fields changes or another tab comes to the front.
-void announceChanges(ComposerPage &page);
-
-/// The boxes CheckHatUse_i of one form.
-class OptionBoxes
+/// Fills a list with words. What was selected stays so if it is there, otherwise it is the first.
+template <class Words> void fillList(QComboBox &list, const Words &words)
 {
-public:
-    OptionBoxes() = default;
-    /// The form must hold all boxes that checkHatUse has for the page, and outlive this.
-    OptionBoxes(const QWidget *form, OptionPage page);
-
-    UseOptions ticked() const;
-    void tick(UseOptions options);
-    /// Enables the boxes of these options; all others lose their ticks and are disabled.
-    void enableOnly(UseOptions options);
-
-private:
-    struct Box {
-        UseOption option;
-        QCheckBox *check;
-    };
-    QList<Box> m_boxes;
-};
+    QStringList items;
+    for (const QStringView word : words)
+        items.append(word.toString());
+    const QString before = list.currentText();
+    list.clear();
+    list.addItems(items);
+    list.setCurrentIndex(std::max(0, list.findText(before)));
+}
 
 } // namespace zeph

@@ -106,12 +106,15 @@ public:
         // The program itself needs no copy: it runs from the folder where it is installed.
         const QString executable =
             QFileInfo(QCoreApplication::applicationFilePath()).canonicalFilePath();
+        // A user's folder inside the program's would be copied into itself without an end.
+        const QString own = m_program.relativeFilePath(m_user.path()) + u'/';
         QDirIterator files(m_program.path(), QDir::Files | QDir::Hidden,
                            QDirIterator::Subdirectories);
         while (files.hasNext()) {
             const QFileInfo file(files.next());
             const QString path = m_program.relativeFilePath(file.filePath());
-            if (file.canonicalFilePath() != executable && !isPersonal(path)) {
+            if (file.canonicalFilePath() != executable && !isPersonal(path)
+                && !path.startsWith(own)) {
                 bringUpToDate(file, path);
             }
         }

@@ -4,6 +4,7 @@
 #include "toolchain/modes/profilechooser.h"
 
 #include "settings/settings.h"
+#include "text/profile_files.h"
 #include "toolchain/modes/profiles.h"
 #include "toolchain/tool_messages.h"
 #include "toolchain/toolchain_settings.h"

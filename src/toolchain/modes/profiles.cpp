@@ -8,6 +8,7 @@
 #include "platform/dialogs.h"
 #include "platform/status_line.h"
 #include "settings/settings.h"
+#include "text/profile_files.h"
 #include "toolchain/handshake.h"
 #include "toolchain/hotas_ini.h"
 #include "toolchain/tool_messages.h"
@@ -18,17 +19,6 @@
 namespace zeph {
 
 namespace {
-
-/// The names of a folder's profiles, with their ending.
-QStringList profileFiles(const QString &folder)
-{
-    const QString found = existingPath(folder);
-    // QDir takes an empty name for the current folder.
-    return found.isEmpty()
-        ? QStringList()
-        : QDir(found).entryList({ u'*' + profileExtension.toString() },
-                                QDir::Files | QDir::Readable, QDir::Name | QDir::IgnoreCase);
-}
 
 bool isManual(CalibrationRequest request, const ToolchainSettings &settings)
 {
@@ -44,20 +34,6 @@ bool isManual(CalibrationRequest request, const ToolchainSettings &settings)
 }
 
 } // namespace
-
-QString profilesFolder(const Paths &paths)
-{
-    return paths.hotasFolder + u"Profiles"_s + QDir::separator();
-}
-
-QStringList profileNames(const QString &folder)
-{
-    QStringList names = profileFiles(folder);
-    for (QString &name : names) {
-        name.chop(profileExtension.size());
-    }
-    return names;
-}
 
 SettingProblems GetResetAxes(Settings &settings, const SettingsFiles &files)
 {

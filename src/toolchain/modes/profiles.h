@@ -13,11 +13,6 @@ class ToolchainHandshake;
 /// How a profile is calibrated; Stored means as the settings say.
 enum class CalibrationRequest { Stored = 0, Auto = 1, Manual = 2 };
 
-/// The folder where the tools keep the profiles, with a closing separator.
-QString profilesFolder(const Paths &paths);
-/// The names of a folder's profiles (*.tmc), without the ending, in alphabetical order.
-QStringList profileNames(const QString &folder);
-
 /// The profile that resets the axes, its calibration and whether each download applies it: read
 /// and written by themselves, the global save leaves them alone.
 [[nodiscard]] SettingProblems GetResetAxes(Settings &settings, const SettingsFiles &files);

@@ -6,6 +6,7 @@
 #include "documents/documents.h"
 #include "editor/macros/macro_features.h"
 #include "platform/core/profile_file.h"
+#include "platform/richtext/rich_text_box.h"
 #include "tests/support/composer_world.h"
 #include "tests/support/fixture.h"
 
@@ -182,6 +183,23 @@ TEST_F(FirstPage, AHotSpotTellsItsNameAndWhatTheFileHasOnIt)
     QWidget &hat = control<QWidget>(u"HAT_0"_s);
     QApplication::sendEvent(&hat, &entered);
     EXPECT_EQ(control<QLabel>(u"LabelControl"_s).text(), u"H1L:\nBTN H1L c"_s);
+}
+
+TEST_F(FirstPage, TheControlThatIsPointedAtIsShownAsItWouldGoIn)
+{
+    setJoystick(u"BTN T1 a\n"_s);
+    QEnterEvent entered(QPointF(1, 1), QPointF(1, 1), QPointF(1, 1));
+    QApplication::sendEvent(&control<QWidget>(u"BTN_0"_s), &entered);
+    auto &preview = control<RichTextBox>(u"PreviewText"_s);
+    QTRY_COMPARE(preview.toPlainText(), u"BTN S1 "_s);
+    EXPECT_EQ(control<QLabel>(u"LabelLanding"_s).text(), u"Goes into line 2 of Untitled.tmj"_s);
+    QEvent left(QEvent::Leave);
+    QApplication::sendEvent(&control<QWidget>(u"BTN_0"_s), &left);
+    QTRY_COMPARE(preview.toPlainText(), QString());
+    // T1 has a statement, to which a click goes.
+    QApplication::sendEvent(&control<QWidget>(u"BTN_4"_s), &entered);
+    QTest::qWait(200);
+    EXPECT_EQ(preview.toPlainText(), QString());
 }
 
 TEST_F(FirstPage, TheHandlesOfTheFolderAreListedAndTheChosenOneIsKept)

@@ -102,6 +102,14 @@ protected:
         m_folder.write(u"app/"_s + name, bytes);
         protect();
     }
+    /// A folder within the program's that everybody may write.
+    void installForAll(const QString &name)
+    {
+        unprotect();
+        QDir().mkdir(m_folder.file(u"app/"_s + name));
+        setMode(u"app/"_s + name, 0777);
+        protect();
+    }
     void setMode(const QString &name, mode_t mode) const
     {
         EXPECT_EQ(chmod(QFile::encodeName(m_folder.file(name)).constData(), mode), 0);
@@ -140,6 +148,15 @@ TEST_F(InstalledTest, APerUserFolderIsFilled)
     EXPECT_EQ(user(u"Tips.txt"_s), "tip");
     EXPECT_EQ(user(u"Info/Syntax.rtf"_s), "info");
     EXPECT_TRUE(QFile::permissions(file(u"user/Zeph/Tips.txt")) & QFile::WriteOwner);
+}
+
+TEST_F(InstalledTest, AUsersFolderInsideTheProgramsIsNotCopiedIntoItself)
+{
+    installForAll(u"homes"_s);
+    const QString inside = file(u"app/homes/me");
+    EXPECT_TRUE(chooseFolder(file(u"app"), inside).canWrite);
+    EXPECT_TRUE(QFile::exists(inside + u"/Tips.txt"_s));
+    EXPECT_FALSE(QFile::exists(inside + u"/homes"_s));
 }
 
 TEST_F(InstalledTest, AnotherPersonsFilesAreNotCopied)

@@ -187,6 +187,16 @@ TEST_F(GameLaunchTest, AMissingFileEndsTheLaunch)
               u"Game's settings to rectify the problem.");
 }
 
+TEST_F(GameLaunchTest, AQuoteInTheFilesNameIsToldAndNeitherCompilerNorGameStarts)
+{
+    game.GameJF = folder.write(u"Files/f\"4.tmj"_s, "BTN S2 a");
+    dialogs.answer(u"That name has a quote in it"_s, BoxButton::Ok);
+    launch();
+    EXPECT_EQ(done, QStringList{ save });
+    ASSERT_EQ(dialogs.boxes().size(), 1);
+    EXPECT_TRUE(dialogs.boxes()[0].text.contains(game.GameJF));
+}
+
 TEST_F(GameLaunchTest, AnErrorIsShownInTheOpenFileAndTheGameIsNotStarted)
 {
     statusWritten = u"ERROR"_s;

@@ -6,6 +6,7 @@
 
 #include "platform/control_array.h"
 #include "tests/support/toolchain_bench.h"
+#include "text/profile_files.h"
 #include "toolchain/toolchain_settings.h"
 
 #include <QListWidget>

@@ -148,18 +148,6 @@ TEST_F(ProfilesTest, AProgramThatEndsMeanwhileIsSaidToTheCaller)
     EXPECT_FALSE(profiles().ApplyDefaultProfile());
 }
 
-TEST(ProfileNames, AreTheFilesWithoutTheirEndingInTheOrderOfTheAlphabet)
-{
-    const test::TempFolder folder;
-    for (const auto &name : { u"zulu.tmc"_s, u"Alpha.TMC"_s, u"mike.tmc"_s, u"notes.txt"_s,
-                              u"folder.tmc/inner.txt"_s }) {
-        folder.write(name, "x");
-    }
-    EXPECT_EQ(profileNames(folder.path()), (QStringList{ u"Alpha"_s, u"mike"_s, u"zulu"_s }));
-    EXPECT_EQ(profileNames(folder.file(u"none"_s)), QStringList());
-    EXPECT_EQ(profileNames({}), QStringList());
-}
-
 class CopyTMCfilesTest : public test::ToolchainBench
 {
 };
