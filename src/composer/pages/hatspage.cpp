@@ -4,9 +4,7 @@
 #include "composer/pages/hatspage.h"
 
 #include "composer/pages/page_fields.h"
-
 #include "composer/statement_inserter.h"
-#include "platform/control_array.h"
 #include "platform/dialogs.h"
 #include "ui_hatspage.h"
 
@@ -35,7 +33,8 @@ HatsPage::HatsPage(const ComposerParts &parts, QWidget *parent)
         connect(insert, &QPushButton::clicked, this,
                 guarded(parts.context.dialogs, [this](bool) { CMDHatViewInsert_Click(); }));
     }
-    announceChanges(*this);
+    whenEdited(*this, this, [this] { Q_EMIT changed(); });
+    connect(m_ui->SSTabHats, &QTabWidget::currentChanged, this, &ComposerPage::changed);
 }
 
 HatsPage::~HatsPage() = default;

@@ -3,9 +3,8 @@
 
 #include "composer/pages/mousepage.h"
 
-#include "composer/pages/page_fields.h"
-
 #include "composer/composer_editor.h"
+#include "composer/pages/page_fields.h"
 #include "composer/statement_inserter.h"
 #include "platform/dialogs.h"
 #include "text/mouse_types.h"
@@ -47,7 +46,9 @@ MousePage::MousePage(const ComposerParts &parts, QWidget *parent)
     connect(m_ui->MouseList, &QListWidget::currentRowChanged, this, &MousePage::showButtonsOfType);
     connect(m_ui->CHK_Mouse_0, &QCheckBox::toggled, m_ui->TXT_Mouse_2, &QWidget::setEnabled);
     connectButtons();
-    announceChanges(*this);
+    whenEdited(*this, this, [this] { Q_EMIT changed(); });
+    connect(m_ui->MouseList, &QListWidget::currentRowChanged, this, &ComposerPage::changed);
+    connect(m_ui->SSTab4, &QTabWidget::currentChanged, this, &ComposerPage::changed);
 }
 
 MousePage::~MousePage() = default;
@@ -206,7 +207,6 @@ void MousePage::DisableChecksForUSeAxisAsMouse()
     const AxisAsMouseFields now = settled(axisFields());
     {
         const QSignalBlocker blocker(m_ui->ComboMouseAxes);
-        m_ui->ComboMouseAxes->clear();
         fillList(*m_ui->ComboMouseAxes, mouseAxesFor(now.axis));
         m_ui->ComboMouseAxes->setCurrentText(now.mouseAxis);
     }

@@ -3,11 +3,7 @@
 
 #include "composer/pages/page_fields.h"
 
-#include "composer/composer_page.h"
-
 #include <QAbstractButton>
-#include <QListWidget>
-#include <QTabWidget>
 
 namespace zeph {
 
@@ -23,19 +19,10 @@ void whenEdited(const QWidget &parent, QObject *context, const std::function<voi
     }
 }
 
-void announceChanges(ComposerPage &page)
+void askFor(QLineEdit &box)
 {
-    whenEdited(page, &page, [&page] { Q_EMIT page.changed(); });
-    for (const QListWidget *list : page.findChildren<QListWidget *>())
-        QObject::connect(list, &QListWidget::currentRowChanged, &page, &ComposerPage::changed);
-    for (const QTabWidget *tabs : page.findChildren<QTabWidget *>())
-        QObject::connect(tabs, &QTabWidget::currentChanged, &page, &ComposerPage::changed);
-}
-
-void askFor(QLineEdit &field)
-{
-    field.setFocus();
-    field.selectAll();
+    box.setFocus();
+    box.selectAll();
 }
 
 void fitToNumber(QLineEdit &box)

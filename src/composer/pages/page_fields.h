@@ -14,16 +14,11 @@
 
 namespace zeph {
 
-class ComposerPage;
-
 /// Calls a function whenever a text box, a list or a tick among the children of a widget changes.
 void whenEdited(const QWidget &parent, QObject *context, const std::function<void()> &then);
 
-/// Lets the page emit changed() when one of its fields changes or another tab comes to the front.
-void announceChanges(ComposerPage &page);
-
-/// Gives a field the focus, with its text selected.
-void askFor(QLineEdit &field);
+/// Gives a box the focus, with its text selected.
+void askFor(QLineEdit &box);
 
 /// Gives a box the width of a number of a few digits.
 void fitToNumber(QLineEdit &box);
