@@ -14,9 +14,10 @@
 #include "tests/support/fixture.h"
 
 #include <QComboBox>
+#include <QLabel>
 #include <QLineEdit>
-#include <QScreen>
 #include <QSignalSpy>
+#include <QTabBar>
 #include <QTabWidget>
 #include <QTest>
 
@@ -80,6 +81,34 @@ TEST_F(ComposerWindow, IsNoLargerThanASmallScreen)
     EXPECT_LE(composer()->minimumSizeHint().height(), 720);
     EXPECT_LE(composer()->width(), 1024);
     EXPECT_LE(composer()->height(), 720);
+}
+
+TEST_F(ComposerWindow, NoMnemonicIsTwiceInSight)
+{
+    open();
+    const auto letterOf = [](const QString &caption) {
+        const qsizetype mark = QString(caption).replace(u"&&"_s, u"  "_s).indexOf(u'&');
+        return mark < 0 ? QString() : caption.mid(mark + 1, 1).toUpper();
+    };
+    for (const auto page : { InsertOptions::Composer, InsertOptions::Templates }) {
+        composer()->showPage(page);
+        QStringList letters;
+        for (const auto *button : composer()->findChildren<QAbstractButton *>()) {
+            letters.append(button->isVisible() ? letterOf(button->text()) : QString());
+        }
+        for (const auto *label : composer()->findChildren<QLabel *>()) {
+            letters.append(label->isVisible() && label->buddy() ? letterOf(label->text())
+                                                                : QString());
+        }
+        for (const auto *bar : composer()->findChildren<QTabBar *>()) {
+            for (int i = 0; bar->isVisible() && i < bar->count(); ++i) {
+                letters.append(letterOf(bar->tabText(i)));
+            }
+        }
+        letters.removeAll(QString());
+        EXPECT_GT(letters.size(), 10);
+        EXPECT_EQ(letters.removeDuplicates(), 0) << letters.join(u' ').toStdString();
+    }
 }
 
 TEST_F(ComposerWindow, OKAndEscapeHideItAndItKeepsWhatItHolds)

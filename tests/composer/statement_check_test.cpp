@@ -3,6 +3,9 @@
 
 #include "composer/statement_check.h"
 
+#include "platform/core/file_io.h"
+#include "text/text_lines.h"
+
 #include <gtest/gtest.h>
 
 using namespace zeph;
@@ -46,6 +49,29 @@ TEST(Findings, AMistakeInTheStatement)
     const QStringList found = findings(QString(), u"BTN S9 a"_s);
     ASSERT_EQ(found.size(), 1);
     EXPECT_TRUE(found[0].contains(u"S9"_s)) << found[0].toStdString();
+}
+
+TEST(Findings, TheSamplePairHasNone)
+{
+    const auto textOf = [](const QString &name) {
+        const auto bytes = readWholeFile(QStringLiteral(ZEPH_SOURCE_DIR "/data/Files/") + name);
+        return documentText(bytes.value_or(QByteArray())).value_or(QString());
+    };
+    const QString joystick = textOf(u"Sample flight.tmj"_s);
+    const QString macroText = textOf(u"Sample flight.tmm"_s);
+    int statements = 0;
+    int last = -1;
+    for (qsizetype at = 0; at >= 0; at = joystick.indexOf(u'\n', at + 1)) {
+        const auto read = statementAt(joystick, int(at));
+        if (!read || read->start == last) {
+            continue;
+        }
+        last = read->start;
+        ++statements;
+        EXPECT_EQ(findings(QString(), read->text, macroText), QStringList())
+            << read->text.toStdString();
+    }
+    EXPECT_GT(statements, 40);
 }
 
 TEST(StatementAtCaret, IsThatOfTheCaretsLine)

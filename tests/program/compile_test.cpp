@@ -188,3 +188,45 @@ TEST(ProgramCompile, ClosingTheProgramDuringAWaitEndsIt)
     program.run({ u"text MacroText ="_s, u"trigger mnuAppsCompile"_s, u"pause 100"_s, u"close"_s },
                 { program.file(sample) });
 }
+
+TEST(ProgramCompile, AStatementOfTheComposerCompilesAndIsFoundAgain)
+{
+    Program program;
+    program.settle();
+    // The sample pair without its statement for T1.
+    QByteArray pair = program.read(sample);
+    const QByteArray own = "BTN T1 /P Air_Brake_Open\r\n       /R Air_Brake_Stop\r\n";
+    ASSERT_TRUE(pair.contains(own));
+    pair.replace(own, "");
+    program.write(sample, pair);
+    const QByteArray statement = "BTN T1 /U Fire_Gun \r\n/M Release \r\n";
+    const int line = int(pair.count('\n')) + 1;
+
+    const QStringList notes = program.run({ u"text MacroText ="_s,
+                                            u"keys JoystickText Ctrl+End"_s,
+                                            u"trigger mnuAppsComposer"_s,
+                                            u"window Composer"_s,
+                                            u"tab SSTabHardware 1"_s,
+                                            u"press BTN_4"_s,
+                                            u"pause 100"_s,
+                                            u"text JoystickText BTN T1 "_s,
+                                            u"press SlashButton_0"_s,
+                                            u"pause 100"_s,
+                                            u"keys List1_0 Home Return"_s,
+                                            u"press SlashButton_1"_s,
+                                            u"pause 100"_s,
+                                            u"keys List1_0 Down Return"_s,
+                                            u"note Panel_3"_s,
+                                            u"press BTN_4"_s,
+                                            u"text Panel_3 "_s + QString::number(line),
+                                            u"trigger mnuAppsCompile"_s,
+                                            u"box File successfully compiled!"_s,
+                                            u"press OK"_s,
+                                            u"done"_s,
+                                            u"close"_s },
+                                          { program.file(sample) });
+    EXPECT_THAT(lines(notes), Contains(HasSubstr(" compiled successfully.")));
+    const QByteArray saved = program.read(sample);
+    EXPECT_EQ(saved.count("BTN T1 "), 1);
+    EXPECT_TRUE(saved.endsWith(statement)) << saved.right(200).constData();
+}
