@@ -4,6 +4,7 @@
 #include "composer/statement_check.h"
 
 #include "language/checker.h"
+#include "language/words.h"
 #include "text/text_lines.h"
 
 namespace zeph {
@@ -28,12 +29,25 @@ bool definesControl(StatementKind kind)
         || kind == StatementKind::FlagDefinition || kind == StatementKind::Axis;
 }
 
+/// Whether an item is where keys and macros are, and not an argument such as TRIM's "2-".
+bool isAmongKeys(const JoystickFile &file, const Item &item)
+{
+    for (int parent = item.parent; parent >= 0; parent = file.items[parent].parent) {
+        const Item &call = file.items[parent];
+        if (call.kind == ItemKind::Call
+            && language::words[size_t(call.reference)].arguments != language::CallShape::Keys) {
+            return false;
+        }
+    }
+    return true;
+}
+
 void addUnknownWords(const JoystickFile &file, const JoystickStatement &statement,
                      QStringList &findings)
 {
     for (int i = statement.body.items.first; i < statement.body.items.end; ++i) {
         const Item &item = file.items[i];
-        if (item.kind == ItemKind::Unknown) {
+        if (item.kind == ItemKind::Unknown && isAmongKeys(file, item)) {
             const QString told =
                 u"%1 is neither a key nor a macro of the macro file"_s.arg(file.at(item));
             if (!findings.contains(told)) {
