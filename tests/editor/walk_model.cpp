@@ -8,6 +8,8 @@
 #include "text/text_lines.h"
 #include "text/use_statements.h"
 
+#include <QDir>
+
 namespace zeph::test {
 
 QString WalkModel::File::name() const
@@ -104,9 +106,15 @@ void WalkModel::openPair()
 QString WalkModel::macroPathFor(const File &joystick)
 {
     if (const auto reference = lastMdefReference(joystick.document.text())) {
-        const QString path = settings.folder + macroNameFor(*reference, joystick.name());
-        if (files.contains(path)) {
-            return path;
+        // Files name each other in any case; "/B" is a name in the folder, too.
+        const QString named =
+            QDir::cleanPath(settings.folder + macroNameFor(*reference, joystick.name()));
+        const QStringList paths = files.keys();
+        const auto found = std::ranges::find_if(paths, [&named](const QString &path) {
+            return path.compare(named, Qt::CaseInsensitive) == 0;
+        });
+        if (found != paths.end()) {
+            return *found;
         }
     }
     return baseWithDot(joystick.path) + macroExtensionFor(joystick.path);
