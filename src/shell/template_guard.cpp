@@ -78,7 +78,7 @@ void TemplateGuard::update(bool waitsForDisk)
         auto result = m_folder.write(recovered);
         note({ std::move(recovered), std::move(result) });
     } else {
-        m_folder.writeSoon(make);
+        m_folder.writeSoon([make] { return std::vector{ make() }; });
     }
 }
 

@@ -118,7 +118,7 @@ void Recovery::updateSoon()
         }
     }
     if (!texts.empty()) {
-        m_folder.writeSoon(std::move(texts));
+        m_folder.writeSoon([texts = std::move(texts)] { return texts; });
     }
 }
 

@@ -128,26 +128,14 @@ RecoveryFolder::~RecoveryFolder()
     settle();
 }
 
-void RecoveryFolder::writeSoon(std::vector<RecoveredText> texts)
+void RecoveryFolder::writeSoon(std::function<std::vector<RecoveredText>()> make)
 {
-    m_writing = std::async(std::launch::async, [this, texts = std::move(texts)]() mutable {
+    m_writing = std::async(std::launch::async, [this, make = std::move(make)] {
         std::vector<Written> written;
-        for (RecoveredText &text : texts) {
+        for (RecoveredText &text : make()) {
             auto result = write(text);
             written.push_back({ std::move(text), std::move(result) });
         }
-        Q_EMIT hasWritten();
-        return written;
-    });
-}
-
-void RecoveryFolder::writeSoon(const std::function<RecoveredText()> &make)
-{
-    m_writing = std::async(std::launch::async, [this, make] {
-        RecoveredText text = make();
-        auto result = write(text);
-        std::vector<Written> written;
-        written.push_back({ std::move(text), std::move(result) });
         Q_EMIT hasWritten();
         return written;
     });

@@ -62,10 +62,9 @@ public:
     ~RecoveryFolder() override;
 
     Expected<void, FileError> write(const RecoveredText &recovered);
-    /// Has another thread write; settle() must come before the next call of any other kind.
-    void writeSoon(std::vector<RecoveredText> texts);
-    /// The same for a text that takes long to make, which the other thread does too.
-    void writeSoon(const std::function<RecoveredText()> &make);
+    /// Has another thread make these texts and write them; settle() must come before the next call
+    /// of any other kind.
+    void writeSoon(std::function<std::vector<RecoveredText>()> make);
     /// Waits for what writeSoon() began, and gives it once.
     std::vector<Written> settle();
     void remove(RecoveredKind kind);
