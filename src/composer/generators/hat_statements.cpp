@@ -3,6 +3,8 @@
 
 #include "composer/generators/hat_statements.h"
 
+#include "composer/generators/parted_statement.h"
+
 namespace zeph {
 
 namespace {
@@ -59,7 +61,8 @@ std::optional<HatFields> readHatStatement(QStringView statement)
     const std::optional<RoleStatement> read = readRole(statement);
     if (!read)
         return {};
-    const HatFields fields{ spelledIn(hatNames, read->name), spelledIn(hatRoles, read->role),
+    const HatFields fields{ spelledAs(hatNames, read->name).value_or(QString()),
+                            spelledAs(hatRoles, read->role).value_or(QString()),
                             read->inside.value_or(QString()), read->options };
     const bool isKnown = !lacksText({ fields.hat, fields.role });
     const bool hasOptions = !(fields.options & ~hatOptions(fields.hat, fields.role));

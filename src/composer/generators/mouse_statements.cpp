@@ -3,6 +3,7 @@
 
 #include "composer/generators/mouse_statements.h"
 
+#include "composer/generators/parted_statement.h"
 #include "language/scan.h"
 #include "text/mouse_types.h"
 
@@ -126,7 +127,7 @@ UseOptions axisAsMouseOptions(QStringView axis, QStringView mouseAxis)
 AxisAsMouseFields settled(AxisAsMouseFields fields)
 {
     const language::Words offered = mouseAxesFor(fields.axis);
-    if (spelledIn(offered, fields.mouseAxis).isEmpty())
+    if (indexIn(offered, fields.mouseAxis) < 0)
         fields.mouseAxis = offered.front().toString();
     fields.options &= axisAsMouseOptions(fields.axis, fields.mouseAxis);
     return fields;
@@ -158,8 +159,8 @@ std::optional<AxisAsMouseFields> readAxisAsMouse(QStringView statement)
     };
     const std::optional<int> scale = language::wholeNumber(arguments[0].trimmed());
     AxisAsMouseFields fields;
-    fields.axis = spelledIn(mouseDrivers, read->name);
-    fields.mouseAxis = spelledIn(mouseAxesFor(fields.axis), read->role);
+    fields.axis = spelledAs(mouseDrivers, read->name).value_or(QString());
+    fields.mouseAxis = spelledAs(mouseAxesFor(fields.axis), read->role).value_or(QString());
     fields.scale = scale.value_or(0);
     fields.increment = typed(arguments[1]);
     fields.hasStart = arguments.size() > 2;

@@ -135,11 +135,4 @@ std::optional<RoleStatement> readRole(QStringView statement)
     return RoleStatement{ parts[1].word, parts[3].word, parts[3].inside, *options };
 }
 
-QString spelledIn(language::Words list, QStringView word)
-{
-    const auto found = std::ranges::find_if(
-        list, [word](QStringView entry) { return entry.compare(word, Qt::CaseInsensitive) == 0; });
-    return found == list.end() ? QString() : found->toString();
-}
-
 } // namespace zeph

@@ -84,7 +84,4 @@ struct RoleStatement {
 /// No value for any other statement.
 std::optional<RoleStatement> readRole(QStringView statement);
 
-/// A word in the spelling of a list that has it in any case; empty when the list lacks it.
-QString spelledIn(language::Words list, QStringView word);
-
 } // namespace zeph
