@@ -21,6 +21,8 @@
 #include <QTabWidget>
 #include <QTest>
 
+#include <tuple>
+
 using namespace zeph;
 
 namespace {
@@ -90,8 +92,20 @@ TEST_F(ComposerWindow, NoMnemonicIsTwiceInSight)
         const qsizetype mark = QString(caption).replace(u"&&"_s, u"  "_s).indexOf(u'&');
         return mark < 0 ? QString() : caption.mid(mark + 1, 1).toUpper();
     };
-    for (const auto page : { InsertOptions::Composer, InsertOptions::Templates }) {
+    // Of the pages whose nested tabs have letters too, each of these.
+    const std::tuple<InsertOptions::Page, QString, int> sights[] = {
+        { InsertOptions::Composer, {}, 0 },         { InsertOptions::Templates, {}, 0 },
+        { InsertOptions::Hats, u"SSTabHats"_s, 0 }, { InsertOptions::Hats, u"SSTabHats"_s, 1 },
+        { InsertOptions::Mouse, u"SSTab4"_s, 0 },   { InsertOptions::Mouse, u"SSTab4"_s, 1 },
+        { InsertOptions::Mouse, u"SSTab4"_s, 2 },   { InsertOptions::Mouse, u"SSTab4"_s, 3 },
+        { InsertOptions::Mouse, u"SSTab4"_s, 4 },   { InsertOptions::Mouse, u"SSTab4"_s, 5 },
+        { InsertOptions::Logical, u"SSTab7"_s, 0 }, { InsertOptions::Logical, u"SSTab7"_s, 1 },
+    };
+    for (const auto &[page, nested, tab] : sights) {
         composer()->showPage(page);
+        if (!nested.isEmpty()) {
+            control<QTabWidget>(nested).setCurrentIndex(tab);
+        }
         QStringList letters;
         for (const auto *button : composer()->findChildren<QAbstractButton *>()) {
             letters.append(button->isVisible() ? letterOf(button->text()) : QString());
