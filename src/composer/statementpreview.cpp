@@ -112,6 +112,11 @@ void StatementPreview::refreshSoon()
 void StatementPreview::refreshNow()
 {
     m_soon.stop();
+    QPalette palette;
+    palette.setColor(QPalette::Base,
+                     toColor(documentBackground(m_parts.context.settings.of<ColourSettings>(),
+                                                DocumentKind::Joystick)));
+    m_ui->PreviewText->setPalette(palette);
     const auto current = m_page ? m_page->current() : std::nullopt;
     m_ui->CMD_ReplaceStatement->setEnabled(current && *current && holdsRead());
     if (!current) {
@@ -139,9 +144,6 @@ void StatementPreview::showStatement(const Statement &statement)
     Document &joystick = m_parts.documents.joystick();
     const RichText shown = richTextOf(statement, colourScheme(colours, DocumentKind::Joystick),
                                       plainFormat(colours, DocumentKind::Joystick));
-    QPalette palette;
-    palette.setColor(QPalette::Base, toColor(documentBackground(colours, DocumentKind::Joystick)));
-    m_ui->PreviewText->setPalette(palette);
     if (m_ui->PreviewText->richText() != shown) {
         m_ui->PreviewText->setRichText(shown);
     }

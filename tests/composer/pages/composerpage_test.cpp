@@ -433,6 +433,34 @@ TEST_F(FirstPage, ADoubleClickAfterABlankInsertsNoSecondOne)
     EXPECT_EQ(joystick().text(), u"BTN S1 a Fire "_s);
 }
 
+TEST_F(FirstPage, ADoubleClickInALinesMiddleKeepsTheNameApart)
+{
+    openMacros(macros);
+    QCoreApplication::processEvents();
+    options().COMPaddCR = false;
+    setJoystick(u"BTN S1 abc"_s, 8);
+    doubleClick(u"Fire"_s);
+    EXPECT_EQ(joystick().text(), u"BTN S1 a Fire bc"_s);
+    EXPECT_EQ(joystick().selStart(), 14);
+    expectOneStepFrom(joystick(), u"BTN S1 abc"_s);
+}
+
+TEST_F(FirstPage, ADoubleClickGoesIntoTheSelectedMacroFile)
+{
+    openMacros(macros);
+    QCoreApplication::processEvents();
+    options().COMPaddCR = false;
+    setJoystick(u"BTN S1 "_s);
+    const QString before = macro().text();
+    editor->documents().select(DocumentKind::Macro);
+    macro().select(macro().length(), 0);
+    doubleClick(u"Fire"_s);
+    // A line end is no blank.
+    EXPECT_EQ(macro().text(), before + u" Fire "_s);
+    EXPECT_EQ(joystick().text(), u"BTN S1 "_s);
+    expectOneStepFrom(macro(), before);
+}
+
 TEST_F(FirstPage, ADoubleClickReplacesTheSelection)
 {
     openMacros(macros);
