@@ -185,6 +185,15 @@ TEST_F(FirstPage, AHotSpotTellsItsNameAndWhatTheFileHasOnIt)
     EXPECT_EQ(control<QLabel>(u"LabelControl"_s).text(), u"H1L:\nBTN H1L c"_s);
 }
 
+TEST_F(FirstPage, AStatementThatWasJustInsertedIsToldAtOnce)
+{
+    QEnterEvent entered(QPointF(1, 1), QPointF(1, 1), QPointF(1, 1));
+    QApplication::sendEvent(&control<QWidget>(u"BTN_1"_s), &entered);
+    EXPECT_EQ(control<QLabel>(u"LabelControl"_s).text(), u"Button S2: nothing yet"_s);
+    click(u"BTN_1"_s);
+    EXPECT_EQ(control<QLabel>(u"LabelControl"_s).text(), u"S2:\nBTN S2 "_s);
+}
+
 TEST_F(FirstPage, TheControlThatIsPointedAtIsShownAsItWouldGoIn)
 {
     setJoystick(u"BTN T1 a\n"_s);
@@ -404,6 +413,23 @@ TEST_F(FirstPage, AFreshMacroFileEmptiesTheList)
     QCoreApplication::processEvents();
     EXPECT_EQ(mirror().headings().count(), 0);
     EXPECT_EQ(listed(), QStringList());
+}
+
+TEST_F(FirstPage, AnEmptyListTellsWhereMacrosComeFrom)
+{
+    const auto painted = [this] {
+        return mirror().list()->viewport()->grab().toImage();
+    };
+    const QImage empty = painted();
+    QImage blank(empty.size(), empty.format());
+    blank.setDevicePixelRatio(empty.devicePixelRatio());
+    blank.fill(mirror().list()->palette().base().color());
+    EXPECT_NE(empty, blank);
+    openMacros(macros);
+    QCoreApplication::processEvents();
+    // Below the entries there is nothing.
+    const QRect foot(0, painted().height() - 40, painted().width(), 40);
+    EXPECT_EQ(painted().copy(foot), blank.copy(foot));
 }
 
 TEST_F(FirstPage, ADoubleClickAtTheTextsStartInsertsNoBlankBefore)
