@@ -30,6 +30,13 @@ QString selectedOf(const QTextCursor &cursor)
     return cursor.selectedText().replace(QChar::ParagraphSeparator, u'\n');
 }
 
+void setGround(RichTextBox &box, ColorRef colour)
+{
+    QPalette palette;
+    palette.setColor(QPalette::Base, toColor(colour));
+    box.setPalette(palette);
+}
+
 QString inWords(const QStringList &findings)
 {
     QStringList shown = findings.first(std::min<qsizetype>(findings.size(), mostFindings));
@@ -112,11 +119,6 @@ void StatementPreview::refreshSoon()
 void StatementPreview::refreshNow()
 {
     m_soon.stop();
-    QPalette palette;
-    palette.setColor(QPalette::Base,
-                     toColor(documentBackground(m_parts.context.settings.of<ColourSettings>(),
-                                                DocumentKind::Joystick)));
-    m_ui->PreviewText->setPalette(palette);
     const auto current = m_page ? m_page->current() : std::nullopt;
     m_ui->CMD_ReplaceStatement->setEnabled(current && *current && holdsRead());
     if (!current) {
@@ -131,6 +133,9 @@ void StatementPreview::refreshNow()
 void StatementPreview::showNothing(const QString &why)
 {
     m_ui->PreviewText->clear();
+    setGround(
+        *m_ui->PreviewText,
+        documentBackground(m_parts.context.settings.of<ColourSettings>(), DocumentKind::Joystick));
     m_ui->LabelFindings->clear();
     m_ui->LabelLanding->setText(why.isEmpty() ? u"The caret is in line %1 of %2"_s
                                                     .arg(m_parts.documents.selected().caretLine())
@@ -144,6 +149,9 @@ void StatementPreview::showStatement(const Statement &statement)
     Document &joystick = m_parts.documents.joystick();
     const RichText shown = richTextOf(statement, colourScheme(colours, DocumentKind::Joystick),
                                       plainFormat(colours, DocumentKind::Joystick));
+    QPalette palette;
+    palette.setColor(QPalette::Base, toColor(documentBackground(colours, DocumentKind::Joystick)));
+    m_ui->PreviewText->setPalette(palette);
     if (m_ui->PreviewText->richText() != shown) {
         m_ui->PreviewText->setRichText(shown);
     }
