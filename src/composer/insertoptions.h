@@ -16,6 +16,7 @@ namespace zeph {
 class ComposerFirstPage;
 class StatementPreview;
 struct ComposerKey;
+struct ReadStatement;
 
 namespace Ui {
 class InsertOptions;
@@ -78,6 +79,7 @@ private:
     void bindLineEndBoxes(ComposerPage &page);
     void showAddsLineEnd();
     void readStatement();
+    bool readInto(Page page, const ReadStatement &read);
     void returnToEditor();
     void activated();
     void Command6_Click();

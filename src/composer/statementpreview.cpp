@@ -87,13 +87,14 @@ void StatementPreview::setRead(const ReadStatement &read)
     m_read.setPosition(read.start);
     m_read.setPosition(read.start + read.length, QTextCursor::KeepAnchor);
     m_readText = selectedOf(m_read);
+    m_readPage = m_page;
     m_readHasComments = read.hasComments;
     refreshNow();
 }
 
 bool StatementPreview::holdsRead() const
 {
-    return m_read.hasSelection() && selectedOf(m_read) == m_readText;
+    return m_page == m_readPage && m_read.hasSelection() && selectedOf(m_read) == m_readText;
 }
 
 void StatementPreview::showEvent(QShowEvent *event)
@@ -136,20 +137,22 @@ void StatementPreview::showNothing(const QString &why)
 void StatementPreview::showStatement(const Statement &statement)
 {
     const auto &colours = m_parts.context.settings.of<ColourSettings>();
-    Document &joystick = m_parts.documents.joystick();
-    const RichText shown = richTextOf(statement, colourScheme(colours, DocumentKind::Joystick),
-                                      plainFormat(colours, DocumentKind::Joystick));
+    const DocumentKind kind = m_page->target();
+    Document &into = m_parts.documents.of(kind);
+    const RichText shown =
+        richTextOf(statement, colourScheme(colours, kind), plainFormat(colours, kind));
     QPalette palette;
-    palette.setColor(QPalette::Base, toColor(documentBackground(colours, DocumentKind::Joystick)));
+    palette.setColor(QPalette::Base, toColor(documentBackground(colours, kind)));
     m_ui->PreviewText->setPalette(palette);
     if (m_ui->PreviewText->richText() != shown) {
         m_ui->PreviewText->setRichText(shown);
     }
-    const Landing landing = landingOf(joystick.text(), joystick.selStart(), joystick.selLength(),
+    const Landing landing = landingOf(into.text(), into.selStart(), into.selLength(),
                                       m_parts.inserter.composedNow(statement));
-    m_ui->LabelLanding->setText(
-        u"Goes into line %1 of %2"_s.arg(landing.line).arg(joystick.caption()));
-    m_ui->LabelFindings->setText(inWords(findingsOf(landing, m_parts.documents.macro().text())));
+    m_ui->LabelLanding->setText(u"Goes into line %1 of %2"_s.arg(landing.line).arg(into.caption()));
+    m_ui->LabelFindings->setText(kind == DocumentKind::Joystick ? inWords(
+                                     findingsOf(landing, m_parts.documents.macro().text()))
+                                                                : QString());
 }
 
 void StatementPreview::CMD_ReplaceStatement_Click()
