@@ -6,6 +6,7 @@
 #include "composer/generators/parted_statement.h"
 #include "language/checker.h"
 #include "language/scan.h"
+#include "language/use_forms.h"
 #include "language/words.h"
 #include "text/text_lines.h"
 
@@ -18,6 +19,7 @@ using language::ItemKind;
 using language::JoystickFile;
 using language::JoystickStatement;
 using language::Place;
+using language::sameWord;
 using language::StatementKind;
 
 bool isWithin(const Place &place, const Landing &landing)
@@ -59,14 +61,66 @@ void addUnknownWords(const JoystickFile &file, const JoystickStatement &statemen
     }
 }
 
-/// The line of another statement for the same control; 0 when there is none.
+/// What a statement settles: for a control or axis, one thing of it.
+struct Settled {
+    StatementKind kind = StatementKind::Unknown;
+    /// Empty for a statement that a file may have several times.
+    QStringView control = {};
+    /// Of a USE statement, which of its kinds it is: "AS", "FORCED_CORNERS".
+    QStringView what = {};
+
+    bool isSameAs(const Settled &other) const
+    {
+        return kind == other.kind && sameWord(control, other.control) && sameWord(what, other.what);
+    }
+};
+
+/// The first two words of a text.
+Settled useOf(QStringView words)
+{
+    const qsizetype end = language::nameEnd(words, 0);
+    const qsizetype next = language::skipBlanks(words, end);
+    return { StatementKind::Use, words.first(end),
+             words.sliced(next, language::nameEnd(words, next) - next) };
+}
+
+Settled settledByUse(const JoystickFile &file, const JoystickStatement &statement)
+{
+    if (statement.useForm >= 0) {
+        const language::UseForm &form = language::useForms()[size_t(statement.useForm)];
+        const bool isOfControl = form.shape == language::UseShape::Role
+            || form.head.endsWith(language::sensitivityEnding);
+        return isOfControl ? useOf(form.head) : Settled();
+    }
+    const language::Range items = statement.body.items;
+    if (items.isEmpty()) {
+        return {};
+    }
+    const qsizetype from = file.items[items.first].place.position;
+    const Settled use = useOf(QStringView(file.text).first(statement.place.end()).sliced(from));
+    const bool isOfControl = sameWord(use.what, u"AS"_w) || sameWord(use.what, u"FORCED_CORNERS"_w);
+    return isOfControl ? use : Settled();
+}
+
+Settled settledBy(const JoystickFile &file, const JoystickStatement &statement)
+{
+    if (statement.kind == StatementKind::Use) {
+        return settledByUse(file, statement);
+    }
+    return definesControl(statement.kind) ? Settled{ statement.kind, file.at(statement.subject) }
+                                          : Settled();
+}
+
+/// The line of another statement that settles the same; 0 when there is none.
 int lineOfOther(const JoystickFile &file, const JoystickStatement &statement)
 {
+    const Settled settled = settledBy(file, statement);
+    if (settled.control.isEmpty()) {
+        return 0;
+    }
     for (const JoystickStatement &other : file.statements) {
-        if (other.place.position != statement.place.position && other.kind == statement.kind
-            && other.subject.length > 0
-            && file.at(other.subject).compare(file.at(statement.subject), Qt::CaseInsensitive)
-                == 0) {
+        if (other.place.position != statement.place.position
+            && settledBy(file, other).isSameAs(settled)) {
             return other.place.line;
         }
     }
@@ -105,12 +159,9 @@ QStringList findingsOf(const Landing &landing, const QString &macroText)
         if (definesControl(statement.kind)) {
             addUnknownWords(pair.joystick, statement, findings);
         }
-        if (!definesControl(statement.kind) || statement.subject.length == 0) {
-            continue;
-        }
         if (const int line = lineOfOther(pair.joystick, statement)) {
             findings.append(u"Line %1 has a statement for %2 already"_s.arg(line).arg(
-                pair.joystick.at(statement.subject)));
+                settledBy(pair.joystick, statement).control));
         }
     }
     return findings;

@@ -63,9 +63,14 @@ bool StatementInserter::insertIntoSelected(const Generated &statement)
         refuse(statement.error());
         return false;
     }
-    Statement within = *statement;
+    return insert(pieceNow(*statement));
+}
+
+Statement StatementInserter::pieceNow(const Statement &statement) const
+{
+    Statement within = statement;
     within.startsLine = false;
-    return insert(composedAt(within, surroundingsOf(m_documents.selected()), false));
+    return composedAt(within, surroundingsOf(m_documents.selected()), false);
 }
 
 bool StatementInserter::insertFragment(const QString &text, ColorRef colour)

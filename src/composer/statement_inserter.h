@@ -39,6 +39,8 @@ public:
 
     /// What insertComposed() would write now, and where.
     Statement composedNow(const Statement &statement) const;
+    /// The same of insertIntoSelected().
+    Statement pieceNow(const Statement &statement) const;
 
     /// Tells a refusal. For what is no statement.
     void refuse(const Refusal &refusal);

@@ -62,9 +62,9 @@ StatementPreview::StatementPreview(const ComposerParts &parts, QWidget *parent)
     parts.documents.forEach([this](Document &each) {
         connect(&each, &Document::edited, this, &StatementPreview::refreshSoon);
         connect(&each, &Document::replaced, this, &StatementPreview::refreshSoon);
+        connect(&each, &Document::caretMoved, this, &StatementPreview::refreshSoon);
     });
-    connect(&parts.documents.joystick(), &Document::caretMoved, this,
-            &StatementPreview::refreshSoon);
+    connect(&parts.documents, &Documents::selectedChanged, this, &StatementPreview::refreshSoon);
 }
 
 StatementPreview::~StatementPreview() = default;
@@ -114,7 +114,8 @@ void StatementPreview::refreshNow()
 {
     m_soon.stop();
     const auto current = m_page ? m_page->current() : std::nullopt;
-    m_ui->CMD_ReplaceStatement->setEnabled(current && *current && holdsRead());
+    m_ui->CMD_ReplaceStatement->setEnabled(current && *current && !m_page->isPiece()
+                                           && holdsRead());
     if (!current) {
         showNothing(QString());
     } else if (!*current) {
@@ -137,8 +138,10 @@ void StatementPreview::showNothing(const QString &why)
 void StatementPreview::showStatement(const Statement &statement)
 {
     const auto &colours = m_parts.context.settings.of<ColourSettings>();
-    const DocumentKind kind = m_page->target();
-    Document &into = m_parts.documents.of(kind);
+    const bool isPiece = m_page->isPiece();
+    Documents &documents = m_parts.documents;
+    Document &into = isPiece ? documents.selected() : documents.joystick();
+    const DocumentKind kind = into.kind();
     const RichText shown =
         richTextOf(statement, colourScheme(colours, kind), plainFormat(colours, kind));
     QPalette palette;
@@ -147,12 +150,14 @@ void StatementPreview::showStatement(const Statement &statement)
     if (m_ui->PreviewText->richText() != shown) {
         m_ui->PreviewText->setRichText(shown);
     }
-    const Landing landing = landingOf(into.text(), into.selStart(), into.selLength(),
-                                      m_parts.inserter.composedNow(statement));
+    const StatementInserter &inserter = m_parts.inserter;
+    const Landing landing =
+        landingOf(into.text(), into.selStart(), into.selLength(),
+                  isPiece ? inserter.pieceNow(statement) : inserter.composedNow(statement));
     m_ui->LabelLanding->setText(u"Goes into line %1 of %2"_s.arg(landing.line).arg(into.caption()));
-    m_ui->LabelFindings->setText(kind == DocumentKind::Joystick ? inWords(
-                                     findingsOf(landing, m_parts.documents.macro().text()))
-                                                                : QString());
+    const bool isJoystick = kind == DocumentKind::Joystick;
+    m_ui->LabelFindings->setText(isJoystick ? inWords(findingsOf(landing, documents.macro().text()))
+                                            : QString());
 }
 
 void StatementPreview::CMD_ReplaceStatement_Click()

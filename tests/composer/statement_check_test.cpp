@@ -39,6 +39,34 @@ TEST(Findings, ASecondStatementForTheSameControl)
     EXPECT_EQ(findings(u"BTN S2 a\n"_s, u"BTN S1 b"_s), QStringList());
 }
 
+TEST(Findings, ASecondUseOfTheSameControl)
+{
+    const QString file =
+        u"USE MTYPE A1\nuse hat1 as pov\nUSE  S1  AS DX2\nUSE HAT2_SENSITIVITY (5)\n"
+        "USE MIX AS MOUSEX (5, 5)\nUSE HAT3 FORCED_CORNERS\nUSE T1_SENSITIVITY(1)\n"
+        "USE RADIOSWITCH AS POV\nUSE X7 AS DX3\n"_s;
+    const std::pair<QString, QString> second[] = {
+        { u"USE HAT1 AS MOUSE (20)"_s, u"Line 2 has a statement for HAT1 already"_s },
+        { u"USE S1 AS DX3"_s, u"Line 3 has a statement for S1 already"_s },
+        { u"USE S1 AS SHIFTBTN"_s, u"Line 3 has a statement for S1 already"_s },
+        { u"USE HAT2_SENSITIVITY (7)"_s, u"Line 4 has a statement for HAT2_SENSITIVITY already"_s },
+        { u"USE MIX AS MOUSEY (2, 2) - REVERSE_DIR"_s,
+          u"Line 5 has a statement for MIX already"_s },
+        { u"USE HAT3 FORCED_CORNERS"_s, u"Line 6 has a statement for HAT3 already"_s },
+        { u"USE T1_SENSITIVITY (2)"_s, u"Line 7 has a statement for T1_SENSITIVITY already"_s },
+        { u"USE RADIOSWITCH AS KEYPAD"_s, u"Line 8 has a statement for RADIOSWITCH already"_s },
+    };
+    for (const auto &[statement, told] : second)
+        EXPECT_EQ(findings(file, statement), QStringList{ told });
+    for (const QString &first :
+         { u"USE HAT2 AS POV"_s, u"USE HAT1 FORCED_CORNERS"_s, u"USE HAT3_SENSITIVITY (5)"_s,
+           u"USE S2 AS DX2"_s, u"USE MIY AS MOUSEX (5, 5)"_s, u"BTN S1 a"_s, u"USE RATE (60)"_s,
+           u"USE ZEPH RUN_APP a.exe"_s, u"USE"_s })
+        EXPECT_EQ(findings(file, first), QStringList()) << first.toStdString();
+    const QString twice = u"USE ZEPH RUN_APP a.exe"_s;
+    EXPECT_EQ(findings(twice + u'\n', twice), QStringList());
+}
+
 TEST(Findings, MistakesElsewhereInTheFileAreNotTold)
 {
     EXPECT_EQ(findings(u"BTN S9 a\n"_s, u"BTN S1 b"_s), QStringList());

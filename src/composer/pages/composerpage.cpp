@@ -291,11 +291,6 @@ std::optional<Generated> ComposerFirstPage::current() const
     return m_edited ? std::optional((this->*m_edited)()) : std::nullopt;
 }
 
-DocumentKind ComposerFirstPage::target() const
-{
-    return m_pointed.isEmpty() ? m_parts.documents.selected().kind() : DocumentKind::Joystick;
-}
-
 Generated ComposerFirstPage::delay() const
 {
     return plainStatement(u"DLY("_s + m_ui->DLYText_0->text() + u") "_s, false);

@@ -30,7 +30,7 @@ public:
     /// What a click on the control that is pointed at would insert; else what the button of the
     /// box would that was edited last.
     std::optional<Generated> current() const override;
-    DocumentKind target() const override;
+    bool isPiece() const override { return m_pointed.isEmpty(); }
     bool read(const QString &) override { return false; }
     void enter() override;
     void windowActivated() override;
