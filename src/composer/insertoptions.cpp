@@ -31,6 +31,8 @@
 #include <QShortcut>
 #include <QTabBar>
 
+#include <algorithm>
+
 namespace zeph {
 
 namespace {
@@ -111,6 +113,7 @@ ComposerPage *InsertOptions::page(Page which)
         // The layout would show it only when the event loop runs, too late for the focus.
         made->show();
         bindLineEndBoxes(*made);
+        reachAfterTabs(*made);
         connect(made, &ComposerPage::helpWanted, this, &InsertOptions::keywordWanted);
         connect(made, &ComposerPage::flagsWanted, this, &InsertOptions::flagsWanted);
         made->windowActivated();
@@ -176,6 +179,30 @@ void InsertOptions::returnToEditor()
         ToolWindows::raise(*parentWidget()->window());
     }
     m_editor.ResetFocusToEditor();
+}
+
+void InsertOptions::reachAfterTabs(const ComposerPage &made)
+{
+    // Tab would reach a new page after the buttons below all pages.
+    QWidget *last = m_ui->SSTab1;
+    QWidgetList below;
+    for (QWidget *each = last; (each = each->nextInFocusChain()) != m_ui->SSTab1;) {
+        if (each->isWindow() || each->focusPolicy() == Qt::NoFocus) {
+            continue;
+        }
+        if (made.isAncestorOf(each)) {
+            last = each;
+        } else if (!m_ui->SSTab1->isAncestorOf(each)) {
+            below.append(each);
+        }
+    }
+    // As one reads: the preview is left of the window's buttons.
+    std::stable_partition(below.begin(), below.end(),
+                          [this](const QWidget *each) { return m_preview->isAncestorOf(each); });
+    for (QWidget *each : below) {
+        setTabOrder(last, each);
+        last = each;
+    }
 }
 
 void InsertOptions::bindLineEndBoxes(ComposerPage &made)

@@ -77,6 +77,8 @@ private:
     void turnPage(int step);
     void enterPage(int index);
     void bindLineEndBoxes(ComposerPage &page);
+    /// Has Tab go from the tabs through a page to what is below all pages.
+    void reachAfterTabs(const ComposerPage &page);
     void showAddsLineEnd();
     void readStatement();
     bool readInto(Page page, const ReadStatement &read);

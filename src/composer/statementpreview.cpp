@@ -30,6 +30,13 @@ QString selectedOf(const QTextCursor &cursor)
     return cursor.selectedText().replace(QChar::ParagraphSeparator, u'\n');
 }
 
+void setGround(RichTextBox &box, ColorRef colour)
+{
+    QPalette palette;
+    palette.setColor(QPalette::Base, toColor(colour));
+    box.setPalette(palette);
+}
+
 QString inWords(const QStringList &findings)
 {
     QStringList shown = findings.first(std::min<qsizetype>(findings.size(), mostFindings));
@@ -128,6 +135,9 @@ void StatementPreview::refreshNow()
 void StatementPreview::showNothing(const QString &why)
 {
     m_ui->PreviewText->clear();
+    setGround(
+        *m_ui->PreviewText,
+        documentBackground(m_parts.context.settings.of<ColourSettings>(), DocumentKind::Joystick));
     m_ui->LabelFindings->clear();
     m_ui->LabelLanding->setText(why.isEmpty() ? u"The caret is in line %1 of %2"_s
                                                     .arg(m_parts.documents.selected().caretLine())

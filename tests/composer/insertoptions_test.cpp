@@ -254,6 +254,35 @@ TEST_F(ComposerWindow, CtrlTabTurnsTheMainPagesFromANestedTabToo)
     EXPECT_EQ(nested.currentIndex(), 0);
 }
 
+TEST_F(ComposerWindow, TabGoesFromTheTabsThroughThePageToThePreviewAndTheButtons)
+{
+    InsertOptions &window = open();
+    const auto part = [this, &window](const QWidget *at) {
+        const auto isIn = [at](const QWidget &whole) {
+            return &whole == at || whole.isAncestorOf(at);
+        };
+        return isIn(*window.page(InsertOptions::Page(tabs().currentIndex()))) ? u"page"_s
+            : isIn(control<QWidget>(u"PlacePreview"_s))                       ? u"preview"_s
+            : isIn(tabs())                                                    ? u"tabs"_s
+                                                                              : u"buttons"_s;
+    };
+    // A page that is made before another one, and both of them after the window.
+    for (const auto page :
+         { InsertOptions::Logical, InsertOptions::Composer, InsertOptions::Hats }) {
+        window.showPage(page);
+        tabs().setFocus();
+        QStringList parts{ u"tabs"_s };
+        do {
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+            if (part(QApplication::focusWidget()) != parts.last()) {
+                parts.append(part(QApplication::focusWidget()));
+            }
+        } while (parts.size() < 9 && parts.last() != u"tabs");
+        EXPECT_EQ(parts,
+                  (QStringList{ u"tabs"_s, u"page"_s, u"preview"_s, u"buttons"_s, u"tabs"_s }));
+    }
+}
+
 TEST_F(ComposerWindow, HelpAndF1OpenThePagesTopic)
 {
     InsertOptions &window = open();

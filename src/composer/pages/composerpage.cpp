@@ -279,6 +279,7 @@ void ComposerFirstPage::tell(ControlsPicture &picture, const QString &id)
         spot->setToolTip(Qt::convertFromPlainText(shown));
         spot->setAccessibleDescription(shown);
     }
+    m_told = { &picture, id };
     m_pointed = controls.size() == 1 && told.isEmpty() ? controls.first() : QString();
     Q_EMIT changed();
 }
@@ -322,6 +323,9 @@ void ComposerFirstPage::insertControl(const QString &control)
     if (!goToStatement(statement)) {
         m_parts.inserter.insertFragment(statement,
                                         m_parts.context.settings.of<ColourSettings>().BTNColour);
+    }
+    if (m_told.picture) {
+        tell(*m_told.picture, m_told.id);
     }
 }
 

@@ -79,6 +79,11 @@ private:
     QMenu *mnuRHList = nullptr;
     QString m_menuMacro; ///< the macro that mnuRHList is about
     bool m_triggerHasStages = true;
+    /// The hot spot that LabelControl tells of.
+    struct {
+        ControlsPicture *picture = nullptr;
+        QString id;
+    } m_told;
     QString m_pointed; ///< the one control of the hot spot that is pointed at; else empty
     Fragment m_edited = nullptr; ///< of the box that was edited last
 };
