@@ -259,6 +259,12 @@ TEST(UseRead, AProfileIsReadWithoutItsEndingAndMode)
     EXPECT_TRUE(readUse(u"USE PROFILE Default (auto)", shown)->fields.autoProfile);
 }
 
+TEST(UseRead, TabsBeforeTheStyleAreNotOfTheCommand)
+{
+    EXPECT_EQ(readAs(Application, u"USE ZEPH RUN_APP\ta.exe -x \t WINDOW_STYLE=1").application,
+              u"a.exe -x");
+}
+
 TEST(UseRead, TheStyleThatIsWrittenWithoutAClauseMayHaveOne)
 {
     const UseFields fields = readAs(Application, u"USE ZEPH RUN_APP a.exe WINDOW_STYLE = 6");
@@ -311,6 +317,9 @@ TEST(UseRead, WhatThePageCannotInsertIsNotRead)
            u"USE ZEPH GRAPHIC",
            u"USE ZEPH README ",
            u"USE ZEPH",
+           u"USE ZEPH RUN_APP a.exe WINDOW_STYLE = 2 -x",
+           u"USE ZEPH RUN_APP a.exe WINDOW_STYLE 2",
+           u"USE ZEPH RUN_APP a.exe WINDOW_STYLE =",
            u"USE HWSTARTUP ()",
            u"USE HWSTARTUP (EMULATION_ON)",
            u"USE HWSTARTUP (EMULATION_ON, AXIS_MODE_USER, CALIBRATION_AUTO)",

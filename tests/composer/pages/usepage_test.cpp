@@ -295,6 +295,20 @@ TEST_F(UsePageTest, ThePreviewIsOfTheTabInFront)
     EXPECT_EQ(preview(), u"USE HAT1_SENSITIVITY (7) ");
 }
 
+TEST_F(UsePageTest, ThePreviewHasTheBlankBeforeTheWordAtTheCaret)
+{
+    tabs(u"SSTab5"_s).setCurrentIndex(7);
+    tick(2).setChecked(true);
+    EXPECT_EQ(preview(), u"USE H1U AS SHIFTBTN");
+    set(J, u"a b"_s);
+    file().select(0, 0);
+    EXPECT_EQ(preview(), u"USE H1U AS SHIFTBTN ");
+    file().select(1, 0);
+    EXPECT_EQ(preview(), u"USE H1U AS SHIFTBTN");
+    file().select(3, 0);
+    EXPECT_EQ(preview(), u"USE H1U AS SHIFTBTN");
+}
+
 TEST_F(UsePageTest, EveryChangeIsTold)
 {
     QSignalSpy told(page.get(), &ComposerPage::changed);
