@@ -3,6 +3,7 @@
 
 #include "composer/statement_check.h"
 
+#include "composer/generators/parted_statement.h"
 #include "language/checker.h"
 #include "language/scan.h"
 #include "language/use_forms.h"
@@ -126,6 +127,20 @@ int lineOfOther(const JoystickFile &file, const JoystickStatement &statement)
     return 0;
 }
 
+ReadStatement readOf(QStringView text, qsizetype start, qsizetype length)
+{
+    QStringList lines;
+    bool hasComments = false;
+    forEachLine(text.sliced(start, length), [&](QStringView line) {
+        const QStringView own = withoutBlanksAtEnd(beforeRem(line));
+        hasComments = hasComments || remAt(line) >= 0;
+        if (!own.isEmpty()) {
+            lines.append(own.toString());
+        }
+    });
+    return { int(start), int(length), lines.join(u'\n'), hasComments };
+}
+
 } // namespace
 
 QStringList findingsOf(const Landing &landing, const QString &macroText)
@@ -169,18 +184,41 @@ std::optional<ReadStatement> statementAt(const QString &joystickText, int positi
     if (!found) {
         return {};
     }
-    QStringList lines;
-    const QStringView raw = file.at(found->place);
-    bool hasComments = false;
-    forEachLine(raw, [&](QStringView line) {
-        const QStringView own = withoutBlanksAtEnd(beforeRem(line));
-        hasComments = hasComments || remAt(line) >= 0;
-        if (!own.isEmpty()) {
-            lines.append(own.toString());
+    return readOf(text, found->place.position, found->place.length);
+}
+
+QList<ReadStatement> readableAt(const QString &joystickText, int position)
+{
+    const auto whole = statementAt(joystickText, position);
+    if (!whole) {
+        return {};
+    }
+    QList<ReadStatement> readable{ *whole };
+    const QStringView text(joystickText);
+    const QStringView statement = text.sliced(whole->start, whole->length);
+    const auto add = [&](const Place &place) {
+        const ReadStatement piece = readOf(text, whole->start + place.position, place.length);
+        const auto isSame = [&piece](const ReadStatement &other) {
+            return other.start == piece.start && other.length == piece.length;
+        };
+        if (std::ranges::none_of(readable, isSame)) {
+            readable.append(piece);
         }
-    });
-    return ReadStatement{ int(found->place.position), int(found->place.length), lines.join(u'\n'),
-                          hasComments };
+    };
+    const qsizetype at = std::clamp(position - whole->start, 0, whole->length);
+    // The blanks at a line's start belong to the half that begins after them.
+    const qsizetype afterBlanks = language::skipBlanks(statement, at);
+    const QList<Place> halves = statementHalves(statement);
+    const auto half =
+        std::find_if(halves.rbegin(), halves.rend(),
+                     [afterBlanks](const Place &each) { return each.position <= afterBlanks; });
+    if (half != halves.rend()) {
+        add(*half);
+    }
+    if (const auto call = callAt(statement, at)) {
+        add(*call);
+    }
+    return readable;
 }
 
 } // namespace zeph

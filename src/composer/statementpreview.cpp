@@ -94,13 +94,14 @@ void StatementPreview::setRead(const ReadStatement &read)
     m_read.setPosition(read.start);
     m_read.setPosition(read.start + read.length, QTextCursor::KeepAnchor);
     m_readText = selectedOf(m_read);
+    m_readPage = m_page;
     m_readHasComments = read.hasComments;
     refreshNow();
 }
 
 bool StatementPreview::holdsRead() const
 {
-    return m_read.hasSelection() && selectedOf(m_read) == m_readText;
+    return m_page == m_readPage && m_read.hasSelection() && selectedOf(m_read) == m_readText;
 }
 
 void StatementPreview::showEvent(QShowEvent *event)

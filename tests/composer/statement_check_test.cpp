@@ -134,3 +134,46 @@ TEST(StatementAtCaret, ThereIsNoneInAnEmptyTextOrACommentsLine)
     EXPECT_FALSE(statementAt(QString(), 0));
     EXPECT_FALSE(statementAt(u"Rem BTN S1 a\nBTN S2 b"_s, 4));
 }
+
+namespace {
+
+QStringList readableTexts(const QString &joystick, QStringView before)
+{
+    QStringList texts;
+    for (const ReadStatement &read : readableAt(joystick, int(joystick.indexOf(before))))
+        texts.append(read.text);
+    return texts;
+}
+
+} // namespace
+
+TEST(ReadableAtCaret, IsTheStatementAndTheCallAroundTheCaret)
+{
+    const QString text = u"USE RATE (50)\nBTN S1 /I TRIM (JOYY, 2-) a\n   /O TRIM (JOYY, 2+)"_s;
+    EXPECT_EQ(readableTexts(text, u"2-"),
+              (QStringList{ u"BTN S1 /I TRIM (JOYY, 2-) a\n   /O TRIM (JOYY, 2+)"_s,
+                            u"TRIM (JOYY, 2-)"_s }));
+    EXPECT_EQ(readableTexts(text, u"2+").last(), u"TRIM (JOYY, 2+)"_s);
+    EXPECT_EQ(readableTexts(text, u"S1").size(), 1);
+    const auto call = readableAt(text, int(text.indexOf(u"2+"))).last();
+    EXPECT_EQ(text.mid(call.start, call.length), u"TRIM (JOYY, 2+)"_s);
+}
+
+TEST(ReadableAtCaret, IsTheHalfOfAnAxisStatement)
+{
+    const QString text = u"RNG /I 3 a ^ b Rem in\n    /O 3 b ^ a Rem out"_s;
+    EXPECT_EQ(readableTexts(text, u"RNG").last(), u"RNG /I 3 a ^ b"_s);
+    EXPECT_EQ(readableTexts(text, u"Rem in").last(), u"RNG /I 3 a ^ b"_s);
+    EXPECT_EQ(readableTexts(text, u"    /O").last(), u"/O 3 b ^ a"_s);
+    EXPECT_EQ(readableTexts(text, u"Rem out").last(), u"/O 3 b ^ a"_s);
+    const auto readable = readableAt(text, int(text.indexOf(u"b ^ a")));
+    EXPECT_TRUE(readable.first().hasComments);
+    EXPECT_FALSE(readable.last().hasComments);
+    EXPECT_EQ(readableTexts(u"RNG 3 a ^ b"_s, u"a"), QStringList{ u"RNG 3 a ^ b"_s });
+}
+
+TEST(ReadableAtCaret, IsNothingWithoutAStatement)
+{
+    EXPECT_TRUE(readableAt(QString(), 0).isEmpty());
+    EXPECT_TRUE(readableAt(u"Rem TRIM (JOYY, 2+)"_s, 8).isEmpty());
+}

@@ -151,6 +151,11 @@ TEST(AxesConfig, CommonConfigurationsAreWritten)
               u"(7, LBRK), (8, RBRK)"_s);
 }
 
+TEST(AxesConfig, WithTheRngKnobForTheRuddersAxis4IsDrivenByRng)
+{
+    EXPECT_TRUE(textOf(common(3)).endsWith(u"(4, RNG)"));
+}
+
 TEST(AxesConfig, ACommonConfigurationReplacesWhatWasSet)
 {
     AxesConfig grid = clicked({ { Miy, 7 }, { Mix, 9 } }, withExtra());
