@@ -60,9 +60,8 @@ BoxLook look()
     return { scheme, { .family = u"Arial"_s, .pointSize = 8, .colour = {} } };
 }
 
-void Analysed(benchmark::State &state)
+void analyse(benchmark::State &state, const QString &text)
 {
-    const QString text = longFile(int(state.range(0)));
     qsizetype characters = 0;
     for (auto _ : state) {
         const auto file = AnalyseAndExtract(text);
@@ -74,6 +73,16 @@ void Analysed(benchmark::State &state)
         }
     }
     state.counters["characters"] = double(text.size());
+}
+
+void Analysed(benchmark::State &state)
+{
+    analyse(state, longFile(int(state.range(0))));
+}
+
+void AnalysedInVain(benchmark::State &state)
+{
+    analyse(state, u"BTN X1 /U a /M b\n"_s.repeated(state.range(0)));
 }
 
 void ColouredSheet(benchmark::State &state)
@@ -124,6 +133,7 @@ void Markup(benchmark::State &state)
 }
 
 BENCHMARK(Analysed)->Arg(10000)->Arg(50000)->Unit(benchmark::kMillisecond);
+BENCHMARK(AnalysedInVain)->Arg(10000)->Arg(50000)->Unit(benchmark::kMillisecond);
 BENCHMARK(ColouredSheet)->Arg(10000)->Unit(benchmark::kMillisecond);
 BENCHMARK(ColouredBox)->Arg(1000)->Arg(10000)->Unit(benchmark::kMillisecond);
 BENCHMARK(ColouredBoxByModes)->Arg(1000)->Arg(10000)->Unit(benchmark::kMillisecond);
