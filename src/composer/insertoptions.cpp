@@ -228,28 +228,40 @@ void InsertOptions::showAddsLineEnd()
 
 void InsertOptions::readStatement()
 {
-    const auto read =
-        statementAt(m_documents.joystick().text(), m_documents.joystick().cursor().position());
-    if (!read) {
+    const QList<ReadStatement> readable =
+        readableAt(m_documents.joystick().text(), m_documents.joystick().cursor().position());
+    if (readable.isEmpty()) {
         m_context.status.setText(u" The caret of the joystick file is in no statement"_s);
         return;
     }
-    // The page in front first: more than one may know a statement.
-    QList<int> order{ m_ui->SSTab1->currentIndex() };
-    for (int i = 0; i < pageCount; ++i) {
-        if (!order.contains(i)) {
-            order.append(i);
+    // More than one page may know a statement, or a part of it. So the page in front is asked for
+    // everything first.
+    const int front = m_ui->SSTab1->currentIndex();
+    for (const ReadStatement &read : readable) {
+        if (readInto(Page(front), read)) {
+            return;
         }
     }
-    for (const int i : order) {
-        if (ComposerPage *asked = page(Page(i)); asked && asked->read(read->text)) {
-            m_ui->SSTab1->setCurrentIndex(i);
-            m_preview->setRead(*read);
-            return;
+    for (const ReadStatement &read : readable) {
+        for (int index = 0; index < pageCount; ++index) {
+            if (index != front && readInto(Page(index), read)) {
+                return;
+            }
         }
     }
     m_context.status.setText(
         u" No page of the Composer makes statements like the one at the caret"_s);
+}
+
+bool InsertOptions::readInto(Page which, const ReadStatement &read)
+{
+    ComposerPage *asked = page(which);
+    if (!asked || !asked->read(read.text)) {
+        return false;
+    }
+    m_ui->SSTab1->setCurrentIndex(which);
+    m_preview->setRead(read);
+    return true;
 }
 
 void InsertOptions::GetSpaces()

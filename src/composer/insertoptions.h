@@ -16,6 +16,7 @@ namespace zeph {
 class ComposerFirstPage;
 class StatementPreview;
 struct ComposerKey;
+struct ReadStatement;
 
 namespace Ui {
 class InsertOptions;
@@ -80,6 +81,7 @@ private:
     void reachAfterTabs(const ComposerPage &page);
     void showAddsLineEnd();
     void readStatement();
+    bool readInto(Page page, const ReadStatement &read);
     void returnToEditor();
     void activated();
     void Command6_Click();
