@@ -16,6 +16,7 @@ namespace zeph {
 class ComposerFirstPage;
 class StatementPreview;
 struct ComposerKey;
+struct ReadStatement;
 
 namespace Ui {
 class InsertOptions;
@@ -76,8 +77,11 @@ private:
     void turnPage(int step);
     void enterPage(int index);
     void bindLineEndBoxes(ComposerPage &page);
+    /// Has Tab go from the tabs through a page to what is below all pages.
+    void reachAfterTabs(const ComposerPage &page);
     void showAddsLineEnd();
     void readStatement();
+    bool readInto(Page page, const ReadStatement &read);
     void returnToEditor();
     void activated();
     void Command6_Click();

@@ -33,12 +33,14 @@ public:
     /// Rich text goes into the selected document in the document's font, on a line of its own where
     /// the caret is at the end of a text.
     bool insertRich(const RichText &text);
-    /// Puts a statement in the place of a stretch of the joystick file, without the blanks at its
-    /// end. Gives the length of what is there then; no value when nothing was replaced.
+    /// Puts a statement in the place of a stretch of the joystick file, without the blanks around
+    /// it. Gives the length of what is there then; no value when nothing was replaced.
     std::optional<int> replace(int start, int length, const Generated &statement);
 
     /// What insertComposed() would write now, and where.
     Statement composedNow(const Statement &statement) const;
+    /// The same of insertIntoSelected().
+    Statement pieceNow(const Statement &statement) const;
 
     /// Tells a refusal. For what is no statement.
     void refuse(const Refusal &refusal);

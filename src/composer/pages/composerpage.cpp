@@ -33,6 +33,9 @@ namespace {
 constexpr QStringView shippedHandle = u"F-16 Block 50.bmp";
 constexpr QStringView throttle = u"Throttle.bmp";
 
+/// Of what the file has on a control. A tool tip shows the rest.
+constexpr int leastLinesTold = 2;
+
 constexpr int usualDelay = 60;
 constexpr int usualBlanks = 5;
 
@@ -66,7 +69,8 @@ ComposerFirstPage::ComposerFirstPage(const ComposerParts &parts, QWidget *parent
     bind(m_ui->CheckMacroAddCR, settings.COMPaddCR);
     bind(m_ui->CheckCopyTicks, settings.COMPMacrosTickedCopy);
     m_ui->Text1_8->setText(QString::number(settings.NumberOfBlanks));
-    m_ui->LabelControl->setMinimumHeight(m_ui->LabelControl->fontMetrics().lineSpacing() * 4);
+    m_ui->LabelControl->setMinimumHeight(m_ui->LabelControl->fontMetrics().lineSpacing()
+                                         * leastLinesTold);
     GetHandles();
     if (const auto shown =
             m_ui->Picture1_1->showDrawing(parts.context.paths.appFolder, throttle.toString());
@@ -168,6 +172,9 @@ void ComposerFirstPage::connectButtons()
     follow();
     connect(m_ui->DLYText_0, &QLineEdit::editingFinished, this,
             &ComposerFirstPage::DLYText_LostFocus);
+    showWhenEdited(m_ui->DLYText_0, &ComposerFirstPage::delay);
+    showWhenEdited(m_ui->DLYText_1, &ComposerFirstPage::repeat);
+    showWhenEdited(m_ui->RemTextBox, &ComposerFirstPage::remark);
     connect(m_ui->RemTextBox, &QLineEdit::returnPressed, m_ui->CommandREM, &QPushButton::click);
     connect(m_ui->Text1_8, &QLineEdit::textEdited, this, [this](const QString &text) {
         if (wholeOf(text) >= 1) {
@@ -272,16 +279,41 @@ void ComposerFirstPage::tell(ControlsPicture &picture, const QString &id)
         spot->setToolTip(Qt::convertFromPlainText(shown));
         spot->setAccessibleDescription(shown);
     }
+    m_told = { &picture, id };
     m_pointed = controls.size() == 1 && told.isEmpty() ? controls.first() : QString();
     Q_EMIT changed();
 }
 
 std::optional<Generated> ComposerFirstPage::current() const
 {
-    if (m_pointed.isEmpty()) {
-        return {};
+    if (!m_pointed.isEmpty()) {
+        return plainStatement(buttonStatement(m_pointed), true);
     }
-    return plainStatement(buttonStatement(m_pointed), true);
+    return m_edited ? std::optional((this->*m_edited)()) : std::nullopt;
+}
+
+Generated ComposerFirstPage::delay() const
+{
+    return plainStatement(u"DLY("_s + m_ui->DLYText_0->text() + u") "_s, false);
+}
+
+Generated ComposerFirstPage::repeat() const
+{
+    return plainStatement(u"RPT("_s + m_ui->DLYText_1->text() + u") "_s, false);
+}
+
+Generated ComposerFirstPage::remark() const
+{
+    const ColorRef colour = m_parts.context.settings.of<ColourSettings>().RemStatements;
+    return Statement{ { { remAndBlank.toString() + m_ui->RemTextBox->text() + u' ', colour } } };
+}
+
+void ComposerFirstPage::showWhenEdited(QLineEdit *box, Fragment fragment)
+{
+    connect(box, &QLineEdit::textEdited, this, [this, fragment] {
+        m_edited = fragment;
+        Q_EMIT changed();
+    });
 }
 
 void ComposerFirstPage::insertControl(const QString &control)
@@ -291,6 +323,9 @@ void ComposerFirstPage::insertControl(const QString &control)
     if (!goToStatement(statement)) {
         m_parts.inserter.insertFragment(statement,
                                         m_parts.context.settings.of<ColourSettings>().BTNColour);
+    }
+    if (m_told.picture) {
+        tell(*m_told.picture, m_told.id);
     }
 }
 
@@ -332,9 +367,7 @@ void ComposerFirstPage::DlyRptButtons_Click(int index)
 {
     // A mnemonic runs the button while the box still has the focus.
     DLYText_LostFocus();
-    m_parts.inserter.insertIntoSelected(
-        index == 0 ? plainStatement(u"DLY("_s + m_ui->DLYText_0->text() + u") "_s, false)
-                   : plainStatement(u"RPT("_s + m_ui->DLYText_1->text() + u") "_s, false));
+    m_parts.inserter.insertIntoSelected(index == 0 ? delay() : repeat());
 }
 
 void ComposerFirstPage::Command7_Click(int index)
@@ -345,7 +378,7 @@ void ComposerFirstPage::Command7_Click(int index)
 
 void ComposerFirstPage::CommandREM_Click()
 {
-    m_parts.inserter.insertFragment(remAndBlank.toString() + m_ui->RemTextBox->text() + u' ',
+    m_parts.inserter.insertFragment(remark()->text(),
                                     m_parts.context.settings.of<ColourSettings>().RemStatements);
 }
 

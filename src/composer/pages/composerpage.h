@@ -27,8 +27,10 @@ public:
     ComposerFirstPage(const ComposerParts &parts, QWidget *parent);
     ~ComposerFirstPage() override;
 
-    /// What a click on the control that is pointed at would insert.
+    /// What a click on the control that is pointed at would insert; else what the button of the
+    /// box would that was edited last.
     std::optional<Generated> current() const override;
+    bool isPiece() const override { return m_pointed.isEmpty(); }
     bool read(const QString &) override { return false; }
     void enter() override;
     void windowActivated() override;
@@ -56,6 +58,13 @@ private:
     void insertControl(const QString &control);
     bool goToStatement(const QString &statement);
 
+    /// What each button with a box inserts.
+    Generated delay() const;
+    Generated repeat() const;
+    Generated remark() const;
+    using Fragment = Generated (ComposerFirstPage::*)() const;
+    void showWhenEdited(QLineEdit *box, Fragment fragment);
+
     void SlashButton_Click(int index);
     void DlyRptButtons_Click(int index);
     void DLYText_LostFocus();
@@ -70,7 +79,13 @@ private:
     QMenu *mnuRHList = nullptr;
     QString m_menuMacro; ///< the macro that mnuRHList is about
     bool m_triggerHasStages = true;
+    /// The hot spot that LabelControl tells of.
+    struct {
+        ControlsPicture *picture = nullptr;
+        QString id;
+    } m_told;
     QString m_pointed; ///< the one control of the hot spot that is pointed at; else empty
+    Fragment m_edited = nullptr; ///< of the box that was edited last
 };
 
 } // namespace zeph
