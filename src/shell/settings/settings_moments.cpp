@@ -7,6 +7,7 @@
 #include "composer/logic_flags_settings.h"
 #include "documents/document_settings.h"
 #include "editor/editor_settings.h"
+#include "layouts/files/layouts_settings.h"
 #include "livetools/key_tester_settings.h"
 #include "livetools/pictures/image_viewer_settings.h"
 #include "menus/menu_settings.h"
@@ -41,7 +42,7 @@ void addAllSettings(Settings &settings)
 {
     addAll<SharedSettings, ColourSettings, MenuSettings, DocumentSettings, EditorSettings,
            ShellSettings, ComposerSettings, TemplateSettings, ToolchainSettings, DefaultOptions,
-           KeyTesterSettings, ImageViewerSettings, LogicFlagsSettings>(settings);
+           KeyTesterSettings, ImageViewerSettings, LogicFlagsSettings, LayoutsSettings>(settings);
 }
 
 bool isSetUp(const SettingsFiles &files)
