@@ -42,7 +42,7 @@ Statement composedAt(Statement statement, const Surroundings &around, bool addLi
     if (!statement.startsLine && touches(around.before) && !statement.pieces.isEmpty()) {
         statement.pieces.prepend({ u" "_s });
     }
-    if (addLineEnd) {
+    if (addLineEnd && !statement.text().endsWith(u'\n')) {
         statement.pieces.append({ u"\n"_s });
     }
     return statement;
