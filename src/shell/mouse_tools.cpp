@@ -7,9 +7,11 @@
 #include "composer/mouse/mousemanual.h"
 #include "composer/mouse/mouseprogram.h"
 #include "editor/editor.h"
-#include "livetools/viewimage.h"
+#include "livetools/pictures/viewimage.h"
 #include "menus/tool_entries.h"
 #include "platform/dialogs.h"
+#include "settings/settings.h"
+#include "settings/shared_settings.h"
 
 namespace zeph {
 
@@ -27,7 +29,7 @@ MouseTools::MouseTools(const Context &context, ToolWindows &windows, Editor &edi
                 wizard->useViewer(viewer);
             }
             connect(wizard, &MouseProgram::viewerWanted, this,
-                    guarded(m_context.dialogs, [this] { m_windows.open<ViewImage>(); }));
+                    guarded(m_context.dialogs, [this] { openViewer(); }));
             return wizard;
         },
         &MouseProgram::Form_Load);
@@ -40,6 +42,15 @@ MouseTools::MouseTools(const Context &context, ToolWindows &windows, Editor &edi
 void MouseTools::openManual(int tab)
 {
     m_windows.open<MouseManual>()->showTab(tab);
+}
+
+void MouseTools::openViewer()
+{
+    auto *viewer = m_windows.open<ViewImage>();
+    // Without a picture the wizard tells how to open one, and no box is needed.
+    if (fileExists(m_context.settings.of<SharedSettings>().ImageFilePath)) {
+        viewer->showImageFile();
+    }
 }
 
 void MouseTools::followViewer(ViewImage &viewer)

@@ -29,6 +29,7 @@ public:
     void openManual(int tab);
 
 private:
+    void openViewer();
     void followViewer(ViewImage &viewer);
 
     Context m_context;

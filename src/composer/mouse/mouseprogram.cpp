@@ -7,7 +7,7 @@
 #include "composer/mouse/mouse_lists.h"
 #include "composer/mouse/teaching_text.h"
 #include "composer/pages/page_fields.h"
-#include "livetools/viewimage.h"
+#include "livetools/pictures/viewimage.h"
 #include "platform/dialogs.h"
 #include "platform/window_places.h"
 #include "ui_mouseprogram.h"
@@ -84,6 +84,7 @@ void MouseProgram::useViewer(ViewImage *viewer)
     Dialogs &dialogs = m_context.dialogs;
     connect(viewer, &ViewImage::measuresChanged, this, guarded(dialogs, [this] { refresh(); }));
     connect(viewer, &ViewImage::pictureChanged, this, guarded(dialogs, [this] { FillFields(); }));
+    connect(viewer, &QObject::destroyed, this, guarded(dialogs, [this] { refresh(); }));
     askForGesture();
     FillFields();
 }
