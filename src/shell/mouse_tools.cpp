@@ -23,8 +23,7 @@ MouseTools::MouseTools(const Context &context, ToolWindows &windows, Editor &edi
     tools.add<MouseProgram>(
         u"mnuMouseWizard",
         [this, &editor, &composerEditor](QWidget *owner) {
-            auto *wizard =
-                new MouseProgram(m_context, editor.documents(), composerEditor, owner);
+            auto *wizard = new MouseProgram(m_context, editor.documents(), composerEditor, owner);
             if (auto *viewer = m_windows.get<ViewImage>()) {
                 wizard->useViewer(viewer);
             }

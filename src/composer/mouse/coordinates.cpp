@@ -30,7 +30,7 @@ QPointF inUnit(MouseUnit unit, const QPointF &pixels, const QSize &picture)
 
 QString pairText(MouseUnit unit, const QPointF &pair, QStringView separator)
 {
-    return lengthText(unit, pair.x()) + separator + lengthText(unit, pair.y());
+    return lengthText(unit, pair.x()).append(separator).append(lengthText(unit, pair.y()));
 }
 
 QString lengthText(MouseUnit unit, double length)

@@ -13,7 +13,8 @@
 namespace zeph {
 
 /// The places from which statements count: the four corners of the screen (upper, down, left,
-/// right), and its centre in both spellings. ComboCoordinate and ComboOrigin have them in this order.
+/// right), and its centre in both spellings. ComboCoordinate and ComboOrigin have them in this
+/// order.
 inline constexpr QStringView mouseOrigins[] = { u"UL", u"DL", u"UR", u"DR", u"CENTER", u"CENTRE" };
 
 enum class MouseUnit : quint8 { Pixels, Percent };

@@ -3,15 +3,15 @@
 
 #include "composer/mouse/mouse_programs.h"
 
+#include "text/text_lines.h"
+
 namespace zeph {
 
 namespace {
 
-constexpr QStringView separator = u", ";
-
 QString withoutClosingBlank(QStringView keyword, const QStringList &arguments)
 {
-    return keyword + u" ("_s + arguments.join(separator) + u')';
+    return keyword.toString() + u" ("_s + arguments.join(u", ") + u')';
 }
 
 } // namespace
@@ -38,7 +38,7 @@ Generated mouseMove(const QString &way)
     return plainStatement(withoutClosingBlank(u"MOUSEMOVE"_w, { way }) + u' ', false);
 }
 
-Generated mouseRotate(const RotateValues &values)
+Generated mouseRotate(const RotateTexts &values)
 {
     QStringList arguments(values.begin(), values.end());
     arguments[RotateMacro] = u'[' + values[RotateMacro] + u']';

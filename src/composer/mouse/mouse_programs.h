@@ -16,8 +16,7 @@ namespace zeph {
 
 /// What ComboScreenRes offers at first.
 inline constexpr QStringView screenResolutions[] = {
-    u"640,480",  u"800,600",   u"1024,768",  u"1152,864",
-    u"1280,960", u"1280,1024", u"1600,1200",
+    u"640,480", u"800,600", u"1024,768", u"1152,864", u"1280,960", u"1280,1024", u"1600,1200",
 };
 /// A picture's size as ComboScreenRes has it: "1024,768". Empty for an empty size.
 QString resolutionText(const QSize &picture);
@@ -44,7 +43,7 @@ enum RotateValue {
     RotateSteps, ///< in a quarter of a turn
 };
 constexpr int rotateValueCount = RotateSteps + 1;
-using RotateValues = std::array<QString, size_t(rotateValueCount)>;
+using RotateTexts = std::array<QString, size_t(rotateValueCount)>;
 
 inline constexpr QStringView clockwiseWord = u"CW";
 inline constexpr QStringView counterClockwiseWord = u"CCW";
@@ -54,6 +53,6 @@ inline QString directionWord(bool isClockwise)
 }
 
 /// "MOUSEROTATE (UL, 320, 240, 50, 90, [MOUSE_LB], CW, 180, 2)".
-Generated mouseRotate(const RotateValues &values);
+Generated mouseRotate(const RotateTexts &values);
 
 } // namespace zeph

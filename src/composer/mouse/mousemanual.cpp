@@ -19,9 +19,11 @@ namespace {
 
 Refusal nothingHere()
 {
-    return { u"You're joking, right?!"_s,
-             u"You're having me on aren't you? Really, now what would you like me to insert into "
-             "your joystick file from this introduction? How does every third word grab you? :)"_s };
+    return {
+        u"You're joking, right?!"_s,
+        u"You're having me on aren't you? Really, now what would you like me to insert into "
+        "your joystick file from this introduction? How does every third word grab you? :)"_s
+    };
 }
 
 } // namespace
@@ -81,8 +83,8 @@ Generated MouseManual::statement() const
     case Rotate:
         return mouseRotate({ m_ui->ComboOrigin_1->currentText(), m_ui->Text1_2->text(),
                              m_ui->Text1_3->text(), m_ui->Text1_4->text(), m_ui->RTB_Macro->text(),
-                             directionWord(m_ui->OPT_Clockwise->isChecked()),
-                             m_ui->Text1_5->text(), m_ui->ComboSteps->currentText() });
+                             directionWord(m_ui->OPT_Clockwise->isChecked()), m_ui->Text1_5->text(),
+                             m_ui->ComboSteps->currentText() });
     default:
         return Unexpected<Refusal>(nothingHere());
     }

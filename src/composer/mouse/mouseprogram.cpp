@@ -10,6 +10,7 @@
 #include "livetools/pictures/viewimage.h"
 #include "platform/dialogs.h"
 #include "platform/window_places.h"
+#include "text/text_lines.h"
 #include "ui_mouseprogram.h"
 
 namespace zeph {
@@ -84,7 +85,7 @@ void MouseProgram::useViewer(ViewImage *viewer)
     Dialogs &dialogs = m_context.dialogs;
     connect(viewer, &ViewImage::measuresChanged, this, guarded(dialogs, [this] { refresh(); }));
     connect(viewer, &ViewImage::pictureChanged, this, guarded(dialogs, [this] { FillFields(); }));
-    connect(viewer, &QObject::destroyed, this, guarded(dialogs, [this] { refresh(); }));
+    connect(viewer, &QObject::destroyed, this, guarded(dialogs, [this](QObject *) { refresh(); }));
     askForGesture();
     FillFields();
 }
@@ -107,13 +108,17 @@ void MouseProgram::FillFields()
 void MouseProgram::connectFields()
 {
     Dialogs &dialogs = m_context.dialogs;
-    m_buttons.connect(this, &QPushButton::clicked,
-                      guarded(dialogs, [this](int index) { Command1_Click(index); }));
-    m_movements.connect(this, &QRadioButton::toggled, guarded(dialogs, [this](int index) {
-                            if (m_movements[index]->isChecked()) {
-                                OptionMouseMove_Click();
-                            }
-                        }));
+    for (int i = 0; i < m_buttons.count(); ++i) {
+        connect(m_buttons[i], &QPushButton::clicked, this,
+                guarded(dialogs, [this, i](bool) { Command1_Click(i); }));
+    }
+    for (const QRadioButton *movement : m_movements) {
+        connect(movement, &QRadioButton::toggled, this, guarded(dialogs, [this](bool isChosen) {
+                    if (isChosen) {
+                        OptionMouseMove_Click();
+                    }
+                }));
+    }
     whenEdited(*this, this, guarded(dialogs, [this] { refresh(); }));
     connect(m_ui->CommandRestore, &QPushButton::clicked, this,
             guarded(dialogs, [this](bool) { UpdateMouseRotateFields(); }));
@@ -217,9 +222,9 @@ MouseWizardFields MouseProgram::fields() const
     return fields;
 }
 
-RotateValues MouseProgram::finalValues() const
+RotateTexts MouseProgram::finalValues() const
 {
-    RotateValues values;
+    RotateTexts values;
     for (int i = 0; i < rotateValueCount; ++i) {
         values[size_t(i)] = m_values[i]->text();
     }

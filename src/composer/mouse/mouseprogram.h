@@ -66,7 +66,7 @@ private:
     /// Asks the viewer for the page's gesture.
     void askForGesture();
     MouseWizardFields fields() const;
-    RotateValues finalValues() const;
+    RotateTexts finalValues() const;
     void OptionMouseMove_Click();
     /// Shows what follows from measures and fields.
     void refresh();

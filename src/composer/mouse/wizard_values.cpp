@@ -12,7 +12,8 @@ namespace {
 
 constexpr QStringView inStatement = u", ";
 constexpr QStringView inLabel = u",";
-const QString unknown = u"?"_s;
+constexpr QStringView unknown = u"?";
+constexpr QStringView unknownPair = u"?, ?";
 
 Refusal nothingMeasured()
 {
@@ -61,9 +62,9 @@ QString measuredText(const MouseWizardFields &fields)
     return pair ? pairText(fields.placeUnit, *pair, inLabel) : QString();
 }
 
-RotateValues rotateValuesSoFar(const MouseWizardFields &fields)
+RotateTexts rotateValuesSoFar(const MouseWizardFields &fields)
 {
-    RotateValues values;
+    RotateTexts values;
     values[RotateOrigin] = fields.origin;
     values[RotateMacro] = fields.macro;
     values[RotateDirection] = directionWord(fields.isClockwise);
@@ -73,8 +74,7 @@ RotateValues rotateValuesSoFar(const MouseWizardFields &fields)
         return values;
     const MouseUnit unit = fields.rotateUnit;
     const QPointF centre = countedFrom(fields.origin, *measures.from, fields.picture);
-    values[RotateCentre] =
-        pairText(unit, inUnit(unit, centre, fields.picture), inStatement);
+    values[RotateCentre] = pairText(unit, inUnit(unit, centre, fields.picture), inStatement);
     if (isDragged(measures)) {
         const QPointF radius(radiusOf(measures), 0);
         values[RotateRadius] = lengthText(unit, inUnit(unit, radius, fields.picture).x());
@@ -87,9 +87,9 @@ RotateValues rotateValuesSoFar(const MouseWizardFields &fields)
     return values;
 }
 
-Expected<RotateValues, Refusal> rotateValues(const MouseWizardFields &fields)
+Expected<RotateTexts, Refusal> rotateValues(const MouseWizardFields &fields)
 {
-    RotateValues values = rotateValuesSoFar(fields);
+    RotateTexts values = rotateValuesSoFar(fields);
     if (lacksText({ values[RotateCentre], values[RotateRadius], values[RotateStart],
                     values[RotateFinal] }))
         return Unexpected<Refusal>(nothingMeasured());
@@ -104,7 +104,7 @@ Generated placeStatement(const MouseWizardFields &fields)
     return placeStatementOf(fields, pairText(fields.placeUnit, *pair, inStatement));
 }
 
-Generated rotateStatement(RotateValues values)
+Generated rotateStatement(RotateTexts values)
 {
     for (QString &value : values) {
         value = value.trimmed();
@@ -120,19 +120,17 @@ QString growingStatement(const MouseWizardFields &fields)
     if (fields.movement == MouseMovement::Rotation)
         return growingRotation(rotateValuesSoFar(fields));
     const std::optional<QPointF> pair = measuredPair(fields);
-    const QString known = pair ? pairText(fields.placeUnit, *pair, inStatement)
-                               : unknown + inStatement + unknown;
+    const QString known =
+        pair ? pairText(fields.placeUnit, *pair, inStatement) : unknownPair.toString();
     return placeStatementOf(fields, known)->text().trimmed();
 }
 
-QString growingRotation(RotateValues values)
+QString growingRotation(RotateTexts values)
 {
     for (QString &value : values) {
         if (value.trimmed().isEmpty())
-            value = unknown;
+            value = (&value == &values[RotateCentre] ? unknownPair : unknown).toString();
     }
-    if (values[RotateCentre] == unknown)
-        values[RotateCentre] += inStatement + unknown;
     return rotateStatement(values)->text();
 }
 

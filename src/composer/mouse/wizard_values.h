@@ -32,17 +32,17 @@ QString measuredText(const MouseWizardFields &fields);
 
 /// What is known of the rotation by now; texts of what was not measured are empty. A final angle
 /// of 0 is 360, so that a full turn ends where it began.
-RotateValues rotateValuesSoFar(const MouseWizardFields &fields);
+RotateTexts rotateValuesSoFar(const MouseWizardFields &fields);
 /// The same, refused when a gesture is missing.
-Expected<RotateValues, Refusal> rotateValues(const MouseWizardFields &fields);
+Expected<RotateTexts, Refusal> rotateValues(const MouseWizardFields &fields);
 
 /// MOUSEXY or MOUSEMOVE, refused when nothing was measured.
 Generated placeStatement(const MouseWizardFields &fields);
 /// MOUSEROTATE of the values that the pilot may have edited; refused when one of them is empty.
-Generated rotateStatement(RotateValues values);
+Generated rotateStatement(RotateTexts values);
 
 /// LBL_MouseStatement: the statement as far as it is known, a question mark for what is to come.
 QString growingStatement(const MouseWizardFields &fields);
-QString growingRotation(RotateValues values);
+QString growingRotation(RotateTexts values);
 
 } // namespace zeph

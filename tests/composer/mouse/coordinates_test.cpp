@@ -7,6 +7,8 @@
 
 using namespace zeph;
 
+namespace mouse_coordinates_tests {
+
 namespace {
 
 using enum MouseUnit;
@@ -84,11 +86,9 @@ TEST(MouseCoordinates, CornersArePositiveInsideThePicture)
 TEST(MouseCoordinates, OppositeCornersAddUpToTheWholeScreen)
 {
     const QPointF place(123.4, 56.7);
-    const QPointF whole =
-        countedFrom(u"UL", place, screen) + countedFrom(u"DR", place, screen);
+    const QPointF whole = countedFrom(u"UL", place, screen) + countedFrom(u"DR", place, screen);
     EXPECT_EQ(whole, QPointF(800, 600));
-    const QPointF other =
-        countedFrom(u"UR", place, screen) + countedFrom(u"DL", place, screen);
+    const QPointF other = countedFrom(u"UR", place, screen) + countedFrom(u"DL", place, screen);
     EXPECT_EQ(other, QPointF(800, 600));
 }
 
@@ -109,3 +109,5 @@ TEST(MouseCoordinates, BothSpellingsOfTheCentreAreOffered)
     const QList<QStringView> expected{ u"UL", u"DL", u"UR", u"DR", u"CENTER", u"CENTRE" };
     EXPECT_EQ(offered, expected);
 }
+
+} // namespace mouse_coordinates_tests

@@ -9,6 +9,8 @@
 
 using namespace zeph;
 
+namespace mouse_wizard_pages_tests {
+
 namespace {
 
 using enum MouseWizardPage;
@@ -31,9 +33,9 @@ TEST(MouseWizardPages, TheMovementDecidesThePagesThatFollow)
               Pages({ Introduction, Resolution, Choice, Absolute }));
     EXPECT_EQ(walked(MouseMovement::Relative),
               Pages({ Introduction, Resolution, Choice, Relative }));
-    EXPECT_EQ(walked(MouseMovement::Rotation),
-              Pages({ Introduction, Resolution, Choice, RotateFrom, RotateTo, RotateHow,
-                      RotateValues }));
+    EXPECT_EQ(
+        walked(MouseMovement::Rotation),
+        Pages({ Introduction, Resolution, Choice, RotateFrom, RotateTo, RotateHow, RotateValues }));
 }
 
 TEST(MouseWizardPages, BackGoesTheSameWay)
@@ -57,10 +59,10 @@ TEST(MouseWizardPages, APageOfAnotherMovementLeadsNowhere)
 TEST(MouseWizardPages, EachAsksForItsGesture)
 {
     const std::pair<MouseWizardPage, Gesture> gestures[] = {
-        { Introduction, Gesture::None },  { Resolution, Gesture::None },
-        { Choice, Gesture::None },        { Absolute, Gesture::Point },
-        { Relative, Gesture::Line },      { RotateFrom, Gesture::Radius },
-        { RotateTo, Gesture::Target },    { RotateHow, Gesture::None },
+        { Introduction, Gesture::None }, { Resolution, Gesture::None },
+        { Choice, Gesture::None },       { Absolute, Gesture::Point },
+        { Relative, Gesture::Line },     { RotateFrom, Gesture::Radius },
+        { RotateTo, Gesture::Target },   { RotateHow, Gesture::None },
         { RotateValues, Gesture::None },
     };
     for (const auto &[page, gesture] : gestures) {
@@ -78,3 +80,5 @@ TEST(MouseWizardPages, InsertIsForPagesThatEndAStatement)
     }
     EXPECT_EQ(inserting, Pages({ Resolution, Absolute, Relative, RotateValues }));
 }
+
+} // namespace mouse_wizard_pages_tests

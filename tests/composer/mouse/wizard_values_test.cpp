@@ -9,6 +9,8 @@
 
 using namespace zeph;
 
+namespace mouse_wizard_values_tests {
+
 namespace {
 
 const QString refused =
@@ -37,10 +39,10 @@ MouseWizardFields rotation(const QPointF &from, const QPointF &to)
     return fields;
 }
 
-QString toldBy(const Expected<RotateValues, Refusal> &values)
+QString turnedBy(const Expected<RotateTexts, Refusal> &values)
 {
     return values ? toldBy(rotateStatement(*values))
-                  : values.error().title + u": " + values.error().text;
+                  : values.error().title + u": "_s + values.error().text;
 }
 
 struct PlaceRow {
@@ -50,8 +52,8 @@ struct PlaceRow {
 };
 
 constexpr PlaceRow placeRows[] = {
-    { u"UL", u"400, 200", u"40%, 40%" },     { u"UR", u"600, 200", u"60%, 40%" },
-    { u"DL", u"400, 300", u"40%, 60%" },     { u"DR", u"600, 300", u"60%, 60%" },
+    { u"UL", u"400, 200", u"40%, 40%" },        { u"UR", u"600, 200", u"60%, 40%" },
+    { u"DL", u"400, 300", u"40%, 60%" },        { u"DR", u"600, 300", u"60%, 60%" },
     { u"CENTRE", u"-100, -50", u"-10%, -10%" }, { u"CENTER", u"-100, -50", u"-10%, -10%" },
 };
 
@@ -62,9 +64,12 @@ struct WayRow {
 };
 
 constexpr WayRow wayRows[] = {
-    { { 30, 20 }, u"30, 20", u"3%, 4%" },      { { -30, 20 }, u"-30, 20", u"-3%, 4%" },
-    { { -30, -20 }, u"-30, -20", u"-3%, -4%" }, { { 30, -20 }, u"30, -20", u"3%, -4%" },
-    { { 30, 0 }, u"30, 0", u"3%, 0%" },        { { 0, 1 }, u"0, 1", u"0%, 0.2%" },
+    { { 30, 20 }, u"30, 20", u"3%, 4%" },
+    { { -30, 20 }, u"-30, 20", u"-3%, 4%" },
+    { { -30, -20 }, u"-30, -20", u"-3%, -4%" },
+    { { 30, -20 }, u"30, -20", u"3%, -4%" },
+    { { 30, 0 }, u"30, 0", u"3%, 0%" },
+    { { 0, 1 }, u"0, 1", u"0%, 0.2%" },
     { { -400, -200 }, u"-400, -200", u"-40%, -40%" },
 };
 
@@ -78,15 +83,23 @@ struct AngleRow {
 
 constexpr AngleRow angleRows[] = {
     // The four axes, then the four quarters.
-    { { 50, 0 }, u"0", u"50", u"5%" },        { { 0, -50 }, u"90", u"50", u"5%" },
-    { { -50, 0 }, u"180", u"50", u"5%" },     { { 0, 50 }, u"270", u"50", u"5%" },
-    { { 30, -30 }, u"45", u"42.4", u"4.2%" }, { { -30, -30 }, u"135", u"42.4", u"4.2%" },
-    { { -30, 30 }, u"225", u"42.4", u"4.2%" }, { { 30, 30 }, u"315", u"42.4", u"4.2%" },
-    { { 40, -30 }, u"36.9", u"50", u"5%" },   { { -40, -30 }, u"143.1", u"50", u"5%" },
-    { { -40, 30 }, u"216.9", u"50", u"5%" },  { { 40, 30 }, u"323.1", u"50", u"5%" },
+    { { 50, 0 }, u"0", u"50", u"5%" },
+    { { 0, -50 }, u"90", u"50", u"5%" },
+    { { -50, 0 }, u"180", u"50", u"5%" },
+    { { 0, 50 }, u"270", u"50", u"5%" },
+    { { 30, -30 }, u"45", u"42.4", u"4.2%" },
+    { { -30, -30 }, u"135", u"42.4", u"4.2%" },
+    { { -30, 30 }, u"225", u"42.4", u"4.2%" },
+    { { 30, 30 }, u"315", u"42.4", u"4.2%" },
+    { { 40, -30 }, u"36.9", u"50", u"5%" },
+    { { -40, -30 }, u"143.1", u"50", u"5%" },
+    { { -40, 30 }, u"216.9", u"50", u"5%" },
+    { { 40, 30 }, u"323.1", u"50", u"5%" },
     // One pixel off an axis.
-    { { 50, -1 }, u"1.1", u"50", u"5%" },     { { 50, 1 }, u"358.9", u"50", u"5%" },
-    { { 1, -50 }, u"88.9", u"50", u"5%" },    { { -1, -50 }, u"91.1", u"50", u"5%" },
+    { { 50, -1 }, u"1.1", u"50", u"5%" },
+    { { 50, 1 }, u"358.9", u"50", u"5%" },
+    { { 1, -50 }, u"88.9", u"50", u"5%" },
+    { { -1, -50 }, u"91.1", u"50", u"5%" },
     { { 1, 0 }, u"0", u"1", u"0.1%" },
 };
 
@@ -109,12 +122,11 @@ TEST(MouseWizardPlace, EachOriginInPixelsAndInPercent)
 TEST(MouseWizardWay, EachDirectionInPixelsAndInPercent)
 {
     for (const WayRow &row : wayRows) {
-        MouseWizardFields fields =
-            moved(MouseMovement::Relative, { centre, centre + row.way, {} });
+        MouseWizardFields fields = moved(MouseMovement::Relative, { centre, centre + row.way, {} });
         EXPECT_EQ(toldBy(placeStatement(fields)), u"MOUSEMOVE (%1) "_s.arg(row.pixels));
         EXPECT_EQ(measuredText(fields), row.pixels.toString().remove(u' '));
         fields.placeUnit = MouseUnit::Percent;
-        EXPECT_EQ(toldBy(placeStatement(fields)), u"MOUSEMOVE ("_s + row.percent + u") ");
+        EXPECT_EQ(toldBy(placeStatement(fields)), u"MOUSEMOVE (%1) "_s.arg(row.percent));
     }
 }
 
@@ -127,7 +139,7 @@ TEST(MouseWizardWay, PercentagesKeepOneDecimalWithAPointWhereTheLocaleHasAComma)
     EXPECT_EQ(toldBy(placeStatement(fields)), u"MOUSEMOVE (1.2%, 0.2%) ");
     MouseWizardFields turn = rotation({ 40, -30 }, { -30, -40 });
     turn.rotateUnit = MouseUnit::Percent;
-    EXPECT_EQ(toldBy(rotateValues(turn)),
+    EXPECT_EQ(turnedBy(rotateValues(turn)),
               u"MOUSEROTATE (UL, 40%, 40%, 5%, 36.9, [MOUSE_LB], CW, 126.9, 2)");
     QLocale::setDefault(before);
 }
@@ -136,20 +148,20 @@ TEST(MouseWizardRotation, EachStartAngleInAllQuadrantsAndOnBothAxes)
 {
     for (const AngleRow &row : angleRows) {
         MouseWizardFields fields = rotation(row.way, { 0, -50 });
-        EXPECT_EQ(toldBy(rotateValues(fields)),
-                  u"MOUSEROTATE (UL, 400, 200, "_s + row.radius + u", " + row.angle
-                      + u", [MOUSE_LB], CW, 90, 2)");
+        EXPECT_EQ(turnedBy(rotateValues(fields)),
+                  u"MOUSEROTATE (UL, 400, 200, %1, %2, [MOUSE_LB], CW, 90, 2)"_s.arg(row.radius,
+                                                                                     row.angle));
         fields.rotateUnit = MouseUnit::Percent;
-        EXPECT_EQ(toldBy(rotateValues(fields)),
-                  u"MOUSEROTATE (UL, 40%, 40%, "_s + row.percent + u", " + row.angle
-                      + u", [MOUSE_LB], CW, 90, 2)");
+        EXPECT_EQ(turnedBy(rotateValues(fields)),
+                  u"MOUSEROTATE (UL, 40%, 40%, %1, %2, [MOUSE_LB], CW, 90, 2)"_s.arg(row.percent,
+                                                                                     row.angle));
     }
 }
 
 TEST(MouseWizardRotation, EachFinalAngleAndNoughtIsAFullTurn)
 {
     for (const AngleRow &row : angleRows) {
-        const RotateValues values = rotateValues(rotation({ 0, -50 }, row.way)).value();
+        const RotateTexts values = rotateValues(rotation({ 0, -50 }, row.way)).value();
         const QStringView expected = row.angle == u"0" ? u"360" : row.angle;
         EXPECT_EQ(values[RotateFinal], expected);
         EXPECT_EQ(values[RotateStart], u"90");
@@ -164,10 +176,10 @@ TEST(MouseWizardRotation, APointStraightAboveTheCentreIsAt90)
 
 TEST(MouseWizardRotation, AFinalAngleOf0Appears360AndAStartAngleOf0StaysSo)
 {
-    EXPECT_EQ(toldBy(rotateValues(rotation({ 50, 0 }, { 50, 0 }))),
+    EXPECT_EQ(turnedBy(rotateValues(rotation({ 50, 0 }, { 50, 0 }))),
               u"MOUSEROTATE (UL, 400, 200, 50, 0, [MOUSE_LB], CW, 360, 2)");
     // The same when the pilot types it.
-    RotateValues typed = rotateValues(rotation({ 50, 0 }, { 0, 50 })).value();
+    RotateTexts typed = rotateValues(rotation({ 50, 0 }, { 0, 50 })).value();
     typed[RotateFinal] = u" 0 "_s;
     EXPECT_EQ(toldBy(rotateStatement(typed)),
               u"MOUSEROTATE (UL, 400, 200, 50, 0, [MOUSE_LB], CW, 360, 2)");
@@ -180,7 +192,7 @@ TEST(MouseWizardRotation, TheOtherWayRoundFromTheCentreOfTheScreen)
     fields.isClockwise = false;
     fields.macro = u"Fire_gun"_s;
     fields.steps = u"5"_s;
-    EXPECT_EQ(toldBy(rotateValues(fields)),
+    EXPECT_EQ(turnedBy(rotateValues(fields)),
               u"MOUSEROTATE (CENTRE, -100, -50, 50, 0, [Fire_gun], CCW, 270, 5)");
 }
 
@@ -197,19 +209,19 @@ TEST(MouseWizardRefusals, AMissingGestureIsToldAndNothingIsMade)
     EXPECT_EQ(toldBy(placeStatement(noPicture)), refused);
 
     const QPointF place(450, 200);
-    EXPECT_EQ(toldBy(rotateValues(moved(Rotation, {}))), refused);
-    EXPECT_EQ(toldBy(rotateValues(moved(Rotation, { centre, {}, {} }))), refused);
-    EXPECT_EQ(toldBy(rotateValues(moved(Rotation, { centre, place, {} }))), refused);
-    EXPECT_EQ(toldBy(rotateValues(moved(Rotation, { centre, {}, place }))), refused);
-    EXPECT_EQ(toldBy(rotateValues(moved(Rotation, { centre, centre, place }))), refused);
+    EXPECT_EQ(turnedBy(rotateValues(moved(Rotation, {}))), refused);
+    EXPECT_EQ(turnedBy(rotateValues(moved(Rotation, { centre, {}, {} }))), refused);
+    EXPECT_EQ(turnedBy(rotateValues(moved(Rotation, { centre, place, {} }))), refused);
+    EXPECT_EQ(turnedBy(rotateValues(moved(Rotation, { centre, {}, place }))), refused);
+    EXPECT_EQ(turnedBy(rotateValues(moved(Rotation, { centre, centre, place }))), refused);
     EXPECT_TRUE(rotateValues(moved(Rotation, { centre, place, place })));
 }
 
 TEST(MouseWizardRefusals, AnEmptyValueOfTheLastPageIsMissing)
 {
-    const RotateValues whole = rotateValues(rotation({ 50, 0 }, { 0, 50 })).value();
+    const RotateTexts whole = rotateValues(rotation({ 50, 0 }, { 0, 50 })).value();
     for (size_t i = 0; i < whole.size(); ++i) {
-        RotateValues lacking = whole;
+        RotateTexts lacking = whole;
         lacking[i] = u" "_s;
         EXPECT_EQ(toldBy(rotateStatement(lacking)),
                   u"Missing some text buddy: You have left out one of the required parameters I "
@@ -249,7 +261,7 @@ TEST(MouseWizardStatement, TheCompilerTakesWhatTheGesturesGive)
                 fields.placeUnit = unit;
                 fields.rotateUnit = unit;
                 QString file = u"USE SCREEN_RESOLUTION (1000,500) \n\nBTN S1 "_s
-                    + toldBy(rotateValues(fields));
+                    + turnedBy(rotateValues(fields));
                 fields.movement = MouseMovement::Absolute;
                 file += u"\nBTN S2 "_s + toldBy(placeStatement(fields));
                 fields.movement = MouseMovement::Relative;
@@ -259,3 +271,5 @@ TEST(MouseWizardStatement, TheCompilerTakesWhatTheGesturesGive)
         }
     }
 }
+
+} // namespace mouse_wizard_values_tests
