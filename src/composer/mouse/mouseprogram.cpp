@@ -85,7 +85,11 @@ void MouseProgram::useViewer(ViewImage *viewer)
     Dialogs &dialogs = m_context.dialogs;
     connect(viewer, &ViewImage::measuresChanged, this, guarded(dialogs, [this] { refresh(); }));
     connect(viewer, &ViewImage::pictureChanged, this, guarded(dialogs, [this] { FillFields(); }));
-    connect(viewer, &QObject::destroyed, this, guarded(dialogs, [this](QObject *) { refresh(); }));
+    connect(viewer, &QObject::destroyed, this, guarded(dialogs, [this](QObject *) {
+                // The signal comes before the pointer is cleared.
+                m_viewer.clear();
+                refresh();
+            }));
     askForGesture();
     FillFields();
 }
