@@ -75,6 +75,8 @@ private:
     void runKey(const ComposerKey &key);
     void turnPage(int step);
     void enterPage(int index);
+    /// Puts the windows that teach the page's subject on the button CommandShowMeHow.
+    void offerLessons(int page);
     void bindLineEndBoxes(ComposerPage &page);
     void showAddsLineEnd();
     void readStatement();
