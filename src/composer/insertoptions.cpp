@@ -6,7 +6,6 @@
 #include "composer/composer_editor.h"
 #include "composer/composer_keys.h"
 #include "composer/composer_settings.h"
-#include "composer/editor_entries.h"
 #include "composer/pages/analogueaxispage.h"
 #include "composer/pages/composerpage.h"
 #include "composer/pages/digitalaxispage.h"
@@ -20,13 +19,11 @@
 #include "platform/dialogs.h"
 #include "platform/input/keyboard.h"
 #include "platform/status_line.h"
-#include "platform/tool_windows.h"
 #include "platform/window_places.h"
 #include "settings/settings.h"
 #include "settings/settings_files.h"
 #include "ui_insertoptions.h"
 
-#include <QAction>
 #include <QRegularExpression>
 #include <QScreen>
 #include <QShortcut>
@@ -161,33 +158,14 @@ void InsertOptions::turnPage(int step)
 
 void InsertOptions::makeKeys()
 {
+    addEditorKeys(*this, m_context, m_editor);
     const auto add = [this](QKeySequence key, auto act) {
         auto *shortcut = new QShortcut(key, this);
         connect(shortcut, &QShortcut::activated, this, guarded(m_context.dialogs, act));
     };
-    for (const ComposerKey &key : composerKeys()) {
-        add(QKeySequence(key.key), [this, &key] { runKey(key); });
-    }
     add(Qt::Key_F1, [this] { CommandHelp_Click(); });
-    add(Qt::Key_F2, [this] { returnToEditor(); });
     add(QKeyCombination(Qt::CTRL, Qt::Key_Tab), [this] { turnPage(1); });
     add(QKeyCombination(Qt::CTRL | Qt::SHIFT, Qt::Key_Tab), [this] { turnPage(-1); });
-}
-
-void InsertOptions::runKey(const ComposerKey &key)
-{
-    if (key.inTextBox != QKeySequence::UnknownKey && editTextBox(focusWidget(), key.inTextBox)) {
-        return;
-    }
-    runEntry(m_editor, m_context.status, key.entry);
-}
-
-void InsertOptions::returnToEditor()
-{
-    if (parentWidget()) {
-        ToolWindows::raise(*parentWidget()->window());
-    }
-    m_editor.ResetFocusToEditor();
 }
 
 void InsertOptions::bindLineEndBoxes(ComposerPage &made)
@@ -352,7 +330,7 @@ void InsertOptions::closeEvent(QCloseEvent *event)
 void InsertOptions::Command6_Click()
 {
     hide();
-    returnToEditor();
+    returnToEditor(*this, m_editor);
 }
 
 void InsertOptions::CommandHelp_Click()

@@ -15,7 +15,6 @@ namespace zeph {
 
 class ComposerFirstPage;
 class StatementPreview;
-struct ComposerKey;
 
 namespace Ui {
 class InsertOptions;
@@ -72,7 +71,6 @@ protected:
 
 private:
     void makeKeys();
-    void runKey(const ComposerKey &key);
     void turnPage(int step);
     void enterPage(int index);
     /// Puts the windows that teach the page's subject on the button CommandShowMeHow.
@@ -80,7 +78,6 @@ private:
     void bindLineEndBoxes(ComposerPage &page);
     void showAddsLineEnd();
     void readStatement();
-    void returnToEditor();
     void activated();
     void Command6_Click();
     void CommandHelp_Click();

@@ -37,6 +37,9 @@ public:
     /// Rich text goes into the selected document in the document's font, on a line of its own where
     /// the caret is at the end of a text.
     bool insertRich(const RichText &text);
+    /// A macro's line goes into the macro file, which is selected first: onto the caret's line if
+    /// that is empty, else onto a line of its own at the end. False when nothing was inserted.
+    bool insertMacroLine(const QString &line);
     /// Puts a statement in the place of a stretch of the joystick file, without the blanks at its
     /// end. Gives the length of what is there then; no value when nothing was replaced.
     std::optional<int> replace(int start, int length, const Generated &statement);

@@ -208,7 +208,7 @@ constexpr std::array actions = {
     ActionRow{u"mnuCougar", u"mnuFlashArray_1", u"&Joystick ID in Gaming Options", u"", u"", u"", Always, Entry},
 
     ActionRow{u"mnuApps", u"mnuAppsComposer", u"&Composer", u"F2", u"Writes statements from forms and pictures", u"composer", Always, Entry},
-    ActionRow{u"mnuApps", u"mnuAppsTumbo", u"&Tumbo", u"F4", u"The virtual keyboard", u"tumbo", Later, Entry},
+    ActionRow{u"mnuApps", u"mnuAppsTumbo", u"&Tumbo", u"F4", u"The virtual keyboard", u"tumbo", Always, Entry},
     ActionRow{u"mnuApps", u"mnuAppsTemplateEditor", u"Template &Editor/Text viewer ...", u"Shift+F11", u"Templates and readme files", u"template-editor", Always, Entry},
     ActionRow{u"mnuApps", u"mnuAppsImageViewer", u"&Image viewer", u"", u"The picture that belongs to the files", u"image-viewer", Later, Entry},
     ActionRow{u"mnuApps", u"mnuMouseWizard", u"Advanced graphical &mouse movement wizard", u"", u"", u"mouse-wizard", Later, Entry},

@@ -57,7 +57,8 @@ template <class Lesson> void WizardTools::addLesson(QStringView entry)
 template <class Window> void WizardTools::feedFromTumbo(Window *window)
 {
     connect(window, &Window::tumboWanted, this, guarded(m_parts.context.dialogs, [this] {
-                m_composer.action(u"mnuAppsTumbo")->trigger();
+                m_composer.openTumboFor([window](const QString &keys) { window->setKeys(keys); },
+                                        window);
             }));
 }
 

@@ -56,4 +56,8 @@ std::optional<Stamp> modifiedStamp(QStringView text, const QDateTime &when);
 /// into the stamp as it was into the old date.
 qsizetype movedByStamp(const Stamp &stamp, qsizetype position);
 
+/// Returns the lines of a list file that pilots may edit, trimmed and without empty ones; no lines
+/// when it is missing or cannot be read.
+QStringList linesOfListFile(const QString &path);
+
 } // namespace zeph

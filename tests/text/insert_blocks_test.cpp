@@ -3,8 +3,9 @@
 
 #include "text/insert_blocks.h"
 
-#include "platform/core/list_file.h"
+#include "editor/edit/insert_forms.h"
 #include "settings/shared_settings.h"
+#include "tests/support/temp_folder.h"
 #include "text/macro_table.h"
 
 #include <QLocale>
@@ -86,6 +87,15 @@ TEST(MacroNames, TheSuppliedListHoldsNamesThatAMacroMayHave)
     for (const QString &name : names) {
         EXPECT_EQ(withoutRefused(name), name);
     }
+}
+
+TEST(ListFile, HasTrimmedLinesOfAnyLineEndAndIsEmptyWhenMissing)
+{
+    const test::TempFolder folder;
+    const QString path = folder.write(u"List.txt"_s, "Guns\r\n\r\n  Radar \nR\xE9sum\xE9\r\n \r\n");
+    EXPECT_EQ(linesOfListFile(path), (QStringList{ u"Guns"_s, u"Radar"_s, u"R\u00E9sum\u00E9"_s }));
+    EXPECT_EQ(linesOfListFile(folder.file(u"list.TXT"_s)).size(), 3);
+    EXPECT_TRUE(linesOfListFile(folder.file(u"None.txt"_s)).isEmpty());
 }
 
 TEST(RemStatement, IsRemAndTheTextWithOneBlankInFront)

@@ -5,7 +5,7 @@
 
 #include "composer/statement_inserter.h"
 #include "composer/wizards/macro_lines.h"
-#include "platform/core/list_file.h"
+#include "text/insert_blocks.h"
 #include "platform/dialogs.h"
 
 #include <QShortcut>

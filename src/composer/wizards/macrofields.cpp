@@ -7,7 +7,7 @@
 #include "composer/statement_inserter.h"
 #include "composer/wizards/macro_lines.h"
 #include "documents/documents.h"
-#include "platform/core/list_file.h"
+#include "text/insert_blocks.h"
 #include "platform/dialogs.h"
 #include "settings/settings.h"
 #include "text/macro_table.h"

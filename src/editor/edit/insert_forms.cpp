@@ -9,7 +9,6 @@
 #include "editor/editor_settings.h"
 #include "menus/menu_actions.h"
 #include "platform/clock.h"
-#include "platform/core/list_file.h"
 #include "platform/core/paths.h"
 #include "platform/dialogs.h"
 #include "platform/status_line.h"
