@@ -56,7 +56,7 @@ template <class Lesson> void WizardTools::addLesson(QStringView entry)
 
 template <class Window> void WizardTools::feedFromTumbo(Window *window)
 {
-    connect(window, &Window::tumboWanted, this, guarded(m_parts.context.dialogs, [this] {
+    connect(window, &Window::tumboWanted, this, guarded(m_parts.context.dialogs, [this, window] {
                 m_composer.openTumboFor([window](const QString &keys) { window->setKeys(keys); },
                                         window);
             }));

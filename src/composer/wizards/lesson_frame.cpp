@@ -25,7 +25,7 @@ constexpr QSize leastText(260, 120);
 } // namespace
 
 LessonFrame::LessonFrame(const Context &context, const LessonPage &page, DocumentKind kind,
-                         QWidget *parent)
+                         int number, QWidget *parent)
     : QFrame(parent), m_context(context), m_page(page), m_kind(kind)
 {
     m_rows = new QVBoxLayout(this);
@@ -42,7 +42,7 @@ LessonFrame::LessonFrame(const Context &context, const LessonPage &page, Documen
     m_rows->addLayout(middle, 1);
     middle->addWidget(new LessonPicture(context.paths.appFolder, page, this), 2);
     m_text = new QTextBrowser(this);
-    m_text->setObjectName(u"TextLesson"_s);
+    m_text->setObjectName(u"TextLesson_%1"_s.arg(number));
     m_text->setAccessibleName(page.title.toString());
     m_text->setOpenLinks(false);
     m_text->setMinimumSize(leastText);

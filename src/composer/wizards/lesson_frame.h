@@ -19,8 +19,8 @@ class LessonFrame : public QFrame
 {
     Q_OBJECT
 public:
-    /// The page must outlive the frame.
-    LessonFrame(const Context &context, const LessonPage &page, DocumentKind kind,
+    /// The page must outlive the frame. Its text's object name is TextLesson and the number.
+    LessonFrame(const Context &context, const LessonPage &page, DocumentKind kind, int number,
                 QWidget *parent = nullptr);
 
     /// Puts a row of controls below the text.

@@ -47,8 +47,9 @@ WizardWindow::WizardWindow(const ComposerParts &parts, const Lesson &lesson, con
     setObjectName(lesson.name.toString());
     setWindowTitle(lesson.caption.toString());
     for (const LessonPage &page : lesson.pages) {
-        auto *made = new LessonFrame(parts.context, page, lesson.kind, m_ui->Pages);
-        made->setObjectName(frames + u'_' + QString::number(m_ui->Pages->count()));
+        const int number = m_ui->Pages->count();
+        auto *made = new LessonFrame(parts.context, page, lesson.kind, number, m_ui->Pages);
+        made->setObjectName(frames + u'_' + QString::number(number));
         m_ui->Pages->addWidget(made);
     }
     m_frames = { this, frames };

@@ -38,6 +38,10 @@ WizardJoystickFile::WizardJoystickFile(const ComposerParts &parts, ToolWindows &
 
 void WizardJoystickFile::buttonRun(int number)
 {
+    if (isMinimized()) {
+        // The compiler has all windows make room.
+        showNormal();
+    }
     auto *composer = m_windows.get<InsertOptions>();
     if (!composer) {
         return;
