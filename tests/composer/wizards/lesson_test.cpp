@@ -159,7 +159,8 @@ TEST(LessonExamples, AreInTheEditorsColours)
     ColourScheme scheme;
     scheme.plain = 0x123456;
     scheme.slash = 0x0000AA;
-    const CharFormat plain{ .colour = 0x123456 };
+    CharFormat plain;
+    plain.colour = 0x123456;
     paintExamples(document, scheme, plain, 0xFFFFFF);
     const auto colourAt = [&document](const QString &word) {
         QTextCursor found = document.find(word);
