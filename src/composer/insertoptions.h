@@ -15,7 +15,6 @@ namespace zeph {
 
 class ComposerFirstPage;
 class StatementPreview;
-struct ComposerKey;
 
 namespace Ui {
 class InsertOptions;
@@ -72,13 +71,13 @@ protected:
 
 private:
     void makeKeys();
-    void runKey(const ComposerKey &key);
     void turnPage(int step);
     void enterPage(int index);
+    /// Puts the windows that teach the page's subject on the button CommandShowMeHow.
+    void offerLessons(int page);
     void bindLineEndBoxes(ComposerPage &page);
     void showAddsLineEnd();
     void readStatement();
-    void returnToEditor();
     void activated();
     void Command6_Click();
     void CommandHelp_Click();

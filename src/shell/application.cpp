@@ -37,6 +37,7 @@
 #include "shell/settings/shell_settings.h"
 #include "shell/start_up.h"
 #include "shell/template_guard.h"
+#include "shell/wizard_tools.h"
 #include "shell/zeph_style.h"
 #include "templates/template_tools.h"
 #include "templates/templateform.h"
@@ -281,6 +282,9 @@ void Application::addToolWindows()
         guarded(m_options.dialogs, [this](const QString &word) { m_help->showKeyword(word); }));
     // The Editor owns it.
     (void)new MouseTools(context(), windows, *m_editor, *composer);
+    auto *wizards = new WizardTools(context(), windows, *m_editor, *composer);
+    QObject::connect(wizards, &WizardTools::helpWanted, m_help,
+                     guarded(m_options.dialogs, [this](int topic) { m_help->showTopic(topic); }));
     windows.whenLoaded<TemplateForm>(m_mum.get(), [composer](TemplateForm &form) {
         form.actions().connectTo(u"mnuComposerPlugin", [composer] { composer->openTemplates(); });
         form.actions().action(u"mnuComposerPlugin")->setEnabled(true);

@@ -12,7 +12,7 @@ class QMenu;
 
 namespace zeph {
 
-class ControlsPicture;
+class ControlPictures;
 
 namespace Ui {
 class ComposerFirstPage;
@@ -43,19 +43,10 @@ public:
     void selectMacro(const QString &macro);
 
 private:
-    void connectPictures();
+    void makePictures();
     void connectButtons();
     void connectMacros();
     void makeMenus();
-    /// Shows the handle of that name. An error says why it is not shown.
-    Expected<void, QString> showHandle(const QString &name);
-    void ChangeHandle();
-    void clicked(const ControlsPicture &picture, const QString &id);
-    void tell(ControlsPicture &picture, const QString &id);
-    /// Writes a control's statement, or goes to the one that it has.
-    void insertControl(const QString &control);
-    bool goToStatement(const QString &statement);
-
     void SlashButton_Click(int index);
     void DlyRptButtons_Click(int index);
     void DLYText_LostFocus();
@@ -65,12 +56,9 @@ private:
     void showMacroMenu(const QString &name, const QPoint &at);
 
     std::unique_ptr<Ui::ComposerFirstPage> m_ui;
-    QMenu *mnuHatPos = nullptr;
-    QMenu *mnuTrigger = nullptr;
+    ControlPictures *m_pictures = nullptr;
     QMenu *mnuRHList = nullptr;
     QString m_menuMacro; ///< the macro that mnuRHList is about
-    bool m_triggerHasStages = true;
-    QString m_pointed; ///< the one control of the hot spot that is pointed at; else empty
 };
 
 } // namespace zeph
