@@ -212,8 +212,7 @@ void RAWform::SaveTumboOptions()
 
 void RAWform::PositionTumbo()
 {
-    resize(usualSize.width(), layout()->totalHeightForWidth(usualSize.width()));
-    resize(size().expandedTo(minimumSizeHint()).boundedTo(screen()->availableSize()));
+    resize(usualSize.expandedTo(minimumSizeHint()).boundedTo(screen()->availableSize()));
     const bool hadPlace =
         !ProfileFile(m_context.paths.iniPath).text(u"Tumbo", u"TumboLeft").isEmpty();
     if (!hadPlace && parentWidget()) {
@@ -244,7 +243,9 @@ void RAWform::ResizeTumbo()
         return;
     }
     layout()->activate();
-    const int wanted = layout()->totalHeightForWidth(width());
+    // With the pictures it takes the room that they have usually; without them, what it needs.
+    const int wanted = options().TumboControlBox ? usualSize.height()
+                                                 : layout()->totalMinimumHeightForWidth(width());
     resize(width(), std::min(wanted, screen()->availableSize().height()));
 }
 
