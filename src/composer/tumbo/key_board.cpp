@@ -133,10 +133,10 @@ private:
     /// The font in which a caption has room; the same for all captions that have it.
     QFont fitted(const QString &caption) const
     {
-        constexpr qreal margins = 8;
+        constexpr qreal margins = 6;
         const qreal cell = m_board->cellWidth();
         const qreal room = cell * m_key.cell.width - margins;
-        qreal size = (cell * cellsPerKey - margins) * (caption.size() > 1 ? 0.42 : 0.55);
+        qreal size = (cell * cellsPerKey - margins) * (caption.size() > 1 ? 0.43 : 0.55);
         QFont chosen = font();
         chosen.setPixelSize(int(std::max(smallestText, size)));
         const qreal width = QFontMetricsF(chosen).horizontalAdvance(caption);
