@@ -15,6 +15,11 @@ namespace zeph {
 
 class ComposerFirstPage;
 class StatementPreview;
+<<<<<<< HEAD
+=======
+struct ComposerKey;
+struct ReadStatement;
+>>>>>>> main
 
 namespace Ui {
 class InsertOptions;
@@ -74,8 +79,15 @@ private:
     void turnPage(int step);
     void enterPage(int index);
     void bindLineEndBoxes(ComposerPage &page);
+    /// Has Tab go from the tabs through a page to what is below all pages.
+    void reachAfterTabs(const ComposerPage &page);
     void showAddsLineEnd();
     void readStatement();
+<<<<<<< HEAD
+=======
+    bool readInto(Page page, const ReadStatement &read);
+    void returnToEditor();
+>>>>>>> main
     void activated();
     void Command6_Click();
     void CommandHelp_Click();
