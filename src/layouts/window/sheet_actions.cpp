@@ -198,12 +198,12 @@ public:
             }
         }
         const SheetKindRow &sheet = sheetKind(kind);
-        addBoxes(sheet, u"mnuVisible", u"Shows or hides this textbox");
-        addBoxes(sheet, u"mnuLocked", u"The mouse neither moves nor sizes what is locked");
+        addBoxes(sheet, u"mnuVisible"_s, u"Shows or hides this textbox");
+        addBoxes(sheet, u"mnuLocked"_s, u"The mouse neither moves nor sizes what is locked");
         const QStringList styles(TextStyles().size(), u"Style"_s);
-        addEntries(u"mnuStyles", u"mnuStyleArray", styles, Box);
+        addEntries(u"mnuStyles"_s, u"mnuStyleArray"_s, styles, Box);
         if (kind == SheetKind::Custom) {
-            addEntries(u"mnuSlash", u"mnuSlashArray", slashCaptions(), Box);
+            addEntries(u"mnuSlash"_s, u"mnuSlashArray"_s, slashCaptions(), Box);
         }
     }
 

@@ -71,6 +71,11 @@ bool SheetCanvas::isEditing() const
     return box && box->Visible;
 }
 
+void SheetCanvas::editorFocus()
+{
+    m_editor->setFocus();
+}
+
 int SheetCanvas::overflowing()
 {
     int count = 0;
@@ -158,7 +163,7 @@ SheetMouseEvent SheetCanvas::eventOf(const QMouseEvent &event, SheetButton butto
              .picture = movablePictureAt(at) };
 }
 
-void SheetCanvas::press(const QMouseEvent &event)
+void SheetCanvas::pressed(const QMouseEvent &event)
 {
     const SheetMouseEvent mouse = eventOf(event, sheetButton(event.button()));
     m_pressedOn = mouse.box;
@@ -166,14 +171,14 @@ void SheetCanvas::press(const QMouseEvent &event)
     showPointer();
 }
 
-void SheetCanvas::move(const QMouseEvent &event)
+void SheetCanvas::moved(const QMouseEvent &event)
 {
     const SheetMouseEvent mouse = eventOf(event, sheetButton(event.buttons()));
     fulfil(m_mouse.moved(m_model.sheet(), m_model.selected(), mouse));
     showPointer();
 }
 
-bool SheetCanvas::release(const QMouseEvent &event)
+bool SheetCanvas::released(const QMouseEvent &event)
 {
     const bool wasCarrying = m_mouse.isCarrying();
     const SheetMouseEvent mouse = eventOf(event, sheetButton(event.button()));
@@ -224,7 +229,7 @@ void SheetCanvas::forward(const QMouseEvent &event)
 
 void SheetCanvas::mousePressEvent(QMouseEvent *event)
 {
-    press(*event);
+    pressed(*event);
     m_isForwarding = event->button() == Qt::LeftButton && m_pressedOn >= 0 && !m_mouse.isCarrying();
     if (m_pressedOn >= 0) {
         m_editor->setFocus(Qt::MouseFocusReason);
@@ -236,7 +241,7 @@ void SheetCanvas::mousePressEvent(QMouseEvent *event)
 
 void SheetCanvas::mouseMoveEvent(QMouseEvent *event)
 {
-    move(*event);
+    moved(*event);
     if (m_isForwarding) {
         forward(*event);
     }
@@ -244,7 +249,7 @@ void SheetCanvas::mouseMoveEvent(QMouseEvent *event)
 
 void SheetCanvas::mouseReleaseEvent(QMouseEvent *event)
 {
-    release(*event);
+    released(*event);
     if (m_isForwarding) {
         forward(*event);
         m_isForwarding = false;
@@ -264,7 +269,7 @@ bool SheetCanvas::eventFilter(QObject *watched, QEvent *event)
     }
     switch (event->type()) {
     case QEvent::MouseButtonPress: {
-        press(*static_cast<QMouseEvent *>(event));
+        pressed(*static_cast<QMouseEvent *>(event));
         if (static_cast<QMouseEvent *>(event)->button() == Qt::RightButton) {
             m_editor->setFocus(Qt::MouseFocusReason);
             return true;
@@ -272,10 +277,10 @@ bool SheetCanvas::eventFilter(QObject *watched, QEvent *event)
         return m_mouse.isCarrying();
     }
     case QEvent::MouseMove:
-        move(*static_cast<QMouseEvent *>(event));
+        moved(*static_cast<QMouseEvent *>(event));
         return m_mouse.isCarrying();
     case QEvent::MouseButtonRelease:
-        return release(*static_cast<QMouseEvent *>(event));
+        return released(*static_cast<QMouseEvent *>(event));
     case QEvent::ContextMenu: {
         auto *menu = static_cast<QContextMenuEvent *>(event);
         if (menu->reason() == QContextMenuEvent::Keyboard) {

@@ -40,6 +40,8 @@ public:
     /// The control over the selected box; hidden while none is selected that is shown.
     RichTextBox &editor() const;
     bool isEditing() const;
+    /// Gives the control the keyboard.
+    void editorFocus();
 
 Q_SIGNALS:
     /// The mouse has moved or sized the selected box; what is done to it now is part of that step.
@@ -58,10 +60,10 @@ protected:
 
 private:
     SheetMouseEvent eventOf(const QMouseEvent &event, SheetButton button) const;
-    void press(const QMouseEvent &event);
-    void move(const QMouseEvent &event);
+    void pressed(const QMouseEvent &event);
+    void moved(const QMouseEvent &event);
     /// False when something else than a box or picture that was carried has to handle the release.
-    bool release(const QMouseEvent &event);
+    bool released(const QMouseEvent &event);
     void fulfil(const MouseWish &wish);
     void forward(const QMouseEvent &event);
     void showEditor();

@@ -32,10 +32,14 @@ void SheetDesk::keep(std::initializer_list<SettingRef> wanted) const
 
 CharFormat SheetDesk::plain() const
 {
-    const LayoutsSettings &values = settings();
-    return { .family = values.LOTextFont,
-             .pointSize = values.LOTextFontSize,
-             .bold = values.LOTextFontBold,
+    return plainOf(settings());
+}
+
+CharFormat plainOf(const LayoutsSettings &settings)
+{
+    return { .family = settings.LOTextFont,
+             .pointSize = settings.LOTextFontSize,
+             .bold = settings.LOTextFontBold,
              .colour = ColorRef(0) };
 }
 

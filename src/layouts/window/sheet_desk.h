@@ -17,6 +17,9 @@ namespace zeph {
 class MenuActions;
 class SheetView;
 
+/// Font and colour of characters that have none.
+CharFormat plainOf(const LayoutsSettings &settings);
+
 /// What the parts of a sheet's window share. The window owns all of it.
 struct SheetDesk {
     Context context;
@@ -31,7 +34,6 @@ struct SheetDesk {
     LayoutsSettings &settings() const;
     /// Writes these settings.
     void keep(std::initializer_list<SettingRef> settings) const;
-    /// Font of characters that have none.
     CharFormat plain() const;
 
     /// Changes the selected box as one step; nothing without one.
