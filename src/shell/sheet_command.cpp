@@ -168,9 +168,8 @@ Expected<void, QString> writeSheet(const SheetCommand &command, const QString &a
     if (!text) {
         return Unexpected<QString>(path + u": it is no text file."_s);
     }
-    const Paths paths{ .appFolder = appFolder,
-                       .iniPath = withClosingSeparator(appFolder) + u"Zeph.ini"_s };
-    const SettingsFiles files = settingsFilesOf(paths);
+    const QString folder = withClosingSeparator(appFolder);
+    const SettingsFiles files = settingsFilesOf({ appFolder, folder, folder + u"Zeph.ini"_s });
     Settings settings = settingsFrom(files);
     const LayoutsSettings &layouts = settings.of<LayoutsSettings>();
 

@@ -44,7 +44,10 @@ SheetLook lookOf(const ControlsImage &image, const CharFormat &plain)
 Sheet firstSheet(SheetKind kind, const QSize &size, const std::vector<RichText> &texts,
                  const ControlsImage &image, const CharFormat &plain)
 {
-    Sheet sheet{ .kind = kind, .width = size.width(), .height = size.height() };
+    Sheet sheet;
+    sheet.kind = kind;
+    sheet.width = size.width();
+    sheet.height = size.height();
     sheet.pictures.push_back({ .path = image.name });
     for (const RichText &text : texts) {
         sheet.boxes.push_back({ .text = text });

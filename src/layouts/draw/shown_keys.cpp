@@ -76,9 +76,9 @@ QString ShownKeys::expanded(const QString &keys, QStringList &within) const
     return result + keys.mid(copied);
 }
 
-RichText ShownKeys::shown(const RichText &text, MacroView view) const
+RichText ShownKeys::shown(const RichText &text, MacroNames way) const
 {
-    if (view == MacroView::Names) {
+    if (way == MacroNames::Names) {
         return text;
     }
     RichText result = RichText::plain({});
@@ -91,7 +91,7 @@ RichText ShownKeys::shown(const RichText &text, MacroView view) const
         }
         QStringList within{ name.toLower() };
         const QString keys = expanded(*found, within);
-        const bool isBoth = view == MacroView::NamesAndKeys;
+        const bool isBoth = way == MacroNames::NamesAndKeys;
         RichText shown = text.mid(from, length);
         shown.text = isBoth ? name + u" \u2039"_s + keys + u'\u203a' : keys;
         shown.characters = { { shown.text.size(), text.formatAt(from) } };
