@@ -164,11 +164,11 @@ void SheetTexts::fitSelected()
 
 Sheet SheetTexts::withKeys(Sheet sheet) const
 {
-    const auto view = MacroView(m_desk.settings().ShowKeys);
-    if (view != MacroView::Names) {
+    const auto way = MacroNames(m_desk.settings().ShowKeys);
+    if (way != MacroNames::Names) {
         const ShownKeys keys(m_macros);
         for (LayoutTextBox &box : sheet.boxes) {
-            box.text = keys.shown(box.text, view);
+            box.text = keys.shown(box.text, way);
         }
     }
     return sheet;
