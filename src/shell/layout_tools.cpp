@@ -35,9 +35,9 @@ template <class Window> void LayoutTools::add(QStringView entry, const SheetSour
     tools.add<Window>(entry, [this, sources](QWidget *owner) {
         auto *window = new Window(m_context, sources, owner);
         connect(window, &SheetWindow::helpWanted, this, &LayoutTools::helpWanted);
-        connect(window, &SheetWindow::transferWanted, this,
-                guarded(m_context.dialogs,
-                        [this](SheetKind from, bool all) { transfer(from, all); }));
+        connect(
+            window, &SheetWindow::transferWanted, this,
+            guarded(m_context.dialogs, [this](SheetKind from, bool all) { transfer(from, all); }));
         connect(&m_editor.macros().list(), &MacroList::tableChanged, window,
                 guarded(m_context.dialogs, [window](auto &&...) { window->macrosChanged(); }));
         return window;

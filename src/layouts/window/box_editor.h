@@ -8,8 +8,8 @@
 namespace zeph {
 
 /// The control in which a box's text is edited. It lies over the box and breaks its lines as the
-/// sheet does; the box's frame and white are what the sheet draws under it. The steps to undo are the
-/// sheet's.
+/// sheet does; the box's frame and white are what the sheet draws under it. The steps to undo are
+/// the sheet's.
 class BoxEditor : public RichTextBox
 {
     Q_OBJECT

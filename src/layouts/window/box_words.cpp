@@ -43,8 +43,7 @@ QStringList slashCaptions()
 
 QString slashWord(int index)
 {
-    return language::insertWords[size_t(index)].text.toString()
-        + (index < modifiers ? u' ' : u'(');
+    return language::insertWords[size_t(index)].text.toString() + (index < modifiers ? u' ' : u'(');
 }
 
 RichText withoutUnderscores(RichText text)

@@ -216,15 +216,16 @@ private:
             const bool isSecond = i >= sheet.secondMenuFrom;
             const QString second = isSecond ? u"2"_s : QString();
             const int number = isSecond ? i - sheet.secondMenuFrom : i;
-            add(menu + second, menu + u"Array"_s + second, number, sheet.boxNames[size_t(i)], status,
-                Always, Tick);
+            add(menu + second, menu + u"Array"_s + second, number, sheet.boxNames[size_t(i)],
+                status, Always, Tick);
         }
         if (sheet.pictureEntry != noPictureEntry) {
             m_rows.push_back(separator(kept(menu)));
             add(menu, menu + u"Array"_s, sheet.pictureEntry, u"Picture", status, Always, Tick);
         }
     }
-    void addEntries(const QString &menu, const QString &array, const QStringList &captions, When when)
+    void addEntries(const QString &menu, const QString &array, const QStringList &captions,
+                    When when)
     {
         for (qsizetype i = 0; i < captions.size(); ++i) {
             add(menu, array, int(i), captions[i], u"", when, Entry);

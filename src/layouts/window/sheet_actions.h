@@ -3,7 +3,8 @@
 
 #pragma once
 
-// The menus of the sheets' windows. One table holds those of all three; a row says where it belongs.
+// The menus of the sheets' windows. One table holds those of all three; a row says where it
+// belongs.
 
 #include "layouts/sheet.h"
 #include "menus/action_row.h"

@@ -6,8 +6,8 @@
 #include "layouts/window/formgridcellsize.h"
 #include "layouts/window/frmtextboxsize.h"
 #include "layouts/window/grid.h"
-#include "layouts/window/showhidewindow.h"
 #include "layouts/window/sheet_view.h"
+#include "layouts/window/showhidewindow.h"
 #include "menus/menu_actions.h"
 #include "platform/tool_windows.h"
 
@@ -53,12 +53,10 @@ void SheetBoxes::connectEntries()
     on.connectTo(u"mnuShowHide", [this] { showShowHide(); });
     on.connectTo(u"mnuNextTextbox", [this] { selectNext(1); });
     on.connectTo(u"mnuPreviousTextbox", [this] { selectNext(-1); });
-    on.connectTo(u"mnuTextboxHide", [this] {
-        toggleBox(size_t(m_desk.model.selected()), &LayoutTextBox::Visible);
-    });
-    on.connectTo(u"mnuTextboxLock", [this] {
-        toggleBox(size_t(m_desk.model.selected()), &LayoutTextBox::Locked);
-    });
+    on.connectTo(u"mnuTextboxHide",
+                 [this] { toggleBox(size_t(m_desk.model.selected()), &LayoutTextBox::Visible); });
+    on.connectTo(u"mnuTextboxLock",
+                 [this] { toggleBox(size_t(m_desk.model.selected()), &LayoutTextBox::Locked); });
 }
 
 void SheetBoxes::showTicks()

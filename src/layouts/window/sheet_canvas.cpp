@@ -284,8 +284,8 @@ bool SheetCanvas::eventFilter(QObject *watched, QEvent *event)
     case QEvent::ContextMenu: {
         auto *menu = static_cast<QContextMenuEvent *>(event);
         if (menu->reason() == QContextMenuEvent::Keyboard) {
-            Q_EMIT menuWanted(m_editor->viewport()->mapToGlobal(
-                m_editor->cursorRect().bottomLeft()));
+            Q_EMIT menuWanted(
+                m_editor->viewport()->mapToGlobal(m_editor->cursorRect().bottomLeft()));
         }
         return true;
     }
@@ -314,10 +314,10 @@ void SheetCanvas::drawSelection(QPainter &painter) const
     const QRectF place(box.Left, box.Top, box.Width, box.Height);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setBrush(Qt::NoBrush);
-    painter.setPen(QPen(selectionColour, selectionWidth,
-                        box.Locked ? Qt::DashLine : Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin));
-    painter.drawRect(place.adjusted(-selectionWidth, -selectionWidth, selectionWidth,
-                                    selectionWidth));
+    painter.setPen(QPen(selectionColour, selectionWidth, box.Locked ? Qt::DashLine : Qt::SolidLine,
+                        Qt::FlatCap, Qt::MiterJoin));
+    painter.drawRect(
+        place.adjusted(-selectionWidth, -selectionWidth, selectionWidth, selectionWidth));
     if (!box.Locked) {
         painter.setPen(QPen(Qt::white, 1));
         painter.setBrush(selectionColour);

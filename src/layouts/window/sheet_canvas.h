@@ -16,9 +16,9 @@ class BoxEditor;
 class RichTextBox;
 class SheetModel;
 
-/// The sheet itself (Picture3), one pixel of the sheet to a device-independent pixel. It is drawn as
-/// on paper; a control lies over the selected box (TxtRTF_ and the box's number), in which its text
-/// is edited.
+/// The sheet itself (Picture3), one pixel of the sheet to a device-independent pixel. It is drawn
+/// as on paper; a control lies over the selected box (TxtRTF_ and the box's number), in which its
+/// text is edited.
 class SheetCanvas : public QWidget
 {
     Q_OBJECT

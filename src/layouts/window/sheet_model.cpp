@@ -9,19 +9,20 @@ namespace {
 
 constexpr size_t mostSteps = 100;
 
-/// Whether one text is the other with a character more, and which ends a word or line.
+/// Whether the step of typing that made one text of the other is complete: something was pasted, or
+/// a word or a line was ended. What is deleted or replaced goes on.
 bool endsWord(const QString &before, const QString &after)
 {
     if (after.size() != before.size() + 1) {
-        return true;
+        return after.size() > before.size();
     }
-    const auto differs = std::ranges::mismatch(before, after);
-    return differs.in2->isSpace();
+    return std::ranges::mismatch(before, after).in2->isSpace();
 }
 
 } // namespace
 
-SheetModel::SheetModel(Sheet sheet, QObject *parent) : QObject(parent), m_sheet(std::move(sheet)) { }
+SheetModel::SheetModel(Sheet sheet, QObject *parent)
+    : QObject(parent), m_sheet(std::move(sheet)) { }
 
 const LayoutTextBox *SheetModel::selectedBox() const
 {

@@ -16,7 +16,8 @@ bool isMovable(const Sheet &sheet, int box)
         && !sheet.boxes[size_t(box)].Locked;
 }
 
-/// The custom sheet's pictures are carried by the place where they are held, and with either button.
+/// The custom sheet's pictures are carried by the place where they are held, and with either
+/// button.
 bool isFree(const Sheet &sheet)
 {
     return sheet.kind == SheetKind::Custom;
@@ -67,8 +68,8 @@ int boxAt(const Sheet &sheet, int selected, const QPointF &at)
     return -1;
 }
 
-/// Whether the mouse is at an edge of a box. On the sheet, the pointer of the box that the mouse has
-/// just left stays as long as the mouse is near its edge.
+/// Whether the mouse is at an edge of a box. On the sheet, the pointer of the box that the mouse
+/// has just left stays as long as the mouse is near its edge.
 void SheetMouse::point(const Sheet &sheet, const SheetMouseEvent &event)
 {
     const int box = event.box >= 0 ? event.box : m_sizes;
@@ -78,8 +79,8 @@ void SheetMouse::point(const Sheet &sheet, const SheetMouseEvent &event)
     }
     const QRectF place = placeOfBox(sheet.boxes[size_t(box)]);
     const QPointF in = truncated(event.at - place.topLeft());
-    const bool isNear = in.x() + sizingMargin >= place.width()
-        || in.y() + sizingMargin >= place.height();
+    const bool isNear =
+        in.x() + sizingMargin >= place.width() || in.y() + sizingMargin >= place.height();
     const bool isFar = in.x() >= place.width() + sizingMargin
         || in.y() >= place.height() + sizingMargin || in.x() < 0 || in.y() < 0;
     m_sizes = isNear && !isFar ? box : -1;
@@ -96,7 +97,8 @@ SheetMouse::Carried SheetMouse::pressedOnSheet(const Sheet &sheet, int selected,
         && isMovable(sheet, selected);
     if (hasPicture && (isRight || (isFree(sheet) && event.button == SheetButton::Left && !sizes))) {
         const SheetPicture &picture = sheet.pictures[size_t(m_picture)];
-        m_grip = isFree(sheet) ? truncated(event.at) - QPointF(picture.Left, picture.Top) : QPointF();
+        m_grip =
+            isFree(sheet) ? truncated(event.at) - QPointF(picture.Left, picture.Top) : QPointF();
         return Carried::Picture;
     }
     if (isRight && pointer() == SheetPointer::Normal && isMovable(sheet, selected)) {
@@ -111,8 +113,8 @@ MouseWish SheetMouse::pressed(const Sheet &sheet, int selected, const SheetMouse
         m_carried = pressedOnSheet(sheet, selected, event);
         return follow(sheet, selected, event);
     }
-    const bool sizes = event.button == SheetButton::Left && m_sizes == event.box
-        && isMovable(sheet, event.box);
+    const bool sizes =
+        event.button == SheetButton::Left && m_sizes == event.box && isMovable(sheet, event.box);
     m_carried = sizes ? Carried::Size : Carried::Nothing;
     return { .select = event.box };
 }

@@ -3,8 +3,8 @@
 
 #pragma once
 
-// What the mouse does to a sheet, without a window: it selects and sizes boxes with the left button,
-// and carries boxes and pictures with the right one.
+// What the mouse does to a sheet, without a window: it selects and sizes boxes with the left
+// button, and carries boxes and pictures with the right one.
 
 #include "layouts/sheet.h"
 
@@ -49,7 +49,10 @@ public:
     MouseWish moved(const Sheet &sheet, int selected, const SheetMouseEvent &event);
     MouseWish released(const Sheet &sheet, int selected, const SheetMouseEvent &event);
 
-    SheetPointer pointer() const { return m_sizes < 0 ? SheetPointer::Normal : SheetPointer::Sizing; }
+    SheetPointer pointer() const
+    {
+        return m_sizes < 0 ? SheetPointer::Normal : SheetPointer::Sizing;
+    }
     /// Whether a box or a picture follows the mouse: no text is marked meanwhile.
     bool isCarrying() const { return m_carried != Carried::Nothing; }
 

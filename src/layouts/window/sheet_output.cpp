@@ -81,7 +81,8 @@ void SheetOutput::connectEntries()
     if (on.has(u"mnuPrintWhite")) {
         on.action(u"mnuPrintWhite")->setChecked(m_desk.settings().CleoPrintOnWhite);
         on.connectTo(u"mnuPrintWhite", [this] {
-            m_desk.settings().CleoPrintOnWhite = m_desk.actions.action(u"mnuPrintWhite")->isChecked();
+            m_desk.settings().CleoPrintOnWhite =
+                m_desk.actions.action(u"mnuPrintWhite")->isChecked();
             m_desk.keep({ &LayoutsSettings::CleoPrintOnWhite });
         });
     }
@@ -128,7 +129,8 @@ bool SheetOutput::mayPrintOver(const QSize &paper)
         || m_desk.context.dialogs.ask(
             u"OK to print?"_s,
             u"The layout's size ("_s + bySize(size, u" by "_s)
-                + u") is greater than the Printer's paper size settings ("_s + bySize(paper, u" by "_s)
+                + u") is greater than the Printer's paper size settings ("_s
+                + bySize(paper, u" by "_s)
                 + u"). Do you still want me to try and print out the layout? This may result in a "
                   "problem for your printer, or a lot of extra paper being churned out"_s,
             BoxIcon::Question);
@@ -140,15 +142,15 @@ void SheetOutput::mnuPrint_Click()
         m_desk.context.dialogs.tell(
             u"No printer detected"_s,
             u"Sorry - I couldn't detect a printer connected to your system, so I can't print out "
-            "your layout. If you do have a printer connected, check your driver's settings from the "
+            "your layout. If you do have a printer connected, check your driver's settings from "
+            "the "
             "Control panel."_s,
             BoxIcon::Exclamation);
         return;
     }
     const bool isAuto = m_desk.actions.action(u"mnuOrientAuto")->isChecked();
-    const bool isAcross = isAuto
-        ? !isPortrait(m_desk.model.sheet())
-        : m_desk.actions.action(u"mnuPrinterOrientArray_1")->isChecked();
+    const bool isAcross = isAuto ? !isPortrait(m_desk.model.sheet())
+                                 : m_desk.actions.action(u"mnuPrinterOrientArray_1")->isChecked();
     m_ways.printers.setOrientation(isAcross ? PageOrientation::Landscape
                                             : PageOrientation::Portrait);
     if (!mayPrintOver(paperPixels(m_ways.printers).value_or(QSize()))) {
@@ -175,7 +177,8 @@ void SheetOutput::mnuShowImageSize_Click()
             + u"\n\nPrinter's maximum paper size: "_s
             + (paper ? bySize(*paper, u" by "_s) : u"no printer detected"_s)
             + u"\n\n(Note that these printer paper dimensions are for the current printer's "
-              "orientation and are therefore interchangeable to match the orientation of the layout "
+              "orientation and are therefore interchangeable to match the orientation of the "
+              "layout "
               "if required.)"_s);
 }
 
@@ -188,18 +191,19 @@ void SheetOutput::mnuCaptureAsBitmap_Click()
             u"Hang on a minute there buddy!"_s,
             u"We've run into a problem here. If you want me to capture the layout as a bitmap, I "
             "need to be able to see the whole layout on the screen. Your current screen resolution "
-            "is "_s + bySize(screen, u" x "_s)
-                + u", whereas your layout size is "_s + bySize(size, u" x "_s)
+            "is "_s
+                + bySize(screen, u" x "_s) + u", whereas your layout size is "_s
+                + bySize(size, u" x "_s)
                 + u". The layout is too large.\n\nCan you see the problem now? Once again, a human "
-                  "expects me, a humble computer, to perform miracles. Oh well. I recommend that you "
+                  "expects me, a humble computer, to perform miracles. Oh well. I recommend that "
+                  "you "
                   "either increase your screen resolution above your layout size if possible, or "
                   "reduce your layout size. Over to you."_s,
             BoxIcon::Exclamation);
         return;
     }
     const QString path = m_desk.context.paths.layoutsFolder() + u"capture.bmp"_s;
-    const QByteArray bitmap =
-        bitmapOf(m_desk.view.canvas().shown(), m_desk.view.canvas().look());
+    const QByteArray bitmap = bitmapOf(m_desk.view.canvas().shown(), m_desk.view.canvas().look());
     if (const auto written = writeFileAtomically(path, bitmap); !written) {
         tellNotSaved(m_desk.context.dialogs, written.error());
         return;

@@ -39,7 +39,8 @@ public:
     /// Ticks the orientation that the sheet has.
     void showOrientation();
 
-    /// The sheet as it is printed: empty boxes are left out, and the tweaks are added to the others.
+    /// The sheet as it is printed: empty boxes are left out, and the tweaks are added to the
+    /// others.
     Sheet printedSheet() const;
 
 private:

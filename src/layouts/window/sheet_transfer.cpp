@@ -55,8 +55,8 @@ void SheetTransfer::SaveSingleForTransfer()
         return;
     }
     const TransferBox sent{ QRectF(box->Left, box->Top, box->Width, box->Height), box->text };
-    if (const auto saved = saveSingleForTransfer(m_desk.kind,
-                                                 m_desk.context.paths.layoutsFolder(), sent);
+    if (const auto saved =
+            saveSingleForTransfer(m_desk.kind, m_desk.context.paths.layoutsFolder(), sent);
         !saved) {
         tellNotSaved(m_desk.context.dialogs, saved.error().fileError());
         return;
@@ -114,7 +114,8 @@ void SheetTransfer::take(const std::vector<TransferBox> &sent)
     if (isFull) {
         m_desk.context.dialogs.tell(
             u"All text boxes have text in them"_s,
-            u"There aren't any more empty text boxes on the Custom Layout window for me to transfer "
+            u"There aren't any more empty text boxes on the Custom Layout window for me to "
+            u"transfer "
             "the text to. Either clear them, or copy and paste the text to the area you want to "
             "place it."_s,
             BoxIcon::Exclamation);
@@ -156,7 +157,7 @@ void SheetTransfer::fillMacroMenu()
     QMenu *menu = m_desk.actions.menu(u"mnuInsertMacro");
     menu->clear();
     // The first heading stands for all macros, which need no menu where there are others.
-    for (qsizetype i = m_macros.MacroHeadings.size() > 1 ? 1 : 0; 
+    for (qsizetype i = m_macros.MacroHeadings.size() > 1 ? 1 : 0;
          i < m_macros.MacroHeadings.size() && i < m_macros.names.size(); ++i) {
         QMenu *heading = menu->addMenu(captionOf(m_macros.MacroHeadings[i]));
         for (const QString &name : m_macros.names[i]) {

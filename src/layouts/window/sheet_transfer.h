@@ -12,8 +12,8 @@ namespace zeph {
 struct MacroTable;
 struct TransferBox;
 
-/// How texts reach the custom sheet: from the joystick and throttle sheets, from the macro list, and
-/// by its own menu of slash words.
+/// How texts reach the custom sheet: from the joystick and throttle sheets, from the macro list,
+/// and by its own menu of slash words.
 class SheetTransfer : public QObject
 {
     Q_OBJECT

@@ -30,12 +30,11 @@ SheetGeometry RepositionThePictureboxes(const QSize &client, const QSize &sheet,
 {
     const QSize needed = sheet + QSize(2 * sheetMargin, 2 * sheetMargin);
     bool hasAcross = needed.width() > client.width();
-    const bool hasDown =
-        needed.height() > client.height() - (hasAcross ? barBreadth : 0);
+    const bool hasDown = needed.height() > client.height() - (hasAcross ? barBreadth : 0);
     hasAcross = needed.width() > client.width() - (hasDown ? barBreadth : 0);
     // A bar takes room, so that the other one may be needed too.
-    const bool hasDownToo = hasDown
-        || needed.height() > client.height() - (hasAcross ? barBreadth : 0);
+    const bool hasDownToo =
+        hasDown || needed.height() > client.height() - (hasAcross ? barBreadth : 0);
     const QSize port(std::max(0, client.width() - (hasDownToo ? barBreadth : 0)),
                      std::max(0, client.height() - (hasAcross ? barBreadth : 0)));
     SheetGeometry geometry;
@@ -103,10 +102,10 @@ void SheetView::showSelected()
     if (const LayoutTextBox *box = m_model.selectedBox()) {
         const QRect place = QRectF(box->Left, box->Top, box->Width, box->Height).toRect();
         const QRect on = place.translated(m_geometry.corner);
-        m_across->setValue(valueFor(m_across->value(), on.left(), on.right(),
-                                    m_geometry.port.width()));
-        m_down->setValue(valueFor(m_down->value(), on.top(), on.bottom(),
-                                  m_geometry.port.height()));
+        m_across->setValue(
+            valueFor(m_across->value(), on.left(), on.right(), m_geometry.port.width()));
+        m_down->setValue(
+            valueFor(m_down->value(), on.top(), on.bottom(), m_geometry.port.height()));
     }
 }
 

@@ -38,9 +38,9 @@ namespace zeph {
 namespace {
 
 /// The help topic on these windows.
-constexpr int helpTopic = 300;
+constexpr int helpTopic = 297;
 /// Of the step by step pages.
-constexpr int tutorialTopic = 301;
+constexpr int tutorialTopic = 298;
 
 /// In the order of SheetKind.
 constexpr std::array<QStringView, 3> captions = { u"Joystick Layout Editor",
@@ -87,8 +87,8 @@ SheetWindow::SheetWindow(const Context &context, SheetKind kind, const SheetSour
     setObjectName(sheetKind(kind).window.toString());
     setWindowFlag(Qt::Window);
     const SettingsFiles files = settingsFilesOf(context.paths);
-    tellProblems(context.dialogs, readLayoutsSettings(context.settings, files,
-                                                      paperPixels(sources.ways.printers)));
+    tellProblems(context.dialogs,
+                 readLayoutsSettings(context.settings, files, paperPixels(sources.ways.printers)));
     makeBars();
     makeStaleBar();
     const SheetDesk desk{ context, kind, m_model, *m_view, *m_actions, *this };
@@ -159,8 +159,8 @@ void SheetWindow::makeStaleBar()
     m_staleBar = new QWidget(centre);
     m_staleBar->setObjectName(u"StaleBar"_s);
     auto *row = new QHBoxLayout(m_staleBar);
-    auto *words = new QLabel(u"Your joystick file has changed since this sheet was filled from it."_s,
-                             m_staleBar);
+    auto *words = new QLabel(
+        u"Your joystick file has changed since this sheet was filled from it."_s, m_staleBar);
     words->setObjectName(u"LBL_Stale"_s);
     words->setWordWrap(true);
     auto *again = new QPushButton(u"A&nalyse again"_s, m_staleBar);
@@ -211,14 +211,14 @@ void SheetWindow::connectFile()
     on.connectTo(u"mnuClearLayouts", [this] { m_files->mnuClearLayouts_Click(); });
     on.connectTo(u"mnuAutoLayout", [this] { setAutomatic(); });
     on.connectTo(u"mnuClose", [this] { close(); });
-    m_recent = new MenuArray(m_context.dialogs, *on.menu(u"mnuPrevLO"),
-                             on.action(u"mnuPrevLODivider"), u"mnuPrevLOArray"_s, [this](int place) {
-                                 showOpened(m_files->openRecent(place, m_model.sheet()));
-                             });
+    m_recent =
+        new MenuArray(m_context.dialogs, *on.menu(u"mnuPrevLO"), on.action(u"mnuPrevLODivider"),
+                      u"mnuPrevLOArray"_s, [this](int place) {
+                          showOpened(m_files->openRecent(place, m_model.sheet()));
+                      });
     connect(m_files, &LayoutFiles::recentChanged, this, &SheetWindow::showRecent);
-    connect(m_files, &LayoutFiles::told, this, [this](const QString &status) {
-        statusBar()->showMessage(status);
-    });
+    connect(m_files, &LayoutFiles::told, this,
+            [this](const QString &status) { statusBar()->showMessage(status); });
     showRecent();
 }
 
@@ -284,7 +284,8 @@ void SheetWindow::updateConditions()
 {
     const LayoutTextBox *box = m_model.selectedBox();
     m_actions->setCondition(SheetWhen::Box, box != nullptr);
-    m_actions->setCondition(SheetWhen::Analysed, box && m_kind != SheetKind::Custom
+    m_actions->setCondition(SheetWhen::Analysed,
+                            box && m_kind != SheetKind::Custom
                                 && m_model.selected() < analysedBoxCount(m_kind));
     m_actions->setCondition(SheetWhen::UndoReady, m_model.canUndo());
     m_actions->setCondition(SheetWhen::RedoReady, m_model.canRedo());
@@ -314,8 +315,7 @@ void SheetWindow::refresh()
                                                : QString::number(overflowing)
                                 + u" textboxes do not hold all of their text"_s);
     m_overflow->setVisible(overflowing > 0);
-    const QString size =
-        u"%1 by %2"_s.arg(m_model.sheet().width).arg(m_model.sheet().height);
+    const QString size = u"%1 by %2"_s.arg(m_model.sheet().width).arg(m_model.sheet().height);
     if (m_size->text() != size) {
         m_size->setText(size);
         m_output->showOrientation();
@@ -340,8 +340,8 @@ void SheetWindow::GetLayoutOptions()
 void SheetWindow::SaveLayoutOptions()
 {
     const bool hides = !m_actions->action(u"mnuViewToolBar")->isChecked();
-    if (const auto kept = ::zeph::SaveLayoutOptions(settingsFilesOf(m_context.paths).layoutsIni,
-                                                    m_kind, hides);
+    if (const auto kept =
+            ::zeph::SaveLayoutOptions(settingsFilesOf(m_context.paths).layoutsIni, m_kind, hides);
         !kept) {
         tellNotKept(m_context.status, kept.error());
     }
@@ -368,8 +368,8 @@ void SheetWindow::ChangeLayoutProps()
     if (dialog.exec() != QDialog::Accepted) {
         return;
     }
-    if (const auto kept = keepLayoutSize(m_context.settings, settingsFilesOf(m_context.paths),
-                                         dialog.choice());
+    if (const auto kept =
+            keepLayoutSize(m_context.settings, settingsFilesOf(m_context.paths), dialog.choice());
         !kept) {
         tellNotKept(m_context.status, kept.error());
     }

@@ -49,7 +49,8 @@ void SheetWindow::openSheet()
     };
     const auto &settings = m_context.settings.of<LayoutsSettings>();
     say(sheetKind(m_kind).loadingStatus.toString());
-    m_image = controlsImage(m_kind, m_context.paths.appFolder, ProfileFile(m_context.paths.iniPath));
+    m_image =
+        controlsImage(m_kind, m_context.paths.appFolder, ProfileFile(m_context.paths.iniPath));
     Sheet sheet = m_kind == SheetKind::Custom ? freshCustomSheet() : freshSheet();
     const auto opened = m_files->openAutomatic(sheet);
     const bool hasTexts = opened && opened->form == LayoutForm::WithText;
@@ -164,17 +165,17 @@ void SheetWindow::showOpened(const std::optional<OpenedLayout> &opened)
 
 void SheetWindow::chooseOwnPicture()
 {
-    const auto path =
-        m_context.dialogs.openFile({ .title = u"Choose a picture"_s,
-                                     .filter = u"Pictures (*.bmp,*.jpg,*.gif,*.png)|"
-                                               "*.bmp;*.jpg;*.jpeg;*.gif;*.png"_s,
-                                     .folder = m_context.paths.appFolder,
-                                     .showsPictures = true });
+    const auto path = m_context.dialogs.openFile({ .title = u"Choose a picture"_s,
+                                                   .filter = u"Pictures (*.bmp,*.jpg,*.gif,*.png)|"
+                                                             "*.bmp;*.jpg;*.jpeg;*.gif;*.png"_s,
+                                                   .folder = m_context.paths.appFolder,
+                                                   .showsPictures = true });
     if (!path) {
         return;
     }
     if (const auto read = DrawnPicture::load(m_context.paths.appFolder, *path); !read) {
-        m_context.dialogs.tell(u"Can't read file"_s, read.error().path + u": "_s + read.error().reason,
+        m_context.dialogs.tell(u"Can't read file"_s,
+                               read.error().path + u": "_s + read.error().reason,
                                BoxIcon::Exclamation);
         return;
     }

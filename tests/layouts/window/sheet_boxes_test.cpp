@@ -180,8 +180,8 @@ TEST_F(SheetBoxesTest, WithoutASelectedBoxThereIsNoSize)
 
 TEST_F(SheetBoxesTest, TheCellSizeIsAskedAndKept)
 {
-    for (const auto &[typed, kept] : { std::pair(u"1"_s, 2), std::pair(u"12.7"_s, 12),
-                                       std::pair(u"1000"_s, 100) }) {
+    for (const auto &[typed, kept] :
+         { std::pair(u"1"_s, 2), std::pair(u"12.7"_s, 12), std::pair(u"1000"_s, 100) }) {
         FormGridCellSize dialog(5);
         EXPECT_EQ(dialog.findChild<QLineEdit *>(u"Text1"_s)->text(), u"5");
         dialog.findChild<QLineEdit *>(u"Text1"_s)->setText(typed);
@@ -266,8 +266,8 @@ TEST_F(SheetBoxesTest, ARightClickOnThePaletteChangesItsColour)
 {
     open<GraphicsPrint>();
     press(u"mnuFormatter");
-    auto *button = window->findChild<CustomFormatter *>()->findChild<QToolButton *>(
-        u"LabelColour_3"_s);
+    auto *button =
+        window->findChild<CustomFormatter *>()->findChild<QToolButton *>(u"LabelColour_3"_s);
     EXPECT_EQ(button->toolTip(), u"Right click to customise colours");
     dialogs.answerColour(0x123456);
     QContextMenuEvent event(QContextMenuEvent::Mouse, QPoint(3, 3),
@@ -282,7 +282,8 @@ TEST_F(SheetBoxesTest, ThePaletteGivesFontsAndSizes)
     model().select(14);
     editor().select(0, 6);
     press(u"mnuFormatter");
-    auto *sizes = window->findChild<CustomFormatter *>()->findChild<QComboBox *>(u"ComboFontSize"_s);
+    auto *sizes =
+        window->findChild<CustomFormatter *>()->findChild<QComboBox *>(u"ComboFontSize"_s);
     EXPECT_EQ(sizes->currentText(), u"8");
     sizes->setCurrentText(u"14"_s);
     QTest::keyClick(sizes->lineEdit(), Qt::Key_Return);

@@ -177,7 +177,8 @@ TEST_F(SheetOutputTest, ASheetOnePixelWiderThanTheScreenIsNotCaptured)
         press(u"mnuCaptureAsBitmap");
     }
     EXPECT_TRUE(dialogs.boxes().last().text.contains(
-        u"Your current screen resolution is 1043 x 713, whereas your layout size is 1043 x 714. The "
+        u"Your current screen resolution is 1043 x 713, whereas your layout size is 1043 x 714. "
+        u"The "
         "layout is too large.\n\nCan you see the problem now?"));
     EXPECT_FALSE(QFile::exists(folder.file(u"Layouts/capture.bmp"_s)));
 }

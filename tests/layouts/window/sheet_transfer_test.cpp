@@ -54,7 +54,7 @@ TEST_F(TransferTest, VisibleBoxesGoFromTheJoystickSheetToTheCustomSheet)
     open<CustomLayout>();
     window->transfer().GetF22textboxes();
     EXPECT_EQ(placeOf(0), QRectF(11, 12, 100, 60));
-    EXPECT_EQ(text(0), u"Hat 1\nU:   Look_Up");
+    EXPECT_EQ(text(0), u"Hat 1\nU:    Look_Up");
     EXPECT_EQ(text(1), sent.text);
     EXPECT_EQ(box(1).text.formatAt(0).colour, sent.formatAt(0).colour);
     EXPECT_TRUE(box(1).Visible);
@@ -164,7 +164,8 @@ TEST_F(TransferTest, MacrosAndSlashWordsAreInsertedAtTheCaret)
 
 TEST_F(TransferTest, TheMacrosAreInTheMenu)
 {
-    macros = extractMacros({ u"Rem ----------"_s, u"Rem Guns"_s, u"Rem ----------"_s, u"Fire_Gun = SPC"_s });
+    macros = extractMacros(
+        { u"Rem ----------"_s, u"Rem Guns"_s, u"Rem ----------"_s, u"Fire_Gun = SPC"_s });
     open<CustomLayout>();
     model().select(0);
     QMenu *menu = window->actions().menu(u"mnuInsertMacro");

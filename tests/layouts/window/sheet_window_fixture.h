@@ -101,10 +101,7 @@ protected:
                                    .text = sheet.boxes[size_t(i)].text };
         model().change(sheet);
     }
-    QRectF placeOf(int i)
-    {
-        return { box(i).Left, box(i).Top, box(i).Width, box(i).Height };
-    }
+    QRectF placeOf(int i) { return { box(i).Left, box(i).Top, box(i).Width, box(i).Height }; }
     /// Puts all boxes but these out of the way.
     void hideAllBut(const QList<int> &shown)
     {

@@ -13,8 +13,8 @@ using namespace zeph;
 
 namespace {
 
-/// A box (4) of 100 by 50 at 300, 200 and another (5) at 500, 200, in a window that shows all of the
-/// sheet.
+/// A box (4) of 100 by 50 at 300, 200 and another (5) at 500, 200, in a window that shows all of
+/// the sheet.
 class SheetMouseWindowTest : public test::SheetWindowTest
 {
 protected:

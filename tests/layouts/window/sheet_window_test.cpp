@@ -20,10 +20,7 @@ class SheetTest : public test::SheetWindowTest
 protected:
     QWidget *staleBar() { return window->findChild<QWidget *>(u"StaleBar"_s); }
     /// Lets the window look at the joystick file again.
-    void wait()
-    {
-        QTest::qWait(350);
-    }
+    void wait() { QTest::qWait(350); }
     void select(int i, int start = 0, int length = 0)
     {
         model().select(i);
@@ -43,9 +40,9 @@ TEST_F(SheetTest, TheJoystickSheetOpensFilledColouredAndArranged)
     EXPECT_EQ(window->objectName(), u"GraphicsPrint");
     EXPECT_EQ(window->windowTitle(), u"Joystick Layout Editor");
     ASSERT_EQ(model().sheet().boxes.size(), 17U);
-    EXPECT_EQ(text(0), u"Hat 1\nU:   Look_Up");
+    EXPECT_EQ(text(0), u"Hat 1\nU:    Look_Up");
     EXPECT_EQ(text(1), u"Hat 2\n KEYPAD");
-    EXPECT_EQ(text(5), u"BTN S2\n       Gear_Up");
+    EXPECT_EQ(text(5), u"BTN S2\n        Gear_Up");
     EXPECT_EQ(text(12), u"File: "_s + documents.joystick().path());
     EXPECT_EQ(text(14), u"Custom 1:");
     EXPECT_EQ(box(5).text.formatAt(0).colour, 0x0000FFU);
@@ -112,8 +109,9 @@ TEST_F(SheetTest, WithoutColouringTheTextsArePlain)
 
 TEST_F(SheetTest, TheSecondMethodGivesTheSwitchItsStyles)
 {
-    folder.write(u"Layouts.ini"_s, "[Joystick Layout]\r\nHighlightingMethod=1\r\n"
-                                   "StyleFontColour7=164\r\nStyleFontBold7=1\r\n");
+    folder.write(u"Layouts.ini"_s,
+                 "[Joystick Layout]\r\nHighlightingMethod=1\r\n"
+                 "StyleFontColour7=164\r\nStyleFontBold7=1\r\n");
     open<GraphicsPrint>();
     const qsizetype fire = text(4).indexOf(u"Fire_Gun");
     ASSERT_GT(fire, 0);
@@ -141,7 +139,7 @@ TEST_F(SheetTest, AnalysingOneBoxLeavesAllOthersAsTheyAre)
     const Sheet before = model().sheet();
     select(5);
     press(u"mnuAnalyseArray_1");
-    EXPECT_EQ(text(5), u"BTN S2\n       Gear_Up");
+    EXPECT_EQ(text(5), u"BTN S2\n        Gear_Up");
     EXPECT_EQ(box(5).text.formatAt(0).colour, 0x0000FFU);
     for (int i = 0; i < 17; ++i) {
         if (i != 5) {
@@ -205,11 +203,8 @@ TEST_F(SheetTest, TypingGoesIntoTheSelectedBoxAndIsUndone)
     QTest::keyClicks(&editor(), u"Flaps"_s);
     EXPECT_EQ(text(14), u"Flaps");
     QTest::keyClick(&editor(), Qt::Key_Z, Qt::ControlModifier);
-    EXPECT_EQ(text(14), u"");
-    QTest::keyClick(&editor(), Qt::Key_Z, Qt::ControlModifier);
     EXPECT_EQ(text(14), u"Custom 1:");
     EXPECT_EQ(editor().richText().text, u"Custom 1:");
-    QTest::keyClick(&editor(), Qt::Key_Y, Qt::ControlModifier);
     QTest::keyClick(&editor(), Qt::Key_Y, Qt::ControlModifier);
     EXPECT_EQ(text(14), u"Flaps");
 }
@@ -256,7 +251,7 @@ TEST_F(SheetTest, ANewerJoystickTextMakesTheSheetOld)
     wait();
     EXPECT_TRUE(staleBar()->isVisible());
     window->findChild<QPushButton *>(u"cmdAnalyseAgain"_s)->click();
-    EXPECT_EQ(text(5), u"BTN S2\n       Gear_Down");
+    EXPECT_EQ(text(5), u"BTN S2\n        Gear_Down");
     EXPECT_EQ(text(14), u"my own words");
     EXPECT_FALSE(staleBar()->isVisible());
 }
@@ -363,7 +358,7 @@ TEST_F(SheetTest, TheAutomaticLayoutOpensWithTheWindow)
     window.reset();
     open<GraphicsPrint>();
     EXPECT_EQ(box(5).Left, 123);
-    EXPECT_EQ(text(5), u"BTN S2\n       Gear_Up");
+    EXPECT_EQ(text(5), u"BTN S2\n        Gear_Up");
     EXPECT_TRUE(action(u"mnuAutoLayout")->isChecked());
 }
 
@@ -374,8 +369,9 @@ TEST_F(SheetTest, ClosingAsksOnlyWhenSomethingWouldBeLost)
     write(14, u"mine"_s);
     dialogs.answer(u"Save layout?"_s, BoxButton::Cancel);
     EXPECT_FALSE(window->mayClose());
-    EXPECT_EQ(dialogs.boxes().last().text,
-              u"Before I close down the Joystick Layout Editor, would you like to save the layout?");
+    EXPECT_EQ(
+        dialogs.boxes().last().text,
+        u"Before I close down the Joystick Layout Editor, would you like to save the layout?");
     dialogs.answer(u"Save layout?"_s, BoxButton::No);
     EXPECT_TRUE(window->mayClose());
 }
@@ -385,7 +381,7 @@ TEST_F(SheetTest, OverflowIsCountedAndFitTextMendsIt)
     openShown({ 1100, 900 });
     auto *panel = window->findChild<QLabel *>(u"LBL_Overflow"_s);
     EXPECT_FALSE(panel->isVisible());
-    place(14, { 10, 10, 120, 40 });
+    place(14, { 10, 10, 120, 48 });
     write(14, u"one\ntwo\nthree\nfour"_s);
     EXPECT_EQ(panel->text(), u"1 textbox does not hold all of its text");
     select(14);
@@ -420,8 +416,8 @@ TEST_F(SheetTest, ArrangePutsTheBoxesBackInOrder)
     }
     press(u"mnuArrange");
     for (int i = 0; i < 17; ++i) {
-        EXPECT_EQ(placeOf(i).topLeft(), QPointF(fresh.boxes[size_t(i)].Left,
-                                                fresh.boxes[size_t(i)].Top))
+        EXPECT_EQ(placeOf(i).topLeft(),
+                  QPointF(fresh.boxes[size_t(i)].Left, fresh.boxes[size_t(i)].Top))
             << i;
     }
 }

@@ -27,10 +27,7 @@ protected:
     }
     QCheckBox *check(const QString &name) { return view->findChild<QCheckBox *>(name); }
     QPushButton *command() { return view->findChild<QPushButton *>(u"Command1"_s); }
-    QString result()
-    {
-        return view->findChild<QPlainTextEdit *>(u"RTBforUBB"_s)->toPlainText();
-    }
+    QString result() { return view->findChild<QPlainTextEdit *>(u"RTBforUBB"_s)->toPlainText(); }
 
     std::unique_ptr<UBBandHTMLview> view;
 };
