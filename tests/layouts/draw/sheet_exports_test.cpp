@@ -114,8 +114,8 @@ double likeness(const QImage &picture, const QImage &other, const QPoint &offset
 {
     int points = 0;
     int alike = 0;
-    for (int y = 4; y < picture.height() - 4; y += 3) {
-        for (int x = 4; x < picture.width() - 4; x += 3) {
+    for (int y = 4; y < picture.height() - 4; y += 5) {
+        for (int x = 4; x < picture.width() - 4; x += 5) {
             const QRgb colour = picture.pixel(x, y);
             bool isEven = qGray(colour) < 235;
             for (int i = 0; i < 25 && isEven; ++i) {
@@ -134,7 +134,7 @@ double likeness(const QImage &picture, const QImage &other, const QPoint &offset
                 && std::abs(there.blue() - qBlue(colour)) < 24;
         }
     }
-    EXPECT_GT(points, 2000);
+    EXPECT_GT(points, 1000);
     return double(alike) / points;
 }
 
@@ -252,8 +252,8 @@ TEST_F(SheetExports, TheWebPageHasAllTextsAndNeedsNoOtherFile)
         EXPECT_TRUE(text.contains(u"<title>Sample &lt;flight&gt; &amp; "));
         static const QRegularExpression other(u"(src|href)=\"(?!data:)|url\\((?!#)|@import"_s);
         EXPECT_FALSE(text.contains(other)) << other.match(text).captured().toStdString();
-        static const QRegularExpression family(u"font:[^;\"]*(&quot;|')?[^;]*sans-serif"_s);
-        EXPECT_TRUE(text.contains(family));
+        EXPECT_EQ(text.count(u"style=\"font:"), text.count(u"sans-serif;color:"));
+        EXPECT_GT(text.count(u"sans-serif;color:"), 50);
     }
 }
 
