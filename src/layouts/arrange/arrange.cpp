@@ -32,8 +32,8 @@ constexpr double wideCorridor = 36;
 constexpr double leastCorridor = 16;
 constexpr double goodColumn = 150;
 constexpr double leastColumn = 100;
-// What speaks against an arrangement, in pixels of leader line: a crossing of two lines or of a line
-// and a box, a line over another control, and each pixel of height that the texts lack.
+// What speaks against an arrangement, in pixels of leader line: a crossing of two lines or of a
+// line and a box, a line over another control, and each pixel of height that the texts lack.
 constexpr double crossingCost = 1000;
 constexpr double overControlCost = 60;
 constexpr double lackCost = 2;
@@ -99,8 +99,7 @@ class Arranger
 {
 public:
     Arranger(Sheet &sheet, const PictureWithControls &picture, const CharFormat &plain)
-        : m_sheet(sheet),
-          m_picture(picture),
+        : m_sheet(sheet), m_picture(picture),
           m_area(margin, margin, sheet.width - 2 * margin, sheet.height - 2 * margin)
     {
         for (const LayoutTextBox &box : sheet.boxes) {
@@ -283,13 +282,17 @@ void Arranger::collect()
 
 bool Arranger::fitsAroundPicture()
 {
-    if (m_sheet.pictures.empty() || !m_sheet.pictures.front().Visible
-        || m_picture.size.isEmpty()) {
+    if (m_sheet.pictures.empty() || !m_sheet.pictures.front().Visible || m_picture.size.isEmpty()) {
         return false;
     }
     const double room = (m_area.width() - m_picture.size.width()) / 2;
     m_corridor = std::clamp(room - goodColumn, leastCorridor, wideCorridor);
-    m_columnWidth = std::floor(room - m_corridor);
+    // On a large sheet, a column that is wider than its texts would only make the lines longer.
+    double widest = goodColumn;
+    for (const size_t box : m_placed) {
+        widest = std::max(widest, m_texts[box].unbrokenWidth());
+    }
+    m_columnWidth = std::floor(std::min(room - m_corridor, widest));
     return m_columnWidth >= leastColumn && leastHeight(0) <= m_area.height();
 }
 
@@ -485,8 +488,7 @@ void Arranger::order(Column &column)
     std::ranges::stable_sort(column.boxes, {},
                              [this](size_t box) { return control(box).center().y(); });
     const double gaps = column.boxes.empty() ? 0 : gap * double(column.boxes.size() - 1);
-    column.heights =
-        squeezed(neededHeights(column.boxes, m_columnWidth), m_area.height() - gaps);
+    column.heights = squeezed(neededHeights(column.boxes, m_columnWidth), m_area.height() - gaps);
     stack(column);
     double best = cost(column);
     for (bool isBetter = true; isBetter;) {
@@ -544,8 +546,7 @@ double Arranger::overOthers(const std::vector<QLineF> &lines, const Indices &box
 void Arranger::put(const Column &column)
 {
     for (size_t i = 0; i < column.boxes.size(); ++i) {
-        put(column.boxes[i],
-            QRectF(column.left, column.tops[i], m_columnWidth, column.heights[i]));
+        put(column.boxes[i], QRectF(column.left, column.tops[i], m_columnWidth, column.heights[i]));
     }
 }
 

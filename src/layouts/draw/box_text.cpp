@@ -69,8 +69,7 @@ std::vector<BoxRun> runsOf(const QTextBlock &block, const QTextLine &line, const
                 ++to;
             }
             const double left = line.cursorToX(from);
-            runs.push_back(
-                { text.mid(from, to - from), left, line.cursorToX(to) - left, format });
+            runs.push_back({ text.mid(from, to - from), left, line.cursorToX(to) - left, format });
             from = to;
         }
     }
@@ -140,7 +139,8 @@ double BoxText::unbrokenWidth() const
     double width = 0;
     (void)textHeight();
     for (QTextBlock block = m_document->begin(); block.isValid(); block = block.next()) {
-        width = std::max(width, block.layout()->maximumWidth() + block.blockFormat().leftMargin()
+        width = std::max(width,
+                         block.layout()->maximumWidth() + block.blockFormat().leftMargin()
                              + (block.textList() ? bulletIndentPixels : 0));
     }
     return std::ceil(width) + 1 + 2 * boxPadding;

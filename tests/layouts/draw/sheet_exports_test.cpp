@@ -53,8 +53,7 @@ struct PlacedWord {
 /// The words of a PDF of one page; the sheet is in its middle.
 QList<PlacedWord> wordsOfPdf(const QString &path, const Sheet &sheet)
 {
-    static const QRegularExpression page(
-        u"<page width=\"([0-9.]+)\" height=\"([0-9.]+)\">"_s);
+    static const QRegularExpression page(u"<page width=\"([0-9.]+)\" height=\"([0-9.]+)\">"_s);
     static const QRegularExpression word(
         u"<word xMin=\"([0-9.]+)\" yMin=\"([0-9.]+)\" xMax=\"([0-9.]+)\" yMax=\"([0-9.]+)\">([^<]*)<"_s);
     constexpr double pixels = 96.0 / 72;
@@ -120,7 +119,8 @@ double likeness(const QImage &picture, const QImage &other, const QPoint &offset
             bool isEven = qGray(colour) < 235;
             for (int i = 0; i < 25 && isEven; ++i) {
                 const QRgb near = picture.pixel(x + i % 5 - 2, y + i / 5 - 2);
-                isEven = std::abs(qRed(near) - qRed(colour)) + std::abs(qGreen(near) - qGreen(colour))
+                isEven = std::abs(qRed(near) - qRed(colour))
+                        + std::abs(qGreen(near) - qGreen(colour))
                         + std::abs(qBlue(near) - qBlue(colour))
                     < 12;
             }
@@ -183,8 +183,7 @@ TEST_F(SheetExports, ThePdfHasAllTextsOnOnePageEachInItsBox)
 TEST_F(SheetExports, ThePdfsFontsAreEmbedded)
 {
     const auto [sheet, look] = first(SheetKind::Joystick, sampleText());
-    const QString fonts =
-        QString::fromUtf8(run(u"pdffonts"_s, { pdfFile(sheet, look) }));
+    const QString fonts = QString::fromUtf8(run(u"pdffonts"_s, { pdfFile(sheet, look) }));
     const QStringList lines = fonts.split(u'\n', Qt::SkipEmptyParts).mid(2);
     EXPECT_FALSE(lines.isEmpty());
     for (const QString &line : lines) {
@@ -200,8 +199,7 @@ TEST_F(SheetExports, TheUsualSheetIsOnA4AndALargerOneOnPaperOfItsSize)
     const auto pageSize = [&] {
         const QString info = QString::fromUtf8(run(u"pdfinfo"_s, { pdfFile(sheet, look) }));
         EXPECT_TRUE(info.contains(QRegularExpression(u"Pages: +1\n"_s)));
-        const auto hit =
-            QRegularExpression(u"Page size: +([0-9.]+) x ([0-9.]+) pts"_s).match(info);
+        const auto hit = QRegularExpression(u"Page size: +([0-9.]+) x ([0-9.]+) pts"_s).match(info);
         return QSize(qRound(hit.captured(1).toDouble()), qRound(hit.captured(2).toDouble()));
     };
     EXPECT_EQ(pageSize(), QSize(842, 595));
@@ -295,8 +293,9 @@ TEST_F(SheetExports, ColoursAreThoseOfThePng)
         const QImage png = QImage::fromData(*pngOf(sheet, look, scale), "PNG");
 
         const QString pdf = pdfFile(sheet, look);
-        run(u"pdftoppm"_s, { u"-png"_s, u"-singlefile"_s, u"-r"_s, QString::number(96 * scale), pdf,
-                             pdf.chopped(4) });
+        run(u"pdftoppm"_s,
+            { u"-png"_s, u"-singlefile"_s, u"-r"_s, QString::number(96 * scale), pdf,
+              pdf.chopped(4) });
         const QImage page(pdf.chopped(4) + u".png"_s);
         const QSize margin = (page.size() - png.size()) / 2;
         EXPECT_GT(likeness(png, page, QPoint(margin.width(), margin.height())), 0.97);
