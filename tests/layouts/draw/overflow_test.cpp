@@ -77,6 +77,22 @@ TEST(Overflow, AWordThatIsWiderThanTheBoxIsBroken)
     EXPECT_EQ(whole, text.text);
 }
 
+TEST(Overflow, ABoxOfTheUnbrokenWidthBreaksNoLine)
+{
+    const QString words = u"many words in one line, "_s.repeated(5);
+    for (const double width : { 40.0, 300.0, 2000.0 }) {
+        BoxText text(RichText::plain(words + u'\n' + words.left(50), sheetFont()), sheetFont(),
+                     width);
+        const size_t before = text.lines().size();
+        const double unbroken = text.unbrokenWidth();
+        EXPECT_EQ(text.lines().size(), before);
+        text.setBoxWidth(unbroken);
+        EXPECT_EQ(text.lines().size(), 2U);
+        text.setBoxWidth(unbroken - 20);
+        EXPECT_EQ(text.lines().size(), 3U);
+    }
+}
+
 TEST(FitText, ATextThatFitsStays)
 {
     const LayoutTextBox box = boxOf(linesOfText(3, 12), 200, 100);
