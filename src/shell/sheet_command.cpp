@@ -218,9 +218,8 @@ QString sheetCommandFolder(const QString &executableFolder, const QString &perUs
 {
     // The program makes a folder of the user's own where it cannot write beside itself.
     const bool isOthers = !QFileInfo(executableFolder).isWritable();
-    return nativeSeparators(isOthers && QFileInfo::exists(perUser + u"/Zeph.ini"_s)
-                                ? perUser
-                                : executableFolder);
+    return nativeSeparators(
+        isOthers && QFileInfo::exists(perUser + u"/Zeph.ini"_s) ? perUser : executableFolder);
 }
 
 } // namespace zeph

@@ -10,6 +10,10 @@
 #include <cmath>
 #include <limits>
 #include <map>
+#include <optional>
+#include <span>
+#include <tuple>
+#include <utility>
 
 namespace zeph {
 
@@ -28,10 +32,13 @@ constexpr double wideCorridor = 36;
 constexpr double leastCorridor = 16;
 constexpr double goodColumn = 150;
 constexpr double leastColumn = 100;
-// What one crossing of leader lines, and one line over another control, are worth in pixels of
-// leader line.
+// What speaks against an arrangement, in pixels of leader line: a crossing of two lines or of a
+// line and a box, a line over another control, and each pixel of height that the texts lack.
 constexpr double crossingCost = 1000;
 constexpr double overControlCost = 60;
+constexpr double lackCost = 2;
+// Plans that lack so much more height than the best are not looked into.
+constexpr double worthATry = 200;
 
 using Indices = std::vector<size_t>;
 
@@ -46,6 +53,12 @@ struct Plan {
     Indices left;
     Indices right;
     std::vector<Row> rows; ///< under the picture, from the top
+};
+
+/// What is against an arrangement.
+struct Result {
+    double lack = 0; ///< of height for the texts, in pixels
+    double cost = 0; ///< of all, in pixels of leader line
 };
 
 struct Column {
@@ -68,20 +81,25 @@ int crossings(const std::vector<QLineF> &lines)
 
 bool passesOver(const QLineF &line, const QRectF &place)
 {
-    const QRectF inner = place.adjusted(place.width() / 4, place.height() / 4, -place.width() / 4,
-                                        -place.height() / 4);
-    return line.intersects(QLineF(inner.topLeft(), inner.bottomRight()))
+    return line.intersects(QLineF(place.topLeft(), place.bottomRight()))
         == QLineF::BoundedIntersection
-        || line.intersects(QLineF(inner.bottomLeft(), inner.topRight()))
+        || line.intersects(QLineF(place.bottomLeft(), place.topRight()))
         == QLineF::BoundedIntersection;
+}
+
+/// The part of a control that a line to another one should keep clear of.
+QRectF middleOf(const QRectF &control)
+{
+    const double x = control.width() / 4;
+    const double y = control.height() / 4;
+    return control.adjusted(x, y, -x, -y);
 }
 
 class Arranger
 {
 public:
     Arranger(Sheet &sheet, const PictureWithControls &picture, const CharFormat &plain)
-        : m_sheet(sheet),
-          m_picture(picture),
+        : m_sheet(sheet), m_picture(picture),
           m_area(margin, margin, sheet.width - 2 * margin, sheet.height - 2 * margin)
     {
         for (const LayoutTextBox &box : sheet.boxes) {
@@ -93,9 +111,26 @@ public:
     {
         placeTitleBlock();
         collect();
-        if (fitsAroundPicture()) {
-            arrangeAroundPicture();
+        // The more rows stand over the whole width, the better the sheet looks, if there is room.
+        const std::vector<Row> rows = wideRows();
+        const auto all = std::tuple(m_area, m_unplaced, m_own);
+        std::optional<Sheet> best;
+        Result bestResult{ .lack = 1, .cost = std::numeric_limits<double>::max() };
+        for (size_t first = 0; first <= rows.size() && bestResult.lack > 0; ++first) {
+            std::tie(m_area, m_unplaced, m_own) = all;
+            placeWide(std::span(rows).subspan(first));
+            if (!fitsAroundPicture()) {
+                continue;
+            }
+            if (const Result result = arrangeAroundPicture(); result.cost < bestResult.cost) {
+                best = m_sheet;
+                bestResult = result;
+            }
+        }
+        if (best) {
+            m_sheet = *best;
         } else {
+            std::tie(m_area, m_unplaced, m_own) = all;
             arrangeInColumns();
         }
     }
@@ -104,29 +139,33 @@ private:
     // Measures.
     double neededHeight(size_t box, double width);
     std::vector<double> neededHeights(const Indices &boxes, double width);
-    double rowHeight(const Row &row);
+    std::vector<Row> rowsOf(const Indices &boxes, double width);
     static double cellWidth(double width, size_t cells)
     {
         return std::floor((width - gap * double(cells - 1)) / double(cells));
     }
     QRectF centre() const;
     bool fitsAroundPicture();
+    double leastHeight(size_t moreRows) const;
 
     // Steps.
     void placeTitleBlock();
     void collect();
-    void arrangeAroundPicture();
+    std::vector<Row> wideRows();
+    void placeWide(std::span<const Row> rows);
+    Result arrangeAroundPicture();
     void arrangeInColumns();
     std::vector<Plan> plans();
     std::vector<Row> rowsWith(const Indices &below);
     double overflow(const Plan &plan);
-    double place(Plan plan);
+    double place(const Plan &plan);
     void order(Column &column);
     void stack(Column &column) const;
     double cost(const Column &column) const;
     std::vector<QLineF> linesOf(const Column &column) const;
-    double overControls(const std::vector<QLineF> &lines, const Indices &boxes) const;
-    void placeRows(std::vector<Row> rows);
+    double overOthers(const std::vector<QLineF> &lines, const Indices &boxes) const;
+    void placeRows(const std::vector<Row> &rows);
+    void putRow(const Row &row, const QRectF &space, double bottom, double height);
     void put(const Column &column);
     void put(size_t box, const QRectF &place);
     QRectF control(size_t box) const { return controlOnSheet(m_sheet, m_picture, box); }
@@ -139,6 +178,7 @@ private:
     Indices m_placed; ///< boxes whose controls are on the picture
     Indices m_unplaced; ///< boxes of other controls
     Indices m_own; ///< the pilot's own
+    std::vector<QRectF> m_rowBoxes; ///< boxes under the picture
     double m_corridor = wideCorridor;
     double m_columnWidth = 0;
 };
@@ -162,10 +202,21 @@ std::vector<double> Arranger::neededHeights(const Indices &boxes, double width)
     return heights;
 }
 
-double Arranger::rowHeight(const Row &row)
+/// Rows of up to three boxes within a width, as high as their texts need.
+std::vector<Row> Arranger::rowsOf(const Indices &boxes, double width)
 {
-    const double width = cellWidth(centre().width(), row.boxes.size());
-    return std::ranges::max(neededHeights(row.boxes, width));
+    std::vector<Row> rows;
+    for (size_t i = 0; i < boxes.size(); i += mostInRow) {
+        const auto from = boxes.begin() + std::ptrdiff_t(i);
+        const auto count = std::min(mostInRow, boxes.size() - i);
+        Row row{ .boxes = Indices(from, from + std::ptrdiff_t(count)) };
+        row.height = std::ranges::max(neededHeights(row.boxes, cellWidth(width, count)));
+        if (row.boxes.front() >= m_sheet.boxes.size() - ownBoxes) {
+            row.height = std::max(row.height, ownBoxHeight);
+        }
+        rows.push_back(std::move(row));
+    }
+    return rows;
 }
 
 QRectF Arranger::centre() const
@@ -231,16 +282,49 @@ void Arranger::collect()
 
 bool Arranger::fitsAroundPicture()
 {
-    if (m_sheet.pictures.empty() || !m_sheet.pictures.front().Visible
-        || m_picture.size.isEmpty()) {
+    if (m_sheet.pictures.empty() || !m_sheet.pictures.front().Visible || m_picture.size.isEmpty()) {
         return false;
     }
     const double room = (m_area.width() - m_picture.size.width()) / 2;
     m_corridor = std::clamp(room - goodColumn, leastCorridor, wideCorridor);
-    m_columnWidth = std::floor(room - m_corridor);
-    const size_t rows = size_t(!m_unplaced.empty()) + size_t(!m_own.empty());
-    const double least = m_picture.size.height() + double(rows) * (leastBoxHeight + gap);
-    return m_columnWidth >= leastColumn && least <= m_area.height();
+    // On a large sheet, a column that is wider than its texts would only make the lines longer.
+    double widest = goodColumn;
+    for (const size_t box : m_placed) {
+        widest = std::max(widest, m_texts[box].unbrokenWidth());
+    }
+    m_columnWidth = std::floor(std::min(room - m_corridor, widest));
+    return m_columnWidth >= leastColumn && leastHeight(0) <= m_area.height();
+}
+
+/// The height of the picture and of the rows under it when they are as low as they can be.
+double Arranger::leastHeight(size_t moreRows) const
+{
+    const auto rowCount = [](const Indices &boxes) {
+        return (boxes.size() + mostInRow - 1) / mostInRow;
+    };
+    const size_t rows = moreRows + rowCount(m_unplaced) + rowCount(m_own);
+    return m_picture.size.height() + double(rows) * (leastBoxHeight + gap);
+}
+
+/// The rows of the boxes that need not be near the picture, over the whole width.
+std::vector<Row> Arranger::wideRows()
+{
+    std::vector<Row> rows = rowsOf(m_unplaced, m_area.width());
+    std::ranges::move(rowsOf(m_own, m_area.width()), std::back_inserter(rows));
+    return rows;
+}
+
+/// Puts rows at the foot of the sheet.
+void Arranger::placeWide(std::span<const Row> rows)
+{
+    for (size_t i = rows.size(); i-- > 0;) {
+        putRow(rows[i], m_area, m_area.bottom(), rows[i].height);
+        m_area.setBottom(m_area.bottom() - rows[i].height - gap);
+        for (const size_t box : rows[i].boxes) {
+            std::erase(m_unplaced, box);
+            std::erase(m_own, box);
+        }
+    }
 }
 
 /// Rows under the picture: of controls that stand there, of controls that the picture does not
@@ -248,17 +332,8 @@ bool Arranger::fitsAroundPicture()
 std::vector<Row> Arranger::rowsWith(const Indices &below)
 {
     std::vector<Row> rows;
-    for (const Indices &boxes : { below, m_unplaced, m_own }) {
-        for (size_t i = 0; i < boxes.size(); i += mostInRow) {
-            const auto from = boxes.begin() + std::ptrdiff_t(i);
-            const auto count = std::min(mostInRow, boxes.size() - i);
-            Row row{ .boxes = Indices(from, from + std::ptrdiff_t(count)) };
-            row.height = rowHeight(row);
-            if (row.boxes.front() >= m_sheet.boxes.size() - ownBoxes) {
-                row.height = std::max(row.height, ownBoxHeight);
-            }
-            rows.push_back(std::move(row));
-        }
+    for (const Indices *boxes : { &below, &std::as_const(m_unplaced), &std::as_const(m_own) }) {
+        std::ranges::move(rowsOf(*boxes, centre().width()), std::back_inserter(rows));
     }
     return rows;
 }
@@ -275,6 +350,9 @@ std::vector<Plan> Arranger::plans()
     };
     std::vector<Plan> plans;
     for (size_t count = 0; count <= std::min(mostBelow, byHeight.size()); ++count) {
+        if (count > 0 && leastHeight(1) > m_area.height()) {
+            break;
+        }
         const auto cut = byHeight.begin() + std::ptrdiff_t(count);
         Indices below(byHeight.begin(), cut);
         Indices beside(cut, byHeight.end());
@@ -305,7 +383,7 @@ double Arranger::overflow(const Plan &plan)
     return lacks + std::max(0.0, rows - m_area.height());
 }
 
-void Arranger::arrangeAroundPicture()
+Result Arranger::arrangeAroundPicture()
 {
     const std::vector<Plan> all = plans();
     std::vector<double> lacks;
@@ -314,25 +392,32 @@ void Arranger::arrangeAroundPicture()
     }
     const double least = std::ranges::min(lacks);
     const Plan *best = nullptr;
-    double bestCost = std::numeric_limits<double>::max();
+    Result result{ .lack = least, .cost = std::numeric_limits<double>::max() };
     for (size_t i = 0; i < all.size(); ++i) {
         // Under the picture only when the columns do not hold all: the plans come in that order.
-        const bool hasMoreBelow = best && all[i].rows.size() > best->rows.size();
-        if (lacks[i] > least || hasMoreBelow) {
+        const bool hasMoreBelow = best && least == 0 && all[i].rows.size() > best->rows.size();
+        if (lacks[i] > (least == 0 ? 0 : least + worthATry) || hasMoreBelow) {
             continue;
         }
-        if (const double value = place(all[i]); value < bestCost) {
+        if (const double cost = place(all[i]) + lackCost * lacks[i]; cost < result.cost) {
             best = &all[i];
-            bestCost = value;
+            result = { lacks[i], cost };
         }
     }
     place(*best);
+    return result;
 }
 
 /// Puts everything where the plan wants it; gives what speaks against the result.
-double Arranger::place(Plan plan)
+double Arranger::place(const Plan &plan)
 {
     placeRows(plan.rows);
+    m_rowBoxes.clear();
+    for (const Row &row : plan.rows) {
+        for (const size_t box : row.boxes) {
+            m_rowBoxes.push_back(placeOf(m_sheet.boxes[box]));
+        }
+    }
     double value = 0;
     std::vector<QLineF> lines;
     for (const bool isLeft : { true, false }) {
@@ -355,8 +440,19 @@ double Arranger::place(Plan plan)
     return value + crossingCost * crossings(lines);
 }
 
+void Arranger::putRow(const Row &row, const QRectF &space, double bottom, double height)
+{
+    const double width = cellWidth(space.width(), row.boxes.size());
+    double left = space.left();
+    for (const size_t box : row.boxes) {
+        const double right = box == row.boxes.back() ? space.right() : left + width;
+        put(box, QRectF(left, bottom - height, right - left, height));
+        left += width + gap;
+    }
+}
+
 /// Rows stand at the foot of the space between the columns, the picture in the middle of the rest.
-void Arranger::placeRows(std::vector<Row> rows)
+void Arranger::placeRows(const std::vector<Row> &rows)
 {
     std::vector<double> heights;
     for (const Row &row : rows) {
@@ -367,14 +463,7 @@ void Arranger::placeRows(std::vector<Row> rows)
     heights = squeezed(heights, space.height() - m_picture.size.height() - gaps);
     double bottom = space.bottom();
     for (size_t i = rows.size(); i-- > 0;) {
-        const double width = cellWidth(space.width(), rows[i].boxes.size());
-        double left = space.left();
-        for (size_t cell = 0; cell < rows[i].boxes.size(); ++cell) {
-            const bool isLast = cell + 1 == rows[i].boxes.size();
-            const double right = isLast ? space.right() : left + width;
-            put(rows[i].boxes[cell], QRectF(left, bottom - heights[i], right - left, heights[i]));
-            left += width + gap;
-        }
+        putRow(rows[i], space, bottom, heights[i]);
         bottom -= heights[i] + gap;
     }
     SheetPicture &picture = m_sheet.pictures.front();
@@ -399,8 +488,7 @@ void Arranger::order(Column &column)
     std::ranges::stable_sort(column.boxes, {},
                              [this](size_t box) { return control(box).center().y(); });
     const double gaps = column.boxes.empty() ? 0 : gap * double(column.boxes.size() - 1);
-    column.heights =
-        squeezed(neededHeights(column.boxes, m_columnWidth), m_area.height() - gaps);
+    column.heights = squeezed(neededHeights(column.boxes, m_columnWidth), m_area.height() - gaps);
     stack(column);
     double best = cost(column);
     for (bool isBetter = true; isBetter;) {
@@ -432,19 +520,24 @@ std::vector<QLineF> Arranger::linesOf(const Column &column) const
 double Arranger::cost(const Column &column) const
 {
     const std::vector<QLineF> lines = linesOf(column);
-    double value = crossingCost * crossings(lines) + overControls(lines, column.boxes);
+    double value = crossingCost * crossings(lines) + overOthers(lines, column.boxes);
     for (const QLineF &line : lines) {
         value += line.length();
     }
     return value;
 }
 
-double Arranger::overControls(const std::vector<QLineF> &lines, const Indices &boxes) const
+/// For lines of a column over the controls and boxes of others.
+double Arranger::overOthers(const std::vector<QLineF> &lines, const Indices &boxes) const
 {
     double value = 0;
     for (size_t i = 0; i < lines.size(); ++i) {
         for (const size_t box : m_placed) {
-            value += box != boxes[i] && passesOver(lines[i], control(box)) ? overControlCost : 0;
+            const bool isOver = box != boxes[i] && passesOver(lines[i], middleOf(control(box)));
+            value += isOver ? overControlCost : 0;
+        }
+        for (const QRectF &box : m_rowBoxes) {
+            value += passesOver(lines[i], box) ? crossingCost : 0;
         }
     }
     return value;
@@ -453,8 +546,7 @@ double Arranger::overControls(const std::vector<QLineF> &lines, const Indices &b
 void Arranger::put(const Column &column)
 {
     for (size_t i = 0; i < column.boxes.size(); ++i) {
-        put(column.boxes[i],
-            QRectF(column.left, column.tops[i], m_columnWidth, column.heights[i]));
+        put(column.boxes[i], QRectF(column.left, column.tops[i], m_columnWidth, column.heights[i]));
     }
 }
 

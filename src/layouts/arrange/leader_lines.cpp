@@ -15,8 +15,8 @@ constexpr std::array<QStringView, 11> joystickControls = { u"HAT_0", u"HAT_1", u
                                                            u"BTN_0", u"BTN_1", u"BTN_2", u"BTN_3",
                                                            u"TRIG",  u"JOYX",  u"JOYY" };
 constexpr std::array<QStringView, 18> throttleControls = {
-    u"BTN_4",  u"BTN_5",  u"BTN_6",  u"BTN_7", u"BTN_8", u"BTN_9", u"BTN_10", u"BTN_11", u"BTN_12",
-    u"BTN_13", u"THR",    u"RDDR",   u"ANT",   u"RNG",   u"MIX",   u"MIY",    u"LBRK",   u"RBRK"
+    u"BTN_4",  u"BTN_5", u"BTN_6", u"BTN_7", u"BTN_8", u"BTN_9", u"BTN_10", u"BTN_11", u"BTN_12",
+    u"BTN_13", u"THR",   u"RDDR",  u"ANT",   u"RNG",   u"MIX",   u"MIY",    u"LBRK",   u"RBRK"
 };
 
 std::span<const QStringView> controlsOf(SheetKind kind)

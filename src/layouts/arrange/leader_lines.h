@@ -19,8 +19,8 @@ struct PictureWithControls {
     std::vector<QRectF> controls; ///< one a box; null for a box whose control is not on the picture
 };
 
-/// The controls of a sheet's boxes on a drawing that ships, or on another picture with the hot spots
-/// of its handle. The custom sheet's boxes have no controls.
+/// The controls of a sheet's boxes on a drawing that ships, or on another picture with the hot
+/// spots of its handle. The custom sheet's boxes have no controls.
 PictureWithControls controlsOn(SheetKind kind, const Drawing &drawing);
 PictureWithControls controlsOn(SheetKind kind, const QSize &picture, const QList<HotSpot> &spots);
 

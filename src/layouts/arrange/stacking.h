@@ -13,9 +13,9 @@ namespace zeph {
 /// stay.
 std::vector<double> squeezed(std::vector<double> heights, double room);
 
-/// Tops of boxes in this order, with at least a gap between them and all within the room from top to
-/// bottom, where they fit; the sum of the squares of their middles' distances from the wanted ones
-/// is the least.
+/// Tops of boxes in this order, with at least a gap between them and all within the room from top
+/// to bottom, where they fit; the sum of the squares of their middles' distances from the wanted
+/// ones is the least.
 std::vector<double> stacked(const std::vector<double> &heights,
                             const std::vector<double> &wantedMiddles, double gap, double top,
                             double bottom);

@@ -69,8 +69,7 @@ std::vector<BoxRun> runsOf(const QTextBlock &block, const QTextLine &line, const
                 ++to;
             }
             const double left = line.cursorToX(from);
-            runs.push_back(
-                { text.mid(from, to - from), left, line.cursorToX(to) - left, format });
+            runs.push_back({ text.mid(from, to - from), left, line.cursorToX(to) - left, format });
             from = to;
         }
     }
@@ -135,15 +134,14 @@ double BoxText::neededHeight() const
     return textHeight() + 2 * boxPadding;
 }
 
-double BoxText::unbrokenWidth() const
+double BoxText::unbrokenWidth()
 {
-    double width = 0;
-    (void)textHeight();
-    for (QTextBlock block = m_document->begin(); block.isValid(); block = block.next()) {
-        width = std::max(width, block.layout()->maximumWidth() + block.blockFormat().leftMargin()
-                             + (block.textList() ? bulletIndentPixels : 0));
-    }
-    return std::ceil(width) + 1 + 2 * boxPadding;
+    const double width = m_document->textWidth();
+    m_document->setTextWidth(-1);
+    const double ideal = m_document->idealWidth();
+    m_document->setTextWidth(width);
+    // A line of exactly its own width may be broken after a rounding.
+    return std::ceil(ideal) + 1 + 2 * boxPadding;
 }
 
 bool BoxText::fits(double boxHeight) const

@@ -58,7 +58,7 @@ public:
     /// The height of a box that holds all of the text.
     double neededHeight() const;
     /// The width of a box in which no line is broken.
-    double unbrokenWidth() const;
+    double unbrokenWidth();
     bool fits(double boxHeight) const;
     /// The height of the lines that a box holds whole: all of them, or fewer, at least one.
     double heldHeight(double boxHeight) const;

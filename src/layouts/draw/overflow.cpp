@@ -59,16 +59,19 @@ RichText fittedText(const LayoutTextBox &box, const CharFormat &plain)
     if (box.text.text.isEmpty() || holds(box, box.text, plain)) {
         return box.text;
     }
+    RichText least = cappedAt(box.text, leastFitPoints, plain);
+    if (!holds(box, least, plain)) {
+        return least;
+    }
     // From the next half point below the largest character down.
-    double points =
-        std::ceil(largestSize(box.text, plain) / fitStepPoints - 1) * fitStepPoints;
+    double points = std::ceil(largestSize(box.text, plain) / fitStepPoints - 1) * fitStepPoints;
     for (; points > leastFitPoints; points -= fitStepPoints) {
         RichText smaller = cappedAt(box.text, points, plain);
         if (holds(box, smaller, plain)) {
             return smaller;
         }
     }
-    return cappedAt(box.text, leastFitPoints, plain);
+    return least;
 }
 
 void fitAllTexts(Sheet &sheet, const CharFormat &plain)

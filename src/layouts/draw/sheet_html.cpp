@@ -63,9 +63,8 @@ void writeLine(QXmlStreamWriter &xml, const BoxLine &line)
     for (const BoxRun &run : line.runs) {
         xml.writeStartElement(u"span"_s);
         xml.writeAttribute(u"style"_s,
-                           run.text == u"\t"
-                               ? u"display:inline-block;width:"_s + pixels(run.width)
-                               : styleOf(run) + u";line-height:inherit"_s);
+                           run.text == u"\t" ? u"display:inline-block;width:"_s + pixels(run.width)
+                                             : styleOf(run) + u";line-height:inherit"_s);
         xml.writeCharacters(xmlText(run.text));
         xml.writeEndElement();
     }
@@ -75,9 +74,10 @@ void writeLine(QXmlStreamWriter &xml, const BoxLine &line)
 void writeBox(QXmlStreamWriter &xml, const QRectF &box, const BoxText &text, bool isMarked)
 {
     xml.writeAttribute(u"class"_s, isMarked ? u"box over"_s : u"box"_s);
-    xml.writeAttribute(u"style"_s, u"left:%1;top:%2;width:%3;height:%4"_s.arg(
-                                       pixels(box.left()), pixels(box.top()), pixels(box.width()),
-                                       pixels(box.height())));
+    xml.writeAttribute(
+        u"style"_s,
+        u"left:%1;top:%2;width:%3;height:%4"_s.arg(pixels(box.left()), pixels(box.top()),
+                                                   pixels(box.width()), pixels(box.height())));
     bool isOpen = false;
     for (const BoxLine &line : text.lines()) {
         if (!isOpen) {

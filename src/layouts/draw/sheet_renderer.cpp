@@ -22,8 +22,9 @@ void drawPictures(QPainter &painter, const Sheet &sheet, const SheetLook &look)
     for (size_t i = 0; i < count; ++i) {
         const SheetPicture &picture = sheet.pictures[i];
         if (picture.Visible) {
-            look.pictures[i].draw(painter, QRectF(QPointF(picture.Left, picture.Top),
-                                                  QSizeF(look.pictures[i].size())));
+            look.pictures[i].draw(
+                painter,
+                QRectF(QPointF(picture.Left, picture.Top), QSizeF(look.pictures[i].size())));
         }
     }
 }
@@ -51,13 +52,12 @@ void drawLeaderLines(QPainter &painter, const std::vector<QLineF> &lines)
 
 void drawFrame(QPainter &painter, const QRectF &box, bool isWhite)
 {
-    painter.setPen(QPen(toColor(frameColour), frameWidth, Qt::SolidLine, Qt::FlatCap,
-                        Qt::MiterJoin));
+    painter.setPen(
+        QPen(toColor(frameColour), frameWidth, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin));
     painter.setBrush(isWhite ? QBrush(Qt::white) : QBrush(Qt::NoBrush));
-    painter.drawRect(box.adjusted(frameWidth / 2, frameWidth / 2, -frameWidth / 2,
-                                  -frameWidth / 2));
-    painter.fillRect(QRectF(box.topLeft(), QSizeF(box.width(), topRuleWidth)),
-                     toColor(ruleColour));
+    painter.drawRect(
+        box.adjusted(frameWidth / 2, frameWidth / 2, -frameWidth / 2, -frameWidth / 2));
+    painter.fillRect(QRectF(box.topLeft(), QSizeF(box.width(), topRuleWidth)), toColor(ruleColour));
 }
 
 } // namespace

@@ -87,8 +87,8 @@ void writePictures(QXmlStreamWriter &xml, const Sheet &sheet, const SheetLook &l
         picture.image().save(&bytes, "PNG");
         xml.writeEmptyElement(u"image"_s);
         writePlace(xml, place);
-        xml.writeAttribute(u"href"_s, u"data:image/png;base64,"_s
-                                          + QString::fromLatin1(bytes.data().toBase64()));
+        xml.writeAttribute(
+            u"href"_s, u"data:image/png;base64,"_s + QString::fromLatin1(bytes.data().toBase64()));
     }
 }
 

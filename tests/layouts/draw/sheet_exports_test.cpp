@@ -53,8 +53,7 @@ struct PlacedWord {
 /// The words of a PDF of one page; the sheet is in its middle.
 QList<PlacedWord> wordsOfPdf(const QString &path, const Sheet &sheet)
 {
-    static const QRegularExpression page(
-        u"<page width=\"([0-9.]+)\" height=\"([0-9.]+)\">"_s);
+    static const QRegularExpression page(u"<page width=\"([0-9.]+)\" height=\"([0-9.]+)\">"_s);
     static const QRegularExpression word(
         u"<word xMin=\"([0-9.]+)\" yMin=\"([0-9.]+)\" xMax=\"([0-9.]+)\" yMax=\"([0-9.]+)\">([^<]*)<"_s);
     constexpr double pixels = 96.0 / 72;
@@ -114,13 +113,14 @@ double likeness(const QImage &picture, const QImage &other, const QPoint &offset
 {
     int points = 0;
     int alike = 0;
-    for (int y = 4; y < picture.height() - 4; y += 3) {
-        for (int x = 4; x < picture.width() - 4; x += 3) {
+    for (int y = 4; y < picture.height() - 4; y += 5) {
+        for (int x = 4; x < picture.width() - 4; x += 5) {
             const QRgb colour = picture.pixel(x, y);
             bool isEven = qGray(colour) < 235;
             for (int i = 0; i < 25 && isEven; ++i) {
                 const QRgb near = picture.pixel(x + i % 5 - 2, y + i / 5 - 2);
-                isEven = std::abs(qRed(near) - qRed(colour)) + std::abs(qGreen(near) - qGreen(colour))
+                isEven = std::abs(qRed(near) - qRed(colour))
+                        + std::abs(qGreen(near) - qGreen(colour))
                         + std::abs(qBlue(near) - qBlue(colour))
                     < 12;
             }
@@ -134,7 +134,7 @@ double likeness(const QImage &picture, const QImage &other, const QPoint &offset
                 && std::abs(there.blue() - qBlue(colour)) < 24;
         }
     }
-    EXPECT_GT(points, 2000);
+    EXPECT_GT(points, 1000);
     return double(alike) / points;
 }
 
@@ -183,8 +183,7 @@ TEST_F(SheetExports, ThePdfHasAllTextsOnOnePageEachInItsBox)
 TEST_F(SheetExports, ThePdfsFontsAreEmbedded)
 {
     const auto [sheet, look] = first(SheetKind::Joystick, sampleText());
-    const QString fonts =
-        QString::fromUtf8(run(u"pdffonts"_s, { pdfFile(sheet, look) }));
+    const QString fonts = QString::fromUtf8(run(u"pdffonts"_s, { pdfFile(sheet, look) }));
     const QStringList lines = fonts.split(u'\n', Qt::SkipEmptyParts).mid(2);
     EXPECT_FALSE(lines.isEmpty());
     for (const QString &line : lines) {
@@ -200,8 +199,7 @@ TEST_F(SheetExports, TheUsualSheetIsOnA4AndALargerOneOnPaperOfItsSize)
     const auto pageSize = [&] {
         const QString info = QString::fromUtf8(run(u"pdfinfo"_s, { pdfFile(sheet, look) }));
         EXPECT_TRUE(info.contains(QRegularExpression(u"Pages: +1\n"_s)));
-        const auto hit =
-            QRegularExpression(u"Page size: +([0-9.]+) x ([0-9.]+) pts"_s).match(info);
+        const auto hit = QRegularExpression(u"Page size: +([0-9.]+) x ([0-9.]+) pts"_s).match(info);
         return QSize(qRound(hit.captured(1).toDouble()), qRound(hit.captured(2).toDouble()));
     };
     EXPECT_EQ(pageSize(), QSize(842, 595));
@@ -252,8 +250,8 @@ TEST_F(SheetExports, TheWebPageHasAllTextsAndNeedsNoOtherFile)
         EXPECT_TRUE(text.contains(u"<title>Sample &lt;flight&gt; &amp; "));
         static const QRegularExpression other(u"(src|href)=\"(?!data:)|url\\((?!#)|@import"_s);
         EXPECT_FALSE(text.contains(other)) << other.match(text).captured().toStdString();
-        static const QRegularExpression family(u"font:[^;\"]*(&quot;|')?[^;]*sans-serif"_s);
-        EXPECT_TRUE(text.contains(family));
+        EXPECT_EQ(text.count(u"style=\"font:"), text.count(u"sans-serif;color:"));
+        EXPECT_GT(text.count(u"sans-serif;color:"), 50);
     }
 }
 
@@ -295,8 +293,9 @@ TEST_F(SheetExports, ColoursAreThoseOfThePng)
         const QImage png = QImage::fromData(*pngOf(sheet, look, scale), "PNG");
 
         const QString pdf = pdfFile(sheet, look);
-        run(u"pdftoppm"_s, { u"-png"_s, u"-singlefile"_s, u"-r"_s, QString::number(96 * scale), pdf,
-                             pdf.chopped(4) });
+        run(u"pdftoppm"_s,
+            { u"-png"_s, u"-singlefile"_s, u"-r"_s, QString::number(96 * scale), pdf,
+              pdf.chopped(4) });
         const QImage page(pdf.chopped(4) + u".png"_s);
         const QSize margin = (page.size() - png.size()) / 2;
         EXPECT_GT(likeness(png, page, QPoint(margin.width(), margin.height())), 0.97);

@@ -37,11 +37,11 @@ inline QString sampleText()
 /// A file of so many lines in which every control of both sheets has a statement.
 inline QString longFileText(int lines, quint32 seed = 1)
 {
-    static const QStringList controls = {
-        u"S1"_s,  u"S2"_s,  u"S3"_s,  u"S4"_s,  u"TG1"_s, u"TG2"_s, u"H1U"_s, u"H1L"_s, u"H2U"_s,
-        u"H2D"_s, u"H3M"_s, u"H4R"_s, u"H4L"_s, u"T1"_s,  u"T2"_s,  u"T3"_s,  u"T4"_s,  u"T5"_s,
-        u"T6"_s,  u"T7"_s,  u"T8"_s,  u"T9"_s,  u"T10"_s
-    };
+    static const QStringList controls = { u"S1"_s,  u"S2"_s,  u"S3"_s,  u"S4"_s,  u"TG1"_s,
+                                          u"TG2"_s, u"H1U"_s, u"H1L"_s, u"H2U"_s, u"H2D"_s,
+                                          u"H3M"_s, u"H4R"_s, u"H4L"_s, u"T1"_s,  u"T2"_s,
+                                          u"T3"_s,  u"T4"_s,  u"T5"_s,  u"T6"_s,  u"T7"_s,
+                                          u"T8"_s,  u"T9"_s,  u"T10"_s };
     static const QStringList axes = { u"JOYX"_s, u"JOYY"_s, u"THR"_s, u"RDDR"_s, u"ANT"_s,
                                       u"RNG"_s,  u"MIX"_s,  u"MIY"_s, u"LBRK"_s, u"RBRK"_s };
     QRandomGenerator random(seed);
@@ -89,8 +89,8 @@ public:
                                    QDateTime(QDate(2024, 3, 5), QTime(9, 7)) };
         std::vector<RichText> result;
         for (const QString &text : AnalyseJoystickFile(kind, *AnalyseAndExtract(file), caption)) {
-            result.push_back(ApplyColours(kind, RichText::plain(text, sheetFont()),
-                                          { colours, sheetFont() }));
+            result.push_back(
+                ApplyColours(kind, RichText::plain(text, sheetFont()), { colours, sheetFont() }));
         }
         return result;
     }

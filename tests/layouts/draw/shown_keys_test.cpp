@@ -96,8 +96,7 @@ TEST(ShownKeys, KeysLookLikeTheNames)
 {
     RichText text = RichText::plain(u"/U Program next"_s);
     text.change(3, 7, [](CharFormat &format) { format.colour = 0x0000FF; });
-    const RichText result =
-        keysOf(u"Program = RPT(4) x\n").shown(text, MacroNames::Keys);
+    const RichText result = keysOf(u"Program = RPT(4) x\n").shown(text, MacroNames::Keys);
     EXPECT_EQ(result.text, u"/U RPT(4) x next");
     EXPECT_FALSE(result.formatAt(2).colour);
     EXPECT_EQ(result.formatAt(3).colour, 0x0000FFU);
