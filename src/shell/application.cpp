@@ -18,6 +18,7 @@
 #include "editor/macros/macro_features.h"
 #include "lists/user_lists.h"
 #include "livetools/live_tools.h"
+#include "livetools/pictures/viewimage.h"
 #include "menus/menu_actions.h"
 #include "platform/dialogs.h"
 #include "platform/system_info.h"
@@ -262,6 +263,7 @@ void Application::addToolWindows()
     m_templateGuard = new TemplateGuard(context(), windows, m_mum.get());
     const ToolEntries tools{ m_editor->actions(), windows };
     addLiveTools(tools, context(), m_tools->modes());
+    addPictures(tools);
     addTemplateTools(tools, context(), m_options.printers, m_editor->macros().list().table());
     windows.whenLoaded<TemplateForm>(m_mum.get(), [this](TemplateForm &form) {
         QObject::connect(
@@ -286,6 +288,21 @@ void Application::addToolWindows()
     });
     m_editor->actions().connectTo(u"mnuAppsViewReadMe", [this, &windows] {
         windows.open<TemplateForm>()->OpenReadMe(m_editor->useDirectives().textFilePath());
+    });
+}
+
+void Application::addPictures(const ToolEntries &tools)
+{
+    addImageViewer(tools, context(), m_options.printers);
+    tools.windows.whenLoaded<ViewImage>(m_mum.get(), [this](ViewImage &viewer) {
+        QObject::connect(
+            &viewer, &ViewImage::helpWanted, m_help,
+            guarded(m_options.dialogs, [this](int topic) { m_help->showTopic(topic); }));
+    });
+    m_editor->actions().connectTo(u"mnuAppsViewGraphic", [this] {
+        // The viewer may have opened another picture since the file was opened.
+        m_settings.of<SharedSettings>().ImageFilePath = m_editor->useDirectives().imageFilePath();
+        m_editor->action(u"mnuAppsImageViewer")->trigger();
     });
 }
 

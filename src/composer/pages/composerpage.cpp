@@ -29,6 +29,9 @@ namespace {
 constexpr ControlMenuNames controlMenus{ u"mnuHatPos", u"MnuHatPostion", u"MnuHatCornerPostion",
                                          u"mnuTrigger", u"mnuTriggerStage" };
 
+/// Of what the file has on a control. A tool tip shows the rest.
+constexpr int leastLinesTold = 2;
+
 constexpr int usualDelay = 60;
 constexpr int usualBlanks = 5;
 
@@ -62,7 +65,18 @@ ComposerFirstPage::ComposerFirstPage(const ComposerParts &parts, QWidget *parent
     bind(m_ui->CheckMacroAddCR, settings.COMPaddCR);
     bind(m_ui->CheckCopyTicks, settings.COMPMacrosTickedCopy);
     m_ui->Text1_8->setText(QString::number(settings.NumberOfBlanks));
+<<<<<<< HEAD
     m_ui->LabelControl->setMinimumHeight(m_ui->LabelControl->fontMetrics().lineSpacing() * 4);
+=======
+    m_ui->LabelControl->setMinimumHeight(m_ui->LabelControl->fontMetrics().lineSpacing()
+                                         * leastLinesTold);
+    GetHandles();
+    if (const auto shown =
+            m_ui->Picture1_1->showDrawing(parts.context.paths.appFolder, throttle.toString());
+        !shown) {
+        parts.context.status.setText(u" Throttle.bmp can't be shown: "_s + shown.error().reason);
+    }
+>>>>>>> main
 }
 
 ComposerFirstPage::~ComposerFirstPage() = default;
@@ -135,6 +149,9 @@ void ComposerFirstPage::connectButtons()
     follow();
     connect(m_ui->DLYText_0, &QLineEdit::editingFinished, this,
             &ComposerFirstPage::DLYText_LostFocus);
+    showWhenEdited(m_ui->DLYText_0, &ComposerFirstPage::delay);
+    showWhenEdited(m_ui->DLYText_1, &ComposerFirstPage::repeat);
+    showWhenEdited(m_ui->RemTextBox, &ComposerFirstPage::remark);
     connect(m_ui->RemTextBox, &QLineEdit::returnPressed, m_ui->CommandREM, &QPushButton::click);
     connect(m_ui->Text1_8, &QLineEdit::textEdited, this, [this](const QString &text) {
         if (wholeOf(text) >= 1) {
@@ -158,16 +175,162 @@ void ComposerFirstPage::connectMacros()
 
 void ComposerFirstPage::GetHandles()
 {
+<<<<<<< HEAD
     m_pictures->GetHandles();
+=======
+    const HandleList handles =
+        listHandles(ProfileFile(m_parts.context.paths.iniPath), m_parts.context.paths.appFolder);
+    {
+        const QSignalBlocker loadingHandle(m_ui->ComboJoystickHandle);
+        m_ui->ComboJoystickHandle->clear();
+        m_ui->ComboJoystickHandle->addItems(handles.names);
+        m_ui->ComboJoystickHandle->setCurrentText(handles.chosen);
+    }
+    if (const auto shown = showHandle(handles.chosen); !shown) {
+        m_parts.context.status.setText(u' ' + shown.error());
+    }
+}
+
+Expected<void, QString> ComposerFirstPage::showHandle(const QString &name)
+{
+    const QString &folder = m_parts.context.paths.appFolder;
+    const auto handle = loadHandleFile(handlePath(folder, name));
+    if (!handle) {
+        m_triggerHasStages = true;
+        // Its picture may be missing as well; its hot spots never are.
+        (void)m_ui->Picture1_0->showDrawing(folder, shippedHandle.toString());
+        return Unexpected<QString>(
+            u"The handle %1 can't be shown: %2"_s.arg(name).arg(handle.error().reason));
+    }
+    m_triggerHasStages = handle->triggerHasStages;
+    if (const auto shown = m_ui->Picture1_0->showHandle(folder, *handle); !shown) {
+        return Unexpected<QString>(
+            u"%1 can't be shown: %2"_s.arg(handle->picture).arg(shown.error().reason));
+    }
+    return {};
+}
+
+void ComposerFirstPage::ChangeHandle()
+{
+    const QString name = m_ui->ComboJoystickHandle->currentText();
+    const auto kept = SaveHandle(ProfileFile(m_parts.context.paths.iniPath), name);
+    if (!kept) {
+        tellNotKept(m_parts.context.status, kept.error());
+    }
+    if (const auto shown = showHandle(name); !shown) {
+        m_parts.context.dialogs.tell(u"No such handle"_s, shown.error(), BoxIcon::Exclamation);
+    }
+}
+
+void ComposerFirstPage::clicked(const ControlsPicture &picture, const QString &id)
+{
+    m_parts.documents.select(DocumentKind::Joystick);
+    const QStringList controls = offeredControls(id, m_triggerHasStages);
+    if (controls.size() == 1) {
+        insertControl(controls.first());
+        return;
+    }
+    QMenu *menu = id == u"TRIG" ? mnuTrigger : mnuHatPos;
+    qsizetype next = 0;
+    for (QAction *entry : menu->actions()) {
+        if (!entry->isSeparator() && next < controls.size()) {
+            entry->setText(controls[next++]);
+        }
+    }
+    const QWidget *spot = picture.spot(id);
+    menu->popup(spot ? spot->mapToGlobal(spot->rect().bottomLeft()) : QCursor::pos());
+}
+
+void ComposerFirstPage::tell(ControlsPicture &picture, const QString &id)
+{
+    const QString text = m_parts.documents.joystick().text();
+    const QStringList controls = offeredControls(id, m_triggerHasStages);
+    QStringList told;
+    for (const QString &control : controls) {
+        if (findControl(text, buttonStatement(control))) {
+            told.append(toldOf(text, control));
+        }
+    }
+    const QString shown = id.isEmpty() ? QString()
+        : told.isEmpty()               ? spokenName(id) + u": nothing yet"_s
+                                       : told.join(u'\n');
+    m_ui->LabelControl->setText(shown);
+    if (QAbstractButton *spot = picture.spot(id)) {
+        spot->setToolTip(Qt::convertFromPlainText(shown));
+        spot->setAccessibleDescription(shown);
+    }
+    m_told = { &picture, id };
+    m_pointed = controls.size() == 1 && told.isEmpty() ? controls.first() : QString();
+    Q_EMIT changed();
+>>>>>>> main
 }
 
 std::optional<Generated> ComposerFirstPage::current() const
 {
+<<<<<<< HEAD
     const QString &pointed = m_pictures->pointed();
     if (pointed.isEmpty()) {
         return {};
     }
     return plainStatement(buttonStatement(pointed), true);
+=======
+    if (!m_pointed.isEmpty()) {
+        return plainStatement(buttonStatement(m_pointed), true);
+    }
+    return m_edited ? std::optional((this->*m_edited)()) : std::nullopt;
+}
+
+Generated ComposerFirstPage::delay() const
+{
+    return plainStatement(u"DLY("_s + m_ui->DLYText_0->text() + u") "_s, false);
+}
+
+Generated ComposerFirstPage::repeat() const
+{
+    return plainStatement(u"RPT("_s + m_ui->DLYText_1->text() + u") "_s, false);
+}
+
+Generated ComposerFirstPage::remark() const
+{
+    const ColorRef colour = m_parts.context.settings.of<ColourSettings>().RemStatements;
+    return Statement{ { { remAndBlank.toString() + m_ui->RemTextBox->text() + u' ', colour } } };
+}
+
+void ComposerFirstPage::showWhenEdited(QLineEdit *box, Fragment fragment)
+{
+    connect(box, &QLineEdit::textEdited, this, [this, fragment] {
+        m_edited = fragment;
+        Q_EMIT changed();
+    });
+}
+
+void ComposerFirstPage::insertControl(const QString &control)
+{
+    const QString statement = buttonStatement(control);
+    m_parts.documents.select(DocumentKind::Joystick);
+    if (!goToStatement(statement)) {
+        m_parts.inserter.insertFragment(statement,
+                                        m_parts.context.settings.of<ColourSettings>().BTNColour);
+    }
+    if (m_told.picture) {
+        tell(*m_told.picture, m_told.id);
+    }
+}
+
+bool ComposerFirstPage::goToStatement(const QString &statement)
+{
+    if (m_parts.context.settings.of<ComposerSettings>().AlwaysInsert) {
+        return false;
+    }
+    Document &joystick = m_parts.documents.joystick();
+    const auto found = findControl(joystick.text(), statement);
+    if (found) {
+        joystick.select(int(found->start + found->length), 0);
+        m_parts.context.status.setLine(joystick.caretLine());
+        m_parts.editor.ResetFocusToEditor();
+    }
+    return found.has_value();
+>>>>>>> main
 }
 
 void ComposerFirstPage::SlashButton_Click(int index)
@@ -193,9 +356,7 @@ void ComposerFirstPage::DlyRptButtons_Click(int index)
 {
     // A mnemonic runs the button while the box still has the focus.
     DLYText_LostFocus();
-    m_parts.inserter.insertIntoSelected(
-        index == 0 ? plainStatement(u"DLY("_s + m_ui->DLYText_0->text() + u") "_s, false)
-                   : plainStatement(u"RPT("_s + m_ui->DLYText_1->text() + u") "_s, false));
+    m_parts.inserter.insertIntoSelected(index == 0 ? delay() : repeat());
 }
 
 void ComposerFirstPage::Command7_Click(int index)
@@ -206,7 +367,7 @@ void ComposerFirstPage::Command7_Click(int index)
 
 void ComposerFirstPage::CommandREM_Click()
 {
-    m_parts.inserter.insertFragment(remAndBlank.toString() + m_ui->RemTextBox->text() + u' ',
+    m_parts.inserter.insertFragment(remark()->text(),
                                     m_parts.context.settings.of<ColourSettings>().RemStatements);
 }
 

@@ -9,6 +9,7 @@
 #include "documents/document_settings.h"
 #include "editor/editor_settings.h"
 #include "livetools/key_tester_settings.h"
+#include "livetools/pictures/image_viewer_settings.h"
 #include "menus/menu_settings.h"
 #include "platform/core/text1252.h"
 #include "settings/colour_settings.h"
@@ -41,7 +42,7 @@ void addAllSettings(Settings &settings)
 {
     addAll<SharedSettings, ColourSettings, MenuSettings, DocumentSettings, EditorSettings,
            ShellSettings, ComposerSettings, TemplateSettings, ToolchainSettings, DefaultOptions,
-           KeyTesterSettings, LogicFlagsSettings, TumboSettings>(settings);
+           KeyTesterSettings, ImageViewerSettings, LogicFlagsSettings, TumboSettings>(settings);
 }
 
 bool isSetUp(const SettingsFiles &files)

@@ -9,6 +9,7 @@
 #include "platform/richtext/rich_text_box.h"
 #include "tests/support/composer_world.h"
 #include "tests/support/fixture.h"
+#include "tests/support/soon.h"
 
 #include <QComboBox>
 #include <QLabel>
@@ -185,17 +186,26 @@ TEST_F(FirstPage, AHotSpotTellsItsNameAndWhatTheFileHasOnIt)
     EXPECT_EQ(control<QLabel>(u"LabelControl"_s).text(), u"H1L:\nBTN H1L c"_s);
 }
 
+TEST_F(FirstPage, AStatementThatWasJustInsertedIsToldAtOnce)
+{
+    QEnterEvent entered(QPointF(1, 1), QPointF(1, 1), QPointF(1, 1));
+    QApplication::sendEvent(&control<QWidget>(u"BTN_1"_s), &entered);
+    EXPECT_EQ(control<QLabel>(u"LabelControl"_s).text(), u"Button S2: nothing yet"_s);
+    click(u"BTN_1"_s);
+    EXPECT_EQ(control<QLabel>(u"LabelControl"_s).text(), u"S2:\nBTN S2 "_s);
+}
+
 TEST_F(FirstPage, TheControlThatIsPointedAtIsShownAsItWouldGoIn)
 {
     setJoystick(u"BTN T1 a\n"_s);
     QEnterEvent entered(QPointF(1, 1), QPointF(1, 1), QPointF(1, 1));
     QApplication::sendEvent(&control<QWidget>(u"BTN_0"_s), &entered);
     auto &preview = control<RichTextBox>(u"PreviewText"_s);
-    QTRY_COMPARE(preview.toPlainText(), u"BTN S1 "_s);
+    EXPECT_SOON_EQ(preview.toPlainText(), u"BTN S1 "_s);
     EXPECT_EQ(control<QLabel>(u"LabelLanding"_s).text(), u"Goes into line 2 of Untitled.tmj"_s);
     QEvent left(QEvent::Leave);
     QApplication::sendEvent(&control<QWidget>(u"BTN_0"_s), &left);
-    QTRY_COMPARE(preview.toPlainText(), QString());
+    EXPECT_SOON_EQ(preview.toPlainText(), QString());
     // T1 has a statement, to which a click goes.
     QApplication::sendEvent(&control<QWidget>(u"BTN_4"_s), &entered);
     QTest::qWait(200);
@@ -406,6 +416,23 @@ TEST_F(FirstPage, AFreshMacroFileEmptiesTheList)
     EXPECT_EQ(listed(), QStringList());
 }
 
+TEST_F(FirstPage, AnEmptyListTellsWhereMacrosComeFrom)
+{
+    const auto painted = [this] {
+        return mirror().list()->viewport()->grab().toImage();
+    };
+    const QImage empty = painted();
+    QImage blank(empty.size(), empty.format());
+    blank.setDevicePixelRatio(empty.devicePixelRatio());
+    blank.fill(mirror().list()->palette().base().color());
+    EXPECT_NE(empty, blank);
+    openMacros(macros);
+    QCoreApplication::processEvents();
+    // Below the entries there is nothing.
+    const QRect foot(0, painted().height() - 40, painted().width(), 40);
+    EXPECT_EQ(painted().copy(foot), blank.copy(foot));
+}
+
 TEST_F(FirstPage, ADoubleClickAtTheTextsStartInsertsNoBlankBefore)
 {
     openMacros(macros);
@@ -431,6 +458,34 @@ TEST_F(FirstPage, ADoubleClickAfterABlankInsertsNoSecondOne)
     setJoystick(u"BTN S1 a"_s);
     doubleClick(u"Fire"_s);
     EXPECT_EQ(joystick().text(), u"BTN S1 a Fire "_s);
+}
+
+TEST_F(FirstPage, ADoubleClickInALinesMiddleKeepsTheNameApart)
+{
+    openMacros(macros);
+    QCoreApplication::processEvents();
+    options().COMPaddCR = false;
+    setJoystick(u"BTN S1 abc"_s, 8);
+    doubleClick(u"Fire"_s);
+    EXPECT_EQ(joystick().text(), u"BTN S1 a Fire bc"_s);
+    EXPECT_EQ(joystick().selStart(), 14);
+    expectOneStepFrom(joystick(), u"BTN S1 abc"_s);
+}
+
+TEST_F(FirstPage, ADoubleClickGoesIntoTheSelectedMacroFile)
+{
+    openMacros(macros);
+    QCoreApplication::processEvents();
+    options().COMPaddCR = false;
+    setJoystick(u"BTN S1 "_s);
+    const QString before = macro().text();
+    editor->documents().select(DocumentKind::Macro);
+    macro().select(macro().length(), 0);
+    doubleClick(u"Fire"_s);
+    // A line end is no blank.
+    EXPECT_EQ(macro().text(), before + u" Fire "_s);
+    EXPECT_EQ(joystick().text(), u"BTN S1 "_s);
+    expectOneStepFrom(macro(), before);
 }
 
 TEST_F(FirstPage, ADoubleClickReplacesTheSelection)
