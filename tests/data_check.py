@@ -300,6 +300,7 @@ def main():
     help_folder = data / "Help"
     trees = pages(help_folder)
     check_pages(help_folder, trees)
+    check_pages(data / "Wizards", pages(data / "Wizards"))
     check_phrases(help_folder, trees)
     check_lessons(data / "Wizards")
     check_topics(help_folder, trees)

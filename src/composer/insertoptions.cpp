@@ -171,29 +171,6 @@ void InsertOptions::makeKeys()
     add(QKeyCombination(Qt::CTRL | Qt::SHIFT, Qt::Key_Tab), [this] { turnPage(-1); });
 }
 
-<<<<<<< HEAD
-=======
-void InsertOptions::runKey(const ComposerKey &key)
-{
-    if (key.inTextBox != QKeySequence::UnknownKey && editTextBox(focusWidget(), key.inTextBox)) {
-        return;
-    }
-    QAction *entry = m_editor.action(key.entry);
-    if (!entry->isEnabled()) {
-        m_context.status.setText(u" %1 can't be used now"_s.arg(entry->text().remove(u'&')));
-        return;
-    }
-    entry->trigger();
-}
-
-void InsertOptions::returnToEditor()
-{
-    if (parentWidget()) {
-        ToolWindows::raise(*parentWidget()->window());
-    }
-    m_editor.ResetFocusToEditor();
-}
-
 void InsertOptions::reachAfterTabs(const ComposerPage &made)
 {
     // Tab would reach a new page after the buttons below all pages.
@@ -218,7 +195,6 @@ void InsertOptions::reachAfterTabs(const ComposerPage &made)
     }
 }
 
->>>>>>> main
 void InsertOptions::bindLineEndBoxes(ComposerPage &made)
 {
     static const QRegularExpression name(u"^CheckMultiAddCR_\\d$"_s);

@@ -15,11 +15,7 @@ namespace zeph {
 
 class ComposerFirstPage;
 class StatementPreview;
-<<<<<<< HEAD
-=======
-struct ComposerKey;
 struct ReadStatement;
->>>>>>> main
 
 namespace Ui {
 class InsertOptions;
@@ -85,11 +81,7 @@ private:
     void reachAfterTabs(const ComposerPage &page);
     void showAddsLineEnd();
     void readStatement();
-<<<<<<< HEAD
-=======
     bool readInto(Page page, const ReadStatement &read);
-    void returnToEditor();
->>>>>>> main
     void activated();
     void Command6_Click();
     void CommandHelp_Click();

@@ -31,6 +31,7 @@
 #include "shell/first_run.h"
 #include "shell/help_menu.h"
 #include "shell/main_scene.h"
+#include "shell/mouse_tools.h"
 #include "shell/mum.h"
 #include "shell/preferences_menu.h"
 #include "shell/settings/shell_settings.h"
@@ -279,6 +280,8 @@ void Application::addToolWindows()
     QObject::connect(
         composer, &ComposerTools::keywordWanted, m_help,
         guarded(m_options.dialogs, [this](const QString &word) { m_help->showKeyword(word); }));
+    // The Editor owns it.
+    (void)new MouseTools(context(), windows, *m_editor, *composer);
     auto *wizards = new WizardTools(context(), windows, *m_editor, *composer);
     QObject::connect(wizards, &WizardTools::helpWanted, m_help,
                      guarded(m_options.dialogs, [this](int topic) { m_help->showTopic(topic); }));
