@@ -11,6 +11,7 @@
 #include "lists/favourites_menu.h"
 #include "lists/user_lists.h"
 #include "livetools/keytestform.h"
+#include "livetools/pictures/viewimage.h"
 #include "preferences/preferences.h"
 #include "print/printpreview.h"
 #include "shell/frmabout.h"
@@ -181,6 +182,14 @@ const LintCase cases[] = {
     { "KeyTestForm",
       [](auto &w) { return std::make_unique<KeyTestForm>(w.context(), KeyTestEntries()); },
       ShowsEscape },
+    { "ViewImage",
+      [](auto &w) {
+          auto *entry = new QAction;
+          auto window =
+              std::make_unique<ViewImage>(w.context(), w.printers, PictureEntries{ entry, entry });
+          entry->setParent(window.get());
+          return window;
+      } },
     { "Heading",
       [](auto &) {
           return std::make_unique<Heading>(QStringList{ u"Guns"_s });
