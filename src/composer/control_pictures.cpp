@@ -62,9 +62,9 @@ void ControlPictures::makeMenus(const ControlMenuNames &names, QWidget *window)
     const auto add = [this](QMenu *to, QStringView name, int index, const QString &caption) {
         QAction *entry = to->addAction(caption);
         entry->setObjectName(name.toString() + u'_' + QString::number(index));
-        connect(entry, &QAction::triggered, this, guarded(m_parts.context.dialogs, [this, entry](bool) {
-                    insertControl(entry->text());
-                }));
+        connect(entry, &QAction::triggered, this,
+                guarded(m_parts.context.dialogs,
+                        [this, entry](bool) { insertControl(entry->text()); }));
     };
     m_hatMenu = menu(names.hatMenu);
     const QStringList ways = offeredControls(u"HAT_0", true);

@@ -15,11 +15,7 @@ namespace zeph {
 
 class ComposerFirstPage;
 class StatementPreview;
-<<<<<<< HEAD
-=======
-struct ComposerKey;
 struct ReadStatement;
->>>>>>> main
 
 namespace Ui {
 class InsertOptions;
@@ -78,16 +74,14 @@ private:
     void makeKeys();
     void turnPage(int step);
     void enterPage(int index);
+    /// Puts the windows that teach the page's subject on the button CommandShowMeHow.
+    void offerLessons(int page);
     void bindLineEndBoxes(ComposerPage &page);
     /// Has Tab go from the tabs through a page to what is below all pages.
     void reachAfterTabs(const ComposerPage &page);
     void showAddsLineEnd();
     void readStatement();
-<<<<<<< HEAD
-=======
     bool readInto(Page page, const ReadStatement &read);
-    void returnToEditor();
->>>>>>> main
     void activated();
     void Command6_Click();
     void CommandHelp_Click();

@@ -65,18 +65,8 @@ ComposerFirstPage::ComposerFirstPage(const ComposerParts &parts, QWidget *parent
     bind(m_ui->CheckMacroAddCR, settings.COMPaddCR);
     bind(m_ui->CheckCopyTicks, settings.COMPMacrosTickedCopy);
     m_ui->Text1_8->setText(QString::number(settings.NumberOfBlanks));
-<<<<<<< HEAD
-    m_ui->LabelControl->setMinimumHeight(m_ui->LabelControl->fontMetrics().lineSpacing() * 4);
-=======
     m_ui->LabelControl->setMinimumHeight(m_ui->LabelControl->fontMetrics().lineSpacing()
                                          * leastLinesTold);
-    GetHandles();
-    if (const auto shown =
-            m_ui->Picture1_1->showDrawing(parts.context.paths.appFolder, throttle.toString());
-        !shown) {
-        parts.context.status.setText(u" Throttle.bmp can't be shown: "_s + shown.error().reason);
-    }
->>>>>>> main
 }
 
 ComposerFirstPage::~ComposerFirstPage() = default;
@@ -175,109 +165,21 @@ void ComposerFirstPage::connectMacros()
 
 void ComposerFirstPage::GetHandles()
 {
-<<<<<<< HEAD
     m_pictures->GetHandles();
-=======
-    const HandleList handles =
-        listHandles(ProfileFile(m_parts.context.paths.iniPath), m_parts.context.paths.appFolder);
-    {
-        const QSignalBlocker loadingHandle(m_ui->ComboJoystickHandle);
-        m_ui->ComboJoystickHandle->clear();
-        m_ui->ComboJoystickHandle->addItems(handles.names);
-        m_ui->ComboJoystickHandle->setCurrentText(handles.chosen);
-    }
-    if (const auto shown = showHandle(handles.chosen); !shown) {
-        m_parts.context.status.setText(u' ' + shown.error());
-    }
-}
-
-Expected<void, QString> ComposerFirstPage::showHandle(const QString &name)
-{
-    const QString &folder = m_parts.context.paths.appFolder;
-    const auto handle = loadHandleFile(handlePath(folder, name));
-    if (!handle) {
-        m_triggerHasStages = true;
-        // Its picture may be missing as well; its hot spots never are.
-        (void)m_ui->Picture1_0->showDrawing(folder, shippedHandle.toString());
-        return Unexpected<QString>(
-            u"The handle %1 can't be shown: %2"_s.arg(name).arg(handle.error().reason));
-    }
-    m_triggerHasStages = handle->triggerHasStages;
-    if (const auto shown = m_ui->Picture1_0->showHandle(folder, *handle); !shown) {
-        return Unexpected<QString>(
-            u"%1 can't be shown: %2"_s.arg(handle->picture).arg(shown.error().reason));
-    }
-    return {};
-}
-
-void ComposerFirstPage::ChangeHandle()
-{
-    const QString name = m_ui->ComboJoystickHandle->currentText();
-    const auto kept = SaveHandle(ProfileFile(m_parts.context.paths.iniPath), name);
-    if (!kept) {
-        tellNotKept(m_parts.context.status, kept.error());
-    }
-    if (const auto shown = showHandle(name); !shown) {
-        m_parts.context.dialogs.tell(u"No such handle"_s, shown.error(), BoxIcon::Exclamation);
-    }
-}
-
-void ComposerFirstPage::clicked(const ControlsPicture &picture, const QString &id)
-{
-    m_parts.documents.select(DocumentKind::Joystick);
-    const QStringList controls = offeredControls(id, m_triggerHasStages);
-    if (controls.size() == 1) {
-        insertControl(controls.first());
-        return;
-    }
-    QMenu *menu = id == u"TRIG" ? mnuTrigger : mnuHatPos;
-    qsizetype next = 0;
-    for (QAction *entry : menu->actions()) {
-        if (!entry->isSeparator() && next < controls.size()) {
-            entry->setText(controls[next++]);
-        }
-    }
-    const QWidget *spot = picture.spot(id);
-    menu->popup(spot ? spot->mapToGlobal(spot->rect().bottomLeft()) : QCursor::pos());
-}
-
-void ComposerFirstPage::tell(ControlsPicture &picture, const QString &id)
-{
-    const QString text = m_parts.documents.joystick().text();
-    const QStringList controls = offeredControls(id, m_triggerHasStages);
-    QStringList told;
-    for (const QString &control : controls) {
-        if (findControl(text, buttonStatement(control))) {
-            told.append(toldOf(text, control));
-        }
-    }
-    const QString shown = id.isEmpty() ? QString()
-        : told.isEmpty()               ? spokenName(id) + u": nothing yet"_s
-                                       : told.join(u'\n');
-    m_ui->LabelControl->setText(shown);
-    if (QAbstractButton *spot = picture.spot(id)) {
-        spot->setToolTip(Qt::convertFromPlainText(shown));
-        spot->setAccessibleDescription(shown);
-    }
-    m_told = { &picture, id };
-    m_pointed = controls.size() == 1 && told.isEmpty() ? controls.first() : QString();
-    Q_EMIT changed();
->>>>>>> main
 }
 
 std::optional<Generated> ComposerFirstPage::current() const
 {
-<<<<<<< HEAD
     const QString &pointed = m_pictures->pointed();
-    if (pointed.isEmpty()) {
-        return {};
-    }
-    return plainStatement(buttonStatement(pointed), true);
-=======
-    if (!m_pointed.isEmpty()) {
-        return plainStatement(buttonStatement(m_pointed), true);
+    if (!pointed.isEmpty()) {
+        return plainStatement(buttonStatement(pointed), true);
     }
     return m_edited ? std::optional((this->*m_edited)()) : std::nullopt;
+}
+
+bool ComposerFirstPage::isPiece() const
+{
+    return m_pictures->pointed().isEmpty();
 }
 
 Generated ComposerFirstPage::delay() const
@@ -302,35 +204,6 @@ void ComposerFirstPage::showWhenEdited(QLineEdit *box, Fragment fragment)
         m_edited = fragment;
         Q_EMIT changed();
     });
-}
-
-void ComposerFirstPage::insertControl(const QString &control)
-{
-    const QString statement = buttonStatement(control);
-    m_parts.documents.select(DocumentKind::Joystick);
-    if (!goToStatement(statement)) {
-        m_parts.inserter.insertFragment(statement,
-                                        m_parts.context.settings.of<ColourSettings>().BTNColour);
-    }
-    if (m_told.picture) {
-        tell(*m_told.picture, m_told.id);
-    }
-}
-
-bool ComposerFirstPage::goToStatement(const QString &statement)
-{
-    if (m_parts.context.settings.of<ComposerSettings>().AlwaysInsert) {
-        return false;
-    }
-    Document &joystick = m_parts.documents.joystick();
-    const auto found = findControl(joystick.text(), statement);
-    if (found) {
-        joystick.select(int(found->start + found->length), 0);
-        m_parts.context.status.setLine(joystick.caretLine());
-        m_parts.editor.ResetFocusToEditor();
-    }
-    return found.has_value();
->>>>>>> main
 }
 
 void ComposerFirstPage::SlashButton_Click(int index)

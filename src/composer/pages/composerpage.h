@@ -30,7 +30,7 @@ public:
     /// What a click on the control that is pointed at would insert; else what the button of the
     /// box would that was edited last.
     std::optional<Generated> current() const override;
-    bool isPiece() const override { return m_pointed.isEmpty(); }
+    bool isPiece() const override;
     bool read(const QString &) override { return false; }
     void enter() override;
     void windowActivated() override;
@@ -49,17 +49,6 @@ private:
     void connectButtons();
     void connectMacros();
     void makeMenus();
-<<<<<<< HEAD
-=======
-    /// Shows the handle of that name. An error says why it is not shown.
-    Expected<void, QString> showHandle(const QString &name);
-    void ChangeHandle();
-    void clicked(const ControlsPicture &picture, const QString &id);
-    void tell(ControlsPicture &picture, const QString &id);
-    /// Writes a control's statement, or goes to the one that it has.
-    void insertControl(const QString &control);
-    bool goToStatement(const QString &statement);
-
     /// What each button with a box inserts.
     Generated delay() const;
     Generated repeat() const;
@@ -67,7 +56,6 @@ private:
     using Fragment = Generated (ComposerFirstPage::*)() const;
     void showWhenEdited(QLineEdit *box, Fragment fragment);
 
->>>>>>> main
     void SlashButton_Click(int index);
     void DlyRptButtons_Click(int index);
     void DLYText_LostFocus();
@@ -80,17 +68,7 @@ private:
     ControlPictures *m_pictures = nullptr;
     QMenu *mnuRHList = nullptr;
     QString m_menuMacro; ///< the macro that mnuRHList is about
-<<<<<<< HEAD
-=======
-    bool m_triggerHasStages = true;
-    /// The hot spot that LabelControl tells of.
-    struct {
-        ControlsPicture *picture = nullptr;
-        QString id;
-    } m_told;
-    QString m_pointed; ///< the one control of the hot spot that is pointed at; else empty
     Fragment m_edited = nullptr; ///< of the box that was edited last
->>>>>>> main
 };
 
 } // namespace zeph
