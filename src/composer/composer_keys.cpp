@@ -4,9 +4,9 @@
 #include "composer/composer_keys.h"
 
 #include "composer/composer_editor.h"
+#include "composer/editor_entries.h"
 #include "platform/context.h"
 #include "platform/dialogs.h"
-#include "platform/status_line.h"
 #include "platform/tool_windows.h"
 
 #include <QAction>
@@ -95,12 +95,7 @@ void run(const ComposerKey &key, const QWidget &window, const Context &context,
         && editTextBox(window.focusWidget(), key.inTextBox)) {
         return;
     }
-    QAction *entry = editor.action(key.entry);
-    if (!entry->isEnabled()) {
-        context.status.setText(u" %1 can't be used now"_s.arg(entry->text().remove(u'&')));
-        return;
-    }
-    entry->trigger();
+    runEntry(editor, context.status, key.entry);
 }
 
 } // namespace

@@ -176,6 +176,7 @@ void ControlPictures::tell(ControlsPicture &picture, const QString &id)
         spot->setToolTip(Qt::convertFromPlainText(shown));
         spot->setAccessibleDescription(shown);
     }
+    m_told = { &picture, id };
     m_pointed = controls.size() == 1 && found.isEmpty() ? controls.first() : QString();
     Q_EMIT told(shown);
 }
@@ -187,6 +188,9 @@ void ControlPictures::insertControl(const QString &control)
     if (!goToStatement(statement)) {
         m_parts.inserter.insertFragment(statement,
                                         m_parts.context.settings.of<ColourSettings>().BTNColour);
+    }
+    if (m_told.picture) {
+        tell(*m_told.picture, m_told.id);
     }
 }
 

@@ -60,6 +60,13 @@ Statement StatementInserter::composedNow(const Statement &statement) const
                       m_context.settings.of<ComposerSettings>().CompTabsAddCr);
 }
 
+bool StatementInserter::insertIntoMacroFile(const QString &lines, bool addLineEnd)
+{
+    m_documents.select(DocumentKind::Macro);
+    return insert(
+        composedAt({ { { lines } }, true }, surroundingsOf(m_documents.macro()), addLineEnd));
+}
+
 bool StatementInserter::insertIntoSelected(const Generated &statement)
 {
     if (!statement) {

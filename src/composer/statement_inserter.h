@@ -24,7 +24,11 @@ public:
     /// A composed statement goes into the joystick file, which is selected first, with a line end
     /// after it if the settings (CompTabsAddCr) want one. False when nothing was inserted.
     bool insertComposed(const Generated &statement);
-    /// The same into the selected document, without a line start or a line end of its own.
+    /// Lines go into the macro file, which is selected first, from the start of a line on. False
+    /// when nothing was inserted.
+    bool insertIntoMacroFile(const QString &lines, bool addLineEnd);
+    /// A composed statement goes into the selected document, without a line start or a line end of
+    /// its own.
     bool insertIntoSelected(const Generated &statement);
     /// A fragment (control, slash modifier, remark) goes into the selected document in one colour.
     bool insertFragment(const QString &text, ColorRef colour);

@@ -63,9 +63,9 @@ QList<QStringList> titleSections(const TitleFields &fields)
 
 } // namespace
 
-QStringList headingBlock(const QString &heading)
+QStringList headingBlock(const QString &heading, qsizetype longer)
 {
-    const QString rule = emptyRem + QString(heading.size(), u'-');
+    const QString rule = emptyRem + QString(heading.size() + longer, u'-');
     return { rule, emptyRem + QString(headingIndent, u' ') + heading, rule };
 }
 

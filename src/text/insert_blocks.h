@@ -13,9 +13,9 @@
 
 namespace zeph {
 
-/// The three lines of a heading in a macro file. Their rules are as long as the heading, and the
-/// macro list needs rules of two characters or more.
-QStringList headingBlock(const QString &heading);
+/// The three lines of a heading in a macro file. Their rules are longer than the heading by that
+/// many characters, and the macro list needs rules of two characters or more.
+QStringList headingBlock(const QString &heading, qsizetype longer = 0);
 constexpr qsizetype shortestHeading = 2;
 
 /// A comment, for the end of a statement or for a line of its own.

@@ -3,8 +3,8 @@
 
 #include "composer/tumbo/notations.h"
 
+#include "composer/wizards/macro_lines.h"
 #include "language/words.h"
-#include "text/macro_table.h"
 #include "text/text_lines.h"
 
 namespace zeph {
@@ -153,8 +153,7 @@ Generated statementToInsert(const QString &statement)
 
 QString macroLine(const QString &name, const QString &statement)
 {
-    const QString kept = withoutRefused(name);
-    return kept.isEmpty() || statement.isEmpty() ? QString() : kept + u" = "_s + statement;
+    return statement.isEmpty() ? QString() : previewOf(name, statement);
 }
 
 } // namespace zeph
