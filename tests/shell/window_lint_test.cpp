@@ -15,6 +15,7 @@
 #include "lists/favourites_menu.h"
 #include "lists/user_lists.h"
 #include "livetools/keytestform.h"
+#include "livetools/pictures/viewimage.h"
 #include "platform/tool_windows.h"
 #include "preferences/preferences.h"
 #include "print/printpreview.h"
@@ -225,6 +226,14 @@ const LintCase cases[] = {
     { "KeyTestForm",
       [](auto &w) { return std::make_unique<KeyTestForm>(w.context(), KeyTestEntries()); },
       ShowsEscape },
+    { "ViewImage",
+      [](auto &w) {
+          auto *entry = new QAction;
+          auto window =
+              std::make_unique<ViewImage>(w.context(), w.printers, PictureEntries{ entry, entry });
+          entry->setParent(window.get());
+          return window;
+      } },
     { "Heading",
       [](auto &) {
           return std::make_unique<Heading>(QStringList{ u"Guns"_s });
