@@ -32,6 +32,9 @@ public:
     /// What the Insert button of the tab in front would insert now. No value where that tab has no
     /// such button.
     virtual std::optional<Generated> current() const { return {}; }
+    /// Whether that is a piece of a statement, which goes to the caret of the selected document. A
+    /// statement goes into the joystick file.
+    virtual bool isPiece() const { return false; }
     /// Fills the fields from a statement of the joystick file, given without its comment, and turns
     /// to the tab that makes such statements. False, with the fields as they were, when the page
     /// makes none like it.

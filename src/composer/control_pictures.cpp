@@ -62,9 +62,9 @@ void ControlPictures::makeMenus(const ControlMenuNames &names, QWidget *window)
     const auto add = [this](QMenu *to, QStringView name, int index, const QString &caption) {
         QAction *entry = to->addAction(caption);
         entry->setObjectName(name.toString() + u'_' + QString::number(index));
-        connect(entry, &QAction::triggered, this, guarded(m_parts.context.dialogs, [this, entry](bool) {
-                    insertControl(entry->text());
-                }));
+        connect(entry, &QAction::triggered, this,
+                guarded(m_parts.context.dialogs,
+                        [this, entry](bool) { insertControl(entry->text()); }));
     };
     m_hatMenu = menu(names.hatMenu);
     const QStringList ways = offeredControls(u"HAT_0", true);
@@ -176,6 +176,7 @@ void ControlPictures::tell(ControlsPicture &picture, const QString &id)
         spot->setToolTip(Qt::convertFromPlainText(shown));
         spot->setAccessibleDescription(shown);
     }
+    m_told = { &picture, id };
     m_pointed = controls.size() == 1 && found.isEmpty() ? controls.first() : QString();
     Q_EMIT told(shown);
 }
@@ -187,6 +188,9 @@ void ControlPictures::insertControl(const QString &control)
     if (!goToStatement(statement)) {
         m_parts.inserter.insertFragment(statement,
                                         m_parts.context.settings.of<ColourSettings>().BTNColour);
+    }
+    if (m_told.picture) {
+        tell(*m_told.picture, m_told.id);
     }
 }
 

@@ -69,6 +69,11 @@ private:
     QMenu *m_hatMenu = nullptr;
     QMenu *m_triggerMenu = nullptr;
     bool m_triggerHasStages = true;
+    /// The hot spot that was told last.
+    struct {
+        ControlsPicture *picture = nullptr;
+        QString id;
+    } m_told;
     QString m_pointed;
 };
 

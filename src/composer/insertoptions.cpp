@@ -29,6 +29,8 @@
 #include <QShortcut>
 #include <QTabBar>
 
+#include <algorithm>
+
 namespace zeph {
 
 namespace {
@@ -112,6 +114,7 @@ ComposerPage *InsertOptions::page(Page which)
         // The layout would show it only when the event loop runs, too late for the focus.
         made->show();
         bindLineEndBoxes(*made);
+        reachAfterTabs(*made);
         connect(made, &ComposerPage::helpWanted, this, &InsertOptions::keywordWanted);
         connect(made, &ComposerPage::flagsWanted, this, &InsertOptions::flagsWanted);
         made->windowActivated();
@@ -168,6 +171,30 @@ void InsertOptions::makeKeys()
     add(QKeyCombination(Qt::CTRL | Qt::SHIFT, Qt::Key_Tab), [this] { turnPage(-1); });
 }
 
+void InsertOptions::reachAfterTabs(const ComposerPage &made)
+{
+    // Tab would reach a new page after the buttons below all pages.
+    QWidget *last = m_ui->SSTab1;
+    QWidgetList below;
+    for (QWidget *each = last; (each = each->nextInFocusChain()) != m_ui->SSTab1;) {
+        if (each->isWindow() || each->focusPolicy() == Qt::NoFocus) {
+            continue;
+        }
+        if (made.isAncestorOf(each)) {
+            last = each;
+        } else if (!m_ui->SSTab1->isAncestorOf(each)) {
+            below.append(each);
+        }
+    }
+    // As one reads: the preview is left of the window's buttons.
+    std::stable_partition(below.begin(), below.end(),
+                          [this](const QWidget *each) { return m_preview->isAncestorOf(each); });
+    for (QWidget *each : below) {
+        setTabOrder(last, each);
+        last = each;
+    }
+}
+
 void InsertOptions::bindLineEndBoxes(ComposerPage &made)
 {
     static const QRegularExpression name(u"^CheckMultiAddCR_\\d$"_s);
@@ -191,28 +218,40 @@ void InsertOptions::showAddsLineEnd()
 
 void InsertOptions::readStatement()
 {
-    const auto read =
-        statementAt(m_documents.joystick().text(), m_documents.joystick().cursor().position());
-    if (!read) {
+    const QList<ReadStatement> readable =
+        readableAt(m_documents.joystick().text(), m_documents.joystick().cursor().position());
+    if (readable.isEmpty()) {
         m_context.status.setText(u" The caret of the joystick file is in no statement"_s);
         return;
     }
-    // The page in front first: more than one may know a statement.
-    QList<int> order{ m_ui->SSTab1->currentIndex() };
-    for (int i = 0; i < pageCount; ++i) {
-        if (!order.contains(i)) {
-            order.append(i);
+    // More than one page may know a statement, or a part of it. So the page in front is asked for
+    // everything first.
+    const int front = m_ui->SSTab1->currentIndex();
+    for (const ReadStatement &read : readable) {
+        if (readInto(Page(front), read)) {
+            return;
         }
     }
-    for (const int i : order) {
-        if (ComposerPage *asked = page(Page(i)); asked && asked->read(read->text)) {
-            m_ui->SSTab1->setCurrentIndex(i);
-            m_preview->setRead(*read);
-            return;
+    for (const ReadStatement &read : readable) {
+        for (int index = 0; index < pageCount; ++index) {
+            if (index != front && readInto(Page(index), read)) {
+                return;
+            }
         }
     }
     m_context.status.setText(
         u" No page of the Composer makes statements like the one at the caret"_s);
+}
+
+bool InsertOptions::readInto(Page which, const ReadStatement &read)
+{
+    ComposerPage *asked = page(which);
+    if (!asked || !asked->read(read.text)) {
+        return false;
+    }
+    m_ui->SSTab1->setCurrentIndex(which);
+    m_preview->setRead(read);
+    return true;
 }
 
 void InsertOptions::GetSpaces()

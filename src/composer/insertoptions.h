@@ -15,6 +15,7 @@ namespace zeph {
 
 class ComposerFirstPage;
 class StatementPreview;
+struct ReadStatement;
 
 namespace Ui {
 class InsertOptions;
@@ -76,8 +77,11 @@ private:
     /// Puts the windows that teach the page's subject on the button CommandShowMeHow.
     void offerLessons(int page);
     void bindLineEndBoxes(ComposerPage &page);
+    /// Has Tab go from the tabs through a page to what is below all pages.
+    void reachAfterTabs(const ComposerPage &page);
     void showAddsLineEnd();
     void readStatement();
+    bool readInto(Page page, const ReadStatement &read);
     void activated();
     void Command6_Click();
     void CommandHelp_Click();

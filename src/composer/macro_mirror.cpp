@@ -7,12 +7,17 @@
 #include <QContextMenuEvent>
 #include <QLabel>
 #include <QMimeData>
+#include <QPainter>
 #include <QStackedWidget>
 #include <QVBoxLayout>
 
 namespace zeph {
 
 namespace {
+
+const QString noMacros =
+    u"There are no macros yet. Open a macro file, or go to the Editor with F2 and type the keys "
+    "themselves after the control."_s;
 
 Qt::CheckState tickOf(bool isUsed)
 {
@@ -87,6 +92,19 @@ void MacroMirrorList::contextMenuEvent(QContextMenuEvent *event)
                               ? event->globalPos()
                               : viewport()->mapToGlobal(visualItemRect(currentItem()).center()));
     }
+}
+
+void MacroMirrorList::paintEvent(QPaintEvent *event)
+{
+    QListWidget::paintEvent(event);
+    if (count() > 0) {
+        return;
+    }
+    constexpr int margin = 6;
+    QPainter painter(viewport());
+    painter.setPen(palette().color(QPalette::PlaceholderText));
+    painter.drawText(viewport()->rect().adjusted(margin, margin, -margin, -margin),
+                     Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap, noMacros);
 }
 
 QStringList MacroMirrorList::mimeTypes() const

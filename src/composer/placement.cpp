@@ -39,7 +39,9 @@ QString blankBefore(QChar after)
 
 Statement composedAt(Statement statement, const Surroundings &around, bool addLineEnd)
 {
-    if (!statement.startsLine && touches(around.before) && !statement.pieces.isEmpty()) {
+    const bool isTouched =
+        !statement.startsLine && touches(around.before) && !statement.pieces.isEmpty();
+    if (isTouched && !statement.pieces.front().text.startsWith(u' ')) {
         statement.pieces.prepend({ u" "_s });
     }
     if (addLineEnd && !statement.text().endsWith(u'\n')) {

@@ -3,7 +3,10 @@
 
 #include "composer/statement_check.h"
 
+#include "composer/generators/parted_statement.h"
 #include "language/checker.h"
+#include "language/scan.h"
+#include "language/use_forms.h"
 #include "language/words.h"
 #include "text/text_lines.h"
 
@@ -16,6 +19,7 @@ using language::ItemKind;
 using language::JoystickFile;
 using language::JoystickStatement;
 using language::Place;
+using language::sameWord;
 using language::StatementKind;
 
 bool isWithin(const Place &place, const Landing &landing)
@@ -57,18 +61,84 @@ void addUnknownWords(const JoystickFile &file, const JoystickStatement &statemen
     }
 }
 
-/// The line of another statement for the same control; 0 when there is none.
+/// What a statement settles: for a control or axis, one thing of it.
+struct Settled {
+    StatementKind kind = StatementKind::Unknown;
+    /// Empty for a statement that a file may have several times.
+    QStringView control = {};
+    /// Of a USE statement, which of its kinds it is: "AS", "FORCED_CORNERS".
+    QStringView what = {};
+
+    bool isSameAs(const Settled &other) const
+    {
+        return kind == other.kind && sameWord(control, other.control) && sameWord(what, other.what);
+    }
+};
+
+/// The first two words of a text.
+Settled useOf(QStringView words)
+{
+    const qsizetype end = language::nameEnd(words, 0);
+    const qsizetype next = language::skipBlanks(words, end);
+    return { StatementKind::Use, words.first(end),
+             words.sliced(next, language::nameEnd(words, next) - next) };
+}
+
+Settled settledByUse(const JoystickFile &file, const JoystickStatement &statement)
+{
+    if (statement.useForm >= 0) {
+        const language::UseForm &form = language::useForms()[size_t(statement.useForm)];
+        const bool isOfControl = form.shape == language::UseShape::Role
+            || form.head.endsWith(language::sensitivityEnding);
+        return isOfControl ? useOf(form.head) : Settled();
+    }
+    const language::Range items = statement.body.items;
+    if (items.isEmpty()) {
+        return {};
+    }
+    const qsizetype from = file.items[items.first].place.position;
+    const Settled use = useOf(QStringView(file.text).first(statement.place.end()).sliced(from));
+    const bool isOfControl = sameWord(use.what, u"AS"_w) || sameWord(use.what, u"FORCED_CORNERS"_w);
+    return isOfControl ? use : Settled();
+}
+
+Settled settledBy(const JoystickFile &file, const JoystickStatement &statement)
+{
+    if (statement.kind == StatementKind::Use) {
+        return settledByUse(file, statement);
+    }
+    return definesControl(statement.kind) ? Settled{ statement.kind, file.at(statement.subject) }
+                                          : Settled();
+}
+
+/// The line of another statement that settles the same; 0 when there is none.
 int lineOfOther(const JoystickFile &file, const JoystickStatement &statement)
 {
+    const Settled settled = settledBy(file, statement);
+    if (settled.control.isEmpty()) {
+        return 0;
+    }
     for (const JoystickStatement &other : file.statements) {
-        if (other.place.position != statement.place.position && other.kind == statement.kind
-            && other.subject.length > 0
-            && file.at(other.subject).compare(file.at(statement.subject), Qt::CaseInsensitive)
-                == 0) {
+        if (other.place.position != statement.place.position
+            && settledBy(file, other).isSameAs(settled)) {
             return other.place.line;
         }
     }
     return 0;
+}
+
+ReadStatement readOf(QStringView text, qsizetype start, qsizetype length)
+{
+    QStringList lines;
+    bool hasComments = false;
+    forEachLine(text.sliced(start, length), [&](QStringView line) {
+        const QStringView own = withoutBlanksAtEnd(beforeRem(line));
+        hasComments = hasComments || remAt(line) >= 0;
+        if (!own.isEmpty()) {
+            lines.append(own.toString());
+        }
+    });
+    return { int(start), int(length), lines.join(u'\n'), hasComments };
 }
 
 } // namespace
@@ -89,12 +159,9 @@ QStringList findingsOf(const Landing &landing, const QString &macroText)
         if (definesControl(statement.kind)) {
             addUnknownWords(pair.joystick, statement, findings);
         }
-        if (!definesControl(statement.kind) || statement.subject.length == 0) {
-            continue;
-        }
         if (const int line = lineOfOther(pair.joystick, statement)) {
             findings.append(u"Line %1 has a statement for %2 already"_s.arg(line).arg(
-                pair.joystick.at(statement.subject)));
+                settledBy(pair.joystick, statement).control));
         }
     }
     return findings;
@@ -117,18 +184,41 @@ std::optional<ReadStatement> statementAt(const QString &joystickText, int positi
     if (!found) {
         return {};
     }
-    QStringList lines;
-    const QStringView raw = file.at(found->place);
-    bool hasComments = false;
-    forEachLine(raw, [&](QStringView line) {
-        const QStringView own = withoutBlanksAtEnd(beforeRem(line));
-        hasComments = hasComments || remAt(line) >= 0;
-        if (!own.isEmpty()) {
-            lines.append(own.toString());
+    return readOf(text, found->place.position, found->place.length);
+}
+
+QList<ReadStatement> readableAt(const QString &joystickText, int position)
+{
+    const auto whole = statementAt(joystickText, position);
+    if (!whole) {
+        return {};
+    }
+    QList<ReadStatement> readable{ *whole };
+    const QStringView text(joystickText);
+    const QStringView statement = text.sliced(whole->start, whole->length);
+    const auto add = [&](const Place &place) {
+        const ReadStatement piece = readOf(text, whole->start + place.position, place.length);
+        const auto isSame = [&piece](const ReadStatement &other) {
+            return other.start == piece.start && other.length == piece.length;
+        };
+        if (std::ranges::none_of(readable, isSame)) {
+            readable.append(piece);
         }
-    });
-    return ReadStatement{ int(found->place.position), int(found->place.length), lines.join(u'\n'),
-                          hasComments };
+    };
+    const qsizetype at = std::clamp(position - whole->start, 0, whole->length);
+    // The blanks at a line's start belong to the half that begins after them.
+    const qsizetype afterBlanks = language::skipBlanks(statement, at);
+    const QList<Place> halves = statementHalves(statement);
+    const auto half =
+        std::find_if(halves.rbegin(), halves.rend(),
+                     [afterBlanks](const Place &each) { return each.position <= afterBlanks; });
+    if (half != halves.rend()) {
+        add(*half);
+    }
+    if (const auto call = callAt(statement, at)) {
+        add(*call);
+    }
+    return readable;
 }
 
 } // namespace zeph

@@ -27,4 +27,9 @@ struct ReadStatement {
 /// The statement to which the line of a 0-based position belongs; no value when there is none.
 std::optional<ReadStatement> statementAt(const QString &joystickText, int position);
 
+/// What a page may know at a 0-based position: the statement, then the half of it that the position
+/// is in ("/O 3 b ^ a"), then the word with brackets around the position ("TRIM (JOYY, 2+)"). Each
+/// is there only if it differs from those before; none without a statement.
+QList<ReadStatement> readableAt(const QString &joystickText, int position);
+
 } // namespace zeph

@@ -17,8 +17,18 @@ namespace zeph {
 
 namespace {
 
-Statement withoutBlanksAtEnd(Statement statement)
+Statement withoutBlanksAround(Statement statement)
 {
+    while (!statement.pieces.isEmpty()) {
+        QString &first = statement.pieces.front().text;
+        while (!first.isEmpty() && first.front().isSpace()) {
+            first.remove(0, 1);
+        }
+        if (!first.isEmpty()) {
+            break;
+        }
+        statement.pieces.removeFirst();
+    }
     while (!statement.pieces.isEmpty()) {
         QString &last = statement.pieces.back().text;
         while (!last.isEmpty() && last.back().isSpace()) {
@@ -63,9 +73,14 @@ bool StatementInserter::insertIntoSelected(const Generated &statement)
         refuse(statement.error());
         return false;
     }
-    Statement within = *statement;
+    return insert(pieceNow(*statement));
+}
+
+Statement StatementInserter::pieceNow(const Statement &statement) const
+{
+    Statement within = statement;
     within.startsLine = false;
-    return insert(composedAt(within, surroundingsOf(m_documents.selected()), false));
+    return composedAt(within, surroundingsOf(m_documents.selected()), false);
 }
 
 bool StatementInserter::insertFragment(const QString &text, ColorRef colour)
@@ -140,7 +155,7 @@ std::optional<int> StatementInserter::replace(int start, int length, const Gener
     }
     Document &into = m_documents.joystick();
     const RichText text = richTextOf(
-        withoutBlanksAtEnd(*statement),
+        withoutBlanksAround(*statement),
         colourScheme(m_context.settings.of<ColourSettings>(), into.kind()), into.plain());
     Change change(into);
     into.select(start, length);

@@ -40,12 +40,14 @@ public:
     /// A macro's line goes into the macro file, which is selected first: onto the caret's line if
     /// that is empty, else onto a line of its own at the end. False when nothing was inserted.
     bool insertMacroLine(const QString &line);
-    /// Puts a statement in the place of a stretch of the joystick file, without the blanks at its
-    /// end. Gives the length of what is there then; no value when nothing was replaced.
+    /// Puts a statement in the place of a stretch of the joystick file, without the blanks around
+    /// it. Gives the length of what is there then; no value when nothing was replaced.
     std::optional<int> replace(int start, int length, const Generated &statement);
 
     /// What insertComposed() would write now, and where.
     Statement composedNow(const Statement &statement) const;
+    /// The same of insertIntoSelected().
+    Statement pieceNow(const Statement &statement) const;
 
     /// Tells a refusal. For what is no statement.
     void refuse(const Refusal &refusal);

@@ -30,6 +30,23 @@ QString selectedOf(const QTextCursor &cursor)
     return cursor.selectedText().replace(QChar::ParagraphSeparator, u'\n');
 }
 
+void setGround(RichTextBox &box, ColorRef colour)
+{
+    QPalette palette;
+    palette.setColor(QPalette::Base, toColor(colour));
+    box.setPalette(palette);
+}
+
+/// They would only scroll what is to be seen.
+RichText withoutLineEndsAfter(const RichText &text)
+{
+    qsizetype end = text.text.size();
+    while (end > 0 && text.text[end - 1] == u'\n') {
+        --end;
+    }
+    return text.mid(0, end);
+}
+
 QString inWords(const QStringList &findings)
 {
     QStringList shown = findings.first(std::min<qsizetype>(findings.size(), mostFindings));
@@ -62,9 +79,9 @@ StatementPreview::StatementPreview(const ComposerParts &parts, QWidget *parent)
     parts.documents.forEach([this](Document &each) {
         connect(&each, &Document::edited, this, &StatementPreview::refreshSoon);
         connect(&each, &Document::replaced, this, &StatementPreview::refreshSoon);
+        connect(&each, &Document::caretMoved, this, &StatementPreview::refreshSoon);
     });
-    connect(&parts.documents.joystick(), &Document::caretMoved, this,
-            &StatementPreview::refreshSoon);
+    connect(&parts.documents, &Documents::selectedChanged, this, &StatementPreview::refreshSoon);
 }
 
 StatementPreview::~StatementPreview() = default;
@@ -87,13 +104,14 @@ void StatementPreview::setRead(const ReadStatement &read)
     m_read.setPosition(read.start);
     m_read.setPosition(read.start + read.length, QTextCursor::KeepAnchor);
     m_readText = selectedOf(m_read);
+    m_readPage = m_page;
     m_readHasComments = read.hasComments;
     refreshNow();
 }
 
 bool StatementPreview::holdsRead() const
 {
-    return m_read.hasSelection() && selectedOf(m_read) == m_readText;
+    return m_page == m_readPage && m_read.hasSelection() && selectedOf(m_read) == m_readText;
 }
 
 void StatementPreview::showEvent(QShowEvent *event)
@@ -113,7 +131,8 @@ void StatementPreview::refreshNow()
 {
     m_soon.stop();
     const auto current = m_page ? m_page->current() : std::nullopt;
-    m_ui->CMD_ReplaceStatement->setEnabled(current && *current && holdsRead());
+    m_ui->CMD_ReplaceStatement->setEnabled(current && *current && !m_page->isPiece()
+                                           && holdsRead());
     if (!current) {
         showNothing(QString());
     } else if (!*current) {
@@ -126,6 +145,9 @@ void StatementPreview::refreshNow()
 void StatementPreview::showNothing(const QString &why)
 {
     m_ui->PreviewText->clear();
+    setGround(
+        *m_ui->PreviewText,
+        documentBackground(m_parts.context.settings.of<ColourSettings>(), DocumentKind::Joystick));
     m_ui->LabelFindings->clear();
     m_ui->LabelLanding->setText(why.isEmpty() ? u"The caret is in line %1 of %2"_s
                                                     .arg(m_parts.documents.selected().caretLine())
@@ -136,20 +158,24 @@ void StatementPreview::showNothing(const QString &why)
 void StatementPreview::showStatement(const Statement &statement)
 {
     const auto &colours = m_parts.context.settings.of<ColourSettings>();
-    Document &joystick = m_parts.documents.joystick();
-    const RichText shown = richTextOf(statement, colourScheme(colours, DocumentKind::Joystick),
-                                      plainFormat(colours, DocumentKind::Joystick));
-    QPalette palette;
-    palette.setColor(QPalette::Base, toColor(documentBackground(colours, DocumentKind::Joystick)));
-    m_ui->PreviewText->setPalette(palette);
+    const bool isPiece = m_page->isPiece();
+    Documents &documents = m_parts.documents;
+    Document &into = isPiece ? documents.selected() : documents.joystick();
+    const DocumentKind kind = into.kind();
+    const RichText shown = withoutLineEndsAfter(
+        richTextOf(statement, colourScheme(colours, kind), plainFormat(colours, kind)));
+    setGround(*m_ui->PreviewText, documentBackground(colours, kind));
     if (m_ui->PreviewText->richText() != shown) {
         m_ui->PreviewText->setRichText(shown);
     }
-    const Landing landing = landingOf(joystick.text(), joystick.selStart(), joystick.selLength(),
-                                      m_parts.inserter.composedNow(statement));
-    m_ui->LabelLanding->setText(
-        u"Goes into line %1 of %2"_s.arg(landing.line).arg(joystick.caption()));
-    m_ui->LabelFindings->setText(inWords(findingsOf(landing, m_parts.documents.macro().text())));
+    const StatementInserter &inserter = m_parts.inserter;
+    const Landing landing =
+        landingOf(into.text(), into.selStart(), into.selLength(),
+                  isPiece ? inserter.pieceNow(statement) : inserter.composedNow(statement));
+    m_ui->LabelLanding->setText(u"Goes into line %1 of %2"_s.arg(landing.line).arg(into.caption()));
+    const bool isJoystick = kind == DocumentKind::Joystick;
+    m_ui->LabelFindings->setText(isJoystick ? inWords(findingsOf(landing, documents.macro().text()))
+                                            : QString());
 }
 
 void StatementPreview::CMD_ReplaceStatement_Click()

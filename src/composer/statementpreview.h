@@ -47,13 +47,14 @@ private:
     void showStatement(const Statement &statement);
     void showNothing(const QString &why);
     void CMD_ReplaceStatement_Click();
-    /// Whether the statement that was read is still there as it was.
+    /// Whether the statement that the page was filled from is still there as it was.
     bool holdsRead() const;
 
     ComposerParts m_parts;
     std::unique_ptr<Ui::StatementPreview> m_ui;
     QPointer<ComposerPage> m_page;
     QTimer m_soon;
+    QPointer<ComposerPage> m_readPage; ///< the page that was filled from it
     QTextCursor m_read; ///< selects the statement that was read, and moves along with edits
     QString m_readText; ///< what it selected
     bool m_readHasComments = false;

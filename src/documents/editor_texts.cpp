@@ -80,11 +80,12 @@ QString firstThings(DocumentKind kind)
                "3.  Name this file in your joystick file, with a USE MDEF line, and give the macro "
                "to a button there."_s;
     }
-    return u"Three things to begin with:\n\n"
+    return u"Three ways to begin:\n\n"
            "1.  Press F8 and open \"Sample flight.tmj\": its macro file comes with it.\n"
-           "2.  Or type a statement of your own, say \"BTN S2 SPC\": a button, and what it "
-           "presses.\n"
-           "3.  Press F11, and the compiler tells you whether the Cougar understands it."_s;
+           "2.  Press F2: the Composer writes statements for you, from pictures and forms.\n"
+           "3.  Type a statement of your own, say \"BTN S2 SPC\": a button, and what it "
+           "presses.\n\n"
+           "Then press F11, and the compiler tells you whether the Cougar understands it."_s;
 }
 
 CharFormat plainFormat(const ColourSettings &settings, DocumentKind kind)

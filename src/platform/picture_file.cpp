@@ -50,12 +50,8 @@ QImage onWhite(const QImage &image)
 
 Expected<PictureFile, QString> decode(const QByteArray &bytes, const QSize &atMost)
 {
-    QBuffer buffer;
-    buffer.setData(bytes);
-    buffer.open(QIODevice::ReadOnly);
-    QImageReader::setAllocationLimit(mostMegabytes);
-    QImageReader reader(&buffer, formatOf(pictureKind(bytes)));
-    const QSize size = reader.size();
+    // Before any decoder sees them.
+    const QSize size = claimedSize(bytes);
     if (qint64(size.width()) * size.height() > mostPixels) {
         return Unexpected<QString>(
             u"It says that it is %1 by %2 pixels, which is more than I can show."_s
@@ -65,6 +61,11 @@ Expected<PictureFile, QString> decode(const QByteArray &bytes, const QSize &atMo
     if (!isWholePicture(bytes)) {
         return Unexpected<QString>(u"It is damaged: a part of the file is missing."_s);
     }
+    QBuffer buffer;
+    buffer.setData(bytes);
+    buffer.open(QIODevice::ReadOnly);
+    QImageReader::setAllocationLimit(mostMegabytes);
+    QImageReader reader(&buffer, formatOf(pictureKind(bytes)));
     if (atMost.isValid() && (size.width() > atMost.width() || size.height() > atMost.height())) {
         reader.setScaledSize(size.scaled(atMost, Qt::KeepAspectRatio).expandedTo({ 1, 1 }));
     }
@@ -73,7 +74,7 @@ Expected<PictureFile, QString> decode(const QByteArray &bytes, const QSize &atMo
         return Unexpected<QString>(u"It is damaged: "_s + reader.errorString() + u'.');
     }
     const QImage opaque = onWhite(image);
-    return PictureFile{ opaque, size.isValid() ? size : opaque.size() };
+    return PictureFile{ opaque, size };
 }
 
 } // namespace

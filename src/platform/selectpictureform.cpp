@@ -26,6 +26,7 @@ SelectPictureForm::SelectPictureForm(QWidget *parent, const QString &title)
     setAcceptMode(QFileDialog::AcceptOpen);
     setFileMode(QFileDialog::ExistingFile);
     addPreview();
+    resize(width() + previewSize.width(), height());
     connect(this, &QFileDialog::currentChanged, this, &SelectPictureForm::showPreview);
     showPreview({});
 }

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Zeph authors
 // SPDX-License-Identifier: MIT
 
-#include "text/painter.h"
+#include "text/layout_passes.h"
 
 // The tables of passes. Their order is told and may not change, since a later pass paints over
 // earlier ones. The colour of a pass is the colour of its word.
@@ -92,6 +92,29 @@ Passes macroList()
     });
 }
 
+Passes layoutList()
+{
+    return passesOf({
+        { BTNorDEF, u"BTN"_w },
+        { OnlyWord, slashes },
+        { WordCheckWhole, u"CURVE"_w },
+        { OnlyWord, u"POV ARROWKEYS KEYPAD MOUSE"_w },
+        { JoyWordnotBracket,
+          u"USB DLY RPT KD KU MSX MSY MSZ RATE MOUSE SHIFTBTN CURVE TRIM HOLDTRIM LOCK "
+          u"THR_RANGE UNLOCK SWAP REVERSE FORWARD MOUSEXY MOUSEMOVE MOUSEROTATE"_w },
+        { OnlyWord,
+          u"REVERSE_LR REVERSE_UD REVERSE_DIR FORCED_CORNERS NOHOLD FORCE_MACROS NO_BUTTON "
+          u"ZERO_MOUSE STICK_OFF RUN_APP WINDOW_STYLE S3_LOCK S3_UNLOCK SHIFTBTN LASTVALUE"_w },
+        { OnlyWord, mouse },
+        { OnlyWord, u"REVERSE_TOGGLES RESET_TOGGLES"_w },
+        { OnlyWord, mouseAxes },
+        { OnlyWord, u"EMPTY_BUFFERS"_w },
+        { OnlyWord, axes },
+        { Bracket, brackets },
+        { REM, rem },
+    });
+}
+
 } // namespace
 
 std::span<const PaintPass> joystickPasses()
@@ -109,6 +132,12 @@ std::span<const PaintPass> macroPasses()
 std::span<const PaintPass> typingPasses()
 {
     static const Passes passes = joystickList(OnlyWord);
+    return passes;
+}
+
+std::span<const PaintPass> layoutPasses()
+{
+    static const Passes passes = layoutList();
     return passes;
 }
 

@@ -3,7 +3,8 @@
 
 #include "composer/control_search.h"
 
-#include <gtest/gtest.h>
+#include "composer/generators/logic_workbench.h"
+#include "tests/composer/generators/compilation.h"
 
 using namespace zeph;
 
@@ -43,6 +44,26 @@ TEST(OfferedControls, ATriggerWithoutStagesActsAsItsFirst)
 {
     EXPECT_EQ(offeredControls(u"TRIG", true), (QStringList{ u"TG1"_s, u"TG2"_s }));
     EXPECT_EQ(offeredControls(u"TRIG", false), QStringList{ u"TG1"_s });
+}
+
+TEST(OfferedControls, EachOfThemTakesEverythingThatThePageInserts)
+{
+    QStringList controls = offeredControls(u"TRIG", true);
+    for (int i = 0; i < 14; ++i)
+        controls += offeredControls(u"BTN_%1"_s.arg(i), true);
+    for (int i = 0; i < 4; ++i)
+        controls += offeredControls(u"HAT_%1"_s.arg(i), true);
+    ASSERT_EQ(controls.size(), 2 + 14 + 4 * 9);
+    test::Compilation compilation;
+    for (const QString &control : controls) {
+        compilation.add(buttonStatement(control));
+        for (const QStringView slash : slashButtons) {
+            const QString start = buttonStatement(control) + slash.toString() + u" a "_s;
+            for (const QString &more : { u""_s, u"DLY(60) b"_s, u"RPT(2) b"_s, u"Rem fire "_s })
+                compilation.add(start + more);
+        }
+    }
+    EXPECT_EQ(compilation.verdict(), "");
 }
 
 TEST(ControlSearch, GoesToTheEndOfTheFoundText)

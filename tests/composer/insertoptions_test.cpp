@@ -6,6 +6,7 @@
 #include "composer/composer_keys.h"
 #include "composer/composer_settings.h"
 #include "composer/macro_mirror.h"
+#include "composer/statementpreview.h"
 #include "documents/document_settings.h"
 #include "documents/editor_view.h"
 #include "editor/macros/macro_features.h"
@@ -14,6 +15,7 @@
 #include "tests/support/fixture.h"
 
 #include <QComboBox>
+#include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QSignalSpy>
@@ -30,7 +32,57 @@ class ComposerWindow : public test::TestIn<test::ComposerWorld>
 protected:
     void SetUp() override { showEditor(); }
     QTabWidget &tabs() { return control<QTabWidget>(u"SSTab1"_s); }
+    void refreshPreview() { composer()->findChild<StatementPreview *>()->refreshNow(); }
     ProfileFile store() const { return ProfileFile(paths.iniPath); }
+
+    /// Shows every tab of the tab widgets that are seen on a page, one inside the other, and tells
+    /// their captions.
+    template <class Then>
+    static void forEachNestedTab(const QWidget &page, const Then &then, const QString &path = {})
+    {
+        QTabWidget *outermost = nullptr;
+        for (auto *tabs : page.findChildren<QTabWidget *>()) {
+            outermost = outermost || !tabs->isVisible() ? outermost : tabs;
+        }
+        if (!outermost) {
+            then(path);
+            return;
+        }
+        for (int i = 0; i < outermost->count(); ++i) {
+            outermost->setCurrentIndex(i);
+            forEachNestedTab(*outermost->widget(i), then, path + u'/' + outermost->tabText(i));
+        }
+    }
+    /// The letters that Alt reaches in the window, one for each control that is seen.
+    QStringList mnemonicsInSight()
+    {
+        QStringList captions;
+        for (const auto *each : composer()->findChildren<QWidget *>()) {
+            if (!each->isVisible()) {
+                continue;
+            }
+            const auto *label = qobject_cast<const QLabel *>(each);
+            if (const auto *button = qobject_cast<const QAbstractButton *>(each)) {
+                captions.append(button->text());
+            } else if (const auto *group = qobject_cast<const QGroupBox *>(each)) {
+                captions.append(group->title());
+            } else if (label && label->buddy()) {
+                captions.append(label->text());
+            } else if (const auto *bar = qobject_cast<const QTabBar *>(each)) {
+                for (int i = 0; i < bar->count(); ++i) {
+                    captions.append(bar->tabText(i));
+                }
+            }
+        }
+        QStringList letters;
+        for (const QString &caption : captions) {
+            const QKeySequence key = QKeySequence::mnemonic(caption);
+            if (!key.isEmpty()) {
+                letters.append(key.toString());
+            }
+        }
+        return letters;
+    }
 };
 
 } // namespace
@@ -86,28 +138,49 @@ TEST_F(ComposerWindow, IsNoLargerThanASmallScreen)
 TEST_F(ComposerWindow, NoMnemonicIsTwiceInSight)
 {
     open();
-    const auto letterOf = [](const QString &caption) {
-        const qsizetype mark = QString(caption).replace(u"&&"_s, u"  "_s).indexOf(u'&');
-        return mark < 0 ? QString() : caption.mid(mark + 1, 1).toUpper();
+    for (int index = 0; index < InsertOptions::pageCount; ++index) {
+        composer()->showPage(InsertOptions::Page(index));
+        forEachNestedTab(*composer()->page(InsertOptions::Page(index)), [this](const QString &tab) {
+            QStringList letters = mnemonicsInSight();
+            EXPECT_GT(letters.size(), 9) << tab.toStdString();
+            letters.sort();
+            const QString all = letters.join(u' ');
+            EXPECT_EQ(letters.removeDuplicates(), 0)
+                << tab.toStdString() << ": " << all.toStdString();
+        });
+    }
+}
+
+TEST_F(ComposerWindow, APagesHeightGoesToThePageAndNotBelowThePreview)
+{
+    InsertOptions &window = open();
+    const auto heightOfPages = [this] {
+        return tabs().height();
     };
-    for (const auto page : { InsertOptions::Composer, InsertOptions::Templates }) {
-        composer()->showPage(page);
-        QStringList letters;
-        for (const auto *button : composer()->findChildren<QAbstractButton *>()) {
-            letters.append(button->isVisible() ? letterOf(button->text()) : QString());
-        }
-        for (const auto *label : composer()->findChildren<QLabel *>()) {
-            letters.append(label->isVisible() && label->buddy() ? letterOf(label->text())
-                                                                : QString());
-        }
-        for (const auto *bar : composer()->findChildren<QTabBar *>()) {
-            for (int i = 0; bar->isVisible() && i < bar->count(); ++i) {
-                letters.append(letterOf(bar->tabText(i)));
-            }
-        }
-        letters.removeAll(QString());
-        EXPECT_GT(letters.size(), 10);
-        EXPECT_EQ(letters.removeDuplicates(), 0) << letters.join(u' ').toStdString();
+    window.resize(980, 640);
+    QApplication::processEvents();
+    for (const auto page : { InsertOptions::Composer, InsertOptions::Hats, InsertOptions::Templates,
+                             InsertOptions::AnalogueAxis }) {
+        window.showPage(page);
+        QApplication::processEvents();
+        const int before = heightOfPages();
+        window.resize(980, 690);
+        QApplication::processEvents();
+        EXPECT_EQ(heightOfPages(), before + 50) << int(page);
+        window.resize(980, 640);
+        QApplication::processEvents();
+    }
+}
+
+TEST_F(ComposerWindow, ThePicturesAreLargeEnoughToPointAtInTheLeastWindow)
+{
+    InsertOptions &window = open();
+    window.resize(window.minimumSizeHint());
+    QApplication::processEvents();
+    for (const char16_t *hotSpot : { u"BTN_0", u"HAT_0", u"TRIG" }) {
+        const QSize size = control<QAbstractButton>(QStringView(hotSpot).toString()).size();
+        EXPECT_GE(std::min(size.width(), size.height()), 20)
+            << QStringView(hotSpot).toUtf8().toStdString();
     }
 }
 
@@ -179,6 +252,35 @@ TEST_F(ComposerWindow, CtrlTabTurnsTheMainPagesFromANestedTabToo)
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab, Qt::ControlModifier);
     EXPECT_EQ(tabs().currentIndex(), 1);
     EXPECT_EQ(nested.currentIndex(), 0);
+}
+
+TEST_F(ComposerWindow, TabGoesFromTheTabsThroughThePageToThePreviewAndTheButtons)
+{
+    InsertOptions &window = open();
+    const auto part = [this, &window](const QWidget *at) {
+        const auto isIn = [at](const QWidget &whole) {
+            return &whole == at || whole.isAncestorOf(at);
+        };
+        return isIn(*window.page(InsertOptions::Page(tabs().currentIndex()))) ? u"page"_s
+            : isIn(control<QWidget>(u"PlacePreview"_s))                       ? u"preview"_s
+            : isIn(tabs())                                                    ? u"tabs"_s
+                                                                              : u"buttons"_s;
+    };
+    // A page that is made before another one, and both of them after the window.
+    for (const auto page :
+         { InsertOptions::Logical, InsertOptions::Composer, InsertOptions::Hats }) {
+        window.showPage(page);
+        tabs().setFocus();
+        QStringList parts{ u"tabs"_s };
+        do {
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+            if (part(QApplication::focusWidget()) != parts.last()) {
+                parts.append(part(QApplication::focusWidget()));
+            }
+        } while (parts.size() < 9 && parts.last() != u"tabs");
+        EXPECT_EQ(parts,
+                  (QStringList{ u"tabs"_s, u"page"_s, u"preview"_s, u"buttons"_s, u"tabs"_s }));
+    }
 }
 
 TEST_F(ComposerWindow, HelpAndF1OpenThePagesTopic)
@@ -337,4 +439,94 @@ TEST_F(ComposerWindow, APageShownFromElsewhereIsInFront)
     tools->openTemplates();
     EXPECT_EQ(tabs().currentIndex(), InsertOptions::Templates);
     EXPECT_TRUE(control<QWidget>(u"TemplatesPage"_s).isVisible());
+}
+
+TEST_F(ComposerWindow, TheCallAtTheCaretIsReadAndReplaced)
+{
+    open();
+    const QString before = u"BTN S1 /I TRIM (JOYY, 2-)\n       /O TRIM (JOYY, 2+) Rem back"_s;
+    setJoystick(before, int(before.indexOf(u"2+")));
+    click(u"CMD_ReadStatement"_s);
+    EXPECT_EQ(tabs().currentIndex(), InsertOptions::AnalogueAxis);
+    EXPECT_EQ(control<QLineEdit>(u"TextAnalogueAxes_1"_s).text(), u"2"_s);
+    control<QLineEdit>(u"TextAnalogueAxes_1"_s).setText(u"9"_s);
+    click(u"CMD_ReplaceStatement"_s);
+    EXPECT_EQ(joystick().text(),
+              u"BTN S1 /I TRIM (JOYY, 2-)\n       /O TRIM (JOYY, 9+) Rem back"_s);
+    joystick().undo();
+    EXPECT_EQ(joystick().text(), before);
+}
+
+TEST_F(ComposerWindow, TheHalfAtTheCaretIsReadAndReplaced)
+{
+    open().showPage(InsertOptions::DigitalAxis);
+    const QString before = u"RNG /I 3 a ^ b Rem in\n    /O 3 b ^ a"_s;
+    setJoystick(before, int(before.indexOf(u"/O")) - 2);
+    click(u"CMD_ReadStatement"_s);
+    EXPECT_TRUE(control<QAbstractButton>(u"CheckUMDIOdigital"_s).isChecked());
+    EXPECT_EQ(control<QLineEdit>(u"RTB_digitalAxis_4"_s).text(), u"b"_s);
+    control<QLineEdit>(u"RTB_digitalAxis_4"_s).setText(u"c"_s);
+    // Twice: no blank may come with the second one.
+    click(u"CMD_ReplaceStatement"_s);
+    EXPECT_EQ(joystick().text(), u"RNG /I 3 a ^ b Rem in\n    /O 3 c ^ a"_s);
+    control<QLineEdit>(u"RTB_digitalAxis_4"_s).setText(u"d"_s);
+    click(u"CMD_ReplaceStatement"_s);
+    EXPECT_EQ(joystick().text(), u"RNG /I 3 a ^ b Rem in\n    /O 3 d ^ a"_s);
+}
+
+TEST_F(ComposerWindow, OnlyThePageThatWasFilledReplacesTheStatement)
+{
+    open();
+    setJoystick(u"USE CURVE (THR, 4)"_s, 3);
+    click(u"CMD_ReadStatement"_s);
+    auto &replace = control<QAbstractButton>(u"CMD_ReplaceStatement"_s);
+    EXPECT_TRUE(replace.isEnabled());
+    composer()->showPage(InsertOptions::DigitalAxis);
+    refreshPreview();
+    EXPECT_FALSE(replace.isEnabled());
+    composer()->showPage(InsertOptions::AnalogueAxis);
+    refreshPreview();
+    EXPECT_TRUE(replace.isEnabled());
+}
+
+TEST_F(ComposerWindow, ThePreviewFollowsTheBoxesOfTheFirstPage)
+{
+    open();
+    setJoystick(u"BTN S1 a\nBTN S2 "_s);
+    openMacros("Fire = a\r\n");
+    editor->documents().select(DocumentKind::Joystick);
+    const auto previewed = [this] {
+        refreshPreview();
+        return control<QTextEdit>(u"PreviewText"_s).toPlainText();
+    };
+    const auto landing = [this] {
+        return control<QLabel>(u"LabelLanding"_s).text();
+    };
+    QTest::keyClicks(&control<QLineEdit>(u"RemTextBox"_s), u"gear"_s);
+    EXPECT_EQ(previewed(), u"Rem gear "_s);
+    EXPECT_TRUE(landing().startsWith(u"Goes into line 2 of ")) << landing().toStdString();
+    control<QLineEdit>(u"DLYText_1"_s).clear();
+    QTest::keyClicks(&control<QLineEdit>(u"DLYText_1"_s), u"3"_s);
+    EXPECT_EQ(previewed(), u"RPT(3) "_s);
+    editor->documents().select(DocumentKind::Macro);
+    macro().select(0, 0);
+    control<QLineEdit>(u"DLYText_0"_s).clear();
+    QTest::keyClicks(&control<QLineEdit>(u"DLYText_0"_s), u"5"_s);
+    EXPECT_EQ(previewed(), u"DLY(5) "_s);
+    EXPECT_TRUE(landing().startsWith(u"Goes into line 1 of ")) << landing().toStdString();
+    EXPECT_TRUE(landing().endsWith(macro().caption())) << landing().toStdString();
+}
+
+TEST_F(ComposerWindow, CtrlEnterReplacesWhatWasRead)
+{
+    InsertOptions &window = open();
+    setJoystick(u"USE CURVE (THR, 4)"_s, 3);
+    click(u"CMD_ReadStatement"_s);
+    EXPECT_TRUE(window.isActiveWindow());
+    auto &value = control<QLineEdit>(u"TextAnalogueAxes_0"_s);
+    value.setText(u"5"_s);
+    value.setFocus();
+    QTest::keyClick(&value, Qt::Key_Return, Qt::ControlModifier);
+    // A button that is pressed by its key stays down for a moment.
+    EXPECT_TRUE(QTest::qWaitFor([this] { return joystick().text() == u"USE CURVE (THR, 5)"; }));
 }

@@ -56,6 +56,7 @@ TEST(ComposedPlacement, ABlankGoesBeforeWhatWouldTouchAWord)
     EXPECT_EQ(composedAt(within(u"DLY(60) "_s), { u' ', nothing }, false).text(), u"DLY(60) "_s);
     EXPECT_EQ(composedAt(within(u"DLY(60) "_s), { u'\n', nothing }, false).text(), u"DLY(60) "_s);
     EXPECT_EQ(composedAt(within(u"DLY(60) "_s), { nothing, u'x' }, false).text(), u"DLY(60) "_s);
+    EXPECT_EQ(composedAt(within(u" /O 3 a "_s), { u'x', nothing }, false).text(), u" /O 3 a "_s);
 }
 
 TEST(ComposedPlacement, AStatementThatStartsALineNeedsNoBlank)

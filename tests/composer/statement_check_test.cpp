@@ -39,6 +39,34 @@ TEST(Findings, ASecondStatementForTheSameControl)
     EXPECT_EQ(findings(u"BTN S2 a\n"_s, u"BTN S1 b"_s), QStringList());
 }
 
+TEST(Findings, ASecondUseOfTheSameControl)
+{
+    const QString file =
+        u"USE MTYPE A1\nuse hat1 as pov\nUSE  S1  AS DX2\nUSE HAT2_SENSITIVITY (5)\n"
+        "USE MIX AS MOUSEX (5, 5)\nUSE HAT3 FORCED_CORNERS\nUSE T1_SENSITIVITY(1)\n"
+        "USE RADIOSWITCH AS POV\nUSE X7 AS DX3\n"_s;
+    const std::pair<QString, QString> second[] = {
+        { u"USE HAT1 AS MOUSE (20)"_s, u"Line 2 has a statement for HAT1 already"_s },
+        { u"USE S1 AS DX3"_s, u"Line 3 has a statement for S1 already"_s },
+        { u"USE S1 AS SHIFTBTN"_s, u"Line 3 has a statement for S1 already"_s },
+        { u"USE HAT2_SENSITIVITY (7)"_s, u"Line 4 has a statement for HAT2_SENSITIVITY already"_s },
+        { u"USE MIX AS MOUSEY (2, 2) - REVERSE_DIR"_s,
+          u"Line 5 has a statement for MIX already"_s },
+        { u"USE HAT3 FORCED_CORNERS"_s, u"Line 6 has a statement for HAT3 already"_s },
+        { u"USE T1_SENSITIVITY (2)"_s, u"Line 7 has a statement for T1_SENSITIVITY already"_s },
+        { u"USE RADIOSWITCH AS KEYPAD"_s, u"Line 8 has a statement for RADIOSWITCH already"_s },
+    };
+    for (const auto &[statement, told] : second)
+        EXPECT_EQ(findings(file, statement), QStringList{ told });
+    for (const QString &first :
+         { u"USE HAT2 AS POV"_s, u"USE HAT1 FORCED_CORNERS"_s, u"USE HAT3_SENSITIVITY (5)"_s,
+           u"USE S2 AS DX2"_s, u"USE MIY AS MOUSEX (5, 5)"_s, u"BTN S1 a"_s, u"USE RATE (60)"_s,
+           u"USE ZEPH RUN_APP a.exe"_s, u"USE"_s })
+        EXPECT_EQ(findings(file, first), QStringList()) << first.toStdString();
+    const QString twice = u"USE ZEPH RUN_APP a.exe"_s;
+    EXPECT_EQ(findings(twice + u'\n', twice), QStringList());
+}
+
 TEST(Findings, MistakesElsewhereInTheFileAreNotTold)
 {
     EXPECT_EQ(findings(u"BTN S9 a\n"_s, u"BTN S1 b"_s), QStringList());
@@ -105,4 +133,47 @@ TEST(StatementAtCaret, ThereIsNoneInAnEmptyTextOrACommentsLine)
 {
     EXPECT_FALSE(statementAt(QString(), 0));
     EXPECT_FALSE(statementAt(u"Rem BTN S1 a\nBTN S2 b"_s, 4));
+}
+
+namespace {
+
+QStringList readableTexts(const QString &joystick, QStringView before)
+{
+    QStringList texts;
+    for (const ReadStatement &read : readableAt(joystick, int(joystick.indexOf(before))))
+        texts.append(read.text);
+    return texts;
+}
+
+} // namespace
+
+TEST(ReadableAtCaret, IsTheStatementAndTheCallAroundTheCaret)
+{
+    const QString text = u"USE RATE (50)\nBTN S1 /I TRIM (JOYY, 2-) a\n   /O TRIM (JOYY, 2+)"_s;
+    EXPECT_EQ(readableTexts(text, u"2-"),
+              (QStringList{ u"BTN S1 /I TRIM (JOYY, 2-) a\n   /O TRIM (JOYY, 2+)"_s,
+                            u"TRIM (JOYY, 2-)"_s }));
+    EXPECT_EQ(readableTexts(text, u"2+").last(), u"TRIM (JOYY, 2+)"_s);
+    EXPECT_EQ(readableTexts(text, u"S1").size(), 1);
+    const auto call = readableAt(text, int(text.indexOf(u"2+"))).last();
+    EXPECT_EQ(text.mid(call.start, call.length), u"TRIM (JOYY, 2+)"_s);
+}
+
+TEST(ReadableAtCaret, IsTheHalfOfAnAxisStatement)
+{
+    const QString text = u"RNG /I 3 a ^ b Rem in\n    /O 3 b ^ a Rem out"_s;
+    EXPECT_EQ(readableTexts(text, u"RNG").last(), u"RNG /I 3 a ^ b"_s);
+    EXPECT_EQ(readableTexts(text, u"Rem in").last(), u"RNG /I 3 a ^ b"_s);
+    EXPECT_EQ(readableTexts(text, u"    /O").last(), u"/O 3 b ^ a"_s);
+    EXPECT_EQ(readableTexts(text, u"Rem out").last(), u"/O 3 b ^ a"_s);
+    const auto readable = readableAt(text, int(text.indexOf(u"b ^ a")));
+    EXPECT_TRUE(readable.first().hasComments);
+    EXPECT_FALSE(readable.last().hasComments);
+    EXPECT_EQ(readableTexts(u"RNG 3 a ^ b"_s, u"a"), QStringList{ u"RNG 3 a ^ b"_s });
+}
+
+TEST(ReadableAtCaret, IsNothingWithoutAStatement)
+{
+    EXPECT_TRUE(readableAt(QString(), 0).isEmpty());
+    EXPECT_TRUE(readableAt(u"Rem TRIM (JOYY, 2+)"_s, 8).isEmpty());
 }

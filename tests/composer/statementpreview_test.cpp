@@ -7,9 +7,9 @@
 #include "platform/richtext/rich_text_box.h"
 #include "tests/support/composer_world.h"
 #include "tests/support/fixture.h"
+#include "tests/support/soon.h"
 
 #include <QLabel>
-#include <QTest>
 
 using namespace zeph;
 
@@ -70,11 +70,31 @@ TEST_F(Preview, ShowsTheStatementInItsColoursAndWhereItGoes)
 {
     setJoystick(u"BTN S2 a\nBTN S3 b"_s, 8);
     show(u"BTN S1 /U c"_s);
-    QTRY_COMPARE(text().toPlainText(), u"BTN S1 /U c"_s);
+    EXPECT_SOON_EQ(text().toPlainText(), u"BTN S1 /U c"_s);
     EXPECT_EQ(text().richText().formatAt(0).colour, settings.of<ColourSettings>().BTNColour);
     EXPECT_EQ(text().richText().formatAt(7).colour, settings.of<ColourSettings>().SlashColour);
     EXPECT_EQ(landing(), u"Goes into line 2 of Untitled.tmj"_s);
     EXPECT_EQ(findings(), QString());
+}
+
+TEST_F(Preview, ShowsNoLineEndsAfterTheStatement)
+{
+    show(u"DEF X1 S1\nBTN X1 a \n\n"_s);
+    preview.refreshNow();
+    EXPECT_EQ(text().toPlainText(), u"DEF X1 S1\nBTN X1 a "_s);
+}
+
+TEST_F(Preview, HasTheGroundOfTheFileWithNothingToShowToo)
+{
+    auto &colours = settings.of<ColourSettings>();
+    colours.BackgroundColour = 0x332211;
+    page.show({});
+    preview.refreshNow();
+    EXPECT_EQ(text().palette().color(QPalette::Base), QColor(0x11, 0x22, 0x33));
+    colours.BackgroundColour = 0x665544;
+    show(u"BTN S1 a"_s);
+    preview.refreshNow();
+    EXPECT_EQ(text().palette().color(QPalette::Base), QColor(0x44, 0x55, 0x66));
 }
 
 TEST_F(Preview, TellsWhatIsAgainstIt)
@@ -108,11 +128,11 @@ TEST_F(Preview, FollowsTheCaretAndTheText)
 {
     setJoystick(u"BTN S2 a\n\n\n"_s, 9);
     show(u"BTN S1 c"_s);
-    QTRY_COMPARE(landing(), u"Goes into line 2 of Untitled.tmj"_s);
+    EXPECT_SOON_EQ(landing(), u"Goes into line 2 of Untitled.tmj"_s);
     joystick().select(11, 0);
-    QTRY_COMPARE(landing(), u"Goes into line 4 of Untitled.tmj"_s);
+    EXPECT_SOON_EQ(landing(), u"Goes into line 4 of Untitled.tmj"_s);
     type(DocumentKind::Joystick, u"\n"_s);
-    QTRY_COMPARE(landing(), u"Goes into line 5 of Untitled.tmj"_s);
+    EXPECT_SOON_EQ(landing(), u"Goes into line 5 of Untitled.tmj"_s);
 }
 
 TEST_F(Preview, AStatementThatWasReadCanBeReplacedInOneStep)

@@ -202,29 +202,21 @@ TEST(ProgramCompile, AStatementOfTheComposerCompilesAndIsFoundAgain)
     const QByteArray statement = "BTN T1 /U Fire_Gun \r\n/M Release \r\n";
     const int line = int(pair.count('\n')) + 1;
 
-    const QStringList notes = program.run({ u"text MacroText ="_s,
-                                            u"keys JoystickText Ctrl+End"_s,
-                                            u"trigger mnuAppsComposer"_s,
-                                            u"window Composer"_s,
-                                            u"tab SSTabHardware 1"_s,
-                                            u"press BTN_4"_s,
-                                            u"pause 100"_s,
-                                            u"text JoystickText BTN T1 "_s,
-                                            u"press SlashButton_0"_s,
-                                            u"pause 100"_s,
-                                            u"keys List1_0 Home Return"_s,
-                                            u"press SlashButton_1"_s,
-                                            u"pause 100"_s,
-                                            u"keys List1_0 Down Return"_s,
-                                            u"note Panel_3"_s,
-                                            u"press BTN_4"_s,
-                                            u"text Panel_3 "_s + QString::number(line),
-                                            u"trigger mnuAppsCompile"_s,
-                                            u"box File successfully compiled!"_s,
-                                            u"press OK"_s,
-                                            u"done"_s,
-                                            u"close"_s },
-                                          { program.file(sample) });
+    const QString place = u"text Panel_3 Line no: "_s;
+    const QStringList notes = program.run(
+        { u"text MacroText ="_s, u"keys JoystickText Ctrl+End"_s, u"trigger mnuAppsComposer"_s,
+          u"window Composer"_s, u"tab SSTabHardware 1"_s, u"press BTN_4"_s,
+          u"text JoystickText BTN T1 "_s, u"press SlashButton_0"_s,
+          u"text JoystickText BTN T1 /U "_s, u"keys List1_0 Home Return"_s,
+          u"press SlashButton_1"_s, u"pause 100"_s, u"keys List1_0 Down Return"_s,
+          u"trigger mnuAppsCompile"_s, u"box File successfully compiled!"_s, u"press OK"_s,
+          u"done"_s,
+          // From the top of the file a second click goes to the statement and writes nothing.
+          u"keys JoystickText Ctrl+Home Down Down"_s, place + u'3', u"press BTN_4"_s,
+          place + QString::number(line), u"type JoystickText ?"_s,
+          u"text JoystickText BTN T1 ?/U Fire_Gun"_s, u"close"_s,
+          u"box  Save Sample flight.tmj now?"_s, u"press No"_s },
+        { program.file(sample) });
     EXPECT_THAT(lines(notes), Contains(HasSubstr(" compiled successfully.")));
     const QByteArray saved = program.read(sample);
     EXPECT_EQ(saved.count("BTN T1 "), 1);

@@ -84,7 +84,8 @@ QStringList makeMacroFile()
                        u"retype Text1 g"_s,
                        u"press Command1_4"_s,
                        u"text MacroText Gear_toggle = g"_s }
-    + turn(wizard, 9, 12) + QStringList{ u"press BTNinFrame_4"_s, u"text Panel_1 saved"_s }
+    + turn(wizard, 9, 12)
+        + QStringList{ u"press BTNinFrame_4"_s, u"text LabelFile Wiz.tmm, saved"_s }
     + turn(wizard, 12, 13) + QStringList{ u"press BTNinFrame_5"_s, u"done"_s }
     + turn(wizard, 13, 14) + QStringList{ u"press CommandAll_1"_s, u"gone "_s + wizard.title };
 }

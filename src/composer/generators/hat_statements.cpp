@@ -81,9 +81,9 @@ Generated forcedCorners(const QString &hat)
 
 std::optional<QString> readForcedCorners(QStringView statement)
 {
-    const StatementParts parts = statementParts(statement);
+    const auto parts = PartedStatement::of(statement);
     for (const QStringView hat : hatsWithCorners) {
-        if (areWords(parts, u"USE %1 FORCED_CORNERS"_s.arg(hat)))
+        if (parts && parts->isWords(u"USE %1 FORCED_CORNERS"_s.arg(hat)))
             return hat.toString();
     }
     return {};

@@ -84,15 +84,14 @@ Generated mouseTypeStatement(const MouseTypeFields &fields)
 
 std::optional<MouseTypeFields> readMouseType(QStringView statement)
 {
-    const StatementParts parts = statementParts(statement);
-    constexpr qsizetype beforeOptions = 3;
-    if (parts.size() < beforeOptions || !areWords(parts.first(2), u"USE MTYPE"_w))
+    const auto parts = PartedStatement::of(statement);
+    if (!parts || parts->useHead() != u"MTYPE"_w)
         return {};
-    const std::optional<UseOptions> options = readOptionTail(parts, beforeOptions);
+    const std::optional<UseOptions> options = readOptionTail(*parts, 1);
     if (!options || (*options & ~mouseTypeOptions))
         return {};
     for (const MouseType &type : mouseTypes) {
-        if (areWords(parts.sliced(2, 1), type.name))
+        if (parts->isWord(0, type.name))
             return MouseTypeFields{ type.name.toString(), *options };
     }
     return {};
@@ -192,21 +191,25 @@ Generated mouseCommand(MouseCommand command, const MouseCommandFields &fields)
 
 std::optional<ReadMouseCommand> readMouseCommand(QStringView text)
 {
-    const StatementParts parts = statementParts(text);
-    if (parts.size() == 1 && parts[0].inside && !parts[0].inside->isEmpty()) {
+    const auto parts = PartedStatement::of(text);
+    if (!parts)
+        return {};
+    const bool isOnePart = parts->size() == 1 && parts->head().isEmpty();
+    const auto inside = isOnePart ? parts->inside(0) : std::nullopt;
+    if (inside && !inside->isEmpty()) {
         for (const MouseCommand move : { MoveX, MoveY }) {
-            if (captionOf(move).compare(parts[0].word, Qt::CaseInsensitive) == 0)
-                return ReadMouseCommand{ move, { 0, *parts[0].inside } };
+            if (language::sameWord(captionOf(move), parts->word(0)))
+                return ReadMouseCommand{ move, { 0, inside->toString() } };
         }
         return {};
     }
     for (const int statement : { 0, 1 }) {
-        if (areWords(parts, buttonStatement(statement).simplified()))
+        if (parts->isWords(buttonStatement(statement).simplified()))
             return ReadMouseCommand{ ButtonStatement, { statement } };
     }
     for (int command = 0; command < mouseCommandCount; ++command) {
         const QStringView words = mouseCommands[size_t(command)].text;
-        if (!words.isEmpty() && areWords(parts, words))
+        if (!words.isEmpty() && parts->isWords(words))
             return ReadMouseCommand{ MouseCommand(command), {} };
     }
     return {};

@@ -81,6 +81,23 @@ QStringView PartedStatement::useHead() const
     return form < 0 ? QStringView() : useForms()[size_t(form)].head;
 }
 
+QStringList PartedStatement::head() const
+{
+    const Place &whole = statement().place;
+    const qsizetype end = m_parts.isEmpty() ? whole.end() : (*this)[0].place.position;
+    return m_pair->joystick.text.sliced(whole.position, end - whole.position)
+        .simplified()
+        .split(u' ', Qt::SkipEmptyParts);
+}
+
+bool PartedStatement::isWords(QStringView words) const
+{
+    QStringList own = head();
+    for (int part = 0; part < size(); ++part)
+        own.append(text(part).toString());
+    return std::ranges::equal(own, words.split(u' ', Qt::SkipEmptyParts), sameWord);
+}
+
 QStringView PartedStatement::text(int from, int to) const
 {
     if (from >= to)
@@ -96,6 +113,29 @@ QStringView PartedStatement::text(int from, int to) const
 bool PartedStatement::isWord(int part, QStringView word) const
 {
     return part < size() && sameWord(text(part), word);
+}
+
+QStringView PartedStatement::word(int part) const
+{
+    const QStringView whole = text(part);
+    switch ((*this)[part].kind) {
+    case ItemKind::Call:
+        return whole.first(nameEnd(whole, 0));
+    case ItemKind::Group:
+        return {};
+    default:
+        return whole;
+    }
+}
+
+std::optional<QStringView> PartedStatement::inside(int part) const
+{
+    const ItemKind kind = (*this)[part].kind;
+    if (kind != ItemKind::Call && kind != ItemKind::Group)
+        return {};
+    const QStringView whole = m_pair->joystick.at((*this)[part]);
+    const qsizetype bracket = kind == ItemKind::Call ? whole.indexOf(u'(') : 0;
+    return whole.sliced(bracket + 1).chopped(1);
 }
 
 std::optional<Arguments> PartedStatement::groupArguments(int part) const

@@ -27,6 +27,11 @@ public:
     /// The words that tell which USE statement it is, as useForms() spells them; empty for others.
     QStringView useHead() const;
 
+    /// The words before the first part: "USE", "HAT1" and "AS", "BTN" and "T1", or none.
+    QStringList head() const;
+    /// Whether head and parts are exactly these words, with one blank between them, in any case.
+    bool isWords(QStringView words) const;
+
     int size() const { return int(m_parts.size()); }
     const language::Item &operator[](int part) const { return items()[m_parts[part]]; }
     QStringView text(int part) const { return text(part, part + 1); }
@@ -34,6 +39,10 @@ public:
     QStringView text(int from, int to) const;
     /// Whether the part is this word, in any case.
     bool isWord(int part, QStringView word) const;
+    /// The part without its brackets; empty for brackets without a word before them.
+    QStringView word(int part) const;
+    /// What the part's brackets hold, as written; no value without brackets.
+    std::optional<QStringView> inside(int part) const;
     /// The arguments of a part that is brackets without a word; no value for anything else.
     std::optional<language::Arguments> groupArguments(int part) const;
     /// The arguments of a part that is this word with its brackets; no value for anything else.

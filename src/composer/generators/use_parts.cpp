@@ -3,17 +3,13 @@
 
 #include "composer/generators/use_parts.h"
 
-#include "language/model.h"
+#include "language/scan.h"
 
 namespace zeph {
 
 namespace {
 
-using language::Item;
-using language::ItemKind;
-using language::JoystickFile;
-using language::JoystickStatement;
-using language::Place;
+using language::sameWord;
 
 struct OptionWord {
     UseOption option;
@@ -26,31 +22,6 @@ constexpr OptionWord optionWords[] = {
     { UseOption::NoHold, u"NOHOLD"_w },          { UseOption::Kp5, u"KP5"_w },
     { UseOption::NoButton, u"NO_BUTTON"_w },
 };
-
-// The words at a place that end before the body begins: CURVE and the like are part of it.
-void addHead(StatementParts &parts, const JoystickFile &file, const Place &place, qsizetype body)
-{
-    if (place.position >= body)
-        return;
-    for (const QStringView word : file.at(place).split(u' ', Qt::SkipEmptyParts)) {
-        // Not moved: GCC would take the empty value inside for an uninitialised one.
-        const StatementPart part{ word.toString() };
-        parts.append(part);
-    }
-}
-
-// The part of an item; no value when its closing bracket is missing.
-std::optional<StatementPart> partOf(const JoystickFile &file, const Item &item)
-{
-    const QStringView text = file.at(item);
-    if (item.kind != ItemKind::Call && item.kind != ItemKind::Group)
-        return StatementPart{ text.toString() };
-    if (!item.closed)
-        return {};
-    const qsizetype bracket = item.kind == ItemKind::Call ? text.indexOf(u'(') : 0;
-    const QStringView inside = text.sliced(bracket + 1).chopped(1);
-    return StatementPart{ text.first(bracket).trimmed().toString(), inside.toString() };
-}
 
 } // namespace
 
@@ -70,51 +41,19 @@ QString optionTail(UseOptions options)
     return tail;
 }
 
-StatementParts statementParts(QStringView text)
-{
-    const language::FilePair pair = language::parsePair(text.toString(), {});
-    const JoystickFile &file = pair.joystick;
-    if (file.statements.size() != 1 || !file.strayBrackets.isEmpty())
-        return {};
-    const JoystickStatement &statement = file.statements.first();
-    const language::Range items = statement.body.items;
-    const qsizetype body =
-        items.isEmpty() ? file.text.size() : file.items[items.first].place.position;
-    StatementParts parts;
-    for (const Place &head : { statement.keyword, statement.subject, statement.tail })
-        addHead(parts, file, head, body);
-    for (int at = items.first; at < items.end; at = file.items[at].endItem) {
-        const std::optional<StatementPart> part = partOf(file, file.items[at]);
-        if (!part)
-            return {};
-        parts.append(*part);
-    }
-    return parts;
-}
-
-bool areWords(const StatementParts &parts, QStringView words)
-{
-    const QList<QStringView> list = words.split(u' ', Qt::SkipEmptyParts);
-    return std::ranges::equal(parts, list, [](const StatementPart &part, QStringView word) {
-        return !part.inside && part.word.compare(word, Qt::CaseInsensitive) == 0;
-    });
-}
-
-std::optional<UseOptions> readOptionTail(const StatementParts &parts, qsizetype from)
+std::optional<UseOptions> readOptionTail(const PartedStatement &parts, int from)
 {
     UseOptions options;
     if (from == parts.size())
         return options;
-    if (from > parts.size() || !parts[from].word.startsWith(u'-'))
+    if (from > parts.size() || !parts.text(from).startsWith(u'-'))
         return {};
-    for (qsizetype at = from; at < parts.size(); ++at) {
-        const QStringView whole = parts[at].word;
+    for (int at = from; at < parts.size(); ++at) {
         const bool isFirst = at == from;
-        const QStringView word = isFirst ? whole.sliced(1) : whole;
-        const auto row = std::ranges::find_if(optionWords, [word](const OptionWord &option) {
-            return option.word.compare(word, Qt::CaseInsensitive) == 0;
-        });
-        if (row != std::end(optionWords) && !parts[at].inside)
+        const QStringView word = parts.text(at).sliced(isFirst ? 1 : 0);
+        const auto row = std::ranges::find_if(
+            optionWords, [word](const OptionWord &option) { return sameWord(option.word, word); });
+        if (row != std::end(optionWords))
             options |= row->option;
         else if (!(isFirst && word.isEmpty()) && word != u",")
             return {};
@@ -124,15 +63,23 @@ std::optional<UseOptions> readOptionTail(const StatementParts &parts, qsizetype 
 
 std::optional<RoleStatement> readRole(QStringView statement)
 {
-    const StatementParts parts = statementParts(statement);
-    constexpr qsizetype beforeOptions = 4;
-    if (parts.size() < beforeOptions || !areWords(parts.first(1), u"USE"_w)
-        || !areWords(parts.sliced(2, 1), u"AS"_w) || parts[1].inside)
+    const auto parts = PartedStatement::of(statement);
+    if (!parts)
         return {};
-    const std::optional<UseOptions> options = readOptionTail(parts, beforeOptions);
+    // Of an axis, name and AS are in the body.
+    QStringList words = parts->head();
+    int role = 0;
+    while (words.size() < 3 && role < parts->size())
+        words.append(parts->text(role++).toString());
+    if (words.size() != 3 || role == parts->size() || !sameWord(words[0], u"USE"_w)
+        || !sameWord(words[2], u"AS"_w))
+        return {};
+    const std::optional<UseOptions> options = readOptionTail(*parts, role + 1);
     if (!options)
         return {};
-    return RoleStatement{ parts[1].word, parts[3].word, parts[3].inside, *options };
+    const auto inside = parts->inside(role);
+    return RoleStatement{ words[1], parts->word(role).toString(),
+                          inside ? std::optional(inside->toString()) : std::nullopt, *options };
 }
 
 } // namespace zeph

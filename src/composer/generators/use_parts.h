@@ -3,13 +3,12 @@
 
 #pragma once
 
-// What the pages of hats and mouse share: the options after a USE statement, and statements taken
-// apart to fill a page's fields from them.
+// What the pages of hats and mouse share: the roles of USE statements and the options after them.
 
+#include "composer/generators/parted_statement.h"
 #include "text/text_lines.h"
 
 #include <QFlags>
-#include <QList>
 
 namespace zeph {
 
@@ -55,24 +54,8 @@ inline constexpr OptionBox checkHatUse[] = {
 /// " - " and the words with commas between them; empty without options.
 QString optionTail(UseOptions options);
 
-/// A word outside all brackets, a bracket group or a sign of a statement.
-struct StatementPart {
-    /// Empty for brackets without a word before them.
-    QString word;
-    /// What the brackets hold, as written; no value without brackets.
-    std::optional<QString> inside = {};
-};
-using StatementParts = QList<StatementPart>;
-
-/// The parts of a text that is one statement or piece of a statement, without its comments. Empty
-/// when the text holds several statements, or a bracket without its partner.
-StatementParts statementParts(QStringView text);
-
-/// Whether the parts are exactly these words, one blank apart in the text, in any case.
-bool areWords(const StatementParts &parts, QStringView words);
-
 /// The options from the part with this index on; no value if there is anything else.
-std::optional<UseOptions> readOptionTail(const StatementParts &parts, qsizetype from);
+std::optional<UseOptions> readOptionTail(const PartedStatement &parts, int from);
 
 /// "USE NAME AS ROLE", perhaps with brackets after the role and with options.
 struct RoleStatement {

@@ -148,13 +148,25 @@ std::optional<UseInsert> readProfile(const Parted &parted, UseFields &fields)
     return UseInsert::Profile;
 }
 
+/// Whether a text is nothing, or "WINDOW_STYLE = 3" and no more.
+bool isStyleClause(QStringView text)
+{
+    if (text.isEmpty())
+        return true;
+    const QStringView value = text.sliced(QStringView(u"WINDOW_STYLE"_w).size()).trimmed();
+    const QStringView style = value.sliced(value.startsWith(u'=') ? 1 : 0).trimmed();
+    return value.startsWith(u'=') && style.size() == 1 && style[0].isDigit();
+}
+
 std::optional<UseInsert> readApplication(const Parted &parted, UseFields &fields)
 {
     const auto rest = parted.restAfter(u"ZEPH RUN_APP"_w);
     if (!rest)
         return {};
     const RunAppTail tail = runAppTail(*rest);
-    fields.application = tail.command.toString();
+    if (!isStyleClause(rest->sliced(tail.command.size()).trimmed()))
+        return {};
+    fields.application = tail.command.trimmed().toString();
     fields.windowStyle = tail.style ? WindowStyle(*tail.style) : WindowStyle::MinimisedNoFocus;
     return UseInsert::Application;
 }

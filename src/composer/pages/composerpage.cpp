@@ -29,6 +29,9 @@ namespace {
 constexpr ControlMenuNames controlMenus{ u"mnuHatPos", u"MnuHatPostion", u"MnuHatCornerPostion",
                                          u"mnuTrigger", u"mnuTriggerStage" };
 
+/// Of what the file has on a control. A tool tip shows the rest.
+constexpr int leastLinesTold = 2;
+
 constexpr int usualDelay = 60;
 constexpr int usualBlanks = 5;
 
@@ -62,7 +65,8 @@ ComposerFirstPage::ComposerFirstPage(const ComposerParts &parts, QWidget *parent
     bind(m_ui->CheckMacroAddCR, settings.COMPaddCR);
     bind(m_ui->CheckCopyTicks, settings.COMPMacrosTickedCopy);
     m_ui->Text1_8->setText(QString::number(settings.NumberOfBlanks));
-    m_ui->LabelControl->setMinimumHeight(m_ui->LabelControl->fontMetrics().lineSpacing() * 4);
+    m_ui->LabelControl->setMinimumHeight(m_ui->LabelControl->fontMetrics().lineSpacing()
+                                         * leastLinesTold);
 }
 
 ComposerFirstPage::~ComposerFirstPage() = default;
@@ -135,6 +139,9 @@ void ComposerFirstPage::connectButtons()
     follow();
     connect(m_ui->DLYText_0, &QLineEdit::editingFinished, this,
             &ComposerFirstPage::DLYText_LostFocus);
+    showWhenEdited(m_ui->DLYText_0, &ComposerFirstPage::delay);
+    showWhenEdited(m_ui->DLYText_1, &ComposerFirstPage::repeat);
+    showWhenEdited(m_ui->RemTextBox, &ComposerFirstPage::remark);
     connect(m_ui->RemTextBox, &QLineEdit::returnPressed, m_ui->CommandREM, &QPushButton::click);
     connect(m_ui->Text1_8, &QLineEdit::textEdited, this, [this](const QString &text) {
         if (wholeOf(text) >= 1) {
@@ -164,10 +171,39 @@ void ComposerFirstPage::GetHandles()
 std::optional<Generated> ComposerFirstPage::current() const
 {
     const QString &pointed = m_pictures->pointed();
-    if (pointed.isEmpty()) {
-        return {};
+    if (!pointed.isEmpty()) {
+        return plainStatement(buttonStatement(pointed), true);
     }
-    return plainStatement(buttonStatement(pointed), true);
+    return m_edited ? std::optional((this->*m_edited)()) : std::nullopt;
+}
+
+bool ComposerFirstPage::isPiece() const
+{
+    return m_pictures->pointed().isEmpty();
+}
+
+Generated ComposerFirstPage::delay() const
+{
+    return plainStatement(u"DLY("_s + m_ui->DLYText_0->text() + u") "_s, false);
+}
+
+Generated ComposerFirstPage::repeat() const
+{
+    return plainStatement(u"RPT("_s + m_ui->DLYText_1->text() + u") "_s, false);
+}
+
+Generated ComposerFirstPage::remark() const
+{
+    const ColorRef colour = m_parts.context.settings.of<ColourSettings>().RemStatements;
+    return Statement{ { { remAndBlank.toString() + m_ui->RemTextBox->text() + u' ', colour } } };
+}
+
+void ComposerFirstPage::showWhenEdited(QLineEdit *box, Fragment fragment)
+{
+    connect(box, &QLineEdit::textEdited, this, [this, fragment] {
+        m_edited = fragment;
+        Q_EMIT changed();
+    });
 }
 
 void ComposerFirstPage::SlashButton_Click(int index)
@@ -193,9 +229,7 @@ void ComposerFirstPage::DlyRptButtons_Click(int index)
 {
     // A mnemonic runs the button while the box still has the focus.
     DLYText_LostFocus();
-    m_parts.inserter.insertIntoSelected(
-        index == 0 ? plainStatement(u"DLY("_s + m_ui->DLYText_0->text() + u") "_s, false)
-                   : plainStatement(u"RPT("_s + m_ui->DLYText_1->text() + u") "_s, false));
+    m_parts.inserter.insertIntoSelected(index == 0 ? delay() : repeat());
 }
 
 void ComposerFirstPage::Command7_Click(int index)
@@ -206,7 +240,7 @@ void ComposerFirstPage::Command7_Click(int index)
 
 void ComposerFirstPage::CommandREM_Click()
 {
-    m_parts.inserter.insertFragment(remAndBlank.toString() + m_ui->RemTextBox->text() + u' ',
+    m_parts.inserter.insertFragment(remark()->text(),
                                     m_parts.context.settings.of<ColourSettings>().RemStatements);
 }
 

@@ -27,8 +27,10 @@ public:
     ComposerFirstPage(const ComposerParts &parts, QWidget *parent);
     ~ComposerFirstPage() override;
 
-    /// What a click on the control that is pointed at would insert.
+    /// What a click on the control that is pointed at would insert; else what the button of the
+    /// box would that was edited last.
     std::optional<Generated> current() const override;
+    bool isPiece() const override;
     bool read(const QString &) override { return false; }
     void enter() override;
     void windowActivated() override;
@@ -47,6 +49,13 @@ private:
     void connectButtons();
     void connectMacros();
     void makeMenus();
+    /// What each button with a box inserts.
+    Generated delay() const;
+    Generated repeat() const;
+    Generated remark() const;
+    using Fragment = Generated (ComposerFirstPage::*)() const;
+    void showWhenEdited(QLineEdit *box, Fragment fragment);
+
     void SlashButton_Click(int index);
     void DlyRptButtons_Click(int index);
     void DLYText_LostFocus();
@@ -59,6 +68,7 @@ private:
     ControlPictures *m_pictures = nullptr;
     QMenu *mnuRHList = nullptr;
     QString m_menuMacro; ///< the macro that mnuRHList is about
+    Fragment m_edited = nullptr; ///< of the box that was edited last
 };
 
 } // namespace zeph

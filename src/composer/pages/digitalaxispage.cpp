@@ -205,7 +205,8 @@ void DigitalAxisPage::insert(int index)
 
 void DigitalAxisPage::keyPressEvent(QKeyEvent *event)
 {
-    const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    const bool isEnter = (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+        && !event->modifiers().testFlag(Qt::ControlModifier);
     QPushButton &button = *m_inserts[m_ui->SSTab3->currentIndex()];
     if (isEnter && button.isDefault())
         button.click();

@@ -150,6 +150,8 @@ void LogicalPage::makeLine(int index, QWidget *sheet)
     grid->addWidget(option, row, 0);
     grid->addWidget(line, row, 1);
     connect(line, &StatementLine::entered, option, [option] { option->setChecked(true); });
+    connect(line, &StatementLine::stepWanted, this,
+            [this, index](int step) { goToLine(index + step); });
     connect(line, &StatementLine::textChanged, this, [this, index] { lineEdited(index); });
 }
 
@@ -245,6 +247,14 @@ void LogicalPage::select(int index)
     }
     m_ui->SSTabFlags->setCurrentIndex(index / LogicWorkbench::linesPerTab);
     Q_EMIT changed();
+}
+
+void LogicalPage::goToLine(int index)
+{
+    if (index >= 0 && index < m_lines.count()) {
+        m_options[index]->setChecked(true);
+        m_lines[index]->setFocus();
+    }
 }
 
 void LogicalPage::lineEdited(int index)

@@ -51,6 +51,7 @@ private:
     void select(int index);
     /// The selected line if it is empty, else the first empty one, else the selected one.
     int freeLine() const;
+    void goToLine(int index);
     void lineEdited(int index);
     void append(QStringView word);
     void insertIntoJoystick(const std::optional<Statement> &statement);

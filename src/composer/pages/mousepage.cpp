@@ -84,6 +84,9 @@ void MousePage::connectButtons()
         connect(button, &QPushButton::clicked, this,
                 guarded(dialogs, [this, i](bool) { CMD_MouseButton_Click(MouseCommand(i)); }));
     }
+    for (QWidget *move : { m_ui->CMD_MouseButton_5, m_ui->CMD_MouseButton_6 }) {
+        move->installEventFilter(this);
+    }
     connect(m_ui->CMD_MouseWizard, &QPushButton::clicked, this,
             guarded(dialogs, [this](bool) { CMD_MouseWizard_Click(); }));
 }
@@ -97,11 +100,18 @@ std::optional<Generated> MousePage::current() const
         return axisAsMouse(axisFields());
     case ButtonTab:
         return mouseCommand(MouseCommand::ButtonStatement, commandFields());
+    case MoveTab:
+        return mouseCommand(m_move, commandFields());
     case ZeroTab:
         return mouseCommand(MouseCommand::ZeroMouse, commandFields());
     default:
         return {};
     }
+}
+
+bool MousePage::isPiece() const
+{
+    return m_ui->SSTab4->currentIndex() == MoveTab;
 }
 
 bool MousePage::read(const QString &statement)
@@ -250,6 +260,15 @@ void MousePage::CMD_MouseButton_Click(MouseCommand command)
         }
         m_parts.inserter.insertIntoSelected(statement);
     }
+}
+
+bool MousePage::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::FocusIn) {
+        m_move = watched == m_ui->CMD_MouseButton_6 ? MouseCommand::MoveY : MouseCommand::MoveX;
+        Q_EMIT changed();
+    }
+    return ComposerPage::eventFilter(watched, event);
 }
 
 void MousePage::CMD_MouseWizard_Click()

@@ -25,9 +25,11 @@ public:
     ~MousePage() override;
 
     std::optional<Generated> current() const override;
+    bool isPiece() const override;
     bool read(const QString &statement) override;
     void enter() override;
     void windowActivated() override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     void fillLists();
@@ -48,6 +50,8 @@ private:
     std::unique_ptr<Ui::MousePage> m_ui;
     OptionBoxes m_typeOptions;
     OptionBoxes m_axisOptions;
+    /// MSX or MSY, which take the same field: the one whose button had the focus last.
+    MouseCommand m_move = MouseCommand::MoveX;
 };
 
 } // namespace zeph

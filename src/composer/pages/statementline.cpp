@@ -98,12 +98,21 @@ void StatementLine::focusInEvent(QFocusEvent *event)
 
 void StatementLine::keyPressEvent(QKeyEvent *event)
 {
-    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter
-        || event->key() == Qt::Key_Escape) {
+    switch (event->key()) {
+    case Qt::Key_Escape:
         event->ignore();
-        return;
+        break;
+    case Qt::Key_Up:
+        Q_EMIT stepWanted(-1);
+        break;
+    case Qt::Key_Down:
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        Q_EMIT stepWanted(1);
+        break;
+    default:
+        RichTextBox::keyPressEvent(event);
     }
-    RichTextBox::keyPressEvent(event);
 }
 
 void StatementLine::insertFromMimeData(const QMimeData *source)

@@ -9,7 +9,8 @@
 namespace zeph {
 
 /// A text box of one line that shows a piece of joystick file in its colours, and paints it anew as
-/// it changes. Line ends that are dropped or pasted become blanks.
+/// it changes. Line ends that are dropped or pasted become blanks; Enter, Up and Down leave the
+/// line.
 class StatementLine : public RichTextBox
 {
     Q_OBJECT
@@ -29,6 +30,8 @@ public:
 Q_SIGNALS:
     /// The line has got the focus.
     void entered();
+    /// A key goes to the line before (-1) or to the next one (1).
+    void stepWanted(int step);
 
 protected:
     void focusInEvent(QFocusEvent *event) override;

@@ -249,7 +249,17 @@ void UsePage::useGroup(int index)
 
 std::optional<Generated> UsePage::current() const
 {
-    return generateUse(UseInsert(insertInFront()), fields());
+    return statementOf(UseInsert(insertInFront()));
+}
+
+Generated UsePage::statementOf(UseInsert insert) const
+{
+    Generated statement = generateUse(insert, fields());
+    if (statement) {
+        const QChar after = surroundingsOf(m_parts.documents.joystick()).after;
+        statement->pieces.last().text += blankBefore(after);
+    }
+    return statement;
 }
 
 bool UsePage::read(const QString &statement)
@@ -291,17 +301,11 @@ void UsePage::enter()
 void UsePage::insert(int index)
 {
     m_usedLast = index;
-    const UseFields fields = this->fields();
-    const auto question = questionBeforeUse(UseInsert(index), fields);
+    const auto question = questionBeforeUse(UseInsert(index), fields());
     if (question && !m_parts.context.dialogs.ask(question->title, question->text, question->icon)) {
         return;
     }
-    Generated statement = generateUse(UseInsert(index), fields);
-    if (statement) {
-        const QChar after = surroundingsOf(m_parts.documents.joystick()).after;
-        statement->pieces.last().text += blankBefore(after);
-    }
-    m_parts.inserter.insertComposed(statement);
+    m_parts.inserter.insertComposed(statementOf(UseInsert(index)));
 }
 
 void UsePage::browse(const UseBrowse &browse)

@@ -45,6 +45,8 @@ private:
     void connectRest();
 
     UseFields fields() const;
+    /// What a button inserts, with the blank that keeps it apart from what is after the caret.
+    Generated statementOf(UseInsert insert) const;
     void showFields(const UseFields &fields);
     HardwareStartup startup() const;
     void showProfiles();

@@ -8,6 +8,7 @@
 #include <QAbstractButton>
 #include <QKeyEvent>
 #include <QPainter>
+#include <QResizeEvent>
 
 #include <algorithm>
 #include <cmath>
@@ -103,7 +104,7 @@ protected:
             painter.drawRoundedRect(frame.adjusted(2.5, 2.5, -2.5, -2.5), round, round);
         }
         const QString caption = text().replace(u"&&"_s, u"&"_s);
-        painter.setFont(fitted(caption, frame.adjusted(2, 0, -2, 0).size()));
+        painter.setFont(fitted(caption));
         painter.setPen(ink());
         painter.drawText(frame, Qt::AlignCenter | Qt::TextSingleLine, caption);
     }
@@ -129,16 +130,18 @@ private:
             : underMouse() ? mixed(plain, text, 0.1)
                            : plain;
     }
-    /// The font in which a caption has room.
-    QFont fitted(const QString &caption, const QSizeF &room) const
+    /// The font in which a caption has room; the same for all captions that have it.
+    QFont fitted(const QString &caption) const
     {
+        constexpr qreal margins = 6;
+        const qreal cell = m_board->cellWidth();
+        const qreal room = cell * m_key.cell.width - margins;
+        qreal size = (cell * cellsPerKey - margins) * (caption.size() > 1 ? 0.43 : 0.55);
         QFont chosen = font();
-        const qreal key = std::min(room.width(), room.height());
-        qreal size = key * (caption.size() > 1 ? 0.4 : 0.5);
         chosen.setPixelSize(int(std::max(smallestText, size)));
         const qreal width = QFontMetricsF(chosen).horizontalAdvance(caption);
-        if (width > room.width()) {
-            size = chosen.pixelSize() * room.width() / width;
+        if (width > room) {
+            size = chosen.pixelSize() * room / width;
             chosen.setPixelSize(int(std::max(smallestText, size)));
         }
         return chosen;
@@ -150,9 +153,7 @@ private:
 
 KeyBoard::KeyBoard(QWidget *parent) : QWidget(parent)
 {
-    QSizePolicy policy(QSizePolicy::Expanding, QSizePolicy::Expanding);
-    policy.setHeightForWidth(true);
-    setSizePolicy(policy);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     for (const BoardKey &each : boardKeys()) {
         auto *made = new KeyButton(each, this);
         m_keys.emplace(each.index, made);
@@ -198,7 +199,8 @@ void KeyBoard::setShown(int index)
 
 QSize KeyBoard::sizeHint() const
 {
-    return boardCells * usualKey / cellsPerKey;
+    const QSize usual = boardCells * usualKey / cellsPerKey;
+    return { usual.width(), testAttribute(Qt::WA_Resized) ? fittingHeight() : usual.height() };
 }
 
 QSize KeyBoard::minimumSizeHint() const
@@ -206,15 +208,20 @@ QSize KeyBoard::minimumSizeHint() const
     return boardCells * smallestKey / cellsPerKey;
 }
 
-int KeyBoard::heightForWidth(int width) const
+int KeyBoard::fittingHeight() const
 {
-    return width * boardCells.height() / boardCells.width();
+    return std::max(width() * boardCells.height() / boardCells.width(),
+                    minimumSizeHint().height());
+}
+
+qreal KeyBoard::cellWidth() const
+{
+    return std::min(qreal(width()) / boardCells.width(), qreal(height()) / boardCells.height());
 }
 
 QRect KeyBoard::onWidget(const QRect &cells) const
 {
-    const qreal cell = std::min(qreal(width()) / boardCells.width(),
-                                qreal(height()) / boardCells.height());
+    const qreal cell = cellWidth();
     const QPointF corner((width() - cell * boardCells.width()) / 2,
                          (height() - cell * boardCells.height()) / 2);
     // Keys that touch on the board touch on the screen too: both round the same edge.
@@ -247,7 +254,7 @@ void KeyBoard::paintEvent(QPaintEvent *)
                               palette().color(QPalette::WindowText), 0.45),
                         1));
     const QRectF mouse = QRectF(onWidget(mouseCells)).adjusted(0.5, 0.5, -0.5, -0.5);
-    painter.drawRoundedRect(mouse, mouse.width() / 3, mouse.height() / 3);
+    painter.drawRoundedRect(mouse, mouse.width() / 8, mouse.width() / 8);
     const QRectF pov = QRectF(onWidget(povCells));
     painter.drawEllipse(pov.center(), pov.width() / 3, pov.width() / 3);
     QFont small = font();
@@ -263,6 +270,11 @@ void KeyBoard::paintEvent(QPaintEvent *)
 void KeyBoard::resizeEvent(QResizeEvent *event)
 {
     QWidget::resizeEvent(event);
+    if (event->size().width() != event->oldSize().width()) {
+        // A board with a height for its width could not give way where a window is low.
+        setMaximumHeight(fittingHeight());
+        updateGeometry();
+    }
     for (const auto &[index, key] : m_keys) {
         key->setGeometry(onWidget(key->key().cellRect()));
     }

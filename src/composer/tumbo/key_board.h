@@ -37,8 +37,6 @@ public:
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
-    bool hasHeightForWidth() const override { return true; }
-    int heightForWidth(int width) const override;
 
 Q_SIGNALS:
     /// A key was pressed.
@@ -51,6 +49,10 @@ protected:
 private:
     friend class KeyButton;
 
+    /// The height at which the board fills its width.
+    int fittingHeight() const;
+    /// A quarter of a usual key's width, in pixels.
+    qreal cellWidth() const;
     /// Where cells of the board are, in whole pixels.
     QRect onWidget(const QRect &cells) const;
     void moveFocus(int from, Qt::Key direction);

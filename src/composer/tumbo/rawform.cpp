@@ -88,6 +88,10 @@ RAWform::RAWform(const Context &context, Documents &documents, ComposerEditor &e
     m_menus->addTo(*bar);
     layout()->setMenuBar(bar);
     m_ui->LabelControl->setMinimumHeight(m_ui->LabelControl->fontMetrics().lineSpacing() * 2);
+    // So that nothing moves when the line comes, and the window is never too low for the help.
+    for (QLabel *each : { m_ui->LabelListen, m_ui->LabelBasicHelp }) {
+        each->setMinimumHeight(each->fontMetrics().lineSpacing() * 2);
+    }
     m_ui->ComboMacros->addItems(linesOfListFile(context.paths.inApp(u"DefaultMacros.txt")));
     m_ui->ComboMacros->clearEditText();
     GetTumboOptions();
@@ -212,8 +216,7 @@ void RAWform::SaveTumboOptions()
 
 void RAWform::PositionTumbo()
 {
-    resize(usualSize.width(), layout()->totalHeightForWidth(usualSize.width()));
-    resize(size().expandedTo(minimumSizeHint()).boundedTo(screen()->availableSize()));
+    resize(usualSize.expandedTo(minimumSizeHint()).boundedTo(screen()->availableSize()));
     const bool hadPlace =
         !ProfileFile(m_context.paths.iniPath).text(u"Tumbo", u"TumboLeft").isEmpty();
     if (!hadPlace && parentWidget()) {
@@ -243,9 +246,16 @@ void RAWform::ResizeTumbo()
     if (!isVisible() || isMaximized()) {
         return;
     }
-    layout()->activate();
-    const int wanted = layout()->totalHeightForWidth(width());
-    resize(width(), std::min(wanted, screen()->availableSize().height()));
+    // What was hidden or shown a moment ago has not reached the layouts yet.
+    for (QLayout *each : { m_ui->FrameKey->layout(), layout() }) {
+        each->invalidate();
+        each->activate();
+    }
+    // With the pictures it takes the room that they have usually; without them, what it needs.
+    const int wanted = options().TumboControlBox ? usualSize.height()
+                                                 : layout()->totalHeightForWidth(width());
+    resize(QSize(width(), std::min(wanted, screen()->availableSize().height()))
+               .expandedTo(minimumSizeHint()));
 }
 
 void RAWform::showParts()

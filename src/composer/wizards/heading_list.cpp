@@ -5,8 +5,8 @@
 
 #include "composer/statement_inserter.h"
 #include "composer/wizards/macro_lines.h"
-#include "text/insert_blocks.h"
 #include "platform/dialogs.h"
+#include "text/insert_blocks.h"
 
 #include <QShortcut>
 

@@ -21,6 +21,7 @@ namespace {
 
 constexpr double titleScale = 1.3;
 constexpr QSize leastText(260, 120);
+constexpr double textMargin = 8;
 
 } // namespace
 
@@ -46,6 +47,7 @@ LessonFrame::LessonFrame(const Context &context, const LessonPage &page, Documen
     m_text->setAccessibleName(page.title.toString());
     m_text->setOpenLinks(false);
     m_text->setMinimumSize(leastText);
+    m_text->document()->setDocumentMargin(textMargin);
     middle->addWidget(m_text, 3);
 }
 

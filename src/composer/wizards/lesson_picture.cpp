@@ -10,6 +10,8 @@
 #include <QPainter>
 #include <QSvgRenderer>
 
+#include <algorithm>
+
 namespace zeph {
 
 namespace {
@@ -32,8 +34,16 @@ QList<QRect> ringsOf(const LessonPage &page)
     QList<QRect> rings;
     const QList<QStringView> controls = page.controls.split(u' ', Qt::SkipEmptyParts);
     for (const ControlPlace &each : placesOn(drawing->name)) {
-        if (controls.contains(each.control)) {
-            rings.append(each.place.adjusted(-ringGap, -ringGap, ringGap, ringGap));
+        if (!controls.contains(each.control)) {
+            continue;
+        }
+        const QRect ring = each.place.adjusted(-ringGap, -ringGap, ringGap, ringGap);
+        const auto under = std::ranges::find_if(
+            rings, [&ring](const QRect &other) { return other.contains(ring.center()); });
+        if (under == rings.end()) {
+            rings.append(ring);
+        } else {
+            *under |= ring;
         }
     }
     return rings;

@@ -39,7 +39,8 @@ private:
     std::unique_ptr<QSvgRenderer> m_drawing;
 };
 
-/// The places of the page's controls on its picture of the Cougar, in its pixels.
+/// The places of the page's controls on its picture of the Cougar, in its pixels; controls that lie
+/// on one another have one place.
 QList<QRect> ringsOf(const LessonPage &page);
 
 } // namespace zeph

@@ -7,9 +7,9 @@
 #include "composer/statement_inserter.h"
 #include "composer/wizards/macro_lines.h"
 #include "documents/documents.h"
-#include "text/insert_blocks.h"
 #include "platform/dialogs.h"
 #include "settings/settings.h"
+#include "text/insert_blocks.h"
 #include "text/macro_table.h"
 #include "ui_macrofields.h"
 

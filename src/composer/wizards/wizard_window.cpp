@@ -10,6 +10,7 @@
 #include "ui_wizard_window.h"
 
 #include <QMap>
+#include <QPointer>
 #include <QShortcut>
 
 namespace zeph {
@@ -139,7 +140,9 @@ void WizardWindow::runButton(const WizardButton &button)
     if (button.isForFile) {
         m_parts.documents.select(m_lesson.kind);
     }
-    if (runEntry(m_parts.editor, m_parts.context.status, button.entry)) {
+    // A command may wait for a program, and its user close this window meanwhile.
+    const QPointer<WizardWindow> self(this);
+    if (runEntry(m_parts.editor, m_parts.context.status, button.entry) && self) {
         buttonRun(button.number);
     }
 }

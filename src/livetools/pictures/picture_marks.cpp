@@ -11,16 +11,17 @@
 
 #include <algorithm>
 #include <cmath>
-#include <functional>
 #include <numbers>
+#include <optional>
 
 namespace zeph {
 
 namespace {
 
 // All lengths are device-independent pixels.
-constexpr double lineWidth = 1.6;
-constexpr double borderWidth = 4;
+constexpr double lineWidth = 2;
+constexpr double borderWidth = 5;
+constexpr double letterBorder = 3;
 constexpr double crossSize = 9;
 constexpr double dotSize = 3;
 constexpr double arrowSize = 11;
@@ -112,7 +113,7 @@ public:
     void number(const QString &text, const QPointF &middle)
     {
         const QFontMetricsF metrics(m_painter.font());
-        QRectF box(0, 0, metrics.horizontalAdvance(text) + borderWidth, metrics.height());
+        QRectF box(0, 0, metrics.horizontalAdvance(text) + letterBorder, metrics.height());
         box.moveCenter(middle);
         for (const QRectF &taken : m_numbers) {
             if (taken.intersects(box)) {
@@ -123,10 +124,10 @@ public:
         box.moveTop(std::clamp(box.top(), 0.0, std::max(0.0, m_area.height() - box.height())));
         m_numbers.append(box);
         QPainterPath letters;
-        letters.addText(box.left() + borderWidth / 2, box.top() + metrics.ascent(),
+        letters.addText(box.left() + letterBorder / 2, box.top() + metrics.ascent(),
                         m_painter.font(), text);
         m_painter.strokePath(letters,
-                             QPen(dark, borderWidth, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+                             QPen(dark, letterBorder, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
         m_painter.fillPath(letters, light);
     }
 
@@ -136,31 +137,59 @@ private:
     QList<QRectF> m_numbers;
 };
 
-void drawRotation(Marks &marks, const Measures &measures, double zoom,
-                  const std::function<QPointF(QPointF)> &onArea)
+/// Straight up, down, left or right: the one that is farthest from all these directions.
+double freeDirection(const QList<double> &taken)
 {
-    const QPointF centre = onArea(*measures.from);
-    const double radius = radiusOf(measures);
-    const double drawn = radius * zoom;
-    const double arc = std::clamp(drawn, arcLeast, arcMost);
-    const double start = CalculateTheta1(measures);
-    const QPointF from = onArea(*measures.to);
-    marks.circle(centre, drawn);
-    marks.line(centre, towards(centre, 0, drawn), Qt::DotLine);
-    marks.line(centre, from);
-    marks.arc(centre, arc * startArc, start);
-    marks.dot(from);
-    marks.number(markNumber(start) + u'\u00b0', towards(centre, start, drawn + 3 * numberDistance));
-    if (measures.target) {
-        const double end = CalculateTheta2(measures);
-        const QPointF to = onArea(*measures.target);
-        marks.line(centre, to);
-        marks.arc(centre, arc * targetArc, end);
-        marks.arrowHead(centre, to);
-        marks.number(markNumber(end) + u'\u00b0', towards(centre, end, drawn + 3 * numberDistance));
+    double best = 0;
+    double bestRoom = -1;
+    for (const double direction : { 270.0, 90.0, 180.0, 0.0 }) {
+        double room = 180;
+        for (const double other : taken) {
+            room = std::min(room, std::abs(std::remainder(direction - other, 360)));
+        }
+        if (room > bestRoom) {
+            best = direction;
+            bestRoom = room;
+        }
     }
-    marks.cross(centre);
-    marks.number(u"r "_s + markNumber(radius), centre + QPointF(0, crossSize + 2 * numberDistance));
+    return best;
+}
+
+struct Rotation {
+    QPointF centre;
+    QPointF from;
+    std::optional<QPointF> to;
+    double drawnRadius;
+};
+
+void drawRotation(Marks &marks, const Measures &measures, const Rotation &drawn)
+{
+    const double arc = std::clamp(drawn.drawnRadius, arcLeast, arcMost);
+    const double start = CalculateTheta1(measures);
+    const double end = CalculateTheta2(measures);
+    const auto tell = [&marks, &drawn](double angle) {
+        marks.number(markNumber(angle) + u'\u00b0',
+                     towards(drawn.centre, angle, drawn.drawnRadius + 3 * numberDistance));
+    };
+    marks.circle(drawn.centre, drawn.drawnRadius);
+    marks.line(drawn.centre, towards(drawn.centre, 0, drawn.drawnRadius), Qt::DotLine);
+    marks.line(drawn.centre, drawn.from);
+    marks.arc(drawn.centre, arc * startArc, start);
+    marks.dot(drawn.from);
+    QList<double> taken = { 0, start };
+    if (drawn.to) {
+        marks.line(drawn.centre, *drawn.to);
+        marks.arc(drawn.centre, arc * targetArc, end);
+        marks.arrowHead(drawn.centre, *drawn.to);
+        taken.append(end);
+    }
+    marks.cross(drawn.centre);
+    tell(start);
+    if (drawn.to) {
+        tell(end);
+    }
+    marks.number(u"r "_s + markNumber(radiusOf(measures)),
+                 towards(drawn.centre, freeDirection(taken), crossSize + 2.5 * numberDistance));
 }
 
 } // namespace
@@ -194,7 +223,10 @@ void drawMarks(QPainter &painter, const Measures &measures, Gesture meaning, dou
         marks.line(from, onArea(*measures.to));
         marks.arrowHead(from, onArea(*measures.to));
     } else {
-        drawRotation(marks, measures, zoom, onArea);
+        const auto target =
+            measures.target ? std::optional(onArea(*measures.target)) : std::nullopt;
+        drawRotation(marks, measures,
+                     { from, onArea(*measures.to), target, radiusOf(measures) * zoom });
     }
 }
 

@@ -14,13 +14,14 @@ namespace zeph {
 namespace {
 
 constexpr double screenDpi = 96;
+constexpr double millimetresPerInch = 25.4;
 
 } // namespace
 
 QSize pageInPixels(const QPrinter &printer)
 {
-    const QSizeF inches = printer.pageLayout().paintRect(QPageLayout::Inch).size();
-    return (inches * screenDpi).toSize().expandedTo({ 1, 1 });
+    const QSizeF page = printer.pageLayout().paintRect(QPageLayout::Millimeter).size();
+    return (page / millimetresPerInch * screenDpi).toSize().expandedTo({ 1, 1 });
 }
 
 QList<QRect> pagesOf(const QSize &picture, const QSize &page)

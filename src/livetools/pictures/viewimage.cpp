@@ -136,7 +136,7 @@ void ViewImage::connectEntries()
 {
     MenuActions &on = *m_actions;
     on.connectTo(u"mnuImageOpen", [this] { mnuImageOpen_Click(); });
-    on.connectTo(u"mnuImageRefresh", [this] { mnuImageRefresh_Click(); });
+    on.connectTo(u"mnuImageRefresh", [this] { mnuImageLoad_Click(); });
     on.connectTo(u"mnuImageSave", [this] { mnuImageSave_Click(); });
     on.connectTo(u"mnuImagePrint", [this] { mnuImagePrint_Click(); });
     on.connectTo(u"mnuImageSize", [this] { mnuImageSize_Click(); });
@@ -185,9 +185,12 @@ void ViewImage::say(const QString &text, bool now)
 
 void ViewImage::showImageFile()
 {
-    const QString path = existingPath(m_context.settings.of<SharedSettings>().ImageFilePath);
-    const bool isShown = !picture().isNull() && path == m_path && writtenAt(path) == m_writtenAt;
-    if (!isShown) {
+    const QString named = m_context.settings.of<SharedSettings>().ImageFilePath;
+    const QString path = existingPath(named);
+    // A picture whose file is gone stays as well; a refresh tells it.
+    const bool isShown =
+        path.isEmpty() ? named == m_path : path == m_path && writtenAt(path) == m_writtenAt;
+    if (picture().isNull() || !isShown) {
         mnuImageLoad_Click();
     }
 }
@@ -251,11 +254,6 @@ void ViewImage::mnuImageOpen_Click()
     if (!mnuImageLoad_Click()) {
         imageFilePath = before;
     }
-}
-
-void ViewImage::mnuImageRefresh_Click()
-{
-    mnuImageLoad_Click();
 }
 
 void ViewImage::mnuImageSave_Click()

@@ -48,7 +48,6 @@ public:
     /// picture that was there stays.
     bool mnuImageLoad_Click();
     void mnuImageOpen_Click();
-    void mnuImageRefresh_Click();
     void mnuImageSave_Click();
     void mnuImagePrint_Click();
     void mnuImageSize_Click();

@@ -5,7 +5,9 @@
 
 #include <QtEndian>
 
+#include <algorithm>
 #include <cstdlib>
+#include <limits>
 
 namespace zeph {
 
@@ -17,6 +19,7 @@ class Numbers
 public:
     explicit Numbers(const QByteArray &bytes) : m_bytes(bytes) { }
 
+    qint64 size() const { return m_bytes.size(); }
     bool has(qint64 at, qint64 count) const { return at >= 0 && at + count <= m_bytes.size(); }
     quint8 byte(qint64 at) const { return has(at, 1) ? quint8(m_bytes[qsizetype(at)]) : 0; }
     template <class T> T little(qint64 at) const
@@ -32,43 +35,84 @@ private:
     const QByteArray &m_bytes;
 };
 
+/// The header of a bitmap, which is of one of two kinds.
+struct BitmapHeader {
+    explicit BitmapHeader(const Numbers &file) : isOld(file.little<quint32>(14) == oldLength)
+    {
+        width = isOld ? file.little<quint16>(18) : file.little<qint32>(18);
+        height = isOld ? file.little<quint16>(20) : file.little<qint32>(22);
+        depth = file.little<quint16>(isOld ? 24 : 28);
+    }
+
+    static constexpr quint32 oldLength = 12;
+    bool isOld;
+    qint64 width = 0;
+    qint64 height = 0; ///< below 0 when the lines go from top to bottom
+    qint64 depth = 0; ///< bits of a pixel
+};
+
 bool isWholeBitmap(const Numbers &file)
 {
-    constexpr quint32 oldHeader = 12;
     constexpr quint32 bitFields = 3;
+    const BitmapHeader header(file);
     const qint64 pixels = file.little<quint32>(10);
-    const bool isOld = file.little<quint32>(14) == oldHeader;
-    const qint64 width = isOld ? file.little<quint16>(18) : file.little<qint32>(18);
-    const qint64 height = isOld ? file.little<quint16>(20) : file.little<qint32>(22);
-    const qint64 depth = file.little<quint16>(isOld ? 24 : 28);
-    const quint32 compression = isOld ? 0 : file.little<quint32>(30);
-    if (width <= 0 || height == 0 || depth == 0) {
+    const quint32 compression = header.isOld ? 0 : file.little<quint32>(30);
+    if (header.width <= 0 || header.height == 0 || header.depth == 0) {
         return false;
     }
     if (compression != 0 && compression != bitFields) {
         return file.has(pixels, file.little<quint32>(34));
     }
-    const qint64 line = (width * depth + 31) / 32 * 4;
-    return file.has(pixels, line * std::abs(height));
+    const qint64 line = (header.width * header.depth + 31) / 32 * 4;
+    return file.size() >= pixels && (file.size() - pixels) / line >= std::abs(header.height);
 }
 
-bool isWholeJpeg(const QByteArray &bytes, const Numbers &file)
+constexpr quint8 startOfScan = 0xDA;
+
+/// Whether the segment says how large the picture is.
+bool isFrame(quint8 kind)
+{
+    constexpr quint8 huffmanTables = 0xC4;
+    constexpr quint8 reserved = 0xC8;
+    constexpr quint8 arithmeticTables = 0xCC;
+    return kind >= 0xC0 && kind <= 0xCF && kind != huffmanTables && kind != reserved
+        && kind != arithmeticTables;
+}
+
+/// The place of the first segment of a jpg that is wanted, or -1.
+template <class Wanted> qint64 findSegment(const Numbers &file, Wanted isWanted)
 {
     constexpr quint8 mark = 0xFF;
-    constexpr quint8 startOfScan = 0xDA;
     qint64 at = 2;
     while (file.byte(at) == mark) {
         const quint8 kind = file.byte(at + 1);
         if (kind == mark) {
             ++at;
-            continue;
+        } else if (isWanted(kind)) {
+            return at;
+        } else {
+            at += 2 + file.big<quint16>(at + 2);
         }
-        if (kind == startOfScan) {
-            return bytes.indexOf("\xFF\xD9", qsizetype(at)) >= 0;
-        }
-        at += 2 + file.big<quint16>(at + 2);
     }
-    return false;
+    return -1;
+}
+
+bool isWholeJpeg(const QByteArray &bytes, const Numbers &file)
+{
+    const qint64 scan = findSegment(file, [](quint8 kind) { return kind == startOfScan; });
+    return scan >= 0 && bytes.indexOf("\xFF\xD9", qsizetype(scan)) >= 0;
+}
+
+QSize jpegSize(const Numbers &file)
+{
+    const qint64 frame = findSegment(file, isFrame);
+    return frame < 0 ? QSize() : QSize(file.big<quint16>(frame + 7), file.big<quint16>(frame + 5));
+}
+
+QSize sizeOf(qint64 width, qint64 height)
+{
+    constexpr qint64 most = std::numeric_limits<int>::max();
+    return { int(std::clamp(width, qint64(0), most)), int(std::min(std::abs(height), most)) };
 }
 
 /// The place after a table of colours, if the flags say that there is one.
@@ -130,6 +174,26 @@ PictureKind pictureKind(const QByteArray &bytes)
         return PictureKind::Gif;
     }
     return bytes.startsWith("\x89PNG\r\n\x1A\n") ? PictureKind::Png : PictureKind::None;
+}
+
+QSize claimedSize(const QByteArray &bytes)
+{
+    const Numbers file(bytes);
+    switch (pictureKind(bytes)) {
+    case PictureKind::Bitmap: {
+        const BitmapHeader header(file);
+        return sizeOf(header.width, header.height);
+    }
+    case PictureKind::Jpeg:
+        return jpegSize(file);
+    case PictureKind::Gif:
+        return sizeOf(file.little<quint16>(6), file.little<quint16>(8));
+    case PictureKind::Png:
+        return sizeOf(file.big<quint32>(16), file.big<quint32>(20));
+    case PictureKind::None:
+        break;
+    }
+    return {};
 }
 
 bool isWholePicture(const QByteArray &bytes)

@@ -101,7 +101,18 @@ TEST(Curve, WritesEachFormAndHoldsItsLimits)
         { button(1, u"RNG"_s, u"2"_s), u"/R CURVE (RNG, 2)"_s },
         { button(2, u"RNG"_s, u"2"_s), u"/T CURVE (RNG, 2)"_s },
         { button(3, u"RNG"_s, u"2"_s), u"CURVE (RNG, 2)"_s },
-        { button(3, u"RNG"_s, u"-40"_s), wrong },
+        { button(3, u"RNG"_s, u"-32"_s), u"CURVE (RNG, -32)"_s },
+        { button(3, u"RNG"_s, u"-33"_s), wrong },
+        { button(0, u"RNG"_s, u"33"_s), wrong },
+        { button(0, u"RNG"_s, {}), u"/P CURVE (RNG, 0)"_s },
+        { button(0, {}, u"2"_s), missing },
+        { curve(0, false, u"MICROSTICK"_s, u"-32"_s), u"/U (MICROSTICK, -32)"_s },
+        { curve(0, false, u"MICROSTICK"_s, u"-33"_s), wrong },
+        { curve(1, false, u"THR"_s, u"32"_s), u"/M (THR, 32)"_s },
+        { curve(2, false, u"THR"_s, u"4"_s), u"/D (THR, 4)"_s },
+        { curve(3, false, u"THR"_s, u"4"_s), u"/I (THR, 4)"_s },
+        { curve(4, true, u"THR"_s, u"4"_s), u"CURVE /O (THR, 4)"_s, true },
+        { curve(0, true, {}, u"4"_s), missing },
     });
     EXPECT_EQ(use(u"THR"_s, u"33"_s).error().text,
               u"The curve value you have entered is invalid. It must lie between -32 and 32."_s);
@@ -135,6 +146,7 @@ TEST(Trim, AnEmptyValueIsAddedAsZero)
 TEST(ThrottleRange, EqualValuesAreRefused)
 {
     EXPECT_FALSE(range(true, u"50"_s, u"50"_s));
+    EXPECT_TRUE(range(true, u"49"_s, u"50"_s));
 }
 
 TEST(Trim, WritesEachTypeAndHoldsItsLimits)
@@ -158,6 +170,9 @@ TEST(Trim, WritesEachTypeAndHoldsItsLimits)
         { trim(Trim::Fixed, u"RDDR"_s, u"127.4"_s), u"TRIM (RDDR, 127.4)"_s },
         { trim(Trim::Fixed, u"RDDR"_s, u"-1"_s), wrong },
         { trim(Trim::Fixed, u"RDDR"_s, u"-0.4"_s), u"TRIM (RDDR, -0.4)"_s },
+        { trim(Trim::Fixed, u"RDDR"_s, u"128"_s), wrong },
+        { trim(Trim::Fixed, u"RDDR"_s, {}, true), u"TRIM (RDDR, 0)"_s },
+        { trim(Trim::Add, {}, u"2"_s), missing },
         { trim(Trim::ToCurrent, u"JOYSTICK"_s, u"n/a"_s), u"TRIM (JOYSTICK, TO_CURRENT)"_s },
         { trim(Trim::ToCurrent, u"JOYSTICK"_s, u"999"_s), u"TRIM (JOYSTICK, TO_CURRENT)"_s },
         { trim(Trim::ToCurrent, u"JOYSTICK"_s, u"0"_s), u"TRIM (JOYSTICK, 0)"_s },
@@ -201,6 +216,9 @@ TEST(AnalogueAxis, WritesDisableLockSwapAndReverse)
         { lock(u"THR"_s, u"50.5"_s), u"LOCK (THR, 50.5%)"_s },
         { lock(u"THR"_s, {}, true), u"LOCK (THR, LASTVALUE)"_s },
         { lock({}, u"50"_s), missing },
+        { lock({}, {}, true), missing },
+        { generateLock({ .unlocks = true }), missing },
+        { generateDisable(u"THR"_s), u"DISABLE THR"_s, true },
         { generateLock({ .unlocks = true, .axis = u"THR"_s, .value = u"9"_s }), u"UNLOCK (THR)"_s },
         { generateLock({ .unlocks = true, .axis = u"THR"_s, .toLastValue = true }),
           u"UNLOCK (THR)"_s },

@@ -4,9 +4,7 @@
 #include "composer/generators/digital_axis.h"
 #include "composer/generators/parted_statement.h"
 
-#include "language/checker.h"
-
-#include <gtest/gtest.h>
+#include "compilation.h"
 
 using namespace zeph;
 
@@ -45,37 +43,50 @@ QString fileWith(const Fields &fields, const QString &text)
     return fields.slash == 0 ? fields.axis + text : fields.axis + u" /U 3 a ^ b\n"_s + text;
 }
 
-QString findingsIn(const QString &file)
+class DigitalAxisStatements : public test::CompiledTest
 {
-    const QString macros = u"Right = a\nLeft = b\nMid = c\n"_s;
-    QString findings;
-    for (const language::Finding &finding : check(language::parsePair(file, macros)))
-        findings += finding.message + u'\n';
-    return findings;
-}
+protected:
+    DigitalAxisStatements() { compilation.setMacros(u"Right = a\nLeft = b\nMid = c\n"_s); }
 
-// Fails unless the statement is accepted and comes back with what its text tells.
-void expectRoundTrip(const Fields &fields)
-{
-    const Generated generated = generateDigitalAxis(fields);
-    ASSERT_TRUE(generated);
-    const QString text = generated->text();
-    ASSERT_EQ(findingsIn(fileWith(fields, text)), QString()) << text.toStdString();
-    const std::optional<Fields> back = readDigitalAxis(text);
-    ASSERT_TRUE(back) << text.toStdString();
-    const Generated again = generateDigitalAxis(*back);
-    ASSERT_TRUE(again) << text.toStdString();
-    ASSERT_EQ(again->text(), text);
-    EXPECT_EQ(back->type, fields.type);
-    EXPECT_EQ(back->axis, fields.withoutAxis ? QString() : fields.axis) << text.toStdString();
-    EXPECT_EQ(back->withoutAxis, fields.withoutAxis) << text.toStdString();
-    EXPECT_EQ(back->slash, fields.slash) << text.toStdString();
-    EXPECT_EQ(back->forceMacros, fields.forceMacros && fields.type != 3 && fields.type != 4)
-        << text.toStdString();
-    EXPECT_EQ(back->count, fields.count) << text.toStdString();
-    EXPECT_EQ(keysOf(*back), keysOf(fields)) << text.toStdString();
-    EXPECT_EQ(macrosOf(back->bands), macrosOf(fields.bands)) << text.toStdString();
-}
+    // Fails unless the statement comes back with what its text tells, and has it compiled.
+    void expectRoundTrip(const Fields &fields)
+    {
+        const Generated generated = generateDigitalAxis(fields);
+        ASSERT_TRUE(generated);
+        const QString text = generated->text();
+        compilation.add(fileWith(fields, text));
+        const std::optional<Fields> back = readDigitalAxis(text);
+        ASSERT_TRUE(back) << text.toStdString();
+        const Generated again = generateDigitalAxis(*back);
+        ASSERT_TRUE(again) << text.toStdString();
+        ASSERT_EQ(again->text(), text);
+        EXPECT_EQ(back->type, fields.type);
+        EXPECT_EQ(back->axis, fields.withoutAxis ? QString() : fields.axis) << text.toStdString();
+        EXPECT_EQ(back->withoutAxis, fields.withoutAxis) << text.toStdString();
+        EXPECT_EQ(back->slash, fields.slash) << text.toStdString();
+        EXPECT_EQ(back->forceMacros, fields.forceMacros && fields.type != 3 && fields.type != 4)
+            << text.toStdString();
+        EXPECT_EQ(back->count, fields.count) << text.toStdString();
+        EXPECT_EQ(keysOf(*back), keysOf(fields)) << text.toStdString();
+        EXPECT_EQ(macrosOf(back->bands), macrosOf(fields.bands)) << text.toStdString();
+    }
+
+    // Every axis, modifier and option with the type's own fields.
+    void expectRoundTrips(Fields fields)
+    {
+        for (const QStringView axis : digitalAxes) {
+            fields.axis = axis.toString();
+            for (int slash = 0; slash < int(digitalSlashes.size()); ++slash) {
+                fields.slash = slash;
+                for (unsigned bits = 0; bits < 4; ++bits) {
+                    fields.withoutAxis = (bits & 1) != 0;
+                    fields.forceMacros = (bits & 2) != 0;
+                    expectRoundTrip(fields);
+                }
+            }
+        }
+    }
+};
 
 Bands bandsWith(int type, int count, const QStringList &macros)
 {
@@ -84,22 +95,6 @@ Bands bandsWith(int type, int count, const QStringList &macros)
     for (int index = 0; index < bands.macros() && index < macros.size(); ++index)
         bands.setMacro(index, macros[index]);
     return bands;
-}
-
-// Every axis, modifier and option with the type's own fields.
-template <typename Function> void forEachHead(Fields fields, Function function)
-{
-    for (const QStringView axis : digitalAxes) {
-        fields.axis = axis.toString();
-        for (int slash = 0; slash < int(digitalSlashes.size()); ++slash) {
-            fields.slash = slash;
-            for (unsigned bits = 0; bits < 4; ++bits) {
-                fields.withoutAxis = (bits & 1) != 0;
-                fields.forceMacros = (bits & 2) != 0;
-                function(fields);
-            }
-        }
-    }
 }
 
 const QStringList &sampleKeys()
@@ -112,7 +107,7 @@ const QStringList &sampleKeys()
 
 } // namespace
 
-TEST(DigitalAxisReader, EveryCombinationOfTypesOneToFourIsAcceptedAndComesBack)
+TEST_F(DigitalAxisStatements, EveryCombinationOfTypesOneToFourIsAcceptedAndComesBack)
 {
     for (const QString &key : sampleKeys()) {
         for (const QString &other : { u"b"_s, u"Left"_s, u"SHF x"_s }) {
@@ -124,12 +119,12 @@ TEST(DigitalAxisReader, EveryCombinationOfTypesOneToFourIsAcceptedAndComesBack)
                 { .type = 4, .count = u"500"_s, .keys = { key, u"Mid"_s, other } },
             };
             for (const Fields &fields : types)
-                forEachHead(fields, expectRoundTrip);
+                expectRoundTrips(fields);
         }
     }
 }
 
-TEST(DigitalAxisReader, EveryCombinationOfBandsIsAcceptedAndComesBack)
+TEST_F(DigitalAxisStatements, EveryCombinationOfBandsIsAcceptedAndComesBack)
 {
     for (const QString &key : sampleKeys()) {
         const QList<Fields> types{
@@ -140,11 +135,11 @@ TEST(DigitalAxisReader, EveryCombinationOfBandsIsAcceptedAndComesBack)
             { .type = 6, .bands = bandsWith(6, 3, { u"b"_s, u""_s, key }) },
         };
         for (const Fields &fields : types)
-            forEachHead(fields, expectRoundTrip);
+            expectRoundTrips(fields);
     }
 }
 
-TEST(DigitalAxisReader, EveryCountComesBackWithEveryBorderMoved)
+TEST_F(DigitalAxisStatements, EveryCountIsAcceptedAndComesBackWithEveryBorderMoved)
 {
     for (int count = 1; count <= 50; ++count) {
         for (const int type : { 5, 6 }) {
@@ -159,7 +154,7 @@ TEST(DigitalAxisReader, EveryCountComesBackWithEveryBorderMoved)
     }
 }
 
-TEST(DigitalAxisReader, KeysThatAreBracketsOrModifiersComeBack)
+TEST_F(DigitalAxisStatements, KeysThatAreBracketsOrModifiersAreAcceptedAndComeBack)
 {
     const QStringList keys{ u"("_s, u")"_s, u"<"_s, u">"_s, u"{"_s,  u"}"_s,    u"["_s,   u"]"_s,
                             u","_s, u"-"_s, u"/"_s, u"%"_s, u"%1"_s, u"LSHF"_s, u"RCTL"_s };

@@ -69,6 +69,44 @@ TEST(PartedStatement, AUseStatementTellsItsHead)
     EXPECT_TRUE(PartedStatement::of(u"BTN S1 a")->useHead().isEmpty());
 }
 
+TEST(PartedStatement, WordsAndBracketsOfAPartAreTold)
+{
+    const auto parts = PartedStatement::of(u"use mix as MOUSEX ( 11, 2 ) - (a) KP5");
+    ASSERT_TRUE(parts);
+    EXPECT_EQ(parts->head(), QStringList{ u"use"_s });
+    ASSERT_EQ(parts->size(), 6);
+    EXPECT_EQ(parts->word(0), u"mix");
+    EXPECT_FALSE(parts->inside(0));
+    EXPECT_EQ(parts->word(2), u"MOUSEX");
+    EXPECT_EQ(parts->inside(2), u" 11, 2 ");
+    EXPECT_TRUE(parts->word(4).isEmpty());
+    EXPECT_EQ(parts->inside(4), u"a");
+}
+
+TEST(PartedStatement, TheHeadIsWhatComesBeforeTheParts)
+{
+    const auto headOf = [](QStringView statement) {
+        return PartedStatement::of(statement)->head().join(u' ');
+    };
+    EXPECT_EQ(headOf(u"USE  HAT1\tAS POV"), u"USE HAT1 AS"_s);
+    EXPECT_EQ(headOf(u"BTN T1 /H a"), u"BTN T1"_s);
+    EXPECT_EQ(headOf(u"USE PROFILE Night.tmc Rem x"), u"USE PROFILE Night.tmc"_s);
+    EXPECT_EQ(headOf(u"/O 3 a ^ b"), QString());
+    EXPECT_EQ(headOf(u"CURVE /I (THR, 4)"), QString());
+}
+
+TEST(PartedStatement, AStatementIsExactlyItsWords)
+{
+    const auto isWords = [](QStringView statement, QStringView words) {
+        return PartedStatement::of(statement)->isWords(words);
+    };
+    EXPECT_TRUE(isWords(u"btn t1/h  mouse_lb Rem fire", u"BTN T1 /H MOUSE_LB"));
+    EXPECT_TRUE(isWords(u"USE HAT1\n FORCED_CORNERS", u"USE HAT1 FORCED_CORNERS"));
+    EXPECT_FALSE(isWords(u"USE HAT1 FORCED_CORNERS x", u"USE HAT1 FORCED_CORNERS"));
+    EXPECT_FALSE(isWords(u"USE HAT1", u"USE HAT1 FORCED_CORNERS"));
+    EXPECT_FALSE(isWords(u"DISABLE MOUSE (1)", u"DISABLE MOUSE"));
+}
+
 TEST(PartedStatement, AnAxisWithAChoiceOfDefinitionsHasHalves)
 {
     EXPECT_EQ(halvesOf(u"THR 3 a ^ b"_s), QStringList{ u"THR 3 a ^ b"_s });

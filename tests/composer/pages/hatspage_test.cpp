@@ -85,6 +85,11 @@ TEST_F(HatsPageTest, TheStatementHasTheColoursOfTyping)
     click(u"CMDHatViewInsert_0"_s);
     ASSERT_EQ(joystick().text(), u"USE HAT1 AS MOUSE (20) - REVERSE_UD"_s);
     EXPECT_EQ(coloursOf(joystick()), u"mmm......mm.mmmmm.r..r...mmmmmmmmmm"_s);
+    control<QTabWidget>(u"SSTabHats"_s).setCurrentIndex(1);
+    setJoystick(QString());
+    click(u"CMDHatViewInsert_1"_s);
+    ASSERT_EQ(joystick().text(), u"USE HAT1 FORCED_CORNERS"_s);
+    EXPECT_EQ(coloursOf(joystick()), u"mmm......mmmmmmmmmmmmmm"_s);
 }
 
 TEST_F(HatsPageTest, AProtectedMacroFileDoesNotStopTheHats)
@@ -94,6 +99,12 @@ TEST_F(HatsPageTest, AProtectedMacroFileDoesNotStopTheHats)
     chooseHat(u"HAT1"_s, u"POV"_s);
     click(u"CMDHatViewInsert_0"_s);
     EXPECT_EQ(joystick().text(), u"USE HAT1 AS POV"_s);
+    setMacro(u"Fire = SPC"_s);
+    control<QTabWidget>(u"SSTabHats"_s).setCurrentIndex(1);
+    setJoystick(QString());
+    click(u"CMDHatViewInsert_1"_s);
+    EXPECT_EQ(joystick().text(), u"USE HAT1 FORCED_CORNERS"_s);
+    EXPECT_EQ(macro().text(), u"Fire = SPC"_s);
 }
 
 TEST_F(HatsPageTest, RatesFrom1To127AndNoRateAreTaken)

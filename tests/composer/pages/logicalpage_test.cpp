@@ -164,6 +164,31 @@ TEST_F(LogicalPageTest, ALineThatGetsTheFocusSelectsItsOption)
     EXPECT_EQ(line(7), u"OR"_s);
 }
 
+TEST_F(LogicalPageTest, EnterAndArrowsGoFromLineToLineAndFromTabToTab)
+{
+    box(10).setFocus();
+    QTest::keyClick(&box(10), Qt::Key_Down);
+    EXPECT_EQ(composer()->focusWidget(), &box(11));
+    EXPECT_TRUE(option(11).isChecked());
+    QTest::keyClick(&box(11), Qt::Key_Return);
+    EXPECT_EQ(composer()->focusWidget(), &box(12));
+    EXPECT_EQ(control<QTabWidget>(u"SSTabFlags"_s).currentIndex(), 1);
+    QTest::keyClick(&box(12), Qt::Key_Up);
+    EXPECT_EQ(composer()->focusWidget(), &box(11));
+    EXPECT_EQ(control<QTabWidget>(u"SSTabFlags"_s).currentIndex(), 0);
+}
+
+TEST_F(LogicalPageTest, TheFirstLineHasNoneBeforeItAndTheLastNoneAfter)
+{
+    box(0).setFocus();
+    QTest::keyClick(&box(0), Qt::Key_Up);
+    EXPECT_EQ(composer()->focusWidget(), &box(0));
+    option(95).click();
+    box(95).setFocus();
+    QTest::keyClick(&box(95), Qt::Key_Down);
+    EXPECT_EQ(composer()->focusWidget(), &box(95));
+}
+
 TEST_F(LogicalPageTest, AnotherTabSelectsALineThatIsSeen)
 {
     control<QTabWidget>(u"SSTabFlags"_s).setCurrentIndex(2);

@@ -1,12 +1,16 @@
 // SPDX-FileCopyrightText: The Zeph authors
 // SPDX-License-Identifier: MIT
 
+#include "platform/richtext/rich_text_box.h"
 #include "tests/composer/pages/page_fixture.h"
+#include "tests/support/soon.h"
 
 #include <QAction>
 #include <QLabel>
 #include <QListWidget>
 #include <QTabWidget>
+
+#include <tuple>
 
 using namespace zeph;
 
@@ -247,6 +251,27 @@ TEST_F(MousePageTest, TheMovesRefuseWithoutAValue)
     EXPECT_EQ(composer()->focusWidget()->objectName(), u"TXT_DigitalAxis_8"_s);
 }
 
+TEST_F(MousePageTest, TheMoveThatHadTheFocusLastIsShownWhereItGoes)
+{
+    showTab(MoveTab);
+    auto &shown = control<RichTextBox>(u"PreviewText"_s);
+    auto &landing = control<QLabel>(u"LabelLanding"_s);
+    setJoystick(u"BTN S4 x"_s, 7);
+    EXPECT_SOON_EQ(landing.text(), u"You need to enter a value - the textbox is empty"_s);
+    write(u"TXT_DigitalAxis_8"_s, u"5+"_s);
+    EXPECT_SOON_EQ(shown.toPlainText(), u"MSX(5+) "_s);
+    EXPECT_EQ(landing.text(), u"Goes into line 1 of Untitled.tmj"_s);
+    control<QWidget>(u"CMD_MouseButton_6"_s).setFocus();
+    EXPECT_SOON_EQ(shown.toPlainText(), u"MSY(5+) "_s);
+    setMacro(u"Fire = a\nTurn = "_s);
+    EXPECT_SOON_EQ(landing.text(), u"Goes into line 2 of Untitled.tmm"_s);
+    // A piece of a statement takes no whole statement's place.
+    readFromFile(u"USE MTYPE A4"_s);
+    EXPECT_TRUE(isEnabled(u"CMD_ReplaceStatement"_s));
+    showTab(MoveTab);
+    EXPECT_SOON_EQ(isEnabled(u"CMD_ReplaceStatement"_s), false);
+}
+
 TEST_F(MousePageTest, ZeroMouseIsAWholeStatement)
 {
     showTab(ZeroTab);
@@ -264,6 +289,29 @@ TEST_F(MousePageTest, TheStatementsHaveTheColoursOfTyping)
     click(u"CMD_MouseButton_5"_s);
     ASSERT_EQ(joystick().text(), u"MSX(5) "_s);
     EXPECT_EQ(coloursOf(joystick()).left(6), u"rrrr.r"_s);
+}
+
+TEST_F(MousePageTest, EachWholeStatementHasItsColours)
+{
+    tick(u"CheckHatUse_5"_s);
+    const std::tuple<QString, QString, QString> written[] = {
+        { u"Command9_0"_s, u"USE MTYPE A1 - REVERSE_UD"_s, u"mmm.mmmmm......mmmmmmmmmm"_s },
+        { u"Command9_1"_s, u"USE MICROSTICK AS MOUSE (11, 2)"_s,
+          u"mmm.mmmmmmmmmm.mm.mmmmm.r.....r"_s },
+        { u"CMD_MouseButton_3"_s, u"DISABLE MOUSE "_s, u"mmmmmmm.mmmmm."_s },
+        { u"CMD_MouseButton_7"_s, u"USE ZERO_MOUSE "_s, u"mmm.mmmmmmmmmm."_s },
+    };
+    for (const auto &[button, text, colours] : written) {
+        setJoystick(QString());
+        click(button);
+        ASSERT_EQ(joystick().text(), text);
+        // A blank between two words has the colour of one of them.
+        const QString looks = coloursOf(joystick());
+        for (qsizetype i = 0; i < text.size(); ++i) {
+            EXPECT_TRUE(text[i] == u' ' || looks[i] == colours[i])
+                << text.toStdString() << ": " << looks.toStdString();
+        }
+    }
 }
 
 TEST_F(MousePageTest, AProtectedMacroFileStopsEveryButton)

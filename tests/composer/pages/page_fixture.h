@@ -27,6 +27,7 @@ protected:
         colours.SlashColour = 0x0000AA;
         colours.RAWColour = 0x00BB00;
         colours.MiscellaneousColour = 0xCCCC00;
+        colours.RemStatements = 0x005500;
         editor->applySettings();
     }
 
@@ -66,7 +67,8 @@ protected:
         }
         return texts;
     }
-    /// A letter a character: "." plain, b BTN, s slash, r raw, m miscellaneous, "?" another colour.
+    /// A letter a character: "." plain, b BTN, s slash, r raw, m miscellaneous, k comment, "?"
+    /// another colour.
     QString coloursOf(Document &document)
     {
         const auto &colours = settings.of<ColourSettings>();
@@ -78,6 +80,7 @@ protected:
             { colours.SlashColour, u's' },
             { colours.RAWColour, u'r' },
             { colours.MiscellaneousColour, u'm' },
+            { colours.RemStatements, u'k' },
         };
         QString marks;
         for (const CharRun &run : document.richText().characters) {

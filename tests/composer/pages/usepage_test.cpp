@@ -123,10 +123,20 @@ TEST_F(UsePageTest, StyleSixWritesNoClauseAndStyleZeroDoes)
 TEST_F(UsePageTest, TheDescriptionFollowsTheStyle)
 {
     const auto &description = control<QLabel>(u"LabelWindowType"_s);
-    EXPECT_EQ(description.text(),
-              u"Default setting. Application is displayed as an icon. Zeph remains active.");
-    list(4).setCurrentText(u"3"_s);
-    EXPECT_EQ(description.text(), u"Window is maximised with focus.");
+    const std::pair<QString, QString> described[] = {
+        { u"6"_s, u"Default setting. Application is displayed as an icon. Zeph remains active."_s },
+        { u"0"_s, u"Application is hidden and focus is passed to the hidden window."_s },
+        { u"1"_s, u"Application has focus and is restored to its original size and position."_s },
+        { u"2"_s, u"Application is maximised with focus."_s },
+        { u"3"_s, u"Window is maximised with focus."_s },
+        { u"4"_s,
+          u"Application is restored to its most recent size and position. Zeph remains the "
+          "active Window."_s },
+    };
+    for (const auto &[style, text] : described) {
+        list(4).setCurrentText(style);
+        EXPECT_EQ(description.text(), text);
+    }
 }
 
 TEST_F(UsePageTest, WithoutAnApplicationItIsAsked)
@@ -214,9 +224,16 @@ TEST_F(UsePageTest, BrowseTakesTheNameOfAFileButThePathOfAProgram)
               u"Select your macrofile;Select your image file;Select your ReadMe file;"
               "Select your application");
     EXPECT_EQ(folders.first(6), QStringList(6, paths.filesFolder()));
-    EXPECT_EQ(dialogs.files().first().filter, u"Macro file (*.tmm)|*.tmm");
-    EXPECT_EQ(dialogs.files().last().filter,
-              u"Executables (*.exe)|*.exe|Batch files (*.bat)|*.bat|All files (*.*)|*.*");
+    QStringList filters;
+    for (const FileRequest &asked : dialogs.files())
+        filters.append(asked.filter);
+    filters.removeDuplicates();
+    EXPECT_EQ(
+        filters,
+        (QStringList{
+            u"Macro file (*.tmm)|*.tmm"_s, u"Image files (*.bmp,*.jpg,*.gif)|*.bmp;*.jpg;*.gif"_s,
+            u"Text files (*.txt,*.rtf)|*.txt;*.rtf"_s,
+            u"Executables (*.exe)|*.exe|Batch files (*.bat)|*.bat|All files (*.*)|*.*"_s }));
 }
 
 TEST_F(UsePageTest, EnteringNamesTheMacroFileAndSelectsIt)
@@ -276,6 +293,20 @@ TEST_F(UsePageTest, ThePreviewIsOfTheTabInFront)
     EXPECT_EQ(preview(), u"STICK_OFF ");
     tabs(u"SSTab5"_s).setCurrentIndex(3);
     EXPECT_EQ(preview(), u"USE HAT1_SENSITIVITY (7) ");
+}
+
+TEST_F(UsePageTest, ThePreviewHasTheBlankBeforeTheWordAtTheCaret)
+{
+    tabs(u"SSTab5"_s).setCurrentIndex(7);
+    tick(2).setChecked(true);
+    EXPECT_EQ(preview(), u"USE H1U AS SHIFTBTN");
+    set(J, u"a b"_s);
+    file().select(0, 0);
+    EXPECT_EQ(preview(), u"USE H1U AS SHIFTBTN ");
+    file().select(1, 0);
+    EXPECT_EQ(preview(), u"USE H1U AS SHIFTBTN");
+    file().select(3, 0);
+    EXPECT_EQ(preview(), u"USE H1U AS SHIFTBTN");
 }
 
 TEST_F(UsePageTest, EveryChangeIsTold)

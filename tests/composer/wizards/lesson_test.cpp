@@ -106,9 +106,26 @@ TEST(Lessons, ARingIsRoundEachControlThatAPageNames)
     for (const Lesson *lesson : lessons) {
         for (const LessonPage &page : lesson->pages) {
             const auto controls = page.controls.split(u' ', Qt::SkipEmptyParts);
-            EXPECT_EQ(ringsOf(page).size(), controls.size()) << page.title.toString().toStdString();
+            for (const QStringView control : controls) {
+                const auto places = placesOn(drawingNamed(page.picture)->name);
+                const auto place = std::ranges::find(places, control, &ControlPlace::control);
+                ASSERT_NE(place, places.end()) << control.toString().toStdString();
+                EXPECT_TRUE(std::ranges::any_of(ringsOf(page), [&place](const QRect &ring) {
+                    return ring.contains(place->place);
+                })) << page.title.toString().toStdString();
+            }
         }
     }
+}
+
+TEST(Lessons, ControlsThatLieOnOneAnotherShareARing)
+{
+    const LessonPage throttle{ u"", u"", u"", u"Throttle.bmp", u"T1 MIX MIY T6 RNG" };
+    EXPECT_EQ(ringsOf(throttle).size(), 2);
+    const LessonPage stick{ u"", u"", u"", u"F-16 Block 50.bmp", u"S1 S2 HAT2" };
+    EXPECT_EQ(ringsOf(stick).size(), 3);
+    const LessonPage drawing{ u"", u"", u"", u"Wizards/dly.svg", u"S1" };
+    EXPECT_TRUE(ringsOf(drawing).isEmpty());
 }
 
 TEST(Lessons, ThePageAboutTumboAndTheJoystickWizardsFirstPageSayTheirWords)

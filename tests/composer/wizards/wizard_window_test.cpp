@@ -79,6 +79,14 @@ TEST_F(MacroWizard, CancelOnAnyPageLeavesTheFilesAsTheyAre)
     EXPECT_FALSE(macro().isModified());
 }
 
+TEST_F(MacroWizard, EscapeClosesIt)
+{
+    window().showPage(4);
+    QTest::keyClick(&window(), Qt::Key_Escape);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_EQ(windows.get<WizardMacroFile>(), nullptr);
+}
+
 TEST_F(MacroWizard, EnterTurnsThePages)
 {
     QTest::keyClick(&window(), Qt::Key_Return);
@@ -186,6 +194,17 @@ TEST_F(JoystickWizard, OpensTheComposerOnThePageOfTheButton)
     static_cast<UsePage *>(composer()->page(InsertOptions::Use))->bringToFront(UseInsert::Startup);
     EXPECT_EQ(pageAfter(u"BTNinFrame_3"_s), InsertOptions::Use);
     EXPECT_EQ(composer()->findChild<QTabWidget *>(u"SSTab5"_s)->currentIndex(), 0);
+}
+
+TEST_F(JoystickWizard, MayBeGoneWhenItsCommandReturns)
+{
+    const auto gone = QObject::connect(editor->action(u"mnuAppsComposer"), &QAction::triggered,
+                                       [this] { delete windows.get<WizardJoystickFile>(); });
+    click(u"BTNinFrame_7"_s);
+    QObject::disconnect(gone);
+    EXPECT_EQ(windows.get<WizardJoystickFile>(), nullptr);
+    EXPECT_EQ(composer()->findChild<QTabWidget *>(u"SSTab1"_s)->currentIndex(), 0)
+        << "nobody is there to turn the page";
 }
 
 TEST_F(JoystickWizard, ItsUseMdefNamesTheMacroFile)
