@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: The Zeph authors
 // SPDX-License-Identifier: MIT
 
+#include "composer/mouse/mousemanual.h"
+#include "composer/mouse/mouseprogram.h"
 #include "composer/statement_inserter.h"
 #include "composer/wizards/speedy.h"
 #include "composer/wizards/wizardjoystickfile.h"
@@ -159,7 +161,9 @@ template <class Window> std::unique_ptr<QWidget> makeWizard(test::ShellWorld &wo
 {
     auto *bench = new WizardBench(world);
     std::unique_ptr<QWidget> window;
-    if constexpr (std::is_same_v<Window, WizardJoystickFile>) {
+    if constexpr (std::is_same_v<Window, MouseProgram> || std::is_same_v<Window, MouseManual>) {
+        window = std::make_unique<Window>(world.context(), bench->editor.documents(), bench->tools);
+    } else if constexpr (std::is_same_v<Window, WizardJoystickFile>) {
         window = std::make_unique<Window>(bench->parts, bench->windows);
     } else {
         window = std::make_unique<Window>(bench->parts);
@@ -172,6 +176,8 @@ const LintCase cases[] = {
     { "WizardMacroFile", makeWizard<WizardMacroFile> },
     { "WizardJoystickFile", makeWizard<WizardJoystickFile> },
     { "Speedy", makeWizard<Speedy> },
+    { "MouseProgram", makeWizard<MouseProgram> },
+    { "MouseManual", makeWizard<MouseManual> },
     { "WizardSlashModifiers", makeWizard<WizardSlashModifiers> },
     { "WizardMouseMicrostick", makeWizard<WizardMouseMicrostick> },
     { "WizardDLYandRATE", makeWizard<WizardDLYandRATE> },
