@@ -31,11 +31,13 @@
 #include "shell/first_run.h"
 #include "shell/help_menu.h"
 #include "shell/main_scene.h"
+#include "shell/mouse_tools.h"
 #include "shell/mum.h"
 #include "shell/preferences_menu.h"
 #include "shell/settings/shell_settings.h"
 #include "shell/start_up.h"
 #include "shell/template_guard.h"
+#include "shell/wizard_tools.h"
 #include "shell/zeph_style.h"
 #include "templates/template_tools.h"
 #include "templates/templateform.h"
@@ -278,6 +280,12 @@ void Application::addToolWindows()
     QObject::connect(
         composer, &ComposerTools::keywordWanted, m_help,
         guarded(m_options.dialogs, [this](const QString &word) { m_help->showKeyword(word); }));
+    auto *mouse = new MouseTools(context(), windows, *m_editor, *composer);
+    QObject::connect(mouse, &MouseTools::helpWanted, m_help,
+                     guarded(m_options.dialogs, [this](int topic) { m_help->showTopic(topic); }));
+    auto *wizards = new WizardTools(context(), windows, *m_editor, *composer);
+    QObject::connect(wizards, &WizardTools::helpWanted, m_help,
+                     guarded(m_options.dialogs, [this](int topic) { m_help->showTopic(topic); }));
     windows.whenLoaded<TemplateForm>(m_mum.get(), [composer](TemplateForm &form) {
         form.actions().connectTo(u"mnuComposerPlugin", [composer] { composer->openTemplates(); });
         form.actions().action(u"mnuComposerPlugin")->setEnabled(true);

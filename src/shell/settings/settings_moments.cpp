@@ -5,6 +5,7 @@
 
 #include "composer/composer_settings.h"
 #include "composer/logic_flags_settings.h"
+#include "composer/tumbo/tumbo_settings.h"
 #include "documents/document_settings.h"
 #include "editor/editor_settings.h"
 #include "livetools/key_tester_settings.h"
@@ -41,7 +42,7 @@ void addAllSettings(Settings &settings)
 {
     addAll<SharedSettings, ColourSettings, MenuSettings, DocumentSettings, EditorSettings,
            ShellSettings, ComposerSettings, TemplateSettings, ToolchainSettings, DefaultOptions,
-           KeyTesterSettings, ImageViewerSettings, LogicFlagsSettings>(settings);
+           KeyTesterSettings, ImageViewerSettings, LogicFlagsSettings, TumboSettings>(settings);
 }
 
 bool isSetUp(const SettingsFiles &files)
