@@ -58,8 +58,7 @@ TEST_F(Tumbo, HasAButtonForEachKeyWithItsCaptionAndAName)
 {
     int count = 0;
     for (const BoardKey &row : boardKeys()) {
-        const auto &key =
-            part<QAbstractButton>(u"Command1_"_s + QString::number(row.index));
+        const auto &key = part<QAbstractButton>(u"Command1_"_s + QString::number(row.index));
         EXPECT_FALSE(key.text().isEmpty());
         EXPECT_FALSE(key.accessibleName().isEmpty());
         EXPECT_TRUE(tumbo().rect().contains(key.mapTo(&tumbo(), key.rect().center())));
