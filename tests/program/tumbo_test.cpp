@@ -34,6 +34,8 @@ TEST(ProgramTumbo, WhatItWritesIntoBothFilesCompiles)
                   u"retype ComboMacros Gear"_s,
                   u"click cmdCreateMacro"_s,
                   u"text MacroText Gear = SHF g"_s,
+                  u"trigger mnuFileSaveBoth"_s,
+                  u"done"_s,
                   u"tab TabStrip1 0"_s,
                   u"trigger mnuAppsCompile"_s,
                   u"box File successfully compiled!"_s,
