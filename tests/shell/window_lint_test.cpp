@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: The Zeph authors
 // SPDX-License-Identifier: MIT
 
+#include "composer/mouse/mousemanual.h"
+#include "composer/mouse/mouseprogram.h"
 #include "composer/statement_inserter.h"
 #include "composer/wizards/speedy.h"
 #include "composer/wizards/wizardjoystickfile.h"
@@ -15,6 +17,7 @@
 #include "lists/favourites_menu.h"
 #include "lists/user_lists.h"
 #include "livetools/keytestform.h"
+#include "livetools/pictures/viewimage.h"
 #include "platform/tool_windows.h"
 #include "preferences/preferences.h"
 #include "print/printpreview.h"
@@ -158,7 +161,9 @@ template <class Window> std::unique_ptr<QWidget> makeWizard(test::ShellWorld &wo
 {
     auto *bench = new WizardBench(world);
     std::unique_ptr<QWidget> window;
-    if constexpr (std::is_same_v<Window, WizardJoystickFile>) {
+    if constexpr (std::is_same_v<Window, MouseProgram> || std::is_same_v<Window, MouseManual>) {
+        window = std::make_unique<Window>(world.context(), bench->editor.documents(), bench->tools);
+    } else if constexpr (std::is_same_v<Window, WizardJoystickFile>) {
         window = std::make_unique<Window>(bench->parts, bench->windows);
     } else {
         window = std::make_unique<Window>(bench->parts);
@@ -171,6 +176,8 @@ const LintCase cases[] = {
     { "WizardMacroFile", makeWizard<WizardMacroFile> },
     { "WizardJoystickFile", makeWizard<WizardJoystickFile> },
     { "Speedy", makeWizard<Speedy> },
+    { "MouseProgram", makeWizard<MouseProgram> },
+    { "MouseManual", makeWizard<MouseManual> },
     { "WizardSlashModifiers", makeWizard<WizardSlashModifiers> },
     { "WizardMouseMicrostick", makeWizard<WizardMouseMicrostick> },
     { "WizardDLYandRATE", makeWizard<WizardDLYandRATE> },
@@ -225,6 +232,14 @@ const LintCase cases[] = {
     { "KeyTestForm",
       [](auto &w) { return std::make_unique<KeyTestForm>(w.context(), KeyTestEntries()); },
       ShowsEscape },
+    { "ViewImage",
+      [](auto &w) {
+          auto *entry = new QAction;
+          auto window =
+              std::make_unique<ViewImage>(w.context(), w.printers, PictureEntries{ entry, entry });
+          entry->setParent(window.get());
+          return window;
+      } },
     { "Heading",
       [](auto &) {
           return std::make_unique<Heading>(QStringList{ u"Guns"_s });

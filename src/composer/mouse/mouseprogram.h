@@ -49,6 +49,8 @@ public:
 Q_SIGNALS:
     /// There is no Image Viewer: useViewer() is to be called with one.
     void viewerWanted();
+    /// The help topic of that number is wanted.
+    void helpWanted(int topic);
 
 public Q_SLOTS:
     void reject() override;
