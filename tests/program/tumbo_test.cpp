@@ -34,13 +34,16 @@ TEST(ProgramTumbo, WhatItWritesIntoBothFilesCompiles)
                   u"retype ComboMacros Gear"_s,
                   u"click cmdCreateMacro"_s,
                   u"text MacroText Gear = SHF g"_s,
+                  u"trigger mnuFileSaveBoth"_s,
+                  u"done"_s,
+                  u"tab TabStrip1 0"_s,
                   u"trigger mnuAppsCompile"_s,
                   u"box File successfully compiled!"_s,
                   u"press OK"_s,
                   u"close"_s },
                 { program.file(u"Files/t.tmj"_s) });
     EXPECT_EQ(program.read(u"Files/t.tmj"_s),
-              "BTN S2 Gear\r\nBTN S1 /P USB(DE1 D04) /R USB(U04 UE1) Rem 'SHF a'\r\n"
-              "USE MDEF t\r\n");
-    EXPECT_EQ(program.read(u"Files/t.tmm"_s), "Fire = SPC\r\nGear = SHF g");
+              QByteArray("BTN S2 Gear\r\nBTN S1 /P USB(DE1 D04) /R USB(U04 UE1) Rem 'SHF a'\r\n"
+                         "USE MDEF t\r\n"));
+    EXPECT_EQ(program.read(u"Files/t.tmm"_s), QByteArray("Fire = SPC\r\nGear = SHF g"));
 }

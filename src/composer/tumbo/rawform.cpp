@@ -93,6 +93,8 @@ RAWform::RAWform(const Context &context, Documents &documents, ComposerEditor &e
         each->setMinimumHeight(each->fontMetrics().lineSpacing() * 2);
     }
     m_ui->ComboMacros->addItems(linesOfListFile(context.paths.inApp(u"DefaultMacros.txt")));
+    // It would make another name of a short one that is typed.
+    m_ui->ComboMacros->setCompleter(nullptr);
     m_ui->ComboMacros->clearEditText();
     GetTumboOptions();
     connectMenus();

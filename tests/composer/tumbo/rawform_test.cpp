@@ -331,6 +331,14 @@ TEST_F(Tumbo, OffersTheDefaultMacrosNamesAndBeginsWithNone)
     EXPECT_EQ(names.currentText(), QString());
 }
 
+TEST_F(Tumbo, ANameThatIsTypedStaysAsItIs)
+{
+    auto &names = part<QComboBox>(u"ComboMacros"_s);
+    names.setFocus();
+    QTest::keyClicks(&names, u"Gear"_s);
+    EXPECT_EQ(names.currentText(), u"Gear"_s);
+}
+
 TEST_F(Tumbo, AMacroGoesToTheEndOnALineOfItsOwn)
 {
     setMacro(u"Fire = SPC\nGun = x"_s, 3);
