@@ -76,9 +76,8 @@ MouseProgram::~MouseProgram() = default;
 
 bool MouseProgram::Form_Load()
 {
-    if (!m_viewer) {
-        Q_EMIT viewerWanted();
-    }
+    // One that is there may be minimised.
+    Q_EMIT viewerWanted();
     if (const QWidget *beside = m_viewer ? m_viewer.data() : parentWidget()) {
         openBeside(*this, *beside->window());
     }

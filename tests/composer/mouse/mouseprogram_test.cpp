@@ -76,6 +76,15 @@ TEST_F(MouseWizard, UsesTheImageViewerThatIsOpen)
     EXPECT_EQ(viewer().gesture(), Gesture::Point);
 }
 
+TEST_F(MouseWizard, BringsAMinimisedImageViewerBack)
+{
+    editor->action(u"mnuAppsImageViewer")->trigger();
+    viewer().showMinimized();
+    openWizard();
+    EXPECT_FALSE(viewer().isMinimized());
+    EXPECT_TRUE(viewer().isVisible());
+}
+
 TEST_F(MouseWizard, WithoutAPictureTheViewerIsEmptyAndNoBoxComes)
 {
     settings.of<SharedSettings>().ImageFilePath = folder.file(u"gone.bmp"_s);
@@ -378,6 +387,15 @@ TEST_F(MouseWizard, AViewerThatWasClosedComesBackForTheNextGesture)
     EXPECT_EQ(viewer().gesture(), Gesture::Point);
     click(at(100, 50));
     EXPECT_EQ(statement(), u"MOUSEXY (UL, 100, 50)");
+}
+
+TEST_F(MouseWizard, F1LeadsToTheHelpOnMouseProgramming)
+{
+    QSignalSpy wanted(&openWizard(), &MouseProgram::helpWanted);
+    QApplication::setActiveWindow(&wizard());
+    QTest::keyClick(&wizard(), Qt::Key_F1);
+    ASSERT_EQ(wanted.count(), 1);
+    EXPECT_EQ(wanted[0][0].toInt(), 2060);
 }
 
 TEST_F(MouseWizard, TheComposersButtonOpensIt)
