@@ -163,7 +163,9 @@ Expected<void, QString> checkLayoutName(const QString &name)
         return Unexpected<QString>(u"I keep the texts on their way to the custom sheet under "
                                    "“temp”: please take another name."_s);
     }
-    return checkFileName(name);
+    return checkFileName(name).map_error([](const QString &reason) {
+        return u"I can't save a layout under that name: %1."_s.arg(reason);
+    });
 }
 
 Expected<Sheet, LayoutError> loadLayout(SheetKind kind, LayoutForm form, const QString &path)

@@ -32,6 +32,7 @@ void click(const QWidget &window, const QString &name)
 TEST(LayoutSave, RefusesANameThatNoFileCanHave)
 {
     LayoutSave window({ u"Old"_s });
+    window.show();
     const auto *ok = in<QPushButton>(window, u"cmdOK"_s);
     const auto *hint = in<QLabel>(window, u"LabelHint"_s);
     auto *combo = in<QComboBox>(window, u"Combo1"_s);
@@ -41,6 +42,7 @@ TEST(LayoutSave, RefusesANameThatNoFileCanHave)
         combo->setEditText(name);
         EXPECT_FALSE(ok->isEnabled()) << name.toStdString();
         EXPECT_FALSE(hint->text().isEmpty());
+        EXPECT_GE(hint->height(), hint->heightForWidth(hint->width())) << name.toStdString();
     }
     combo->setEditText(u"Falcon 4"_s);
     EXPECT_TRUE(ok->isEnabled());

@@ -279,7 +279,8 @@ TEST(LayoutFolder, KeepsTheFormatsThatPositionsLose)
     const Sheet read = readLayoutFolder(SheetKind::Joystick, files, u"F/"_s).value();
     EXPECT_EQ(read.boxes[4].text, text);
     EXPECT_EQ(read, sheet);
-    EXPECT_EQ(readPositions(SheetKind::Joystick, files.positions, file)->boxes[4].text, RichText());
+    EXPECT_EQ(readPositions(SheetKind::Joystick, files.positions, file)->boxes[4].text,
+              RichText::plain({}));
 }
 
 TEST(LayoutFolder, NamesItsFiles)

@@ -198,7 +198,7 @@ TEST_F(LayoutFilesTest, ADamagedLayoutIsToldWithFileAndLineAndLeavesTheSheet)
     folder.write(u"Layouts/bad.jfl"_s, "1 2\r\n1,2,True\r\n");
     dialogs.answer(u"I couldn't open your layout buddy"_s, BoxButton::Ok);
     EXPECT_FALSE(files->OpenTextBoxPositions(sheet, layout(u"bad.jfl"_s)));
-    EXPECT_TRUE(dialogs.boxes().last().text.contains(u"bad.jfl, line 1: "));
+    EXPECT_TRUE(dialogs.boxes().last().text.contains(u"bad.jfl, line 2: "));
     EXPECT_EQ(files->path(), path) << "still the last good one";
     EXPECT_EQ(files->recent().size(), 1);
     EXPECT_FALSE(settings.of<LayoutsSettings>().isRepositionOff);
