@@ -134,6 +134,39 @@ TEST_F(LayoutStore, AFolderThatCannotBeMadeIsAnError)
     EXPECT_EQ(folder.read(u"Sim"_s), "a file");
 }
 
+TEST_F(LayoutStore, ALayoutElsewhereOpensWithTheTextsBesideIt)
+{
+    const TempFolder elsewhere;
+    const QString before = QDir::currentPath();
+    const Sheet sheet = SheetMaker(3).storedWithTexts(SheetKind::Custom);
+    const QString path = elsewhere.file(u"Drive D/Custom layout.clt"_s);
+    ASSERT_TRUE(saveLayout(sheet, LayoutForm::WithText, path));
+    EXPECT_EQ(loadLayout(SheetKind::Custom, LayoutForm::WithText, path), sheet);
+    EXPECT_EQ(QDir::currentPath(), before) << "no path depends on the current folder";
+}
+
+TEST_F(LayoutStore, PicturesOfTheProgramAreKnownByName)
+{
+    const QString own = folder.write(u"Throttle.bmp"_s, "BM");
+    EXPECT_EQ(pictureFile(u"Throttle.bmp"_s, folder.path()), own);
+    EXPECT_EQ(pictureFile(u"throttle.BMP"_s, folder.path()), own);
+    EXPECT_EQ(pictureFile(u"C:\\Old place\\Throttle.bmp"_s, folder.path()), own);
+    EXPECT_EQ(picturePathOf(own, folder.path()), u"Throttle.bmp");
+}
+
+TEST_F(LayoutStore, OtherPicturesAreKnownByTheirPath)
+{
+    const TempFolder elsewhere;
+    const QString other = elsewhere.write(u"Cockpit.bmp"_s, "BM");
+    EXPECT_EQ(picturePathOf(other, folder.path()), other);
+    EXPECT_EQ(pictureFile(other, folder.path()), other);
+    EXPECT_EQ(pictureFile(u"Gone.bmp"_s, folder.path()), QString());
+    EXPECT_EQ(pictureFile({}, folder.path()), QString());
+    EXPECT_EQ(picturePathOf({}, folder.path()), QString());
+    QDir(folder.path()).mkdir(u"Folder.bmp"_s);
+    EXPECT_EQ(pictureFile(u"Folder.bmp"_s, folder.path()), QString());
+}
+
 TEST_F(LayoutStore, TheNamesAreTheFoldersButThatOfTransfers)
 {
     for (const QString &name : { u"b"_s, u"A"_s, u"temp"_s, u"temp 2"_s }) {
