@@ -16,6 +16,8 @@
 #include "editor/editor_settings.h"
 #include "editor/files/frm_createpackage.h"
 #include "editor/macros/macrorenameform.h"
+#include "layouts/files/layoutsave.h"
+#include "layouts/files/layoutsize.h"
 #include "lists/favourites_menu.h"
 #include "lists/user_lists.h"
 #include "livetools/keytestform.h"
@@ -215,6 +217,19 @@ const LintCase cases[] = {
     { "StyleEditor",
       [](auto &w) {
           return std::make_unique<StyleEditor>(defaultTextStyles(), 0xFFFFFF, w.dialogs);
+      } },
+    { "LayoutSave",
+      [](auto &) {
+          return std::make_unique<LayoutSave>(QStringList{ u"Falcon"_s });
+      } },
+    { "LayoutSaveText",
+      [](auto &) {
+          return std::make_unique<LayoutSaveText>(QStringList{ u"Falcon"_s });
+      } },
+    { "LayoutSize",
+      [](auto &) {
+          return std::make_unique<LayoutSize>(LayoutSizeChoice{ QSize(1043, 714), false, true },
+                                              QSize(800, 963));
       } },
     { "FindAndReplace", makeFindAndReplace },
     { "FormResetOptions",
