@@ -281,8 +281,9 @@ void Application::addToolWindows()
     QObject::connect(
         composer, &ComposerTools::keywordWanted, m_help,
         guarded(m_options.dialogs, [this](const QString &word) { m_help->showKeyword(word); }));
-    // The Editor owns it.
-    (void)new MouseTools(context(), windows, *m_editor, *composer);
+    auto *mouse = new MouseTools(context(), windows, *m_editor, *composer);
+    QObject::connect(mouse, &MouseTools::helpWanted, m_help,
+                     guarded(m_options.dialogs, [this](int topic) { m_help->showTopic(topic); }));
     auto *wizards = new WizardTools(context(), windows, *m_editor, *composer);
     QObject::connect(wizards, &WizardTools::helpWanted, m_help,
                      guarded(m_options.dialogs, [this](int topic) { m_help->showTopic(topic); }));

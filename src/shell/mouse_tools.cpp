@@ -29,11 +29,14 @@ MouseTools::MouseTools(const Context &context, ToolWindows &windows, Editor &edi
             }
             connect(wizard, &MouseProgram::viewerWanted, this,
                     guarded(m_context.dialogs, [this] { openViewer(); }));
+            connect(wizard, &MouseProgram::helpWanted, this, &MouseTools::helpWanted);
             return wizard;
         },
         &MouseProgram::Form_Load);
     tools.add<MouseManual>(u"mnuMouseManual", [this, &editor, &composerEditor](QWidget *owner) {
-        return new MouseManual(m_context, editor.documents(), composerEditor, owner);
+        auto *manual = new MouseManual(m_context, editor.documents(), composerEditor, owner);
+        connect(manual, &MouseManual::helpWanted, this, &MouseTools::helpWanted);
+        return manual;
     });
     windows.whenLoaded<ViewImage>(this, [this](ViewImage &viewer) { followViewer(viewer); });
 }

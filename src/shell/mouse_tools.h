@@ -28,6 +28,10 @@ public:
     /// Opens the window with plain fields at a tab (0-based).
     void openManual(int tab);
 
+Q_SIGNALS:
+    /// The help topic of that number is wanted.
+    void helpWanted(int topic);
+
 private:
     void openViewer();
     void followViewer(ViewImage &viewer);

@@ -5,6 +5,8 @@
 
 #include "composer/mouse/mouse_programs.h"
 
+#include <QLineEdit>
+
 namespace zeph {
 
 void fillResolutions(QComboBox &list, const QSize &picture)
@@ -33,6 +35,19 @@ void fillSteps(QComboBox &list, int selected)
         list.addItem(QString::number(steps));
     }
     list.setCurrentText(QString::number(selected));
+}
+
+void nameBox(const QComboBox &list, const QString &accessibleName)
+{
+    list.lineEdit()->setObjectName(list.objectName() + u"_Box"_s);
+    list.lineEdit()->setAccessibleName(accessibleName);
+}
+
+void giveRoomForStatement(QLabel &label)
+{
+    constexpr int lines = 2;
+    const int frame = label.frameWidth() + label.margin();
+    label.setMinimumHeight(lines * label.fontMetrics().lineSpacing() + 2 * frame);
 }
 
 } // namespace zeph

@@ -7,15 +7,23 @@
 #include "composer/mouse/coordinates.h"
 #include "composer/mouse/mouse_lists.h"
 #include "composer/mouse/mouse_programs.h"
-#include "composer/mouse/teaching_text.h"
 #include "composer/pages/page_fields.h"
+#include "composer/wizards/lesson_frame.h"
 #include "platform/dialogs.h"
 #include "platform/window_places.h"
 #include "ui_mousemanual.h"
 
+#include <QShortcut>
+
 namespace zeph {
 
 namespace {
+
+constexpr LessonPage introduction = {
+    u"Mouse statements from numbers", u"Wizards/mouse-manual.html",
+    u"The mouse goes to a place, goes on from where it is, or turns a switch",
+    u"Wizards/mouse-choice.svg"
+};
 
 Refusal nothingHere()
 {
@@ -34,7 +42,9 @@ MouseManual::MouseManual(const Context &context, Documents &documents, ComposerE
       m_inserter(context, documents, editor), m_ui(std::make_unique<Ui::MouseManual>())
 {
     m_ui->setupUi(this);
-    showTeaching(*m_ui->Teaching, context.paths, u"mouse-manual.html");
+    m_ui->layoutIntroduction->addWidget(
+        new LessonFrame(context, introduction, DocumentKind::Joystick, Introduction, this));
+    giveRoomForStatement(*m_ui->LBL_MouseStatement);
     FillFields();
     Dialogs &dialogs = m_context.dialogs;
     whenEdited(*this, this, guarded(dialogs, [this] { refresh(); }));
@@ -42,6 +52,8 @@ MouseManual::MouseManual(const Context &context, Documents &documents, ComposerE
             guarded(dialogs, [this](int) { refresh(); }));
     connect(m_ui->Command1, &QPushButton::clicked, this,
             guarded(dialogs, [this](bool) { Command1_Click(); }));
+    auto *help = new QShortcut(Qt::Key_F1, this);
+    connect(help, &QShortcut::activated, this, [this] { Q_EMIT helpWanted(mouseHelpTopic); });
     connect(m_ui->CommandClose, &QPushButton::clicked, this, &MouseManual::reject);
     refresh();
     if (parent) {
@@ -58,6 +70,7 @@ void MouseManual::showTab(int tab)
 
 void MouseManual::FillFields()
 {
+    nameBox(*m_ui->ComboScreenRes, u"Resolution of the game"_s);
     fillResolutions(*m_ui->ComboScreenRes, {});
     fillList(*m_ui->ComboOrigin_0, mouseOrigins);
     fillList(*m_ui->ComboOrigin_1, mouseOrigins);

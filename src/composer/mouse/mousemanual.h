@@ -35,6 +35,10 @@ public:
     /// Brings a tab to the front; a number that is none counts as the introduction.
     void showTab(int tab);
 
+Q_SIGNALS:
+    /// The help topic of that number is wanted.
+    void helpWanted(int topic);
+
 private:
     void FillFields();
     void Command1_Click();

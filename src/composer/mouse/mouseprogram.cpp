@@ -5,13 +5,16 @@
 
 #include "composer/composer_editor.h"
 #include "composer/mouse/mouse_lists.h"
-#include "composer/mouse/teaching_text.h"
 #include "composer/pages/page_fields.h"
+#include "composer/wizards/lesson_frame.h"
 #include "livetools/pictures/viewimage.h"
 #include "platform/dialogs.h"
+#include "platform/field_text.h"
 #include "platform/window_places.h"
 #include "text/text_lines.h"
 #include "ui_mouseprogram.h"
+
+#include <QShortcut>
 
 namespace zeph {
 
@@ -57,6 +60,12 @@ MouseProgram::MouseProgram(const Context &context, Documents &documents, Compose
     m_movements = ControlArray<QRadioButton>(this, u"OptionMouseMove"_s);
     m_info = ControlArray<QLabel>(this, u"LBL_MouseInfo"_s);
     m_values = ControlArray<QLineEdit>(this, u"Text_finalValues"_s);
+    for (int page = 0; page < mouseWizardPageCount; ++page) {
+        auto *frame = new LessonFrame(context, rowOf(MouseWizardPage(page)).lesson,
+                                      DocumentKind::Joystick, page, m_ui->Pages);
+        frame->setObjectName(u"Frame_%1"_s.arg(page));
+        m_ui->Pages->addWidget(frame);
+    }
     FillCoordinateLists();
     FillFields();
     connectFields();
@@ -67,9 +76,8 @@ MouseProgram::~MouseProgram() = default;
 
 bool MouseProgram::Form_Load()
 {
-    if (!m_viewer) {
-        Q_EMIT viewerWanted();
-    }
+    // One that is there may be minimised.
+    Q_EMIT viewerWanted();
     if (const QWidget *beside = m_viewer ? m_viewer.data() : parentWidget()) {
         openBeside(*this, *beside->window());
     }
@@ -97,10 +105,13 @@ void MouseProgram::useViewer(ViewImage *viewer)
 void MouseProgram::FillCoordinateLists()
 {
     fillList(*m_ui->ComboCoordinate, mouseOrigins);
+    nameBox(*m_ui->ComboMacro, u"Macro"_s);
     fillList(*m_ui->ComboMacro, mouseButtons);
+    nameBox(*m_ui->ComboScreenRes, u"Screen resolution of the game"_s);
     fillSteps(*m_ui->ComboSteps, usualSteps);
     const int width = fontMetrics().horizontalAdvance(u"-0000.0%,-0000.0%"_s);
     m_ui->LBL_MouseXY->setMinimumWidth(width);
+    giveRoomForStatement(*m_ui->LBL_MouseStatement);
 }
 
 void MouseProgram::FillFields()
@@ -123,6 +134,8 @@ void MouseProgram::connectFields()
                     }
                 }));
     }
+    auto *help = new QShortcut(Qt::Key_F1, this);
+    connect(help, &QShortcut::activated, this, [this] { Q_EMIT helpWanted(mouseHelpTopic); });
     whenEdited(*this, this, guarded(dialogs, [this] { refresh(); }));
     connect(m_ui->CommandRestore, &QPushButton::clicked, this,
             guarded(dialogs, [this](bool) { UpdateMouseRotateFields(); }));
@@ -179,7 +192,7 @@ void MouseProgram::showPage(MouseWizardPage page)
 {
     m_page = page;
     const MouseWizardRow &row = rowOf(page);
-    showTeaching(*m_ui->Teaching, m_context.paths, row.teaching);
+    m_ui->Pages->setCurrentIndex(int(page));
     for (const PaneRow &pane : panes) {
         ((*m_ui).*pane.widget)->setVisible(row.panes.testFlag(pane.pane));
     }
@@ -294,7 +307,7 @@ bool MouseProgram::UpdateMouseRotateFields()
         return false;
     }
     for (int i = 0; i < rotateValueCount; ++i) {
-        m_values[i]->setText((*values)[size_t(i)]);
+        showText(*m_values[i], (*values)[size_t(i)]);
     }
     return true;
 }

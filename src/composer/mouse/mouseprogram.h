@@ -35,7 +35,7 @@ public:
                  QWidget *parent = nullptr);
     ~MouseProgram() override;
 
-    /// Has the Image Viewer opened and stands beside it. Always true.
+    /// Has the Image Viewer shown and stands beside it. Always true.
     bool Form_Load();
     /// The gestures of this window count from now on.
     void useViewer(ViewImage *viewer);
@@ -47,8 +47,10 @@ public:
     MouseWizardPage page() const { return m_page; }
 
 Q_SIGNALS:
-    /// There is no Image Viewer: useViewer() is to be called with one.
+    /// The Image Viewer is to be shown; useViewer() is to be called with it.
     void viewerWanted();
+    /// The help topic of that number is wanted.
+    void helpWanted(int topic);
 
 public Q_SLOTS:
     void reject() override;

@@ -5,6 +5,7 @@
 
 // Which pages the mouse wizard has, in which order they come, and what is on each.
 
+#include "composer/wizards/lesson.h"
 #include "livetools/picture_gestures.h"
 
 #include <QFlags>
@@ -28,7 +29,7 @@ enum class MouseWizardPage : quint8 {
 };
 constexpr int mouseWizardPageCount = int(MouseWizardPage::RotateValues) + 1;
 
-/// A group of fields of the window. A page shows some of them below its teaching text.
+/// A group of fields of the window. A page shows some of them below its lesson.
 enum class MousePane : quint8 {
     Resolution = 1,
     Choice = 2,
@@ -43,8 +44,7 @@ Q_DECLARE_FLAGS(MousePanes, MousePane)
 Q_DECLARE_OPERATORS_FOR_FLAGS(MousePanes)
 
 struct MouseWizardRow {
-    /// The teaching text's file in the folder Wizards.
-    QStringView teaching;
+    LessonPage lesson;
     MousePanes panes;
     /// What a drag on the picture means meanwhile.
     Gesture gesture;

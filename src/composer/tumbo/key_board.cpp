@@ -117,16 +117,16 @@ private:
     }
     QColor edge() const
     {
-        return isShown ? palette().color(QPalette::Highlight)
-                       : mixed(palette().color(QPalette::Window),
-                               palette().color(QPalette::WindowText), 0.45);
+        return isShown
+            ? palette().color(QPalette::Highlight)
+            : mixed(palette().color(QPalette::Window), palette().color(QPalette::WindowText), 0.45);
     }
     QColor face() const
     {
         const QColor plain = palette().color(QPalette::Button);
         const QColor text = palette().color(QPalette::ButtonText);
-        return isOrange() ? heldColour
-            : isDown()    ? mixed(plain, text, 0.3)
+        return isOrange()  ? heldColour
+            : isDown()     ? mixed(plain, text, 0.3)
             : underMouse() ? mixed(plain, text, 0.1)
                            : plain;
     }
@@ -210,8 +210,7 @@ QSize KeyBoard::minimumSizeHint() const
 
 int KeyBoard::fittingHeight() const
 {
-    return std::max(width() * boardCells.height() / boardCells.width(),
-                    minimumSizeHint().height());
+    return std::max(width() * boardCells.height() / boardCells.width(), minimumSizeHint().height());
 }
 
 qreal KeyBoard::cellWidth() const
@@ -250,9 +249,8 @@ void KeyBoard::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(mixed(palette().color(QPalette::Window),
-                              palette().color(QPalette::WindowText), 0.45),
-                        1));
+    painter.setPen(QPen(
+        mixed(palette().color(QPalette::Window), palette().color(QPalette::WindowText), 0.45), 1));
     const QRectF mouse = QRectF(onWidget(mouseCells)).adjusted(0.5, 0.5, -0.5, -0.5);
     painter.drawRoundedRect(mouse, mouse.width() / 8, mouse.width() / 8);
     const QRectF pov = QRectF(onWidget(povCells));

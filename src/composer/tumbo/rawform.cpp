@@ -85,6 +85,7 @@ RAWform::RAWform(const Context &context, Documents &documents, ComposerEditor &e
     m_ui->LabelSyntax->setText(u"Thrustmaster S&yntax"_s);
     m_ui->LabelCombined->setText(u"USB combined"_s);
     auto *bar = new QMenuBar(this);
+    bar->setObjectName(u"TumboMenus"_s);
     m_menus->addTo(*bar);
     layout()->setMenuBar(bar);
     m_ui->LabelControl->setMinimumHeight(m_ui->LabelControl->fontMetrics().lineSpacing() * 2);
@@ -93,6 +94,10 @@ RAWform::RAWform(const Context &context, Documents &documents, ComposerEditor &e
         each->setMinimumHeight(each->fontMetrics().lineSpacing() * 2);
     }
     m_ui->ComboMacros->addItems(linesOfListFile(context.paths.inApp(u"DefaultMacros.txt")));
+    // It would make another name of a short one that is typed.
+    m_ui->ComboMacros->setCompleter(nullptr);
+    m_ui->ComboMacros->lineEdit()->setObjectName(u"MacroName"_s);
+    m_ui->ComboMacros->lineEdit()->setAccessibleName(m_ui->ComboMacros->accessibleName());
     m_ui->ComboMacros->clearEditText();
     GetTumboOptions();
     connectMenus();
@@ -176,9 +181,8 @@ void RAWform::connectButtons()
 void RAWform::connectListener()
 {
     m_listener = new KeyListener(m_context.dialogs, *this, *m_ui->CommandListen);
-    connect(m_listener, &KeyListener::toggled, this, [this](bool on) {
-        m_ui->LabelListen->setText(on ? listening.toString() : QString());
-    });
+    connect(m_listener, &KeyListener::toggled, this,
+            [this](bool on) { m_ui->LabelListen->setText(on ? listening.toString() : QString()); });
     connect(m_listener, &KeyListener::keyPressed, m_ui->Board,
             [this](int index) { m_ui->Board->key(index)->click(); });
     connect(m_listener, &KeyListener::unknownKeyPressed, this,
@@ -187,10 +191,10 @@ void RAWform::connectListener()
 
 void RAWform::makePictures()
 {
-    m_pictures = new ControlPictures(
-        { m_context, m_documents, m_inserter, m_editor },
-        { m_ui->Picture1_0, m_ui->Picture1_1, m_ui->ComboJoystickHandle }, options().AlwaysInsert,
-        controlMenus, this);
+    m_pictures =
+        new ControlPictures({ m_context, m_documents, m_inserter, m_editor },
+                            { m_ui->Picture1_0, m_ui->Picture1_1, m_ui->ComboJoystickHandle },
+                            options().AlwaysInsert, controlMenus, this);
     connect(m_pictures, &ControlPictures::told, m_ui->LabelControl, &QLabel::setText);
 }
 
@@ -223,9 +227,9 @@ void RAWform::PositionTumbo()
         openBeside(*this, *parentWidget()->window());
         return;
     }
-    restorePlace(*this,
-                 { cornerWithin(options().TumboLeft, options().TumboTop, screen()->size()),
-                   QSize() });
+    restorePlace(
+        *this,
+        { cornerWithin(options().TumboLeft, options().TumboTop, screen()->size()), QSize() });
 }
 
 void RAWform::SavePosition()
@@ -252,8 +256,8 @@ void RAWform::ResizeTumbo()
         each->activate();
     }
     // With the pictures it takes the room that they have usually; without them, what it needs.
-    const int wanted = options().TumboControlBox ? usualSize.height()
-                                                 : layout()->totalHeightForWidth(width());
+    const int wanted =
+        options().TumboControlBox ? usualSize.height() : layout()->totalHeightForWidth(width());
     resize(QSize(width(), std::min(wanted, screen()->availableSize().height()))
                .expandedTo(minimumSizeHint()));
 }
@@ -261,12 +265,11 @@ void RAWform::ResizeTumbo()
 void RAWform::showParts()
 {
     const bool codes = options().ViewUSBcodes;
-    for (QWidget *each :
-         std::initializer_list<QWidget *>{ m_ui->LabelMake, m_ui->LabelBreak, m_ui->LabelCombined,
-                                           m_ui->RMakeText, m_ui->RBreakText, m_ui->RCombinedText,
-                                           m_ui->Command10_1, m_ui->Command10_2, m_ui->Command10_3,
-                                           m_ui->CommandPasteJ_1, m_ui->CommandPasteJ_2,
-                                           m_ui->CommandPasteJ_3 }) {
+    for (QWidget *each : std::initializer_list<QWidget *>{
+             m_ui->LabelMake, m_ui->LabelBreak, m_ui->LabelCombined, m_ui->RMakeText,
+             m_ui->RBreakText, m_ui->RCombinedText, m_ui->Command10_1, m_ui->Command10_2,
+             m_ui->Command10_3, m_ui->CommandPasteJ_1, m_ui->CommandPasteJ_2,
+             m_ui->CommandPasteJ_3 }) {
         each->setVisible(codes);
     }
     m_ui->FrameControls->setVisible(options().TumboControlBox);

@@ -58,7 +58,7 @@ constexpr std::array slashModifiersPages = {
 
 constexpr std::array mouseMicrostickPages = {
     LessonPage{ u"The mouse under your thumb", u"Wizards/mouse-microstick-0.html", u"The throttle, with rings around the microstick and the buttons T1 and T6", throttle, u"MIX MIY T1 T6" },
-    LessonPage{ u"An axis as mouse", u"Wizards/mouse-microstick-1.html", u"The throttle, with rings around the microstick and the range knob", throttle, u"MIX MIY RNG" },
+    LessonPage{ u"An axis as mouse", u"Wizards/mouse-microstick-1.html", u"The throttle, with rings around the microstick and the range knob", throttle, u"T1 RNG" },
     LessonPage{ u"Mouse buttons and nudges on a button", u"Wizards/mouse-microstick-2.html", u"The stick, with rings around S2 and the hat H2", stick, u"S2 HAT2" },
     LessonPage{ u"Straight to the switch", u"Wizards/mouse-microstick-3.html", u"A screen with a place that is counted from its upper left corner", u"Wizards/mouse.svg" },
 };

@@ -16,7 +16,20 @@
 #include <QCompleter>
 #include <QFontDatabase>
 
+#include <chrono>
+
 namespace zeph {
+
+using namespace std::chrono_literals;
+
+namespace {
+
+/// Long enough that typing in a long macro file does not wait for the search for a name.
+constexpr auto pause = 150ms;
+/// The room for them is always there, so that the window does not jump.
+constexpr int warningLines = 2;
+
+} // namespace
 
 MacroFields::MacroFields(const ComposerParts &parts, const QString &keysName, QWidget *parent)
     : QWidget(parent), m_parts(parts), m_ui(std::make_unique<Ui::MacroFields>())
@@ -31,9 +44,17 @@ MacroFields::MacroFields(const ComposerParts &parts, const QString &keysName, QW
             guarded(parts.context.dialogs, [this](bool) { insertMacro(); }));
     connect(m_ui->Command1_5, &QPushButton::clicked, this, &MacroFields::clearText);
     connect(m_ui->Command1_6, &QPushButton::clicked, this, &MacroFields::tumboWanted);
+    m_ui->LabelWarning->setMinimumHeight(warningLines
+                                         * m_ui->LabelWarning->fontMetrics().lineSpacing());
+    m_soon.setSingleShot(true);
+    m_soon.setInterval(pause);
+    connect(&m_soon, &QTimer::timeout, this, &MacroFields::showWarning);
     // The file may get the name that the field holds.
-    connect(&parts.documents.macro(), &Document::edited, this, &MacroFields::CreateMacro);
-    connect(&parts.documents.macro(), &Document::replaced, this, &MacroFields::CreateMacro);
+    const auto warnSoon = [this] {
+        m_soon.start();
+    };
+    connect(&parts.documents.macro(), &Document::edited, this, warnSoon);
+    connect(&parts.documents.macro(), &Document::replaced, this, warnSoon);
     CreateMacro();
 }
 
@@ -75,8 +96,16 @@ void MacroFields::CreateMacro()
     const QString line = previewOf(name, m_ui->Keys->text());
     m_ui->Label1->setText(line);
     m_ui->Label1->setToolTip(line);
-    m_ui->LabelWarning->setText(warningAbout(name, m_parts.documents.macro().text()));
     m_ui->Command1_4->setEnabled(!line.isEmpty());
+    showWarning();
+}
+
+void MacroFields::showWarning()
+{
+    m_soon.stop();
+    const QString name = nameField().currentText();
+    m_ui->LabelWarning->setText(
+        name.isEmpty() ? QString() : warningAbout(name, m_parts.documents.macro().text()));
 }
 
 void MacroFields::insertMacro()

@@ -5,6 +5,8 @@
 
 #include "composer/composer_page.h"
 
+#include <QTimer>
+
 #include <memory>
 
 namespace zeph {
@@ -37,6 +39,7 @@ private:
     void fillNames();
     /// Corrects the name and shows the macro's line.
     void CreateMacro();
+    void showWarning();
     /// Writes the macro's line into the macro file and starts the next one. Nothing without a name,
     /// or when the file is protected.
     void insertMacro();
@@ -45,6 +48,7 @@ private:
 
     ComposerParts m_parts;
     std::unique_ptr<Ui::MacroFields> m_ui;
+    QTimer m_soon; ///< until the warning is looked for again
 };
 
 } // namespace zeph

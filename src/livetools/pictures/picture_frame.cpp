@@ -132,11 +132,12 @@ void PictureFrame::RepositionControls()
     const QRect all = contentsRect();
     const QSize bars(m_vertical->sizeHint().width(), m_horizontal->sizeHint().height());
     const QSize picture = m_canvas->size();
-    // A bar takes room, which may make the other one necessary. A picture that fits may be a
-    // pixel too large by rounding.
-    bool isWide = !m_fits && picture.width() > all.width();
-    const bool isHigh = !m_fits && picture.height() > all.height() - (isWide ? bars.height() : 0);
-    isWide = !m_fits && picture.width() > all.width() - (isHigh ? bars.width() : 0);
+    // A picture that fits may be a pixel too large by rounding.
+    const QSize most = all.size() + (m_fits ? QSize(1, 1) : QSize(0, 0));
+    // A bar takes room, which may make the other one necessary.
+    bool isWide = picture.width() > most.width();
+    const bool isHigh = picture.height() > most.height() - (isWide ? bars.height() : 0);
+    isWide = picture.width() > most.width() - (isHigh ? bars.width() : 0);
     const QSize room = all.size() - QSize(isHigh ? bars.width() : 0, isWide ? bars.height() : 0);
     m_port->setGeometry(QRect(all.topLeft(), room));
     m_horizontal->setGeometry(all.left(), all.top() + room.height(), room.width(), bars.height());

@@ -117,7 +117,10 @@ void ViewImage::makeBars()
         if (name.isEmpty()) {
             m_ui->Toolbar1->addSeparator();
         } else {
-            m_ui->Toolbar1->addAction(m_actions->action(name));
+            QAction *entry = m_actions->action(name);
+            m_ui->Toolbar1->addAction(entry);
+            m_ui->Toolbar1->widgetForAction(entry)->setObjectName(u"Toolbar1_"_s
+                                                                  + name.sliced(3).toString());
         }
     }
     const auto addPanel = [this](QLabel *panel, const QString &name, const QString &words,

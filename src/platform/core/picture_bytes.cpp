@@ -57,7 +57,8 @@ bool isWholeBitmap(const Numbers &file)
     const BitmapHeader header(file);
     const qint64 pixels = file.little<quint32>(10);
     const quint32 compression = header.isOld ? 0 : file.little<quint32>(30);
-    if (header.width <= 0 || header.height == 0 || header.depth == 0) {
+    if (!file.has(0, header.isOld ? 26 : 54) || header.width <= 0 || header.height == 0
+        || header.depth == 0) {
         return false;
     }
     if (compression != 0 && compression != bitFields) {

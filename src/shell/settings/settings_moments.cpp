@@ -43,8 +43,8 @@ void addAllSettings(Settings &settings)
 {
     addAll<SharedSettings, ColourSettings, MenuSettings, DocumentSettings, EditorSettings,
            ShellSettings, ComposerSettings, TemplateSettings, ToolchainSettings, DefaultOptions,
-           KeyTesterSettings, ImageViewerSettings, LogicFlagsSettings, LayoutsSettings,
-           TumboSettings>(settings);
+           KeyTesterSettings, ImageViewerSettings, LogicFlagsSettings, TumboSettings,
+           LayoutsSettings>(settings);
 }
 
 bool isSetUp(const SettingsFiles &files)

@@ -76,6 +76,15 @@ TEST_F(MouseWizard, UsesTheImageViewerThatIsOpen)
     EXPECT_EQ(viewer().gesture(), Gesture::Point);
 }
 
+TEST_F(MouseWizard, BringsAMinimisedImageViewerBack)
+{
+    editor->action(u"mnuAppsImageViewer")->trigger();
+    viewer().showMinimized();
+    openWizard();
+    EXPECT_FALSE(viewer().isMinimized());
+    EXPECT_TRUE(viewer().isVisible());
+}
+
 TEST_F(MouseWizard, WithoutAPictureTheViewerIsEmptyAndNoBoxComes)
 {
     settings.of<SharedSettings>().ImageFilePath = folder.file(u"gone.bmp"_s);
@@ -117,9 +126,10 @@ TEST_F(MouseWizard, EachPageHasItsButtonsItsGestureAndItsText)
         EXPECT_EQ(wizard().page(), row.page);
         EXPECT_EQ(buttons(), row.buttons) << int(row.page);
         EXPECT_EQ(viewer().gesture(), row.gesture) << int(row.page);
-        const QString text = part<QTextBrowser>(u"Teaching"_s).toPlainText();
+        const QString text =
+            part<QTextBrowser>(u"TextLesson_%1"_s.arg(int(row.page))).toPlainText();
         EXPECT_GT(text.size(), 200) << int(row.page);
-        EXPECT_FALSE(text.contains(u"should be here")) << text.toStdString();
+        EXPECT_FALSE(text.contains(u"can't find")) << text.toStdString();
     };
     for (int movement = 0; movement < mouseMovementCount; ++movement) {
         press(u"OptionMouseMove_%1"_s.arg(movement));
@@ -378,6 +388,15 @@ TEST_F(MouseWizard, AViewerThatWasClosedComesBackForTheNextGesture)
     EXPECT_EQ(viewer().gesture(), Gesture::Point);
     click(at(100, 50));
     EXPECT_EQ(statement(), u"MOUSEXY (UL, 100, 50)");
+}
+
+TEST_F(MouseWizard, F1LeadsToTheHelpOnMouseProgramming)
+{
+    QSignalSpy wanted(&openWizard(), &MouseProgram::helpWanted);
+    QApplication::setActiveWindow(&wizard());
+    QTest::keyClick(&wizard(), Qt::Key_F1);
+    ASSERT_EQ(wanted.count(), 1);
+    EXPECT_EQ(wanted[0][0].toInt(), 2060);
 }
 
 TEST_F(MouseWizard, TheComposersButtonOpensIt)

@@ -71,8 +71,8 @@ std::map<QString, QString> allCodes()
 }
 
 // The states are sums of Shift 1, Ctrl 2, Alt 4.
-const QStringList modifierTexts{ QString(),   u"SHF "_s,     u"CTL "_s,     u"CTL SHF "_s,
-                                 u"ALT "_s,   u"ALT SHF "_s, u"CTL ALT "_s, u"CTL ALT SHF "_s };
+const QStringList modifierTexts{ QString(), u"SHF "_s,     u"CTL "_s,     u"CTL SHF "_s,
+                                 u"ALT "_s, u"ALT SHF "_s, u"CTL ALT "_s, u"CTL ALT SHF "_s };
 
 KeyToggles togglesOf(int state)
 {
@@ -90,8 +90,7 @@ struct CodeLists {
     QStringList down;
     QStringList up;
 };
-CodeLists expectedCodes(const QString &code, const QString &shownAs, int state,
-                       CodeView view)
+CodeLists expectedCodes(const QString &code, const QString &shownAs, int state, CodeView view)
 {
     const bool isUsb = view == CodeView::Usb;
     const std::map<int, Modifier> order{ { 1, { 2, u"LCTL"_s, u"E0"_s } },
@@ -225,8 +224,8 @@ TEST(Notations, InTheViewOfNamesMakeAndBreakAreTheName)
 {
     const KeyStrings strings =
         GetKeystrings(keyNamed(u"F12"_s), { false, true }, CodeView::KdKu, true);
-    EXPECT_EQ(strings, (KeyStrings{ u"CTL F12"_s, u"LCTL F12"_s, u"F12 LCTL"_s,
-                                    u"LCTL F12 F12 LCTL"_s }));
+    EXPECT_EQ(strings,
+              (KeyStrings{ u"CTL F12"_s, u"LCTL F12"_s, u"F12 LCTL"_s, u"LCTL F12 F12 LCTL"_s }));
 }
 
 TEST(Notations, OfAllKeysInAllStatesAreWhatTheRulesSay)
@@ -239,8 +238,8 @@ TEST(Notations, OfAllKeysInAllStatesAreWhatTheRulesSay)
         const bool isSymbol = !useShfKey && (state & 1) != 0 && at >= 0 && at % 2 == 0;
         const QString shownAs = isSymbol ? QString(symbols[at + 1]) : name;
         const auto code = codes.find(name);
-        const CodeLists expected = expectedCodes(
-            code == codes.end() ? QString() : code->second, shownAs, state, view);
+        const CodeLists expected =
+            expectedCodes(code == codes.end() ? QString() : code->second, shownAs, state, view);
         KeyStrings strings;
         strings.KeySyntax = modifierTexts[isSymbol ? state - 1 : state] + shownAs;
         strings.MakeCodes = expected.down.join(u' ');
@@ -304,8 +303,8 @@ TEST(Statements, Button3InTheViewOfNamesWritesUSB)
 TEST(Statements, PressAndRelease)
 {
     const BoardKey &key = keyNamed(u"q"_s);
-    EXPECT_EQ(pressAndReleaseStatement(
-                  GetKeystrings(key, { true }, CodeView::KdKu, true), CodeView::KdKu),
+    EXPECT_EQ(pressAndReleaseStatement(GetKeystrings(key, { true }, CodeView::KdKu, true),
+                                       CodeView::KdKu),
               u"/P KD(LSHF q) /R KU(q LSHF) Rem 'SHF q'"_s);
     EXPECT_EQ(pressAndReleaseStatement(GetKeystrings(key, {}, CodeView::Usb, true), CodeView::Usb),
               u"/P USB(D14) /R USB(U14) Rem 'q'"_s);
@@ -370,14 +369,12 @@ TEST(Statements, TheCompilerAcceptsAllThatTumboCanWrite)
     int checked = 0;
     forEachState([&checked](const BoardKey &key, int state, CodeView view, bool useShfKey) {
         const KeyStrings strings = GetKeystrings(key, togglesOf(state), view, useShfKey);
-        QStringList statements{ pressAndReleaseStatement(strings, view),
-                                combinedWithRem(strings) };
+        QStringList statements{ pressAndReleaseStatement(strings, view), combinedWithRem(strings) };
         const QStringList texts{ strings.KeySyntax, strings.MakeCodes, strings.BreakCodes,
                                  strings.CombinedCodes };
         for (const Notation notation : notations) {
             for (const bool brackets : { true, false }) {
-                statements.append(
-                    statementText(notation, texts[int(notation)], view, brackets));
+                statements.append(statementText(notation, texts[int(notation)], view, brackets));
             }
         }
         for (const QString &statement : statements) {

@@ -58,8 +58,7 @@ TEST_F(Tumbo, HasAButtonForEachKeyWithItsCaptionAndAName)
 {
     int count = 0;
     for (const BoardKey &row : boardKeys()) {
-        const auto &key =
-            part<QAbstractButton>(u"Command1_"_s + QString::number(row.index));
+        const auto &key = part<QAbstractButton>(u"Command1_"_s + QString::number(row.index));
         EXPECT_FALSE(key.text().isEmpty());
         EXPECT_FALSE(key.accessibleName().isEmpty());
         EXPECT_TRUE(tumbo().rect().contains(key.mapTo(&tumbo(), key.rect().center())));
@@ -330,6 +329,14 @@ TEST_F(Tumbo, OffersTheDefaultMacrosNamesAndBeginsWithNone)
     EXPECT_EQ(names.count(), 2);
     EXPECT_EQ(names.itemText(1), u"Gear_Up"_s);
     EXPECT_EQ(names.currentText(), QString());
+}
+
+TEST_F(Tumbo, ANameThatIsTypedStaysAsItIs)
+{
+    auto &names = part<QComboBox>(u"ComboMacros"_s);
+    names.setFocus();
+    QTest::keyClicks(&names, u"Gear"_s);
+    EXPECT_EQ(names.currentText(), u"Gear"_s);
 }
 
 TEST_F(Tumbo, AMacroGoesToTheEndOnALineOfItsOwn)

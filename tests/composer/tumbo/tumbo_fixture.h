@@ -49,7 +49,7 @@ protected:
         }
         return *found;
     }
-        QLineEdit &box(const QString &name) { return part<QLineEdit>(name); }
+    QLineEdit &box(const QString &name) { return part<QLineEdit>(name); }
     QAction &entry(const QString &name) { return part<QAction>(name); }
     void choose(const QString &name) { entry(name).trigger(); }
     void clickPart(const QString &name) { part<QAbstractButton>(name).click(); }
@@ -63,8 +63,8 @@ protected:
     /// Syntax, make, break and combined.
     QStringList shown()
     {
-        return { box(u"SyntaxText"_s).text(), box(u"RMakeText"_s).text(), box(u"RBreakText"_s).text(),
-                 box(u"RCombinedText"_s).text() };
+        return { box(u"SyntaxText"_s).text(), box(u"RMakeText"_s).text(),
+                 box(u"RBreakText"_s).text(), box(u"RCombinedText"_s).text() };
     }
     QString total() { return box(u"TotalCombinedText"_s).text(); }
     void option(bool TumboSettings::*flag, bool on) { settings.of<TumboSettings>().*flag = on; }

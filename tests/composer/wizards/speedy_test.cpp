@@ -248,9 +248,10 @@ TEST_F(SpeedyTest, ANameThatTheFileHasIsToldAndSoIsItsEnd)
     nameField().setText(u"gear"_s);
     EXPECT_EQ(warning.text(), QString());
     type(DocumentKind::Macro, u"Gear = g"_s);
+    EXPECT_TRUE(QTest::qWaitFor([&warning] { return !warning.text().isEmpty(); }));
     EXPECT_EQ(warning.text(), u"There's already a macro called gear."_s);
     macro().undo();
-    EXPECT_EQ(warning.text(), QString());
+    EXPECT_TRUE(QTest::qWaitFor([&warning] { return warning.text().isEmpty(); }));
 }
 
 TEST_F(SpeedyTest, F1AsksForItsHelp)

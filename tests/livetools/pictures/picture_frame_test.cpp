@@ -171,6 +171,15 @@ TEST_F(FrameTest, FittingFollowsTheWindowUntilTheUserZooms)
     EXPECT_EQ(frame.zoom(), 0.5);
 }
 
+TEST_F(FrameTest, APictureTooLongToFitKeepsItsBar)
+{
+    show({ 20000, 40 });
+    frame.setFits(true);
+    EXPECT_EQ(frame.zoom(), 0.05);
+    EXPECT_TRUE(horizontal().isVisible());
+    EXPECT_EQ(horizontal().maximum(), 1000 - port().width());
+}
+
 TEST_F(FrameTest, AnotherPictureIsShownAtItsNaturalSizeAndARefreshedOneAsItWas)
 {
     show({ 1000, 800 });
