@@ -69,6 +69,7 @@ TEST_F(LayoutToolsTest, TransferOpensTheCustomSheetWithTheTexts)
     auto *throttle = open<TQSLayout>(u"mnuAppsThrottleLayout"_s);
     throttle->actions().action(u"mnuTransferArray_0")->trigger();
     EXPECT_EQ(text(*custom, 2), text(*throttle, 1));
+    dialogs.answer(u"Save layout?"_s, BoxButton::No);
 }
 
 TEST_F(LayoutToolsTest, CaptureOpensTheImageViewerOnTheSheet)

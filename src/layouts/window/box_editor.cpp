@@ -15,6 +15,7 @@ namespace zeph {
 
 BoxEditor::BoxEditor(QWidget *parent) : RichTextBox(parent)
 {
+    setObjectName(u"TxtRTF"_s);
     setFrameShape(QFrame::NoFrame);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);

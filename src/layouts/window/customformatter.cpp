@@ -56,7 +56,8 @@ QWidget *CustomFormatter::makeFonts()
     fonts->setObjectName(u"ComboFonts"_s);
     fonts->setAccessibleName(u"Selected font"_s);
     fonts->setToolTip(u"Gives the selected text this font"_s);
-    fonts->setEditable(false);
+    fonts->lineEdit()->setObjectName(u"ComboFontsEdit"_s);
+    fonts->lineEdit()->setAccessibleName(u"Selected font"_s);
     fonts->setCurrentFont(QFont(u"Arial"_s));
     m_sizes = new QComboBox(frame);
     m_sizes->setObjectName(u"ComboFontSize"_s);

@@ -3,6 +3,7 @@
 
 #include "layouts/window/sheet_canvas.h"
 
+#include "layouts/files/sheet_kinds.h"
 #include "layouts/window/box_editor.h"
 #include "layouts/window/sheet_model.h"
 #include "platform/colours.h"
@@ -128,6 +129,8 @@ void SheetCanvas::showEditor()
         m_isSetting = wasSetting;
         m_edited = box->text;
         m_editor->setObjectName(name);
+        m_editor->setAccessibleName(
+            sheetKind(m_shown.kind).boxNames[size_t(number)].toString());
     }
     m_editor->setVisible(true);
 }

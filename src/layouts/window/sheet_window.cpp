@@ -308,6 +308,10 @@ void SheetWindow::showTitle()
 /// Shows the sheet as the model has it now.
 void SheetWindow::refresh()
 {
+    if (picturePaths() != m_shownPictures) {
+        loadPictures();
+        return;
+    }
     m_view->showSheet(m_texts->withKeys(m_model.sheet()));
     const int overflowing = m_view->canvas().overflowing();
     m_overflow->setText(overflowing == 0       ? QString()

@@ -77,6 +77,7 @@ private:
     Sheet freshCustomSheet() const;
     void showOpened(const std::optional<OpenedLayout> &opened);
     void loadPictures();
+    QStringList picturePaths() const;
     void chooseOwnPicture();
     void arrange();
     void setAutomatic();
@@ -103,6 +104,7 @@ private:
     LayoutFiles *m_files = nullptr;
     MenuArray *m_recent = nullptr;
     ControlsImage m_image;
+    QStringList m_shownPictures; ///< whose pictures the sheet is drawn with
     Sheet m_asOpened; ///< nothing is lost while the sheet is still that
     bool m_isLeft = false; ///< the question before closing has been answered
 };

@@ -84,7 +84,7 @@ Sheet SheetWindow::freshSheet()
     }
     sheet = m_texts->analysed(sheet).value_or(sheet);
     if (settings.LayoutApplyColour) {
-        m_context.status.setText(u" Applying colour highlighting ..."_s);
+        m_context.status.setText(sheetKind(m_kind).coloursStatus.toString());
         sheet = m_texts->coloured(std::move(sheet), settings.HighlightingMethod);
     }
     std::vector<RichText> texts;
@@ -128,8 +128,18 @@ Sheet SheetWindow::freshCustomSheet() const
     return sheet;
 }
 
+QStringList SheetWindow::picturePaths() const
+{
+    QStringList paths;
+    for (const SheetPicture &picture : m_model.sheet().pictures) {
+        paths.append(picture.path);
+    }
+    return paths;
+}
+
 void SheetWindow::loadPictures()
 {
+    m_shownPictures = picturePaths();
     const auto &settings = m_context.settings.of<LayoutsSettings>();
     SheetLook look = lookOf(m_image, plainOf(settings));
     if (m_kind == SheetKind::Custom) {

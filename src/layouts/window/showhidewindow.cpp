@@ -37,7 +37,7 @@ constexpr std::array commands = {
     Command{ u"cmdSize", u"&Textbox size", u"mnuTextBoxSize" },
 };
 
-constexpr int ticksInAColumn = 14;
+constexpr int mostTicksInAColumn = 14;
 
 } // namespace
 
@@ -61,10 +61,11 @@ QWidget *ShowHideWindow::makeTicks(SheetKind kind)
     auto *frame = new QGroupBox(u"The following textboxes are visible"_s, this);
     frame->setObjectName(u"Frame1"_s);
     auto *grid = new QGridLayout(frame);
+    const int columns = (row.boxes + mostTicksInAColumn - 1) / mostTicksInAColumn;
     for (int i = 0; i < row.boxes; ++i) {
         auto *tick = new QCheckBox(row.boxNames[size_t(i)].toString(), frame);
         tick->setObjectName(u"Check1_"_s + QString::number(i));
-        grid->addWidget(tick, i % ticksInAColumn, i / ticksInAColumn);
+        grid->addWidget(tick, i / columns, i % columns);
         connect(tick, &QCheckBox::clicked, this, [this, i](bool isOn) {
             Sheet sheet = m_model.sheet();
             sheet.boxes[size_t(i)].Visible = isOn;

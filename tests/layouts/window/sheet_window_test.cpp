@@ -5,10 +5,14 @@
 
 #include "layouts/files/layout_store.h"
 
+#include <QCheckBox>
 #include <QClipboard>
-#include <QElapsedTimer>
+#include <QComboBox>
+#include <QDialog>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QStatusBar>
+#include <QTimer>
 #include <QToolBar>
 
 using namespace zeph;
@@ -25,6 +29,15 @@ protected:
     {
         model().select(i);
         editor().select(start, length);
+    }
+    /// Operates the dialog that comes up next.
+    void inDialog(const std::function<void(QDialog &)> &operate)
+    {
+        QTimer::singleShot(0, window.get(), [operate] {
+            auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
+            ASSERT_TRUE(dialog);
+            operate(*dialog);
+        });
     }
     QString layoutFile(SheetKind kind, LayoutForm form, const QString &name)
     {
@@ -386,7 +399,7 @@ TEST_F(SheetTest, OverflowIsCountedAndFitTextMendsIt)
     EXPECT_EQ(panel->text(), u"1 textbox does not hold all of its text");
     select(14);
     press(u"mnuFitText_1");
-    EXPECT_FALSE(panel->isVisible());
+    EXPECT_FALSE(panel->isVisible()) << panel->text().toStdString();
     EXPECT_EQ(text(14), u"one\ntwo\nthree\nfour");
     EXPECT_LT(box(14).text.formatAt(0).pointSize, 8);
     EXPECT_GE(box(14).text.formatAt(0).pointSize, 5);
@@ -434,6 +447,53 @@ TEST_F(SheetTest, ASizeThatRepositionsMovesTheBoxes)
     window->AdjustLayoutSize({ 700, 1000 });
     EXPECT_EQ(placeOf(4), arranged);
     EXPECT_TRUE(action(u"mnuPrinterOrientArray_0")->isChecked());
+}
+
+TEST_F(SheetTest, TheSizeDialogGivesTheSizeAndTheArrangement)
+{
+    open<GraphicsPrint>();
+    layouts().isRepositionOff = true;
+    const QRectF before = placeOf(4);
+    inDialog([](QDialog &dialog) {
+        EXPECT_EQ(dialog.findChild<QLineEdit *>(u"TextWidth"_s)->text(), u"1043");
+        dialog.findChild<QLineEdit *>(u"TextWidth"_s)->setText(u"300"_s);
+        dialog.findChild<QLineEdit *>(u"TextHeight"_s)->setText(u"900.7"_s);
+        dialog.findChild<QPushButton *>(u"cmdOK"_s)->click();
+    });
+    press(u"mnuLayoutSize");
+    EXPECT_EQ(QSize(model().sheet().width, model().sheet().height), QSize(400, 900));
+    EXPECT_EQ(placeOf(4), before);
+    inDialog([](QDialog &dialog) {
+        dialog.findChild<QLineEdit *>(u"TextWidth"_s)->setText(u"1200"_s);
+        dialog.findChild<QCheckBox *>(u"CheckReposition"_s)->setChecked(true);
+        dialog.findChild<QPushButton *>(u"cmdOK"_s)->click();
+    });
+    press(u"mnuLayoutSize");
+    EXPECT_EQ(model().sheet().width, 1200);
+    EXPECT_NE(placeOf(4), before);
+}
+
+TEST_F(SheetTest, ALayoutThatIsSavedWithTextComesBackWithItsFormats)
+{
+    open<GraphicsPrint>();
+    Sheet sheet = model().sheet();
+    sheet.boxes[5].text = RichText::plain(u"bold and plain"_s);
+    sheet.boxes[5].text.change(0, 4, [](CharFormat &format) { format.bold = true; });
+    model().change(sheet);
+    inDialog([](QDialog &dialog) {
+        dialog.findChild<QComboBox *>(u"Combo1"_s)->setCurrentText(u"Mine"_s);
+        dialog.findChild<QPushButton *>(u"cmdOK"_s)->click();
+    });
+    press(u"mnuSaveTextWithPositions");
+    EXPECT_TRUE(QFile::exists(folder.file(u"Layouts/Mine/Joystick layout.jft"_s)));
+    EXPECT_TRUE(QFile::exists(folder.file(u"Layouts/Mine/Cougar Joystick Text16.rtf"_s)));
+    EXPECT_TRUE(window->mayClose());
+    write(5, u"something else"_s);
+    dialogs.answer(u"Save layout?"_s, BoxButton::No);
+    window->findChild<QAction *>(u"mnuPrevLOArray_1"_s)->trigger();
+    EXPECT_EQ(text(5), u"bold and plain");
+    EXPECT_TRUE(box(5).text.formatAt(3).bold);
+    EXPECT_FALSE(box(5).text.formatAt(4).bold);
 }
 
 TEST_F(SheetTest, TheToolbarIsHiddenWhereTheFileSaysSo)
