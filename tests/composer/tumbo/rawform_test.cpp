@@ -70,6 +70,20 @@ TEST_F(Tumbo, HasAButtonForEachKeyWithItsCaptionAndAName)
     EXPECT_EQ(key(u"LSHF"_s).accessibleName(), u"Left Shift"_s);
 }
 
+TEST_F(Tumbo, EachCaptionHasRoomOnTheSmallestBoard)
+{
+    KeyBoard board;
+    board.resize(board.minimumSizeHint());
+    board.show();
+    QFont smallest = board.font();
+    smallest.setPixelSize(7);
+    const QFontMetricsF metrics(smallest);
+    for (const BoardKey &row : boardKeys()) {
+        EXPECT_LE(metrics.horizontalAdvance(row.caption(false)), board.key(row.index)->width() - 3)
+            << row.name.toString().toStdString();
+    }
+}
+
 TEST_F(Tumbo, ShiftChangesTheTwentyOneCaptionsAndBackAgain)
 {
     const QString plain = u"`-=\\[];',./1234567890"_s;
