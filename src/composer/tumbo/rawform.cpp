@@ -96,6 +96,10 @@ RAWform::RAWform(const Context &context, Documents &documents, ComposerEditor &e
     // It would make another name of a short one that is typed.
     m_ui->ComboMacros->setCompleter(nullptr);
     m_ui->ComboMacros->clearEditText();
+    // The toolkit creates the inner field without a name.
+    QLineEdit &field = *m_ui->ComboMacros->lineEdit();
+    field.setObjectName(u"ComboMacrosEdit"_s);
+    field.setAccessibleName(m_ui->ComboMacros->accessibleName());
     GetTumboOptions();
     connectMenus();
     connectButtons();

@@ -189,6 +189,20 @@ TEST_F(JoystickWizard, EndsOnItsTenthPage)
     EXPECT_FALSE(window().isVisible());
 }
 
+TEST_F(JoystickWizard, CancelOnAnyPageLeavesTheFilesAsTheyAre)
+{
+    setJoystick(u"BTN S1 a"_s);
+    setMacro(u"Gear = g"_s);
+    for (int page = 0; page < 10; ++page) {
+        openWindow().showPage(page);
+        click(u"CommandAll_2"_s);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        EXPECT_EQ(windows.get<WizardJoystickFile>(), nullptr) << page;
+    }
+    EXPECT_EQ(macro().text(), u"Gear = g"_s);
+    EXPECT_EQ(joystick().text(), u"BTN S1 a"_s);
+}
+
 TEST_F(JoystickWizard, ItsButtonsRunTheEditorsCommands)
 {
     const std::initializer_list<QStringView> entries = { u"mnuFileNewJoystick", u"mnuFileSave",
