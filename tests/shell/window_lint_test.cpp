@@ -16,6 +16,8 @@
 #include "editor/editor_settings.h"
 #include "editor/files/frm_createpackage.h"
 #include "editor/macros/macrorenameform.h"
+#include "layouts/files/layoutsave.h"
+#include "layouts/files/layoutsize.h"
 #include "lists/favourites_menu.h"
 #include "lists/user_lists.h"
 #include "livetools/keytestform.h"
@@ -163,7 +165,8 @@ template <class Window> std::unique_ptr<QWidget> makeWizard(test::ShellWorld &wo
 {
     auto *bench = new WizardBench(world);
     std::unique_ptr<QWidget> window;
-    if constexpr (std::is_constructible_v<Window, Context, Documents &, ComposerEditor &>) {
+    if constexpr (std::is_same_v<Window, MouseProgram> || std::is_same_v<Window, MouseManual>
+                  || std::is_same_v<Window, RAWform>) {
         window = std::make_unique<Window>(world.context(), bench->editor.documents(), bench->tools);
     } else if constexpr (std::is_same_v<Window, WizardJoystickFile>) {
         window = std::make_unique<Window>(bench->parts, bench->windows);
@@ -214,6 +217,19 @@ const LintCase cases[] = {
     { "StyleEditor",
       [](auto &w) {
           return std::make_unique<StyleEditor>(defaultTextStyles(), 0xFFFFFF, w.dialogs);
+      } },
+    { "LayoutSave",
+      [](auto &) {
+          return std::make_unique<LayoutSave>(QStringList{ u"Falcon"_s });
+      } },
+    { "LayoutSaveText",
+      [](auto &) {
+          return std::make_unique<LayoutSaveText>(QStringList{ u"Falcon"_s });
+      } },
+    { "LayoutSize",
+      [](auto &) {
+          return std::make_unique<LayoutSize>(LayoutSizeChoice{ QSize(1043, 714), false, true },
+                                              QSize(800, 963));
       } },
     { "FindAndReplace", makeFindAndReplace },
     { "FormResetOptions",
@@ -299,7 +315,6 @@ public:
     }
 
     /// Among neighbours, nothing that the Tab key reaches later stands wholly above what it left.
-    /// The controls on a picture of the stick or throttle follow one another by their numbers.
     void checkTabKey() const
     {
         const QWidget *last = nullptr;
@@ -308,8 +323,11 @@ public:
             if (!isOperated(*next) || !(next->focusPolicy() & Qt::TabFocus) || !next->isVisible()) {
                 continue;
             }
-            if (last && last->parentWidget() == next->parentWidget()
-                && !qobject_cast<const ControlsPicture *>(last->parentWidget())) {
+            // A picture has its controls in their own order.
+            if (qobject_cast<const ControlsPicture *>(next->parentWidget())) {
+                continue;
+            }
+            if (last && last->parentWidget() == next->parentWidget()) {
                 EXPECT_GE(next->geometry().bottom(), last->geometry().top())
                     << last->objectName().toStdString() << " before "
                     << next->objectName().toStdString();

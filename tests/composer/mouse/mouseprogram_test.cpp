@@ -126,7 +126,8 @@ TEST_F(MouseWizard, EachPageHasItsButtonsItsGestureAndItsText)
         EXPECT_EQ(wizard().page(), row.page);
         EXPECT_EQ(buttons(), row.buttons) << int(row.page);
         EXPECT_EQ(viewer().gesture(), row.gesture) << int(row.page);
-        const QString text = part<QTextBrowser>(u"TextLesson_%1"_s.arg(int(row.page))).toPlainText();
+        const QString text =
+            part<QTextBrowser>(u"TextLesson_%1"_s.arg(int(row.page))).toPlainText();
         EXPECT_GT(text.size(), 200) << int(row.page);
         EXPECT_FALSE(text.contains(u"can't find")) << text.toStdString();
     };
