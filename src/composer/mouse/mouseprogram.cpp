@@ -92,7 +92,7 @@ void MouseProgram::useViewer(ViewImage *viewer)
     m_viewer = viewer;
     Dialogs &dialogs = m_context.dialogs;
     connect(viewer, &ViewImage::measuresChanged, this, guarded(dialogs, [this] { refresh(); }));
-    connect(viewer, &ViewImage::pictureChanged, this, guarded(dialogs, [this] { FillFields(); }));
+    connect(viewer, &ViewImage::pictureLoaded, this, guarded(dialogs, [this] { FillFields(); }));
     connect(viewer, &QObject::destroyed, this, guarded(dialogs, [this](QObject *) {
                 // The signal comes before the pointer is cleared.
                 m_viewer.clear();
@@ -293,7 +293,9 @@ void MouseProgram::UpdateMouseMoveStatement()
 
 void MouseProgram::UpdateMouseInfoValue()
 {
-    const auto values = rotateValuesSoFar(fields());
+    auto values = rotateValuesSoFar(fields());
+    // The label has no blank in "x,y", as that of a clicked place.
+    values[RotateCentre].remove(u' ');
     for (int i = 0; i < m_info.count(); ++i) {
         m_info[i]->setText(values[readings[i]]);
     }

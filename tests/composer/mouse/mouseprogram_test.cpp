@@ -126,7 +126,8 @@ TEST_F(MouseWizard, EachPageHasItsButtonsItsGestureAndItsText)
         EXPECT_EQ(wizard().page(), row.page);
         EXPECT_EQ(buttons(), row.buttons) << int(row.page);
         EXPECT_EQ(viewer().gesture(), row.gesture) << int(row.page);
-        const QString text = part<QTextBrowser>(u"TextLesson_%1"_s.arg(int(row.page))).toPlainText();
+        const QString text =
+            part<QTextBrowser>(u"TextLesson_%1"_s.arg(int(row.page))).toPlainText();
         EXPECT_GT(text.size(), 200) << int(row.page);
         EXPECT_FALSE(text.contains(u"can't find")) << text.toStdString();
     };
@@ -207,6 +208,14 @@ TEST_F(MouseWizard, ThePicturesSizeIsTheSelectedScreenResolution)
     click(at(400, 300));
     press(u"CheckMouseXY"_s);
     EXPECT_EQ(statement(), u"MOUSEXY (UL, 50%, 50%)");
+}
+
+TEST_F(MouseWizard, ARefreshSelectsThePicturesSizeAgain)
+{
+    openWizard();
+    part<QComboBox>(u"ComboScreenRes"_s).setCurrentText(u"800,600"_s);
+    viewer().mnuImageLoad_Click();
+    EXPECT_EQ(part<QComboBox>(u"ComboScreenRes"_s).currentText(), u"1000,500");
 }
 
 TEST_F(MouseWizard, TheScreenResolutionBringsTwoLineEndsAndNoThird)
