@@ -111,6 +111,10 @@ void MouseProgram::FillCoordinateLists()
     fillSteps(*m_ui->ComboSteps, usualSteps);
     const int width = fontMetrics().horizontalAdvance(u"-0000.0%,-0000.0%"_s);
     m_ui->LBL_MouseXY->setMinimumWidth(width);
+    // The longest usual value, of which nothing is to be cut off in a narrow window.
+    QLineEdit &macro = *m_values[RotateMacro];
+    macro.setMinimumWidth(macro.fontMetrics().horizontalAdvance(u"[MOUSE_LB]"_s)
+                          + 2 * macro.fontMetrics().averageCharWidth());
     giveRoomForStatement(*m_ui->LBL_MouseStatement);
 }
 

@@ -116,6 +116,10 @@ TEST_F(Viewer, IsEmptyBeforeItShowsAPicture)
         EXPECT_FALSE(action(name)->isEnabled()) << name.toStdString();
     }
     EXPECT_TRUE(action(u"mnuImageOpen"_s)->isEnabled());
+    const auto *hint = viewer->findChild<QLabel *>(u"LabelNoPicture"_s);
+    EXPECT_FALSE(hint->isHidden());
+    open();
+    EXPECT_TRUE(hint->isHidden());
 }
 
 TEST_F(Viewer, ShowsThePictureOfImageFilePath)
@@ -386,6 +390,17 @@ TEST_F(Viewer, TheMouseEntriesRunTheMainWindows)
     EXPECT_TRUE(action(u"mnuMouseStatements_0"_s)->isEnabled());
     manual.setEnabled(false);
     EXPECT_FALSE(action(u"mnuMouseStatements_4"_s)->isEnabled());
+}
+
+TEST_F(Viewer, EachButtonOfTheToolbarHasAPicture)
+{
+    installIcons();
+    viewer = make();
+    for (const QAction *entry : viewer->findChild<QToolBar *>(u"Toolbar1"_s)->actions()) {
+        if (!entry->isSeparator()) {
+            EXPECT_FALSE(entry->icon().pixmap(20).isNull()) << entry->text().toStdString();
+        }
+    }
 }
 
 TEST_F(Viewer, ShowsThePixelBelowTheMouseAtAnyZoom)
