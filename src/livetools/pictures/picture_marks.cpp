@@ -169,7 +169,7 @@ void drawRotation(Marks &marks, const Measures &measures, const Rotation &drawn)
     const double end = CalculateTheta2(measures);
     const auto tell = [&marks, &drawn](double angle) {
         marks.number(markNumber(angle) + u'\u00b0',
-                     towards(drawn.centre, angle, drawn.drawnRadius + 3 * numberDistance));
+                     towards(drawn.centre, angle, drawn.drawnRadius + 3.5 * numberDistance));
     };
     marks.circle(drawn.centre, drawn.drawnRadius);
     marks.line(drawn.centre, towards(drawn.centre, 0, drawn.drawnRadius), Qt::DotLine);
