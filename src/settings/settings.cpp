@@ -24,6 +24,12 @@ struct Place {
 
 constexpr std::array stores = { SettingsStore::Zeph, SettingsStore::Hotas, SettingsStore::Layouts };
 
+/// Whether a store lies in the program's folder, so that its paths are relative to it.
+bool isOurs(SettingsStore store)
+{
+    return store != SettingsStore::Hotas;
+}
+
 /// The whole text as a number within 32 bits. Files from some countries have a decimal comma.
 std::optional<double> wholeNumber(QString text)
 {
@@ -94,10 +100,10 @@ SettingProblems readPlaces(const QList<Place> &places, const SettingsFiles &file
             group->set(*key, defaultOf(*key));
             continue;
         }
-        const bool isOwn = key->store == SettingsStore::Zeph;
         const QString held = found->left(key->buffer() - 1);
-        const QString text =
-            isOwn ? resolvedValue(files.store, key->section, key->key, held) : held;
+        const QString text = isOurs(key->store)
+            ? resolvedValue(files.at(key->store), key->section, key->key, held)
+            : held;
         const auto value = std::visit(ValueReader{ *key, text }, key->missing);
         group->set(*key, value.value_or(defaultOf(*key)));
         if (!value) {
@@ -117,8 +123,8 @@ Expected<void, FileError> savePlaces(const QList<Place> &places, const SettingsF
             if (key->store == store) {
                 const QString text = std::visit(ValueWriter(), group->value(*key));
                 entries.append({ key->section.toString(), key->key.toString(),
-                                 store == SettingsStore::Zeph
-                                     ? storedValue(files.store, key->section, key->key, text)
+                                 isOurs(store)
+                                     ? storedValue(files.at(store), key->section, key->key, text)
                                      : text });
             }
         }

@@ -10,7 +10,8 @@ namespace zeph {
 
 namespace {
 
-const QString section = u"Colours"_s;
+/// Of the styles of the texts.
+const QString textsSection = u"Colours"_s;
 
 struct StyleDefault {
     const char16_t *name;
@@ -35,19 +36,19 @@ constexpr std::array<StyleDefault, 9> defaults = { {
 class StyleKeys
 {
 public:
-    StyleKeys(const QByteArray &file, size_t index)
-        : m_file(file), m_number(QString::number(index + 1))
+    StyleKeys(const QByteArray &file, const QString &section, size_t index)
+        : m_file(file), m_section(section), m_number(QString::number(index + 1))
     {
     }
 
     QString text(const QString &key, const QString &fallback, int buffer = profileTextBuffer) const
     {
-        const auto value = profile::value(m_file, section, key + m_number);
+        const auto value = profile::value(m_file, m_section, key + m_number);
         return value && !value->isEmpty() ? value->left(buffer - 1) : fallback;
     }
     bool flag(const QString &key) const
     {
-        return profile::integerOf(profile::value(m_file, section, key + m_number), 0) != 0;
+        return profile::integerOf(profile::value(m_file, m_section, key + m_number), 0) != 0;
     }
     double size(const QString &key, double fallback) const
     {
@@ -62,6 +63,7 @@ public:
 
 private:
     const QByteArray &m_file;
+    const QString &m_section;
     QString m_number;
 };
 
@@ -86,10 +88,21 @@ TextStyles defaultTextStyles()
 
 TextStyles readTextStyles(const ProfileFile &store)
 {
-    TextStyles styles = defaultTextStyles();
+    return readTextStyles(store, textsSection, defaultTextStyles());
+}
+
+Expected<void, FileError> writeTextStyles(const ProfileFile &store, const TextStyles &styles)
+{
+    return writeTextStyles(store, textsSection, styles);
+}
+
+TextStyles readTextStyles(const ProfileFile &store, const QString &section,
+                          const TextStyles &defaults)
+{
+    TextStyles styles = defaults;
     const QByteArray file = store.bytes().value_or(QByteArray());
     for (size_t i = 0; i < styles.size(); ++i) {
-        const StyleKeys keys(file, i);
+        const StyleKeys keys(file, section, i);
         CharFormat &format = styles[i].format;
         styles[i].name = keys.text(u"StyleName"_s, styles[i].name);
         format.family = keys.text(u"StyleFontName"_s, format.family);
@@ -102,7 +115,8 @@ TextStyles readTextStyles(const ProfileFile &store)
     return styles;
 }
 
-Expected<void, FileError> writeTextStyles(const ProfileFile &store, const TextStyles &styles)
+Expected<void, FileError> writeTextStyles(const ProfileFile &store, const QString &section,
+                                          const TextStyles &styles)
 {
     QList<ProfileEntry> entries;
     for (size_t i = 0; i < styles.size(); ++i) {

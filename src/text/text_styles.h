@@ -31,4 +31,10 @@ TextStyles defaultTextStyles();
 TextStyles readTextStyles(const ProfileFile &store);
 Expected<void, FileError> writeTextStyles(const ProfileFile &store, const TextStyles &styles);
 
+/// The same keys in another section, for styles with defaults of their own.
+TextStyles readTextStyles(const ProfileFile &store, const QString &section,
+                          const TextStyles &defaults);
+Expected<void, FileError> writeTextStyles(const ProfileFile &store, const QString &section,
+                                          const TextStyles &styles);
+
 } // namespace zeph

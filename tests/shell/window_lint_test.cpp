@@ -4,9 +4,11 @@
 #include "composer/mouse/mousemanual.h"
 #include "composer/mouse/mouseprogram.h"
 #include "composer/statement_inserter.h"
+#include "composer/tumbo/rawform.h"
 #include "composer/wizards/speedy.h"
 #include "composer/wizards/wizardjoystickfile.h"
 #include "composer/wizards/wizardmacrofile.h"
+#include "cougar/controls_picture.h"
 #include "documents/styleeditor.h"
 #include "editor/edit/findandreplace.h"
 #include "editor/edit/insert_windows.h"
@@ -14,6 +16,8 @@
 #include "editor/editor_settings.h"
 #include "editor/files/frm_createpackage.h"
 #include "editor/macros/macrorenameform.h"
+#include "layouts/files/layoutsave.h"
+#include "layouts/files/layoutsize.h"
 #include "lists/favourites_menu.h"
 #include "lists/user_lists.h"
 #include "livetools/keytestform.h"
@@ -161,7 +165,8 @@ template <class Window> std::unique_ptr<QWidget> makeWizard(test::ShellWorld &wo
 {
     auto *bench = new WizardBench(world);
     std::unique_ptr<QWidget> window;
-    if constexpr (std::is_same_v<Window, MouseProgram> || std::is_same_v<Window, MouseManual>) {
+    if constexpr (std::is_same_v<Window, MouseProgram> || std::is_same_v<Window, MouseManual>
+                  || std::is_same_v<Window, RAWform>) {
         window = std::make_unique<Window>(world.context(), bench->editor.documents(), bench->tools);
     } else if constexpr (std::is_same_v<Window, WizardJoystickFile>) {
         window = std::make_unique<Window>(bench->parts, bench->windows);
@@ -176,6 +181,7 @@ const LintCase cases[] = {
     { "WizardMacroFile", makeWizard<WizardMacroFile> },
     { "WizardJoystickFile", makeWizard<WizardJoystickFile> },
     { "Speedy", makeWizard<Speedy> },
+    { "RAWform", makeWizard<RAWform> },
     { "MouseProgram", makeWizard<MouseProgram> },
     { "MouseManual", makeWizard<MouseManual> },
     { "WizardSlashModifiers", makeWizard<WizardSlashModifiers> },
@@ -211,6 +217,19 @@ const LintCase cases[] = {
     { "StyleEditor",
       [](auto &w) {
           return std::make_unique<StyleEditor>(defaultTextStyles(), 0xFFFFFF, w.dialogs);
+      } },
+    { "LayoutSave",
+      [](auto &) {
+          return std::make_unique<LayoutSave>(QStringList{ u"Falcon"_s });
+      } },
+    { "LayoutSaveText",
+      [](auto &) {
+          return std::make_unique<LayoutSaveText>(QStringList{ u"Falcon"_s });
+      } },
+    { "LayoutSize",
+      [](auto &) {
+          return std::make_unique<LayoutSize>(LayoutSizeChoice{ QSize(1043, 714), false, true },
+                                              QSize(800, 963));
       } },
     { "FindAndReplace", makeFindAndReplace },
     { "FormResetOptions",
@@ -302,6 +321,10 @@ public:
         for (const QWidget *next = window->nextInFocusChain(); next != window.get();
              next = next->nextInFocusChain()) {
             if (!isOperated(*next) || !(next->focusPolicy() & Qt::TabFocus) || !next->isVisible()) {
+                continue;
+            }
+            // A picture has its controls in their own order.
+            if (qobject_cast<const ControlsPicture *>(next->parentWidget())) {
                 continue;
             }
             if (last && last->parentWidget() == next->parentWidget()) {

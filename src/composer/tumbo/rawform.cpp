@@ -85,6 +85,7 @@ RAWform::RAWform(const Context &context, Documents &documents, ComposerEditor &e
     m_ui->LabelSyntax->setText(u"Thrustmaster S&yntax"_s);
     m_ui->LabelCombined->setText(u"USB combined"_s);
     auto *bar = new QMenuBar(this);
+    bar->setObjectName(u"TumboMenus"_s);
     m_menus->addTo(*bar);
     layout()->setMenuBar(bar);
     m_ui->LabelControl->setMinimumHeight(m_ui->LabelControl->fontMetrics().lineSpacing() * 2);
@@ -95,6 +96,8 @@ RAWform::RAWform(const Context &context, Documents &documents, ComposerEditor &e
     m_ui->ComboMacros->addItems(linesOfListFile(context.paths.inApp(u"DefaultMacros.txt")));
     // It would make another name of a short one that is typed.
     m_ui->ComboMacros->setCompleter(nullptr);
+    m_ui->ComboMacros->lineEdit()->setObjectName(u"MacroName"_s);
+    m_ui->ComboMacros->lineEdit()->setAccessibleName(m_ui->ComboMacros->accessibleName());
     m_ui->ComboMacros->clearEditText();
     GetTumboOptions();
     connectMenus();

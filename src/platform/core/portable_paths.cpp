@@ -37,6 +37,12 @@ constexpr PathKey pathKeys[] = {
     { u"Games", u"GamePath", PathKind::Command },
     { u"Games", u"GameDIRPath" },
     { u"Games", u"GameJF" },
+    { u"Joystick Layout", u"AutoJLO" },
+    { u"Joystick Layout", u"AutoTLO" },
+    { u"Joystick Layout", u"AutoCLO" },
+    { u"Joystick layouts", u"PreviousJoystickLO" },
+    { u"Throttle layouts", u"PreviousThrottleLO" },
+    { u"Custom layouts", u"PreviousCustomLO" },
 };
 
 constexpr QStringView noFile = u"None";

@@ -3,8 +3,8 @@
 
 #pragma once
 
-// Paths in the settings file. Those inside the program's folder are held relative to it, so that
-// the folder can be moved or carried on a stick. In memory every path is a full one.
+// Paths in the program's own settings files. Those inside the program's folder are held relative to
+// it, so that the folder can be moved or carried on a stick. In memory every path is a full one.
 
 #include "platform/core/base.h"
 

@@ -8,6 +8,7 @@
 #include "composer/tumbo/tumbo_settings.h"
 #include "documents/document_settings.h"
 #include "editor/editor_settings.h"
+#include "layouts/files/layouts_settings.h"
 #include "livetools/key_tester_settings.h"
 #include "livetools/pictures/image_viewer_settings.h"
 #include "menus/menu_settings.h"
@@ -42,7 +43,8 @@ void addAllSettings(Settings &settings)
 {
     addAll<SharedSettings, ColourSettings, MenuSettings, DocumentSettings, EditorSettings,
            ShellSettings, ComposerSettings, TemplateSettings, ToolchainSettings, DefaultOptions,
-           KeyTesterSettings, ImageViewerSettings, LogicFlagsSettings, TumboSettings>(settings);
+           KeyTesterSettings, ImageViewerSettings, LogicFlagsSettings, TumboSettings,
+           LayoutsSettings>(settings);
 }
 
 bool isSetUp(const SettingsFiles &files)

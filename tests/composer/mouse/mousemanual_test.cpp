@@ -45,8 +45,10 @@ TEST_F(ManualMouse, OpensOnItsIntroductionWhichRefuses)
     auto &tabs = *manual().findChild<QTabWidget *>(u"SSTab1"_s);
     EXPECT_EQ(tabs.currentIndex(), MouseManual::Introduction);
     EXPECT_EQ(tabs.count(), 5);
-    EXPECT_TRUE(
-        manual().findChild<QTextBrowser *>(u"TextLesson_0"_s)->toPlainText().contains(u"MOUSEROTATE"));
+    EXPECT_TRUE(manual()
+                    .findChild<QTextBrowser *>(u"TextLesson_0"_s)
+                    ->toPlainText()
+                    .contains(u"MOUSEROTATE"));
     dialogs.answer(u"You're joking, right?!"_s, BoxButton::Ok);
     pressInsert();
     EXPECT_TRUE(dialogs.boxes().last().text.startsWith(
