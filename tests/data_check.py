@@ -101,6 +101,21 @@ def check_pages(folder, trees):
                 check_target(where, (name + target) if target.startswith("#") else target, trees, folder)
 
 
+def check_lessons(folder):
+    """The wizards' pages: the help's rules for pages, and drawings that can be read."""
+    trees = pages(folder)
+    check_pages(folder, trees)
+    for path in sorted(folder.glob("*.svg")):
+        try:
+            if not ET.parse(path).getroot().get("viewBox"):
+                fault(path, "has no viewBox")
+        except ET.ParseError as error:
+            fault(path, f"is not well formed: {error}")
+    for name, tree in trees.items():
+        if "../Help/help.css" not in [e.get("href") for e in tree.iter("link")]:
+            fault(folder / name, "does not look like the help")
+
+
 def check_phrases(folder, trees):
     for name, phrases in HELP_PHRASES.items():
         tree = trees.get(name)
@@ -285,7 +300,9 @@ def main():
     help_folder = data / "Help"
     trees = pages(help_folder)
     check_pages(help_folder, trees)
+    check_pages(data / "Wizards", pages(data / "Wizards"))
     check_phrases(help_folder, trees)
+    check_lessons(data / "Wizards")
     check_topics(help_folder, trees)
     check_index(help_folder, trees)
     check_text(data / "Tips.txt", 250)

@@ -3,9 +3,17 @@
 
 #include "composer/composer_keys.h"
 
+#include "composer/composer_editor.h"
+#include "composer/editor_entries.h"
+#include "platform/context.h"
+#include "platform/dialogs.h"
+#include "platform/tool_windows.h"
+
+#include <QAction>
 #include <QComboBox>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QShortcut>
 #include <QTextEdit>
 
 #include <array>
@@ -80,11 +88,42 @@ template <class Box> bool editIf(QWidget *widget, QKeySequence::StandardKey key)
     return box != nullptr;
 }
 
+void run(const ComposerKey &key, const QWidget &window, const Context &context,
+         ComposerEditor &editor)
+{
+    if (key.inTextBox != QKeySequence::UnknownKey
+        && editTextBox(window.focusWidget(), key.inTextBox)) {
+        return;
+    }
+    runEntry(editor, context.status, key.entry);
+}
+
 } // namespace
 
 std::span<const ComposerKey> composerKeys()
 {
     return keys;
+}
+
+void addEditorKeys(QWidget &window, const Context &context, ComposerEditor &editor)
+{
+    const auto add = [&window, &context](QKeySequence key, auto act) {
+        auto *shortcut = new QShortcut(key, &window);
+        QObject::connect(shortcut, &QShortcut::activated, &window, guarded(context.dialogs, act));
+    };
+    for (const ComposerKey &key : composerKeys()) {
+        add(QKeySequence(key.key),
+            [&key, &window, context, &editor] { run(key, window, context, editor); });
+    }
+    add(Qt::Key_F2, [&window, &editor] { returnToEditor(window, editor); });
+}
+
+void returnToEditor(const QWidget &window, ComposerEditor &editor)
+{
+    if (const QWidget *owner = window.parentWidget()) {
+        ToolWindows::raise(*owner->window());
+    }
+    editor.ResetFocusToEditor();
 }
 
 bool editTextBox(QWidget *box, QKeySequence::StandardKey key)

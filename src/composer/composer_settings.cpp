@@ -41,14 +41,18 @@ std::span<const SettingRow<ComposerSettings>> ComposerSettings::rows()
     return zeph::rows;
 }
 
-QPoint composerCorner(const ComposerSettings &settings, const QSize &screen)
+QPoint cornerWithin(double left, double top, const QSize &screen)
 {
     const auto within = [](double twips, int pixels) {
         return pixelsFromTwips(twips >= 0 && twips < twipsFromPixels(pixels) ? twips
                                                                              : beyondScreen);
     };
-    return { within(settings.ComposerLeft, screen.width()),
-             within(settings.ComposerTop, screen.height()) };
+    return { within(left, screen.width()), within(top, screen.height()) };
+}
+
+QPoint composerCorner(const ComposerSettings &settings, const QSize &screen)
+{
+    return cornerWithin(settings.ComposerLeft, settings.ComposerTop, screen);
 }
 
 } // namespace zeph

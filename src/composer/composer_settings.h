@@ -33,8 +33,9 @@ struct ComposerSettings {
     int ShowDX9to10;
 };
 
-/// Where the window's corner goes, in pixels: where it was, but a top or left beyond a screen of
-/// that size, in pixels too, counts as 10 twips.
+/// Where the corner of a window goes, in pixels: where it was, in twips, but a left or top beyond a
+/// screen of that size, in pixels, counts as 10 twips.
+QPoint cornerWithin(double left, double top, const QSize &screen);
 QPoint composerCorner(const ComposerSettings &settings, const QSize &screen);
 
 } // namespace zeph

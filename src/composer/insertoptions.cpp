@@ -19,13 +19,11 @@
 #include "platform/dialogs.h"
 #include "platform/input/keyboard.h"
 #include "platform/status_line.h"
-#include "platform/tool_windows.h"
 #include "platform/window_places.h"
 #include "settings/settings.h"
 #include "settings/settings_files.h"
 #include "ui_insertoptions.h"
 
-#include <QAction>
 #include <QRegularExpression>
 #include <QScreen>
 #include <QShortcut>
@@ -48,16 +46,17 @@ struct PageRow {
     QStringView caption;
     int topic; ///< of the help
     MakePage make; ///< null while there is no such page
+    std::array<QStringView, 2> lessons = {}; ///< entries of windows that teach its subject
 };
 
 // clang-format off
 constexpr std::array<PageRow, InsertOptions::pageCount> pageRows = {
-    PageRow{ u"&Composer", 2005, make<ComposerFirstPage> },
+    PageRow{ u"&Composer", 2005, make<ComposerFirstPage>, { u"mnuShowMeSlashModifiers", u"mnuShowMeDLYandRATE" } },
     PageRow{ u"&Hats", 2010, make<HatsPage> },
     PageRow{ u"&Digital axis", 2015, make<DigitalAxisPage> },
     PageRow{ u"&Analogue axis", 2020, make<AnalogueAxisPage> },
-    PageRow{ u"&Mouse / Microstick", 2025, make<MousePage> },
-    PageRow{ u"&Use / Misc.", 2030, make<UsePage> },
+    PageRow{ u"&Mouse / Microstick", 2025, make<MousePage>, { u"mnuShowMeMouseMicrostick" } },
+    PageRow{ u"&Use / Misc.", 2030, make<UsePage>, { u"mnuShowMeConfigurationStatements", u"mnuShowMeDLYandRATE" } },
     PageRow{ u"Tem&plates", 2035, make<TemplatesPage> },
     PageRow{ u"&Logical", 2040, make<LogicalPage> },
 };
@@ -91,7 +90,9 @@ InsertOptions::InsertOptions(const Context &context, Documents &documents, Compo
     connect(m_ui->SSTab1, &QTabWidget::currentChanged, this,
             guarded(context.dialogs, [this](int index) { enterPage(index); }));
     makeKeys();
+    m_ui->CommandShowMeHow->setMenu(new QMenu(m_ui->CommandShowMeHow));
     m_preview->setPage(page(Composer));
+    offerLessons(Composer);
     first().CopyMacroList();
     PositionComposer();
 }
@@ -134,9 +135,22 @@ void InsertOptions::enterPage(int index)
 {
     ComposerPage *entered = page(Page(index));
     m_preview->setPage(entered);
+    offerLessons(index);
     if (entered) {
         entered->enter();
     }
+}
+
+void InsertOptions::offerLessons(int page)
+{
+    QMenu &menu = *m_ui->CommandShowMeHow->menu();
+    menu.clear();
+    for (const QStringView entry : pageRows[size_t(page)].lessons) {
+        if (!entry.isEmpty()) {
+            menu.addAction(m_editor.action(entry));
+        }
+    }
+    m_ui->CommandShowMeHow->setEnabled(!menu.isEmpty());
 }
 
 void InsertOptions::turnPage(int step)
@@ -147,38 +161,14 @@ void InsertOptions::turnPage(int step)
 
 void InsertOptions::makeKeys()
 {
+    addEditorKeys(*this, m_context, m_editor);
     const auto add = [this](QKeySequence key, auto act) {
         auto *shortcut = new QShortcut(key, this);
         connect(shortcut, &QShortcut::activated, this, guarded(m_context.dialogs, act));
     };
-    for (const ComposerKey &key : composerKeys()) {
-        add(QKeySequence(key.key), [this, &key] { runKey(key); });
-    }
     add(Qt::Key_F1, [this] { CommandHelp_Click(); });
-    add(Qt::Key_F2, [this] { returnToEditor(); });
     add(QKeyCombination(Qt::CTRL, Qt::Key_Tab), [this] { turnPage(1); });
     add(QKeyCombination(Qt::CTRL | Qt::SHIFT, Qt::Key_Tab), [this] { turnPage(-1); });
-}
-
-void InsertOptions::runKey(const ComposerKey &key)
-{
-    if (key.inTextBox != QKeySequence::UnknownKey && editTextBox(focusWidget(), key.inTextBox)) {
-        return;
-    }
-    QAction *entry = m_editor.action(key.entry);
-    if (!entry->isEnabled()) {
-        m_context.status.setText(u" %1 can't be used now"_s.arg(entry->text().remove(u'&')));
-        return;
-    }
-    entry->trigger();
-}
-
-void InsertOptions::returnToEditor()
-{
-    if (parentWidget()) {
-        ToolWindows::raise(*parentWidget()->window());
-    }
-    m_editor.ResetFocusToEditor();
 }
 
 void InsertOptions::reachAfterTabs(const ComposerPage &made)
@@ -379,7 +369,7 @@ void InsertOptions::closeEvent(QCloseEvent *event)
 void InsertOptions::Command6_Click()
 {
     hide();
-    returnToEditor();
+    returnToEditor(*this, m_editor);
 }
 
 void InsertOptions::CommandHelp_Click()

@@ -15,7 +15,6 @@ namespace zeph {
 
 class ComposerFirstPage;
 class StatementPreview;
-struct ComposerKey;
 struct ReadStatement;
 
 namespace Ui {
@@ -73,16 +72,16 @@ protected:
 
 private:
     void makeKeys();
-    void runKey(const ComposerKey &key);
     void turnPage(int step);
     void enterPage(int index);
+    /// Puts the windows that teach the page's subject on the button CommandShowMeHow.
+    void offerLessons(int page);
     void bindLineEndBoxes(ComposerPage &page);
     /// Has Tab go from the tabs through a page to what is below all pages.
     void reachAfterTabs(const ComposerPage &page);
     void showAddsLineEnd();
     void readStatement();
     bool readInto(Page page, const ReadStatement &read);
-    void returnToEditor();
     void activated();
     void Command6_Click();
     void CommandHelp_Click();

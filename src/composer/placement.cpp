@@ -44,7 +44,7 @@ Statement composedAt(Statement statement, const Surroundings &around, bool addLi
     if (isTouched && !statement.pieces.front().text.startsWith(u' ')) {
         statement.pieces.prepend({ u" "_s });
     }
-    if (addLineEnd) {
+    if (addLineEnd && !statement.text().endsWith(u'\n')) {
         statement.pieces.append({ u"\n"_s });
     }
     return statement;

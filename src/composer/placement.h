@@ -23,7 +23,7 @@ Surroundings surroundingsOf(const Document &document);
 QString blankBefore(QChar after);
 
 /// A composed statement as it goes in: a blank before it where it would touch a word of its line,
-/// and after it a line end if there has to be one.
+/// and after it a line end if there has to be one and it does not bring its own.
 Statement composedAt(Statement statement, const Surroundings &around, bool addLineEnd);
 
 /// A fragment (control, slash modifier, remark) as it goes in, in one colour: a blank after it,

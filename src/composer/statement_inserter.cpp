@@ -10,6 +10,9 @@
 #include "settings/colour_settings.h"
 #include "settings/settings.h"
 
+#include <QTextBlock>
+#include <QTextDocument>
+
 namespace zeph {
 
 namespace {
@@ -55,6 +58,13 @@ Statement StatementInserter::composedNow(const Statement &statement) const
 {
     return composedAt(statement, surroundingsOf(m_documents.joystick()),
                       m_context.settings.of<ComposerSettings>().CompTabsAddCr);
+}
+
+bool StatementInserter::insertIntoMacroFile(const QString &lines, bool addLineEnd)
+{
+    m_documents.select(DocumentKind::Macro);
+    return insert(
+        composedAt({ { { lines } }, true }, surroundingsOf(m_documents.macro()), addLineEnd));
 }
 
 bool StatementInserter::insertIntoSelected(const Generated &statement)
@@ -105,6 +115,29 @@ bool StatementInserter::insertRich(const RichText &text)
     });
     Change change(into);
     into.insert(whole);
+    change.commit();
+    m_editor.ResetFocusToEditor();
+    return true;
+}
+
+bool StatementInserter::insertMacroLine(const QString &line)
+{
+    m_documents.select(DocumentKind::Macro);
+    if (m_documents.refuseProtected()) {
+        return false;
+    }
+    Document &into = m_documents.macro();
+    const bool isFree =
+        into.selLength() == 0 && into.content().findBlock(into.selStart()).length() == 1;
+    const bool needsLineEnd = !isFree && !into.content().lastBlock().text().isEmpty();
+    const RichText text = paintedAsTyped(
+        (needsLineEnd ? u"\n"_s : QString()) + line,
+        colourScheme(m_context.settings.of<ColourSettings>(), into.kind()), into.plain());
+    Change change(into);
+    if (!isFree) {
+        into.select(into.length(), 0);
+    }
+    into.insert(text);
     change.commit();
     m_editor.ResetFocusToEditor();
     return true;

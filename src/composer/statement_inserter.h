@@ -24,7 +24,11 @@ public:
     /// A composed statement goes into the joystick file, which is selected first, with a line end
     /// after it if the settings (CompTabsAddCr) want one. False when nothing was inserted.
     bool insertComposed(const Generated &statement);
-    /// The same into the selected document, without a line start or a line end of its own.
+    /// Lines go into the macro file, which is selected first, from the start of a line on. False
+    /// when nothing was inserted.
+    bool insertIntoMacroFile(const QString &lines, bool addLineEnd);
+    /// A composed statement goes into the selected document, without a line start or a line end of
+    /// its own.
     bool insertIntoSelected(const Generated &statement);
     /// A fragment (control, slash modifier, remark) goes into the selected document in one colour.
     bool insertFragment(const QString &text, ColorRef colour);
@@ -33,6 +37,9 @@ public:
     /// Rich text goes into the selected document in the document's font, on a line of its own where
     /// the caret is at the end of a text.
     bool insertRich(const RichText &text);
+    /// A macro's line goes into the macro file, which is selected first: onto the caret's line if
+    /// that is empty, else onto a line of its own at the end. False when nothing was inserted.
+    bool insertMacroLine(const QString &line);
     /// Puts a statement in the place of a stretch of the joystick file, without the blanks around
     /// it. Gives the length of what is there then; no value when nothing was replaced.
     std::optional<int> replace(int start, int length, const Generated &statement);

@@ -37,6 +37,16 @@ void setGround(RichTextBox &box, ColorRef colour)
     box.setPalette(palette);
 }
 
+/// They would only scroll what is to be seen.
+RichText withoutLineEndsAfter(const RichText &text)
+{
+    qsizetype end = text.text.size();
+    while (end > 0 && text.text[end - 1] == u'\n') {
+        --end;
+    }
+    return text.mid(0, end);
+}
+
 QString inWords(const QStringList &findings)
 {
     QStringList shown = findings.first(std::min<qsizetype>(findings.size(), mostFindings));
@@ -152,11 +162,9 @@ void StatementPreview::showStatement(const Statement &statement)
     Documents &documents = m_parts.documents;
     Document &into = isPiece ? documents.selected() : documents.joystick();
     const DocumentKind kind = into.kind();
-    const RichText shown =
-        richTextOf(statement, colourScheme(colours, kind), plainFormat(colours, kind));
-    QPalette palette;
-    palette.setColor(QPalette::Base, toColor(documentBackground(colours, kind)));
-    m_ui->PreviewText->setPalette(palette);
+    const RichText shown = withoutLineEndsAfter(
+        richTextOf(statement, colourScheme(colours, kind), plainFormat(colours, kind)));
+    setGround(*m_ui->PreviewText, documentBackground(colours, kind));
     if (m_ui->PreviewText->richText() != shown) {
         m_ui->PreviewText->setRichText(shown);
     }

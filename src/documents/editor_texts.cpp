@@ -78,14 +78,18 @@ QString firstThings(DocumentKind kind)
                "like.\n"
                "2.  Or type one of your own, say \"Gear = g\", and save it with Ctrl+S.\n"
                "3.  Name this file in your joystick file, with a USE MDEF line, and give the macro "
-               "to a button there."_s;
+               "to a button there.\n\n"
+               "Never done this before? The Macro file wizard, in the Apps menu, goes through it "
+               "with you."_s;
     }
     return u"Three ways to begin:\n\n"
            "1.  Press F8 and open \"Sample flight.tmj\": its macro file comes with it.\n"
            "2.  Press F2: the Composer writes statements for you, from pictures and forms.\n"
            "3.  Type a statement of your own, say \"BTN S2 SPC\": a button, and what it "
            "presses.\n\n"
-           "Then press F11, and the compiler tells you whether the Cougar understands it."_s;
+           "Then press F11, and the compiler tells you whether the Cougar understands it.\n\n"
+           "Never done this before? The Joystick file wizard, in the Apps menu, goes through it "
+           "with you."_s;
 }
 
 CharFormat plainFormat(const ColourSettings &settings, DocumentKind kind)

@@ -18,7 +18,8 @@ enum class EditorWhen {
     Selection, ///< text is selected in the selected document
     PasteReady, ///< there is text on the clipboard
     JoystickText, ///< the joystick tab is selected, or AlwaysShowCompileDownload is set
-    ReadMe ///< a readme belongs to the joystick file
+    ReadMe, ///< a readme belongs to the joystick file
+    Graphic ///< a picture belongs to the joystick file
 };
 
 std::span<const MenuRow> menuBarTable();

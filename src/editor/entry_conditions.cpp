@@ -27,6 +27,8 @@ EntryConditions::EntryConditions(const Parts &parts, const EditorSettings &setti
     connect(&parts.useDirectives, &UseDirectives::filesChanged, this, [this] {
         m_parts.actions.setCondition(EditorWhen::ReadMe,
                                      !m_parts.useDirectives.textFilePath().isEmpty());
+        m_parts.actions.setCondition(EditorWhen::Graphic,
+                                     !m_parts.useDirectives.imageFilePath().isEmpty());
     });
     update();
 }

@@ -4,6 +4,7 @@
 #include "livetools/live_tools.h"
 
 #include "livetools/keytestform.h"
+#include "livetools/pictures/viewimage.h"
 #include "platform/dialogs.h"
 #include "toolchain/modes/cougar_modes.h"
 
@@ -37,6 +38,18 @@ void addLiveTools(const ToolEntries &tools, const Context &context, CougarModes 
             return form;
         },
         &KeyTestForm::Form_Load);
+}
+
+void addImageViewer(const ToolEntries &tools, const Context &context, Printers &printers)
+{
+    const PictureEntries entries{ tools.menus.action(u"mnuMouseWizard"),
+                                  tools.menus.action(u"mnuMouseManual") };
+    tools.windows.offer<ViewImage>([context, &printers, entries](QWidget *owner) {
+        return new ViewImage(context, printers, entries, owner);
+    });
+    tools.menus.connectTo(u"mnuAppsImageViewer", [&windows = tools.windows] {
+        windows.open<ViewImage>()->showImageFile();
+    });
 }
 
 } // namespace zeph

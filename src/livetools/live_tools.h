@@ -9,8 +9,12 @@
 namespace zeph {
 
 class CougarModes;
+class Printers;
 
-/// Registers this room's tool windows under the Editor's menu entries.
+/// Registers the Key Tester under the Editor's menu entry.
 void addLiveTools(const ToolEntries &tools, const Context &context, CougarModes &modes);
+/// The same for the Image Viewer. Its entry shows the picture of ImageFilePath, in an open window
+/// too. The printers must outlive the window.
+void addImageViewer(const ToolEntries &tools, const Context &context, Printers &printers);
 
 } // namespace zeph

@@ -45,6 +45,7 @@ struct FileRequest {
     QString defaultExtension = {}; ///< without the dot; added to a name that has none
     QString folder = {};
     QString name = {};
+    bool showsPictures = false; ///< an open dialog with a preview of the selected picture
 };
 
 /// The colours that the user has mixed in the colour dialog.

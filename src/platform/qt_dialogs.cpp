@@ -5,6 +5,7 @@
 
 #include "platform/colours.h"
 #include "platform/core/paths.h"
+#include "platform/selectpictureform.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -173,6 +174,10 @@ std::optional<QString> QtDialogs::chosenFile(QFileDialog &dialog, const FileRequ
 
 std::optional<QString> QtDialogs::openFile(const FileRequest &request)
 {
+    if (request.showsPictures) {
+        SelectPictureForm dialog(parentNow(), request.title);
+        return chosenFile(dialog, request);
+    }
     QFileDialog dialog(parentNow(), request.title);
     dialog.setAcceptMode(QFileDialog::AcceptOpen);
     dialog.setFileMode(QFileDialog::ExistingFile);

@@ -18,6 +18,7 @@
 #include "editor/macros/macro_features.h"
 #include "lists/user_lists.h"
 #include "livetools/live_tools.h"
+#include "livetools/pictures/viewimage.h"
 #include "menus/menu_actions.h"
 #include "platform/dialogs.h"
 #include "platform/system_info.h"
@@ -30,11 +31,13 @@
 #include "shell/first_run.h"
 #include "shell/help_menu.h"
 #include "shell/main_scene.h"
+#include "shell/mouse_tools.h"
 #include "shell/mum.h"
 #include "shell/preferences_menu.h"
 #include "shell/settings/shell_settings.h"
 #include "shell/start_up.h"
 #include "shell/template_guard.h"
+#include "shell/wizard_tools.h"
 #include "shell/zeph_style.h"
 #include "templates/template_tools.h"
 #include "templates/templateform.h"
@@ -261,6 +264,7 @@ void Application::addToolWindows()
     m_templateGuard = new TemplateGuard(context(), windows, m_mum.get());
     const ToolEntries tools{ m_editor->actions(), windows };
     addLiveTools(tools, context(), m_tools->modes());
+    addPictures(tools);
     addTemplateTools(tools, context(), m_options.printers, m_editor->macros().list().table());
     windows.whenLoaded<TemplateForm>(m_mum.get(), [this](TemplateForm &form) {
         QObject::connect(
@@ -276,12 +280,33 @@ void Application::addToolWindows()
     QObject::connect(
         composer, &ComposerTools::keywordWanted, m_help,
         guarded(m_options.dialogs, [this](const QString &word) { m_help->showKeyword(word); }));
+    auto *mouse = new MouseTools(context(), windows, *m_editor, *composer);
+    QObject::connect(mouse, &MouseTools::helpWanted, m_help,
+                     guarded(m_options.dialogs, [this](int topic) { m_help->showTopic(topic); }));
+    auto *wizards = new WizardTools(context(), windows, *m_editor, *composer);
+    QObject::connect(wizards, &WizardTools::helpWanted, m_help,
+                     guarded(m_options.dialogs, [this](int topic) { m_help->showTopic(topic); }));
     windows.whenLoaded<TemplateForm>(m_mum.get(), [composer](TemplateForm &form) {
         form.actions().connectTo(u"mnuComposerPlugin", [composer] { composer->openTemplates(); });
         form.actions().action(u"mnuComposerPlugin")->setEnabled(true);
     });
     m_editor->actions().connectTo(u"mnuAppsViewReadMe", [this, &windows] {
         windows.open<TemplateForm>()->OpenReadMe(m_editor->useDirectives().textFilePath());
+    });
+}
+
+void Application::addPictures(const ToolEntries &tools)
+{
+    addImageViewer(tools, context(), m_options.printers);
+    tools.windows.whenLoaded<ViewImage>(m_mum.get(), [this](ViewImage &viewer) {
+        QObject::connect(
+            &viewer, &ViewImage::helpWanted, m_help,
+            guarded(m_options.dialogs, [this](int topic) { m_help->showTopic(topic); }));
+    });
+    m_editor->actions().connectTo(u"mnuAppsViewGraphic", [this] {
+        // The viewer may have opened another picture since the file was opened.
+        m_settings.of<SharedSettings>().ImageFilePath = m_editor->useDirectives().imageFilePath();
+        m_editor->action(u"mnuAppsImageViewer")->trigger();
     });
 }
 

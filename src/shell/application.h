@@ -27,6 +27,7 @@ class Printers;
 class Screen;
 class SystemInfo;
 class TemplateGuard;
+struct ToolEntries;
 class UserLists;
 
 /// The outside world of a run; all of it must outlive the Application.
@@ -85,6 +86,7 @@ private:
     void startModes();
     void loadEditor();
     void addToolWindows();
+    void addPictures(const ToolEntries &tools);
     void readEditorOptions();
     /// Tells the user the problems that were not told before: some keys are read at several steps
     /// of the start.

@@ -5,6 +5,7 @@
 
 #include "composer/insertoptions.h"
 #include "composer/logicflagsdetected.h"
+#include "composer/tumbo/rawform.h"
 #include "documents/editor_view.h"
 #include "documents/line_blink.h"
 #include "editor/edit/insert_forms.h"
@@ -34,12 +35,31 @@ ComposerTools::ComposerTools(const Context &context, ToolWindows &windows, Edito
         return new LogicFlagsDetected(m_context, m_editor.documents(), action(u"MnuDiagArray_5"),
                                       owner);
     });
+    windows.offer<RAWform>([this](QWidget *owner) {
+        auto *window = new RAWform(m_context, m_editor.documents(), *this, owner);
+        connect(window, &RAWform::helpWanted, this, &ComposerTools::helpWanted);
+        return window;
+    });
+    editor.actions().connectTo(u"mnuAppsTumbo", [this] { mnuInsertRAW_Click(); });
     followMacroList();
 }
 
 void ComposerTools::openTemplates()
 {
     m_windows.open<InsertOptions>()->showPage(InsertOptions::Templates);
+}
+
+void ComposerTools::mnuInsertRAW_Click()
+{
+    disconnect(m_tumboFeed);
+    m_windows.open<RAWform>();
+}
+
+void ComposerTools::openTumboFor(std::function<void(const QString &)> feed, const QObject *context)
+{
+    mnuInsertRAW_Click();
+    m_tumboFeed = connect(m_windows.get<RAWform>(), &RAWform::totalCombinedTextChanged,
+                          context ? context : this, std::move(feed));
 }
 
 void ComposerTools::followMacroList()

@@ -8,14 +8,16 @@
 
 #include <QObject>
 
+#include <functional>
+
 namespace zeph {
 
 class Editor;
 class LineBlink;
 class ToolWindows;
 
-/// The Composer's window and the Editor as that knows it. Registers the window under its menu
-/// entry, and keeps its macro list like the Editor's.
+/// The Composer's windows and the Editor as they know it. Registers the Composer and Tumbo under
+/// their menu entries, and keeps the Composer's macro list like the Editor's.
 class ComposerTools : public QObject, public ComposerEditor
 {
     Q_OBJECT
@@ -25,6 +27,11 @@ public:
 
     /// Opens the Composer at the page of the templates.
     void openTemplates();
+    /// Opens Tumbo, whose statement goes to nobody.
+    void mnuInsertRAW_Click();
+    /// Opens Tumbo for a window that takes its keys from there: each change of Tumbo's statement is
+    /// given to the function, until Tumbo is opened again or unloaded, or the context is deleted.
+    void openTumboFor(std::function<void(const QString &)> feed, const QObject *context = nullptr);
 
     QList<MacroGroup> macroGroups() const override;
     void ShowMacroKeys(const QString &macro) override;
@@ -50,6 +57,7 @@ private:
     ToolWindows &m_windows;
     Editor &m_editor;
     LineBlink *m_blink;
+    QMetaObject::Connection m_tumboFeed; ///< to the window that opened Tumbo last
 };
 
 } // namespace zeph

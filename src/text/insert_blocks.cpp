@@ -3,6 +3,9 @@
 
 #include "text/insert_blocks.h"
 
+#include "platform/core/file_io.h"
+#include "platform/core/paths.h"
+#include "platform/core/text1252.h"
 #include "text/text_lines.h"
 
 #include <QLocale>
@@ -60,9 +63,9 @@ QList<QStringList> titleSections(const TitleFields &fields)
 
 } // namespace
 
-QStringList headingBlock(const QString &heading)
+QStringList headingBlock(const QString &heading, qsizetype longer)
 {
-    const QString rule = emptyRem + QString(heading.size(), u'-');
+    const QString rule = emptyRem + QString(heading.size() + longer, u'-');
     return { rule, emptyRem + QString(headingIndent, u' ') + heading, rule };
 }
 
@@ -129,6 +132,24 @@ qsizetype movedByStamp(const Stamp &stamp, qsizetype position)
         return position > stamp.start ? position + stamp.text.size() - stamp.length : position;
     }
     return std::min(position, stamp.start + stamp.text.size());
+}
+
+QStringList linesOfListFile(const QString &path)
+{
+    const auto bytes = readWholeFile(existingPath(path));
+    if (!bytes) {
+        return {};
+    }
+    QString text = fromText1252(*bytes);
+    text.replace(u'\r', u'\n');
+    QStringList lines;
+    for (const QString &line : text.split(u'\n')) {
+        const QString trimmed = line.trimmed();
+        if (!trimmed.isEmpty()) {
+            lines.append(trimmed);
+        }
+    }
+    return lines;
 }
 
 } // namespace zeph

@@ -13,9 +13,9 @@
 
 namespace zeph {
 
-/// The three lines of a heading in a macro file. Their rules are as long as the heading, and the
-/// macro list needs rules of two characters or more.
-QStringList headingBlock(const QString &heading);
+/// The three lines of a heading in a macro file. Their rules are longer than the heading by that
+/// many characters, and the macro list needs rules of two characters or more.
+QStringList headingBlock(const QString &heading, qsizetype longer = 0);
 constexpr qsizetype shortestHeading = 2;
 
 /// A comment, for the end of a statement or for a line of its own.
@@ -55,5 +55,9 @@ std::optional<Stamp> modifiedStamp(QStringView text, const QDateTime &when);
 /// Where a position of the text is after the stamp: before the same character as it was, or as far
 /// into the stamp as it was into the old date.
 qsizetype movedByStamp(const Stamp &stamp, qsizetype position);
+
+/// Returns the lines of a list file that pilots may edit, trimmed and without empty ones; no lines
+/// when it is missing or cannot be read.
+QStringList linesOfListFile(const QString &path);
 
 } // namespace zeph

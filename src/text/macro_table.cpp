@@ -143,6 +143,26 @@ QString withoutRefused(QString typed)
     return typed;
 }
 
+QString inWords(NameFault fault, const QString &name)
+{
+    switch (fault) {
+    case NameFault::Exists:
+        return u"There's already a macro called "_s + name + u'.';
+    case NameFault::LanguageWord:
+        return name
+            + u" means something of its own in joystick and macro files, so a macro can't be "
+              u"called "
+              "that."_s;
+    case NameFault::SwitchedOff:
+        return u"A line that begins with ~ is switched off, so a macro's name can't begin with it."_s;
+    case NameFault::NotInCodePage:
+        return u"Joystick and macro files can't hold the character "_s + name[firstNot1252(name)]
+            + u'.';
+    default:
+        return {};
+    }
+}
+
 NameFault faultOfNewName(const QString &oldName, const QString &newName, const QStringList &taken)
 {
     if (newName == oldName) {

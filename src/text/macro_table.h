@@ -47,6 +47,9 @@ enum class NameFault {
     NotInCodePage ///< it has a character that the files cannot hold
 };
 
+/// Why a macro can't have that name; empty without a fault and for Same.
+QString inWords(NameFault fault, const QString &name);
+
 /// The first fault that keeps a macro from getting a new name; taken are the names of all macros.
 NameFault faultOfNewName(const QString &oldName, const QString &newName, const QStringList &taken);
 

@@ -77,6 +77,26 @@ TEST_F(Preview, ShowsTheStatementInItsColoursAndWhereItGoes)
     EXPECT_EQ(findings(), QString());
 }
 
+TEST_F(Preview, ShowsNoLineEndsAfterTheStatement)
+{
+    show(u"DEF X1 S1\nBTN X1 a \n\n"_s);
+    preview.refreshNow();
+    EXPECT_EQ(text().toPlainText(), u"DEF X1 S1\nBTN X1 a "_s);
+}
+
+TEST_F(Preview, HasTheGroundOfTheFileWithNothingToShowToo)
+{
+    auto &colours = settings.of<ColourSettings>();
+    colours.BackgroundColour = 0x332211;
+    page.show({});
+    preview.refreshNow();
+    EXPECT_EQ(text().palette().color(QPalette::Base), QColor(0x11, 0x22, 0x33));
+    colours.BackgroundColour = 0x665544;
+    show(u"BTN S1 a"_s);
+    preview.refreshNow();
+    EXPECT_EQ(text().palette().color(QPalette::Base), QColor(0x44, 0x55, 0x66));
+}
+
 TEST_F(Preview, TellsWhatIsAgainstIt)
 {
     setJoystick(u"BTN S1 a\n"_s);

@@ -29,9 +29,10 @@ TEST(ProgramTour, ReachesEachStopAndLeavesItsPicture)
         }
     }
     EXPECT_GT(stops, 40);
-    for (const QString &window : { u"welcome-pageExperience"_s, u"compile-error-CompilerHelp"_s,
-                                   u"key-tester-KeyTestForm"_s, u"preferences-8"_s,
-                                   u"template-editor-TemplateForm"_s, u"about-frmAbout"_s }) {
+    for (const QString &window :
+         { u"welcome-pageExperience"_s, u"compile-error-CompilerHelp"_s,
+           u"key-tester-KeyTestForm"_s, u"preferences-8"_s, u"template-editor-TemplateForm"_s,
+           u"image-viewer-ViewImage"_s, u"about-frmAbout"_s }) {
         EXPECT_TRUE(program.exists(window + u".png"_s)) << window.toStdString();
     }
     EXPECT_FALSE(notes.filter(u"compile-error: Compiler reported an error at line 2"_s).isEmpty());

@@ -1,6 +1,14 @@
 // SPDX-FileCopyrightText: The Zeph authors
 // SPDX-License-Identifier: MIT
 
+#include "composer/mouse/mousemanual.h"
+#include "composer/mouse/mouseprogram.h"
+#include "composer/statement_inserter.h"
+#include "composer/tumbo/rawform.h"
+#include "composer/wizards/speedy.h"
+#include "composer/wizards/wizardjoystickfile.h"
+#include "composer/wizards/wizardmacrofile.h"
+#include "cougar/controls_picture.h"
 #include "documents/styleeditor.h"
 #include "editor/edit/findandreplace.h"
 #include "editor/edit/insert_windows.h"
@@ -8,11 +16,16 @@
 #include "editor/editor_settings.h"
 #include "editor/files/frm_createpackage.h"
 #include "editor/macros/macrorenameform.h"
+#include "layouts/files/layoutsave.h"
+#include "layouts/files/layoutsize.h"
 #include "lists/favourites_menu.h"
 #include "lists/user_lists.h"
 #include "livetools/keytestform.h"
+#include "livetools/pictures/viewimage.h"
+#include "platform/tool_windows.h"
 #include "preferences/preferences.h"
 #include "print/printpreview.h"
+#include "shell/composer_tools.h"
 #include "shell/frmabout.h"
 #include "shell/frmtip.h"
 #include "shell/helpwindow.h"
@@ -130,7 +143,51 @@ std::unique_ptr<QWidget> makePreferences(test::ShellWorld &world)
     return window;
 }
 
+/// What the wizards work with.
+struct WizardBench {
+    explicit WizardBench(test::ShellWorld &world)
+        : editor(world.context()), windows(&editor),
+          tools(*new ComposerTools(world.context(), windows, editor)),
+          inserter(world.context(), editor.documents(), tools),
+          parts{ world.context(), editor.documents(), inserter, tools }
+    {
+    }
+
+    Editor editor;
+    ToolWindows windows;
+    ComposerTools &tools; ///< the Editor's
+    StatementInserter inserter;
+    ComposerParts parts;
+};
+
+/// A window that works with these, which go after it.
+template <class Window> std::unique_ptr<QWidget> makeWizard(test::ShellWorld &world)
+{
+    auto *bench = new WizardBench(world);
+    std::unique_ptr<QWidget> window;
+    if constexpr (std::is_same_v<Window, MouseProgram> || std::is_same_v<Window, MouseManual>
+                  || std::is_same_v<Window, RAWform>) {
+        window = std::make_unique<Window>(world.context(), bench->editor.documents(), bench->tools);
+    } else if constexpr (std::is_same_v<Window, WizardJoystickFile>) {
+        window = std::make_unique<Window>(bench->parts, bench->windows);
+    } else {
+        window = std::make_unique<Window>(bench->parts);
+    }
+    QObject::connect(window.get(), &QObject::destroyed, [bench] { delete bench; });
+    return window;
+}
+
 const LintCase cases[] = {
+    { "WizardMacroFile", makeWizard<WizardMacroFile> },
+    { "WizardJoystickFile", makeWizard<WizardJoystickFile> },
+    { "Speedy", makeWizard<Speedy> },
+    { "RAWform", makeWizard<RAWform> },
+    { "MouseProgram", makeWizard<MouseProgram> },
+    { "MouseManual", makeWizard<MouseManual> },
+    { "WizardSlashModifiers", makeWizard<WizardSlashModifiers> },
+    { "WizardMouseMicrostick", makeWizard<WizardMouseMicrostick> },
+    { "WizardDLYandRATE", makeWizard<WizardDLYandRATE> },
+    { "WizardConfigurationStatements", makeWizard<WizardConfigurationStatements> },
     { "Preferences", makePreferences },
     { "frmTip",
       [](auto &w) {
@@ -161,6 +218,19 @@ const LintCase cases[] = {
       [](auto &w) {
           return std::make_unique<StyleEditor>(defaultTextStyles(), 0xFFFFFF, w.dialogs);
       } },
+    { "LayoutSave",
+      [](auto &) {
+          return std::make_unique<LayoutSave>(QStringList{ u"Falcon"_s });
+      } },
+    { "LayoutSaveText",
+      [](auto &) {
+          return std::make_unique<LayoutSaveText>(QStringList{ u"Falcon"_s });
+      } },
+    { "LayoutSize",
+      [](auto &) {
+          return std::make_unique<LayoutSize>(LayoutSizeChoice{ QSize(1043, 714), false, true },
+                                              QSize(800, 963));
+      } },
     { "FindAndReplace", makeFindAndReplace },
     { "FormResetOptions",
       [](auto &w) {
@@ -181,6 +251,14 @@ const LintCase cases[] = {
     { "KeyTestForm",
       [](auto &w) { return std::make_unique<KeyTestForm>(w.context(), KeyTestEntries()); },
       ShowsEscape },
+    { "ViewImage",
+      [](auto &w) {
+          auto *entry = new QAction;
+          auto window =
+              std::make_unique<ViewImage>(w.context(), w.printers, PictureEntries{ entry, entry });
+          entry->setParent(window.get());
+          return window;
+      } },
     { "Heading",
       [](auto &) {
           return std::make_unique<Heading>(QStringList{ u"Guns"_s });
@@ -243,6 +321,10 @@ public:
         for (const QWidget *next = window->nextInFocusChain(); next != window.get();
              next = next->nextInFocusChain()) {
             if (!isOperated(*next) || !(next->focusPolicy() & Qt::TabFocus) || !next->isVisible()) {
+                continue;
+            }
+            // A picture has its controls in their own order.
+            if (qobject_cast<const ControlsPicture *>(next->parentWidget())) {
                 continue;
             }
             if (last && last->parentWidget() == next->parentWidget()) {

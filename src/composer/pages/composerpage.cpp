@@ -5,15 +5,12 @@
 
 #include "composer/composer_editor.h"
 #include "composer/composer_settings.h"
+#include "composer/control_pictures.h"
 #include "composer/control_search.h"
 #include "composer/macro_mirror.h"
 #include "composer/statement_inserter.h"
-#include "cougar/controls_picture.h"
-#include "cougar/handle_file.h"
-#include "cougar/handle_list.h"
 #include "documents/coloured_insert.h"
 #include "platform/control_array.h"
-#include "platform/core/profile_file.h"
 #include "platform/dialogs.h"
 #include "platform/field_text.h"
 #include "platform/status_line.h"
@@ -29,9 +26,8 @@ namespace zeph {
 
 namespace {
 
-/// The picture whose hot spots serve while a handle cannot be shown.
-constexpr QStringView shippedHandle = u"F-16 Block 50.bmp";
-constexpr QStringView throttle = u"Throttle.bmp";
+constexpr ControlMenuNames controlMenus{ u"mnuHatPos", u"MnuHatPostion", u"MnuHatCornerPostion",
+                                         u"mnuTrigger", u"mnuTriggerStage" };
 
 /// Of what the file has on a control. A tool tip shows the rest.
 constexpr int leastLinesTold = 2;
@@ -61,7 +57,7 @@ ComposerFirstPage::ComposerFirstPage(const ComposerParts &parts, QWidget *parent
 {
     m_ui->setupUi(this);
     makeMenus();
-    connectPictures();
+    makePictures();
     connectButtons();
     connectMacros();
     auto &settings = parts.context.settings.of<ComposerSettings>();
@@ -71,12 +67,6 @@ ComposerFirstPage::ComposerFirstPage(const ComposerParts &parts, QWidget *parent
     m_ui->Text1_8->setText(QString::number(settings.NumberOfBlanks));
     m_ui->LabelControl->setMinimumHeight(m_ui->LabelControl->fontMetrics().lineSpacing()
                                          * leastLinesTold);
-    GetHandles();
-    if (const auto shown =
-            m_ui->Picture1_1->showDrawing(parts.context.paths.appFolder, throttle.toString());
-        !shown) {
-        parts.context.status.setText(u" Throttle.bmp can't be shown: "_s + shown.error().reason);
-    }
 }
 
 ComposerFirstPage::~ComposerFirstPage() = default;
@@ -88,6 +78,7 @@ void ComposerFirstPage::enter()
 
 void ComposerFirstPage::windowActivated()
 {
+    m_pictures->followHandle();
     if (!m_ui->DLYText_0->hasFocus()) {
         showText(*m_ui->DLYText_0, QString::number(m_parts.editor.DefaultDLYvalue()));
     }
@@ -95,55 +86,31 @@ void ComposerFirstPage::windowActivated()
 
 void ComposerFirstPage::makeMenus()
 {
-    const auto menu = [this](const QString &name) {
-        auto *made = new QMenu(this);
-        made->setObjectName(name);
-        return made;
-    };
     const auto add = [this](QMenu *to, const QString &name, const QString &caption, auto act) {
         QAction *entry = to->addAction(caption);
         entry->setObjectName(name);
         connect(entry, &QAction::triggered, this,
-                guarded(m_parts.context.dialogs, [act, entry](bool) { act(entry->text()); }));
+                guarded(m_parts.context.dialogs, [act](bool) { act(); }));
     };
-    const auto insert = [this](const QString &control) {
-        insertControl(control);
-    };
-    mnuHatPos = menu(u"mnuHatPos"_s);
-    const QStringList ways = offeredControls(u"HAT_0", true);
-    for (int i = 0; i < ways.size(); ++i) {
-        if (i == hatDirections) {
-            mnuHatPos->addSeparator();
-        }
-        add(mnuHatPos,
-            i < hatDirections ? u"MnuHatPostion_%1"_s.arg(i)
-                              : u"MnuHatCornerPostion_%1"_s.arg(i - hatDirections),
-            ways[i], insert);
-    }
-    mnuTrigger = menu(u"mnuTrigger"_s);
-    add(mnuTrigger, u"mnuTriggerStage_0"_s, u"TG1"_s, insert);
-    add(mnuTrigger, u"mnuTriggerStage_1"_s, u"TG2"_s, insert);
-    mnuRHList = menu(u"mnuRHList"_s);
+    mnuRHList = new QMenu(this);
+    mnuRHList->setObjectName(u"mnuRHList"_s);
     add(mnuRHList, u"mnuRHListInsert"_s, u"&Insert into Joystick file"_s,
-        [this](const QString &) { insertMacro(m_menuMacro); });
+        [this] { insertMacro(m_menuMacro); });
     add(mnuRHList, u"mnuFindInJoyFile"_s, u"&Find in joystick file"_s,
-        [this](const QString &) { m_parts.editor.FindMacroInJF(m_menuMacro); });
+        [this] { m_parts.editor.FindMacroInJF(m_menuMacro); });
     add(mnuRHList, u"mnuRHListEdit"_s, u"&Edit"_s,
-        [this](const QString &) { m_parts.editor.editMacro(m_menuMacro); });
+        [this] { m_parts.editor.editMacro(m_menuMacro); });
 }
 
-void ComposerFirstPage::connectPictures()
+void ComposerFirstPage::makePictures()
 {
-    for (ControlsPicture *picture : { m_ui->Picture1_0, m_ui->Picture1_1 }) {
-        connect(picture, &ControlsPicture::clicked, this,
-                guarded(m_parts.context.dialogs,
-                        [this, picture](const QString &id) { clicked(*picture, id); }));
-        connect(picture, &ControlsPicture::hovered, this,
-                guarded(m_parts.context.dialogs,
-                        [this, picture](const QString &id) { tell(*picture, id); }));
-    }
-    connect(m_ui->ComboJoystickHandle, &QComboBox::currentIndexChanged, this,
-            guarded(m_parts.context.dialogs, [this](int) { ChangeHandle(); }));
+    m_pictures = new ControlPictures(
+        m_parts, { m_ui->Picture1_0, m_ui->Picture1_1, m_ui->ComboJoystickHandle },
+        m_parts.context.settings.of<ComposerSettings>().AlwaysInsert, controlMenus, this);
+    connect(m_pictures, &ControlPictures::told, this, [this](const QString &text) {
+        m_ui->LabelControl->setText(text);
+        Q_EMIT changed();
+    });
 }
 
 void ComposerFirstPage::connectButtons()
@@ -198,98 +165,21 @@ void ComposerFirstPage::connectMacros()
 
 void ComposerFirstPage::GetHandles()
 {
-    const HandleList handles =
-        listHandles(ProfileFile(m_parts.context.paths.iniPath), m_parts.context.paths.appFolder);
-    {
-        const QSignalBlocker loadingHandle(m_ui->ComboJoystickHandle);
-        m_ui->ComboJoystickHandle->clear();
-        m_ui->ComboJoystickHandle->addItems(handles.names);
-        m_ui->ComboJoystickHandle->setCurrentText(handles.chosen);
-    }
-    if (const auto shown = showHandle(handles.chosen); !shown) {
-        m_parts.context.status.setText(u' ' + shown.error());
-    }
-}
-
-Expected<void, QString> ComposerFirstPage::showHandle(const QString &name)
-{
-    const QString &folder = m_parts.context.paths.appFolder;
-    const auto handle = loadHandleFile(handlePath(folder, name));
-    if (!handle) {
-        m_triggerHasStages = true;
-        // Its picture may be missing as well; its hot spots never are.
-        (void)m_ui->Picture1_0->showDrawing(folder, shippedHandle.toString());
-        return Unexpected<QString>(
-            u"The handle %1 can't be shown: %2"_s.arg(name).arg(handle.error().reason));
-    }
-    m_triggerHasStages = handle->triggerHasStages;
-    if (const auto shown = m_ui->Picture1_0->showHandle(folder, *handle); !shown) {
-        return Unexpected<QString>(
-            u"%1 can't be shown: %2"_s.arg(handle->picture).arg(shown.error().reason));
-    }
-    return {};
-}
-
-void ComposerFirstPage::ChangeHandle()
-{
-    const QString name = m_ui->ComboJoystickHandle->currentText();
-    const auto kept = SaveHandle(ProfileFile(m_parts.context.paths.iniPath), name);
-    if (!kept) {
-        tellNotKept(m_parts.context.status, kept.error());
-    }
-    if (const auto shown = showHandle(name); !shown) {
-        m_parts.context.dialogs.tell(u"No such handle"_s, shown.error(), BoxIcon::Exclamation);
-    }
-}
-
-void ComposerFirstPage::clicked(const ControlsPicture &picture, const QString &id)
-{
-    m_parts.documents.select(DocumentKind::Joystick);
-    const QStringList controls = offeredControls(id, m_triggerHasStages);
-    if (controls.size() == 1) {
-        insertControl(controls.first());
-        return;
-    }
-    QMenu *menu = id == u"TRIG" ? mnuTrigger : mnuHatPos;
-    qsizetype next = 0;
-    for (QAction *entry : menu->actions()) {
-        if (!entry->isSeparator() && next < controls.size()) {
-            entry->setText(controls[next++]);
-        }
-    }
-    const QWidget *spot = picture.spot(id);
-    menu->popup(spot ? spot->mapToGlobal(spot->rect().bottomLeft()) : QCursor::pos());
-}
-
-void ComposerFirstPage::tell(ControlsPicture &picture, const QString &id)
-{
-    const QString text = m_parts.documents.joystick().text();
-    const QStringList controls = offeredControls(id, m_triggerHasStages);
-    QStringList told;
-    for (const QString &control : controls) {
-        if (findControl(text, buttonStatement(control))) {
-            told.append(toldOf(text, control));
-        }
-    }
-    const QString shown = id.isEmpty() ? QString()
-        : told.isEmpty()               ? spokenName(id) + u": nothing yet"_s
-                                       : told.join(u'\n');
-    m_ui->LabelControl->setText(shown);
-    if (QAbstractButton *spot = picture.spot(id)) {
-        spot->setToolTip(Qt::convertFromPlainText(shown));
-        spot->setAccessibleDescription(shown);
-    }
-    m_told = { &picture, id };
-    m_pointed = controls.size() == 1 && told.isEmpty() ? controls.first() : QString();
-    Q_EMIT changed();
+    m_pictures->GetHandles();
 }
 
 std::optional<Generated> ComposerFirstPage::current() const
 {
-    if (!m_pointed.isEmpty()) {
-        return plainStatement(buttonStatement(m_pointed), true);
+    const QString &pointed = m_pictures->pointed();
+    if (!pointed.isEmpty()) {
+        return plainStatement(buttonStatement(pointed), true);
     }
     return m_edited ? std::optional((this->*m_edited)()) : std::nullopt;
+}
+
+bool ComposerFirstPage::isPiece() const
+{
+    return m_pictures->pointed().isEmpty();
 }
 
 Generated ComposerFirstPage::delay() const
@@ -314,34 +204,6 @@ void ComposerFirstPage::showWhenEdited(QLineEdit *box, Fragment fragment)
         m_edited = fragment;
         Q_EMIT changed();
     });
-}
-
-void ComposerFirstPage::insertControl(const QString &control)
-{
-    const QString statement = buttonStatement(control);
-    m_parts.documents.select(DocumentKind::Joystick);
-    if (!goToStatement(statement)) {
-        m_parts.inserter.insertFragment(statement,
-                                        m_parts.context.settings.of<ColourSettings>().BTNColour);
-    }
-    if (m_told.picture) {
-        tell(*m_told.picture, m_told.id);
-    }
-}
-
-bool ComposerFirstPage::goToStatement(const QString &statement)
-{
-    if (m_parts.context.settings.of<ComposerSettings>().AlwaysInsert) {
-        return false;
-    }
-    Document &joystick = m_parts.documents.joystick();
-    const auto found = findControl(joystick.text(), statement);
-    if (found) {
-        joystick.select(int(found->start + found->length), 0);
-        m_parts.context.status.setLine(joystick.caretLine());
-        m_parts.editor.ResetFocusToEditor();
-    }
-    return found.has_value();
 }
 
 void ComposerFirstPage::SlashButton_Click(int index)

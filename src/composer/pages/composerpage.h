@@ -12,7 +12,7 @@ class QMenu;
 
 namespace zeph {
 
-class ControlsPicture;
+class ControlPictures;
 
 namespace Ui {
 class ComposerFirstPage;
@@ -30,7 +30,7 @@ public:
     /// What a click on the control that is pointed at would insert; else what the button of the
     /// box would that was edited last.
     std::optional<Generated> current() const override;
-    bool isPiece() const override { return m_pointed.isEmpty(); }
+    bool isPiece() const override;
     bool read(const QString &) override { return false; }
     void enter() override;
     void windowActivated() override;
@@ -45,19 +45,10 @@ public:
     void selectMacro(const QString &macro);
 
 private:
-    void connectPictures();
+    void makePictures();
     void connectButtons();
     void connectMacros();
     void makeMenus();
-    /// Shows the handle of that name. An error says why it is not shown.
-    Expected<void, QString> showHandle(const QString &name);
-    void ChangeHandle();
-    void clicked(const ControlsPicture &picture, const QString &id);
-    void tell(ControlsPicture &picture, const QString &id);
-    /// Writes a control's statement, or goes to the one that it has.
-    void insertControl(const QString &control);
-    bool goToStatement(const QString &statement);
-
     /// What each button with a box inserts.
     Generated delay() const;
     Generated repeat() const;
@@ -74,17 +65,9 @@ private:
     void showMacroMenu(const QString &name, const QPoint &at);
 
     std::unique_ptr<Ui::ComposerFirstPage> m_ui;
-    QMenu *mnuHatPos = nullptr;
-    QMenu *mnuTrigger = nullptr;
+    ControlPictures *m_pictures = nullptr;
     QMenu *mnuRHList = nullptr;
     QString m_menuMacro; ///< the macro that mnuRHList is about
-    bool m_triggerHasStages = true;
-    /// The hot spot that LabelControl tells of.
-    struct {
-        ControlsPicture *picture = nullptr;
-        QString id;
-    } m_told;
-    QString m_pointed; ///< the one control of the hot spot that is pointed at; else empty
     Fragment m_edited = nullptr; ///< of the box that was edited last
 };
 

@@ -4,10 +4,14 @@
 #include "composer/pages/templatespage.h"
 
 #include "composer/statement_inserter.h"
+#include "documents/editor_texts.h"
+#include "platform/colours.h"
 #include "platform/control_array.h"
 #include "platform/core/file_io.h"
 #include "platform/dialogs.h"
 #include "platform/richtext/rich_text_box.h"
+#include "settings/colour_settings.h"
+#include "settings/settings.h"
 #include "text/template_files.h"
 #include "ui_templatespage.h"
 
@@ -76,6 +80,16 @@ void TemplatesPage::makeMenu()
 void TemplatesPage::enter()
 {
     m_ui->Templates->setFocus();
+}
+
+void TemplatesPage::windowActivated()
+{
+    // A template's colours are meant for the ground of the file that it goes into.
+    const auto &colours = m_parts.context.settings.of<ColourSettings>();
+    QPalette look = m_ui->TemplatesPreview->palette();
+    look.setColor(QPalette::Base, toColor(documentBackground(colours, DocumentKind::Joystick)));
+    look.setColor(QPalette::Text, toColor(colours.JoystickTextDefaultColour));
+    m_ui->TemplatesPreview->setPalette(look);
 }
 
 void TemplatesPage::FillTemplates()

@@ -25,6 +25,7 @@ public:
 
     bool read(const QString &) override { return false; }
     void enter() override;
+    void windowActivated() override;
 
     /// Lists the templates: rich texts first, then plain ones.
     void FillTemplates();

@@ -33,6 +33,8 @@ public:
     void enter() override;
     bool eventFilter(QObject *watched, QEvent *event) override;
 
+    /// Turns to the tab with that button.
+    void bringToFront(UseInsert insert);
     /// Lists the profiles of the Cougar's folder, and selects the first.
     void UpdateProfiles();
 
@@ -51,7 +53,6 @@ private:
 
     /// The button whose group is in front.
     int insertInFront() const;
-    void bringToFront(UseInsert insert);
     void useGroup(int index);
     /// Brings what depends on the fields up to date.
     void followFields();

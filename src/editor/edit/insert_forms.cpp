@@ -9,9 +9,7 @@
 #include "editor/editor_settings.h"
 #include "menus/menu_actions.h"
 #include "platform/clock.h"
-#include "platform/core/file_io.h"
 #include "platform/core/paths.h"
-#include "platform/core/text1252.h"
 #include "platform/dialogs.h"
 #include "platform/status_line.h"
 #include "settings/colour_settings.h"
@@ -192,24 +190,6 @@ void InsertForms::keep(std::initializer_list<SettingRef> fields)
         m_context.status.setText(u"The settings couldn't be written: "_s + written.error().path
                                  + u": "_s + written.error().reason);
     }
-}
-
-QStringList linesOfListFile(const QString &path)
-{
-    const auto bytes = readWholeFile(existingPath(path));
-    if (!bytes) {
-        return {};
-    }
-    QString text = fromText1252(*bytes);
-    text.replace(u'\r', u'\n');
-    QStringList lines;
-    for (const QString &line : text.split(u'\n')) {
-        const QString trimmed = line.trimmed();
-        if (!trimmed.isEmpty()) {
-            lines.append(trimmed);
-        }
-    }
-    return lines;
 }
 
 } // namespace zeph

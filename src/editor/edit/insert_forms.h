@@ -70,8 +70,4 @@ private:
     QPointer<SlashWindow> m_slashWindow;
 };
 
-/// Returns the lines of a list file that pilots may edit, trimmed and without empty ones; no lines
-/// when it is missing or cannot be read.
-QStringList linesOfListFile(const QString &path);
-
 } // namespace zeph

@@ -3,7 +3,6 @@
 
 #include "editor/macros/macrorenameform.h"
 
-#include "platform/core/text1252.h"
 #include "platform/dialogs.h"
 #include "text/macro_table.h"
 #include "ui_macrorenameform.h"
@@ -14,25 +13,10 @@ namespace {
 
 Box refusalBox(NameFault fault, const QString &name)
 {
-    const auto refusal = [](const QString &why) {
-        return Box{ u"I can't use that name buddy"_s, why, BoxIcon::Exclamation };
-    };
-    switch (fault) {
-    case NameFault::Exists:
-        return refusal(u"There's already a macro called "_s + name + u'.');
-    case NameFault::LanguageWord:
-        return refusal(name
-                       + u" means something of its own in joystick and macro files, so a macro "
-                         "can't be called that."_s);
-    case NameFault::SwitchedOff:
-        return refusal(u"A line that begins with ~ is switched off, so a macro's name can't begin "
-                       "with it."_s);
-    case NameFault::NotInCodePage:
-        return refusal(u"Joystick and macro files can't hold the character "_s
-                       + name[firstNot1252(name)] + u'.');
-    default:
+    if (fault == NameFault::Same) {
         return { u"What?!"_s, u"The macronames are the same buddy!"_s, BoxIcon::Information };
     }
+    return { u"I can't use that name buddy"_s, inWords(fault, name), BoxIcon::Exclamation };
 }
 
 } // namespace

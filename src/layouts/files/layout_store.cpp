@@ -5,6 +5,7 @@
 
 #include "platform/core/file_io.h"
 #include "platform/core/paths.h"
+#include "platform/core/portable_paths.h"
 #include "platform/core/rtf.h"
 #include "platform/core/zip_names.h"
 
@@ -163,7 +164,9 @@ Expected<void, QString> checkLayoutName(const QString &name)
         return Unexpected<QString>(u"I keep the texts on their way to the custom sheet under "
                                    "“temp”: please take another name."_s);
     }
-    return checkFileName(name);
+    return checkFileName(name).map_error([](const QString &reason) {
+        return u"I can't save a layout under that name: %1."_s.arg(reason);
+    });
 }
 
 Expected<Sheet, LayoutError> loadLayout(SheetKind kind, LayoutForm form, const QString &path)
@@ -203,6 +206,17 @@ Expected<void, LayoutError> saveLayout(const Sheet &sheet, LayoutForm form, cons
         writer.add(layoutTextName(sheet.kind, int(i)), files->texts[i]);
     }
     return writer.commit();
+}
+
+QString pictureFile(const QString &path, const QString &appFolder)
+{
+    const QString found = path.isEmpty() ? QString() : resolvedPath(path, appFolder);
+    return fileExists(found) ? existingPath(found) : QString();
+}
+
+QString picturePathOf(const QString &file, const QString &appFolder)
+{
+    return storedPath(file, appFolder);
 }
 
 std::vector<TransferBox> shownBoxes(const Sheet &sheet)

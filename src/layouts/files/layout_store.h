@@ -27,6 +27,13 @@ Expected<Sheet, LayoutError> loadLayout(SheetKind kind, LayoutForm form, const Q
 /// Writes a layout in the place of the one that is there; for one with text, its folder is made.
 Expected<void, LayoutError> saveLayout(const Sheet &sheet, LayoutForm form, const QString &path);
 
+/// The file that a picture's path in a layout means; empty when there is none. The program's own
+/// pictures are named without a folder, and one from a folder that is gone is looked for among
+/// them.
+QString pictureFile(const QString &path, const QString &appFolder);
+/// The path by which a layout names a picture's file.
+QString picturePathOf(const QString &file, const QString &appFolder);
+
 /// A text box on its way to the custom sheet.
 struct TransferBox {
     QRectF place;

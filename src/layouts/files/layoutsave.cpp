@@ -14,7 +14,11 @@ LayoutSave::LayoutSave(const QStringList &names, QWidget *parent)
     m_ui->setupUi(this);
     m_ui->Combo1->addItems(names);
     m_ui->Combo1->clearEditText();
+    m_ui->Combo1->lineEdit()->setObjectName(u"Combo1Edit"_s);
+    m_ui->Combo1->lineEdit()->setAccessibleName(m_ui->Combo1->accessibleName());
     m_ui->Combo1->setFocus();
+    // Room for the longest hint, which comes while the user types.
+    m_ui->LabelHint->setMinimumHeight(2 * m_ui->LabelHint->fontMetrics().lineSpacing());
     connect(m_ui->Combo1, &QComboBox::editTextChanged, this, &LayoutSave::judge);
     connect(m_ui->cmdOK, &QPushButton::clicked, this, &LayoutSave::accept);
     connect(m_ui->cmdCancel, &QPushButton::clicked, this, &LayoutSave::reject);

@@ -117,7 +117,7 @@ Sheet emptySheet(SheetKind kind)
     Sheet sheet;
     sheet.kind = kind;
     sheet.pictures.resize(row.pictures.size());
-    sheet.boxes.resize(size_t(row.boxes));
+    sheet.boxes.resize(size_t(row.boxes), { .text = RichText::plain({}) });
     return sheet;
 }
 

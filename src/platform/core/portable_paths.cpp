@@ -28,6 +28,7 @@ constexpr PathKey pathKeys[] = {
     { u"Miscellaneous", u"RestoreMacroFile" },
     { u"Apps", u"ImageFilePath" },
     { u"Apps", u"TextFilePath" },
+    { u"Image Viewer", u"ImagesDirectory" },
     { u"Apps", u"CustomAppPath", PathKind::Command },
     { u"PreviousJoystickFiles", u"JFPath" },
     { u"PreviousMacroFiles", u"MFPath" },

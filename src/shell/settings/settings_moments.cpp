@@ -5,10 +5,12 @@
 
 #include "composer/composer_settings.h"
 #include "composer/logic_flags_settings.h"
+#include "composer/tumbo/tumbo_settings.h"
 #include "documents/document_settings.h"
 #include "editor/editor_settings.h"
 #include "layouts/files/layouts_settings.h"
 #include "livetools/key_tester_settings.h"
+#include "livetools/pictures/image_viewer_settings.h"
 #include "menus/menu_settings.h"
 #include "platform/core/text1252.h"
 #include "settings/colour_settings.h"
@@ -41,7 +43,8 @@ void addAllSettings(Settings &settings)
 {
     addAll<SharedSettings, ColourSettings, MenuSettings, DocumentSettings, EditorSettings,
            ShellSettings, ComposerSettings, TemplateSettings, ToolchainSettings, DefaultOptions,
-           KeyTesterSettings, LogicFlagsSettings, LayoutsSettings>(settings);
+           KeyTesterSettings, ImageViewerSettings, LogicFlagsSettings, TumboSettings,
+           LayoutsSettings>(settings);
 }
 
 bool isSetUp(const SettingsFiles &files)

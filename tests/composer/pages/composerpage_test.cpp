@@ -1,88 +1,10 @@
 // SPDX-FileCopyrightText: The Zeph authors
 // SPDX-License-Identifier: MIT
 
-#include "composer/composer_settings.h"
-#include "composer/macro_mirror.h"
-#include "documents/documents.h"
-#include "editor/macros/macro_features.h"
-#include "platform/core/profile_file.h"
-#include "platform/richtext/rich_text_box.h"
-#include "tests/support/composer_world.h"
-#include "tests/support/fixture.h"
-#include "tests/support/soon.h"
-
-#include <QComboBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QMenu>
-#include <QMimeData>
-#include <QTest>
+#include "tests/composer/pages/first_page.h"
 
 using namespace zeph;
-
-namespace {
-
-const QByteArray macros = "Early = e\r\n"
-                          "Rem ----\r\nRem weapons\r\nRem ----\r\n"
-                          "Fire = SPC\r\nGun=x\r\n"
-                          "Rem ----\r\nRem RADAR\r\nRem ----\r\n"
-                          "Boresight = o\r\n";
-
-class FirstPage : public test::TestIn<test::ComposerWorld>
-{
-protected:
-    void SetUp() override
-    {
-        showEditor();
-        open();
-    }
-    ComposerSettings &options() { return settings.of<ComposerSettings>(); }
-    const ColourSettings &colours() { return settings.of<ColourSettings>(); }
-    ColorRef colourAt(Document &document, int position)
-    {
-        return document.richText(position, 1).formatAt(0).colour.value_or(0x123456);
-    }
-    /// Shows that the last insertion is one step, which brings a text back.
-    void expectOneStepFrom(Document &document, const QString &before)
-    {
-        document.undo();
-        EXPECT_EQ(document.text(), before);
-    }
-    void chooseEntry(const QString &menu, const QString &entry)
-    {
-        auto &shown = control<QMenu>(menu);
-        EXPECT_TRUE(shown.isVisible());
-        shown.findChild<QAction *>(entry)->trigger();
-        shown.close();
-    }
-    void protectMacros(const QString &text)
-    {
-        setMacro(text);
-        editor->documents().setProtected(true);
-    }
-    MacroMirror &mirror() { return control<MacroMirror>(u"FrameMacros"_s); }
-    QStringList listed()
-    {
-        QStringList names;
-        const MacroMirrorList *list = mirror().list();
-        for (int i = 0; i < list->count(); ++i) {
-            names.append((list->item(i)->checkState() == Qt::Checked ? u"+"_s : QString())
-                         + list->item(i)->text());
-        }
-        return names;
-    }
-    QPoint placeOf(const QString &name)
-    {
-        MacroMirrorList *list = mirror().list();
-        return list->visualItemRect(list->findItems(name, Qt::MatchExactly).value(0)).center();
-    }
-    void doubleClick(const QString &name)
-    {
-        QTest::mouseDClick(mirror().list()->viewport(), Qt::LeftButton, {}, placeOf(name));
-    }
-};
-
-} // namespace
+using test::FirstPage;
 
 TEST_F(FirstPage, AClickOnAButtonWritesItsStatementAtOnceIntoAnEmptyFile)
 {
@@ -146,6 +68,39 @@ TEST_F(FirstPage, AHatOpensItsMenuWithItsOwnDirections)
     click(u"HAT_3"_s);
     chooseEntry(u"mnuHatPos"_s, u"MnuHatCornerPostion_3"_s);
     EXPECT_EQ(joystick().text(), u"BTN H2D \nBTN H4DR "_s);
+}
+
+TEST_F(FirstPage, EveryHotSpotAndEntryWritesItsControl)
+{
+    const auto expectWritten = [this](const QString &control) {
+        EXPECT_EQ(joystick().text(), u"BTN "_s + control + u' ');
+        setJoystick(QString());
+    };
+    const QStringList buttons{ u"S1"_s, u"S2"_s, u"S3"_s, u"S4"_s, u"T1"_s, u"T2"_s, u"T3"_s,
+                               u"T4"_s, u"T5"_s, u"T6"_s, u"T7"_s, u"T8"_s, u"T9"_s, u"T10"_s };
+    for (int i = 0; i < buttons.size(); ++i) {
+        click(u"BTN_%1"_s.arg(i));
+        expectWritten(buttons[i]);
+    }
+    const QStringList directions{ u"U"_s, u"D"_s, u"L"_s, u"R"_s, u"M"_s };
+    const QStringList corners{ u"UL"_s, u"DL"_s, u"UR"_s, u"DR"_s };
+    for (int hat = 0; hat < 4; ++hat) {
+        for (int i = 0; i < directions.size(); ++i) {
+            click(u"HAT_%1"_s.arg(hat));
+            chooseEntry(u"mnuHatPos"_s, u"MnuHatPostion_%1"_s.arg(i));
+            expectWritten(u"H%1"_s.arg(hat + 1) + directions[i]);
+        }
+        for (int i = 0; i < corners.size(); ++i) {
+            click(u"HAT_%1"_s.arg(hat));
+            chooseEntry(u"mnuHatPos"_s, u"MnuHatCornerPostion_%1"_s.arg(i));
+            expectWritten(u"H%1"_s.arg(hat + 1) + corners[i]);
+        }
+    }
+    for (int i = 0; i < 2; ++i) {
+        click(u"TRIG"_s);
+        chooseEntry(u"mnuTrigger"_s, u"mnuTriggerStage_%1"_s.arg(i));
+        expectWritten(u"TG%1"_s.arg(i + 1));
+    }
 }
 
 TEST_F(FirstPage, TheTriggersStagesAreAMenu)
@@ -257,6 +212,17 @@ TEST_F(FirstPage, TheSlashButtonsAreTheTenModifiersInTheirOrder)
         all += control<QAbstractButton>(u"SlashButton_%1"_s.arg(i)).text() + u' ';
     }
     EXPECT_EQ(all, u"/U /M /D /I /O /P /R /H /A /T "_s);
+}
+
+TEST_F(FirstPage, EachSlashButtonWritesItsModifier)
+{
+    const QStringList words{ u"/U "_s, u"/M "_s, u"/D "_s, u"/I "_s, u"/O "_s,
+                             u"/P "_s, u"/R "_s, u"/H "_s, u"/A "_s, u"/T "_s };
+    for (int i = 0; i < words.size(); ++i) {
+        setJoystick(QString());
+        click(u"SlashButton_%1"_s.arg(i));
+        EXPECT_EQ(joystick().text(), words[i]);
+    }
 }
 
 TEST_F(FirstPage, ASlashGoesIntoTheSelectedFileWithinItsLine)
@@ -380,206 +346,6 @@ TEST_F(FirstPage, ARemarkGoesInInItsColourAndStaysInItsBox)
     expectOneStepFrom(joystick(), u"BTN S1 a "_s);
     click(u"Command10"_s);
     EXPECT_EQ(control<QLineEdit>(u"RemTextBox"_s).text(), QString());
-}
-
-TEST_F(FirstPage, TheMacroListMirrorsTheEditors)
-{
-    openMacros(macros);
-    QCoreApplication::processEvents();
-    EXPECT_EQ(listed(), (QStringList{ u"Early"_s, u"Fire"_s, u"Gun"_s, u"Boresight"_s }));
-    QComboBox &headings = mirror().headings();
-    EXPECT_EQ(headings.count(), 3);
-    EXPECT_EQ(headings.currentText(), u"All"_s);
-    headings.setCurrentText(u"Weapons"_s);
-    EXPECT_EQ(mirror().list()->objectName(), u"List1_1"_s);
-    EXPECT_EQ(listed(), (QStringList{ u"Fire"_s, u"Gun"_s }));
-}
-
-TEST_F(FirstPage, TicksAreTheEditorsUnderEveryHeading)
-{
-    openMacros(macros);
-    QCoreApplication::processEvents();
-    setJoystick(u"BTN S1 Fire Rem Gun\n"_s);
-    editor->action(u"mnuMacrosIdentify")->trigger();
-    EXPECT_EQ(listed(), (QStringList{ u"Early"_s, u"+Fire"_s, u"Gun"_s, u"Boresight"_s }));
-    mirror().headings().setCurrentText(u"Weapons"_s);
-    EXPECT_EQ(listed(), (QStringList{ u"+Fire"_s, u"Gun"_s }));
-}
-
-TEST_F(FirstPage, AFreshMacroFileEmptiesTheList)
-{
-    openMacros(macros);
-    QCoreApplication::processEvents();
-    editor->action(u"mnuFileNewMacro")->trigger();
-    QCoreApplication::processEvents();
-    EXPECT_EQ(mirror().headings().count(), 0);
-    EXPECT_EQ(listed(), QStringList());
-}
-
-TEST_F(FirstPage, AnEmptyListTellsWhereMacrosComeFrom)
-{
-    const auto painted = [this] {
-        return mirror().list()->viewport()->grab().toImage();
-    };
-    const QImage empty = painted();
-    QImage blank(empty.size(), empty.format());
-    blank.setDevicePixelRatio(empty.devicePixelRatio());
-    blank.fill(mirror().list()->palette().base().color());
-    EXPECT_NE(empty, blank);
-    openMacros(macros);
-    QCoreApplication::processEvents();
-    // Below the entries there is nothing.
-    const QRect foot(0, painted().height() - 40, painted().width(), 40);
-    EXPECT_EQ(painted().copy(foot), blank.copy(foot));
-}
-
-TEST_F(FirstPage, ADoubleClickAtTheTextsStartInsertsNoBlankBefore)
-{
-    openMacros(macros);
-    QCoreApplication::processEvents();
-    options().COMPaddCR = false;
-    setJoystick(QString());
-    doubleClick(u"Fire"_s);
-    EXPECT_EQ(joystick().text(), u"Fire "_s);
-    EXPECT_EQ(joystick().selStart(), 5);
-    EXPECT_EQ(colourAt(joystick(), 0), colours().JoystickTextDefaultColour);
-    EXPECT_EQ(listed(), (QStringList{ u"Early"_s, u"+Fire"_s, u"Gun"_s, u"Boresight"_s }));
-    expectOneStepFrom(joystick(), QString());
-}
-
-TEST_F(FirstPage, ADoubleClickAfterABlankInsertsNoSecondOne)
-{
-    openMacros(macros);
-    QCoreApplication::processEvents();
-    options().COMPaddCR = false;
-    setJoystick(u"BTN S1 "_s);
-    doubleClick(u"Fire"_s);
-    EXPECT_EQ(joystick().text(), u"BTN S1 Fire "_s);
-    setJoystick(u"BTN S1 a"_s);
-    doubleClick(u"Fire"_s);
-    EXPECT_EQ(joystick().text(), u"BTN S1 a Fire "_s);
-}
-
-TEST_F(FirstPage, ADoubleClickInALinesMiddleKeepsTheNameApart)
-{
-    openMacros(macros);
-    QCoreApplication::processEvents();
-    options().COMPaddCR = false;
-    setJoystick(u"BTN S1 abc"_s, 8);
-    doubleClick(u"Fire"_s);
-    EXPECT_EQ(joystick().text(), u"BTN S1 a Fire bc"_s);
-    EXPECT_EQ(joystick().selStart(), 14);
-    expectOneStepFrom(joystick(), u"BTN S1 abc"_s);
-}
-
-TEST_F(FirstPage, ADoubleClickGoesIntoTheSelectedMacroFile)
-{
-    openMacros(macros);
-    QCoreApplication::processEvents();
-    options().COMPaddCR = false;
-    setJoystick(u"BTN S1 "_s);
-    const QString before = macro().text();
-    editor->documents().select(DocumentKind::Macro);
-    macro().select(macro().length(), 0);
-    doubleClick(u"Fire"_s);
-    // A line end is no blank.
-    EXPECT_EQ(macro().text(), before + u" Fire "_s);
-    EXPECT_EQ(joystick().text(), u"BTN S1 "_s);
-    expectOneStepFrom(macro(), before);
-}
-
-TEST_F(FirstPage, ADoubleClickReplacesTheSelection)
-{
-    openMacros(macros);
-    QCoreApplication::processEvents();
-    options().COMPaddCR = false;
-    setJoystick(u"BTN S1 abc"_s);
-    joystick().select(8, 2);
-    doubleClick(u"Gun"_s);
-    EXPECT_EQ(joystick().text(), u"BTN S1 aGun "_s);
-}
-
-TEST_F(FirstPage, ALineEndFollowsADoubleClickIfItIsWantedInTheSameStep)
-{
-    openMacros(macros);
-    QCoreApplication::processEvents();
-    setJoystick(u"BTN S1 "_s);
-    doubleClick(u"Fire"_s);
-    EXPECT_EQ(joystick().text(), u"BTN S1 Fire \n"_s);
-    EXPECT_EQ(joystick().selStart(), 13);
-    expectOneStepFrom(joystick(), u"BTN S1 "_s);
-}
-
-TEST_F(FirstPage, DraggedTextHasABlankOnEachSideAndNoLineEnd)
-{
-    openMacros(macros);
-    QCoreApplication::processEvents();
-    MacroMirrorList *list = mirror().list();
-    ASSERT_TRUE(options().COMPaddCR);
-    const std::unique_ptr<QMimeData> dragged(
-        list->model()->mimeData({ list->model()->index(1, 0) }));
-    EXPECT_EQ(dragged->text(), u" Fire "_s);
-    EXPECT_EQ(dragged->formats(), QStringList{ u"text/plain"_s });
-    EXPECT_TRUE(list->model()->flags(list->model()->index(1, 0)).testFlag(Qt::ItemIsDragEnabled));
-}
-
-TEST_F(FirstPage, AProtectedMacroFileRefusesADoubleClick)
-{
-    openMacros(macros);
-    QCoreApplication::processEvents();
-    const QString before = macro().text();
-    editor->documents().select(DocumentKind::Macro);
-    editor->documents().setProtected(true);
-    dialogs.answer(u"File protected"_s, BoxButton::Ok);
-    doubleClick(u"Fire"_s);
-    EXPECT_EQ(macro().text(), before);
-}
-
-TEST_F(FirstPage, AClickShowsTheMacrosKeysAndWithShiftItsUse)
-{
-    openMacros(macros);
-    QCoreApplication::processEvents();
-    setJoystick(u"BTN S1 a\nBTN S2 Fire\n"_s, 0);
-    QTest::mouseClick(mirror().list()->viewport(), Qt::LeftButton, {}, placeOf(u"Fire"_s));
-    EXPECT_EQ(status.text(), u"Fire = SPC"_s);
-    EXPECT_EQ(joystick().selLength(), 0);
-    QTest::mouseClick(mirror().list()->viewport(), Qt::LeftButton, Qt::ShiftModifier,
-                      placeOf(u"Fire"_s));
-    EXPECT_EQ(joystick().selStart(), 16);
-    EXPECT_EQ(joystick().selLength(), 4);
-}
-
-TEST_F(FirstPage, TheListsMenuInsertsFindsAndEdits)
-{
-    openMacros(macros);
-    QCoreApplication::processEvents();
-    setJoystick(u"BTN S2 Gun "_s);
-    MacroMirrorList *list = mirror().list();
-    list->setCurrentRow(2);
-    const auto openMenu = [list] {
-        QContextMenuEvent event(QContextMenuEvent::Keyboard, QPoint(), QPoint());
-        QApplication::sendEvent(list, &event);
-    };
-    openMenu();
-    chooseEntry(u"mnuRHList"_s, u"mnuRHListInsert"_s);
-    EXPECT_EQ(joystick().text(), u"BTN S2 Gun Gun \n"_s);
-    openMenu();
-    chooseEntry(u"mnuRHList"_s, u"mnuFindInJoyFile"_s);
-    EXPECT_EQ(joystick().selStart(), 7);
-    EXPECT_EQ(joystick().selLength(), 3);
-    list->setCurrentRow(1);
-    openMenu();
-    chooseEntry(u"mnuRHList"_s, u"mnuRHListEdit"_s);
-    EXPECT_EQ(editor->selected().kind(), DocumentKind::Macro);
-    EXPECT_EQ(macro().text().mid(macro().selStart(), macro().selLength()), u"Fire = SPC"_s);
-}
-
-TEST_F(FirstPage, AMacroChosenInTheEditorIsShown)
-{
-    openMacros(macros);
-    QCoreApplication::processEvents();
-    Q_EMIT editor->macros().list().macroChosen(u"Gun"_s);
-    EXPECT_EQ(mirror().list()->currentName(), u"Gun"_s);
 }
 
 TEST_F(FirstPage, FindIPShowsTheCaretsLineAndTumboFollowsItsEntry)

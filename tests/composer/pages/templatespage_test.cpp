@@ -56,6 +56,16 @@ TEST_F(TemplatesPageTest, RichTextsAreListedBeforePlainOnes)
     EXPECT_EQ(listed(), (QStringList{ u"A2.rtf"_s, u"b.rtf"_s, u"a.txt"_s }));
 }
 
+TEST_F(TemplatesPageTest, TemplatesAreShownOnTheGroundOfTheFile)
+{
+    auto &colours = settings.of<ColourSettings>();
+    colours.BackgroundColour = 0x332211;
+    colours.JoystickTextDefaultColour = 0x0000FF;
+    composer()->settingsChanged();
+    EXPECT_EQ(preview().palette().color(QPalette::Base), QColor(0x11, 0x22, 0x33));
+    EXPECT_EQ(preview().palette().color(QPalette::Text), QColor(0xFF, 0, 0));
+}
+
 TEST_F(TemplatesPageTest, RefreshReadsTheFolderAgainAndKeepsWhatIsShown)
 {
     choose(1);

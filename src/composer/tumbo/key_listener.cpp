@@ -1,0 +1,100 @@
+// SPDX-FileCopyrightText: The Zeph authors
+// SPDX-License-Identifier: MIT
+
+#include "composer/tumbo/key_listener.h"
+
+#include "composer/tumbo/listen.h"
+#include "platform/dialogs.h"
+
+#include <QAbstractButton>
+#include <QCoreApplication>
+#include <QKeyEvent>
+
+#include <utility>
+
+namespace zeph {
+
+KeyListener::KeyListener(Dialogs &dialogs, QWidget &window, QAbstractButton &button)
+    : QObject(&window), m_dialogs(dialogs), m_window(window), m_button(button)
+{
+    connect(&button, &QAbstractButton::toggled, this,
+            guarded(dialogs, [this](bool on) { setOn(on); }));
+}
+
+void KeyListener::stop()
+{
+    m_button.setChecked(false);
+}
+
+void KeyListener::setOn(bool on)
+{
+    m_isOn = on;
+    m_escapeBefore = false;
+    // Menu bars and shortcuts see a key before the window that has the focus; a filter of the
+    // application sees it first of all.
+    if (on) {
+        QCoreApplication::instance()->installEventFilter(this);
+    } else {
+        QCoreApplication::instance()->removeEventFilter(this);
+    }
+    Q_EMIT toggled(on);
+}
+
+bool KeyListener::eventFilter(QObject *watched, QEvent *event)
+{
+    switch (event->type()) {
+    case QEvent::KeyPress:
+    case QEvent::KeyRelease:
+    case QEvent::ShortcutOverride:
+        return takeKey(watched, *event);
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick: {
+        // The button turns itself off.
+        const auto *widget = qobject_cast<QWidget *>(watched);
+        if (widget && widget->window() == &m_window && widget != &m_button) {
+            stop();
+        }
+        return false;
+    }
+    case QEvent::WindowDeactivate:
+    case QEvent::Hide:
+        if (watched == &m_window) {
+            stop();
+        }
+        return false;
+    default:
+        return false;
+    }
+}
+
+bool KeyListener::takeKey(QObject *watched, QEvent &event)
+{
+    const auto *widget = qobject_cast<QWidget *>(watched);
+    if (!widget || widget->window() != &m_window) {
+        return false;
+    }
+    event.accept();
+    const auto &key = static_cast<QKeyEvent &>(event);
+    if (event.type() == QEvent::KeyPress && !key.isAutoRepeat()) {
+        guarded(m_dialogs, [this, &key] { keyDown(key); })();
+    }
+    return true;
+}
+
+void KeyListener::keyDown(const QKeyEvent &event)
+{
+    const bool isEscape = event.key() == Qt::Key_Escape;
+    if (std::exchange(m_escapeBefore, isEscape) && isEscape) {
+        stop();
+        return;
+    }
+    const auto index = listenedKey({ Qt::Key(event.key()), event.modifiers(),
+                                     event.nativeScanCode(), event.nativeVirtualKey() });
+    if (index) {
+        Q_EMIT keyPressed(*index);
+    } else {
+        Q_EMIT unknownKeyPressed();
+    }
+}
+
+} // namespace zeph
