@@ -11,10 +11,14 @@
 #include "platform/dialogs.h"
 #include "platform/field_text.h"
 #include "platform/window_places.h"
+#include "settings/settings.h"
+#include "settings/shared_settings.h"
 #include "text/text_lines.h"
 #include "ui_mouseprogram.h"
 
 #include <QShortcut>
+
+#include <utility>
 
 namespace zeph {
 
@@ -90,15 +94,36 @@ void MouseProgram::useViewer(ViewImage *viewer)
         return;
     }
     m_viewer = viewer;
+    m_viewerIsBack = m_noted.measures != Measures();
     Dialogs &dialogs = m_context.dialogs;
-    connect(viewer, &ViewImage::measuresChanged, this, guarded(dialogs, [this] { refresh(); }));
-    connect(viewer, &ViewImage::pictureChanged, this, guarded(dialogs, [this] { FillFields(); }));
+    connect(viewer, &ViewImage::measuresChanged, this, guarded(dialogs, [this] {
+                noteMeasures();
+                refresh();
+            }));
+    connect(viewer, &ViewImage::pictureLoaded, this, guarded(dialogs, [this] { pictureLoaded(); }));
     connect(viewer, &QObject::destroyed, this, guarded(dialogs, [this](QObject *) {
                 // The signal comes before the pointer is cleared.
                 m_viewer.clear();
                 refresh();
             }));
     askForGesture();
+    FillFields();
+}
+
+void MouseProgram::noteMeasures()
+{
+    m_noted = { m_context.settings.of<SharedSettings>().ImageFilePath, m_viewer->pictureSize(),
+                m_viewer->measures() };
+}
+
+void MouseProgram::pictureLoaded()
+{
+    const Noted before = m_noted;
+    noteMeasures();
+    if (std::exchange(m_viewerIsBack, false) && before.path == m_noted.path
+        && before.picture == m_noted.picture) {
+        m_viewer->setMeasures(before.measures);
+    }
     FillFields();
 }
 
@@ -111,6 +136,10 @@ void MouseProgram::FillCoordinateLists()
     fillSteps(*m_ui->ComboSteps, usualSteps);
     const int width = fontMetrics().horizontalAdvance(u"-0000.0%,-0000.0%"_s);
     m_ui->LBL_MouseXY->setMinimumWidth(width);
+    // The longest usual value, of which nothing is to be cut off in a narrow window.
+    QLineEdit &macro = *m_values[RotateMacro];
+    macro.setMinimumWidth(macro.fontMetrics().horizontalAdvance(u"[MOUSE_LB]"_s)
+                          + 2 * macro.fontMetrics().averageCharWidth());
     giveRoomForStatement(*m_ui->LBL_MouseStatement);
 }
 
@@ -221,10 +250,8 @@ void MouseProgram::askForGesture()
 MouseWizardFields MouseProgram::fields() const
 {
     MouseWizardFields fields;
-    if (m_viewer) {
-        fields.measures = m_viewer->measures();
-        fields.picture = m_viewer->pictureSize();
-    }
+    fields.measures = m_viewer ? m_viewer->measures() : m_noted.measures;
+    fields.picture = m_viewer ? m_viewer->pictureSize() : m_noted.picture;
     for (int i = 0; i < m_movements.count(); ++i) {
         if (m_movements[i]->isChecked()) {
             fields.movement = MouseMovement(i);
@@ -251,6 +278,7 @@ RotateTexts MouseProgram::finalValues() const
 void MouseProgram::OptionMouseMove_Click()
 {
     // The same gesture means something else for another movement.
+    m_noted.measures = {};
     if (m_viewer) {
         m_viewer->clearMeasures();
     }
@@ -293,7 +321,9 @@ void MouseProgram::UpdateMouseMoveStatement()
 
 void MouseProgram::UpdateMouseInfoValue()
 {
-    const auto values = rotateValuesSoFar(fields());
+    auto values = rotateValuesSoFar(fields());
+    // The label has no blank in "x,y", as that of a clicked place.
+    values[RotateCentre].remove(u' ');
     for (int i = 0; i < m_info.count(); ++i) {
         m_info[i]->setText(values[readings[i]]);
     }
@@ -318,6 +348,7 @@ void MouseProgram::reject()
         m_viewer->setGesture(Gesture::None);
         m_viewer->clearMeasures();
     }
+    m_noted = {};
     QDialog::reject();
 }
 

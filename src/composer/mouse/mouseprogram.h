@@ -25,7 +25,8 @@ class MouseProgram;
 }
 
 /// The advanced mouse programming wizard. Each page tells what to do on the picture in the Image
-/// Viewer, and shows the statement that comes of it. Closing the window clears what was measured.
+/// Viewer, and shows the statement that comes of it. What was measured outlives the viewer; closing
+/// this window clears it.
 class MouseProgram : public QDialog
 {
     Q_OBJECT
@@ -67,6 +68,10 @@ private:
     void showPage(MouseWizardPage page);
     /// Asks the viewer for the page's gesture.
     void askForGesture();
+    /// Gives what was measured back to a viewer that was closed and shows the same picture again.
+    void pictureLoaded();
+    /// Notes what the viewer measured, for when it is closed.
+    void noteMeasures();
     MouseWizardFields fields() const;
     RotateTexts finalValues() const;
     void OptionMouseMove_Click();
@@ -87,7 +92,16 @@ private:
     ControlArray<QRadioButton> m_movements; ///< OptionMouseMove
     ControlArray<QLabel> m_info; ///< LBL_MouseInfo
     ControlArray<QLineEdit> m_values; ///< Text_finalValues
+    /// What was measured last, and on which picture.
+    struct Noted {
+        QString path;
+        QSize picture;
+        Measures measures;
+    };
+
     QPointer<ViewImage> m_viewer;
+    Noted m_noted; ///< counts while there is no viewer
+    bool m_viewerIsBack = false; ///< after it was closed; it has not shown a picture yet
     MouseWizardPage m_page = MouseWizardPage::Introduction;
 };
 

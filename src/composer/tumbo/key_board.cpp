@@ -27,6 +27,7 @@ constexpr qreal smallestText = 7;
 
 // The mouse's body goes on below its buttons; the POV is around the middle of its positions.
 constexpr QRect mouseCells(92, 0, 12, 11);
+constexpr QRect bellyCells(92, 6, 12, 5);
 constexpr QRect povCells(96, 17, 4, 4);
 
 QColor mixed(const QColor &one, const QColor &other, double share)
@@ -133,7 +134,7 @@ private:
     /// The font in which a caption has room; the same for all captions that have it.
     QFont fitted(const QString &caption) const
     {
-        constexpr qreal margins = 6;
+        constexpr qreal margins = 7;
         const qreal cell = m_board->cellWidth();
         const qreal room = cell * m_key.cell.width - margins;
         qreal size = (cell * cellsPerKey - margins) * (caption.size() > 1 ? 0.43 : 0.55);
@@ -251,18 +252,32 @@ void KeyBoard::paintEvent(QPaintEvent *)
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(
         mixed(palette().color(QPalette::Window), palette().color(QPalette::WindowText), 0.45), 1));
-    const QRectF mouse = QRectF(onWidget(mouseCells)).adjusted(0.5, 0.5, -0.5, -0.5);
-    painter.drawRoundedRect(mouse, mouse.width() / 8, mouse.width() / 8);
+    drawMouse(painter);
     const QRectF pov = QRectF(onWidget(povCells));
     painter.drawEllipse(pov.center(), pov.width() / 3, pov.width() / 3);
-    QFont small = font();
-    small.setPixelSize(int(std::max(smallestText, pov.height() / 4)));
-    painter.setFont(small);
+    painter.setFont(sized(pov.height() / 4));
     painter.setPen(palette().color(QPalette::WindowText));
     painter.drawText(pov, Qt::AlignCenter, u"POV"_s);
-    const QRectF belly(mouse.left(), mouse.top() + mouse.height() * 6 / 11, mouse.width(),
-                       mouse.height() * 5 / 11);
-    painter.drawText(belly, Qt::AlignCenter, u"Mouse"_s);
+    painter.setFont(sized(pov.height() / 3));
+    painter.drawText(QRectF(onWidget(bellyCells)), Qt::AlignCenter, u"Mouse"_s);
+}
+
+void KeyBoard::drawMouse(QPainter &painter) const
+{
+    const QRectF mouse = QRectF(onWidget(mouseCells)).adjusted(1.5, 1.5, -1.5, -1.5);
+    // The buttons are its upper edge; a line of its own would double theirs.
+    const QRectF belly = QRectF(onWidget(bellyCells));
+    painter.save();
+    painter.setClipRect(belly.adjusted(0, -belly.height() / 8, 0, 0));
+    painter.drawRoundedRect(mouse, mouse.width() / 8, mouse.width() / 8);
+    painter.restore();
+}
+
+QFont KeyBoard::sized(qreal pixels) const
+{
+    QFont changed = font();
+    changed.setPixelSize(int(std::max(smallestText, pixels)));
+    return changed;
 }
 
 void KeyBoard::resizeEvent(QResizeEvent *event)

@@ -55,6 +55,10 @@ private:
     qreal cellWidth() const;
     /// Where cells of the board are, in whole pixels.
     QRect onWidget(const QRect &cells) const;
+    /// The mouse's body below its buttons.
+    void drawMouse(QPainter &painter) const;
+    /// The board's font in another size.
+    QFont sized(qreal pixels) const;
     void moveFocus(int from, Qt::Key direction);
     /// Makes this key the one that Tab reaches.
     void setTabStop(KeyButton *key);

@@ -417,6 +417,12 @@ void RAWform::changeEvent(QEvent *event)
     }
 }
 
+QPushButton *RAWform::focusedButton() const
+{
+    auto *button = qobject_cast<QPushButton *>(focusWidget());
+    return button && !button->isCheckable() ? button : nullptr;
+}
+
 void RAWform::keyPressEvent(QKeyEvent *event)
 {
     const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
@@ -426,6 +432,8 @@ void RAWform::keyPressEvent(QKeyEvent *event)
         m_ui->cmdCreateMacro->click();
     } else if (isEnter && m_ui->TotalCombinedText->hasFocus()) {
         m_ui->CommandPasteJ_4->click();
+    } else if (isEnter && focusedButton()) {
+        focusedButton()->click();
     } else if (isEnter && m_default) {
         m_default->click();
     } else {

@@ -81,6 +81,8 @@ private:
     void append(const QString &text);
     /// What CommandPasteJ writes; an empty text when there is nothing to write.
     Generated statementOf(int index) const;
+    /// The button with the focus that Enter clicks; null for the toggles, which Space turns.
+    QPushButton *focusedButton() const;
     void clearBoxes();
     void showParts();
     void hideTumbo();

@@ -34,11 +34,11 @@ constexpr double goodColumn = 150;
 constexpr double leastColumn = 100;
 // What speaks against an arrangement, in pixels of leader line: a crossing of two lines or of a
 // line and a box, a line over another control, and each pixel of height that the texts lack.
-constexpr double crossingCost = 1000;
+constexpr double crossingCost = 2000;
 constexpr double overControlCost = 60;
 constexpr double lackCost = 2;
 // Plans that lack so much more height than the best are not looked into.
-constexpr double worthATry = 200;
+constexpr double worthATry = 500;
 
 using Indices = std::vector<size_t>;
 

@@ -104,6 +104,7 @@ void PictureCanvas::mousePressEvent(QMouseEvent *event)
         || (event->button() == Qt::LeftButton && m_tracker.gesture() == Gesture::None);
     if (pans) {
         m_panFrom = event->globalPosition().toPoint();
+        m_panButton = event->button();
         showCursor();
     } else if (event->button() == Qt::LeftButton) {
         follow(m_tracker.press(pixelAt(event->position())));
@@ -130,7 +131,8 @@ void PictureCanvas::mouseMoveEvent(QMouseEvent *event)
 
 void PictureCanvas::mouseReleaseEvent(QMouseEvent *event)
 {
-    if (m_panFrom) {
+    // A line may be drawn with the left button while the middle one moves the picture.
+    if (m_panFrom && event->button() == m_panButton) {
         m_panFrom.reset();
         showCursor();
     } else if (event->button() == Qt::LeftButton) {

@@ -59,6 +59,7 @@ private:
     double m_zoom = 1;
     GestureTracker m_tracker;
     std::optional<QPoint> m_panFrom; ///< on the screen, while the picture follows the mouse
+    Qt::MouseButton m_panButton = Qt::NoButton; ///< whose release ends that
 };
 
 } // namespace zeph

@@ -6,6 +6,7 @@
 #include "livetools/pictures/picture_canvas.h"
 #include "platform/core/base.h"
 
+#include <QLabel>
 #include <QScrollBar>
 #include <QWheelEvent>
 
@@ -33,13 +34,17 @@ constexpr double sameZoom = 0.001;
 } // namespace
 
 PictureFrame::PictureFrame(QWidget *parent)
-    : QFrame(parent), m_port(new QWidget(this)), m_canvas(new PictureCanvas(m_port)),
-      m_horizontal(new QScrollBar(Qt::Horizontal, this)),
+    : QFrame(parent), m_port(new QWidget(this)),
+      m_hint(new QLabel(u"No picture yet. Open one from the Image menu."_s, m_port)),
+      m_canvas(new PictureCanvas(m_port)), m_horizontal(new QScrollBar(Qt::Horizontal, this)),
       m_vertical(new QScrollBar(Qt::Vertical, this))
 {
     setFrameShape(QFrame::StyledPanel);
     setMinimumSize(leastSize, leastSize);
     setFocusPolicy(Qt::StrongFocus);
+    m_hint->setObjectName(u"LabelNoPicture"_s);
+    m_hint->setAlignment(Qt::AlignCenter);
+    m_hint->setWordWrap(true);
     m_canvas->setObjectName(u"Picture3"_s);
     m_canvas->setAccessibleName(u"Picture"_s);
     m_horizontal->setObjectName(u"HScroll1"_s);
@@ -140,6 +145,8 @@ void PictureFrame::RepositionControls()
     isWide = picture.width() > most.width() - (isHigh ? bars.width() : 0);
     const QSize room = all.size() - QSize(isHigh ? bars.width() : 0, isWide ? bars.height() : 0);
     m_port->setGeometry(QRect(all.topLeft(), room));
+    m_hint->setGeometry(m_port->rect());
+    m_hint->setVisible(m_canvas->picture().isNull());
     m_horizontal->setGeometry(all.left(), all.top() + room.height(), room.width(), bars.height());
     m_vertical->setGeometry(all.left() + room.width(), all.top(), bars.width(), room.height());
     m_horizontal->setVisible(isWide);

@@ -6,6 +6,7 @@
 #include <QFrame>
 
 class QImage;
+class QLabel;
 class QScrollBar;
 
 namespace zeph {
@@ -57,6 +58,7 @@ private:
     double fittingZoom() const;
 
     QWidget *m_port; ///< what is seen of the picture
+    QLabel *m_hint; ///< shown while there is no picture
     PictureCanvas *m_canvas;
     QScrollBar *m_horizontal;
     QScrollBar *m_vertical;

@@ -169,7 +169,7 @@ void drawRotation(Marks &marks, const Measures &measures, const Rotation &drawn)
     const double end = CalculateTheta2(measures);
     const auto tell = [&marks, &drawn](double angle) {
         marks.number(markNumber(angle) + u'\u00b0',
-                     towards(drawn.centre, angle, drawn.drawnRadius + 3 * numberDistance));
+                     towards(drawn.centre, angle, drawn.drawnRadius + 3.5 * numberDistance));
     };
     marks.circle(drawn.centre, drawn.drawnRadius);
     marks.line(drawn.centre, towards(drawn.centre, 0, drawn.drawnRadius), Qt::DotLine);
@@ -188,8 +188,12 @@ void drawRotation(Marks &marks, const Measures &measures, const Rotation &drawn)
     if (drawn.to) {
         tell(end);
     }
+    // Between the arcs and the circle, or outside of a circle that leaves no room there.
+    const double inside = arc * targetArc + 2 * numberDistance;
+    const double outside = drawn.drawnRadius + 2 * numberDistance;
+    const bool hasRoom = inside + 2 * numberDistance < drawn.drawnRadius;
     marks.number(u"r "_s + markNumber(radiusOf(measures)),
-                 towards(drawn.centre, freeDirection(taken), crossSize + 2.5 * numberDistance));
+                 towards(drawn.centre, freeDirection(taken), hasRoom ? inside : outside));
 }
 
 } // namespace

@@ -33,10 +33,10 @@ constexpr std::array actions = {
     separator(u"mnuImage"),
     ActionRow{u"mnuImage", u"mnuImageClose", u"&Close", u"Ctrl+W", u"Closes the Image Viewer", u"exit", Always, Entry},
 
-    ActionRow{u"mnuView", u"mnuZoomFit", u"&Fit to window", u"Ctrl+9", u"Makes the picture as large as the window, whatever its size", u"", Always, Tick},
-    ActionRow{u"mnuView", u"mnuZoomIn", u"Zoom &in", u"Ctrl++", u"Shows the picture larger", u"", Picture, Repeats},
-    ActionRow{u"mnuView", u"mnuZoomOut", u"Zoom &out", u"Ctrl+-", u"Shows the picture smaller", u"", Picture, Repeats},
-    ActionRow{u"mnuView", u"mnuZoomNatural", u"&Natural size", u"Ctrl+0", u"Shows the picture at 100 %", u"", Picture, Entry},
+    ActionRow{u"mnuView", u"mnuZoomFit", u"&Fit to window", u"Ctrl+9", u"Makes the picture as large as the window, whatever its size", u"zoom-fit", Always, Tick},
+    ActionRow{u"mnuView", u"mnuZoomIn", u"Zoom &in", u"Ctrl++", u"Shows the picture larger", u"zoom-in", Picture, Repeats},
+    ActionRow{u"mnuView", u"mnuZoomOut", u"Zoom &out", u"Ctrl+-", u"Shows the picture smaller", u"zoom-out", Picture, Repeats},
+    ActionRow{u"mnuView", u"mnuZoomNatural", u"&Natural size", u"Ctrl+0", u"Shows the picture at 100 %", u"zoom-natural", Picture, Entry},
     separator(u"mnuView"),
     ActionRow{u"mnuView", u"mnuHideAppsToolBar", u"&Hide Apps toolbar", u"", u"Hides the toolbar of this window", u"", Always, Tick},
 

@@ -229,17 +229,17 @@ void ViewImage::showPicture(const QString &path, const QImage &picture)
     const bool isOther = path != m_path || picture.size() != pictureSize();
     m_path = path;
     m_writtenAt = writtenAt(path);
-    if (!isOther) {
+    if (isOther) {
+        frame().showPicture(picture);
+        setWindowTitle(u"Image viewer - "_s + nameOf(path));
+        m_actions->setCondition(ViewerWhen::Picture, true);
+        // What was measured on another picture has no meaning on this one.
+        clearMeasures();
+        showPlace(std::nullopt);
+    } else {
         frame().refreshPicture(picture);
-        return;
     }
-    frame().showPicture(picture);
-    setWindowTitle(u"Image viewer - "_s + nameOf(path));
-    m_actions->setCondition(ViewerWhen::Picture, true);
-    // What was measured on another picture has no meaning on this one.
-    clearMeasures();
-    showPlace(std::nullopt);
-    Q_EMIT pictureChanged();
+    Q_EMIT pictureLoaded();
 }
 
 void ViewImage::mnuImageOpen_Click()

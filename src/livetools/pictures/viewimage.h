@@ -75,8 +75,8 @@ Q_SIGNALS:
     void measuresChanged();
     /// The left button, or Shift, was let go.
     void gestureFinished();
-    /// Another picture is shown, or the same one with another size.
-    void pictureChanged();
+    /// A picture was read, which may be the same one again.
+    void pictureLoaded();
     /// The manual mouse programming is wanted, at that tab (0 the introduction).
     void mouseManualWanted(int tab);
     /// The user wants the help page of that number.

@@ -86,7 +86,7 @@ TEST_P(MouseGestures, ADragAndShiftGiveTheRotation)
 {
     goTo(Rotation, MouseWizardPage::RotateFrom);
     drag(at(400, 200), at(440, 170));
-    EXPECT_EQ(label(u"LBL_MouseInfo_0"_s), u"400, 200");
+    EXPECT_EQ(label(u"LBL_MouseInfo_0"_s), u"400,200");
     EXPECT_EQ(label(u"LBL_MouseInfo_1"_s), u"50");
     EXPECT_EQ(label(u"LBL_MouseInfo_2"_s), u"36.9");
     EXPECT_EQ(label(u"LBL_MouseInfo_3"_s), u"");

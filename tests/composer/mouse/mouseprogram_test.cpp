@@ -210,6 +210,14 @@ TEST_F(MouseWizard, ThePicturesSizeIsTheSelectedScreenResolution)
     EXPECT_EQ(statement(), u"MOUSEXY (UL, 50%, 50%)");
 }
 
+TEST_F(MouseWizard, ARefreshSelectsThePicturesSizeAgain)
+{
+    openWizard();
+    part<QComboBox>(u"ComboScreenRes"_s).setCurrentText(u"800,600"_s);
+    viewer().mnuImageLoad_Click();
+    EXPECT_EQ(part<QComboBox>(u"ComboScreenRes"_s).currentText(), u"1000,500");
+}
+
 TEST_F(MouseWizard, TheScreenResolutionBringsTwoLineEndsAndNoThird)
 {
     settings.of<ComposerSettings>().CompTabsAddCr = true;
@@ -373,6 +381,39 @@ TEST_F(MouseWizard, AnEmptyValueOfTheLastPageIsRefused)
     EXPECT_EQ(joystick().text(), QString());
 }
 
+TEST_F(MouseWizard, WhatWasMeasuredOutlivesTheViewer)
+{
+    const auto closeViewer = [this] {
+        viewer().close();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        ASSERT_EQ(windows.get<ViewImage>(), nullptr);
+    };
+    const QString turned = u"MOUSEROTATE (UL, 400, 200, 50, 0, [MOUSE_LB], CW, 90, 2)"_s;
+    openWizard();
+    goTo(MouseMovement::Rotation, RotateFrom);
+    drag(at(400, 200), at(450, 200));
+    next();
+    turnTo(at(400, 100));
+    next();
+    closeViewer();
+    next();
+    EXPECT_EQ(wizard().page(), RotateValues);
+    press(u"CommandRestore"_s);
+    EXPECT_EQ(statement(), turned);
+    // The page with a gesture brings the viewer back, and its marks with it.
+    back();
+    back();
+    ASSERT_NE(windows.get<ViewImage>(), nullptr);
+    EXPECT_EQ(viewer().measures().from, QPointF(400, 200));
+    EXPECT_EQ(statement(), turned);
+    // On another picture they have no meaning.
+    closeViewer();
+    usePicture(u"other.bmp"_s, { 1000, 500 });
+    editor->action(u"mnuAppsImageViewer")->trigger();
+    EXPECT_EQ(viewer().measures(), Measures());
+    EXPECT_EQ(statement(), u"MOUSEROTATE (UL, ?, ?, ?, ?, [MOUSE_LB], CW, ?, 2)");
+}
+
 TEST_F(MouseWizard, AViewerThatWasClosedComesBackForTheNextGesture)
 {
     openWizard();
@@ -381,7 +422,7 @@ TEST_F(MouseWizard, AViewerThatWasClosedComesBackForTheNextGesture)
     viewer().close();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     EXPECT_EQ(windows.get<ViewImage>(), nullptr);
-    EXPECT_EQ(statement(), u"MOUSEXY (UL, ?, ?)");
+    EXPECT_EQ(statement(), u"MOUSEXY (UL, 400, 200)");
     back();
     EXPECT_EQ(windows.get<ViewImage>(), nullptr);
     next();

@@ -70,6 +70,20 @@ TEST_F(Tumbo, HasAButtonForEachKeyWithItsCaptionAndAName)
     EXPECT_EQ(key(u"LSHF"_s).accessibleName(), u"Left Shift"_s);
 }
 
+TEST_F(Tumbo, EachCaptionHasRoomOnTheSmallestBoard)
+{
+    KeyBoard board;
+    board.resize(board.minimumSizeHint());
+    board.show();
+    QFont smallest = board.font();
+    smallest.setPixelSize(7);
+    const QFontMetricsF metrics(smallest);
+    for (const BoardKey &row : boardKeys()) {
+        EXPECT_LE(metrics.horizontalAdvance(row.caption(false)), board.key(row.index)->width() - 3)
+            << row.name.toString().toStdString();
+    }
+}
+
 TEST_F(Tumbo, ShiftChangesTheTwentyOneCaptionsAndBackAgain)
 {
     const QString plain = u"`-=\\[];',./1234567890"_s;
@@ -331,6 +345,16 @@ TEST_F(Tumbo, OffersTheDefaultMacrosNamesAndBeginsWithNone)
     EXPECT_EQ(names.currentText(), QString());
 }
 
+TEST_F(Tumbo, WithoutTheDefaultMacrosItsListIsEmpty)
+{
+    closeTumbo();
+    QFile::remove(folder.file(u"DefaultMacros.txt"_s));
+    openTumbo();
+    EXPECT_EQ(part<QComboBox>(u"ComboMacros"_s).count(), 0);
+    createMacro(u"Gear"_s, u"g"_s);
+    EXPECT_EQ(macro().text(), u"Gear = g"_s);
+}
+
 TEST_F(Tumbo, ANameThatIsTypedStaysAsItIs)
 {
     auto &names = part<QComboBox>(u"ComboMacros"_s);
@@ -525,6 +549,22 @@ TEST_F(Tumbo, EnterClicksTheDefaultOrWhatBelongsToTheField)
     names.setEditText(u"Gear"_s);
     QTest::keyClick(&names, Qt::Key_Return);
     EXPECT_EQ(macro().text(), u"Gear = c"_s);
+}
+
+TEST_F(Tumbo, EnterClicksTheButtonThatHasTheFocus)
+{
+    press(u"a"_s);
+    auto &add = part<QPushButton>(u"Command10_0"_s);
+    add.setFocus();
+    QTest::keyClick(&add, Qt::Key_Return);
+    EXPECT_EQ(total(), u"a"_s);
+    EXPECT_EQ(joystick().text(), QString());
+    // A toggle is turned with Space, as a key of the board is pressed.
+    auto &shift = part<QPushButton>(u"ToggleButton1"_s);
+    shift.setFocus();
+    QTest::keyClick(&shift, Qt::Key_Return);
+    EXPECT_FALSE(shift.isChecked());
+    EXPECT_EQ(joystick().text(), u"a\n"_s);
 }
 
 TEST_F(Tumbo, KeysAreReachedByArrowsAndPressedWithSpace)

@@ -197,6 +197,8 @@ TEST_F(SpeedyTest, AHeadingByDoubleClickIsInTheMacroListAfterTheTransfer)
     const MacroTable &table = editor->macros().list().table();
     EXPECT_EQ(table.MacroHeadings, (QStringList{ u"All"_s, u"Guns and gunsight"_s }));
     EXPECT_EQ(table.names.value(1), QStringList{ u"Fire"_s });
+    const auto *headings = editor->findChild<QComboBox *>(u"Combo1"_s);
+    EXPECT_EQ(headings->findText(u"Guns and gunsight"_s), 1);
 }
 
 TEST_F(SpeedyTest, AHeadingIsOneStepToUndoInTheColourOfRemarks)

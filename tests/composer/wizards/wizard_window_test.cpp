@@ -130,6 +130,25 @@ TEST_F(MacroWizard, MakesMacrosAndHeadingsOnItsPages)
     EXPECT_TRUE(macro().text().endsWith(u"-\n\nFire_missile = SPC\n"_s));
 }
 
+TEST_F(MacroWizard, WithoutTheListsItWorksAndTheListsAreEmpty)
+{
+    window().close();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QFile::remove(folder.file(u"DefaultMacros.txt"_s));
+    QFile::remove(folder.file(u"DefaultMacroHeadings.txt"_s));
+    openWindow().showPage(6);
+    auto &list = control<QListWidget>(u"List1"_s);
+    EXPECT_EQ(list.count(), 0);
+    QTest::keyClick(&list, Qt::Key_Return);
+    EXPECT_EQ(macro().text(), QString());
+    window().showPage(8);
+    EXPECT_EQ(control<QComboBox>(u"ComboMacros"_s).count(), 0);
+    nameField().setText(u"Gear"_s);
+    control<QLineEdit>(u"Text1"_s).setText(u"g"_s);
+    click(u"Command1_4"_s);
+    EXPECT_EQ(macro().text(), u"Gear = g\n"_s);
+}
+
 TEST_F(MacroWizard, TumboGivesTheKeys)
 {
     window().showPage(3);
@@ -168,6 +187,20 @@ TEST_F(JoystickWizard, EndsOnItsTenthPage)
     EXPECT_EQ(captionOf(u"CommandAll_1"_s), u"Close"_s);
     click(u"CommandAll_1"_s);
     EXPECT_FALSE(window().isVisible());
+}
+
+TEST_F(JoystickWizard, CancelOnAnyPageLeavesTheFilesAsTheyAre)
+{
+    setJoystick(u"BTN S1 a"_s);
+    setMacro(u"Gear = g"_s);
+    for (int page = 0; page < 10; ++page) {
+        openWindow().showPage(page);
+        click(u"CommandAll_2"_s);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        EXPECT_EQ(windows.get<WizardJoystickFile>(), nullptr) << page;
+    }
+    EXPECT_EQ(macro().text(), u"Gear = g"_s);
+    EXPECT_EQ(joystick().text(), u"BTN S1 a"_s);
 }
 
 TEST_F(JoystickWizard, ItsButtonsRunTheEditorsCommands)

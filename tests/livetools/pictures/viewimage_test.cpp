@@ -116,11 +116,15 @@ TEST_F(Viewer, IsEmptyBeforeItShowsAPicture)
         EXPECT_FALSE(action(name)->isEnabled()) << name.toStdString();
     }
     EXPECT_TRUE(action(u"mnuImageOpen"_s)->isEnabled());
+    const auto *hint = viewer->findChild<QLabel *>(u"LabelNoPicture"_s);
+    EXPECT_FALSE(hint->isHidden());
+    open();
+    EXPECT_TRUE(hint->isHidden());
 }
 
 TEST_F(Viewer, ShowsThePictureOfImageFilePath)
 {
-    QSignalSpy changed(viewer.get(), &ViewImage::pictureChanged);
+    QSignalSpy changed(viewer.get(), &ViewImage::pictureLoaded);
     QStringList told;
     QObject::connect(&status, &StatusLine::textChanged,
                      [&told](const QString &text) { told.append(text); });
@@ -171,8 +175,15 @@ TEST_F(Viewer, DamagedPicturesAreToldAndTheOldOneStays)
     open({ 64, 48 });
     const QString good = imageFilePath();
     const QByteArray whole = test::bytesOf(test::pictureOf({ 80, 80 }), "bmp");
+    const auto cut = [](const QByteArray &file) {
+        return file.left(file.size() / 2);
+    };
+    const QString cutOff = u"It is damaged: a part of the file is missing."_s;
     const std::pair<QByteArray, QString> damaged[] = {
-        { whole.left(whole.size() / 2), u"It is damaged: a part of the file is missing."_s },
+        { cut(whole), cutOff },
+        { cut(test::bytesOf(test::pictureOf({ 80, 80 }), "jpg")), cutOff },
+        { cut(test::bytesOf(test::pictureOf({ 80, 80 }), "png")), cutOff },
+        { cut(test::gifBytes()), cutOff },
         { {}, u"The file is empty."_s },
         { "Rem no picture",
           u"It is no picture that I know. I can show bmp, jpg, gif and png pictures."_s },
@@ -189,6 +200,17 @@ TEST_F(Viewer, DamagedPicturesAreToldAndTheOldOneStays)
         EXPECT_EQ(imageFilePath(), good);
         EXPECT_EQ(viewer->windowTitle(), u"Image viewer - a.bmp");
     }
+}
+
+TEST_F(Viewer, AFileThatBecameDamagedIsToldAtARefreshAndItsPictureStays)
+{
+    open({ 64, 48 });
+    const QImage before = canvas().picture();
+    folder.write(u"a.bmp"_s, test::hugeBitmap());
+    dialogs.answer(u"I can't show this picture buddy"_s, BoxButton::Ok);
+    choose(u"mnuImageRefresh"_s);
+    EXPECT_EQ(boxTitles(), QStringList{ u"I can't show this picture buddy"_s });
+    EXPECT_EQ(canvas().picture(), before);
 }
 
 TEST_F(Viewer, OpenAsksWithAPreviewWhereTheLastPictureWas)
@@ -216,15 +238,15 @@ TEST_F(Viewer, OpenAsksWithAPreviewWhereTheLastPictureWas)
 TEST_F(Viewer, RefreshShowsWhatTheFileHasBecome)
 {
     open({ 64, 48 });
-    QSignalSpy changed(viewer.get(), &ViewImage::pictureChanged);
+    QSignalSpy changed(viewer.get(), &ViewImage::pictureLoaded);
     viewer->setMeasures({ QPointF(1, 2), {}, {} });
     choose(u"mnuImageRefresh"_s);
-    EXPECT_EQ(changed.size(), 0);
+    EXPECT_EQ(changed.size(), 1);
     EXPECT_EQ(viewer->measures().from, QPointF(1, 2));
     picture(u"a.bmp"_s, { 100, 50 });
     choose(u"mnuImageRefresh"_s);
     EXPECT_EQ(viewer->pictureSize(), QSize(100, 50));
-    EXPECT_EQ(changed.size(), 1);
+    EXPECT_EQ(changed.size(), 2);
     EXPECT_EQ(viewer->measures(), Measures()) << "measured on another picture";
 }
 
@@ -370,6 +392,17 @@ TEST_F(Viewer, TheMouseEntriesRunTheMainWindows)
     EXPECT_FALSE(action(u"mnuMouseStatements_4"_s)->isEnabled());
 }
 
+TEST_F(Viewer, EachButtonOfTheToolbarHasAPicture)
+{
+    installIcons();
+    viewer = make();
+    for (const QAction *entry : viewer->findChild<QToolBar *>(u"Toolbar1"_s)->actions()) {
+        if (!entry->isSeparator()) {
+            EXPECT_FALSE(entry->icon().pixmap(20).isNull()) << entry->text().toStdString();
+        }
+    }
+}
+
 TEST_F(Viewer, ShowsThePixelBelowTheMouseAtAnyZoom)
 {
     open();
@@ -410,6 +443,13 @@ TEST_F(Viewer, TheKeysZoom)
     EXPECT_TRUE(hasKey(u"mnuZoomIn"_s, u"Ctrl+="_s));
     EXPECT_TRUE(hasKey(u"mnuZoomOut"_s, u"Ctrl+-"_s));
     EXPECT_TRUE(hasKey(u"mnuZoomNatural"_s, u"Ctrl+0"_s));
+    ASSERT_TRUE(QTest::qWaitForWindowActive(viewer.get()));
+    QTest::keyClick(viewer.get(), Qt::Key_Plus, Qt::ControlModifier);
+    EXPECT_EQ(frame().zoom(), 1.5);
+    QTest::keyClick(viewer.get(), Qt::Key_0, Qt::ControlModifier);
+    EXPECT_EQ(frame().zoom(), 1);
+    QTest::keyClick(viewer.get(), Qt::Key_Minus, Qt::ControlModifier);
+    EXPECT_EQ(frame().zoom(), 0.75);
 }
 
 TEST_F(Viewer, TheLeftButtonPansWhileNoGestureIsAskedFor)
@@ -429,6 +469,25 @@ TEST_F(Viewer, TheMiddleButtonPansDuringAGestureToo)
     EXPECT_EQ(viewer->measures(), Measures());
     drag({ 500, 400 }, { 460, 370 });
     EXPECT_EQ(canvas().pos(), QPoint(-40, -30));
+}
+
+TEST_F(Viewer, TheMiddleButtonPansWhileALineIsDrawnAndTheLineGoesOn)
+{
+    open({ 3000, 3000 });
+    viewer->setGesture(Gesture::Line);
+    press({ 100, 60 });
+    move({ 120, 80 });
+    pan({ 500, 400 }, { 460, 370 }, Qt::MiddleButton);
+    EXPECT_EQ(canvas().pos(), QPoint(-40, -30));
+    release({ 140, 90 });
+    EXPECT_EQ(viewer->measures(), Measures({ QPointF(100, 60), QPointF(140, 90), {} }));
+    // The left button is up: the line is finished, also when both buttons were down at once.
+    press({ 100, 60 });
+    press({ 500, 400 }, Qt::MiddleButton);
+    release({ 140, 90 });
+    release({ 500, 400 }, Qt::MiddleButton);
+    move({ 700, 700 }, Qt::NoButton);
+    EXPECT_EQ(viewer->measures(), Measures({ QPointF(100, 60), QPointF(140, 90), {} }));
 }
 
 TEST_F(Viewer, ALineIsTheSameAtEveryZoom)
