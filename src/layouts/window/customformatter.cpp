@@ -58,7 +58,8 @@ QWidget *CustomFormatter::makeFonts()
     fonts->setToolTip(u"Gives the selected text this font"_s);
     fonts->lineEdit()->setObjectName(u"ComboFontsEdit"_s);
     fonts->lineEdit()->setAccessibleName(u"Selected font"_s);
-    fonts->setCurrentFont(QFont(u"Arial"_s));
+    // The combo box shows another font where this one is not installed.
+    fonts->setEditText(u"Arial"_s);
     m_sizes = new QComboBox(frame);
     m_sizes->setObjectName(u"ComboFontSize"_s);
     m_sizes->setAccessibleName(u"Selected font size"_s);

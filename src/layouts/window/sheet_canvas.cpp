@@ -129,8 +129,7 @@ void SheetCanvas::showEditor()
         m_isSetting = wasSetting;
         m_edited = box->text;
         m_editor->setObjectName(name);
-        m_editor->setAccessibleName(
-            sheetKind(m_shown.kind).boxNames[size_t(number)].toString());
+        m_editor->setAccessibleName(sheetKind(m_shown.kind).boxNames[size_t(number)].toString());
     }
     m_editor->setVisible(true);
 }
