@@ -3,14 +3,19 @@
 
 // The layout sheets' pure half: both sheets analysed from a joystick file of 10,000 and 50,000
 // lines, their boxes and a box of 10,000 lines coloured in both ways, 100,000 characters as
-// mark-up.
+// mark-up. And what is seen of them: sheets arranged, drawn while a box is dragged, and written.
 
 #include "layouts/analysis/box_colours.h"
 #include "layouts/analysis/box_texts.h"
+#include "layouts/draw/sheet_exports.h"
 #include "layouts/markup/markup.h"
+#include "tests/layouts/draw/sheets_of_files.h"
 #include "text/painter.h"
 
 #include <benchmark/benchmark.h>
+
+#include <QGuiApplication>
+#include <QPainter>
 
 using namespace zeph;
 
@@ -132,6 +137,78 @@ void Markup(benchmark::State &state)
     state.counters["runs"] = double(text.characters.size());
 }
 
+/// The sample file's sheet and that of a file of 300 lines, both of the usual size.
+QString fileOf(const benchmark::State &state)
+{
+    return state.range(0) > 0 ? test::longFileText(int(state.range(0))) : test::sampleText();
+}
+
+void FirstSheet(benchmark::State &state)
+{
+    const test::SheetsOfFiles files;
+    const QString text = fileOf(state);
+    const ControlsImage image = files.image(SheetKind::Throttle);
+    const std::vector<RichText> texts = files.texts(SheetKind::Throttle, text);
+    for (auto _ : state) {
+        const Sheet sheet =
+            firstSheet(SheetKind::Throttle, test::usualSheet, texts, image, test::sheetFont());
+        benchmark::DoNotOptimize(sheet.boxes.data());
+    }
+}
+
+void DrawnWhileABoxMoves(benchmark::State &state)
+{
+    const test::SheetsOfFiles files;
+    auto [sheet, look] = files.first(SheetKind::Joystick, fileOf(state));
+    const int scale = int(state.range(1));
+    QImage image(test::usualSheet * scale, QImage::Format_ARGB32_Premultiplied);
+    SheetRenderer renderer;
+    for (auto _ : state) {
+        sheet.boxes[1].Left += 1;
+        QPainter painter(&image);
+        painter.scale(scale, scale);
+        SheetRenderer::drawPaper(painter, sheet);
+        renderer.draw(painter, sheet, look);
+    }
+}
+
+void DrawnWhileABoxIsSized(benchmark::State &state)
+{
+    const test::SheetsOfFiles files;
+    auto [sheet, look] = files.first(SheetKind::Joystick, fileOf(state));
+    QImage image(test::usualSheet, QImage::Format_ARGB32_Premultiplied);
+    SheetRenderer renderer;
+    float step = 1;
+    for (auto _ : state) {
+        sheet.boxes[1].Width += step;
+        step = -step;
+        QPainter painter(&image);
+        SheetRenderer::drawPaper(painter, sheet);
+        renderer.draw(painter, sheet, look);
+    }
+}
+
+void Exported(benchmark::State &state, QStringView ending)
+{
+    const test::SheetsOfFiles files;
+    const auto [sheet, look] = files.first(SheetKind::Joystick, fileOf(state));
+    for (auto _ : state) {
+        const auto bytes = exportSheet(ending, sheet, look, u"sheet"_s);
+        benchmark::DoNotOptimize(bytes->data());
+    }
+}
+
+BENCHMARK(FirstSheet)->Arg(0)->Arg(300)->Unit(benchmark::kMillisecond);
+BENCHMARK(DrawnWhileABoxMoves)
+    ->Args({ 0, 1 })
+    ->Args({ 0, 2 })
+    ->Args({ 300, 1 })
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK(DrawnWhileABoxIsSized)->Arg(0)->Arg(300)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(Exported, Pdf, u"pdf")->Arg(0)->Arg(300)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(Exported, Svg, u"svg")->Arg(0)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(Exported, Png, u"png")->Arg(0)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(Exported, Html, u"html")->Arg(0)->Unit(benchmark::kMillisecond);
 BENCHMARK(Analysed)->Arg(10000)->Arg(50000)->Unit(benchmark::kMillisecond);
 BENCHMARK(AnalysedInVain)->Arg(10000)->Arg(50000)->Unit(benchmark::kMillisecond);
 BENCHMARK(ColouredSheet)->Arg(10000)->Unit(benchmark::kMillisecond);
@@ -141,4 +218,11 @@ BENCHMARK(Markup)->Arg(100000)->Arg(1000000)->Unit(benchmark::kMillisecond);
 
 } // namespace
 
-BENCHMARK_MAIN();
+int main(int argc, char **argv)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QGuiApplication application(argc, argv);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}

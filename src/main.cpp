@@ -14,14 +14,43 @@
 #include "platform/qt_dialogs.h"
 #include "platform/system_info.h"
 #include "shell/application.h"
+#include "shell/sheet_command.h"
 
 #include <QDir>
+#include <QGuiApplication>
 #include <QStandardPaths>
 
 using namespace zeph;
 
+namespace {
+
+QString perUserFolder()
+{
+    return QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation);
+}
+
+/// Writes a sheet into a file: no window, no lock, and no display is needed.
+int writeSheet(int argc, char **argv)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QGuiApplication toolkit(argc, argv);
+    QCoreApplication::setApplicationName(u"Zeph"_s);
+    const QString folder =
+        sheetCommandFolder(QCoreApplication::applicationDirPath(), perUserFolder());
+    return int(runSheetCommand(QCoreApplication::arguments().mid(1), folder, Clock().now()));
+}
+
+} // namespace
+
 int main(int argc, char **argv)
 {
+    QStringList arguments;
+    for (int i = 1; i < argc; ++i) {
+        arguments.append(QString::fromLocal8Bit(argv[i]));
+    }
+    if (isSheetCommand(arguments)) {
+        return writeSheet(argc, argv);
+    }
     SafeApplication toolkit(argc, argv);
     Application::applyStyle(toolkit);
 
@@ -35,8 +64,8 @@ int main(int argc, char **argv)
     const PrimaryScreen screen;
     const SystemInfo system;
 
-    const QString perUser = QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation);
-    const ChosenFolder chosen = chooseFolder(QCoreApplication::applicationDirPath(), perUser);
+    const ChosenFolder chosen =
+        chooseFolder(QCoreApplication::applicationDirPath(), perUserFolder());
     Application application({
         .appFolder = chosen.appFolder,
         .arguments = QCoreApplication::arguments().mid(1),

@@ -18,23 +18,18 @@ namespace zeph {
 
 namespace {
 
-/// The drawing of a bitmap file with these bytes; null when it does not ship or its drawing is
-/// gone.
-std::shared_ptr<QSvgRenderer> drawingOf(const QString &appFolder, const QString &fileName,
-                                        const QByteArray &bytes)
+/// The drawing of a bitmap file with these bytes, as SVG; empty when it does not ship or its
+/// drawing is gone.
+QByteArray drawingOf(const QString &appFolder, const QString &fileName, const QByteArray &bytes)
 {
     const auto drawing = drawingNamed(fileName);
     if (!drawing
         || QCryptographicHash::hash(bytes, QCryptographicHash::Sha256).toHex() != drawing->digest) {
-        return nullptr;
+        return {};
     }
     const QString path =
         existingPath(QDir(appFolder).filePath(drawing->name.toString() + u".svg"_s));
-    if (path.isEmpty()) {
-        return nullptr;
-    }
-    auto renderer = std::make_shared<QSvgRenderer>(path);
-    return renderer->isValid() ? renderer : nullptr;
+    return path.isEmpty() ? QByteArray() : readWholeFile(path).value_or(QByteArray());
 }
 
 } // namespace
@@ -49,10 +44,13 @@ Expected<DrawnPicture, FileError> DrawnPicture::load(const QString &appFolder,
         return Unexpected<FileError>(bytes.error());
     }
     DrawnPicture picture;
-    picture.m_drawing = drawingOf(appFolder, fileName, *bytes);
-    if (picture.m_drawing) {
-        picture.m_size = drawingNamed(fileName)->size;
-        return picture;
+    if (const QByteArray svg = drawingOf(appFolder, fileName, *bytes); !svg.isEmpty()) {
+        if (auto drawing = std::make_shared<QSvgRenderer>(svg); drawing->isValid()) {
+            picture.m_svg = svg;
+            picture.m_drawing = std::move(drawing);
+            picture.m_size = drawingNamed(fileName)->size;
+            return picture;
+        }
     }
     QBuffer buffer(&*bytes);
     QImageReader reader(&buffer);

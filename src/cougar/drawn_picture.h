@@ -32,6 +32,10 @@ public:
     bool isDrawing() const { return m_drawing != nullptr; }
     /// The size in the picture file's own pixels, in which places on it are given.
     QSize size() const { return m_size; }
+    /// The drawing as SVG; empty for a picture of pixels.
+    const QByteArray &svg() const { return m_svg; }
+    /// The picture's pixels; null for a drawing.
+    const QImage &image() const { return m_image; }
 
     /// Fills the target, whose shape the caller has to keep. Drawings stand on white, on dark
     /// desktops too: their thin dark lines are made for it. Vectors stay vectors on a printer.
@@ -42,6 +46,7 @@ public:
 private:
     QSize m_size;
     QImage m_image; ///< null when there is a drawing
+    QByteArray m_svg;
     std::shared_ptr<QSvgRenderer> m_drawing;
 };
 
