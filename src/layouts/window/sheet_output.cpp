@@ -88,6 +88,11 @@ void SheetOutput::connectEntries()
     }
 }
 
+QString SheetOutput::title() const
+{
+    return sheetKind(m_desk.kind).caption.toString() + u" layout"_s;
+}
+
 void SheetOutput::showOrientation()
 {
     m_desk.actions.tickOnly(u"mnuPrinterOrientArray"_s, isPortrait(m_desk.model.sheet()) ? 0 : 1);
@@ -158,7 +163,7 @@ void SheetOutput::mnuPrint_Click()
     }
     m_desk.say(u"Communicating with the printer ....."_s);
     QPrinter &printer = m_ways.printers.printer();
-    printer.setDocName(m_desk.window.windowTitle());
+    printer.setDocName(title());
     if (const auto printed = printSheet(printer, printedSheet(), printedLook()); !printed) {
         m_desk.context.dialogs.tell(u"Not printed"_s,
                                     u"I couldn't print the layout: "_s + printed.error(),
@@ -219,12 +224,12 @@ void SheetOutput::exportAs(const QString &ending, int scale)
           .filter = u"%1 files (*.%2)|*.%2"_s.arg(ending.toUpper(), ending),
           .defaultExtension = ending,
           .folder = m_desk.context.paths.layoutsFolder(),
-          .name = sheetKind(m_desk.kind).caption.toString() + u" layout."_s + ending });
+          .name = title() + u'.' + ending });
     if (!path || !mayOverwrite(m_desk.context.dialogs, *path)) {
         return;
     }
     const auto bytes = exportSheet(ending, m_desk.view.canvas().shown(),
-                                   m_desk.view.canvas().look(), m_desk.window.windowTitle(), scale);
+                                   m_desk.view.canvas().look(), title(), scale);
     if (!bytes) {
         tellNotSaved(m_desk.context.dialogs, FileError{ *path, bytes.error() });
         return;

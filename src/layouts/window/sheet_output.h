@@ -45,6 +45,8 @@ public:
 
 private:
     void connectEntries();
+    /// Of print jobs and exported files.
+    QString title() const;
     bool mayPrintOver(const QSize &paper);
     SheetLook printedLook() const;
 
