@@ -287,8 +287,8 @@ void Application::addToolWindows()
     auto *wizards = new WizardTools(context(), windows, *m_editor, *composer);
     QObject::connect(wizards, &WizardTools::helpWanted, m_help,
                      guarded(m_options.dialogs, [this](int topic) { m_help->showTopic(topic); }));
-    auto *layouts = new LayoutTools(context(), windows, *m_editor,
-                                    { m_options.printers, m_options.screen });
+    auto *layouts =
+        new LayoutTools(context(), windows, *m_editor, { m_options.printers, m_options.screen });
     QObject::connect(layouts, &LayoutTools::helpWanted, m_help,
                      guarded(m_options.dialogs, [this](int topic) { m_help->showTopic(topic); }));
     windows.whenLoaded<TemplateForm>(m_mum.get(), [composer](TemplateForm &form) {
