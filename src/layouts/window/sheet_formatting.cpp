@@ -58,6 +58,9 @@ void SheetFormatting::connectEntries()
     on.connectTo(u"mnuFormatColour", [this] { mnuFormatColour_Click(); });
     on.connectTo(u"mnuFormatter", [this] { showFormatter(); });
     on.connectTo(u"mnuEditStyles", [this] { editStyles(); });
+    on.connectTo(u"mnuUsualFont", [this] { chooseUsualFont(); });
+    connectTick(u"mnuColourOnOpening", &LayoutsSettings::LayoutApplyColour);
+    connectTick(u"mnuStylesOnOpening", &LayoutsSettings::HighlightingMethod);
     on.connectArray(u"mnuStyleArray"_s, [this](int i) { mnuStyleArray_Click(i); });
     connect(on.menu(u"mnuStyles"), &QMenu::aboutToShow, this,
             &SheetFormatting::UpdateStyleCaptions);
@@ -158,6 +161,33 @@ void SheetFormatting::mnuFormatColour_Click()
     if (const auto colour = m_desk.context.dialogs.chooseColour(look().colour.value_or(0))) {
         ColourTextFormatter(*colour);
     }
+}
+
+void SheetFormatting::connectTick(QStringView entry, bool LayoutsSettings::*setting)
+{
+    if (!m_desk.actions.has(entry)) {
+        return;
+    }
+    QAction *tick = m_desk.actions.action(entry);
+    tick->setChecked(m_desk.settings().*setting);
+    m_desk.actions.connectTo(entry, [this, tick, setting] {
+        m_desk.settings().*setting = tick->isChecked();
+        m_desk.keep({ setting });
+    });
+}
+
+void SheetFormatting::chooseUsualFont()
+{
+    const auto chosen = m_desk.context.dialogs.chooseFont(m_desk.plain());
+    if (!chosen) {
+        return;
+    }
+    LayoutsSettings &settings = m_desk.settings();
+    settings.LOTextFont = chosen->family;
+    settings.LOTextFontSize = chosen->pointSize;
+    settings.LOTextFontBold = chosen->bold;
+    m_desk.keep({ &LayoutsSettings::LOTextFont, &LayoutsSettings::LOTextFontSize,
+                  &LayoutsSettings::LOTextFontBold });
 }
 
 void SheetFormatting::editStyles()

@@ -41,6 +41,9 @@ private:
     void toggle(bool CharFormat::*flag);
     void mnuFormatFont_Click();
     void mnuFormatColour_Click();
+    void chooseUsualFont();
+    /// Shows a setting as the entry's tick and keeps it in Layouts.ini when the user changes it.
+    void connectTick(QStringView entry, bool LayoutsSettings::*setting);
     void updateConditions();
     /// The look at the caret, or of the selection's first character.
     CharFormat look() const;

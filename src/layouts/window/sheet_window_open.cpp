@@ -5,6 +5,7 @@
 
 #include "layouts/analysis/box_texts.h"
 #include "layouts/arrange/arrange.h"
+#include "layouts/files/layout_store.h"
 #include "layouts/window/sheet_actions.h"
 #include "layouts/window/sheet_desk.h"
 #include "layouts/window/sheet_view.h"
@@ -31,13 +32,6 @@ constexpr int firstCustomBoxes = 10;
 constexpr int customColumns = 5;
 constexpr int customMargin = 20;
 constexpr int customGap = 10;
-
-/// Files from other programs name pictures of the program's folder with a backslash before them.
-QString pictureName(QString path)
-{
-    path = nativeSeparators(path);
-    return fileExists(path) ? path : path.mid(path.startsWith(u'/') || path.startsWith(u'\\'));
-}
 
 } // namespace
 
@@ -143,12 +137,15 @@ void SheetWindow::loadPictures()
     const auto &settings = m_context.settings.of<LayoutsSettings>();
     SheetLook look = lookOf(m_image, plainOf(settings));
     if (m_kind == SheetKind::Custom) {
+        // By its bare name a picture of the program's own is found as a drawing.
+        const QString &folder = m_context.paths.appFolder;
         look.pictures.clear();
         for (const SheetPicture &picture : m_model.sheet().pictures) {
             look.pictures.push_back(
                 picture.path.isEmpty()
                     ? DrawnPicture()
-                    : DrawnPicture::load(m_context.paths.appFolder, pictureName(picture.path))
+                    : DrawnPicture::load(folder,
+                                         picturePathOf(pictureFile(picture.path, folder), folder))
                           .value_or(DrawnPicture()));
         }
     } else {
@@ -164,8 +161,12 @@ void SheetWindow::showOpened(const std::optional<OpenedLayout> &opened)
     if (!opened) {
         return;
     }
+    const bool isAsOpened = m_model.sheet() == m_asOpened;
     m_model.change(opened->sheet);
-    m_asOpened = opened->sheet;
+    // Positions leave the texts, which may not be saved yet.
+    if (isAsOpened || opened->form == LayoutForm::WithText) {
+        m_asOpened = opened->sheet;
+    }
     if (opened->form == LayoutForm::WithText) {
         m_texts->followLayout(QFileInfo(m_files->path()).lastModified());
     }
@@ -190,7 +191,7 @@ void SheetWindow::chooseOwnPicture()
         return;
     }
     Sheet sheet = m_model.sheet();
-    sheet.pictures[ownPicture].path = *path;
+    sheet.pictures[ownPicture].path = picturePathOf(*path, m_context.paths.appFolder);
     sheet.pictures[ownPicture].Visible = true;
     m_model.change(std::move(sheet));
     loadPictures();

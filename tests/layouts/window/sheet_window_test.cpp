@@ -375,6 +375,50 @@ TEST_F(SheetTest, TheAutomaticLayoutOpensWithTheWindow)
     EXPECT_TRUE(action(u"mnuAutoLayout")->isChecked());
 }
 
+TEST_F(SheetTest, PositionsOpenedOverANoteLeaveItToBeAskedAbout)
+{
+    open<GraphicsPrint>();
+    const QString path = layoutFile(SheetKind::Joystick, LayoutForm::Positions, u"Mine"_s);
+    ASSERT_TRUE(saveLayout(model().sheet(), LayoutForm::Positions, path));
+    write(14, u"mine"_s);
+    dialogs.answerFile(path);
+    press(u"mnuOpenPositions");
+    EXPECT_EQ(text(14), u"mine");
+    dialogs.answer(u"Save layout?"_s, BoxButton::Cancel);
+    EXPECT_FALSE(window->mayClose());
+}
+
+TEST_F(SheetTest, APictureOfTheProgramsFolderIsKeptByName)
+{
+    open<CustomLayout>();
+    const QString picture = folder.path() + u"/Mine.png"_s;
+    ASSERT_TRUE(QImage(20, 10, QImage::Format_RGB32).save(picture));
+    dialogs.answerFile(picture);
+    press(u"mnuOwnPicture");
+    EXPECT_EQ(model().sheet().pictures[3].path, u"Mine.png");
+}
+
+TEST_F(SheetTest, TheUsualLookIsChosenFromTheMenuAndKept)
+{
+    open<GraphicsPrint>();
+    EXPECT_TRUE(action(u"mnuColourOnOpening")->isChecked());
+    EXPECT_FALSE(action(u"mnuStylesOnOpening")->isChecked());
+    press(u"mnuColourOnOpening");
+    press(u"mnuStylesOnOpening");
+    dialogs.answerFont(CharFormat{ .family = u"Courier New"_s, .pointSize = 10, .bold = true });
+    press(u"mnuUsualFont");
+    const ProfileFile kept(folder.path() + u"/Layouts.ini"_s);
+    EXPECT_EQ(kept.integer(u"Joystick Layout", u"LayoutApplyColour", 1), 0);
+    EXPECT_EQ(kept.integer(u"Joystick Layout", u"HighlightingMethod", 0), 1);
+    EXPECT_EQ(kept.text(u"Joystick Layout", u"LOTextFont"), u"Courier New");
+    EXPECT_EQ(kept.integer(u"Joystick Layout", u"LOTextFontSize", 0), 10);
+    EXPECT_EQ(kept.integer(u"Joystick Layout", u"LOTextFontBold", 0), 1);
+    window.reset();
+    open<GraphicsPrint>();
+    EXPECT_EQ(box(5).text.formatAt(0).family, u"Courier New");
+    EXPECT_EQ(box(5).text.formatAt(0).pointSize, 10);
+}
+
 TEST_F(SheetTest, ClosingAsksOnlyWhenSomethingWouldBeLost)
 {
     open<GraphicsPrint>();
