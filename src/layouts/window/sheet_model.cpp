@@ -34,6 +34,10 @@ void SheetModel::select(int box)
     if (box != m_selected && box < int(m_sheet.boxes.size())) {
         m_selected = box;
         m_typing = -1;
+        if (box >= 0) {
+            std::erase(m_raised, box);
+            m_raised.push_back(box);
+        }
         Q_EMIT selectedChanged(box);
     }
 }

@@ -22,6 +22,9 @@ public:
     const Sheet &sheet() const { return m_sheet; }
     /// 0-based; -1 without a selection, as before the first press on a box.
     int selected() const { return m_selected; }
+    /// The boxes that were selected before, the one selected last at the end: they are in front of
+    /// all others.
+    const std::vector<int> &raised() const { return m_raised; }
     /// The selected box; null without one.
     const LayoutTextBox *selectedBox() const;
     void select(int box);
@@ -55,6 +58,7 @@ private:
 
     Sheet m_sheet;
     int m_selected = -1;
+    std::vector<int> m_raised;
     std::deque<Sheet> m_undo;
     std::deque<Sheet> m_redo;
     std::optional<Sheet> m_before; ///< the sheet when the preview began
