@@ -71,6 +71,10 @@ std::optional<Sheet> SheetTexts::analysed(Sheet sheet, Boxes boxes)
     const QString text = m_documents.joystick().text();
     const auto file = AnalyseAndExtract(text);
     if (!file) {
+        // Whatever comes into an empty file later makes a sheet old that was opened over it.
+        if (!m_analysedFrom && !m_layoutWritten) {
+            m_analysedFrom = text;
+        }
         return std::nullopt;
     }
     for (const QString &status : extractionStatuses() + analysisStatuses(m_desk.kind)) {

@@ -269,6 +269,20 @@ TEST_F(SheetTest, ANewerJoystickTextMakesTheSheetOld)
     EXPECT_FALSE(staleBar()->isVisible());
 }
 
+TEST_F(SheetTest, ASheetOfAnEmptyFileIsOldWhenTheFileIsFilled)
+{
+    setText({});
+    openShown({ 1100, 900 });
+    wait();
+    EXPECT_FALSE(staleBar()->isVisible());
+    setText(u"BTN S2 Gear_Down\n"_s);
+    wait();
+    EXPECT_TRUE(staleBar()->isVisible());
+    window->findChild<QPushButton *>(u"cmdAnalyseAgain"_s)->click();
+    EXPECT_EQ(text(5), u"BTN S2\n        Gear_Down");
+    EXPECT_FALSE(staleBar()->isVisible());
+}
+
 TEST_F(SheetTest, ATextThatComesBackMakesItNewAgain)
 {
     openShown({ 1100, 900 });
