@@ -157,13 +157,23 @@ void SheetTexts::applyToSelected(bool withUMD)
 void SheetTexts::fitAll()
 {
     Sheet sheet = m_desk.model.sheet();
-    fitAllTexts(sheet, m_desk.plain());
+    const Sheet shown = withKeys(sheet);
+    for (size_t i = 0; i < sheet.boxes.size(); ++i) {
+        LayoutTextBox &box = sheet.boxes[i];
+        if (box.Visible) {
+            box.text = fittedText(box, shown.boxes[i].text, m_desk.plain());
+        }
+    }
     m_desk.model.change(std::move(sheet));
 }
 
 void SheetTexts::fitSelected()
 {
-    m_desk.changeSelected([&](LayoutTextBox &box) { box.text = fittedText(box, m_desk.plain()); });
+    const Sheet shown = withKeys(m_desk.model.sheet());
+    m_desk.changeSelected([&](LayoutTextBox &box) {
+        const RichText &text = shown.boxes[size_t(m_desk.model.selected())].text;
+        box.text = fittedText(box, text, m_desk.plain());
+    });
 }
 
 Sheet SheetTexts::withKeys(Sheet sheet) const

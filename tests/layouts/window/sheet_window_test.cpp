@@ -419,6 +419,29 @@ TEST_F(SheetTest, OverflowIsCountedAndFitTextMendsIt)
     EXPECT_GE(box(14).text.formatAt(0).pointSize, 5);
 }
 
+TEST_F(SheetTest, FitTextFitsTheKeysWhileTheyAreShown)
+{
+    macros = extractMacros({ u"Fire_Gun = a b c d e f g h i j k l m n o p q r s t"_s });
+    for (const QStringView entry : { u"mnuFitText_0", u"mnuFitText_1" }) {
+        openShown({ 1100, 900 });
+        auto *panel = window->findChild<QLabel *>(u"LBL_Overflow"_s);
+        hideAllBut({ 14 });
+        place(14, { 10, 10, 100, 40 });
+        write(14, u"Fire_Gun"_s);
+        EXPECT_FALSE(panel->isVisible());
+        press(u"mnuShowKeysArray_1");
+        EXPECT_TRUE(panel->isVisible());
+        select(14);
+        press(entry);
+        EXPECT_FALSE(panel->isVisible());
+        EXPECT_EQ(text(14), u"Fire_Gun");
+        EXPECT_LT(box(14).text.formatAt(0).pointSize, 8);
+        press(u"mnuShowKeysArray_0");
+        window->actions().action(u"mnuEditUndo")->trigger();
+        EXPECT_EQ(text(14), u"Fire_Gun");
+    }
+}
+
 TEST_F(SheetTest, ShownKeysAreAViewOnly)
 {
     open<GraphicsPrint>();
