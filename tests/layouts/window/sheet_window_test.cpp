@@ -283,6 +283,22 @@ TEST_F(SheetTest, ASheetOfAnEmptyFileIsOldWhenTheFileIsFilled)
     EXPECT_FALSE(staleBar()->isVisible());
 }
 
+TEST_F(SheetTest, AnUndoneAnalysisLeavesTheSheetOldAgain)
+{
+    openShown({ 1100, 900 });
+    setText(u"BTN S2 Gear_Down\n"_s);
+    wait();
+    window->findChild<QPushButton *>(u"cmdAnalyseAgain"_s)->click();
+    EXPECT_FALSE(staleBar()->isVisible());
+    press(u"mnuEditUndo");
+    EXPECT_TRUE(staleBar()->isVisible());
+    press(u"mnuEditRedo");
+    EXPECT_FALSE(staleBar()->isVisible());
+    press(u"mnuEditUndo");
+    write(14, u"my own words"_s);
+    EXPECT_TRUE(staleBar()->isVisible());
+}
+
 TEST_F(SheetTest, ATextThatComesBackMakesItNewAgain)
 {
     openShown({ 1100, 900 });
