@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <optional>
 
 namespace zeph {
 
@@ -40,6 +41,25 @@ bool holds(const LayoutTextBox &box, const RichText &text, const CharFormat &pla
     return BoxText(text, plain, box.Width).fits(box.Height);
 }
 
+/// The largest size at which a box holds a text, or the least one when none is small enough; none
+/// for a text that fits as it is.
+std::optional<double> fittingPoints(const LayoutTextBox &box, const RichText &text,
+                                    const CharFormat &plain)
+{
+    if (text.text.isEmpty() || holds(box, text, plain)) {
+        return std::nullopt;
+    }
+    if (!holds(box, cappedAt(text, leastFitPoints, plain), plain)) {
+        return leastFitPoints;
+    }
+    // From the next half point below the largest character down.
+    double points = std::ceil(largestSize(text, plain) / fitStepPoints - 1) * fitStepPoints;
+    while (points > leastFitPoints && !holds(box, cappedAt(text, points, plain), plain)) {
+        points -= fitStepPoints;
+    }
+    return std::max(points, leastFitPoints);
+}
+
 } // namespace
 
 std::vector<int> overflowingBoxes(const Sheet &sheet, const CharFormat &plain)
@@ -56,22 +76,13 @@ std::vector<int> overflowingBoxes(const Sheet &sheet, const CharFormat &plain)
 
 RichText fittedText(const LayoutTextBox &box, const CharFormat &plain)
 {
-    if (box.text.text.isEmpty() || holds(box, box.text, plain)) {
-        return box.text;
-    }
-    RichText least = cappedAt(box.text, leastFitPoints, plain);
-    if (!holds(box, least, plain)) {
-        return least;
-    }
-    // From the next half point below the largest character down.
-    double points = std::ceil(largestSize(box.text, plain) / fitStepPoints - 1) * fitStepPoints;
-    for (; points > leastFitPoints; points -= fitStepPoints) {
-        RichText smaller = cappedAt(box.text, points, plain);
-        if (holds(box, smaller, plain)) {
-            return smaller;
-        }
-    }
-    return least;
+    return fittedText(box, box.text, plain);
+}
+
+RichText fittedText(const LayoutTextBox &box, const RichText &shown, const CharFormat &plain)
+{
+    const auto points = fittingPoints(box, shown, plain);
+    return points ? cappedAt(box.text, *points, plain) : box.text;
 }
 
 void fitAllTexts(Sheet &sheet, const CharFormat &plain)

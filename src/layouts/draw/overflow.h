@@ -21,7 +21,11 @@ std::vector<int> overflowingBoxes(const Sheet &sheet, const CharFormat &plain);
 /// stays, and so do characters that are smaller than 5 points.
 RichText fittedText(const LayoutTextBox &box, const CharFormat &plain);
 
-/// The same for all boxes that are shown.
+/// The same for a box that shows another text in place of its own (with the keys of macros, say):
+/// its own text, in the size at which the box holds the one that it shows.
+RichText fittedText(const LayoutTextBox &box, const RichText &shown, const CharFormat &plain);
+
+/// fittedText() for all boxes that are shown, with their own texts.
 void fitAllTexts(Sheet &sheet, const CharFormat &plain);
 
 } // namespace zeph

@@ -112,7 +112,7 @@ QByteArray htmlOf(const Sheet &sheet, const SheetLook &look, const QString &titl
     writeSvgGround(xml, sheet, look);
     xml.writeEndElement();
     SheetRenderer renderer;
-    for (size_t i = 0; i < sheet.boxes.size(); ++i) {
+    for (const size_t i : paintingOrder(sheet, look.raised)) {
         if (sheet.boxes[i].Visible) {
             const BoxText &text = renderer.text(sheet, look, i);
             const bool isMarked = look.overflowMarks && !text.fits(sheet.boxes[i].Height);

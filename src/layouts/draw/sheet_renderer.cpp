@@ -62,6 +62,22 @@ void drawFrame(QPainter &painter, const QRectF &box, bool isWhite)
 
 } // namespace
 
+std::vector<size_t> paintingOrder(const Sheet &sheet, const std::vector<int> &raised)
+{
+    std::vector<size_t> order;
+    for (size_t i = 0; i < sheet.boxes.size(); ++i) {
+        if (std::ranges::find(raised, int(i)) == raised.end()) {
+            order.push_back(i);
+        }
+    }
+    for (const int box : raised) {
+        if (box >= 0 && box < int(sheet.boxes.size())) {
+            order.push_back(size_t(box));
+        }
+    }
+    return order;
+}
+
 std::array<QPointF, 3> overflowMark(const QRectF &box)
 {
     const QPointF corner = box.bottomRight() - QPointF(frameWidth, frameWidth);
@@ -83,7 +99,7 @@ void SheetRenderer::draw(QPainter &painter, const Sheet &sheet, const SheetLook 
     if (look.leaderLines) {
         drawLeaderLines(painter, leaderLines(sheet, look.controls));
     }
-    for (size_t i = 0; i < sheet.boxes.size(); ++i) {
+    for (const size_t i : paintingOrder(sheet, look.raised)) {
         if (sheet.boxes[i].Visible) {
             drawBox(painter, sheet, look, i, int(i) != withoutText);
         }

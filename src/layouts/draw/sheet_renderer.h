@@ -23,6 +23,7 @@ struct SheetLook {
     bool leaderLines = true;
     bool overflowMarks = true; ///< on boxes that do not hold their text
     bool whiteBoxes = true; ///< else what is under a box is seen through it
+    std::vector<int> raised = {}; ///< boxes (0-based) in front of all others, the front one last
 };
 
 // The sheet's strokes, in its pixels, which all exports share.
@@ -35,6 +36,9 @@ constexpr double overflowMarkSize = 10;
 constexpr ColorRef frameColour = 0x8A807A;
 constexpr ColorRef ruleColour = 0x453A33;
 constexpr ColorRef overflowColour = 0x1C2AB4;
+
+/// The boxes (0-based) from the back to the front: by their numbers, then those that were raised.
+std::vector<size_t> paintingOrder(const Sheet &sheet, const std::vector<int> &raised);
 
 /// The corners of the mark on a box that does not hold its text.
 std::array<QPointF, 3> overflowMark(const QRectF &box);

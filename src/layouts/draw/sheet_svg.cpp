@@ -96,7 +96,7 @@ QByteArray svgOf(const Sheet &sheet, const SheetLook &look, const QString &title
     writeSvgGround(xml, sheet, look);
     xml.writeTextElement(u"title"_s, xmlText(title));
     SheetRenderer renderer;
-    for (size_t i = 0; i < sheet.boxes.size(); ++i) {
+    for (const size_t i : paintingOrder(sheet, look.raised)) {
         if (sheet.boxes[i].Visible) {
             xml.writeCharacters(u"\n"_s);
             xml.writeStartElement(u"g"_s);

@@ -7,6 +7,7 @@
 #include "ui_customtweaker.h"
 
 #include <array>
+#include <cmath>
 #include <utility>
 
 namespace zeph {
@@ -41,7 +42,7 @@ void CustomTweaker::store(LayoutsSettings &settings) const
         bool isNumber = false;
         const double typed =
             findChild<QLineEdit *>(name.toString())->text().trimmed().toDouble(&isNumber);
-        if (isNumber) {
+        if (isNumber && std::isfinite(typed)) {
             settings.*member = typed;
         }
     }

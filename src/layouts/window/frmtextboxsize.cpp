@@ -93,7 +93,7 @@ void FrmTextBoxSize::apply()
         auto *edit = findChild<QLineEdit *>(u"Text"_s + field.name.toString());
         bool isNumber = false;
         const double typed = edit->text().trimmed().toDouble(&isNumber);
-        if (isNumber) {
+        if (isNumber && std::isfinite(typed)) {
             box.*field.member =
                 float(std::floor(std::clamp(typed, double(field.least), double(farthest))));
         }

@@ -19,9 +19,10 @@ float onGrid(float place, int cell)
 
 int gridCellSize(QStringView typed)
 {
-    // Beyond the limits it does not matter by how much.
-    const double size = std::clamp(typed.trimmed().toDouble(), -1.0, mostGridCell + 1.0);
-    return std::clamp(int(size), leastGridCell, mostGridCell);
+    const double size = typed.trimmed().toDouble();
+    // A text can also say that it is not a number.
+    return std::isnan(size) ? leastGridCell
+                            : int(std::clamp(size, double(leastGridCell), double(mostGridCell)));
 }
 
 void snapToGrid(LayoutTextBox &box, int cell)

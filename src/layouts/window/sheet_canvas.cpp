@@ -55,6 +55,7 @@ SheetCanvas::SheetCanvas(SheetModel &model, QWidget *parent)
         }
     });
     connect(&m_model, &SheetModel::selectedChanged, this, [this] {
+        m_look.raised = m_model.raised();
         showEditor();
         update();
     });
@@ -98,6 +99,7 @@ void SheetCanvas::showSheet(const Sheet &shown)
 void SheetCanvas::setLook(const SheetLook &look)
 {
     m_look = look;
+    m_look.raised = m_model.raised();
     const bool wasSetting = std::exchange(m_isSetting, true);
     m_editor->setPlain(look.plain);
     m_isSetting = wasSetting;
@@ -161,7 +163,7 @@ SheetMouseEvent SheetCanvas::eventOf(const QMouseEvent &event, SheetButton butto
     const bool isHeld = button != SheetButton::None && event.type() != QEvent::MouseButtonPress;
     return { .at = at,
              .button = button,
-             .box = isHeld ? m_pressedOn : boxAt(m_model.sheet(), m_model.selected(), at),
+             .box = isHeld ? m_pressedOn : boxAt(m_model.sheet(), m_model.raised(), at),
              .picture = movablePictureAt(at) };
 }
 

@@ -29,6 +29,7 @@ public:
     /// Shows a sheet, usually the model's own; its texts may be others than the model's.
     void showSheet(const Sheet &shown);
     const Sheet &shown() const { return m_shown; }
+    /// The boxes that are in front stay there.
     void setLook(const SheetLook &look);
     const SheetLook &look() const { return m_look; }
     /// Draws a grid of that cell size under the boxes; 0 for none.

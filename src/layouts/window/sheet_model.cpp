@@ -34,6 +34,10 @@ void SheetModel::select(int box)
     if (box != m_selected && box < int(m_sheet.boxes.size())) {
         m_selected = box;
         m_typing = -1;
+        if (box >= 0) {
+            std::erase(m_raised, box);
+            m_raised.push_back(box);
+        }
         Q_EMIT selectedChanged(box);
     }
 }
@@ -56,7 +60,7 @@ void SheetModel::replace(Sheet sheet)
 
 void SheetModel::keep(Sheet before)
 {
-    m_undo.push_back(std::move(before));
+    m_undo.push_back({ std::move(before), m_origin });
     if (m_undo.size() > mostSteps) {
         m_undo.pop_front();
     }
@@ -129,15 +133,16 @@ void SheetModel::redo()
     step(m_redo, m_undo);
 }
 
-void SheetModel::step(std::deque<Sheet> &from, std::deque<Sheet> &to)
+void SheetModel::step(std::deque<Step> &from, std::deque<Step> &to)
 {
     if (from.empty()) {
         return;
     }
-    to.push_back(m_sheet);
-    Sheet sheet = std::move(from.back());
+    to.push_back({ m_sheet, m_origin });
+    Step back = std::move(from.back());
     from.pop_back();
-    show(std::move(sheet));
+    m_origin = back.origin;
+    show(std::move(back.sheet));
 }
 
 } // namespace zeph

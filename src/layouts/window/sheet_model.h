@@ -22,6 +22,13 @@ public:
     const Sheet &sheet() const { return m_sheet; }
     /// 0-based; -1 without a selection, as before the first press on a box.
     int selected() const { return m_selected; }
+    /// The boxes that were selected before, the one selected last at the end: they are in front of
+    /// all others.
+    const std::vector<int> &raised() const { return m_raised; }
+    /// A number that says where the texts come from, as its user has it. It holds for what is
+    /// changed from now on as well; an undo brings the number back that was set before.
+    int origin() const { return m_origin; }
+    void setOrigin(int origin) { m_origin = origin; }
     /// The selected box; null without one.
     const LayoutTextBox *selectedBox() const;
     void select(int box);
@@ -49,14 +56,21 @@ Q_SIGNALS:
     void stepsChanged();
 
 private:
-    void step(std::deque<Sheet> &from, std::deque<Sheet> &to);
+    struct Step {
+        Sheet sheet;
+        int origin;
+    };
+
+    void step(std::deque<Step> &from, std::deque<Step> &to);
     void keep(Sheet before);
     void show(Sheet sheet);
 
     Sheet m_sheet;
     int m_selected = -1;
-    std::deque<Sheet> m_undo;
-    std::deque<Sheet> m_redo;
+    std::vector<int> m_raised;
+    int m_origin = 0;
+    std::deque<Step> m_undo;
+    std::deque<Step> m_redo;
     std::optional<Sheet> m_before; ///< the sheet when the preview began
     int m_typing = -1; ///< the box whose last step goes on with the next character
 };

@@ -3,6 +3,8 @@
 
 #include "layouts/window/sheet_mouse.h"
 
+#include "layouts/draw/sheet_renderer.h"
+
 #include <algorithm>
 #include <cmath>
 
@@ -49,23 +51,15 @@ QRectF placeOfBox(const LayoutTextBox &box)
 
 } // namespace
 
-int boxAt(const Sheet &sheet, int selected, const QPointF &at)
+int boxAt(const Sheet &sheet, const std::vector<int> &raised, const QPointF &at)
 {
-    const auto covers = [&](int i) {
-        const LayoutTextBox &box = sheet.boxes[size_t(i)];
+    const std::vector<size_t> order = paintingOrder(sheet, raised);
+    const auto found = std::find_if(order.rbegin(), order.rend(), [&](size_t i) {
+        const LayoutTextBox &box = sheet.boxes[i];
         return box.Visible && at.x() >= box.Left && at.y() >= box.Top
             && at.x() < box.Left + box.Width && at.y() < box.Top + box.Height;
-    };
-    const int count = int(sheet.boxes.size());
-    if (selected >= 0 && selected < count && covers(selected)) {
-        return selected;
-    }
-    for (int i = count - 1; i >= 0; --i) {
-        if (covers(i)) {
-            return i;
-        }
-    }
-    return -1;
+    });
+    return found == order.rend() ? -1 : int(*found);
 }
 
 /// Whether the mouse is at an edge of a box. On the sheet, the pointer of the box that the mouse

@@ -69,8 +69,8 @@ private:
     QPointF m_grip; ///< where the picture is held, from its corner
 };
 
-/// The box under a place of the sheet: the selected one before the others, of which later ones lie
-/// above earlier ones; -1 for none.
-int boxAt(const Sheet &sheet, int selected, const QPointF &at);
+/// The box under a place of the sheet, the front one of several; -1 for none. Raised boxes are in
+/// front of all others, the last one of them before the rest.
+int boxAt(const Sheet &sheet, const std::vector<int> &raised, const QPointF &at);
 
 } // namespace zeph

@@ -44,6 +44,11 @@ SheetTexts::SheetTexts(const SheetDesk &desk, Documents &documents, const MacroT
     connect(&documents.joystick(), &Document::edited, this, soon);
     connect(&documents.joystick(), &Document::replaced, this, soon);
     connect(&documents.joystick(), &Document::written, this, soon);
+    connect(&desk.model, &SheetModel::stepsChanged, this, [this] {
+        if (m_desk.model.origin() != m_judged) {
+            judge();
+        }
+    });
 }
 
 /// By-products of an analysis, which other programs may look at. They are not worth waiting for the
@@ -83,9 +88,6 @@ std::optional<Sheet> SheetTexts::analysed(Sheet sheet, Boxes boxes)
     for (qsizetype i = 0; i < count; ++i) {
         sheet.boxes[size_t(i)].text = RichText::plain(texts[i], m_desk.plain());
     }
-    m_analysedFrom = text;
-    m_layoutWritten.reset();
-    judge();
     return sheet;
 }
 
@@ -93,6 +95,7 @@ void SheetTexts::AnalyseJoystickFile(Boxes boxes)
 {
     if (auto sheet = analysed(m_desk.model.sheet(), boxes)) {
         m_desk.model.change(coloured(std::move(*sheet), false));
+        followJoystickFile();
     }
 }
 
@@ -153,13 +156,23 @@ void SheetTexts::applyToSelected(bool withUMD)
 void SheetTexts::fitAll()
 {
     Sheet sheet = m_desk.model.sheet();
-    fitAllTexts(sheet, m_desk.plain());
+    const Sheet shown = withKeys(sheet);
+    for (size_t i = 0; i < sheet.boxes.size(); ++i) {
+        LayoutTextBox &box = sheet.boxes[i];
+        if (box.Visible) {
+            box.text = fittedText(box, shown.boxes[i].text, m_desk.plain());
+        }
+    }
     m_desk.model.change(std::move(sheet));
 }
 
 void SheetTexts::fitSelected()
 {
-    m_desk.changeSelected([&](LayoutTextBox &box) { box.text = fittedText(box, m_desk.plain()); });
+    const Sheet shown = withKeys(m_desk.model.sheet());
+    m_desk.changeSelected([&](LayoutTextBox &box) {
+        const RichText &text = shown.boxes[size_t(m_desk.model.selected())].text;
+        box.text = fittedText(box, text, m_desk.plain());
+    });
 }
 
 Sheet SheetTexts::withKeys(Sheet sheet) const
@@ -176,21 +189,33 @@ Sheet SheetTexts::withKeys(Sheet sheet) const
 
 void SheetTexts::followLayout(const QDateTime &written)
 {
-    m_analysedFrom.reset();
-    m_layoutWritten = written;
+    follow({ .layoutWritten = written });
+}
+
+void SheetTexts::followJoystickFile()
+{
+    follow({ .analysed = m_documents.joystick().text() });
+}
+
+void SheetTexts::follow(Origin origin)
+{
+    m_origins.push_back(std::move(origin));
+    m_desk.model.setOrigin(int(m_origins.size()) - 1);
     judge();
 }
 
 void SheetTexts::judge()
 {
+    m_judged = m_desk.model.origin();
+    const Origin &origin = m_origins.at(size_t(m_judged));
     bool isStale = false;
     if (m_desk.kind == SheetKind::Custom) {
         // Its texts come from nowhere.
-    } else if (m_analysedFrom) {
-        isStale = m_documents.joystick().text() != *m_analysedFrom;
-    } else if (m_layoutWritten) {
+    } else if (origin.analysed) {
+        isStale = m_documents.joystick().text() != *origin.analysed;
+    } else if (origin.layoutWritten) {
         const QFileInfo file(m_documents.joystick().path());
-        isStale = file.isFile() && file.lastModified() > *m_layoutWritten;
+        isStale = file.isFile() && file.lastModified() > *origin.layoutWritten;
     }
     if (isStale != m_isStale) {
         m_isStale = isStale;

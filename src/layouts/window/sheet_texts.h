@@ -47,7 +47,9 @@ public:
     /// The sheet with the macros' keys where the user wants them.
     Sheet withKeys(Sheet sheet) const;
 
-    /// Says of which moment the sheet's texts are: a layout with texts from the disk.
+    /// Says where the texts come from that the sheet has now: the joystick file as it is, or a
+    /// layout with texts from the disk. An undo brings the earlier texts back, and with them this.
+    void followJoystickFile();
     void followLayout(const QDateTime &written);
 
 Q_SIGNALS:
@@ -57,14 +59,19 @@ Q_SIGNALS:
 private:
     RichText colouredBox(const RichText &text, bool withUMD) const;
     void writeTemporaries(const struct AnalysedFile &file, const QString &text) const;
+    struct Origin {
+        std::optional<QString> analysed = {}; ///< the joystick text
+        std::optional<QDateTime> layoutWritten = {};
+    };
+    void follow(Origin origin);
     void judge();
 
     SheetDesk m_desk;
     Documents &m_documents;
     const MacroTable &m_macros;
     QTimer *m_timer;
-    std::optional<QString> m_analysedFrom; ///< the joystick text that the boxes show
-    std::optional<QDateTime> m_layoutWritten;
+    std::vector<Origin> m_origins = { {} }; ///< the model has an index into it
+    int m_judged = 0; ///< the origin that was judged last
     bool m_isStale = false;
 };
 

@@ -77,6 +77,7 @@ Sheet SheetWindow::freshSheet()
         sheet.boxes[i].text = RichText::plain(cleared[qsizetype(i)], plain);
     }
     sheet = m_texts->analysed(sheet).value_or(sheet);
+    m_texts->followJoystickFile();
     if (settings.LayoutApplyColour) {
         m_context.status.setText(sheetKind(m_kind).coloursStatus.toString());
         sheet = m_texts->coloured(std::move(sheet), settings.HighlightingMethod);

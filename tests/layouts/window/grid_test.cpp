@@ -59,4 +59,6 @@ TEST(Grid, TypedCellSizesAreTruncatedAndHeldToTheLimits)
     EXPECT_EQ(gridCellSize(u""), 2);
     EXPECT_EQ(gridCellSize(u"wide"), 2);
     EXPECT_EQ(gridCellSize(u"nan"), 2);
+    EXPECT_EQ(gridCellSize(u"inf"), 100);
+    EXPECT_EQ(gridCellSize(u"-inf"), 2);
 }

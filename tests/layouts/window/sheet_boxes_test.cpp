@@ -167,6 +167,12 @@ TEST_F(SheetBoxesTest, ExactSizesAreShownAndApplied)
     form->findChild<QPushButton *>(u"cmdApply"_s)->click();
     EXPECT_EQ(placeOf(5), QRectF(204, 208, 101, 20));
     EXPECT_EQ(field(u"TextTop"_s), u"208");
+    for (const QString &typed : { u"nan"_s, u"inf"_s }) {
+        form->findChild<QLineEdit *>(u"TextLeft"_s)->setText(typed);
+        form->findChild<QPushButton *>(u"cmdApply"_s)->click();
+        EXPECT_EQ(placeOf(5), QRectF(204, 208, 101, 20));
+        EXPECT_EQ(field(u"TextLeft"_s), u"204");
+    }
     QTest::keyClick(form, Qt::Key_Escape);
     EXPECT_FALSE(form->isVisible());
 }

@@ -216,13 +216,15 @@ TEST_F(SheetMouseTest, BesideThePicturesOfTheCustomSheetTheBoxMoves)
     EXPECT_EQ(press(Right, { 600, 300 }).place, QRectF(600, 300, 100, 50));
 }
 
-TEST_F(SheetMouseTest, TheBoxUnderAPlaceIsTheSelectedOneThenTheTopmost)
+TEST_F(SheetMouseTest, TheBoxUnderAPlaceIsTheOneRaisedLastThenTheTopmost)
 {
     sheet.boxes[1].Left = 250;
-    EXPECT_EQ(boxAt(sheet, 0, { 260, 120 }), 0);
-    EXPECT_EQ(boxAt(sheet, -1, { 260, 120 }), 1);
-    EXPECT_EQ(boxAt(sheet, 1, { 210, 120 }), 0);
-    EXPECT_EQ(boxAt(sheet, 0, { 300, 99.9 }), -1);
+    EXPECT_EQ(boxAt(sheet, { 0 }, { 260, 120 }), 0);
+    EXPECT_EQ(boxAt(sheet, {}, { 260, 120 }), 1);
+    EXPECT_EQ(boxAt(sheet, { 1, 0 }, { 260, 120 }), 0);
+    EXPECT_EQ(boxAt(sheet, { 0, 1 }, { 260, 120 }), 1);
+    EXPECT_EQ(boxAt(sheet, { 1 }, { 210, 120 }), 0);
+    EXPECT_EQ(boxAt(sheet, { 0 }, { 300, 99.9 }), -1);
     sheet.boxes[1].Visible = false;
-    EXPECT_EQ(boxAt(sheet, -1, { 260, 120 }), 0);
+    EXPECT_EQ(boxAt(sheet, {}, { 260, 120 }), 0);
 }

@@ -128,9 +128,13 @@ TEST_F(SheetOutputTest, TheTweaksAreReadFromTheFields)
     EXPECT_EQ(tweaker.findChild<QLineEdit *>(u"TBAdjustWidth"_s)->text(), u"7");
     tweaker.findChild<QLineEdit *>(u"TxtTopAdjust"_s)->setText(u"-2.5"_s);
     tweaker.findChild<QLineEdit *>(u"TBAdjustWidth"_s)->setText(u"wide"_s);
+    tweaker.findChild<QLineEdit *>(u"TBAdjustHeight"_s)->setText(u"nan"_s);
+    tweaker.findChild<QLineEdit *>(u"TxtLeftAdjust"_s)->setText(u"inf"_s);
     tweaker.store(values);
     EXPECT_EQ(values.TxtTopAdjust, -2.5);
     EXPECT_EQ(values.TBAdjustWidth, 7);
+    EXPECT_EQ(values.TBAdjustHeight, 0);
+    EXPECT_EQ(values.TxtLeftAdjust, 0);
 }
 
 TEST_F(SheetOutputTest, TheLayoutsSizeIsToldWithThePapers)

@@ -80,6 +80,34 @@ TEST_F(SheetMouseWindowTest, AnyButtonSelectsABoxAndBringsItsControlUp)
     EXPECT_EQ(placeOf(4), QRectF(300, 200, 100, 50));
 }
 
+TEST_F(SheetMouseWindowTest, APressedBoxComesToTheFrontAndStaysBeforeThoseNotPressedSince)
+{
+    hideAllBut({ 3, 4, 5 });
+    place(3, { 350, 210, 100, 50 });
+    place(4, { 300, 200, 100, 50 });
+    place(5, { 320, 190, 100, 50 });
+    for (const int i : { 3, 4, 5 }) {
+        write(i, {});
+    }
+    // Only the frame of the box in front crosses these places.
+    const QPoint edgeOf3(360, 210);
+    const QPoint edgeOf4(340, 200);
+    const auto isDark = [this](const QPoint &at) {
+        const QImage image = canvas().grab().toImage();
+        return qGray(image.pixel((QPointF(at) * image.devicePixelRatio()).toPoint())) < 200;
+    };
+    EXPECT_FALSE(isDark(edgeOf4));
+    click({ 305, 230 });
+    EXPECT_TRUE(isDark(edgeOf4));
+    EXPECT_FALSE(isDark(edgeOf3));
+    click({ 440, 250 });
+    EXPECT_EQ(model().selected(), 3);
+    EXPECT_TRUE(isDark(edgeOf3));
+    EXPECT_TRUE(isDark(edgeOf4));
+    click({ 340, 220 });
+    EXPECT_EQ(model().selected(), 4);
+}
+
 TEST_F(SheetMouseWindowTest, TheSizingArrowsShowInTheLastSixPixels)
 {
     moveTo({ 393, 225 });

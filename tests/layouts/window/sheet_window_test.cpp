@@ -269,6 +269,36 @@ TEST_F(SheetTest, ANewerJoystickTextMakesTheSheetOld)
     EXPECT_FALSE(staleBar()->isVisible());
 }
 
+TEST_F(SheetTest, ASheetOfAnEmptyFileIsOldWhenTheFileIsFilled)
+{
+    setText({});
+    openShown({ 1100, 900 });
+    wait();
+    EXPECT_FALSE(staleBar()->isVisible());
+    setText(u"BTN S2 Gear_Down\n"_s);
+    wait();
+    EXPECT_TRUE(staleBar()->isVisible());
+    window->findChild<QPushButton *>(u"cmdAnalyseAgain"_s)->click();
+    EXPECT_EQ(text(5), u"BTN S2\n        Gear_Down");
+    EXPECT_FALSE(staleBar()->isVisible());
+}
+
+TEST_F(SheetTest, AnUndoneAnalysisLeavesTheSheetOldAgain)
+{
+    openShown({ 1100, 900 });
+    setText(u"BTN S2 Gear_Down\n"_s);
+    wait();
+    window->findChild<QPushButton *>(u"cmdAnalyseAgain"_s)->click();
+    EXPECT_FALSE(staleBar()->isVisible());
+    press(u"mnuEditUndo");
+    EXPECT_TRUE(staleBar()->isVisible());
+    press(u"mnuEditRedo");
+    EXPECT_FALSE(staleBar()->isVisible());
+    press(u"mnuEditUndo");
+    write(14, u"my own words"_s);
+    EXPECT_TRUE(staleBar()->isVisible());
+}
+
 TEST_F(SheetTest, ATextThatComesBackMakesItNewAgain)
 {
     openShown({ 1100, 900 });
@@ -447,6 +477,29 @@ TEST_F(SheetTest, OverflowIsCountedAndFitTextMendsIt)
     EXPECT_EQ(text(14), u"one\ntwo\nthree\nfour");
     EXPECT_LT(box(14).text.formatAt(0).pointSize, 8);
     EXPECT_GE(box(14).text.formatAt(0).pointSize, 5);
+}
+
+TEST_F(SheetTest, FitTextFitsTheKeysWhileTheyAreShown)
+{
+    macros = extractMacros({ u"Fire_Gun = a b c d e f g h i j k l m n o p q r s t"_s });
+    for (const QStringView entry : { u"mnuFitText_0", u"mnuFitText_1" }) {
+        openShown({ 1100, 900 });
+        auto *panel = window->findChild<QLabel *>(u"LBL_Overflow"_s);
+        hideAllBut({ 14 });
+        place(14, { 10, 10, 100, 40 });
+        write(14, u"Fire_Gun"_s);
+        EXPECT_FALSE(panel->isVisible());
+        press(u"mnuShowKeysArray_1");
+        EXPECT_TRUE(panel->isVisible());
+        select(14);
+        press(entry);
+        EXPECT_FALSE(panel->isVisible());
+        EXPECT_EQ(text(14), u"Fire_Gun");
+        EXPECT_LT(box(14).text.formatAt(0).pointSize, 8);
+        press(u"mnuShowKeysArray_0");
+        window->actions().action(u"mnuEditUndo")->trigger();
+        EXPECT_EQ(text(14), u"Fire_Gun");
+    }
 }
 
 TEST_F(SheetTest, ShownKeysAreAViewOnly)
