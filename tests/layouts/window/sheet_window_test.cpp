@@ -435,7 +435,11 @@ TEST_F(SheetTest, TheUsualLookIsChosenFromTheMenuAndKept)
     EXPECT_FALSE(action(u"mnuStylesOnOpening")->isChecked());
     press(u"mnuColourOnOpening");
     press(u"mnuStylesOnOpening");
-    dialogs.answerFont(CharFormat{ .family = u"Courier New"_s, .pointSize = 10, .bold = true });
+    CharFormat font;
+    font.family = u"Courier New"_s;
+    font.pointSize = 10;
+    font.bold = true;
+    dialogs.answerFont(font);
     press(u"mnuUsualFont");
     const ProfileFile kept(folder.path() + u"/Layouts.ini"_s);
     EXPECT_EQ(kept.integer(u"Joystick Layout", u"LayoutApplyColour", 1), 0);
