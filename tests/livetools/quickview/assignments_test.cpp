@@ -32,11 +32,11 @@ std::vector<QString> textsOf(const Assignments &table, QStringView control)
 /// The six texts of S1 in a file of this one statement.
 std::vector<QString> textsOfS1(QStringView body)
 {
-    return textsOf(tableOf(u"BTN S1 " + body.toString()), u"S1");
+    return textsOf(tableOf(u"BTN S1 "_s + body.toString()), u"S1");
 }
 
 /// Files of few lines, dense in what the table's rules tell apart.
-class RandomFiles
+class RandomStatements
 {
 public:
     std::string next()
@@ -194,8 +194,11 @@ TEST(Assignments, AFirstLineWithoutUpHasNoModes)
 TEST(Assignments, UpNeedsItsBlank)
 {
     EXPECT_THAT(textsOfS1(u"/U/I a"), ElementsAre(u"a"_s, u""_s, u"a"_s, u""_s, u"a"_s, u""_s));
-    EXPECT_THAT(textsOfS1(u"/U\na"), ElementsAre(u"a"_s, u"a"_s, u""_s, u""_s, u""_s, u""_s))
+    EXPECT_THAT(textsOfS1(u"/U\nFire"),
+                ElementsAre(u"Fire"_s, u"Fire"_s, u""_s, u""_s, u""_s, u""_s))
         << "each line ends in a blank";
+    EXPECT_THAT(textsOfS1(u"Fire\na\nGear"), Each(u"Fire Gear"_s))
+        << "lines of under three characters are nothing";
 }
 
 TEST(Assignments, SeveralModesOnALineAreOneText)
@@ -333,7 +336,7 @@ TEST(RemoveUMDIOmodifiers, TakesOneModifierAndOneCharacterAway)
 
 TEST(Assignments, AgreeWithTheirSlowTwinOnThousandsOfFiles)
 {
-    RandomFiles files;
+    RandomStatements files;
     int filled = 0;
     for (int file = 0; file < 5000; ++file) {
         const std::string bytes = files.next();

@@ -9,12 +9,12 @@ using namespace zeph;
 
 namespace {
 
-constexpr int rng = 57;
-constexpr int ant = 58;
-constexpr int s1 = 15;
+constexpr int rowOfRng = 57;
+constexpr int rowOfAnt = 58;
+constexpr int rowOfS1 = 15;
 constexpr LabelOptions asWritten{ .Underscores = false, .RotaryStrip = false };
 
-MacroKeys macros()
+MacroKeys labelMacros()
 {
     return MacroKeys(extractMacros(usableMacroLines(u"Radar_On = SHF r\n"
                                                     "Under_Score = _ Radar_On Rem keys\n"
@@ -23,15 +23,15 @@ MacroKeys macros()
 
 QString stripped(QStringView text)
 {
-    return labelText(rng, text.toString(), { .Underscores = false, .RotaryStrip = true });
+    return labelText(rowOfRng, text.toString(), { .Underscores = false, .RotaryStrip = true });
 }
 
 } // namespace
 
 TEST(LabelText, UnderscoresAreBlanksIfWanted)
 {
-    EXPECT_EQ(labelText(s1, u"/P Radar_On x_"_s, {}), u"/P Radar On x");
-    EXPECT_EQ(labelText(s1, u"/P Radar_On x_"_s, asWritten), u"/P Radar_On x_");
+    EXPECT_EQ(labelText(rowOfS1, u"/P Radar_On x_"_s, {}), u"/P Radar On x");
+    EXPECT_EQ(labelText(rowOfS1, u"/P Radar_On x_"_s, asWritten), u"/P Radar_On x_");
 }
 
 TEST(LabelText, ARotarysNumbersGoWithTheirBrackets)
@@ -67,40 +67,41 @@ TEST(LabelText, OtherStatementsOfRotariesStay)
 TEST(LabelText, OnlyRotariesAreStripped)
 {
     const QString text = u"1 2 Up"_s;
-    EXPECT_EQ(labelText(s1, text, {}), text);
+    EXPECT_EQ(labelText(rowOfS1, text, {}), text);
     EXPECT_EQ(labelText(56, text, {}), text);
-    EXPECT_EQ(labelText(rng, text, {}), u"Up");
-    EXPECT_EQ(labelText(ant, text, {}), u"Up");
+    EXPECT_EQ(labelText(rowOfRng, text, {}), u"Up");
+    EXPECT_EQ(labelText(rowOfAnt, text, {}), u"Up");
 }
 
 TEST(LabelText, ARotaryIsShownAsWrittenWithTheOptionOff)
 {
-    EXPECT_EQ(labelText(rng, u"5 3 (0 50 100) Up"_s, asWritten), u"5 3 (0 50 100) Up");
+    EXPECT_EQ(labelText(rowOfRng, u"5 3 (0 50 100) Up"_s, asWritten), u"5 3 (0 50 100) Up");
 }
 
 TEST(LabelText, UnderscoresAreBlanksBeforeTheRotaryIsStripped)
 {
-    EXPECT_EQ(labelText(rng, u"1 2_3 Up"_s, { .Underscores = true, .RotaryStrip = true }), u"3 Up");
+    EXPECT_EQ(labelText(rowOfRng, u"1 2_3 Up"_s, { .Underscores = true, .RotaryStrip = true }),
+              u"3 Up");
     EXPECT_EQ(stripped(u"1 2_3 Up"), u"Up");
 }
 
 TEST(LabelText, KeysTakeTheMacrosPlaces)
 {
-    const MacroKeys keys = macros();
-    EXPECT_EQ(labelText(s1, u"/P radar_on KD(Radar_On) Other_One"_s, {}, &keys),
+    const MacroKeys keys = labelMacros();
+    EXPECT_EQ(labelText(rowOfS1, u"/P radar_on KD(Radar_On) Other_One"_s, {}, &keys),
               u"/P SHF r KD(SHF r) Other One");
-    EXPECT_EQ(labelText(rng, u"5 3 (0 5) 5 Radar_On"_s, {}, &keys), u"x SHF r")
+    EXPECT_EQ(labelText(rowOfRng, u"5 3 (0 5) 5 Radar_On"_s, {}, &keys), u"x SHF r")
         << "the rotary's numbers are no macros";
 }
 
 TEST(LabelText, AKeyThatIsAnUnderscoreStays)
 {
-    const MacroKeys keys = macros();
-    EXPECT_EQ(labelText(s1, u"Under_Score A_b"_s, {}, &keys), u"_ SHF r A b");
+    const MacroKeys keys = labelMacros();
+    EXPECT_EQ(labelText(rowOfS1, u"Under_Score A_b"_s, {}, &keys), u"_ SHF r A b");
 }
 
 TEST(LabelTip, TellsBothTheMacrosAndTheirKeys)
 {
-    EXPECT_EQ(labelTip(u"/P Under_Score"_s, macros()), u"/P Under_Score\n/P _ SHF r");
-    EXPECT_EQ(labelTip(u"/P a"_s, macros()), u"/P a");
+    EXPECT_EQ(labelTip(u"/P Under_Score"_s, labelMacros()), u"/P Under_Score\n/P _ SHF r");
+    EXPECT_EQ(labelTip(u"/P a"_s, labelMacros()), u"/P a");
 }

@@ -11,7 +11,7 @@ namespace {
 
 constexpr quint32 centred = 65535;
 
-quint32 bits(std::initializer_list<int> set)
+quint32 buttonBits(std::initializer_list<int> set)
 {
     quint32 buttons = 0;
     for (const int bit : set) {
@@ -20,9 +20,9 @@ quint32 bits(std::initializer_list<int> set)
     return buttons;
 }
 
-LiveState stateOf(std::initializer_list<int> set, quint32 pov = centred)
+LiveState stateOfBits(std::initializer_list<int> set, quint32 pov = centred)
 {
-    return liveState({ Joystick::answered, bits(set), pov });
+    return liveState({ Joystick::answered, buttonBits(set), pov });
 }
 
 /// The flags of a state.
@@ -53,7 +53,7 @@ int hatFlag(const LiveState &state, int hat)
 
 TEST(LiveState, HatsAtRestPressTheirM)
 {
-    EXPECT_THAT(flagsOf(stateOf({})), testing::ElementsAre(28, 37, 46, 55));
+    EXPECT_THAT(flagsOf(stateOfBits({})), testing::ElementsAre(28, 37, 46, 55));
 }
 
 TEST(LiveState, EveryButtonHasItsFlag)
@@ -64,13 +64,13 @@ TEST(LiveState, EveryButtonHasItsFlag)
     };
     for (const auto &[bit, flag] : rows) {
         std::vector<int> expected{ flag, 28, 37, 46, 55 };
-        EXPECT_EQ(flagsOf(stateOf({ bit })), expected) << bit;
+        EXPECT_EQ(flagsOf(stateOfBits({ bit })), expected) << bit;
     }
 }
 
 TEST(LiveState, ButtonsAboveThe28thAreNone)
 {
-    EXPECT_EQ(stateOf({ 28, 29, 30, 31 }), stateOf({}));
+    EXPECT_EQ(stateOfBits({ 28, 29, 30, 31 }), stateOfBits({}));
 }
 
 TEST(LiveState, EveryAngleOfHat1HasItsFlag)
@@ -82,7 +82,7 @@ TEST(LiveState, EveryAngleOfHat1HasItsFlag)
     };
     for (const auto &[pov, flag] : rows) {
         std::vector<int> expected{ flag, 37, 46, 55 };
-        EXPECT_EQ(flagsOf(stateOf({}, pov)), expected) << pov;
+        EXPECT_EQ(flagsOf(stateOfBits({}, pov)), expected) << pov;
     }
 }
 
@@ -108,38 +108,38 @@ TEST(LiveState, TheOtherHatsCountClockwiseFromUp)
 
 TEST(LiveState, UpAndLeftIsADiagonalOfHats2And4)
 {
-    EXPECT_EQ(hatFlag(stateOf({ 6, 9 }), 2), 28 + 8);
-    EXPECT_EQ(hatFlag(stateOf({ 14, 17 }), 4), 46 + 8);
+    EXPECT_EQ(hatFlag(stateOfBits({ 6, 9 }), 2), 28 + 8);
+    EXPECT_EQ(hatFlag(stateOfBits({ 14, 17 }), 4), 46 + 8);
 }
 
 TEST(LiveState, Hat3LeftAsksWhetherHat2IsUp)
 {
-    EXPECT_EQ(hatFlag(stateOf({ 6, 13 }), 3), 37 + 8) << "hat 2 up, hat 3 left";
-    EXPECT_EQ(hatFlag(stateOf({ 6, 10, 13 }), 3), 37 + 8);
-    EXPECT_EQ(hatFlag(stateOf({ 10, 13 }), 3), 37 + 7) << "hat 3 up and left";
-    EXPECT_EQ(hatFlag(stateOf({ 6, 7, 13 }), 3), 37 + 7) << "hat 2 up and right";
-    EXPECT_EQ(hatFlag(stateOf({ 6, 12, 13 }), 3), 37 + 6) << "down counts first";
-    EXPECT_EQ(hatFlag(stateOf({ 6, 17 }), 4), 46 + 7) << "hat 4 asks itself";
+    EXPECT_EQ(hatFlag(stateOfBits({ 6, 13 }), 3), 37 + 8) << "hat 2 up, hat 3 left";
+    EXPECT_EQ(hatFlag(stateOfBits({ 6, 10, 13 }), 3), 37 + 8);
+    EXPECT_EQ(hatFlag(stateOfBits({ 10, 13 }), 3), 37 + 7) << "hat 3 up and left";
+    EXPECT_EQ(hatFlag(stateOfBits({ 6, 7, 13 }), 3), 37 + 7) << "hat 2 up and right";
+    EXPECT_EQ(hatFlag(stateOfBits({ 6, 12, 13 }), 3), 37 + 6) << "down counts first";
+    EXPECT_EQ(hatFlag(stateOfBits({ 6, 17 }), 4), 46 + 7) << "hat 4 asks itself";
 }
 
 TEST(LiveState, DirectionsThatContradictEachOtherFollowTheirOrder)
 {
-    EXPECT_EQ(hatFlag(stateOf({ 6, 8 }), 2), 28 + 5) << "down after up";
-    EXPECT_EQ(hatFlag(stateOf({ 7, 9 }), 2), 28 + 7) << "left after right";
-    EXPECT_EQ(hatFlag(stateOf({ 6, 7, 8 }), 2), 28 + 5);
-    EXPECT_EQ(hatFlag(stateOf({ 6, 7, 8, 9 }), 2), 28 + 6);
-    EXPECT_EQ(hatFlag(stateOf({ 7, 8, 9 }), 2), 28 + 7);
+    EXPECT_EQ(hatFlag(stateOfBits({ 6, 8 }), 2), 28 + 5) << "down after up";
+    EXPECT_EQ(hatFlag(stateOfBits({ 7, 9 }), 2), 28 + 7) << "left after right";
+    EXPECT_EQ(hatFlag(stateOfBits({ 6, 7, 8 }), 2), 28 + 5);
+    EXPECT_EQ(hatFlag(stateOfBits({ 6, 7, 8, 9 }), 2), 28 + 6);
+    EXPECT_EQ(hatFlag(stateOfBits({ 7, 8, 9 }), 2), 28 + 7);
 }
 
 TEST(LiveState, TheDogfightSwitchAndS3GiveTheColumn)
 {
-    EXPECT_EQ(stateOf({ 24, 2 }).column(), 1);
-    EXPECT_EQ(stateOf({ 24 }).column(), 2);
-    EXPECT_EQ(stateOf({ 2 }).column(), 3);
-    EXPECT_EQ(stateOf({}).column(), 4);
-    EXPECT_EQ(stateOf({ 25, 2 }).column(), 5);
-    EXPECT_EQ(stateOf({ 25 }).column(), 6);
-    EXPECT_EQ(stateOf({ 24, 25 }).column(), 2) << "up counts first";
+    EXPECT_EQ(stateOfBits({ 24, 2 }).column(), 1);
+    EXPECT_EQ(stateOfBits({ 24 }).column(), 2);
+    EXPECT_EQ(stateOfBits({ 2 }).column(), 3);
+    EXPECT_EQ(stateOfBits({}).column(), 4);
+    EXPECT_EQ(stateOfBits({ 25, 2 }).column(), 5);
+    EXPECT_EQ(stateOfBits({ 25 }).column(), 6);
+    EXPECT_EQ(stateOfBits({ 24, 25 }).column(), 2) << "up counts first";
 }
 
 TEST(LiveState, AClickChoosesThePosition)
@@ -158,14 +158,14 @@ TEST(LiveState, AClickChoosesThePosition)
 
 TEST(LiveState, OnlyWhatChangedIsDrawn)
 {
-    const LiveState rest = stateOf({});
+    const LiveState rest = stateOfBits({});
     EXPECT_TRUE(changeOf(rest, rest).isNothing());
-    const StateChange pressed = changeOf(rest, stateOf({ 6, 0 }));
+    const StateChange pressed = changeOf(rest, stateOfBits({ 6, 0 }));
     EXPECT_EQ(pressed.turnsBold, std::bitset<flagCount>().set(18).set(29));
     EXPECT_EQ(pressed.turnsPlain, std::bitset<flagCount>().set(37));
     EXPECT_FALSE(pressed.column);
-    EXPECT_TRUE(changeOf(rest, stateOf({ 2 })).column);
-    EXPECT_FALSE(changeOf(rest, stateOf({ 2 })).isNothing());
+    EXPECT_TRUE(changeOf(rest, stateOfBits({ 2 })).column);
+    EXPECT_FALSE(changeOf(rest, stateOfBits({ 2 })).isNothing());
 }
 
 TEST(LiveState, ALostJoystickIsTold)

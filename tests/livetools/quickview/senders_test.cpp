@@ -11,23 +11,23 @@ using testing::IsEmpty;
 
 namespace {
 
-const QString file = u"BTN S1 /U Fire\n/M SHF a\n/D KD(a) DLY(60) KU(a)\n"
-                     "BTN S2 /U /I a\n"
-                     "BTN T7 /P Salvo /R LSHF A\n"
-                     "RNG 5 2 (0 50 100) b Loop\n"
-                     "USE HAT1 AS POV\n"_s;
+const QString senderFile = u"BTN S1 /U Fire\n/M SHF a\n/D KD(a) DLY(60) KU(a)\n"
+                           "BTN S2 /U /I a\n"
+                           "BTN T7 /P Salvo /R LSHF A\n"
+                           "RNG 5 2 (0 50 100) b Loop\n"
+                           "USE HAT1 AS POV\n"_s;
 
-const QString macroFile = u"Fire = SPC\n"
-                          "Salvo = RPT(3) Fire DLY(100) Chaff\n"
-                          "Chaff = CTL ALT c\n"
-                          "Loop = Again x\n"
-                          "Again = Loop y\n"_s;
+const QString senderMacros = u"Fire = SPC\n"
+                             "Salvo = RPT(3) Fire DLY(100) Chaff\n"
+                             "Chaff = CTL ALT c\n"
+                             "Loop = Again x\n"
+                             "Again = Loop y\n"_s;
 
 /// The cells as "row.column".
 std::vector<std::string> sendersOf(QStringView sought)
 {
-    const Assignments table = AssignToArray(digestOf(file));
-    const MacroKeys keys(extractMacros(usableMacroLines(macroFile)));
+    const Assignments table = AssignToArray(digestOf(senderFile));
+    const MacroKeys keys(extractMacros(usableMacroLines(senderMacros)));
     std::vector<std::string> cells;
     for (const CellPlace &place : Senders(table, keys).of(sought.toString())) {
         cells.push_back(std::to_string(place.row) + '.' + std::to_string(place.column));
