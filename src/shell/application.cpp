@@ -30,6 +30,7 @@
 #include "shell/composer_tools.h"
 #include "shell/first_run.h"
 #include "shell/help_menu.h"
+#include "shell/layout_tools.h"
 #include "shell/main_scene.h"
 #include "shell/mouse_tools.h"
 #include "shell/mum.h"
@@ -285,6 +286,10 @@ void Application::addToolWindows()
                      guarded(m_options.dialogs, [this](int topic) { m_help->showTopic(topic); }));
     auto *wizards = new WizardTools(context(), windows, *m_editor, *composer);
     QObject::connect(wizards, &WizardTools::helpWanted, m_help,
+                     guarded(m_options.dialogs, [this](int topic) { m_help->showTopic(topic); }));
+    auto *layouts =
+        new LayoutTools(context(), windows, *m_editor, { m_options.printers, m_options.screen });
+    QObject::connect(layouts, &LayoutTools::helpWanted, m_help,
                      guarded(m_options.dialogs, [this](int topic) { m_help->showTopic(topic); }));
     windows.whenLoaded<TemplateForm>(m_mum.get(), [composer](TemplateForm &form) {
         form.actions().connectTo(u"mnuComposerPlugin", [composer] { composer->openTemplates(); });

@@ -82,14 +82,14 @@ TEST(ProgramSheets, TheSettingsDecideOnTheLooks)
     Program program;
     program.settle("[Colours]\r\nBackgroundColour=16777215\r\nBTNColour=1193046\r\n");
     program.write(u"Layouts.ini"_s, "[Joystick Layout]\r\nDefImageX=1200\r\nDefImageY=900\r\n");
-    EXPECT_EQ(
-        runBare(program, { u"--sheet=throttle"_s, u"--out=t.svg"_s, sample }).code, 0);
+    EXPECT_EQ(runBare(program, { u"--sheet=throttle"_s, u"--out=t.svg"_s, sample }).code, 0);
     const QByteArray svg = program.read(u"t.svg"_s);
     EXPECT_TRUE(svg.contains("width=\"1200\" height=\"900\""));
     // 1193046 is 0x123456: blue, green and red.
     EXPECT_TRUE(svg.contains("fill=\"#563412\""));
-    EXPECT_EQ(runBare(program, { u"--sheet"_s, u"throttle"_s, u"--out"_s, u"t.png"_s,
-                                 u"--scale"_s, u"2"_s, sample })
+    EXPECT_EQ(runBare(program,
+                      { u"--sheet"_s, u"throttle"_s, u"--out"_s, u"t.png"_s, u"--scale"_s, u"2"_s,
+                        sample })
                   .code,
               0);
     const QByteArray png = program.read(u"t.png"_s);
@@ -105,8 +105,8 @@ TEST(ProgramSheets, FailuresAreToldOnStandardErrorAndByTheExitCode)
     EXPECT_EQ(unread.code, 1);
     EXPECT_TRUE(unread.errors.contains(u"none.tmj"));
     EXPECT_FALSE(program.exists(u"x.pdf"_s));
-    const Ended unwritten = runBare(
-        program, { u"--sheet"_s, u"joystick"_s, u"--out"_s, u"no/folder/x.pdf"_s, sample });
+    const Ended unwritten =
+        runBare(program, { u"--sheet"_s, u"joystick"_s, u"--out"_s, u"no/folder/x.pdf"_s, sample });
     EXPECT_EQ(unwritten.code, 1);
     EXPECT_TRUE(unwritten.errors.contains(u"no/folder/x.pdf"));
     const Ended wrong = runBare(program, { u"--sheet"_s, u"rudders"_s, sample });

@@ -42,8 +42,8 @@ TEST(SheetCommand, TakesItsArgumentsInAnyOrder)
     EXPECT_EQ(sheetCommandOf({ u"--sheet"_s, u"throttle"_s, u"--out"_s, u"x.PNG"_s, u"--scale"_s,
                                u"4"_s, u"my file.tmj"_s }),
               command);
-    EXPECT_EQ(sheetCommandOf({ u"my file.tmj"_s, u"--scale=4"_s, u"--out=x.PNG"_s,
-                               u"--sheet=throttle"_s }),
+    EXPECT_EQ(sheetCommandOf(
+                  { u"my file.tmj"_s, u"--scale=4"_s, u"--out=x.PNG"_s, u"--sheet=throttle"_s }),
               command);
 }
 

@@ -18,6 +18,13 @@
 #include "editor/macros/macrorenameform.h"
 #include "layouts/files/layoutsave.h"
 #include "layouts/files/layoutsize.h"
+#include "layouts/window/customformatter.h"
+#include "layouts/window/customtweaker.h"
+#include "layouts/window/formgridcellsize.h"
+#include "layouts/window/frmtextboxsize.h"
+#include "layouts/window/sheet_window.h"
+#include "layouts/window/showhidewindow.h"
+#include "layouts/window/ubbandhtmlview.h"
 #include "lists/favourites_menu.h"
 #include "lists/user_lists.h"
 #include "livetools/keytestform.h"
@@ -177,7 +184,62 @@ template <class Window> std::unique_ptr<QWidget> makeWizard(test::ShellWorld &wo
     return window;
 }
 
+/// A sheet's window with documents of its own, which go after it.
+template <class Window> std::unique_ptr<QWidget> makeSheet(test::ShellWorld &world)
+{
+    struct Bench {
+        explicit Bench(test::ShellWorld &w) : documents(w.context()) { }
+        Documents documents;
+        MacroTable macros;
+        QAction viewer;
+    };
+    auto *bench = new Bench(world);
+    auto window = std::make_unique<Window>(
+        world.context(),
+        SheetSources{
+            bench->documents, bench->macros, { world.printers, world.screen, bench->viewer } });
+    QObject::connect(window.get(), &QObject::destroyed, [bench] { delete bench; });
+    return window;
+}
+
+std::unique_ptr<QWidget> makeShowHide(test::ShellWorld &world)
+{
+    auto sheet = makeSheet<CustomLayout>(world);
+    auto *owner = static_cast<CustomLayout *>(sheet.get());
+    auto window = std::make_unique<ShowHideWindow>(SheetKind::Custom, owner->model(),
+                                                   owner->actions(), nullptr);
+    QObject::connect(window.get(), &QObject::destroyed, [owner] { delete owner; });
+    (void)sheet.release();
+    return window;
+}
+
 const LintCase cases[] = {
+    { "GraphicsPrint", makeSheet<GraphicsPrint> },
+    { "TQSLayout", makeSheet<TQSLayout> },
+    { "CustomLayout", makeSheet<CustomLayout> },
+    { "HideForCleo", makeShowHide },
+    { "FrmTextBoxSize",
+      [](auto &) {
+          static SheetModel model{ emptySheet(SheetKind::Joystick) };
+          return std::make_unique<FrmTextBoxSize>(model, nullptr);
+      } },
+    { "FormGridCellSize",
+      [](auto &) {
+          return std::make_unique<FormGridCellSize>(5);
+      } },
+    { "CustomTweaker",
+      [](auto &) {
+          return std::make_unique<CustomTweaker>(LayoutsSettings());
+      } },
+    { "CustomFormatter",
+      [](auto &w) {
+          return std::make_unique<CustomFormatter>(ProfileFile(w.paths.inApp(u"Layouts.ini")),
+                                                   w.dialogs, nullptr);
+      } },
+    { "UBBandHTMLview",
+      [](auto &) {
+          return std::make_unique<UBBandHTMLview>(RichText::plain(u"BTN S1"_s), 0);
+      } },
     { "WizardMacroFile", makeWizard<WizardMacroFile> },
     { "WizardJoystickFile", makeWizard<WizardJoystickFile> },
     { "Speedy", makeWizard<Speedy> },

@@ -3,6 +3,7 @@
 
 #include "layouts/files/layout_file.h"
 
+#include "platform/core/paths.h"
 #include "platform/core/rtf.h"
 #include "platform/core/text1252.h"
 
@@ -221,12 +222,11 @@ QString layoutTextName(SheetKind kind, int box)
 }
 
 Expected<Sheet, LayoutError> readLayoutFolder(SheetKind kind, const LayoutFolder &files,
-                                              const QString &folder)
+                                              const QString &path)
 {
-    const SheetKindRow &row = sheetKind(kind);
-    auto sheet = readPositions(kind, files.positions, folder + row.folderFile.toString());
-    for (int i = 0; sheet && i < row.boxes; ++i) {
-        const QString file = folder + layoutTextName(kind, i);
+    auto sheet = readPositions(kind, files.positions, path);
+    for (int i = 0; sheet && i < sheetKind(kind).boxes; ++i) {
+        const QString file = folderOf(path) + layoutTextName(kind, i);
         if (size_t(i) >= files.texts.size()) {
             return Unexpected<LayoutError>(LayoutError{ file, 0, u"the file is missing"_s });
         }
@@ -239,10 +239,9 @@ Expected<Sheet, LayoutError> readLayoutFolder(SheetKind kind, const LayoutFolder
     return sheet;
 }
 
-Expected<LayoutFolder, LayoutError> writeLayoutFolder(const Sheet &sheet, const QString &folder)
+Expected<LayoutFolder, LayoutError> writeLayoutFolder(const Sheet &sheet, const QString &path)
 {
-    const auto positions =
-        writePositions(sheet, folder + sheetKind(sheet.kind).folderFile.toString());
+    const auto positions = writePositions(sheet, path);
     if (!positions) {
         return Unexpected<LayoutError>(positions.error());
     }

@@ -31,10 +31,11 @@ struct LayoutFolder {
     friend bool operator==(const LayoutFolder &, const LayoutFolder &) = default;
 };
 
-/// As readPositions(), with the boxes' texts. `folder` ends with a separator.
+/// As readPositions(), with the boxes' texts. The path is that of the positions; errors name the
+/// texts beside it.
 Expected<Sheet, LayoutError> readLayoutFolder(SheetKind kind, const LayoutFolder &files,
-                                              const QString &folder);
-Expected<LayoutFolder, LayoutError> writeLayoutFolder(const Sheet &sheet, const QString &folder);
+                                              const QString &path);
+Expected<LayoutFolder, LayoutError> writeLayoutFolder(const Sheet &sheet, const QString &path);
 /// The file of a box's text (0-based) in such a folder.
 QString layoutTextName(SheetKind kind, int box);
 

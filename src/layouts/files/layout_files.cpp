@@ -102,7 +102,8 @@ std::optional<OpenedLayout> LayoutFiles::open(LayoutForm form, const Sheet &open
         }
     }
     m_context.settings.of<LayoutsSettings>().isRepositionOff = true;
-    remember(existingPath(*path), opened.sheet);
+    const bool isSavedNow = !isPlaces || isSaved(open);
+    remember(existingPath(*path), isSavedNow ? std::optional(opened.sheet) : std::nullopt);
     if (isPlaces) {
         Q_EMIT told(u" OK .. ready!"_s);
     }
@@ -166,10 +167,10 @@ bool LayoutFiles::offerToSave(const QString &question, const Sheet &sheet)
     }
 }
 
-void LayoutFiles::remember(const QString &path, const Sheet &sheet)
+void LayoutFiles::remember(const QString &path, std::optional<Sheet> saved)
 {
     m_path = path;
-    m_saved = sheet;
+    m_saved = std::move(saved);
     UpdatePrevLOMenuList();
 }
 

@@ -33,7 +33,8 @@ public:
     const QString &path() const { return m_path; }
     /// Layouts used before, most recently used first.
     const QStringList &recent() const { return m_recent; }
-    /// Whether the sheet is as it was when it was last saved or opened.
+    /// Whether the sheet is as it was when it was last saved or opened. Positions that are opened
+    /// leave the sheet's texts, and with them the sheet, as unsaved as they were.
     bool isSaved(const Sheet &sheet) const { return m_saved == sheet; }
 
     /// Saves under a name that the user enters. False when nothing was saved.
@@ -66,7 +67,7 @@ private:
     bool mayReplace(LayoutForm form, const QString &path);
     std::optional<OpenedLayout> open(LayoutForm form, const Sheet &open, const QString &fromList);
     bool offerToSave(const QString &question, const Sheet &sheet);
-    void remember(const QString &path, const Sheet &sheet);
+    void remember(const QString &path, std::optional<Sheet> saved);
     void GetPreviousLOFiles();
     void UpdatePrevLOMenuList();
     void writeRecent();

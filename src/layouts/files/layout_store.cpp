@@ -175,25 +175,24 @@ Expected<Sheet, LayoutError> loadLayout(SheetKind kind, LayoutForm form, const Q
     if (!positions) {
         return Unexpected<LayoutError>(positions.error());
     }
-    auto sheet = readPositions(kind, *positions, path);
-    if (!sheet || form == LayoutForm::Positions) {
-        return sheet;
+    if (form == LayoutForm::Positions) {
+        return readPositions(kind, *positions, path);
     }
-    const QString folder = folderOf(path);
-    for (size_t i = 0; i < sheet->boxes.size(); ++i) {
-        auto box = loadBox({}, folder + layoutTextName(kind, int(i)));
-        if (!box) {
-            return Unexpected<LayoutError>(box.error());
+    LayoutFolder files{ *positions, {} };
+    for (int i = 0; i < sheetKind(kind).boxes; ++i) {
+        const auto text = bytesOf(folderOf(path) + layoutTextName(kind, i));
+        if (!text) {
+            return Unexpected<LayoutError>(text.error());
         }
-        sheet->boxes[i].text = std::move(box->text);
+        files.texts.push_back(*text);
     }
-    return sheet;
+    return readLayoutFolder(kind, files, path);
 }
 
 Expected<void, LayoutError> saveLayout(const Sheet &sheet, LayoutForm form, const QString &path)
 {
     const auto files = form == LayoutForm::WithText
-        ? writeLayoutFolder(sheet, folderOf(path))
+        ? writeLayoutFolder(sheet, path)
         : writePositions(sheet, path).map([](const QByteArray &bytes) {
               return LayoutFolder{ bytes, {} };
           });
@@ -210,8 +209,14 @@ Expected<void, LayoutError> saveLayout(const Sheet &sheet, LayoutForm form, cons
 
 QString pictureFile(const QString &path, const QString &appFolder)
 {
-    const QString found = path.isEmpty() ? QString() : resolvedPath(path, appFolder);
-    return fileExists(found) ? existingPath(found) : QString();
+    const bool startsAtRoot = path.startsWith(u'\\') || path.startsWith(u'/');
+    for (const QString &name : { path, startsAtRoot ? path.sliced(1) : QString() }) {
+        const QString found = name.isEmpty() ? QString() : resolvedPath(name, appFolder);
+        if (fileExists(found)) {
+            return existingPath(found);
+        }
+    }
+    return {};
 }
 
 QString picturePathOf(const QString &file, const QString &appFolder)

@@ -28,8 +28,8 @@ Expected<Sheet, LayoutError> loadLayout(SheetKind kind, LayoutForm form, const Q
 Expected<void, LayoutError> saveLayout(const Sheet &sheet, LayoutForm form, const QString &path);
 
 /// The file that a picture's path in a layout means; empty when there is none. The program's own
-/// pictures are named without a folder, and one from a folder that is gone is looked for among
-/// them.
+/// pictures are named without a folder or with a separator alone, and one from a folder that is
+/// gone is looked for among them.
 QString pictureFile(const QString &path, const QString &appFolder);
 /// The path by which a layout names a picture's file.
 QString picturePathOf(const QString &file, const QString &appFolder);

@@ -30,8 +30,12 @@ Expected<void, FileError> keepLayoutSize(Settings &settings, const SettingsFiles
                                          const LayoutSizeChoice &choice)
 {
     auto &values = settings.of<LayoutsSettings>();
-    values.RepositionOnSizeChange = choice.repositions;
-    values.isRepositionOff = false;
+    // What a layout that was opened has switched off is off for this run alone, so only a change is
+    // stored.
+    if (choice.repositions != values.repositions()) {
+        values.RepositionOnSizeChange = choice.repositions;
+        values.isRepositionOff = false;
+    }
     if (choice.isDefault) {
         values.DefImageX = choice.size.width();
         values.DefImageY = choice.size.height();

@@ -62,7 +62,7 @@ constexpr std::array kinds = {
         .recent = { u"Joystick layouts", u"NumbPrevJoystickLayouts", joystickRecent, mostRecent },
         .optionsSection = u"Joystick",
         .loadingStatus = u" Loading joystick layout ... please wait ....",
-        .coloursStatus = u" Applying colours ...",
+        .coloursStatus = u" Applying colour highlighting ...",
     },
     SheetKindRow{
         .kind = SheetKind::Throttle,

@@ -3,7 +3,9 @@
 
 #include "layouts/analysis/box_colours.h"
 
+#include "layouts/analysis/box_texts.h"
 #include "tests/layouts/analysis/box_colours_twin.h"
+#include "tests/layouts/analysis/joystick_file_maker.h"
 #include "tests/support/rich_texts.h"
 #include "text/layout_passes.h"
 
@@ -303,24 +305,51 @@ private:
     QStringList m_words;
 };
 
+/// Both ways of colouring, one after the other, against the slow ones.
+void expectColoursOfTwin(SheetKind kind, const RichText &box)
+{
+    const TextStyles styles = numberedStyles();
+    test::BoxColoursTwin twin(box, boxScheme);
+    twin.applyColours(kind == SheetKind::Throttle, boxFont());
+    const RichText normal = ApplyColours(kind, box, { boxScheme, boxFont() });
+    ASSERT_EQ(looksOf(normal), twin.looks()) << box.text.toStdString();
+    ASSERT_EQ(normal.text, box.text);
+    ASSERT_EQ(normal.paragraphs, box.paragraphs);
+    twin.applyModes(styles);
+    ASSERT_EQ(looksOf(ApplyUMDcolours(normal, styles, remColour)), twin.looks())
+        << box.text.toStdString();
+}
+
 } // namespace
 
 TEST(BoxColours, AgreeWithTheSlowColouringOnFiveThousandBoxes)
 {
     BoxMaker maker(5);
-    const TextStyles styles = numberedStyles();
     for (int i = 0; i < 5000; ++i) {
         const RichText box = maker.next();
         for (const SheetKind kind : { SheetKind::Joystick, SheetKind::Throttle }) {
-            test::BoxColoursTwin twin(box, boxScheme);
-            twin.applyColours(kind == SheetKind::Throttle, boxFont());
-            const RichText normal = ApplyColours(kind, box, { boxScheme, boxFont() });
-            ASSERT_EQ(looksOf(normal), twin.looks()) << box.text.toStdString();
-            ASSERT_EQ(normal.text, box.text);
-            ASSERT_EQ(normal.paragraphs, box.paragraphs);
-            twin.applyModes(styles);
-            ASSERT_EQ(looksOf(ApplyUMDcolours(normal, styles, remColour)), twin.looks())
-                << box.text.toStdString();
+            ASSERT_NO_FATAL_FAILURE(expectColoursOfTwin(kind, box));
         }
     }
+}
+
+TEST(BoxColours, AgreeWithTheSlowColouringOnWhatFiveThousandFilesFill)
+{
+    test::JoystickFileMaker maker(41);
+    int filled = 0;
+    for (int i = 0; i < 5000; ++i) {
+        const auto file = AnalyseAndExtract(QString::fromLatin1(maker.next().c_str()));
+        if (!file) {
+            continue;
+        }
+        for (const SheetKind kind : { SheetKind::Joystick, SheetKind::Throttle }) {
+            for (const QString &text : AnalyseJoystickFile(kind, *file, {})) {
+                if (text.contains(u'\n')) {
+                    ASSERT_NO_FATAL_FAILURE(expectColoursOfTwin(kind, RichText::plain(text)));
+                    ++filled;
+                }
+            }
+        }
+    }
+    EXPECT_GT(filled, 10000);
 }

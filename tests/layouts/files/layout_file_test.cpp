@@ -17,6 +17,7 @@ using testing::HasSubstr;
 namespace {
 
 const QString file = u"C:\\Layouts\\a"_s;
+const QString textFile = u"F/Joystick layout.jft"_s;
 
 /// A joystick sheet's file of 19 lines, each box at 10 times its number.
 QByteArray joystickFile()
@@ -196,6 +197,24 @@ TEST(DamagedPositions, AMissingLineIsNamed)
     }
 }
 
+TEST(DamagedPositions, AMissingLineOfTheCustomSheetIsNamed)
+{
+    const QByteArray bytes = writePositions(SheetMaker(2).stored(SheetKind::Custom), file).value();
+    const QByteArrayList lines = bytes.split('\n');
+    ASSERT_EQ(lines.size(), 1 + 8 + 40 + 1);
+    for (int count = 0; count < 49; ++count) {
+        EXPECT_EQ(errorOf(lines.first(count).join('\n'), SheetKind::Custom).line, count + 1);
+    }
+    for (const int place : { 2, 4, 6 }) {
+        const QByteArray shortLine = withLine(bytes, place, "1,2,True");
+        EXPECT_EQ(errorOf(shortLine, SheetKind::Custom).line, place);
+        const QByteArray word = withLine(bytes, place, "1,top,True,False");
+        EXPECT_EQ(errorOf(word, SheetKind::Custom).line, place);
+    }
+    const QByteArray longPath = withLine(bytes, 9, QByteArray(10'000'000, 'x'));
+    EXPECT_EQ(errorOf(longPath, SheetKind::Custom).line, 9);
+}
+
 TEST(DamagedPositions, AShortLineIsNamed)
 {
     EXPECT_EQ(errorAt(1, "1043").line, 1);
@@ -275,8 +294,8 @@ TEST(LayoutFolder, KeepsTheFormatsThatPositionsLose)
         format.colour = 164;
     });
     sheet.boxes[4].text = text;
-    const LayoutFolder files = writeLayoutFolder(sheet, u"F/"_s).value();
-    const Sheet read = readLayoutFolder(SheetKind::Joystick, files, u"F/"_s).value();
+    const LayoutFolder files = writeLayoutFolder(sheet, textFile).value();
+    const Sheet read = readLayoutFolder(SheetKind::Joystick, files, textFile).value();
     EXPECT_EQ(read.boxes[4].text, text);
     EXPECT_EQ(read, sheet);
     EXPECT_EQ(readPositions(SheetKind::Joystick, files.positions, file)->boxes[4].text,
@@ -308,9 +327,9 @@ TEST(LayoutFolder, WhatWasReadIsWrittenAsTheSameBytes)
 
 TEST(DamagedLayoutFolder, DamagedRtfIsNamedWithItsLine)
 {
-    LayoutFolder files = writeLayoutFolder(joystickSheet(), u"F/"_s).value();
+    LayoutFolder files = writeLayoutFolder(joystickSheet(), textFile).value();
     files.texts[7] = "{\\rtf1 a\n\\b b\n{{ c";
-    const auto read = readLayoutFolder(SheetKind::Joystick, files, u"F/"_s);
+    const auto read = readLayoutFolder(SheetKind::Joystick, files, textFile);
     ASSERT_FALSE(read);
     EXPECT_EQ(read.error().file, u"F/Cougar Joystick Text7.rtf");
     EXPECT_EQ(read.error().line, 3);
@@ -319,11 +338,11 @@ TEST(DamagedLayoutFolder, DamagedRtfIsNamedWithItsLine)
 
 TEST(DamagedLayoutFolder, ATextThatIsNoRtfIsAnError)
 {
-    LayoutFolder files = writeLayoutFolder(joystickSheet(), u"F/"_s).value();
+    LayoutFolder files = writeLayoutFolder(joystickSheet(), textFile).value();
     for (const QByteArray &odd :
          { QByteArray(), QByteArray("plain text"), QByteArray(10'000'000, '{') }) {
         files.texts[0] = odd;
-        const auto read = readLayoutFolder(SheetKind::Joystick, files, u"F/"_s);
+        const auto read = readLayoutFolder(SheetKind::Joystick, files, textFile);
         ASSERT_FALSE(read);
         EXPECT_EQ(read.error().file, u"F/Cougar Joystick Text0.rtf");
         EXPECT_EQ(read.error().line, 1);
@@ -332,12 +351,12 @@ TEST(DamagedLayoutFolder, ATextThatIsNoRtfIsAnError)
 
 TEST(DamagedLayoutFolder, ThePlacesComeFirst)
 {
-    LayoutFolder files = writeLayoutFolder(joystickSheet(), u"F/"_s).value();
+    LayoutFolder files = writeLayoutFolder(joystickSheet(), textFile).value();
     files.texts[0] = "no rtf";
     files.positions = "wide high\r\n";
-    const auto read = readLayoutFolder(SheetKind::Joystick, files, u"F/"_s);
+    const auto read = readLayoutFolder(SheetKind::Joystick, files, u"F/My copy.jft"_s);
     ASSERT_FALSE(read);
-    EXPECT_EQ(read.error().file, u"F/Joystick layout.jft");
+    EXPECT_EQ(read.error().file, u"F/My copy.jft");
 }
 
 TEST(WithPlacesOf, KeepsTextsAndWhatTheFileLacks)
@@ -415,4 +434,30 @@ TEST(SheetKinds, HaveTheirBoxesAndPictures)
     EXPECT_EQ(sheetKind(SheetKind::Throttle).boxNames[16], u"LBRK");
     EXPECT_EQ(sheetKind(SheetKind::Joystick).pictureEntry, 17);
     EXPECT_EQ(sheetKind(SheetKind::Throttle).pictureEntry, 24);
+}
+
+TEST(SheetKinds, HaveTheirNamesAndWords)
+{
+    const SheetKindRow &joystick = sheetKind(SheetKind::Joystick);
+    EXPECT_EQ(joystick.loadingStatus, u" Loading joystick layout ... please wait ....");
+    EXPECT_EQ(joystick.coloursStatus, u" Applying colour highlighting ...");
+    EXPECT_EQ(joystick.optionsSection, u"Joystick");
+    EXPECT_EQ(joystick.transfer.list, u"temp.jft");
+    EXPECT_EQ(joystick.transfer.texts, u"JoystickTemp");
+    EXPECT_EQ(joystick.transfer.single, u"SingleJoystick");
+    const SheetKindRow &throttle = sheetKind(SheetKind::Throttle);
+    EXPECT_EQ(throttle.loadingStatus, u" Loading throttle layout ... please wait ....");
+    EXPECT_EQ(throttle.coloursStatus, u" Applying colours ...");
+    EXPECT_EQ(throttle.optionsSection, u"Throttle");
+    EXPECT_EQ(throttle.pictures[0], u"Throttle.bmp");
+    EXPECT_EQ(throttle.transfer.list, u"temp.tqt");
+    EXPECT_EQ(throttle.transfer.texts, u"ThrottleTemp");
+    EXPECT_EQ(throttle.transfer.single, u"SingleThrottle");
+    const SheetKindRow &custom = sheetKind(SheetKind::Custom);
+    EXPECT_EQ(custom.optionsSection, u"CLEO");
+    EXPECT_EQ(custom.secondMenuFrom, 20);
+    EXPECT_EQ(custom.positions.filter, u"Custom layout (*.cll)|*.cll");
+    EXPECT_EQ(custom.withText.filter, u"Custom layout and text (*.clt)|*.clt");
+    EXPECT_EQ(throttle.positions.filter, u"Throttle layout (*.ttl)|*.ttl");
+    EXPECT_EQ(throttle.withText.filter, u"Throttle Layout with text (*.ttt)|*.ttt");
 }

@@ -177,6 +177,20 @@ TEST_F(LayoutFilesTest, PositionsLeaveTheTextsOfTheSheet)
     EXPECT_EQ(told[1][0], u" OK .. ready!"_s);
 }
 
+TEST_F(LayoutFilesTest, PositionsLeaveUnsavedTextsUnsaved)
+{
+    savePositions(u"Falcon"_s);
+    const QString path = files->path();
+    const auto again = files->OpenTextBoxPositions(sheet, path);
+    ASSERT_TRUE(again);
+    EXPECT_TRUE(files->isSaved(again->sheet)) << "nothing has been typed since";
+    sheet.boxes[14].text = RichText::plain(u"Custom 1: my notes"_s);
+    const auto opened = files->OpenTextBoxPositions(sheet, path);
+    ASSERT_TRUE(opened);
+    EXPECT_FALSE(files->isSaved(opened->sheet)) << "no file has the notes";
+    EXPECT_EQ(files->path(), path);
+}
+
 TEST_F(LayoutFilesTest, OpeningKeepsBoxesFromMovingButStoresNothingOfIt)
 {
     savePositions(u"Falcon"_s);

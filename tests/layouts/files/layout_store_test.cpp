@@ -151,6 +151,9 @@ TEST_F(LayoutStore, PicturesOfTheProgramAreKnownByName)
     EXPECT_EQ(pictureFile(u"Throttle.bmp"_s, folder.path()), own);
     EXPECT_EQ(pictureFile(u"throttle.BMP"_s, folder.path()), own);
     EXPECT_EQ(pictureFile(u"C:\\Old place\\Throttle.bmp"_s, folder.path()), own);
+    EXPECT_EQ(pictureFile(u"\\Throttle.bmp"_s, folder.path()), own);
+    EXPECT_EQ(pictureFile(u"/Throttle.bmp"_s, folder.path()), own);
+    EXPECT_EQ(pictureFile(u"\\"_s, folder.path()), QString());
     EXPECT_EQ(picturePathOf(own, folder.path()), u"Throttle.bmp");
 }
 
@@ -233,4 +236,24 @@ TEST_F(LayoutStore, AMissingOrEmptyTransferHasNoBoxes)
     const auto without = loadAllForTransfer(SheetKind::Joystick, layouts);
     ASSERT_FALSE(without) << "the text is missing";
     EXPECT_TRUE(without.error().file.endsWith(u"JoystickTemp0.rtf"));
+}
+
+TEST_F(LayoutStore, ADamagedTransferIsNamedWithFileAndLine)
+{
+    folder.write(u"temp/temp.tqt"_s, "2\r\n1,2,3,4\r\n1,2,3\r\n");
+    auto read = loadAllForTransfer(SheetKind::Throttle, layouts);
+    ASSERT_FALSE(read);
+    EXPECT_TRUE(read.error().file.endsWith(u"temp.tqt"));
+    EXPECT_EQ(read.error().line, 3);
+    folder.write(u"temp/temp.tqt"_s, "1\r\n1,2,3,4\r\n");
+    folder.write(u"temp/ThrottleTemp0.rtf"_s, "{\\rtf1 a\nb");
+    read = loadAllForTransfer(SheetKind::Throttle, layouts);
+    ASSERT_FALSE(read);
+    EXPECT_TRUE(read.error().file.endsWith(u"ThrottleTemp0.rtf"));
+    EXPECT_EQ(read.error().line, 2);
+    folder.write(u"temp/SingleThrottle.pos"_s, "left,2,3,4\r\n");
+    read = loadSingleForTransfer(SheetKind::Throttle, layouts);
+    ASSERT_FALSE(read);
+    EXPECT_TRUE(read.error().file.endsWith(u"SingleThrottle.pos"));
+    EXPECT_EQ(read.error().line, 1);
 }

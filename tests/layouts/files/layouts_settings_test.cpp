@@ -261,3 +261,11 @@ TEST_F(LayoutsIni, SettingTheSizeLetsBoxesMoveAgain)
     ASSERT_TRUE(keepLayoutSize(settings, store.files, { QSize(900, 700), false, true }));
     EXPECT_TRUE(values().repositions());
 }
+
+TEST_F(LayoutsIni, WhatAnOpenedLayoutHasSwitchedOffIsNotStoredWithTheSize)
+{
+    values().isRepositionOff = true;
+    ASSERT_TRUE(keepLayoutSize(settings, store.files, { QSize(900, 700), true, false }));
+    EXPECT_TRUE(ini().contains("RepositionOnSizeChange=1"));
+    EXPECT_FALSE(values().repositions());
+}
