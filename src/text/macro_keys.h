@@ -8,6 +8,8 @@
 #include "text/macro_table.h"
 #include "text/text_lines.h"
 
+#include <QHash>
+
 namespace zeph {
 
 /// A word of a text that is a macro. Start and length are 0-based characters.

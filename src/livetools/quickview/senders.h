@@ -8,6 +8,9 @@
 #include "livetools/quickview/assignments.h"
 #include "text/macro_keys.h"
 
+#include <QHash>
+#include <QSet>
+
 namespace zeph {
 
 /// A key with the modifier keys before it, or a macro's name. Everything is in lower case.
