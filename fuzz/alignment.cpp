@@ -5,6 +5,7 @@
 // chooses how far statements are moved in.
 
 #include "text/alignment.h"
+#include "text/digest.h"
 #include "text/text_lines.h"
 
 #include <QStringList>

@@ -185,104 +185,6 @@ QString aligned(QStringView text, const Rules &rules)
     return result;
 }
 
-struct UseRecord {
-    QStringView start;
-    QStringView label;
-};
-
-constexpr std::array<UseRecord, 5> useRecords = { {
-    { u"USE HAT1 AS"_w, u"Hat1:" },
-    { u"USE HAT2 AS"_w, u"Hat2:" },
-    { u"USE HAT3 AS"_w, u"Hat3:" },
-    { u"USE HAT4 AS"_w, u"Hat4:" },
-    { u"USE RADIOSWITCH AS"_w, u"Radio:" },
-} };
-constexpr QStringView mouseType = u"USE MTYPE A"_w;
-
-QStringView leadingDigits(QStringView text)
-{
-    const auto end = std::ranges::find_if_not(
-        text, [](QChar character) { return character >= u'0' && character <= u'9'; });
-    return text.first(end - text.begin());
-}
-
-/// The record's line for a USE line about a hat, the radio switch or the mouse; empty for other
-/// lines.
-QString useRecord(QStringView line)
-{
-    for (const UseRecord &each : useRecords) {
-        if (beginsAnyCase(line, each.start) && line.size() > each.start.size()) {
-            return each.label.toString() + line.sliced(each.start.size()).toString();
-        }
-    }
-    if (beginsAnyCase(line, mouseType)) {
-        const QStringView number = leadingDigits(line.sliced(mouseType.size()));
-        return number.isEmpty() ? QString() : u"MType: "_s + number.toString();
-    }
-    return {};
-}
-
-/// Whether the line begins with the word and goes on after a blank.
-bool begins(QStringView line, QStringView word)
-{
-    return line.size() > word.size() + 1 && line[word.size()] == u' ' && beginsAnyCase(line, word);
-}
-
-bool opensAxisRecord(QStringView line)
-{
-    return begins(line, u"CURVE"_w)
-        || std::ranges::any_of(wordsOf<language::AxisRole>(),
-                               [line](QStringView axis) { return begins(line, axis); });
-}
-
-class Digest
-{
-public:
-    void addLine(QStringView line)
-    {
-        if (isComment(line) || beginsAnyCase(line, u"DISABLE"_w) || line.size() < 2) {
-            return;
-        }
-        if (beginsAnyCase(line, u"USE"_w)) {
-            if (const QString record = useRecord(line); !record.isEmpty()) {
-                open();
-                write(record);
-            }
-            return;
-        }
-        if (beginsAnyCase(line, u"DEF"_w) || beginsAnyCase(line, u"BTN X"_w)) {
-            return;
-        }
-        constexpr QStringView button = u"BTN"_w;
-        if (begins(line, button)) {
-            open();
-            write(beforeRem(line.sliced(button.size() + 1)));
-            return;
-        }
-        if (opensAxisRecord(line)) {
-            open();
-        }
-        write(beforeRem(line));
-    }
-
-    QString take()
-    {
-        open();
-        write(u"END");
-        return std::move(m_text);
-    }
-
-private:
-    void open() { write(u"***"); }
-    void write(QStringView line)
-    {
-        m_text += line;
-        m_text += u" \n";
-    }
-
-    QString m_text;
-};
-
 } // namespace
 
 QString AlignSlashes(QStringView text, const IndentOptions &options)
@@ -325,17 +227,6 @@ qsizetype placeAfterAligning(QStringView before, QStringView aligned, qsizetype 
 QString AlignForLayouts(QStringView text)
 {
     return aligned(text, { keptColumns, layoutColumn, QString() });
-}
-
-QString LeftAlignAnalyse(QStringView text)
-{
-    Digest digest;
-    forEachLine(text, [&digest](QStringView line) {
-        if (line.size() >= 3) {
-            digest.addLine(normalisedLine(line));
-        }
-    });
-    return digest.take();
 }
 
 } // namespace zeph

@@ -31,8 +31,4 @@ qsizetype placeAfterAligning(QStringView before, QStringView aligned, qsizetype 
 /// the sheets that pilots have printed look like that.
 QString AlignForLayouts(QStringView text);
 
-/// The digest that Quick View reads: a list of records, each begun by a line "*** ", and a line
-/// "END " after the last record.
-QString LeftAlignAnalyse(QStringView text);
-
 } // namespace zeph

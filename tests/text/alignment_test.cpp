@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "text/alignment.h"
+#include "text/digest.h"
 
 #include "tests/text/alignment_twin.h"
 

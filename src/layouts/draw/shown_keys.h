@@ -7,16 +7,15 @@
 
 #include "layouts/files/layouts_settings.h"
 #include "platform/core/rich_text.h"
-#include "text/macro_table.h"
+#include "text/macro_keys.h"
 
 namespace zeph {
 
-/// The keys of a file's macros, for many texts. Macros within a macro's keys are shown as keys too;
-/// one that leads back to itself stays a name there.
+/// The keys of a file's macros, for many boxes.
 class ShownKeys
 {
 public:
-    explicit ShownKeys(const MacroTable &table);
+    explicit ShownKeys(const MacroTable &table) : m_keys(table) { }
 
     /// The text with its macros shown in that way; both together are the name and then, between ‹
     /// and ›, its keys. Replaced characters look like the name that they replace. Comments
@@ -24,9 +23,7 @@ public:
     RichText shown(const RichText &text, MacroNames way) const;
 
 private:
-    QString expanded(const QString &keys, QStringList &within) const;
-
-    QHash<QString, QString> m_keys; ///< by the name in lower case
+    MacroKeys m_keys;
 };
 
 } // namespace zeph
