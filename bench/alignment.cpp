@@ -5,10 +5,10 @@
 // Editor window alignment, block comments and Replace All of as many hits.
 
 #include "text/alignment.h"
-#include "text/digest.h"
 #include "documents/undo_histories.h"
 #include "editor/edit/findandreplace.h"
 #include "tests/support/editor_world.h"
+#include "text/digest.h"
 
 #include <benchmark/benchmark.h>
 
