@@ -3,18 +3,20 @@
 
 // The layout sheets' pure half: both sheets analysed from a joystick file of 10,000 and 50,000
 // lines, their boxes and a box of 10,000 lines coloured in both ways, 100,000 characters as
-// mark-up. And what is seen of them: sheets arranged, drawn while a box is dragged, and written.
+// mark-up. And what is seen of them: windows opened, sheets arranged, drawn while a box is dragged,
+// and written.
 
 #include "layouts/analysis/box_colours.h"
 #include "layouts/analysis/box_texts.h"
 #include "layouts/draw/sheet_exports.h"
 #include "layouts/markup/markup.h"
 #include "tests/layouts/draw/sheets_of_files.h"
+#include "tests/layouts/window/sheet_window_fixture.h"
 #include "text/painter.h"
 
 #include <benchmark/benchmark.h>
 
-#include <QGuiApplication>
+#include <QApplication>
 #include <QPainter>
 
 using namespace zeph;
@@ -198,6 +200,31 @@ void Exported(benchmark::State &state, QStringView ending)
     }
 }
 
+/// The window's world, with a joystick file of so many lines.
+class SheetWorld : public test::SheetWindowTest
+{
+public:
+    explicit SheetWorld(int lines) { setText(longFile(lines)); }
+    void openSheet() { openShown({ 1100, 900 }); }
+    void closeSheet() { window.reset(); }
+
+private:
+    void TestBody() override { }
+};
+
+/// Analysed, coloured, arranged and painted.
+void SheetOpened(benchmark::State &state)
+{
+    SheetWorld world(int(state.range(0)));
+    for (auto _ : state) {
+        world.openSheet();
+        state.PauseTiming();
+        world.closeSheet();
+        state.ResumeTiming();
+    }
+}
+
+BENCHMARK(SheetOpened)->Arg(100)->Arg(10000)->Unit(benchmark::kMillisecond);
 BENCHMARK(FirstSheet)->Arg(0)->Arg(300)->Unit(benchmark::kMillisecond);
 BENCHMARK(DrawnWhileABoxMoves)
     ->Args({ 0, 1 })
@@ -221,7 +248,7 @@ BENCHMARK(Markup)->Arg(100000)->Arg(1000000)->Unit(benchmark::kMillisecond);
 int main(int argc, char **argv)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QGuiApplication application(argc, argv);
+    const QApplication application(argc, argv);
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();
     return 0;
