@@ -15,6 +15,8 @@ using namespace zeph;
 
 namespace {
 
+constexpr int macroCount = 2000;
+
 /// Statements of four lines, of all controls again and again.
 QString longFile(int lines)
 {
@@ -27,7 +29,7 @@ QString longFile(int lines)
                 + u" /U /I Radar_Mode DLY(60) /O Missile_Mode Rem first"_s;
             break;
         case 1:
-            text += u"/M\t/I Radar_Gain"_s + QString::number(line);
+            text += u"/M\t/I Radar_Gain"_s + QString::number(line % macroCount);
             break;
         case 2:
             text += u"  /O KD(a) /P b /R KU(a)"_s;
@@ -74,7 +76,7 @@ void StateWithoutChange(benchmark::State &state)
 void WhoSends(benchmark::State &state)
 {
     QString macros;
-    for (int macro = 0; macro < 2000; ++macro) {
+    for (int macro = 0; macro < macroCount; ++macro) {
         macros += u"Radar_Gain%1 = SHF r Radar_Gain%2\n"_s.arg(macro).arg(macro + 1);
     }
     const MacroKeys keys(extractMacros(usableMacroLines(macros)));

@@ -4,6 +4,9 @@
 #include "layouts/analysis/box_texts.h"
 
 #include "text/insert_blocks.h"
+#include "text/mouse_types.h"
+
+#include <iterator>
 
 namespace zeph {
 
@@ -152,42 +155,44 @@ const BoxRows &rowsOf(SheetKind kind)
     return none;
 }
 
-const QString leftButton = u" Left mouse button"_s;
-const QString rightButton = u" Right mouse button"_s;
-
 std::optional<QString> unlessEmpty(const QString &text)
 {
     return text.isEmpty() ? std::nullopt : std::optional(text);
 }
 
-/// What T1 does by the mouse's type. A type that is none leaves it without a text.
-std::optional<QString> taskOfT1(int mouseType)
+/// Null for a number that is no mouse type.
+const MouseType *mouseTypeOf(int number)
 {
-    switch (mouseType) {
-    case 1:
-    case 3:
-        return leftButton;
-    case 2:
-    case 4:
-        return rightButton;
-    case 0:
-    case 5:
-        return std::nullopt;
-    default:
-        return QString();
-    }
+    const bool isOne = number >= 1 && number <= int(std::size(mouseTypes));
+    return isOne ? &mouseTypes[number - 1] : nullptr;
 }
 
-std::optional<QString> taskOfT6(int mouseType)
+std::optional<QString> taskOf(MouseButton button)
 {
-    switch (mouseType) {
-    case 1:
-        return rightButton;
-    case 2:
-        return leftButton;
-    default:
-        return std::nullopt;
+    switch (button) {
+    case MouseButton::Left:
+        return u" Left mouse button"_s;
+    case MouseButton::Right:
+        return u" Right mouse button"_s;
+    case MouseButton::None:
+        break;
     }
+    return std::nullopt;
+}
+
+/// A number that is no mouse type leaves T1 without a text.
+std::optional<QString> taskOfT1(int number)
+{
+    if (const MouseType *type = mouseTypeOf(number)) {
+        return taskOf(type->t1);
+    }
+    return number == 0 ? std::nullopt : std::optional(QString());
+}
+
+std::optional<QString> taskOfT6(int number)
+{
+    const MouseType *type = mouseTypeOf(number);
+    return type ? taskOf(type->t6) : std::nullopt;
 }
 
 /// What USE lines give a box instead of its statements.
