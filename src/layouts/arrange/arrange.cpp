@@ -3,185 +3,64 @@
 
 #include "layouts/arrange/arrange.h"
 
+#include "layouts/arrange/arranger.h"
 #include "layouts/arrange/stacking.h"
-#include "layouts/draw/box_text.h"
 
 #include <algorithm>
-#include <cmath>
 #include <limits>
-#include <map>
 #include <optional>
-#include <span>
 #include <tuple>
-#include <utility>
 
 namespace zeph {
 
+namespace arranging {
+
 namespace {
 
-constexpr double margin = 20;
-constexpr double gap = 10;
 constexpr double ownBoxHeight = 50; ///< of the pilot's own boxes, at least
 constexpr double titleShare = 0.2; ///< of the sheet's height, at most
 constexpr size_t titleBoxes = 3;
 constexpr size_t ownBoxes = 3;
 constexpr size_t mostInRow = 3;
 constexpr size_t mostBelow = 3; ///< boxes of controls that may stand under the picture
-// Between a column and the picture; the first where there is room for it.
-constexpr double wideCorridor = 36;
+// Between a column and the picture, at least.
 constexpr double leastCorridor = 16;
 constexpr double goodColumn = 150;
 constexpr double leastColumn = 100;
-// What speaks against an arrangement, in pixels of leader line: a crossing of two lines or of a
-// line and a box, a line over another control, and each pixel of height that the texts lack.
-constexpr double crossingCost = 2000;
-constexpr double overControlCost = 60;
+// For each pixel of height that the texts lack, in pixels of leader line.
 constexpr double lackCost = 2;
 // Plans that lack so much more height than the best are not looked into.
 constexpr double worthATry = 500;
 
-using Indices = std::vector<size_t>;
+} // namespace
 
-/// Boxes that share a row, side by side.
-struct Row {
-    Indices boxes;
-    double height = 0;
-};
-
-/// Which boxes stand where around the picture.
-struct Plan {
-    Indices left;
-    Indices right;
-    std::vector<Row> rows; ///< under the picture, from the top
-};
-
-/// What is against an arrangement.
-struct Result {
-    double lack = 0; ///< of height for the texts, in pixels
-    double cost = 0; ///< of all, in pixels of leader line
-};
-
-struct Column {
-    double left = 0;
-    Indices boxes;
-    std::vector<double> heights;
-    std::vector<double> tops;
-};
-
-int crossings(const std::vector<QLineF> &lines)
+void Arranger::run()
 {
-    int count = 0;
-    for (size_t i = 0; i < lines.size(); ++i) {
-        for (size_t j = i + 1; j < lines.size(); ++j) {
-            count += lines[i].intersects(lines[j]) == QLineF::BoundedIntersection ? 1 : 0;
+    placeTitleBlock();
+    collect();
+    // The more rows stand over the whole width, the better the sheet looks, if there is room.
+    const std::vector<Row> rows = wideRows();
+    const auto all = std::tuple(m_area, m_unplaced, m_own);
+    std::optional<Sheet> best;
+    Result bestResult{ .lack = 1, .cost = std::numeric_limits<double>::max() };
+    for (size_t first = 0; first <= rows.size() && bestResult.lack > 0; ++first) {
+        std::tie(m_area, m_unplaced, m_own) = all;
+        placeWide(std::span(rows).subspan(first));
+        if (!fitsAroundPicture()) {
+            continue;
+        }
+        if (const Result result = arrangeAroundPicture(); result.cost < bestResult.cost) {
+            best = m_sheet;
+            bestResult = result;
         }
     }
-    return count;
+    if (best) {
+        m_sheet = *best;
+    } else {
+        std::tie(m_area, m_unplaced, m_own) = all;
+        arrangeInColumns();
+    }
 }
-
-bool passesOver(const QLineF &line, const QRectF &place)
-{
-    return line.intersects(QLineF(place.topLeft(), place.bottomRight()))
-        == QLineF::BoundedIntersection
-        || line.intersects(QLineF(place.bottomLeft(), place.topRight()))
-        == QLineF::BoundedIntersection;
-}
-
-/// The part of a control that a line to another one should keep clear of.
-QRectF middleOf(const QRectF &control)
-{
-    const double x = control.width() / 4;
-    const double y = control.height() / 4;
-    return control.adjusted(x, y, -x, -y);
-}
-
-class Arranger
-{
-public:
-    Arranger(Sheet &sheet, const PictureWithControls &picture, const CharFormat &plain)
-        : m_sheet(sheet), m_picture(picture),
-          m_area(margin, margin, sheet.width - 2 * margin, sheet.height - 2 * margin)
-    {
-        for (const LayoutTextBox &box : sheet.boxes) {
-            m_texts.emplace_back(box.text, plain, 0);
-        }
-    }
-
-    void run()
-    {
-        placeTitleBlock();
-        collect();
-        // The more rows stand over the whole width, the better the sheet looks, if there is room.
-        const std::vector<Row> rows = wideRows();
-        const auto all = std::tuple(m_area, m_unplaced, m_own);
-        std::optional<Sheet> best;
-        Result bestResult{ .lack = 1, .cost = std::numeric_limits<double>::max() };
-        for (size_t first = 0; first <= rows.size() && bestResult.lack > 0; ++first) {
-            std::tie(m_area, m_unplaced, m_own) = all;
-            placeWide(std::span(rows).subspan(first));
-            if (!fitsAroundPicture()) {
-                continue;
-            }
-            if (const Result result = arrangeAroundPicture(); result.cost < bestResult.cost) {
-                best = m_sheet;
-                bestResult = result;
-            }
-        }
-        if (best) {
-            m_sheet = *best;
-        } else {
-            std::tie(m_area, m_unplaced, m_own) = all;
-            arrangeInColumns();
-        }
-    }
-
-private:
-    // Measures.
-    double neededHeight(size_t box, double width);
-    std::vector<double> neededHeights(const Indices &boxes, double width);
-    std::vector<Row> rowsOf(const Indices &boxes, double width);
-    static double cellWidth(double width, size_t cells)
-    {
-        return std::floor((width - gap * double(cells - 1)) / double(cells));
-    }
-    QRectF centre() const;
-    bool fitsAroundPicture();
-    double leastHeight(size_t moreRows) const;
-
-    // Steps.
-    void placeTitleBlock();
-    void collect();
-    std::vector<Row> wideRows();
-    void placeWide(std::span<const Row> rows);
-    Result arrangeAroundPicture();
-    void arrangeInColumns();
-    std::vector<Plan> plans();
-    std::vector<Row> rowsWith(const Indices &below);
-    double overflow(const Plan &plan);
-    double place(const Plan &plan);
-    void order(Column &column);
-    void stack(Column &column) const;
-    double cost(const Column &column) const;
-    std::vector<QLineF> linesOf(const Column &column) const;
-    double overOthers(const std::vector<QLineF> &lines, const Indices &boxes) const;
-    void placeRows(const std::vector<Row> &rows);
-    void putRow(const Row &row, const QRectF &space, double bottom, double height);
-    void put(const Column &column);
-    void put(size_t box, const QRectF &place);
-    QRectF control(size_t box) const { return controlOnSheet(m_sheet, m_picture, box); }
-
-    Sheet &m_sheet;
-    const PictureWithControls &m_picture;
-    QRectF m_area; ///< what is left for boxes and picture
-    std::vector<BoxText> m_texts;
-    std::map<std::pair<size_t, double>, double> m_heights; ///< needed by a box of some width
-    Indices m_placed; ///< boxes whose controls are on the picture
-    Indices m_unplaced; ///< boxes of other controls
-    Indices m_own; ///< the pilot's own
-    std::vector<QRectF> m_rowBoxes; ///< boxes under the picture
-    double m_corridor = wideCorridor;
-    double m_columnWidth = 0;
-};
 
 double Arranger::neededHeight(size_t box, double width)
 {
@@ -472,128 +351,13 @@ void Arranger::placeRows(const std::vector<Row> &rows)
     picture.Top = float(std::floor((space.top() + room - m_picture.size.height()) / 2));
 }
 
-void Arranger::stack(Column &column) const
-{
-    std::vector<double> middles;
-    for (const size_t box : column.boxes) {
-        middles.push_back(control(box).center().y());
-    }
-    column.tops = stacked(column.heights, middles, gap, m_area.top(), m_area.bottom());
-}
-
-/// Finds an order of the column's boxes in which their lines are short and cross little, from that
-/// of their controls' heights on.
-void Arranger::order(Column &column)
-{
-    std::ranges::stable_sort(column.boxes, {},
-                             [this](size_t box) { return control(box).center().y(); });
-    const double gaps = column.boxes.empty() ? 0 : gap * double(column.boxes.size() - 1);
-    column.heights = squeezed(neededHeights(column.boxes, m_columnWidth), m_area.height() - gaps);
-    stack(column);
-    double best = cost(column);
-    for (bool isBetter = true; isBetter;) {
-        isBetter = false;
-        for (size_t i = 0; i + 1 < column.boxes.size(); ++i) {
-            Column other = column;
-            std::swap(other.boxes[i], other.boxes[i + 1]);
-            std::swap(other.heights[i], other.heights[i + 1]);
-            stack(other);
-            if (const double value = cost(other); value < best - 1) {
-                column = std::move(other);
-                best = value;
-                isBetter = true;
-            }
-        }
-    }
-}
-
-std::vector<QLineF> Arranger::linesOf(const Column &column) const
-{
-    std::vector<QLineF> lines;
-    for (size_t i = 0; i < column.boxes.size(); ++i) {
-        const QRectF box(column.left, column.tops[i], m_columnWidth, column.heights[i]);
-        lines.push_back(leaderLine(box, control(column.boxes[i])));
-    }
-    return lines;
-}
-
-double Arranger::cost(const Column &column) const
-{
-    const std::vector<QLineF> lines = linesOf(column);
-    double value = crossingCost * crossings(lines) + overOthers(lines, column.boxes);
-    for (const QLineF &line : lines) {
-        value += line.length();
-    }
-    return value;
-}
-
-/// For lines of a column over the controls and boxes of others.
-double Arranger::overOthers(const std::vector<QLineF> &lines, const Indices &boxes) const
-{
-    double value = 0;
-    for (size_t i = 0; i < lines.size(); ++i) {
-        for (const size_t box : m_placed) {
-            const bool isOver = box != boxes[i] && passesOver(lines[i], middleOf(control(box)));
-            value += isOver ? overControlCost : 0;
-        }
-        for (const QRectF &box : m_rowBoxes) {
-            value += passesOver(lines[i], box) ? crossingCost : 0;
-        }
-    }
-    return value;
-}
-
-void Arranger::put(const Column &column)
-{
-    for (size_t i = 0; i < column.boxes.size(); ++i) {
-        put(column.boxes[i], QRectF(column.left, column.tops[i], m_columnWidth, column.heights[i]));
-    }
-}
-
-/// Columns side by side over the whole sheet, in the order of the boxes.
-void Arranger::arrangeInColumns()
-{
-    constexpr double columnWidth = 200;
-    const size_t count = size_t(std::max(2.0, std::floor(m_area.width() / columnWidth)));
-    m_columnWidth = cellWidth(m_area.width(), count);
-    Indices all;
-    for (const Indices *each : { &m_placed, &m_unplaced, &m_own }) {
-        all.insert(all.end(), each->begin(), each->end());
-    }
-    std::ranges::sort(all);
-    const std::vector<double> heights = neededHeights(all, m_columnWidth);
-    const double share = stackHeight(heights, gap) / double(count);
-    size_t next = 0;
-    double used = 0;
-    for (size_t i = 0; i < count; ++i) {
-        Column column;
-        column.left = m_area.left() + double(i) * (m_columnWidth + gap);
-        while (next < all.size()
-               && (i + 1 == count || used + heights[next] / 2 <= share * double(i + 1))) {
-            used += heights[next] + gap;
-            column.boxes.push_back(all[next]);
-            column.heights.push_back(heights[next]);
-            ++next;
-        }
-        const double gaps = column.boxes.empty() ? 0 : gap * double(column.boxes.size() - 1);
-        column.heights = squeezed(column.heights, m_area.height() - gaps);
-        column.tops = stacked(column.heights, std::vector<double>(column.boxes.size(), 0), gap,
-                              m_area.top(), m_area.bottom());
-        put(column);
-    }
-    if (!m_sheet.pictures.empty()) {
-        SheetPicture &picture = m_sheet.pictures.front();
-        picture.Left = float(std::round(m_area.center().x() - m_picture.size.width() / 2.0));
-        picture.Top = float(std::max(0.0, m_area.center().y() - m_picture.size.height() / 2.0));
-    }
-}
-
-} // namespace
+} // namespace arranging
 
 void RepositionTextBoxes(Sheet &sheet, const PictureWithControls &picture, const CharFormat &plain)
 {
-    if (sheet.kind != SheetKind::Custom && sheet.boxes.size() > titleBoxes + ownBoxes) {
-        Arranger(sheet, picture, plain).run();
+    if (sheet.kind != SheetKind::Custom
+        && sheet.boxes.size() > arranging::titleBoxes + arranging::ownBoxes) {
+        arranging::Arranger(sheet, picture, plain).run();
     }
 }
 
