@@ -63,15 +63,15 @@ QString soughtKey(const BoardKey &key, Qt::KeyboardModifiers held)
 }
 
 SenderSearch::SenderSearch(Dialogs &dialogs, QWidget *parent)
-    : QWidget(parent), m_dialogs(dialogs), m_field(new QLineEdit(this)),
-      m_listen(new QPushButton(u"&Listen"_s, this)), m_result(new QLabel(this)),
-      m_names(new QStringListModel(this)), m_listener(new KeyListener(dialogs, *this, *m_listen))
+    : QWidget(parent), m_field(new QLineEdit(this)), m_listen(new QPushButton(u"&Listen"_s, this)),
+      m_result(new QLabel(this)), m_names(new QStringListModel(this)),
+      m_listener(new KeyListener(dialogs, *this, *m_listen))
 {
     makeControls();
     layOut();
     connectListener();
     connect(m_field, &QLineEdit::textChanged, this,
-            guarded(m_dialogs, [this](const QString &text) { typed(text); }));
+            guarded(dialogs, [this](const QString &text) { typed(text); }));
 }
 
 void SenderSearch::makeControls()
