@@ -24,7 +24,7 @@ namespace {
 constexpr QStringView listening = u"Listening: press a key. A click or Escape twice ends it.";
 constexpr QStringView unknownKey = u"Listening: your files have no such key.";
 constexpr QStringView nothingSends = u"Nothing sends it.";
-constexpr int fieldWidth = 16; ///< at least so many letters
+constexpr int fieldWidth = 22; ///< at least so many letters
 
 QString counted(size_t number, QStringView word)
 {
@@ -102,7 +102,7 @@ void SenderSearch::layOut()
     caption->setObjectName(u"LabelSought"_s);
     caption->setBuddy(m_field);
     auto *row = new QHBoxLayout(this);
-    row->setContentsMargins({});
+    row->setContentsMargins(0, 4, 0, 4);
     row->addWidget(caption);
     row->addWidget(m_field, 1);
     row->addWidget(m_listen);
