@@ -9,9 +9,13 @@
 #include <QAbstractTextDocumentLayout>
 #include <QApplication>
 #include <QClipboard>
+#include <QCryptographicHash>
 #include <QDateTime>
 #include <QDir>
+#include <QImage>
+#include <QKeySequence>
 #include <QPlainTextEdit>
+#include <QTest>
 #include <QTextBlock>
 #include <QTextLayout>
 
@@ -85,6 +89,77 @@ bool items(Notes &notes, const QString &name, const QString &wanted)
     return true;
 }
 
+bool ticked(const QString &name, bool wanted)
+{
+    const QAction *entry = actionNamed(name);
+    return entry && entry->isChecked() == wanted;
+}
+
+bool noteCaret(Notes &notes, const QString &name, const QString &wanted)
+{
+    const auto *edit = qobject_cast<QPlainTextEdit *>(widgetNamed(name));
+    const QTextBlock line = edit ? edit->textCursor().block() : QTextBlock();
+    if (!line.isValid() || !line.text().contains(wanted)) {
+        return false;
+    }
+    notes.note(
+        QStringLiteral("%1 line %2: %3").arg(name).arg(line.blockNumber() + 1).arg(line.text()));
+    return true;
+}
+
+bool moveCaret(const QString &name, int line)
+{
+    auto *edit = qobject_cast<QPlainTextEdit *>(widgetNamed(name));
+    if (!edit || !edit->isVisible()) {
+        return false;
+    }
+    edit->setTextCursor(QTextCursor(edit->document()->findBlockByNumber(line - 1)));
+    return true;
+}
+
+bool stroke(const QString &keys)
+{
+    QWidget *control = QApplication::activePopupWidget();
+    if (!control) {
+        control = QApplication::focusWidget();
+    }
+    if (!control) {
+        control = QApplication::activeWindow();
+    }
+    if (!control) {
+        return false;
+    }
+    const QKeyCombination key = QKeySequence(keys)[0];
+    later(control, [key](QWidget *pressed) {
+        QTest::keyClick(pressed, key.key(), key.keyboardModifiers());
+    });
+    return true;
+}
+
+bool noteFace(Notes &notes, const QString &name)
+{
+    QWidget *control = widgetNamed(name);
+    if (!control || !control->isVisible()) {
+        return false;
+    }
+    const QImage face = control->grab().toImage();
+    const auto bytes = QByteArray::fromRawData(reinterpret_cast<const char *>(face.constBits()),
+                                               face.sizeInBytes());
+    const QByteArray hash = QCryptographicHash::hash(bytes, QCryptographicHash::Md5).toHex();
+    notes.note(QLatin1String("face ") + name + QLatin1Char(' ') + QString::fromLatin1(hash));
+    return true;
+}
+
+bool noteFocus(Notes &notes, const QString &wanted)
+{
+    const QWidget *control = QApplication::focusWidget();
+    if (!control || !control->objectName().startsWith(wanted)) {
+        return false;
+    }
+    notes.note(QLatin1String("focus ") + control->objectName());
+    return true;
+}
+
 } // namespace
 
 std::optional<bool> performOnScene(Notes &notes, const QString &verb, const QString &rest)
@@ -111,6 +186,24 @@ std::optional<bool> performOnScene(Notes &notes, const QString &verb, const QStr
     if (verb == QLatin1String("minimised")) {
         const QWidget *window = windowTitled(rest);
         return window && window->isMinimized();
+    }
+    if (verb == QLatin1String("ticked")) {
+        return ticked(first, second == QLatin1String("1"));
+    }
+    if (verb == QLatin1String("caret")) {
+        return noteCaret(notes, first, second);
+    }
+    if (verb == QLatin1String("line")) {
+        return moveCaret(first, second.toInt());
+    }
+    if (verb == QLatin1String("stroke")) {
+        return stroke(rest);
+    }
+    if (verb == QLatin1String("face")) {
+        return noteFace(notes, rest);
+    }
+    if (verb == QLatin1String("focus")) {
+        return noteFocus(notes, rest);
     }
     if (verb == QLatin1String("clipboard")) {
         QApplication::clipboard()->setText(rest);
