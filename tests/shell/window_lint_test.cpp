@@ -29,6 +29,7 @@
 #include "lists/user_lists.h"
 #include "livetools/keytestform.h"
 #include "livetools/pictures/viewimage.h"
+#include "livetools/quickview/coverage_window.h"
 #include "platform/tool_windows.h"
 #include "preferences/preferences.h"
 #include "print/printpreview.h"
@@ -313,6 +314,10 @@ const LintCase cases[] = {
     { "KeyTestForm",
       [](auto &w) { return std::make_unique<KeyTestForm>(w.context(), KeyTestEntries()); },
       ShowsEscape },
+    { "CoverageWindow",
+      [](auto &w) {
+          return std::make_unique<CoverageWindow>(w.context());
+      } },
     { "ViewImage",
       [](auto &w) {
           auto *entry = new QAction;
