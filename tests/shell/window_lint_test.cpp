@@ -9,6 +9,7 @@
 #include "composer/wizards/wizardjoystickfile.h"
 #include "composer/wizards/wizardmacrofile.h"
 #include "cougar/controls_picture.h"
+#include "documents/documents.h"
 #include "documents/styleeditor.h"
 #include "editor/edit/findandreplace.h"
 #include "editor/edit/insert_windows.h"
@@ -30,6 +31,8 @@
 #include "livetools/keytestform.h"
 #include "livetools/pictures/viewimage.h"
 #include "livetools/quickview/coverage_window.h"
+#include "livetools/quickview/quickview.h"
+#include "platform/fakes/fake_joystick.h"
 #include "platform/tool_windows.h"
 #include "preferences/preferences.h"
 #include "print/printpreview.h"
@@ -317,6 +320,16 @@ const LintCase cases[] = {
     { "CoverageWindow",
       [](auto &w) {
           return std::make_unique<CoverageWindow>(w.context());
+      } },
+    { "QuickView",
+      [](auto &w) {
+          static FakeJoystick stick;
+          static const MacroTable noMacros;
+          auto documents = std::make_unique<Documents>(w.context());
+          auto window = std::make_unique<QuickView>(
+              w.context(), QuickViewSources{ *documents, noMacros, stick });
+          documents.release()->setParent(window.get());
+          return window;
       } },
     { "ViewImage",
       [](auto &w) {

@@ -37,6 +37,7 @@ constexpr int joyTimerMs = 100;
 /// After the last key, so that nobody waits for the picture while typing.
 constexpr int typingMs = 500;
 constexpr int helpTopic = 296;
+constexpr int searchMargin = 8;
 
 /// The boxes that a click selects when nothing else tells the position.
 constexpr int upBox = 0;
@@ -92,6 +93,7 @@ QuickView::QuickView(const Context &context, const QuickViewSources &sources, QW
     m_shown = std::make_unique<ShownColumn>(picture());
     setWindowFlag(Qt::Window);
     m_actions->addTo(*m_ui->MenuBar1);
+    m_search->setContentsMargins(searchMargin, 0, searchMargin, 0);
     m_ui->layoutCentre->addWidget(m_search);
     m_search->hide();
     m_joyTimer->setObjectName(u"JoyTimer"_s);
