@@ -13,11 +13,20 @@
 #include <QDateTime>
 #include <QDir>
 #include <QImage>
+#include <QKeyEvent>
 #include <QKeySequence>
 #include <QPlainTextEdit>
-#include <QTest>
+#include <QPointer>
 #include <QTextBlock>
 #include <QTextLayout>
+
+// What the toolkit's own tests press keys with.
+QT_BEGIN_NAMESPACE
+Q_GUI_EXPORT bool qt_sendShortcutOverrideEvent(QObject *control, ulong timestamp, int key,
+                                               Qt::KeyboardModifiers modifiers,
+                                               const QString &text = QString(),
+                                               bool autoRepeat = false, ushort count = 1);
+QT_END_NAMESPACE
 
 namespace {
 
@@ -117,6 +126,24 @@ bool moveCaret(const QString &name, int line)
     return true;
 }
 
+/// Shortcuts come first, as from a keyboard.
+void pressKey(QWidget &control, QKeyCombination key)
+{
+    const bool types = key.key() < Qt::Key_Escape
+        && !(key.keyboardModifiers() & (Qt::ControlModifier | Qt::AltModifier));
+    const QString text = types ? QString(QChar(char16_t(key.key()))) : QString();
+    if (qt_sendShortcutOverrideEvent(&control, 0, key.key(), key.keyboardModifiers(), text)) {
+        return;
+    }
+    const QPointer<QWidget> alive(&control);
+    for (const auto type : { QEvent::KeyPress, QEvent::KeyRelease }) {
+        QKeyEvent event(type, key.key(), key.keyboardModifiers(), text);
+        if (alive) {
+            QApplication::sendEvent(alive, &event);
+        }
+    }
+}
+
 bool stroke(const QString &keys)
 {
     QWidget *control = QApplication::activePopupWidget();
@@ -130,9 +157,7 @@ bool stroke(const QString &keys)
         return false;
     }
     const QKeyCombination key = QKeySequence(keys)[0];
-    later(control, [key](QWidget *pressed) {
-        QTest::keyClick(pressed, key.key(), key.keyboardModifiers());
-    });
+    later(control, [key](QWidget *at) { pressKey(*at, key); });
     return true;
 }
 
