@@ -160,7 +160,7 @@ bool SenderSearch::eventFilter(QObject *watched, QEvent *event)
         event->type() == QEvent::KeyPress || event->type() == QEvent::ShortcutOverride;
     if (watched == m_field && isKey && !m_field->text().isEmpty()
         && static_cast<QKeyEvent *>(event)->key() == Qt::Key_Escape) {
-        // An empty field leaves Escape to the window, which closes by it.
+        // An empty field leaves Escape to the window, which puts the search away by it.
         event->accept();
         if (event->type() == QEvent::KeyPress) {
             m_field->clear();
