@@ -8,6 +8,7 @@
 #include "layouts/draw/first_sheet.h"
 #include "layouts/draw/sheet_exports.h"
 #include "layouts/files/layouts_settings.h"
+#include "platform/core/per_user_folder.h"
 #include "settings/colour_settings.h"
 #include "shell/settings/settings_moments.h"
 #include "text/text_lines.h"
@@ -217,7 +218,7 @@ SheetExit runSheetCommand(const QStringList &arguments, const QString &appFolder
 QString sheetCommandFolder(const QString &executableFolder, const QString &perUser)
 {
     // The program makes a folder of the user's own where it cannot write beside itself.
-    const bool isOthers = !QFileInfo(executableFolder).isWritable();
+    const bool isOthers = !canMakeFilesIn(executableFolder);
     return nativeSeparators(
         isOthers && QFileInfo::exists(perUser + u"/Zeph.ini"_s) ? perUser : executableFolder);
 }

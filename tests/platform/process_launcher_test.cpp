@@ -151,6 +151,8 @@ private:
 
 } // namespace
 
+#ifdef Q_OS_UNIX
+
 TEST(SystemLauncher, FilesAndAddressesGoToTheDesktop)
 {
     const TempFolder folder;
@@ -164,8 +166,6 @@ TEST(SystemLauncher, FilesAndAddressesGoToTheDesktop)
               QFileInfo(path).canonicalFilePath());
     EXPECT_EQ(pages.urls, QList<QUrl>{ QUrl(u"http://localhost/page"_s) });
 }
-
-#ifdef Q_OS_UNIX
 
 namespace {
 

@@ -131,3 +131,26 @@ TEST(StoredValue, IsMeantFromTheFolderOfTheStore)
     EXPECT_EQ(resolvedValue(store, u"Miscellaneous", u"RestoreJoyFile", stored), path);
     EXPECT_EQ(resolvedValue(store, u"Miscellaneous", u"PilotCallsign", stored), stored);
 }
+
+#ifdef Q_OS_WIN
+
+TEST(StoredPath, NamesOfDrivesAndSharesHaveNoCase)
+{
+    EXPECT_EQ(storedPath(u"e:\\STICK\\zeph\\Files\\a.tmj"_s, u"E:\\Stick\\Zeph"_s),
+              u"Files\\a.tmj");
+    EXPECT_EQ(
+        storedPath(u"\\\\Server\\pilots\\Zeph\\Files\\a.tmj"_s, u"\\\\server\\Pilots\\Zeph"_s),
+        u"Files\\a.tmj");
+    EXPECT_EQ(storedPath(u"F:\\Stick\\Zeph\\a.tmj"_s, u"E:\\Stick\\Zeph"_s),
+              u"F:\\Stick\\Zeph\\a.tmj");
+}
+
+TEST(ResolvedPath, GoesWithTheFolderToAnotherDriveAndToAShare)
+{
+    for (const QString &folder : { u"F:\\Zeph"_s, u"\\\\server\\share\\Zeph"_s }) {
+        EXPECT_EQ(resolvedPath(u"Files/a.tmj"_s, folder), folder + u"\\Files\\a.tmj");
+        EXPECT_EQ(resolvedPath(u"..\\a.tmj"_s, folder), folder.chopped(4) + u"a.tmj");
+    }
+}
+
+#endif
