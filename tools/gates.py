@@ -54,7 +54,7 @@ MAY = {
     "templates": LOW,
     "editor": MIDDLE,
     "toolchain": MIDDLE,
-    "livetools": MIDDLE | {"toolchain"},
+    "livetools": MIDDLE | {"cougar", "toolchain"},
     "composer": MIDDLE | {"cougar", "livetools"},
     "layouts": MIDDLE | {"cougar", "livetools"},
     "lists": MIDDLE | {"editor", "toolchain"},

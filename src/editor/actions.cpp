@@ -216,7 +216,7 @@ constexpr std::array actions = {
     ActionRow{u"mnuApps", u"mnuMacroWizard", u"Macro file &wizard", u"", u"Makes a macro file with you, step by step", u"", Always, Entry},
     ActionRow{u"mnuApps", u"mnuJoystickWizard", u"Joystick file wi&zard", u"", u"Makes a joystick file with you, step by step", u"", Always, Entry},
     ActionRow{u"mnuApps", u"mnuSpeedy", u"Spee&dy", u"", u"Writes many macros fast", u"", Always, Entry},
-    ActionRow{u"mnuApps", u"mnuAppsQuickView", u"&Quick View", u"Shift+F4", u"Shows live which statement a control would perform", u"quick-view", Later, Entry},
+    ActionRow{u"mnuApps", u"mnuAppsQuickView", u"&Quick View", u"Shift+F4", u"Shows live which statement a control would perform", u"quick-view", Always, Entry},
     separator(u"mnuApps"),
     ActionRow{u"mnuApps", u"mnuAppsJoystickLayout", u"&Joystick layout editor", u"Shift+F5", u"A reference sheet of the stick", u"layout-joystick", Always, Entry},
     ActionRow{u"mnuApps", u"mnuAppsThrottleLayout", u"T&hrottle layout editor", u"Shift+F6", u"A reference sheet of the throttle", u"layout-throttle", Always, Entry},

@@ -14,7 +14,6 @@ namespace zeph {
 
 /// The conditions of the Editor under which a menu entry is enabled.
 enum class EditorWhen {
-    Later, ///< never: its tool does not exist yet
     Selection, ///< text is selected in the selected document
     PasteReady, ///< there is text on the clipboard
     JoystickText, ///< the joystick tab is selected, or AlwaysShowCompileDownload is set

@@ -5,6 +5,7 @@
 
 #include "livetools/keytestform.h"
 #include "livetools/pictures/viewimage.h"
+#include "livetools/quickview/quickview.h"
 #include "platform/dialogs.h"
 #include "toolchain/modes/cougar_modes.h"
 
@@ -50,6 +51,22 @@ void addImageViewer(const ToolEntries &tools, const Context &context, Printers &
     tools.menus.connectTo(u"mnuAppsImageViewer", [&windows = tools.windows] {
         windows.open<ViewImage>()->showImageFile();
     });
+}
+
+void addQuickView(const ToolEntries &tools, const Context &context, const QuickViewSources &sources,
+                  CougarModes &modes)
+{
+    tools.add<QuickView>(
+        u"mnuAppsQuickView",
+        [context, sources, &modes](QWidget *owner) {
+            auto *form = new QuickView(context, sources, owner);
+            QObject::connect(form, &QuickView::windowsModeWanted, &modes,
+                             guarded(context.dialogs, [&modes] {
+                                 modes.changeButtonsMode(ButtonsRequest::Windows);
+                             }));
+            return form;
+        },
+        &QuickView::Form_Load);
 }
 
 } // namespace zeph

@@ -9,6 +9,8 @@
 
 #include <QColor>
 
+#include <cmath>
+
 namespace zeph {
 
 inline QColor toColor(ColorRef colour)
@@ -20,6 +22,16 @@ inline QColor toColor(ColorRef colour)
 inline ColorRef fromColor(const QColor &colour)
 {
     return colorRef(quint32(colour.red()), quint32(colour.green()), quint32(colour.blue()));
+}
+
+/// A colour between two others; the share, 0 to 1, is the second one's.
+inline QColor mixed(const QColor &one, const QColor &other, double share)
+{
+    const auto mix = [share](int from, int to) {
+        return int(std::lround(from + (to - from) * share));
+    };
+    return { mix(one.red(), other.red()), mix(one.green(), other.green()),
+             mix(one.blue(), other.blue()) };
 }
 
 } // namespace zeph

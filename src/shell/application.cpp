@@ -19,6 +19,7 @@
 #include "lists/user_lists.h"
 #include "livetools/live_tools.h"
 #include "livetools/pictures/viewimage.h"
+#include "livetools/quickview/quickview.h"
 #include "menus/menu_actions.h"
 #include "platform/dialogs.h"
 #include "platform/system_info.h"
@@ -266,6 +267,7 @@ void Application::addToolWindows()
     const ToolEntries tools{ m_editor->actions(), windows };
     addLiveTools(tools, context(), m_tools->modes());
     addPictures(tools);
+    addQuickView(tools);
     addTemplateTools(tools, context(), m_options.printers, m_editor->macros().list().table());
     windows.whenLoaded<TemplateForm>(m_mum.get(), [this](TemplateForm &form) {
         QObject::connect(
@@ -312,6 +314,25 @@ void Application::addPictures(const ToolEntries &tools)
         // The viewer may have opened another picture since the file was opened.
         m_settings.of<SharedSettings>().ImageFilePath = m_editor->useDirectives().imageFilePath();
         m_editor->action(u"mnuAppsImageViewer")->trigger();
+    });
+}
+
+void Application::addQuickView(const ToolEntries &tools)
+{
+    MacroList &macros = m_editor->macros().list();
+    ::zeph::addQuickView(tools, context(),
+                         { m_editor->documents(), macros.table(), m_options.joystick },
+                         m_tools->modes());
+    tools.windows.whenLoaded<QuickView>(m_mum.get(), [this, &macros](QuickView &view) {
+        QObject::connect(
+            &view, &QuickView::helpWanted, m_help,
+            guarded(m_options.dialogs, [this](int topic) { m_help->showTopic(topic); }));
+        QObject::connect(&view, &QuickView::editorWanted, m_editor, [this] {
+            ToolWindows::raise(*m_mum);
+            m_editor->ResetFocusToEditor();
+        });
+        QObject::connect(&macros, &MacroList::tableChanged, &view,
+                         guarded(m_options.dialogs, [&view] { view.macrosChanged(); }));
     });
 }
 

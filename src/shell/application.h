@@ -87,6 +87,7 @@ private:
     void loadEditor();
     void addToolWindows();
     void addPictures(const ToolEntries &tools);
+    void addQuickView(const ToolEntries &tools);
     void readEditorOptions();
     /// Tells the user the problems that were not told before: some keys are read at several steps
     /// of the start.

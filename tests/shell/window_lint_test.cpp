@@ -9,6 +9,7 @@
 #include "composer/wizards/wizardjoystickfile.h"
 #include "composer/wizards/wizardmacrofile.h"
 #include "cougar/controls_picture.h"
+#include "documents/documents.h"
 #include "documents/styleeditor.h"
 #include "editor/edit/findandreplace.h"
 #include "editor/edit/insert_windows.h"
@@ -29,6 +30,9 @@
 #include "lists/user_lists.h"
 #include "livetools/keytestform.h"
 #include "livetools/pictures/viewimage.h"
+#include "livetools/quickview/coverage_window.h"
+#include "livetools/quickview/quickview.h"
+#include "platform/fakes/fake_joystick.h"
 #include "platform/tool_windows.h"
 #include "preferences/preferences.h"
 #include "print/printpreview.h"
@@ -313,6 +317,20 @@ const LintCase cases[] = {
     { "KeyTestForm",
       [](auto &w) { return std::make_unique<KeyTestForm>(w.context(), KeyTestEntries()); },
       ShowsEscape },
+    { "CoverageWindow",
+      [](auto &w) {
+          return std::make_unique<CoverageWindow>(w.context());
+      } },
+    { "QuickView",
+      [](auto &w) {
+          static FakeJoystick stick;
+          static const MacroTable noMacros;
+          auto documents = std::make_unique<Documents>(w.context());
+          auto window = std::make_unique<QuickView>(
+              w.context(), QuickViewSources{ *documents, noMacros, stick });
+          documents.release()->setParent(window.get());
+          return window;
+      } },
     { "ViewImage",
       [](auto &w) {
           auto *entry = new QAction;

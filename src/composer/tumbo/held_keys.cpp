@@ -3,8 +3,8 @@
 
 #include "composer/tumbo/held_keys.h"
 
-#include "composer/tumbo/keys.h"
 #include "language/model.h"
+#include "livetools/board_keys.h"
 #include "text/text_lines.h"
 
 namespace zeph {

@@ -3,7 +3,8 @@
 
 #include "composer/tumbo/key_board.h"
 
-#include "composer/tumbo/keys.h"
+#include "livetools/board_keys.h"
+#include "platform/colours.h"
 
 #include <QAbstractButton>
 #include <QKeyEvent>
@@ -11,7 +12,6 @@
 #include <QResizeEvent>
 
 #include <algorithm>
-#include <cmath>
 
 namespace zeph {
 
@@ -29,15 +29,6 @@ constexpr qreal smallestText = 7;
 constexpr QRect mouseCells(92, 0, 12, 11);
 constexpr QRect bellyCells(92, 6, 12, 5);
 constexpr QRect povCells(96, 17, 4, 4);
-
-QColor mixed(const QColor &one, const QColor &other, double share)
-{
-    const auto mix = [share](int from, int to) {
-        return int(std::lround(from + (to - from) * share));
-    };
-    return { mix(one.red(), other.red()), mix(one.green(), other.green()),
-             mix(one.blue(), other.blue()) };
-}
 
 } // namespace
 

@@ -11,19 +11,6 @@ namespace zeph {
 
 namespace {
 
-struct ModifierRow {
-    bool KeyToggles::*toggle;
-    QStringView word; ///< in the syntax
-    QStringView name; ///< for KD and KU
-};
-
-// In the order in which they are written and pressed.
-constexpr std::array modifierRows = {
-    ModifierRow{ &KeyToggles::ctrl, u"CTL"_w, u"LCTL"_w },
-    ModifierRow{ &KeyToggles::alt, u"ALT"_w, u"LALT"_w },
-    ModifierRow{ &KeyToggles::shift, u"SHF"_w, u"LSHF"_w },
-};
-
 constexpr QChar make = u'D';
 constexpr QChar release = u'U';
 
@@ -54,30 +41,19 @@ qsizetype slashIn(const QString &text, QStringView modifier)
 
 } // namespace
 
-QString GetModifier(const KeyToggles &toggles)
-{
-    QString text;
-    for (const ModifierRow &row : modifierRows) {
-        if (toggles.*row.toggle) {
-            text += row.word.toString() + u' ';
-        }
-    }
-    return text;
-}
-
 void addModifiers(KeyStrings &strings, const QString &modifiers, CodeView view)
 {
     const QStringList words = modifiers.split(u' ', Qt::SkipEmptyParts);
     QString presses;
     QString releases;
-    for (const ModifierRow &row : modifierRows) {
-        if (!words.contains(row.word) && !words.contains(row.name)) {
+    for (const BoardModifier &row : boardModifiers()) {
+        if (!words.contains(row.word) && !words.contains(row.key)) {
             continue;
         }
         const bool isName = view == CodeView::KdKu;
-        const QStringView code = boardKeyNamed(row.name)->code;
-        presses += (isName ? row.name.toString() : codeOf(make, code)) + u' ';
-        releases.prepend(u' ' + (isName ? row.name.toString() : codeOf(release, code)));
+        const QStringView code = boardKeyNamed(row.key)->code;
+        presses += (isName ? row.key.toString() : codeOf(make, code)) + u' ';
+        releases.prepend(u' ' + (isName ? row.key.toString() : codeOf(release, code)));
     }
     strings.MakeCodes.prepend(presses);
     strings.BreakCodes.append(releases);

@@ -7,18 +7,11 @@
 // statements that Tumbo builds of these texts.
 
 #include "composer/generators/generators.h"
-#include "composer/tumbo/keys.h"
+#include "livetools/board_keys.h"
 
 #include <array>
 
 namespace zeph {
-
-/// The toggles Shift, Ctrl and Alt of the board.
-struct KeyToggles {
-    bool shift = false;
-    bool ctrl = false;
-    bool alt = false;
-};
 
 /// What make and break texts consist of: names for KD and KU, or codes for USB.
 enum class CodeView { KdKu, Usb };
@@ -34,8 +27,6 @@ struct KeyStrings {
     friend bool operator==(const KeyStrings &, const KeyStrings &) = default;
 };
 
-/// The modifiers that are on as the syntax writes them, each with a blank after it: "CTL SHF ".
-QString GetModifier(const KeyToggles &toggles);
 /// The key in its notations. With useShfKey a shifted symbol is written as SHF and the key, without
 /// it as the symbol; the codes have their Shift either way.
 KeyStrings GetKeystrings(const BoardKey &key, const KeyToggles &toggles, CodeView view,

@@ -20,4 +20,11 @@ QString columnName(int column)
     return names[size_t(column - 1)].toString();
 }
 
+QString columnInWords(int column)
+{
+    constexpr std::array<QStringView, 3> modes = { u"up", u"in the middle", u"down" };
+    const QString s3 = column % 2 == heldIn ? u"S3 held"_s : u"S3 let go"_s;
+    return u"Dogfight switch %1, %2"_s.arg(modes[size_t(column - 1) / 2], s3);
+}
+
 } // namespace zeph

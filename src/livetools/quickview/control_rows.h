@@ -59,6 +59,8 @@ inline constexpr int letOut = 2;
 
 /// The column's modifiers, "/U /I" for column 1.
 QString columnName(int column);
+/// What the pilot does for a column: "Dogfight switch up, S3 held" for column 1.
+QString columnInWords(int column);
 
 /// A cell of the table.
 struct CellPlace {

@@ -41,4 +41,51 @@ std::vector<CoverageRow> coverage(const Assignments &table)
     return rows;
 }
 
+CoverageCount countOf(const std::vector<CoverageRow> &rows)
+{
+    CoverageCount count;
+    for (const CoverageRow &row : rows) {
+        for (const CoverageCell &cell : row.cells) {
+            ++count.positions;
+            count.used += cell.use != CellUse::Empty ? 1 : 0;
+            count.same += cell.use == CellUse::SameAsOtherMode ? 1 : 0;
+        }
+    }
+    return count;
+}
+
+QString inWords(const CoverageCount &count)
+{
+    if (count.used == 0) {
+        return u"None of %1 positions is used."_s.arg(count.positions);
+    }
+    const auto areOf = [](int number) {
+        return number == 1 ? u"is"_s : u"are"_s;
+    };
+    QString text =
+        u"%1 of %2 positions %3 used"_s.arg(count.used).arg(count.positions).arg(areOf(count.used));
+    if (count.same > 0) {
+        text += u", %1 of them the same as in another mode"_s.arg(count.same);
+    }
+    if (const int empty = count.positions - count.used; empty > 0) {
+        text += u"; %1 %2 empty"_s.arg(empty).arg(areOf(empty));
+    }
+    return text + u'.';
+}
+
+bool isShown(CellUse use, CoverageFilter filter)
+{
+    switch (filter) {
+    case CoverageFilter::Empty:
+        return use == CellUse::Empty;
+    case CoverageFilter::Used:
+        return use != CellUse::Empty;
+    case CoverageFilter::Same:
+        return use == CellUse::SameAsOtherMode;
+    case CoverageFilter::All:
+        break;
+    }
+    return true;
+}
+
 } // namespace zeph

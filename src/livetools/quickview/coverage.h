@@ -28,4 +28,19 @@ struct CoverageRow {
 /// A row for each control of the table, in its order; rows without a control are left out.
 std::vector<CoverageRow> coverage(const Assignments &table);
 
+struct CoverageCount {
+    int positions = 0; ///< all cells
+    int used = 0; ///< those with a text
+    int same = 0; ///< those among them that are the same as in another mode
+
+    friend bool operator==(const CoverageCount &, const CoverageCount &) = default;
+};
+CoverageCount countOf(const std::vector<CoverageRow> &rows);
+/// One sentence.
+QString inWords(const CoverageCount &count);
+
+/// Which cells are shown; a used one may be the same as in another mode.
+enum class CoverageFilter { All, Empty, Used, Same };
+bool isShown(CellUse use, CoverageFilter filter);
+
 } // namespace zeph

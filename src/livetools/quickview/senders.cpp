@@ -4,6 +4,7 @@
 #include "livetools/quickview/senders.h"
 
 #include "language/scan.h"
+#include "livetools/board_keys.h"
 #include "livetools/quickview/key_texts.h"
 
 namespace zeph {
@@ -66,8 +67,14 @@ private:
         }
     }
 
-    void finishKey(const QString &key)
+    void finishKey(QString key)
     {
+        if (const BoardKey *typed = key.size() == 1 ? boardKeyNamed(key) : nullptr;
+            typed && typed->shifted == key) {
+            key = typed->name.toString();
+            m_modifiers.append(u"SHF"_w.toString().toLower());
+            m_modifiers.removeDuplicates();
+        }
         if (!key.isEmpty() || !m_modifiers.isEmpty()) {
             m_modifiers.sort();
             m_sent.push_back({ m_modifiers, key });

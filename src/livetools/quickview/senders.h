@@ -13,7 +13,8 @@
 
 namespace zeph {
 
-/// A key with the modifier keys before it, or a macro's name. Everything is in lower case.
+/// A key with the modifier keys before it, or a macro's name. Everything is in lower case. A sign
+/// that is typed with Shift is its key: "!" is "SHF 1".
 struct SentKey {
     QStringList modifiers; ///< in alphabetical order
     QString key; ///< empty for modifiers without a key, as in KD(SHF)

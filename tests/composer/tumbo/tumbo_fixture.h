@@ -5,9 +5,9 @@
 
 #include "composer/composer_settings.h"
 #include "composer/tumbo/key_board.h"
-#include "composer/tumbo/keys.h"
 #include "composer/tumbo/rawform.h"
 #include "composer/tumbo/tumbo_settings.h"
+#include "livetools/board_keys.h"
 #include "platform/core/profile_file.h"
 #include "tests/support/composer_world.h"
 #include "tests/support/fixture.h"

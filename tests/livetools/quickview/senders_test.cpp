@@ -67,6 +67,12 @@ TEST(SentKeys, BracketsOfOtherWordsHoldNoKeys)
     EXPECT_THAT(sent(u"RPT(3) a DLY (60) {KD(b) <c>} (7)"), ElementsAre(u"+a"_s, u"+b"_s, u"+c"_s));
 }
 
+TEST(SentKeys, ASignWithShiftIsShiftAndItsKey)
+{
+    EXPECT_THAT(sent(u"! CTL ? SHF ! 1"),
+                ElementsAre(u"shf+1"_s, u"ctl shf+/"_s, u"shf+1"_s, u"+1"_s));
+}
+
 TEST(SentKeys, SlashModifiersAreNoKeys)
 {
     EXPECT_THAT(sent(u"/P a /R / /H /Up"), ElementsAre(u"+a"_s, u"+/"_s, u"+/up"_s));

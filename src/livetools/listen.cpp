@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: The Zeph authors
 // SPDX-License-Identifier: MIT
 
-#include "composer/tumbo/listen.h"
+#include "livetools/listen.h"
 
-#include "composer/tumbo/keys.h"
+#include "livetools/board_keys.h"
 
 #include <algorithm>
 #include <array>

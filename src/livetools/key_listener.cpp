@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: The Zeph authors
 // SPDX-License-Identifier: MIT
 
-#include "composer/tumbo/key_listener.h"
+#include "livetools/key_listener.h"
 
-#include "composer/tumbo/listen.h"
+#include "livetools/listen.h"
 #include "platform/dialogs.h"
 
 #include <QAbstractButton>
@@ -14,8 +14,8 @@
 
 namespace zeph {
 
-KeyListener::KeyListener(Dialogs &dialogs, QWidget &window, QAbstractButton &button)
-    : QObject(&window), m_dialogs(dialogs), m_window(window), m_button(button)
+KeyListener::KeyListener(Dialogs &dialogs, QWidget &owner, QAbstractButton &button)
+    : QObject(&owner), m_dialogs(dialogs), m_owner(owner), m_button(button)
 {
     connect(&button, &QAbstractButton::toggled, this,
             guarded(dialogs, [this](bool on) { setOn(on); }));
@@ -40,6 +40,11 @@ void KeyListener::setOn(bool on)
     Q_EMIT toggled(on);
 }
 
+bool KeyListener::isOurs(const QWidget *widget) const
+{
+    return widget && widget->window() == m_owner.window();
+}
+
 bool KeyListener::eventFilter(QObject *watched, QEvent *event)
 {
     switch (event->type()) {
@@ -51,14 +56,14 @@ bool KeyListener::eventFilter(QObject *watched, QEvent *event)
     case QEvent::MouseButtonDblClick: {
         // The button turns itself off.
         const auto *widget = qobject_cast<QWidget *>(watched);
-        if (widget && widget->window() == &m_window && widget != &m_button) {
+        if (isOurs(widget) && widget != &m_button) {
             stop();
         }
         return false;
     }
     case QEvent::WindowDeactivate:
     case QEvent::Hide:
-        if (watched == &m_window) {
+        if (watched == m_owner.window()) {
             stop();
         }
         return false;
@@ -70,7 +75,7 @@ bool KeyListener::eventFilter(QObject *watched, QEvent *event)
 bool KeyListener::takeKey(QObject *watched, QEvent &event)
 {
     const auto *widget = qobject_cast<QWidget *>(watched);
-    if (!widget || widget->window() != &m_window) {
+    if (!isOurs(widget)) {
         return false;
     }
     event.accept();
@@ -91,7 +96,7 @@ void KeyListener::keyDown(const QKeyEvent &event)
     const auto index = listenedKey({ Qt::Key(event.key()), event.modifiers(),
                                      event.nativeScanCode(), event.nativeVirtualKey() });
     if (index) {
-        Q_EMIT keyPressed(*index);
+        Q_EMIT keyPressed(*index, event.modifiers());
     } else {
         Q_EMIT unknownKeyPressed();
     }

@@ -1,7 +1,9 @@
 // SPDX-FileCopyrightText: The Zeph authors
 // SPDX-License-Identifier: MIT
 
-#include "composer/tumbo/keys.h"
+#include "livetools/board_keys.h"
+
+#include "language/words.h"
 
 #include <algorithm>
 #include <array>
@@ -10,6 +12,8 @@
 namespace zeph {
 
 namespace {
+
+using language::operator""_w;
 
 // clang-format off
 constexpr std::array keys = {
@@ -129,15 +133,10 @@ constexpr std::array keys = {
 };
 // clang-format on
 
-// The words that leave the side open mean the left key.
-struct Sideless {
-    QStringView word;
-    QStringView key;
-};
-constexpr std::array sideless = {
-    Sideless{ u"SHF", u"LSHF" },
-    Sideless{ u"CTL", u"LCTL" },
-    Sideless{ u"ALT", u"LALT" },
+constexpr std::array modifiers = {
+    BoardModifier{ &KeyToggles::ctrl, u"CTL"_w, u"LCTL"_w },
+    BoardModifier{ &KeyToggles::alt, u"ALT"_w, u"LALT"_w },
+    BoardModifier{ &KeyToggles::shift, u"SHF"_w, u"LSHF"_w },
 };
 
 bool isSame(QStringView one, QStringView other)
@@ -179,7 +178,7 @@ const BoardKey *boardKey(int index)
 
 const BoardKey *boardKeyNamed(QStringView name)
 {
-    for (const Sideless &each : sideless) {
+    for (const BoardModifier &each : modifiers) {
         if (isSame(each.word, name)) {
             name = each.key;
         }
@@ -198,6 +197,22 @@ const BoardKey *boardKeyCoded(QStringView code)
 const BoardKey *boardKeyAt(quint32 place)
 {
     return keyThat([place](const BoardKey &key) { return key.place != 0 && key.place == place; });
+}
+
+std::span<const BoardModifier> boardModifiers()
+{
+    return modifiers;
+}
+
+QString GetModifier(const KeyToggles &toggles)
+{
+    QString text;
+    for (const BoardModifier &each : modifiers) {
+        if (toggles.*each.toggle) {
+            text += each.word.toString() + u' ';
+        }
+    }
+    return text;
 }
 
 int neighbourOf(int index, Qt::Key direction)

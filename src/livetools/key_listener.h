@@ -15,15 +15,16 @@ namespace zeph {
 
 class Dialogs;
 
-/// Takes all keys of a window while it is on, and tells which keys of Tumbo's board they are; none
+/// Takes all keys of a window while it is on, and tells which keys of the board they are; none
 /// of them is a shortcut or does anything else meanwhile. It ends by a click in the window, when
 /// the window is no longer the active one, and by Escape pressed twice.
 class KeyListener : public QObject
 {
     Q_OBJECT
 public:
-    /// The button turns it on and off, and shows whether it is on.
-    KeyListener(Dialogs &dialogs, QWidget &window, QAbstractButton &button);
+    /// It listens in the window that the owner is in or is. The button turns it on and off, and
+    /// shows whether it is on.
+    KeyListener(Dialogs &dialogs, QWidget &owner, QAbstractButton &button);
 
     bool isOn() const { return m_isOn; }
     void stop();
@@ -31,8 +32,8 @@ public:
 Q_SIGNALS:
     /// It was turned on or off.
     void toggled(bool on);
-    /// The key of that index went down.
-    void keyPressed(int index);
+    /// The board's key of that index went down while these modifiers were held.
+    void keyPressed(int index, Qt::KeyboardModifiers held);
     /// A key went down that the board lacks.
     void unknownKeyPressed();
 
@@ -41,11 +42,12 @@ protected:
 
 private:
     void setOn(bool on);
+    bool isOurs(const QWidget *widget) const;
     bool takeKey(QObject *watched, QEvent &event);
     void keyDown(const QKeyEvent &event);
 
     Dialogs &m_dialogs;
-    QWidget &m_window;
+    QWidget &m_owner;
     QAbstractButton &m_button;
     bool m_isOn = false;
     bool m_escapeBefore = false; ///< the key before was Escape

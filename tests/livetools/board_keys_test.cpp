@@ -1,29 +1,18 @@
 // SPDX-FileCopyrightText: The Zeph authors
 // SPDX-License-Identifier: MIT
 
-#include "composer/tumbo/held_keys.h"
-#include "composer/tumbo/keys.h"
-#include "composer/tumbo/listen.h"
+#include "livetools/board_keys.h"
+#include "livetools/listen.h"
 
 #include <gtest/gtest.h>
 
 #include <QStringList>
 
+#include <set>
+
 using namespace zeph;
 
-namespace tumbo_keys_test {
-
 namespace {
-
-/// The names of the keys that a statement leaves held down, in the order of their numbers.
-QString heldBy(const QString &statement)
-{
-    QStringList names;
-    for (const int index : keysHeldBy(statement)) {
-        names.append(boardKey(index)->name.toString());
-    }
-    return names.join(u' ');
-}
 
 QString heard(const KeyStroke &stroke)
 {
@@ -90,38 +79,10 @@ TEST(Board, KeysAreFoundByNameSymbolAndCode)
     EXPECT_EQ(boardKeyAt(0), nullptr);
 }
 
-TEST(HeldKeys, AreThoseThatNothingReleases)
+TEST(Board, ModifiersAreWrittenInOneOrder)
 {
-    EXPECT_EQ(heldBy(QString()), QString());
-    EXPECT_EQ(heldBy(u"a b CTL c"_s), QString());
-    EXPECT_EQ(heldBy(u"KD (LSHF a)"_s), u"a LSHF"_s);
-    EXPECT_EQ(heldBy(u"KD (LSHF a)KU (a)"_s), u"LSHF"_s);
-    EXPECT_EQ(heldBy(u"/P KD(LSHF q) /R KU(q LSHF) Rem 'SHF q'"_s), QString());
-    EXPECT_EQ(heldBy(u"kd(shf A)"_s), u"a LSHF"_s);
-    EXPECT_EQ(heldBy(u"KD (LSHF !)"_s), u"1 LSHF"_s);
-    EXPECT_EQ(heldBy(u"KD (MOUSE_LB POVUL)"_s), u"MOUSE_LB POVUL"_s);
-}
-
-TEST(HeldKeys, CodesPressAndRelease)
-{
-    EXPECT_EQ(heldBy(u"USB (DE1 D04)"_s), u"a LSHF"_s);
-    EXPECT_EQ(heldBy(u"USB (DE1 D04 U04 UE1)"_s), QString());
-    EXPECT_EQ(heldBy(u"usb(de6 d14) DLY(50) usb(u14)"_s), u"RALT"_s);
-    EXPECT_EQ(heldBy(u"USB (D D0 DXX U) USB ( )"_s), QString());
-}
-
-TEST(HeldKeys, BracketsCanBeKeys)
-{
-    EXPECT_EQ(heldBy(u"KD (LSHF ))"_s), u"0 LSHF"_s);
-    EXPECT_EQ(heldBy(u"KD (LSHF () KD (b)"_s), u"9 b LSHF"_s);
-    EXPECT_EQ(heldBy(u"KD (LSHF )) KU () LSHF)"_s), QString());
-}
-
-TEST(HeldKeys, CommentsAndOtherWordsDoNotCount)
-{
-    EXPECT_EQ(heldBy(u"a Rem KD (b)"_s), QString());
-    EXPECT_EQ(heldBy(u"DLY(60) MSX(a) MYKD (a) KD"_s), QString());
-    EXPECT_EQ(heldBy(u"KD (a Fire"_s), u"a"_s);
+    EXPECT_EQ(GetModifier({}), QString());
+    EXPECT_EQ(GetModifier({ .shift = true, .ctrl = true, .alt = true }), u"CTL ALT SHF "_s);
 }
 
 TEST(ListenedKey, PlacesTellAllKeysOfTheKeyboard)
@@ -237,5 +198,3 @@ TEST(ListenedKey, PlacesOfWindows)
     EXPECT_EQ(name(0x15B), u"none"_s);
     EXPECT_EQ(name(0), u"none"_s);
 }
-
-} // namespace tumbo_keys_test

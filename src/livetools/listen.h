@@ -3,7 +3,7 @@
 
 #pragma once
 
-// Which key of Tumbo's board a key of the real keyboard is.
+// Which key of the board a key of the real keyboard is.
 
 #include "livetools/virtual_keys.h"
 

@@ -3,7 +3,8 @@
 
 #pragma once
 
-// The keys of Tumbo's board: a full keyboard, the mouse buttons and the positions of the POV.
+// The keys that the language knows, as they are on Tumbo's board: a full keyboard, the mouse
+// buttons and the positions of the POV.
 
 #include "platform/core/base.h"
 
@@ -49,6 +50,24 @@ const BoardKey *boardKeyNamed(QStringView name);
 const BoardKey *boardKeyCoded(QStringView code);
 /// The key at that place of the keyboard; null when there is none.
 const BoardKey *boardKeyAt(quint32 place);
+
+/// Shift, Ctrl and Alt, each held or not.
+struct KeyToggles {
+    bool shift = false;
+    bool ctrl = false;
+    bool alt = false;
+};
+
+/// A modifier as the language writes it without a side, which means the left key.
+struct BoardModifier {
+    bool KeyToggles::*toggle;
+    QStringView word; ///< SHF, CTL or ALT
+    QStringView key; ///< the left key's name
+};
+/// In the order in which they are written and pressed.
+std::span<const BoardModifier> boardModifiers();
+/// The modifiers that are held as the language writes them, each with a blank after it: "CTL SHF ".
+QString GetModifier(const KeyToggles &toggles);
 
 /// The key next to one in a direction (Qt::Key_Left, Key_Right, Key_Up, Key_Down), by their cells;
 /// the key itself at the board's edge.
