@@ -4,6 +4,7 @@
 #include "editor/editor.h"
 #include "editor/files/loss_guards.h"
 #include "platform/clock.h"
+#include "platform/console.h"
 #include "platform/core/per_user_folder.h"
 #include "platform/dialogs.h"
 #include "platform/downloader.h"
@@ -32,7 +33,7 @@ QString perUserFolder()
 /// Writes a sheet into a file: no window, no lock, and no display is needed.
 int writeSheet(int argc, char **argv)
 {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
+    goWithoutDisplay();
     QGuiApplication toolkit(argc, argv);
     QCoreApplication::setApplicationName(u"Zeph"_s);
     const QString folder =

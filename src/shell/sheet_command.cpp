@@ -8,6 +8,7 @@
 #include "layouts/draw/first_sheet.h"
 #include "layouts/draw/sheet_exports.h"
 #include "layouts/files/layouts_settings.h"
+#include "platform/console.h"
 #include "platform/core/per_user_folder.h"
 #include "settings/colour_settings.h"
 #include "shell/settings/settings_moments.h"
@@ -16,8 +17,6 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QHash>
-
-#include <cstdio>
 
 namespace zeph {
 
@@ -200,7 +199,7 @@ SheetExit runSheetCommand(const QStringList &arguments, const QString &appFolder
                           const QDateTime &now)
 {
     const auto tell = [](const QString &line) {
-        std::fputs((line + u'\n').toLocal8Bit().constData(), stderr);
+        tellConsole(Stream::Errors, line + u'\n');
     };
     const auto command = sheetCommandOf(arguments);
     if (!command) {
