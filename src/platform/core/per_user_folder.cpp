@@ -18,6 +18,7 @@
 #include <QTemporaryFile>
 
 #include <algorithm>
+#include <span>
 
 namespace zeph {
 
@@ -26,17 +27,24 @@ namespace {
 /// Holds a line for each copied file: its CopiedFile, and its path.
 constexpr QStringView recordName = u".filled";
 
+constexpr QStringView installationFiles[] = { packageFileName, u"qt.conf", u"Uninstall.exe",
+                                              u"Installed.ini" };
+
 constexpr QStringView personalFolders[] = { u"Recovery", u"Rtf", u"Backup", u"Temp" };
 constexpr QStringView personalFiles[] = { u"Zeph.ini", u"HOTAS.ini", u"Layouts.ini", recordName };
 
 using Copies = QMap<QString, CopiedFile>;
 
-/// What makes the program run, or removes it, stays where it was installed.
+bool isOf(std::span<const QStringView> names, QStringView name)
+{
+    return std::ranges::any_of(
+        names, [name](QStringView each) { return name.compare(each, Qt::CaseInsensitive) == 0; });
+}
+
+/// What makes the program run, tells how it was installed or removes it stays with it.
 bool isOfInstallation(const QString &path)
 {
-    return path.endsWith(u".dll", Qt::CaseInsensitive)
-        || path.compare(u"Uninstall.exe", Qt::CaseInsensitive) == 0
-        || path.compare(u"Installed.ini", Qt::CaseInsensitive) == 0;
+    return path.endsWith(u".dll", Qt::CaseInsensitive) || isOf(installationFiles, path);
 }
 
 QByteArray hashOf(const QString &path)
@@ -194,17 +202,12 @@ bool isPersonal(const QString &path)
 {
     static const QRegularExpression lockOrCopy(u"(^|/)[^/]*\\.(lock|part)$|^Zeph\\.\\d+$"_s,
                                                QRegularExpression::CaseInsensitiveOption);
-    const auto isSame = [](QStringView name) {
-        return [name](QStringView each) {
-            return name.compare(each, Qt::CaseInsensitive) == 0;
-        };
-    };
     if (lockOrCopy.match(path).hasMatch()) {
         return true;
     }
     const qsizetype slash = path.indexOf(u'/');
-    return slash < 0 ? std::ranges::any_of(personalFiles, isSame(path))
-                     : std::ranges::any_of(personalFolders, isSame(QStringView(path).first(slash)));
+    return slash < 0 ? isOf(personalFiles, path)
+                     : isOf(personalFolders, QStringView(path).first(slash));
 }
 
 Upgrade upgradeOf(const QByteArray &program, const QByteArray &user,
@@ -223,9 +226,9 @@ Upgrade upgradeOf(const QByteArray &program, const QByteArray &user,
     return copied && copied->hash == user ? Upgrade::Copy : Upgrade::Keep;
 }
 
-ChosenFolder chooseFolder(const QString &executableFolder, const QString &perUser)
+ChosenFolder chooseFolder(const QString &executableFolder, const QString &perUser, bool isShared)
 {
-    if (canMakeFilesIn(executableFolder)) {
+    if (!isShared && canMakeFilesIn(executableFolder)) {
         return { nativeSeparators(executableFolder) };
     }
     if (!QDir().mkpath(perUser) || !canMakeFilesIn(perUser)) {
