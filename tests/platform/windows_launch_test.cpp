@@ -39,7 +39,13 @@ class WindowsLaunch : public testing::Test
 {
 protected:
     WindowsLaunch() { qputenv(toldVariable, QFile::encodeName(folder.file(u"told"_s))); }
-    ~WindowsLaunch() override { qunsetenv(toldVariable); }
+    ~WindowsLaunch() override
+    {
+        qunsetenv(toldVariable);
+        // The last moments of a program still hold its file and its folder.
+        EXPECT_TRUE(QTest::qWaitFor([this] { return QDir(folder.path()).removeRecursively(); },
+                                    test::copyStartsWithinMs));
+    }
 
     static Launch copy(const QString &more = {})
     {
@@ -59,12 +65,13 @@ protected:
     TempFolder folder;
 };
 
-/// A kind of file that opens in a program, for this user, as long as this lives.
+/// A kind of file that opens in a program as long as this lives. Wine looks for it among the kinds
+/// of all users alone.
 class RegisteredKind
 {
 public:
     RegisteredKind(const QString &ending, const QString &command)
-        : m_kind(classes + u"Zeph.Test"_s), m_ending(classes + ending)
+        : m_kind(u"Zeph.Test"_s), m_ending(ending)
     {
         set(m_ending, u"Zeph.Test"_s);
         set(m_kind + u"\\shell\\open\\command"_s, command);
@@ -72,7 +79,7 @@ public:
     ~RegisteredKind()
     {
         for (const QString &key : { m_kind, m_ending }) {
-            RegDeleteTreeW(HKEY_CURRENT_USER, wide(key));
+            RegDeleteTreeW(HKEY_CLASSES_ROOT, wide(key));
         }
     }
 
@@ -83,12 +90,11 @@ private:
     }
     static void set(const QString &key, const QString &value)
     {
-        EXPECT_EQ(RegSetKeyValueW(HKEY_CURRENT_USER, wide(key), nullptr, REG_SZ, wide(value),
+        EXPECT_EQ(RegSetKeyValueW(HKEY_CLASSES_ROOT, wide(key), nullptr, REG_SZ, wide(value),
                                   DWORD((value.size() + 1) * sizeof(wchar_t))),
                   ERROR_SUCCESS);
     }
 
-    const QString classes = u"Software\\Classes\\"_s;
     QString m_kind;
     QString m_ending;
 };
@@ -181,10 +187,9 @@ TEST_F(WindowsLaunch, WhatIsNoProgramIsToldWithPathAndReason)
 
 TEST_F(WindowsLaunch, AFileOpensInTheProgramOfItsKind)
 {
-    const RegisteredKind kind(
-        u".zephtest"_s,
-        u"\"%1\" %2 \"%L\""_s.arg(QDir::toNativeSeparators(test::copyProgram()),
-                                  test::copyArguments(u"WindowsProgram.*"_s).join(u' ')));
+    const QString command = u'"' + QDir::toNativeSeparators(test::copyProgram()) + u"\" "_s
+        + test::copyArguments(u"WindowsProgram.*"_s).join(u' ') + u" \"%1\""_s;
+    const RegisteredKind kind(u".zephtest"_s, command);
     const QString file = folder.write(u"Flug für Jürgen.zephtest"_s, "x");
     const auto opened =
         SystemLauncher().openWithDesktop(folder.path() + u"\\FLUG für Jürgen.zephtest"_s);
