@@ -10,12 +10,14 @@
 #include "platform/downloader.h"
 #include "platform/input/system_joystick.h"
 #include "platform/input/system_keyboard.h"
+#include "platform/package.h"
 #include "platform/printers.h"
 #include "platform/process_launcher.h"
 #include "platform/qt_dialogs.h"
 #include "platform/system_info.h"
 #include "shell/application.h"
 #include "shell/sheet_command.h"
+#include "shell/start_up.h"
 
 #include <QDir>
 #include <QGuiApplication>
@@ -49,6 +51,10 @@ int main(int argc, char **argv)
     for (int i = 1; i < argc; ++i) {
         arguments.append(QString::fromLocal8Bit(argv[i]));
     }
+    if (const auto answer = commandLineAnswer(arguments)) {
+        tellConsole(Stream::Output, *answer);
+        return 0;
+    }
     if (isSheetCommand(arguments)) {
         return writeSheet(argc, argv);
     }
@@ -65,8 +71,9 @@ int main(int argc, char **argv)
     const PrimaryScreen screen;
     const SystemInfo system;
 
+    const QString executableFolder = QCoreApplication::applicationDirPath();
     const ChosenFolder chosen =
-        chooseFolder(QCoreApplication::applicationDirPath(), perUserFolder());
+        chooseFolder(executableFolder, perUserFolder(), readPackage(executableFolder).isShared);
     Application application({
         .appFolder = chosen.appFolder,
         .arguments = QCoreApplication::arguments().mid(1),

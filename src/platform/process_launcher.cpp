@@ -4,7 +4,9 @@
 #include "platform/process_launcher.h"
 
 #include "platform/core/paths.h"
+#include "platform/core/stand_in.h"
 
+#include <QCoreApplication>
 #include <QDesktopServices>
 #include <QDir>
 #include <QFile>
@@ -71,6 +73,18 @@ QString wineWord(const QString &word)
     const bool isPath = word.startsWith(u'/')
         && (QFileInfo::exists(word) || (folder.size() > 1 && QFileInfo(folder).isDir()));
     return isPath ? u"Z:"_s + QString(word).replace(u'/', u'\\') : word;
+}
+
+/// Where the program came with libraries of its own, the stand-ins need them too, even from a
+/// user's copy, which does not know where they are. No other program gets to see them.
+void setUpLibraries(QProcess &process, const QString &program)
+{
+    const QString libraries = carriedLibraries(QCoreApplication::applicationDirPath());
+    if (!libraries.isEmpty() && isStandIn(program)) {
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(u"LD_LIBRARY_PATH"_s, libraries);
+        process.setProcessEnvironment(environment);
+    }
 }
 
 /// The words with which wine starts a program in a style that it knows; none for the others, and
@@ -186,6 +200,12 @@ Launch launchFromCommand(const QString &command, const QString &folder, WindowSt
     return { line.first(end), line.sliced(end).trimmed(), folder, style };
 }
 
+QString carriedLibraries(const QString &executableFolder)
+{
+    const QString folder = QDir::cleanPath(executableFolder + u"/../lib"_s);
+    return QFileInfo::exists(folder + u"/libQt6Core.so.6"_s) ? folder : QString();
+}
+
 QStringList splitCommandLine(QStringView arguments)
 {
     QStringList words;
@@ -245,6 +265,7 @@ Expected<void, QString> SystemLauncher::start(const Launch &launch)
     } else if (!QFileInfo(program).isExecutable() || QFileInfo(program).isDir()) {
         return failure(program, std::errc::permission_denied);
     }
+    setUpLibraries(process, program);
 #endif
     process.setStandardInputFile(QProcess::nullDevice());
     if (!process.startDetached()) {

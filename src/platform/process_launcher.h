@@ -56,6 +56,10 @@ public:
 Launch launchFromCommand(const QString &command, const QString &folder,
                          WindowStyle style = WindowStyle::NormalFocus);
 
+/// The folder of the libraries that came along with a program in that folder, as in the archive for
+/// Linux; empty where the program uses the system's.
+QString carriedLibraries(const QString &executableFolder);
+
 /// The words of a Windows command line: blanks part them, double quotes hold blanks together.
 QStringList splitCommandLine(QStringView arguments);
 

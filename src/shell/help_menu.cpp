@@ -6,6 +6,7 @@
 #include "editor/editor.h"
 #include "menus/menu_actions.h"
 #include "platform/dialogs.h"
+#include "platform/package.h"
 #include "platform/process_launcher.h"
 #include "platform/tool_windows.h"
 #include "settings/settings.h"
@@ -167,8 +168,8 @@ void HelpMenu::mnuHelpAbout_Click(int index)
         // The wait leaves the menus alive; one question at a time is enough.
         if (!m_checksVersion) {
             const QScopedValueRollback<bool> checking(m_checksVersion, true);
-            checkVersion(m_downloader, m_context,
-                         m_context.settings.of<ShellSettings>().VersionURL);
+            checkVersion(m_downloader, m_context, m_context.settings.of<ShellSettings>().VersionURL,
+                         readPackage(QCoreApplication::applicationDirPath()));
         }
     } else if (index == 1) {
         showInformation(u"Vista compatibility.rtf"_s, u"Vista compatibility"_s);

@@ -9,6 +9,7 @@
 #include "layouts/draw/sheet_exports.h"
 #include "layouts/files/layouts_settings.h"
 #include "platform/console.h"
+#include "platform/package.h"
 #include "settings/colour_settings.h"
 #include "shell/settings/settings_moments.h"
 #include "text/text_lines.h"
@@ -25,9 +26,6 @@ constexpr QStringView sheetOption = u"--sheet";
 constexpr QStringView outOption = u"--out";
 constexpr QStringView scaleOption = u"--scale";
 constexpr QStringView options[] = { sheetOption, outOption, scaleOption };
-
-const QString usage = u"Usage: zeph --sheet joystick|throttle --out FILE.(pdf|svg|png|html) "
-                      "[--scale 1|2|4] FILE.tmj"_s;
 
 /// The option that an argument is, alone or with its value after "="; empty for any other argument.
 QString optionOf(const QString &argument)
@@ -117,6 +115,11 @@ QString told(const FileError &error)
 
 } // namespace
 
+QString sheetUsage()
+{
+    return u"zeph --sheet joystick|throttle --out FILE.(pdf|svg|png|html) [--scale 1|2|4] FILE.tmj"_s;
+}
+
 bool isSheetCommand(const QStringList &arguments)
 {
     return std::ranges::any_of(
@@ -203,7 +206,7 @@ SheetExit runSheetCommand(const QStringList &arguments, const QString &appFolder
     const auto command = sheetCommandOf(arguments);
     if (!command) {
         tell(command.error());
-        tell(usage);
+        tell(u"Usage: "_s + sheetUsage());
         return SheetExit::WrongArguments;
     }
     if (const auto written = writeSheet(*command, appFolder, now); !written) {
@@ -215,8 +218,9 @@ SheetExit runSheetCommand(const QStringList &arguments, const QString &appFolder
 
 QString sheetCommandFolder(const QString &executableFolder, const QString &perUser)
 {
-    // The program makes a folder of the user's own where it cannot write beside itself.
-    const bool isOthers = !QFileInfo(executableFolder).isWritable();
+    // The program makes a folder of the user's own where it cannot or may not write beside itself.
+    const bool isOthers =
+        readPackage(executableFolder).isShared || !QFileInfo(executableFolder).isWritable();
     return nativeSeparators(
         isOthers && QFileInfo::exists(perUser + u"/Zeph.ini"_s) ? perUser : executableFolder);
 }

@@ -26,6 +26,9 @@ struct SheetCommand {
 /// How the program ends after such a command.
 enum class SheetExit { Done = 0, Failed = 1, WrongArguments = 2 };
 
+/// How such a command is written.
+QString sheetUsage();
+
 /// Whether a command line (without the program's name) has an option of this command.
 bool isSheetCommand(const QStringList &arguments);
 

@@ -13,6 +13,8 @@
 #include "platform/system_info.h"
 #include "preferences/setting_fields.h"
 #include "settings/settings_files.h"
+#include "shell/sheet_command.h"
+#include "shell/version_check.h"
 
 #include <QAction>
 #include <QFileInfo>
@@ -119,6 +121,29 @@ void renewFilesFolder(const Paths &paths)
             (void)file.write(entry);
         }
     }
+}
+
+std::optional<QString> commandLineAnswer(const QStringList &arguments)
+{
+    if (arguments.contains(u"--help"_s)) {
+        return u"Usage: zeph [FILE]\n"
+               "       "_s
+            + sheetUsage()
+            + u"\n\n"
+              "Opens FILE, a joystick file or a macro file, with the file that belongs to it.\n\n"
+              "  --sheet joystick|throttle  write the layout sheet of a joystick file, without a "
+              "window\n"
+              "  --out FILE                 the file to write; its ending says what it becomes\n"
+              "  --scale 1|2|4              pixels of a PNG for each one of the sheet\n"
+              "  --help                     show this text\n"
+              "  --version                  show the version\n\n"
+              "The exit code of a sheet is 0 when it is written, 1 when something cannot be read "
+              "or\nwritten, 2 for wrong arguments.\n"_s;
+    }
+    if (arguments.contains(u"--version"_s)) {
+        return u"Zeph "_s + QString::fromUtf16(versionText) + u'\n';
+    }
+    return std::nullopt;
 }
 
 QString TestCommandLine(const QStringList &arguments)

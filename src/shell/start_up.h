@@ -3,7 +3,7 @@
 
 #pragma once
 
-// What a run does as it comes up: what it warns of, and which files it opens.
+// What a run does as it comes up: what it answers and warns of, and which files it opens.
 
 #include "platform/dialogs.h"
 
@@ -32,6 +32,10 @@ QString keptFilesText(const QStringList &files);
 /// Brings up to date what other programs read of where the user's files are. Writes nothing that is
 /// not there yet.
 void renewFilesFolder(const Paths &paths);
+
+/// What a command line with --help or --version (without the program's name) asks for: lines, each
+/// with its end, to show without a window; none for any other. Help wins over the version.
+std::optional<QString> commandLineAnswer(const QStringList &arguments);
 
 /// The file that the command line names, with its full path; empty when it names none that exists.
 /// All words together are also tried as one name, since a shell splits a name at blanks.

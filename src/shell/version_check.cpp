@@ -7,6 +7,7 @@
 #include "platform/core/paths.h"
 #include "platform/core/text1252.h"
 #include "platform/downloader.h"
+#include "platform/package.h"
 #include "platform/status_line.h"
 
 #include <QRegularExpression>
@@ -40,21 +41,24 @@ bool isVersion(const QString &text)
     return version.match(text).hasMatch();
 }
 
-Box versionBox(const QString &latest, const QString &running)
+Box versionBox(const QString &latest, const QString &running, const QString &file)
 {
     if (latest == running) {
         return { .title = u"Version information"_s,
                  .text = u"You are running the latest version of Zeph, version "_s + running + u'.',
                  .icon = BoxIcon::Information };
     }
+    const QString fetch = file.isEmpty() ? QString() : u"\nThe file for you is "_s + file + u'.';
     return { .title = u"Newer software is available"_s,
              .text = u"There is a newer version (version "_s + latest
                  + u") of Zeph available to download.\nPlease visit Klaifi (links are in the Help "
-                   "menu) to download it."_s,
+                   "menu) to download it."_s
+                 + fetch,
              .icon = BoxIcon::Information };
 }
 
-void checkVersion(Downloader &downloader, const Context &context, const QString &address)
+void checkVersion(Downloader &downloader, const Context &context, const QString &address,
+                  const Package &package)
 {
     // The answer is kept in a file, where it can be looked at when a pilot reports something
     // odd.
@@ -67,8 +71,12 @@ void checkVersion(Downloader &downloader, const Context &context, const QString 
         return;
     }
     const QString latest = fromText1252(*body).trimmed();
-    context.dialogs.box(isVersion(latest) ? versionBox(latest, QString::fromUtf16(versionText))
-                                          : noVersionBox());
+    if (!isVersion(latest)) {
+        context.dialogs.box(noVersionBox());
+        return;
+    }
+    context.dialogs.box(
+        versionBox(latest, QString::fromUtf16(versionText), fileToFetch(package, latest)));
 }
 
 } // namespace zeph

@@ -107,6 +107,16 @@ TEST(LaunchFromCommand, WithNoSuchFileTheFirstWordIsTheProgram)
     EXPECT_EQ(parted(u""_s), u"|"_s);
 }
 
+TEST(CarriedLibraries, AreBesideTheProgramsFolderWhereTheToolkitIsAmongThem)
+{
+    const TempFolder folder;
+    folder.write(u"zeph/program/Tips.txt"_s, {});
+    folder.write(u"zeph/lib/other.so"_s, {});
+    EXPECT_EQ(carriedLibraries(folder.file(u"zeph/program"_s)), QString());
+    folder.write(u"zeph/lib/libQt6Core.so.6"_s, {});
+    EXPECT_EQ(carriedLibraries(folder.file(u"zeph/program"_s)), folder.file(u"zeph/lib"_s));
+}
+
 TEST(SystemLauncher, AMissingProgramIsToldWithPathAndReason)
 {
     const TempFolder folder;

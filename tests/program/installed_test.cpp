@@ -53,6 +53,21 @@ TEST_F(ProgramInstalled, AFirstStartFillsTheUsersOwnFolderWithoutOtherPeoplesFil
     EXPECT_TRUE(program.read(u"Zeph.ini"_s).contains("Somebody")) << "theirs stays theirs";
 }
 
+TEST_F(ProgramInstalled, AFolderThatAPackageSharesIsLeftAloneEvenWhereItCanBeWritten)
+{
+    program.write(u"Package.ini"_s, "[Package]\nFile=zeph_<version>_amd64.deb\nShared=1\n");
+    program.setEnvironment(u"HOME"_s, program.home().path());
+    program.setEnvironment(u"XDG_DATA_HOME"_s, program.home().file(u".local/share"_s));
+    program.run({ u"maybe-ok WARNING"_s, u"window Welcome to Zeph"_s, u"dismiss Welcome"_s,
+                  u"gone Welcome"_s, u"close"_s });
+    EXPECT_TRUE(iHave(u"Zeph.ini"_s));
+    EXPECT_TRUE(iHave(u"Tips.txt"_s));
+    EXPECT_FALSE(iHave(u"Package.ini"_s)) << "it tells of the program's folder, not of mine";
+    for (const QString &name : { u"Zeph.ini"_s, u"HOTAS.ini"_s, u"Rtf"_s, u"Temp"_s }) {
+        EXPECT_FALSE(program.exists(name)) << name.toStdString();
+    }
+}
+
 TEST_F(ProgramInstalled, AnUpgradeBringsDataUpToDateAndNamesTheFilesThatTheUserChanged)
 {
     program.installForOthers();

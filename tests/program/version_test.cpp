@@ -18,6 +18,7 @@
 
 using namespace zeph;
 using namespace zeph::test;
+using testing::AllOf;
 using testing::Contains;
 using testing::ElementsAre;
 using testing::HasSubstr;
@@ -80,6 +81,7 @@ TEST(ProgramVersion, TheCheckShowsThatItRunsAndTellsAVersionFromAnythingElse)
                       QString::fromUtf16(versionText).toLatin1() + " \r\n", "99.1\r\n" });
     Program program;
     program.settle();
+    program.write(u"Package.ini"_s, "[Package]\nFile=zeph-<version>-linux-x86_64.tar.xz\n");
     program.write(u"Zeph.ini"_s,
                   program.read(u"Zeph.ini"_s)
                       .replace("[Unsupported]\r\n",
@@ -94,5 +96,6 @@ TEST(ProgramVersion, TheCheckShowsThatItRunsAndTellsAVersionFromAnythingElse)
                 ElementsAre(HasSubstr("ZephSite answered, but not with a version"),
                             HasSubstr("ZephSite answered, but not with a version"),
                             HasSubstr("You are running the latest version of Zeph"),
-                            HasSubstr("There is a newer version (version 99.1)")));
+                            AllOf(HasSubstr("There is a newer version (version 99.1)"),
+                                  HasSubstr("zeph-99.1-linux-x86_64.tar.xz"))));
 }

@@ -4,6 +4,7 @@
 #include "shell/version_check.h"
 
 #include "platform/downloader.h"
+#include "platform/package.h"
 #include "tests/support/shell_world.h"
 
 #include <QTcpServer>
@@ -36,7 +37,7 @@ public:
 };
 
 struct VersionCheck : test::ShellWorld {
-    Box tell(const QString &address)
+    Box tell(const QString &address, const Package &package = {})
     {
         HttpDownloader http;
         ScriptedDialogs seen;
@@ -44,7 +45,8 @@ struct VersionCheck : test::ShellWorld {
                                    u"Unable to retrieve version information" }) {
             seen.answer(QString::fromUtf16(title), BoxButton::Ok);
         }
-        checkVersion(http, { paths, settings, status, seen, launcher, clock, keyboard }, address);
+        checkVersion(http, { paths, settings, status, seen, launcher, clock, keyboard }, address,
+                     package);
         return seen.boxes().value(0);
     }
 };
@@ -72,6 +74,22 @@ TEST_F(VersionCheck, TellsANewerVersion)
     EXPECT_EQ(box.text,
               u"There is a newer version (version 4.5) of Zeph available to download.\n"
               "Please visit Klaifi (links are in the Help menu) to download it.");
+}
+
+TEST_F(VersionCheck, OfANewerVersionItNamesTheFileToFetchAsThisCopyWasInstalled)
+{
+    const TextServer server("4.5\r\n");
+    EXPECT_EQ(tell(server.address(), { u"zeph_<version>_amd64.deb"_s }).text,
+              u"There is a newer version (version 4.5) of Zeph available to download.\n"
+              "Please visit Klaifi (links are in the Help menu) to download it.\n"
+              "The file for you is zeph_4.5_amd64.deb.");
+}
+
+TEST_F(VersionCheck, TheLatestVersionNamesNoFile)
+{
+    const TextServer server("4.4.02");
+    EXPECT_EQ(tell(server.address(), { u"zeph_<version>_amd64.deb"_s }).text,
+              u"You are running the latest version of Zeph, version 4.4.02.");
 }
 
 TEST_F(VersionCheck, BlanksAndLineEndsAroundTheVersionDoNotCount)
@@ -130,6 +148,6 @@ TEST_F(VersionCheck, AFolderThatCannotHoldTheAnswerIsAFailureToo)
     downloader.answer = QByteArray("4.4.02");
     paths.appFolder = folder.file(u"missing/folder"_s);
     dialogs.answer(unableTitle, BoxButton::Ok);
-    checkVersion(downloader, context(), u"http://server/"_s);
+    checkVersion(downloader, context(), u"http://server/"_s, {});
     EXPECT_EQ(boxTitles(), QStringList{ unableTitle });
 }

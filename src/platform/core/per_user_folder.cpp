@@ -18,6 +18,7 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <span>
 
 namespace zeph {
 
@@ -26,10 +27,19 @@ namespace {
 /// Holds a line for each copied file: its CopiedFile, and its path.
 constexpr QStringView recordName = u".filled";
 
+/// What tells of the installation itself stays with it.
+constexpr QStringView installationFiles[] = { packageFileName, u"qt.conf" };
+
 constexpr QStringView personalFolders[] = { u"Recovery", u"Rtf", u"Backup", u"Temp" };
 constexpr QStringView personalFiles[] = { u"Zeph.ini", u"HOTAS.ini", u"Layouts.ini", recordName };
 
 using Copies = QMap<QString, CopiedFile>;
+
+bool isOf(std::span<const QStringView> names, QStringView name)
+{
+    return std::ranges::any_of(
+        names, [name](QStringView each) { return name.compare(each, Qt::CaseInsensitive) == 0; });
+}
 
 bool canMakeFilesIn(const QString &folder)
 {
@@ -113,8 +123,8 @@ public:
         while (files.hasNext()) {
             const QFileInfo file(files.next());
             const QString path = m_program.relativeFilePath(file.filePath());
-            if (file.canonicalFilePath() != executable && !isPersonal(path)
-                && !path.startsWith(own)) {
+            if (file.canonicalFilePath() != executable && !isOf(installationFiles, path)
+                && !isPersonal(path) && !path.startsWith(own)) {
                 bringUpToDate(file, path);
             }
         }
@@ -182,17 +192,12 @@ bool isPersonal(const QString &path)
 {
     static const QRegularExpression lockOrCopy(u"(^|/)[^/]*\\.(lock|part)$|^Zeph\\.\\d+$"_s,
                                                QRegularExpression::CaseInsensitiveOption);
-    const auto isSame = [](QStringView name) {
-        return [name](QStringView each) {
-            return name.compare(each, Qt::CaseInsensitive) == 0;
-        };
-    };
     if (lockOrCopy.match(path).hasMatch()) {
         return true;
     }
     const qsizetype slash = path.indexOf(u'/');
-    return slash < 0 ? std::ranges::any_of(personalFiles, isSame(path))
-                     : std::ranges::any_of(personalFolders, isSame(QStringView(path).first(slash)));
+    return slash < 0 ? isOf(personalFiles, path)
+                     : isOf(personalFolders, QStringView(path).first(slash));
 }
 
 Upgrade upgradeOf(const QByteArray &program, const QByteArray &user,
@@ -211,9 +216,9 @@ Upgrade upgradeOf(const QByteArray &program, const QByteArray &user,
     return copied && copied->hash == user ? Upgrade::Copy : Upgrade::Keep;
 }
 
-ChosenFolder chooseFolder(const QString &executableFolder, const QString &perUser)
+ChosenFolder chooseFolder(const QString &executableFolder, const QString &perUser, bool isShared)
 {
-    if (canMakeFilesIn(executableFolder)) {
+    if (!isShared && canMakeFilesIn(executableFolder)) {
         return { nativeSeparators(executableFolder) };
     }
     if (!QDir().mkpath(perUser) || !canMakeFilesIn(perUser)) {

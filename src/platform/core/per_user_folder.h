@@ -12,6 +12,9 @@
 
 namespace zeph {
 
+/// Beside the executable, written by whoever packs the program.
+inline constexpr QStringView packageFileName = u"Package.ini";
+
 struct ChosenFolder {
     /// Without a closing separator.
     QString appFolder;
@@ -22,10 +25,11 @@ struct ChosenFolder {
     QStringList kept = {};
 };
 
-/// Gives the executable's own folder when it can be written; otherwise perUser, made and filled
-/// from the executable's folder, and brought up to date after an upgrade. What the user has changed
-/// or deleted there stays so.
-ChosenFolder chooseFolder(const QString &executableFolder, const QString &perUser);
+/// Gives the executable's own folder when it can be written and is not shared; otherwise perUser,
+/// made and filled from the executable's folder, and brought up to date after an upgrade. What the
+/// user has changed or deleted there stays so.
+ChosenFolder chooseFolder(const QString &executableFolder, const QString &perUser,
+                          bool isShared = false);
 
 /// Whether a file beside the executable is somebody's own and none of the program's data: settings,
 /// locks, and what lies in folders for work in progress. The path is relative, with "/".

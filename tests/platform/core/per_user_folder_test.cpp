@@ -63,6 +63,20 @@ TEST(ChooseFolder, IsTheExecutablesOwnWhenItCanBeWritten)
               QStringList{ u"Tips.txt"_s });
 }
 
+TEST(ChooseFolder, IsTheUsersWhereAPackageSharesTheExecutables)
+{
+    const TempFolder folder;
+    folder.write(u"app/Tips.txt"_s, "tip");
+    folder.write(u"app/qt.conf"_s, "[Paths]\n");
+    folder.write(u"app/Package.ini"_s, "[Package]\nShared=1\n");
+    const ChosenFolder chosen = chooseFolder(folder.file(u"app"_s), folder.file(u"user"_s), true);
+    EXPECT_EQ(chosen.appFolder, QDir::toNativeSeparators(folder.file(u"user"_s)));
+    EXPECT_TRUE(chosen.canWrite);
+    EXPECT_EQ(folder.read(u"user/Tips.txt"_s), "tip");
+    EXPECT_FALSE(folder.exists(u"user/Package.ini"_s));
+    EXPECT_FALSE(folder.exists(u"user/qt.conf"_s));
+}
+
 #ifdef Q_OS_UNIX
 
 namespace {
