@@ -20,7 +20,7 @@ InstallDir "$LOCALAPPDATA\Programs\Zeph"
 InstallDirRegKey HKCU "Software\Zeph" "InstallFolder"
 SetCompressor /SOLID lzma
 BrandingText "Zeph ${VERSION}"
-VIProductVersion "${VERSION}.0"
+VIProductVersion "${NUMBERS}.0"
 VIAddVersionKey ProductName "Zeph"
 VIAddVersionKey FileDescription "Installer of Zeph"
 VIAddVersionKey FileVersion "${VERSION}"

@@ -63,7 +63,7 @@ bool KeyListener::eventFilter(QObject *watched, QEvent *event)
     }
     case QEvent::WindowDeactivate:
     case QEvent::Hide:
-        if (watched == m_owner.window()) {
+        if (watched == &m_owner) {
             stop();
         }
         return false;

@@ -17,7 +17,7 @@ class Dialogs;
 
 /// Takes all keys of a window while it is on, and tells which keys of the board they are; none
 /// of them is a shortcut or does anything else meanwhile. It ends by a click in the window, when
-/// the window is no longer the active one, and by Escape pressed twice.
+/// the window is no longer the active one or the owner is hidden, and by Escape pressed twice.
 class KeyListener : public QObject
 {
     Q_OBJECT

@@ -4,16 +4,14 @@
 #include "shell/main_status_bar.h"
 
 #include "platform/core/units.h"
+#include "platform/elided_label.h"
 #include "platform/icons.h"
 #include "platform/status_line.h"
 #include "settings/settings.h"
 #include "settings/shared_settings.h"
 
 #include <QHelpEvent>
-#include <QLabel>
 #include <QMouseEvent>
-#include <QPainter>
-#include <QStyle>
 #include <QToolTip>
 
 #include <algorithm>
@@ -49,35 +47,16 @@ const PanelRow panelRows[] = {
 
 static_assert(std::size(panelRows) + 1 == statusPanels, "each panel but the message has a row");
 
-/// The message line: a message that is too long ends in dots instead of widening the window.
-class MessageLabel : public QLabel
-{
-public:
-    using QLabel::QLabel;
-    QSize minimumSizeHint() const override { return { 0, QLabel::minimumSizeHint().height() }; }
-
-protected:
-    void paintEvent(QPaintEvent *) override
-    {
-        QPainter painter(this);
-        const QString shown =
-            fontMetrics().elidedText(text(), Qt::ElideRight, width() - textIndent);
-        style()->drawItemText(&painter, rect().adjusted(textIndent, 0, 0, 0),
-                              Qt::AlignLeft | Qt::AlignVCenter, palette(), isEnabled(), shown,
-                              foregroundRole());
-    }
-};
-
 } // namespace
 
 MainStatusBar::MainStatusBar(const Context &context, QWidget *parent)
-    : QStatusBar(parent), m_context(context), m_message(new MessageLabel(this))
+    : QStatusBar(parent), m_context(context), m_message(new ElidedLabel(this))
 {
     setObjectName(u"StatusBar"_s);
     setMouseTracking(true);
     setContentsMargins(0, 0, textIndent, 0);
     m_message->setObjectName(u"Panel_1"_s);
-    m_message->setTextFormat(Qt::PlainText);
+    m_message->setIndent(textIndent);
     m_message->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     m_message->setAttribute(Qt::WA_TransparentForMouseEvents);
     addWidget(m_message, 1);

@@ -47,7 +47,7 @@
 //   one menu NAME            pops up the menu of that entry, or the right mouse button's of that
 //   control keys NAME KEY ...    presses keys ("Shift+C") in the control of that object name toggle
 //   BUTTON NAME 1 presses the button when the control NAME is not visible (0: when it is)
-//   click NAME           clicks into the control of that object name
+//   click NAME           clicks into the control of that object name; doubleclick does so twice
 //   environment NAME V   sets a variable for the programs that are started from now on; without a
 //                        value it is unset
 // So have tests of what is around the texts:
@@ -61,7 +61,25 @@
 //   clipboard TEXT       puts a text on the clipboard
 //   remove PATH          deletes a file; a relative name is one beside the program
 //   time NAME            notes "NAME at MS", the time in milliseconds since 1970
+//   ticked NAME 1        waits until that menu entry is ticked (0: is not)
+//   caret NAME TEXT      waits until the line with the caret holds TEXT, and notes "NAME line N: "
+//   and that line, counted from 1 line NAME N          puts the caret to the start of a line,
+//   counted from 1 focus TEXT           waits until the object name of the control with the focus
+//   begins with TEXT, and notes it idle MS              leaves the program alone for that long, and
+//   notes "idle MS: N ms", the processor time that it took
+// A pilot with a controller in his hands has these:
+//   stick in N           plugs one with N buttons (28 when left out), eight axes and a hat in, and
+//   notes its number
+//   stick out            pulls it out
+//   stick down N ...     presses buttons at once, counted from 0; stick up N ... releases them
+//   stick hat U          moves the hat to U, UR, R, DR, D, DL, L, UL or M, the middle
+//   stick axis N VALUE   moves an axis, from -32768 to 32767
+//   bold NAME ...        waits until exactly these labels of Quick View are bold (none: no label;
+//   any: whatever is), and notes them with the number of looks that the window has taken at the
+//   controller since the last step of the stick
+//   ticks N              waits for so many looks since then
 #include "finding.h"
+#include "joystick_steps.h"
 #include "scene_steps.h"
 #include "tour_steps.h"
 
@@ -82,6 +100,7 @@
 #include <QTimer>
 
 #include <cstdlib>
+#include <ctime>
 
 namespace {
 
@@ -141,6 +160,9 @@ private:
     bool perform(const QString &verb, const QString &rest)
     {
         if (const auto done = m_tour.perform(verb, rest, m_waited.elapsed())) {
+            return *done;
+        }
+        if (const auto done = m_joystick.perform(verb, rest)) {
             return *done;
         }
         if (const auto done = performOnScene(m_notes, verb, rest)) {
@@ -252,6 +274,9 @@ private:
         }
         if (verb == QLatin1String("pause")) {
             return m_waited.elapsed() >= first.toInt();
+        }
+        if (verb == QLatin1String("idle")) {
+            return idle(first.toInt());
         }
         if (verb == QLatin1String("done")) {
             return m_acts == 0;
@@ -369,6 +394,21 @@ private:
         return false;
     }
 
+    /// Its own looks at the program would be measured too: there is one at the start and one at the
+    /// end.
+    bool idle(int ms)
+    {
+        if (m_timer.interval() == stepMs) {
+            m_idleFrom = std::clock();
+            m_timer.setInterval(ms);
+            return false;
+        }
+        const auto used = double(std::clock() - m_idleFrom) * 1000 / CLOCKS_PER_SEC;
+        m_timer.setInterval(stepMs);
+        note(QStringLiteral("idle %1: %2 ms").arg(ms).arg(used));
+        return true;
+    }
+
     void keepTyping(const QString &control, const QString &action, int every)
     {
         if (const QWidget *modal = QApplication::activeModalWidget()) {
@@ -421,9 +461,11 @@ private:
     QStringList m_steps;
     Notes m_notes;
     TourSteps m_tour{ m_notes };
+    JoystickSteps m_joystick{ m_notes };
     int m_acts = 0;
     QTimer m_timer;
     QElapsedTimer m_waited;
+    std::clock_t m_idleFrom = 0;
     QElapsedTimer m_typing;
     int m_keys = 0;
 };

@@ -9,11 +9,24 @@
 #include <QAbstractTextDocumentLayout>
 #include <QApplication>
 #include <QClipboard>
+#include <QCryptographicHash>
 #include <QDateTime>
 #include <QDir>
+#include <QImage>
+#include <QKeyEvent>
+#include <QKeySequence>
 #include <QPlainTextEdit>
+#include <QPointer>
 #include <QTextBlock>
 #include <QTextLayout>
+
+// What the toolkit's own tests press keys with.
+QT_BEGIN_NAMESPACE
+Q_GUI_EXPORT bool qt_sendShortcutOverrideEvent(QObject *control, ulong timestamp, int key,
+                                               Qt::KeyboardModifiers modifiers,
+                                               const QString &text = QString(),
+                                               bool autoRepeat = false, ushort count = 1);
+QT_END_NAMESPACE
 
 namespace {
 
@@ -85,6 +98,93 @@ bool items(Notes &notes, const QString &name, const QString &wanted)
     return true;
 }
 
+bool ticked(const QString &name, bool wanted)
+{
+    const QAction *entry = actionNamed(name);
+    return entry && entry->isChecked() == wanted;
+}
+
+bool noteCaret(Notes &notes, const QString &name, const QString &wanted)
+{
+    const auto *edit = qobject_cast<QPlainTextEdit *>(widgetNamed(name));
+    const QTextBlock line = edit ? edit->textCursor().block() : QTextBlock();
+    if (!line.isValid() || !line.text().contains(wanted)) {
+        return false;
+    }
+    notes.note(
+        QStringLiteral("%1 line %2: %3").arg(name).arg(line.blockNumber() + 1).arg(line.text()));
+    return true;
+}
+
+bool moveCaret(const QString &name, int line)
+{
+    auto *edit = qobject_cast<QPlainTextEdit *>(widgetNamed(name));
+    if (!edit || !edit->isVisible()) {
+        return false;
+    }
+    edit->setTextCursor(QTextCursor(edit->document()->findBlockByNumber(line - 1)));
+    return true;
+}
+
+/// Shortcuts come first, as from a keyboard.
+void pressKey(QWidget &control, QKeyCombination key)
+{
+    const bool types = key.key() < Qt::Key_Escape
+        && !(key.keyboardModifiers() & (Qt::ControlModifier | Qt::AltModifier));
+    const QString text = types ? QString(QChar(char16_t(key.key()))) : QString();
+    if (qt_sendShortcutOverrideEvent(&control, 0, key.key(), key.keyboardModifiers(), text)) {
+        return;
+    }
+    const QPointer<QWidget> alive(&control);
+    for (const auto type : { QEvent::KeyPress, QEvent::KeyRelease }) {
+        QKeyEvent event(type, key.key(), key.keyboardModifiers(), text);
+        if (alive) {
+            QApplication::sendEvent(alive, &event);
+        }
+    }
+}
+
+bool stroke(const QString &keys)
+{
+    QWidget *control = QApplication::activePopupWidget();
+    if (!control) {
+        control = QApplication::focusWidget();
+    }
+    if (!control) {
+        control = QApplication::activeWindow();
+    }
+    if (!control) {
+        return false;
+    }
+    const QKeyCombination key = QKeySequence(keys)[0];
+    later(control, [key](QWidget *at) { pressKey(*at, key); });
+    return true;
+}
+
+bool noteFace(Notes &notes, const QString &name)
+{
+    QWidget *control = widgetNamed(name);
+    if (!control || !control->isVisible()) {
+        return false;
+    }
+    const QImage face = control->grab().toImage();
+    const auto bytes = QByteArray::fromRawData(reinterpret_cast<const char *>(face.constBits()),
+                                               face.sizeInBytes());
+    const QByteArray hash = QCryptographicHash::hash(bytes, QCryptographicHash::Md5).toHex();
+    notes.note(QLatin1String("face ") + name + QLatin1Char(' ') + QString::fromLatin1(hash));
+    return true;
+}
+
+bool noteFocus(Notes &notes, const QString &wanted)
+{
+    const QWidget *control = QApplication::focusWidget();
+    if (!control || !control->objectName().startsWith(wanted)) {
+        return false;
+    }
+    notes.note(QLatin1String("focus ") + control->objectName());
+    return true;
+}
+
 } // namespace
 
 std::optional<bool> performOnScene(Notes &notes, const QString &verb, const QString &rest)
@@ -111,6 +211,24 @@ std::optional<bool> performOnScene(Notes &notes, const QString &verb, const QStr
     if (verb == QLatin1String("minimised")) {
         const QWidget *window = windowTitled(rest);
         return window && window->isMinimized();
+    }
+    if (verb == QLatin1String("ticked")) {
+        return ticked(first, second == QLatin1String("1"));
+    }
+    if (verb == QLatin1String("caret")) {
+        return noteCaret(notes, first, second);
+    }
+    if (verb == QLatin1String("line")) {
+        return moveCaret(first, second.toInt());
+    }
+    if (verb == QLatin1String("stroke")) {
+        return stroke(rest);
+    }
+    if (verb == QLatin1String("face")) {
+        return noteFace(notes, rest);
+    }
+    if (verb == QLatin1String("focus")) {
+        return noteFocus(notes, rest);
     }
     if (verb == QLatin1String("clipboard")) {
         QApplication::clipboard()->setText(rest);

@@ -102,8 +102,8 @@ std::optional<bool> TourSteps::perform(const QString &verb, const QString &rest,
     if (verb == QLatin1String("keys")) {
         return pressKeys(first, second);
     }
-    if (verb == QLatin1String("click")) {
-        return click(rest);
+    if (verb == QLatin1String("click") || verb == QLatin1String("doubleclick")) {
+        return click(rest, verb == QLatin1String("doubleclick"));
     }
     if (verb == QLatin1String("toggle")) {
         return toggle(first, second.section(QLatin1Char(' '), 0, 0),
@@ -208,15 +208,19 @@ bool TourSteps::pressKeys(const QString &name, const QString &keys) const
     return true;
 }
 
-bool TourSteps::click(const QString &name) const
+bool TourSteps::click(const QString &name, bool twice) const
 {
     QWidget *control = widgetNamed(name);
     if (!control || !control->isVisible()) {
         return false;
     }
-    later(control, [](QWidget *at) {
+    QList<QEvent::Type> types{ QEvent::MouseButtonPress, QEvent::MouseButtonRelease };
+    if (twice) {
+        types += { QEvent::MouseButtonDblClick, QEvent::MouseButtonRelease };
+    }
+    later(control, [types](QWidget *at) {
         const QPoint middle = at->rect().center();
-        for (const auto type : { QEvent::MouseButtonPress, QEvent::MouseButtonRelease }) {
+        for (const auto type : types) {
             QMouseEvent event(type, middle, at->mapToGlobal(middle), Qt::LeftButton, Qt::LeftButton,
                               Qt::NoModifier);
             QApplication::sendEvent(at, &event);

@@ -29,7 +29,7 @@ private:
     bool welcome();
     bool popUp(const QString &name) const;
     bool pressKeys(const QString &name, const QString &keys) const;
-    bool click(const QString &name) const;
+    bool click(const QString &name, bool twice) const;
     bool toggle(const QString &button, const QString &name, bool wanted) const;
     void grabAll(const QString &name) const;
     void leaveAll() const;

@@ -74,7 +74,13 @@ CoverageWindow::CoverageWindow(const Context &context, QWidget *parent)
     GetCoveragePosition();
 }
 
-CoverageWindow::~CoverageWindow() = default;
+CoverageWindow::~CoverageWindow()
+{
+    // It goes with its owner, which may be closed first.
+    if (isVisible()) {
+        SaveCoveragePosition();
+    }
+}
 
 void CoverageWindow::setUpTable()
 {

@@ -81,4 +81,24 @@ DrawnControls drawnControls(const QString &appFolder, const QString &iniPath)
     return controls;
 }
 
+QRectF drawingOnWidget(const DrawnControls &controls, const PicturePlan &plan, bool throttle)
+{
+    const DrawnPicture &picture = throttle ? controls.throttle : controls.stick;
+    const QRectF &room = throttle ? plan.throttle : plan.stick;
+    const QSizeF shown = QSizeF(picture.size()).scaled(room.size(), Qt::KeepAspectRatio);
+    return { room.center() - QPointF(shown.width() / 2, shown.height() / 2), shown };
+}
+
+QRectF placeOnWidget(const DrawnControls &controls, const PicturePlan &plan,
+                     const DrawnPlace &place)
+{
+    if (place.place.isEmpty()) {
+        return {};
+    }
+    const QRectF shown = drawingOnWidget(controls, plan, place.onThrottle);
+    const QSizeF picture = (place.onThrottle ? controls.throttle : controls.stick).size();
+    const qreal scale = shown.width() / picture.width();
+    return { shown.topLeft() + place.place.topLeft() * scale, place.place.size() * scale };
+}
+
 } // namespace zeph

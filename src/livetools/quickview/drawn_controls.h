@@ -33,4 +33,10 @@ struct DrawnControls {
 /// picture that cannot be read is missing, and so are the controls on it.
 DrawnControls drawnControls(const QString &appFolder, const QString &iniPath);
 
+/// Where a drawing is on the widget: in the middle of its room, in its own shape.
+QRectF drawingOnWidget(const DrawnControls &controls, const PicturePlan &plan, bool throttle);
+/// Where a place of a drawing is on the widget; empty when it is on none.
+QRectF placeOnWidget(const DrawnControls &controls, const PicturePlan &plan,
+                     const DrawnPlace &place);
+
 } // namespace zeph

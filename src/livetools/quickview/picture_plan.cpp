@@ -192,6 +192,12 @@ std::vector<QPointF> joiningLine(const PicturePlan &plan, int row, const QPointF
         const QRectF &frame = plan.hats[size_t(hat)];
         const qreal down =
             frame.top() + kind.lineTop / (kind.area.bottom - kind.area.top) * frame.height();
+        if (hat == 0) {
+            // The line goes round the column beside the frame, below its last label.
+            const QRectF &last = plan.label(stacks[1].rows[4]);
+            return { QPointF(frame.left(), down),
+                     QPointF((last.right() + frame.left()) / 2, plan.stick.top()), control };
+        }
         if (!kind.toTheRight) {
             return { QPointF(frame.left(), down), control };
         }

@@ -4,6 +4,7 @@
 #include "livetools/quickview/quick_view_picture.h"
 
 #include "livetools/quickview/statement_label.h"
+#include "platform/elided_label.h"
 
 #include <QEvent>
 #include <QLabel>
@@ -62,11 +63,10 @@ QFont sized(QFont font, qreal pixels)
 } // namespace
 
 QuickViewPicture::QuickViewPicture(QWidget *parent)
-    : QWidget(parent), m_plan(picturePlan(pictureSize)), m_title(new QLabel(this)),
+    : QWidget(parent), m_plan(picturePlan(pictureSize)), m_title(new ElidedLabel(this)),
       m_microstick(new QLabel(this))
 {
     m_title->setObjectName(u"LabelTitle"_s);
-    m_title->setTextFormat(Qt::PlainText);
     m_microstick->setObjectName(u"LabelBTN_4"_s);
     m_microstick->setTextFormat(Qt::PlainText);
     makePositions();
@@ -111,6 +111,7 @@ void QuickViewPicture::showControls(const DrawnControls &controls)
 void QuickViewPicture::setTitle(const QString &title)
 {
     m_title->setText(title);
+    m_title->setToolTip(Qt::convertFromPlainText(title, Qt::WhiteSpaceNormal));
 }
 
 void QuickViewPicture::setMicrostickTitle(const QString &title)
@@ -143,7 +144,9 @@ void QuickViewPicture::setPressed(int row, bool pressed)
     }
     shown->setPressed(pressed);
     const qreal room = (ringRoom + ringWidth) * m_plan.scale;
-    update(onWidget(m_controls.ofRow(row)).adjusted(-room, -room, room, room).toAlignedRect());
+    update(placeOnWidget(m_controls, m_plan, m_controls.ofRow(row))
+               .adjusted(-room, -room, room, room)
+               .toAlignedRect());
 }
 
 QSize QuickViewPicture::sizeHint() const
@@ -188,25 +191,6 @@ void QuickViewPicture::RepositionOnResize()
     }
 }
 
-QRectF QuickViewPicture::shownAt(bool throttle) const
-{
-    const DrawnPicture &picture = throttle ? m_controls.throttle : m_controls.stick;
-    const QRectF &room = throttle ? m_plan.throttle : m_plan.stick;
-    const QSizeF shown = QSizeF(picture.size()).scaled(room.size(), Qt::KeepAspectRatio);
-    return { room.center() - QPointF(shown.width() / 2, shown.height() / 2), shown };
-}
-
-QRectF QuickViewPicture::onWidget(const DrawnPlace &place) const
-{
-    if (place.place.isEmpty()) {
-        return {};
-    }
-    const QRectF shown = shownAt(place.onThrottle);
-    const QSizeF picture = (place.onThrottle ? m_controls.throttle : m_controls.stick).size();
-    const qreal scale = shown.width() / picture.width();
-    return { shown.topLeft() + place.place.topLeft() * scale, place.place.size() * scale };
-}
-
 void QuickViewPicture::paintEvent(QPaintEvent *)
 {
     const qreal ratio = devicePixelRatioF();
@@ -223,7 +207,7 @@ void QuickViewPicture::paintEvent(QPaintEvent *)
     painter.setBrush(Qt::NoBrush);
     const qreal room = ringRoom * m_plan.scale;
     for (int row = 1; row <= rowCount; ++row) {
-        const QRectF place = onWidget(m_controls.ofRow(row));
+        const QRectF place = placeOnWidget(m_controls, m_plan, m_controls.ofRow(row));
         if (label(row) && label(row)->isPressed() && !place.isEmpty()) {
             painter.drawEllipse(place.adjusted(-room, -room, room, room));
         }
@@ -237,7 +221,7 @@ void QuickViewPicture::paintGround(QPainter &painter) const
     for (const bool throttle : { true, false }) {
         const DrawnPicture &picture = throttle ? m_controls.throttle : m_controls.stick;
         if (!picture.isNull()) {
-            picture.draw(painter, shownAt(throttle));
+            picture.draw(painter, drawingOnWidget(m_controls, m_plan, throttle));
         }
     }
     paintFrames(painter);
@@ -267,7 +251,7 @@ void QuickViewPicture::paintLines(QPainter &painter) const
     const QColor colour(0x60, 0x70, 0x90);
     for (int row = 1; row <= rowCount; ++row) {
         const bool isAgain = hatOfRow(row) >= 0 && (row - firstHatRow) % hatRowCount != 0;
-        const QRectF control = onWidget(m_controls.joinedTo(row));
+        const QRectF control = placeOnWidget(m_controls, m_plan, m_controls.joinedTo(row));
         if (isAgain || control.isEmpty()) {
             continue;
         }

@@ -59,9 +59,6 @@ protected:
 private:
     void makeLabels();
     void makePositions();
-    /// Where a place of a drawing is in this widget; empty when it is on none.
-    QRectF onWidget(const DrawnPlace &place) const;
-    QRectF shownAt(bool throttle) const;
     void paintGround(QPainter &painter) const;
     void paintFrames(QPainter &painter) const;
     void paintLines(QPainter &painter) const;

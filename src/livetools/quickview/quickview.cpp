@@ -33,6 +33,8 @@ namespace zeph {
 
 namespace {
 
+constexpr QStringView ready = u" Quick View ready";
+
 constexpr int joyTimerMs = 100;
 /// After the last key, so that nobody waits for the picture while typing.
 constexpr int typingMs = 500;
@@ -240,7 +242,7 @@ void QuickView::AnalyseAndFill()
     if (!m_joystickDisabled && !m_modeCheck->isRunning()) {
         m_joyTimer->start();
     }
-    say(u" Quick View ready"_s);
+    say(ready.toString());
 }
 
 void QuickView::readFile()
@@ -352,6 +354,8 @@ void QuickView::JustCheckThatMode()
 void QuickView::modeChecked(bool isWindowsMode)
 {
     if (isWindowsMode) {
+        // The request for the mode has said that one has to wait.
+        say(ready.toString());
         m_joyTimer->start();
         JoyTimer_Timer();
         return;

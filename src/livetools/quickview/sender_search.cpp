@@ -24,7 +24,7 @@ namespace {
 constexpr QStringView listening = u"Listening: press a key. A click or Escape twice ends it.";
 constexpr QStringView unknownKey = u"Listening: your files have no such key.";
 constexpr QStringView nothingSends = u"Nothing sends it.";
-constexpr int fieldWidth = 16; ///< at least so many letters
+constexpr int fieldWidth = 22; ///< at least so many letters
 
 QString counted(size_t number, QStringView word)
 {
@@ -63,15 +63,15 @@ QString soughtKey(const BoardKey &key, Qt::KeyboardModifiers held)
 }
 
 SenderSearch::SenderSearch(Dialogs &dialogs, QWidget *parent)
-    : QWidget(parent), m_dialogs(dialogs), m_field(new QLineEdit(this)),
-      m_listen(new QPushButton(u"&Listen"_s, this)), m_result(new QLabel(this)),
-      m_names(new QStringListModel(this)), m_listener(new KeyListener(dialogs, *this, *m_listen))
+    : QWidget(parent), m_field(new QLineEdit(this)), m_listen(new QPushButton(u"&Listen"_s, this)),
+      m_result(new QLabel(this)), m_names(new QStringListModel(this)),
+      m_listener(new KeyListener(dialogs, *this, *m_listen))
 {
     makeControls();
     layOut();
     connectListener();
     connect(m_field, &QLineEdit::textChanged, this,
-            guarded(m_dialogs, [this](const QString &text) { typed(text); }));
+            guarded(dialogs, [this](const QString &text) { typed(text); }));
 }
 
 void SenderSearch::makeControls()
@@ -102,7 +102,7 @@ void SenderSearch::layOut()
     caption->setObjectName(u"LabelSought"_s);
     caption->setBuddy(m_field);
     auto *row = new QHBoxLayout(this);
-    row->setContentsMargins({});
+    row->setContentsMargins(0, 4, 0, 4);
     row->addWidget(caption);
     row->addWidget(m_field, 1);
     row->addWidget(m_listen);
@@ -160,7 +160,7 @@ bool SenderSearch::eventFilter(QObject *watched, QEvent *event)
         event->type() == QEvent::KeyPress || event->type() == QEvent::ShortcutOverride;
     if (watched == m_field && isKey && !m_field->text().isEmpty()
         && static_cast<QKeyEvent *>(event)->key() == Qt::Key_Escape) {
-        // An empty field leaves Escape to the window, which closes by it.
+        // An empty field leaves Escape to the window, which puts the search away by it.
         event->accept();
         if (event->type() == QEvent::KeyPress) {
             m_field->clear();

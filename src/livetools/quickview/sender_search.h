@@ -50,7 +50,6 @@ private:
     void connectListener();
     void typed(const QString &text);
 
-    Dialogs &m_dialogs;
     QLineEdit *m_field;
     QPushButton *m_listen;
     QLabel *m_result;

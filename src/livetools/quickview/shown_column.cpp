@@ -81,7 +81,7 @@ void ShownColumn::showTexts()
         if (StatementLabel *label = m_picture.label(row)) {
             const QString &cell = m_contents.table.at(row, m_column).text;
             label->showText(labelText(row, cell, m_options, m_showsKeys ? &m_keys : nullptr),
-                            tipOf({ row, m_column }));
+                            tipOf({ row, m_column }), !cell.isEmpty());
             showMarks(row);
         }
     }

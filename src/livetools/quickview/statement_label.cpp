@@ -10,6 +10,7 @@
 #include <QPainterPath>
 
 #include <algorithm>
+#include <utility>
 
 namespace zeph {
 
@@ -20,10 +21,14 @@ constexpr qreal corner = 3;
 constexpr qreal caretBar = 3;
 constexpr qreal foldSize = 7;
 constexpr qreal diamondSize = 4;
+constexpr qreal diamondFromRight = 12;
 /// How much of a mark's colour is in the ground below a text, which must stay easy to read.
 constexpr qreal tint = 0.3;
-/// How much lighter the control's name is than the text.
-constexpr qreal nameLightness = 0.35;
+/// How much of the ground's colour is in the control's name, which is fainter than the text.
+/// Without a statement it is fainter still, but the pilot has to see which control does nothing.
+constexpr qreal nameFaintness = 0.35;
+constexpr qreal emptyNameFaintness = 0.45;
+constexpr qreal focusWidth = 2;
 
 constexpr QColor soughtColour(0xF0, 0xB0, 0x00);
 constexpr QColor otherwiseColour(0xE0, 0x50, 0x20);
@@ -55,19 +60,39 @@ StatementLabel::StatementLabel(const QString &shownName, const QString &spokenNa
 {
     setTextFormat(Qt::PlainText);
     setFocusPolicy(Qt::StrongFocus);
-    showText({}, {});
+    showText({}, {}, false);
 }
 
-void StatementLabel::showText(const QString &text, const QString &tip)
+void StatementLabel::showText(const QString &text, const QString &tip, bool hasStatement)
 {
     if (text != this->text()) {
         setText(text);
     }
-    if (tip != toolTip()) {
-        setToolTip(tip);
+    // Statements can hold "<" and are no mark-up; as paragraphs, long ones are broken into lines.
+    const QString shownTip =
+        tip.isEmpty() ? QString() : Qt::convertFromPlainText(tip, Qt::WhiteSpaceNormal);
+    if (shownTip != toolTip()) {
+        setToolTip(shownTip);
     }
-    setEnabled(!text.isEmpty());
+    enable(hasStatement);
     speak();
+}
+
+void StatementLabel::enable(bool enabled)
+{
+    if (enabled == isEnabled()) {
+        return;
+    }
+    if (!enabled && window()->focusWidget() == this) {
+        // Else the next label would get it, and a small window would scroll there.
+        parentWidget()->setFocus(Qt::OtherFocusReason);
+        m_isFocusLent = true;
+    }
+    setEnabled(enabled);
+    if (enabled && std::exchange(m_isFocusLent, false)
+        && window()->focusWidget() == parentWidget()) {
+        setFocus(Qt::OtherFocusReason);
+    }
 }
 
 void StatementLabel::speak()
@@ -104,19 +129,19 @@ void StatementLabel::paintEvent(QPaintEvent *)
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     paintGround(painter);
-    const QPalette::ColorGroup group = isEnabled() ? QPalette::Active : QPalette::Disabled;
     const QFontMetricsF metrics(font());
     QFont nameFont = font();
     nameFont.setBold(true);
-    const QRectF room = QRectF(rect()).adjusted(caretBar + padding, 0, -padding, 0);
+    const QRectF room = QRectF(rect()).adjusted(caretBar + padding, 0, -marksWidth(), 0);
     const qreal nameWidth = QFontMetricsF(nameFont).horizontalAdvance(m_shownName) + 2 * padding;
     const int mostLines = std::max(1, int(room.height() / metrics.height()));
     const QStringList lines = fittingLines(text(), font(), room.width() - nameWidth, mostLines);
     const qreal top = room.top()
         + (room.height() - qreal(std::max<qsizetype>(1, lines.size())) * metrics.height()) / 2;
-    const QColor words = palette().color(group, QPalette::WindowText);
+    const QColor words = palette().color(QPalette::Active, QPalette::WindowText);
     painter.setPen(isPressed() ? words
-                               : mixed(words, palette().color(QPalette::Base), nameLightness));
+                               : mixed(words, palette().color(QPalette::Active, QPalette::Base),
+                                       isEnabled() ? nameFaintness : emptyNameFaintness));
     painter.setFont(nameFont);
     painter.drawText(QPointF(room.left(), top + metrics.ascent()), m_shownName);
     painter.setPen(words);
@@ -138,10 +163,21 @@ void StatementLabel::paintGround(QPainter &painter) const
     if (isPressed()) {
         ground = mixed(ground, pressedColour, tint);
     }
-    painter.setPen(hasFocus() ? palette().color(QPalette::Highlight)
-                              : palette().color(QPalette::Mid));
+    const QPen frame = hasFocus() ? QPen(palette().color(QPalette::Highlight), focusWidth)
+                                  : QPen(palette().color(QPalette::Mid), 1);
+    const qreal inside = frame.widthF() / 2;
+    painter.setPen(frame);
     painter.setBrush(ground);
-    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), corner, corner);
+    painter.drawRoundedRect(QRectF(rect()).adjusted(inside, inside, -inside, -inside), corner,
+                            corner);
+}
+
+qreal StatementLabel::marksWidth() const
+{
+    if (m_marks.sends != SendsSought::No) {
+        return diamondFromRight + diamondSize + padding;
+    }
+    return m_marks.isReadOtherwise ? foldSize + 1 : padding;
 }
 
 void StatementLabel::paintMarks(QPainter &painter) const
@@ -163,7 +199,7 @@ void StatementLabel::paintMarks(QPainter &painter) const
         painter.setPen(QPen(soughtColour, 1.5));
         painter.setBrush(m_marks.sends == SendsSought::Here ? QBrush(soughtColour)
                                                             : QBrush(Qt::NoBrush));
-        painter.drawPath(diamondAround(QPointF(all.right() - 3 * diamondSize, all.center().y())));
+        painter.drawPath(diamondAround(QPointF(all.right() - diamondFromRight, all.center().y())));
     }
 }
 

@@ -27,6 +27,7 @@ struct LabelMarks {
 
 /// What one control does. text() is whole; as much of it as there is room for is painted, after the
 /// control's name. A double click, Return or Enter activates it; Up and Down go to the next label.
+/// The focus comes back to a label that was disabled meanwhile.
 class StatementLabel : public QLabel
 {
     Q_OBJECT
@@ -34,8 +35,9 @@ public:
     /// The spoken name is what a screen reader says before the text.
     StatementLabel(const QString &shownName, const QString &spokenName, QWidget *parent);
 
-    /// Shows a text; an empty one disables the label. Says so to a screen reader too.
-    void showText(const QString &text, const QString &tip);
+    /// Shows a text and says it to a screen reader. Without a statement the label is disabled; one
+    /// that has a statement can have no text all the same. The tip is plain text.
+    void showText(const QString &text, const QString &tip, bool hasStatement);
     /// Bold while the control is pressed.
     void setPressed(bool pressed);
     bool isPressed() const { return font().bold(); }
@@ -56,11 +58,15 @@ protected:
 private:
     void paintGround(QPainter &painter) const;
     void paintMarks(QPainter &painter) const;
+    /// The room at the right that the text leaves to the marks.
+    qreal marksWidth() const;
     void speak();
+    void enable(bool enabled);
 
     QString m_shownName;
     QString m_spokenName;
     LabelMarks m_marks;
+    bool m_isFocusLent = false; ///< the parent has had it since the label was disabled
 };
 
 } // namespace zeph

@@ -25,13 +25,6 @@ int rowAtLine(const std::vector<StatementPlace> &places, int line)
     return line <= place.lastLine ? place.row : 0;
 }
 
-int rowAtCaret(const std::vector<StatementPlace> &places, QStringView joystickText, qsizetype caret)
-{
-    const QStringView before =
-        joystickText.first(std::clamp<qsizetype>(caret, 0, joystickText.size()));
-    return rowAtLine(places, int(before.count(u'\n')) + 1);
-}
-
 int lineToJumpTo(const Assignments &table, const std::vector<StatementPlace> &places,
                  CellPlace cell)
 {

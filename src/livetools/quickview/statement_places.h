@@ -24,9 +24,6 @@ std::vector<StatementPlace> statementPlaces(const Digest &digest);
 
 /// The row of the control in whose statement a line is; 0 when it is in none.
 int rowAtLine(const std::vector<StatementPlace> &places, int line);
-/// The same for a caret, counted in characters from 0.
-int rowAtCaret(const std::vector<StatementPlace> &places, QStringView joystickText,
-               qsizetype caret);
 
 /// The line to which a jump from a cell goes: that of the statement that gave its text; for an
 /// empty cell the control's first statement; 0 when the control has none.

@@ -12,6 +12,7 @@
 #include "livetools/key_tester_settings.h"
 #include "livetools/pictures/image_viewer_settings.h"
 #include "livetools/quickview/coverage_settings.h"
+#include "livetools/quickview/quick_view_settings.h"
 #include "menus/menu_settings.h"
 #include "platform/core/text1252.h"
 #include "settings/colour_settings.h"
@@ -44,8 +45,8 @@ void addAllSettings(Settings &settings)
 {
     addAll<SharedSettings, ColourSettings, MenuSettings, DocumentSettings, EditorSettings,
            ShellSettings, ComposerSettings, TemplateSettings, ToolchainSettings, DefaultOptions,
-           KeyTesterSettings, CoverageSettings, ImageViewerSettings, LogicFlagsSettings,
-           TumboSettings, LayoutsSettings>(settings);
+           KeyTesterSettings, CoverageSettings, QuickViewSettings, ImageViewerSettings,
+           LogicFlagsSettings, TumboSettings, LayoutsSettings>(settings);
 }
 
 bool isSetUp(const SettingsFiles &files)

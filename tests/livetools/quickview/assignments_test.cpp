@@ -275,6 +275,14 @@ TEST(Assignments, OfTwoLinesForOneHatTheLastWins)
                 Each(u"MOUSE"_s));
 }
 
+TEST(Assignments, ALineOfTheFileThatLooksLikeAUseRecordCountsAsOne)
+{
+    const Assignments table = tableOf(u"BTN S1 a\nHat2: ar\nRadio: x\nMType: 3\n");
+    EXPECT_THAT(textsOf(table, u"H2U"), Each(u"ARROWKEYS"_s));
+    EXPECT_THAT(textsOf(table, u"T2"), Each(u"x"_s));
+    EXPECT_THAT(textsOf(table, u"T1"), Each(u"Left mouse button"_s));
+}
+
 TEST(Assignments, TheRadioSwitchIsT2ToT5)
 {
     const Assignments table = tableOf(u"BTN T2 a\nUSE RADIOSWITCH AS  Hat3 x \nBTN T6 b\n");

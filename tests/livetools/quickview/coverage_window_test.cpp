@@ -215,6 +215,14 @@ TEST_F(CoverageWindowTest, EscapeClosesItAndItsPlaceIsKept)
     EXPECT_EQ(window->size(), QSize(700, 420));
 }
 
+TEST_F(CoverageWindowTest, ItsPlaceIsKeptWhenItGoesWithItsOwner)
+{
+    window->move(75, 30);
+    window.reset();
+    open();
+    EXPECT_EQ(window->pos(), QPoint(75, 30));
+}
+
 TEST(CoverageSettingsTest, AreNoPartOfTheGlobalSave)
 {
     for (const SettingKey &key : CoverageSettings::rows()) {

@@ -23,6 +23,7 @@
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QStatusBar>
+#include <QTableView>
 #include <QTest>
 #include <QTimer>
 #include <QToolBar>
@@ -344,6 +345,50 @@ TEST_F(QuickViewTest, NoTickActsDuringTheModeCheck)
     EXPECT_EQ(bold(), atRest);
 }
 
+TEST_F(QuickViewTest, AfterTheModeCheckItIsReadyAgain)
+{
+    folder.write(u"HOTASConfig.exe"_s, "MZ");
+    settings.of<ToolchainSettings>().CheckForCompletionTime = 5;
+    report("OKAY", 1);
+    open();
+    status.setText(u" Changing to Windows buttons mode - hold on ..."_s);
+    report("OKAY", 0);
+    QTRY_COMPARE(status.text(), u" Quick View ready"_s);
+}
+
+TEST_F(QuickViewTest, ARotaryWithoutMacrosHasAStatementThoughItsLabelIsEmpty)
+{
+    setText(u"RNG 4 3\n"_s);
+    openManually();
+    EXPECT_EQ(text(u"RNG"_s), QString());
+    EXPECT_TRUE(label(u"RNG"_s)->isEnabled());
+    entry(u"mnuOptionsRotaryStrip")->trigger();
+    EXPECT_EQ(text(u"RNG"_s), u"4 3");
+    entry(u"mnuOptionsRotaryStrip")->trigger();
+    QTest::mouseDClick(label(u"RNG"_s), Qt::LeftButton);
+    EXPECT_EQ(jumps, 1);
+}
+
+TEST_F(QuickViewTest, ATipIsNoMarkUpAndIsBrokenIntoLines)
+{
+    setText(u"BTN S1 <b> Fire\n"_s);
+    openManually();
+    const QString tip = label(u"S1"_s)->toolTip();
+    EXPECT_TRUE(tip.contains(u"&lt;b&gt; Fire")) << tip.toStdString();
+    EXPECT_TRUE(Qt::mightBeRichText(tip)) << "plain tips are one line however long";
+    EXPECT_TRUE(label(u"S2"_s)->toolTip().isEmpty());
+}
+
+TEST_F(QuickViewTest, ANameThatIsTooLongForTheTitleIsWholeInItsTip)
+{
+    openManually();
+    const QString name = QString(120, u'x') + u".tmj"_s;
+    documents.joystick().rename(folder.file(name));
+    const auto *title = view->findChild<QLabel *>(u"LabelTitle"_s);
+    EXPECT_EQ(title->text(), documents.joystick().caption());
+    EXPECT_TRUE(title->toolTip().contains(name));
+}
+
 TEST_F(QuickViewTest, TheRadioSwitchAndMouseTypesAreShown)
 {
     setText(u"USE RADIOSWITCH AS COMMS\nUSE MTYPE A2\n"_s);
@@ -409,6 +454,25 @@ TEST_F(QuickViewTest, TheEntryGoesToTheStatementOfTheFocusedLabel)
     EXPECT_EQ(documents.joystick().caretLine(), 4);
 }
 
+TEST_F(QuickViewTest, TheFocusComesBackToALabelThatHadNoStatementMeanwhile)
+{
+    setText(u"BTN S2 /U x\nBTN S3 y\n"_s);
+    openManually();
+    view->activateWindow();
+    label(u"S2"_s)->setFocus();
+    entry(u"mnuPosition_1")->trigger();
+    ASSERT_FALSE(label(u"S2"_s)->isEnabled());
+    EXPECT_NE(view->focusWidget(), label(u"S3"_s));
+    entry(u"mnuGoToStatement")->trigger();
+    EXPECT_EQ(documents.joystick().caretLine(), 1);
+    entry(u"mnuPosition_0")->trigger();
+    EXPECT_EQ(view->focusWidget(), label(u"S2"_s));
+    entry(u"mnuPosition_1")->trigger();
+    label(u"S3"_s)->setFocus();
+    entry(u"mnuPosition_0")->trigger();
+    EXPECT_EQ(view->focusWidget(), label(u"S3"_s)) << "the pilot has moved on";
+}
+
 TEST_F(QuickViewTest, AJumpAfterTypingGoesToTheLineAsItIsNow)
 {
     openManually();
@@ -472,6 +536,20 @@ TEST_F(QuickViewTest, CoverageOpensAndLeadsToStatements)
     coverage->close();
     entry(u"mnuCoverage")->trigger();
     EXPECT_EQ(view->findChildren<QWidget *>(u"CoverageWindow"_s).size(), 1);
+}
+
+TEST_F(QuickViewTest, ACellOfTheCoverageLeadsToItsStatement)
+{
+    openManually();
+    entry(u"mnuCoverage")->trigger();
+    auto *table = view->findChild<QTableView *>(u"TableCoverage"_s);
+    ASSERT_TRUE(table);
+    const QModelIndex cell = table->model()->index(2, 0);
+    ASSERT_TRUE(cell.data().toString().endsWith(u'e')) << "T3";
+    table->scrollTo(cell);
+    QTest::mouseClick(table->viewport(), Qt::LeftButton, {}, table->visualRect(cell).center());
+    EXPECT_EQ(jumps, 1);
+    EXPECT_EQ(documents.joystick().caretLine(), 4);
 }
 
 TEST_F(QuickViewTest, ToolbarsStayHiddenWhenAskedFor)

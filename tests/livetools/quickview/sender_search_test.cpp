@@ -200,11 +200,28 @@ TEST_F(SenderSearchTest, EscapeTwiceOrAClickElsewhereEndsListening)
     EXPECT_EQ(field().text(), u"ESC"_s);
 }
 
-TEST_F(SenderSearchTest, ItEndsListeningWhenItsWindowIsHidden)
+TEST_F(SenderSearchTest, ItEndsListeningWhenItsWindowIsHiddenOrNoLongerActive)
 {
     listen();
     window.hide();
     EXPECT_FALSE(button().isChecked());
+    window.show();
+    QApplication::setActiveWindow(&window);
+    listen();
+    QWidget another;
+    another.show();
+    QApplication::setActiveWindow(&another);
+    EXPECT_FALSE(button().isChecked());
+}
+
+TEST_F(SenderSearchTest, ItEndsListeningWhenItIsHiddenItself)
+{
+    listen();
+    search->hide();
+    EXPECT_FALSE(button().isChecked());
+    other->setFocus();
+    press(Qt::Key_A);
+    EXPECT_EQ(other->text(), u"a"_s);
 }
 
 TEST_F(SenderSearchTest, TheResultIsNeverCutOff)

@@ -58,22 +58,6 @@ TEST(StatementPlaces, ALineBelongsToTheControlAroundIt)
     }
 }
 
-TEST(StatementPlaces, ACaretBelongsToTheControlOfItsLine)
-{
-    const Opened opened;
-    const qsizetype start = placesFile.indexOf(u"BTN S1");
-    EXPECT_EQ(rowAtCaret(opened.places, placesFile, 0), 0);
-    EXPECT_EQ(rowAtCaret(opened.places, placesFile, start - 1), 0)
-        << "at the end of the line before";
-    EXPECT_EQ(rowAtCaret(opened.places, placesFile, start), placesS1);
-    EXPECT_EQ(rowAtCaret(opened.places, placesFile, placesFile.indexOf(u"/M b") + 4), placesS1);
-    EXPECT_EQ(rowAtCaret(opened.places, placesFile, placesFile.indexOf(u"BTN H1U")), placesH1u);
-    EXPECT_EQ(rowAtCaret(opened.places, placesFile, placesFile.size()), 0)
-        << "after the last line end";
-    EXPECT_EQ(rowAtCaret(opened.places, placesFile, placesFile.size() + 9), 0);
-    EXPECT_EQ(rowAtCaret({}, {}, 0), 0);
-}
-
 TEST(StatementPlaces, AJumpGoesToTheStatementThatGaveTheText)
 {
     const Opened opened;
