@@ -18,7 +18,7 @@
 #include <system_error>
 
 #ifdef Q_OS_WIN
-#include "platform/windows_launch.h"
+#include "platform/windows/windows_launch.h"
 #endif
 
 namespace zeph {

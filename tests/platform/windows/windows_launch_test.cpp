@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: The Zeph authors
 // SPDX-License-Identifier: MIT
 
-#include "platform/windows_launch.h"
+#include "platform/windows/windows_launch.h"
 
 #include "platform/process_launcher.h"
 #include "tests/platform/started_copy.h"
