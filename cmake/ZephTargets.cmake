@@ -99,6 +99,9 @@ function(zeph_test_pch owner)
     endif()
 endfunction()
 
+# What the system that runs the tests puts before a path of the one that builds them: under Wine a drive.
+set(ZEPH_TEST_DRIVE "" CACHE STRING "Drive on which test programs see the sources and the build")
+
 # zeph_test(NAME [GUI] FOLDERS folder... LINK libs... [SLOW suite] [PROPERTIES properties of each test])
 # One test program a room: every .cpp directly in the folders, each TEST a test of ctest. The tests
 # of the slow suite have the label "slow", and time for their long form.
@@ -115,7 +118,7 @@ function(zeph_test name)
     # A fixture in an unnamed namespace is no danger in a source that nobody includes twice.
     target_compile_options(${name} PRIVATE $<$<CXX_COMPILER_ID:GNU>:-Wno-subobject-linkage>)
     target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR})
-    target_compile_definitions(${name} PRIVATE ZEPH_SOURCE_DIR="${CMAKE_SOURCE_DIR}")
+    target_compile_definitions(${name} PRIVATE ZEPH_SOURCE_DIR="${ZEPH_TEST_DRIVE}${CMAKE_SOURCE_DIR}")
     if(ARG_GUI)
         target_link_libraries(${name} PRIVATE zeph_test_gui ${ARG_LINK})
         target_precompile_headers(${name} REUSE_FROM zeph_test_gui)

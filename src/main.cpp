@@ -4,6 +4,7 @@
 #include "editor/editor.h"
 #include "editor/files/loss_guards.h"
 #include "platform/clock.h"
+#include "platform/console.h"
 #include "platform/core/per_user_folder.h"
 #include "platform/dialogs.h"
 #include "platform/downloader.h"
@@ -22,8 +23,6 @@
 #include <QGuiApplication>
 #include <QStandardPaths>
 
-#include <cstdio>
-
 using namespace zeph;
 
 namespace {
@@ -36,7 +35,7 @@ QString perUserFolder()
 /// Writes a sheet into a file: no window, no lock, and no display is needed.
 int writeSheet(int argc, char **argv)
 {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
+    goWithoutDisplay();
     QGuiApplication toolkit(argc, argv);
     QCoreApplication::setApplicationName(u"Zeph"_s);
     const QString folder =
@@ -53,7 +52,7 @@ int main(int argc, char **argv)
         arguments.append(QString::fromLocal8Bit(argv[i]));
     }
     if (const auto answer = commandLineAnswer(arguments)) {
-        std::fputs(answer->toLocal8Bit().constData(), stdout);
+        tellConsole(Stream::Output, *answer);
         return 0;
     }
     if (isSheetCommand(arguments)) {

@@ -8,6 +8,8 @@
 #include "layouts/draw/first_sheet.h"
 #include "layouts/draw/sheet_exports.h"
 #include "layouts/files/layouts_settings.h"
+#include "platform/console.h"
+#include "platform/core/per_user_folder.h"
 #include "platform/package.h"
 #include "settings/colour_settings.h"
 #include "shell/settings/settings_moments.h"
@@ -16,8 +18,6 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QHash>
-
-#include <cstdio>
 
 namespace zeph {
 
@@ -202,7 +202,7 @@ SheetExit runSheetCommand(const QStringList &arguments, const QString &appFolder
                           const QDateTime &now)
 {
     const auto tell = [](const QString &line) {
-        std::fputs((line + u'\n').toLocal8Bit().constData(), stderr);
+        tellConsole(Stream::Errors, line + u'\n');
     };
     const auto command = sheetCommandOf(arguments);
     if (!command) {
@@ -221,7 +221,7 @@ QString sheetCommandFolder(const QString &executableFolder, const QString &perUs
 {
     // The program makes a folder of the user's own where it cannot or may not write beside itself.
     const bool isOthers =
-        readPackage(executableFolder).isShared || !QFileInfo(executableFolder).isWritable();
+        readPackage(executableFolder).isShared || !canMakeFilesIn(executableFolder);
     return nativeSeparators(
         isOthers && QFileInfo::exists(perUser + u"/Zeph.ini"_s) ? perUser : executableFolder);
 }

@@ -10,18 +10,19 @@
 #include <QDir>
 #include <QDirIterator>
 
+#ifdef Q_OS_UNIX
 #include <csignal>
 
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
+#endif
 
 namespace zeph::test {
 
 namespace {
 
 constexpr int endsWithinMs = 60000;
-constexpr uid_t nobody = 65534;
 
 void copyFolder(const QString &from, const QString &to)
 {
@@ -36,6 +37,67 @@ void copyFolder(const QString &from, const QString &to)
     }
 }
 
+#ifdef Q_OS_UNIX
+
+constexpr uid_t nobody = 65534;
+const QString executableName = u"zeph"_s;
+
+void setMode(const QString &path, mode_t mode)
+{
+    EXPECT_EQ(::chmod(QFile::encodeName(path).constData(), mode), 0);
+}
+
+void shareFolders(const QString &home, const QString &folder)
+{
+    setMode(home, 0777);
+    setMode(folder, 0555);
+}
+
+void takeBack(const QString &folder)
+{
+    // So that the folder can be removed.
+    setMode(folder, 0755);
+}
+
+/// Nobody may write where root can. Others' rights are those of the folder anyway.
+void startAsNobody(QProcess &process)
+{
+    process.setChildProcessModifier([] {
+        if (::geteuid() == 0 && (::setgid(nobody) != 0 || ::setuid(nobody) != 0)) {
+            ::_exit(1);
+        }
+    });
+}
+
+void startWithLimit(QProcess &process, qsizetype bytes)
+{
+    process.setChildProcessModifier([limit = rlim_t(bytes)] {
+        const rlimit both = { limit, limit };
+        ::setrlimit(RLIMIT_FSIZE, &both);
+        // Without this the kernel ends the program instead of telling it.
+        ::signal(SIGXFSZ, SIG_IGN);
+    });
+}
+
+#else
+
+const QString executableName = u"zeph.exe"_s;
+
+// Rights of folders and a limit of files' sizes are told in other ways there, and to nobody's
+// tests.
+void shareFolders(const QString &, const QString &)
+{
+    ADD_FAILURE() << "no such rights on this system";
+}
+void takeBack(const QString &) { }
+void startAsNobody(QProcess &) { }
+void startWithLimit(QProcess &, qsizetype)
+{
+    ADD_FAILURE() << "no such limit on this system";
+}
+
+#endif
+
 } // namespace
 
 Program::Program() : m_environment(QProcessEnvironment::systemEnvironment())
@@ -49,9 +111,13 @@ Program::Program() : m_environment(QProcessEnvironment::systemEnvironment())
 Program::~Program()
 {
     if (m_isOthers) {
-        // So that the folder can be removed.
-        ::chmod(QFile::encodeName(folder()).constData(), 0755);
+        takeBack(folder());
     }
+}
+
+QString Program::executable() const
+{
+    return file(executableName);
 }
 
 QString Program::setting(const QString &section, const QString &key, const QString &name) const
@@ -76,8 +142,7 @@ void Program::setEnvironment(const QString &name, const QString &value)
 
 void Program::installForOthers()
 {
-    ASSERT_EQ(::chmod(QFile::encodeName(m_home.path()).constData(), 0777), 0);
-    ASSERT_EQ(::chmod(QFile::encodeName(folder()).constData(), 0555), 0);
+    shareFolders(m_home.path(), folder());
     setEnvironment(u"HOME"_s, m_home.path());
     m_environment.remove(u"XDG_DATA_HOME"_s);
     m_isOthers = true;
@@ -95,23 +160,12 @@ std::unique_ptr<QProcess> Program::start(const QStringList &script, const QStrin
     process->setProcessChannelMode(QProcess::ForwardedChannels);
     process->setWorkingDirectory(m_startFolder);
     if (m_isOthers) {
-        process->setChildProcessModifier([] {
-            // Nobody may write where root can. Others' rights are those of the folder anyway.
-            if (::geteuid() == 0 && (::setgid(nobody) != 0 || ::setuid(nobody) != 0)) {
-                ::_exit(1);
-            }
-        });
+        startAsNobody(*process);
     }
     if (m_fileSizeLimit >= 0) {
-        const auto limit = rlim_t(m_fileSizeLimit);
-        process->setChildProcessModifier([limit] {
-            const rlimit both = { limit, limit };
-            ::setrlimit(RLIMIT_FSIZE, &both);
-            // Without this the kernel ends the program instead of telling it.
-            ::signal(SIGXFSZ, SIG_IGN);
-        });
+        startWithLimit(*process, m_fileSizeLimit);
     }
-    process->start(file(u"zeph"_s), arguments);
+    process->start(executable(), arguments);
     return process;
 }
 

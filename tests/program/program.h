@@ -25,6 +25,8 @@ public:
     ~Program();
 
     QString folder() const { return m_folder.path(); }
+    /// The program's file.
+    QString executable() const;
     QString file(const QString &name) const { return m_folder.file(name); }
     QByteArray read(const QString &name) const { return m_folder.read(name); }
     bool exists(const QString &name) const { return m_folder.exists(name); }

@@ -33,7 +33,7 @@ Ended runBare(const Program &program, const QStringList &arguments)
     QProcess process;
     process.setProcessEnvironment(environment);
     process.setWorkingDirectory(program.folder());
-    process.start(program.file(u"zeph"_s), arguments);
+    process.start(program.executable(), arguments);
     EXPECT_TRUE(process.waitForFinished(60000));
     return { process.exitCode(), QString::fromUtf8(process.readAllStandardError()),
              process.readAllStandardOutput() };

@@ -26,9 +26,9 @@ struct ComposerWorld : EditorWorld {
         const QString pictures = QStringLiteral(ZEPH_PICTURES "/");
         const QString drawings = QStringLiteral(ZEPH_SOURCE_DIR "/artwork/");
         for (const QString &name : { u"F-16 Block 50"_s, u"Straight grip"_s, u"Throttle"_s }) {
-            QFile::link(pictures + name + u".bmp"_s, folder.file(name + u".bmp"_s));
-            QFile::link(pictures + name + u".tmh"_s, folder.file(name + u".tmh"_s));
-            QFile::link(drawings + name + u".svg"_s, folder.file(name + u".svg"_s));
+            folder.show(pictures + name + u".bmp"_s, name + u".bmp"_s);
+            folder.show(pictures + name + u".tmh"_s, name + u".tmh"_s);
+            folder.show(drawings + name + u".svg"_s, name + u".svg"_s);
         }
         tools = new ComposerTools(context(), windows, *editor);
         editor->applySettings();

@@ -7,6 +7,8 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <filesystem>
+
 namespace zeph::test {
 
 QString TempFolder::write(const QString &name, const QByteArray &bytes) const
@@ -28,6 +30,21 @@ QByteArray TempFolder::read(const QString &name) const
         return {};
     }
     return in.readAll();
+}
+
+void TempFolder::show(const QString &source, const QString &name) const
+{
+#ifdef Q_OS_WIN
+    std::error_code failed;
+    std::filesystem::copy(QFileInfo(source).filesystemFilePath(),
+                          QFileInfo(file(name)).filesystemFilePath(),
+                          std::filesystem::copy_options::recursive, failed);
+#else
+    const bool failed = !QFile::link(source, file(name));
+#endif
+    if (failed) {
+        qWarning("cannot show %s", qPrintable(source));
+    }
 }
 
 bool TempFolder::exists(const QString &name) const

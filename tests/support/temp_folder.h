@@ -20,6 +20,9 @@ public:
     /// The file's bytes; a warning and none when it cannot be read.
     QByteArray read(const QString &name) const;
     bool exists(const QString &name) const;
+    /// Lets a file or folder that lies elsewhere be seen under a name of this folder: by a link, or
+    /// by a copy where a link is a file of its own kind.
+    void show(const QString &source, const QString &name) const;
 
 private:
     QTemporaryDir m_folder;

@@ -52,9 +52,7 @@ void World::installData(const QString &name) const
 
 void World::installIcons() const
 {
-    if (!QFile::link(installed(u"icons"_s), folder.file(u"icons"_s))) {
-        qWarning("cannot link the icons");
-    }
+    folder.show(installed(u"icons"_s), u"icons"_s);
 }
 
 QStringList World::boxTitles() const

@@ -33,7 +33,7 @@ class MouseTest : public TestIn<ComposerWorld>
 protected:
     MouseTest()
     {
-        QFile::link(QStringLiteral(ZEPH_SOURCE_DIR "/data/Wizards"), folder.file(u"Wizards"_s));
+        folder.show(QStringLiteral(ZEPH_SOURCE_DIR "/data/Wizards"), u"Wizards"_s);
         const ToolEntries entries{ editor->actions(), windows };
         addImageViewer(entries, context(), printers);
         new MouseTools(context(), windows, *editor, *tools);

@@ -23,7 +23,7 @@ struct WizardWorld : ComposerWorld {
         const QString data = QStringLiteral(ZEPH_SOURCE_DIR "/data/");
         for (const QString &name :
              { u"Wizards"_s, u"Help"_s, u"DefaultMacros.txt"_s, u"DefaultMacroHeadings.txt"_s }) {
-            QFile::link(data + name, folder.file(name));
+            folder.show(data + name, name);
         }
         wizards = new WizardTools(context(), windows, *editor, *tools);
         settings.of<ComposerSettings>().CompTabsAddCr = true;

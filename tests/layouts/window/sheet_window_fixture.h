@@ -40,7 +40,7 @@ protected:
             QFile::copy(pictures + name, folder.file(name));
         }
         for (const QString &name : QDir(drawings).entryList({ u"*.svg"_s }, QDir::Files)) {
-            QFile::link(drawings + name, folder.file(name));
+            folder.show(drawings + name, name);
         }
         installIcons();
         printers.printers = 0;

@@ -1,0 +1,18 @@
+# SPDX-FileCopyrightText: The Zeph authors
+# SPDX-License-Identifier: MIT
+#
+# Toolchain of the Windows build: MinGW-w64 with POSIX threads, and the libraries in ZEPH_WINDOWS_PREFIX
+# before those that Debian has for it.
+
+set(CMAKE_SYSTEM_NAME Windows)
+set(CMAKE_SYSTEM_PROCESSOR x86_64)
+set(CMAKE_C_COMPILER x86_64-w64-mingw32-gcc-posix)
+set(CMAKE_CXX_COMPILER x86_64-w64-mingw32-g++-posix)
+set(CMAKE_RC_COMPILER x86_64-w64-mingw32-windres)
+
+list(APPEND CMAKE_TRY_COMPILE_PLATFORM_VARIABLES ZEPH_WINDOWS_PREFIX)
+set(CMAKE_FIND_ROOT_PATH ${ZEPH_WINDOWS_PREFIX} /usr/x86_64-w64-mingw32)
+set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
+set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
+set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
+set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)
