@@ -4,6 +4,7 @@
 #include "livetools/quickview/statement_label.h"
 
 #include "livetools/quickview/fitting_lines.h"
+#include "platform/colours.h"
 
 #include <QKeyEvent>
 #include <QPainter>
@@ -33,15 +34,6 @@ constexpr qreal focusWidth = 2;
 constexpr QColor soughtColour(0xF0, 0xB0, 0x00);
 constexpr QColor otherwiseColour(0xE0, 0x50, 0x20);
 constexpr QColor pressedColour(0x00, 0xC0, 0x00);
-
-QColor mixed(const QColor &ground, const QColor &colour, qreal share)
-{
-    const auto mix = [share](int from, int to) {
-        return int(from + (to - from) * share);
-    };
-    return QColor(mix(ground.red(), colour.red()), mix(ground.green(), colour.green()),
-                  mix(ground.blue(), colour.blue()));
-}
 
 QPainterPath diamondAround(const QPointF &centre)
 {

@@ -9,6 +9,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QRandomGenerator>
+#include <QSaveFile>
 #include <QThread>
 
 #include <functional>
@@ -169,6 +170,45 @@ Expected<QString, FileError> writableTarget(const QString &path)
     return target;
 }
 
+#ifdef Q_OS_WIN
+
+/// Replaces the file unless the question, asked when only the renaming is left, is answered no.
+Expected<bool, QString> replaceWhole(const QString &path, const QByteArray &bytes,
+                                     const Question &mayReplace)
+{
+    const auto written = writeBeside(path, bytes);
+    if (!written) {
+        return Unexpected<QString>(written.error());
+    }
+    if (const auto refused = disk::flush(*written)) {
+        QFile::remove(*written);
+        return Unexpected<QString>(*refused);
+    }
+    return putInPlace(*written, path, mayReplace);
+}
+
+#else
+
+/// The same by a file that has no name before it is whole, so that a program that is killed leaves
+/// nothing of it.
+Expected<bool, QString> replaceWhole(const QString &path, const QByteArray &bytes,
+                                     const Question &mayReplace)
+{
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.flush()) {
+        return Unexpected<QString>(file.errorString());
+    }
+    if (const auto refused = disk::flush(file.handle())) {
+        return Unexpected<QString>(*refused);
+    }
+    if (!mayReplace()) {
+        return false;
+    }
+    return file.commit() ? Expected<bool, QString>(true) : Unexpected<QString>(file.errorString());
+}
+
+#endif
+
 /// Replaces the file unless the question, asked when only the renaming is left, is answered no.
 Expected<bool, FileError> replaceIf(const QString &path, const QByteArray &bytes,
                                     const std::function<bool(const QString &target)> &mayReplace)
@@ -177,15 +217,7 @@ Expected<bool, FileError> replaceIf(const QString &path, const QByteArray &bytes
     if (!target) {
         return Unexpected<FileError>(target.error());
     }
-    const auto written = writeBeside(*target, bytes);
-    if (!written) {
-        return failure(path, written.error());
-    }
-    if (const auto refused = disk::flush(*written)) {
-        QFile::remove(*written);
-        return failure(path, *refused);
-    }
-    const auto replaced = putInPlace(*written, *target, [&] { return mayReplace(*target); });
+    const auto replaced = replaceWhole(*target, bytes, [&] { return mayReplace(*target); });
     return replaced ? *replaced : Expected<bool, FileError>(failure(path, replaced.error()));
 }
 

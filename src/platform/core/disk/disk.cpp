@@ -150,15 +150,17 @@ std::optional<QString> inWords(const std::error_code &code)
 }
 
 /// Calls one of the system's functions for an open file.
+template <typename Function> std::optional<QString> flushBy(Function function, int handle)
+{
+    // File systems that cannot flush say so with the first two.
+    const bool isRefused = function(handle) != 0 && errno != EINVAL && errno != ENOTSUP;
+    return isRefused ? inWords(std::make_error_code(std::errc(errno))) : std::nullopt;
+}
+
 template <typename Function> std::optional<QString> flushBy(Function function, const QString &path)
 {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        return file.errorString();
-    }
-    // File systems that cannot flush say so with the first two.
-    const bool isRefused = function(file.handle()) != 0 && errno != EINVAL && errno != ENOTSUP;
-    return isRefused ? inWords(std::make_error_code(std::errc(errno))) : std::nullopt;
+    return file.open(QIODevice::ReadOnly) ? flushBy(function, file.handle()) : file.errorString();
 }
 
 } // namespace
@@ -179,6 +181,11 @@ bool isHeld(const QString &)
 std::optional<QString> flush(const QString &path)
 {
     return flushBy(::fsync, path);
+}
+
+std::optional<QString> flush(int handle)
+{
+    return flushBy(::fsync, handle);
 }
 
 std::optional<QString> flushAll(const QStringList &paths)

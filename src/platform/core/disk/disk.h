@@ -30,6 +30,10 @@ bool isHeld(const QString &path);
 /// Makes sure that the content of a closed file is on the disk. Gives the reason when the disk
 /// refuses it only now; file systems that cannot flush succeed.
 std::optional<QString> flush(const QString &path);
+#ifndef Q_OS_WIN
+/// The same for an open file.
+std::optional<QString> flush(int handle);
+#endif
 /// The same for several files on one disk, with one flush of it where the system can do that.
 std::optional<QString> flushAll(const QStringList &paths);
 
