@@ -106,7 +106,7 @@ InstanceLock::InstanceLock(const QString &folder, QStringView name, const MayTak
 {
     // The age of a lock is judged here, by rules that know its owner.
     m_lock->setStaleLockTime(0);
-    const bool isMine = take(mayTakeOver);
+    const bool isMine = QFileInfo::exists(folder) && take(mayTakeOver);
     m_first = isMine || m_lock->error() != QLockFile::LockFailedError;
     if (isMine) {
         touchEvery(touchMs);

@@ -18,7 +18,7 @@
 #include <system_error>
 
 #ifdef Q_OS_WIN
-#include <qt_windows.h>
+#include "platform/windows/windows_launch.h"
 #endif
 
 namespace zeph {
@@ -47,14 +47,11 @@ QString programFile(const QString &program)
 
 #ifdef Q_OS_WIN
 
-void setUp(QProcess &process, const Launch &launch)
+Expected<void, QString> startDetached(const Launch &launch)
 {
-    process.setNativeArguments(launch.arguments);
-    const WORD show = WORD(launch.style);
-    process.setCreateProcessArgumentsModifier([show](QProcess::CreateProcessArguments *arguments) {
-        arguments->startupInfo->dwFlags |= STARTF_USESHOWWINDOW;
-        arguments->startupInfo->wShowWindow = show;
-    });
+    const auto refused =
+        startOnWindows(launch.program, launch.arguments, launch.folder, int(launch.style));
+    return refused ? failure(launch.program, *refused) : Expected<void, QString>();
 }
 
 #else
@@ -156,6 +153,29 @@ Expected<void, QString> setUpWine(QProcess &process, const QString &program, Win
     return {};
 }
 
+Expected<void, QString> startDetached(const Launch &launch)
+{
+    const QString &program = launch.program;
+    QProcess process;
+    process.setProgram(program);
+    process.setWorkingDirectory(launch.folder);
+    process.setArguments(splitCommandLine(launch.arguments));
+    if (isWindowsProgram(program)) {
+        if (auto ready = setUpWine(process, program, launch.style, launch.arguments); !ready) {
+            return ready;
+        }
+    } else if (!QFileInfo(program).isExecutable() || QFileInfo(program).isDir()) {
+        return failure(program, std::errc::permission_denied);
+    } else {
+        setUpLibraries(process, program);
+    }
+    process.setStandardInputFile(QProcess::nullDevice());
+    if (!process.startDetached()) {
+        return failure(program, process.errorString());
+    }
+    return {};
+}
+
 #endif
 
 /// An address as people write it, with or without the scheme before "www.".
@@ -250,34 +270,15 @@ Expected<void, QString> SystemLauncher::start(const Launch &launch)
     if (program.isEmpty()) {
         return failure(launch.program, std::errc::no_such_file_or_directory);
     }
-    QProcess process;
-    process.setProgram(program);
+    Launch found = launch;
+    found.program = program;
     if (!launch.folder.isEmpty()) {
-        const QString folder = existingPath(launch.folder);
-        if (folder.isEmpty()) {
+        found.folder = existingPath(launch.folder);
+        if (found.folder.isEmpty()) {
             return failure(launch.folder, std::errc::no_such_file_or_directory);
         }
-        process.setWorkingDirectory(folder);
     }
-#ifdef Q_OS_WIN
-    setUp(process, launch);
-#else
-    process.setArguments(splitCommandLine(launch.arguments));
-    if (isWindowsProgram(program)) {
-        if (auto ready = setUpWine(process, program, launch.style, launch.arguments); !ready) {
-            return ready;
-        }
-    } else if (!QFileInfo(program).isExecutable() || QFileInfo(program).isDir()) {
-        return failure(program, std::errc::permission_denied);
-    } else {
-        setUpLibraries(process, program);
-    }
-#endif
-    process.setStandardInputFile(QProcess::nullDevice());
-    if (!process.startDetached()) {
-        return failure(program, process.errorString());
-    }
-    return {};
+    return startDetached(found);
 }
 
 Expected<void, QString> SystemLauncher::openWithDesktop(const QString &pathOrUrl)
@@ -288,10 +289,16 @@ Expected<void, QString> SystemLauncher::openWithDesktop(const QString &pathOrUrl
     if (url.isRelative()) {
         return failure(pathOrUrl, std::errc::no_such_file_or_directory);
     }
+#ifdef Q_OS_WIN
+    const auto refused = openOnWindows(file.isEmpty() ? url.toString(QUrl::FullyEncoded)
+                                                      : QFileInfo(file).absoluteFilePath());
+    return refused ? failure(pathOrUrl, *refused) : Expected<void, QString>();
+#else
     if (!QDesktopServices::openUrl(url)) {
         return failure(pathOrUrl, u"The desktop has no program for this"_s);
     }
     return {};
+#endif
 }
 
 } // namespace zeph

@@ -19,20 +19,12 @@
 #include "toolchain/compile/compilerhelp.h"
 #include "toolchain/cougar_tools.h"
 
-#include <QFileInfo>
-
 namespace zeph {
 
 namespace {
 
 /// The help topic on compiler errors.
 constexpr int errorsTopic = 410;
-
-bool isSameFile(const QString &one, const QString &other)
-{
-    const QString found = QFileInfo(one).canonicalFilePath();
-    return one == other || (!found.isEmpty() && found == QFileInfo(other).canonicalFilePath());
-}
 
 } // namespace
 

@@ -9,6 +9,7 @@
 #include "layouts/draw/sheet_exports.h"
 #include "layouts/files/layouts_settings.h"
 #include "platform/console.h"
+#include "platform/core/per_user_folder.h"
 #include "platform/package.h"
 #include "settings/colour_settings.h"
 #include "shell/settings/settings_moments.h"
@@ -220,7 +221,7 @@ QString sheetCommandFolder(const QString &executableFolder, const QString &perUs
 {
     // The program makes a folder of the user's own where it cannot or may not write beside itself.
     const bool isOthers =
-        readPackage(executableFolder).isShared || !QFileInfo(executableFolder).isWritable();
+        readPackage(executableFolder).isShared || !canMakeFilesIn(executableFolder);
     return nativeSeparators(
         isOthers && QFileInfo::exists(perUser + u"/Zeph.ini"_s) ? perUser : executableFolder);
 }

@@ -43,10 +43,12 @@
 //   welcome              answers the first run's questions, if they come, and grabs their pages
 //   look NAME            lets things settle, and grabs all windows: the main one to NAME.png, the
 //                        others to NAME-WINDOW.png
-//   stop NAME            looks, notes "NAME: panel 1's text", and leaves all windows but the main
-//   one menu NAME            pops up the menu of that entry, or the right mouse button's of that
-//   control keys NAME KEY ...    presses keys ("Shift+C") in the control of that object name toggle
-//   BUTTON NAME 1 presses the button when the control NAME is not visible (0: when it is)
+//   stop NAME            looks, notes "NAME: panel 1's text", and closes all windows but the main
+//                        one
+//   menu NAME            pops up the menu of that entry, or the right mouse button's of that
+//                        control
+//   keys NAME KEY ...    presses keys ("Shift+C") in the control of that object name
+//   toggle BUTTON NAME 1 presses the button when the control NAME is not visible (0: when it is)
 //   click NAME           clicks into the control of that object name; doubleclick does so twice
 //   environment NAME V   sets a variable for the programs that are started from now on; without a
 //                        value it is unset
@@ -62,21 +64,23 @@
 //   remove PATH          deletes a file; a relative name is one beside the program
 //   time NAME            notes "NAME at MS", the time in milliseconds since 1970
 //   ticked NAME 1        waits until that menu entry is ticked (0: is not)
-//   caret NAME TEXT      waits until the line with the caret holds TEXT, and notes "NAME line N: "
-//   and that line, counted from 1 line NAME N          puts the caret to the start of a line,
-//   counted from 1 focus TEXT           waits until the object name of the control with the focus
-//   begins with TEXT, and notes it idle MS              leaves the program alone for that long, and
-//   notes "idle MS: N ms", the processor time that it took
+//   caret NAME TEXT      waits until the line with the caret holds TEXT, and notes it with its
+//                        number, counted from 1
+//   line NAME N          puts the caret to the start of a line, counted from 1
+//   focus TEXT           waits until the focus is on a control whose object name begins with TEXT,
+//                        and notes the name
+//   idle MS              leaves the program alone for that long, and notes the processor time that
+//                        it took
 // A pilot with a controller in his hands has these:
 //   stick in N           plugs one with N buttons (28 when left out), eight axes and a hat in, and
-//   notes its number
+//                        notes its number
 //   stick out            pulls it out
 //   stick down N ...     presses buttons at once, counted from 0; stick up N ... releases them
 //   stick hat U          moves the hat to U, UR, R, DR, D, DL, L, UL or M, the middle
 //   stick axis N VALUE   moves an axis, from -32768 to 32767
 //   bold NAME ...        waits until exactly these labels of Quick View are bold (none: no label;
-//   any: whatever is), and notes them with the number of looks that the window has taken at the
-//   controller since the last step of the stick
+//                        any: whatever is), and notes them with the number of looks that the
+//                        window has taken at the controller since the last step of the stick
 //   ticks N              waits for so many looks since then
 #include "finding.h"
 #include "joystick_steps.h"

@@ -4,16 +4,17 @@
 #include "platform/instance_lock.h"
 
 #include "platform/fakes/scripted_dialogs.h"
+#include "tests/platform/started_copy.h"
 #include "tests/support/temp_folder.h"
 
 #include <gtest/gtest.h>
 
 #include <QFileInfo>
+#include <QProcess>
 #include <QTest>
 
-#ifdef Q_OS_UNIX
-#include <sys/wait.h>
-#include <unistd.h>
+#ifdef Q_OS_WIN
+#include <qt_windows.h>
 #endif
 
 using namespace zeph;
@@ -24,6 +25,29 @@ namespace {
 /// The mark of a program on another machine.
 const QByteArray farAway = "4711\nzeph\nhangar\nfeedc0de\n0815\n";
 
+#ifdef Q_OS_WIN
+
+/// Windows lets nobody else write a lock that has an owner, but its time may be set.
+void setAge(const TempFolder &folder, int seconds)
+{
+    const QString path = folder.file(u"Zeph.lock"_s);
+    const HANDLE lock =
+        CreateFileW(reinterpret_cast<const wchar_t *>(path.utf16()), FILE_WRITE_ATTRIBUTES,
+                    FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr, OPEN_EXISTING,
+                    FILE_ATTRIBUTE_NORMAL, nullptr);
+    ASSERT_NE(lock, INVALID_HANDLE_VALUE);
+    FILETIME now;
+    GetSystemTimeAsFileTime(&now);
+    constexpr quint64 ticksPerSecond = 10'000'000;
+    const quint64 then =
+        (quint64(now.dwHighDateTime) << 32 | now.dwLowDateTime) - quint64(seconds) * ticksPerSecond;
+    const FILETIME time{ DWORD(then), DWORD(then >> 32) };
+    EXPECT_TRUE(SetFileTime(lock, nullptr, nullptr, &time));
+    CloseHandle(lock);
+}
+
+#else
+
 void setAge(const TempFolder &folder, int seconds)
 {
     QFile lock(folder.file(u"Zeph.lock"_s));
@@ -31,6 +55,8 @@ void setAge(const TempFolder &folder, int seconds)
     ASSERT_TRUE(lock.setFileTime(QDateTime::currentDateTime().addSecs(-seconds),
                                  QFileDevice::FileModificationTime));
 }
+
+#endif
 
 /// Locks the folder, and answers the question, which is counted.
 bool isTaken(const TempFolder &folder, bool answer, int &asked)
@@ -161,34 +187,38 @@ TEST(InstanceLock, TheQuestionNamesTheHostAndTheMoment)
     EXPECT_EQ(box.defaultButton, BoxButton::No);
 }
 
-#ifdef Q_OS_UNIX
+namespace {
 
-TEST(InstanceLock, AnotherRunningProcessHoldsIt)
+constexpr char folderVariable[] = "ZEPH_LOCKED_FOLDER";
+
+} // namespace
+
+// What the other program of the tests below does.
+TEST(InstanceLockOwner, DISABLED_HoldsALockUntilItIsKilled)
 {
-    const TempFolder folder;
-    const InstanceLock first(folder.path());
-    const pid_t child = fork();
-    ASSERT_GE(child, 0);
-    if (child == 0) {
-        _exit(InstanceLock(folder.path()).isFirst() ? 1 : 0);
-    }
-    int status = -1;
-    ASSERT_EQ(waitpid(child, &status, 0), child);
-    EXPECT_EQ(status, 0);
+    const QString folder = QFile::decodeName(qgetenv(folderVariable));
+    const InstanceLock lock(folder);
+    ASSERT_TRUE(lock.isFirst());
+    QFile told(folder + u"/told"_s);
+    ASSERT_TRUE(told.open(QFile::WriteOnly));
+    told.close();
+    QTest::qWait(test::copyStartsWithinMs);
 }
 
-TEST(InstanceLock, ACrashReleasesIt)
+TEST(InstanceLock, AnotherRunningProcessHoldsItAndACrashReleasesIt)
 {
     const TempFolder folder;
-    const pid_t child = fork();
-    ASSERT_GE(child, 0);
-    if (child == 0) {
-        const InstanceLock lock(folder.path());
-        kill(getpid(), SIGKILL);
-    }
-    ASSERT_EQ(waitpid(child, nullptr, 0), child);
+    QProcess owner;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QString::fromLatin1(folderVariable), folder.path());
+    owner.setProcessEnvironment(environment);
+    owner.setStandardOutputFile(QProcess::nullDevice());
+    owner.start(test::copyProgram(), test::copyArguments(u"InstanceLockOwner.*"_s));
+    ASSERT_TRUE(
+        QTest::qWaitFor([&] { return folder.exists(u"told"_s); }, test::copyStartsWithinMs));
+    EXPECT_FALSE(InstanceLock(folder.path()).isFirst());
+    owner.kill();
+    ASSERT_TRUE(owner.waitForFinished());
     EXPECT_TRUE(folder.exists(u"Zeph.lock"_s));
     EXPECT_TRUE(InstanceLock(folder.path()).isFirst());
 }
-
-#endif

@@ -18,7 +18,6 @@
 #include "text/use_statements.h"
 
 #include <QAction>
-#include <QFileInfo>
 
 #include <algorithm>
 
@@ -33,10 +32,10 @@ const QString beforeMacro = u" has changed and isn't saved. Do you want to save 
 
 bool isAmong(const QStringList &paths, const Document &document)
 {
-    const QFileInfo mine(existingPath(document.path()));
+    const QString mine = existingPath(document.path());
     return std::any_of(paths.begin(), paths.end(), [&mine](const QString &path) {
-        return nameOf(path) == mine.fileName()
-            && QFileInfo(path).canonicalFilePath() == mine.canonicalFilePath();
+        return nameOf(path).compare(nameOf(mine), Qt::CaseInsensitive) == 0
+            && isSameFile(path, mine);
     });
 }
 

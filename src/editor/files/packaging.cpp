@@ -167,7 +167,7 @@ bool Packaging::copyFiles(const PackagePlan &plan)
     }
     for (const PackagePlan::Copy &copy : plan.copies) {
         m_context.status.setTextNow(u" Copying "_s + nameOf(copy.from) + u" ..."_s);
-        if (QFileInfo(copy.from).canonicalFilePath() == QFileInfo(copy.to).canonicalFilePath()) {
+        if (isSameFile(copy.from, copy.to)) {
             continue;
         }
         const auto bytes = readWholeFile(copy.from);

@@ -90,6 +90,12 @@ void CoverageWindow::setUpTable()
     table->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
     table->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     table->verticalHeader()->setDefaultSectionSize(table->fontMetrics().height() + 8);
+    table->horizontalHeader()->setObjectName(u"HeaderPositions"_s);
+    table->verticalHeader()->setObjectName(u"HeaderControls"_s);
+    if (auto *corner = table->findChild<QAbstractButton *>()) {
+        corner->setObjectName(u"ButtonSelectAll"_s);
+        corner->setAccessibleName(u"Select all"_s);
+    }
     connect(table->selectionModel(), &QItemSelectionModel::currentChanged, this,
             [this](const QModelIndex &current) {
                 if (current.isValid()) {

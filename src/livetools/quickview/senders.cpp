@@ -94,11 +94,9 @@ bool isSameModifier(const QString &sought, const QString &sent)
     return sent == sought || (sent.size() == sought.size() + 1 && sent.endsWith(sought));
 }
 
-bool areSameModifiers(const QStringList &sought, QStringList sent)
+/// Whether the sought modifiers are among those that are sent.
+bool areAmong(const QStringList &sought, QStringList sent)
 {
-    if (sought.size() != sent.size()) {
-        return false;
-    }
     for (const QString &each : sought) {
         const auto found = std::ranges::find_if(
             sent, [&each](const QString &modifier) { return isSameModifier(each, modifier); });
@@ -144,11 +142,16 @@ Senders::Senders(const Assignments &table, const MacroKeys &keys) : m_table(tabl
 
 bool Senders::isSought(const SentKey &sought, const SentKey &sent) const
 {
+    if (sought.key.isEmpty()) {
+        return areAmong(sought.modifiers, sent.modifiers);
+    }
     if (sought.key != sent.key) {
         return false;
     }
     const bool isAnyUse = sought.modifiers.isEmpty() && isMacro(sought.key);
-    return isAnyUse || areSameModifiers(sought.modifiers, sent.modifiers);
+    return isAnyUse
+        || (sought.modifiers.size() == sent.modifiers.size()
+            && areAmong(sought.modifiers, sent.modifiers));
 }
 
 QSet<QString> Senders::macrosThatSend(const SentKey &sought) const

@@ -31,8 +31,9 @@ public:
     Senders(const Assignments &table, const MacroKeys &keys);
 
     /// The cells that send it, directly or through macros, row by row. Sought is a macro's name or
-    /// a key with its modifiers, "SHF a", in any case; SHF also finds LSHF and RSHF. Of several
-    /// keys a cell must send each. What a USE line gives is found by its whole text.
+    /// a key with its modifiers, "SHF a", in any case; SHF also finds LSHF and RSHF, and alone
+    /// whatever key is sent with it. Of several keys a cell must send each. What a USE line gives
+    /// is found by its whole text.
     std::vector<CellPlace> of(const QString &sought) const;
 
 private:

@@ -3,24 +3,27 @@
 
 #include "platform/core/file_io.h"
 
+#include "platform/core/disk/disk.h"
+
+#include <QDeadlineTimer>
 #include <QFile>
 #include <QFileInfo>
 #include <QRandomGenerator>
-#include <QSaveFile>
+#include <QThread>
 
-#include <filesystem>
 #include <functional>
 #include <system_error>
-
-#ifdef Q_OS_UNIX
-#include <unistd.h>
-#endif
 
 namespace zeph {
 
 namespace {
 
 constexpr int maxLinks = 40;
+
+// Other programs hold a file for a moment: tools that write it, scanners that look at what is new.
+constexpr int readPatienceMs = 300;
+constexpr int replacePatienceMs = 1000;
+constexpr int pauseMs = 20;
 
 Unexpected<FileError> failure(const QString &path, const QString &reason)
 {
@@ -37,34 +40,13 @@ QString targetOfLinks(QString path)
 {
     for (int i = 0; i < maxLinks; ++i) {
         const QFileInfo info(path);
-        if (!info.isSymLink()) {
+        // A shortcut of Windows, which is no link for those who open it, is a file of its own.
+        if (!info.isSymbolicLink()) {
             return path;
         }
         path = info.symLinkTarget();
     }
     return {};
-}
-
-/// Flushes the bytes to the disk. Gives the reason when the disk refuses them only now.
-std::optional<std::errc> flushToDisk([[maybe_unused]] int handle)
-{
-#ifdef Q_OS_UNIX
-    // File systems that cannot flush say so with the first two.
-    if (::fsync(handle) != 0 && errno != EINVAL && errno != ENOTSUP) {
-        return std::errc(errno);
-    }
-#endif
-    return std::nullopt;
-}
-
-/// Flushes all that was written to the disk of an open file.
-std::optional<std::errc> flushWholeDisk(const QFile &file)
-{
-#ifdef Q_OS_LINUX
-    return ::syncfs(file.handle()) == 0 ? std::nullopt : std::optional(std::errc(errno));
-#else
-    return flushToDisk(file.handle());
-#endif
 }
 
 /// A name in the path's folder that no file has; short, since the path's own may be as long as can
@@ -77,6 +59,63 @@ QString nameBeside(const QString &path)
         name = start + QString::number(QRandomGenerator::global()->generate(), 36);
     } while (QFileInfo::exists(name));
     return name;
+}
+
+/// Opens the file for reading once nobody keeps it to himself any more.
+bool openForReading(QFile &file)
+{
+    const QDeadlineTimer patience(readPatienceMs);
+    while (!file.open(QIODevice::ReadOnly)) {
+        if (patience.hasExpired() || !disk::isHeld(file.fileName())) {
+            return false;
+        }
+        QThread::msleep(pauseMs);
+    }
+    return true;
+}
+
+/// Writes the bytes beside the file that they are to replace, with that file's permissions. Gives
+/// the name, or the reason and leaves nothing.
+Expected<QString, QString> writeBeside(const QString &path, const QByteArray &bytes)
+{
+    QFile file(nameBeside(path));
+    if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly)) {
+        return Unexpected<QString>(file.errorString());
+    }
+    if (const QFileInfo before(path); before.exists()) {
+        file.setPermissions(before.permissions());
+    }
+    if (file.write(bytes) != bytes.size() || !file.flush()) {
+        const QString reason = file.errorString();
+        file.close();
+        QFile::remove(file.fileName());
+        return Unexpected<QString>(reason);
+    }
+    return file.fileName();
+}
+
+using Question = std::function<bool()>;
+
+/// Puts a written file in place of the other as soon as nobody holds that one. The question is
+/// asked before each attempt, since the one who held the file may have changed it; false when it
+/// is answered no. The written file is gone in any case.
+Expected<bool, QString> putInPlace(const QString &written, const QString &path,
+                                   const Question &mayReplace)
+{
+    const QDeadlineTimer patience(replacePatienceMs);
+    while (mayReplace()) {
+        const auto refused = disk::putInPlace(written, path);
+        if (!refused) {
+            return true;
+        }
+        if (!refused->isHeld || patience.hasExpired()) {
+            QFile::remove(written);
+            return Unexpected<QString>(refused->reason);
+        }
+        QThread::msleep(pauseMs);
+    }
+    QFile::remove(written);
+    return false;
 }
 
 } // namespace
@@ -95,7 +134,7 @@ Expected<QByteArray, FileError> readWholeFile(const QString &path)
         return failure(path, std::errc::not_supported);
     }
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
+    if (!openForReading(file)) {
         return failure(path, file.errorString());
     }
     QByteArray bytes = file.readAll();
@@ -121,6 +160,9 @@ Expected<QString, FileError> writableTarget(const QString &path)
     if (info.isDir()) {
         return failure(path, std::errc::is_a_directory);
     }
+    if (info.exists() && !info.isFile()) {
+        return failure(path, std::errc::not_supported);
+    }
     if (isReadOnlyFile(info.filePath())) {
         return failure(path, std::errc::permission_denied);
     }
@@ -135,23 +177,16 @@ Expected<bool, FileError> replaceIf(const QString &path, const QByteArray &bytes
     if (!target) {
         return Unexpected<FileError>(target.error());
     }
-    QSaveFile file(*target);
-    if (!file.open(QIODevice::WriteOnly)) {
-        return failure(path, file.errorString());
+    const auto written = writeBeside(*target, bytes);
+    if (!written) {
+        return failure(path, written.error());
     }
-    if (file.write(bytes) != bytes.size() || !file.flush()) {
-        return failure(path, file.errorString());
-    }
-    if (const auto refused = flushToDisk(file.handle())) {
+    if (const auto refused = disk::flush(*written)) {
+        QFile::remove(*written);
         return failure(path, *refused);
     }
-    if (!mayReplace(*target)) {
-        return false;
-    }
-    if (!file.commit()) {
-        return failure(path, file.errorString());
-    }
-    return true;
+    const auto replaced = putInPlace(*written, *target, [&] { return mayReplace(*target); });
+    return replaced ? *replaced : Expected<bool, FileError>(failure(path, replaced.error()));
 }
 
 } // namespace
@@ -179,21 +214,11 @@ FileBatch::~FileBatch()
 
 Expected<void, FileError> FileBatch::add(const QString &path, const QByteArray &bytes)
 {
-    QFile file(nameBeside(path));
-    if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly)) {
-        return failure(path, file.errorString());
+    const auto written = writeBeside(path, bytes);
+    if (!written) {
+        return failure(path, written.error());
     }
-    m_files.push_back({ path, file.fileName() });
-    if (const QFileInfo before(path); before.exists()) {
-        file.setPermissions(before.permissions());
-    }
-    if (file.write(bytes) != bytes.size() || !file.flush()) {
-        const QString reason = file.errorString();
-        file.close();
-        QFile::remove(file.fileName());
-        m_files.pop_back();
-        return failure(path, reason);
-    }
+    m_files.push_back({ path, *written });
     return {};
 }
 
@@ -201,24 +226,18 @@ std::vector<FileError> FileBatch::commit()
 {
     std::vector<FileError> failed;
     const auto files = std::exchange(m_files, {});
-    if (files.empty()) {
-        return failed;
-    }
-    QFile any(files.front().written);
-    const auto refused =
-        any.open(QIODevice::ReadOnly) ? flushWholeDisk(any) : std::optional(std::errc::io_error);
-    any.close();
+    QStringList names;
     for (const Pending &file : files) {
-        std::error_code code;
+        names.append(file.written);
+    }
+    const auto refused = disk::flushAll(names);
+    for (const Pending &file : files) {
         if (refused) {
-            code = std::make_error_code(*refused);
-        } else {
-            std::filesystem::rename(QFileInfo(file.written).filesystemFilePath(),
-                                    QFileInfo(file.path).filesystemFilePath(), code);
-        }
-        if (code) {
             QFile::remove(file.written);
-            failed.push_back({ file.path, QString::fromStdString(code.message()) });
+            failed.push_back({ file.path, *refused });
+        } else if (const auto put = putInPlace(file.written, file.path, [] { return true; });
+                   !put) {
+            failed.push_back({ file.path, put.error() });
         }
     }
     return failed;

@@ -189,4 +189,10 @@ bool folderExists(const QString &path)
     return !found.isEmpty() && QFileInfo(found).isDir();
 }
 
+bool isSameFile(const QString &one, const QString &other)
+{
+    const QFileInfo first(one);
+    return first.exists() && first == QFileInfo(other);
+}
+
 } // namespace zeph

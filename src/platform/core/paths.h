@@ -49,4 +49,8 @@ QString existingPath(const QString &path);
 bool fileExists(const QString &path);
 bool folderExists(const QString &path);
 
+/// Whether two paths name the same file or folder, which exists; links are followed, and case
+/// counts as the system tells cases apart.
+bool isSameFile(const QString &one, const QString &other);
+
 } // namespace zeph

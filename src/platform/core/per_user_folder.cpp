@@ -3,6 +3,7 @@
 
 #include "platform/core/per_user_folder.h"
 
+#include "platform/core/disk/disk.h"
 #include "platform/core/file_io.h"
 #include "platform/core/paths.h"
 
@@ -17,7 +18,6 @@
 #include <QTemporaryFile>
 
 #include <algorithm>
-#include <filesystem>
 #include <span>
 
 namespace zeph {
@@ -27,8 +27,8 @@ namespace {
 /// Holds a line for each copied file: its CopiedFile, and its path.
 constexpr QStringView recordName = u".filled";
 
-/// What tells of the installation itself stays with it.
-constexpr QStringView installationFiles[] = { packageFileName, u"qt.conf" };
+constexpr QStringView installationFiles[] = { packageFileName, u"qt.conf", u"Uninstall.exe",
+                                              u"Installed.ini" };
 
 constexpr QStringView personalFolders[] = { u"Recovery", u"Rtf", u"Backup", u"Temp" };
 constexpr QStringView personalFiles[] = { u"Zeph.ini", u"HOTAS.ini", u"Layouts.ini", recordName };
@@ -41,10 +41,10 @@ bool isOf(std::span<const QStringView> names, QStringView name)
         names, [name](QStringView each) { return name.compare(each, Qt::CaseInsensitive) == 0; });
 }
 
-bool canMakeFilesIn(const QString &folder)
+/// What makes the program run, tells how it was installed or removes it stays with it.
+bool isOfInstallation(const QString &path)
 {
-    QTemporaryFile probe(folder + u"/Zeph.XXXXXX"_s);
-    return probe.open();
+    return path.endsWith(u".dll", Qt::CaseInsensitive) || isOf(installationFiles, path);
 }
 
 QByteArray hashOf(const QString &path)
@@ -85,14 +85,19 @@ bool copyFile(const QString &from, const QString &to)
     QDir().mkpath(QFileInfo(to).path());
     // A file gets its name when it is whole: the start after one that was cut short copies it anew.
     const QString part = to + u".part"_s;
-    QFile::remove(part);
+    const auto makeWritable = [&part] {
+        QFile::setPermissions(part, QFile::permissions(part) | QFile::WriteOwner);
+    };
+    if (QFile::exists(part)) {
+        // Windows removes no file that is read only.
+        makeWritable();
+        QFile::remove(part);
+    }
     if (!QFile::copy(from, part)) {
         return false;
     }
-    QFile::setPermissions(part, QFile::permissions(part) | QFile::WriteOwner);
-    std::error_code error;
-    std::filesystem::rename(part.toStdU16String(), to.toStdU16String(), error);
-    return !error;
+    makeWritable();
+    return !disk::putInPlace(part, to);
 }
 
 /// The user's folder, as it is brought up to date.
@@ -114,8 +119,7 @@ public:
     {
         const Copies before = m_copies;
         // The program itself needs no copy: it runs from the folder where it is installed.
-        const QString executable =
-            QFileInfo(QCoreApplication::applicationFilePath()).canonicalFilePath();
+        const QFileInfo executable(QCoreApplication::applicationFilePath());
         // A user's folder inside the program's would be copied into itself without an end.
         const QString own = m_program.relativeFilePath(m_user.path()) + u'/';
         QDirIterator files(m_program.path(), QDir::Files | QDir::Hidden,
@@ -123,8 +127,8 @@ public:
         while (files.hasNext()) {
             const QFileInfo file(files.next());
             const QString path = m_program.relativeFilePath(file.filePath());
-            if (file.canonicalFilePath() != executable && !isOf(installationFiles, path)
-                && !isPersonal(path) && !path.startsWith(own)) {
+            if (file != executable && !isOfInstallation(path) && !isPersonal(path)
+                && !path.startsWith(own)) {
                 bringUpToDate(file, path);
             }
         }
@@ -187,6 +191,12 @@ private:
 };
 
 } // namespace
+
+bool canMakeFilesIn(const QString &folder)
+{
+    QTemporaryFile probe(folder + u"/Zeph.XXXXXX"_s);
+    return probe.open();
+}
 
 bool isPersonal(const QString &path)
 {

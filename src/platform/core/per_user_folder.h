@@ -25,6 +25,10 @@ struct ChosenFolder {
     QStringList kept = {};
 };
 
+/// Whether this user can make files in a folder, which is tried: rights alone do not tell it on
+/// every system.
+bool canMakeFilesIn(const QString &folder);
+
 /// Gives the executable's own folder when it can be written and is not shared; otherwise perUser,
 /// made and filled from the executable's folder, and brought up to date after an upgrade. What the
 /// user has changed or deleted there stays so.

@@ -235,15 +235,21 @@ qint32 integerOf(const std::optional<QString> &value, qint32 fallback)
     if (!value || value->isEmpty()) {
         return fallback;
     }
-    const QString &text = *value;
-    const bool negative = text.front() == u'-';
+    QStringView text = *value;
+    while (!text.isEmpty() && text.front() <= u' ') {
+        // Quotes may hold blanks before the number.
+        text = text.sliced(1);
+    }
+    const bool negative = text.startsWith(u'-');
+    if (negative || text.startsWith(u'+')) {
+        text = text.sliced(1);
+    }
     quint32 number = 0;
-    for (qsizetype i = negative || text.front() == u'+' ? 1 : 0; i < text.size(); ++i) {
-        const char16_t c = text[i].unicode();
+    for (const QChar c : text) {
         if (c < u'0' || c > u'9') {
             break;
         }
-        number = number * 10 + (c - u'0');
+        number = number * 10 + (c.unicode() - u'0');
     }
     return qint32(negative ? 0 - number : number);
 }

@@ -9,6 +9,10 @@
 
 #include <algorithm>
 
+#ifdef Q_OS_WIN
+#include <qt_windows.h>
+#endif
+
 namespace zeph::rtf {
 
 namespace {
@@ -183,6 +187,25 @@ const HighHalf *highHalfOf(int codePage)
     }
 }
 
+namespace {
+
+/// What the toolkit cannot decode: Windows itself knows all its code pages.
+QString decodedBySystem(QByteArrayView bytes, [[maybe_unused]] int codePage)
+{
+#ifdef Q_OS_WIN
+    const int size = int(bytes.size());
+    std::wstring text(size_t(size), L'\0');
+    const int length =
+        MultiByteToWideChar(UINT(codePage), 0, bytes.data(), size, text.data(), size);
+    if (length > 0) {
+        return QString::fromWCharArray(text.data(), length);
+    }
+#endif
+    return fromText1252(bytes);
+}
+
+} // namespace
+
 QString decoded(QByteArrayView bytes, int codePage)
 {
     const auto *page = std::ranges::find(namedPages, codePage, &NamedPage::number);
@@ -191,7 +214,7 @@ QString decoded(QByteArrayView bytes, int codePage)
         return fromText1252(bytes);
     }
     QStringDecoder decoder(page->name, QStringConverter::Flag::Stateless);
-    return decoder.isValid() ? QString(decoder(bytes)) : fromText1252(bytes);
+    return decoder.isValid() ? QString(decoder(bytes)) : decodedBySystem(bytes, codePage);
 }
 
 int codePageOfCharset(int charset)

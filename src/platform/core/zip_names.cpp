@@ -33,10 +33,13 @@ bool isDirectionMark(QChar c)
 
 bool isDevice(const QString &name)
 {
-    static const QStringList devices{ u"CON"_s, u"PRN"_s, u"AUX"_s, u"NUL"_s };
+    static const QStringList devices{ u"CON"_s, u"PRN"_s,    u"AUX"_s,
+                                      u"NUL"_s, u"CONIN$"_s, u"CONOUT$"_s };
+    // Windows takes the raised digits for digits.
+    constexpr QStringView digits = u"123456789¹²³";
     const QString base = name.section(u'.', 0, 0).trimmed().toUpper();
     const bool numbered = base.size() == 4 && (base.startsWith(u"COM") || base.startsWith(u"LPT"))
-        && base[3] >= u'1' && base[3] <= u'9';
+        && digits.contains(base[3]);
     return numbered || devices.contains(base);
 }
 

@@ -76,6 +76,7 @@ void setUp()
     SDL_SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
     // The raw drivers would open game pads for themselves, which other programs may need.
     SDL_SetHint(SDL_HINT_JOYSTICK_HIDAPI, "0");
+    SDL_SetHint(SDL_HINT_JOYSTICK_RAWINPUT, "0");
     SDL_SetMainReady();
 }
 

@@ -485,7 +485,8 @@ TEST_F(SheetTest, OverflowIsCountedAndFitTextMendsIt)
 
 TEST_F(SheetTest, FitTextFitsTheKeysWhileTheyAreShown)
 {
-    macros = extractMacros({ u"Fire_Gun = a b c d e f g h i j k l m n o p q r s t"_s });
+    macros = extractMacros(
+        { u"Fire_Gun = a b c d e f g h i j k l m n o p q r s t u v w x y z a b c d e f g h i j"_s });
     for (const QStringView entry : { u"mnuFitText_0", u"mnuFitText_1" }) {
         openShown({ 1100, 900 });
         auto *panel = window->findChild<QLabel *>(u"LBL_Overflow"_s);

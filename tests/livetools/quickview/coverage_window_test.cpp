@@ -217,6 +217,7 @@ TEST_F(CoverageWindowTest, EscapeClosesItAndItsPlaceIsKept)
 
 TEST_F(CoverageWindowTest, ItsPlaceIsKeptWhenItGoesWithItsOwner)
 {
+    window->resize(700, 420);
     window->move(75, 30);
     window.reset();
     open();

@@ -106,6 +106,15 @@ TEST(Senders, AModifierStandsForBothSidesOfTheKeyboard)
     EXPECT_THAT(sendersOf(u"RSHF a"), IsEmpty());
 }
 
+TEST(Senders, AModifierAloneIsFoundWithWhateverKey)
+{
+    EXPECT_THAT(sendersOf(u"SHF"),
+                ElementsAre("7.1", "7.2", "7.3", "7.4", "7.5", "7.6", "15.3", "15.4"));
+    EXPECT_EQ(sendersOf(u"ALT"), wholeRow("7"));
+    EXPECT_EQ(sendersOf(u"ALT CTL"), wholeRow("7"));
+    EXPECT_THAT(sendersOf(u"RSHF"), IsEmpty());
+}
+
 TEST(Senders, ARotarysNumbersAreNoKeys)
 {
     EXPECT_EQ(sendersOf(u"b"), wholeRow("57"));

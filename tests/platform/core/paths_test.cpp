@@ -84,15 +84,16 @@ TEST(ExistingPath, EachComponentIsFoundInAnyCase)
     const QString real = folder.write(u"Files/F-16 Früh.tmj"_s, "x");
     const QString found = existingPath(folder.file(u"FILES/f-16 FRÜH.TMJ"_s));
     EXPECT_FALSE(found.isEmpty());
-    EXPECT_EQ(QFileInfo(found).canonicalFilePath(), QFileInfo(real).canonicalFilePath());
+    EXPECT_TRUE(isSameFile(found, real)) << found.toStdString();
 }
 
 TEST(ExistingPath, BackslashesSeparateToo)
 {
     const TempFolder folder;
-    folder.write(u"Files/Sub/a.tmj"_s, "x");
-    EXPECT_EQ(existingPath(folder.path() + u"\\files\\SUB\\A.tmj"_s),
-              native(folder.file(u"Files/Sub/a.tmj"_s)));
+    const QString real = folder.write(u"Files/Sub/a.tmj"_s, "x");
+    const QString found = existingPath(folder.path() + u"\\files\\SUB\\A.tmj"_s);
+    EXPECT_EQ(found, native(found));
+    EXPECT_TRUE(isSameFile(found, real)) << found.toStdString();
 }
 
 TEST(ExistingPath, WhatIsNotThereIsEmpty)
@@ -135,3 +136,42 @@ TEST(RootOf, IsTheDriveOfAPath)
     EXPECT_EQ(rootOf(u"/opt/games/fly.exe"_s), u"/"_s);
 #endif
 }
+
+TEST(IsSameFile, ByAnyPathThatLeadsThere)
+{
+    const TempFolder folder;
+    const QString file = folder.write(u"Files/a.tmj"_s, "x");
+    folder.write(u"Files/b.tmj"_s, "x");
+    EXPECT_TRUE(isSameFile(file, file));
+    EXPECT_TRUE(isSameFile(folder.file(u"Files/../Files/./a.tmj"_s), file));
+    EXPECT_TRUE(isSameFile(folder.path(), folder.file(u"Files/.."_s)));
+    EXPECT_FALSE(isSameFile(file, folder.file(u"Files/b.tmj"_s)));
+    EXPECT_FALSE(isSameFile(folder.file(u"none"_s), folder.file(u"none"_s)));
+    EXPECT_FALSE(isSameFile(file, QString()));
+    EXPECT_FALSE(isSameFile(QString(), QString()));
+}
+
+#ifdef Q_OS_WIN
+
+TEST(IsSameFile, InAnyCaseWhereTheSystemTellsNone)
+{
+    const TempFolder folder;
+    const QString file = folder.write(u"Files/Früh.tmj"_s, "x");
+    EXPECT_TRUE(isSameFile(file, folder.file(u"FILES\\FRÜH.TMJ"_s)));
+}
+
+TEST(RootOf, IsTheDriveOrTheShare)
+{
+    EXPECT_EQ(rootOf(u"d:\\Files\\a.tmj"_s), u"d:\\");
+    EXPECT_EQ(rootOf(u"D:/Files/a.tmj"_s), u"D:\\");
+    EXPECT_EQ(rootOf(u"\\\\server\\share\\Files\\a.tmj"_s), u"\\\\server\\share\\");
+}
+
+TEST(ExistingPath, ADriveIsAFolder)
+{
+    EXPECT_TRUE(folderExists(u"C:\\"_s));
+    EXPECT_TRUE(folderExists(u"c:/"_s));
+    EXPECT_FALSE(folderExists(u"Q:\\"_s)) << "a drive that nobody has";
+}
+
+#endif

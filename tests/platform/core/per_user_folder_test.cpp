@@ -164,6 +164,26 @@ TEST_F(InstalledTest, APerUserFolderIsFilled)
     EXPECT_TRUE(QFile::permissions(file(u"user/Zeph/Tips.txt")) & QFile::WriteOwner);
 }
 
+TEST_F(InstalledTest, LibrariesAndTheUninstallerStayWithTheProgram)
+{
+    install(u"Qt6Core.dll"_s, "library");
+    install(u"Uninstall.exe"_s, "program");
+    install(u"HOTASCompiler.exe"_s, "tool");
+    choose();
+    EXPECT_FALSE(userHas(u"Qt6Core.dll"_s));
+    EXPECT_FALSE(userHas(u"Uninstall.exe"_s));
+    EXPECT_EQ(user(u"HOTASCompiler.exe"_s), "tool");
+}
+
+TEST_F(InstalledTest, ACopyThatWasCutShortIsMadeAnew)
+{
+    write(u"user/Zeph/Tips.txt.part"_s, "ti");
+    QFile::setPermissions(file(u"user/Zeph/Tips.txt.part"), QFile::ReadOwner);
+    choose();
+    EXPECT_EQ(user(u"Tips.txt"_s), "tip");
+    EXPECT_FALSE(userHas(u"Tips.txt.part"_s));
+}
+
 TEST_F(InstalledTest, AUsersFolderInsideTheProgramsIsNotCopiedIntoItself)
 {
     installForAll(u"homes"_s);

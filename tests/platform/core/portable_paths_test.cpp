@@ -3,6 +3,7 @@
 
 #include "platform/core/portable_paths.h"
 
+#include "platform/core/paths.h"
 #include "platform/core/profile_file.h"
 #include "tests/support/temp_folder.h"
 
@@ -97,7 +98,9 @@ TEST(ResolvedPath, AFullOneWhoseFolderIsGoneIsMendedWhenTheSameFileLiesHere)
     const QString file = systemPath(folder.write(u"Files/a.tmj"_s, "x"));
     for (const QString &old :
          { u"/gone/Zeph/Files/a.tmj"_s, u"E:\\Zeph\\Files\\A.TMJ"_s, u"/gone/Files/a.tmj"_s }) {
-        EXPECT_EQ(resolvedPath(old, folder.path()), file) << old.toStdString();
+        const QString found = resolvedPath(old, folder.path());
+        EXPECT_EQ(found, systemPath(found));
+        EXPECT_TRUE(isSameFile(found, file)) << found.toStdString();
     }
     EXPECT_EQ(resolvedPath(u"E:\\Zeph\\Files\\"_s, folder.path()),
               systemPath(folder.file(u"Files/"_s)));
@@ -131,3 +134,26 @@ TEST(StoredValue, IsMeantFromTheFolderOfTheStore)
     EXPECT_EQ(resolvedValue(store, u"Miscellaneous", u"RestoreJoyFile", stored), path);
     EXPECT_EQ(resolvedValue(store, u"Miscellaneous", u"PilotCallsign", stored), stored);
 }
+
+#ifdef Q_OS_WIN
+
+TEST(StoredPath, NamesOfDrivesAndSharesHaveNoCase)
+{
+    EXPECT_EQ(storedPath(u"e:\\STICK\\zeph\\Files\\a.tmj"_s, u"E:\\Stick\\Zeph"_s),
+              u"Files\\a.tmj");
+    EXPECT_EQ(
+        storedPath(u"\\\\Server\\pilots\\Zeph\\Files\\a.tmj"_s, u"\\\\server\\Pilots\\Zeph"_s),
+        u"Files\\a.tmj");
+    EXPECT_EQ(storedPath(u"F:\\Stick\\Zeph\\a.tmj"_s, u"E:\\Stick\\Zeph"_s),
+              u"F:\\Stick\\Zeph\\a.tmj");
+}
+
+TEST(ResolvedPath, GoesWithTheFolderToAnotherDriveAndToAShare)
+{
+    for (const QString &folder : { u"F:\\Zeph"_s, u"\\\\server\\share\\Zeph"_s }) {
+        EXPECT_EQ(resolvedPath(u"Files/a.tmj"_s, folder), folder + u"\\Files\\a.tmj"_s);
+        EXPECT_EQ(resolvedPath(u"..\\a.tmj"_s, folder), folder.chopped(4) + u"a.tmj"_s);
+    }
+}
+
+#endif

@@ -200,6 +200,8 @@ TEST(ProfileInteger, ReadsSignAndLeadingDigits)
     EXPECT_EQ(profile::integerOf(u"-12 twips"_s, 7), -12);
     EXPECT_EQ(profile::integerOf(u"+3"_s, 7), 3);
     EXPECT_EQ(profile::integerOf(u"3.9"_s, 7), 3);
+    EXPECT_EQ(profile::integerOf(u" \t-4 "_s, 7), -4);
+    EXPECT_EQ(profile::integerOf(u"  "_s, 7), 0);
 }
 
 TEST(ProfileInteger, NoDigitsGiveZeroAndAnEmptyOrAbsentValueTheDefault)
@@ -277,7 +279,7 @@ TEST(ProfileFile, AMissingFolderIsToldWithPathAndReason)
     const QString path = folder.file(u"gone/Zeph.ini"_s);
     const auto written = ProfileFile(path).write({ u"A"_s, u"x"_s, u"1"_s });
     ASSERT_FALSE(written);
-    EXPECT_EQ(written.error().path, path);
+    EXPECT_EQ(written.error().path, QDir::toNativeSeparators(path));
     EXPECT_FALSE(written.error().reason.isEmpty());
 }
 
@@ -438,7 +440,7 @@ TEST(ProfileFile, AFileInUtf16IsToldAndLeftAlone)
         for (const ProfileUse use : { ProfileUse::Own, ProfileUse::Shared }) {
             const auto written = ProfileFile(path, use).write({ u"A"_s, u"x"_s, u"1"_s });
             ASSERT_FALSE(written);
-            EXPECT_EQ(written.error().path, path);
+            EXPECT_EQ(written.error().path, QDir::toNativeSeparators(path));
             EXPECT_TRUE(written.error().reason.contains(u"UTF-16"));
             EXPECT_FALSE(ProfileFile(path, use).remove(u"Defaults", { u"POVhat"_s }));
             EXPECT_EQ(folder.read(u"HOTAS.ini"_s), file);

@@ -64,6 +64,8 @@ TEST(ZipNames, WhatNoFileCanBeCalledIsRefused)
                              u"con.txt"_s,
                              u"sub/Com1.tmj"_s,
                              u"lpt9 .x"_s,
+                             u"com¹.tmj"_s,
+                             u"CONOUT$"_s,
                              u"end."_s,
                              u"end "_s,
                              u" start"_s,

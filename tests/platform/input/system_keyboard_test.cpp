@@ -9,8 +9,81 @@
 #include <QGuiApplication>
 #include <QInputMethod>
 #include <QLocale>
+#include <QRegularExpression>
+
+#ifdef Q_OS_WIN
+#include <qt_windows.h>
+
+#include <array>
+#endif
 
 using namespace zeph;
+
+#ifdef Q_OS_WIN
+
+namespace {
+
+/// Sets a lock of the keyboard as this thread sees it, and puts all back at the end.
+class Locks
+{
+public:
+    Locks() { EXPECT_TRUE(GetKeyboardState(m_before.data())); }
+    ~Locks() { SetKeyboardState(m_before.data()); }
+    Locks(const Locks &) = delete;
+    Locks &operator=(const Locks &) = delete;
+
+    void set(int key, bool on)
+    {
+        auto state = m_before;
+        state[size_t(key)] = on ? 1 : 0;
+        EXPECT_TRUE(SetKeyboardState(state.data()));
+    }
+
+private:
+    std::array<BYTE, 256> m_before{};
+};
+
+} // namespace
+
+TEST(SystemKeyboard, TellsTheLayoutByItsNumber)
+{
+    const QString name = SystemKeyboard().layoutName();
+    EXPECT_TRUE(QRegularExpression(u"^[0-9A-Fa-f]{8}$"_s).match(name).hasMatch())
+        << name.toStdString();
+}
+
+TEST(SystemKeyboard, PutsALayoutBack)
+{
+    SystemKeyboard keyboard;
+    const QString name = keyboard.layoutName();
+    EXPECT_TRUE(keyboard.loadLayout(name));
+    EXPECT_EQ(keyboard.layoutName(), name);
+    const QString german = u"00000407"_s;
+    EXPECT_TRUE(keyboard.loadLayout(german));
+    if (keyboard.layoutName() == name && name != german) {
+        GTEST_SKIP() << "this system's layout is not changed by programs";
+    }
+    EXPECT_EQ(keyboard.layoutName(), german);
+    EXPECT_TRUE(keyboard.loadLayout(name));
+    EXPECT_EQ(keyboard.layoutName(), name);
+}
+
+TEST(SystemKeyboard, TellsTheLocksAndTurnsCapsLockOff)
+{
+    Locks locks;
+    SystemKeyboard keyboard;
+    for (const bool on : { true, false }) {
+        locks.set(VK_NUMLOCK, on);
+        EXPECT_EQ(keyboard.numLockOn(), on);
+        locks.set(VK_CAPITAL, on);
+        EXPECT_EQ(keyboard.capsLockOn(), on);
+    }
+    locks.set(VK_CAPITAL, true);
+    EXPECT_TRUE(keyboard.turnOffCapsLock());
+    EXPECT_FALSE(keyboard.capsLockOn());
+}
+
+#else
 
 TEST(SystemKeyboard, TellsTheInputMethodsLanguageOrNothing)
 {
@@ -38,6 +111,8 @@ TEST(SystemKeyboard, WithoutAServerToAskTheLocksAreThoseOfTheLastKeyEvent)
     EXPECT_TRUE(keyboard.capsLockOn());
     EXPECT_FALSE(keyboard.turnOffCapsLock()) << "nobody lets it";
 }
+
+#endif
 
 TEST(FakeKeyboard, TurnsItsCapsLockOff)
 {
