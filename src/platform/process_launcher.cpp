@@ -125,6 +125,8 @@ QString wineCommandLine(QStringView arguments)
     return line;
 }
 
+const QString wineLine = u"ZEPH_COMMAND_LINE"_s;
+
 Expected<void, QString> setUpWine(QProcess &process, const QString &program, WindowStyle style,
                                   const QString &arguments)
 {
@@ -135,16 +137,19 @@ Expected<void, QString> setUpWine(QProcess &process, const QString &program, Win
             u"This is a Windows program, and wine, which could run it, is not installed"_s);
     }
     const QString line = wineCommandLine(arguments);
-    QStringList start = wineStyle(style);
-    if (line.contains(u'"') && start.isEmpty()) {
-        start = QStringList{ u"start"_s, u"/unix"_s };
-    }
-    // Of words that are handed over wine makes a command line with quotes of its own choice. Its
-    // "start" joins them with blanks as they are: what is parted at every blank comes out as it
-    // was.
-    const QStringList words = start.isEmpty() ? splitCommandLine(line) : line.split(u' ');
+    const QStringList start = wineStyle(style);
     process.setProgram(wine);
-    process.setArguments(start + QStringList{ program } + (line.isEmpty() ? QStringList() : words));
+    if (line.contains(u'"') && start.isEmpty()) {
+        // Of words that are handed over wine makes a command line with quotes of its own choice.
+        // Its command prompt starts a line as it stands in a variable.
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(
+            wineLine, u"\"%1\" %2"_s.arg(wineWord(QFileInfo(program).absoluteFilePath()), line));
+        process.setProcessEnvironment(environment);
+        process.setArguments({ u"cmd"_s, u"/c"_s, u'%' + wineLine + u'%' });
+        return {};
+    }
+    process.setArguments(start + QStringList{ program } + splitCommandLine(line));
     return {};
 }
 
@@ -161,8 +166,9 @@ Expected<void, QString> startDetached(const Launch &launch)
         }
     } else if (!QFileInfo(program).isExecutable() || QFileInfo(program).isDir()) {
         return failure(program, std::errc::permission_denied);
+    } else {
+        setUpLibraries(process, program);
     }
-    setUpLibraries(process, program);
     process.setStandardInputFile(QProcess::nullDevice());
     if (!process.startDetached()) {
         return failure(program, process.errorString());

@@ -180,7 +180,8 @@ TEST(SystemLauncher, FilesAndAddressesGoToTheDesktop)
 
 namespace {
 
-/// A script that writes its folder and then its words, a line each, into the file "told".
+/// A script that writes its folder and then its words, a line each, into the file "told"; last a
+/// line that came in a variable, as wine gets it.
 class Script
 {
 public:
@@ -207,13 +208,25 @@ private:
     QByteArray script() const
     {
         const QByteArray told = QFile::encodeName(m_folder.file(u"told"_s));
-        return "#!/bin/sh\n{ pwd; for word in \"$@\"; do printf '%s\\n' \"$word\"; done; } > '"
+        return "#!/bin/sh\n{ pwd; for word in \"$@\"; do printf '%s\\n' \"$word\"; done;"
+               " printf '%s\\n' \"$ZEPH_COMMAND_LINE\"; } > '"
             + told + ".part'\nmv '" + told + ".part' '" + told + "'\n";
     }
 
     TempFolder m_folder;
     QString m_path;
 };
+
+QString backslashed(QString path)
+{
+    return path.replace(u'/', u'\\');
+}
+
+/// The words by which wine's command prompt starts a line that is in a variable, and the line.
+QStringList throughPrompt(const QString &line)
+{
+    return { u"cmd"_s, u"/c"_s, u"%ZEPH_COMMAND_LINE%"_s, line };
+}
 
 /// Puts one folder before all others in the search path.
 class SearchPath
@@ -294,10 +307,9 @@ TEST(SystemLauncher, AWindowsProgramGoesThroughWineWithPathsAsItUnderstandsThem)
             { .program = program, .arguments = u"/ZEPH /CE \"%1\""_s.arg(file) });
         ASSERT_TRUE(started) << started.error().toStdString();
     }
-    // Its "start" joins the words with blanks, so the quotes come out where they are told.
-    EXPECT_EQ(wine.told().mid(1).join(u' '),
-              u"start /unix "_s + program + u" /ZEPH /CE \"Z:"_s
-                  + QString(file).replace(u'/', u'\\') + u'"');
+    EXPECT_EQ(wine.told().mid(1),
+              throughPrompt(
+                  u"\"Z:%1\" /ZEPH /CE \"Z:%2\""_s.arg(backslashed(program), backslashed(file))));
 }
 
 TEST(SystemLauncher, QuotesReachWineAsTheyAreWritten)
@@ -309,7 +321,8 @@ TEST(SystemLauncher, QuotesReachWineAsTheyAreWritten)
         const SearchPath path(QFile::encodeName(wine.folder().path()) + ":/usr/bin:/bin");
         ASSERT_TRUE(SystemLauncher().start({ .program = program, .arguments = arguments }));
     }
-    EXPECT_EQ(wine.told().mid(1).join(u' '), u"start /unix "_s + program + u' ' + arguments);
+    EXPECT_EQ(wine.told().mid(1),
+              throughPrompt(u"\"Z:%1\" "_s.arg(backslashed(program)) + arguments));
 }
 
 TEST(SystemLauncher, FindsAPathOrANameOnTheSearchPathAndNoFolder)
