@@ -109,7 +109,14 @@
 namespace {
 
 constexpr int stepMs = 10;
-constexpr int patienceMs = 15000;
+
+/// How long a step may take; ZEPH_PATIENCE_MS sets another time for slow machines.
+int patienceMs()
+{
+    bool isSet = false;
+    const int set = qEnvironmentVariableIntValue("ZEPH_PATIENCE_MS", &isSet);
+    return isSet ? set : 15000;
+}
 
 bool isOfField(const QString &verb)
 {
@@ -149,7 +156,7 @@ private:
         if (perform(verb, step.section(QLatin1Char(' '), 1))) {
             m_steps.removeFirst();
             m_waited.restart();
-        } else if (m_waited.elapsed() > patienceMs) {
+        } else if (m_waited.elapsed() > patienceMs()) {
             note(QLatin1String("STUCK ") + step);
             for (const QWidget *widget : QApplication::topLevelWidgets()) {
                 if (widget->isVisible()) {

@@ -47,6 +47,9 @@ windows_path() {
     realpath -m -- "$1" | sed -e 's|^|Z:|' -e 's|/|\\|g'
 }
 
+# Wine keeps variables that begin with QT_ from its programs, and gives them those that begin with
+# WINEQT_ under that name.
+
 # play PROGRAM LOG STEP...: starts zeph.exe with the plugin that plays the pilot (DRIVER is the folder
 # of its kind) and leaves what it noted in LOG. PLAY_FILE is what Zeph is to open.
 play() {
@@ -56,7 +59,7 @@ play() {
     mkdir -p "$(dirname "$log")"
     printf '%s\n' "$@" >"$log.script"
     ZEPH_SCRIPT="$(windows_path "$log.script")" ZEPH_SCRIPT_LOG="$(windows_path "$log")" \
-        QT_PLUGIN_PATH="$(windows_path "$DRIVER")" QT_QPA_GENERIC_PLUGINS=zephdriver \
+        WINEQT_PLUGIN_PATH="$(windows_path "$DRIVER")" WINEQT_QPA_GENERIC_PLUGINS=zephdriver ZEPH_PATIENCE_MS=90000 \
         timeout 900 wine "$program" ${PLAY_FILE:+"$PLAY_FILE"} >/dev/null 2>&1
 }
 
