@@ -131,6 +131,8 @@ class Driver : public QObject
 public:
     Driver()
     {
+        // The system's own dialogs cannot be reached by the names of their controls.
+        QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
         QFile script(qEnvironmentVariable("ZEPH_SCRIPT"));
         if (script.open(QIODevice::ReadOnly)) {
             m_steps =

@@ -22,8 +22,21 @@ start_wine() {
     for pair in "Arial=Liberation Sans" "Courier New=Liberation Mono" "Times New Roman=Liberation Serif"; do
         wine reg add 'HKCU\Software\Wine\Fonts\Replacements' /v "${pair%%=*}" /d "${pair#*=}" /f >/dev/null 2>&1
     done
+    # Wine's own Tahoma, the font of windows and menus, loses strokes in small sizes.
+    local place
+    for place in Caption Menu Message SmCaption Status; do
+        wine reg add 'HKCU\Control Panel\Desktop\WindowMetrics' /v "${place}Font" /t REG_BINARY \
+            /d "$(logical_font "Liberation Sans")" /f >/dev/null 2>&1
+    done
     wineserver -w
     touch "$WINEPREFIX/ready"
+}
+
+# A font of nine points in the bytes in which Windows keeps it (LOGFONTW): the height, negative for that
+# of a character, the weight at the fifth number, and 32 characters of the name.
+logical_font() {
+    python3 -c 'import struct, sys
+print((struct.pack("<iiiii8x", -12, 0, 0, 0, 400) + sys.argv[1].encode("utf-16-le").ljust(64, b"\0")).hex())' "$1"
 }
 
 start_screen() {
