@@ -299,19 +299,17 @@ void QuickView::JoyTimer_Timer()
 void QuickView::applyState(const LiveState &state)
 {
     const StateChange change = changeOf(m_state, state);
-    const bool isMoved = state.base != m_state.base || state.io != m_state.io;
+    if (change.isNothing()) {
+        return;
+    }
     m_state = state;
-    if (!change.isNothing()) {
-        for (size_t flag = 0; flag < flagCount; ++flag) {
-            if (change.turnsBold[flag] || change.turnsPlain[flag]) {
-                picture().setPressed(int(flag) + 1, state.pressed[flag]);
-            }
+    for (size_t flag = 0; flag < flagCount; ++flag) {
+        if (change.turnsBold[flag] || change.turnsPlain[flag]) {
+            picture().setPressed(int(flag) + 1, state.pressed[flag]);
         }
     }
-    if (isMoved) {
+    if (change.column) {
         showPosition();
-    }
-    if (state.column() != m_shown->column()) {
         FillTextBoxes(state.base, state.io);
     }
 }

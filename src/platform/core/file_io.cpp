@@ -189,8 +189,8 @@ Expected<bool, QString> replaceWhole(const QString &path, const QByteArray &byte
 
 #else
 
-/// The same by a file that has no name before it is whole, so that a program that is killed leaves
-/// nothing of it.
+/// Replaces the file unless the question, asked when only the renaming is left, is answered no. The
+/// new file has no name before it is whole, so that a program that is killed leaves nothing of it.
 Expected<bool, QString> replaceWhole(const QString &path, const QByteArray &bytes,
                                      const Question &mayReplace)
 {
