@@ -52,7 +52,7 @@ TEST_F(CustomAppsTest, StartInTheRootOfTheirDrive)
         const Launch launch = customAppLaunch({ u"Chat"_s, path, true });
         EXPECT_EQ(launch.program, program);
         EXPECT_EQ(launch.arguments, u"-q");
-        EXPECT_EQ(launch.folder, u"/");
+        EXPECT_EQ(launch.folder, folder.root());
         EXPECT_EQ(launch.style, WindowStyle::NormalFocus);
     }
 }

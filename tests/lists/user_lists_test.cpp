@@ -269,7 +269,7 @@ TEST_F(UserListsTest, CustomApplicationsInUseShowOnMenuAndToolbarAndStart)
     ASSERT_EQ(launcher.launches.size(), 1);
     EXPECT_EQ(launcher.launches[0].program, program);
     EXPECT_EQ(launcher.launches[0].arguments, u"-q");
-    EXPECT_EQ(launcher.launches[0].folder, u"/");
+    EXPECT_EQ(launcher.launches[0].folder, folder.root());
 }
 
 TEST_F(UserListsTest, ACustomApplicationThatCannotStartIsTold)

@@ -9,6 +9,7 @@
 #include "documents/undo_histories.h"
 #include "editor/files/file_opening.h"
 #include "editor/files/loss_guards.h"
+#include "platform/core/paths.h"
 #include "platform/richtext/rich_text_document.h"
 #include "preferences/setting_fields.h"
 #include "shell/mum.h"
@@ -303,7 +304,7 @@ TEST_F(PreferencesTest, TheProgramsOwnFolderIsRememberedAsTheDefault)
     EXPECT_EQ(app->paths().hotasFolder, folder.file(u"Thrustmaster"_s) + u'/');
     dialogs.answerFolder(folder.path());
     visit([](QDialog &window) { window.findChild<QPushButton *>(u"cmdBrowseHotas"_s)->click(); });
-    EXPECT_EQ(app->paths().hotasFolder, folder.path() + u'/');
+    EXPECT_EQ(app->paths().hotasFolder, withClosingSeparator(folder.path()));
     EXPECT_EQ(stored(u"FileLocations", u"HotasFolder"), QString());
 }
 

@@ -121,7 +121,7 @@ TEST_F(Start, MakesItsFolders)
     for (const auto *name : { u"Rtf", u"Files", u"Layouts", u"Temp", u"Backup" }) {
         EXPECT_TRUE(QDir(folder.file(QString::fromUtf16(name))).exists());
     }
-    EXPECT_EQ(app->paths().compiler(), folder.path() + u"/HOTASCompiler.exe"_s);
+    EXPECT_EQ(app->paths().compiler(), folder.file(u"HOTASCompiler.exe"_s));
 }
 
 TEST_F(Start, WelcomesAndHasTwoFreshDocuments)
@@ -142,7 +142,7 @@ TEST_F(Start, FillsInTheDefaultPathsAndSavesThemAtOnce)
     writeStore();
     ASSERT_TRUE(start());
     EXPECT_EQ(stored(u"FileLocations"_s, u"BackUpFolder"_s), u"Backup/");
-    EXPECT_EQ(app->settings().of<EditorSettings>().BackUpFolder, folder.path() + u"/Backup/"_s);
+    EXPECT_EQ(app->settings().of<EditorSettings>().BackUpFolder, folder.file(u"Backup/"_s));
     EXPECT_EQ(stored(u"Apps"_s, u"ImageFilePath"_s), u"Zeph.bmp");
     EXPECT_EQ(stored(u"Apps"_s, u"TextFilePath"_s), u"ReadMe.txt");
 }

@@ -43,7 +43,7 @@ struct MainWindow : test::ShellWorld {
 
     void SetUp() override
     {
-        settings.of<EditorSettings>().BackUpFolder = folder.path() + u"/Backup/"_s;
+        settings.of<EditorSettings>().BackUpFolder = folder.file(u"Backup/"_s);
         QDir(folder.path()).mkdir(u"Backup"_s);
         settings.of<SharedSettings>().PilotCallsign = u"Goose"_s;
         settings.of<ShellSettings>().MumWindowstate = 0;
@@ -390,7 +390,7 @@ TEST_F(MainWindow, TheTitleNamesTheSelectedFileAndMarksItsChanges)
 {
     EXPECT_EQ(mum->windowTitle(), u"Untitled.tmj[*] - Zeph");
     EXPECT_FALSE(mum->isWindowModified());
-    editor->joystick().rename(folder.path() + u"/a.tmj"_s);
+    editor->joystick().rename(folder.file(u"a.tmj"_s));
     EXPECT_EQ(mum->windowTitle(), u"a.tmj[*] - Zeph");
     editor->joystick().setState(Document::Modified);
     EXPECT_TRUE(mum->isWindowModified());

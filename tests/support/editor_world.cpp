@@ -14,7 +14,7 @@ EditorWorld::EditorWorld()
         QDir(folder.path()).mkdir(name);
     }
     // Where backups of saved files go: without a name they would go to the current folder.
-    settings.of<EditorSettings>().BackUpFolder = folder.path() + u"/Backup/"_s;
+    settings.of<EditorSettings>().BackUpFolder = folder.file(u"Backup/"_s);
     settings.of<EditorSettings>().UpdateModified = true;
     settings.of<ColourSettings>().TextFontName = u"Arial"_s;
     settings.of<ColourSettings>().TextFontSize = 8;

@@ -3,13 +3,21 @@
 
 #include "tests/support/temp_folder.h"
 
-#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 
 #include <filesystem>
 
 namespace zeph::test {
+
+QString TempFolder::root() const
+{
+#ifdef Q_OS_WIN
+    return path().first(qsizetype(sizeof R"(C:\)" - 1));
+#else
+    return QStringLiteral("/");
+#endif
+}
 
 QString TempFolder::write(const QString &name, const QByteArray &bytes) const
 {

@@ -3,18 +3,25 @@
 
 #pragma once
 
+#include <QDir>
 #include <QString>
 #include <QTemporaryDir>
 
 namespace zeph::test {
 
-/// A folder of a test's own, gone with it. Paths in it end without a separator. What cannot be
-/// written or read is a warning, which fails the running test (watch.h) and needs no GoogleTest.
+/// A folder of a test's own, gone with it. Paths in it have the system's own separators, as the
+/// program holds them, and end without one. What cannot be written or read is a warning, which
+/// fails the running test (watch.h) and needs no GoogleTest.
 class TempFolder
 {
 public:
-    QString path() const { return m_folder.path(); }
-    QString file(const QString &name) const { return m_folder.filePath(name); }
+    QString path() const { return QDir::toNativeSeparators(m_folder.path()); }
+    QString file(const QString &name) const
+    {
+        return QDir::toNativeSeparators(m_folder.filePath(name));
+    }
+    /// The root of its drive, with a closing separator.
+    QString root() const;
     /// Writes a file (folders on its way are made) and gives its path.
     QString write(const QString &name, const QByteArray &bytes) const;
     /// The file's bytes; a warning and none when it cannot be read.

@@ -3,6 +3,8 @@
 
 #include "tests/support/world.h"
 
+#include "platform/core/paths.h"
+
 #include <QFile>
 
 namespace zeph::test {
@@ -19,7 +21,7 @@ QString installed(const QString &name)
 World::World()
 {
     paths.appFolder = folder.path();
-    paths.hotasFolder = folder.path() + u'/';
+    paths.hotasFolder = withClosingSeparator(folder.path());
     paths.iniPath = folder.file(u"Zeph.ini"_s);
 }
 

@@ -51,7 +51,7 @@ protected:
         text = form->findChild<RichTextBox *>(u"TemplateText"_s);
     }
 
-    QString templates(const QString &name) const { return folder.path() + u"/Templates/"_s + name; }
+    QString templates(const QString &name) const { return folder.file(u"Templates/"_s + name); }
     void press(QStringView name)
     {
         EXPECT_TRUE(form->actions().action(name)->isEnabled()) << name.toString().toStdString();
@@ -103,7 +103,7 @@ TEST_F(TemplateTest, AnyOtherFileOpensAsPlainText)
     dialogs.answerFile(folder.write(u"Files/A.tmj"_s, "BTN S1 a\r\n{\\rtf1}"));
     press(u"mnuFileOpen");
     EXPECT_EQ(text->toPlainText().toStdString(), "BTN S1 a\n{\\rtf1}");
-    EXPECT_EQ(dialogs.files().first().folder, folder.path() + u"/Templates/"_s);
+    EXPECT_EQ(dialogs.files().first().folder, folder.file(u"Templates/"_s));
 }
 
 TEST_F(TemplateTest, AFileThatCannotBeReadIsToldAndChangesNothing)

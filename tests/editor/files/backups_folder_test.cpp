@@ -13,7 +13,7 @@ using BackupFolder = test::WorldTest;
 
 TEST_F(BackupFolder, EmptyMeansTheOneBesideTheProgramWhichIsMade)
 {
-    EXPECT_EQ(checkedBackupFolder({}, paths, dialogs), folder.path() + u"/Backup/"_s);
+    EXPECT_EQ(checkedBackupFolder({}, paths, dialogs), folder.file(u"Backup/"_s));
     EXPECT_TRUE(QFileInfo(folder.file(u"Backup"_s)).isDir());
 }
 
@@ -29,7 +29,7 @@ TEST_F(BackupFolder, OneThatCannotBeMadeIsToldAndTheDefaultTakesItsPlace)
     const QString inTheWay = folder.write(u"file"_s, "not a folder");
     dialogs.answer(u"Backup folder location error"_s, BoxButton::Ok);
     EXPECT_EQ(checkedBackupFolder(inTheWay + u"/below"_s, paths, dialogs),
-              folder.path() + u"/Backup/"_s);
+              folder.file(u"Backup/"_s));
     EXPECT_TRUE(QFileInfo(folder.file(u"Backup"_s)).isDir());
     ASSERT_EQ(dialogs.boxes().size(), 1);
     const QString text = dialogs.boxes()[0].text;

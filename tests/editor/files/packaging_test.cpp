@@ -28,7 +28,7 @@ class PackagingTest : public test::EditorTest
 protected:
     PackagingTest()
     {
-        paths.hotasFolder = folder.path() + u"/Hotas/"_s;
+        paths.hotasFolder = folder.file(u"Hotas/"_s);
         editor->show();
     }
 

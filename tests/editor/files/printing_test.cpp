@@ -334,7 +334,7 @@ TEST_F(PrintingTest, ExportOffersTheFilesNameAndFolder)
     dialogs.answerFile(std::nullopt);
     printing.mnuFileExportPDF_Click();
     EXPECT_EQ(dialogs.files().first().name.toStdString(), "Untitled.pdf");
-    EXPECT_EQ(dialogs.files().first().folder, folder.path() + u"/Files/"_s);
+    EXPECT_EQ(dialogs.files().first().folder, folder.file(u"Files/"_s));
 }
 
 TEST_F(PrintingTest, OnlyThePagesThatWereChosenArePrinted)

@@ -6,6 +6,7 @@
 #include "livetools/pictures/image_viewer_settings.h"
 #include "livetools/pictures/picture_canvas.h"
 #include "livetools/pictures/picture_frame.h"
+#include "platform/core/paths.h"
 #include "platform/core/profile_file.h"
 #include "platform/fakes/fake_printers.h"
 #include "settings/shared_settings.h"
@@ -224,13 +225,13 @@ TEST_F(Viewer, OpenAsksWithAPreviewWhereTheLastPictureWas)
     EXPECT_TRUE(first.filter.startsWith(u"Image files (*.bmp,*.jpg,*.gif)|*.bmp;*.jpg;*.gif|"));
     EXPECT_TRUE(first.filter.contains(u"*.png"));
     EXPECT_TRUE(first.showsPictures);
-    EXPECT_EQ(first.folder, folder.path() + u'/');
+    EXPECT_EQ(first.folder, withClosingSeparator(folder.path()));
     EXPECT_EQ(imageFilePath(), path);
     EXPECT_EQ(viewer->pictureSize(), QSize(30, 20));
     viewer = make();
     dialogs.answerFile(std::nullopt);
     choose(u"mnuImageOpen"_s);
-    EXPECT_EQ(dialogs.files().back().folder, folder.path() + u"/Captures/"_s);
+    EXPECT_EQ(dialogs.files().back().folder, folder.file(u"Captures/"_s));
     EXPECT_EQ(imageFilePath(), path) << "Cancel changes nothing";
     EXPECT_NE(stored(u"ImagesDirectory"_s), u"absent");
 }
