@@ -106,6 +106,10 @@
 #include <cstdlib>
 #include <ctime>
 
+#ifdef Q_OS_WIN
+#include <qt_windows.h>
+#endif
+
 namespace {
 
 constexpr int stepMs = 10;
@@ -116,6 +120,25 @@ int patienceMs()
     bool isSet = false;
     const int set = qEnvironmentVariableIntValue("ZEPH_PATIENCE_MS", &isSet);
     return isSet ? set : 15000;
+}
+
+/// The processor time that the program has taken, in milliseconds.
+double processorMs()
+{
+#ifdef Q_OS_WIN
+    // There std::clock() counts the time that has gone by.
+    FILETIME begun;
+    FILETIME ended;
+    FILETIME kernel;
+    FILETIME user;
+    GetProcessTimes(GetCurrentProcess(), &begun, &ended, &kernel, &user);
+    const auto inMs = [](const FILETIME &time) {
+        return double(quint64(time.dwHighDateTime) << 32 | time.dwLowDateTime) / 10000;
+    };
+    return inMs(kernel) + inMs(user);
+#else
+    return double(std::clock()) * 1000 / CLOCKS_PER_SEC;
+#endif
 }
 
 bool isOfField(const QString &verb)
@@ -412,11 +435,11 @@ private:
     bool idle(int ms)
     {
         if (m_timer.interval() == stepMs) {
-            m_idleFrom = std::clock();
+            m_idleFrom = processorMs();
             m_timer.setInterval(ms);
             return false;
         }
-        const auto used = double(std::clock() - m_idleFrom) * 1000 / CLOCKS_PER_SEC;
+        const double used = processorMs() - m_idleFrom;
         m_timer.setInterval(stepMs);
         note(QStringLiteral("idle %1: %2 ms").arg(ms).arg(used));
         return true;
@@ -478,7 +501,7 @@ private:
     int m_acts = 0;
     QTimer m_timer;
     QElapsedTimer m_waited;
-    std::clock_t m_idleFrom = 0;
+    double m_idleFrom = 0;
     QElapsedTimer m_typing;
     int m_keys = 0;
 };

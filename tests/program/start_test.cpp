@@ -212,8 +212,10 @@ TEST(ProgramStart, With997FurtherInstancesTheNextStartEndsWithAWord)
 {
     Program program;
     program.settle();
+    // Until the next one has ended.
+    program.setEnvironment(u"ZEPH_PATIENCE_MS"_s, u"60000"_s);
     const auto first = program.start(
-        { u"window Untitled.tmj[*] - Zeph"_s, u"pause 2000"_s, u"close"_s }, u"first.log"_s);
+        { u"window Untitled.tmj[*] - Zeph"_s, u"pause 60000"_s, u"close"_s }, u"first.log"_s);
     while (!program.exists(u"first.log"_s) || program.noted(u"first.log"_s).isEmpty()) {
         ASSERT_FALSE(first->waitForFinished(20));
     }
@@ -225,6 +227,7 @@ TEST(ProgramStart, With997FurtherInstancesTheNextStartEndsWithAWord)
     ASSERT_TRUE(next->waitForFinished());
     EXPECT_THAT(lines(program.noted(u"next.log"_s)),
                 Contains(HasSubstr("Sorry, you've got too many windows open. Far too many !!!")));
+    first->kill();
     ASSERT_TRUE(first->waitForFinished());
 }
 

@@ -12,6 +12,8 @@ start_wine() {
     # The libraries that are switched off are not needed, and Wine would ask to fetch two of them.
     export WINEPREFIX WINEARCH=win64 WINEDEBUG=-all LANG=C.UTF-8 \
         WINEDLLOVERRIDES="mscoree=;mshtml=;winemenubuilder.exe="
+    # A thread of Wine's XInput goes on after SDL has unloaded that library, and crashes.
+    export SDL_XINPUT_ENABLED=0
     start_screen
     trap stop_wine EXIT
     [ -e "$WINEPREFIX/ready" ] && return
