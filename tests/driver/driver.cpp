@@ -87,6 +87,8 @@
 #include "scene_steps.h"
 #include "tour_steps.h"
 
+#include "tests/support/cpu_time.h"
+
 #include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
@@ -104,11 +106,6 @@
 #include <QTimer>
 
 #include <cstdlib>
-#include <ctime>
-
-#ifdef Q_OS_WIN
-#include <qt_windows.h>
-#endif
 
 namespace {
 
@@ -120,25 +117,6 @@ int patienceMs()
     bool isSet = false;
     const int set = qEnvironmentVariableIntValue("ZEPH_PATIENCE_MS", &isSet);
     return isSet ? set : 15000;
-}
-
-/// The processor time that the program has taken, in milliseconds.
-double processorMs()
-{
-#ifdef Q_OS_WIN
-    // There std::clock() counts the time that has gone by.
-    FILETIME begun;
-    FILETIME ended;
-    FILETIME kernel;
-    FILETIME user;
-    GetProcessTimes(GetCurrentProcess(), &begun, &ended, &kernel, &user);
-    const auto inMs = [](const FILETIME &time) {
-        return double(quint64(time.dwHighDateTime) << 32 | time.dwLowDateTime) / 10000;
-    };
-    return inMs(kernel) + inMs(user);
-#else
-    return double(std::clock()) * 1000 / CLOCKS_PER_SEC;
-#endif
 }
 
 bool isOfField(const QString &verb)
@@ -436,11 +414,11 @@ private:
     bool idle(int ms)
     {
         if (m_timer.interval() == stepMs) {
-            m_idleFrom = processorMs();
+            m_idleFrom = zeph::test::cpuSeconds();
             m_timer.setInterval(ms);
             return false;
         }
-        const double used = processorMs() - m_idleFrom;
+        const double used = (zeph::test::cpuSeconds() - m_idleFrom) * 1000;
         m_timer.setInterval(stepMs);
         note(QStringLiteral("idle %1: %2 ms").arg(ms).arg(used));
         return true;
@@ -502,7 +480,7 @@ private:
     int m_acts = 0;
     QTimer m_timer;
     QElapsedTimer m_waited;
-    double m_idleFrom = 0;
+    double m_idleFrom = 0; ///< seconds of work
     QElapsedTimer m_typing;
     int m_keys = 0;
 };

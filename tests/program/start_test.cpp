@@ -133,12 +133,14 @@ TEST(ProgramStart, AHotasFolderIsRememberedAndItsFileKeepsItsOptions)
     EXPECT_EQ(program.setting(u"Defaults"_s, u"POVhat"_s, ini), u"3");
     EXPECT_EQ(program.setting(u"Defaults"_s, u"RCSType"_s, ini), u"1");
     EXPECT_EQ(program.setting(u"Defaults"_s, u"TG1enabled"_s, ini), u"x");
-    EXPECT_EQ(program.setting(u"FileLocations"_s, u"HotasFolder"_s), u"Thrustmaster/");
+    EXPECT_EQ(program.setting(u"FileLocations"_s, u"HotasFolder"_s),
+              QDir::toNativeSeparators(u"Thrustmaster/"_s));
 
     const QStringList notes = program.run(
         { u"text Panel_1 Ready"_s, u"trigger mnuAppsPreferences"_s, u"window Preferences"_s,
           u"note HotasFolder"_s, u"press cmdOK"_s, u"gone Preferences"_s, u"close"_s });
-    EXPECT_THAT(lines(notes), Contains("HotasFolder=" + (folder + u'/').toStdString()));
+    EXPECT_THAT(lines(notes),
+                Contains("HotasFolder=" + program.file(u"Thrustmaster/"_s).toStdString()));
 }
 
 TEST(ProgramStart, ACommandLineThatNamesNoFileIsToldAndDropped)
