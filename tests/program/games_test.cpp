@@ -120,9 +120,9 @@ TEST_F(ProgramGames, AfterATimeOutNoStartsNothing)
 
 TEST_F(ProgramGames, AQuoteInTheFilesNameIsToldAndTheGameDoesNotStart)
 {
-#ifdef Q_OS_WIN
-    GTEST_SKIP() << "no file has a quote in its name";
-#endif
+    if (!canHoldQuotes) {
+        GTEST_SKIP() << "no file has such a name here";
+    }
     program.write(u"Files/f\"4.tmj"_s, "BTN S2 a\r\n");
     settle(0, u"Files/f\"4.tmj"_s);
     program.run({ started, u"trigger mnuGameArray_1"_s, u"box That name has a quote in it"_s,

@@ -119,9 +119,9 @@ TEST_F(ProgramWaits, ALineBeyondTheLargestOldLineNumberIsSelected)
 
 TEST_F(ProgramWaits, AQuoteInTheFilesNameIsToldAndNothingIsStarted)
 {
-#ifdef Q_OS_WIN
-    GTEST_SKIP() << "no file has a quote in its name";
-#endif
+    if (!canHoldQuotes) {
+        GTEST_SKIP() << "no file has such a name here";
+    }
     program.write(u"Files/a\"b.tmj"_s, "BTN S1 a\r\n");
     program.settle("RestoreJoyFile=Files/a\"b.tmj\r\n");
     const QString told = u"box That name has a quote in it"_s;
