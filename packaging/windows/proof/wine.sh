@@ -9,9 +9,10 @@
 start_wine() {
     mkdir -p "$1"
     WINEPREFIX="$(realpath -- "$1")"
-    # The libraries that are switched off are not needed, and Wine would ask to fetch two of them.
+    # What is switched off is not needed: Wine would ask to fetch two libraries, and its debugger keeps a
+    # program that crashed from ending.
     export WINEPREFIX WINEARCH=win64 WINEDEBUG=-all LANG=C.UTF-8 \
-        WINEDLLOVERRIDES="mscoree=;mshtml=;winemenubuilder.exe="
+        WINEDLLOVERRIDES="mscoree=;mshtml=;winemenubuilder.exe=;winedbg.exe="
     # A thread of Wine's XInput goes on after SDL has unloaded that library, and crashes.
     export SDL_XINPUT_ENABLED=0
     start_screen
