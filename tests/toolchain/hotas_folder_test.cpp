@@ -21,31 +21,31 @@ QString on(const QString &path)
     return nativeSeparators(QDir::rootPath() + path);
 }
 
-const QString zeph = on(u"opt/zeph"_s);
+const QString appFolder = on(u"opt/zeph"_s);
 
 } // namespace
 
 TEST(HotasFolder, IsTheProgramsOwnWithoutASetting)
 {
-    EXPECT_EQ(hotasFolderBy({}, zeph), on(u"opt/zeph/"_s));
+    EXPECT_EQ(hotasFolderBy({}, appFolder), on(u"opt/zeph/"_s));
     EXPECT_EQ(hotasFolderBy(u"  "_s, on(u"opt/zeph/"_s)), on(u"opt/zeph/"_s));
 }
 
 TEST(HotasFolder, IsFoundFromTheProgramsFolderOrFromHome)
 {
     const QString home = nativeSeparators(QDir::homePath());
-    EXPECT_EQ(hotasFolderBy(on(u"opt/tools"_s), zeph), on(u"opt/tools/"_s));
-    EXPECT_EQ(hotasFolderBy(u"tools\\hotas"_s, zeph), on(u"opt/zeph/tools/hotas/"_s));
-    EXPECT_EQ(hotasFolderBy(u"../tools"_s, zeph), on(u"opt/tools/"_s));
-    EXPECT_EQ(hotasFolderBy(u"~"_s, zeph), home + QDir::separator());
-    EXPECT_EQ(hotasFolderBy(u"~/tools"_s, zeph), home + nativeSeparators(u"/tools/"_s));
+    EXPECT_EQ(hotasFolderBy(on(u"opt/tools"_s), appFolder), on(u"opt/tools/"_s));
+    EXPECT_EQ(hotasFolderBy(u"tools\\hotas"_s, appFolder), on(u"opt/zeph/tools/hotas/"_s));
+    EXPECT_EQ(hotasFolderBy(u"../tools"_s, appFolder), on(u"opt/tools/"_s));
+    EXPECT_EQ(hotasFolderBy(u"~"_s, appFolder), home + QDir::separator());
+    EXPECT_EQ(hotasFolderBy(u"~/tools"_s, appFolder), home + nativeSeparators(u"/tools/"_s));
 }
 
 TEST(HotasFolder, TheProgramsOwnIsTheEmptySetting)
 {
-    EXPECT_EQ(settingForHotasFolder(on(u"opt/zeph/"_s), zeph), QString());
-    EXPECT_EQ(settingForHotasFolder({}, zeph), QString());
-    EXPECT_EQ(settingForHotasFolder(on(u"opt/tools"_s), zeph), on(u"opt/tools/"_s));
+    EXPECT_EQ(settingForHotasFolder(on(u"opt/zeph/"_s), appFolder), QString());
+    EXPECT_EQ(settingForHotasFolder({}, appFolder), QString());
+    EXPECT_EQ(settingForHotasFolder(on(u"opt/tools"_s), appFolder), on(u"opt/tools/"_s));
 }
 
 TEST(HotasFolder, AStandInIsNoRealTool)
