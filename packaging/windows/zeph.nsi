@@ -37,6 +37,7 @@ VIAddVersionKey LegalCopyright "The Zeph authors, MIT licence"
 !insertmacro MUI_PAGE_DIRECTORY
 !insertmacro MUI_PAGE_INSTFILES
 !insertmacro MUI_PAGE_FINISH
+!define MUI_UNCONFIRMPAGE_TEXT_TOP "Zeph will be removed from the following folder. Your settings and your own files in it stay. Click Uninstall to start."
 !insertmacro MUI_UNPAGE_CONFIRM
 !insertmacro MUI_UNPAGE_INSTFILES
 !insertmacro MUI_LANGUAGE "English"
