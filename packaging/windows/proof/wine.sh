@@ -16,7 +16,8 @@ start_wine() {
     trap stop_wine EXIT
     [ -e "$WINEPREFIX/ready" ] && return
     wineboot --init >/dev/null 2>&1
-    cp /usr/share/fonts/truetype/liberation/*.ttf "$WINEPREFIX/drive_c/windows/Fonts/"
+    "$(dirname "${BASH_SOURCE[0]}")/copy_fonts.py" "$WINEPREFIX/drive_c/windows/Fonts" \
+        /usr/share/fonts/truetype/liberation/*.ttf
     wine reg add 'HKCU\Software\Wine' /v Version /d win10 /f >/dev/null 2>&1
     local pair
     for pair in "Arial=Liberation Sans" "Courier New=Liberation Mono" "Times New Roman=Liberation Serif"; do
