@@ -3,6 +3,7 @@
 
 #include "platform/instance_lock.h"
 
+#include "platform/core/disk/windows_path.h"
 #include "platform/core/file_io.h"
 #include "platform/core/paths.h"
 #include "platform/dialogs.h"
@@ -41,14 +42,19 @@ bool isRunning(qint64 process)
     return runs;
 }
 
+/// This machine's name as the toolkit writes it into locks.
+QString hostName()
+{
+    return qEnvironmentVariable("COMPUTERNAME");
+}
+
 /// Gives a file the present time as its last change. Needs no right to write its content, which the
 /// lock keeps to itself.
 void touch(const QString &path)
 {
-    const HANDLE file =
-        CreateFileW(reinterpret_cast<const wchar_t *>(path.utf16()), FILE_WRITE_ATTRIBUTES,
-                    FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr, OPEN_EXISTING,
-                    FILE_ATTRIBUTE_NORMAL, nullptr);
+    const HANDLE file = CreateFileW(windowsPath(path).c_str(), FILE_WRITE_ATTRIBUTES,
+                                    FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
+                                    OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
     if (file != INVALID_HANDLE_VALUE) {
         FILETIME now;
         GetSystemTimeAsFileTime(&now);
@@ -62,6 +68,11 @@ void touch(const QString &path)
 bool isRunning(qint64 process)
 {
     return ::kill(pid_t(process), 0) == 0 || errno == EPERM;
+}
+
+QString hostName()
+{
+    return QSysInfo::machineHostName();
 }
 
 /// Gives a file the present time as its last change.
@@ -80,7 +91,7 @@ std::optional<LockMark> markOf(const QString &path)
 
 LockWitness witness(const std::optional<LockMark> &mark)
 {
-    return { QSysInfo::machineHostName(), QString::fromLatin1(QSysInfo::machineUniqueId()),
+    return { hostName(), QString::fromLatin1(QSysInfo::machineUniqueId()),
              QString::fromLatin1(QSysInfo::bootUniqueId()), mark && isRunning(mark->process),
              QDateTime::currentDateTime() };
 }

@@ -15,7 +15,7 @@ namespace {
 /// One spelling for each folder, so that two of them can be compared.
 QString cleaned(const QString &folder)
 {
-    return withClosingSeparator(QDir::cleanPath(nativeSeparators(folder)));
+    return withClosingSeparator(nativeSeparators(QDir::cleanPath(nativeSeparators(folder))));
 }
 
 } // namespace

@@ -5,12 +5,11 @@
 
 #include "language/checker.h"
 #include "language/macro_graph.h"
+#include "tests/support/cpu_time.h"
 
 #include <gtest/gtest.h>
 
 #include <QStringList>
-
-#include <ctime>
 
 using namespace zeph;
 using namespace zeph::language;
@@ -28,11 +27,11 @@ constexpr double limit = 1;
 
 double secondsFor(const QString &joystick, const QString &macros)
 {
-    const std::clock_t start = std::clock();
+    const double start = test::cpuSeconds();
     const FilePair pair = parsePair(joystick, macros);
     check(pair);
     compiledSize(pair);
-    return double(std::clock() - start) / CLOCKS_PER_SEC;
+    return test::cpuSeconds() - start;
 }
 
 QString filled(const QString &piece, qsizetype size)

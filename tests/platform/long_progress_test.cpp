@@ -5,7 +5,6 @@
 
 #include "platform/zip/zip_unpack.h"
 #include "tests/support/temp_folder.h"
-#include "tests/support/zips.h"
 
 #include <gtest/gtest.h>
 
@@ -95,8 +94,7 @@ TEST_F(LongProgressTest, MovesThroughAFolderOf3000Files)
     EXPECT_TRUE(std::is_sorted(values.begin(), values.end()));
     EXPECT_EQ(values.last(), manyFiles - 1);
     EXPECT_EQ(most, manyFiles);
-    const auto listed = test::run(u"unzip"_s, { u"-Z1"_s, folder.file(u"p.zip"_s) }, folder.path());
-    EXPECT_EQ(listed.output.count(u'\n'), manyFiles);
+    EXPECT_EQ(ZipReader::open(folder.file(u"p.zip"_s))->count(), manyFiles);
     EXPECT_FALSE(window());
 }
 

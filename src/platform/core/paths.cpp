@@ -148,7 +148,7 @@ QString rootOf(const QString &path)
         return native.section(QDir::separator(), 0, 3) + QDir::separator();
     }
 #endif
-    return QDir::rootPath();
+    return nativeSeparators(QDir::rootPath());
 }
 
 QString existingPath(const QString &path)

@@ -295,8 +295,10 @@ public:
         constexpr int patienceMs = 5000;
         constexpr int pauseMs = 5;
         m_lock.setStaleLockTime(staleMs);
+        // A folder that is not there is told by the write itself.
+        const bool canBeMade = QFileInfo(QFileInfo(path).path()).isDir();
         const QDeadlineTimer patience(patienceMs);
-        while (!m_lock.tryLock(0) && m_lock.error() == QLockFile::LockFailedError
+        while (canBeMade && !m_lock.tryLock(0) && m_lock.error() == QLockFile::LockFailedError
                && !patience.hasExpired()) {
             QThread::msleep(pauseMs);
         }

@@ -6,6 +6,7 @@
 #include "platform/core/text1252.h"
 
 #include <QMultiHash>
+#include <QMutex>
 
 #include <algorithm>
 #include <array>
@@ -209,26 +210,41 @@ private:
 };
 
 /// The start reads some hundred keys of files that do not change meanwhile, each from the disk.
-const ProfileIndex &indexOf(const QByteArray &file)
+class KnownFiles
 {
-    constexpr size_t filesAtOnce = 4;
-    thread_local std::array<ProfileIndex, filesAtOnce> known;
-    thread_local size_t next = 0;
-    const auto found = std::ranges::find_if(known, [&file](const ProfileIndex &index) {
-        return index.file().isSharedWith(file) || index.file() == file;
-    });
-    if (found != known.end()) {
-        return *found;
+public:
+    KeyPlace placeOf(const QByteArray &file, QStringView section, QStringView key)
+    {
+        const QMutexLocker lock(&m_mutex);
+        return indexOf(file).placeOf(section, key);
     }
-    next = (next + 1) % filesAtOnce;
-    return known[next] = ProfileIndex(file);
-}
+
+private:
+    const ProfileIndex &indexOf(const QByteArray &file)
+    {
+        const auto found = std::ranges::find_if(m_known, [&file](const ProfileIndex &index) {
+            return index.file().isSharedWith(file) || index.file() == file;
+        });
+        if (found != m_known.end()) {
+            return *found;
+        }
+        m_next = (m_next + 1) % m_known.size();
+        return m_known[m_next] = ProfileIndex(file);
+    }
+
+    // All threads share it: GCC for Windows takes a thread's own objects apart only after their
+    // memory has been freed.
+    QMutex m_mutex;
+    std::array<ProfileIndex, 4> m_known;
+    size_t m_next = 0;
+};
 
 } // namespace
 
 KeyPlace placeOf(const QByteArray &file, QStringView section, QStringView key)
 {
-    return indexOf(file).placeOf(section, key);
+    static KnownFiles known;
+    return known.placeOf(file, section, key);
 }
 
 QByteArrayView withoutBlanks(QByteArrayView bytes)

@@ -3,10 +3,10 @@
 
 #include "platform/zip/zip_archive.h"
 
+#include "platform/core/file_io.h"
 #include "platform/core/zip_names.h"
 
 #include <QFile>
-#include <QSaveFile>
 
 #include <archive.h>
 #include <archive_entry.h>
@@ -100,14 +100,10 @@ ZipEntry::Kind kindOf(archive_entry *entry)
     }
 }
 
-la_ssize_t writePiece(archive *writer, void *file, const void *bytes, size_t length)
+la_ssize_t addPiece(archive *, void *zip, const void *bytes, size_t length)
 {
-    auto *out = static_cast<QSaveFile *>(file);
-    const qint64 written = out->write(static_cast<const char *>(bytes), qint64(length));
-    if (written < 0) {
-        archive_set_error(writer, -1, "%s", out->errorString().toLocal8Bit().constData());
-    }
-    return la_ssize_t(written);
+    static_cast<QByteArray *>(zip)->append(static_cast<const char *>(bytes), qsizetype(length));
+    return la_ssize_t(length);
 }
 
 } // namespace
@@ -188,8 +184,9 @@ ZipReader::read(const std::function<bool(qint64)> &goOn)
 }
 
 struct ZipWriter::Archive {
-    std::unique_ptr<QSaveFile> file;
-    Writer writer; ///< declared after the file, so that it can write into it until its end
+    QString path;
+    QByteArray zip = {};
+    Writer writer = {}; ///< declared after the zip, so that it can write into it until its end
 };
 
 ZipWriter::ZipWriter(std::unique_ptr<Archive> archive) : m_archive(std::move(archive)) { }
@@ -199,18 +196,16 @@ ZipWriter::~ZipWriter() = default;
 
 Expected<ZipWriter, QString> ZipWriter::create(const QString &path)
 {
-    auto file = std::make_unique<QSaveFile>(path);
-    if (!file->open(QIODevice::WriteOnly)) {
-        return Unexpected<QString>(file->errorString());
+    auto made = std::make_unique<Archive>(path);
+    made->writer.reset(archive_write_new());
+    archive *writer = made->writer.get();
+    archive_write_set_format_zip(writer);
+    archive_write_set_options(writer, "hdrcharset=UTF-8");
+    archive_write_set_bytes_in_last_block(writer, 1);
+    if (archive_write_open(writer, &made->zip, nullptr, addPiece, nullptr) != ARCHIVE_OK) {
+        return Unexpected<QString>(reasonOf(writer));
     }
-    Writer writer(archive_write_new());
-    archive_write_set_format_zip(writer.get());
-    archive_write_set_options(writer.get(), "hdrcharset=UTF-8");
-    archive_write_set_bytes_in_last_block(writer.get(), 1);
-    if (archive_write_open(writer.get(), file.get(), nullptr, writePiece, nullptr) != ARCHIVE_OK) {
-        return Unexpected<QString>(reasonOf(writer.get()));
-    }
-    return ZipWriter(std::make_unique<Archive>(std::move(file), std::move(writer)));
+    return ZipWriter(std::move(made));
 }
 
 Expected<void, QString> ZipWriter::add(const QString &name, const QByteArray &bytes,
@@ -237,10 +232,8 @@ Expected<void, QString> ZipWriter::close()
     if (archive_write_close(m_archive->writer.get()) != ARCHIVE_OK) {
         return Unexpected<QString>(reasonOf(m_archive->writer.get()));
     }
-    if (!m_archive->file->commit()) {
-        return Unexpected<QString>(m_archive->file->errorString());
-    }
-    return {};
+    const auto written = writeFileAtomically(m_archive->path, m_archive->zip);
+    return written ? Expected<void, QString>() : Unexpected<QString>(written.error().reason);
 }
 
 } // namespace zeph

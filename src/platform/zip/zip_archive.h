@@ -53,7 +53,7 @@ private:
     std::unique_ptr<Archive> m_archive;
 };
 
-/// Makes a zip. close() puts it in place of a file of that path, whole or not at all.
+/// Makes a zip in memory. close() puts it in place of a file of that path, whole or not at all.
 class ZipWriter
 {
 public:
@@ -61,7 +61,6 @@ public:
 
     ZipWriter(ZipWriter &&) noexcept;
     ZipWriter &operator=(ZipWriter &&) noexcept;
-    /// A zip that was not closed is removed.
     ~ZipWriter();
 
     /// Adds a file under a name with "/" between its folders.

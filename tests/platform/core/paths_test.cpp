@@ -176,6 +176,7 @@ TEST(RootOf, IsTheDriveOrTheShare)
     EXPECT_EQ(rootOf(u"d:\\Files\\a.tmj"_s), u"d:\\");
     EXPECT_EQ(rootOf(u"D:/Files/a.tmj"_s), u"D:\\");
     EXPECT_EQ(rootOf(u"\\\\server\\share\\Files\\a.tmj"_s), u"\\\\server\\share\\");
+    EXPECT_EQ(rootOf(u"a.tmj"_s), u"C:\\") << "on the system's drive";
 }
 
 TEST(ExistingPath, ADriveIsAFolder)

@@ -49,7 +49,8 @@ protected:
         return unpackZip(zip, in(),
                          { .overwrite =
                                [this](const QString &path) {
-                                   asked.append(path.sliced(in().size()));
+                                   asked.append(
+                                       QDir::fromNativeSeparators(path.sliced(in().size())));
                                    return overwrite;
                                },
                            .goOn =
@@ -256,6 +257,9 @@ TEST_F(ZipTest, NothingIsWrittenThroughLinksThatAreThereAlready)
     QDir(folder.path()).mkdir(u"outside"_s);
     QFile::link(folder.file(u"outside"_s), in() + u"out"_s);
     QFile::link(folder.file(u"outside/b.txt"_s), in() + u"b.txt"_s);
+    if (!QFileInfo(in() + u"b.txt"_s).isSymbolicLink()) {
+        GTEST_SKIP() << "this system makes shortcuts, which are files";
+    }
     AnyZip zip;
     zip.file("out/a.txt", "x").file("b.txt", "y").folder("out/sub");
     EXPECT_EQ(unpack(zip.bytes()).refused.size(), 3);

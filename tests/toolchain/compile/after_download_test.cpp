@@ -3,6 +3,7 @@
 
 #include "toolchain/compile/after_download.h"
 
+#include "platform/core/paths.h"
 #include "platform/core/stand_in.h"
 #include "tests/support/toolchain_bench.h"
 #include "toolchain/toolchain_settings.h"
@@ -33,7 +34,7 @@ TEST_F(AfterDownloadTest, StartsTheNamedApplicationsInTheFilesOrder)
     ASSERT_EQ(launcher.launches.size(), 2);
     EXPECT_EQ(launcher.launches[0].program, first);
     EXPECT_EQ(launcher.launches[0].arguments, u"-a");
-    EXPECT_EQ(launcher.launches[0].folder, u"/");
+    EXPECT_EQ(launcher.launches[0].folder, folder.root());
     EXPECT_EQ(launcher.launches[0].style, WindowStyle::NormalFocus);
     EXPECT_EQ(launcher.launches[1].program, second);
     EXPECT_EQ(launcher.launches[1].arguments, u"");
@@ -45,9 +46,9 @@ TEST_F(AfterDownloadTest, AnApplicationStartsInTheRootOfItsDrive)
     after.GetAppsToRun(
         u"USE ZEPH RUN_APP d:\\tools\\x.exe\nUSE ZEPH RUN_APP \"E:\\a b\\y.exe\" -z"_s);
     ASSERT_EQ(launcher.launches.size(), 2);
-    EXPECT_EQ(launcher.launches[0].folder, u"d:/");
+    EXPECT_EQ(launcher.launches[0].folder, nativeSeparators(u"d:/"_s));
     EXPECT_EQ(launcher.launches[1].program, u"E:\\a b\\y.exe");
-    EXPECT_EQ(launcher.launches[1].folder, u"E:/");
+    EXPECT_EQ(launcher.launches[1].folder, nativeSeparators(u"E:/"_s));
 }
 
 TEST_F(AfterDownloadTest, WithRunAppsWithDownloadSetNothingStartsWhateverTheFileSays)

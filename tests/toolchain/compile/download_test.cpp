@@ -407,6 +407,9 @@ TEST_F(DownloadTest, ACompileDuringADownloadRunsAfterItWithAVerdictOfItsOwn)
 
 TEST_F(DownloadTest, ANameWithADoubleQuoteIsToldSinceACommandLineLosesIt)
 {
+    if (!test::canHoldQuotes) {
+        GTEST_SKIP() << "no file has such a name here";
+    }
     joystick.rename(folder.write(u"My \"best\".tmj"_s, "x"));
     dialogs.answer(u"That name has a quote in it"_s, BoxButton::Ok);
     download();
@@ -416,6 +419,9 @@ TEST_F(DownloadTest, ANameWithADoubleQuoteIsToldSinceACommandLineLosesIt)
 
 TEST_F(DownloadTest, AProfilesNameWithADoubleQuoteIsToldAndTheDownloadGoesOn)
 {
+    if (!test::canHoldQuotes) {
+        GTEST_SKIP() << "no file has such a name here";
+    }
     settings.of<ToolchainSettings>().UseResetProfile = true;
     settings.of<ToolchainSettings>().ResetProfile = u"a\"b"_s;
     folder.write(u"Profiles/a\"b.tmc"_s, "x");

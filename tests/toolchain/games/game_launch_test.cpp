@@ -189,6 +189,9 @@ TEST_F(GameLaunchTest, AMissingFileEndsTheLaunch)
 
 TEST_F(GameLaunchTest, AQuoteInTheFilesNameIsToldAndNeitherCompilerNorGameStarts)
 {
+    if (!test::canHoldQuotes) {
+        GTEST_SKIP() << "no file has such a name here";
+    }
     game.GameJF = folder.write(u"Files/f\"4.tmj"_s, "BTN S2 a");
     dialogs.answer(u"That name has a quote in it"_s, BoxButton::Ok);
     launch();
@@ -329,7 +332,7 @@ TEST_F(GameLaunchTest, AMissingWorkingDirectoryLeavesTheRootAsTheFolder)
     game.GameJFmode = 3;
     game.GameDIRPath = u"/nowhere/at all"_s;
     launch();
-    EXPECT_EQ(started().folder, u"/");
+    EXPECT_EQ(started().folder, folder.root());
     game.GameDIRPath.clear();
     launch();
     EXPECT_EQ(started().folder, paths.hotasFolder);

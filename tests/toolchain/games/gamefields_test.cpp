@@ -19,7 +19,7 @@ struct EnterGame : testing::Test {
     ScriptedDialogs dialogs;
     std::unique_ptr<EnterGameName> window;
 
-    EnterGame() { paths.appFolder = u"/zeph"_s; }
+    EnterGame() { paths.appFolder = nativeSeparators(u"/zeph"_s); }
     void open(const QString &suggested = u"/zeph/Files/a.tmj"_s)
     {
         window = std::make_unique<EnterGameName>(paths, dialogs, suggested);
@@ -46,7 +46,7 @@ TEST_F(EnterGame, WithASuggestedFileTheModeIsToDownloadIt)
 TEST_F(EnterGame, WithoutASuggestionTheFieldHoldsTheFileForAllGamesAndTheModeIs1)
 {
     open({});
-    EXPECT_EQ(window->game().GameJF, u"/zeph/Files/TM Default for games.tmj");
+    EXPECT_EQ(window->game().GameJF, nativeSeparators(u"/zeph/Files/TM Default for games.tmj"_s));
     EXPECT_EQ(window->game().GameJFmode, 1);
 }
 
