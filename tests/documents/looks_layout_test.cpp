@@ -163,8 +163,10 @@ TEST_F(LooksLayoutTest, FollowsWhateverChanges)
             looks.verticalScrollBar()->setValue(0);
             const QImage one = pictureOf(pieces);
             const QImage other = pictureOf(looks);
-            ASSERT_EQ(one.copy(pieces.viewport()->geometry()),
-                      other.copy(looks.viewport()->geometry()))
+            // The toolkit's own layout may not know yet how wide a line below is, and lacks the
+            // scroll bar then.
+            const QRect both = pieces.viewport()->geometry() & looks.viewport()->geometry();
+            ASSERT_EQ(one.copy(both), other.copy(both))
                 << "round " << round << " step " << step;
         }
     }
