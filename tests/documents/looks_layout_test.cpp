@@ -166,8 +166,7 @@ TEST_F(LooksLayoutTest, FollowsWhateverChanges)
             // The toolkit's own layout may not know yet how wide a line below is, and lacks the
             // scroll bar then.
             const QRect both = pieces.viewport()->geometry() & looks.viewport()->geometry();
-            ASSERT_EQ(one.copy(both), other.copy(both))
-                << "round " << round << " step " << step;
+            ASSERT_EQ(one.copy(both), other.copy(both)) << "round " << round << " step " << step;
         }
     }
 }
