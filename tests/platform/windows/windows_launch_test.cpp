@@ -108,7 +108,8 @@ TEST(WindowsProgram, DISABLED_TellsHowItWasStarted)
     GetStartupInfoW(&startup);
     const bool hasStyle = (startup.dwFlags & STARTF_USESHOWWINDOW) != 0;
     const QStringList told = { QString::number(hasStyle ? startup.wShowWindow : -1),
-                               QDir::currentPath(), QString::fromWCharArray(GetCommandLineW()),
+                               QDir::toNativeSeparators(QDir::currentPath()),
+                               QString::fromWCharArray(GetCommandLineW()),
                                qEnvironmentVariable("PATH") };
     const QString path = QFile::decodeName(qgetenv(toldVariable));
     QFile file(path + u".part"_s);
@@ -136,7 +137,7 @@ TEST_F(WindowsLaunch, TheArgumentsArriveAsTheyAreWrittenAndTheFolderIsCurrent)
     const QString more = u"/ZEPH /CE \"C:\\My Files\\Flug für Jürgen.tmj\"  /P\"My profile\""_s;
     Launch launch = copy(more);
     QDir(folder.path()).mkdir(u"Jürgens Ordner"_s);
-    launch.folder = folder.path() + u"/JÜRGENS ORDNER"_s;
+    launch.folder = folder.file(u"JÜRGENS ORDNER"_s);
     ASSERT_TRUE(SystemLauncher().start(launch));
     const QStringList lines = told();
     EXPECT_TRUE(lines[2].endsWith(u' ' + more)) << lines[2].toStdString();
