@@ -10,6 +10,10 @@ desktop-file-utils appstream shared-mime-info libxml2-utils groff-base zip unzip
 packages_for_deb="debhelper dpkg-dev"
 packages_for_archive="patchelf qt6-wayland xz-utils"
 
+as_root() {
+    if [ "$(id -u)" = 0 ]; then "$@"; else sudo "$@"; fi
+}
+
 # install_packages NAME...: quiet when all are there.
 install_packages() {
     missing=""
@@ -20,8 +24,6 @@ install_packages() {
     [ -z "$missing" ] && return 0
     command -v apt-get >/dev/null || { echo "Please install:$missing"; return 1; }
     echo "Installing:$missing"
-    as_root=""
-    [ "$(id -u)" = 0 ] || as_root="sudo"
-    export DEBIAN_FRONTEND=noninteractive
-    $as_root apt-get update -qq && $as_root apt-get install -y -qq --no-install-recommends $missing
+    as_root apt-get update -qq \
+        && as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends $missing
 }

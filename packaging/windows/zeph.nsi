@@ -4,11 +4,16 @@
 ; The installer: into a folder of the user's own, so that nobody needs an administrator. The folder can
 ; be written, so Zeph keeps its settings there, and the user may change the data that comes with it. The
 ; uninstaller removes what is on the list of installed files (FILES) and was not changed since. A new
-; version calls the old one's uninstaller first; what that leaves is the user's, and stays as it is.
+; version calls the old one's uninstaller first, wherever that is; what that leaves is the user's, and
+; stays as it is.
 
 Target amd64-unicode
+; Another size of the screen's text is not made by stretching the picture of the window.
+ManifestDPIAware true
+; A file that cannot be written ends all. Left out, it would be of another version than the others.
+AllowSkipFiles off
+!include LogicLib.nsh
 !include MUI2.nsh
-!include FileFunc.nsh
 !include "${FILES}"
 
 !define UNINSTALL "Software\Microsoft\Windows\CurrentVersion\Uninstall\Zeph"
@@ -32,6 +37,7 @@ VIAddVersionKey LegalCopyright "The Zeph authors, MIT licence"
 !insertmacro MUI_PAGE_DIRECTORY
 !insertmacro MUI_PAGE_INSTFILES
 !insertmacro MUI_PAGE_FINISH
+!define MUI_UNCONFIRMPAGE_TEXT_TOP "Zeph will be removed from the following folder. Your settings and your own files in it stay. Click Uninstall to start."
 !insertmacro MUI_UNPAGE_CONFIRM
 !insertmacro MUI_UNPAGE_INSTFILES
 !insertmacro MUI_LANGUAGE "English"
@@ -86,11 +92,35 @@ VIAddVersionKey LegalCopyright "The Zeph authors, MIT licence"
 
 !define TellShell 'System::Call "shell32::SHChangeNotify(i 0x08000000, i 0, p 0, p 0)"'
 
-Section
+; While a program runs, Windows lets nobody write its file. Without anybody to ask (/S) that is the end,
+; before anything was changed, with the exit code 2.
+!macro WaitUntilClosed FOLDER
+    ${Do}
+        ${IfNot} ${FileExists} "${FOLDER}\zeph.exe"
+            ${ExitDo}
+        ${EndIf}
+        ClearErrors
+        FileOpen $1 "${FOLDER}\zeph.exe" a
+        ${IfNot} ${Errors}
+            FileClose $1
+            ${ExitDo}
+        ${EndIf}
+        ${If} ${Cmd} `MessageBox MB_RETRYCANCEL|MB_ICONEXCLAMATION "${FOLDER}\zeph.exe cannot be replaced or removed. If Zeph is running, please close it first." /SD IDCANCEL IDCANCEL`
+            Abort
+        ${EndIf}
+    ${Loop}
+!macroend
+
+Section "-Zeph" SectionZeph
+    !insertmacro WaitUntilClosed "$INSTDIR"
     ReadRegStr $0 HKCU "Software\Zeph" "InstallFolder"
-    ${If} $0 == $INSTDIR
-    ${AndIf} ${FileExists} "$INSTDIR\Uninstall.exe"
-        ExecWait '"$INSTDIR\Uninstall.exe" /S _?=$INSTDIR'
+    ${If} $0 != ""
+    ${AndIf} ${FileExists} "$0\Uninstall.exe"
+        !insertmacro WaitUntilClosed "$0"
+        ExecWait '"$0\Uninstall.exe" /S _?=$0'
+        ; Started like this, it leaves itself.
+        Delete "$0\Uninstall.exe"
+        RMDir "$0"
     ${EndIf}
     SetOutPath "$INSTDIR"
     !insertmacro InstallFiles
@@ -108,12 +138,13 @@ Section
     WriteRegStr HKCU "${UNINSTALL}" "QuietUninstallString" '"$INSTDIR\Uninstall.exe" /S'
     WriteRegDWORD HKCU "${UNINSTALL}" "NoModify" 1
     WriteRegDWORD HKCU "${UNINSTALL}" "NoRepair" 1
-    ${GetSize} "$INSTDIR" "/S=0K" $0 $1 $2
+    SectionGetSize ${SectionZeph} $0
     WriteRegDWORD HKCU "${UNINSTALL}" "EstimatedSize" $0
     ${TellShell}
 SectionEnd
 
 Section Uninstall
+    !insertmacro WaitUntilClosed "$INSTDIR"
     !insertmacro RemoveFiles
     Delete "${TIMES}"
     Delete "$INSTDIR\Uninstall.exe"

@@ -40,10 +40,12 @@ KeyStroke strokeOf(const QKeyEvent &event)
 int keyCodeOf(const KeyStroke &stroke)
 {
 #ifdef Q_OS_WIN
-    return virtualKeyOfNative(stroke.nativeCode);
-#else
-    return virtualKeyOf(stroke);
+    // Keys that no keyboard sent have no code of the system.
+    if (stroke.nativeCode != 0) {
+        return virtualKeyOfNative(stroke.nativeCode);
+    }
 #endif
+    return virtualKeyOf(stroke);
 }
 
 /// What a key types. With Alt alone any key is a command and types nothing; Ctrl and Alt together

@@ -15,10 +15,11 @@ namespace zeph {
 
 namespace {
 
-bool isRedirected(DWORD stream)
+/// As characters, whatever code page the console has.
+void writeToConsole(HANDLE console, const QString &text)
 {
-    const HANDLE handle = GetStdHandle(stream);
-    return handle && handle != INVALID_HANDLE_VALUE && GetFileType(handle) != FILE_TYPE_UNKNOWN;
+    DWORD written = 0;
+    WriteConsoleW(console, text.utf16(), DWORD(text.size()), &written, nullptr);
 }
 
 /// Attached for a moment only: Ctrl+C in a console ends all programs that belong to it.
@@ -31,9 +32,7 @@ void writeToStartersConsole(const QString &text)
         CreateFileW(L"CONOUT$", GENERIC_READ | GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE,
                     nullptr, OPEN_EXISTING, 0, nullptr);
     if (console != INVALID_HANDLE_VALUE) {
-        // As characters, whatever code page the console has.
-        DWORD written = 0;
-        WriteConsoleW(console, text.utf16(), DWORD(text.size()), &written, nullptr);
+        writeToConsole(console, text);
         CloseHandle(console);
     }
     FreeConsole();
@@ -43,13 +42,18 @@ void writeToStartersConsole(const QString &text)
 
 void tellConsole(Stream stream, const QString &text)
 {
-    if (!isRedirected(stream == Stream::Output ? STD_OUTPUT_HANDLE : STD_ERROR_HANDLE)) {
+    const bool isOutput = stream == Stream::Output;
+    const HANDLE handle = GetStdHandle(isOutput ? STD_OUTPUT_HANDLE : STD_ERROR_HANDLE);
+    DWORD mode = 0;
+    if (!handle || handle == INVALID_HANDLE_VALUE || GetFileType(handle) == FILE_TYPE_UNKNOWN) {
         writeToStartersConsole(text);
-        return;
+    } else if (GetConsoleMode(handle, &mode)) {
+        writeToConsole(handle, text);
+    } else {
+        std::FILE *file = isOutput ? stdout : stderr;
+        std::fputs(text.toLocal8Bit().constData(), file);
+        std::fflush(file);
     }
-    std::FILE *file = stream == Stream::Output ? stdout : stderr;
-    std::fputs(text.toLocal8Bit().constData(), file);
-    std::fflush(file);
 }
 
 void goWithoutDisplay()

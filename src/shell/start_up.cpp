@@ -31,7 +31,9 @@ QString existingFile(QString name)
 {
     name.remove(u'"');
     const QString path = existingPath(nativeSeparators(name));
-    return !path.isEmpty() && fileExists(path) ? QFileInfo(path).absoluteFilePath() : QString();
+    return !path.isEmpty() && fileExists(path)
+        ? nativeSeparators(QFileInfo(path).absoluteFilePath())
+        : QString();
 }
 
 /// True when the last run left a file to open, whether or not that still exists.

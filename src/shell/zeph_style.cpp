@@ -155,6 +155,20 @@ void ZephStyle::polish(QApplication *application)
     makePlaceholdersReadable();
 }
 
+void ZephStyle::polish(QPalette &palette)
+{
+    QProxyStyle::polish(palette);
+    // On Windows a selection has the window's colour while another window is active. So a mistake
+    // that the compiler found would be lost while its explanation is read, and what was found
+    // while Find stays open.
+    if (palette.color(QPalette::Inactive, QPalette::Highlight)
+        == palette.color(QPalette::Inactive, QPalette::Window)) {
+        for (const auto role : { QPalette::Highlight, QPalette::HighlightedText }) {
+            palette.setColor(QPalette::Inactive, role, palette.color(QPalette::Active, role));
+        }
+    }
+}
+
 bool ZephStyle::eventFilter(QObject *watched, QEvent *event)
 {
     if (watched == qApp && event->type() == QEvent::ApplicationPaletteChange) {

@@ -13,7 +13,8 @@ QColor faintest(const QColor &ground, const QColor &ink, double wanted);
 
 /// How all windows look: the toolkit's own plain style, with what it draws too weakly or too
 /// brightly on dark desktops mended, fields that cannot be written into in the window's colour,
-/// message boxes with the program's pictures, and no pictures on OK and Cancel.
+/// message boxes with the program's pictures, no pictures on OK and Cancel, and selections that
+/// are seen in windows behind another one too.
 class ZephStyle : public QProxyStyle
 {
     Q_OBJECT
@@ -23,6 +24,7 @@ public:
 
     using QProxyStyle::polish;
     void polish(QApplication *application) override;
+    void polish(QPalette &palette) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
 
     int styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,

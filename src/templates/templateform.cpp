@@ -99,7 +99,7 @@ RichTextBox &TemplateForm::box() const
 
 QString TemplateForm::templatesFolder() const
 {
-    return m_context.paths.inApp(u"Templates/");
+    return withClosingSeparator(m_context.paths.inApp(u"Templates"));
 }
 
 void TemplateForm::connectFile()

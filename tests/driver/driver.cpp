@@ -151,7 +151,8 @@ private:
     void tick()
     {
         m_tour.answerBox();
-        if (m_steps.isEmpty()) {
+        // A busy program may get several ticks before it gets what an earlier one has posted.
+        if (m_steps.isEmpty() || Posted::isAny()) {
             return;
         }
         const QString step = m_steps.first();
@@ -364,11 +365,11 @@ private:
             return false;
         }
         ++m_acts;
-        QTimer::singleShot(0, this, [this, action = QPointer(action)] {
+        later(this, [action = QPointer(action)](Driver *driver) {
             if (action) {
                 action->trigger();
             }
-            --m_acts;
+            --driver->m_acts;
         });
         return true;
     }

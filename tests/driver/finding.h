@@ -11,6 +11,8 @@
 #include <QTimer>
 #include <QWidget>
 
+#include <memory>
+
 QString textOf(const QWidget *widget);
 QString selectionOf(const QWidget *widget);
 /// The control of that object name: the modal window's first, then one that is visible, then any;
@@ -39,9 +41,32 @@ QString placeOf(const QWidget *control);
 /// Sends a key that went "down" or "up" with its number, the modifiers before it and its symbol.
 bool sendNative(QWidget *control, const QStringList &stroke);
 
+/// An act that the event loop has not begun yet. It is over when the last copy is gone, so also
+/// when what was to act died before.
+class Posted
+{
+public:
+    Posted() : m_counted(std::make_shared<Counted>()) { }
+    void begin() { m_counted.reset(); }
+    /// Whether any act is still to begin.
+    static bool isAny() { return s_count > 0; }
+
+private:
+    struct Counted {
+        Counted() { ++s_count; }
+        ~Counted() { --s_count; }
+        Q_DISABLE_COPY_MOVE(Counted)
+    };
+    inline static int s_count = 0;
+    std::shared_ptr<Counted> m_counted;
+};
+
 /// Acts from the event loop, so that a modal loop begun by the act does not hold the driver's
 /// timer.
 template <class Target, class Act> void later(Target *target, Act act)
 {
-    QTimer::singleShot(0, target, [target, act] { act(target); });
+    QTimer::singleShot(0, target, [target, act, posted = Posted()]() mutable {
+        posted.begin();
+        act(target);
+    });
 }

@@ -50,6 +50,25 @@ QPalette darkPalette()
     return palette;
 }
 
+/// The number by which Windows knows a key; 0 on other systems, where the program goes by the
+/// toolkit's.
+quint32 virtualKey([[maybe_unused]] int key)
+{
+#ifdef Q_OS_WIN
+    constexpr int firstFunctionKey = 0x70;
+    constexpr int firstArrow = 0x25;
+    if (key >= Qt::Key_F1 && key <= Qt::Key_F24) {
+        return quint32(key - Qt::Key_F1 + firstFunctionKey);
+    }
+    if (key >= Qt::Key_Left && key <= Qt::Key_Down) {
+        return quint32(key - Qt::Key_Left + firstArrow);
+    }
+    return quint32(key);
+#else
+    return 0;
+#endif
+}
+
 bool isFurther(const QWidget *window)
 {
     return window->isVisible() && window != mainWindow() && !window->objectName().isEmpty();
@@ -201,7 +220,8 @@ bool TourSteps::pressKeys(const QString &name, const QString &keys) const
         const bool types = key.key() < Qt::Key_Escape;
         const QString text = types ? QString(QChar(char16_t(key.key()))) : QString();
         for (const auto type : { QEvent::KeyPress, QEvent::KeyRelease }) {
-            QKeyEvent event(type, key.key(), key.keyboardModifiers(), text);
+            QKeyEvent event(type, key.key(), key.keyboardModifiers(), 0, virtualKey(key.key()), 0,
+                            text);
             QApplication::sendEvent(control, &event);
         }
     }

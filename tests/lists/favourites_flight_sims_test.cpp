@@ -30,7 +30,7 @@ TEST(FlightSims, OnlyThoseWhoseJoystickFileIsThereBecomeFavourites)
     folder.write(u"Files/fb.TMJ"_s, "BTN S2 a");
     folder.write(u"Files/TM Eaw.tmj"_s, "BTN S2 a");
     folder.write(u"Files/CFS3.tmm"_s, "Fire = a");
-    const QString files = folder.file(u"Files"_s) + u'/';
+    const QString files = folder.file(u"Files/"_s);
     const QList<Favourite> expected = {
         { u"Forgotten Battles"_s, files + u"FB.tmj"_s, files + u"FB.tmm"_s },
         { u"European Air War"_s, files + u"TM Eaw.tmj"_s, files + u"TM Eaw.tmm"_s },

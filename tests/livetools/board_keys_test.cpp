@@ -14,6 +14,13 @@ using namespace zeph;
 
 namespace {
 
+/// So many further on than the keyboard itself do X servers and Wayland count.
+#ifdef Q_OS_WIN
+constexpr quint32 furtherPlaces = 0;
+#else
+constexpr quint32 furtherPlaces = 8;
+#endif
+
 QString heard(const KeyStroke &stroke)
 {
     const auto index = listenedKey(stroke);
@@ -87,7 +94,10 @@ TEST(Board, ModifiersAreWrittenInOneOrder)
 
 TEST(ListenedKey, PlacesTellAllKeysOfTheKeyboard)
 {
-    // As the kernel's input codes count, eight on; the number pad does not depend on Num Lock.
+#ifdef Q_OS_WIN
+    GTEST_SKIP() << "PlacesOfWindows tells what this system counts in another way";
+#endif
+    // As the kernel's input codes count; the number pad does not depend on Num Lock.
     struct Row {
         quint32 place;
         QStringView names;
@@ -106,7 +116,7 @@ TEST(ListenedKey, PlacesTellAllKeysOfTheKeyboard)
     for (const Row &row : rows) {
         quint32 place = row.place;
         for (const QString &name : row.names.toString().split(u' ')) {
-            EXPECT_EQ(heard({ Qt::Key_unknown, {}, 8 + place++, 0 }), name);
+            EXPECT_EQ(heard({ Qt::Key_unknown, {}, furtherPlaces + place++, 0 }), name);
             ++checked;
         }
     }
@@ -115,8 +125,8 @@ TEST(ListenedKey, PlacesTellAllKeysOfTheKeyboard)
 
 TEST(ListenedKey, APlaceCountsMoreThanWhatTheLayoutMakesOfIt)
 {
-    EXPECT_EQ(heard({ Qt::Key_Q, {}, 38, 'q' }), u"a"_s);
-    EXPECT_EQ(heard({ Qt::Key_Home, Qt::KeypadModifier, 8 + 71, 0 }), u"KP7"_s);
+    EXPECT_EQ(heard({ Qt::Key_Q, {}, furtherPlaces + 30, 'q' }), u"a"_s);
+    EXPECT_EQ(heard({ Qt::Key_Home, Qt::KeypadModifier, furtherPlaces + 71, 0 }), u"KP7"_s);
 }
 
 TEST(ListenedKey, WithoutPlacesTheNumberPadIsToldByItsModifier)

@@ -242,6 +242,7 @@ TEST_F(FavouritesPageTest, BrowseStartsWhereTheFileIsAndElseInTheFilesFolder)
 {
     const QString there = folder.write(u"There/x.tmj"_s, "BTN S2 a");
     openThree();
+    type(u"FavJFPath"_s, u"C:\\gone\\g.tmj"_s);
     dialogs.answerFile(there);
     press(u"cmdBrowseFavJF"_s);
     EXPECT_EQ(text(u"FavJFPath"_s), there);

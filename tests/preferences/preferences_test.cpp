@@ -293,7 +293,7 @@ TEST_F(PreferencesTest, AChosenHotasFoldersOptionsAreShownAndStayInItsFile)
     });
     EXPECT_TRUE(folder.read(u"Thrustmaster/HOTAS.ini"_s).startsWith(theirs));
     EXPECT_EQ(inHotas(u"Defaults", u"POVhat"), u"1");
-    EXPECT_EQ(stored(u"FileLocations", u"HotasFolder"), u"Thrustmaster/")
+    EXPECT_EQ(stored(u"FileLocations", u"HotasFolder"), nativeSeparators(u"Thrustmaster/"_s))
         << "what lies in the program's folder moves with it";
 }
 
@@ -301,7 +301,7 @@ TEST_F(PreferencesTest, TheProgramsOwnFolderIsRememberedAsTheDefault)
 {
     folder.write(u"Thrustmaster/HOTAS.ini"_s, "");
     start("HotasFolder=Thrustmaster\r\n");
-    EXPECT_EQ(app->paths().hotasFolder, folder.file(u"Thrustmaster"_s) + u'/');
+    EXPECT_EQ(app->paths().hotasFolder, folder.file(u"Thrustmaster/"_s));
     dialogs.answerFolder(folder.path());
     visit([](QDialog &window) { window.findChild<QPushButton *>(u"cmdBrowseHotas"_s)->click(); });
     EXPECT_EQ(app->paths().hotasFolder, withClosingSeparator(folder.path()));
@@ -339,17 +339,18 @@ TEST_F(PreferencesTest, TheHotasFolderIsUsedAtOnceWithAClosingSeparator)
     dialogs.answerFolder(chosen);
     visit([](QDialog &window) {
         window.findChild<QPushButton *>(u"cmdBrowseHotas"_s)->click();
-        EXPECT_TRUE(line(window, u"HotasFolder"_s).text().endsWith(u"/Thrustmaster/"_s));
+        EXPECT_TRUE(
+            line(window, u"HotasFolder"_s).text().endsWith(nativeSeparators(u"/Thrustmaster/"_s)));
     });
-    EXPECT_EQ(app->paths().hotasFolder, chosen + u'/');
-    EXPECT_EQ(app->paths().compiler(), chosen + u"/HOTASCompiler.exe"_s);
+    EXPECT_EQ(app->paths().hotasFolder, withClosingSeparator(chosen));
+    EXPECT_EQ(app->paths().compiler(), folder.file(u"Thrustmaster/HOTASCompiler.exe"_s));
 }
 
 TEST_F(PreferencesTest, ABackupFolderIsMadeAndGetsItsClosingSeparator)
 {
     start();
     set(u"BackUpFolder"_s, folder.file(u"My backups"_s));
-    EXPECT_EQ(stored(u"FileLocations", u"BackUpFolder"), u"My backups/");
+    EXPECT_EQ(stored(u"FileLocations", u"BackUpFolder"), nativeSeparators(u"My backups/"_s));
     EXPECT_TRUE(folderExists(folder.file(u"My backups"_s)));
 }
 

@@ -126,10 +126,7 @@ TEST(ProgramCompile, AVerdictAfterTheSecondTickShowsTheStatusWindowWhichStays)
     program.settle();
     // A tick counts as much as its interval: here 1000 ms, as on a pilot's machine, cut to 20 would
     // never reach the 2000 at which the window comes.
-    program.write(u"Zeph.ini"_s,
-                  program.read(u"Zeph.ini"_s)
-                      .replace("CheckForCompletionTime=20", "CheckForCompletionTime=1000")
-                      .replace("RegainControlAfter=900", "RegainControlAfter=45000"));
+    program.setPatience(45000, 1000);
     program.setEnvironment(u"ZEPH_STANDIN_DELAY_MS"_s, u"2500"_s);
     program.run({ u"text MacroText ="_s, u"trigger mnuAppsCompile"_s,
                   u"window Compile/Download status"_s, u"box File successfully compiled!"_s,
@@ -142,10 +139,7 @@ TEST(ProgramCompile, AVerdictBeforeTheSecondTickCountsShowsNoWindow)
 {
     Program program;
     program.settle();
-    program.write(u"Zeph.ini"_s,
-                  program.read(u"Zeph.ini"_s)
-                      .replace("CheckForCompletionTime=20", "CheckForCompletionTime=1000")
-                      .replace("RegainControlAfter=900", "RegainControlAfter=45000"));
+    program.setPatience(45000, 1000);
     program.setEnvironment(u"ZEPH_STANDIN_DELAY_MS"_s, u"1500"_s);
     program.run({ u"text MacroText ="_s, u"trigger mnuAppsCompile"_s,
                   u"box File successfully compiled!"_s, u"gone Compile/Download status"_s,
@@ -157,7 +151,7 @@ TEST(ProgramCompile, ASilentCompilerGivesControlBackWithTwoMessages)
 {
     Program program;
     program.settle();
-    program.setEnvironment(u"ZEPH_STANDIN_SILENT"_s, u"1"_s);
+    program.silenceTools();
     const QStringList notes =
         program.run({ u"text MacroText ="_s, u"trigger mnuAppsCompile"_s,
                       u"box Now this is taking rather a long time buddy, isn't it?!"_s,
@@ -184,7 +178,7 @@ TEST(ProgramCompile, ClosingTheProgramDuringAWaitEndsIt)
 {
     Program program;
     program.settle();
-    program.setEnvironment(u"ZEPH_STANDIN_SILENT"_s, u"1"_s);
+    program.silenceTools();
     program.run({ u"text MacroText ="_s, u"trigger mnuAppsCompile"_s, u"pause 100"_s, u"close"_s },
                 { program.file(sample) });
 }

@@ -7,8 +7,6 @@
 
 #include <gmock/gmock.h>
 
-#include <QFile>
-
 using namespace zeph;
 using namespace zeph::test;
 using testing::Contains;
@@ -32,34 +30,19 @@ struct ProgramDownload : testing::Test {
         return program.run(QStringList{ opened } + script, { program.file(sample) });
     }
     /// Ticks of one second, as on a pilot's machine: the status window comes at two of them.
-    void tickOnceASecond() const
-    {
-        program.write(u"Zeph.ini"_s,
-                      program.read(u"Zeph.ini"_s)
-                          .replace("CheckForCompletionTime=20", "CheckForCompletionTime=1000")
-                          .replace("RegainControlAfter=900", "RegainControlAfter=45000"));
-    }
-    /// Makes the compiler slow; Zeph has the patience.
+    void tickOnceASecond() const { program.setPatience(45000, 1000); }
+    /// Makes the compiler slow.
     void delay(int milliseconds)
     {
-        program.write(u"Zeph.ini"_s,
-                      program.read(u"Zeph.ini"_s)
-                          .replace("RegainControlAfter=900", "RegainControlAfter=20000"));
         program.setEnvironment(u"ZEPH_STANDIN_DELAY_MS"_s, QString::number(milliseconds));
     }
     QString remembered(const QString &section, const QString &key) const
     {
         return program.setting(section, key, hotas);
     }
-    /// A program that writes down its arguments and its folder.
-    QString recorder(const QString &name) const
+    QByteArray writeRecorder(const QString &name) const
     {
-        const QString path = program.write(name,
-                                           "#!/bin/sh\necho \"$0|$*|$(pwd)\" >> '"
-                                               + program.file(u"record"_s).toUtf8() + "'\n");
-        EXPECT_TRUE(
-            QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
-        return path;
+        return program.writeRecorder(name, u"record"_s).toUtf8();
     }
     void prependToSample(const QByteArray &lines) const
     {
@@ -146,7 +129,7 @@ TEST_F(ProgramDownload, AnErrorWithoutALineLeavesTheTextEditable)
 
 TEST_F(ProgramDownload, ASilentCompilerGivesControlBackWithTwoMessagesAndAnEditableText)
 {
-    program.setEnvironment(u"ZEPH_STANDIN_SILENT"_s, u"1"_s);
+    program.silenceTools();
     const QStringList notes = run(
         { download, u"box Now this is taking rather a long time buddy, isn't it?!"_s, u"press OK"_s,
           u"box Unknown result"_s, u"press OK"_s, u"text Panel_1 Control returned to you"_s,
@@ -160,9 +143,6 @@ TEST_F(ProgramDownload, ASilentCompilerGivesControlBackWithTwoMessagesAndAnEdita
 TEST_F(ProgramDownload, WhileItWaitsTheTextIsReadOnlyAndAllElseGoesOn)
 {
     program.settle("RunKeyTest=0\r\nTileFiles=1\r\n");
-    program.write(
-        u"Zeph.ini"_s,
-        program.read(u"Zeph.ini"_s).replace("RegainControlAfter=900", "RegainControlAfter=20000"));
     delay(1500);
     const QStringList notes =
         run(QStringList{
@@ -222,14 +202,14 @@ TEST_F(ProgramDownload, ACompileDuringADownloadsWaitTellsBothOutcomes)
 TEST_F(ProgramDownload, TwentyFivePressesInOneWaitMakeOneDownloadAndOneStartOfItsApplication)
 {
     delay(1500);
-    prependToSample("USE ZEPH RUN_APP " + recorder(u"Tools/first"_s).toUtf8() + "\r\n");
+    prependToSample("USE ZEPH RUN_APP " + writeRecorder(u"Tools/first"_s) + "\r\n");
     QStringList presses(25, download);
     run(QStringList{ download, u"text Panel_1 Waiting for compiler to download"_s } + presses
         + QStringList{ u"text Panel_1 I'm still busy with the download: once is enough"_s } + accept
         + QStringList{ u"pause 500"_s, u"type JoystickText Rem free\\n"_s,
                        u"text JoystickText Rem free"_s, u"close"_s,
                        u"box  Save Sample flight.tmj now?"_s, u"press No"_s });
-    EXPECT_EQ(program.read(u"record"_s).count('\n'), 1);
+    EXPECT_EQ(program.recorded(u"record"_s, 1).count('\n'), 1);
 }
 
 TEST_F(ProgramDownload, TheFirstOneByAStandInTellsThatNothingReachedAStickUntilTickedAway)
@@ -297,28 +277,29 @@ TEST_F(ProgramDownload, AHotasIniInUtf16IsToldAndLeftAlone)
 
 TEST_F(ProgramDownload, ClosingTheProgramDuringTheWaitEndsIt)
 {
-    program.setEnvironment(u"ZEPH_STANDIN_SILENT"_s, u"1"_s);
+    program.silenceTools();
     run({ download, u"text Panel_1 Waiting for compiler to download"_s, u"close"_s });
 }
 
 TEST_F(ProgramDownload, RunAppLinesStartTheirApplicationsInTheFilesOrder)
 {
-    const QString first = recorder(u"Tools/first app"_s);
-    const QString second = recorder(u"Tools/second"_s);
-    prependToSample("use  zeph\trun_app " + first.toUtf8()
-                    + " -a \"b c\" WINDOW_STYLE = 1 Rem trainer\r\nUSE ZEPH RUN_APP "
-                    + second.toUtf8() + "\r\n");
+    const QByteArray first = writeRecorder(u"Tools/first app"_s);
+    const QByteArray second = writeRecorder(u"Tools/second"_s);
+    prependToSample("use  zeph\trun_app " + first
+                    + " -a \"b c\" WINDOW_STYLE = 1 Rem trainer\r\nUSE ZEPH RUN_APP " + second
+                    + "\r\n");
     run(QStringList{ download } + accept + QStringList{ u"pause 500"_s, u"close"_s });
-    const QByteArray record = program.read(u"record"_s);
-    EXPECT_TRUE(record.contains(first.toUtf8() + "|-a b c|/\n")) << record.constData();
-    EXPECT_TRUE(record.contains(second.toUtf8() + "||/\n")) << record.constData();
+    const QByteArray record = program.recorded(u"record"_s, 2);
+    const QByteArray root = program.root().toUtf8();
+    EXPECT_TRUE(record.contains(first + ";-a;b c;" + root + ";\n")) << record.constData();
+    EXPECT_TRUE(record.contains(second + ';' + root + ";\n")) << record.constData();
     EXPECT_TRUE(program.exists(u"Temp/Original.txt"_s));
 }
 
 TEST_F(ProgramDownload, WithTheIgnoreTickNoApplicationRuns)
 {
     program.settle("RunKeyTest=0\r\nRunAppsWithDownload=1\r\n");
-    prependToSample("USE ZEPH RUN_APP " + recorder(u"Tools/first"_s).toUtf8() + "\r\n");
+    prependToSample("USE ZEPH RUN_APP " + writeRecorder(u"Tools/first"_s) + "\r\n");
     run(QStringList{ download } + accept + QStringList{ u"pause 300"_s, u"close"_s });
     EXPECT_FALSE(program.exists(u"record"_s));
 }

@@ -27,7 +27,8 @@ TEST(ProgramFiles, ThePairIsOpenedEditedSavedAndThereAgainAtTheNextStart)
                 { joystick });
     EXPECT_EQ(program.read(u"Files/a.tmj"_s), "Rem hello\r\nUSE MDEF m.tmm\r\nBTN S1 Fire\r\n");
     EXPECT_TRUE(program.exists(u"Rtf/a.tmj"_s));
-    EXPECT_EQ(program.setting(u"Miscellaneous"_s, u"RestoreJoyFile"_s), u"Files/a.tmj");
+    EXPECT_EQ(program.setting(u"Miscellaneous"_s, u"RestoreJoyFile"_s),
+              QDir::toNativeSeparators(u"Files/a.tmj"_s));
 
     const QStringList notes =
         program.run({ u"text JoystickText Rem hello"_s, u"text MacroText Fire"_s, u"close"_s });

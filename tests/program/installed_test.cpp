@@ -20,6 +20,18 @@ namespace {
 
 struct ProgramInstalled : testing::Test {
     Program program;
+};
+
+/// The user has a home of the test's own.
+struct ProgramAtHome : ProgramInstalled {
+    void SetUp() override
+    {
+#ifdef Q_OS_WIN
+        GTEST_SKIP()
+            << "no variable moves the user's own folder, and rights are told in other ways";
+#endif
+    }
+
     const QString mine = u".local/share/Zeph/"_s;
 
     bool iHave(const QString &name) const { return program.home().exists(mine + name); }
@@ -28,7 +40,7 @@ struct ProgramInstalled : testing::Test {
 
 } // namespace
 
-TEST_F(ProgramInstalled, AFirstStartFillsTheUsersOwnFolderWithoutOtherPeoplesFiles)
+TEST_F(ProgramAtHome, AFirstStartFillsTheUsersOwnFolderWithoutOtherPeoplesFiles)
 {
     program.settle("ValidUser=Somebody Else\r\n");
     program.write(u"HOTAS.ini"_s, "[Defaults]\r\nPOVhat=3\r\n");
@@ -53,7 +65,7 @@ TEST_F(ProgramInstalled, AFirstStartFillsTheUsersOwnFolderWithoutOtherPeoplesFil
     EXPECT_TRUE(program.read(u"Zeph.ini"_s).contains("Somebody")) << "theirs stays theirs";
 }
 
-TEST_F(ProgramInstalled, AFolderThatAPackageSharesIsLeftAloneEvenWhereItCanBeWritten)
+TEST_F(ProgramAtHome, AFolderThatAPackageSharesIsLeftAloneEvenWhereItCanBeWritten)
 {
     program.write(u"Package.ini"_s, "[Package]\nFile=zeph_<version>_amd64.deb\nShared=1\n");
     program.setEnvironment(u"HOME"_s, program.home().path());
@@ -68,7 +80,7 @@ TEST_F(ProgramInstalled, AFolderThatAPackageSharesIsLeftAloneEvenWhereItCanBeWri
     }
 }
 
-TEST_F(ProgramInstalled, AnUpgradeBringsDataUpToDateAndNamesTheFilesThatTheUserChanged)
+TEST_F(ProgramAtHome, AnUpgradeBringsDataUpToDateAndNamesTheFilesThatTheUserChanged)
 {
     program.installForOthers();
     const QStringList closing = { u"maybe-ok WARNING"_s, u"window Welcome to Zeph"_s,
@@ -88,7 +100,7 @@ TEST_F(ProgramInstalled, AnUpgradeBringsDataUpToDateAndNamesTheFilesThatTheUserC
     program.run(closing + QStringList{ u"text Panel_1 Ready! Welcome to Zeph"_s, u"close"_s });
 }
 
-TEST_F(ProgramInstalled, WhereNoFolderCanBeWrittenOneBoxSaysJustThat)
+TEST_F(ProgramAtHome, WhereNoFolderCanBeWrittenOneBoxSaysJustThat)
 {
     program.settle();
     program.installForOthers();
@@ -99,7 +111,7 @@ TEST_F(ProgramInstalled, WhereNoFolderCanBeWrittenOneBoxSaysJustThat)
                 testing::ElementsAre(testing::StartsWith("box I can't write anything|")));
 }
 
-TEST_F(ProgramInstalled, ATildeInASettingIsTheHomeFolder)
+TEST_F(ProgramAtHome, ATildeInASettingIsTheHomeFolder)
 {
     program.setEnvironment(u"HOME"_s, program.home().path());
     QDir().mkpath(program.home().file(u"My backups"_s));
@@ -122,5 +134,6 @@ TEST_F(ProgramInstalled, FromAnotherFolderSettingsMeanTheProgramsAndTheCommandLi
     program.startIn(program.file(u"elsewhere"_s));
     program.run({ u"text JoystickText Rem the program's"_s, u"close"_s });
     program.run({ u"text JoystickText Rem of elsewhere"_s, u"close"_s }, { u"Files/a.tmj"_s });
-    EXPECT_EQ(program.setting(u"Miscellaneous"_s, u"RestoreJoyFile"_s), u"elsewhere/Files/a.tmj"_s);
+    EXPECT_EQ(program.setting(u"Miscellaneous"_s, u"RestoreJoyFile"_s),
+              QDir::toNativeSeparators(u"elsewhere/Files/a.tmj"_s));
 }

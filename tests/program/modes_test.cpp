@@ -28,9 +28,6 @@ TEST(ProgramModes, MenusAndTypingInTheMacroFileGoOnDuringAModeWait)
 {
     Program program;
     program.settle();
-    program.write(
-        u"Zeph.ini"_s,
-        program.read(u"Zeph.ini"_s).replace("RegainControlAfter=900", "RegainControlAfter=20000"));
     program.setEnvironment(u"ZEPH_STANDIN_DELAY_MS"_s, u"1500"_s);
     // Going to the macro file puts its name on the panel: " Ready" after that can only come from a
     // wait that was still going on.
@@ -48,7 +45,7 @@ TEST(ProgramModes, ASilentToolGivesControlBackWithAMessage)
 {
     Program program;
     program.settle();
-    program.setEnvironment(u"ZEPH_STANDIN_SILENT"_s, u"1"_s);
+    program.silenceTools();
     const QStringList notes =
         program.run({ u"trigger mnuAxesModeArray_1"_s,
                       u"box Now this is taking rather a long time buddy, isn't it?!"_s,

@@ -117,8 +117,8 @@ TEST(ProgramPlaces, AMovedFolderFindsItsFilesAgainAndHoldsThemRelative)
     program.run({ u"text JoystickText USE"_s, u"text MacroText ="_s, u"close"_s });
     EXPECT_EQ(program.setting(u"Miscellaneous"_s, u"RestoreJoyFile"_s), sample);
     EXPECT_EQ(program.setting(u"Miscellaneous"_s, u"RestoreMacroFile"_s), sampleMacros);
-    EXPECT_EQ(program.setting(u"FileLocations"_s, u"BackUpFolder"_s), u"Backup/");
-    EXPECT_EQ(program.setting(u"Files"_s, u"Files"_s, u"HOTAS.ini"_s),
-              program.file(u"Files"_s) + u'/');
+    EXPECT_EQ(program.setting(u"FileLocations"_s, u"BackUpFolder"_s),
+              QDir::toNativeSeparators(u"Backup/"_s));
+    EXPECT_EQ(program.setting(u"Files"_s, u"Files"_s, u"HOTAS.ini"_s), program.file(u"Files/"_s));
     EXPECT_FALSE(program.read(u"Zeph.ini"_s).contains(program.folder().toUtf8()));
 }

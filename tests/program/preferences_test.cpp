@@ -8,6 +8,7 @@
 
 #include <gmock/gmock.h>
 
+#include <QDir>
 #include <QMap>
 
 #include <iterator>
@@ -58,7 +59,7 @@ protected:
     QString otherText(const PreferencesKey &key) const
     {
         static const QMap<QString, QString> ofTheirOwn = {
-            { u"BackUpFolder"_s, program.file(u"My backups"_s) + u'/' },
+            { u"BackUpFolder"_s, program.file(u"My backups/"_s) },
             { u"ImageFilePath"_s, program.file(u"other.bmp"_s) },
             { u"TextFilePath"_s, program.file(u"other.txt"_s) },
             { u"WinZipFilePath"_s, program.file(u"other/zip"_s) },
@@ -120,7 +121,7 @@ protected:
             return noted;
         default:
             // The store holds what is inside the program's folder relative to it.
-            return otherText(key).remove(program.folder() + u'/');
+            return otherText(key).remove(program.folder() + QDir::separator());
         }
     }
 

@@ -7,8 +7,10 @@
 
 #include <gtest/gtest.h>
 
+#include <QDeadlineTimer>
 #include <QDir>
 #include <QDirIterator>
+#include <QThread>
 
 #ifdef Q_OS_UNIX
 #include <csignal>
@@ -79,6 +81,16 @@ void startWithLimit(QProcess &process, qsizetype bytes)
     });
 }
 
+void waitForTools(const QString &) { }
+
+const QString recorderEnding;
+// A line goes into the file in one piece, so that nobody reads half of one.
+const QByteArray recorder = R"(#!/bin/sh
+line=$0
+for each in "$@"; do line="$line;$each"; done
+echo "$line;$(pwd);$CALLSIGN" >> 'RECORD'
+)";
+
 #else
 
 const QString executableName = u"zeph.exe"_s;
@@ -95,6 +107,27 @@ void startWithLimit(QProcess &, qsizetype)
 {
     ADD_FAILURE() << "no such limit on this system";
 }
+
+/// A tool that nobody waited for may still run, and its file cannot be removed until it has ended.
+void waitForTools(const QString &folder)
+{
+    const QDeadlineTimer until(10000);
+    while (!QDir(folder).removeRecursively() && !until.hasExpired()) {
+        QThread::msleep(20);
+    }
+}
+
+const QString recorderEnding = u".bat"_s;
+const QByteArray recorder = R"(@echo off
+set "line=%~f0"
+:next
+if "%~1"=="" goto end
+set "line=%line%;%~1"
+shift
+goto next
+:end
+>>"RECORD" echo %line%;%CD%;%CALLSIGN%
+)";
 
 #endif
 
@@ -113,6 +146,7 @@ Program::~Program()
     if (m_isOthers) {
         takeBack(folder());
     }
+    waitForTools(folder());
 }
 
 QString Program::executable() const
@@ -130,14 +164,49 @@ void Program::settle(const QByteArray &more)
     write(u"Zeph.ini"_s,
           "[FileLocations]\r\nFirstTimeUsed=3\r\nShowTips=0\r\n[Unsupported]\r\nTurnOffFontCheck="
           "1\r\n"
-          "CheckForCompletionTime=20\r\nRegainControlAfter=900\r\n[Miscellaneous]"
+          "CheckForCompletionTime=20\r\nRegainControlAfter=20000\r\n[Miscellaneous]"
           "\r\nMumWindowstate=0\r\nTellStandIn=0\r\n"
               + more);
+}
+
+void Program::setPatience(int giveUpAfterMs, int lookEveryMs) const
+{
+    const QString section = u"Unsupported"_s;
+    EXPECT_TRUE(
+        ProfileFile(file(u"Zeph.ini"_s))
+            .write({ { section, u"RegainControlAfter"_s, QString::number(giveUpAfterMs) },
+                     { section, u"CheckForCompletionTime"_s, QString::number(lookEveryMs) } }));
+}
+
+void Program::silenceTools()
+{
+    setEnvironment(u"ZEPH_STANDIN_SILENT"_s, u"1"_s);
+    setPatience(900);
 }
 
 void Program::setEnvironment(const QString &name, const QString &value)
 {
     m_environment.insert(name, value);
+}
+
+QString Program::writeRecorder(const QString &name, const QString &record) const
+{
+    const QString path = write(name + recorderEnding,
+                               QByteArray(recorder).replace("RECORD", file(record).toLocal8Bit()));
+    EXPECT_TRUE(
+        QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
+    return path;
+}
+
+QByteArray Program::recorded(const QString &record, int lines) const
+{
+    const QDeadlineTimer until(10000);
+    QByteArray bytes;
+    do {
+        QThread::msleep(10);
+        bytes = exists(record) ? read(record).replace("\r\n", "\n") : QByteArray();
+    } while (bytes.count('\n') < lines && !until.hasExpired());
+    return bytes;
 }
 
 void Program::installForOthers()

@@ -100,10 +100,6 @@ struct ProgramQuickView : testing::Test {
     {
         program.settle("[Joystick Analyser]\r\nJoyIDnumber=" + QByteArray::number(id) + "\r\n"
                        + more);
-        // A machine with much to do starts the tool late.
-        program.write(u"Zeph.ini"_s,
-                      program.read(u"Zeph.ini"_s)
-                          .replace("RegainControlAfter=900", "RegainControlAfter=14000"));
     }
     void reportButtons(int mode) const
     {
@@ -308,10 +304,7 @@ TEST_F(ProgramQuickView, ARequestThatFailsIsToldAndLeavesTheChoiceToThePilot)
 TEST_F(ProgramQuickView, AToolThatDoesNotAnswerIsToldLikeOneThatFails)
 {
     reportButtons(1);
-    program.write(
-        u"Zeph.ini"_s,
-        program.read(u"Zeph.ini"_s).replace("RegainControlAfter=14000", "RegainControlAfter=600"));
-    program.setEnvironment(u"ZEPH_STANDIN_SILENT"_s, u"1"_s);
+    program.silenceTools();
     run({ u"stick in"_s, u"stick down 18 24"_s, openQuickView, u"box Your Cougar needs a slap"_s,
           u"press OK"_s, u"text Label1_14 upOut"_s, u"bold none"_s,
           u"ticked "_s + manualMode + u" 1"_s });

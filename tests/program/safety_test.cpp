@@ -27,6 +27,9 @@ QByteArray longFile()
 
 TEST(ProgramSafety, AFullDiskIsToldAndTheOldFileStaysWhole)
 {
+#ifdef Q_OS_WIN
+    GTEST_SKIP() << "no program's files can be limited in size";
+#endif
     // The kernel's limit on a file's size stands for the full disk: the write fails half-way.
     Program program;
     program.settle();

@@ -133,12 +133,14 @@ TEST(ProgramStart, AHotasFolderIsRememberedAndItsFileKeepsItsOptions)
     EXPECT_EQ(program.setting(u"Defaults"_s, u"POVhat"_s, ini), u"3");
     EXPECT_EQ(program.setting(u"Defaults"_s, u"RCSType"_s, ini), u"1");
     EXPECT_EQ(program.setting(u"Defaults"_s, u"TG1enabled"_s, ini), u"x");
-    EXPECT_EQ(program.setting(u"FileLocations"_s, u"HotasFolder"_s), u"Thrustmaster/");
+    EXPECT_EQ(program.setting(u"FileLocations"_s, u"HotasFolder"_s),
+              QDir::toNativeSeparators(u"Thrustmaster/"_s));
 
     const QStringList notes = program.run(
         { u"text Panel_1 Ready"_s, u"trigger mnuAppsPreferences"_s, u"window Preferences"_s,
           u"note HotasFolder"_s, u"press cmdOK"_s, u"gone Preferences"_s, u"close"_s });
-    EXPECT_THAT(lines(notes), Contains("HotasFolder=" + (folder + u'/').toStdString()));
+    EXPECT_THAT(lines(notes),
+                Contains("HotasFolder=" + program.file(u"Thrustmaster/"_s).toStdString()));
 }
 
 TEST(ProgramStart, ACommandLineThatNamesNoFileIsToldAndDropped)
@@ -212,8 +214,10 @@ TEST(ProgramStart, With997FurtherInstancesTheNextStartEndsWithAWord)
 {
     Program program;
     program.settle();
+    // Until the next one has ended.
+    program.setEnvironment(u"ZEPH_PATIENCE_MS"_s, u"60000"_s);
     const auto first = program.start(
-        { u"window Untitled.tmj[*] - Zeph"_s, u"pause 2000"_s, u"close"_s }, u"first.log"_s);
+        { u"window Untitled.tmj[*] - Zeph"_s, u"pause 60000"_s, u"close"_s }, u"first.log"_s);
     while (!program.exists(u"first.log"_s) || program.noted(u"first.log"_s).isEmpty()) {
         ASSERT_FALSE(first->waitForFinished(20));
     }
@@ -225,6 +229,7 @@ TEST(ProgramStart, With997FurtherInstancesTheNextStartEndsWithAWord)
     ASSERT_TRUE(next->waitForFinished());
     EXPECT_THAT(lines(program.noted(u"next.log"_s)),
                 Contains(HasSubstr("Sorry, you've got too many windows open. Far too many !!!")));
+    first->kill();
     ASSERT_TRUE(first->waitForFinished());
 }
 

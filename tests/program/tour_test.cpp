@@ -36,4 +36,5 @@ TEST(ProgramTour, ReachesEachStopAndLeavesItsPicture)
         EXPECT_TRUE(program.exists(window + u".png"_s)) << window.toStdString();
     }
     EXPECT_FALSE(notes.filter(u"compile-error: Compiler reported an error at line 2"_s).isEmpty());
+    EXPECT_FALSE(notes.filter(u"template-editor: ReadMe sample.rtf was opened"_s).isEmpty());
 }

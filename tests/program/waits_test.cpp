@@ -26,13 +26,10 @@ struct ProgramWaits : testing::Test {
 
     Program program;
 
-    void settle(int delayMs, const QByteArray &tickMs)
+    void settle(int delayMs, int tickMs)
     {
         program.settle("RunKeyTest=0\r\n");
-        program.write(u"Zeph.ini"_s,
-                      program.read(u"Zeph.ini"_s)
-                          .replace("CheckForCompletionTime=20", "CheckForCompletionTime=" + tickMs)
-                          .replace("RegainControlAfter=900", "RegainControlAfter=45000"));
+        program.setPatience(45000, tickMs);
         program.setEnvironment(u"ZEPH_STANDIN_DELAY_MS"_s, QString::number(delayMs));
     }
     QStringList run(const QStringList &script)
@@ -45,7 +42,7 @@ struct ProgramWaits : testing::Test {
 
 TEST_F(ProgramWaits, ReplaceAndRenameLeaveATextOnItsWayAlone)
 {
-    settle(4000, "20");
+    settle(4000, 20);
     const QString refused = u"text Panel_1 Sample flight.tmj is on its way to the Cougar"_s;
     const QByteArray before = program.read(sample);
     run(QStringList{ u"trigger mnuEditReplace"_s,
@@ -75,7 +72,7 @@ TEST_F(ProgramWaits, ReplaceAndRenameLeaveATextOnItsWayAlone)
 
 TEST_F(ProgramWaits, TheStatusWindowFollowsWhatGoesOnAndSaysWhenItEnded)
 {
-    settle(2500, "1000");
+    settle(2500, 1000);
     const QString status = u"text LabelStatus "_s;
     run(QStringList{ compile, u"window Compile/Download status"_s,
                      status + u"Compiling Sample flight.tmj"_s }
@@ -87,7 +84,7 @@ TEST_F(ProgramWaits, TheStatusWindowFollowsWhatGoesOnAndSaysWhenItEnded)
 
 TEST_F(ProgramWaits, ACompileMinimisesFindAndTheSlashPalette)
 {
-    settle(300, "20");
+    settle(300, 20);
     run(QStringList{ u"trigger mnuEditFind"_s, u"window Find and replace"_s,
                      u"trigger mnuSlashWindow"_s, u"window Slash Modifiers"_s,
                      u"trigger mnuAppsKeyTester"_s, u"window Key Tester"_s, u"done"_s, compile,
@@ -98,7 +95,7 @@ TEST_F(ProgramWaits, ACompileMinimisesFindAndTheSlashPalette)
 
 TEST_F(ProgramWaits, TheKeysOfCompileAndDownloadSayInTheMacroTextWhyNothingHappens)
 {
-    settle(0, "20");
+    settle(0, 20);
     run({ u"trigger mnuViewMacroFile"_s, u"keys MacroText F11"_s,
           u"text Panel_1 F11 is for the joystick file: select its tab first"_s,
           u"keys MacroText F12"_s, u"text Panel_1 F12 is for the joystick file"_s, u"close"_s });
@@ -113,9 +110,6 @@ TEST_F(ProgramWaits, ALineBeyondTheLargestOldLineNumberIsSelected)
         text += "Rem\r\n";
     }
     const QString path = program.write(u"Files/long.tmj"_s, text + "BTN S99 a\r\nRem\r\n");
-    program.write(
-        u"Zeph.ini"_s,
-        program.read(u"Zeph.ini"_s).replace("RegainControlAfter=900", "RegainControlAfter=20000"));
     program.run({ u"text JoystickText BTN S99"_s, compile,
                   u"text Panel_1 error at line 40000: ERROR 1002"_s,
                   u"selection JoystickText BTN S99 a"_s, u"text Panel_3 Line no: 40000"_s,
@@ -125,6 +119,9 @@ TEST_F(ProgramWaits, ALineBeyondTheLargestOldLineNumberIsSelected)
 
 TEST_F(ProgramWaits, AQuoteInTheFilesNameIsToldAndNothingIsStarted)
 {
+    if (!canHoldQuotes) {
+        GTEST_SKIP() << "no file has such a name here";
+    }
     program.write(u"Files/a\"b.tmj"_s, "BTN S1 a\r\n");
     program.settle("RestoreJoyFile=Files/a\"b.tmj\r\n");
     const QString told = u"box That name has a quote in it"_s;

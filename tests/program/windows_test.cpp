@@ -94,12 +94,19 @@ TEST(ProgramWindows, TheKeyTesterShowsAltAfterShift)
 {
     Program program;
     program.settle();
-    // The keys' numbers are the toolkit's, the symbols those of an X server: Shift_L and Meta_L.
+    // The keys' numbers are the toolkit's, the symbols the system's.
+#ifdef Q_OS_WIN
+    const QString shift = u"0x01000020 0 0x10"_s;
+    const QString alt = u"0x01000023 0x02000000 0x12"_s;
+#else
+    // An X server holds Alt after Shift to be Meta: Shift_L and Meta_L.
+    const QString shift = u"0x01000020 0 0xFFE1"_s;
+    const QString alt = u"0x01000022 0x02000000 0xFFE7"_s;
+#endif
     const QStringList notes =
         program.run({ u"text Panel_1 Ready"_s, u"trigger mnuAppsKeyTester"_s,
-                      u"window Key Tester"_s, u"native KeyTestForm down 0x01000020 0 0xFFE1"_s,
-                      u"native KeyTestForm down 0x01000022 0x02000000 0xFFE7"_s,
-                      u"note RTFKeysDownText"_s, u"close"_s });
+                      u"window Key Tester"_s, u"native KeyTestForm down "_s + shift,
+                      u"native KeyTestForm down "_s + alt, u"note RTFKeysDownText"_s, u"close"_s });
     EXPECT_THAT(lines(notes), Contains(HasSubstr("RTFKeysDownText=Down: SHF\\nDown: ALT\\n")));
 }
 

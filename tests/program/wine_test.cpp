@@ -75,8 +75,8 @@ private:
         program.write(
             u"Zeph.ini"_s,
             program.read(u"Zeph.ini"_s)
-                .replace("ShowTips=0\r\n", "ShowTips=0\r\nHotasFolder=Cougar software\r\n")
-                .replace("RegainControlAfter=900", "RegainControlAfter=40000"));
+                .replace("ShowTips=0\r\n", "ShowTips=0\r\nHotasFolder=Cougar software\r\n"));
+        program.setPatience(40000);
         program.write(tools + u"HOTAS.ini"_s, "[Defaults]\r\nPOVhat=3\r\n");
     }
 

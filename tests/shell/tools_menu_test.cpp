@@ -98,7 +98,7 @@ TEST_F(ToolsMenuTest, OtherEntriesWithoutTheirProgramAreOffAndComeBackWhenItAppe
         EXPECT_FALSE(action(name).isEnabled()) << name.toStdString();
     }
     EXPECT_EQ(action(u"mnuAppsAnalyser").toolTip(),
-              u"Analyser.exe is missing: it isn't in "_s + paths.appFolder + u'/');
+              u"Analyser.exe is missing: it isn't in "_s + withClosingSeparator(paths.appFolder));
     folder.write(u"Analyser.exe"_s, "tool");
     EXPECT_TRUE(QTest::qWaitFor([this] { return action(u"mnuAppsAnalyser").isEnabled(); }));
     folder.write(u"HOTASCompiler.exe"_s, "tool");

@@ -124,7 +124,7 @@ TEST_F(WelcomeWindow, AsksForTheHotasFolderWhereNoRealToolsLie)
     press(u"cmdBrowse"_s);
     EXPECT_EQ(dialogs.folderTitles(), QStringList{ u"Locate the HOTAS directory"_s });
     press(u"cmdHotas"_s);
-    EXPECT_EQ(window->answers().hotasFolder, folder.file(u"HOTAS"_s) + u'/');
+    EXPECT_EQ(window->answers().hotasFolder, folder.file(u"HOTAS/"_s));
     EXPECT_TRUE(reach(u"pageExperience"_s));
 }
 

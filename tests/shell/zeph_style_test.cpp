@@ -92,6 +92,26 @@ TEST(ZephStyle, PlaceholdersAreReadableOnADarkDesktop)
     QApplication::setPalette(before);
 }
 
+// Windows gives them the window's colour.
+TEST(ZephStyle, SelectionsInInactiveWindowsAreSeen)
+{
+    ZephStyle style(icons);
+    QPalette palette(QColor(240, 240, 240));
+    palette.setColor(QPalette::Active, QPalette::Highlight, QColor(0, 120, 215));
+    palette.setColor(QPalette::Active, QPalette::HighlightedText, Qt::white);
+    palette.setColor(QPalette::Inactive, QPalette::Highlight, QColor(240, 240, 240));
+    palette.setColor(QPalette::Inactive, QPalette::HighlightedText, Qt::black);
+    style.polish(palette);
+    EXPECT_EQ(palette.color(QPalette::Inactive, QPalette::Highlight), QColor(0, 120, 215));
+    EXPECT_EQ(palette.color(QPalette::Inactive, QPalette::HighlightedText), QColor(Qt::white));
+
+    const QColor faint(145, 180, 215);
+    palette.setColor(QPalette::Inactive, QPalette::Highlight, faint);
+    style.polish(palette);
+    EXPECT_EQ(palette.color(QPalette::Inactive, QPalette::Highlight), faint)
+        << "a colour of the desktop's own stays";
+}
+
 TEST(ZephStyle, MessageBoxesHaveOwnPicturesAndTheirButtonsNone)
 {
     const ZephStyle style(icons);

@@ -27,8 +27,10 @@ struct ComposerWorld : EditorWorld {
         const QString drawings = QStringLiteral(ZEPH_SOURCE_DIR "/artwork/");
         for (const QString &name : { u"F-16 Block 50"_s, u"Straight grip"_s, u"Throttle"_s }) {
             folder.show(pictures + name + u".bmp"_s, name + u".bmp"_s);
-            folder.show(pictures + name + u".tmh"_s, name + u".tmh"_s);
             folder.show(drawings + name + u".svg"_s, name + u".svg"_s);
+        }
+        for (const QString &handle : { u"F-16 Block 50.tmh"_s, u"Straight grip.tmh"_s }) {
+            folder.show(pictures + handle, handle);
         }
         tools = new ComposerTools(context(), windows, *editor);
         editor->applySettings();

@@ -6,6 +6,7 @@
 #include <gmock/gmock.h>
 
 #include <QApplication>
+#include <QFont>
 #include <QTimer>
 #include <QWidget>
 
@@ -28,6 +29,21 @@ void watchForModals()
     timer->start(patienceMs);
 }
 
+/// The offscreen platform of Windows takes the fonts of a folder and knows none by another name, so
+/// that any of them would be taken for those that are not there.
+void nameFonts()
+{
+#ifdef Q_OS_WIN
+    const QString sans = QStringLiteral("Liberation Sans");
+    QFont::insertSubstitution(QStringLiteral("Arial"), sans);
+    QFont::insertSubstitution(QStringLiteral("Courier New"), QStringLiteral("Liberation Mono"));
+    QFont::insertSubstitution(QStringLiteral("Times New Roman"),
+                              QStringLiteral("Liberation Serif"));
+    constexpr int pointSize = 9;
+    QApplication::setFont(QFont(sans, pointSize));
+#endif
+}
+
 } // namespace
 
 int main(int argc, char **argv)
@@ -37,6 +53,7 @@ int main(int argc, char **argv)
         qputenv("QT_QPA_PLATFORM", "offscreen");
     }
     const QApplication application(argc, argv);
+    nameFonts();
     zeph::test::failOnWarnings();
     watchForModals();
     return RUN_ALL_TESTS();

@@ -9,6 +9,13 @@
 
 namespace zeph::test {
 
+/// Whether the system's files can have a double quote in their names.
+#ifdef Q_OS_WIN
+constexpr bool canHoldQuotes = false;
+#else
+constexpr bool canHoldQuotes = true;
+#endif
+
 /// A folder of a test's own, gone with it. Paths in it have the system's own separators, as the
 /// program holds them, and end without one. What cannot be written or read is a warning, which
 /// fails the running test (watch.h) and needs no GoogleTest.

@@ -17,13 +17,6 @@
 
 namespace zeph::test {
 
-/// Whether the system's files can have a double quote in their names.
-#ifdef Q_OS_WIN
-constexpr bool canHoldQuotes = false;
-#else
-constexpr bool canHoldQuotes = true;
-#endif
-
 /// A fixture for everything that runs tools: a world with the tools in its folder, each of which
 /// can be played.
 class ToolchainBench : public WorldTest

@@ -5,6 +5,7 @@
 #include "text/macro_table.h"
 
 #include "menus/menu_actions.h"
+#include "platform/core/paths.h"
 #include "platform/core/profile_file.h"
 #include "platform/core/rtf.h"
 #include "platform/fakes/fake_printers.h"
@@ -267,7 +268,8 @@ TEST_F(TemplateTest, OnlyASavedFileBecomesTheDefault)
     ASSERT_TRUE(form->OpenReadMe(path));
     press(u"mnuFileSetDefault");
     EXPECT_EQ(settings.of<SharedSettings>().TextFilePath, path);
-    EXPECT_TRUE(folder.read(u"Zeph.ini"_s).contains("TextFilePath=Templates/A.rtf"));
+    EXPECT_TRUE(folder.read(u"Zeph.ini"_s)
+                    .contains("TextFilePath=" + nativeSeparators(u"Templates/A.rtf"_s).toLatin1()));
     press(u"mnuFileNew");
     press(u"mnuFileOpenDefault");
     EXPECT_EQ(status.text().toStdString(),

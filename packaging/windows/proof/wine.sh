@@ -9,14 +9,18 @@
 start_wine() {
     mkdir -p "$1"
     WINEPREFIX="$(realpath -- "$1")"
-    # The libraries that are switched off are not needed, and Wine would ask to fetch two of them.
+    # What is switched off is not needed: Wine would ask to fetch two libraries, and its debugger keeps a
+    # program that crashed from ending.
     export WINEPREFIX WINEARCH=win64 WINEDEBUG=-all LANG=C.UTF-8 \
-        WINEDLLOVERRIDES="mscoree=;mshtml=;winemenubuilder.exe="
+        WINEDLLOVERRIDES="mscoree=;mshtml=;winemenubuilder.exe=;winedbg.exe="
+    # A thread of Wine's XInput goes on after SDL has unloaded that library, and crashes.
+    export SDL_XINPUT_ENABLED=0
     start_screen
     trap stop_wine EXIT
     [ -e "$WINEPREFIX/ready" ] && return
     wineboot --init >/dev/null 2>&1
-    cp /usr/share/fonts/truetype/liberation/*.ttf "$WINEPREFIX/drive_c/windows/Fonts/"
+    "$(dirname "${BASH_SOURCE[0]}")/copy_fonts.py" "$WINEPREFIX/drive_c/windows/Fonts" \
+        /usr/share/fonts/truetype/liberation/*.ttf
     wine reg add 'HKCU\Software\Wine' /v Version /d win10 /f >/dev/null 2>&1
     local pair
     for pair in "Arial=Liberation Sans" "Courier New=Liberation Mono" "Times New Roman=Liberation Serif"; do

@@ -55,8 +55,9 @@ void Frm_CreatePackage::locate(int index)
     const PackageRow &row = packageRows()[size_t(index)];
     QLineEdit &text = *m_texts[index + 1];
     const bool isProfile = PackageFile(index) == PackageFile::Profile;
-    const QString usual =
-        isProfile ? m_context.paths.hotasFolder + u"Profiles/"_s : m_context.paths.filesFolder();
+    const QString usual = isProfile
+        ? withClosingSeparator(m_context.paths.hotasFolder + u"Profiles"_s)
+        : m_context.paths.filesFolder();
     const auto chosen = m_context.dialogs.openFile(
         { .title = QString::fromUtf16(row.title),
           .filter = QString::fromUtf16(row.filter),

@@ -98,7 +98,8 @@ PackageFields Packaging::preset()
     set(PackageFile::Graphic, beside(folderOf(joystick.path()), said.ZephGraphic));
     set(PackageFile::Readme, beside(folderOf(joystick.path()), said.ZephReadme));
     set(PackageFile::Profile,
-        beside(m_context.paths.hotasFolder + u"Profiles/"_s, said.ProfileName));
+        beside(withClosingSeparator(m_context.paths.hotasFolder + u"Profiles"_s),
+               said.ProfileName));
     return fields;
 }
 

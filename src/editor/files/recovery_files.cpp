@@ -205,10 +205,10 @@ std::vector<LeftRecovery> leftRecoveries(const QString &parent, const MayTakeOve
     const QFileInfoList folders =
         QDir(parent).entryInfoList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Time);
     for (const QFileInfo &folder : folders) {
-        auto lock = std::make_unique<InstanceLock>(folder.filePath(), InstanceLock::folderLock,
-                                                   mayTakeOver);
+        const QString path = QDir::toNativeSeparators(folder.filePath());
+        auto lock = std::make_unique<InstanceLock>(path, InstanceLock::folderLock, mayTakeOver);
         if (lock->isFirst()) {
-            left.emplace_back(folder.filePath(), std::move(lock));
+            left.emplace_back(path, std::move(lock));
         }
     }
     if (folders.isEmpty()) {

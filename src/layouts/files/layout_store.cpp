@@ -45,7 +45,7 @@ QString targetOf(const QString &path)
 {
     const QString existing = existingPath(path);
     const QString target = QFileInfo(existing).canonicalFilePath();
-    return target.isEmpty() ? path : target;
+    return target.isEmpty() ? path : QDir::toNativeSeparators(target);
 }
 
 /// Files that are written together, after their folder has been made.

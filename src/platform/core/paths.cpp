@@ -3,6 +3,8 @@
 
 #include "platform/core/paths.h"
 
+#include "platform/core/disk/windows_path.h"
+
 #include <QDir>
 #include <QDirIterator>
 #include <QFileInfo>
@@ -152,12 +154,12 @@ QString rootOf(const QString &path)
 QString existingPath(const QString &path)
 {
     const QString native = nativeSeparators(path);
+#ifdef Q_OS_WIN
+    return QFileInfo::exists(native) ? withNameOnDisk(native) : QString();
+#else
     if (native.isEmpty() || QFileInfo::exists(native)) {
         return native;
     }
-#ifdef Q_OS_WIN
-    return {};
-#else
     QString found = native.startsWith(u'/') ? u"/"_s : QString();
     const QStringList components = native.split(u'/', Qt::SkipEmptyParts);
     for (const QString &component : components) {

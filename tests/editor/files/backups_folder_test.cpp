@@ -20,7 +20,7 @@ TEST_F(BackupFolder, EmptyMeansTheOneBesideTheProgramWhichIsMade)
 TEST_F(BackupFolder, GetsItsClosingSeparatorAndAllItsParents)
 {
     const QString wanted = folder.file(u"far/away"_s);
-    EXPECT_EQ(checkedBackupFolder(wanted, paths, dialogs), wanted + u'/');
+    EXPECT_EQ(checkedBackupFolder(wanted, paths, dialogs), withClosingSeparator(wanted));
     EXPECT_TRUE(QFileInfo(wanted).isDir());
 }
 

@@ -241,7 +241,7 @@ TEST_F(PackagingTest, EachBrowseButtonAsksWithItsFilter)
         EXPECT_EQ(field(package, i + 1)->text(), u"/x/%1"_s.arg(i));
     }
     EXPECT_EQ(dialogs.files()[0].folder, paths.filesFolder());
-    EXPECT_EQ(dialogs.files()[4].folder, paths.hotasFolder + u"Profiles/"_s);
+    EXPECT_EQ(dialogs.files()[4].folder, folder.file(u"Hotas/Profiles/"_s));
     dialogs.answerFile(std::nullopt);
     press(package, u"CMD_locate_0"_s);
     EXPECT_EQ(field(package, 1)->text(), u"/x/0");

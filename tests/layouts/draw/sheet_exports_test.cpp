@@ -297,6 +297,7 @@ TEST_F(SheetExports, ColoursAreThoseOfThePng)
             { u"-png"_s, u"-singlefile"_s, u"-r"_s, QString::number(96 * scale), pdf,
               pdf.chopped(4) });
         const QImage page(pdf.chopped(4) + u".png"_s);
+        ASSERT_FALSE(page.isNull());
         const QSize margin = (page.size() - png.size()) / 2;
         EXPECT_GT(likeness(png, page, QPoint(margin.width(), margin.height())), 0.97);
 

@@ -33,7 +33,15 @@ protected:
         files = std::make_unique<LayoutFiles>(context(), kind, nullptr);
         sheet = SheetMaker(21).storedWithTexts(kind);
     }
-    QString layout(const QString &name) const { return paths.layoutsFolder() + name; }
+    QString layout(const QString &name) const
+    {
+        return QDir::toNativeSeparators(paths.layoutsFolder() + name);
+    }
+    /// A path inside the program's folder as the list holds it.
+    static QByteArray stored(const char *path)
+    {
+        return QDir::toNativeSeparators(QLatin1String(path)).toLatin1();
+    }
     bool isThere(const QString &name) const { return QFileInfo::exists(layout(name)); }
     /// Plays the pilot in the next window that asks for a name.
     void enterName(const QString &name, const QString &button = u"cmdOK"_s)
@@ -237,7 +245,7 @@ TEST_F(LayoutFilesTest, TheRecentListHasTheLastOneOnTopAndThirtyAtMost)
     EXPECT_EQ(files->recent().first(), layout(u"20.jfl"_s));
     EXPECT_EQ(files->recent().count(layout(u"20.jfl"_s)), 1);
     EXPECT_TRUE(ini().contains("[Joystick layouts]\r\nNumbPrevJoystickLayouts=30\r\n"));
-    EXPECT_TRUE(ini().contains("PreviousJoystickLO1=Layouts/20.jfl\r\n"));
+    EXPECT_TRUE(ini().contains("PreviousJoystickLO1=" + stored("Layouts/20.jfl") + "\r\n"));
     const QStringList before = files->recent();
     make(SheetKind::Joystick);
     EXPECT_EQ(files->recent(), before) << "the next window reads them again";
@@ -252,9 +260,11 @@ TEST_F(LayoutFilesTest, EachKindHasAListOfItsOwn)
     make(SheetKind::Custom);
     saveWithText(u"a"_s);
     EXPECT_TRUE(ini().contains("[Throttle layouts]\r\nNumbPrevThrottleLayouts=1\r\n"
-                               "PreviousThrottleLO1=Layouts/a.ttl\r\n"));
+                               "PreviousThrottleLO1="
+                               + stored("Layouts/a.ttl") + "\r\n"));
     EXPECT_TRUE(ini().contains("[Custom layouts]\r\nNumbPrevCustomLayouts=1\r\n"
-                               "PreviousCustomLO1=Layouts/a/Custom layout.clt\r\n"));
+                               "PreviousCustomLO1="
+                               + stored("Layouts/a/Custom layout.clt") + "\r\n"));
 }
 
 TEST_F(LayoutFilesTest, ClearingTheListEmptiesItsSection)

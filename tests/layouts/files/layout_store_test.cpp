@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "layouts/files/layout_store.h"
+#include "platform/core/paths.h"
 
 #include "tests/layouts/files/sheet_maker.h"
 #include "tests/support/temp_folder.h"
@@ -18,7 +19,7 @@ namespace {
 
 struct LayoutStore : testing::Test {
     TempFolder folder;
-    QString layouts = folder.path() + u"/"_s;
+    QString layouts = withClosingSeparator(folder.path());
 
     QString path(SheetKind kind, LayoutForm form, const QString &name) const
     {
@@ -100,10 +101,11 @@ TEST_F(LayoutStore, AMissingTextIsNamed)
     const QString name = path(SheetKind::Joystick, LayoutForm::WithText, u"Sim"_s);
     ASSERT_TRUE(
         saveLayout(SheetMaker(3).storedWithTexts(SheetKind::Joystick), LayoutForm::WithText, name));
-    QFile::remove(layouts + u"Sim/Cougar Joystick Text9.rtf"_s);
+    const QString text = folder.file(u"Sim/Cougar Joystick Text9.rtf"_s);
+    QFile::remove(text);
     const auto read = loadLayout(SheetKind::Joystick, LayoutForm::WithText, name);
     ASSERT_FALSE(read);
-    EXPECT_EQ(read.error().file, layouts + u"Sim/Cougar Joystick Text9.rtf"_s);
+    EXPECT_EQ(read.error().file, text);
     const auto missing =
         loadLayout(SheetKind::Joystick, LayoutForm::Positions, layouts + u"x.jfl"_s);
     ASSERT_FALSE(missing);

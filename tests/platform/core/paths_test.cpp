@@ -160,6 +160,17 @@ TEST(IsSameFile, InAnyCaseWhereTheSystemTellsNone)
     EXPECT_TRUE(isSameFile(file, folder.file(u"FILES\\FRÜH.TMJ"_s)));
 }
 
+TEST(ExistingPath, HasTheNameThatTheDiskHas)
+{
+    const TempFolder folder;
+    const QString file = folder.write(u"Files/Früh.TMJ"_s, "x");
+    EXPECT_EQ(existingPath(folder.file(u"Files/FRÜH.tmj"_s)), file);
+    EXPECT_EQ(existingPath(folder.file(u"FILES"_s)), folder.file(u"Files"_s));
+    EXPECT_EQ(existingPath(folder.file(u"Files/."_s)), folder.file(u"Files/."_s));
+    EXPECT_EQ(existingPath(folder.file(u"Files/.."_s)), folder.file(u"Files/.."_s));
+    EXPECT_EQ(existingPath(u"c:\\"_s), u"c:\\");
+}
+
 TEST(RootOf, IsTheDriveOrTheShare)
 {
     EXPECT_EQ(rootOf(u"d:\\Files\\a.tmj"_s), u"d:\\");

@@ -35,6 +35,20 @@ std::wstring windowsPath(const QString &path)
     return longWindowsPath(QString::fromStdWString(full)).toStdWString();
 }
 
+QString withNameOnDisk(const QString &path)
+{
+    WIN32_FIND_DATAW found{};
+    const HANDLE search = FindFirstFileW(windowsPath(path).c_str(), &found);
+    if (search == INVALID_HANDLE_VALUE) {
+        return path;
+    }
+    FindClose(search);
+    const qsizetype name = path.lastIndexOf(QDir::separator()) + 1;
+    // Dots that stay or go up are no names of the disk.
+    const bool isName = name > 0 && name < path.size() && !path.endsWith(u'.');
+    return isName ? path.first(name) + QString::fromWCharArray(found.cFileName) : path;
+}
+
 #endif
 
 } // namespace zeph

@@ -20,6 +20,10 @@ QString longWindowsPath(const QString &full);
 /// The same of any path, for the system's calls. A device's name stays one, so that no file gets
 /// it, and blanks and dots at the end do not count, as everywhere else in Windows.
 std::wstring windowsPath(const QString &path);
+
+/// An existing path with its last name as the disk has it: Windows finds it by any case, and by
+/// the short name that old programs pass on. A name without a folder stays as it is.
+QString withNameOnDisk(const QString &path);
 #endif
 
 } // namespace zeph
