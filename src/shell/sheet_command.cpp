@@ -162,7 +162,8 @@ Expected<void, QString> writeSheet(const SheetCommand &command, const QString &a
                                    const QDateTime &now)
 {
     const QString existing = existingPath(command.file);
-    const QString path = QFileInfo(existing.isEmpty() ? command.file : existing).absoluteFilePath();
+    const QString path = QDir::toNativeSeparators(
+        QFileInfo(existing.isEmpty() ? command.file : existing).absoluteFilePath());
     const auto bytes = readWholeFile(path);
     if (!bytes) {
         return Unexpected<QString>(told(bytes.error()));
@@ -178,7 +179,7 @@ Expected<void, QString> writeSheet(const SheetCommand &command, const QString &a
 
     const SheetKind kind = command.sheet;
     const auto analysed = AnalyseAndExtract(*text);
-    const FileCaption caption{ QDir::toNativeSeparators(path), now };
+    const FileCaption caption{ path, now };
     const QStringList texts =
         analysed ? AnalyseJoystickFile(kind, *analysed, caption) : ClearAllTextboxes(kind);
     const ControlsImage image = controlsImage(kind, appFolder, files.store);

@@ -6,6 +6,7 @@
 #include "documents/document_settings.h"
 #include "editor/files/both_texts.h"
 #include "editor/files/loss_guards.h"
+#include "platform/core/paths.h"
 
 #include <QAction>
 #include <QApplication>
@@ -215,7 +216,7 @@ void Walk::compareFiles()
     const QStringList names = QDir(model.settings.folder).entryList(QDir::Files, QDir::Name);
     QStringList expected;
     for (auto file = model.files.cbegin(); file != model.files.cend(); ++file) {
-        expected.append(file.key().section(u'/', -1));
+        expected.append(nameOf(file.key()));
         EXPECT_EQ(folder.read(u"Files/"_s + expected.back()), file.value())
             << file.key().toStdString();
     }

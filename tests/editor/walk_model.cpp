@@ -3,6 +3,7 @@
 
 #include "tests/editor/walk_model.h"
 
+#include "platform/core/paths.h"
 #include "platform/core/text1252.h"
 #include "text/macro_search.h"
 #include "text/text_lines.h"
@@ -14,7 +15,7 @@ namespace zeph::test {
 
 QString WalkModel::File::name() const
 {
-    return path.section(u'/', -1);
+    return nameOf(path);
 }
 
 WalkModel::WalkModel(WalkPilot &pilot, WalkDocument joystick, WalkDocument macro)
@@ -107,8 +108,8 @@ QString WalkModel::macroPathFor(const File &joystick)
 {
     if (const auto reference = lastMdefReference(joystick.document.text())) {
         // Files name each other in any case; "/B" is a name in the folder, too.
-        const QString named =
-            QDir::cleanPath(settings.folder + macroNameFor(*reference, joystick.name()));
+        const QString named = nativeSeparators(
+            QDir::cleanPath(settings.folder + macroNameFor(*reference, joystick.name())));
         const QStringList paths = files.keys();
         const auto found = std::ranges::find_if(paths, [&named](const QString &path) {
             return path.compare(named, Qt::CaseInsensitive) == 0;

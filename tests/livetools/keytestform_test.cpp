@@ -160,6 +160,9 @@ TEST_F(KeyTester, AltAloneShowsItsEventAndNoMenuOpens)
 
 TEST_F(KeyTester, AltAfterShiftIsAltThoughTheSystemCallsItMeta)
 {
+#ifdef Q_OS_WIN
+    GTEST_SKIP() << "Windows tells the virtual key itself";
+#endif
     ASSERT_TRUE(open());
     // As an X server reports it: the state before each stroke, the place of the key and its symbol.
     const auto send = [this](QEvent::Type type, Qt::Key key, Qt::KeyboardModifiers before,

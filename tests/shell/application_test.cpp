@@ -141,7 +141,7 @@ TEST_F(Start, FillsInTheDefaultPathsAndSavesThemAtOnce)
 {
     writeStore();
     ASSERT_TRUE(start());
-    EXPECT_EQ(stored(u"FileLocations"_s, u"BackUpFolder"_s), u"Backup/");
+    EXPECT_EQ(stored(u"FileLocations"_s, u"BackUpFolder"_s), nativeSeparators(u"Backup/"_s));
     EXPECT_EQ(app->settings().of<EditorSettings>().BackUpFolder, folder.file(u"Backup/"_s));
     EXPECT_EQ(stored(u"Apps"_s, u"ImageFilePath"_s), u"Zeph.bmp");
     EXPECT_EQ(stored(u"Apps"_s, u"TextFilePath"_s), u"ReadMe.txt");
@@ -280,7 +280,7 @@ TEST_F(Start, TheFirstRunMakesFavouritesOfTheFlightSimulatorsThatItFinds)
     ASSERT_TRUE(start());
     EXPECT_EQ(stored(u"Favourites"_s, u"FavArrayNum"_s), u"2");
     EXPECT_EQ(stored(u"Favourites"_s, u"FavName1"_s), u"European Air War");
-    EXPECT_EQ(stored(u"Favourites"_s, u"FavMFPath1"_s), u"Files/TM Eaw.tmm");
+    EXPECT_EQ(stored(u"Favourites"_s, u"FavMFPath1"_s), nativeSeparators(u"Files/TM Eaw.tmm"_s));
     EXPECT_EQ(stored(u"Favourites"_s, u"FavName2"_s), u"Forgotten Battles");
     EXPECT_EQ(stored(u"Favourites"_s, u"FavLoadOnStart"_s), u"0");
     EXPECT_EQ(stored(u"Apps"_s, u"CustomAppUse4"_s), u"0");
@@ -564,7 +564,7 @@ TEST_F(Start, AMovedFolderFindsItsFilesAndTellsOtherProgramsWhereTheyAre)
     EXPECT_EQ(ProfileFile(app->paths().hotasIni()).text(u"Files", u"Files"),
               app->paths().filesFolder());
     app->mum().close();
-    EXPECT_EQ(stored(u"Miscellaneous"_s, u"RestoreJoyFile"_s), u"Files/a.tmj");
+    EXPECT_EQ(stored(u"Miscellaneous"_s, u"RestoreJoyFile"_s), nativeSeparators(u"Files/a.tmj"_s));
 }
 
 TEST_F(Start, AFilesFolderThatNobodyAskedForIsNotWrittenForOtherPrograms)

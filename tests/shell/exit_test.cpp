@@ -47,8 +47,8 @@ TEST_F(Exit, KeepsTheFilesOfTheRunAndThePlaceForTheNext)
     app->mum().move(30, 40);
     app->mum().resize(820, 640);
     EXPECT_TRUE(app->mum().close());
-    EXPECT_EQ(stored(u"RestoreJoyFile"_s), u"Files/Viper.tmj");
-    EXPECT_EQ(stored(u"RestoreMacroFile"_s), u"Files/Viper.tmm");
+    EXPECT_EQ(stored(u"RestoreJoyFile"_s), nativeSeparators(u"Files/Viper.tmj"_s));
+    EXPECT_EQ(stored(u"RestoreMacroFile"_s), nativeSeparators(u"Files/Viper.tmm"_s));
     EXPECT_EQ(stored(u"MumLeftAtStartup"_s), u"450");
     EXPECT_EQ(stored(u"MumTopAtStartup"_s), u"600");
     EXPECT_EQ(stored(u"MumWidthAtStartup"_s), u"12300");
@@ -60,7 +60,7 @@ TEST_F(Exit, AFileThatIsGoneIsNotRestored)
 {
     QFile::remove(macro);
     EXPECT_TRUE(app->mum().close());
-    EXPECT_EQ(stored(u"RestoreJoyFile"_s), u"Files/Viper.tmj");
+    EXPECT_EQ(stored(u"RestoreJoyFile"_s), nativeSeparators(u"Files/Viper.tmj"_s));
     EXPECT_EQ(stored(u"RestoreMacroFile"_s), QString());
 }
 

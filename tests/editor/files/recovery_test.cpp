@@ -223,6 +223,7 @@ TEST_F(RecoveryTest, AnotherMachinesTextsAreOfferedOnlyAfterAQuestion)
     EXPECT_TRUE(dialogs.boxes().isEmpty()) << "touched a moment ago";
     ASSERT_TRUE(lock.setFileTime(QDateTime::currentDateTime().addSecs(-11 * 60),
                                  QFileDevice::FileModificationTime));
+    lock.close();
     dialogs.answer(takeOverTitle, BoxButton::No);
     recovery().offerLeft();
     EXPECT_TRUE(folder.exists(u"Recovery/3/joystick.txt"_s));
