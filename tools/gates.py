@@ -3,8 +3,8 @@
 # SPDX-License-Identifier: MIT
 """The gates of sizes and arrows: functions of at most 100 lines (tables aside), classes of at most 40
 methods, folders of at most 25 subjects (a .cpp with its .h and .ui is one), no include against the
-order of the rooms, no circle of includes between the subjects of a room. Reads the formatted sources
-as text: a function's braces stand alone in the first column."""
+order of the rooms, no circle of includes between the subjects of a room, no object of a thread's own.
+Reads the formatted sources as text: a function's braces stand alone in the first column."""
 
 import os
 import re
@@ -92,6 +92,13 @@ def arrows(path, lines):
             yield f"{path}:{number}: {room} must not include {target}"
 
 
+def thread_objects(path, lines):
+    """GCC for Windows frees the memory of a thread's objects before it takes them apart."""
+    for number, line in enumerate(lines, 1):
+        if re.search(r"\bthread_local\b", line):
+            yield f"{path}:{number}: thread_local ends in freed memory on Windows"
+
+
 def function_lengths(path, lines):
     start = None
     for number, line in enumerate(lines, 1):
@@ -162,7 +169,7 @@ def main():
             sources[path] = file.read().split("\n")
     found = []
     for path, lines in sources.items():
-        for gate in (arrows, function_lengths, class_sizes):
+        for gate in (arrows, thread_objects, function_lengths, class_sizes):
             found += gate(path, lines)
     found += full_folders([*sources, *listed("src/*.ui")])
     found += circles(sources)

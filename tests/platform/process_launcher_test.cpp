@@ -3,6 +3,7 @@
 
 #include "platform/process_launcher.h"
 
+#include "platform/core/paths.h"
 #include "tests/support/temp_folder.h"
 
 #include <gtest/gtest.h>
@@ -95,8 +96,7 @@ TEST(LaunchFromCommand, ANameAloneIsLookedForInTheWorkingFolder)
 {
     const TempFolder folder;
     const QString program = folder.write(u"fly high.exe"_s, "x");
-    EXPECT_EQ(QDir::fromNativeSeparators(parted(u"fly high.exe -w"_s, folder.path())),
-              program + u"|-w"_s);
+    EXPECT_EQ(parted(u"fly high.exe -w"_s, folder.path()), program + u"|-w"_s);
     EXPECT_EQ(parted(u"no such.exe -w"_s, folder.path()), u"no|such.exe -w"_s);
 }
 
@@ -115,7 +115,8 @@ TEST(CarriedLibraries, AreBesideTheProgramsFolderWhereTheToolkitIsAmongThem)
     folder.write(u"zeph/lib/other.so"_s, {});
     EXPECT_EQ(carriedLibraries(folder.file(u"zeph/program"_s)), QString());
     folder.write(u"zeph/lib/libQt6Core.so.6"_s, {});
-    EXPECT_EQ(carriedLibraries(folder.file(u"zeph/program"_s)), folder.file(u"zeph/lib"_s));
+    EXPECT_TRUE(
+        isSameFile(carriedLibraries(folder.file(u"zeph/program"_s)), folder.file(u"zeph/lib"_s)));
 }
 
 TEST(SystemLauncher, AMissingProgramIsToldWithPathAndReason)

@@ -71,7 +71,8 @@ void LessonFrame::showEvent(QShowEvent *event)
 
 void LessonFrame::readText()
 {
-    const QString wanted = QDir(m_context.paths.appFolder).filePath(m_page.text.toString());
+    const QString wanted =
+        QDir::toNativeSeparators(QDir(m_context.paths.appFolder).filePath(m_page.text.toString()));
     const QString path = existingPath(wanted);
     if (path.isEmpty()) {
         m_text->setPlainText(u"I can't find the text of this page. It should be located here: "_s

@@ -233,7 +233,8 @@ Expected<bool, FileError> replaceFile(const QString &path, const QByteArray &hel
                                       const QByteArray &bytes)
 {
     return replaceIf(path, bytes, [&held](const QString &target) {
-        return readWholeFile(target).value_or(QByteArray()) == held;
+        const auto now = readWholeFile(target);
+        return now ? *now == held : held.isEmpty() && !QFileInfo::exists(target);
     });
 }
 

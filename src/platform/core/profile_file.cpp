@@ -294,12 +294,20 @@ public:
         constexpr int staleMs = 3000;
         constexpr int patienceMs = 5000;
         constexpr int pauseMs = 5;
+        constexpr int mostDenials = 20;
         m_lock.setStaleLockTime(staleMs);
         // A folder that is not there is told by the write itself.
         const bool canBeMade = QFileInfo(QFileInfo(path).path()).isDir();
         const QDeadlineTimer patience(patienceMs);
-        while (canBeMade && !m_lock.tryLock(0) && m_lock.error() == QLockFile::LockFailedError
-               && !patience.hasExpired()) {
+        int denials = 0;
+        while (canBeMade && !m_lock.tryLock(0) && !patience.hasExpired()) {
+            // Windows denies access to a lock that is just being removed, as it does for good where
+            // nobody may write.
+            const bool isHeld = m_lock.error() == QLockFile::LockFailedError;
+            if (!isHeld
+                && (m_lock.error() != QLockFile::PermissionError || ++denials > mostDenials)) {
+                break;
+            }
             QThread::msleep(pauseMs);
         }
     }

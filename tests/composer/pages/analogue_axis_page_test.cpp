@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include "composer/pages/analogueaxispage.h"
+#include "platform/core/paths.h"
 #include "platform/core/profile_file.h"
 #include "tests/composer/pages/axis_pages.h"
 
@@ -405,7 +406,7 @@ TEST_F(AnaloguePage, TheThrottleWizardIsStartedInItsFolder)
     openTab(6);
     expectRefused(u"I can't find ThrottleRange.exe buddy"_s, 9);
     folder.write(u"throttlerange.EXE"_s, "MZ");
-    paths.hotasFolder = folder.path() + u'/';
+    paths.hotasFolder = withClosingSeparator(folder.path());
     click(u"CMD_AnaAxes_9"_s);
     ASSERT_EQ(launcher.launches.size(), 1);
     EXPECT_EQ(launcher.launches.first().program, folder.file(u"throttlerange.EXE"_s));
@@ -417,7 +418,7 @@ TEST_F(AnaloguePage, TheThrottleWizardIsStartedInItsFolder)
 TEST_F(AnaloguePage, AWizardThatDoesNotStartIsTold)
 {
     openTab(6);
-    paths.hotasFolder = folder.path() + u'/';
+    paths.hotasFolder = withClosingSeparator(folder.path());
     folder.write(u"ThrottleRange.exe"_s, "MZ");
     launcher.onStart = [](const Launch &) {
         return Expected<void, QString>(Unexpected(u"no such thing"_s));
@@ -429,7 +430,7 @@ TEST_F(AnaloguePage, AWizardThatDoesNotStartIsTold)
 TEST_F(AnaloguePage, TheMeasuredValuesAreRetrieved)
 {
     openTab(6);
-    paths.hotasFolder = folder.path() + u'/';
+    paths.hotasFolder = withClosingSeparator(folder.path());
     expectRefused(u"I can't find the wizard's generated data"_s, 10);
     folder.write(u"ThrottleRange.ini"_s, "[Throttle]\r\nAFBPercent=85\r\n");
     click(u"CMD_AnaAxes_10"_s);

@@ -7,6 +7,7 @@
 #include "composer/composer_settings.h"
 #include "composer/pages/usepage.h"
 #include "composer/statement_inserter.h"
+#include "platform/core/paths.h"
 #include "tests/support/painting_fixture.h"
 
 #include <QApplication>
@@ -39,7 +40,7 @@ class UsePageTest : public PaintingTest
 protected:
     void SetUp() override
     {
-        paths.hotasFolder = folder.path() + u'/';
+        paths.hotasFolder = withClosingSeparator(folder.path());
         folder.write(u"Profiles/zulu.tmc"_s, "x");
         folder.write(u"Profiles/Alpha.tmc"_s, "x");
         folder.write(u"Profiles/notes.txt"_s, "x");

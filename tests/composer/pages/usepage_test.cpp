@@ -188,7 +188,7 @@ TEST_F(UsePageTest, TheProfilesAreThoseOfTheCougarsFolder)
 
 TEST_F(UsePageTest, WithoutAProfileItsStatementIsRefused)
 {
-    paths.hotasFolder = folder.path() + u"/none/"_s;
+    paths.hotasFolder = folder.file(u"none/"_s);
     press(u"Command2"_s);
     EXPECT_EQ(profiles().count(), 0);
     dialogs.answer(u"No profiles found"_s, BoxButton::Ok);

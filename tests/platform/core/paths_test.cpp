@@ -77,6 +77,9 @@ TEST(ExistingPath, TheExactNameComesFirst)
     const TempFolder folder;
     folder.write(u"a.tmj"_s, "lower");
     folder.write(u"A.TMJ"_s, "upper");
+    if (folder.read(u"a.tmj"_s) == "upper") {
+        GTEST_SKIP() << "both names are one file here";
+    }
     EXPECT_EQ(existingPath(folder.file(u"A.TMJ"_s)), native(folder.file(u"A.TMJ"_s)));
     EXPECT_EQ(existingPath(folder.file(u"a.tmj"_s)), native(folder.file(u"a.tmj"_s)));
 }

@@ -108,12 +108,19 @@ std::optional<Refusal> putInPlace(const QString &written, const QString &path)
     const std::wstring from = windowsPath(written);
     const std::wstring to = windowsPath(path);
     copyTraits(to, from);
-    if (MoveFileExW(from.c_str(), to.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH)) {
-        return std::nullopt;
+    constexpr int mostAttempts = 10;
+    for (int attempt = 1;; ++attempt) {
+        if (MoveFileExW(from.c_str(), to.c_str(),
+                        MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH)) {
+            return std::nullopt;
+        }
+        const DWORD code = GetLastError();
+        const bool isHeld = code == ERROR_SHARING_VIOLATION || isOpenElsewhere(to);
+        // Whoever had it open may have let it go before that could be seen.
+        if (isHeld || code != ERROR_ACCESS_DENIED || attempt == mostAttempts) {
+            return Refusal{ qt_error_string(int(isHeld ? ERROR_SHARING_VIOLATION : code)), isHeld };
+        }
     }
-    const DWORD code = GetLastError();
-    const bool isHeld = code == ERROR_SHARING_VIOLATION || isOpenElsewhere(to);
-    return Refusal{ qt_error_string(int(isHeld ? ERROR_SHARING_VIOLATION : code)), isHeld };
 }
 
 bool isHeld(const QString &path)

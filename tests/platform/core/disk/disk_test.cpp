@@ -18,12 +18,14 @@
 
 #include <QDir>
 #include <QElapsedTimer>
+#include <QFile>
 
 #include <qt_windows.h>
 
 #include <aclapi.h>
 #include <sddl.h>
 
+#include <atomic>
 #include <thread>
 
 using namespace zeph;
@@ -185,6 +187,30 @@ TEST(HeldFile, IsReplacedOnceItIsLetGo)
     }
     EXPECT_EQ(folder.read(u"a.tmj"_s), "newer");
     EXPECT_EQ(entries(folder), QStringList{ u"a.tmj"_s });
+}
+
+TEST(HeldFile, IsReplacedBetweenTheLooksOfAReader)
+{
+    const TempFolder folder;
+    const QString path = folder.write(u"a.ini"_s, "old");
+    std::atomic<bool> goesOn = true;
+    std::thread reader([&] {
+        while (goesOn) {
+            QFile file(path);
+            if (file.open(QFile::ReadOnly)) {
+                file.readAll();
+            }
+            file.close();
+            Sleep(1);
+        }
+    });
+    for (int i = 0; i < 100; ++i) {
+        const auto written = writeFileAtomically(path, QByteArray::number(i));
+        EXPECT_TRUE(written) << i << ": " << written.error().reason.toStdString();
+    }
+    goesOn = false;
+    reader.join();
+    EXPECT_EQ(folder.read(u"a.ini"_s), "99");
 }
 
 TEST(HeldFile, WhatItsHolderWroteIsNotLost)
