@@ -195,8 +195,8 @@ TEST(ProgramStart, ACrashedFurtherInstancesStoreIsClearedByTheNextFirstInstance)
 {
     Program program;
     program.settle();
-    const auto first = program.start({ u"window Untitled.tmj[*] - Zeph"_s, u"pause 60000"_s },
-                                     u"first.log"_s);
+    const auto first =
+        program.start({ u"window Untitled.tmj[*] - Zeph"_s, u"pause 60000"_s }, u"first.log"_s);
     while (!program.exists(u"first.log"_s) || program.noted(u"first.log"_s).isEmpty()) {
         ASSERT_FALSE(first->waitForFinished(20));
     }
