@@ -195,8 +195,8 @@ TEST(ProgramStart, ACrashedFurtherInstancesStoreIsClearedByTheNextFirstInstance)
 {
     Program program;
     program.settle();
-    const auto first = program.start(
-        { u"window Untitled.tmj[*] - Zeph"_s, u"pause 2000"_s, u"kill"_s }, u"first.log"_s);
+    const auto first =
+        program.start({ u"window Untitled.tmj[*] - Zeph"_s, u"pause 60000"_s }, u"first.log"_s);
     while (!program.exists(u"first.log"_s) || program.noted(u"first.log"_s).isEmpty()) {
         ASSERT_FALSE(first->waitForFinished(20));
     }
@@ -204,6 +204,7 @@ TEST(ProgramStart, ACrashedFurtherInstancesStoreIsClearedByTheNextFirstInstance)
         { u"window Untitled.tmj[*] - Zeph - secondary window"_s, u"kill"_s }, u"second.log"_s);
     ASSERT_TRUE(second->waitForFinished());
     EXPECT_TRUE(program.exists(u"Zeph.2"_s));
+    first->kill();
     ASSERT_TRUE(first->waitForFinished());
     const QStringList notes = program.run({ u"window Untitled.tmj[*] - Zeph"_s, u"close"_s });
     EXPECT_THAT(lines(notes), Contains("window Untitled.tmj[*] - Zeph"));

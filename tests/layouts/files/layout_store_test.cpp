@@ -117,7 +117,7 @@ TEST_F(LayoutStore, AFailedSaveLeavesTheOldLayoutWhole)
     const QString name = path(SheetKind::Joystick, LayoutForm::WithText, u"Sim"_s);
     const Sheet old = SheetMaker(3).storedWithTexts(SheetKind::Joystick);
     ASSERT_TRUE(saveLayout(old, LayoutForm::WithText, name));
-    const QString last = layouts + u"Sim/Cougar Joystick Text16.rtf"_s;
+    const QString last = folder.file(u"Sim/Cougar Joystick Text16.rtf"_s);
     QFile::setPermissions(last, QFile::ReadOwner);
     const auto saved =
         saveLayout(SheetMaker(4).storedWithTexts(SheetKind::Joystick), LayoutForm::WithText, name);
