@@ -37,7 +37,7 @@ QByteArray drawingOf(const QString &appFolder, const QString &fileName, const QB
 Expected<DrawnPicture, FileError> DrawnPicture::load(const QString &appFolder,
                                                      const QString &fileName)
 {
-    const QString path = QDir(appFolder).filePath(nativeSeparators(fileName));
+    const QString path = nativeSeparators(QDir(appFolder).filePath(nativeSeparators(fileName)));
     const QString existing = existingPath(path);
     auto bytes = readWholeFile(existing.isEmpty() ? path : existing);
     if (!bytes) {

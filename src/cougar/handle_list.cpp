@@ -82,7 +82,7 @@ Expected<void, FileError> SaveHandle(const ProfileFile &store, const QString &na
 
 QString handlePath(const QString &appFolder, const QString &name)
 {
-    return QDir(appFolder).filePath(withEnding(name));
+    return nativeSeparators(QDir(appFolder).filePath(withEnding(name)));
 }
 
 } // namespace zeph

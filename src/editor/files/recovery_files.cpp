@@ -189,12 +189,14 @@ void LeftRecovery::finish()
 {
     m_lock.reset();
     // An interrupted write leaves a partial file beside the target, which would keep the folder
-    // from ever being empty.
-    QDir folder(m_folder);
+    // from ever being empty: with the target's name and an ending, or on Windows a name of its own.
+    QStringList parts{ u"~*"_s };
     for (const QStringView name : fileNames) {
-        for (const QString &part : folder.entryList({ name.toString() + u".*"_s }, QDir::Files)) {
-            folder.remove(part);
-        }
+        parts.append(name.toString() + u".*"_s);
+    }
+    QDir folder(m_folder);
+    for (const QString &part : folder.entryList(parts, QDir::Files)) {
+        folder.remove(part);
     }
     removeFolder(m_folder);
 }

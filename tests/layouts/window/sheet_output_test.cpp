@@ -163,7 +163,9 @@ TEST_F(SheetOutputTest, CaptureGivesThePictureToTheImageViewer)
     press(u"mnuCaptureAsBitmap");
     EXPECT_EQ(opened, 1);
     const QString path = folder.file(u"Layouts/capture.bmp"_s);
-    EXPECT_EQ(QDir::cleanPath(settings.of<SharedSettings>().ImageFilePath), path);
+    EXPECT_EQ(
+        QDir::toNativeSeparators(QDir::cleanPath(settings.of<SharedSettings>().ImageFilePath)),
+        path);
     const QImage picture(path);
     EXPECT_EQ(picture.size(), QSize(1043, 714));
     EXPECT_EQ(picture.pixelColor(0, 0), QColor(Qt::white));
