@@ -162,8 +162,10 @@ TEST_F(ProgramDownload, WhileItWaitsTheTextIsReadOnlyAndAllElseGoesOn)
                 u"trigger mnuViewLineNumbers"_s,
             }
             + accept
-            + QStringList{ u"type JoystickText Rem free\\n"_s, u"text JoystickText Rem free"_s,
-                           u"close"_s, u"box  Save Sample flight.tmm now?"_s, u"press No"_s,
+            // The text is free once the verdict's own loop has ended.
+            + QStringList{ u"pause 500"_s, u"type JoystickText Rem free\\n"_s,
+                           u"text JoystickText Rem free"_s, u"close"_s,
+                           u"box  Save Sample flight.tmm now?"_s, u"press No"_s,
                            u"box  Save Sample flight.tmj now?"_s, u"press No"_s });
     EXPECT_THAT(lines(notes), Not(Contains(HasSubstr("Rem refused"))));
     QString during;
